@@ -1,0 +1,34 @@
+# What every target of the project has in common: warnings, sanitizers, and the rule that a folder is one library with an
+# include root of its own, so that #include <model/netdata.h> resolves only where nivra_model is linked.
+
+add_library(nivra_options INTERFACE)
+target_compile_definitions(nivra_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+                                                   QT_DEPRECATED_WARNINGS)
+target_compile_options(nivra_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+                                               -fno-omit-frame-pointer)
+if(NIVRA_WERROR)
+  target_compile_options(nivra_options INTERFACE -Werror)
+endif()
+if(NIVRA_SANITIZE)
+  target_compile_options(nivra_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined)
+  target_link_options(nivra_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# nivra_library(<folder> SOURCES <files> LINK <targets the public headers need> PRIVATE <targets only the sources need>)
+function(nivra_library folder)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE" ${ARGN})
+  add_library(nivra_${folder} STATIC ${ARG_SOURCES})
+  target_include_directories(nivra_${folder} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}/include")
+  target_link_libraries(nivra_${folder} PUBLIC ${ARG_LINK} PRIVATE nivra_options ${ARG_PRIVATE})
+endfunction()
+
+# nivra_test(<folder> SOURCES <files> LINK <targets>): one executable a folder, every tst_*.cpp of which registers its classes.
+function(nivra_test folder)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(tst_${folder} ${ARG_SOURCES})
+  target_link_libraries(tst_${folder} PRIVATE nivra_testsupport ${ARG_LINK} nivra_options)
+  target_compile_definitions(tst_${folder} PRIVATE NIVRA_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data/${folder}"
+                                                   NIVRA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  add_test(NAME ${folder} COMMAND tst_${folder})
+  set_tests_properties(${folder} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 300)
+endfunction()
