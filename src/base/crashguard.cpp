@@ -1,0 +1,123 @@
+#include <base/callstack.h>
+#include <base/crashguard.h>
+#include <base/logfiles.h>
+#include <base/nivramsg.h>
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFile>
+#include <QMessageBox>
+#include <QUrl>
+
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <exception>
+#include <fcntl.h>
+#include <typeinfo>
+#include <unistd.h>
+
+// A static library's resources register only when something asks for them; outside a namespace, as the macro wants.
+static void initResources() {
+  Q_INIT_RESOURCE(base);
+}
+
+namespace {
+
+constexpr std::size_t PathCapacity = 4096;
+char markerPath[PathCapacity];
+constexpr std::size_t StackSize = 256 * 1024; // the call stack writer reads debugging information on it
+alignas(16) char handlerStack[StackSize];
+
+void put(const char *text) {
+  const ssize_t written = ::write(STDERR_FILENO, text, std::strlen(text));
+  static_cast<void>(written); // there is nobody left to tell
+}
+
+void putNumber(int number) {
+  char digits[16];
+  char *position = digits + sizeof digits - 1;
+  *position = '\0';
+  do {
+    *--position = static_cast<char>('0' + number % 10);
+    number /= 10;
+  } while (number > 0);
+  put(position);
+}
+
+void createMarker() {
+  const int file = ::open(markerPath, O_WRONLY | O_CREAT | O_TRUNC, 0644);
+  if (file >= 0)
+    ::close(file);
+}
+
+extern "C" void signalHandler(int number) {
+  createMarker();
+  put("signalHandler detected signal ");
+  putNumber(number);
+  put("\n");
+  CallStack::write(STDERR_FILENO);
+  _exit(number);
+}
+
+[[noreturn]] void terminateHandler() {
+  createMarker();
+  put("terminate called\n");
+  if (const std::exception_ptr exception = std::current_exception()) {
+    try {
+      std::rethrow_exception(exception);
+    } catch (const std::exception &error) {
+      put(typeid(error).name());
+      put(": ");
+      put(error.what());
+      put("\n");
+    } catch (...) {
+      put("an exception of unknown type\n");
+    }
+  }
+  CallStack::write(STDERR_FILENO);
+  std::abort();
+}
+
+void showNotice() {
+  const QString text = QCoreApplication::translate("CrashGuard", "It seems that the application crashed last time. Please "
+                                                                 "report the logfile to the developers:\n") +
+                       LogFiles::crashLog();
+  if (!NivraMsg::isInteractive()) {
+    NivraMsg::log(text);
+    return;
+  }
+  QMessageBox::information(nullptr, QCoreApplication::translate("CrashGuard", "Crash detected"), text, QMessageBox::Ok);
+  QDesktopServices::openUrl(QUrl::fromLocalFile(LogFiles::crashLog()));
+}
+
+} // namespace
+
+void CrashGuard::setUp() {
+  initResources();
+  qputenv("NIVRAHOME", QCoreApplication::applicationDirPath().toUtf8());
+  if (LogFiles::takeCrash())
+    showNotice();
+  if (!LogFiles::redirectStreams())
+    NivraMsg::logWarning(
+        QCoreApplication::translate("CrashGuard", "The log file %1 cannot be written; messages go to standard error.")
+            .arg(LogFiles::currentLog()));
+  installHandlers();
+}
+
+void CrashGuard::installHandlers() {
+  const QByteArray path = QFile::encodeName(LogFiles::crashMarker());
+  qstrncpy(markerPath, path.constData(), PathCapacity);
+  CallStack::prepare();
+  stack_t stack{};
+  stack.ss_sp = handlerStack;
+  stack.ss_size = StackSize;
+  sigaltstack(&stack, nullptr);
+  struct sigaction action {};
+  action.sa_handler = signalHandler;
+  action.sa_flags = SA_ONSTACK | SA_RESETHAND; // a fault inside the handler ends the process
+  sigemptyset(&action.sa_mask);
+  sigaction(SIGSEGV, &action, nullptr);
+  sigaction(SIGFPE, &action, nullptr);
+  std::set_terminate(terminateHandler);
+}

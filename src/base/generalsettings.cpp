@@ -1,0 +1,166 @@
+#include "generalsettingstable.h"
+
+#include <base/generalsettings.h>
+#include <base/nivramsg.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace {
+
+enum Field { Key, Category, Type, Value, Options, Description, FieldCount };
+
+constexpr qint64 LongestLine = 1 << 20; // what is longer is no settings line; the rest of the file is still read
+
+QString withSemicolons(QString field) {
+  return field.replace(QStringLiteral("$SEMI$"), QStringLiteral(";"));
+}
+
+bool isNumber(const QString &text) {
+  bool ok = false;
+  text.toDouble(&ok);
+  return ok;
+}
+
+/// Whether a value from a file can stand in for the built-in one: a switch stays a switch, a choice one of its options, and
+/// a setting whose default is a number stays a number.
+bool fits(const QString &value, const GeneralSettings::Entry &builtIn, const QString &key) {
+  if (builtIn.type == QLatin1String("bool"))
+    return value == QLatin1String("0") || value == QLatin1String("1");
+  if (builtIn.type == QLatin1String("list"))
+    return builtIn.options.split(QLatin1Char(',')).contains(value);
+  if (key == QLatin1String("smooth zoom steps"))
+    return value.toInt() > 0;
+  return !isNumber(builtIn.value) || isNumber(value);
+}
+
+} // namespace
+
+GeneralSettings &GeneralSettings::instance() {
+  static GeneralSettings settings;
+  return settings;
+}
+
+GeneralSettings::GeneralSettings() {
+  reset();
+}
+
+void GeneralSettings::reset() {
+  m_entries.clear();
+  const auto [first, last] = GeneralSettingsTable::rows();
+  for (const auto *row = first; row != last; ++row)
+    m_entries[QString::fromLatin1(row->key)] = {QString::fromLatin1(row->value), QString::fromLatin1(row->type),
+                                                QString::fromLatin1(row->category), QString::fromLatin1(row->options),
+                                                QString()};
+}
+
+QString GeneralSettings::value(const QString &key) const {
+  const auto found = m_entries.find(key);
+  return found == m_entries.end() ? QString() : found->second.value;
+}
+
+bool GeneralSettings::isOn(const QString &key) const {
+  const QString text = value(key).toLower();
+  return text == QLatin1String("1") || text == QLatin1String("on") || text == QLatin1String("true");
+}
+
+bool GeneralSettings::setValue(const QString &key, const QString &value) {
+  const auto found = m_entries.find(key);
+  if (found == m_entries.end())
+    return false;
+  found->second.value = value;
+  return true;
+}
+
+QString GeneralSettings::userDirectory() {
+  return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+}
+
+QString GeneralSettings::userName() {
+  const QString name = qEnvironmentVariable("USERNAME");
+  return name.isEmpty() ? qEnvironmentVariable("USER") : name;
+}
+
+QString GeneralSettings::settingsFile(const QString &workspaceDir) {
+  if (workspaceDir.isEmpty())
+    return userDirectory() + QStringLiteral("/generalsettings.csv");
+  return workspaceDir + QStringLiteral("/generalsettings_") + userName() + QStringLiteral(".csv");
+}
+
+int GeneralSettings::load(const QString &workspaceDir) {
+  return loadFile(settingsFile(workspaceDir));
+}
+
+int GeneralSettings::loadFile(const QString &path) {
+  reset();
+  NivraMsg::log(QStringLiteral("Trying to (re)load general settings file ") + path + QStringLiteral(" ..."));
+  if (!QFileInfo::exists(path)) {
+    NivraMsg::log(QStringLiteral("General settings file ") + path + QStringLiteral(" not found!"));
+    return 0;
+  }
+  QFile file(path);
+  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    NivraMsg::logWarning(QStringLiteral("Cannot open General settings file ") + path);
+    return 0;
+  }
+  int taken = 0;
+  bool continued = false; // the line before was cut at LongestLine
+  for (int number = 1; !file.atEnd();) {
+    const QByteArray bytes = file.readLine(LongestLine);
+    const bool cut = bytes.size() >= LongestLine - 1 && !bytes.endsWith('\n');
+    QString line = continued || cut ? QString() : QString::fromUtf8(bytes).trimmed();
+    if (number == 1 && line.startsWith(QChar(QChar::ByteOrderMark)))
+      line.remove(0, 1);
+    if (cut && !continued)
+      NivraMsg::logWarning(QStringLiteral("Line is too long! (%1:%2)").arg(path).arg(number));
+    if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')) && takeLine(line, number, path))
+      ++taken;
+    continued = cut;
+    if (!cut)
+      ++number;
+  }
+  NivraMsg::log(QStringLiteral("Loaded %1 settings from general settings file.").arg(taken));
+  return taken;
+}
+
+bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QString &path) {
+  const QString place = QStringLiteral(" (%1:%2)").arg(path).arg(lineNumber);
+  QStringList fields = line.split(QLatin1Char(';'));
+  if (fields.size() < FieldCount) {
+    NivraMsg::logWarning(QStringLiteral("Line contains less than 6 entries!") + place);
+    return false;
+  }
+  for (QString &field : fields)
+    field = field.trimmed();
+  Entry entry{withSemicolons(fields[Value]), fields[Type], fields[Category], withSemicolons(fields[Options]),
+              withSemicolons(fields[Description])};
+  const QString &key = fields[Key];
+  if (entry.category == QLatin1String("user keys")) {
+    m_entries[key] = entry;
+    return true;
+  }
+  const auto known = m_entries.find(key);
+  if (known == m_entries.end()) {
+    NivraMsg::debug(QStringLiteral("nivraGeneralProps: WARNING skipping unknown property ") + key);
+    return false;
+  }
+  const Entry &builtIn = known->second;
+  if (entry.category != builtIn.category) {
+    NivraMsg::debug(QStringLiteral("nivraGeneralProps: using new default category ") + builtIn.category +
+                    QStringLiteral(" for ") + key);
+    entry.category = builtIn.category;
+  }
+  // Type and options say what the program understands, so a file cannot change them.
+  entry.type = builtIn.type;
+  entry.options = builtIn.options;
+  if (!fits(entry.value, builtIn, key)) {
+    NivraMsg::logWarning(
+        QStringLiteral("Value \"%1\" does not suit the setting \"%2\"; \"%3\" stays.").arg(entry.value, key, builtIn.value) +
+        place);
+    return false;
+  }
+  known->second = entry;
+  return true;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+/// Something that reading or checking noticed: the step returns it, the caller decides who is told.
+struct Finding {
+  enum class Severity { Information, Warning, Critical };
+
+  Severity severity = Severity::Warning;
+  QString file; ///< path, empty when the finding belongs to no file
+  int line = 0; ///< 1-based, 0 when it belongs to no line
+  QString text; ///< the message as logged
+  QString box;  ///< what a message box says; empty when a log line is enough
+
+  /// "text (file:line)" as far as they are known.
+  QString logText() const;
+};
+
+using Findings = std::vector<Finding>;
+
+/// Logs every finding at its level; texts for a box are shown: the first as it stands, further ones counted behind it.
+void report(const Findings &findings);
+
+/// Told how far a step has come (0 to 1); false asks the step to stop.
+using Progress = std::function<bool(double fraction)>;

@@ -1,0 +1,148 @@
+#include <base/finding.h>
+#include <base/nivramsg.h>
+#include <support/nivratest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QThread>
+#include <QTimer>
+
+#include <thread>
+
+namespace {
+
+/// Presses a button of the box that is about to open, and remembers what the box said.
+class Clicker : public QObject {
+public:
+  explicit Clicker(QMessageBox::StandardButton button) {
+    connect(&m_timer, &QTimer::timeout, this, [this, button] {
+      auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+      if (box == nullptr)
+        return;
+      title = box->windowTitle();
+      text = box->text();
+      thread = QThread::currentThread();
+      box->button(button)->click();
+    });
+    m_timer.start(5);
+  }
+
+  QString title;
+  QString text;
+  QThread *thread = nullptr;
+
+private:
+  QTimer m_timer;
+};
+
+class Interactive {
+public:
+  Interactive() { qunsetenv("NIVRA_BATCH"); }
+  ~Interactive() { qputenv("NIVRA_BATCH", "1"); }
+  Interactive(const Interactive &) = delete;
+  Interactive &operator=(const Interactive &) = delete;
+};
+
+} // namespace
+
+class TestNivraMsg : public QObject {
+  Q_OBJECT
+
+private slots:
+  void switches();
+  void batchModeLogs();
+  void boxesAnswer();
+  void boxesFromOtherThreadsOpenOnTheGuiThread();
+  void consoleHearsEveryMessage();
+  void recorderIsThreadSafeAndBounded();
+  void manyFindingsGiveOneBox();
+};
+
+void TestNivraMsg::switches() {
+  QVERIFY(!NivraMsg::isInteractive());
+  const Interactive interactive;
+  QVERIFY(NivraMsg::isInteractive());
+  qputenv("NIVRA_CUSTOM", "1");
+  QVERIFY(!NivraMsg::isInteractive());
+  qputenv("NIVRA_CUSTOM", "true"); // the comparison is exact
+  QVERIFY(NivraMsg::isInteractive());
+  qunsetenv("NIVRA_CUSTOM");
+  NivraMsg::setInteractive(false);
+  QVERIFY(!NivraMsg::isInteractive());
+  NivraMsg::setInteractive(true);
+}
+
+void TestNivraMsg::batchModeLogs() {
+  NivraMsg::Recorder recorder;
+  for (const auto kind :
+       {NivraMsg::Kind::Information, NivraMsg::Kind::Warning, NivraMsg::Kind::Critical, NivraMsg::Kind::Question})
+    QCOMPARE(NivraMsg::message(kind, QStringLiteral("text")), 0);
+  QCOMPARE(recorder.lines().size(), 1); // of these only the critical one goes to the log as such
+}
+
+void TestNivraMsg::boxesAnswer() {
+  const Interactive interactive;
+  Clicker clicker(QMessageBox::No);
+  QCOMPARE(NivraMsg::message(NivraMsg::Kind::Question, QStringLiteral("Really?")), int(QMessageBox::No));
+  QCOMPARE(clicker.title, QStringLiteral("Question"));
+  QCOMPARE(clicker.text, QStringLiteral("Really?"));
+}
+
+void TestNivraMsg::boxesFromOtherThreadsOpenOnTheGuiThread() {
+  const Interactive interactive;
+  Clicker clicker(QMessageBox::Ok);
+  int answer = 0;
+  std::thread worker([&] { answer = NivraMsg::message(NivraMsg::Kind::Warning, QStringLiteral("from a worker")); });
+  QTRY_COMPARE(clicker.text, QStringLiteral("from a worker"));
+  worker.join();
+  QCOMPARE(clicker.thread, qApp->thread());
+  QCOMPARE(answer, int(QMessageBox::Ok));
+}
+
+void TestNivraMsg::consoleHearsEveryMessage() {
+  QStringList heard;
+  const auto connection = connect(&NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
+                                  [&](const QString &text) { heard.append(text); });
+  NivraMsg::log(QStringLiteral("a \"quoted\" text"));
+  NivraMsg::debug(QStringLiteral("for the file alone"));
+  NivraMsg::logTimeStamp(QStringLiteral("timed"));
+  disconnect(connection);
+  QCOMPARE(heard.size(), 2);
+  QCOMPARE(heard[0], QStringLiteral("a \"quoted\" text"));
+  QVERIFY(QRegularExpression(QStringLiteral("^<i>\\d{4}-\\d\\d-\\d\\d, \\d\\d:\\d\\d:\\d\\d: </i>timed$"))
+              .match(heard[1])
+              .hasMatch());
+}
+
+void TestNivraMsg::recorderIsThreadSafeAndBounded() {
+  NivraMsg::Recorder recorder;
+  const auto work = [] {
+    for (int i = 0; i < NivraMsg::Recorder::MaximumLines; ++i)
+      NivraMsg::logWarning(QString::number(i));
+  };
+  std::thread worker(work);
+  work();
+  worker.join();
+  QCOMPARE(recorder.lines().size(), NivraMsg::Recorder::MaximumLines);
+  QCOMPARE(recorder.dropped(), NivraMsg::Recorder::MaximumLines);
+}
+
+void TestNivraMsg::manyFindingsGiveOneBox() {
+  const Interactive interactive;
+  Clicker clicker(QMessageBox::Ok);
+  Findings findings(3);
+  for (Finding &finding : findings) {
+    finding.text = QStringLiteral("bad line");
+    finding.file = QStringLiteral("/a/b.jsn");
+    finding.line = 7;
+    finding.box = QStringLiteral("There is a bad line");
+  }
+  NivraMsg::Recorder recorder;
+  report(findings);
+  QCOMPARE(clicker.text, QStringLiteral("There is a bad line\n\n... and 2 more, see the messages."));
+  QCOMPARE(recorder.lines().value(2), QStringLiteral("bad line (/a/b.jsn:7)"));
+}
+
+NIVRA_TEST(TestNivraMsg);
+#include "tst_nivramsg.moc"
