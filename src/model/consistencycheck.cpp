@@ -1,0 +1,292 @@
+#include <base/nivramsg.h>
+#include <model/consistencycheck.h>
+
+#include <QRegularExpression>
+
+#include <cctype>
+#include <map>
+#include <vector>
+
+namespace {
+
+struct Keys {
+  PropertyKey name = PropertyKey::intern("name");
+  PropertyKey type = PropertyKey::intern("type");
+  PropertyKey node1 = PropertyKey::intern("node1");
+  PropertyKey node2 = PropertyKey::intern("node2");
+  PropertyKey x = PropertyKey::intern("X");
+  PropertyKey y = PropertyKey::intern("Y");
+  PropertyKey gasnode = PropertyKey::intern("gasnode");
+  PropertyKey driven = PropertyKey::intern("driven");
+};
+
+const Keys &keys() {
+  static const Keys instance;
+  return instance;
+}
+
+std::string_view textOf(const element &e, PropertyKey key) {
+  const PropertyText *text = e.find(key);
+  return text == nullptr ? std::string_view() : text->utf8();
+}
+
+bool isTypeCode(const element &e, char code) {
+  const std::string_view type = textOf(e, keys().type);
+  return type.size() == 1 && std::tolower(static_cast<unsigned char>(type.front())) == code;
+}
+
+bool isDrive(const element &e) {
+  return isTypeCode(e, 'd');
+}
+
+/// The names of the properties whose value names another element: "drive", "driven", "entry", "exit".
+bool isReference(const QString &propertyName) {
+  static const QRegularExpression pattern(QStringLiteral("^drive$|^driven$|^entry$|^exit$"));
+  return pattern.match(propertyName).hasMatch();
+}
+
+/// What the findings pass must know of a property name, asked once per name rather than once per element.
+class PropertyNames {
+public:
+  enum Sort { Ordinary, Empty, Reference };
+
+  Sort sort(PropertyKey key) {
+    const auto found = m_sorts.find(key.utf8().data());
+    if (found != m_sorts.end())
+      return found->second;
+    const QString name = key.name();
+    const Sort sort = name.trimmed().isEmpty() ? Empty : isReference(name) ? Reference : Ordinary;
+    m_sorts.emplace(key.utf8().data(), sort);
+    return sort;
+  }
+
+private:
+  std::map<const char *, Sort> m_sorts; // interned spellings have one address
+};
+
+class FindingsPass {
+public:
+  explicit FindingsPass(NetData &net)
+      : m_net(net) {}
+
+  QString run() {
+    for (const elements *collection : {&m_net.nodes(), &m_net.edges()}) {
+      for (const elements::Entry &entry : *collection)
+        check(entry);
+    }
+    return m_text;
+  }
+
+private:
+  void check(const elements::Entry &entry) {
+    const std::string_view id = entry.id.utf8();
+    const std::string_view name = textOf(entry.value, keys().name);
+    const std::string_view type = textOf(entry.value, keys().type);
+    if (id.empty() || name.empty())
+      m_text += QStringLiteral("ID or name-property empty: %1, %2\n").arg(entry.name(), entry.value.value(keys().name));
+    if (name != id)
+      m_text += QStringLiteral("ID and value of name-property not identical: ") + entry.name() + QStringLiteral(", ") +
+                entry.value.value(keys().name) + QLatin1Char('\n');
+    if (type.empty() || type.find(' ') != std::string_view::npos)
+      m_text += QStringLiteral("value of type-property not OK: ") + entry.name() + QStringLiteral(", ") +
+                entry.value.value(keys().type) + QLatin1Char('\n');
+    std::vector<PropertyKey> nameless;
+    for (const Property &property : entry.value)
+      check(entry, property, nameless);
+    for (const PropertyKey key : nameless)
+      entry.value.erase(key);
+  }
+
+  void check(const elements::Entry &entry, const Property &property, std::vector<PropertyKey> &nameless) {
+    switch (m_names.sort(property.key)) {
+    case PropertyNames::Ordinary:
+      return;
+    case PropertyNames::Empty:
+      m_text += QStringLiteral("A property name is empty for element ") + entry.name() +
+                QStringLiteral("! Property will be erased!\n");
+      nameless.push_back(property.key);
+      return;
+    case PropertyNames::Reference:
+      if (!property.value.isEmpty() && m_net.nodes().find(property.value) == nullptr &&
+          m_net.edges().find(property.value) == nullptr)
+        m_text += QStringLiteral("Cannot find element: ") + property.key.name() + QLatin1Char('@') + entry.name() +
+                  QLatin1Char('=') + property.value.toString() + QStringLiteral("!\n");
+      return;
+    }
+  }
+
+  NetData &m_net;
+  PropertyNames m_names;
+  QString m_text;
+};
+
+class PruningPass {
+public:
+  explicit PruningPass(NetData &net)
+      : m_net(net) {}
+
+  ConsistencyCheck::PruneResult run() {
+    ConsistencyCheck::PruneResult result;
+    result.edges = erase(m_net.edges(), "edge", [this](element &e) { return edgePasses(e); });
+    result.nodes = erase(m_net.nodes(), "node", [this](element &e) { return nodePasses(e); });
+    result.nodes += erase(m_net.nodes(), "drive", [this](element &e) { return !isDrive(e) || drivePasses(e); });
+    if (result.nodes > 0 || result.edges > 0)
+      NivraMsg::logCritical(
+          QStringLiteral("CRITICAL - %1 nodes and %2 edges had to be removed!").arg(result.nodes).arg(result.edges));
+    return result;
+  }
+
+private:
+  template <typename Test>
+  static int erase(elements &collection, const char *word, const Test &passes) {
+    return static_cast<int>(collection.eraseIf([&](const elements::Entry &entry) {
+      if (passes(entry.value))
+        return false;
+      NivraMsg::log(QStringLiteral("... %1 was: ").arg(QLatin1String(word)) + entry.name());
+      entry.value.clear();
+      return true;
+    }));
+  }
+
+  static bool hasName(const element &e, const char *word) {
+    if (!textOf(e, keys().name).empty())
+      return true;
+    QString properties;
+    for (const Property &property : e)
+      properties += property.key.name() + QLatin1Char('=') + property.value.toString() + QLatin1Char(';');
+    const QString kind = QLatin1String(word);
+    NivraMsg::logWarning(QStringLiteral("Error for %1: ").arg(kind) + properties);
+    const QString what = kind.at(0).toUpper() + kind.mid(1);
+    NivraMsg::logWarning(
+        QStringLiteral("ERROR for current %1: Could not find property name! %2 will be erased!").arg(kind, what));
+    return false;
+  }
+
+  static bool nodePasses(element &node) {
+    if (!hasName(node, "node"))
+      return false;
+    if (isDrive(node))
+      return true; // the drive test gives it its coordinates
+    setDefault(node, keys().x, 'x');
+    setDefault(node, keys().y, 'y');
+    return true;
+  }
+
+  static void setDefault(element &node, PropertyKey key, char axis) {
+    if (node.find(key) != nullptr)
+      return;
+    node.set(key, PropertyText(std::string_view("0")));
+    NivraMsg::logWarning(QStringLiteral("Node %1 did not possess %2-value. Set to 0.")
+                             .arg(node.value(keys().name), QString(QLatin1Char(axis))));
+  }
+
+  bool edgePasses(const element &edge) {
+    if (!hasName(edge, "edge"))
+      return false;
+    return edgeHas(edge, keys().node1) && edgeHas(edge, keys().node2) && endExists(edge, keys().node1) &&
+           endExists(edge, keys().node2) && endPasses(edge, keys().node1) && endPasses(edge, keys().node2);
+  }
+
+  static bool edgeFails(const element &edge, const QString &reason) {
+    NivraMsg::logWarning(QStringLiteral("ERROR for edge ") + edge.value(keys().name) + QStringLiteral(": ") + reason +
+                         QStringLiteral("! Edge will be erased!"));
+    return false;
+  }
+
+  static bool edgeHas(const element &edge, PropertyKey end) {
+    return edge.find(end) != nullptr || edgeFails(edge, QStringLiteral("Could not find property ") + end.name());
+  }
+
+  bool endExists(const element &edge, PropertyKey end) const {
+    return m_net.nodes().find(*edge.find(end)) != nullptr ||
+           edgeFails(edge, QStringLiteral("Could not find ") + end.name() + QLatin1Char(' ') + edge.value(end));
+  }
+
+  bool endPasses(const element &edge, PropertyKey end) const {
+    if (nodePasses(*m_net.nodes().find(*edge.find(end))))
+      return true;
+    const QString word = end.name();
+    return edgeFails(edge,
+                     word.at(0).toUpper() + word.mid(1) + QLatin1Char(' ') + edge.value(end) + QStringLiteral(" not ok"));
+  }
+
+  bool drivePasses(element &drive) {
+    if (!textOf(drive, keys().x).empty() && !textOf(drive, keys().y).empty())
+      return true;
+    const PropertyText *gasNodeName = drive.find(keys().gasnode);
+    const PropertyText *drivenName = drive.find(keys().driven);
+    if (gasNodeName == nullptr || drivenName == nullptr)
+      return driveFails(drive, QStringLiteral("Could not find properties GASNODE and/or DRIVEN. Drive is excluded!"));
+    const element *gasNode = m_net.nodes().find(*gasNodeName);
+    const element *driven = m_net.edges().find(*drivenName);
+    if (driven == nullptr && gasNode == nullptr)
+      return driveFails(drive, QStringLiteral("Neither GASNODE ") + gasNodeName->toString() +
+                                   QStringLiteral(" nor DRIVEN ") + drivenName->toString() +
+                                   QStringLiteral(" could be found. Drive is excluded!"));
+    if (driven == nullptr) {
+      driveFails(drive, QStringLiteral("Could not find DRIVEN ") + drivenName->toString() + QStringLiteral(". Check!"));
+      place(drive, coordinate(*gasNode, keys().x), coordinate(*gasNode, keys().y) + 50.0);
+      return true;
+    }
+    if (!isTypeCode(*driven, 'c'))
+      return driveFails(drive, QStringLiteral("DRIVEN ") + drivenName->toString() +
+                                   QStringLiteral(" is not of type compressor. Drive is excluded!"));
+    if (gasNode == nullptr)
+      driveFails(drive, QStringLiteral("Could not find GASNODE ") + gasNodeName->toString() + QStringLiteral(". Check!"));
+    placeBeside(drive, *driven);
+    return true;
+  }
+
+  static bool driveFails(const element &drive, const QString &reason) {
+    NivraMsg::logWarning(QStringLiteral("Drive ") + drive.value(keys().name) + QStringLiteral(": ") + reason);
+    return false;
+  }
+
+  /// On the compressor's line, 70 % of the way to its outlet.
+  void placeBeside(element &drive, const element &compressor) const {
+    const element &inlet = *m_net.nodes().find(*compressor.find(keys().node1));
+    const element &outlet = *m_net.nodes().find(*compressor.find(keys().node2));
+    const auto between = [&](PropertyKey key) {
+      return 0.3 * coordinate(inlet, key) + 0.7 * coordinate(outlet, key);
+    };
+    place(drive, between(keys().x), between(keys().y));
+  }
+
+  double coordinate(const element &node, PropertyKey key) const {
+    const double number = m_net.value(node, key);
+    return number == NetData::NoValue ? 0.0 : number;
+  }
+
+  static void place(element &drive, double x, double y) {
+    constexpr int Digits = 8;
+    const QString xText = QString::number(x, 'g', Digits);
+    const QString yText = QString::number(y, 'g', Digits);
+    drive.set(keys().x, xText);
+    drive.set(keys().y, yText);
+    NivraMsg::log(QStringLiteral("Drive ") + drive.value(keys().name) +
+                  QStringLiteral(" did not possess x- or y-value. Set to (%1,%2).").arg(xText, yText));
+  }
+
+  NetData &m_net;
+};
+
+} // namespace
+
+QString ConsistencyCheck::findings(NetData &net) {
+  return FindingsPass(net).run();
+}
+
+QString ConsistencyCheck::checkNetData(NetData &net) {
+  const QString text = findings(net);
+  if (!text.isEmpty()) {
+    NivraMsg::message(NivraMsg::Kind::Warning, QStringLiteral("Check with findings! See log! Beginning:\n") +
+                                                   text.section(QStringLiteral("..."), 0, 200));
+    NivraMsg::log(QString(text).replace(QLatin1Char('\n'), QStringLiteral("<br/>")));
+  }
+  NivraMsg::debug(QStringLiteral("after checkNetData"));
+  return text;
+}
+
+ConsistencyCheck::PruneResult ConsistencyCheck::prune(NetData &net) {
+  return PruningPass(net).run();
+}

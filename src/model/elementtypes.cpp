@@ -1,0 +1,55 @@
+#include <model/elementtypes.h>
+
+#include <algorithm>
+
+namespace {
+
+ElementType row(const char *code, const char *word, const char *longName, NetData::EleType kind) {
+  const QString name = QString::fromLatin1(longName);
+  return {QString::fromLatin1(code), QString::fromLatin1(word), name, ElementTypes::pluralised(name), kind};
+}
+
+} // namespace
+
+const std::vector<ElementType> &ElementTypes::all() {
+  static const std::vector<ElementType> rows{
+      row("n", "node", "node", NetData::Node),
+      row("d", "drive", "drive", NetData::Node),
+      row("p", "pipe", "pipe", NetData::Edge),
+      row("c", "compressor", "compressor", NetData::Edge),
+      row("r", "regulator", "regulator", NetData::Edge),
+      row("v", "valve", "valve", NetData::Edge),
+      row("f", "flaptrap", "flap trap", NetData::Edge),
+      row("s", "shortcut", "shortcut", NetData::Edge),
+      row("g", "resistor", "resistor", NetData::Edge),
+      row("k", "cooler", "cooler", NetData::Edge),
+      row("w", "heater", "heater", NetData::Edge),
+      row("sub", "subnet", "subnet", NetData::AssembledSubnet),
+      row("SUB", "", "subnet", NetData::AssembledSubnet), // as subnet templates spell it
+      row("t", "tbox", "tBox", NetData::TextBox),
+  };
+  return rows;
+}
+
+const ElementType *ElementTypes::byWord(const QString &word) {
+  const auto &rows = all();
+  const auto found = std::find_if(rows.begin(), rows.end(), [&](const ElementType &type) { return type.word == word; });
+  return found == rows.end() || word.isEmpty() ? nullptr : &*found;
+}
+
+const ElementType *ElementTypes::byCode(const QString &code) {
+  const auto &rows = all();
+  const auto found = std::find_if(rows.begin(), rows.end(), [&](const ElementType &type) { return type.code == code; });
+  return found == rows.end() ? nullptr : &*found;
+}
+
+QString ElementTypes::pluralised(const QString &typeName) {
+  QString name = typeName;
+  if (name.endsWith(QLatin1Char('y'))) {
+    name.chop(1);
+    name += QStringLiteral("ie");
+  }
+  if (name.endsWith(QLatin1Char('x')))
+    name += QLatin1Char('e');
+  return name + QLatin1Char('s');
+}

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <model/element.h>
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <string_view>
+
+/// A named collection of elements of one kind, keyed by name regardless of case: looked up by hash, walked in the
+/// case-insensitive order of the names. Elements keep their address until they are erased. A copy is deep.
+class elements {
+public:
+  struct Entry {
+    PropertyText id;       ///< the name under which the element was inserted
+    mutable element value; ///< mutable: the key is id, not the contents
+    QString name() const { return id.toString(); }
+  };
+  class const_iterator;
+
+  explicit elements(QString name);
+  elements(const elements &other);
+  elements(elements &&other) noexcept;
+  elements &operator=(const elements &other);
+  elements &operator=(elements &&other) noexcept;
+  ~elements();
+
+  const QString &name() const { return m_name; }
+  std::size_t size() const noexcept;
+  bool isEmpty() const noexcept { return size() == 0; }
+
+  /// Unchecked lookup: null when there is no such name.
+  element *find(std::string_view utf8) const;
+  element *find(const QString &id) const;
+  element *find(const PropertyText &id) const { return find(id.utf8()); }
+  /// The entry rather than its element, for the spelling of the name.
+  const Entry *findEntry(std::string_view utf8) const;
+
+  /// Checked lookup; throws elements_out_of_range.
+  element &at(const QString &id) const;
+  /// Throws elements_insert_exception when the name exists.
+  element &insert(const PropertyText &id, element value);
+  element &insert(const QString &id, element value) { return insert(PropertyText(id), std::move(value)); }
+
+  bool erase(const QString &id);
+  /// Linear: erases every entry for which the predicate holds, asked in name order; returns how many.
+  std::size_t eraseIf(const std::function<bool(const Entry &)> &predicate);
+  void clear();
+
+  /// Name order.
+  const_iterator begin() const;
+  const_iterator end() const;
+
+private:
+  struct Storage;
+  void sort() const;
+
+  QString m_name;
+  std::unique_ptr<Storage> m_storage;
+};
+
+class elements::const_iterator {
+public:
+  using iterator_category = std::forward_iterator_tag;
+  using value_type = Entry;
+  using difference_type = std::ptrdiff_t;
+  using pointer = const Entry *;
+  using reference = const Entry &;
+
+  explicit const_iterator(const Entry *const *position = nullptr)
+      : m_position(position) {}
+  reference operator*() const { return **m_position; }
+  pointer operator->() const { return *m_position; }
+  const_iterator &operator++() {
+    ++m_position;
+    return *this;
+  }
+  friend bool operator==(const_iterator a, const_iterator b) { return a.m_position == b.m_position; }
+  friend bool operator!=(const_iterator a, const_iterator b) { return a.m_position != b.m_position; }
+
+private:
+  const Entry *const *m_position;
+};

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <model/elements.h>
+
+#include <QList>
+#include <QString>
+
+#include <functional>
+#include <map>
+#include <utility>
+
+class NetMetaData;
+
+/// The in-memory model of one gas-transport network. It has no lock: it may be read from several threads at once, but
+/// every change is made by one thread at a time with no readers meanwhile. A copy is deep.
+class NetData {
+public:
+  /// Single bits, so that several kinds are selected with one mask.
+  enum EleType { Unknown = 0, Node = 1, Edge = 2, AssembledSubnet = 4, TextBox = 8 };
+  static constexpr int AllTypes = ~0;
+
+  /// What a numeric access yields when there is no valid value.
+  static constexpr double NoValue = -1e30;
+
+  NetData();
+  NetData(const NetData &other);
+  NetData(NetData &&other) noexcept;
+  NetData &operator=(const NetData &other);
+  NetData &operator=(NetData &&other) noexcept;
+  virtual ~NetData();
+
+  /// Inserts the element into the collection of its kind and returns the kind; an element of the same name is
+  /// overwritten with a warning. Unknown (0) when "name" or "type" is missing or the type is not known.
+  EleType addElement(element added);
+
+  /// The first kind of the mask, ascending, whose collection holds the name; (Unknown, null) when none does.
+  std::pair<EleType, ::element *> findElement(const QString &name, int mask) const;
+  /// Searches nodes, edges, assembled subnets, text boxes in this order; null when there is no such element.
+  ::element *element(const QString &name) const;
+
+  QList<elements *> collections(int mask);
+  void forEach(int mask, const std::function<void(::element &)> &visit);
+
+  elements &nodes() { return m_nodes; }
+  elements &edges() { return m_edges; }
+  elements &textBoxes() { return m_tBoxes; }
+  elements &assembledSubnets() { return m_assembledSubnets; }
+  const elements &nodes() const { return m_nodes; }
+  const elements &edges() const { return m_edges; }
+  const elements &textBoxes() const { return m_tBoxes; }
+  const elements &assembledSubnets() const { return m_assembledSubnets; }
+  const std::map<EleType, elements *> &typeMap() const { return m_typeMap; }
+  const QList<EleType> &types() const { return m_types; }
+  const NetMetaData *metaData() const { return m_metaData; }
+
+  bool isEmpty() const;
+  void clear();
+
+  /// The property as a number strictly between -1e20 and 1e20 (its absolute value on request); NoValue otherwise.
+  double value(const ::element &element, PropertyKey property, bool absolute = false) const;
+  double value(const ::element &element, const QString &property, bool absolute = false) const;
+  /// As value(); an edge without the property yields the mean of its end nodes' values when both have one. Throws
+  /// element_out_of_range without "node1" or "node2", elements_out_of_range when an end node does not exist.
+  double edgeValue(const ::element &edge, PropertyKey property, bool absolute = false) const;
+  double edgeValue(const ::element &edge, const QString &property, bool absolute = false) const;
+  /// Smallest and largest valid value over all nodes for a node function, over all edges otherwise; (1e30, -1e30)
+  /// when there is none.
+  std::pair<double, double> range(const QString &property, bool absolute = false) const;
+
+  /// How a node is drawn and listed: "pset", "demand", "negqset" or its type.
+  QString nodeCategory(const ::element &node) const;
+
+private:
+  void buildTypeMap();
+
+  elements m_nodes;
+  elements m_edges;
+  elements m_tBoxes;
+  elements m_assembledSubnets;
+  const NetMetaData *m_metaData;
+  std::map<EleType, elements *> m_typeMap;
+  QList<EleType> m_types;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+#include <string_view>
+
+/// An interned property name. Names are one key regardless of case; a key remembers the spelling it was made with, so
+/// "X" and "x" are equal keys that print differently. Making a key counts as a change of the network (see NetData on
+/// threads); looking one up does not.
+class PropertyKey {
+public:
+  struct Spelling;
+
+  PropertyKey() = default; ///< the null key, equal to no interned one
+
+  static PropertyKey intern(std::string_view utf8);
+  static PropertyKey intern(const char *utf8) { return intern(std::string_view(utf8)); }
+  static PropertyKey intern(const QString &name);
+  /// The null key when no property of this name was ever made.
+  static PropertyKey find(std::string_view utf8);
+  static PropertyKey find(const char *utf8) { return find(std::string_view(utf8)); }
+  static PropertyKey find(const QString &name);
+
+  bool isNull() const noexcept { return m_spelling == nullptr; }
+  QString name() const;
+  std::string_view utf8() const noexcept;
+
+  friend bool operator==(PropertyKey a, PropertyKey b) noexcept { return a.group() == b.group(); }
+  friend bool operator!=(PropertyKey a, PropertyKey b) noexcept { return !(a == b); }
+  /// Case-insensitive alphabetical order, as QString::compare gives it.
+  friend bool operator<(PropertyKey a, PropertyKey b) noexcept { return a.rank() < b.rank(); }
+
+private:
+  explicit PropertyKey(const Spelling *spelling)
+      : m_spelling(spelling) {}
+  const void *group() const noexcept;
+  unsigned long long rank() const noexcept;
+
+  const Spelling *m_spelling = nullptr;
+};

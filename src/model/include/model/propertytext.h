@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+
+#include <algorithm>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// A property value: immutable-sized UTF-8 text of 16 bytes. Up to 15 bytes lie inside, longer text on the heap; most
+/// values of a network are numbers that fit. An embedded zero byte is kept.
+class PropertyText {
+public:
+  static constexpr std::size_t InlineCapacity = 15;
+
+  PropertyText() noexcept { m_bytes[InlineCapacity] = 0; }
+  explicit PropertyText(std::string_view utf8);
+  PropertyText(const QString &text); // NOLINT(google-explicit-constructor): a text is what it is
+  PropertyText(const PropertyText &other);
+  PropertyText(PropertyText &&other) noexcept;
+  PropertyText &operator=(const PropertyText &other);
+  PropertyText &operator=(PropertyText &&other) noexcept;
+  ~PropertyText() { release(); }
+
+  std::string_view utf8() const noexcept;
+  QString toString() const;
+  bool isEmpty() const noexcept { return utf8().empty(); }
+
+  /// The whole text as a floating-point number in the C locale, blanks around it ignored; nothing when it is none.
+  /// "inf" and "nan" parse, as do values beyond the range (to infinity).
+  std::optional<double> toDouble() const noexcept;
+
+  friend bool operator==(const PropertyText &a, const PropertyText &b) noexcept { return a.utf8() == b.utf8(); }
+  friend bool operator!=(const PropertyText &a, const PropertyText &b) noexcept { return !(a == b); }
+
+private:
+  static constexpr unsigned char HeapTag = 0xff;
+
+  bool onHeap() const noexcept { return static_cast<unsigned char>(m_bytes[InlineCapacity]) == HeapTag; }
+  void assign(std::string_view utf8);
+  void release() noexcept;
+
+  // Inline: text in the first bytes, its length in the last. Heap: a pointer, a 32-bit length, HeapTag in the last byte.
+  alignas(8) char m_bytes[InlineCapacity + 1] = {};
+};
+
+static_assert(sizeof(PropertyText) == 16, "a property value must stay this small: a network has millions of them");
+
+/// toDouble() for a text that is no property value.
+std::optional<double> parseNumber(std::string_view utf8) noexcept;
+/// The number as text, 16 significant digits, shortest general notation ("0.1", "1e+20").
+std::string formatNumber(double value, int significantDigits = 16);

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+/// Conversion of values between units, by UDUNITS-2 and a few names of the gas field that it does not know.
+namespace Units {
+
+/// What a gas-dependent conversion needs; absent values are NaN-free optionals.
+struct Gas {
+  std::optional<double> normDensity;    ///< kg/m3 at norm conditions (273.15 K, 1.01325 bar)
+  std::optional<double> calorificValue; ///< upper, MJ/m3 at norm conditions
+};
+
+/// Reads the unit tables; called at program start so that the first conversion does not wait. Safe to call again.
+void initialise();
+
+bool isKnown(const QString &unit);
+
+/// value in unit "from" expressed in unit "to". Norm volume flow converts to mass flow when the norm density is known
+/// and to energy flow when the calorific value is known. Nothing when the units are unknown or do not fit.
+std::optional<double> convert(double value, const QString &from, const QString &to, const Gas &gas = Gas());
+
+/// convert() as a linear function y = factor * x + offset, for whole columns.
+struct Linear {
+  double factor = 1.0;
+  double offset = 0.0;
+  double operator()(double x) const { return factor * x + offset; }
+};
+std::optional<Linear> conversion(const QString &from, const QString &to, const Gas &gas = Gas());
+
+} // namespace Units

@@ -1,0 +1,217 @@
+#include <base/nivramsg.h>
+#include <model/elementexceptions.h>
+#include <model/netdata.h>
+#include <model/netmetadata.h>
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+namespace {
+
+struct Keys {
+  PropertyKey name = PropertyKey::intern("name");
+  PropertyKey type = PropertyKey::intern("type");
+  PropertyKey node1 = PropertyKey::intern("node1");
+  PropertyKey node2 = PropertyKey::intern("node2");
+  PropertyKey pset = PropertyKey::intern("pset");
+  PropertyKey powset = PropertyKey::intern("powset");
+  PropertyKey qset = PropertyKey::intern("qset");
+  PropertyKey mset = PropertyKey::intern("mset");
+};
+
+const Keys &keys() {
+  static const Keys instance;
+  return instance;
+}
+
+bool isSelected(int kind, int mask) {
+  return kind == 0 ? mask == 0 : (mask & kind) == kind;
+}
+
+/// A text with "(" is a time-dependent or formula value and counts as present.
+bool isPositive(const PropertyText &text) {
+  return text.utf8().find('(') != std::string_view::npos || text.toDouble().value_or(0.0) > 0.0;
+}
+
+} // namespace
+
+NetData::NetData()
+    : m_nodes(QStringLiteral("nodes"))
+    , m_edges(QStringLiteral("edges"))
+    , m_tBoxes(QStringLiteral("tBoxes"))
+    , m_assembledSubnets(QStringLiteral("assembledSubnets"))
+    , m_metaData(&NetMetaData::instance()) {
+  buildTypeMap();
+}
+
+NetData::NetData(const NetData &other)
+    : m_nodes(other.m_nodes)
+    , m_edges(other.m_edges)
+    , m_tBoxes(other.m_tBoxes)
+    , m_assembledSubnets(other.m_assembledSubnets)
+    , m_metaData(other.m_metaData) {
+  buildTypeMap();
+}
+
+NetData::NetData(NetData &&other) noexcept
+    : m_nodes(std::move(other.m_nodes))
+    , m_edges(std::move(other.m_edges))
+    , m_tBoxes(std::move(other.m_tBoxes))
+    , m_assembledSubnets(std::move(other.m_assembledSubnets))
+    , m_metaData(other.m_metaData) {
+  buildTypeMap();
+}
+
+NetData &NetData::operator=(const NetData &other) {
+  if (this != &other)
+    *this = NetData(other);
+  return *this;
+}
+
+// The type map points at the collections of its own object and stays; only their contents move.
+NetData &NetData::operator=(NetData &&other) noexcept {
+  m_nodes = std::move(other.m_nodes);
+  m_edges = std::move(other.m_edges);
+  m_tBoxes = std::move(other.m_tBoxes);
+  m_assembledSubnets = std::move(other.m_assembledSubnets);
+  return *this;
+}
+
+NetData::~NetData() = default;
+
+void NetData::buildTypeMap() {
+  m_typeMap = {{Node, &m_nodes}, {Edge, &m_edges}, {AssembledSubnet, &m_assembledSubnets}, {TextBox, &m_tBoxes}};
+  m_types.clear();
+  for (const auto &entry : m_typeMap)
+    m_types.append(entry.first);
+}
+
+NetData::EleType NetData::addElement(::element added) {
+  const PropertyText *name = added.find(keys().name);
+  const PropertyText *type = added.find(keys().type);
+  if (name == nullptr || type == nullptr)
+    return Unknown;
+  const QString typeName = type->toString();
+  const EleType kind = m_metaData->kindOf(typeName);
+  const auto collection = m_typeMap.find(kind);
+  if (collection == m_typeMap.end()) {
+    NivraMsg::logWarning(
+        QStringLiteral("NetData::addElement failed for %1 with unknown type %2!").arg(name->toString(), typeName));
+    return kind;
+  }
+  const PropertyText id = *name;
+  elements &target = *collection->second;
+  if (target.find(id) != nullptr) {
+    // Asked first rather than caught: the exception would print both elements for every duplicate of a large file.
+    NivraMsg::logWarning(QStringLiteral("Overwriting existing element ") + id.toString());
+    target.erase(id.toString());
+  }
+  target.insert(id, std::move(added));
+  return kind;
+}
+
+std::pair<NetData::EleType, ::element *> NetData::findElement(const QString &name, int mask) const {
+  const QByteArray utf8 = name.toUtf8();
+  const std::string_view id(utf8.constData(), static_cast<std::size_t>(utf8.size()));
+  for (const EleType kind : m_types) {
+    if (!isSelected(kind, mask))
+      continue;
+    const auto collection = m_typeMap.find(kind);
+    if (collection == m_typeMap.end())
+      throw std::out_of_range("invalid map<K, T> key");
+    if (::element *found = collection->second->find(id))
+      return {kind, found};
+  }
+  return {Unknown, nullptr};
+}
+
+::element *NetData::element(const QString &name) const {
+  for (const elements *collection : {&m_nodes, &m_edges, &m_assembledSubnets, &m_tBoxes}) {
+    if (::element *found = collection->find(name))
+      return found;
+  }
+  return nullptr;
+}
+
+QList<elements *> NetData::collections(int mask) {
+  QList<elements *> selected;
+  for (const EleType kind : m_types) {
+    if (isSelected(kind, mask))
+      selected.append(m_typeMap.at(kind));
+  }
+  return selected;
+}
+
+void NetData::forEach(int mask, const std::function<void(::element &)> &visit) {
+  for (elements *collection : collections(mask)) {
+    for (const elements::Entry &entry : *collection)
+      visit(entry.value);
+  }
+}
+
+bool NetData::isEmpty() const {
+  return m_nodes.isEmpty() && m_edges.isEmpty() && m_tBoxes.isEmpty() && m_assembledSubnets.isEmpty();
+}
+
+void NetData::clear() {
+  for (const auto &entry : m_typeMap)
+    entry.second->clear();
+}
+
+double NetData::value(const ::element &element, PropertyKey property, bool absolute) const {
+  const PropertyText *text = element.find(property);
+  if (text == nullptr)
+    return NoValue;
+  const std::optional<double> number = text->toDouble();
+  if (!number || !(*number > -1e20 && *number < 1e20))
+    return NoValue;
+  return absolute ? std::abs(*number) : *number;
+}
+
+double NetData::value(const ::element &element, const QString &property, bool absolute) const {
+  return value(element, PropertyKey::find(property), absolute);
+}
+
+double NetData::edgeValue(const ::element &edge, PropertyKey property, bool absolute) const {
+  if (edge.find(property) != nullptr)
+    return value(edge, property, absolute);
+  const double first = value(m_nodes.at(edge.at(QStringLiteral("node1")).toString()), property, absolute);
+  const double second = value(m_nodes.at(edge.at(QStringLiteral("node2")).toString()), property, absolute);
+  return first == NoValue || second == NoValue ? NoValue : (first + second) * 0.5;
+}
+
+double NetData::edgeValue(const ::element &edge, const QString &property, bool absolute) const {
+  return edgeValue(edge, PropertyKey::find(property), absolute);
+}
+
+std::pair<double, double> NetData::range(const QString &property, bool absolute) const {
+  const bool ofNodes = m_metaData->nodeFunctions().contains(property);
+  const PropertyKey key = PropertyKey::find(property);
+  std::pair<double, double> range(1e30, -1e30);
+  for (const elements::Entry &entry : ofNodes ? m_nodes : m_edges) {
+    const double number = ofNodes ? value(entry.value, key, absolute) : edgeValue(entry.value, key, absolute);
+    if (number <= -1e20)
+      continue;
+    range.first = std::min(range.first, number);
+    range.second = std::max(range.second, number);
+  }
+  return range;
+}
+
+QString NetData::nodeCategory(const ::element &node) const {
+  const PropertyText *pressure = node.find(keys().pset);
+  if (pressure != nullptr && isPositive(*pressure))
+    return QStringLiteral("pset");
+  for (const PropertyKey key : {keys().powset, keys().qset, keys().mset}) {
+    const PropertyText *flow = node.find(key);
+    if (flow == nullptr)
+      continue;
+    if (flow->toDouble().value_or(0.0) < 0.0)
+      return QStringLiteral("negqset");
+    if (isPositive(*flow))
+      return QStringLiteral("demand");
+    break;
+  }
+  return node.value(keys().type);
+}

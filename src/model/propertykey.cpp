@@ -1,0 +1,139 @@
+#include <model/propertykey.h>
+
+#include <map>
+#include <memory>
+#include <mutex>
+#include <shared_mutex>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+/// All spellings of one name share its group; the groups stand in alphabetical order, spaced so that a new one mostly fits
+/// between its neighbours without renumbering the others.
+struct PropertyKey::Spelling {
+  struct Group {
+    unsigned long long rank = 0;
+  };
+
+  std::string utf8;
+  QString name;
+  Group *group = nullptr;
+};
+
+namespace {
+
+struct CaseInsensitiveLess {
+  bool operator()(const QString &a, const QString &b) const { return QString::compare(a, b, Qt::CaseInsensitive) < 0; }
+};
+
+using Spelling = PropertyKey::Spelling;
+
+class KeyTable {
+public:
+  static KeyTable &instance() {
+    static KeyTable table;
+    return table;
+  }
+
+  /// Null when the spelling, and with anyCase every other spelling of the name, is unknown.
+  const Spelling *find(std::string_view utf8) const {
+    const std::shared_lock lock(m_mutex);
+    const auto exact = m_spellings.find(utf8);
+    if (exact != m_spellings.end())
+      return exact->second.get();
+    const auto group = m_groups.find(QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size())));
+    return group == m_groups.end() ? nullptr : group->second.representative;
+  }
+
+  const Spelling *intern(std::string_view utf8) {
+    {
+      const std::shared_lock lock(m_mutex);
+      const auto found = m_spellings.find(utf8);
+      if (found != m_spellings.end())
+        return found->second.get();
+    }
+    const std::unique_lock lock(m_mutex);
+    return add(utf8);
+  }
+
+private:
+  struct NamedGroup {
+    std::unique_ptr<Spelling::Group> group;
+    const Spelling *representative = nullptr;
+  };
+  using Groups = std::map<QString, NamedGroup, CaseInsensitiveLess>;
+
+  static constexpr unsigned long long Spacing = 1ULL << 32;
+
+  const Spelling *add(std::string_view utf8) {
+    const auto found = m_spellings.find(utf8);
+    if (found != m_spellings.end())
+      return found->second.get();
+    auto spelling = std::make_unique<Spelling>();
+    spelling->utf8 = utf8;
+    spelling->name = QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+    auto [position, isNew] = m_groups.try_emplace(spelling->name);
+    if (isNew) {
+      position->second.group = std::make_unique<Spelling::Group>();
+      position->second.representative = spelling.get();
+      rank(position);
+    }
+    spelling->group = position->second.group.get();
+    const Spelling *result = spelling.get();
+    m_spellings.emplace(std::string_view(result->utf8), std::move(spelling));
+    return result;
+  }
+
+  void rank(Groups::iterator added) {
+    const unsigned long long below = added == m_groups.begin() ? 0 : std::prev(added)->second.group->rank;
+    const auto next = std::next(added);
+    const unsigned long long above = next == m_groups.end() ? below + 2 * Spacing : next->second.group->rank;
+    if (above - below >= 2) {
+      added->second.group->rank = below + (above - below) / 2;
+      return;
+    }
+    unsigned long long rank = 0;
+    for (auto &entry : m_groups)
+      entry.second.group->rank = rank += Spacing;
+  }
+
+  mutable std::shared_mutex m_mutex;
+  std::unordered_map<std::string_view, std::unique_ptr<Spelling>> m_spellings; // keyed by a view into the spelling itself
+  Groups m_groups;
+};
+
+} // namespace
+
+PropertyKey PropertyKey::intern(std::string_view utf8) {
+  return PropertyKey(KeyTable::instance().intern(utf8));
+}
+
+PropertyKey PropertyKey::intern(const QString &name) {
+  const QByteArray utf8 = name.toUtf8();
+  return intern(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+}
+
+PropertyKey PropertyKey::find(std::string_view utf8) {
+  return PropertyKey(KeyTable::instance().find(utf8));
+}
+
+PropertyKey PropertyKey::find(const QString &name) {
+  const QByteArray utf8 = name.toUtf8();
+  return find(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+}
+
+QString PropertyKey::name() const {
+  return m_spelling == nullptr ? QString() : m_spelling->name;
+}
+
+std::string_view PropertyKey::utf8() const noexcept {
+  return m_spelling == nullptr ? std::string_view() : std::string_view(m_spelling->utf8);
+}
+
+const void *PropertyKey::group() const noexcept {
+  return m_spelling == nullptr ? nullptr : m_spelling->group;
+}
+
+unsigned long long PropertyKey::rank() const noexcept {
+  return m_spelling == nullptr ? 0 : m_spelling->group->rank;
+}

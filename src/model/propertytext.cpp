@@ -1,0 +1,129 @@
+#include <model/propertytext.h>
+
+#include <charconv>
+#include <cstring>
+#include <limits>
+#include <string>
+
+namespace {
+
+struct HeapText {
+  char *data;
+  std::uint32_t size;
+};
+
+HeapText heapText(const char *bytes) noexcept {
+  HeapText text{};
+  std::memcpy(&text.data, bytes, sizeof text.data);
+  std::memcpy(&text.size, bytes + sizeof text.data, sizeof text.size);
+  return text;
+}
+
+bool isBlank(char c) noexcept {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+} // namespace
+
+PropertyText::PropertyText(std::string_view utf8) {
+  assign(utf8);
+}
+
+PropertyText::PropertyText(const QString &text) {
+  const QByteArray utf8 = text.toUtf8();
+  assign({utf8.constData(), static_cast<std::size_t>(utf8.size())});
+}
+
+PropertyText::PropertyText(const PropertyText &other) {
+  if (other.onHeap())
+    assign(other.utf8());
+  else
+    std::memcpy(m_bytes, other.m_bytes, sizeof m_bytes);
+}
+
+PropertyText::PropertyText(PropertyText &&other) noexcept {
+  std::memcpy(m_bytes, other.m_bytes, sizeof m_bytes);
+  other.m_bytes[InlineCapacity] = 0;
+}
+
+PropertyText &PropertyText::operator=(const PropertyText &other) {
+  if (this != &other)
+    *this = PropertyText(other);
+  return *this;
+}
+
+PropertyText &PropertyText::operator=(PropertyText &&other) noexcept {
+  if (this != &other) {
+    release();
+    std::memcpy(m_bytes, other.m_bytes, sizeof m_bytes);
+    other.m_bytes[InlineCapacity] = 0;
+  }
+  return *this;
+}
+
+void PropertyText::assign(std::string_view utf8) {
+  if (utf8.size() <= InlineCapacity) {
+    if (!utf8.empty())
+      std::memcpy(m_bytes, utf8.data(), utf8.size());
+    m_bytes[InlineCapacity] = static_cast<char>(utf8.size());
+    return;
+  }
+  const auto size =
+      static_cast<std::uint32_t>(std::min<std::size_t>(utf8.size(), std::numeric_limits<std::uint32_t>::max()));
+  char *data = new char[size];
+  std::memcpy(data, utf8.data(), size);
+  std::memcpy(m_bytes, &data, sizeof data);
+  std::memcpy(m_bytes + sizeof data, &size, sizeof size);
+  m_bytes[InlineCapacity] = static_cast<char>(HeapTag);
+}
+
+void PropertyText::release() noexcept {
+  if (onHeap())
+    delete[] heapText(m_bytes).data;
+}
+
+std::string_view PropertyText::utf8() const noexcept {
+  if (!onHeap())
+    return {m_bytes, static_cast<std::size_t>(m_bytes[InlineCapacity])};
+  const HeapText text = heapText(m_bytes);
+  return {text.data, text.size};
+}
+
+QString PropertyText::toString() const {
+  const std::string_view text = utf8();
+  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+std::optional<double> PropertyText::toDouble() const noexcept {
+  return parseNumber(utf8());
+}
+
+std::optional<double> parseNumber(std::string_view utf8) noexcept {
+  while (!utf8.empty() && isBlank(utf8.front()))
+    utf8.remove_prefix(1);
+  while (!utf8.empty() && isBlank(utf8.back()))
+    utf8.remove_suffix(1);
+  if (utf8.size() > 1 && utf8.front() == '+' && utf8[1] != '-' && utf8[1] != '+')
+    utf8.remove_prefix(1);
+  double value = 0.0;
+  const auto [end, error] = std::from_chars(utf8.data(), utf8.data() + utf8.size(), value);
+  if (utf8.empty() || end != utf8.data() + utf8.size())
+    return std::nullopt;
+  if (error == std::errc::result_out_of_range) {
+    // from_chars leaves the value alone: the exponent's sign tells a vanishing number from an endless one.
+    const auto exponent = utf8.find_first_of("eE");
+    const bool tiny = (exponent != std::string_view::npos && exponent + 1 < utf8.size() && utf8[exponent + 1] == '-') ||
+                      (exponent == std::string_view::npos && utf8.find('.') < 3);
+    value = tiny ? 0.0 : std::numeric_limits<double>::infinity();
+    return utf8.front() == '-' ? -value : value;
+  }
+  if (error != std::errc())
+    return std::nullopt;
+  return value;
+}
+
+std::string formatNumber(double value, int significantDigits) {
+  char text[64];
+  const auto [end, error] = std::to_chars(text, text + sizeof text, value, std::chars_format::general, significantDigits);
+  return error == std::errc() ? std::string(text, end) : std::string();
+}

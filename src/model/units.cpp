@@ -1,0 +1,177 @@
+#include <model/units.h>
+
+#include <QHash>
+
+#include <cmath>
+#include <memory>
+#include <mutex>
+#include <udunits2.h>
+
+namespace {
+
+/// What a unit measures beyond its dimension: amounts of gas at norm conditions convert to mass and energy by the gas.
+enum class Quantity { Plain, NormFlow, MassFlow, Power };
+
+struct UnitFree {
+  void operator()(ut_unit *unit) const { ut_free(unit); }
+  void operator()(ut_system *system) const { ut_free_system(system); }
+  void operator()(cv_converter *converter) const { cv_free(converter); }
+};
+using UnitPtr = std::unique_ptr<ut_unit, UnitFree>;
+
+constexpr int LongestUnit = 100;
+
+/// Names of the gas field in the words of the library; a text that is not here stands as it is.
+QString spelledOut(const QString &unit) {
+  static const QHash<QString, QString> names{
+      {QStringLiteral("-"), QStringLiteral("1")},
+      {QStringLiteral("1000 m3/h"), QStringLiteral("1000 m3/hour")},
+      {QStringLiteral("1000 Nm3/h"), QStringLiteral("1000 m3/hour")},
+      {QStringLiteral("Nm3/h"), QStringLiteral("m3/hour")},
+      {QStringLiteral("m3/h"), QStringLiteral("m3/hour")},
+      {QStringLiteral("m3/d"), QStringLiteral("m3/day")},
+      {QStringLiteral("kg/h"), QStringLiteral("kg/hour")},
+      {QStringLiteral("t/h"), QStringLiteral("1000 kg/hour")},
+      {QStringLiteral("barg"), QStringLiteral("bar @ 1.01325")},
+      {QStringLiteral("degC"), QStringLiteral("degree_Celsius")},
+      {QStringLiteral("\u00b0C"), QStringLiteral("degree_Celsius")},
+      {QStringLiteral("\u00b0"), QStringLiteral("degree")},
+      {QStringLiteral("MJ/m3"), QStringLiteral("megajoule/m3")},
+      {QStringLiteral("kWh/m3"), QStringLiteral("kilowatt hour/m3")},
+      {QStringLiteral("kJ/kg"), QStringLiteral("kilojoule/kg")},
+      {QStringLiteral("W/(m2 K)"), QStringLiteral("watt/(m2 K)")},
+      {QStringLiteral("kg/m3"), QStringLiteral("kg m-3")},
+      {QStringLiteral("rpm"), QStringLiteral("1/minute")},
+      {QStringLiteral("1/min"), QStringLiteral("1/minute")},
+      {QStringLiteral("%"), QStringLiteral("0.01")},
+  };
+  const QString trimmed = unit.trimmed();
+  return names.value(trimmed, trimmed);
+}
+
+class Tables {
+public:
+  static Tables &instance() {
+    static Tables tables;
+    return tables;
+  }
+
+  const ut_unit *unit(const QString &name) {
+    const auto known = m_units.constFind(name);
+    if (known != m_units.constEnd())
+      return known->get();
+    return m_units.insert(name, std::shared_ptr<ut_unit>(parse(name), UnitFree())).value().get();
+  }
+
+  Quantity quantity(const ut_unit *unit) const {
+    if (ut_are_convertible(unit, m_volumeFlow.get()))
+      return Quantity::NormFlow;
+    if (ut_are_convertible(unit, m_massFlow.get()))
+      return Quantity::MassFlow;
+    return ut_are_convertible(unit, m_power.get()) ? Quantity::Power : Quantity::Plain;
+  }
+
+  const ut_unit *base(Quantity quantity) const {
+    return quantity == Quantity::NormFlow   ? m_volumeFlow.get()
+           : quantity == Quantity::MassFlow ? m_massFlow.get()
+                                            : m_power.get();
+  }
+
+  std::mutex mutex;
+
+private:
+  Tables() {
+    ut_set_error_message_handler(ut_ignore);
+    m_system.reset(ut_read_xml(nullptr));
+    m_volumeFlow.reset(parse(QStringLiteral("m3/s")));
+    m_massFlow.reset(parse(QStringLiteral("kg/s")));
+    m_power.reset(parse(QStringLiteral("megawatt")));
+  }
+
+  ut_unit *parse(const QString &name) const {
+    const QByteArray text = spelledOut(name).toUtf8();
+    if (!m_system || text.isEmpty() || text.size() > LongestUnit || text.contains('\0'))
+      return nullptr;
+    return ut_parse(m_system.get(), text.constData(), UT_UTF8);
+  }
+
+  std::unique_ptr<ut_system, UnitFree> m_system;
+  UnitPtr m_volumeFlow;
+  UnitPtr m_massFlow;
+  UnitPtr m_power;
+  QHash<QString, std::shared_ptr<ut_unit>> m_units; // null for what is no unit, so that it is asked once
+};
+
+std::optional<Units::Linear> plain(const ut_unit *from, const ut_unit *to) {
+  const std::unique_ptr<cv_converter, UnitFree> converter(
+      ut_get_converter(const_cast<ut_unit *>(from), const_cast<ut_unit *>(to)));
+  if (!converter)
+    return std::nullopt;
+  // Two points tell the line; all but logarithmic units are linear, and those fail the third.
+  const double zero = cv_convert_double(converter.get(), 0.0);
+  const double one = cv_convert_double(converter.get(), 1.0);
+  const double two = cv_convert_double(converter.get(), 2.0);
+  const Units::Linear line{one - zero, zero};
+  constexpr double Tolerance = 1e-9;
+  if (!std::isfinite(zero) || !std::isfinite(one) || std::abs(line(2.0) - two) > Tolerance * (1.0 + std::abs(two)))
+    return std::nullopt;
+  return line;
+}
+
+/// Mass per second of one norm cubic metre per second, and megawatts likewise.
+std::optional<double> perNormFlow(Quantity quantity, const Units::Gas &gas) {
+  switch (quantity) {
+  case Quantity::NormFlow:
+    return 1.0;
+  case Quantity::MassFlow:
+    return gas.normDensity && *gas.normDensity > 0.0 ? gas.normDensity : std::nullopt;
+  case Quantity::Power:
+    return gas.calorificValue && *gas.calorificValue > 0.0 ? gas.calorificValue : std::nullopt;
+  case Quantity::Plain:
+    break;
+  }
+  return std::nullopt;
+}
+
+} // namespace
+
+void Units::initialise() {
+  isKnown(QStringLiteral("m"));
+}
+
+bool Units::isKnown(const QString &unit) {
+  Tables &tables = Tables::instance();
+  const std::lock_guard lock(tables.mutex);
+  return tables.unit(unit) != nullptr;
+}
+
+std::optional<Units::Linear> Units::conversion(const QString &from, const QString &to, const Gas &gas) {
+  if (from == to)
+    return Linear();
+  Tables &tables = Tables::instance();
+  const std::lock_guard lock(tables.mutex);
+  const ut_unit *source = tables.unit(from);
+  const ut_unit *target = tables.unit(to);
+  if (source == nullptr || target == nullptr)
+    return std::nullopt;
+  if (ut_are_convertible(source, target))
+    return plain(source, target);
+  const Quantity sourceQuantity = tables.quantity(source);
+  const Quantity targetQuantity = tables.quantity(target);
+  const std::optional<double> sourceFactor = perNormFlow(sourceQuantity, gas);
+  const std::optional<double> targetFactor = perNormFlow(targetQuantity, gas);
+  if (!sourceFactor || !targetFactor)
+    return std::nullopt;
+  const std::optional<Linear> in = plain(source, tables.base(sourceQuantity));
+  const std::optional<Linear> out = plain(tables.base(targetQuantity), target);
+  if (!in || !out)
+    return std::nullopt;
+  return Linear{in->factor * *targetFactor / *sourceFactor * out->factor, 0.0};
+}
+
+std::optional<double> Units::convert(double value, const QString &from, const QString &to, const Gas &gas) {
+  const std::optional<Linear> line = conversion(from, to, gas);
+  if (!line)
+    return std::nullopt;
+  return (*line)(value);
+}
