@@ -3,36 +3,66 @@
 
 #include <QCoreApplication>
 
+namespace {
+
+void logFinding(Finding::Severity severity, const QString &text) {
+  switch (severity) {
+  case Finding::Severity::Information:
+    NivraMsg::log(text);
+    break;
+  case Finding::Severity::Warning:
+    NivraMsg::logWarning(text);
+    break;
+  case Finding::Severity::Critical:
+    NivraMsg::logCritical(text);
+    break;
+  }
+}
+
+NivraMsg::Kind boxKind(Finding::Severity severity) {
+  switch (severity) {
+  case Finding::Severity::Information:
+    return NivraMsg::Kind::Information;
+  case Finding::Severity::Warning:
+    break;
+  case Finding::Severity::Critical:
+    return NivraMsg::Kind::Critical;
+  }
+  return NivraMsg::Kind::Warning;
+}
+
+} // namespace
+
 QString Finding::logText() const {
-  if (file.isEmpty())
+  if (file.isEmpty() && line <= 0)
     return text;
-  return line > 0 ? QStringLiteral("%1 (%2:%3)").arg(text, file).arg(line) : QStringLiteral("%1 (%2)").arg(text, file);
+  QString place = file;
+  if (line > 0)
+    place += (file.isEmpty() ? QStringLiteral("line ") : QStringLiteral(":")) + QString::number(line);
+  return text + QStringLiteral(" (") + place + QLatin1Char(')');
 }
 
 void report(const Findings &findings) {
-  const Finding *first = nullptr;
-  int boxes = 0;
+  const bool interactive = NivraMsg::isInteractive();
+  const Finding *shown = nullptr;
+  int further = 0;
   for (const Finding &finding : findings) {
-    switch (finding.severity) {
-    case Finding::Severity::Information:
-      NivraMsg::log(finding.logText());
-      break;
-    case Finding::Severity::Warning:
-      NivraMsg::logWarning(finding.logText());
-      break;
-    case Finding::Severity::Critical:
-      NivraMsg::logCritical(finding.logText());
-      break;
-    }
-    if (!finding.box.isEmpty() && ++boxes == 1)
-      first = &finding;
+    if (!finding.text.isEmpty())
+      logFinding(finding.severity, finding.logText());
+    if (finding.box.isEmpty())
+      continue;
+    if (!interactive && finding.text.isEmpty()) // what no box can say must be in the log, but a line is enough
+      logFinding(finding.severity, finding.box);
+    if (shown)
+      ++further;
+    else
+      shown = &finding;
   }
-  if (first == nullptr)
+  if (!interactive || !shown)
     return;
-  const QString more = boxes > 1
-                           ? QCoreApplication::translate("Findings", "\n\n... and %1 more, see the messages.").arg(boxes - 1)
-                           : QString();
-  NivraMsg::message(first->severity == Finding::Severity::Information ? NivraMsg::Kind::Information
-                                                                      : NivraMsg::Kind::Warning,
-                    first->box + more);
+  QString text = shown->box;
+  if (further > 0)
+    text += QStringLiteral("\n\n") +
+            QCoreApplication::translate("Finding", "(and %n further message(s), see the log)", nullptr, further);
+  NivraMsg::message(boxKind(shown->severity), text);
 }

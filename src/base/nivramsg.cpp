@@ -1,213 +1,171 @@
+#include "messagehandler.h"
+
+#include <base/logo.h>
 #include <base/nivramsg.h>
 
 #include <QApplication>
 #include <QDateTime>
 #include <QDebug>
-#include <QIcon>
 #include <QMessageBox>
+#include <QPointer>
 #include <QThread>
 
-#include <algorithm>
 #include <atomic>
-#include <cstdio>
-#include <mutex>
-#include <vector>
+
+namespace NivraMsg {
 
 namespace {
 
-std::atomic<bool> interactive{true};
+std::atomic<bool> interactiveSwitch{true};
 
-struct Recording {
-  const NivraMsg::Recorder *owner;
-  QStringList lines;
-  int dropped = 0;
-};
+/// A box cannot lay out a text of any length; the log takes the rest.
+constexpr int LongestBoxText = 4000;
 
-std::mutex recordingsMutex;
-std::vector<Recording> &recordings() {
-  static std::vector<Recording> list;
-  return list;
-}
-
-void record(const QString &text) {
-  const std::lock_guard lock(recordingsMutex);
-  for (Recording &recording : recordings()) {
-    if (recording.lines.size() < NivraMsg::Recorder::MaximumLines)
-      recording.lines.append(text);
-    else
-      ++recording.dropped;
-  }
-}
-
-/// True while this thread logs through the service, which has recorded the line already: the toolkit's own warnings come
-/// through the handler alone.
-thread_local bool recorded = false;
-
-void logAt(QtMsgType type, const QString &text) {
-  if (type == QtWarningMsg || type == QtCriticalMsg)
-    record(text);
-  recorded = true;
-  switch (type) {
-  case QtDebugMsg:
-    qDebug().noquote() << text;
-    break;
-  case QtWarningMsg:
-    qWarning().noquote() << text;
-    break;
-  case QtCriticalMsg:
-    qCritical().noquote() << text;
-    break;
-  default:
-    qInfo().noquote() << text;
-    break;
-  }
-  recorded = false;
-}
-
-/// Plain lines on standard error, which is the log file: the toolkit's own handler might send them to a system journal.
-void writeLine(QtMsgType type, const QMessageLogContext & /*context*/, const QString &text) {
-  if (!recorded && (type == QtWarningMsg || type == QtCriticalMsg))
-    record(text);
-  std::fprintf(stderr, "%s\n", text.toUtf8().constData());
-  if (type == QtFatalMsg)
-    std::abort();
-}
-
-void installHandler() {
-  static std::once_flag once;
-  std::call_once(once, [] { qInstallMessageHandler(writeLine); });
-}
-
-struct BoxLook {
-  QMessageBox::Icon icon;
-  QString title;
-};
-
-BoxLook look(NivraMsg::Kind kind) {
-  const auto tr = [](const char *text) {
-    return QCoreApplication::translate("NivraMsg", text);
-  };
+QString boxTitle(Kind kind) {
   switch (kind) {
-  case NivraMsg::Kind::Information:
-    return {QMessageBox::Information, tr("Information")};
-  case NivraMsg::Kind::Warning:
-    return {QMessageBox::Warning, tr("Warning")};
-  case NivraMsg::Kind::Critical:
-    return {QMessageBox::Critical, tr("Critical")};
-  case NivraMsg::Kind::Question:
+  case Kind::Information:
+    return QCoreApplication::translate("NivraMsg", "Information");
+  case Kind::Warning:
+    return QCoreApplication::translate("NivraMsg", "Warning");
+  case Kind::Critical:
+    return QCoreApplication::translate("NivraMsg", "Critical");
+  case Kind::Question:
     break;
   }
-  return {QMessageBox::Question, tr("Question")};
+  return QCoreApplication::translate("NivraMsg", "Question");
 }
 
-int showBox(NivraMsg::Kind kind, const QString &text) {
-  const BoxLook boxLook = look(kind);
-  QMessageBox box(boxLook.icon, boxLook.title, text, QMessageBox::Ok, QApplication::activeWindow());
-  box.setWindowIcon(QIcon(QStringLiteral(":/icons/nivra.svg")));
-  if (kind == NivraMsg::Kind::Question) {
-    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-    box.setDefaultButton(QMessageBox::Cancel);
+QMessageBox::Icon boxIcon(Kind kind) {
+  switch (kind) {
+  case Kind::Information:
+    return QMessageBox::Information;
+  case Kind::Warning:
+    return QMessageBox::Warning;
+  case Kind::Critical:
+    return QMessageBox::Critical;
+  case Kind::Question:
+    break;
   }
-  return box.exec();
+  return QMessageBox::Question;
 }
 
-bool canShowBoxes() {
-  return NivraMsg::isInteractive() && qobject_cast<QApplication *>(QCoreApplication::instance()) != nullptr;
+QString boxText(const QString &text) {
+  if (text.size() <= LongestBoxText)
+    return text;
+  log(text);
+  return text.left(LongestBoxText) + QStringLiteral(" …\n") +
+         QCoreApplication::translate("NivraMsg", "(The whole message is in the log.)");
+}
+
+int showBox(Kind kind, const QString &text) {
+  QWidget *parent = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : QApplication::activeWindow();
+  // On the heap, because the parent may be deleted while the box is open.
+  const QPointer<QMessageBox> box = new QMessageBox(boxIcon(kind), boxTitle(kind), boxText(text), QMessageBox::Ok, parent);
+  box->setWindowIcon(productLogo());
+  if (kind == Kind::Question) {
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    box->setDefaultButton(QMessageBox::Cancel);
+  }
+  const int result = box->exec();
+  delete box.data();
+  return result;
+}
+
+int logInstead(Kind kind, const QString &text) {
+  MessageHandler::install();
+  if (kind == Kind::Information)
+    qInfo().noquote() << text;
+  else if (kind == Kind::Critical)
+    qCritical().noquote() << text;
+  else
+    MessageHandler::writeLine(text);
+  if (kind == Kind::Warning) // written without the message handler, which would have told the recorders
+    MessageHandler::record(text);
+  return 0;
 }
 
 } // namespace
 
-NivraMsg::NivraLogger &NivraMsg::NivraLogger::instance() {
-  static NivraLogger logger;
-  return logger;
+NivraLogger::NivraLogger() {
+  if (QCoreApplication::instance())
+    moveToThread(QCoreApplication::instance()->thread()); // the first message may come from a short-lived thread
 }
 
-int NivraMsg::message(Kind kind, const QString &text) {
-  if (!canShowBoxes()) {
-    if (kind == Kind::Information)
-      log(text);
-    else if (kind == Kind::Critical)
-      logCritical(text);
-    else
-      std::fprintf(stderr, "%s\n", text.toUtf8().constData());
-    return 0;
-  }
-  if (QThread::currentThread() == qApp->thread())
+NivraLogger &NivraLogger::instance() {
+  static auto *logger = new NivraLogger; // never destroyed: static objects may log while they are
+  return *logger;
+}
+
+int message(Kind kind, const QString &text) {
+  auto *application = qobject_cast<QApplication *>(QCoreApplication::instance());
+  if (!application || !isInteractive())
+    return logInstead(kind, text);
+  if (QThread::currentThread() == application->thread())
     return showBox(kind, text);
-  int button = 0;
+  int result = 0;
   QMetaObject::invokeMethod(
-      qApp, [&] { button = showBox(kind, text); }, Qt::BlockingQueuedConnection);
-  return button;
+      application, [&]() { result = showBox(kind, text); }, Qt::BlockingQueuedConnection);
+  return result;
 }
 
-void NivraMsg::information(const QString &text) {
+void information(const QString &text) {
   message(Kind::Information, text);
 }
 
-void NivraMsg::logTimeStamp(const QString &text) {
-  installHandler();
+void logTimeStamp(const QString &text) {
+  MessageHandler::install();
   const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd, hh:mm:ss"));
   emit NivraLogger::instance().msgConsole(QStringLiteral("<i>") + time + QStringLiteral(": </i>") + text);
-  logAt(QtInfoMsg, text);
+  qInfo().noquote() << text;
 }
 
-void NivraMsg::log(const QString &text) {
-  installHandler();
+void log(const QString &text) {
+  MessageHandler::install();
   emit NivraLogger::instance().msgConsole(text);
-  logAt(QtInfoMsg, text);
+  qInfo().noquote() << text;
 }
 
-void NivraMsg::logWarning(const QString &text) {
-  installHandler();
+void logWarning(const QString &text) {
+  MessageHandler::install();
   emit NivraLogger::instance().msgConsole(text);
-  logAt(QtWarningMsg, text);
+  qWarning().noquote() << text;
 }
 
-void NivraMsg::logCritical(const QString &text) {
-  installHandler();
+void logCritical(const QString &text) {
+  MessageHandler::install();
   emit NivraLogger::instance().msgConsole(text);
-  logAt(QtCriticalMsg, text);
+  qCritical().noquote() << text;
 }
 
-void NivraMsg::debug(const QString &text) {
-  installHandler();
-  logAt(QtDebugMsg, text);
+void debug(const QString &text) {
+  MessageHandler::install();
+  qDebug().noquote() << text;
 }
 
-void NivraMsg::setInteractive(bool on) {
-  interactive = on;
+void setInteractive(bool interactive) {
+  interactiveSwitch = interactive;
 }
 
-bool NivraMsg::isInteractive() {
-  return interactive && qgetenv("NIVRA_BATCH") != "1" && qgetenv("NIVRA_CUSTOM") != "1";
+bool isInteractive() {
+  return interactiveSwitch && qgetenv("NIVRA_BATCH") != "1" && qgetenv("NIVRA_CUSTOM") != "1";
 }
 
-NivraMsg::Recorder::Recorder() {
-  installHandler();
-  const std::lock_guard lock(recordingsMutex);
-  recordings().push_back({this, {}, 0});
+Recorder::Recorder()
+    : m_recorded(std::make_unique<RecordedLines>()) {
+  MessageHandler::install();
+  MessageHandler::add(m_recorded.get());
 }
 
-NivraMsg::Recorder::~Recorder() {
-  const std::lock_guard lock(recordingsMutex);
-  auto &list = recordings();
-  list.erase(std::remove_if(list.begin(), list.end(), [this](const Recording &r) { return r.owner == this; }), list.end());
+Recorder::~Recorder() {
+  MessageHandler::remove(m_recorded.get());
 }
 
-QStringList NivraMsg::Recorder::lines() const {
-  const std::lock_guard lock(recordingsMutex);
-  for (const Recording &recording : recordings()) {
-    if (recording.owner == this)
-      return recording.lines;
-  }
-  return {};
+QStringList Recorder::lines() const {
+  return MessageHandler::copy(*m_recorded).lines;
 }
 
-int NivraMsg::Recorder::dropped() const {
-  const std::lock_guard lock(recordingsMutex);
-  for (const Recording &recording : recordings()) {
-    if (recording.owner == this)
-      return recording.dropped;
-  }
-  return 0;
+int Recorder::dropped() const {
+  return MessageHandler::copy(*m_recorded).dropped;
 }
+
+} // namespace NivraMsg

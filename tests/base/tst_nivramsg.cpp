@@ -78,7 +78,7 @@ void TestNivraMsg::batchModeLogs() {
   for (const auto kind :
        {NivraMsg::Kind::Information, NivraMsg::Kind::Warning, NivraMsg::Kind::Critical, NivraMsg::Kind::Question})
     QCOMPARE(NivraMsg::message(kind, QStringLiteral("text")), 0);
-  QCOMPARE(recorder.lines().size(), 1); // of these only the critical one goes to the log as such
+  QCOMPARE(recorder.lines().size(), 2); // the warning and the critical one
 }
 
 void TestNivraMsg::boxesAnswer() {
@@ -140,7 +140,7 @@ void TestNivraMsg::manyFindingsGiveOneBox() {
   }
   NivraMsg::Recorder recorder;
   report(findings);
-  QCOMPARE(clicker.text, QStringLiteral("There is a bad line\n\n... and 2 more, see the messages."));
+  QVERIFY2(clicker.text.startsWith(QStringLiteral("There is a bad line\n\n(and 2 further")), qPrintable(clicker.text));
   QCOMPARE(recorder.lines().value(2), QStringLiteral("bad line (/a/b.jsn:7)"));
 }
 

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 /// What the program tells its user: message boxes, the message log, debug lines. Everything ends in the log file, because
 /// the process's standard error is redirected there.
 namespace NivraMsg {
@@ -20,7 +22,7 @@ signals:
   void msgConsole(const QString &text);
 
 private:
-  NivraLogger() = default;
+  NivraLogger();
 };
 
 /// In interactive mode a modal box, shown by the GUI thread while the caller waits, and the chosen
@@ -38,6 +40,8 @@ void debug(const QString &text);        ///< log file only, never the console
 void setInteractive(bool interactive);
 bool isInteractive();
 
+struct RecordedLines;
+
 /// Collects what is logged at warning and critical level during its lifetime, from any thread.
 class Recorder {
 public:
@@ -50,6 +54,9 @@ public:
 
   QStringList lines() const;
   int dropped() const; ///< lines beyond MaximumLines
+
+private:
+  std::unique_ptr<RecordedLines> m_recorded;
 };
 
 } // namespace NivraMsg

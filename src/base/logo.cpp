@@ -1,0 +1,11 @@
+#include <base/logo.h>
+
+// Q_INIT_RESOURCE must stand outside of any namespace, and a static library loses its resources without it.
+static void initLogoResource() {
+  Q_INIT_RESOURCE(base);
+}
+
+QIcon productLogo() {
+  initLogoResource();
+  return QIcon(QStringLiteral(":/icons/nivra.svg"));
+}

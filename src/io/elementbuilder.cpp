@@ -1,0 +1,122 @@
+#include "elementbuilder.h"
+
+#include <model/elementtypes.h>
+
+namespace {
+
+struct Keys {
+  PropertyKey name = PropertyKey::intern("name");
+  PropertyKey type = PropertyKey::intern("type");
+};
+
+const Keys &keys() {
+  static const Keys instance;
+  return instance;
+}
+
+constexpr std::string_view TypeMember = "obj_type";
+
+QString decoded(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+/// Without these an element cannot be placed or connected.
+bool isAlwaysIncluded(const QString &name) {
+  static const QRegularExpression pattern(QStringLiteral("^(name|type|node1|node2|x|y)$"),
+                                          QRegularExpression::CaseInsensitiveOption);
+  return pattern.match(name).hasMatch();
+}
+
+} // namespace
+
+ElementBuilder::ElementBuilder(const QString &includeTypes, const QString &includeProperties, ReadReport &report)
+    : m_report(report)
+    , m_includeTypes(pattern(includeTypes, "types"))
+    , m_includeProperties(pattern(includeProperties, "properties")) {}
+
+QRegularExpression ElementBuilder::pattern(const QString &text, const char *what) {
+  QRegularExpression expression(text, QRegularExpression::CaseInsensitiveOption);
+  if (expression.isValid())
+    return expression;
+  m_report.add("include list", 0,
+               QStringLiteral("The include list for %1 is no regular expression, all are read: %2")
+                   .arg(QLatin1String(what), expression.errorString()));
+  return QRegularExpression();
+}
+
+const ElementBuilder::Key &ElementBuilder::key(std::size_t position, std::string_view raw) {
+  if (position >= m_keys.size())
+    m_keys.resize(position + 1);
+  Key &cached = m_keys[position];
+  if (cached.key.isNull() || cached.raw != raw) {
+    cached.raw = raw;
+    cached.key = PropertyKey::intern(raw);
+    const QString name = decoded(raw);
+    cached.included =
+        m_includeProperties.pattern().isEmpty() || isAlwaysIncluded(name) || m_includeProperties.match(name).hasMatch();
+  }
+  return cached;
+}
+
+const ElementType *ElementBuilder::knownType(std::string_view word) {
+  if (m_lastType == nullptr || m_lastWord != word) {
+    m_lastWord = word;
+    m_lastType = ElementTypes::byWord(decoded(word).trimmed());
+  }
+  return m_lastType;
+}
+
+bool ElementBuilder::isTypeIncluded(const QString &word, const QString &code) const {
+  return m_includeTypes.pattern().isEmpty() || m_includeTypes.match(word).hasMatch() ||
+         m_includeTypes.match(code).hasMatch();
+}
+
+std::vector<Property> &ElementBuilder::properties(JsonLineParser::Element &parsed, int line) {
+  m_properties.clear();
+  for (std::size_t i = 0; i < parsed.values.size(); ++i) {
+    JsonLineParser::Value &value = parsed.values[i];
+    const Key &known = key(i, value.key);
+    if (known.included && value.key != TypeMember)
+      m_properties.push_back({known.key, std::move(value.text)});
+  }
+  for (const JsonLineParser::Dropped &dropped : parsed.dropped)
+    m_report.add("dropped property", line,
+                 QStringLiteral("Property %1 of element %2 is left out: %3")
+                     .arg(QString::fromStdString(dropped.key), decoded(parsed.name), QString::fromUtf8(dropped.reason)));
+  return m_properties;
+}
+
+bool ElementBuilder::buildElement(JsonLineParser::Element &parsed, int line, element &built) {
+  std::string_view word;
+  for (const JsonLineParser::Value &value : parsed.values) {
+    if (value.key == TypeMember)
+      word = value.text.utf8();
+  }
+  const ElementType *type = knownType(word);
+  if (type == nullptr) {
+    m_report.add("unknown type", line,
+                 QStringLiteral("ERROR: Type %1 of element %2 not known! Element will be erased!")
+                     .arg(decoded(word).trimmed(), decoded(parsed.name)));
+    return false;
+  }
+  if (!isTypeIncluded(type->word, type->code))
+    return false;
+  std::vector<Property> &list = properties(parsed, line);
+  for (const Property &property : list) {
+    if (property.key == keys().name && property.value.utf8() != parsed.name)
+      m_report.add("other name", line,
+                   QStringLiteral("Element %1 has a property name of its own, %2; it is left out")
+                       .arg(decoded(parsed.name), property.value.toString()));
+  }
+  list.push_back({keys().name, PropertyText(parsed.name)}); // the last of equal names wins
+  list.push_back({keys().type, PropertyText(type->code)});
+  std::vector<PropertyKey> duplicates;
+  built = element::fromProperties(list, &duplicates);
+  for (const PropertyKey duplicate : duplicates) {
+    if (duplicate != keys().name && duplicate != keys().type)
+      m_report.add("property given twice", line,
+                   QStringLiteral("Property %1 of element %2 is given twice; the last value counts")
+                       .arg(duplicate.name(), decoded(parsed.name)));
+  }
+  return true;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "jsonlineparser.h"
+#include "readreport.h"
+
+#include <model/element.h>
+
+#include <QRegularExpression>
+
+#include <string>
+#include <vector>
+
+/// Turns parsed lines into elements: keys are interned, include lists applied, name and type set.
+class ElementBuilder {
+public:
+  ElementBuilder(const QString &includeTypes, const QString &includeProperties, ReadReport &report);
+
+  /// False when the element is left out (unknown type, not in the include list).
+  bool buildElement(JsonLineParser::Element &parsed, int line, element &built);
+  /// The properties alone, in file order, for elements that exist.
+  std::vector<Property> &properties(JsonLineParser::Element &parsed, int line);
+
+private:
+  struct Key {
+    std::string raw;
+    PropertyKey key;
+    bool included = true;
+  };
+
+  const Key &key(std::size_t position, std::string_view raw);
+  bool isTypeIncluded(const QString &word, const QString &code) const;
+  const struct ElementType *knownType(std::string_view word);
+  QRegularExpression pattern(const QString &text, const char *what);
+
+  ReadReport &m_report;
+  QRegularExpression m_includeTypes;
+  QRegularExpression m_includeProperties;
+  // Elements of one type mostly spell the same properties in the same order, so that position tells the key.
+  std::vector<Key> m_keys;
+  std::vector<Property> m_properties;
+  std::string m_lastWord;
+  const struct ElementType *m_lastType = nullptr;
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QFile>
+#include <QString>
+
+#include <cstddef>
+#include <vector>
+
+/// Hands out the lines of a file that holds one JSON member a line, block by block, so that a file of any size takes a few
+/// megabytes. Lines are trimmed; those of the enclosing object ("{", "}") and those of fewer than 2 characters are left out.
+class JsonLineReader {
+public:
+  /// A longer line is skipped and told as such: no element is that large.
+  static constexpr std::size_t LongestLine = std::size_t(64) << 20;
+
+  struct Line {
+    int number = 0; ///< 1-based
+    char *text = nullptr;
+    std::size_t size = 0;
+    std::size_t capacity = 0; ///< readable bytes from text on, at least size and the parser's padding
+    bool tooLong = false;     ///< text is only the beginning
+  };
+
+  explicit JsonLineReader(const QString &path);
+
+  bool open(QString *reason);
+  /// False at the end. The line lives until the next call; its bytes, and one before and one behind, may be overwritten.
+  bool next(Line &line);
+  double fraction() const; ///< of the file, 0 to 1
+  const QString &path() const { return m_path; }
+
+private:
+  bool nextRaw(Line &line);
+  bool fill();
+
+  QString m_path;
+  QFile m_file;
+  std::vector<char> m_buffer; ///< one spare byte in front, padding behind
+  std::size_t m_begin = 1;    ///< of what is not yet handed out
+  std::size_t m_end = 1;
+  int m_number = 0;
+};

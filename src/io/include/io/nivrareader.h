@@ -1,0 +1,55 @@
+#pragma once
+
+#include <base/finding.h>
+#include <io/nivraworkspace.h>
+#include <model/netdata.h>
+
+#include <QString>
+
+#include <map>
+
+/// Gas name to the properties of the gas.
+using GasTable = std::map<QString, element>;
+
+/// Fills a NetData from the files of a workspace. It knows no widgets: what it notices is returned, timings go to the log.
+class NivraReader {
+public:
+  struct Options {
+    QString includeTypes;      ///< regular expression, matched anywhere in type word or code; empty for all
+    QString includeProperties; ///< regular expression, matched anywhere in the name; empty for all
+    Progress progress;         ///< told the part of the file that is read
+  };
+  struct Result {
+    bool ok = false;        ///< the file could be read; faulty lines do not count
+    bool cancelled = false; ///< by the progress callback
+    qint64 properties = 0;  ///< taken over
+    Findings findings;
+  };
+
+  explicit NivraReader(NetData &net)
+      : m_net(net) {}
+
+  /// Geometry, then the scenario with its companion files where there is one, then the sub-results.
+  Result readTopoAndScen(const NivraWorkspace &workspace, const Options &options);
+  Result readTopoAndScenJsn(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
+                            const Options &options);
+  Result readGeomJsn(const QString &path, const Options &options);
+  /// scenarioPath without the JSON suffix; the companion files lie beside it.
+  Result readScenarioJsn(const QString &scenarioPath, const NivraScenario &scenario, const Options &options);
+  /// Set points: a list of property, value and unit per element name. Two threads parse, the result is as the lines say.
+  Result readScenariofileJsn(const QString &path, const Options &options);
+  Result readGasJsn(const QString &path);
+  /// Values per element name, such as gas percentages and results; elements are never made.
+  Result readGasParmsJsn(const QString &path, const Options &options);
+  Result readResultsJsn(const QString &path, const Options &options);
+
+  const GasTable &gases() const { return m_gases; }
+
+private:
+  Result readValues(const QString &path, const Options &options);
+  void readCompanions(const QString &base, const NivraScenario &scenario, const Options &options, Result &result);
+  void readGas(const QString &base, const NivraScenario &scenario, Result &result);
+
+  NetData &m_net;
+  GasTable m_gases;
+};

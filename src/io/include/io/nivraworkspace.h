@@ -1,0 +1,64 @@
+#pragma once
+
+#include <base/finding.h>
+#include <io/nivragasparams.h>
+#include <io/nivrascenario.h>
+
+#include <QJsonObject>
+#include <QString>
+#include <QVector>
+
+/// The directory tree of a model, resolved from a geometry or scenario file: root, cases, scenarios. The last case and the
+/// last scenario are the current ones.
+class NivraWorkspace {
+public:
+  struct Case {
+    QString name; ///< of the case directory
+    QString baseName;
+    QString geometryFile; ///< always ending in ".geom"; the JSON form has a further suffix
+    QString configFile;
+    QString workDir; ///< as configured
+    bool flag = false;
+    QJsonObject properties;
+    QVector<NivraScenario> scenarios;
+
+    void setFilesFromBaseName(const QString &base);
+  };
+
+  /// Without a case when the path yields no workspace; the reason is logged.
+  static NivraWorkspace fromFile(const QString &path);
+
+  bool isValid() const { return !m_cases.isEmpty(); }
+  const QString &root() const { return m_root; }
+  bool isJson() const { return m_json; }
+  const QVector<Case> &cases() const { return m_cases; }
+  const Case *currentCase() const { return m_cases.isEmpty() ? nullptr : &m_cases.last(); }
+  /// Null when no scenario was added, even an absent one; see hasScenario().
+  const NivraScenario *currentScenario() const;
+  bool hasScenario() const;
+
+  QString caseDirectory() const;
+  QString geometryPath() const;
+  QString scenarioDirectory() const; ///< empty without a scenario
+  QString scenarioPath() const;      ///< empty without a scenario
+  /// In the case directory when a case is open, the bare name otherwise.
+  QString filePath(const QString &name) const;
+
+  void addScenario(const QString &directoryName);
+
+  /// Of the current case: 0, or -1 when the file could not be opened.
+  int readCaseConfiguration(Findings &findings);
+  /// Of the current scenario: the unified form, else the text form. The configured directory name is checked against the
+  /// actual one, which wins, unless skipWorkDirCheck.
+  void readScenarioConfiguration(NivraGasParams &gas, Findings &findings, bool skipWorkDirCheck = false);
+
+private:
+  void findCaseFiles();
+  void readUnifiedConfiguration(const QString &directory);
+  void readTextConfiguration(const QString &path, NivraGasParams &gas, Findings &findings);
+  void checkScenarioDirectory(const QString &actualName, Findings &findings);
+
+  QString m_root;
+  bool m_json = false;
+  QVector<Case> m_cases;
+};

@@ -1,0 +1,248 @@
+#include "elementbuilder.h"
+
+#include <base/nivramsg.h>
+#include <io/nivrareader.h>
+
+#include <QElapsedTimer>
+#include <QFileInfo>
+
+namespace {
+
+constexpr double Milli = 1e-3;
+constexpr int LinesBetweenProgress = 1000;
+
+QString seconds(const QElapsedTimer &timer) {
+  return QString::number(static_cast<double>(timer.elapsed()) * Milli);
+}
+
+QString decoded(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+/// ".jsn" is the suffix; the longer ".json" is taken where only that is there.
+QString jsonPath(const QString &textPath) {
+  const QString path = textPath + QStringLiteral(".jsn");
+  const QString longer = textPath + QStringLiteral(".json");
+  return !QFileInfo::exists(path) && QFileInfo::exists(longer) ? longer : path;
+}
+
+NivraReader::Result failure(const QString &text) {
+  NivraReader::Result result;
+  result.findings.push_back({Finding::Severity::Critical, QString(), 0, text, text});
+  return result;
+}
+
+void append(NivraReader::Result &result, NivraReader::Result &&part) {
+  result.cancelled = result.cancelled || part.cancelled;
+  result.properties += part.properties;
+  result.findings.insert(result.findings.end(), std::make_move_iterator(part.findings.begin()),
+                         std::make_move_iterator(part.findings.end()));
+}
+
+/// Runs over the lines of a file whose members are objects and hands each element to take(element, line).
+template <typename Take>
+NivraReader::Result readObjects(const QString &path, const NivraReader::Options &options, ReadReport &report,
+                                const Take &take) {
+  JsonLineReader reader(path);
+  QString reason;
+  if (!reader.open(&reason))
+    return failure(reason);
+  NivraReader::Result result;
+  result.ok = true;
+  JsonLineParser parser;
+  JsonLineReader::Line line;
+  std::vector<JsonLineParser::Element> parsed;
+  std::size_t count = 0;
+  int sinceProgress = 0;
+  while (reader.next(line)) {
+    const char *fault = line.tooLong ? "the line is longer than 64 MB" : nullptr;
+    if (fault == nullptr)
+      fault = parser.parse(line, parsed, count);
+    for (std::size_t i = 0; fault == nullptr && i < count; ++i)
+      take(parsed[i], line.number);
+    if (fault != nullptr)
+      report.badLine(line, fault);
+    if (++sinceProgress >= LinesBetweenProgress && options.progress) {
+      sinceProgress = 0;
+      if (!options.progress(reader.fraction())) {
+        result.cancelled = true;
+        return result;
+      }
+    }
+  }
+  return result;
+}
+
+} // namespace
+
+NivraReader::Result NivraReader::readTopoAndScen(const NivraWorkspace &workspace, const Options &options) {
+  if (!workspace.isJson())
+    return failure(
+        QStringLiteral("readTopoAndScen: cannot read %1: only the JSON form of network files (.geom.jsn, .scen.jsn) "
+                       "can be read")
+            .arg(workspace.hasScenario() ? workspace.scenarioPath() : workspace.geometryPath()));
+  const NivraScenario scenario = workspace.hasScenario() ? *workspace.currentScenario() : NivraScenario();
+  return readTopoAndScenJsn(workspace.geometryPath(), workspace.scenarioPath(), scenario, options);
+}
+
+NivraReader::Result NivraReader::readTopoAndScenJsn(const QString &geometryPath, const QString &scenarioPath,
+                                                    const NivraScenario &scenario, const Options &options) {
+  NivraMsg::debug(QStringLiteral("starting  readTopoAndScenJsn with ") + geometryPath + QLatin1Char(' ') + scenarioPath);
+  Result result = readGeomJsn(jsonPath(geometryPath), options);
+  if (!result.ok) {
+    for (Finding &finding : result.findings)
+      finding.text = finding.box = QStringLiteral("readTopoAndScen: cannot read ") + finding.text;
+    return result;
+  }
+  if (result.cancelled || scenarioPath.isEmpty())
+    return result;
+  append(result, readScenarioJsn(scenarioPath, scenario, options));
+  const QString subResults = jsonPath(scenarioPath.section(QLatin1Char('.'), 0, -2) + QStringLiteral(".res.sub"));
+  if (!result.cancelled && QFileInfo::exists(subResults))
+    append(result, readResultsJsn(subResults, options));
+  return result;
+}
+
+NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options &options) {
+  NivraMsg::debug(QStringLiteral("starting readGeomJsn with incTypes=") + options.includeTypes +
+                  QStringLiteral(" and incProps=") + options.includeProperties);
+  QElapsedTimer timer;
+  timer.start();
+  ReadReport report(path);
+  ElementBuilder builder(options.includeTypes, options.includeProperties, report);
+  qint64 properties = 0;
+  element built;
+  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line) {
+    if (!builder.buildElement(parsed, line, built))
+      return;
+    properties += static_cast<qint64>(built.size());
+    m_net.addElement(std::move(built));
+  });
+  if (result.ok && !result.cancelled && m_net.isEmpty())
+    report.add("empty", 0, QStringLiteral("The file holds no element"));
+  result.properties = properties;
+  Findings found = report.take();
+  result.findings.insert(result.findings.end(), found.begin(), found.end());
+  NivraMsg::debug(QStringLiteral("### To read elements of geom.jsn file took %1s").arg(seconds(timer)));
+  NivraMsg::log(QStringLiteral("### To read elements of geom buffer took %1s").arg(seconds(timer)));
+  return result;
+}
+
+NivraReader::Result NivraReader::readValues(const QString &path, const Options &options) {
+  ReadReport report(path);
+  ElementBuilder builder(QString(), options.includeProperties, report);
+  qint64 properties = 0;
+  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line) {
+    element *target = m_net.element(decoded(parsed.name));
+    if (target == nullptr) {
+      report.add("unknown name", line,
+                 QStringLiteral("name not found, is no valid node or element: ") + decoded(parsed.name));
+      return;
+    }
+    for (Property &property : builder.properties(parsed, line)) {
+      target->set(property.key, std::move(property.value));
+      ++properties;
+    }
+  });
+  result.properties = properties;
+  Findings found = report.take();
+  result.findings.insert(result.findings.end(), found.begin(), found.end());
+  return result;
+}
+
+NivraReader::Result NivraReader::readResultsJsn(const QString &path, const Options &options) {
+  return readValues(path, options);
+}
+
+NivraReader::Result NivraReader::readGasParmsJsn(const QString &path, const Options &options) {
+  return readValues(path, options);
+}
+
+NivraReader::Result NivraReader::readGasJsn(const QString &path) {
+  ReadReport report(path);
+  ElementBuilder builder(QString(), QString(), report);
+  GasTable gases;
+  Result result = readObjects(path, Options(), report, [&](JsonLineParser::Element &parsed, int line) {
+    gases[decoded(parsed.name)] = element::fromProperties(builder.properties(parsed, line));
+  });
+  result.ok = result.ok && !gases.empty();
+  if (result.ok)
+    m_gases = std::move(gases);
+  Findings found = report.take();
+  result.findings.insert(result.findings.end(), found.begin(), found.end());
+  return result;
+}
+
+NivraReader::Result NivraReader::readScenarioJsn(const QString &scenarioPath, const NivraScenario &scenario,
+                                                 const Options &options) {
+  NivraMsg::debug(QStringLiteral("starting readScenarioJsn with ") + scenarioPath);
+  Result result = readScenariofileJsn(jsonPath(scenarioPath), options);
+  if (!result.ok) {
+    for (Finding &finding : result.findings) {
+      finding.severity = Finding::Severity::Warning;
+      finding.text = finding.box = QStringLiteral("readScen: cannot read scen file ") + finding.text;
+    }
+    return result;
+  }
+  const QString base = scenarioPath.section(QLatin1Char('.'), 0, -2);
+  if (!result.cancelled)
+    readGas(base, scenario, result);
+  if (!result.cancelled)
+    readCompanions(base, scenario, options, result);
+  return result;
+}
+
+void NivraReader::readGas(const QString &base, const NivraScenario &scenario, Result &result) {
+  const QString folder = QFileInfo(base).path();
+  const QString path =
+      scenario.gasFile.isEmpty() ? base + QStringLiteral(".gas") : folder + QLatin1Char('/') + scenario.gasFile;
+  Result gas = readGasJsn(path.endsWith(QStringLiteral(".jsn")) ? path : jsonPath(path));
+  if (!gas.ok) {
+    NivraMsg::logWarning(QStringLiteral("readScen: cannot find or read a gas file"));
+    for (Finding &finding : gas.findings) {
+      finding.severity = Finding::Severity::Warning;
+      finding.box.clear();
+    }
+  }
+  append(result, std::move(gas));
+}
+
+void NivraReader::readCompanions(const QString &base, const NivraScenario & /*scenario*/, const Options &options,
+                                 Result &result) {
+  struct Companion {
+    const char *suffix;
+    const char *success;
+    const char *failed;
+    const char *absent;
+    Result (NivraReader::*read)(const QString &, const Options &);
+  };
+  static const Companion companions[] = {
+      {".fix", "Fixes for scenario are loaded!", "Could not read .fix.jsn file", "There is no scenario fixes file",
+       &NivraReader::readScenariofileJsn},
+      {".res", "Results for scenario are loaded!", "Could not read .res.jsn file", "There is no scenario .res.jsn file",
+       &NivraReader::readResultsJsn},
+      {".gaspar", "Previously saved gas percentages etc. loaded!", "Could not read .gaspar.jsn file",
+       "Could not find .gaspar.jsn file\nUsually this happens if gas percentages etc. were not computed before.",
+       &NivraReader::readGasParmsJsn}};
+  for (const Companion &companion : companions) {
+    const QString path = jsonPath(base + QLatin1String(companion.suffix));
+    if (!QFileInfo::exists(path)) {
+      for (const QString &line : QString::fromLatin1(companion.absent).split(QLatin1Char('\n')))
+        NivraMsg::log(line);
+      continue;
+    }
+    Result part = (this->*companion.read)(path, options);
+    if (part.ok) {
+      NivraMsg::log(QLatin1String(companion.success));
+    } else {
+      NivraMsg::logWarning(QLatin1String(companion.failed));
+      for (Finding &finding : part.findings) {
+        finding.severity = Finding::Severity::Warning;
+        finding.box.clear();
+      }
+    }
+    append(result, std::move(part));
+    if (result.cancelled)
+      return;
+  }
+}

@@ -1,0 +1,62 @@
+#include <base/nivramsg.h>
+#include <io/nivrascenario.h>
+
+#include <QJsonValue>
+
+namespace {
+
+struct Named {
+  const char *key;
+  QString NivraScenario::*field;
+};
+
+using S = NivraScenario;
+
+const Named Texts[] = {{"workDir", &S::workDir},
+                       {"scenFile", &S::scenFile},
+                       {"gasFile", &S::gasFile},
+                       {"comprDatabase", &S::comprDatabase},
+                       {"pyFile", &S::pyFile},
+                       {"logFile", &S::logFile},
+                       {"resRoot", &S::resRoot},
+                       {"statusFile", &S::statusFile},
+                       {"NivraVersion_used", &S::version}};
+
+void logMissing(const char *key) {
+  NivraMsg::log(QStringLiteral("NivraScenario::fromJson: key ") + QLatin1String(key) + QStringLiteral(" does not exist"));
+}
+
+} // namespace
+
+bool NivraScenario::isAbsent() const {
+  return workDir.isEmpty() || workDir == QLatin1String("EMPTY") || workDir == QLatin1String(".");
+}
+
+void NivraScenario::fromJson(const QJsonObject &object) {
+  for (const auto &[key, field] : Texts) {
+    const auto member = object.constFind(QLatin1String(key));
+    if (member == object.constEnd())
+      logMissing(key);
+    else
+      this->*field = member->toString(this->*field);
+  }
+  const auto general = object.constFind(QLatin1String("GeneralProps"));
+  if (general == object.constEnd()) {
+    logMissing("GeneralProps");
+    return;
+  }
+  const QJsonObject properties = general->toObject();
+  for (auto property = properties.begin(); property != properties.end(); ++property)
+    generalProps.insert(property.key(), property.value().toVariant().toString());
+}
+
+QJsonObject NivraScenario::toJson() const {
+  QJsonObject object;
+  for (const auto &[key, field] : Texts)
+    object.insert(QLatin1String(key), this->*field);
+  QJsonObject general;
+  for (auto property = generalProps.begin(); property != generalProps.end(); ++property)
+    general.insert(property.key(), property.value());
+  object.insert(QStringLiteral("GeneralProps"), general);
+  return object;
+}

@@ -1,0 +1,37 @@
+#include "readreport.h"
+
+#include <algorithm>
+
+void ReadReport::add(const char *kind, int line, const QString &text, const QString &box) {
+  int &count = m_counts[QString::fromLatin1(kind)];
+  if (++count <= KeptOfAKind)
+    m_findings.push_back({Finding::Severity::Warning, m_file, line, text, box});
+}
+
+QString ReadReport::quoted(const JsonLineReader::Line &line) {
+  constexpr std::size_t Longest = 200;
+  QString quote = QString::fromUtf8(line.text, static_cast<int>(std::min(line.size, Longest)));
+  for (QChar &c : quote) {
+    if (!c.isPrint())
+      c = QChar(QChar::ReplacementCharacter);
+  }
+  return line.size > Longest ? quote + QStringLiteral(" ...") : quote;
+}
+
+void ReadReport::badLine(const JsonLineReader::Line &line, const char *reason) {
+  const QString quote = quoted(line);
+  add(BadLine, line.number,
+      QStringLiteral("!!!!!!!!!!!!! Problem with JSON at %1: %2").arg(quote, QString::fromUtf8(reason)),
+      QStringLiteral("!!!! Severe JSON problem with line: ") + quote + QStringLiteral("\nCheck console for info!"));
+}
+
+Findings ReadReport::take() {
+  for (auto kind = m_counts.begin(); kind != m_counts.end(); ++kind) {
+    if (kind.value() > KeptOfAKind)
+      m_findings.push_back(
+          {Finding::Severity::Warning, m_file, 0,
+           QStringLiteral("... and %1 more of this kind (%2)").arg(kind.value() - KeptOfAKind).arg(kind.key()), QString()});
+  }
+  m_counts.clear();
+  return std::move(m_findings);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QStringList>
+
+struct NivraGasParams;
+struct NivraScenario;
+
+/// The positional fields of the text scenario configurations.
+namespace ScenarioFields {
+
+constexpr int Count = 34; ///< positional fields; what follows in the one-line form are keys with values
+
+/// Fewer fields fill fewer members. An unreadable number gives 0.
+void apply(const QStringList &fields, NivraScenario &scenario, NivraGasParams &gas);
+
+} // namespace ScenarioFields

@@ -1,0 +1,247 @@
+#include <base/generalsettings.h>
+#include <base/nivramsg.h>
+#include <io/nivraworkspace.h>
+#include <support/nivratest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace {
+
+void write(const QString &path, const QByteArray &text) {
+  QDir().mkpath(QFileInfo(path).path());
+  QFile file(path);
+  file.open(QIODevice::WriteOnly);
+  file.write(text);
+}
+
+QStringList boxes(const Findings &findings) {
+  QStringList list;
+  for (const Finding &finding : findings) {
+    if (!finding.box.isEmpty())
+      list.append(finding.box);
+  }
+  return list;
+}
+
+} // namespace
+
+class TestNivraWorkspace : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init();
+  void resolves_data();
+  void resolves();
+  void refuses_data();
+  void refuses();
+  void caseConfiguration_data();
+  void caseConfiguration();
+  void oneLineScenarioConfiguration();
+  void multiLineScenarioConfiguration();
+  void unifiedScenarioConfiguration();
+  void oddScenarioConfigurations_data();
+  void oddScenarioConfigurations();
+  void gasParametersKeepWhatIsNotGiven();
+
+private:
+  QString path(const QString &name) const { return m_folder->filePath(name); }
+  NivraWorkspace scenario() const { return NivraWorkspace::fromFile(path(QStringLiteral("CASE/S1/run.scen.jsn"))); }
+
+  std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TestNivraWorkspace::init() {
+  m_folder = std::make_unique<QTemporaryDir>();
+  write(path(QStringLiteral("CASE/net.geom.jsn")), "{\n}\n");
+  write(path(QStringLiteral("CASE/S1/run.scen.jsn")), "{\n}\n");
+}
+
+void TestNivraWorkspace::resolves_data() {
+  QTest::addColumn<QString>("file");
+  QTest::addColumn<bool>("json");
+  QTest::addColumn<bool>("scenario");
+  QTest::newRow("geometry") << QStringLiteral("CASE/net.geom.jsn") << true << false;
+  QTest::newRow("longer suffix") << QStringLiteral("CASE/net.geom.json") << true << false;
+  QTest::newRow("text") << QStringLiteral("CASE/net.geom") << false << false;
+  QTest::newRow("scenario") << QStringLiteral("CASE/S1/run.scen.jsn") << true << true;
+}
+
+void TestNivraWorkspace::resolves() {
+  QFETCH(QString, file);
+  QFETCH(bool, json);
+  QFETCH(bool, scenario);
+  write(path(file), "{\n}\n");
+  const NivraWorkspace workspace = NivraWorkspace::fromFile(path(file));
+  QVERIFY(workspace.isValid());
+  QCOMPARE(workspace.root(), m_folder->path());
+  QCOMPARE(workspace.isJson(), json);
+  QCOMPARE(workspace.hasScenario(), scenario);
+  QCOMPARE(workspace.currentCase()->name, QStringLiteral("CASE"));
+  QCOMPARE(workspace.geometryPath(), path(QStringLiteral("CASE/net.geom")));
+  QCOMPARE(workspace.currentCase()->configFile, QStringLiteral("net.geom.cfg"));
+  QCOMPARE(workspace.filePath(QStringLiteral("vfd.csv")), path(QStringLiteral("CASE/vfd.csv")));
+  QCOMPARE(workspace.scenarioPath(), scenario ? path(QStringLiteral("CASE/S1/run.scen")) : QString());
+}
+
+void TestNivraWorkspace::refuses_data() {
+  QTest::addColumn<QString>("file");
+  QTest::addColumn<QString>("message");
+  QTest::newRow("format") << QStringLiteral("CASE/net.geo")
+                          << QStringLiteral("NivraWorkspace::fromScenFile(): invalid file format");
+  QTest::newRow("case of the suffix") << QStringLiteral("CASE/net.GEOM")
+                                      << QStringLiteral("NivraWorkspace::fromScenFile(): invalid file format");
+  QTest::newRow("missing") << QStringLiteral("CASE/none.geom")
+                           << QStringLiteral("NivraWorkspace::fromFile(): File does not exist");
+  QTest::newRow("folder") << QStringLiteral("FOLDER.geom")
+                          << QStringLiteral("NivraWorkspace::fromFile(): File does not exist");
+}
+
+void TestNivraWorkspace::refuses() {
+  QFETCH(QString, file);
+  QFETCH(QString, message);
+  QDir().mkpath(path(QStringLiteral("FOLDER.geom")));
+  const NivraMsg::Recorder recorder;
+  QVERIFY(!NivraWorkspace::fromFile(path(file)).isValid());
+  QCOMPARE(recorder.lines().size(), 1);
+  QVERIFY2(recorder.lines().first().startsWith(message), qPrintable(recorder.lines().first()));
+}
+
+void TestNivraWorkspace::caseConfiguration_data() {
+  QTest::addColumn<QByteArray>("text");
+  QTest::addColumn<bool>("flag");
+  QTest::addColumn<int>("findings");
+  QTest::newRow("whole") << QByteArray("geometry x y\r\n CASE \r\nnet.geom\r\n1\r\n{\"a\":\"b\"}\r\n") << true << 0;
+  QTest::newRow("three lines") << QByteArray("x\nCASE\nnet.geom") << false << 0;
+  QTest::newRow("other directory") << QByteArray("x\nELSEWHERE\nnet.geom\n") << false << 1;
+  QTest::newRow("one line") << QByteArray("x") << false << 1;
+  QTest::newRow("broken properties") << QByteArray("x\nCASE\nnet.geom\n0\n{a}") << false << 1;
+  QTest::newRow("binary") << QByteArray("\x00\xff\n\xfe\n", 5) << false << 1;
+}
+
+void TestNivraWorkspace::caseConfiguration() {
+  QFETCH(QByteArray, text);
+  QFETCH(bool, flag);
+  QFETCH(int, findings);
+  write(path(QStringLiteral("CASE/net.geom.cfg")), text);
+  NivraWorkspace workspace = scenario();
+  Findings found;
+  QCOMPARE(workspace.readCaseConfiguration(found), 0);
+  QCOMPARE(int(found.size()), findings);
+  QCOMPARE(workspace.currentCase()->workDir, QStringLiteral("CASE"));
+  QCOMPARE(workspace.currentCase()->flag, flag);
+
+  QFile::remove(path(QStringLiteral("CASE/net.geom.cfg")));
+  Findings missing;
+  QCOMPARE(workspace.readCaseConfiguration(missing), -1);
+  QCOMPARE(boxes(missing),
+           QStringList{QStringLiteral("Case config file does not exist: ") + path(QStringLiteral("CASE/net.geom.cfg"))});
+  GeneralSettings::instance().setValue(QStringLiteral("PELKA mode"), QStringLiteral("on"));
+  Findings quiet;
+  workspace.readCaseConfiguration(quiet);
+  GeneralSettings::instance().reset();
+  QCOMPARE(quiet.size(), std::size_t(1));
+  QVERIFY(boxes(quiet).isEmpty());
+}
+
+void TestNivraWorkspace::oneLineScenarioConfiguration() {
+  QStringList fields;
+  for (int i = 0; i < 34; ++i)
+    fields.append(QString::number(i));
+  fields[0] = QStringLiteral("OTHER");
+  fields[8] = QStringLiteral("is1");
+  write(path(QStringLiteral("CASE/S1/run.scen.cfg")),
+        (fields.join(QStringLiteral("  ")) +
+         QStringLiteral(" NIVRA_ntype_HTC=3 REG_PAR_eps=0.5 my=key NivraVersion_used=7 stop a=b"))
+            .toUtf8());
+  NivraWorkspace workspace = scenario();
+  NivraGasParams gas;
+  Findings findings;
+  workspace.readScenarioConfiguration(gas, findings);
+  const NivraScenario &read = *workspace.currentScenario();
+  QCOMPARE(read.workDir, QStringLiteral("S1"));
+  QCOMPARE(boxes(findings),
+           QStringList{QStringLiteral(
+               "Directory of scenario and config value for it did not match!\nCorrected! Perform a save yourself!")});
+  QCOMPARE(read.gasFile, QStringLiteral("2"));
+  QCOMPARE(read.comprDatabase, QStringLiteral("31"));
+  QCOMPARE(read.statusFile, QStringLiteral("32"));
+  QCOMPARE(read.version, QStringLiteral("7"));
+  QCOMPARE(read.generalProps, (QMap<QString, QString>{{QStringLiteral("my"), QStringLiteral("key")}}));
+  QVERIFY(gas.ntype_transient && !gas.ntype_steady);
+  QCOMPARE(gas.tsoil, 22.0);
+  QCOMPARE(gas.tamb, 33.0);
+  QCOMPARE(gas.positional.field24, 24.0);
+  QCOMPARE(gas.ntype_HTC, 3);
+  QCOMPARE(gas.REG_PAR_eps, 0.5);
+}
+
+void TestNivraWorkspace::multiLineScenarioConfiguration() {
+  write(path(QStringLiteral("CASE/S1/run.scen.cfg")), "S1\nrun.scen\nH2 mix.gas\n\nx\n1");
+  NivraWorkspace workspace = scenario();
+  NivraGasParams gas;
+  Findings findings;
+  workspace.readScenarioConfiguration(gas, findings);
+  QVERIFY(findings.empty());
+  QCOMPARE(workspace.currentScenario()->gasFile, QStringLiteral("H2 mix.gas"));
+  QCOMPARE(gas.ntype_gasLaw, 0); // an unreadable number
+  QCOMPARE(gas.ntype_hydraulicsFormula, 1);
+  QCOMPARE(gas.ntype_gasMix, 1);
+}
+
+void TestNivraWorkspace::unifiedScenarioConfiguration() {
+  write(path(QStringLiteral("CASE/S1/solverconfig.jsn")),
+        "\xEF\xBB\xBF{\"ntype_gasLaw\":2,\"ntype_transient\":1,\"source\":{\"tamb\":\"file\"}}");
+  write(path(QStringLiteral("CASE/S1/scenconfig.jsn")), R"({"workDir":"S1","gasFile":"a.gas","GeneralProps":{"k":"v"}})");
+  NivraWorkspace workspace = scenario();
+  NivraGasParams gas;
+  Findings findings;
+  workspace.readScenarioConfiguration(gas, findings);
+  QVERIFY(findings.empty());
+  QCOMPARE(gas.ntype_gasLaw, 2);
+  QVERIFY(!gas.ntype_transient); // a number is no truth value
+  QCOMPARE(gas.source.value(QStringLiteral("tamb")), QStringLiteral("file"));
+  const NivraScenario &read = *workspace.currentScenario();
+  QCOMPARE(read.gasFile, QStringLiteral("a.gas"));
+  QCOMPARE(read.logFile, QStringLiteral("nivra_run.log"));
+  QCOMPARE(read.scenFile, QStringLiteral("run.scen"));
+  NivraScenario copy;
+  copy.fromJson(read.toJson());
+  QCOMPARE(copy.toJson(), read.toJson());
+}
+
+void TestNivraWorkspace::oddScenarioConfigurations_data() {
+  QTest::addColumn<QByteArray>("text");
+  QTest::newRow("empty") << QByteArray();
+  QTest::newRow("one word") << QByteArray("S1");
+  QTest::newRow("ten thousand fields") << QByteArray("S1 ") + QByteArray("x ").repeated(10000) + "NivraVersion_used=1";
+  QTest::newRow("ten thousand lines") << QByteArray("S1\n") + QByteArray("9\n").repeated(10000);
+  QTest::newRow("binary") << QByteArray("\x00\x01\xff\n\x00", 5);
+}
+
+void TestNivraWorkspace::oddScenarioConfigurations() {
+  QFETCH(QByteArray, text);
+  write(path(QStringLiteral("CASE/S1/run.scen.cfg")), text);
+  NivraWorkspace workspace = scenario();
+  NivraGasParams gas;
+  Findings findings;
+  workspace.readScenarioConfiguration(gas, findings);
+  QCOMPARE(workspace.currentScenario()->workDir, QStringLiteral("S1"));
+  QVERIFY(workspace.hasScenario());
+}
+
+void TestNivraWorkspace::gasParametersKeepWhatIsNotGiven() {
+  NivraGasParams gas;
+  gas.fromJson({});
+  QCOMPARE(gas.ntype_gasLaw, 1);
+  gas.fromJson({{QStringLiteral("tamb"), QStringLiteral("warm")},
+                {QStringLiteral("CompThermo"), 1e300},
+                {QStringLiteral("ntype_gasMix"), 1.5}});
+  QCOMPARE(gas.tamb, 285.15);
+  QCOMPARE(gas.CompThermo, 0);
+  QCOMPARE(gas.ntype_gasMix, 1);
+  QCOMPARE(NivraGasParams::names(QStringLiteral("ntype_gasLaw")).value(gas.ntype_gasLaw), QStringLiteral("dc92"));
+}
+
+NIVRA_TEST(TestNivraWorkspace);
+#include "tst_nivraworkspace.moc"
