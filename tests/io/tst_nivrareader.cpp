@@ -250,8 +250,9 @@ void TestNivraReader::companionFiles() {
   scenario.gasFile = QStringLiteral("own.gas");
   NivraReader reader(net);
   QStringList log;
-  const auto connection = connect(&NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
-                                  [&](const QString &text) { log.append(text); });
+  const auto connection = connect(
+      &NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
+      [&](const QString &text) { log.append(text); }, Qt::DirectConnection);
   const auto result = reader.readScenarioJsn(base + QStringLiteral(".scen"), scenario, {});
   disconnect(connection);
   const element &node = *net.element(QStringLiteral("A"));

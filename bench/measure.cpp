@@ -1,0 +1,63 @@
+#include "measure.h"
+
+#include "networkgenerator.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <set>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+/// A line "NAME:   123 kB" of /proc/self/status, in MB.
+double statusMB(const char *name) {
+  QFile file(QStringLiteral("/proc/self/status"));
+  if (!file.open(QIODevice::ReadOnly))
+    return 0.0;
+  for (const QByteArray &line : file.readAll().split('\n')) {
+    if (line.startsWith(name))
+      return line.mid(static_cast<int>(qstrlen(name)) + 1).trimmed().split(' ').first().toDouble() / 1024.0;
+  }
+  return 0.0;
+}
+
+void forgetPeak() {
+  QFile file(QStringLiteral("/proc/self/clear_refs"));
+  if (file.open(QIODevice::WriteOnly))
+    file.write("5");
+}
+
+} // namespace
+
+QString Measure::network(int elements) {
+  static const QTemporaryDir root;
+  static std::set<int> made;
+  const QString folder = root.filePath(QStringLiteral("n%1").arg(elements));
+  if (made.insert(elements).second)
+    NetworkGenerator::write(folder, elements, 1);
+  return NetworkGenerator::geometryFile(folder);
+}
+
+double Measure::peakMemory(const std::function<void()> &work) {
+  int ends[2];
+  if (pipe(ends) != 0)
+    return -1.0;
+  const pid_t child = fork();
+  if (child == 0) {
+    forgetPeak();
+    const double before = statusMB("VmRSS");
+    work();
+    const double added = statusMB("VmHWM") - before;
+    const ssize_t written = write(ends[1], &added, sizeof added);
+    _exit(written == sizeof added ? 0 : 1);
+  }
+  close(ends[1]);
+  double added = -1.0;
+  const bool got = child > 0 && read(ends[0], &added, sizeof added) == sizeof added;
+  close(ends[0]);
+  if (child > 0)
+    waitpid(child, nullptr, 0);
+  return got ? added : -1.0;
+}
