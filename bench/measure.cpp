@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <malloc.h>
 #include <set>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -44,6 +45,7 @@ double Measure::peakMemory(const std::function<void()> &work) {
   int ends[2];
   if (pipe(ends) != 0)
     return -1.0;
+  malloc_trim(0); // or the child would fill what the parent has freed
   const pid_t child = fork();
   if (child == 0) {
     forgetPeak();

@@ -26,7 +26,7 @@ namespace {
 
 constexpr std::size_t PathCapacity = 4096;
 char markerPath[PathCapacity];
-constexpr std::size_t StackSize = 256 * 1024; // the call stack writer reads debugging information on it
+constexpr std::size_t StackSize = std::size_t(256) * 1024; // the call stack writer reads debugging information on it
 alignas(16) char handlerStack[StackSize];
 
 void put(const char *text) {

@@ -30,7 +30,7 @@ bool redirect(FILE *stream, int descriptor, int file) {
 } // namespace
 
 QString LogFiles::directory() {
-  const QString path = QDir(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)).absolutePath();
+  QString path = QDir(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)).absolutePath();
   QDir().mkpath(path);
   return path;
 }

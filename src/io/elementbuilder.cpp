@@ -2,6 +2,9 @@
 
 #include <model/elementtypes.h>
 
+#include <algorithm>
+#include <numeric>
+
 namespace {
 
 struct Keys {
@@ -86,6 +89,26 @@ std::vector<Property> &ElementBuilder::properties(JsonLineParser::Element &parse
   return m_properties;
 }
 
+void ElementBuilder::sortAsBefore(std::vector<Property> &list) {
+  const auto isSorted = [&] {
+    for (std::size_t i = 1; i < m_order.size(); ++i) {
+      if (!(list[m_order[i - 1]].key < list[m_order[i]].key))
+        return false;
+    }
+    return true;
+  };
+  if (m_order.size() != list.size() || !isSorted()) {
+    m_order.resize(list.size());
+    std::iota(m_order.begin(), m_order.end(), std::size_t(0));
+    std::stable_sort(m_order.begin(), m_order.end(),
+                     [&](std::size_t a, std::size_t b) { return list[a].key < list[b].key; });
+  }
+  m_sorted.clear();
+  for (const std::size_t position : m_order)
+    m_sorted.push_back(std::move(list[position]));
+  list.swap(m_sorted);
+}
+
 bool ElementBuilder::buildElement(JsonLineParser::Element &parsed, int line, element &built) {
   std::string_view word;
   for (const JsonLineParser::Value &value : parsed.values) {
@@ -111,6 +134,7 @@ bool ElementBuilder::buildElement(JsonLineParser::Element &parsed, int line, ele
   list.push_back({keys().name, PropertyText(parsed.name)}); // the last of equal names wins
   list.push_back({keys().type, PropertyText(type->code)});
   std::vector<PropertyKey> duplicates;
+  sortAsBefore(list);
   built = element::fromProperties(list, &duplicates);
   for (const PropertyKey duplicate : duplicates) {
     if (duplicate != keys().name && duplicate != keys().type)

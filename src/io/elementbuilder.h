@@ -35,8 +35,13 @@ private:
   ReadReport &m_report;
   QRegularExpression m_includeTypes;
   QRegularExpression m_includeProperties;
-  // Elements of one type mostly spell the same properties in the same order, so that position tells the key.
+  void sortAsBefore(std::vector<Property> &list);
+
+  // Elements of one type mostly spell the same properties in the same order, so that position tells the key, and the order
+  // that sorted the last element sorts this one.
   std::vector<Key> m_keys;
+  std::vector<std::size_t> m_order;
+  std::vector<Property> m_sorted;
   std::vector<Property> m_properties;
   std::string m_lastWord;
   const struct ElementType *m_lastType = nullptr;

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-element element::fromProperties(std::vector<Property> properties, std::vector<PropertyKey> *duplicates) {
+element element::fromProperties(std::vector<Property> &properties, std::vector<PropertyKey> *duplicates) {
   const auto before = [](const Property &a, const Property &b) {
     return a.key < b.key;
   };
@@ -20,6 +20,7 @@ element element::fromProperties(std::vector<Property> properties, std::vector<Pr
       result.m_properties.push_back(std::move(property));
     }
   }
+  properties.clear();
   return result;
 }
 

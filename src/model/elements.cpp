@@ -162,13 +162,20 @@ element &elements::at(const QString &id) const {
   return *found;
 }
 
-element &elements::insert(const PropertyText &id, element value) {
+element *elements::tryInsert(const PropertyText &id, element &&value) {
   const auto [position, inserted] = m_storage->entries.insert(Entry{id, element()});
   if (!inserted)
-    throw elements_insert_exception(m_name, id.toString(), value, position->value);
+    return nullptr;
   position->value = std::move(value);
   m_storage->sorted = false;
-  return position->value;
+  return &position->value;
+}
+
+element &elements::insert(const PropertyText &id, element value) {
+  element *inserted = tryInsert(id, std::move(value));
+  if (inserted == nullptr)
+    throw elements_insert_exception(m_name, id.toString(), value, *find(id)); // NOLINT(bugprone-use-after-move): untouched
+  return *inserted;
 }
 
 bool elements::erase(const QString &id) {

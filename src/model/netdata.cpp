@@ -102,12 +102,12 @@ NetData::EleType NetData::addElement(::element added) {
   }
   const PropertyText id = *name;
   elements &target = *collection->second;
-  if (target.find(id) != nullptr) {
-    // Asked first rather than caught: the exception would print both elements for every duplicate of a large file.
+  // Asked rather than caught: the exception would print both elements for every duplicate of a large file.
+  if (target.tryInsert(id, std::move(added)) == nullptr) {
     NivraMsg::logWarning(QStringLiteral("Overwriting existing element ") + id.toString());
     target.erase(id.toString());
+    target.tryInsert(id, std::move(added)); // NOLINT(bugprone-use-after-move): untouched so far
   }
-  target.insert(id, std::move(added));
   return kind;
 }
 

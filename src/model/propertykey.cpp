@@ -8,18 +8,6 @@
 #include <unordered_map>
 #include <vector>
 
-/// All spellings of one name share its group; the groups stand in alphabetical order, spaced so that a new one mostly fits
-/// between its neighbours without renumbering the others.
-struct PropertyKey::Spelling {
-  struct Group {
-    unsigned long long rank = 0;
-  };
-
-  std::string utf8;
-  QString name;
-  Group *group = nullptr;
-};
-
 namespace {
 
 struct CaseInsensitiveLess {
@@ -58,7 +46,7 @@ public:
 
 private:
   struct NamedGroup {
-    std::unique_ptr<Spelling::Group> group;
+    std::unique_ptr<PropertyKey::Group> group;
     const Spelling *representative = nullptr;
   };
   using Groups = std::map<QString, NamedGroup, CaseInsensitiveLess>;
@@ -74,7 +62,7 @@ private:
     spelling->name = QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
     auto [position, isNew] = m_groups.try_emplace(spelling->name);
     if (isNew) {
-      position->second.group = std::make_unique<Spelling::Group>();
+      position->second.group = std::make_unique<PropertyKey::Group>();
       position->second.representative = spelling.get();
       rank(position);
     }
@@ -128,12 +116,4 @@ QString PropertyKey::name() const {
 
 std::string_view PropertyKey::utf8() const noexcept {
   return m_spelling == nullptr ? std::string_view() : std::string_view(m_spelling->utf8);
-}
-
-const void *PropertyKey::group() const noexcept {
-  return m_spelling == nullptr ? nullptr : m_spelling->group;
-}
-
-unsigned long long PropertyKey::rank() const noexcept {
-  return m_spelling == nullptr ? 0 : m_spelling->group->rank;
 }

@@ -1,23 +1,12 @@
 #include <model/propertytext.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 #include <limits>
 #include <string>
 
 namespace {
-
-struct HeapText {
-  char *data;
-  std::uint32_t size;
-};
-
-HeapText heapText(const char *bytes) noexcept {
-  HeapText text{};
-  std::memcpy(&text.data, bytes, sizeof text.data);
-  std::memcpy(&text.size, bytes + sizeof text.data, sizeof text.size);
-  return text;
-}
 
 bool isBlank(char c) noexcept {
   return c == ' ' || (c >= '\t' && c <= '\r');
@@ -41,23 +30,9 @@ PropertyText::PropertyText(const PropertyText &other) {
     std::memcpy(m_bytes, other.m_bytes, sizeof m_bytes);
 }
 
-PropertyText::PropertyText(PropertyText &&other) noexcept {
-  std::memcpy(m_bytes, other.m_bytes, sizeof m_bytes);
-  other.m_bytes[InlineCapacity] = 0;
-}
-
 PropertyText &PropertyText::operator=(const PropertyText &other) {
   if (this != &other)
     *this = PropertyText(other);
-  return *this;
-}
-
-PropertyText &PropertyText::operator=(PropertyText &&other) noexcept {
-  if (this != &other) {
-    release();
-    std::memcpy(m_bytes, other.m_bytes, sizeof m_bytes);
-    other.m_bytes[InlineCapacity] = 0;
-  }
   return *this;
 }
 
@@ -77,16 +52,12 @@ void PropertyText::assign(std::string_view utf8) {
   m_bytes[InlineCapacity] = static_cast<char>(HeapTag);
 }
 
-void PropertyText::release() noexcept {
-  if (onHeap())
-    delete[] heapText(m_bytes).data;
-}
-
-std::string_view PropertyText::utf8() const noexcept {
-  if (!onHeap())
-    return {m_bytes, static_cast<std::size_t>(m_bytes[InlineCapacity])};
-  const HeapText text = heapText(m_bytes);
-  return {text.data, text.size};
+std::string_view PropertyText::heapText() const noexcept {
+  const char *data = nullptr;
+  std::uint32_t size = 0;
+  std::memcpy(&data, m_bytes, sizeof data);
+  std::memcpy(&size, m_bytes + sizeof data, sizeof size);
+  return {data, size};
 }
 
 QString PropertyText::toString() const {

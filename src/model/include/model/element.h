@@ -17,9 +17,9 @@ class element {
 public:
   using const_iterator = std::vector<Property>::const_iterator;
 
-  /// Sorts and takes over properties in any order; of equal names the last value wins and its key is added to
-  /// duplicates when given.
-  static element fromProperties(std::vector<Property> properties, std::vector<PropertyKey> *duplicates = nullptr);
+  /// Moves properties in any order out of the vector, which the caller may use again; of equal names the last value wins
+  /// and its key is added to duplicates when given.
+  static element fromProperties(std::vector<Property> &properties, std::vector<PropertyKey> *duplicates = nullptr);
 
   /// Unchecked lookup: null when there is no such property. The pointer lives until the element is changed.
   const PropertyText *find(PropertyKey key) const noexcept;

@@ -43,6 +43,9 @@ public:
   element &insert(const PropertyText &id, element value);
   element &insert(const QString &id, element value) { return insert(PropertyText(id), std::move(value)); }
 
+  /// As insert(); null, and the value untouched, when the name exists.
+  element *tryInsert(const PropertyText &id, element &&value);
+
   bool erase(const QString &id);
   /// Linear: erases every entry for which the predicate holds, asked in name order; returns how many.
   std::size_t eraseIf(const std::function<bool(const Entry &)> &predicate);

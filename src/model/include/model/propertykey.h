@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <string>
 #include <string_view>
 
 /// An interned property name. Names are one key regardless of case; a key remembers the spelling it was made with, so
@@ -9,7 +10,16 @@
 /// threads); looking one up does not.
 class PropertyKey {
 public:
-  struct Spelling;
+  /// All spellings of one name share its group; the groups stand in alphabetical order, spaced so that a new one mostly
+  /// fits between its neighbours without renumbering the others.
+  struct Group {
+    unsigned long long rank = 0;
+  };
+  struct Spelling {
+    std::string utf8;
+    QString name;
+    Group *group = nullptr;
+  };
 
   PropertyKey() = default; ///< the null key, equal to no interned one
 
@@ -33,8 +43,8 @@ public:
 private:
   explicit PropertyKey(const Spelling *spelling)
       : m_spelling(spelling) {}
-  const void *group() const noexcept;
-  unsigned long long rank() const noexcept;
+  const Group *group() const noexcept { return m_spelling == nullptr ? nullptr : m_spelling->group; }
+  unsigned long long rank() const noexcept { return m_spelling == nullptr ? 0 : m_spelling->group->rank; }
 
   const Spelling *m_spelling = nullptr;
 };

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,12 +18,22 @@ public:
   explicit PropertyText(std::string_view utf8);
   PropertyText(const QString &text); // NOLINT(google-explicit-constructor): a text is what it is
   PropertyText(const PropertyText &other);
-  PropertyText(PropertyText &&other) noexcept;
+  PropertyText(PropertyText &&other) noexcept { take(other); }
   PropertyText &operator=(const PropertyText &other);
-  PropertyText &operator=(PropertyText &&other) noexcept;
+  PropertyText &operator=(PropertyText &&other) noexcept {
+    if (this != &other) {
+      release();
+      take(other);
+    }
+    return *this;
+  }
   ~PropertyText() { release(); }
 
-  std::string_view utf8() const noexcept;
+  std::string_view utf8() const noexcept {
+    if (onHeap())
+      return heapText();
+    return {m_bytes, static_cast<std::size_t>(m_bytes[InlineCapacity])};
+  }
   QString toString() const;
   bool isEmpty() const noexcept { return utf8().empty(); }
 
@@ -39,7 +49,15 @@ private:
 
   bool onHeap() const noexcept { return static_cast<unsigned char>(m_bytes[InlineCapacity]) == HeapTag; }
   void assign(std::string_view utf8);
-  void release() noexcept;
+  std::string_view heapText() const noexcept;
+  void take(PropertyText &other) noexcept {
+    std::memcpy(m_bytes, other.m_bytes, sizeof m_bytes);
+    other.m_bytes[InlineCapacity] = 0;
+  }
+  void release() noexcept {
+    if (onHeap())
+      delete[] heapText().data();
+  }
 
   // Inline: text in the first bytes, its length in the last. Heap: a pointer, a 32-bit length, HeapTag in the last byte.
   alignas(8) char m_bytes[InlineCapacity + 1] = {};
