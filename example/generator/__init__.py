@@ -1,0 +1,1 @@
+"""Makes the example network DE_H2."""
