@@ -4,7 +4,6 @@
 #include <QRegularExpression>
 
 #include <cctype>
-#include <map>
 #include <vector>
 
 namespace {
@@ -48,20 +47,21 @@ bool isReference(const QString &propertyName) {
 /// What the findings pass must know of a property name, asked once per name rather than once per element.
 class PropertyNames {
 public:
-  enum Sort { Ordinary, Empty, Reference };
+  enum Sort : char { Unasked, Ordinary, Empty, Reference };
 
   Sort sort(PropertyKey key) {
-    const auto found = m_sorts.find(key.utf8().data());
-    if (found != m_sorts.end())
-      return found->second;
-    const QString name = key.name();
-    const Sort sort = name.trimmed().isEmpty() ? Empty : isReference(name) ? Reference : Ordinary;
-    m_sorts.emplace(key.utf8().data(), sort);
+    if (key.index() >= m_sorts.size())
+      m_sorts.resize(key.index() + 1, Unasked);
+    Sort &sort = m_sorts[key.index()];
+    if (sort == Unasked) {
+      const QString name = key.name();
+      sort = name.trimmed().isEmpty() ? Empty : isReference(name) ? Reference : Ordinary;
+    }
     return sort;
   }
 
 private:
-  std::map<const char *, Sort> m_sorts; // interned spellings have one address
+  std::vector<Sort> m_sorts; // by the index of the key
 };
 
 class FindingsPass {
@@ -99,6 +99,7 @@ private:
 
   void check(const elements::Entry &entry, const Property &property, std::vector<PropertyKey> &nameless) {
     switch (m_names.sort(property.key)) {
+    case PropertyNames::Unasked:
     case PropertyNames::Ordinary:
       return;
     case PropertyNames::Empty:
@@ -183,8 +184,11 @@ private:
   bool edgePasses(const element &edge) {
     if (!hasName(edge, "edge"))
       return false;
-    return edgeHas(edge, keys().node1) && edgeHas(edge, keys().node2) && endExists(edge, keys().node1) &&
-           endExists(edge, keys().node2) && endPasses(edge, keys().node1) && endPasses(edge, keys().node2);
+    if (!edgeHas(edge, keys().node1) || !edgeHas(edge, keys().node2))
+      return false;
+    element *node1 = end(edge, keys().node1);
+    element *node2 = node1 == nullptr ? nullptr : end(edge, keys().node2);
+    return node2 != nullptr && endPasses(edge, keys().node1, *node1) && endPasses(edge, keys().node2, *node2);
   }
 
   static bool edgeFails(const element &edge, const QString &reason) {
@@ -197,17 +201,19 @@ private:
     return edge.find(end) != nullptr || edgeFails(edge, QStringLiteral("Could not find property ") + end.name());
   }
 
-  bool endExists(const element &edge, PropertyKey end) const {
-    return m_net.nodes().find(*edge.find(end)) != nullptr ||
-           edgeFails(edge, QStringLiteral("Could not find ") + end.name() + QLatin1Char(' ') + edge.value(end));
+  element *end(const element &edge, PropertyKey key) const {
+    element *node = m_net.nodes().find(*edge.find(key));
+    if (node == nullptr)
+      edgeFails(edge, QStringLiteral("Could not find ") + key.name() + QLatin1Char(' ') + edge.value(key));
+    return node;
   }
 
-  bool endPasses(const element &edge, PropertyKey end) const {
-    if (nodePasses(*m_net.nodes().find(*edge.find(end))))
+  static bool endPasses(const element &edge, PropertyKey key, element &node) {
+    if (nodePasses(node))
       return true;
-    const QString word = end.name();
+    const QString word = key.name();
     return edgeFails(edge,
-                     word.at(0).toUpper() + word.mid(1) + QLatin1Char(' ') + edge.value(end) + QStringLiteral(" not ok"));
+                     word.at(0).toUpper() + word.mid(1) + QLatin1Char(' ') + edge.value(key) + QStringLiteral(" not ok"));
   }
 
   bool drivePasses(element &drive) {

@@ -59,6 +59,7 @@ private:
       return found->second.get();
     auto spelling = std::make_unique<Spelling>();
     spelling->utf8 = utf8;
+    spelling->index = m_spellings.size();
     spelling->name = QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
     auto [position, isNew] = m_groups.try_emplace(spelling->name);
     if (isNew) {

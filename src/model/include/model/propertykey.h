@@ -19,6 +19,7 @@ public:
     std::string utf8;
     QString name;
     Group *group = nullptr;
+    std::size_t index = 0;
   };
 
   PropertyKey() = default; ///< the null key, equal to no interned one
@@ -34,6 +35,8 @@ public:
   bool isNull() const noexcept { return m_spelling == nullptr; }
   QString name() const;
   std::string_view utf8() const noexcept;
+  /// Number of the spelling, from 0 without gaps, for tables beside the keys. Not for the null key.
+  std::size_t index() const noexcept { return m_spelling->index; }
 
   friend bool operator==(PropertyKey a, PropertyKey b) noexcept { return a.group() == b.group(); }
   friend bool operator!=(PropertyKey a, PropertyKey b) noexcept { return !(a == b); }
