@@ -1,7 +1,6 @@
-#include "modelfixture.h"
-
 #include <base/nivramsg.h>
 #include <model/consistencycheck.h>
+#include <support/modelfixture.h>
 #include <support/nivratest.h>
 
 namespace {

@@ -1,7 +1,6 @@
-#include "modelfixture.h"
-
 #include <base/nivramsg.h>
 #include <model/elementexceptions.h>
+#include <support/modelfixture.h>
 #include <support/nivratest.h>
 
 class TestNetData : public QObject {

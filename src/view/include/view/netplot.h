@@ -1,0 +1,68 @@
+#pragma once
+
+#include <view/netupdate.h>
+#include <view/plotsettings.h>
+
+#include <QWidget>
+#include <qwt_plot_grid.h>
+#include <qwt_plot_marker.h>
+#include <qwt_plot_textlabel.h>
+
+#include <memory>
+
+class PlotZoom;
+class QMenu;
+class QwtFastPlot;
+class QwtPlotPanner;
+
+/// The widget in which the network is drawn: the plot, its settings, the update engine, zoom and pan tools, a grid and a
+/// legend that names the draw functions.
+class NetPlot : public QWidget {
+  Q_OBJECT
+public:
+  explicit NetPlot(QWidget *parent = nullptr);
+  ~NetPlot() override;
+
+  QwtFastPlot *plot() const { return m_plot; }
+  PlotZoom *zoomer() const { return m_zoomer; }
+  NetUpdate &update() { return *m_update; }
+  QwtPlotGrid &grid() { return m_grid; }
+  const QwtPlotMarker &legend() const { return m_legend; }
+
+  const PlotSettings &settings() const { return m_settings; }
+  /// Takes over the settings, save for the zoom limits; what depends on them is drawn with the next updatePlot().
+  void setSettings(const PlotSettings &settings);
+
+  /// "plotsettings.ini"; a missing file is logged and changes nothing. False when there is no such file.
+  bool readPlotSettings(const QString &path);
+  bool writePlotSettings(const QString &path, QString *error = nullptr) const;
+
+  /// Draws the network anew and fits it to the window.
+  void showNetwork();
+  void placeLegend();
+  void showAxes();
+
+signals:
+  void drawConfigurationRequested();             ///< the colour scale was double-clicked
+  void contextMenuRequested(QMenu *contextMenu); ///< to be filled before it is shown at the cursor
+
+protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+  void setUpPlot();
+  void setUpPanner();
+  void applyColors();
+  bool canvasEvent(QEvent *event);
+  void showContextMenu();
+
+  QwtFastPlot *m_plot;
+  PlotSettings m_settings;
+  PlotZoom *m_zoomer;
+  QwtPlotPanner *m_panner;
+  std::unique_ptr<NetUpdate> m_update;
+  bool m_mouseMoved = false; ///< since the last button press
+  QwtPlotGrid m_grid;
+  QwtPlotMarker m_legend;
+  QwtPlotTextLabel m_hint; ///< why there is nothing to see
+};

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <view/netgeometry.h>
+#include <view/spatialindex.h>
+
+#include <qwt_plot_item.h>
+
+class Projection;
+
+/// How one node is drawn.
+struct NodeLook {
+  QRgb color = 0;
+  double size = 4.0; ///< px, across
+};
+
+/// All nodes as one plot item: discs for junctions, triangles for supplies and demands, squares for held pressures.
+/// Where nodes crowd they shrink and thin out, stations last, so that the lines stay visible.
+class NodeLayer : public QwtPlotItem {
+public:
+  NodeLayer();
+
+  /// Takes over where the nodes lie; drives have symbols of their own and are left out.
+  void setNodes(const NetGeometry &geometry);
+  /// One look a node of the geometry, in its order.
+  void setLooks(const std::vector<NodeLook> &looks);
+  void clear();
+
+  int rtti() const override { return Rtti_PlotUserItem + 2; }
+  void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
+
+private:
+  struct Record {
+    double x = 0.0;
+    double y = 0.0;
+    int node = 0; ///< position in the geometry
+    NetGeometry::NodeShape shape = NetGeometry::NodeShape::Junction;
+    NodeLook look;
+  };
+  struct VisibleNode {
+    QPointF center;
+    const Record *record;
+  };
+
+  std::vector<VisibleNode> visibleNodes(const Projection &projection) const;
+  static void drawJunctions(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest, const QRectF &canvas);
+  static void drawStations(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest, const QRectF &canvas);
+
+  std::vector<Record> m_records; ///< in the order of the index
+  SpatialIndex m_index;
+};

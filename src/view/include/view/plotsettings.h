@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+/// How a network is drawn: the record behind "plotsettings.ini". Bounds of -1e30 and 1e30 are taken from the data.
+struct PlotSettings {
+  static constexpr double OpenMinimum = -1e30;
+  static constexpr double OpenMaximum = 1e30;
+  static QString fixedSize() { return QStringLiteral("--- fixed ---"); } ///< nodeSizeFunc: all nodes have one size
+
+  QString edgeShowFlow = QStringLiteral("q"); ///< property whose value 0 means that an edge carries no flow
+  QString colorFunc = QStringLiteral("x");
+  QString widthFunc = QStringLiteral("y");
+  QString nodeColorFunc = QStringLiteral("y");
+  QString nodeSizeFunc = fixedSize();
+  int colorScalePos = 1; ///< Qwt axis: 1 right, 3 top; the others are the drawing's own axes and show no scale
+  int legendPos = 0;     ///< 0 hidden, 1 top left, 2 bottom left, 3 top right, 4 bottom right
+  int nodeMag = 4;
+  int nodeMagFlag = 1; ///< of no effect yet, not stored
+  double edgeMag = 1.0;
+  double edgeConst = 1.0;
+  int labelMargin = 30; ///< px
+  int labelMag = 8;     ///< pt
+  int arrowMag = 5;
+  int symMag = 20;      ///< px
+  int saturation = 255; ///< 0 to 255
+  int lightness = 230;  ///< 0 to 255
+  int firstColor = 0;   ///< hue in degrees
+  int lastColor = 240;  ///< hue in degrees
+  double logFactor = 7.8;
+  QColor bgrColor = Qt::white;
+  QColor edgeLabelsColor = Qt::black;
+  QColor nodeLabelsColor = Qt::black;
+  QColor edgeColorInactive = Qt::gray;
+  QColor edgeColorNoFlow = Qt::darkGray;
+  QColor gridMajorColor{192, 192, 192};
+  QColor gridMinorColor{211, 211, 211};
+  bool absColor = false;
+  bool absWidth = true;
+  bool absNodeColor = true;
+  bool absNodeSize = true;
+  bool logScaleColor = false;
+  bool logScaleWidth = false;
+  bool logScaleNodeColor = false;
+  bool logScaleNodeSize = false;
+  double minVal_edgeColor = OpenMinimum;
+  double maxVal_edgeColor = OpenMaximum;
+  double minVal_nodeColor = OpenMinimum;
+  double maxVal_nodeColor = OpenMaximum;
+  double minVal_Width = OpenMinimum;
+  double maxVal_Width = OpenMaximum;
+  double minVal_nodeSize = OpenMinimum;
+  double maxVal_nodeSize = OpenMaximum;
+  QString label_mode = QStringLiteral("selected properties");
+  bool fixAxesRatio = true;
+  bool showXYaxes = false;
+  double zoomFact = 1.5;
+  double smallestZoomWidth = 10.0; ///< plot units, like the following: made anew with every zoom base, not stored
+  double smallestZoomHeight = 10.0;
+  double largestZoomWidth = 10000.0;
+  double largestZoomHeight = 10000.0;
+  int alphaSubnet = 100; ///< 0 to 255
+  QString layerProp = QStringLiteral("vis.layer");
+
+  /// Takes over the zoom limits of another record, which belong to the network rather than to its drawing.
+  void takeZoomLimits(const PlotSettings &other);
+
+  friend bool operator==(const PlotSettings &a, const PlotSettings &b);
+  friend bool operator!=(const PlotSettings &a, const PlotSettings &b) { return !(a == b); }
+};

@@ -1,0 +1,144 @@
+#include <view/layergeometry.h>
+
+#include <QPaintEngine>
+
+#include <algorithm>
+
+Projection::Projection(const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvas)
+    : m_canvas(canvas)
+    , m_x0(xMap.s1())
+    , m_y0(yMap.s1())
+    , m_px0(xMap.p1())
+    , m_py0(yMap.p1()) {
+  const double width = xMap.s2() - xMap.s1();
+  const double height = yMap.s2() - yMap.s1();
+  if (width == 0.0 || height == 0.0)
+    return;
+  m_xFactor = (xMap.p2() - xMap.p1()) / width;
+  m_yFactor = (yMap.p2() - yMap.p1()) / height;
+  m_valid = std::isnormal(m_xFactor) && std::isnormal(m_yFactor);
+}
+
+SpatialIndex::Box Projection::visible(double margin) const {
+  const QRectF r = m_canvas.adjusted(-margin, -margin, margin, margin);
+  const auto x = std::minmax({(r.left() - m_px0) / m_xFactor + m_x0, (r.right() - m_px0) / m_xFactor + m_x0});
+  const auto y = std::minmax({(r.top() - m_py0) / m_yFactor + m_y0, (r.bottom() - m_py0) / m_yFactor + m_y0});
+  return {x.first, y.first, x.second, y.second};
+}
+
+// Liang and Barsky (1984): each side of the rectangle cuts the parameter interval of the line.
+bool clipLine(QLineF &line, const QRectF &rect) {
+  const double dx = line.dx();
+  const double dy = line.dy();
+  const double p[4] = {-dx, dx, -dy, dy};
+  const double q[4] = {line.x1() - rect.left(), rect.right() - line.x1(), line.y1() - rect.top(), rect.bottom() - line.y1()};
+  double enter = 0.0;
+  double leave = 1.0;
+  for (int side = 0; side < 4; ++side) {
+    if (p[side] == 0.0) {
+      if (q[side] < 0.0)
+        return false;
+      continue;
+    }
+    const double t = q[side] / p[side];
+    if (p[side] < 0.0)
+      enter = std::max(enter, t);
+    else
+      leave = std::min(leave, t);
+  }
+  if (!(enter <= leave))
+    return false;
+  const QPointF start = line.p1();
+  if (leave < 1.0)
+    line.setP2(start + QPointF(dx * leave, dy * leave));
+  if (enter > 0.0)
+    line.setP1(start + QPointF(dx * enter, dy * enter));
+  return std::isfinite(line.x1() + line.y1() + line.x2() + line.y2());
+}
+
+bool isVectorTarget(const QPainter &painter) {
+  const QPaintEngine *engine = painter.paintEngine();
+  if (engine == nullptr)
+    return false;
+  switch (engine->type()) {
+  case QPaintEngine::SVG:
+  case QPaintEngine::Pdf:
+  case QPaintEngine::PostScript:
+  case QPaintEngine::Picture:
+  case QPaintEngine::Windows:
+  case QPaintEngine::MacPrinter:
+    return true;
+  default:
+    return false;
+  }
+}
+
+double pixelRatio(const QPainter &painter) {
+  constexpr double Smallest = 0.25;
+  constexpr double Largest = 16.0;
+  constexpr double Steps = 4.0; // a cache entry a quarter: enough to be sharp
+  const QTransform transform = painter.deviceTransform();
+  const double scale = std::hypot(transform.m11(), transform.m12());
+  return std::isfinite(scale) ? qBound(Smallest, std::ceil(scale * Steps) / Steps, Largest) : 1.0;
+}
+
+PixelGrid::PixelGrid(const QRectF &canvas, double cell)
+    : m_origin(canvas.topLeft())
+    , m_cell(std::max(cell, 1.0)) {
+  constexpr double MostCells = 4000.0;
+  const auto cells = [this, MostCells](double pixels) {
+    return static_cast<int>(qBound(1.0, std::ceil(pixels / m_cell), MostCells));
+  };
+  m_columns = cells(canvas.width());
+  m_rows = cells(canvas.height());
+  m_taken.resize(static_cast<std::size_t>(m_columns + 2) * static_cast<std::size_t>(m_rows + 2));
+}
+
+int PixelGrid::index(const QPointF &point) const {
+  const double column = std::floor((point.x() - m_origin.x()) / m_cell);
+  const double row = std::floor((point.y() - m_origin.y()) / m_cell);
+  if (!(column >= 0.0 && column < m_columns && row >= 0.0 && row < m_rows))
+    return -1;
+  return (static_cast<int>(row) + 1) * (m_columns + 2) + static_cast<int>(column) + 1;
+}
+
+bool PixelGrid::take(const QPointF &point) {
+  const int i = index(point);
+  if (i < 0 || m_taken[static_cast<std::size_t>(i)])
+    return false;
+  m_taken[static_cast<std::size_t>(i)] = true;
+  return true;
+}
+
+bool PixelGrid::takeApart(const QPointF &point) {
+  const int i = index(point);
+  if (i < 0)
+    return false;
+  const int row = m_columns + 2;
+  for (const int around : {-row - 1, -row, -row + 1, -1, 0, 1, row - 1, row, row + 1}) {
+    if (m_taken[static_cast<std::size_t>(i + around)])
+      return false;
+  }
+  m_taken[static_cast<std::size_t>(i)] = true;
+  return true;
+}
+
+bool PixelGrid::takeArea(const QRectF &area) {
+  const auto cell = [this](double pixels, double origin, int cells) {
+    return static_cast<int>(qBound(0.0, std::floor((pixels - origin) / m_cell), cells - 1.0));
+  };
+  const int left = cell(area.left(), m_origin.x(), m_columns);
+  const int right = cell(area.right(), m_origin.x(), m_columns);
+  const int top = cell(area.top(), m_origin.y(), m_rows);
+  const int bottom = cell(area.bottom(), m_origin.y(), m_rows);
+  const auto forEachCell = [&](const auto &visit) {
+    for (int row = top; row <= bottom; ++row)
+      for (int column = left; column <= right; ++column)
+        visit(static_cast<std::size_t>((row + 1) * (m_columns + 2) + column + 1));
+  };
+  bool isFree = true;
+  forEachCell([&](std::size_t i) { isFree = isFree && !m_taken[i]; });
+  if (isFree)
+    forEachCell([&](std::size_t i) { m_taken[i] = true; });
+  return isFree;
+}

@@ -1,0 +1,202 @@
+#include <base/generalsettings.h>
+#include <view/netplot.h>
+#include <view/plotsettingsfile.h>
+#include <view/plotzoom.h>
+#include <view/qwtfastplot.h>
+
+#include <QMenu>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+#include <qwt_plot_panner.h>
+#include <qwt_scale_widget.h>
+
+#include <algorithm>
+
+namespace {
+
+enum LegendCorner { TopLeft = 1, BottomLeft = 2, TopRight = 3, BottomRight = 4 };
+
+} // namespace
+
+NetPlot::NetPlot(QWidget *parent)
+    : QWidget(parent)
+    , m_plot(new QwtFastPlot(this))
+    , m_zoomer(new PlotZoom(*m_plot, m_settings))
+    , m_panner(new QwtPlotPanner(m_plot->canvas()))
+    , m_update(std::make_unique<NetUpdate>(*this, m_settings)) {
+  constexpr int SmallestSide = 200;
+  constexpr double GridZ = 1.0;
+  constexpr double LegendZ = 100.0;
+  setUpPlot();
+  setUpPanner();
+  m_grid.enableXMin(true);
+  m_grid.enableYMin(true);
+  m_grid.setZ(GridZ);
+  m_grid.attach(m_plot);
+  m_grid.hide();
+  m_legend.setZ(LegendZ);
+  m_legend.setRenderHint(QwtPlotItem::RenderAntialiased);
+  m_legend.attach(m_plot);
+  m_legend.hide();
+  m_hint.attach(m_plot);
+  m_hint.hide();
+  applyColors();
+  connect(m_zoomer, &QwtPlotZoomer::zoomed, this, &NetPlot::placeLegend);
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(m_plot);
+  setMinimumSize(SmallestSide, SmallestSide);
+}
+
+NetPlot::~NetPlot() = default;
+
+void NetPlot::setUpPlot() {
+  showAxes();
+  m_plot->canvas()->installEventFilter(this);
+  m_plot->axisWidget(QwtPlot::xTop)->installEventFilter(this);
+  m_plot->axisWidget(QwtPlot::yRight)->installEventFilter(this);
+  for (QWidget *widget : {static_cast<QWidget *>(this), static_cast<QWidget *>(m_plot), m_plot->canvas()})
+    widget->setMouseTracking(true);
+  m_plot->canvas()->setAcceptDrops(true);
+}
+
+void NetPlot::setUpPanner() {
+  // The scales beside the drawing show colours, not places.
+  m_panner->setAxisEnabled(QwtPlot::xTop, false);
+  m_panner->setAxisEnabled(QwtPlot::yRight, false);
+  const QString pattern = GeneralSettings::instance().value(QStringLiteral("MousePattern_Panning"));
+  if (pattern == QLatin1String("Left_Ctrl"))
+    m_panner->setMouseButton(Qt::LeftButton, Qt::ControlModifier);
+  else if (pattern == QLatin1String("RightButton"))
+    m_panner->setMouseButton(Qt::RightButton);
+  else
+    m_panner->setMouseButton(Qt::MiddleButton);
+  connect(m_panner, &QwtPanner::panned, m_zoomer, &PlotZoom::takeView);
+}
+
+void NetPlot::setSettings(const PlotSettings &settings) {
+  const PlotSettings before = m_settings;
+  m_settings = settings;
+  m_settings.takeZoomLimits(before);
+  applyColors();
+}
+
+bool NetPlot::readPlotSettings(const QString &path) {
+  PlotSettings settings = m_settings;
+  const bool found = PlotSettingsFile::read(path, settings);
+  if (found)
+    setSettings(settings);
+  return found;
+}
+
+bool NetPlot::writePlotSettings(const QString &path, QString *error) const {
+  return PlotSettingsFile::write(path, m_settings, error);
+}
+
+void NetPlot::applyColors() {
+  constexpr int Dark = 128;
+  m_plot->setCanvasBackground(m_settings.bgrColor);
+  // The scales stand on the colour of the drawing, without a frame between them.
+  QPalette colors = m_plot->palette();
+  const QColor ink = m_settings.bgrColor.lightness() < Dark ? Qt::white : Qt::black;
+  colors.setColor(QPalette::Window, m_settings.bgrColor);
+  colors.setColor(QPalette::WindowText, ink);
+  colors.setColor(QPalette::Text, ink);
+  m_plot->setPalette(colors);
+  m_grid.setMajorPen(m_settings.gridMajorColor, 0.0, Qt::DashLine);
+  m_grid.setMinorPen(m_settings.gridMinorColor, 0.0, Qt::DotLine);
+}
+
+void NetPlot::showNetwork() {
+  m_update->updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
+  const NetGeometry &geometry = m_update->geometry();
+  m_hint.setVisible(!geometry.hasExtent());
+  if (geometry.hasExtent()) {
+    m_zoomer->setExtent(geometry.extent());
+    return;
+  }
+  QwtText hint(tr("Nothing to draw: no element of this network has coordinates."));
+  hint.setColor(Qt::gray);
+  m_hint.setText(hint);
+  m_plot->replot();
+}
+
+void NetPlot::showAxes() {
+  m_plot->enableAxis(QwtPlot::xBottom, m_settings.showXYaxes);
+  m_plot->enableAxis(QwtPlot::yLeft, m_settings.showXYaxes);
+}
+
+void NetPlot::placeLegend() {
+  const int corner = m_settings.legendPos;
+  m_legend.setVisible(corner >= TopLeft && corner <= BottomRight);
+  if (!m_legend.isVisible())
+    return;
+  constexpr int LargerThanLabels = 2; // pt
+  constexpr double Inset = 10.0;      // px
+  constexpr int BackgroundAlpha = 200;
+  const QString abs = QStringLiteral("abs. ");
+  QwtText text(QStringLiteral("Color: ") + (m_settings.absColor ? abs : QString()) + m_settings.colorFunc +
+                   QStringLiteral("\nWidth: ") + (m_settings.absWidth ? abs : QString()) + m_settings.widthFunc,
+               QwtText::PlainText);
+  text.setFont(QFont(QStringLiteral("Arial"), std::max(m_settings.labelMag + LargerThanLabels, 1), QFont::Bold));
+  text.setColor(m_settings.edgeLabelsColor);
+  text.setRenderFlags(Qt::AlignLeft | Qt::AlignVCenter);
+  QColor background = m_settings.bgrColor;
+  background.setAlpha(BackgroundAlpha);
+  text.setBackgroundBrush(background);
+  m_legend.setLabel(text);
+
+  const QSizeF size = text.textSize();
+  const QSizeF unit = m_plot->unitsPerPixel();
+  const QRectF shown = m_plot->visibleRect();
+  const double fromSide = (size.width() * 0.5 + Inset) * unit.width();
+  const double fromEnd = (size.height() * 0.5 + Inset) * unit.height();
+  const bool isRight = corner == TopRight || corner == BottomRight;
+  const bool isTop = corner == TopLeft || corner == TopRight;
+  // Plot coordinates grow upwards: the lower edge of the view is the top of its rectangle.
+  m_legend.setValue(isRight ? shown.right() - fromSide : shown.left() + fromSide,
+                    isTop ? shown.bottom() - fromEnd : shown.top() + fromEnd);
+  m_plot->replot();
+}
+
+bool NetPlot::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == m_plot->canvas())
+    return canvasEvent(event) || QWidget::eventFilter(watched, event);
+  const bool isScale = m_settings.colorScalePos >= 0 && m_settings.colorScalePos < QwtPlot::axisCnt &&
+                       watched == m_plot->axisWidget(m_settings.colorScalePos);
+  if (isScale && event->type() == QEvent::MouseButtonDblClick) {
+    emit drawConfigurationRequested();
+    return true;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+bool NetPlot::canvasEvent(QEvent *event) {
+  switch (event->type()) {
+  case QEvent::MouseButtonPress:
+    m_mouseMoved = false;
+    return false;
+  case QEvent::MouseMove:
+    m_mouseMoved = true;
+    return false;
+  case QEvent::MouseButtonRelease:
+    if (static_cast<QMouseEvent *>(event)->button() == Qt::RightButton && !m_mouseMoved)
+      showContextMenu();
+    return false;
+  case QEvent::Enter:
+  case QEvent::Leave:
+    return true;
+  default:
+    return false;
+  }
+}
+
+void NetPlot::showContextMenu() {
+  auto *contextMenu = new QMenu(this);
+  contextMenu->setAttribute(Qt::WA_DeleteOnClose);
+  emit contextMenuRequested(contextMenu);
+  if (contextMenu->isEmpty())
+    delete contextMenu;
+  else
+    contextMenu->popup(QCursor::pos());
+}

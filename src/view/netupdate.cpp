@@ -1,0 +1,199 @@
+#include <base/generalsettings.h>
+#include <base/nivramsg.h>
+#include <view/colorscale.h>
+#include <view/drawfunctions.h>
+#include <view/netplot.h>
+#include <view/netupdate.h>
+#include <view/qwtfastplot.h>
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr QRgb NoValueColor = 0xffc4c8cc; ///< the element lacks the value that the others are coloured by
+constexpr QRgb PlainEdge = 0xff2f5d8a;    ///< there is nothing to colour by
+constexpr QRgb PlainNode = 0xff5b6b7b;
+
+QwtInterval rangeOf(const std::vector<double> &values) {
+  double smallest = -NetData::NoValue;
+  double largest = NetData::NoValue;
+  for (const double value : values) {
+    if (value == NetData::NoValue)
+      continue;
+    smallest = std::min(smallest, value);
+    largest = std::max(largest, value);
+  }
+  return smallest <= largest ? QwtInterval(smallest, largest) : QwtInterval();
+}
+
+QwtInterval withFixedBounds(QwtInterval range, double minimum, double maximum) {
+  if (!range.isValid())
+    return range;
+  if (minimum > PlotSettings::OpenMinimum)
+    range.setMinValue(minimum);
+  if (maximum < PlotSettings::OpenMaximum)
+    range.setMaxValue(maximum);
+  return range;
+}
+
+QString seconds(const QElapsedTimer &timer) {
+  constexpr double Milli = 1e-3;
+  return QString::number(static_cast<double>(timer.elapsed()) * Milli);
+}
+
+} // namespace
+
+NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
+    : m_plot(plot)
+    , m_settings(settings) {
+  for (QwtPlotItem *layer : std::initializer_list<QwtPlotItem *>{&m_edges, &m_nodes, &m_symbols, &m_textBoxes})
+    layer->attach(plot.plot());
+}
+
+void NetUpdate::setNetData(const NetData *net) {
+  m_net = net;
+  m_geometry.clear();
+  m_edges.clear();
+  m_nodes.clear();
+  m_symbols.clear();
+  m_textBoxes.clear();
+}
+
+void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
+  NivraMsg::log(QStringLiteral("Updating plot - rebuild: %2, which: %3, relabel: %4 ...")
+                    .arg(int(rebuild))
+                    .arg(static_cast<int>(which))
+                    .arg(int(relabel)));
+  if (m_net == nullptr)
+    return;
+  QElapsedTimer timer;
+  timer.start();
+  if (rebuild)
+    this->rebuild();
+  const PlotSettings &s = m_settings;
+  const Values colors = edgeValues(s.colorFunc, s.absColor, s.minVal_edgeColor, s.maxVal_edgeColor);
+  ColorScale::show(*m_plot.plot(), s, DrawFunction::find(s.colorFunc, *m_net), colors.range);
+  m_plot.placeLegend();
+  m_plot.showAxes();
+
+  if (which != Which::Nodes) {
+    if (rebuild) {
+      m_edges.setEdges(m_geometry);
+      NivraMsg::log(QStringLiteral("   after rebuild edges: %1 sec.").arg(seconds(timer)));
+    }
+    updateEdges(colors, edgeValues(s.widthFunc, s.absWidth, s.minVal_Width, s.maxVal_Width));
+    NivraMsg::log(QStringLiteral("   after update edge curves: %1 sec.").arg(seconds(timer)));
+  }
+  if (which != Which::Edges) {
+    if (rebuild)
+      m_nodes.setNodes(m_geometry);
+    updateNodes();
+    NivraMsg::log(QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
+  }
+  if (rebuild)
+    updateSymbols();
+  m_symbols.setSize(s.symMag);
+  m_plot.plot()->replot();
+  NivraMsg::log(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
+}
+
+void NetUpdate::rebuild() {
+  m_geometry.build(*m_net);
+  if (m_geometry.unplaced() > 0)
+    NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
+}
+
+NetUpdate::Values NetUpdate::edgeValues(const QString &function, bool absolute, double minimum, double maximum) const {
+  const DrawFunction found = DrawFunction::find(function, *m_net);
+  Values values;
+  values.ofElements = m_geometry.edgeValues(*m_net, found.property, absolute);
+  // The nodes' own range, so that nodes and edges coloured by one function share their colours.
+  const QwtInterval range =
+      rangeOf(found.isOfNodes ? m_geometry.nodeValues(*m_net, found.property, absolute) : values.ofElements);
+  values.range = withFixedBounds(range, minimum, maximum);
+  return values;
+}
+
+NetUpdate::Values NetUpdate::nodeValues(const QString &function, bool absolute, double minimum, double maximum) const {
+  Values values;
+  values.ofElements = m_geometry.nodeValues(*m_net, DrawFunction::find(function, *m_net).property, absolute);
+  values.range = withFixedBounds(rangeOf(values.ofElements), minimum, maximum);
+  return values;
+}
+
+void NetUpdate::updateEdges(const Values &colors, const Values &widths) {
+  constexpr double WidthSpan = 4.0; // px that the width function adds at most, at magnification 1
+  constexpr double NoFlow = 1e-10;  // in whatever unit the flow is stored
+  const auto colorMap = ColorScale::colorMap(m_settings, m_settings.logScaleColor);
+  const auto widthMap = ColorScale::colorMap(m_settings, m_settings.logScaleWidth);
+  const TableColorMap table(*colorMap, colors.range);
+  const std::vector<double> flow =
+      m_geometry.edgeValues(*m_net, DrawFunction::find(m_settings.edgeShowFlow, *m_net).property, true);
+
+  std::vector<EdgeLook> looks(m_geometry.edges().size());
+  for (std::size_t i = 0; i < looks.size(); ++i) {
+    EdgeLook &look = looks[i];
+    look.width = m_settings.edgeConst + m_settings.edgeMag;
+    if (widths.range.isValid()) {
+      const double value = widths.ofElements[i];
+      const double fraction = value == NetData::NoValue ? 0.0 : widthMap->fraction(widths.range, value);
+      look.width = m_settings.edgeConst + m_settings.edgeMag * WidthSpan * fraction;
+    }
+    look.isBackground = true;
+    if (m_geometry.edges()[i].isInactive) {
+      look.color = m_settings.edgeColorInactive.rgb();
+    } else if (flow[i] != NetData::NoValue && flow[i] < NoFlow) {
+      look.color = m_settings.edgeColorNoFlow.rgb();
+    } else if (colors.range.isValid() && colors.ofElements[i] == NetData::NoValue) {
+      look.color = NoValueColor;
+    } else {
+      look.isBackground = false;
+      look.color = colors.range.isValid() ? table.rgb(colors.range, colors.ofElements[i]) : PlainEdge;
+    }
+  }
+  m_edges.setLooks(looks);
+}
+
+void NetUpdate::updateNodes() {
+  const PlotSettings &s = m_settings;
+  const Values colors = nodeValues(s.nodeColorFunc, s.absNodeColor, s.minVal_nodeColor, s.maxVal_nodeColor);
+  const Values sizes = s.nodeSizeFunc == PlotSettings::fixedSize()
+                           ? Values()
+                           : nodeValues(s.nodeSizeFunc, s.absNodeSize, s.minVal_nodeSize, s.maxVal_nodeSize);
+  const auto colorMap = ColorScale::colorMap(s, s.logScaleNodeColor);
+  const auto sizeMap = ColorScale::colorMap(s, s.logScaleNodeSize);
+  const TableColorMap table(*colorMap, colors.range);
+  constexpr double SmallestShare = 0.5; // of the magnification, and the largest four times as large
+  constexpr double ShareSpan = 1.5;
+
+  std::vector<NodeLook> looks(m_geometry.nodes().size());
+  for (std::size_t i = 0; i < looks.size(); ++i) {
+    NodeLook &look = looks[i];
+    look.size = s.nodeMag;
+    if (sizes.range.isValid()) {
+      const double value = sizes.ofElements[i];
+      const double fraction = value == NetData::NoValue ? 0.0 : sizeMap->fraction(sizes.range, value);
+      look.size = s.nodeMag * (SmallestShare + ShareSpan * fraction);
+    }
+    if (!colors.range.isValid())
+      look.color = PlainNode;
+    else if (colors.ofElements[i] == NetData::NoValue)
+      look.color = NoValueColor;
+    else
+      look.color = table.rgb(colors.range, colors.ofElements[i]);
+  }
+  m_nodes.setLooks(looks);
+}
+
+void NetUpdate::updateSymbols() {
+  if (GeneralSettings::instance().isOn(QStringLiteral("build symbols")))
+    m_symbols.setStations(m_geometry);
+  else
+    m_symbols.clear();
+  m_textBoxes.setBackground(m_settings.bgrColor);
+  m_textBoxes.setTextBoxes(m_geometry, m_settings.nodeLabelsColor,
+                           QFont(QStringLiteral("Arial"), std::max(m_settings.labelMag, 1)));
+}

@@ -1,0 +1,121 @@
+#include <view/netplot.h>
+#include <view/plotexport.h>
+#include <view/qwtfastplot.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QImageWriter>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+#include <qwt_plot_renderer.h>
+
+namespace {
+
+constexpr int DocumentDpi = 85;
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("PlotExport", text);
+}
+
+/// Gives the plot another size for as long as it lives.
+class TemporarySize {
+public:
+  TemporarySize(NetPlot &plot, int width)
+      : m_plot(plot)
+      , m_before(plot.geometry()) {
+    const int height = static_cast<int>(qint64(m_before.height()) * width / qMax(m_before.width(), 1));
+    m_plot.setGeometry(m_before.x(), m_before.y(), width, qMax(height, 1));
+  }
+  ~TemporarySize() { m_plot.setGeometry(m_before); }
+  TemporarySize(const TemporarySize &) = delete;
+  TemporarySize &operator=(const TemporarySize &) = delete;
+
+private:
+  NetPlot &m_plot;
+  QRect m_before;
+};
+
+/// The first rendering brings layout and scales to the new size, so that the next one is as the screen would show it.
+void layOut(NetPlot &plot) {
+  QImage scrap(1, 1, QImage::Format_RGB32);
+  plot.render(&scrap);
+}
+
+bool writePixels(NetPlot &plot, QIODevice &device, const QByteArray &format, QString &reason) {
+  QImage image(plot.size(), QImage::Format_RGB32);
+  if (image.isNull()) {
+    reason = tr("there is not enough memory for a picture of this width");
+    return false;
+  }
+  image.fill(Qt::white);
+  plot.render(&image);
+  QImageWriter writer(&device, format);
+  constexpr int Quality = 92; // of JPEG
+  if (format == "jpg" || format == "jpeg")
+    writer.setQuality(Quality);
+  if (writer.write(image))
+    return true;
+  reason = writer.errorString();
+  return false;
+}
+
+QSizeF pageSize(NetPlot &plot) {
+  constexpr double MillimetersPerInch = 25.4;
+  return QSizeF(plot.plot()->size()) * MillimetersPerInch / DocumentDpi;
+}
+
+bool writeSvg(NetPlot &plot, QIODevice &device) {
+  QSvgGenerator generator;
+  generator.setOutputDevice(&device);
+  generator.setResolution(DocumentDpi);
+  generator.setSize(plot.plot()->size());
+  generator.setViewBox(QRect(QPoint(), plot.plot()->size()));
+  QwtPlotRenderer().renderTo(plot.plot(), generator);
+  return true;
+}
+
+bool writePdf(NetPlot &plot, QIODevice &device) {
+  QPdfWriter writer(&device);
+  writer.setResolution(DocumentDpi);
+  writer.setPageSize(QPageSize(pageSize(plot), QPageSize::Millimeter));
+  writer.setPageMargins(QMarginsF());
+  QwtPlotRenderer().renderTo(plot.plot(), writer);
+  return true;
+}
+
+bool writeFormat(NetPlot &plot, QIODevice &device, const QByteArray &format, QString &reason) {
+  if (format == "svg")
+    return writeSvg(plot, device);
+  if (format == "pdf")
+    return writePdf(plot, device);
+  return writePixels(plot, device, format, reason);
+}
+
+} // namespace
+
+bool exportPlot(NetPlot &plot, const QString &path, int width, QString *error) {
+  static const QList<QByteArray> Formats{"png", "jpg", "jpeg", "bmp", "tif", "tiff", "svg", "pdf"};
+  const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
+  QString reason;
+  bool isDone = false;
+  if (!Formats.contains(format)) {
+    reason =
+        tr("\"%1\" is no format of pictures; there are png, jpg, bmp, tif, svg and pdf").arg(QString::fromLatin1(format));
+  } else if (width <= 0) {
+    reason = tr("a picture needs a width");
+  } else {
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly)) {
+      const TemporarySize size(plot, width);
+      layOut(plot);
+      isDone = writeFormat(plot, file, format, reason) && file.error() == QFile::NoError && file.commit();
+    }
+    if (!isDone && reason.isEmpty())
+      reason = file.errorString();
+  }
+  if (!isDone && error != nullptr)
+    *error = tr("Could not write %1: %2").arg(path, reason);
+  return isDone;
+}

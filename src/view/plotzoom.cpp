@@ -1,0 +1,239 @@
+#include <base/nivramsg.h>
+#include <view/plotzoom.h>
+#include <view/qwtfastplot.h>
+
+#include <QKeyEvent>
+#include <QStack>
+#include <QWheelEvent>
+#include <qwt_scale_engine.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double Room = 1.1; ///< the base is larger than the network, so that nothing touches the frame
+
+/// An extent around the centre that has an area: a network of one node or a straight line shows as well, and far from
+/// the origin the numbers must still tell left from right.
+QRectF withArea(const QRectF &extent) {
+  constexpr double Precision = 1e-9;
+  constexpr double AnyWidth = 10.0;
+  const QPointF c = extent.center();
+  const double least = std::max({std::abs(c.x()), std::abs(c.y()), 1e-6}) * Precision;
+  const double larger = std::max(extent.width(), extent.height());
+  const double side = larger > least ? larger : std::max(AnyWidth, least);
+  const QSizeF size(std::max(extent.width(), side * 0.01), std::max(extent.height(), side * 0.01));
+  return {c - QPointF(size.width() * 0.5, size.height() * 0.5), size};
+}
+
+QStack<QRectF> stackOf(std::initializer_list<QRectF> views) {
+  QStack<QRectF> stack;
+  for (const QRectF &view : views)
+    stack.push(view);
+  return stack;
+}
+
+QRectF about(const QPointF &center, double width, double height) {
+  return {center.x() - width * 0.5, center.y() - height * 0.5, width, height};
+}
+
+} // namespace
+
+PlotZoom::PlotZoom(QwtFastPlot &plot, PlotSettings &settings)
+    : QwtPlotZoomer(plot.canvas(), false)
+    , m_plot(plot)
+    , m_settings(settings) {
+  constexpr int Alpha = 150;
+  setRubberBandPen(QColor(0, 170, 0, Alpha));
+  setTrackerMode(AlwaysOff);
+  setMousePattern(MouseSelect1, Qt::LeftButton);
+  // The right button belongs to the context menu and, like the middle one, to panning.
+  for (const MousePatternCode pattern : {MouseSelect2, MouseSelect3, MouseSelect4, MouseSelect5, MouseSelect6})
+    setMousePattern(pattern, Qt::NoButton);
+  connect(this, &QwtPlotZoomer::zoomed, this, &PlotZoom::cutStack);
+}
+
+void PlotZoom::setExtent(const QRectF &extent) {
+  m_extent = withArea(extent);
+  setZoomLimits(m_extent, QSizeF(m_plot.canvas()->contentsRect().size()));
+  fitBase();
+}
+
+void PlotZoom::setZoomLimits(const QRectF &extent, const QSizeF &pixelSpan) {
+  constexpr double Deepest = 100.0;
+  constexpr double LeastSpan = 10.0;
+  m_settings.largestZoomWidth = std::max(1.0, extent.width()) * Room;
+  m_settings.largestZoomHeight = std::max(1.0, extent.height()) * Room;
+  m_settings.smallestZoomWidth = m_settings.largestZoomWidth / Deepest;
+  m_settings.smallestZoomHeight = m_settings.largestZoomHeight / Deepest;
+  if (pixelSpan.width() > LeastSpan)
+    m_settings.smallestZoomWidth = std::min(m_settings.smallestZoomWidth, pixelSpan.width());
+  if (pixelSpan.height() > LeastSpan)
+    m_settings.smallestZoomHeight = std::min(m_settings.smallestZoomHeight, pixelSpan.height());
+}
+
+void PlotZoom::zoomIn(const QPointF &point) {
+  const QRectF r = zoomRect();
+  if (m_settings.smallestZoomWidth >= r.width() && m_settings.smallestZoomHeight >= r.height())
+    return;
+  zoomAbout(point, {std::max(m_settings.smallestZoomWidth, r.width() / m_settings.zoomFact),
+                    std::max(m_settings.smallestZoomHeight, r.height() / m_settings.zoomFact)});
+}
+
+void PlotZoom::zoomOut(const QPointF &point) {
+  const QRectF r = zoomRect();
+  const QRectF base = zoomBase();
+  if (std::round(r.width()) >= std::round(base.width()) && std::round(r.height()) >= std::round(base.height())) {
+    if (zoomRectIndex() != 0) {
+      NivraMsg::debug(QStringLiteral("zooming back to zoombase"));
+      zoom(0);
+    }
+    return;
+  }
+  zoomAbout(point, {std::min(base.width(), r.width() * m_settings.zoomFact),
+                    std::min(base.height(), r.height() * m_settings.zoomFact)});
+}
+
+void PlotZoom::zoomAbout(const QPointF &point, const QSizeF &size) {
+  const QRectF r = zoomRect();
+  const double fx = (r.x() - point.x()) / r.width();
+  const double fy = (r.y() - point.y()) / r.height();
+  const QRectF next(point.x() + size.width() * fx, point.y() + size.height() * fy, size.width(), size.height());
+  if (std::isfinite(next.x() + next.y() + next.width() + next.height()) && !next.isEmpty())
+    zoom(next);
+}
+
+void PlotZoom::takeView() {
+  m_plot.updateAxes();
+  zoom(m_plot.visibleRect());
+}
+
+void PlotZoom::zoom(const QRectF &rect) {
+  QwtPlotZoomer::zoom(inCanvasRatio(rect.normalized()));
+}
+
+QRectF PlotZoom::inCanvasRatio(const QRectF &rect) const {
+  const QRect area = m_plot.canvas()->contentsRect();
+  if (!m_settings.fixAxesRatio || area.width() < 2 || area.height() < 2)
+    return rect;
+  const double units = std::max(rect.width() / area.width(), rect.height() / area.height());
+  return about(rect.center(), units * area.width(), units * area.height());
+}
+
+void PlotZoom::cutStack() {
+  constexpr uint Longest = 256;
+  if (zoomRectIndex() < Longest)
+    return;
+  NivraMsg::debug(QStringLiteral("zoomStack reset"));
+  const QSignalBlocker blocker(this);
+  setZoomStack(stackOf({zoomBase(), zoomRect()}), 1);
+}
+
+void PlotZoom::fitBase() {
+  if (m_extent.isEmpty())
+    return;
+  const QRectF base = inCanvasRatio(about(m_extent.center(), m_extent.width() * Room, m_extent.height() * Room));
+  {
+    const QSignalBlocker blocker(this);
+    setZoomStack(stackOf({base}), 0);
+  }
+  rescale(); // also when the base is the old one but the canvas is not
+  emit zoomed(base);
+}
+
+bool PlotZoom::eventFilter(QObject *watched, QEvent *event) {
+  const bool result = QwtPlotZoomer::eventFilter(watched, event);
+  if (watched == canvas() && event->type() == QEvent::Resize) {
+    if (zoomRectIndex() == 0)
+      fitBase();
+    else
+      rescale();
+  }
+  return result;
+}
+
+void PlotZoom::rescale() {
+  const QRectF rect = zoomRect();
+  m_plot.setAxisScale(QwtPlot::xBottom, rect.left(), rect.right());
+  m_plot.setAxisScale(QwtPlot::yLeft, rect.top(), rect.bottom());
+  m_plot.updateAxes();
+  if (!applyAxesRatio())
+    m_plot.replot();
+}
+
+bool PlotZoom::applyAxesRatio() {
+  constexpr double Nothing = 1e-10;
+  constexpr uint Decimal = 10;
+  if (!m_settings.fixAxesRatio)
+    return false;
+  const QRectF shown = m_plot.visibleRect();
+  const QRect area = m_plot.canvas()->contentsRect();
+  double width = shown.width();
+  double height = shown.height();
+  if (width < Nothing || area.width() < Nothing || area.height() < Nothing)
+    return false;
+  const double k = double(area.height()) / area.width();
+  if (area.width() > area.height())
+    width = height / k;
+  else
+    height = width * k;
+  const double step = std::max(QwtScaleArithmetic::divideInterval(width, m_plot.axisMaxMajor(QwtPlot::xBottom), Decimal),
+                               QwtScaleArithmetic::divideInterval(height, m_plot.axisMaxMajor(QwtPlot::yLeft), Decimal));
+  const QRectF equal = about(shown.center(), width, height);
+  m_plot.setAxisScale(QwtPlot::xBottom, equal.left(), equal.right(), step);
+  m_plot.setAxisScale(QwtPlot::yLeft, equal.top(), equal.bottom(), step);
+  m_plot.replot();
+  return true;
+}
+
+QSizeF PlotZoom::minZoomSize() const {
+  return {m_settings.smallestZoomWidth, m_settings.smallestZoomHeight};
+}
+
+void PlotZoom::widgetWheelEvent(QWheelEvent *event) {
+  constexpr double EighthsADegree = 8.0;
+  constexpr int DegreesAStep = 15;
+  m_wheelDegrees += static_cast<int>(std::lround(event->angleDelta().y() / EighthsADegree));
+  event->accept();
+  const int steps = m_wheelDegrees / DegreesAStep;
+  if (steps == 0)
+    return;
+  m_wheelDegrees = 0;
+  const QPointF anchor = m_plot.toPlot(event->position().toPoint());
+  for (int i = 0; i < std::abs(steps); ++i) {
+    if (steps > 0)
+      zoomIn(anchor);
+    else
+      zoomOut(anchor);
+  }
+}
+
+void PlotZoom::widgetKeyPressEvent(QKeyEvent *event) {
+  const double part = (m_settings.zoomFact - 1.0) * 0.5;
+  const QPointF cursor = m_plot.toPlot(canvas()->mapFromGlobal(QCursor::pos()));
+  switch (event->key()) {
+  case Qt::Key_Plus:
+    return zoomIn(cursor);
+  case Qt::Key_Minus:
+    return zoomOut(cursor);
+  case Qt::Key_Left:
+    return shift(-part, 0.0);
+  case Qt::Key_Right:
+    return shift(part, 0.0);
+  case Qt::Key_Up:
+    return shift(0.0, part);
+  case Qt::Key_Down:
+    return shift(0.0, -part);
+  case Qt::Key_Home:
+    return fitAll();
+  default:
+    if (isActive())
+      QwtPlotPicker::widgetKeyPressEvent(event); // Escape gives up the rectangle
+  }
+}
+
+void PlotZoom::shift(double horizontal, double vertical) {
+  const QRectF r = zoomRect();
+  zoom(r.translated(r.width() * horizontal, r.height() * vertical));
+}

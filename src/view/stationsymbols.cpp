@@ -1,0 +1,72 @@
+#include <view/layergeometry.h>
+#include <view/stationsymbols.h>
+
+#include <QFile>
+#include <QSvgRenderer>
+
+#include <cmath>
+
+static void initialiseResources() {
+  Q_INIT_RESOURCE(view); // a static library's resources are dropped by the linker unless somebody asks for them
+}
+
+StationSymbols::StationSymbols() {
+  initialiseResources();
+}
+
+StationSymbols::~StationSymbols() = default;
+
+int StationSymbols::find(const QString &key) {
+  const auto known = m_numbers.constFind(key);
+  if (known != m_numbers.constEnd())
+    return *known;
+  const QString path = QStringLiteral(":/iconsNetSymbols/svg TALU/network_symbols/") + key + QStringLiteral(".svg");
+  int number = -1;
+  if (QFile::exists(path)) {
+    number = static_cast<int>(m_renderers.size());
+    m_renderers.push_back(std::make_unique<QSvgRenderer>(path));
+  }
+  m_numbers.insert(key, number);
+  return number;
+}
+
+void StationSymbols::draw(QPainter &painter, int symbol, const QPointF &center, double size, double angle) {
+  if (isVectorTarget(painter)) {
+    painter.save();
+    painter.translate(center);
+    painter.rotate(angle);
+    m_renderers[static_cast<std::size_t>(symbol)]->render(&painter, QRectF(-size * 0.5, -size * 0.5, size, size));
+    painter.restore();
+    return;
+  }
+  constexpr int Step = 5;
+  constexpr int Circle = 360;
+  const double ratio = pixelRatio(painter);
+  const int rounded = ((static_cast<int>(std::lround(angle / Step)) * Step) % Circle + Circle) % Circle;
+  QPixmap picture = pixmap(symbol, static_cast<int>(std::lround(size * ratio)), rounded);
+  const QSizeF extent = QSizeF(picture.size()) / ratio;
+  painter.drawPixmap(QRectF(center - QPointF(extent.width() * 0.5, extent.height() * 0.5), extent), picture, picture.rect());
+}
+
+QPixmap StationSymbols::pixmap(int symbol, int pixels, int angle) {
+  constexpr int MostKept = 4000;
+  const quint64 key =
+      (static_cast<quint64>(symbol) << 40U) | (static_cast<quint64>(pixels) << 16U) | static_cast<quint64>(angle);
+  const auto known = m_pixmaps.constFind(key);
+  if (known != m_pixmaps.constEnd())
+    return *known;
+  if (m_pixmaps.size() >= MostKept)
+    m_pixmaps.clear();
+  // Room for the symbol's corners, whichever way it is turned.
+  const int side = static_cast<int>(std::ceil(pixels * std::sqrt(2.0)));
+  QPixmap picture(side, side);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(side * 0.5, side * 0.5);
+  painter.rotate(angle);
+  m_renderers[static_cast<std::size_t>(symbol)]->render(&painter, QRectF(-pixels * 0.5, -pixels * 0.5, pixels, pixels));
+  painter.end();
+  m_pixmaps.insert(key, picture);
+  return picture;
+}

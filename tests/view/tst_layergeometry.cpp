@@ -1,0 +1,117 @@
+#include <support/nivratest.h>
+#include <view/layergeometry.h>
+#include <view/spatialindex.h>
+
+#include <random>
+#include <set>
+
+class TestLayerGeometry : public QObject {
+  Q_OBJECT
+
+private slots:
+  void indexFindsWhatTouches();
+  void indexBearsOutliersAndEmptiness();
+  void clip_data();
+  void clip();
+  void projectionWithoutExtentIsInvalid();
+  void gridTakesEachCellOnce();
+};
+
+void TestLayerGeometry::indexFindsWhatTouches() {
+  constexpr int Items = 5000;
+  std::mt19937 random(7);
+  std::uniform_real_distribution<double> place(-1000.0, 1000.0);
+  std::uniform_real_distribution<double> length(0.0, 50.0);
+  std::vector<SpatialIndex::Box> boxes;
+  for (int i = 0; i < Items; ++i) {
+    const double x = place(random);
+    const double y = place(random);
+    boxes.push_back({x, y, x + length(random), y + length(random)});
+  }
+  SpatialIndex index;
+  const std::vector<int> order = index.build(boxes);
+  QCOMPARE(std::set<int>(order.begin(), order.end()).size(), std::size_t(Items)); // each item once
+  for (int i = 0; i < 50; ++i) {
+    const double x = place(random);
+    const double y = place(random);
+    const SpatialIndex::Box area{x, y, x + 100.0, y + 100.0};
+    std::set<int> found;
+    std::size_t visited = 0;
+    index.query(area, [&](int first, int last) {
+      visited += static_cast<std::size_t>(last - first);
+      found.insert(order.begin() + first, order.begin() + last);
+    });
+    for (int item = 0; item < Items; ++item)
+      QVERIFY(!boxes[static_cast<std::size_t>(item)].touches(area) || found.count(item) == 1);
+    QVERIFY2(visited < Items / 5, "a query of a four-hundredth of the plane should not visit everything");
+  }
+}
+
+void TestLayerGeometry::indexBearsOutliersAndEmptiness() {
+  SpatialIndex index;
+  QVERIFY(index.build({}).empty());
+  index.query({-1e30, -1e30, 1e30, 1e30}, [](int, int) { QFAIL("there is nothing to visit"); });
+  const std::vector<SpatialIndex::Box> boxes{{-1e19, 0, -1e19, 0}, {1e19, 1e19, 1e19, 1e19}, {0, 0, 0, 0}, {0, 0, 0, 0}};
+  QCOMPARE(index.build(boxes).size(), boxes.size());
+  int visited = 0;
+  index.query({-1, -1, 1, 1}, [&](int first, int last) { visited += last - first; });
+  QVERIFY(visited >= 2);
+}
+
+void TestLayerGeometry::clip_data() {
+  QTest::addColumn<QLineF>("line");
+  QTest::addColumn<bool>("visible");
+  QTest::addColumn<QLineF>("clipped");
+  QTest::newRow("inside") << QLineF(1, 1, 9, 9) << true << QLineF(1, 1, 9, 9);
+  QTest::newRow("across") << QLineF(-10, 5, 20, 5) << true << QLineF(0, 5, 10, 5);
+  QTest::newRow("diagonal") << QLineF(-5, -5, 5, 5) << true << QLineF(0, 0, 5, 5);
+  QTest::newRow("beside") << QLineF(-5, 11, 15, 11) << false << QLineF();
+  QTest::newRow("past the corner") << QLineF(-5, 4, 4, -6) << false << QLineF();
+  QTest::newRow("point") << QLineF(3, 3, 3, 3) << true << QLineF(3, 3, 3, 3);
+  QTest::newRow("far away") << QLineF(-1e12, 5, 1e12, 5) << true << QLineF(0, 5, 10, 5);
+  QTest::newRow("not a number") << QLineF(std::nan(""), 5, 3, 5) << false << QLineF();
+}
+
+void TestLayerGeometry::clip() {
+  QFETCH(QLineF, line);
+  QFETCH(bool, visible);
+  QFETCH(QLineF, clipped);
+  QCOMPARE(clipLine(line, QRectF(0, 0, 10, 10)), visible);
+  if (visible)
+    QVERIFY(qAbs(line.x1() - clipped.x1()) + qAbs(line.y1() - clipped.y1()) + qAbs(line.x2() - clipped.x2()) +
+                qAbs(line.y2() - clipped.y2()) <
+            1e-3);
+}
+
+void TestLayerGeometry::projectionWithoutExtentIsInvalid() {
+  QwtScaleMap x;
+  x.setPaintInterval(0, 100);
+  x.setScaleInterval(5, 5);
+  QwtScaleMap y;
+  y.setPaintInterval(100, 0);
+  y.setScaleInterval(0, 50);
+  QVERIFY(!Projection(x, y, QRectF(0, 0, 100, 100)).isValid());
+  x.setScaleInterval(0, 200);
+  const Projection projection(x, y, QRectF(0, 0, 100, 100));
+  QVERIFY(projection.isValid());
+  QCOMPARE(projection.map(100, 25), QPointF(50, 50));
+  const SpatialIndex::Box visible = projection.visible(10);
+  QCOMPARE(visible.x1, -20.0);
+  QCOMPARE(visible.y2, 55.0);
+}
+
+void TestLayerGeometry::gridTakesEachCellOnce() {
+  PixelGrid grid(QRectF(0, 0, 100, 100), 10.0);
+  QVERIFY(grid.take({5, 5}));
+  QVERIFY(!grid.take({6, 6}));
+  QVERIFY(!grid.takeApart({15, 15})); // a neighbour is taken
+  QVERIFY(grid.takeApart({35, 35}));
+  QVERIFY(!grid.take({-1, 5}));
+  QVERIFY(!grid.take({std::nan(""), 5}));
+  QVERIFY(!grid.takeArea(QRectF(20, 20, 60, 20)));
+  QVERIFY(grid.takeArea(QRectF(60, 60, 20, 20)));
+  QVERIFY(!grid.take({75, 65}));
+}
+
+NIVRA_TEST(TestLayerGeometry);
+#include "tst_layergeometry.moc"

@@ -1,0 +1,282 @@
+#include "viewfixture.h"
+
+#include <base/generalsettings.h>
+#include <support/nivratest.h>
+#include <view/plotzoom.h>
+
+#include <QMenu>
+#include <QSignalSpy>
+#include <QWheelEvent>
+#include <qwt_scale_widget.h>
+
+class TestNetPlot : public QObject {
+  Q_OBJECT
+
+private slots:
+  void fitsTheNetworkWithOneScale();
+  void resizeKeepsOneScale();
+  void wheelZoomsAboutTheCursor();
+  void wheelCollectsSmallTurns();
+  void zoomStopsAtItsLimits();
+  void stackIsCutBack();
+  void keysMoveAndFit();
+  void rectangleZoomKeepsItsWholeRectangle();
+  void panningMovesTheView_data();
+  void panningMovesTheView();
+  void rightClickAsksForAMenu();
+  void doubleClickOnTheScale();
+  void legend_data();
+  void legend();
+  void clearForgetsTheNetwork();
+
+private:
+  static void turnWheel(NetPlot &plot, const QPoint &place, int eighths) {
+    QWheelEvent event(QPointF(place), plot.plot()->canvas()->mapToGlobal(place), QPoint(), QPoint(0, eighths), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(plot.plot()->canvas(), &event);
+  }
+  /// Moves the mouse with the button held, then releases it. QTest's own moves come later and without the button.
+  static void drag(QWidget *canvas, const QPoint &to, Qt::MouseButton button, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+    QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, button, keys);
+    QApplication::sendEvent(canvas, &move);
+    QMouseEvent release(QEvent::MouseButtonRelease, to, button, Qt::NoButton, keys);
+    QApplication::sendEvent(canvas, &release);
+  }
+  static double unitsRatio(NetPlot &plot) {
+    const QSizeF units = plot.plot()->unitsPerPixel();
+    return units.width() / units.height();
+  }
+};
+
+void TestNetPlot::fitsTheNetworkWithOneScale() {
+  ViewFixture f;
+  f.show();
+  f.picture();
+  QVERIFY(f.plot().plot()->visibleRect().contains(QRectF(0, 0, 200, 100)));
+  QVERIFY(qAbs(unitsRatio(f.plot()) - 1.0) < 1e-6);
+  QVERIFY(f.plot().plot()->visibleRect().width() < 300); // and not too small
+  QCOMPARE(f.plot().minimumSize(), QSize(200, 200));
+}
+
+void TestNetPlot::resizeKeepsOneScale() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  for (const QSize size : {QSize(900, 300), QSize(300, 900), QSize(200, 200)}) {
+    f.plot().resize(size);
+    f.picture();
+    QVERIFY(qAbs(unitsRatio(f.plot()) - 1.0) < 1e-6);
+    QVERIFY(f.plot().plot()->visibleRect().contains(QRectF(0, 0, 200, 100)));
+  }
+  f.plot().zoomer()->zoomIn({100, 0});
+  const QPointF center = f.plot().plot()->visibleRect().center();
+  f.plot().resize(700, 300);
+  f.picture();
+  QVERIFY(qAbs(unitsRatio(f.plot()) - 1.0) < 1e-6);
+  QVERIFY((f.plot().plot()->visibleRect().center() - center).manhattanLength() < 1e-6);
+}
+
+void TestNetPlot::wheelZoomsAboutTheCursor() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const QPoint place(100, 80);
+  const QPointF under = f.plot().plot()->toPlot(place);
+  const double before = f.plot().plot()->visibleRect().width();
+  turnWheel(f.plot(), place, 120);
+  QVERIFY(qAbs(before / f.plot().plot()->visibleRect().width() - 1.5) < 1e-6);
+  QVERIFY((f.plot().plot()->toPlot(place) - under).manhattanLength() < 1e-6 * before);
+  turnWheel(f.plot(), place, -120);
+  QVERIFY(qAbs(f.plot().plot()->visibleRect().width() - before) < 1e-6 * before);
+  QVERIFY((f.plot().plot()->toPlot(place) - under).manhattanLength() < 1e-6 * before);
+}
+
+void TestNetPlot::wheelCollectsSmallTurns() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const double before = f.plot().plot()->visibleRect().width();
+  turnWheel(f.plot(), {50, 50}, 56); // 7 degrees
+  turnWheel(f.plot(), {50, 50}, 56);
+  QCOMPARE(f.plot().plot()->visibleRect().width(), before);
+  turnWheel(f.plot(), {50, 50}, 8);
+  QVERIFY(f.plot().plot()->visibleRect().width() < before);
+}
+
+void TestNetPlot::zoomStopsAtItsLimits() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  PlotZoom &zoomer = *f.plot().zoomer();
+  zoomer.setZoomLimits(QRectF(0, 0, 200, 0.5), QSizeF(20, 5));
+  QCOMPARE(f.plot().settings().largestZoomWidth, 220.0);
+  QCOMPARE(f.plot().settings().largestZoomHeight, 1.1);
+  QCOMPARE(f.plot().settings().smallestZoomWidth, 2.2);    // the span is not smaller
+  QCOMPARE(f.plot().settings().smallestZoomHeight, 0.011); // a span of 5 does not count
+  for (int i = 0; i < 100; ++i)
+    zoomer.zoomIn({100, 50});
+  const QRectF deepest = zoomer.zoomRect();
+  zoomer.zoomIn({100, 50});
+  QCOMPARE(zoomer.zoomRect(), deepest);
+  for (int i = 0; i < 100; ++i)
+    zoomer.zoomOut({100, 50});
+  QCOMPARE(zoomer.zoomRectIndex(), 0U);
+  zoomer.zoomOut({100, 50});
+  QCOMPARE(zoomer.zoomRect(), zoomer.zoomBase());
+}
+
+void TestNetPlot::stackIsCutBack() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  PlotZoom &zoomer = *f.plot().zoomer();
+  const QRectF base = zoomer.zoomBase();
+  for (int i = 0; i < 260; ++i)
+    zoomer.zoom(base.translated(i + 1, 0));
+  QVERIFY(zoomer.zoomRectIndex() < 10);
+  QCOMPARE(zoomer.zoomBase(), base);
+  QVERIFY((zoomer.zoomRect().center() - base.translated(260, 0).center()).manhattanLength() < 1e-6);
+}
+
+void TestNetPlot::keysMoveAndFit() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  QWidget *canvas = f.plot().plot()->canvas();
+  const QRectF before = f.plot().plot()->visibleRect();
+  QTest::keyClick(canvas, Qt::Key_Right);
+  QVERIFY(qAbs(f.plot().plot()->visibleRect().left() - before.left() - before.width() * 0.25) < 1e-6);
+  QTest::keyClick(canvas, Qt::Key_Up);
+  QVERIFY(f.plot().plot()->visibleRect().center().y() > before.center().y());
+  QTest::keyClick(canvas, Qt::Key_Plus);
+  QVERIFY(f.plot().plot()->visibleRect().width() < before.width());
+  QTest::keyClick(canvas, Qt::Key_Home);
+  QVERIFY(qAbs(f.plot().plot()->visibleRect().left() - before.left()) < 1e-6);
+}
+
+void TestNetPlot::rectangleZoomKeepsItsWholeRectangle() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  QWidget *canvas = f.plot().plot()->canvas();
+  const QRectF meant(f.plot().plot()->toPlot({50, 100}), f.plot().plot()->toPlot({350, 60})); // broad and low
+  QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, {50, 100});
+  drag(canvas, {350, 60}, Qt::LeftButton);
+  const QRectF shown = f.plot().plot()->visibleRect();
+  QVERIFY(shown.adjusted(-1, -1, 1, 1).contains(meant.normalized()));
+  QVERIFY(shown.width() < meant.width() * 1.05);
+}
+
+void TestNetPlot::panningMovesTheView_data() {
+  QTest::addColumn<QString>("pattern");
+  QTest::addColumn<int>("button");
+  QTest::addColumn<int>("modifier");
+  QTest::newRow("left with Ctrl") << QStringLiteral("Left_Ctrl") << int(Qt::LeftButton) << int(Qt::ControlModifier);
+  QTest::newRow("right") << QStringLiteral("RightButton") << int(Qt::RightButton) << int(Qt::NoModifier);
+  QTest::newRow("middle") << QStringLiteral("MidButton") << int(Qt::MiddleButton) << int(Qt::NoModifier);
+}
+
+void TestNetPlot::panningMovesTheView() {
+  QFETCH(QString, pattern);
+  QFETCH(int, button);
+  QFETCH(int, modifier);
+  GeneralSettings::instance().setValue(QStringLiteral("MousePattern_Panning"), pattern);
+  ViewFixture f;
+  GeneralSettings::instance().reset();
+  f.plot().show();
+  f.show();
+  const QRectF before = f.plot().plot()->visibleRect();
+  QWidget *canvas = f.plot().plot()->canvas();
+  QTest::mousePress(canvas, Qt::MouseButton(button), Qt::KeyboardModifier(modifier), {100, 100});
+  drag(canvas, {150, 100}, Qt::MouseButton(button), Qt::KeyboardModifier(modifier));
+  const QRectF after = f.plot().plot()->visibleRect();
+  QVERIFY(qAbs((before.left() - after.left()) / f.plot().plot()->unitsPerPixel().width() - 50.0) < 1.5);
+  QVERIFY(qAbs(after.width() - before.width()) < 1e-6 * before.width());
+  QVERIFY((f.plot().zoomer()->zoomRect().center() - after.center()).manhattanLength() < 1e-6);
+}
+
+void TestNetPlot::rightClickAsksForAMenu() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  QWidget *canvas = f.plot().plot()->canvas();
+  int asked = 0;
+  connect(&f.plot(), &NetPlot::contextMenuRequested, this, [&asked](QMenu *contextMenu) {
+    ++asked;
+    contextMenu->addAction(QStringLiteral("entry"));
+  });
+  QTest::mouseClick(canvas, Qt::RightButton, Qt::NoModifier, {20, 20});
+  QCOMPARE(asked, 1);
+  auto *shown = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+  QVERIFY(shown != nullptr);
+  shown->close();
+  QTest::mousePress(canvas, Qt::RightButton, Qt::NoModifier, {20, 20});
+  drag(canvas, {40, 40}, Qt::RightButton);
+  QCOMPARE(asked, 1);
+}
+
+void TestNetPlot::doubleClickOnTheScale() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const QSignalSpy asked(&f.plot(), &NetPlot::drawConfigurationRequested);
+  QTest::mouseDClick(f.plot().plot()->axisWidget(QwtPlot::xTop), Qt::LeftButton);
+  QCOMPARE(asked.count(), 0);
+  QTest::mouseDClick(f.plot().plot()->axisWidget(QwtPlot::yRight), Qt::LeftButton);
+  QCOMPARE(asked.count(), 1);
+}
+
+void TestNetPlot::legend_data() {
+  QTest::addColumn<int>("corner");
+  QTest::addColumn<bool>("shown");
+  QTest::addColumn<bool>("right");
+  QTest::addColumn<bool>("top");
+  QTest::newRow("hidden") << 0 << false << false << false;
+  QTest::newRow("top left") << 1 << true << false << true;
+  QTest::newRow("bottom left") << 2 << true << false << false;
+  QTest::newRow("top right") << 3 << true << true << true;
+  QTest::newRow("bottom right") << 4 << true << true << false;
+  QTest::newRow("no corner") << 5 << false << false << false;
+}
+
+void TestNetPlot::legend() {
+  QFETCH(int, corner);
+  QFETCH(bool, shown);
+  QFETCH(bool, right);
+  QFETCH(bool, top);
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.legendPos = corner;
+  settings.absColor = true;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  QCOMPARE(f.plot().legend().isVisible(), shown);
+  if (!shown)
+    return;
+  QCOMPARE(f.plot().legend().label().text(), QStringLiteral("Color: abs. p\nWidth: abs. diameter"));
+  for (int i = 0; i < 2; ++i) {
+    const QPointF center = f.plot().plot()->visibleRect().center();
+    QCOMPARE(f.plot().legend().value().x() > center.x(), right);
+    QCOMPARE(f.plot().legend().value().y() > center.y(), top);
+    const double width = f.plot().legend().label().textSize().width();
+    const double left = f.plot().plot()->transform(QwtPlot::xBottom, f.plot().legend().value().x());
+    QVERIFY(right || qAbs(left - width * 0.5 - 10.0) < 1.5);
+    f.plot().zoomer()->zoomIn({30, 30}); // it stays in its corner
+  }
+}
+
+void TestNetPlot::clearForgetsTheNetwork() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  f.control.clear();
+  f.net.clear();
+  f.picture(); // must not look at elements that are gone
+  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
+  QVERIFY(f.plot().update().geometry().nodes().empty());
+}
+
+NIVRA_TEST(TestNetPlot);
+#include "tst_netplot.moc"

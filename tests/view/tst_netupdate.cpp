@@ -1,0 +1,211 @@
+#include "viewfixture.h"
+
+#include <support/nivratest.h>
+#include <view/drawfunctions.h>
+
+#include <qwt_scale_widget.h>
+
+namespace {
+
+QColor hue(int degrees) {
+  return QColor::fromHsv(degrees, 255, 215);
+}
+
+bool isNear(const QColor &a, const QColor &b) {
+  constexpr int Tolerance = 6;
+  return qAbs(a.red() - b.red()) + qAbs(a.green() - b.green()) + qAbs(a.blue() - b.blue()) <= Tolerance;
+}
+
+} // namespace
+
+class TestNetUpdate : public QObject {
+  Q_OBJECT
+
+private slots:
+  void functionNames_data();
+  void functionNames();
+  void defaultsSuitTheNetwork();
+  void edgesAreColoredByTheMeanOfTheirEnds();
+  void edgesOutOfUseAndWithoutFlow();
+  void fixedBounds();
+  void scaleIsInTheDisplayUnit();
+  void withoutValuesThereIsNoScale();
+  void stationsHaveSymbols();
+  void textBoxesAreWritten();
+  void nothingToDrawIsSaid();
+  void awkwardPlaces_data();
+  void awkwardPlaces();
+};
+
+void TestNetUpdate::functionNames_data() {
+  QTest::addColumn<QString>("function");
+  QTest::addColumn<QString>("property");
+  QTest::newRow("chosen by label") << QStringLiteral("volume flow") << QStringLiteral("q");
+  QTest::newRow("chosen by property") << QStringLiteral("q") << QStringLiteral("q");
+  QTest::newRow("of the user's own") << QStringLiteral("price") << QStringLiteral("price");
+}
+
+void TestNetUpdate::functionNames() {
+  QFETCH(QString, function);
+  QFETCH(QString, property);
+  QCOMPARE(DrawFunction::propertyName(function), property);
+}
+
+void TestNetUpdate::defaultsSuitTheNetwork() {
+  ViewFixture f;
+  f.show();
+  QCOMPARE(f.plot().settings().colorFunc, QStringLiteral("p"));
+  QCOMPARE(f.plot().settings().nodeColorFunc, QStringLiteral("p"));
+  QCOMPARE(f.plot().settings().widthFunc, QStringLiteral("diameter"));
+
+  ViewFixture bare; // a geometry without results
+  bare.net.forEach(NetData::AllTypes, [](element &e) { e.erase(QStringLiteral("p")); });
+  bare.show();
+  QCOMPARE(bare.plot().settings().colorFunc, QStringLiteral("diameter"));
+}
+
+void TestNetUpdate::edgesAreColoredByTheMeanOfTheirEnds() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("diameter"), QStringLiteral("100"));
+  f.show();
+  const QImage picture = f.picture();
+  // 20 to 60 bar from blue (240 degrees) to red (0 degrees): AB has 25 bar, BC has 35 bar.
+  QVERIFY(isNear(picture.pixelColor(f.pixel(50, 0)), hue(210)));
+  QVERIFY(isNear(picture.pixelColor(f.pixel(150, 0)), hue(150)));
+  QVERIFY(isNear(picture.pixelColor(f.pixel(50, 50)), Qt::white));
+  // The smallest width is one pixel, the largest five; AB is in between.
+  const QPoint middle = f.pixel(150, 0);
+  QVERIFY(isNear(picture.pixelColor(middle + QPoint(0, 1)), hue(150)));
+  QVERIFY(!isNear(picture.pixelColor(f.pixel(50, 0) + QPoint(0, 2)), hue(210)));
+}
+
+void TestNetUpdate::edgesOutOfUseAndWithoutFlow() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("state"), QStringLiteral("closed"));
+  f.net.forEach(NetData::Edge, [](element &e) { e.set(QStringLiteral("diameter"), QStringLiteral("100")); });
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("q"), QStringLiteral("0"));
+  f.addNode("X", "100", "50", "none");
+  f.add(makeEdge("BX", "B", "X"), {{"diameter", "100"}, {"q", "1"}});
+  f.show();
+  PlotSettings broad = f.plot().settings();
+  broad.widthFunc = QStringLiteral("diameter");
+  broad.edgeConst = 4;
+  f.plot().setSettings(broad);
+  f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+  const QImage picture = f.picture();
+  QVERIFY(isNear(picture.pixelColor(f.pixel(50, 0)), f.plot().settings().edgeColorInactive));
+  QVERIFY(isNear(picture.pixelColor(f.pixel(150, 0)), f.plot().settings().edgeColorNoFlow));
+  const QColor withoutValue = picture.pixelColor(f.pixel(100, 25));
+  QVERIFY(withoutValue.saturation() < 20 && withoutValue.value() < 230);
+}
+
+void TestNetUpdate::fixedBounds() {
+  ViewFixture f;
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.minVal_edgeColor = 35; // BC at the low end
+  settings.maxVal_edgeColor = 45;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+  QVERIFY(isNear(f.picture().pixelColor(f.pixel(150, 0)), hue(240)));
+  QCOMPARE(f.plot().plot()->axisInterval(QwtPlot::yRight), QwtInterval(35, 45));
+  settings.minVal_edgeColor = 50; // upside down: no scale, but a drawing
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+  QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight));
+}
+
+void TestNetUpdate::scaleIsInTheDisplayUnit() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("t"), QStringLiteral("273.15"));
+  f.net.element(QStringLiteral("B"))->set(QStringLiteral("t"), QStringLiteral("293.15"));
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.colorFunc = QStringLiteral("temperature");
+  settings.colorScalePos = QwtPlot::xTop;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+  const QwtFastPlot &area = *f.plot().plot();
+  QVERIFY(area.axisEnabled(QwtPlot::xTop) && !area.axisEnabled(QwtPlot::yRight));
+  QVERIFY(area.axisWidget(QwtPlot::xTop)->isColorBarEnabled());
+  QVERIFY(qAbs(area.axisInterval(QwtPlot::xTop).maxValue() - 20.0) < 1e-9);
+  QVERIFY(area.axisTitle(QwtPlot::xTop).text().endsWith(QStringLiteral("C]")));
+}
+
+void TestNetUpdate::withoutValuesThereIsNoScale() {
+  ViewFixture f;
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.colorFunc = QStringLiteral("nobody has this");
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
+  QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight));
+  QVERIFY(!isNear(f.picture().pixelColor(f.pixel(150, 0)), Qt::white));
+}
+
+void TestNetUpdate::stationsHaveSymbols() {
+  ViewFixture f;
+  f.show();
+  const QImage picture = f.picture();
+  const QPoint middle = f.pixel(200, 50);
+  bool isDark = false; // the ring of the compressor
+  for (int x = 0; x < 12; ++x)
+    isDark = isDark || picture.pixelColor(middle + QPoint(x, 0)).value() < 100;
+  QVERIFY(isDark);
+}
+
+void TestNetUpdate::textBoxesAreWritten() {
+  ViewFixture f;
+  f.add(makeElement({{"name", "T"}, {"type", "t"}, {"x", "80"}, {"y", "60"}}),
+        {{"text", "█████"}, {"vis.color", "#0000ff"}, {"vis.font", "Arial,20,-1,5,50,0,0,0,0,0"}});
+  f.show();
+  const QImage picture = f.picture();
+  bool isBlue = false;
+  for (int y = -10; y < 10; ++y)
+    isBlue = isBlue || isNear(picture.pixelColor(f.pixel(80, 60) + QPoint(0, y)), Qt::blue);
+  QVERIFY(isBlue);
+}
+
+void TestNetUpdate::nothingToDrawIsSaid() {
+  ViewFixture f;
+  f.net.clear();
+  f.show();
+  const QImage picture = f.picture();
+  int inked = 0;
+  for (int x = 0; x < picture.width(); ++x)
+    inked += picture.pixelColor(x, picture.height() / 2).value() < 240 ? 1 : 0;
+  QVERIFY(inked > 10);
+}
+
+void TestNetUpdate::awkwardPlaces_data() {
+  QTest::addColumn<QByteArray>("x");
+  QTest::addColumn<QByteArray>("y");
+  QTest::newRow("all on one point") << QByteArray("100") << QByteArray("0");
+  QTest::newRow("far away") << QByteArray("9e19") << QByteArray("-9e19");
+  QTest::newRow("beyond numbers") << QByteArray("inf") << QByteArray("nan");
+  QTest::newRow("out of bounds") << QByteArray("1e25") << QByteArray("1");
+  QTest::newRow("text") << QByteArray("here") << QByteArray("");
+}
+
+void TestNetUpdate::awkwardPlaces() {
+  QFETCH(QByteArray, x);
+  QFETCH(QByteArray, y);
+  ViewFixture f;
+  const bool all = qstrcmp(QTest::currentDataTag(), "all on one point") == 0;
+  for (const char *name : {"A", "B", "C", "D"}) {
+    if (!all && *name != 'D')
+      continue;
+    element *node = f.net.element(QString::fromLatin1(name));
+    node->set(QStringLiteral("x"), QString::fromLatin1(x));
+    node->set(QStringLiteral("y"), QString::fromLatin1(y));
+  }
+  f.show();
+  QVERIFY(!f.picture().isNull());
+  f.plot().zoomer();
+  const QRectF shown = f.plot().plot()->visibleRect();
+  QVERIFY(shown.width() > 0.0 && std::isfinite(shown.width()));
+  QVERIFY(shown.contains(QPointF(100, 0)));
+}
+
+NIVRA_TEST(TestNetUpdate);
+#include "tst_netupdate.moc"

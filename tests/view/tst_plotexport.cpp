@@ -1,0 +1,91 @@
+#include "viewfixture.h"
+
+#include <support/nivratest.h>
+#include <view/plotexport.h>
+
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+class TestPlotExport : public QObject {
+  Q_OBJECT
+
+private slots:
+  void pixels_data();
+  void pixels();
+  void documentsHoldVectors();
+  void failuresLeaveTheFileAlone();
+  void thePlotIsAsBefore();
+
+private:
+  QTemporaryDir m_folder;
+};
+
+void TestPlotExport::pixels_data() {
+  QTest::addColumn<QString>("suffix");
+  for (const char *suffix : {"png", "JPG", "bmp", "tif"})
+    QTest::newRow(suffix) << QString::fromLatin1(suffix);
+}
+
+void TestPlotExport::pixels() {
+  QFETCH(QString, suffix);
+  ViewFixture f;
+  f.show();
+  const QString path = m_folder.filePath(QStringLiteral("a.") + suffix);
+  QString error;
+  QVERIFY2(exportPlot(f.plot(), path, 900, &error), qPrintable(error));
+  const QImage picture(path);
+  QCOMPARE(picture.size(), QSize(900, 600)); // the shape of the plot
+  int colored = 0;                           // the colour scale on the right
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = picture.width() - 120; x < picture.width(); ++x)
+      colored += picture.pixelColor(x, y).saturation() > 200 ? 1 : 0;
+  QVERIFY(colored > 1000);
+}
+
+void TestPlotExport::documentsHoldVectors() {
+  ViewFixture f;
+  f.add(makeElement({{"name", "T"}, {"type", "t"}, {"x", "80"}, {"y", "60"}}), {{"text", "Rhine"}});
+  f.show();
+  const QString svg = m_folder.filePath(QStringLiteral("a.svg"));
+  QVERIFY(exportPlot(f.plot(), svg, 900));
+  QFile file(svg);
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  const QByteArray text = file.readAll();
+  QVERIFY(text.contains("Rhine") && text.contains("pressure"));
+  QVERIFY(text.count("<image") <= 1); // the bar of the colour scale
+  QVERIFY(text.contains("<polyline") && text.contains("<path"));
+  QVERIFY(exportPlot(f.plot(), m_folder.filePath(QStringLiteral("a.PDF")), 900));
+  QFile pdf(m_folder.filePath(QStringLiteral("a.PDF")));
+  QVERIFY(pdf.open(QIODevice::ReadOnly) && pdf.readAll().startsWith("%PDF"));
+}
+
+void TestPlotExport::failuresLeaveTheFileAlone() {
+  ViewFixture f;
+  f.show();
+  QString error;
+  QVERIFY(!exportPlot(f.plot(), m_folder.filePath(QStringLiteral("a.xyz")), 900, &error));
+  QVERIFY(error.startsWith(QStringLiteral("Could not write ")));
+  QVERIFY(!QFileInfo::exists(m_folder.filePath(QStringLiteral("a.xyz"))));
+  QVERIFY(!exportPlot(f.plot(), m_folder.filePath(QStringLiteral("none/a.png")), 900, &error));
+  QVERIFY(error.contains(QStringLiteral("none/a.png")));
+  QVERIFY(!exportPlot(f.plot(), m_folder.filePath(QStringLiteral("b.png")), 0, &error));
+  QVERIFY(!exportPlot(f.plot(), QString(), 900, &error));
+}
+
+void TestPlotExport::thePlotIsAsBefore() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  f.picture();
+  const QRectF shown = f.plot().plot()->visibleRect();
+  const QSize size = f.plot().size();
+  QVERIFY(exportPlot(f.plot(), m_folder.filePath(QStringLiteral("c.png")), 1500));
+  QCOMPARE(f.plot().size(), size);
+  f.picture();
+  const QRectF after = f.plot().plot()->visibleRect();
+  QVERIFY((shown.topLeft() - after.topLeft()).manhattanLength() < 1e-6 * shown.width());
+  QVERIFY(qAbs(shown.width() - after.width()) < 1e-6 * shown.width());
+}
+
+NIVRA_TEST(TestPlotExport);
+#include "tst_plotexport.moc"

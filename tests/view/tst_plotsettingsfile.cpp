@@ -1,0 +1,109 @@
+#include <support/nivratest.h>
+#include <view/netplot.h>
+#include <view/plotsettingsfile.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+PlotSettings unusual() {
+  PlotSettings s;
+  s.edgeShowFlow = QStringLiteral("m");
+  s.colorFunc = QStringLiteral("accum. length");
+  s.widthFunc = QStringLiteral("a;b,c \"d\"");
+  s.nodeSizeFunc = QStringLiteral("qset");
+  s.colorScalePos = 3;
+  s.legendPos = 4;
+  s.nodeMag = 9;
+  s.edgeMag = 2.25;
+  s.edgeConst = 0.1;
+  s.labelMargin = 1;
+  s.saturation = 17;
+  s.logFactor = -3.5;
+  s.bgrColor = QColor(1, 2, 3);
+  s.gridMinorColor = QColor(4, 5, 6, 7);
+  s.absColor = true;
+  s.absWidth = false;
+  s.logScaleNodeSize = true;
+  s.minVal_nodeColor = 0.1 + 0.2;
+  s.maxVal_Width = 1e-300;
+  s.label_mode = QStringLiteral("no label");
+  s.fixAxesRatio = false;
+  s.zoomFact = 1.01;
+  s.layerProp = QStringLiteral("layer");
+  return s;
+}
+
+} // namespace
+
+class TestPlotSettingsFile : public QObject {
+  Q_OBJECT
+
+private slots:
+  void writtenIsReadAgain();
+  void missingFileChangesNothing();
+  void missingKeys();
+  void textsOfAPerson();
+  void whatCannotBeWrittenIsSaid();
+
+private:
+  QString file(const QByteArray &text) {
+    QFile out(m_folder.filePath(QStringLiteral("plotsettings.ini")));
+    out.open(QIODevice::WriteOnly);
+    out.write(text);
+    return out.fileName();
+  }
+  QTemporaryDir m_folder;
+};
+
+void TestPlotSettingsFile::writtenIsReadAgain() {
+  const QString path = m_folder.filePath(QStringLiteral("written.ini"));
+  QVERIFY(PlotSettingsFile::write(path, unusual()));
+  PlotSettings read;
+  QVERIFY(PlotSettingsFile::read(path, read));
+  QVERIFY(read == unusual());
+  QVERIFY(read != PlotSettings());
+}
+
+void TestPlotSettingsFile::missingFileChangesNothing() {
+  PlotSettings settings = unusual();
+  QVERIFY(!PlotSettingsFile::read(m_folder.filePath(QStringLiteral("none.ini")), settings));
+  QVERIFY(settings == unusual());
+}
+
+void TestPlotSettingsFile::missingKeys() {
+  PlotSettings settings = unusual();
+  QVERIFY(PlotSettingsFile::read(file("colorScalePos=2\n[color_options]\n"), settings));
+  QCOMPARE(settings.colorFunc, QStringLiteral("x")); // back to what the key stands for
+  QCOMPARE(settings.colorScalePos, 2);
+  QCOMPARE(settings.nodeMag, 9); // magnitudes and colours keep what they are
+  QCOMPARE(settings.saturation, 17);
+  QCOMPARE(settings.bgrColor, QColor(1, 2, 3));
+  QVERIFY(!settings.gridMajorColor.isValid());
+  QCOMPARE(settings.maxVal_nodeColor, PlotSettings::OpenMaximum);
+  QVERIFY(settings.absWidth && !settings.absColor);
+}
+
+void TestPlotSettingsFile::textsOfAPerson() {
+  PlotSettings settings;
+  QVERIFY(PlotSettingsFile::read(file("gridMajorColor=#102030\nlegendPos=many\nfixAxesRatio=false\n[color_options]\n"
+                                      "bgrColor=#ffeedd\nedgeColorInactive=no colour\n[magnitudes]\nedgeMag=2.5\n"),
+                                 settings));
+  QCOMPARE(settings.gridMajorColor, QColor(0x10, 0x20, 0x30));
+  QCOMPARE(settings.bgrColor, QColor(0xff, 0xee, 0xdd));
+  QVERIFY(!settings.edgeColorInactive.isValid());
+  QCOMPARE(settings.legendPos, 0);
+  QVERIFY(!settings.fixAxesRatio);
+  QCOMPARE(settings.edgeMag, 2.5);
+}
+
+void TestPlotSettingsFile::whatCannotBeWrittenIsSaid() {
+  const NetPlot plot;
+  QString error;
+  QVERIFY(!plot.writePlotSettings(m_folder.filePath(QStringLiteral("no/such/folder.ini")), &error));
+  QVERIFY2(error.contains(QStringLiteral("no/such/folder.ini")), qPrintable(error));
+}
+
+NIVRA_TEST(TestPlotSettingsFile);
+#include "tst_plotsettingsfile.moc"
