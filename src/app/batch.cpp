@@ -1,0 +1,133 @@
+#include <base/generalsettings.h>
+#include <base/logfiles.h>
+#include <base/nivramsg.h>
+#include <view/netplot.h>
+#include <view/netviscontrol.h>
+#include <view/plotexport.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <app/batch.h>
+#include <app/networkloader.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("Batch", text);
+}
+
+bool writeAll(int descriptor, const QByteArray &text) {
+  qint64 done = 0;
+  while (done < text.size()) {
+    const ssize_t written = ::write(descriptor, text.constData() + done, static_cast<std::size_t>(text.size() - done));
+    if (written <= 0)
+      return false;
+    done += written;
+  }
+  return true;
+}
+
+int failed(const QString &reason) {
+  NivraMsg::logCritical(reason);
+  writeAll(LogFiles::realStandardError(), reason.toUtf8() + '\n');
+  return 1;
+}
+
+double peakMemoryMB() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  constexpr double KilobytesPerMegabyte = 1024.0;
+  return static_cast<double>(usage.ru_maxrss) / KilobytesPerMegabyte;
+}
+
+struct Counts {
+  QJsonObject types;
+  double properties = 0;
+};
+
+Counts count(NetData &net) {
+  static const PropertyKey typeKey = PropertyKey::intern("type");
+  std::map<std::string, int> types;
+  Counts counts;
+  net.forEach(NetData::AllTypes, [&](element &e) {
+    counts.properties += static_cast<double>(e.size());
+    const PropertyText *type = e.find(typeKey);
+    ++types[type == nullptr ? std::string() : std::string(type->utf8())];
+  });
+  for (const auto &[code, number] : types)
+    counts.types.insert(QString::fromStdString(code), number);
+  return counts;
+}
+
+QJsonObject info(NetData &net, const NetworkLoader &loader, double drawSeconds, const NivraMsg::Recorder &recorder) {
+  const NivraWorkspace &workspace = loader.workspace();
+  QJsonObject object;
+  object.insert(QStringLiteral("workspace"), workspace.root());
+  object.insert(QStringLiteral("case"), workspace.currentCase()->name);
+  object.insert(QStringLiteral("scenario"), workspace.hasScenario() ? workspace.currentScenario()->workDir : QString());
+  object.insert(QStringLiteral("nodes"), static_cast<double>(net.nodes().size()));
+  object.insert(QStringLiteral("edges"), static_cast<double>(net.edges().size()));
+  object.insert(QStringLiteral("assembledSubnets"), static_cast<double>(net.assembledSubnets().size()));
+  object.insert(QStringLiteral("tBoxes"), static_cast<double>(net.textBoxes().size()));
+  const Counts counts = count(net);
+  object.insert(QStringLiteral("types"), counts.types);
+  object.insert(QStringLiteral("properties"), counts.properties);
+  object.insert(QStringLiteral("removed"), QJsonObject{{QStringLiteral("nodes"), loader.removed().nodes},
+                                                       {QStringLiteral("edges"), loader.removed().edges}});
+  object.insert(QStringLiteral("findings"),
+                QJsonArray::fromStringList(loader.checkFindings().split(QLatin1Char('\n'), Qt::SkipEmptyParts)));
+  QStringList warnings = recorder.lines();
+  if (recorder.dropped() > 0)
+    warnings.append(tr("... and %1 more, see the log").arg(recorder.dropped()));
+  object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(warnings));
+  QJsonObject seconds{{QStringLiteral("formulas"), 0.0}, {QStringLiteral("draw"), drawSeconds}};
+  for (const auto &[stage, time] : loader.seconds())
+    seconds.insert(stage, time);
+  object.insert(QStringLiteral("seconds"), seconds);
+  object.insert(QStringLiteral("peakMemoryMB"), peakMemoryMB());
+  return object;
+}
+
+} // namespace
+
+int Batch::run(const CommandLine &line) {
+  const NivraMsg::Recorder recorder;
+  GeneralSettings::instance().load();
+  NetData net;
+  NetVisControl control(net, QString());
+  NetworkLoader loader(net);
+  if (!loader.resolve(line.file))
+    return failed(loader.error());
+  GeneralSettings::instance().load(loader.workspace().root());
+  loader.readConfiguration();
+  if (!loader.readNetwork({}))
+    return failed(loader.error());
+
+  QElapsedTimer timer;
+  timer.start();
+  constexpr int ShownWidth = 1200;
+  constexpr int ShownHeight = 900;
+  control.plot()->resize(ShownWidth, ShownHeight);
+  control.showNetData(loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
+  control.plot()->grab();
+  constexpr double Milli = 1e-3;
+  const double drawSeconds = static_cast<double>(timer.elapsed()) * Milli;
+
+  if (!line.picture.isEmpty()) {
+    QString reason;
+    if (!exportPlot(*control.plot(), line.picture, line.width > 0 ? line.width : CommandLine::DefaultWidth, &reason))
+      return failed(reason);
+  }
+  if (line.info) {
+    const QByteArray json = QJsonDocument(info(net, loader, drawSeconds, recorder)).toJson();
+    if (!writeAll(LogFiles::realStandardOutput(), json))
+      return failed(tr("The answer could not be written to the standard output."));
+  }
+  return 0;
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <model/netdata.h>
+
+#include <QMainWindow>
+
+#include <app/networkloader.h>
+#include <memory>
+
+class LoadProgress;
+class NetVisControl;
+class QDockWidget;
+
+namespace Ui {
+class NivraViewer;
+}
+
+/// The window: opens workspaces and connects what shows them.
+class NivraViewer : public QMainWindow {
+  Q_OBJECT
+public:
+  explicit NivraViewer(QWidget *parent = nullptr);
+  ~NivraViewer() override;
+
+  /// A ".qss" file restyles the program; anything else is resolved as a workspace and opened.
+  void open(const QString &path);
+
+  NetVisControl *visControl() const { return m_control.get(); }
+  static QString openDialogStart(const QString &applicationDir);
+
+public slots:
+  void on_actionAboutNivra_triggered();
+  void on_actionExit_triggered();
+  void on_actionOpen_triggered();
+
+protected:
+  void dragEnterEvent(QDragEnterEvent *event) override;
+  void dropEvent(QDropEvent *event) override;
+  void closeEvent(QCloseEvent *event) override;
+
+private:
+  void applyStyleSheet(const QString &path);
+  void openWorkspace(const QString &path);
+  bool readWorkspace();
+  bool askForIncludeLists(NetworkLoader::ReadOptions &options);
+  void createDocks();
+  void fillViewMenu();
+  void showTitle();
+  void setBusy(bool busy);
+
+  std::unique_ptr<Ui::NivraViewer> m_ui;
+  NetData m_net;
+  std::unique_ptr<NetVisControl> m_control;
+  NetworkLoader m_loader;
+  QList<QDockWidget *> m_docks;
+  LoadProgress *m_progress = nullptr; ///< while a workspace is being read
+};

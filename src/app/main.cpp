@@ -1,0 +1,62 @@
+#include <base/crashguard.h>
+#include <base/nivramsg.h>
+
+#include <QApplication>
+
+#include <app/batch.h>
+#include <app/commandline.h>
+#include <app/nivraviewer.h>
+#include <cstdio>
+
+namespace {
+
+/// The parser needs an application, but which kind the program needs is only known afterwards.
+CommandLine parse(int argc, char **argv) {
+  const QCoreApplication application(argc, argv);
+  return CommandLine::parse(QCoreApplication::arguments());
+}
+
+void nameApplication() {
+  QCoreApplication::setOrganizationName(QStringLiteral("Nivra"));
+  QCoreApplication::setApplicationName(QStringLiteral("NivraReader"));
+}
+
+int runBatch(int argc, char **argv, const CommandLine &line) {
+  NivraMsg::setInteractive(false);
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  CrashGuard::setUp();
+  return Batch::run(line);
+}
+
+int runWindow(int argc, char **argv, const CommandLine &line) {
+  QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+  QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  const QApplication application(argc, argv);
+  CrashGuard::setUp();
+  NivraViewer viewer;
+  if (!line.file.isEmpty())
+    viewer.open(line.file);
+  return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  nameApplication();
+  const CommandLine line = parse(argc, argv);
+  switch (line.action) {
+  case CommandLine::Action::Print:
+    std::fputs(qPrintable(line.text), stdout);
+    return 0;
+  case CommandLine::Action::Wrong:
+    std::fprintf(stderr, "%s\n", qPrintable(line.text));
+    return 2;
+  case CommandLine::Action::Batch:
+    return runBatch(argc, argv, line);
+  case CommandLine::Action::Window:
+    return runWindow(argc, argv, line);
+  }
+  return 2;
+}

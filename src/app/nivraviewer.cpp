@@ -1,0 +1,217 @@
+#include "ui_nivraviewer.h"
+
+#include <base/generalsettings.h>
+#include <base/logo.h>
+#include <base/nivramsg.h>
+#include <model/units.h>
+#include <view/netplot.h>
+#include <view/netviscontrol.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMimeData>
+#include <QStyleFactory>
+#include <QToolBar>
+
+#include <algorithm>
+#include <app/aboutbox.h>
+#include <app/consoledock.h>
+#include <app/loadprogress.h>
+#include <app/nivraviewer.h>
+
+namespace {
+
+QList<QAction *> sortedByText(QList<QAction *> actions) {
+  std::sort(actions.begin(), actions.end(), [](const QAction *a, const QAction *b) { return a->text() < b->text(); });
+  return actions;
+}
+
+} // namespace
+
+NivraViewer::NivraViewer(QWidget *parent)
+    : QMainWindow(parent)
+    , m_ui(std::make_unique<Ui::NivraViewer>())
+    , m_control(std::make_unique<NetVisControl>(m_net, QString()))
+    , m_loader(m_net) {
+  m_ui->setupUi(this);
+  setCentralWidget(m_ui->label);
+  setWindowIcon(productLogo());
+  if (QStyleFactory::keys().contains(QStringLiteral("Fusion")))
+    QApplication::setStyle(QStringLiteral("Fusion"));
+  const QString ownStyle = GeneralSettings::userDirectory() + QStringLiteral("/stylesheet.qss");
+  if (QFileInfo::exists(ownStyle))
+    applyStyleSheet(ownStyle);
+  createDocks();
+  m_ui->statusbar->showMessage(tr("No Workspace loaded"));
+  show();
+  QCoreApplication::processEvents();
+  addAction(m_ui->actionSearch);
+  connect(m_ui->menuView, &QMenu::aboutToShow, this, &NivraViewer::fillViewMenu);
+  setAcceptDrops(true);
+  GeneralSettings::instance().load();
+  m_control->clear();
+  Units::initialise();
+}
+
+NivraViewer::~NivraViewer() = default;
+
+QString NivraViewer::openDialogStart(const QString &applicationDir) {
+  const QString folder = applicationDir + QStringLiteral("/example");
+  const QString file = folder + QStringLiteral("/DE_H2/S5/S5.scen.jsn");
+  if (QFileInfo(file).isFile())
+    return file;
+  return QFileInfo(folder).isDir() ? folder : applicationDir;
+}
+
+void NivraViewer::on_actionOpen_triggered() {
+  const QString path = QFileDialog::getOpenFileName(
+      this, tr("Select Geometry or Scenario File"), openDialogStart(QCoreApplication::applicationDirPath()),
+      tr("Scenario Files (*.scen *.scen.jsn);;Geom Files (*.geom *.geom.jsn)"));
+  if (!path.isEmpty())
+    open(path);
+}
+
+void NivraViewer::on_actionExit_triggered() {
+  close();
+}
+
+void NivraViewer::on_actionAboutNivra_triggered() {
+  AboutBox::show(this);
+}
+
+void NivraViewer::open(const QString &path) {
+  if (m_progress != nullptr)
+    return; // a drop or a shortcut while the network is being read
+  if (path.endsWith(QStringLiteral(".qss")))
+    applyStyleSheet(path);
+  else
+    openWorkspace(path);
+}
+
+void NivraViewer::applyStyleSheet(const QString &path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    NivraMsg::logWarning(tr("Cannot read the style sheet %1: %2").arg(path, file.errorString()));
+    return;
+  }
+  qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
+}
+
+void NivraViewer::openWorkspace(const QString &path) {
+  NivraMsg::debug(QStringLiteral("opening file ") + path);
+  QElapsedTimer timer;
+  timer.start();
+  NetworkLoader loader(m_net);
+  if (!loader.resolve(path)) {
+    m_ui->statusbar->showMessage(tr("Invalid Workspace"));
+    return;
+  }
+  m_loader.takeWorkspace(loader);
+  if (centralWidget() != m_control->plot())
+    setCentralWidget(m_control->plot());
+  QCoreApplication::processEvents();
+  GeneralSettings::instance().load(m_loader.workspace().root());
+  m_control->clear();
+  m_loader.readConfiguration();
+  setBusy(true);
+  const bool done = readWorkspace();
+  setBusy(false);
+  showTitle();
+  constexpr int ShownMs = 20000;
+  if (done)
+    m_ui->statusbar->showMessage(tr("Startup finished in %1ms").arg(timer.elapsed()), ShownMs);
+  else
+    m_ui->statusbar->showMessage(m_loader.error());
+}
+
+bool NivraViewer::readWorkspace() {
+  m_control->clear();
+  m_net.clear();
+  LoadProgress progress(m_ui->statusbar);
+  m_progress = &progress;
+  NetworkLoader::ReadOptions options;
+  if (GeneralSettings::instance().isOn(QStringLiteral("ask for include lists")))
+    askForIncludeLists(options);
+  options.progress = [&progress](double fraction) {
+    return progress.update(fraction);
+  };
+  const bool done = m_loader.readNetwork(options);
+  m_progress = nullptr;
+  if (!done)
+    m_net.clear(); // half a network would look like a whole one
+  m_control->showNetData(m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
+  return done;
+}
+
+bool NivraViewer::askForIncludeLists(NetworkLoader::ReadOptions &options) {
+  bool accepted = false;
+  options.includeTypes =
+      QInputDialog::getText(this, tr("Include Types"), tr("Enter include list for types\n(regular expression):"),
+                            QLineEdit::Normal, QString(), &accepted);
+  if (accepted)
+    options.includeProperties =
+        QInputDialog::getText(this, tr("Include Properties"), tr("Enter include list for properties\n(regular expression):"),
+                              QLineEdit::Normal, QString(), &accepted);
+  return accepted;
+}
+
+void NivraViewer::showTitle() {
+  const NivraWorkspace &workspace = m_loader.workspace();
+  QString title = tr("Nivra Reader %1  |  Workspace: %2  |  CASE: %3")
+                      .arg(AboutBox::version(), workspace.root(), workspace.currentCase()->name);
+  if (workspace.hasScenario())
+    title += tr("  |  SCEN: %1").arg(workspace.currentScenario()->workDir);
+  setWindowTitle(title);
+}
+
+void NivraViewer::setBusy(bool busy) {
+  m_ui->menubar->setEnabled(!busy);
+  m_ui->actionOpen->setEnabled(!busy);
+  m_control->plot()->setEnabled(!busy);
+}
+
+void NivraViewer::createDocks() {
+  auto *console = new ConsoleDock(this);
+  addDockWidget(Qt::BottomDockWidgetArea, console);
+  console->hide(); // the network gets the room; the "View" menu brings it
+  m_docks.append(console);
+}
+
+void NivraViewer::fillViewMenu() {
+  m_ui->menuView->clear();
+  m_ui->menuView->addSection(tr("Dock Widgets"));
+  QList<QAction *> toggles;
+  for (const QDockWidget *dock : qAsConst(m_docks))
+    toggles.append(dock->toggleViewAction());
+  m_ui->menuView->addActions(sortedByText(toggles));
+  toggles.clear();
+  for (const QToolBar *bar : findChildren<QToolBar *>())
+    toggles.append(bar->toggleViewAction());
+  m_ui->menuView->addSection(tr("Toolbars"));
+  m_ui->menuView->addActions(sortedByText(toggles));
+}
+
+void NivraViewer::dragEnterEvent(QDragEnterEvent *event) {
+  if (event->mimeData()->hasUrls())
+    event->acceptProposedAction();
+}
+
+void NivraViewer::dropEvent(QDropEvent *event) {
+  const QList<QUrl> urls = event->mimeData()->urls();
+  if (urls.isEmpty())
+    return;
+  event->acceptProposedAction();
+  open(urls.first().toLocalFile());
+}
+
+void NivraViewer::closeEvent(QCloseEvent *event) {
+  if (m_progress != nullptr)
+    m_progress->cancel(); // reading ends at its next step, then the window goes
+  QMainWindow::closeEvent(event);
+}

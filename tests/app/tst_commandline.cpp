@@ -1,0 +1,52 @@
+#include <support/nivratest.h>
+
+#include <app/commandline.h>
+
+class TestCommandLine : public QObject {
+  Q_OBJECT
+
+private slots:
+  void parse_data();
+  void parse();
+};
+
+void TestCommandLine::parse_data() {
+  using Action = CommandLine::Action;
+  QTest::addColumn<QString>("arguments");
+  QTest::addColumn<int>("action");
+  QTest::addColumn<int>("width");
+  const auto row = [](const char *arguments, Action action, int width = 0) {
+    QTest::newRow(arguments) << QString::fromLatin1(arguments) << static_cast<int>(action) << width;
+  };
+  row("", Action::Window);
+  row("net.geom.jsn", Action::Window);
+  row("--help", Action::Print);
+  row("--version net.geom", Action::Print);
+  row("--info net.geom", Action::Batch);
+  row("--info", Action::Wrong);
+  row("--info a b", Action::Wrong);
+  row("--export a.png net.geom --width 300", Action::Batch, 300);
+  row("--export a.png --info net.geom", Action::Batch);
+  row("--export a.png --width 99999 net.geom", Action::Batch, CommandLine::LargestWidth);
+  row("--export a.png --width 0 net.geom", Action::Wrong);
+  row("--export a.png --width wide net.geom", Action::Wrong);
+  row("--width 300 --info net.geom", Action::Wrong);
+  row("--export", Action::Wrong);
+  row("--colour", Action::Wrong);
+}
+
+void TestCommandLine::parse() {
+  QFETCH(QString, arguments);
+  QFETCH(int, action);
+  QFETCH(int, width);
+  const QStringList list =
+      QStringList{QStringLiteral("NivraViewer")} + arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+  const CommandLine line = CommandLine::parse(list);
+  QCOMPARE(static_cast<int>(line.action), action);
+  QCOMPARE(line.width, width);
+  if (line.action == CommandLine::Action::Wrong)
+    QVERIFY(!line.text.isEmpty());
+}
+
+NIVRA_TEST(TestCommandLine);
+#include "tst_commandline.moc"

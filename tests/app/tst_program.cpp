@@ -1,0 +1,219 @@
+#include "workspacefixture.h"
+
+#include <support/nivratest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+namespace {
+
+struct Outcome {
+  int status = -1;
+  QByteArray output;
+  QByteArray errors;
+  QJsonObject info() const { return QJsonDocument::fromJson(output).object(); }
+};
+
+/// Runs the program as a person would from a shell without a display.
+Outcome run(const QStringList &arguments, const QString &dataHome) {
+  QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "NIVRA_BATCH"})
+    environment.remove(QLatin1String(name));
+  environment.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
+  process.setProcessEnvironment(environment);
+  process.start(QStringLiteral(NIVRA_PROGRAM), arguments);
+  constexpr int PatienceMs = 120000;
+  process.waitForFinished(PatienceMs);
+  return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, process.readAllStandardOutput(),
+          process.readAllStandardError()};
+}
+
+} // namespace
+
+/// The program itself, run in a process of its own.
+class TestProgram : public QObject {
+  Q_OBJECT
+
+private slots:
+  void answersWithoutAWorkspace();
+  void infoCounts();
+  void picture_data();
+  void picture();
+  void badFiles_data();
+  void badFiles();
+  void badNetworks_data();
+  void badNetworks();
+  void badSurroundings_data();
+  void badSurroundings();
+  void realNetworks_data();
+  void realNetworks();
+
+private:
+  WorkspaceFixture m_workspace;
+  QTemporaryDir m_data;
+};
+
+void TestProgram::answersWithoutAWorkspace() {
+  QCOMPARE(run({QStringLiteral("--version")}, m_data.path()).output.left(13), QByteArray("Nivra Reader "));
+  QVERIFY(run({QStringLiteral("--help")}, m_data.path()).output.contains("--export"));
+  const Outcome wrong = run({QStringLiteral("--nonsense")}, m_data.path());
+  QCOMPARE(wrong.status, 2);
+  QVERIFY(!wrong.errors.isEmpty());
+}
+
+void TestProgram::infoCounts() {
+  const Outcome outcome = run({QStringLiteral("--info"), m_workspace.scenario()}, m_data.path());
+  QCOMPARE(outcome.status, 0);
+  const QJsonObject info = outcome.info();
+  QCOMPARE(info[QStringLiteral("case")].toString(), QStringLiteral("CASE"));
+  QCOMPARE(info[QStringLiteral("scenario")].toString(), QStringLiteral("S1"));
+  QCOMPARE(info[QStringLiteral("nodes")].toInt(), 3);
+  QCOMPARE(info[QStringLiteral("edges")].toInt(), 2);
+  QCOMPARE(info[QStringLiteral("properties")].toInt(), 27); // 5 of each node, 6 and 5 of the edges, a set point
+  QCOMPARE(info[QStringLiteral("types")].toObject()[QStringLiteral("c")].toInt(), 1);
+  for (const char *stage : {"read", "check", "formulas", "draw"})
+    QVERIFY2(info[QStringLiteral("seconds")].toObject().contains(QLatin1String(stage)), stage);
+  QVERIFY(info[QStringLiteral("peakMemoryMB")].toDouble() > 1.0);
+}
+
+void TestProgram::picture_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<int>("status");
+  QTest::addColumn<QByteArray>("begins");
+  QTest::newRow("png") << QStringLiteral("a.png") << 0 << QByteArray("\x89PNG");
+  QTest::newRow("pdf") << QStringLiteral("a.PDF") << 0 << QByteArray("%PDF");
+  QTest::newRow("svg") << QStringLiteral("a.svg") << 0 << QByteArray("<?xml");
+  QTest::newRow("no such format") << QStringLiteral("a.xyz") << 1 << QByteArray();
+  QTest::newRow("no such folder") << QStringLiteral("none/a.png") << 1 << QByteArray();
+}
+
+void TestProgram::picture() {
+  QFETCH(QString, name);
+  QFETCH(int, status);
+  QFETCH(QByteArray, begins);
+  const QString path = m_data.filePath(name);
+  const Outcome outcome =
+      run({QStringLiteral("--export"), path, QStringLiteral("--width"), QStringLiteral("400"), m_workspace.geometry()},
+          m_data.path());
+  QCOMPARE(outcome.status, status);
+  QFile file(path);
+  QCOMPARE(file.open(QIODevice::ReadOnly), status == 0);
+  QVERIFY(file.isOpen() ? file.readAll().startsWith(begins) : outcome.errors.contains(path.toUtf8()));
+}
+
+void TestProgram::badFiles_data() {
+  QTest::addColumn<QString>("path");
+  QTest::newRow("missing") << m_workspace.path(QStringLiteral("CASE/none.geom.jsn"));
+  QTest::newRow("not a network file") << m_workspace.path(QStringLiteral("CASE/CASE.geom.cfg"));
+  QDir(m_workspace.root()).mkpath(QStringLiteral("FOLDER/a.geom.jsn"));
+  QTest::newRow("folder in place of a file") << m_workspace.path(QStringLiteral("FOLDER/a.geom.jsn"));
+  QTest::newRow("empty name") << QString();
+}
+
+void TestProgram::badFiles() {
+  QFETCH(QString, path);
+  const Outcome outcome = run({QStringLiteral("--info"), path}, m_data.path());
+  QCOMPARE(outcome.status, 1);
+  QVERIFY(outcome.output.isEmpty());
+  QVERIFY2(outcome.errors.contains(path.toUtf8()), outcome.errors.constData());
+}
+
+void TestProgram::badNetworks_data() {
+  QTest::addColumn<QByteArray>("geometry");
+  QTest::addColumn<int>("nodes");
+  QTest::addColumn<int>("edges");
+  QTest::addColumn<bool>("warned");
+  const QByteArray sound = WorkspaceFixture::soundGeometry();
+  QTest::newRow("sound") << sound << 3 << 2 << false;
+  QTest::newRow("empty") << QByteArray() << 0 << 0 << true;
+  QTest::newRow("truncated") << sound.left(sound.size() - 30) << 3 << 1 << true;
+  QTest::newRow("binary") << QByteArray("\x00\x01\xff\xfe\n\x89PNG\r\n\x1a\n", 14) << 0 << 0 << true;
+  QTest::newRow("self-loop") << QByteArray(sound).replace("\"node2\":\"B\"", "\"node2\":\"A\"") << 3 << 2 << false;
+  QTest::newRow("edge to nothing") << QByteArray(sound).replace("\"node2\":\"B\"", "\"node2\":\"Z\"") << 3 << 1 << true;
+  QTest::newRow("far apart") << QByteArray(sound).replace("\"x\":100,\"y\":0", "\"x\":1e19,\"y\":-1e19") << 3 << 2 << false;
+  QTest::newRow("beyond numbers") << QByteArray(sound).replace("\"x\":100,\"y\":0", "\"x\":\"inf\",\"y\":\"nan\"") << 3 << 2
+                                  << false;
+  QTest::newRow("overflow") << QByteArray(sound).replace("\"x\":100,\"y\":0", "\"x\":1e400,\"y\":0") << 3 << 2 << true;
+  QTest::newRow("one point") << QByteArray(sound).replace("\"x\":100", "\"x\":0").replace("\"y\":80", "\"y\":0") << 3 << 2
+                             << false;
+  QTest::newRow("unknown type") << QByteArray(sound).replace("compressor", "airship") << 3 << 1 << true;
+}
+
+void TestProgram::badNetworks() {
+  QFETCH(QByteArray, geometry);
+  QFETCH(int, nodes);
+  QFETCH(int, edges);
+  QFETCH(bool, warned);
+  m_workspace.writeGeometry(geometry);
+  const Outcome outcome =
+      run({QStringLiteral("--info"), QStringLiteral("--export"), m_data.filePath(QStringLiteral("bad.png")),
+           QStringLiteral("--width"), QStringLiteral("300"), m_workspace.geometry()},
+          m_data.path());
+  m_workspace.writeGeometry(WorkspaceFixture::soundGeometry());
+  QVERIFY2(outcome.status == 0, outcome.errors.constData());
+  QCOMPARE(outcome.info()[QStringLiteral("nodes")].toInt(), nodes);
+  QCOMPARE(outcome.info()[QStringLiteral("edges")].toInt(), edges);
+  QCOMPARE(!outcome.info()[QStringLiteral("warnings")].toArray().isEmpty(), warned);
+}
+
+void TestProgram::badSurroundings_data() {
+  QTest::addColumn<QString>("file");
+  QTest::addColumn<QByteArray>("contents");
+  const QString settings = QStringLiteral("CASE/plotsettings.ini");
+  const QString configuration = QStringLiteral("CASE/CASE.geom.cfg");
+  QTest::newRow("settings are binary") << settings << QByteArray("\x00\xff\x01[[[", 6);
+  QTest::newRow("settings of wrong types")
+      << settings << QByteArray("nodeMag=wide\nzoomFact=0\n[magnitudes]\nedgeMag=-1e300\nsymMag=nan\n");
+  QTest::newRow("configuration of one line") << configuration << QByteArray("geometry configuration");
+  QTest::newRow("configuration of many fields") << configuration << QByteArray(10000, 'x').replace("x", "x ");
+  QTest::newRow("scenario configuration is a list") << QStringLiteral("CASE/S1/scenconfig.jsn") << QByteArray("[1,2]");
+  QTest::newRow("gas is broken") << QStringLiteral("CASE/S1/S1.gas.jsn") << QByteArray("{\n\"H\":{,}\n}");
+}
+
+void TestProgram::badSurroundings() {
+  QFETCH(QString, file);
+  QFETCH(QByteArray, contents);
+  QFile present(m_workspace.path(file));
+  const bool existed = present.open(QIODevice::ReadOnly);
+  const QByteArray before = existed ? present.readAll() : QByteArray();
+  m_workspace.write(file, contents);
+  const Outcome outcome = run({QStringLiteral("--info"), QStringLiteral("--export"),
+                               m_data.filePath(QStringLiteral("bad.png")), m_workspace.scenario()},
+                              m_data.path());
+  if (existed)
+    m_workspace.write(file, before);
+  else
+    present.remove();
+  QVERIFY2(outcome.status == 0, outcome.errors.constData());
+  QCOMPARE(outcome.info()[QStringLiteral("nodes")].toInt(), 3);
+}
+
+void TestProgram::realNetworks_data() {
+  QTest::addColumn<QString>("file");
+  QTest::addColumn<int>("nodes");
+  QTest::addColumn<int>("edges");
+  const QString source = QStringLiteral(NIVRA_SOURCE_DIR);
+  const QString data = source + QStringLiteral("/../shared/data/GasLib-%1/N1/N1.scen.jsn");
+  QTest::newRow("11") << data.arg(11) << 13 << 11;
+  QTest::newRow("40") << data.arg(40) << 46 << 45;
+  QTest::newRow("135") << data.arg(135) << 164 << 170;
+}
+
+void TestProgram::realNetworks() {
+  QFETCH(QString, file);
+  QFETCH(int, nodes);
+  QFETCH(int, edges);
+  if (!QFile::exists(file))
+    QSKIP("the network is not on this machine");
+  const Outcome outcome = run({QStringLiteral("--info"), file}, m_data.path());
+  QCOMPARE(outcome.status, 0);
+  QCOMPARE(outcome.info()[QStringLiteral("nodes")].toInt(), nodes);
+  QCOMPARE(outcome.info()[QStringLiteral("edges")].toInt(), edges);
+  QVERIFY(outcome.info()[QStringLiteral("findings")].toArray().isEmpty());
+}
+
+NIVRA_TEST(TestProgram);
+#include "tst_program.moc"

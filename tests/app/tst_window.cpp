@@ -1,0 +1,147 @@
+#include "workspacefixture.h"
+
+#include <support/nivratest.h>
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QStatusBar>
+#include <QToolButton>
+
+#include <app/loadprogress.h>
+#include <app/nivraviewer.h>
+
+namespace {
+
+void drop(NivraViewer &viewer, const QStringList &paths) {
+  QMimeData data;
+  QList<QUrl> urls;
+  for (const QString &path : paths)
+    urls.append(QUrl::fromLocalFile(path));
+  data.setUrls(urls);
+  QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&viewer, &enter);
+  QVERIFY(enter.isAccepted());
+  QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&viewer, &event);
+}
+
+QStringList texts(const QList<QAction *> &actions) {
+  QStringList list;
+  for (const QAction *action : actions)
+    list.append(action->text());
+  return list;
+}
+
+} // namespace
+
+class TestWindow : public QObject {
+  Q_OBJECT
+
+private slots:
+  void startsWithoutAWorkspace();
+  void dropOpensTheFirstFile();
+  void geometryAloneHasNoScenario();
+  void invalidWorkspaceLeavesWhatIsOpen();
+  void styleSheetOnlyRestyles();
+  void menus();
+  void openDialogStartsAtTheExample();
+  void progressAppearsLateAndCancels();
+
+private:
+  WorkspaceFixture m_workspace;
+};
+
+void TestWindow::startsWithoutAWorkspace() {
+  NivraViewer viewer;
+  QCOMPARE(viewer.windowTitle(), QStringLiteral("Nivra Reader"));
+  QCOMPARE(viewer.statusBar()->currentMessage(), QStringLiteral("No Workspace loaded"));
+  const auto *label = qobject_cast<QLabel *>(viewer.centralWidget());
+  QVERIFY(label != nullptr && label->text().contains(QStringLiteral("Drag &amp; Drop")));
+  QCOMPARE(viewer.size(), QSize(1200, 900));
+}
+
+void TestWindow::dropOpensTheFirstFile() {
+  NivraViewer viewer;
+  drop(viewer, {m_workspace.scenario(), m_workspace.geometry()});
+  QVERIFY2(viewer.windowTitle().endsWith(QStringLiteral("  |  Workspace: ") + m_workspace.root() +
+                                         QStringLiteral("  |  CASE: CASE  |  SCEN: S1")),
+           qPrintable(viewer.windowTitle()));
+  QVERIFY(viewer.statusBar()->currentMessage().startsWith(QStringLiteral("Startup finished in ")));
+}
+
+void TestWindow::geometryAloneHasNoScenario() {
+  NivraViewer viewer;
+  viewer.open(m_workspace.geometry());
+  QVERIFY(viewer.windowTitle().endsWith(QStringLiteral("  |  CASE: CASE")));
+}
+
+void TestWindow::invalidWorkspaceLeavesWhatIsOpen() {
+  NivraViewer viewer;
+  viewer.open(m_workspace.path(QStringLiteral("none.geom.jsn")));
+  QCOMPARE(viewer.statusBar()->currentMessage(), QStringLiteral("Invalid Workspace"));
+  QVERIFY(qobject_cast<QLabel *>(viewer.centralWidget()) != nullptr);
+  viewer.open(m_workspace.scenario());
+  const QString title = viewer.windowTitle();
+  const QWidget *plot = viewer.centralWidget();
+  viewer.open(m_workspace.path(QStringLiteral("CASE/CASE.geom.cfg")));
+  QCOMPARE(viewer.centralWidget(), plot);
+  QCOMPARE(viewer.windowTitle(), title);
+  viewer.open(m_workspace.geometry());
+  QCOMPARE(viewer.centralWidget(), plot);
+}
+
+void TestWindow::styleSheetOnlyRestyles() {
+  m_workspace.write(QStringLiteral("dark.qss"), "QStatusBar { color: #123456; }");
+  NivraViewer viewer;
+  viewer.open(m_workspace.path(QStringLiteral("dark.qss")));
+  QCOMPARE(qApp->styleSheet(), QStringLiteral("QStatusBar { color: #123456; }"));
+  QCOMPARE(viewer.statusBar()->currentMessage(), QStringLiteral("No Workspace loaded"));
+  qApp->setStyleSheet(QString());
+}
+
+void TestWindow::menus() {
+  NivraViewer viewer;
+  QCOMPARE(texts(viewer.menuBar()->actions()),
+           (QStringList{QStringLiteral("File"), QStringLiteral("Info"), QStringLiteral("View")}));
+  const QList<QAction *> menus = viewer.menuBar()->actions();
+  QCOMPARE(texts(menus[0]->menu()->actions()), (QStringList{QStringLiteral("Open Geom or Scen"), QStringLiteral("Exit")}));
+  QCOMPARE(texts(menus[1]->menu()->actions()).mid(0, 2),
+           (QStringList{QStringLiteral("Element Table"), QStringLiteral("Metadata Table")}));
+  emit menus[2]->menu()->aboutToShow();
+  emit menus[2]->menu()->aboutToShow(); // filled anew each time
+  const QStringList view = texts(menus[2]->menu()->actions());
+  QCOMPARE(view.count(QStringLiteral("Dock Widgets")), 1);
+  QCOMPARE(view.last(), QStringLiteral("Toolbars"));
+}
+
+void TestWindow::openDialogStartsAtTheExample() {
+  const QTemporaryDir folder;
+  const QString root = folder.path();
+  QCOMPARE(NivraViewer::openDialogStart(root), root);
+  QDir(root).mkpath(QStringLiteral("example/DE_H2/S5"));
+  QCOMPARE(NivraViewer::openDialogStart(root), root + QStringLiteral("/example"));
+  QFile file(root + QStringLiteral("/example/DE_H2/S5/S5.scen.jsn"));
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  QCOMPARE(NivraViewer::openDialogStart(root), file.fileName());
+}
+
+void TestWindow::progressAppearsLateAndCancels() {
+  QStatusBar bar;
+  {
+    LoadProgress progress(&bar);
+    QVERIFY(progress.update(0.1));
+    QVERIFY(bar.findChildren<QProgressBar *>().isEmpty());
+    QTRY_VERIFY(progress.update(0.5) && bar.findChildren<QProgressBar *>().size() == 1);
+    bar.findChild<QToolButton *>()->click();
+    QVERIFY(!progress.update(0.6));
+  }
+  QVERIFY(bar.findChildren<QProgressBar *>().isEmpty());
+}
+
+NIVRA_TEST(TestWindow);
+#include "tst_window.moc"

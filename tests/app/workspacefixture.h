@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+/// A small workspace on disk: case "CASE" with three nodes and two edges, scenario "S1".
+class WorkspaceFixture {
+public:
+  WorkspaceFixture() {
+    QDir(m_root.path()).mkpath(QStringLiteral("CASE/S1"));
+    writeGeometry(soundGeometry());
+    write(QStringLiteral("CASE/CASE.geom.cfg"), "geometry configuration\nCASE\nCASE.geom\n");
+    write(QStringLiteral("CASE/S1/S1.scen.jsn"), "{\n\"A\":[{\"property\":\"qset\",\"value\":-5}]\n}\n");
+    write(QStringLiteral("CASE/S1/scenconfig.jsn"), "{\"workDir\":\"S1\",\"scenFile\":\"S1.scen\"}");
+    write(QStringLiteral("CASE/S1/solverconfig.jsn"), "{}");
+  }
+
+  static QByteArray soundGeometry() {
+    return "{\n"
+           "\"A\":{\"obj_type\":\"node\",\"x\":0,\"y\":0,\"p\":50}\n"
+           ",\"B\":{\"obj_type\":\"node\",\"x\":100,\"y\":0,\"p\":48}\n"
+           ",\"C\":{\"obj_type\":\"node\",\"x\":100,\"y\":80,\"p\":60}\n"
+           ",\"P1\":{\"obj_type\":\"pipe\",\"node1\":\"A\",\"node2\":\"B\",\"q\":5,\"length\":100}\n"
+           ",\"K1\":{\"obj_type\":\"compressor\",\"node1\":\"B\",\"node2\":\"C\",\"q\":5}\n"
+           "}\n";
+  }
+
+  QString root() const { return m_root.path(); }
+  QString geometry() const { return path(QStringLiteral("CASE/CASE.geom.jsn")); }
+  QString scenario() const { return path(QStringLiteral("CASE/S1/S1.scen.jsn")); }
+  QString path(const QString &name) const { return m_root.filePath(name); }
+
+  void writeGeometry(const QByteArray &text) const { write(QStringLiteral("CASE/CASE.geom.jsn"), text); }
+  void write(const QString &name, const QByteArray &text) const {
+    QFile file(path(name));
+    file.open(QIODevice::WriteOnly);
+    file.write(text);
+  }
+
+private:
+  QTemporaryDir m_root;
+};
