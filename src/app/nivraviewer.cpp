@@ -63,7 +63,7 @@ NivraViewer::~NivraViewer() = default;
 
 QString NivraViewer::openDialogStart(const QString &applicationDir) {
   const QString folder = applicationDir + QStringLiteral("/example");
-  const QString file = folder + QStringLiteral("/DE_H2/S5/S5.scen.jsn");
+  QString file = folder + QStringLiteral("/DE_H2/S5/S5.scen.jsn");
   if (QFileInfo(file).isFile())
     return file;
   return QFileInfo(folder).isDir() ? folder : applicationDir;

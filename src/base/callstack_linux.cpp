@@ -1,7 +1,6 @@
 #include <base/callstack.h>
 
 #include <backtrace.h>
-#include <cstdarg>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -23,12 +22,10 @@ struct Writer {
   int frame = 0;
 };
 
-void put(int descriptor, const char *format, ...) {
+template <typename... Values>
+void put(int descriptor, const char *format, Values... values) {
   char line[2048];
-  va_list arguments;
-  va_start(arguments, format);
-  const int length = std::vsnprintf(line, sizeof line, format, arguments);
-  va_end(arguments);
+  const int length = std::snprintf(line, sizeof line, format, values...);
   if (length <= 0)
     return;
   const auto size = static_cast<std::size_t>(length) < sizeof line ? static_cast<std::size_t>(length) : sizeof line - 1;
