@@ -61,6 +61,8 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   readerOptions.progress = options.progress;
   const NivraReader::Result result = reader.readTopoAndScen(m_workspace, readerOptions);
   m_seconds.append({QStringLiteral("read"), static_cast<double>(timer.restart()) * Milli});
+  if (!result.configuration.isEmpty())
+    m_workspace.takeConfiguration(result.configuration, m_gasParams);
   report(result.findings);
   m_cancelled = result.cancelled;
   if (!result.ok || result.cancelled) {

@@ -6,6 +6,7 @@
 #include <model/units.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
+#include <view/plotzoom.h>
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -53,6 +54,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   QCoreApplication::processEvents();
   addAction(m_ui->actionSearch);
   connect(m_ui->menuView, &QMenu::aboutToShow, this, &NivraViewer::fillViewMenu);
+  connect(m_control->plot(), &NetPlot::contextMenuRequested, this, &NivraViewer::fillPlotMenu);
   setAcceptDrops(true);
   GeneralSettings::instance().load();
   m_control->clear();
@@ -195,6 +197,14 @@ void NivraViewer::fillViewMenu() {
     toggles.append(bar->toggleViewAction());
   m_ui->menuView->addSection(tr("Toolbars"));
   m_ui->menuView->addActions(sortedByText(toggles));
+}
+
+void NivraViewer::fillPlotMenu(QMenu *plotMenu) {
+  PlotZoom *zoomer = m_control->plot()->zoomer();
+  // The canvas takes the keys; the entries name them.
+  plotMenu->addAction(tr("Show whole network\tHome"), zoomer, &PlotZoom::fitAll);
+  plotMenu->addAction(tr("Back to the last view"), zoomer, [zoomer] { zoomer->zoom(-1); })
+      ->setEnabled(zoomer->zoomRectIndex() > 0);
 }
 
 void NivraViewer::dragEnterEvent(QDragEnterEvent *event) {

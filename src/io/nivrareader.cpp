@@ -1,4 +1,5 @@
 #include "elementbuilder.h"
+#include "jsonfile.h"
 
 #include <base/nivramsg.h>
 #include <io/nivrareader.h>
@@ -33,13 +34,15 @@ NivraReader::Result failure(const QString &text) {
 }
 
 void append(NivraReader::Result &result, NivraReader::Result &&part) {
+  if (!part.configuration.isEmpty())
+    result.configuration = part.configuration;
   result.cancelled = result.cancelled || part.cancelled;
   result.properties += part.properties;
   result.findings.insert(result.findings.end(), std::make_move_iterator(part.findings.begin()),
                          std::make_move_iterator(part.findings.end()));
 }
 
-/// Runs over the lines of a file whose members are objects and hands each element to take(element, line).
+/// Runs over the lines of a file whose members are objects and hands each element to take(element, line, reader).
 template <typename Take>
 NivraReader::Result readObjects(const QString &path, const NivraReader::Options &options, ReadReport &report,
                                 const Take &take) {
@@ -59,7 +62,7 @@ NivraReader::Result readObjects(const QString &path, const NivraReader::Options 
     if (fault == nullptr)
       fault = parser.parse(line, parsed, count);
     for (std::size_t i = 0; fault == nullptr && i < count; ++i)
-      take(parsed[i], line.number);
+      take(parsed[i], line.number, reader);
     if (fault != nullptr)
       report.badLine(line, fault);
     if (++sinceProgress >= LinesBetweenProgress && options.progress) {
@@ -71,6 +74,19 @@ NivraReader::Result readObjects(const QString &path, const NivraReader::Options 
     }
   }
   return result;
+}
+
+constexpr std::size_t Sample = 4096;
+
+/// Networks have about as many edges as nodes, and files mostly list one after the other.
+void makeRoom(NetData &net, double fraction) {
+  constexpr double Reserve = 1.1;
+  constexpr double Most = 5e6; // a file of other shape further down must not claim all memory
+  if (!(fraction > 0.0))
+    return;
+  const double all = std::min(static_cast<double>(Sample) / fraction * Reserve, Most);
+  net.nodes().reserve(static_cast<std::size_t>(all * 0.5));
+  net.edges().reserve(static_cast<std::size_t>(all * 0.5));
 }
 
 } // namespace
@@ -112,12 +128,15 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
   ElementBuilder builder(options.includeTypes, options.includeProperties, report);
   qint64 properties = 0;
   element built;
-  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line) {
-    if (!builder.buildElement(parsed, line, built))
-      return;
-    properties += static_cast<qint64>(built.size());
-    m_net.addElement(std::move(built));
-  });
+  Result result =
+      readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line, const JsonLineReader &lines) {
+        if (!builder.buildElement(parsed, line, built))
+          return;
+        if (m_net.nodes().size() + m_net.edges().size() == Sample)
+          makeRoom(m_net, lines.fraction());
+        properties += static_cast<qint64>(built.size());
+        m_net.addElement(std::move(built));
+      });
   if (result.ok && !result.cancelled && m_net.isEmpty())
     report.add("empty", 0, QStringLiteral("The file holds no element"));
   result.properties = properties;
@@ -132,7 +151,7 @@ NivraReader::Result NivraReader::readValues(const QString &path, const Options &
   ReadReport report(path);
   ElementBuilder builder(QString(), options.includeProperties, report);
   qint64 properties = 0;
-  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line) {
+  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line, const JsonLineReader &) {
     element *target = m_net.element(decoded(parsed.name));
     if (target == nullptr) {
       report.add("unknown name", line,
@@ -162,9 +181,10 @@ NivraReader::Result NivraReader::readGasJsn(const QString &path) {
   ReadReport report(path);
   ElementBuilder builder(QString(), QString(), report);
   GasTable gases;
-  Result result = readObjects(path, Options(), report, [&](JsonLineParser::Element &parsed, int line) {
-    gases[decoded(parsed.name)] = element::fromProperties(builder.properties(parsed, line));
-  });
+  Result result =
+      readObjects(path, Options(), report, [&](JsonLineParser::Element &parsed, int line, const JsonLineReader &) {
+        gases[decoded(parsed.name)] = element::fromProperties(builder.properties(parsed, line));
+      });
   result.ok = result.ok && !gases.empty();
   if (result.ok)
     m_gases = std::move(gases);
@@ -188,7 +208,7 @@ NivraReader::Result NivraReader::readScenarioJsn(const QString &scenarioPath, co
   if (!result.cancelled)
     readGas(base, scenario, result);
   if (!result.cancelled)
-    readCompanions(base, scenario, options, result);
+    readCompanions(base, options, result);
   return result;
 }
 
@@ -207,42 +227,51 @@ void NivraReader::readGas(const QString &base, const NivraScenario &scenario, Re
   append(result, std::move(gas));
 }
 
-void NivraReader::readCompanions(const QString &base, const NivraScenario & /*scenario*/, const Options &options,
-                                 Result &result) {
-  struct Companion {
-    const char *suffix;
-    const char *success;
-    const char *failed;
-    const char *absent;
-    Result (NivraReader::*read)(const QString &, const Options &);
-  };
-  static const Companion companions[] = {
-      {".fix", "Fixes for scenario are loaded!", "Could not read .fix.jsn file", "There is no scenario fixes file",
-       &NivraReader::readScenariofileJsn},
-      {".res", "Results for scenario are loaded!", "Could not read .res.jsn file", "There is no scenario .res.jsn file",
-       &NivraReader::readResultsJsn},
-      {".gaspar", "Previously saved gas percentages etc. loaded!", "Could not read .gaspar.jsn file",
-       "Could not find .gaspar.jsn file\nUsually this happens if gas percentages etc. were not computed before.",
-       &NivraReader::readGasParmsJsn}};
-  for (const Companion &companion : companions) {
-    const QString path = jsonPath(base + QLatin1String(companion.suffix));
-    if (!QFileInfo::exists(path)) {
-      for (const QString &line : QString::fromLatin1(companion.absent).split(QLatin1Char('\n')))
-        NivraMsg::log(line);
-      continue;
-    }
-    Result part = (this->*companion.read)(path, options);
-    if (part.ok) {
-      NivraMsg::log(QLatin1String(companion.success));
-    } else {
-      NivraMsg::logWarning(QLatin1String(companion.failed));
-      for (Finding &finding : part.findings) {
-        finding.severity = Finding::Severity::Warning;
-        finding.box.clear();
-      }
-    }
-    append(result, std::move(part));
-    if (result.cancelled)
-      return;
+void NivraReader::readCompanions(const QString &base, const Options &options, Result &result) {
+  static const Companion fixes{".fix", "Fixes for scenario are loaded!", "Could not read .fix.jsn file",
+                               "There is no scenario fixes file", &NivraReader::readScenariofileJsn};
+  static const Companion results{".res", "Results for scenario are loaded!", "Could not read .res.jsn file",
+                                 "There is no scenario .res.jsn file", &NivraReader::readResultsJsn};
+  static const Companion percentages{
+      ".gaspar", "Previously saved gas percentages etc. loaded!", "Could not read .gaspar.jsn file",
+      "Could not find .gaspar.jsn file\nUsually this happens if gas percentages etc. were not computed before.",
+      &NivraReader::readGasParmsJsn};
+  readCompanion(fixes, base, options, result);
+  readConfiguration(base, result);
+  readCompanion(results, base, options, result);
+  readCompanion(percentages, base, options, result);
+}
+
+void NivraReader::readCompanion(const Companion &companion, const QString &base, const Options &options, Result &result) {
+  if (result.cancelled)
+    return;
+  const QString path = jsonPath(base + QLatin1String(companion.suffix));
+  if (!QFileInfo::exists(path)) {
+    for (const QString &line : QString::fromLatin1(companion.absent).split(QLatin1Char('\n')))
+      NivraMsg::log(line);
+    return;
   }
+  Result part = (this->*companion.read)(path, options);
+  if (part.ok) {
+    NivraMsg::log(QLatin1String(companion.success));
+  } else {
+    NivraMsg::logWarning(QLatin1String(companion.failed));
+    for (Finding &finding : part.findings) {
+      finding.severity = Finding::Severity::Warning;
+      finding.box.clear();
+    }
+  }
+  append(result, std::move(part));
+}
+
+void NivraReader::readConfiguration(const QString &base, Result &result) {
+  const QString path = jsonPath(base + QStringLiteral(".scen.cfg"));
+  if (result.cancelled || !QFileInfo::exists(path))
+    return;
+  QString reason;
+  const std::optional<QJsonObject> object = readJsonObject(path, &reason);
+  if (object)
+    result.configuration = *object;
+  else
+    result.findings.push_back({Finding::Severity::Warning, path, 0, reason, QString()});
 }

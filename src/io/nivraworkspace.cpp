@@ -202,6 +202,17 @@ void NivraWorkspace::readScenarioConfiguration(NivraGasParams &gas, Findings &fi
     checkScenarioDirectory(actualName, findings);
 }
 
+void NivraWorkspace::takeConfiguration(const QJsonObject &object, NivraGasParams &gas) {
+  if (currentScenario() == nullptr)
+    return;
+  NivraScenario &scenario = m_cases.last().scenarios.last();
+  const NivraScenario before = scenario;
+  gas.fromJson(object);
+  scenario.fromJson(object);
+  scenario.workDir = before.workDir;
+  scenario.scenFile = before.scenFile;
+}
+
 void NivraWorkspace::readUnifiedConfiguration(const QString &directory) {
   QString reason;
   const std::optional<QJsonObject> object = readJsonObject(directory + QStringLiteral("/scenconfig.jsn"), &reason);

@@ -1,5 +1,6 @@
 #include <base/nivramsg.h>
 #include <model/consistencycheck.h>
+#include <model/propertycolumns.h>
 
 #include <QRegularExpression>
 
@@ -29,13 +30,13 @@ std::string_view textOf(const element &e, PropertyKey key) {
   return text == nullptr ? std::string_view() : text->utf8();
 }
 
-bool isTypeCode(const element &e, char code) {
-  const std::string_view type = textOf(e, keys().type);
+bool isTypeCode(const PropertyText *text, char code) {
+  const std::string_view type = text == nullptr ? std::string_view() : text->utf8();
   return type.size() == 1 && std::tolower(static_cast<unsigned char>(type.front())) == code;
 }
 
 bool isDrive(const element &e) {
-  return isTypeCode(e, 'd');
+  return isTypeCode(e.find(keys().type), 'd');
 }
 
 /// The names of the properties whose value names another element: "drive", "driven", "entry", "exit".
@@ -47,20 +48,27 @@ bool isReference(const QString &propertyName) {
 /// What the findings pass must know of a property name, asked once per name rather than once per element.
 class PropertyNames {
 public:
-  enum Sort : char { Unasked, Ordinary, Empty, Reference };
+  enum Sort : char { Unasked, Ordinary, Name, Type, Empty, Reference };
 
   Sort sort(PropertyKey key) {
     if (key.index() >= m_sorts.size())
       m_sorts.resize(key.index() + 1, Unasked);
     Sort &sort = m_sorts[key.index()];
-    if (sort == Unasked) {
-      const QString name = key.name();
-      sort = name.trimmed().isEmpty() ? Empty : isReference(name) ? Reference : Ordinary;
-    }
+    if (sort == Unasked)
+      sort = ask(key);
     return sort;
   }
 
 private:
+  static Sort ask(PropertyKey key) {
+    if (key == keys().name)
+      return Name;
+    if (key == keys().type)
+      return Type;
+    const QString name = key.name();
+    return name.trimmed().isEmpty() ? Empty : isReference(name) ? Reference : Ordinary;
+  }
+
   std::vector<Sort> m_sorts; // by the index of the key
 };
 
@@ -79,9 +87,33 @@ public:
 
 private:
   void check(const elements::Entry &entry) {
+    std::string_view name;
+    std::string_view type;
+    m_conspicuous.clear();
+    for (const Property &property : entry.value) {
+      switch (m_names.sort(property.key)) {
+      case PropertyNames::Unasked:
+      case PropertyNames::Ordinary:
+        break;
+      case PropertyNames::Name:
+        name = property.value.utf8();
+        break;
+      case PropertyNames::Type:
+        type = property.value.utf8();
+        break;
+      case PropertyNames::Empty:
+      case PropertyNames::Reference:
+        m_conspicuous.push_back(&property);
+        break;
+      }
+    }
+    checkIdentity(entry, name, type);
+    if (!m_conspicuous.empty())
+      checkProperties(entry);
+  }
+
+  void checkIdentity(const elements::Entry &entry, std::string_view name, std::string_view type) {
     const std::string_view id = entry.id.utf8();
-    const std::string_view name = textOf(entry.value, keys().name);
-    const std::string_view type = textOf(entry.value, keys().type);
     if (id.empty() || name.empty())
       m_text += QStringLiteral("ID or name-property empty: %1, %2\n").arg(entry.name(), entry.value.value(keys().name));
     if (name != id)
@@ -90,47 +122,46 @@ private:
     if (type.empty() || type.find(' ') != std::string_view::npos)
       m_text += QStringLiteral("value of type-property not OK: ") + entry.name() + QStringLiteral(", ") +
                 entry.value.value(keys().type) + QLatin1Char('\n');
+  }
+
+  void checkProperties(const elements::Entry &entry) {
     std::vector<PropertyKey> nameless;
-    for (const Property &property : entry.value)
-      check(entry, property, nameless);
+    for (const Property *property : m_conspicuous) {
+      if (m_names.sort(property->key) == PropertyNames::Empty) {
+        m_text += QStringLiteral("A property name is empty for element ") + entry.name() +
+                  QStringLiteral("! Property will be erased!\n");
+        nameless.push_back(property->key);
+      } else if (!property->value.isEmpty() && m_net.nodes().find(property->value) == nullptr &&
+                 m_net.edges().find(property->value) == nullptr) {
+        m_text += QStringLiteral("Cannot find element: ") + property->key.name() + QLatin1Char('@') + entry.name() +
+                  QLatin1Char('=') + property->value.toString() + QStringLiteral("!\n");
+      }
+    }
     for (const PropertyKey key : nameless)
       entry.value.erase(key);
   }
 
-  void check(const elements::Entry &entry, const Property &property, std::vector<PropertyKey> &nameless) {
-    switch (m_names.sort(property.key)) {
-    case PropertyNames::Unasked:
-    case PropertyNames::Ordinary:
-      return;
-    case PropertyNames::Empty:
-      m_text += QStringLiteral("A property name is empty for element ") + entry.name() +
-                QStringLiteral("! Property will be erased!\n");
-      nameless.push_back(property.key);
-      return;
-    case PropertyNames::Reference:
-      if (!property.value.isEmpty() && m_net.nodes().find(property.value) == nullptr &&
-          m_net.edges().find(property.value) == nullptr)
-        m_text += QStringLiteral("Cannot find element: ") + property.key.name() + QLatin1Char('@') + entry.name() +
-                  QLatin1Char('=') + property.value.toString() + QStringLiteral("!\n");
-      return;
-    }
-  }
-
   NetData &m_net;
   PropertyNames m_names;
+  std::vector<const Property *> m_conspicuous; // of the element at hand
   QString m_text;
 };
 
 class PruningPass {
 public:
   explicit PruningPass(NetData &net)
-      : m_net(net) {}
+      : m_net(net)
+      , m_ofNode({keys().name, keys().type, keys().x, keys().y})
+      , m_ofEdge({keys().name, keys().node1, keys().node2}) {}
 
   ConsistencyCheck::PruneResult run() {
     ConsistencyCheck::PruneResult result;
-    result.edges = erase(m_net.edges(), "edge", [this](element &e) { return edgePasses(e); });
-    result.nodes = erase(m_net.nodes(), "node", [this](element &e) { return nodePasses(e); });
-    result.nodes += erase(m_net.nodes(), "drive", [this](element &e) { return !isDrive(e) || drivePasses(e); });
+    static_cast<void>(m_net.nodes().begin()); // gives the nodes their places
+    m_passed.assign(m_net.nodes().size(), false);
+    result.edges = erase(m_net.edges(), "edge", [this](const elements::Entry &e) { return edgePasses(e.value); });
+    result.nodes = erase(m_net.nodes(), "node", [this](const elements::Entry &e) { return nodePasses(e); });
+    result.nodes += erase(m_net.nodes(), "drive",
+                          [this](const elements::Entry &e) { return !isDrive(e.value) || drivePasses(e.value); });
     if (result.nodes > 0 || result.edges > 0)
       NivraMsg::logCritical(
           QStringLiteral("CRITICAL - %1 nodes and %2 edges had to be removed!").arg(result.nodes).arg(result.edges));
@@ -141,7 +172,7 @@ private:
   template <typename Test>
   static int erase(elements &collection, const char *word, const Test &passes) {
     return static_cast<int>(collection.eraseIf([&](const elements::Entry &entry) {
-      if (passes(entry.value))
+      if (passes(entry))
         return false;
       NivraMsg::log(QStringLiteral("... %1 was: ").arg(QLatin1String(word)) + entry.name());
       entry.value.clear();
@@ -149,8 +180,8 @@ private:
     }));
   }
 
-  static bool hasName(const element &e, const char *word) {
-    if (!textOf(e, keys().name).empty())
+  static bool hasName(const element &e, const PropertyText *name, const char *word) {
+    if (name != nullptr && !name->isEmpty())
       return true;
     QString properties;
     for (const Property &property : e)
@@ -163,31 +194,43 @@ private:
     return false;
   }
 
-  static bool nodePasses(element &node) {
-    if (!hasName(node, "node"))
+  bool nodePasses(const elements::Entry &entry) {
+    const auto place = static_cast<std::size_t>(entry.place);
+    if (!m_passed[place])
+      m_passed[place] = nodePasses(entry.value);
+    return m_passed[place];
+  }
+
+  bool nodePasses(element &node) {
+    m_ofNode.read(node);
+    if (!hasName(node, m_ofNode[NodeName], "node"))
       return false;
-    if (isDrive(node))
+    if (isTypeCode(m_ofNode[NodeType], 'd'))
       return true; // the drive test gives it its coordinates
-    setDefault(node, keys().x, 'x');
-    setDefault(node, keys().y, 'y');
+    const bool hasX = m_ofNode[NodeX] != nullptr;
+    const bool hasY = m_ofNode[NodeY] != nullptr;
+    if (!hasX)
+      setDefault(node, keys().x, 'x');
+    if (!hasY)
+      setDefault(node, keys().y, 'y');
     return true;
   }
 
   static void setDefault(element &node, PropertyKey key, char axis) {
-    if (node.find(key) != nullptr)
-      return;
     node.set(key, PropertyText(std::string_view("0")));
     NivraMsg::logWarning(QStringLiteral("Node %1 did not possess %2-value. Set to 0.")
                              .arg(node.value(keys().name), QString(QLatin1Char(axis))));
   }
 
   bool edgePasses(const element &edge) {
-    if (!hasName(edge, "edge"))
+    m_ofEdge.read(edge);
+    if (!hasName(edge, m_ofEdge[EdgeName], "edge"))
       return false;
-    if (!edgeHas(edge, keys().node1) || !edgeHas(edge, keys().node2))
-      return false;
-    element *node1 = end(edge, keys().node1);
-    element *node2 = node1 == nullptr ? nullptr : end(edge, keys().node2);
+    if (m_ofEdge[EdgeNode1] == nullptr || m_ofEdge[EdgeNode2] == nullptr)
+      return edgeFails(edge, QStringLiteral("Could not find property ") +
+                                 (m_ofEdge[EdgeNode1] == nullptr ? keys().node1 : keys().node2).name());
+    const elements::Entry *node1 = end(edge, keys().node1, *m_ofEdge[EdgeNode1]);
+    const elements::Entry *node2 = node1 == nullptr ? nullptr : end(edge, keys().node2, *m_ofEdge[EdgeNode2]);
     return node2 != nullptr && endPasses(edge, keys().node1, *node1) && endPasses(edge, keys().node2, *node2);
   }
 
@@ -197,18 +240,14 @@ private:
     return false;
   }
 
-  static bool edgeHas(const element &edge, PropertyKey end) {
-    return edge.find(end) != nullptr || edgeFails(edge, QStringLiteral("Could not find property ") + end.name());
-  }
-
-  element *end(const element &edge, PropertyKey key) const {
-    element *node = m_net.nodes().find(*edge.find(key));
+  const elements::Entry *end(const element &edge, PropertyKey key, const PropertyText &name) const {
+    const elements::Entry *node = m_net.nodes().findEntry(name.utf8());
     if (node == nullptr)
-      edgeFails(edge, QStringLiteral("Could not find ") + key.name() + QLatin1Char(' ') + edge.value(key));
+      edgeFails(edge, QStringLiteral("Could not find ") + key.name() + QLatin1Char(' ') + name.toString());
     return node;
   }
 
-  static bool endPasses(const element &edge, PropertyKey key, element &node) {
+  bool endPasses(const element &edge, PropertyKey key, const elements::Entry &node) {
     if (nodePasses(node))
       return true;
     const QString word = key.name();
@@ -234,7 +273,7 @@ private:
       place(drive, coordinate(*gasNode, keys().x), coordinate(*gasNode, keys().y) + 50.0);
       return true;
     }
-    if (!isTypeCode(*driven, 'c'))
+    if (!isTypeCode(driven->find(keys().type), 'c'))
       return driveFails(drive, QStringLiteral("DRIVEN ") + drivenName->toString() +
                                    QStringLiteral(" is not of type compressor. Drive is excluded!"));
     if (gasNode == nullptr)
@@ -273,7 +312,13 @@ private:
                   QStringLiteral(" did not possess x- or y-value. Set to (%1,%2).").arg(xText, yText));
   }
 
+  enum NodeColumn { NodeName, NodeType, NodeX, NodeY };
+  enum EdgeColumn { EdgeName, EdgeNode1, EdgeNode2 };
+
   NetData &m_net;
+  PropertyColumns m_ofNode;
+  PropertyColumns m_ofEdge;
+  std::vector<bool> m_passed; // nodes by their place: those that need no second test
 };
 
 } // namespace
@@ -283,7 +328,7 @@ QString ConsistencyCheck::findings(NetData &net) {
 }
 
 QString ConsistencyCheck::checkNetData(NetData &net) {
-  const QString text = findings(net);
+  QString text = findings(net);
   if (!text.isEmpty()) {
     NivraMsg::message(NivraMsg::Kind::Warning, QStringLiteral("Check with findings! See log! Beginning:\n") +
                                                    text.section(QStringLiteral("..."), 0, 200));

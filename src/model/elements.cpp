@@ -4,11 +4,12 @@
 #include <QVector>
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <boost/multi_index/hashed_index.hpp>
 #include <boost/multi_index/member.hpp>
 #include <boost/multi_index_container.hpp>
+#include <cstring>
+#include <memory_resource>
 #include <mutex>
 
 namespace {
@@ -42,15 +43,32 @@ std::string folded(std::string_view utf8) {
   return text.toStdString();
 }
 
-struct IdHash {
-  std::size_t operator()(std::string_view utf8) const {
-    constexpr std::size_t OnStack = 64;
-    if (utf8.size() > OnStack || !isAscii(utf8))
-      return std::hash<std::string_view>()(folded(utf8));
-    std::array<char, OnStack> buffer;
-    std::transform(utf8.begin(), utf8.end(), buffer.begin(), lower);
-    return std::hash<std::string_view>()({buffer.data(), utf8.size()});
+/// Eight bytes with their ASCII letters in lower case.
+std::uint64_t loweredWord(std::uint64_t word) noexcept {
+  constexpr std::uint64_t Ones = 0x0101010101010101U;
+  const std::uint64_t heptets = word & (0x7f * Ones);
+  const std::uint64_t fromA = heptets + (0x80 - 'A') * Ones;
+  const std::uint64_t beyondZ = heptets + (0x7f - 'Z') * Ones;
+  const std::uint64_t upper = ~word & (fromA ^ beyondZ) & (0x80 * Ones);
+  return word | (upper >> 2U);
+}
+
+/// The same for texts that differ in the case of ASCII letters only. Names are short: eight bytes a step.
+std::size_t hashOf(std::string_view text) noexcept {
+  constexpr std::uint64_t Golden = 0x9e3779b97f4a7c15U;
+  constexpr unsigned Half = 32;
+  std::uint64_t hash = text.size() * Golden;
+  for (std::size_t i = 0; i < text.size(); i += sizeof(std::uint64_t)) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, text.data() + i, std::min(sizeof word, text.size() - i));
+    hash = (hash ^ loweredWord(word)) * Golden;
+    hash ^= hash >> Half;
   }
+  return hash;
+}
+
+struct IdHash {
+  std::size_t operator()(std::string_view utf8) const { return hashOf(isAscii(utf8) ? utf8 : folded(utf8)); }
   std::size_t operator()(const PropertyText &id) const { return operator()(id.utf8()); }
 };
 
@@ -103,16 +121,26 @@ struct SortKey {
 namespace mi = boost::multi_index;
 using ById = mi::multi_index_container<
     elements::Entry,
-    mi::indexed_by<mi::hashed_unique<mi::member<elements::Entry, PropertyText, &elements::Entry::id>, IdHash, IdEqual>>>;
+    mi::indexed_by<mi::hashed_unique<mi::member<elements::Entry, PropertyText, &elements::Entry::id>, IdHash, IdEqual>>,
+    std::pmr::polymorphic_allocator<elements::Entry>>;
 
 } // namespace
 
 struct elements::Storage {
-  ById entries;
-  // Name order, made when somebody walks the collection and kept until it changes. The mutex is for concurrent readers.
+  // Entries lie close together, apart from their properties: a lookup among a million then misses the caches less often.
+  std::pmr::unsynchronized_pool_resource pool;
+  ById entries{ById::ctor_args_list(), &pool};
+  // In the order in which they came until somebody walks the collection, then in name order until it changes. Not all of
+  // them after an erasure or a copy: then it is made anew. The mutex is for concurrent readers.
   std::vector<const Entry *> order;
   std::atomic<bool> sorted{false};
   std::mutex mutex;
+
+  void number() const {
+    int place = 0;
+    for (const Entry *entry : order)
+      entry->place = place++;
+  }
 };
 
 elements::elements(QString name)
@@ -121,7 +149,8 @@ elements::elements(QString name)
 
 elements::elements(const elements &other)
     : elements(other.m_name) {
-  m_storage->entries = other.m_storage->entries;
+  for (const Entry &entry : other.m_storage->entries)
+    m_storage->entries.insert(entry);
 }
 
 elements::elements(elements &&other) noexcept = default;
@@ -135,6 +164,11 @@ elements &elements::operator=(const elements &other) {
 elements &elements::operator=(elements &&other) noexcept = default;
 
 elements::~elements() = default;
+
+void elements::reserve(std::size_t count) {
+  m_storage->entries.reserve(count);
+  m_storage->order.reserve(count);
+}
 
 std::size_t elements::size() const noexcept {
   return m_storage->entries.size();
@@ -167,6 +201,7 @@ element *elements::tryInsert(const PropertyText &id, element &&value) {
   if (!inserted)
     return nullptr;
   position->value = std::move(value);
+  m_storage->order.push_back(&*position);
   m_storage->sorted = false;
   return &position->value;
 }
@@ -195,9 +230,12 @@ std::size_t elements::eraseIf(const std::function<bool(const Entry &)> &predicat
   std::vector<const Entry *> kept;
   kept.reserve(m_storage->order.size());
   std::vector<const Entry *> erased;
-  for (const Entry *entry : m_storage->order)
-    (predicate(*entry) ? erased : kept).push_back(entry);
+  for (const Entry &entry : *this)
+    (predicate(entry) ? erased : kept).push_back(&entry);
+  if (erased.empty())
+    return 0;
   m_storage->order = std::move(kept);
+  m_storage->number();
   for (const Entry *entry : erased)
     m_storage->entries.erase(m_storage->entries.iterator_to(*entry));
   return erased.size();
@@ -211,12 +249,13 @@ void elements::clear() {
 
 elements::const_iterator elements::begin() const {
   sort();
-  return const_iterator(m_storage->order.data());
+  return {m_storage->order.data(), m_storage->order.data() + m_storage->order.size()};
 }
 
 elements::const_iterator elements::end() const {
   sort();
-  return const_iterator(m_storage->order.data() + m_storage->order.size());
+  const Entry *const *end = m_storage->order.data() + m_storage->order.size();
+  return {end, end};
 }
 
 void elements::sort() const {
@@ -226,14 +265,18 @@ void elements::sort() const {
   const std::lock_guard lock(storage.mutex);
   if (storage.sorted.load(std::memory_order_relaxed))
     return;
+  if (storage.order.size() != storage.entries.size()) {
+    storage.order.clear();
+    for (const Entry &entry : storage.entries)
+      storage.order.push_back(&entry);
+  }
   std::vector<SortKey> keys;
-  keys.reserve(storage.entries.size());
-  for (const Entry &entry : storage.entries)
-    keys.emplace_back(&entry);
-  std::sort(keys.begin(), keys.end());
-  storage.order.clear();
-  storage.order.reserve(keys.size());
-  for (const SortKey &key : keys)
-    storage.order.push_back(key.entry);
+  keys.reserve(storage.order.size());
+  for (const Entry *entry : storage.order)
+    keys.emplace_back(entry);
+  if (!std::is_sorted(keys.begin(), keys.end()))
+    std::sort(keys.begin(), keys.end());
+  std::transform(keys.begin(), keys.end(), storage.order.begin(), [](const SortKey &key) { return key.entry; });
+  storage.number();
   storage.sorted.store(true, std::memory_order_release);
 }

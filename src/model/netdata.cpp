@@ -159,14 +159,17 @@ void NetData::clear() {
     entry.second->clear();
 }
 
-double NetData::value(const ::element &element, PropertyKey property, bool absolute) const {
-  const PropertyText *text = element.find(property);
+double NetData::number(const PropertyText *text, bool absolute) {
   if (text == nullptr)
     return NoValue;
-  const std::optional<double> number = text->toDouble();
-  if (!number || !(*number > -1e20 && *number < 1e20))
+  const std::optional<double> parsed = text->toDouble();
+  if (!parsed || !(*parsed > -1e20 && *parsed < 1e20))
     return NoValue;
-  return absolute ? std::abs(*number) : *number;
+  return absolute ? std::abs(*parsed) : *parsed;
+}
+
+double NetData::value(const ::element &element, PropertyKey property, bool absolute) const {
+  return number(element.find(property), absolute);
 }
 
 double NetData::value(const ::element &element, const QString &property, bool absolute) const {

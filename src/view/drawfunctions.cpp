@@ -31,7 +31,7 @@ bool varies(const NetData &net, const elements &collection, const QString &prope
 
 QString firstThatVaries(const NetData &net, const elements &collection, std::initializer_list<const char *> properties) {
   for (const char *property : properties) {
-    const QString name = QString::fromLatin1(property);
+    QString name = QString::fromLatin1(property);
     if (varies(net, collection, name))
       return name;
   }

@@ -2,20 +2,29 @@
 #include <view/layergeometry.h>
 
 #include <algorithm>
-#include <map>
-#include <tuple>
+#include <cmath>
+#include <cstdint>
+#include <unordered_map>
 
 namespace {
 
 constexpr double EdgeZ = 10.0;
 constexpr double WidthStep = 0.25; // px: widths are rounded so that many edges share a pen
 
-/// Pens in drawing order: what says nothing lies below, broad lines above narrow ones.
-using PenKey = std::tuple<bool, int, QRgb>;
+constexpr unsigned WidthShift = 32;
+constexpr unsigned RankShift = 48;
 
-PenKey penKey(const EdgeLook &look) {
+/// A number a pen, ascending in drawing order: what says nothing lies below, narrow lines below broad ones.
+std::uint64_t penKey(const EdgeLook &look) {
   constexpr double Broadest = 200.0;
-  return {!look.isBackground, static_cast<int>(std::lround(qBound(0.0, look.width, Broadest) / WidthStep)), look.color};
+  const auto width = static_cast<std::uint64_t>(std::lround(qBound(0.0, look.width, Broadest) / WidthStep));
+  return (std::uint64_t(!look.isBackground) << RankShift) | (width << WidthShift) | look.color;
+}
+
+QPen penOf(std::uint64_t key) {
+  constexpr std::uint64_t WidthMask = 0xffff;
+  const double width = static_cast<double>((key >> WidthShift) & WidthMask) * WidthStep;
+  return {QColor(static_cast<QRgb>(key)), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
 } // namespace
@@ -57,19 +66,31 @@ void EdgeLayer::setEdges(const NetGeometry &geometry) {
 }
 
 void EdgeLayer::setLooks(const std::vector<EdgeLook> &looks) {
-  std::map<PenKey, int> numbers;
-  for (const Record &record : m_records)
-    numbers.emplace(penKey(looks[static_cast<std::size_t>(record.edge)]), 0);
+  // Number the pens as they come, then put them into drawing order.
+  std::unordered_map<std::uint64_t, int> numbers;
+  std::vector<std::uint64_t> keys;
+  for (Record &record : m_records) {
+    const std::uint64_t key = penKey(looks[static_cast<std::size_t>(record.edge)]);
+    const auto [known, isNew] = numbers.try_emplace(key, static_cast<int>(keys.size()));
+    if (isNew)
+      keys.push_back(key);
+    record.pen = known->second;
+  }
+  std::vector<std::uint64_t> sorted = keys;
+  std::sort(sorted.begin(), sorted.end());
+  std::vector<int> places;
+  places.reserve(keys.size());
+  for (const std::uint64_t key : keys)
+    places.push_back(static_cast<int>(std::lower_bound(sorted.begin(), sorted.end(), key) - sorted.begin()));
+  for (Record &record : m_records)
+    record.pen = places[static_cast<std::size_t>(record.pen)];
+
   m_pens.clear();
   m_widest = 0.0;
-  for (auto &[key, number] : numbers) {
-    number = static_cast<int>(m_pens.size());
-    const double width = std::get<1>(key) * WidthStep;
-    m_pens.emplace_back(QColor(std::get<2>(key)), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-    m_widest = std::max(m_widest, width);
+  for (const std::uint64_t key : sorted) {
+    m_pens.push_back(penOf(key));
+    m_widest = std::max(m_widest, m_pens.back().widthF());
   }
-  for (Record &record : m_records)
-    record.pen = numbers.at(penKey(looks[static_cast<std::size_t>(record.edge)]));
 }
 
 void EdgeLayer::clear() {

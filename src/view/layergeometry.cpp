@@ -77,7 +77,7 @@ double pixelRatio(const QPainter &painter) {
   constexpr double Smallest = 0.25;
   constexpr double Largest = 16.0;
   constexpr double Steps = 4.0; // a cache entry a quarter: enough to be sharp
-  const QTransform transform = painter.deviceTransform();
+  const QTransform &transform = painter.deviceTransform();
   const double scale = std::hypot(transform.m11(), transform.m12());
   return std::isfinite(scale) ? qBound(Smallest, std::ceil(scale * Steps) / Steps, Largest) : 1.0;
 }
@@ -116,7 +116,8 @@ bool PixelGrid::takeApart(const QPointF &point) {
     return false;
   const int row = m_columns + 2;
   for (const int around : {-row - 1, -row, -row + 1, -1, 0, 1, row - 1, row, row + 1}) {
-    if (m_taken[static_cast<std::size_t>(i + around)])
+    const int neighbour = i + around;
+    if (m_taken[static_cast<std::size_t>(neighbour)])
       return false;
   }
   m_taken[static_cast<std::size_t>(i)] = true;
@@ -132,9 +133,12 @@ bool PixelGrid::takeArea(const QRectF &area) {
   const int top = cell(area.top(), m_origin.y(), m_rows);
   const int bottom = cell(area.bottom(), m_origin.y(), m_rows);
   const auto forEachCell = [&](const auto &visit) {
-    for (int row = top; row <= bottom; ++row)
-      for (int column = left; column <= right; ++column)
-        visit(static_cast<std::size_t>((row + 1) * (m_columns + 2) + column + 1));
+    for (int row = top; row <= bottom; ++row) {
+      for (int column = left; column <= right; ++column) {
+        const int i = (row + 1) * (m_columns + 2) + column + 1;
+        visit(static_cast<std::size_t>(i));
+      }
+    }
   };
   bool isFree = true;
   forEachCell([&](std::size_t i) { isFree = isFree && !m_taken[i]; });

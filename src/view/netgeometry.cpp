@@ -1,29 +1,20 @@
+#include <model/propertycolumns.h>
 #include <view/netgeometry.h>
 
 #include <algorithm>
 #include <array>
-#include <unordered_map>
 
 namespace {
 
-struct Keys {
-  PropertyKey x = PropertyKey::intern("x");
-  PropertyKey y = PropertyKey::intern("y");
-  PropertyKey type = PropertyKey::intern("type");
-  PropertyKey kind = PropertyKey::intern("kind");
-  PropertyKey node1 = PropertyKey::intern("node1");
-  PropertyKey node2 = PropertyKey::intern("node2");
-  PropertyKey state = PropertyKey::intern("state");
-  PropertyKey active = PropertyKey::intern("active");
-  PropertyKey pset = PropertyKey::intern("pset");
-  PropertyKey powset = PropertyKey::intern("powset");
-  PropertyKey qset = PropertyKey::intern("qset");
-  PropertyKey mset = PropertyKey::intern("mset");
-};
+enum NodeColumn { NodeX, NodeY, NodeType, NodeKind, NodePset, NodePowset, NodeQset, NodeMset };
+enum EdgeColumn { EdgeNode1, EdgeNode2, EdgeType, EdgeState, EdgeActive };
+enum PlaceColumn { PlaceX, PlaceY };
 
-const Keys &keys() {
-  static const Keys instance;
-  return instance;
+PropertyColumns columnsOf(std::initializer_list<const char *> names) {
+  std::vector<PropertyKey> keys;
+  for (const char *name : names)
+    keys.push_back(PropertyKey::intern(name));
+  return PropertyColumns(std::move(keys));
 }
 
 bool equals(std::string_view text, std::string_view lower) {
@@ -44,11 +35,9 @@ bool saysOff(const PropertyText *text) {
 }
 
 /// "kind" tells a station of supply or demand even when the scenario sets no flow; a held pressure is shown as such.
-NetGeometry::NodeShape shapeOf(const NetData &net, const element &node) {
+NetGeometry::NodeShape shapeOf(const NetData &net, const element &node, const PropertyColumns &read) {
   using Shape = NetGeometry::NodeShape;
-  const Keys &k = keys();
-  if (node.find(k.pset) != nullptr || node.find(k.powset) != nullptr || node.find(k.qset) != nullptr ||
-      node.find(k.mset) != nullptr) {
+  if (read[NodePset] != nullptr || read[NodePowset] != nullptr || read[NodeQset] != nullptr || read[NodeMset] != nullptr) {
     const QString category = net.nodeCategory(node);
     if (category == QLatin1String("pset"))
       return Shape::Pressure;
@@ -57,10 +46,38 @@ NetGeometry::NodeShape shapeOf(const NetData &net, const element &node) {
     if (category == QLatin1String("demand"))
       return Shape::Demand;
   }
-  const PropertyText *kind = node.find(k.kind);
+  const PropertyText *kind = read[NodeKind];
   if (kind != nullptr && equals(kind->utf8(), "source"))
     return Shape::Supply;
   return kind != nullptr && equals(kind->utf8(), "sink") ? Shape::Demand : Shape::Junction;
+}
+
+PropertyColumns reader(const std::vector<NetGeometry::Wanted> &wanted) {
+  std::vector<PropertyKey> keys;
+  for (const NetGeometry::Wanted &column : wanted)
+    keys.push_back(column.property);
+  return PropertyColumns(std::move(keys));
+}
+
+std::vector<const element *> sourcesOf(const elements &collection) {
+  std::vector<const element *> sources;
+  sources.reserve(collection.size());
+  for (const elements::Entry &entry : collection)
+    sources.push_back(&entry.value);
+  return sources;
+}
+
+template <typename Record>
+std::vector<const element *> sourcesOf(const std::vector<Record> &records) {
+  std::vector<const element *> sources;
+  sources.reserve(records.size());
+  for (const Record &record : records)
+    sources.push_back(record.source);
+  return sources;
+}
+
+bool isPlaced(double x, double y) {
+  return x != NetData::NoValue && y != NetData::NoValue;
 }
 
 } // namespace
@@ -69,8 +86,8 @@ void NetGeometry::build(const NetData &net) {
   clear();
   addNodes(net);
   addEdges(net);
-  m_textBoxes = places(net, net.textBoxes());
-  m_subnets = places(net, net.assembledSubnets());
+  m_textBoxes = places(net.textBoxes());
+  m_subnets = places(net.assembledSubnets());
 }
 
 void NetGeometry::clear() {
@@ -78,58 +95,57 @@ void NetGeometry::clear() {
 }
 
 void NetGeometry::addNodes(const NetData &net) {
-  m_nodes.reserve(net.nodes().size());
-  for (const elements::Entry &entry : net.nodes()) {
-    Node node;
-    node.source = &entry.value;
-    node.x = net.value(entry.value, keys().x);
-    node.y = net.value(entry.value, keys().y);
-    node.isPlaced = node.x != NetData::NoValue && node.y != NetData::NoValue;
-    const PropertyText *type = entry.value.find(keys().type);
-    node.isDrive = type != nullptr && type->utf8() == "d";
+  const std::vector<const element *> sources = sourcesOf(net.nodes());
+  m_nodes.resize(sources.size());
+  const PropertyColumns columns = columnsOf({"x", "y", "type", "kind", "pset", "powset", "qset", "mset"});
+  columns.forEach(sources, [&](std::size_t i, const PropertyColumns &read) {
+    Node &node = m_nodes[i];
+    node.source = sources[i];
+    node.x = NetData::number(read[NodeX]);
+    node.y = NetData::number(read[NodeY]);
+    node.isPlaced = ::isPlaced(node.x, node.y);
+    node.isDrive = read[NodeType] != nullptr && read[NodeType]->utf8() == "d";
     if (!node.isDrive)
-      node.shape = shapeOf(net, entry.value);
+      node.shape = shapeOf(net, *node.source, read);
+  });
+  for (const Node &node : m_nodes) {
     if (node.isPlaced)
       extend(node.x, node.y);
     else
       ++m_unplaced;
-    m_nodes.push_back(node);
   }
 }
 
 void NetGeometry::addEdges(const NetData &net) {
-  std::unordered_map<const element *, int> positions;
-  positions.reserve(m_nodes.size());
-  for (std::size_t i = 0; i < m_nodes.size(); ++i)
-    positions.emplace(m_nodes[i].source, static_cast<int>(i));
-  const auto position = [&](const element &edge, PropertyKey key) {
-    const PropertyText *name = edge.find(key);
-    const element *node = name == nullptr ? nullptr : net.nodes().find(*name);
-    const auto found = node == nullptr ? positions.end() : positions.find(node);
-    return found == positions.end() ? -1 : found->second;
+  // m_nodes stands in name order, as the collection does.
+  const auto position = [&](const PropertyText *name) {
+    const elements::Entry *node = name == nullptr ? nullptr : net.nodes().findEntry(name->utf8());
+    return node == nullptr ? -1 : node->place;
   };
-  m_edges.reserve(net.edges().size());
-  for (const elements::Entry &entry : net.edges()) {
-    Edge edge;
-    edge.source = &entry.value;
-    edge.node1 = position(entry.value, keys().node1);
-    edge.node2 = position(entry.value, keys().node2);
-    const PropertyText *type = entry.value.find(keys().type);
-    if (type != nullptr && type->utf8().size() == 1)
-      edge.type = type->utf8().front();
-    edge.isInactive = saysOff(entry.value.find(keys().state)) || saysOff(entry.value.find(keys().active));
-    if (!isPlaced(edge))
-      ++m_unplaced;
-    m_edges.push_back(edge);
-  }
+  const std::vector<const element *> sources = sourcesOf(net.edges());
+  m_edges.resize(sources.size());
+  const PropertyColumns columns = columnsOf({"node1", "node2", "type", "state", "active"});
+  columns.forEach(sources, [&](std::size_t i, const PropertyColumns &read) {
+    Edge &edge = m_edges[i];
+    edge.source = sources[i];
+    edge.node1 = position(read[EdgeNode1]);
+    edge.node2 = position(read[EdgeNode2]);
+    if (read[EdgeType] != nullptr && read[EdgeType]->utf8().size() == 1)
+      edge.type = read[EdgeType]->utf8().front();
+    edge.isInactive = saysOff(read[EdgeState]) || saysOff(read[EdgeActive]);
+  });
+  for (const Edge &edge : m_edges)
+    m_unplaced += isPlaced(edge) ? 0 : 1;
 }
 
-std::vector<NetGeometry::Place> NetGeometry::places(const NetData &net, const elements &collection) {
+std::vector<NetGeometry::Place> NetGeometry::places(const elements &collection) {
+  PropertyColumns read = columnsOf({"x", "y"});
   std::vector<Place> found;
   for (const elements::Entry &entry : collection) {
-    const double x = net.value(entry.value, keys().x);
-    const double y = net.value(entry.value, keys().y);
-    if (x == NetData::NoValue || y == NetData::NoValue) {
+    read.read(entry.value);
+    const double x = NetData::number(read[PlaceX]);
+    const double y = NetData::number(read[PlaceY]);
+    if (!::isPlaced(x, y)) {
       ++m_unplaced;
       continue;
     }
@@ -152,29 +168,29 @@ bool NetGeometry::isPlaced(const Edge &edge) const {
          m_nodes[static_cast<std::size_t>(edge.node2)].isPlaced;
 }
 
-std::vector<double> NetGeometry::nodeValues(const NetData &net, PropertyKey property, bool absolute) const {
-  std::vector<double> values(m_nodes.size(), NetData::NoValue);
-  if (property.isNull())
-    return values;
-  for (std::size_t i = 0; i < m_nodes.size(); ++i)
-    values[i] = net.value(*m_nodes[i].source, property, absolute);
-  return values;
+NetGeometry::Columns NetGeometry::nodeValues(const std::vector<Wanted> &wanted) const {
+  Columns columns(wanted.size(), std::vector<double>(m_nodes.size(), NetData::NoValue));
+  reader(wanted).forEach(sourcesOf(m_nodes), [&](std::size_t i, const PropertyColumns &read) {
+    for (std::size_t column = 0; column < wanted.size(); ++column)
+      columns[column][i] = NetData::number(read[column], wanted[column].absolute);
+  });
+  return columns;
 }
 
-std::vector<double> NetGeometry::edgeValues(const NetData &net, PropertyKey property, bool absolute) const {
-  std::vector<double> values(m_edges.size(), NetData::NoValue);
-  if (property.isNull())
-    return values;
-  const std::vector<double> ends = nodeValues(net, property, absolute);
-  for (std::size_t i = 0; i < m_edges.size(); ++i) {
+NetGeometry::Columns NetGeometry::edgeValues(const std::vector<Wanted> &wanted, const Columns &ofNodes) const {
+  Columns columns(wanted.size(), std::vector<double>(m_edges.size(), NetData::NoValue));
+  reader(wanted).forEach(sourcesOf(m_edges), [&](std::size_t i, const PropertyColumns &read) {
     const Edge &edge = m_edges[i];
-    if (edge.source->find(property) != nullptr) {
-      values[i] = net.value(*edge.source, property, absolute);
-    } else if (edge.node1 >= 0 && edge.node2 >= 0) {
-      const double first = ends[static_cast<std::size_t>(edge.node1)];
-      const double second = ends[static_cast<std::size_t>(edge.node2)];
-      values[i] = first == NetData::NoValue || second == NetData::NoValue ? NetData::NoValue : (first + second) * 0.5;
+    for (std::size_t column = 0; column < wanted.size(); ++column) {
+      if (read[column] != nullptr) {
+        columns[column][i] = NetData::number(read[column], wanted[column].absolute);
+      } else if (edge.node1 >= 0 && edge.node2 >= 0) {
+        const double first = ofNodes[column][static_cast<std::size_t>(edge.node1)];
+        const double second = ofNodes[column][static_cast<std::size_t>(edge.node2)];
+        if (first != NetData::NoValue && second != NetData::NoValue)
+          columns[column][i] = (first + second) * 0.5;
+      }
     }
-  }
-  return values;
+  });
+  return columns;
 }

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <future>
 
 namespace {
 
@@ -73,29 +74,33 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
   timer.start();
   if (rebuild)
     this->rebuild();
-  const PlotSettings &s = m_settings;
-  const Values colors = edgeValues(s.colorFunc, s.absColor, s.minVal_edgeColor, s.maxVal_edgeColor);
-  ColorScale::show(*m_plot.plot(), s, DrawFunction::find(s.colorFunc, *m_net), colors.range);
+  readValues();
+  ColorScale::show(*m_plot.plot(), m_settings, DrawFunction::find(m_settings.colorFunc, *m_net), m_values.edgeColor.range);
   m_plot.placeLegend();
   m_plot.showAxes();
 
+  std::future<void> nodes; // beside the edges
+  if (which != Which::Edges)
+    nodes = std::async(std::launch::async, [this, rebuild] {
+      if (rebuild)
+        m_nodes.setNodes(m_geometry);
+      updateNodes();
+    });
   if (which != Which::Nodes) {
     if (rebuild) {
       m_edges.setEdges(m_geometry);
       NivraMsg::log(QStringLiteral("   after rebuild edges: %1 sec.").arg(seconds(timer)));
     }
-    updateEdges(colors, edgeValues(s.widthFunc, s.absWidth, s.minVal_Width, s.maxVal_Width));
+    updateEdges();
     NivraMsg::log(QStringLiteral("   after update edge curves: %1 sec.").arg(seconds(timer)));
   }
-  if (which != Which::Edges) {
-    if (rebuild)
-      m_nodes.setNodes(m_geometry);
-    updateNodes();
+  if (nodes.valid()) {
+    nodes.get();
     NivraMsg::log(QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
   }
   if (rebuild)
     updateSymbols();
-  m_symbols.setSize(s.symMag);
+  m_symbols.setSize(m_settings.symMag);
   m_plot.plot()->replot();
   NivraMsg::log(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
 }
@@ -106,32 +111,49 @@ void NetUpdate::rebuild() {
     NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
 }
 
-NetUpdate::Values NetUpdate::edgeValues(const QString &function, bool absolute, double minimum, double maximum) const {
-  const DrawFunction found = DrawFunction::find(function, *m_net);
-  Values values;
-  values.ofElements = m_geometry.edgeValues(*m_net, found.property, absolute);
+void NetUpdate::readValues() {
+  const PlotSettings &s = m_settings;
+  const auto wanted = [this](const QString &function, bool absolute) {
+    return NetGeometry::Wanted{DrawFunction::find(function, *m_net).property, absolute};
+  };
+  enum { Color, Width, Flow, NodeColor, NodeSize };
+  const std::vector<NetGeometry::Wanted> ofEdges{wanted(s.colorFunc, s.absColor), wanted(s.widthFunc, s.absWidth),
+                                                 wanted(s.edgeShowFlow, true)};
+  const bool isFixed = s.nodeSizeFunc == PlotSettings::fixedSize();
+  std::vector<NetGeometry::Wanted> ofNodes = ofEdges; // the ends of edges, then what nodes show
+  const bool isOneColor = s.nodeColorFunc == s.colorFunc && s.absNodeColor == s.absColor; // then it is read once
+  ofNodes.push_back(wanted(isOneColor ? QString() : s.nodeColorFunc, s.absNodeColor));
+  ofNodes.push_back(wanted(isFixed ? QString() : s.nodeSizeFunc, s.absNodeSize));
+  NetGeometry::Columns ends = m_geometry.nodeValues(ofNodes);
+  if (isOneColor)
+    ends[NodeColor] = ends[Color];
+  NetGeometry::Columns edges = m_geometry.edgeValues(ofEdges, ends);
   // The nodes' own range, so that nodes and edges coloured by one function share their colours.
-  const QwtInterval range =
-      rangeOf(found.isOfNodes ? m_geometry.nodeValues(*m_net, found.property, absolute) : values.ofElements);
-  values.range = withFixedBounds(range, minimum, maximum);
-  return values;
+  const auto edgeRange = [&](const QString &function, int column) {
+    const auto i = static_cast<std::size_t>(column);
+    return rangeOf(DrawFunction::find(function, *m_net).isOfNodes ? ends[i] : edges[i]);
+  };
+  m_values.edgeColor.range = withFixedBounds(edgeRange(s.colorFunc, Color), s.minVal_edgeColor, s.maxVal_edgeColor);
+  m_values.edgeWidth.range = withFixedBounds(edgeRange(s.widthFunc, Width), s.minVal_Width, s.maxVal_Width);
+  m_values.edgeColor.ofElements = std::move(edges[Color]);
+  m_values.edgeWidth.ofElements = std::move(edges[Width]);
+  m_values.flow = std::move(edges[Flow]);
+
+  m_values.nodeColor.range = withFixedBounds(rangeOf(ends[NodeColor]), s.minVal_nodeColor, s.maxVal_nodeColor);
+  m_values.nodeSize.range = withFixedBounds(rangeOf(ends[NodeSize]), s.minVal_nodeSize, s.maxVal_nodeSize);
+  m_values.nodeColor.ofElements = std::move(ends[NodeColor]);
+  m_values.nodeSize.ofElements = std::move(ends[NodeSize]);
 }
 
-NetUpdate::Values NetUpdate::nodeValues(const QString &function, bool absolute, double minimum, double maximum) const {
-  Values values;
-  values.ofElements = m_geometry.nodeValues(*m_net, DrawFunction::find(function, *m_net).property, absolute);
-  values.range = withFixedBounds(rangeOf(values.ofElements), minimum, maximum);
-  return values;
-}
-
-void NetUpdate::updateEdges(const Values &colors, const Values &widths) {
+void NetUpdate::updateEdges() {
   constexpr double WidthSpan = 4.0; // px that the width function adds at most, at magnification 1
   constexpr double NoFlow = 1e-10;  // in whatever unit the flow is stored
+  const Values &colors = m_values.edgeColor;
+  const Values &widths = m_values.edgeWidth;
+  const std::vector<double> &flow = m_values.flow;
   const auto colorMap = ColorScale::colorMap(m_settings, m_settings.logScaleColor);
   const auto widthMap = ColorScale::colorMap(m_settings, m_settings.logScaleWidth);
   const TableColorMap table(*colorMap, colors.range);
-  const std::vector<double> flow =
-      m_geometry.edgeValues(*m_net, DrawFunction::find(m_settings.edgeShowFlow, *m_net).property, true);
 
   std::vector<EdgeLook> looks(m_geometry.edges().size());
   for (std::size_t i = 0; i < looks.size(); ++i) {
@@ -159,10 +181,8 @@ void NetUpdate::updateEdges(const Values &colors, const Values &widths) {
 
 void NetUpdate::updateNodes() {
   const PlotSettings &s = m_settings;
-  const Values colors = nodeValues(s.nodeColorFunc, s.absNodeColor, s.minVal_nodeColor, s.maxVal_nodeColor);
-  const Values sizes = s.nodeSizeFunc == PlotSettings::fixedSize()
-                           ? Values()
-                           : nodeValues(s.nodeSizeFunc, s.absNodeSize, s.minVal_nodeSize, s.maxVal_nodeSize);
+  const Values &colors = m_values.nodeColor;
+  const Values &sizes = m_values.nodeSize;
   const auto colorMap = ColorScale::colorMap(s, s.logScaleNodeColor);
   const auto sizeMap = ColorScale::colorMap(s, s.logScaleNodeSize);
   const TableColorMap table(*colorMap, colors.range);

@@ -229,7 +229,7 @@ void PlotZoom::widgetKeyPressEvent(QKeyEvent *event) {
     return fitAll();
   default:
     if (isActive())
-      QwtPlotPicker::widgetKeyPressEvent(event); // Escape gives up the rectangle
+      QwtPlotZoomer::widgetKeyPressEvent(event); // Escape gives up the rectangle
   }
 }
 

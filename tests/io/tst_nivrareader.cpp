@@ -246,6 +246,7 @@ void TestNivraReader::companionFiles() {
   write(QStringLiteral("run.fix.jsn"), R"("A":[{"property":"pset","value":2}])");
   write(QStringLiteral("run.res.jsn"), "{\n\"A\":{\"p\":50.5,\"t\":283.15}\n,\"B\":{\"p\":1}\n}");
   write(QStringLiteral("own.gas.jsn"), "{\n\"H2\":{\"obj_type\":\"gas\",\"rhon\":0.09}\n}");
+  write(QStringLiteral("run.scen.cfg.jsn"), R"({"tsoil":270.5,"comprDatabase":"own.txt","workDir":"elsewhere"})");
   NivraScenario scenario;
   scenario.gasFile = QStringLiteral("own.gas");
   NivraReader reader(net);
@@ -264,6 +265,14 @@ void TestNivraReader::companionFiles() {
   QVERIFY(log.contains(QStringLiteral("Fixes for scenario are loaded!")));
   QVERIFY(log.contains(QStringLiteral("Results for scenario are loaded!")));
   QVERIFY(log.contains(QStringLiteral("Could not find .gaspar.jsn file")));
+
+  QDir(m_folder.path()).mkpath(QStringLiteral("C/S"));
+  NivraWorkspace workspace = NivraWorkspace::fromFile(write(QStringLiteral("C/S/run.scen.jsn"), "{\n}"));
+  NivraGasParams gas;
+  workspace.takeConfiguration(result.configuration, gas);
+  QCOMPARE(gas.tsoil, 270.5);
+  QCOMPARE(workspace.currentScenario()->comprDatabase, QStringLiteral("own.txt"));
+  QCOMPARE(workspace.currentScenario()->workDir, QStringLiteral("S")); // where the file lies
 }
 
 void TestNivraReader::cancelling() {

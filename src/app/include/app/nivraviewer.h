@@ -45,6 +45,7 @@ private:
   bool askForIncludeLists(NetworkLoader::ReadOptions &options);
   void createDocks();
   void fillViewMenu();
+  void fillPlotMenu(QMenu *plotMenu);
   void showTitle();
   void setBusy(bool busy);
 

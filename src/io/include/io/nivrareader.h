@@ -4,6 +4,7 @@
 #include <io/nivraworkspace.h>
 #include <model/netdata.h>
 
+#include <QJsonObject>
 #include <QString>
 
 #include <map>
@@ -20,9 +21,10 @@ public:
     Progress progress;         ///< told the part of the file that is read
   };
   struct Result {
-    bool ok = false;        ///< the file could be read; faulty lines do not count
-    bool cancelled = false; ///< by the progress callback
-    qint64 properties = 0;  ///< taken over
+    bool ok = false;           ///< the file could be read; faulty lines do not count
+    bool cancelled = false;    ///< by the progress callback
+    qint64 properties = 0;     ///< taken over
+    QJsonObject configuration; ///< of the scenario, from ".scen.cfg.jsn"; empty when there is no such file
     Findings findings;
   };
 
@@ -47,7 +49,16 @@ public:
 
 private:
   Result readValues(const QString &path, const Options &options);
-  void readCompanions(const QString &base, const NivraScenario &scenario, const Options &options, Result &result);
+  struct Companion {
+    const char *suffix;
+    const char *success;
+    const char *failed;
+    const char *absent;
+    Result (NivraReader::*read)(const QString &, const Options &);
+  };
+  void readCompanions(const QString &base, const Options &options, Result &result);
+  void readCompanion(const Companion &companion, const QString &base, const Options &options, Result &result);
+  void readConfiguration(const QString &base, Result &result);
   void readGas(const QString &base, const NivraScenario &scenario, Result &result);
 
   NetData &m_net;

@@ -52,6 +52,10 @@ public:
   /// actual one, which wins, unless skipWorkDirCheck.
   void readScenarioConfiguration(NivraGasParams &gas, Findings &findings, bool skipWorkDirCheck = false);
 
+  /// Lays what a ".scen.cfg.jsn" file holds over the current scenario and its gas parameters; the directory and the opened
+  /// file stay.
+  void takeConfiguration(const QJsonObject &object, NivraGasParams &gas);
+
 private:
   void findCaseFiles();
   void readUnifiedConfiguration(const QString &directory);

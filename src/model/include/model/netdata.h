@@ -56,6 +56,9 @@ public:
   bool isEmpty() const;
   void clear();
 
+  /// The text as a number strictly between -1e20 and 1e20 (its absolute value on request); NoValue otherwise, and for
+  /// no text at all.
+  static double number(const PropertyText *text, bool absolute = false);
   /// The property as a number strictly between -1e20 and 1e20 (its absolute value on request); NoValue otherwise.
   double value(const ::element &element, PropertyKey property, bool absolute = false) const;
   double value(const ::element &element, const QString &property, bool absolute = false) const;

@@ -38,6 +38,9 @@ public:
   /// Number of the spelling, from 0 without gaps, for tables beside the keys. Not for the null key.
   std::size_t index() const noexcept { return m_spelling->index; }
 
+  /// Equal and spelled alike: a quick answer to what mostly holds, less than operator==.
+  bool isSameSpelling(PropertyKey other) const noexcept { return m_spelling == other.m_spelling; }
+
   friend bool operator==(PropertyKey a, PropertyKey b) noexcept { return a.group() == b.group(); }
   friend bool operator!=(PropertyKey a, PropertyKey b) noexcept { return !(a == b); }
   /// Case-insensitive alphabetical order, as QString::compare gives it.

@@ -51,15 +51,23 @@ public:
   /// Elements that cannot be drawn for want of coordinates.
   int unplaced() const { return m_unplaced; }
 
-  /// One value a node, NetData::NoValue where there is none.
-  std::vector<double> nodeValues(const NetData &net, PropertyKey property, bool absolute) const;
-  /// Likewise for edges; one without the property takes the mean of its end nodes, as NetData::edgeValue has it.
-  std::vector<double> edgeValues(const NetData &net, PropertyKey property, bool absolute) const;
+  /// A property whose numbers are asked for.
+  struct Wanted {
+    PropertyKey property;
+    bool absolute = false;
+  };
+  /// One column a wanted property; in it one value an element, NetData::NoValue where there is none.
+  using Columns = std::vector<std::vector<double>>;
+
+  Columns nodeValues(const std::vector<Wanted> &wanted) const;
+  /// \param ofNodes what nodeValues() said for the same, further columns behind: an edge without the property takes the mean
+  /// of its end nodes, as NetData::edgeValue has it
+  Columns edgeValues(const std::vector<Wanted> &wanted, const Columns &ofNodes) const;
 
 private:
   void addNodes(const NetData &net);
   void addEdges(const NetData &net);
-  std::vector<Place> places(const NetData &net, const elements &collection);
+  std::vector<Place> places(const elements &collection);
   void extend(double x, double y);
 
   std::vector<Node> m_nodes;

@@ -37,9 +37,8 @@ private:
   };
 
   void rebuild();
-  Values edgeValues(const QString &function, bool absolute, double minimum, double maximum) const;
-  Values nodeValues(const QString &function, bool absolute, double minimum, double maximum) const;
-  void updateEdges(const Values &colors, const Values &widths);
+  void readValues();
+  void updateEdges();
   void updateNodes();
   void updateSymbols();
 
@@ -47,6 +46,13 @@ private:
   const PlotSettings &m_settings;
   const NetData *m_net = nullptr;
   NetGeometry m_geometry;
+  struct {
+    Values edgeColor;
+    Values edgeWidth;
+    std::vector<double> flow; ///< of edges, without sign
+    Values nodeColor;
+    Values nodeSize;
+  } m_values; ///< what the draw functions say of this network
   EdgeLayer m_edges;
   NodeLayer m_nodes;
   SymbolLayer m_symbols;
