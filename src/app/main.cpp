@@ -2,6 +2,7 @@
 #include <base/nivramsg.h>
 
 #include <QApplication>
+#include <QTimer>
 
 #include <app/batch.h>
 #include <app/commandline.h>
@@ -36,8 +37,9 @@ int runWindow(int argc, char **argv, const CommandLine &line) {
   const QApplication application(argc, argv);
   CrashGuard::setUp();
   NivraViewer viewer;
+  // Inside the event loop, so that a window that is closed while it reads ends the program.
   if (!line.file.isEmpty())
-    viewer.open(line.file);
+    QTimer::singleShot(0, &viewer, [&] { viewer.open(line.file); });
   return QApplication::exec();
 }
 

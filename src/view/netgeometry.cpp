@@ -6,14 +6,23 @@
 
 namespace {
 
-enum NodeColumn { NodeX, NodeY, NodeType, NodeKind, NodePset, NodePowset, NodeQset, NodeMset };
-enum EdgeColumn { EdgeNode1, EdgeNode2, EdgeType, EdgeState, EdgeActive };
+enum NodeColumn { NodeX, NodeY, NodeType, NodeKind, NodePset, NodePowset, NodeQset, NodeMset, NodeWanted };
+enum EdgeColumn { EdgeNode1, EdgeNode2, EdgeType, EdgeState, EdgeActive, EdgeWanted };
 enum PlaceColumn { PlaceX, PlaceY };
 
-PropertyColumns columnsOf(std::initializer_list<const char *> names) {
+using Wanted = NetGeometry::Wanted;
+
+/// Columns of fixed names, then those of wanted properties.
+PropertyColumns columnsOf(std::initializer_list<const char *> names, const std::vector<Wanted> &wanted = {},
+                          const std::vector<Wanted> &more = {}) {
   std::vector<PropertyKey> keys;
+  keys.reserve(names.size() + wanted.size() + more.size());
   for (const char *name : names)
     keys.push_back(PropertyKey::intern(name));
+  for (const std::vector<Wanted> *list : {&wanted, &more}) {
+    for (const Wanted &column : *list)
+      keys.push_back(column.property);
+  }
   return PropertyColumns(std::move(keys));
 }
 
@@ -52,13 +61,6 @@ NetGeometry::NodeShape shapeOf(const NetData &net, const element &node, const Pr
   return kind != nullptr && equals(kind->utf8(), "sink") ? Shape::Demand : Shape::Junction;
 }
 
-PropertyColumns reader(const std::vector<NetGeometry::Wanted> &wanted) {
-  std::vector<PropertyKey> keys;
-  for (const NetGeometry::Wanted &column : wanted)
-    keys.push_back(column.property);
-  return PropertyColumns(std::move(keys));
-}
-
 std::vector<const element *> sourcesOf(const elements &collection) {
   std::vector<const element *> sources;
   sources.reserve(collection.size());
@@ -82,22 +84,38 @@ bool isPlaced(double x, double y) {
 
 } // namespace
 
-void NetGeometry::build(const NetData &net) {
+NetGeometry::Values NetGeometry::build(const NetData &net, const Request &request) {
   clear();
-  addNodes(net);
-  addEdges(net);
+  Values values = emptyValues(request, net.nodes().size(), net.edges().size());
+  addNodes(net, request, values);
+  addEdges(net, request, values);
   m_textBoxes = places(net.textBoxes());
   m_subnets = places(net.assembledSubnets());
+  return values;
+}
+
+NetGeometry::Values NetGeometry::values(const Request &request) const {
+  Values values = emptyValues(request, m_nodes.size(), m_edges.size());
+  const auto node = [&](std::size_t i, const PropertyColumns &read) {
+    takeNode(i, read, 0, request, values);
+  };
+  const auto edge = [&](std::size_t i, const PropertyColumns &read) {
+    takeEdge(i, read, 0, request, values);
+  };
+  columnsOf({}, request.ofEdges, request.ofNodes).forEach(sourcesOf(m_nodes), node);
+  columnsOf({}, request.ofEdges).forEach(sourcesOf(m_edges), edge);
+  return values;
 }
 
 void NetGeometry::clear() {
   *this = NetGeometry();
 }
 
-void NetGeometry::addNodes(const NetData &net) {
+void NetGeometry::addNodes(const NetData &net, const Request &request, Values &values) {
   const std::vector<const element *> sources = sourcesOf(net.nodes());
   m_nodes.resize(sources.size());
-  const PropertyColumns columns = columnsOf({"x", "y", "type", "kind", "pset", "powset", "qset", "mset"});
+  const PropertyColumns columns =
+      columnsOf({"x", "y", "type", "kind", "pset", "powset", "qset", "mset"}, request.ofEdges, request.ofNodes);
   columns.forEach(sources, [&](std::size_t i, const PropertyColumns &read) {
     Node &node = m_nodes[i];
     node.source = sources[i];
@@ -107,6 +125,7 @@ void NetGeometry::addNodes(const NetData &net) {
     node.isDrive = read[NodeType] != nullptr && read[NodeType]->utf8() == "d";
     if (!node.isDrive)
       node.shape = shapeOf(net, *node.source, read);
+    takeNode(i, read, NodeWanted, request, values);
   });
   for (const Node &node : m_nodes) {
     if (node.isPlaced)
@@ -116,7 +135,7 @@ void NetGeometry::addNodes(const NetData &net) {
   }
 }
 
-void NetGeometry::addEdges(const NetData &net) {
+void NetGeometry::addEdges(const NetData &net, const Request &request, Values &values) {
   // m_nodes stands in name order, as the collection does.
   const auto position = [&](const PropertyText *name) {
     const elements::Entry *node = name == nullptr ? nullptr : net.nodes().findEntry(name->utf8());
@@ -124,7 +143,7 @@ void NetGeometry::addEdges(const NetData &net) {
   };
   const std::vector<const element *> sources = sourcesOf(net.edges());
   m_edges.resize(sources.size());
-  const PropertyColumns columns = columnsOf({"node1", "node2", "type", "state", "active"});
+  const PropertyColumns columns = columnsOf({"node1", "node2", "type", "state", "active"}, request.ofEdges);
   columns.forEach(sources, [&](std::size_t i, const PropertyColumns &read) {
     Edge &edge = m_edges[i];
     edge.source = sources[i];
@@ -133,6 +152,7 @@ void NetGeometry::addEdges(const NetData &net) {
     if (read[EdgeType] != nullptr && read[EdgeType]->utf8().size() == 1)
       edge.type = read[EdgeType]->utf8().front();
     edge.isInactive = saysOff(read[EdgeState]) || saysOff(read[EdgeActive]);
+    takeEdge(i, read, EdgeWanted, request, values);
   });
   for (const Edge &edge : m_edges)
     m_unplaced += isPlaced(edge) ? 0 : 1;
@@ -168,29 +188,34 @@ bool NetGeometry::isPlaced(const Edge &edge) const {
          m_nodes[static_cast<std::size_t>(edge.node2)].isPlaced;
 }
 
-NetGeometry::Columns NetGeometry::nodeValues(const std::vector<Wanted> &wanted) const {
-  Columns columns(wanted.size(), std::vector<double>(m_nodes.size(), NetData::NoValue));
-  reader(wanted).forEach(sourcesOf(m_nodes), [&](std::size_t i, const PropertyColumns &read) {
-    for (std::size_t column = 0; column < wanted.size(); ++column)
-      columns[column][i] = NetData::number(read[column], wanted[column].absolute);
-  });
-  return columns;
+NetGeometry::Values NetGeometry::emptyValues(const Request &request, std::size_t nodes, std::size_t edges) {
+  const auto columns = [](const std::vector<Wanted> &wanted, std::size_t count) {
+    return Columns(wanted.size(), std::vector<double>(count, NetData::NoValue));
+  };
+  return {columns(request.ofEdges, edges), columns(request.ofEdges, nodes), columns(request.ofNodes, nodes)};
 }
 
-NetGeometry::Columns NetGeometry::edgeValues(const std::vector<Wanted> &wanted, const Columns &ofNodes) const {
-  Columns columns(wanted.size(), std::vector<double>(m_edges.size(), NetData::NoValue));
-  reader(wanted).forEach(sourcesOf(m_edges), [&](std::size_t i, const PropertyColumns &read) {
-    const Edge &edge = m_edges[i];
-    for (std::size_t column = 0; column < wanted.size(); ++column) {
-      if (read[column] != nullptr) {
-        columns[column][i] = NetData::number(read[column], wanted[column].absolute);
-      } else if (edge.node1 >= 0 && edge.node2 >= 0) {
-        const double first = ofNodes[column][static_cast<std::size_t>(edge.node1)];
-        const double second = ofNodes[column][static_cast<std::size_t>(edge.node2)];
-        if (first != NetData::NoValue && second != NetData::NoValue)
-          columns[column][i] = (first + second) * 0.5;
-      }
+void NetGeometry::takeNode(std::size_t node, const PropertyColumns &read, std::size_t first, const Request &request,
+                           Values &values) {
+  for (std::size_t i = 0; i < request.ofEdges.size(); ++i)
+    values.ofEnds[i][node] = NetData::number(read[first + i], request.ofEdges[i].absolute);
+  first += request.ofEdges.size();
+  for (std::size_t i = 0; i < request.ofNodes.size(); ++i)
+    values.ofNodes[i][node] = NetData::number(read[first + i], request.ofNodes[i].absolute);
+}
+
+void NetGeometry::takeEdge(std::size_t edge, const PropertyColumns &read, std::size_t first, const Request &request,
+                           Values &values) const {
+  const Edge &taken = m_edges[edge];
+  for (std::size_t i = 0; i < request.ofEdges.size(); ++i) {
+    double &value = values.ofEdges[i][edge];
+    if (read[first + i] != nullptr) {
+      value = NetData::number(read[first + i], request.ofEdges[i].absolute);
+    } else if (taken.node1 >= 0 && taken.node2 >= 0) {
+      const double end1 = values.ofEnds[i][static_cast<std::size_t>(taken.node1)];
+      const double end2 = values.ofEnds[i][static_cast<std::size_t>(taken.node2)];
+      if (end1 != NetData::NoValue && end2 != NetData::NoValue)
+        value = (end1 + end2) * 0.5;
     }
-  });
-  return columns;
+  }
 }

@@ -64,6 +64,11 @@ void NetPlot::setUpPanner() {
   // The scales beside the drawing show colours, not places.
   m_panner->setAxisEnabled(QwtPlot::xTop, false);
   m_panner->setAxisEnabled(QwtPlot::yRight, false);
+  connect(m_panner, &QwtPanner::panned, m_zoomer, &PlotZoom::takeView);
+  readMousePattern();
+}
+
+void NetPlot::readMousePattern() {
   const QString pattern = GeneralSettings::instance().value(QStringLiteral("MousePattern_Panning"));
   if (pattern == QLatin1String("Left_Ctrl"))
     m_panner->setMouseButton(Qt::LeftButton, Qt::ControlModifier);
@@ -71,7 +76,6 @@ void NetPlot::setUpPanner() {
     m_panner->setMouseButton(Qt::RightButton);
   else
     m_panner->setMouseButton(Qt::MiddleButton);
-  connect(m_panner, &QwtPanner::panned, m_zoomer, &PlotZoom::takeView);
 }
 
 void NetPlot::setSettings(const PlotSettings &settings) {

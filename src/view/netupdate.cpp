@@ -72,9 +72,7 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     return;
   QElapsedTimer timer;
   timer.start();
-  if (rebuild)
-    this->rebuild();
-  readValues();
+  readValues(rebuild);
   ColorScale::show(*m_plot.plot(), m_settings, DrawFunction::find(m_settings.colorFunc, *m_net), m_values.edgeColor.range);
   m_plot.placeLegend();
   m_plot.showAxes();
@@ -105,44 +103,38 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
   NivraMsg::log(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
 }
 
-void NetUpdate::rebuild() {
-  m_geometry.build(*m_net);
-  if (m_geometry.unplaced() > 0)
-    NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
-}
-
-void NetUpdate::readValues() {
+void NetUpdate::readValues(bool rebuild) {
   const PlotSettings &s = m_settings;
   const auto wanted = [this](const QString &function, bool absolute) {
     return NetGeometry::Wanted{DrawFunction::find(function, *m_net).property, absolute};
   };
-  enum { Color, Width, Flow, NodeColor, NodeSize };
-  const std::vector<NetGeometry::Wanted> ofEdges{wanted(s.colorFunc, s.absColor), wanted(s.widthFunc, s.absWidth),
-                                                 wanted(s.edgeShowFlow, true)};
+  enum { Color, Width, Flow };
+  enum { NodeColor, NodeSize };
   const bool isFixed = s.nodeSizeFunc == PlotSettings::fixedSize();
-  std::vector<NetGeometry::Wanted> ofNodes = ofEdges; // the ends of edges, then what nodes show
   const bool isOneColor = s.nodeColorFunc == s.colorFunc && s.absNodeColor == s.absColor; // then it is read once
-  ofNodes.push_back(wanted(isOneColor ? QString() : s.nodeColorFunc, s.absNodeColor));
-  ofNodes.push_back(wanted(isFixed ? QString() : s.nodeSizeFunc, s.absNodeSize));
-  NetGeometry::Columns ends = m_geometry.nodeValues(ofNodes);
+  const NetGeometry::Request request{
+      {wanted(s.colorFunc, s.absColor), wanted(s.widthFunc, s.absWidth), wanted(s.edgeShowFlow, true)},
+      {wanted(isOneColor ? QString() : s.nodeColorFunc, s.absNodeColor),
+       wanted(isFixed ? QString() : s.nodeSizeFunc, s.absNodeSize)}};
+  NetGeometry::Values read = rebuild ? m_geometry.build(*m_net, request) : m_geometry.values(request);
+  if (rebuild && m_geometry.unplaced() > 0)
+    NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
   if (isOneColor)
-    ends[NodeColor] = ends[Color];
-  NetGeometry::Columns edges = m_geometry.edgeValues(ofEdges, ends);
+    read.ofNodes[NodeColor] = read.ofEnds[Color];
+
   // The nodes' own range, so that nodes and edges coloured by one function share their colours.
-  const auto edgeRange = [&](const QString &function, int column) {
-    const auto i = static_cast<std::size_t>(column);
-    return rangeOf(DrawFunction::find(function, *m_net).isOfNodes ? ends[i] : edges[i]);
+  const auto edgeRange = [&](const QString &function, std::size_t i) {
+    return rangeOf(DrawFunction::find(function, *m_net).isOfNodes ? read.ofEnds[i] : read.ofEdges[i]);
   };
   m_values.edgeColor.range = withFixedBounds(edgeRange(s.colorFunc, Color), s.minVal_edgeColor, s.maxVal_edgeColor);
   m_values.edgeWidth.range = withFixedBounds(edgeRange(s.widthFunc, Width), s.minVal_Width, s.maxVal_Width);
-  m_values.edgeColor.ofElements = std::move(edges[Color]);
-  m_values.edgeWidth.ofElements = std::move(edges[Width]);
-  m_values.flow = std::move(edges[Flow]);
-
-  m_values.nodeColor.range = withFixedBounds(rangeOf(ends[NodeColor]), s.minVal_nodeColor, s.maxVal_nodeColor);
-  m_values.nodeSize.range = withFixedBounds(rangeOf(ends[NodeSize]), s.minVal_nodeSize, s.maxVal_nodeSize);
-  m_values.nodeColor.ofElements = std::move(ends[NodeColor]);
-  m_values.nodeSize.ofElements = std::move(ends[NodeSize]);
+  m_values.edgeColor.ofElements = std::move(read.ofEdges[Color]);
+  m_values.edgeWidth.ofElements = std::move(read.ofEdges[Width]);
+  m_values.flow = std::move(read.ofEdges[Flow]);
+  m_values.nodeColor.range = withFixedBounds(rangeOf(read.ofNodes[NodeColor]), s.minVal_nodeColor, s.maxVal_nodeColor);
+  m_values.nodeSize.range = withFixedBounds(rangeOf(read.ofNodes[NodeSize]), s.minVal_nodeSize, s.maxVal_nodeSize);
+  m_values.nodeColor.ofElements = std::move(read.ofNodes[NodeColor]);
+  m_values.nodeSize.ofElements = std::move(read.ofNodes[NodeSize]);
 }
 
 void NetUpdate::updateEdges() {

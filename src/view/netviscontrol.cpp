@@ -23,6 +23,7 @@ void NetVisControl::clear() {
 }
 
 void NetVisControl::showNetData(const QString &plotSettingsPath) {
+  m_plot->readMousePattern();          // the workspace may have general settings of its own
   m_plot->setSettings(PlotSettings()); // nothing of the case before
   if (!m_plot->readPlotSettings(plotSettingsPath)) {
     PlotSettings settings = m_plot->settings();

@@ -112,8 +112,8 @@ bool exportPlot(NetPlot &plot, const QString &path, int width, QString *error) {
       layOut(plot);
       isDone = writeFormat(plot, file, format, reason) && file.error() == QFile::NoError && file.commit();
     }
-    if (!isDone && reason.isEmpty())
-      reason = file.errorString();
+    if (!isDone && (reason.isEmpty() || file.error() != QFile::NoError))
+      reason = file.errorString(); // says more than the writer of the format, such as that the disk is full
   }
   if (!isDone && error != nullptr)
     *error = tr("Could not write %1: %2").arg(path, reason);

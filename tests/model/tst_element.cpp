@@ -1,8 +1,10 @@
 #include <model/element.h>
 #include <model/elementexceptions.h>
 #include <model/elements.h>
+#include <model/propertycolumns.h>
 #include <support/nivratest.h>
 
+#include <atomic>
 #include <cmath>
 
 namespace {
@@ -35,6 +37,7 @@ private slots:
   void propertiesStayInAlphabeticalOrder();
   void manyKeysInAnyOrderStaySorted();
   void propertiesOfAReaderAreSortedAndTheLastOfEqualsWins();
+  void columnsFindWhatASearchFinds();
   void checkedAccessThrowsTheContents();
   void collectionLooksUpRegardlessOfCase_data();
   void collectionLooksUpRegardlessOfCase();
@@ -139,6 +142,33 @@ void TestElement::propertiesOfAReaderAreSortedAndTheLastOfEqualsWins() {
   QCOMPARE(duplicates.size(), std::size_t(1));
 }
 
+// Elements of changing shape, spelling and length, read by several threads.
+void TestElement::columnsFindWhatASearchFinds() {
+  constexpr int Count = 30000;
+  std::vector<element> all(Count);
+  for (int i = 0; i < Count; ++i) {
+    for (int bit = 0; bit < 8; ++bit) {
+      if ((i * 2654435761U >> (bit + 8)) & 1U)
+        all[static_cast<std::size_t>(i)].set((i & 64 ? QStringLiteral("Column%1") : QStringLiteral("column%1")).arg(bit),
+                                             QString::number(i * 8 + bit));
+    }
+  }
+  std::vector<const element *> sources;
+  for (const element &e : all)
+    sources.push_back(&e);
+  const std::vector<PropertyKey> keys{PropertyKey::find("column3"), PropertyKey(), PropertyKey::find("column0"),
+                                      PropertyKey::find("column7"), PropertyKey::find("COLUMN3")};
+  std::atomic<int> visited{0};
+  std::atomic<int> wrong{0};
+  PropertyColumns(keys).forEach(sources, [&](std::size_t i, const PropertyColumns &read) {
+    ++visited;
+    for (std::size_t column = 0; column < keys.size(); ++column)
+      wrong += read[column] == sources[i]->find(keys[column]) ? 0 : 1;
+  });
+  QCOMPARE(visited.load(), Count);
+  QCOMPARE(wrong.load(), 0);
+}
+
 void TestElement::checkedAccessThrowsTheContents() {
   element e;
   e.insert(QStringLiteral("name"), QStringLiteral("P1"));
@@ -228,6 +258,13 @@ void TestElement::collectionErasesAndCopies() {
   QCOMPARE(ids(collection).size(), 89);
   QVERIFY(collection.find(QStringLiteral("33")) == nullptr);
   QCOMPARE(ids(copy).size(), 100);
+  const QString added = QStringLiteral("5a");
+  collection.insert(added, element()); // after the erasure the order is made anew
+  int place = 0;
+  for (const elements::Entry &entry : collection)
+    QCOMPARE(entry.place, place++);
+  QCOMPARE(place, 90);
+  QVERIFY(ids(collection).contains(added));
   collection.clear();
   QVERIFY(ids(collection).isEmpty());
 }

@@ -180,11 +180,11 @@ void TestNetPlot::panningMovesTheView() {
   QFETCH(QString, pattern);
   QFETCH(int, button);
   QFETCH(int, modifier);
-  GeneralSettings::instance().setValue(QStringLiteral("MousePattern_Panning"), pattern);
   ViewFixture f;
-  GeneralSettings::instance().reset();
   f.plot().show();
+  GeneralSettings::instance().setValue(QStringLiteral("MousePattern_Panning"), pattern); // as a workspace brings it
   f.show();
+  GeneralSettings::instance().reset();
   const QRectF before = f.plot().plot()->visibleRect();
   QWidget *canvas = f.plot().plot()->canvas();
   QTest::mousePress(canvas, Qt::MouseButton(button), Qt::KeyboardModifier(modifier), {100, 100});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <model/netdata.h>
+#include <model/propertycolumns.h>
 
 #include <QRectF>
 
@@ -37,7 +38,27 @@ public:
     double y = 0.0;
   };
 
-  void build(const NetData &net);
+  /// A property whose numbers are asked for.
+  struct Wanted {
+    PropertyKey property;
+    bool absolute = false;
+  };
+  struct Request {
+    std::vector<Wanted> ofEdges;
+    std::vector<Wanted> ofNodes;
+  };
+  /// One column a wanted property; in it one value an element, NetData::NoValue where there is none.
+  using Columns = std::vector<std::vector<double>>;
+  struct Values {
+    Columns ofEdges; ///< an edge without the property has the mean of its end nodes, as NetData::edgeValue has it
+    Columns ofEnds;  ///< what nodes say to the wanted properties of edges
+    Columns ofNodes;
+  };
+
+  /// Looks up what there is and, on the way, the values that are wanted.
+  Values build(const NetData &net, const Request &request);
+  /// The values alone, when the network is the same.
+  Values values(const Request &request) const;
   void clear();
 
   const std::vector<Node> &nodes() const { return m_nodes; }
@@ -51,22 +72,14 @@ public:
   /// Elements that cannot be drawn for want of coordinates.
   int unplaced() const { return m_unplaced; }
 
-  /// A property whose numbers are asked for.
-  struct Wanted {
-    PropertyKey property;
-    bool absolute = false;
-  };
-  /// One column a wanted property; in it one value an element, NetData::NoValue where there is none.
-  using Columns = std::vector<std::vector<double>>;
-
-  Columns nodeValues(const std::vector<Wanted> &wanted) const;
-  /// \param ofNodes what nodeValues() said for the same, further columns behind: an edge without the property takes the mean
-  /// of its end nodes, as NetData::edgeValue has it
-  Columns edgeValues(const std::vector<Wanted> &wanted, const Columns &ofNodes) const;
-
 private:
-  void addNodes(const NetData &net);
-  void addEdges(const NetData &net);
+  void addNodes(const NetData &net, const Request &request, Values &values);
+  void addEdges(const NetData &net, const Request &request, Values &values);
+  static Values emptyValues(const Request &request, std::size_t nodes, std::size_t edges);
+  static void takeNode(std::size_t node, const PropertyColumns &read, std::size_t first, const Request &request,
+                       Values &values);
+  void takeEdge(std::size_t edge, const PropertyColumns &read, std::size_t first, const Request &request,
+                Values &values) const;
   std::vector<Place> places(const elements &collection);
   void extend(double x, double y);
 

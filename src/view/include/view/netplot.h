@@ -37,6 +37,8 @@ public:
   bool readPlotSettings(const QString &path);
   bool writePlotSettings(const QString &path, QString *error = nullptr) const;
 
+  /// Takes the general setting "MousePattern_Panning" for the button that moves the view.
+  void readMousePattern();
   /// Draws the network anew and fits it to the window.
   void showNetwork();
   void placeLegend();

@@ -36,8 +36,7 @@ private:
     QwtInterval range;              ///< fixed bounds where there are some; invalid without any value
   };
 
-  void rebuild();
-  void readValues();
+  void readValues(bool rebuild);
   void updateEdges();
   void updateNodes();
   void updateSymbols();
