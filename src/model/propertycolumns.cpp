@@ -30,6 +30,8 @@ void PropertyColumns::read(const element &source) {
 }
 
 void PropertyColumns::fetch(const element &source) const {
+  if (source.isEmpty())
+    return;
   for (const Column &column : m_columns)
     __builtin_prefetch(&*source.begin() + column.place);
 }

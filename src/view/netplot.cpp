@@ -119,7 +119,8 @@ void NetPlot::showNetwork() {
     m_zoomer->setExtent(geometry.extent());
     return;
   }
-  QwtText hint(tr("Nothing to draw: no element of this network has coordinates."));
+  QwtText hint(geometry.unplaced() > 0 ? tr("Nothing to draw: no element of this network has coordinates.")
+                                       : tr("Nothing to draw: the network is empty."));
   hint.setColor(Qt::gray);
   m_hint.setText(hint);
   m_plot->replot();

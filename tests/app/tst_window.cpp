@@ -1,6 +1,8 @@
 #include "workspacefixture.h"
 
 #include <support/nivratest.h>
+#include <view/netviscontrol.h>
+#include <view/plotzoom.h>
 
 #include <QApplication>
 #include <QDropEvent>
@@ -49,6 +51,7 @@ private slots:
   void invalidWorkspaceLeavesWhatIsOpen();
   void styleSheetOnlyRestyles();
   void menus();
+  void contextMenuLeadsBack();
   void openDialogStartsAtTheExample();
   void progressAppearsLateAndCancels();
 
@@ -117,6 +120,21 @@ void TestWindow::menus() {
   const QStringList view = texts(menus[2]->menu()->actions());
   QCOMPARE(view.count(QStringLiteral("Dock Widgets")), 1);
   QCOMPARE(view.last(), QStringLiteral("Toolbars"));
+}
+
+void TestWindow::contextMenuLeadsBack() {
+  NivraViewer viewer;
+  viewer.open(m_workspace.scenario());
+  NetPlot *plot = viewer.visControl()->plot();
+  plot->zoomer()->zoomIn({50, 20});
+  plot->zoomer()->zoomIn({50, 20});
+  for (const uint left : {1U, 0U}) { // one view back, then all the way
+    QMenu contextMenu;
+    emit plot->contextMenuRequested(&contextMenu);
+    QCOMPARE(contextMenu.actions().size(), 2);
+    contextMenu.actions().at(left == 0 ? 0 : 1)->trigger();
+    QCOMPARE(plot->zoomer()->zoomRectIndex(), left);
+  }
 }
 
 void TestWindow::openDialogStartsAtTheExample() {

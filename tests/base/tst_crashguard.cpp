@@ -12,7 +12,8 @@ int run(const QString &how, const QString &dataHome) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
   environment.insert(QStringLiteral("NIVRA_BATCH"), QStringLiteral("1"));
-  environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("handle_segv=0:handle_sigfpe=0:use_sigaltstack=0"));
+  environment.insert(QStringLiteral("ASAN_OPTIONS"),
+                     QStringLiteral("handle_segv=0:handle_sigfpe=0:use_sigaltstack=0:detect_leaks=0"));
   process.setProcessEnvironment(environment);
   process.start(QStringLiteral(NIVRA_CRASHDUMMY), {how});
   process.waitForFinished();

@@ -97,6 +97,8 @@ private:
     if (m_end - m_position <= Entries)
       return;
     __builtin_prefetch(m_position[Entries]);
+    if (m_position[Properties]->value.isEmpty())
+      return;
     const auto *properties = reinterpret_cast<const char *>(&*m_position[Properties]->value.begin());
     for (std::size_t i = 0; i < Lines; ++i)
       __builtin_prefetch(properties + i * Line);
