@@ -1,5 +1,7 @@
 #include "buildinfo.h"
 
+#include <base/logo.h>
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QIcon>
@@ -45,6 +47,6 @@ void AboutBox::show(QWidget *parent) {
   box.setTextFormat(Qt::RichText);
   box.setTextInteractionFlags(Qt::TextBrowserInteraction);
   constexpr int LogoSize = 64;
-  box.setIconPixmap(QIcon(QStringLiteral(":/icons/nivra.svg")).pixmap(LogoSize, LogoSize));
+  box.setIconPixmap(productLogo().pixmap(LogoSize, LogoSize));
   box.exec();
 }

@@ -6,6 +6,7 @@
 #include <model/units.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
+#include <view/plotsaver.h>
 #include <view/plotzoom.h>
 
 #include <QApplication>
@@ -200,11 +201,15 @@ void NivraViewer::fillViewMenu() {
 }
 
 void NivraViewer::fillPlotMenu(QMenu *plotMenu) {
-  PlotZoom *zoomer = m_control->plot()->zoomer();
+  NetPlot *plot = m_control->plot();
+  PlotZoom *zoomer = plot->zoomer();
   // The canvas takes the keys; the entries name them.
   plotMenu->addAction(tr("Show whole network\tHome"), zoomer, &PlotZoom::fitAll);
   plotMenu->addAction(tr("Back to the last view"), zoomer, [zoomer] { zoomer->zoom(-1); })
       ->setEnabled(zoomer->zoomRectIndex() > 0);
+  plotMenu->addSeparator();
+  plotMenu->addAction(tr("Save picture …"), plot, [plot] { PlotSaver(*plot).savePlot(QString(), QString(), true); });
+  plotMenu->addAction(tr("Save picture with width …"), plot, [plot] { PlotSaver(*plot).saveWithWidth(); });
 }
 
 void NivraViewer::dragEnterEvent(QDragEnterEvent *event) {

@@ -19,8 +19,10 @@ void logFinding(Finding::Severity severity, const QString &text) {
   }
 }
 
-NivraMsg::Kind boxKind(Finding::Severity severity) {
-  switch (severity) {
+NivraMsg::Kind boxKind(const Finding &finding) {
+  if (finding.isForInformation)
+    return NivraMsg::Kind::Information;
+  switch (finding.severity) {
   case Finding::Severity::Information:
     return NivraMsg::Kind::Information;
   case Finding::Severity::Warning:
@@ -63,6 +65,7 @@ void report(const Findings &findings) {
   QString text = shown->box;
   if (further > 0)
     text += QStringLiteral("\n\n") +
-            QCoreApplication::translate("Finding", "(and %n further message(s), see the log)", nullptr, further);
-  NivraMsg::message(boxKind(shown->severity), text);
+            (further == 1 ? QCoreApplication::translate("Finding", "(and 1 further message, see the log)")
+                          : QCoreApplication::translate("Finding", "(and %1 further messages, see the log)").arg(further));
+  NivraMsg::message(boxKind(*shown), text);
 }

@@ -20,9 +20,12 @@ QString ReadReport::quoted(const JsonLineReader::Line &line) {
 
 void ReadReport::badLine(const JsonLineReader::Line &line, const char *reason) {
   const QString quote = quoted(line);
+  const std::size_t before = m_findings.size();
   add(BadLine, line.number,
       QStringLiteral("!!!!!!!!!!!!! Problem with JSON at %1: %2").arg(quote, QString::fromUtf8(reason)),
       QStringLiteral("!!!! Severe JSON problem with line: ") + quote + QStringLiteral("\nCheck console for info!"));
+  if (m_findings.size() > before)
+    m_findings.back().isForInformation = true;
 }
 
 Findings ReadReport::take() {

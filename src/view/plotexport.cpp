@@ -7,8 +7,11 @@
 #include <QImageWriter>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QProcess>
 #include <QSaveFile>
+#include <QStandardPaths>
 #include <QSvgGenerator>
+#include <QTemporaryDir>
 #include <qwt_plot_renderer.h>
 
 namespace {
@@ -24,17 +27,23 @@ class TemporarySize {
 public:
   TemporarySize(NetPlot &plot, int width)
       : m_plot(plot)
-      , m_before(plot.geometry()) {
+      , m_before(plot.geometry())
+      , m_smallest(plot.minimumSize()) {
     const int height = static_cast<int>(qint64(m_before.height()) * width / qMax(m_before.width(), 1));
+    m_plot.setMinimumSize(0, 0); // a picture may be smaller than the widget
     m_plot.setGeometry(m_before.x(), m_before.y(), width, qMax(height, 1));
   }
-  ~TemporarySize() { m_plot.setGeometry(m_before); }
+  ~TemporarySize() {
+    m_plot.setMinimumSize(m_smallest);
+    m_plot.setGeometry(m_before);
+  }
   TemporarySize(const TemporarySize &) = delete;
   TemporarySize &operator=(const TemporarySize &) = delete;
 
 private:
   NetPlot &m_plot;
   QRect m_before;
+  QSize m_smallest;
 };
 
 /// The first rendering brings layout and scales to the new size, so that the next one is as the screen would show it.
@@ -85,24 +94,59 @@ bool writePdf(NetPlot &plot, QIODevice &device) {
   return true;
 }
 
+/// By way of PDF and a tool that is likely to be there: the toolkit no longer writes PostScript.
+bool writePostScript(NetPlot &plot, QIODevice &device, QString &reason) {
+  const QTemporaryDir folder;
+  const QString source = folder.filePath(QStringLiteral("plot.pdf"));
+  const QString target = folder.filePath(QStringLiteral("plot.ps"));
+  const QString poppler = QStandardPaths::findExecutable(QStringLiteral("pdftops"));
+  const QString ghostscript = QStandardPaths::findExecutable(QStringLiteral("gs"));
+  if (poppler.isEmpty() && ghostscript.isEmpty()) {
+    reason = tr("PostScript needs the tool pdftops (Poppler) or gs (Ghostscript), and neither is installed");
+    return false;
+  }
+  QFile document(source);
+  if (!document.open(QIODevice::WriteOnly) || !writePdf(plot, document)) {
+    reason = document.errorString();
+    return false;
+  }
+  document.close();
+  constexpr int PatienceMs = 120000;
+  QProcess tool;
+  if (!poppler.isEmpty())
+    tool.start(poppler, {source, target});
+  else
+    tool.start(ghostscript, {QStringLiteral("-q"), QStringLiteral("-dNOPAUSE"), QStringLiteral("-dBATCH"),
+                             QStringLiteral("-sDEVICE=ps2write"), QStringLiteral("-sOutputFile=") + target, source});
+  QFile converted(target);
+  if (!tool.waitForFinished(PatienceMs) || tool.exitCode() != 0 || !converted.open(QIODevice::ReadOnly)) {
+    reason = tr("the conversion to PostScript failed: %1").arg(QString::fromLocal8Bit(tool.readAllStandardError()));
+    return false;
+  }
+  const QByteArray text = converted.readAll();
+  return device.write(text) == text.size();
+}
+
 bool writeFormat(NetPlot &plot, QIODevice &device, const QByteArray &format, QString &reason) {
   if (format == "svg")
     return writeSvg(plot, device);
   if (format == "pdf")
     return writePdf(plot, device);
+  if (format == "ps")
+    return writePostScript(plot, device, reason);
   return writePixels(plot, device, format, reason);
 }
 
 } // namespace
 
 bool exportPlot(NetPlot &plot, const QString &path, int width, QString *error) {
-  static const QList<QByteArray> Formats{"png", "jpg", "jpeg", "bmp", "tif", "tiff", "svg", "pdf"};
+  static const QList<QByteArray> Formats{"png", "jpg", "jpeg", "bmp", "tif", "tiff", "svg", "pdf", "ps"};
   const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
   QString reason;
   bool isDone = false;
   if (!Formats.contains(format)) {
-    reason =
-        tr("\"%1\" is no format of pictures; there are png, jpg, bmp, tif, svg and pdf").arg(QString::fromLatin1(format));
+    reason = tr("\"%1\" is no format of pictures; there are png, jpg, bmp, tif, svg, pdf and ps")
+                 .arg(QString::fromLatin1(format));
   } else if (width <= 0) {
     reason = tr("a picture needs a width");
   } else {

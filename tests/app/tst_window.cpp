@@ -131,7 +131,7 @@ void TestWindow::contextMenuLeadsBack() {
   for (const uint left : {1U, 0U}) { // one view back, then all the way
     QMenu contextMenu;
     emit plot->contextMenuRequested(&contextMenu);
-    QCOMPARE(contextMenu.actions().size(), 2);
+    QVERIFY(contextMenu.actions().size() >= 2);
     contextMenu.actions().at(left == 0 ? 0 : 1)->trigger();
     QCOMPARE(plot->zoomer()->zoomRectIndex(), left);
   }

@@ -2,9 +2,14 @@
 
 #include <support/nivratest.h>
 #include <view/plotexport.h>
+#include <view/plotsaver.h>
 
+#include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTimer>
 
 class TestPlotExport : public QObject {
   Q_OBJECT
@@ -15,6 +20,9 @@ private slots:
   void documentsHoldVectors();
   void failuresLeaveTheFileAlone();
   void thePlotIsAsBefore();
+  void savingWithAReducedCopy();
+  void savingAsksForAFile();
+  void postScript();
 
 private:
   QTemporaryDir m_folder;
@@ -85,6 +93,54 @@ void TestPlotExport::thePlotIsAsBefore() {
   const QRectF after = f.plot().plot()->visibleRect();
   QVERIFY((shown.topLeft() - after.topLeft()).manhattanLength() < 1e-6 * shown.width());
   QVERIFY(qAbs(shown.width() - after.width()) < 1e-6 * shown.width());
+}
+
+void TestPlotExport::savingWithAReducedCopy() {
+  ViewFixture f;
+  f.show();
+  const QString path = m_folder.filePath(QStringLiteral("whole.png"));
+  const QString reduced = m_folder.filePath(QStringLiteral("reduced.png"));
+  PlotSaver(f.plot()).savePlot(QLatin1Char(' ') + path + QLatin1Char(' '), reduced, false);
+  QCOMPARE(QImage(path).size(), QSize(600, 400));
+  QCOMPARE(QImage(reduced).size(), QSize(180, 120));
+  const int files = QDir(m_folder.path()).entryList(QDir::Files).size();
+  PlotSaver(f.plot()).savePlot(QStringLiteral("   "), reduced, false);
+  QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files).size(), files);
+}
+
+void TestPlotExport::savingAsksForAFile() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const QString path = m_folder.filePath(QStringLiteral("asked.png"));
+  QString title;
+  QTimer::singleShot(0, &f.plot(), [&] {
+    auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+    QVERIFY(dialog != nullptr);
+    title = dialog->windowTitle();
+    QCOMPARE(dialog->nameFilters().size(), 8);
+    dialog->selectFile(path);
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  PlotSaver(f.plot()).saveWithWidth(300);
+  QCOMPARE(title, QStringLiteral("Choose File"));
+  QCOMPARE(QImage(path).width(), 300);
+  QCOMPARE(PlotSaver::possibleWidth(30000), 20000);
+  PlotSaver(f.plot()).saveWithWidth(0); // reported, and no dialog that would wait here
+}
+
+void TestPlotExport::postScript() {
+  ViewFixture f;
+  f.show();
+  const QString path = m_folder.filePath(QStringLiteral("a.PS"));
+  QString error;
+  const bool isDone = exportPlot(f.plot(), path, 300, &error);
+  const bool hasTool = !QStandardPaths::findExecutable(QStringLiteral("pdftops")).isEmpty() ||
+                       !QStandardPaths::findExecutable(QStringLiteral("gs")).isEmpty();
+  QVERIFY2(isDone == hasTool, qPrintable(error));
+  QFile file(path);
+  QVERIFY(isDone ? file.open(QIODevice::ReadOnly) && file.readAll().startsWith("%!PS")
+                 : error.contains(QStringLiteral("pdftops")));
 }
 
 NIVRA_TEST(TestPlotExport);

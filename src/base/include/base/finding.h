@@ -10,10 +10,11 @@ struct Finding {
   enum class Severity { Information, Warning, Critical };
 
   Severity severity = Severity::Warning;
-  QString file; ///< path, empty when the finding belongs to no file
-  int line = 0; ///< 1-based, 0 when it belongs to no line
-  QString text; ///< the message as logged
-  QString box;  ///< what a message box says; empty when a log line is enough
+  QString file;                  ///< path, empty when the finding belongs to no file
+  int line = 0;                  ///< 1-based, 0 when it belongs to no line
+  QString text;                  ///< the message as logged
+  QString box;                   ///< what a message box says; empty when a log line is enough
+  bool isForInformation = false; ///< the box is one of information, whatever the severity in the log
 
   /// "text (file:line)" as far as they are known.
   QString logText() const;
