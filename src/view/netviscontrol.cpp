@@ -3,6 +3,9 @@
 #include <view/plotzoom.h>
 #include <view/qwtfastplot.h>
 
+#include <QDir>
+#include <QFileInfo>
+
 NetVisControl::NetVisControl(NetData &net, const QString &name, QObject *parent)
     : QObject(parent)
     , m_net(net)
@@ -31,5 +34,6 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
     m_plot->setSettings(settings);
   }
   m_plot->update().setNetData(&m_net);
+  m_plot->update().setSymbolTable(SymbolTable(QFileInfo(plotSettingsPath).dir().filePath(QStringLiteral("symbols"))));
   m_plot->showNetwork();
 }

@@ -1,3 +1,4 @@
+#include <base/nivramsg.h>
 #include <view/layergeometry.h>
 #include <view/stationsymbols.h>
 
@@ -16,16 +17,33 @@ StationSymbols::StationSymbols() {
 
 StationSymbols::~StationSymbols() = default;
 
+void StationSymbols::setTable(const SymbolTable &table) {
+  m_table = table;
+  m_numbers.clear();
+  m_renderers.clear();
+  m_pixmaps.clear();
+}
+
+std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) const {
+  const QString own = m_table.path(key);
+  if (!own.isEmpty()) {
+    auto renderer = std::make_unique<QSvgRenderer>(own);
+    if (renderer->isValid())
+      return renderer;
+    NivraMsg::logWarning(QStringLiteral("The symbol %1 for \"%2\" cannot be read; the built-in one is taken").arg(own, key));
+  }
+  const QString path = QStringLiteral(":/iconsNetSymbols/svg TALU/network_symbols/") + key + QStringLiteral(".svg");
+  return QFile::exists(path) ? std::make_unique<QSvgRenderer>(path) : nullptr;
+}
+
 int StationSymbols::find(const QString &key) {
   const auto known = m_numbers.constFind(key);
   if (known != m_numbers.constEnd())
     return *known;
-  const QString path = QStringLiteral(":/iconsNetSymbols/svg TALU/network_symbols/") + key + QStringLiteral(".svg");
-  int number = -1;
-  if (QFile::exists(path)) {
-    number = static_cast<int>(m_renderers.size());
-    m_renderers.push_back(std::make_unique<QSvgRenderer>(path));
-  }
+  std::unique_ptr<QSvgRenderer> renderer = load(key);
+  const int number = renderer == nullptr ? -1 : static_cast<int>(m_renderers.size());
+  if (renderer != nullptr)
+    m_renderers.push_back(std::move(renderer));
   m_numbers.insert(key, number);
   return number;
 }

@@ -21,6 +21,11 @@ SymbolLayer::SymbolLayer() {
   setZ(SymbolZ);
 }
 
+void SymbolLayer::setTable(const SymbolTable &table) {
+  clear(); // the records hold numbers of the old symbols
+  m_symbols.setTable(table);
+}
+
 void SymbolLayer::setStations(const NetGeometry &geometry) {
   clear();
   std::vector<Record> records;

@@ -23,6 +23,9 @@ public:
   /// network is forgotten. Shown with the next updatePlot() that rebuilds.
   void setNetData(const NetData *net);
 
+  /// Symbols of the user's own, drawn with the next updatePlot() that rebuilds.
+  void setSymbolTable(const SymbolTable &table) { m_symbols.setTable(table); }
+
   /// \param rebuild looks up anew which elements there are and where they lie
   /// \param which whose colours, widths and sizes are made anew
   /// \param relabel asks for new labels

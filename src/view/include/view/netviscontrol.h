@@ -21,7 +21,8 @@ public:
 
   /// Forgets what is drawn; to be called before the network changes.
   void clear();
-  /// Draws the network with the settings of the file or, where there is none, with settings that suit the network.
+  /// Draws the network with the settings of the file or, where there is none, with settings that suit the network. The
+  /// folder "symbols" beside the file may hold symbols of the user's own.
   void showNetData(const QString &plotSettingsPath);
 
 private:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <view/symboltable.h>
+
 #include <QHash>
 #include <QPainter>
 #include <QPixmap>
@@ -15,6 +17,8 @@ public:
   StationSymbols();
   ~StationSymbols();
 
+  /// Symbols of the user's own; numbers found before are no longer valid.
+  void setTable(const SymbolTable &table);
   /// Number of the symbol for a type code ("c") or a kind of subnet ("compressor_station"); -1 when there is none.
   int find(const QString &key);
 
@@ -24,8 +28,10 @@ public:
   void draw(QPainter &painter, int symbol, const QPointF &center, double size, double angle);
 
 private:
+  std::unique_ptr<QSvgRenderer> load(const QString &key) const;
   QPixmap pixmap(int symbol, int pixels, int angle);
 
+  SymbolTable m_table;
   QHash<QString, int> m_numbers;
   std::vector<std::unique_ptr<QSvgRenderer>> m_renderers;
   QHash<quint64, QPixmap> m_pixmaps;

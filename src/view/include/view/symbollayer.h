@@ -12,6 +12,8 @@ class SymbolLayer : public QwtPlotItem {
 public:
   SymbolLayer();
 
+  /// Symbols of the user's own, for the stations that are set afterwards.
+  void setTable(const SymbolTable &table);
   void setStations(const NetGeometry &geometry);
   void setSize(double pixels) { m_size = pixels; }
   void clear();
