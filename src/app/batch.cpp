@@ -1,9 +1,11 @@
 #include <base/generalsettings.h>
 #include <base/logfiles.h>
 #include <base/nivramsg.h>
+#include <view/drawfunctions.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 #include <view/plotexport.h>
+#include <view/plotzoom.h>
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -94,6 +96,39 @@ QJsonObject info(NetData &net, const NetworkLoader &loader, double drawSeconds, 
   return object;
 }
 
+/// Puts the functions of the command line in place of those of the settings, with open bounds. False with the reason when
+/// there is nothing to see of one.
+bool applyFunctions(const CommandLine &line, NetPlot &plot, const NetData &net, QString &reason) {
+  using S = PlotSettings;
+  struct Function {
+    const QString &chosen;
+    QString S::*function;
+    double S::*minimum;
+    double S::*maximum;
+  };
+  const Function functions[] = {{line.colorBy, &S::colorFunc, &S::minVal_edgeColor, &S::maxVal_edgeColor},
+                                {line.widthBy, &S::widthFunc, &S::minVal_Width, &S::maxVal_Width},
+                                {line.nodeColorBy, &S::nodeColorFunc, &S::minVal_nodeColor, &S::maxVal_nodeColor},
+                                {line.nodeSizeBy, &S::nodeSizeFunc, &S::minVal_nodeSize, &S::maxVal_nodeSize}};
+  PlotSettings settings = plot.settings();
+  for (const Function &f : functions) {
+    if (f.chosen.isEmpty())
+      continue;
+    if (f.chosen != PlotSettings::fixedSize() && DrawFunction::find(f.chosen, net).property.isNull()) {
+      reason = tr("No element has the property \"%1\".").arg(f.chosen);
+      return false;
+    }
+    settings.*f.function = f.chosen;
+    settings.*f.minimum = PlotSettings::OpenMinimum;
+    settings.*f.maximum = PlotSettings::OpenMaximum;
+  }
+  if (settings == plot.settings())
+    return true;
+  plot.setSettings(settings);
+  plot.update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  return true;
+}
+
 } // namespace
 
 int Batch::run(const CommandLine &line) {
@@ -121,6 +156,10 @@ int Batch::run(const CommandLine &line) {
 
   if (!line.picture.isEmpty()) {
     QString reason;
+    if (!applyFunctions(line, *control.plot(), net, reason))
+      return failed(reason);
+    if (!line.extent.isNull())
+      control.plot()->zoomer()->zoom(line.extent);
     if (!exportPlot(*control.plot(), line.picture, line.width > 0 ? line.width : CommandLine::DefaultWidth, &reason))
       return failed(reason);
   }

@@ -1,8 +1,10 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QVector>
 
 #include <app/aboutbox.h>
 #include <app/commandline.h>
+#include <cmath>
 
 namespace {
 
@@ -24,6 +26,52 @@ CommandLine print(const QString &text) {
   return line;
 }
 
+/// The options that say what the picture shows.
+struct DrawOptions {
+  QCommandLineOption colorBy{QStringLiteral("color-by"), tr("Property by which the edges are coloured."),
+                             QStringLiteral("PROPERTY")};
+  QCommandLineOption widthBy{QStringLiteral("width-by"), tr("Property that gives the edges their width."),
+                             QStringLiteral("PROPERTY")};
+  QCommandLineOption nodeColorBy{QStringLiteral("node-color-by"), tr("Property by which the nodes are coloured."),
+                                 QStringLiteral("PROPERTY")};
+  QCommandLineOption nodeSizeBy{QStringLiteral("node-size-by"), tr("Property that gives the nodes their size."),
+                                QStringLiteral("PROPERTY")};
+  QCommandLineOption extent{QStringLiteral("extent"), tr("Part of the network to show, in its coordinates."),
+                            QStringLiteral("x0,y0,x1,y1")};
+
+  QList<QCommandLineOption> all() const { return {colorBy, widthBy, nodeColorBy, nodeSizeBy, extent}; }
+
+  /// Why the options make no sense; empty when they do.
+  QString take(const QCommandLineParser &parser, CommandLine &line) const {
+    const bool isAnySet = parser.isSet(colorBy) || parser.isSet(widthBy) || parser.isSet(nodeColorBy) ||
+                          parser.isSet(nodeSizeBy) || parser.isSet(extent);
+    if (isAnySet && line.picture.isEmpty())
+      return tr("--color-by, --width-by, --node-color-by, --node-size-by and --extent go with --export.");
+    line.colorBy = parser.value(colorBy);
+    line.widthBy = parser.value(widthBy);
+    line.nodeColorBy = parser.value(nodeColorBy);
+    line.nodeSizeBy = parser.value(nodeSizeBy);
+    return parser.isSet(extent) && !takeExtent(parser.value(extent), line.extent)
+               ? tr("--extent takes four numbers, x0,y0,x1,y1, that span an area.")
+               : QString();
+  }
+
+  static bool takeExtent(const QString &text, QRectF &extent) {
+    QVector<double> corners;
+    for (const QString &part : text.split(QLatin1Char(','))) {
+      bool isNumber = false;
+      const double number = part.toDouble(&isNumber);
+      if (!isNumber || !(std::abs(number) < 1e20)) // as coordinates of elements
+        return false;
+      corners.append(number);
+    }
+    if (corners.size() != 4)
+      return false;
+    extent = QRectF(QPointF(corners[0], corners[1]), QPointF(corners[2], corners[3])).normalized();
+    return extent.width() > 0.0 && extent.height() > 0.0;
+  }
+};
+
 } // namespace
 
 CommandLine CommandLine::parse(const QStringList &arguments) {
@@ -37,7 +85,8 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
   const QCommandLineOption width(QStringLiteral("width"),
                                  tr("Width of the picture in pixels, %1 by default.").arg(DefaultWidth),
                                  QStringLiteral("PIXELS"));
-  parser.addOptions({help, version, info, picture, width});
+  const DrawOptions drawing;
+  parser.addOptions(QList<QCommandLineOption>{help, version, info, picture, width} + drawing.all());
   parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
   if (!parser.parse(arguments))
     return wrong(parser.errorText());
@@ -65,5 +114,6 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
       return wrong(tr("--width takes a positive number of pixels and goes with --export."));
     line.width = qMin(line.width, LargestWidth);
   }
-  return line;
+  const QString reason = drawing.take(parser, line);
+  return reason.isEmpty() ? line : wrong(reason);
 }

@@ -43,4 +43,6 @@ void ColorScale::show(QwtPlot &plot, const PlotSettings &settings, const DrawFun
   plot.setAxisMaxMajor(axis, MostTicks);
   plot.setAxisScale(axis, shown.minValue(), shown.maxValue());
   plot.enableAxis(axis, true);
+  plot.updateAxes();
+  plot.updateLayout(); // its texts may need more room than those before, also where no window asks for it
 }

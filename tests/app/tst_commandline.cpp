@@ -32,6 +32,11 @@ void TestCommandLine::parse_data() {
   row("--export a.png --width wide net.geom", Action::Wrong);
   row("--width 300 --info net.geom", Action::Wrong);
   row("--export", Action::Wrong);
+  row("--export a.png --color-by q --node-size-by qset --extent 0,-5,10.5,1e3 net.geom", Action::Batch);
+  row("--export a.png --extent 0,0,10 net.geom", Action::Wrong);
+  row("--export a.png --extent 0,0,0,10 net.geom", Action::Wrong);
+  row("--export a.png --extent 0,0,nan,10 net.geom", Action::Wrong);
+  row("--info --color-by q net.geom", Action::Wrong);
   row("--colour", Action::Wrong);
 }
 

@@ -43,6 +43,7 @@ private slots:
   void infoCounts();
   void picture_data();
   void picture();
+  void pictureByOtherFunctions();
   void badFiles_data();
   void badFiles();
   void badNetworks_data();
@@ -103,6 +104,23 @@ void TestProgram::picture() {
   QFile file(path);
   QCOMPARE(file.open(QIODevice::ReadOnly), status == 0);
   QVERIFY(file.isOpen() ? file.readAll().startsWith(begins) : outcome.errors.contains(path.toUtf8()));
+}
+
+void TestProgram::pictureByOtherFunctions() {
+  const QString path = m_data.filePath(QStringLiteral("by.svg"));
+  const auto exported = [&](const QString &property) {
+    return run({QStringLiteral("--export"), path, QStringLiteral("--color-by"), property, QStringLiteral("--extent"),
+                QStringLiteral("-10,-10,60,60"), m_workspace.geometry()},
+               m_data.path());
+  };
+  QCOMPARE(exported(QStringLiteral("volume flow")).status, 0);
+  QFile file(path);
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  const QByteArray text = file.readAll();
+  QVERIFY(text.contains("volume flow [1000 m³/h]") && text.contains("Color: volume flow"));
+  const Outcome unknown = exported(QStringLiteral("colour"));
+  QCOMPARE(unknown.status, 1);
+  QVERIFY(unknown.errors.contains("colour"));
 }
 
 void TestProgram::badFiles_data() {

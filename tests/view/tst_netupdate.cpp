@@ -109,7 +109,14 @@ void TestNetUpdate::fixedBounds() {
   f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
   QVERIFY(isNear(f.picture().pixelColor(f.pixel(150, 0)), hue(240)));
   QCOMPARE(f.plot().plot()->axisInterval(QwtPlot::yRight), QwtInterval(35, 45));
+  settings.minVal_edgeColor = 1e6; // longer numbers need more room, at once
+  settings.maxVal_edgeColor = 9e6;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+  const QWidget *scale = f.plot().plot()->axisWidget(QwtPlot::yRight);
+  QVERIFY(scale->width() >= scale->minimumSizeHint().width());
   settings.minVal_edgeColor = 50; // upside down: no scale, but a drawing
+  settings.maxVal_edgeColor = 45;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
   QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight));
@@ -129,7 +136,7 @@ void TestNetUpdate::scaleIsInTheDisplayUnit() {
   QVERIFY(area.axisEnabled(QwtPlot::xTop) && !area.axisEnabled(QwtPlot::yRight));
   QVERIFY(area.axisWidget(QwtPlot::xTop)->isColorBarEnabled());
   QVERIFY(qAbs(area.axisInterval(QwtPlot::xTop).maxValue() - 20.0) < 1e-9);
-  QVERIFY(area.axisTitle(QwtPlot::xTop).text().endsWith(QStringLiteral("C]")));
+  QVERIFY(area.axisTitle(QwtPlot::xTop).text().endsWith(QStringLiteral("[°C]")));
 }
 
 void TestNetUpdate::withoutValuesThereIsNoScale() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRectF>
 #include <QString>
 #include <QStringList>
 
@@ -17,11 +18,17 @@ struct CommandLine {
   bool info = false;
   QString picture;
   int width = 0; ///< pixels, 0 for the default
+  /// Draw functions in place of those of the plot settings, empty to leave them.
+  QString colorBy;
+  QString widthBy;
+  QString nodeColorBy;
+  QString nodeSizeBy;
+  QRectF extent; ///< what the picture shows, in plot coordinates; null for everything
   QString text;
 
   static constexpr int DefaultWidth = 1600;
   static constexpr int LargestWidth = 20000;
 
-  /// Needs no application object. arguments as main gets them, the program name first.
+  /// arguments as main gets them, the program name first. Needs an application object of any kind.
   static CommandLine parse(const QStringList &arguments);
 };
