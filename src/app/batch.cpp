@@ -114,7 +114,7 @@ bool applyFunctions(const CommandLine &line, NetPlot &plot, const NetData &net, 
   for (const Function &f : functions) {
     if (f.chosen.isEmpty())
       continue;
-    if (f.chosen != PlotSettings::fixedSize() && DrawFunction::find(f.chosen, net).property.isNull()) {
+    if (f.chosen != PlotSettings::fixedSize() && !DrawFunction::find(f.chosen, net).isKnown()) {
       reason = tr("No element has the property \"%1\".").arg(f.chosen);
       return false;
     }

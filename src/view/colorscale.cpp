@@ -3,6 +3,9 @@
 #include <qwt_scale_widget.h>
 #include <qwt_text.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 bool isScaleAxis(int axis) {
@@ -32,6 +35,8 @@ void ColorScale::show(QwtPlot &plot, const PlotSettings &settings, const DrawFun
   QwtScaleWidget *widget = plot.axisWidget(axis);
   const QwtInterval shown(function.toDisplay(range.minValue()), function.toDisplay(range.maxValue()));
   const std::unique_ptr<HueColorMap> map = colorMap(settings, settings.logScaleColor);
+  // A single value stands in the middle of a scale that shows some room around it.
+  const double room = shown.width() > 0.0 ? 0.0 : std::max(0.5, std::abs(shown.minValue()) * 0.01);
   widget->setColorBarEnabled(true);
   widget->setColorBarWidth(BarWidth);
   widget->setColorMap(shown, new TableColorMap(*map, range)); // the widget owns it
@@ -41,7 +46,7 @@ void ColorScale::show(QwtPlot &plot, const PlotSettings &settings, const DrawFun
   title.setColor(plot.palette().color(QPalette::WindowText));
   plot.setAxisTitle(axis, title);
   plot.setAxisMaxMajor(axis, MostTicks);
-  plot.setAxisScale(axis, shown.minValue(), shown.maxValue());
+  plot.setAxisScale(axis, shown.minValue() - room, shown.maxValue() + room);
   plot.enableAxis(axis, true);
   plot.updateAxes();
   plot.updateLayout(); // its texts may need more room than those before, also where no window asks for it

@@ -73,6 +73,10 @@ DrawFunction DrawFunction::find(const QString &function, const NetData &net) {
   DrawFunction found;
   found.property = PropertyKey::find(name);
   found.title = function;
+  if (name.compare(QLatin1String("connectivity"), Qt::CaseInsensitive) == 0)
+    found.computed = Computed::Connectivity;
+  else if (name.compare(QLatin1String("acclength"), Qt::CaseInsensitive) == 0)
+    found.computed = Computed::AccumulatedLength;
   const NetMetaData *metaData = net.metaData();
   found.isOfNodes = metaData->nodeFunctions().contains(name, Qt::CaseInsensitive);
   const NetMetaData::Attribute *attribute = metaData->anyAttribute(name);

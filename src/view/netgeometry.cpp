@@ -206,16 +206,22 @@ void NetGeometry::takeNode(std::size_t node, const PropertyColumns &read, std::s
 
 void NetGeometry::takeEdge(std::size_t edge, const PropertyColumns &read, std::size_t first, const Request &request,
                            Values &values) const {
-  const Edge &taken = m_edges[edge];
   for (std::size_t i = 0; i < request.ofEdges.size(); ++i) {
     double &value = values.ofEdges[i][edge];
-    if (read[first + i] != nullptr) {
-      value = NetData::number(read[first + i], request.ofEdges[i].absolute);
-    } else if (taken.node1 >= 0 && taken.node2 >= 0) {
-      const double end1 = values.ofEnds[i][static_cast<std::size_t>(taken.node1)];
-      const double end2 = values.ofEnds[i][static_cast<std::size_t>(taken.node2)];
-      if (end1 != NetData::NoValue && end2 != NetData::NoValue)
-        value = (end1 + end2) * 0.5;
-    }
+    value = read[first + i] != nullptr ? NetData::number(read[first + i], request.ofEdges[i].absolute)
+                                       : mean(m_edges[edge], values.ofEnds[i]);
   }
+}
+
+double NetGeometry::mean(const Edge &edge, const std::vector<double> &ofEnds) {
+  if (edge.node1 < 0 || edge.node2 < 0)
+    return NetData::NoValue;
+  const double end1 = ofEnds[static_cast<std::size_t>(edge.node1)];
+  const double end2 = ofEnds[static_cast<std::size_t>(edge.node2)];
+  return end1 == NetData::NoValue || end2 == NetData::NoValue ? NetData::NoValue : (end1 + end2) * 0.5;
+}
+
+void NetGeometry::takeMeans(const std::vector<double> &ofEnds, std::vector<double> &ofEdges) const {
+  for (std::size_t i = 0; i < m_edges.size(); ++i)
+    ofEdges[i] = mean(m_edges[i], ofEnds);
 }

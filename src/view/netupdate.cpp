@@ -4,6 +4,7 @@
 #include <view/drawfunctions.h>
 #include <view/netplot.h>
 #include <view/netupdate.h>
+#include <view/networkgraph.h>
 #include <view/qwtfastplot.h>
 
 #include <QElapsedTimer>
@@ -119,12 +120,17 @@ void NetUpdate::readValues(bool rebuild) {
   NetGeometry::Values read = rebuild ? m_geometry.build(*m_net, request) : m_geometry.values(request);
   if (rebuild && m_geometry.unplaced() > 0)
     NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
+  compute(read, {s.colorFunc, s.widthFunc}, {s.nodeColorFunc, s.nodeSizeFunc});
   if (isOneColor)
     read.ofNodes[NodeColor] = read.ofEnds[Color];
 
   // The nodes' own range, so that nodes and edges coloured by one function share their colours.
+  const auto isOfNodes = [this](const QString &function) {
+    const DrawFunction found = DrawFunction::find(function, *m_net);
+    return found.isOfNodes || found.computed != DrawFunction::Computed::No;
+  };
   const auto edgeRange = [&](const QString &function, std::size_t i) {
-    return rangeOf(DrawFunction::find(function, *m_net).isOfNodes ? read.ofEnds[i] : read.ofEdges[i]);
+    return rangeOf(isOfNodes(function) ? read.ofEnds[i] : read.ofEdges[i]);
   };
   m_values.edgeColor.range = withFixedBounds(edgeRange(s.colorFunc, Color), s.minVal_edgeColor, s.maxVal_edgeColor);
   m_values.edgeWidth.range = withFixedBounds(edgeRange(s.widthFunc, Width), s.minVal_Width, s.maxVal_Width);
@@ -135,6 +141,35 @@ void NetUpdate::readValues(bool rebuild) {
   m_values.nodeSize.range = withFixedBounds(rangeOf(read.ofNodes[NodeSize]), s.minVal_nodeSize, s.maxVal_nodeSize);
   m_values.nodeColor.ofElements = std::move(read.ofNodes[NodeColor]);
   m_values.nodeSize.ofElements = std::move(read.ofNodes[NodeSize]);
+}
+
+void NetUpdate::compute(NetGeometry::Values &values, const QStringList &ofEdges, const QStringList &ofNodes) const {
+  using Computed = DrawFunction::Computed;
+  const auto computed = [this](const QString &function) {
+    const DrawFunction found = DrawFunction::find(function, *m_net);
+    std::vector<double> ofGraph;
+    if (found.computed == Computed::Connectivity) {
+      ofGraph = NetworkGraph(m_geometry).components();
+    } else if (found.computed == Computed::AccumulatedLength) {
+      const NetGeometry::Request lengths{{{PropertyKey::intern("length"), true}}, {}};
+      ofGraph = NetworkGraph(m_geometry).distances(m_geometry.values(lengths).ofEdges.front());
+    }
+    return ofGraph;
+  };
+  // What the elements carry themselves counts more than what can be computed.
+  for (int i = 0; i < ofNodes.size(); ++i) {
+    std::vector<double> &column = values.ofNodes[static_cast<std::size_t>(i)];
+    if (std::vector<double> own = computed(ofNodes.at(i)); !own.empty() && !rangeOf(column).isValid())
+      column = std::move(own);
+  }
+  for (int i = 0; i < ofEdges.size(); ++i) {
+    const auto function = static_cast<std::size_t>(i);
+    std::vector<double> own = computed(ofEdges.at(i));
+    if (own.empty() || rangeOf(values.ofEdges[function]).isValid())
+      continue;
+    values.ofEnds[function] = std::move(own);
+    m_geometry.takeMeans(values.ofEnds[function], values.ofEdges[function]);
+  }
 }
 
 void NetUpdate::updateEdges() {

@@ -118,6 +118,7 @@ void TestProgram::pictureByOtherFunctions() {
   QVERIFY(file.open(QIODevice::ReadOnly));
   const QByteArray text = file.readAll();
   QVERIFY(text.contains("volume flow [1000 m³/h]") && text.contains("Color: volume flow"));
+  QCOMPARE(exported(QStringLiteral("accum. length")).status, 0);
   const Outcome unknown = exported(QStringLiteral("colour"));
   QCOMPARE(unknown.status, 1);
   QVERIFY(unknown.errors.contains("colour"));

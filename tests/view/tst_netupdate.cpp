@@ -2,6 +2,7 @@
 
 #include <support/nivratest.h>
 #include <view/drawfunctions.h>
+#include <view/networkgraph.h>
 
 #include <qwt_scale_widget.h>
 
@@ -30,6 +31,7 @@ private slots:
   void fixedBounds();
   void scaleIsInTheDisplayUnit();
   void withoutValuesThereIsNoScale();
+  void graphFunctionsAreComputed();
   void stationsHaveSymbols();
   void textBoxesAreWritten();
   void nothingToDrawIsSaid();
@@ -148,6 +150,46 @@ void TestNetUpdate::withoutValuesThereIsNoScale() {
   f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
   QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight));
   QVERIFY(!isNear(f.picture().pixelColor(f.pixel(150, 0)), Qt::white));
+}
+
+// A ring of four nodes with a supply, a closed valve behind which two more lie, and one node alone.
+void TestNetUpdate::graphFunctionsAreComputed() {
+  NetData net;
+  for (const char *name : {"A", "B", "C", "D", "E", "F", "G"})
+    net.addElement(makeNode(name));
+  net.element(QStringLiteral("A"))->set(QStringLiteral("qset"), QStringLiteral("-5"));
+  net.addElement(makeElement({{"name", "Z"}, {"type", "d"}})); // a drive is no part of the network
+  const auto pipe = [&](const char *name, const char *node1, const char *node2, const char *length) {
+    element edge = makeEdge(name, node1, node2);
+    edge.set(QStringLiteral("length"), QString::fromLatin1(length));
+    net.addElement(std::move(edge));
+  };
+  pipe("AB", "A", "B", "100");
+  pipe("BC", "B", "C", "100");
+  pipe("DA", "D", "A", "50");
+  pipe("CD", "C", "D", "30");
+  pipe("EF", "E", "F", "10");
+  element valve = makeEdge("BE", "B", "E", "v");
+  valve.set(QStringLiteral("state"), QStringLiteral("closed"));
+  net.addElement(valve);
+  NetGeometry geometry;
+  geometry.build(net, {});
+  const NetworkGraph graph(geometry);
+  constexpr double None = NetData::NoValue;
+  QCOMPARE(graph.components(), (std::vector<double>{1, 1, 1, 1, 2, 2, 3, None}));
+  const NetGeometry::Request lengths{{{PropertyKey::intern("length"), true}}, {}};
+  const std::vector<double> distances = graph.distances(geometry.values(lengths).ofEdges.front());
+  QCOMPARE(distances, (std::vector<double>{0, 100, 80, 50, None, None, None, None}));
+
+  ViewFixture f;
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("state"), QStringLiteral("off"));
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.colorFunc = QStringLiteral("connectivity");
+  settings.nodeColorFunc = settings.colorFunc;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  QCOMPARE(f.plot().plot()->axisInterval(QwtPlot::yRight), QwtInterval(1, 2));
 }
 
 void TestNetUpdate::stationsHaveSymbols() {

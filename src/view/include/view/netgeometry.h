@@ -59,6 +59,8 @@ public:
   Values build(const NetData &net, const Request &request);
   /// The values alone, when the network is the same.
   Values values(const Request &request) const;
+  /// Gives every edge with two ends the mean of what its ends have.
+  void takeMeans(const std::vector<double> &ofEnds, std::vector<double> &ofEdges) const;
   void clear();
 
   const std::vector<Node> &nodes() const { return m_nodes; }
@@ -73,6 +75,7 @@ public:
   int unplaced() const { return m_unplaced; }
 
 private:
+  static double mean(const Edge &edge, const std::vector<double> &ofEnds);
   void addNodes(const NetData &net, const Request &request, Values &values);
   void addEdges(const NetData &net, const Request &request, Values &values);
   static Values emptyValues(const Request &request, std::size_t nodes, std::size_t edges);

@@ -40,6 +40,7 @@ private:
   };
 
   void readValues(bool rebuild);
+  void compute(NetGeometry::Values &values, const QStringList &ofEdges, const QStringList &ofNodes) const;
   void updateEdges();
   void updateNodes();
   void updateSymbols();
