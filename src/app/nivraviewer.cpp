@@ -207,6 +207,8 @@ void NivraViewer::fillPlotMenu(QMenu *plotMenu) {
   plotMenu->addAction(tr("Show whole network\tHome"), zoomer, &PlotZoom::fitAll);
   plotMenu->addAction(tr("Back to the last view"), zoomer, [zoomer] { zoomer->zoom(-1); })
       ->setEnabled(zoomer->zoomRectIndex() > 0);
+  if (plot->hasStragglers())
+    plotMenu->addAction(tr("Show what lies far outside"), plot, &NetPlot::showStragglers);
   plotMenu->addSeparator();
   plotMenu->addAction(tr("Save picture …"), plot, [plot] { PlotSaver(*plot).savePlot(QString(), QString(), true); });
   plotMenu->addAction(tr("Save picture with width …"), plot, [plot] { PlotSaver(*plot).saveWithWidth(); });

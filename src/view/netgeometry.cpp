@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace {
 
@@ -80,6 +81,21 @@ std::vector<const element *> sourcesOf(const std::vector<Record> &records) {
 
 bool isPlaced(double x, double y) {
   return x != NetData::NoValue && y != NetData::NoValue;
+}
+
+/// Bounds some way outside of the middle nine tenths of the values; wide open when these are all the same.
+std::pair<double, double> fence(std::vector<double> &values) {
+  constexpr double Tail = 0.05;
+  constexpr double Widths = 3.0;
+  const auto quantile = [&values](double part) {
+    const auto place = values.begin() + static_cast<std::ptrdiff_t>(part * static_cast<double>(values.size() - 1));
+    std::nth_element(values.begin(), place, values.end());
+    return *place;
+  };
+  const double low = quantile(Tail);
+  const double high = quantile(1.0 - Tail);
+  const double room = high > low ? (high - low) * Widths : std::numeric_limits<double>::infinity();
+  return {low - room, high + room};
 }
 
 } // namespace
@@ -181,6 +197,42 @@ void NetGeometry::extend(double x, double y) {
   m_hasExtent = true;
   m_extent.setCoords(std::min(m_extent.left(), x), std::min(m_extent.top(), y), std::max(m_extent.right(), x),
                      std::max(m_extent.bottom(), y));
+}
+
+QRectF NetGeometry::mainExtent() const {
+  constexpr std::size_t Few = 20; // of so few each may stand where it likes
+  std::vector<double> xs;
+  std::vector<double> ys;
+  for (const Node &node : m_nodes) {
+    if (!node.isPlaced)
+      continue;
+    xs.push_back(node.x);
+    ys.push_back(node.y);
+  }
+  if (xs.size() < Few)
+    return m_extent;
+  const auto [left, right] = fence(xs);
+  const auto [bottom, top] = fence(ys);
+  NetGeometry main; // only for its extent
+  const auto take = [&main, left = left, right = right, bottom = bottom, top = top](double x, double y) {
+    if (x >= left && x <= right && y >= bottom && y <= top)
+      main.extend(x, y);
+  };
+  for (const Node &node : m_nodes) {
+    if (node.isPlaced)
+      take(node.x, node.y);
+  }
+  for (const std::vector<Place> *places : {&m_textBoxes, &m_subnets}) {
+    for (const Place &place : *places)
+      take(place.x, place.y);
+  }
+  return main.m_hasExtent ? main.m_extent : m_extent;
+}
+
+int NetGeometry::nodesOutside(const QRectF &area) const {
+  return static_cast<int>(std::count_if(m_nodes.begin(), m_nodes.end(), [&area](const Node &node) {
+    return node.isPlaced && (node.x < area.left() || node.x > area.right() || node.y < area.top() || node.y > area.bottom());
+  }));
 }
 
 bool NetGeometry::isPlaced(const Edge &edge) const {

@@ -114,16 +114,36 @@ void NetPlot::applyColors() {
 void NetPlot::showNetwork() {
   m_update->updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
   const NetGeometry &geometry = m_update->geometry();
-  m_hint.setVisible(!geometry.hasExtent());
-  if (geometry.hasExtent()) {
-    m_zoomer->setExtent(geometry.extent());
-    return;
-  }
-  QwtText hint(geometry.unplaced() > 0 ? tr("Nothing to draw: no element of this network has coordinates.")
-                                       : tr("Nothing to draw: the network is empty."));
+  const QRectF main = geometry.mainExtent();
+  m_stragglers = geometry.hasExtent() ? geometry.nodesOutside(main) : 0;
+  showHint();
+  if (geometry.hasExtent())
+    m_zoomer->setExtent(main);
+  else
+    m_plot->replot();
+}
+
+void NetPlot::showStragglers() {
+  m_stragglers = 0;
+  showHint();
+  m_zoomer->setExtent(m_update->geometry().extent());
+}
+
+void NetPlot::showHint() {
+  const NetGeometry &geometry = m_update->geometry();
+  QString text;
+  if (m_stragglers == 1)
+    text = tr("1 node lies far outside this view (right-click to see it)");
+  else if (m_stragglers > 1)
+    text = tr("%1 nodes lie far outside this view (right-click to see them)").arg(m_stragglers);
+  else if (!geometry.hasExtent())
+    text = geometry.unplaced() > 0 ? tr("Nothing to draw: no element of this network has coordinates.")
+                                   : tr("Nothing to draw: the network is empty.");
+  QwtText hint(text);
   hint.setColor(Qt::gray);
+  hint.setRenderFlags(geometry.hasExtent() ? Qt::AlignTop | Qt::AlignHCenter : Qt::AlignCenter);
   m_hint.setText(hint);
-  m_plot->replot();
+  m_hint.setVisible(!text.isEmpty());
 }
 
 void NetPlot::showAxes() {

@@ -35,6 +35,7 @@ private slots:
   void stationsHaveSymbols();
   void textBoxesAreWritten();
   void nothingToDrawIsSaid();
+  void firstViewFitsTheMainBody();
   void awkwardPlaces_data();
   void awkwardPlaces();
 };
@@ -224,6 +225,25 @@ void TestNetUpdate::nothingToDrawIsSaid() {
   for (int x = 0; x < picture.width(); ++x)
     inked += picture.pixelColor(x, picture.height() / 2).value() < 240 ? 1 : 0;
   QVERIFY(inked > 10);
+}
+
+void TestNetUpdate::firstViewFitsTheMainBody() {
+  ViewFixture f;
+  f.net.clear();
+  for (int i = 0; i < 30; ++i)
+    f.net.addElement(makeNode(qPrintable(QStringLiteral("N%1").arg(i)), qPrintable(QString::number(500000 + i * 100)),
+                              qPrintable(QString::number(5600000 + i % 5 * 100))));
+  f.show();
+  QVERIFY(!f.plot().hasStragglers());
+  f.net.addElement(makeNode("lost")); // at the origin
+  f.show();
+  QVERIFY(f.plot().hasStragglers());
+  const QRectF body(500000, 5600000, 2900, 400);
+  QVERIFY(f.plot().plot()->visibleRect().contains(body));
+  QVERIFY(f.plot().plot()->visibleRect().width() < 10000);
+  f.plot().showStragglers();
+  QVERIFY(!f.plot().hasStragglers());
+  QVERIFY(f.plot().plot()->visibleRect().contains(body) && f.plot().plot()->visibleRect().contains(QPointF(0, 0)));
 }
 
 void TestNetUpdate::awkwardPlaces_data() {

@@ -69,6 +69,10 @@ public:
   const std::vector<Place> &subnets() const { return m_subnets; }     ///< placed ones only
   /// Of everything placed, text boxes and subnets included; it may have no area.
   const QRectF &extent() const { return m_extent; }
+  /// Where most of it lies. Stragglers far away, such as nodes without coordinates that were put to the origin, would
+  /// otherwise make a dot of the network.
+  QRectF mainExtent() const;
+  int nodesOutside(const QRectF &area) const;
   bool hasExtent() const { return m_hasExtent; } ///< something is placed
   bool isPlaced(const Edge &edge) const;
   /// Elements that cannot be drawn for want of coordinates.

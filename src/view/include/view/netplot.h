@@ -39,8 +39,11 @@ public:
 
   /// Takes the general setting "MousePattern_Panning" for the button that moves the view.
   void readMousePattern();
-  /// Draws the network anew and fits it to the window.
+  /// Draws the network anew and fits its main body to the window; a hint tells how many nodes lie far outside.
   void showNetwork();
+  bool hasStragglers() const { return m_stragglers > 0; }
+  /// Fits the window to everything, however far it lies.
+  void showStragglers();
   void placeLegend();
   void showAxes();
 
@@ -52,6 +55,7 @@ protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+  void showHint();
   void setUpPlot();
   void setUpPanner();
   void applyColors();
@@ -66,5 +70,6 @@ private:
   bool m_mouseMoved = false; ///< since the last button press
   QwtPlotGrid m_grid;
   QwtPlotMarker m_legend;
-  QwtPlotTextLabel m_hint; ///< why there is nothing to see
+  QwtPlotTextLabel m_hint; ///< why there is nothing to see, or what lies outside
+  int m_stragglers = 0;    ///< nodes far outside of the zoom base
 };
