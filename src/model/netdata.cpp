@@ -50,6 +50,7 @@ NetData::NetData(const NetData &other)
     , m_edges(other.m_edges)
     , m_tBoxes(other.m_tBoxes)
     , m_assembledSubnets(other.m_assembledSubnets)
+    , m_selection(other.m_selection)
     , m_metaData(other.m_metaData) {
   buildTypeMap();
 }
@@ -59,6 +60,7 @@ NetData::NetData(NetData &&other) noexcept
     , m_edges(std::move(other.m_edges))
     , m_tBoxes(std::move(other.m_tBoxes))
     , m_assembledSubnets(std::move(other.m_assembledSubnets))
+    , m_selection(std::move(other.m_selection))
     , m_metaData(other.m_metaData) {
   buildTypeMap();
 }
@@ -75,6 +77,7 @@ NetData &NetData::operator=(NetData &&other) noexcept {
   m_edges = std::move(other.m_edges);
   m_tBoxes = std::move(other.m_tBoxes);
   m_assembledSubnets = std::move(other.m_assembledSubnets);
+  m_selection = std::move(other.m_selection);
   return *this;
 }
 
@@ -157,6 +160,7 @@ bool NetData::isEmpty() const {
 void NetData::clear() {
   for (const auto &entry : m_typeMap)
     entry.second->clear();
+  m_selection.clear();
 }
 
 double NetData::number(const PropertyText *text, bool absolute) {

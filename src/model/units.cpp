@@ -139,6 +139,12 @@ void Units::initialise() {
   isKnown(QStringLiteral("m"));
 }
 
+QString Units::written(QString unit) {
+  return unit.replace(QStringLiteral("degC"), QStringLiteral("°C"))
+      .replace(QStringLiteral("m3"), QStringLiteral("m³"))
+      .replace(QStringLiteral("m2"), QStringLiteral("m²"));
+}
+
 bool Units::isKnown(const QString &unit) {
   Tables &tables = Tables::instance();
   const std::lock_guard lock(tables.mutex);

@@ -38,13 +38,6 @@ QString firstThatVaries(const NetData &net, const elements &collection, std::ini
   return QString();
 }
 
-/// As people write it: the unit tables know plain ASCII only.
-QString written(QString unit) {
-  return unit.replace(QStringLiteral("degC"), QStringLiteral("°C"))
-      .replace(QStringLiteral("m3"), QStringLiteral("m³"))
-      .replace(QStringLiteral("m2"), QStringLiteral("m²"));
-}
-
 } // namespace
 
 QString DrawFunction::propertyName(const QString &function) {
@@ -88,7 +81,7 @@ DrawFunction DrawFunction::find(const QString &function, const NetData &net) {
     found.toDisplay = *conversion;
   const QString unit = conversion ? attribute->displayUnit : attribute->storedUnit;
   if (!unit.isEmpty())
-    found.title += QStringLiteral(" [") + written(unit) + QLatin1Char(']');
+    found.title += QStringLiteral(" [") + Units::written(unit) + QLatin1Char(']');
   return found;
 }
 

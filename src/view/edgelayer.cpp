@@ -61,6 +61,8 @@ void EdgeLayer::setEdges(const NetGeometry &geometry) {
     record.y1 = a.y;
     record.x2 = b.x;
     record.y2 = b.y;
+    record.lane = edge.node1 <= edge.node2 ? edge.lane : -edge.lane;
+    record.hasSymbol = edge.type != 'p';
     m_records.push_back(record);
   }
 }
@@ -70,7 +72,9 @@ void EdgeLayer::setLooks(const std::vector<EdgeLook> &looks) {
   std::unordered_map<std::uint64_t, int> numbers;
   std::vector<std::uint64_t> keys;
   for (Record &record : m_records) {
-    const std::uint64_t key = penKey(looks[static_cast<std::size_t>(record.edge)]);
+    const EdgeLook &look = looks[static_cast<std::size_t>(record.edge)];
+    const std::uint64_t key = penKey(look);
+    record.flow = static_cast<signed char>(look.flow);
     const auto [known, isNew] = numbers.try_emplace(key, static_cast<int>(keys.size()));
     if (isNew)
       keys.push_back(key);
@@ -99,29 +103,105 @@ void EdgeLayer::clear() {
   m_pens.clear();
 }
 
-std::vector<EdgeLayer::VisibleLine> EdgeLayer::visibleLines(const QwtScaleMap &xMap, const QwtScaleMap &yMap,
-                                                            const QRectF &canvasRect) const {
-  std::vector<VisibleLine> lines;
-  const Projection projection(xMap, yMap, canvasRect);
-  if (!projection.isValid())
-    return lines;
-  const double margin = m_widest + 1.0;
-  const QRectF area = canvasRect.adjusted(-margin, -margin, margin, margin);
-  const SpatialIndex::Box visible = projection.visible(margin);
-  m_index.query(visible, [&](int first, int last) {
-    for (int i = first; i < last; ++i) {
-      const Record &r = m_records[static_cast<std::size_t>(i)];
-      QLineF line(projection.map(r.x1, r.y1), projection.map(r.x2, r.y2));
-      if (r.pen >= 0 && clipLine(line, area))
-        lines.push_back({line, r.pen});
+LaneWay EdgeLayer::way(const Record &record, const Projection &projection) const {
+  const QLineF line(projection.map(record.x1, record.y1), projection.map(record.x2, record.y2));
+  if (record.lane == 0.0F)
+    return {line, 0.0};
+  const double width = m_pens[static_cast<std::size_t>(record.pen)].widthF();
+  return {line, static_cast<double>(record.lane) * laneSpacing(record.hasSymbol, width, m_symbolSize)};
+}
+
+void EdgeLayer::addLines(const Record &record, const Projection &projection, const QRectF &area,
+                         std::vector<VisibleLine> &lines, std::vector<Arrow> &arrows) const {
+  QLineF line(projection.map(record.x1, record.y1), projection.map(record.x2, record.y2));
+  if (record.lane != 0.0F) {
+    const LaneWay beside = way(record, projection);
+    for (QLineF end : {QLineF(beside.start, beside.first), QLineF(beside.second, beside.end)}) {
+      if (clipLine(end, area))
+        lines.push_back({end, record.pen});
     }
-  });
-  return lines;
+    line = beside.middle();
+  }
+  const QLineF whole = line;
+  if (!clipLine(line, area))
+    return;
+  lines.push_back({line, record.pen});
+  if (record.flow != 0)
+    addArrows(record, whole, area, arrows);
+}
+
+void EdgeLayer::addArrows(const Record &record, const QLineF &line, const QRectF &area, std::vector<Arrow> &arrows) const {
+  constexpr double ShortestLine = 3.5; // arrows
+  constexpr double Spacing = 14.0;     // arrows
+  const double dx = line.dx();
+  const double dy = line.dy();
+  const double square = dx * dx + dy * dy;
+  const double shortest = m_arrowSize * ShortestLine + (record.hasSymbol ? m_symbolSize : 0.0);
+  if (!(square >= shortest * shortest) || m_arrowSize <= 0.0)
+    return;
+  const double length = std::sqrt(square);
+  double count = std::max(1.0, std::floor(length / (m_arrowSize * Spacing)));
+  if (record.hasSymbol)
+    count += std::fmod(count, 2.0); // none in the middle, where the symbol stands
+  QLineF visible = line;
+  if (!clipLine(visible, area))
+    return;
+  const auto place = [&](const QPointF &p) {
+    return ((p.x() - line.x1()) * dx + (p.y() - line.y1()) * dy) / square * count - 0.5;
+  };
+  const QPointF along = QPointF(dx, dy) / length * static_cast<double>(record.flow);
+  constexpr double Half = 0.5;
+  const double last = std::floor(place(visible.p2()));
+  for (double i = std::max(0.0, std::ceil(place(visible.p1()))); i <= last && i < count; i += 1.0)
+    arrows.push_back({line.pointAt((i + Half) / count) + along * m_arrowSize * Half, along, record.pen});
+}
+
+void EdgeLayer::drawArrows(QPainter &painter, const std::vector<Arrow> &arrows) const {
+  constexpr double WidthShare = 0.38; // to each side of the line
+  constexpr double Notch = 0.75;      // how deep the back is cut
+  constexpr int Darker = 150;
+  constexpr std::size_t Many = 500; // too many to look at each
+  const QColor halo(255, 255, 255, 200);
+  if (arrows.size() > Many)
+    painter.setPen(Qt::NoPen);
+  else
+    painter.setPen(QPen(halo, 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  for (const Arrow &arrow : arrows) {
+    const QPen &pen = m_pens[static_cast<std::size_t>(arrow.pen)];
+    const double size = m_arrowSize + pen.widthF();
+    const QPointF back = arrow.tip - arrow.along * size;
+    const QPointF side = QPointF(-arrow.along.y(), arrow.along.x()) * size * WidthShare;
+    painter.setBrush(pen.color().darker(Darker));
+    painter.drawPolygon(
+        QPolygonF(QVector<QPointF>{arrow.tip, back + side, arrow.tip - arrow.along * size * Notch, back - side}));
+  }
+}
+
+double EdgeLayer::widthFactor(const std::vector<VisibleLine> &lines, const QRectF &canvas) const {
+  double length = 1.0;
+  for (const VisibleLine &line : lines)
+    length += std::sqrt(line.line.dx() * line.line.dx() + line.line.dy() * line.line.dy());
+  constexpr double Share = 0.6; // of the way between two lines, if they were spread evenly
+  const double room = Share * canvas.width() * canvas.height() / length;
+  return m_widest > room ? room / m_widest : 1.0;
 }
 
 void EdgeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
   constexpr std::size_t ManyLines = 20000; // beyond it nobody sees the caps, but they cost half the frame
-  const std::vector<VisibleLine> visible = visibleLines(xMap, yMap, canvasRect);
+  const Projection projection(xMap, yMap, canvasRect);
+  if (!projection.isValid())
+    return;
+  const double margin = m_widest + 1.0;
+  const QRectF area = canvasRect.adjusted(-margin, -margin, margin, margin);
+  std::vector<VisibleLine> visible;
+  std::vector<Arrow> arrows;
+  m_index.query(projection.visible(margin), [&](int first, int last) {
+    for (int i = first; i < last; ++i) {
+      const Record &record = m_records[static_cast<std::size_t>(i)];
+      if (record.pen >= 0)
+        addLines(record, projection, area, visible, arrows);
+    }
+  });
 
   // Counting sort by pen: starts[pen] is where the lines of the pen begin.
   std::vector<std::size_t> starts(m_pens.size() + 1, 0);
@@ -134,14 +214,37 @@ void EdgeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleM
   for (const VisibleLine &line : visible)
     sorted[next[static_cast<std::size_t>(line.pen)]++] = line.line;
 
+  constexpr double NextWidth = 1.4; // px: below it a line looks like one of a pixel, which is drawn much quicker
+  const double factor = widthFactor(visible, canvasRect);
   for (std::size_t i = 0; i < m_pens.size(); ++i) {
     const std::size_t count = starts[i + 1] - starts[i];
     if (count == 0)
       continue;
     QPen pen = m_pens[i];
+    const double width = pen.widthF() * factor;
+    pen.setWidthF(factor < 1.0 && width < NextWidth ? std::min(pen.widthF(), 1.0) : width);
     if (visible.size() > ManyLines)
       pen.setCapStyle(Qt::FlatCap);
     painter->setPen(pen);
     painter->drawLines(&sorted[starts[i]], static_cast<int>(count));
   }
+  drawArrows(*painter, arrows);
+}
+
+void EdgeLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {
+  const double reach = tolerance + m_widest;
+  m_index.query(projection.around(point, reach + m_symbolSize), [&](int first, int last) {
+    for (int i = first; i < last; ++i) {
+      const Record &record = m_records[static_cast<std::size_t>(i)];
+      if (record.pen < 0)
+        continue;
+      const LaneWay line = way(record, projection);
+      const double distance =
+          std::min({distanceToLine(point, line.middle()), distanceToLine(point, {line.start, line.first}),
+                    distanceToLine(point, {line.second, line.end})});
+      const double halfWidth = m_pens[static_cast<std::size_t>(record.pen)].widthF() * 0.5;
+      if (distance - halfWidth <= tolerance)
+        hits.push_back({{NetData::Edge, record.edge}, distance});
+    }
+  });
 }

@@ -1,8 +1,18 @@
 #include <view/layergeometry.h>
 
+#include <QFontInfo>
 #include <QPaintEngine>
 
 #include <algorithm>
+
+namespace {
+
+int cellsOf(double pixels, double cell) {
+  constexpr double MostCells = 4000.0;
+  return static_cast<int>(qBound(1.0, std::ceil(pixels / cell), MostCells));
+}
+
+} // namespace
 
 Projection::Projection(const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvas)
     : m_canvas(canvas)
@@ -20,7 +30,14 @@ Projection::Projection(const QwtScaleMap &xMap, const QwtScaleMap &yMap, const Q
 }
 
 SpatialIndex::Box Projection::visible(double margin) const {
-  const QRectF r = m_canvas.adjusted(-margin, -margin, margin, margin);
+  return toPlot(m_canvas.adjusted(-margin, -margin, margin, margin));
+}
+
+SpatialIndex::Box Projection::around(const QPointF &point, double reach) const {
+  return toPlot({point.x() - reach, point.y() - reach, reach * 2.0, reach * 2.0});
+}
+
+SpatialIndex::Box Projection::toPlot(const QRectF &r) const {
   const auto x = std::minmax({(r.left() - m_px0) / m_xFactor + m_x0, (r.right() - m_px0) / m_xFactor + m_x0});
   const auto y = std::minmax({(r.top() - m_py0) / m_yFactor + m_y0, (r.bottom() - m_py0) / m_yFactor + m_y0});
   return {x.first, y.first, x.second, y.second};
@@ -56,6 +73,42 @@ bool clipLine(QLineF &line, const QRectF &rect) {
   return std::isfinite(line.x1() + line.y1() + line.x2() + line.y2());
 }
 
+LaneWay::LaneWay(const QLineF &line, double offset)
+    : start(line.p1())
+    , first(line.p1())
+    , second(line.p2())
+    , end(line.p2()) {
+  constexpr double LargestShare = 0.25; // of the line's length
+  const double length = line.length();
+  if (offset == 0.0 || !(length > 0.0))
+    return;
+  const QPointF along = QPointF(line.dx(), line.dy()) / length;
+  const QPointF right(-along.y(), along.x()); // pixels count downwards
+  const double most = length * LargestShare;
+  const double moved = qBound(-most, offset, most);
+  first += along * std::abs(moved) + right * moved;
+  second += right * moved - along * std::abs(moved);
+}
+
+double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize) {
+  constexpr double Gap = 2.0;
+  return (hasSymbol ? std::max(symbolSize, lineWidth) : lineWidth) + Gap;
+}
+
+double distanceToLine(const QPointF &point, const QLineF &line) {
+  const QPointF along(line.dx(), line.dy());
+  const QPointF to = point - line.p1();
+  const double square = QPointF::dotProduct(along, along);
+  const double t = square > 0.0 ? qBound(0.0, QPointF::dotProduct(to, along) / square, 1.0) : 0.0;
+  const QPointF between = to - along * t;
+  return std::hypot(between.x(), between.y());
+}
+
+QFont screenFont(QFont font) {
+  font.setPixelSize(std::max(1, QFontInfo(font).pixelSize()));
+  return font;
+}
+
 bool isVectorTarget(const QPainter &painter) {
   const QPaintEngine *engine = painter.paintEngine();
   if (engine == nullptr)
@@ -85,12 +138,8 @@ double pixelRatio(const QPainter &painter) {
 PixelGrid::PixelGrid(const QRectF &canvas, double cell)
     : m_origin(canvas.topLeft())
     , m_cell(std::max(cell, 1.0)) {
-  constexpr double MostCells = 4000.0;
-  const auto cells = [this, MostCells](double pixels) {
-    return static_cast<int>(qBound(1.0, std::ceil(pixels / m_cell), MostCells));
-  };
-  m_columns = cells(canvas.width());
-  m_rows = cells(canvas.height());
+  m_columns = cellsOf(canvas.width(), m_cell);
+  m_rows = cellsOf(canvas.height(), m_cell);
   m_taken.resize(static_cast<std::size_t>(m_columns + 2) * static_cast<std::size_t>(m_rows + 2));
 }
 
@@ -106,20 +155,6 @@ bool PixelGrid::take(const QPointF &point) {
   const int i = index(point);
   if (i < 0 || m_taken[static_cast<std::size_t>(i)])
     return false;
-  m_taken[static_cast<std::size_t>(i)] = true;
-  return true;
-}
-
-bool PixelGrid::takeApart(const QPointF &point) {
-  const int i = index(point);
-  if (i < 0)
-    return false;
-  const int row = m_columns + 2;
-  for (const int around : {-row - 1, -row, -row + 1, -1, 0, 1, row - 1, row, row + 1}) {
-    const int neighbour = i + around;
-    if (m_taken[static_cast<std::size_t>(neighbour)])
-      return false;
-  }
   m_taken[static_cast<std::size_t>(i)] = true;
   return true;
 }
@@ -145,4 +180,26 @@ bool PixelGrid::takeArea(const QRectF &area) {
   if (isFree)
     forEachCell([&](std::size_t i) { m_taken[i] = true; });
   return isFree;
+}
+
+ClusterGrid::ClusterGrid(const QRectF &canvas, double cell)
+    : m_origin(canvas.topLeft())
+    , m_cell(std::max(cell, 1.0))
+    , m_columns(cellsOf(canvas.width(), m_cell))
+    , m_rows(cellsOf(canvas.height(), m_cell))
+    , m_numbers(static_cast<std::size_t>(m_columns + 2) * static_cast<std::size_t>(m_rows + 2), -1) {}
+
+int ClusterGrid::claim(const QPointF &point, int number) {
+  const auto cell = [this](double pixels, int cells) {
+    return static_cast<int>(qBound(0.0, std::floor(pixels / m_cell), cells - 1.0)) + 1;
+  };
+  const int row = m_columns + 2;
+  const int i = cell(point.y() - m_origin.y(), m_rows) * row + cell(point.x() - m_origin.x(), m_columns);
+  for (const int around : {0, -row - 1, -row, -row + 1, -1, 1, row - 1, row, row + 1}) {
+    const int neighbour = i + around;
+    if (m_numbers[static_cast<std::size_t>(neighbour)] >= 0)
+      return m_numbers[static_cast<std::size_t>(neighbour)];
+  }
+  m_numbers[static_cast<std::size_t>(i)] = number;
+  return number;
 }

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <numeric>
+#include <tuple>
 
 namespace {
 
@@ -107,6 +109,7 @@ NetGeometry::Values NetGeometry::build(const NetData &net, const Request &reques
   addEdges(net, request, values);
   m_textBoxes = places(net.textBoxes());
   m_subnets = places(net.assembledSubnets());
+  findPins(net);
   return values;
 }
 
@@ -168,10 +171,119 @@ void NetGeometry::addEdges(const NetData &net, const Request &request, Values &v
     if (read[EdgeType] != nullptr && read[EdgeType]->utf8().size() == 1)
       edge.type = read[EdgeType]->utf8().front();
     edge.isInactive = saysOff(read[EdgeState]) || saysOff(read[EdgeActive]);
+    edge.isBypass = read[EdgeState] != nullptr && equals(read[EdgeState]->utf8(), "bypass");
     takeEdge(i, read, EdgeWanted, request, values);
   });
   for (const Edge &edge : m_edges)
     m_unplaced += isPlaced(edge) ? 0 : 1;
+  findLanes();
+}
+
+void NetGeometry::findPins(const NetData &net) {
+  static const PropertyKey key = PropertyKey::intern("pins");
+  for (Place &subnet : m_subnets) {
+    for (const QString &name : subnet.source->value(key).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+      if (const elements::Entry *node = net.nodes().findEntry(name.trimmed().toStdString()))
+        subnet.pins.push_back(node->place);
+    }
+  }
+}
+
+void NetGeometry::findLanes() {
+  // Edges by their lower end node: a counting sort, since only neighbours in it can be parallel.
+  std::vector<int> starts(m_nodes.size() + 1, 0);
+  const auto joins = [](const Edge &edge) {
+    return edge.node1 >= 0 && edge.node2 >= 0 && edge.node1 != edge.node2;
+  };
+  for (const Edge &edge : m_edges) {
+    if (joins(edge))
+      ++starts[static_cast<std::size_t>(std::min(edge.node1, edge.node2)) + 1];
+  }
+  std::partial_sum(starts.begin(), starts.end(), starts.begin());
+  struct Way {
+    int far;
+    int edge;
+  };
+  std::vector<Way> ways(static_cast<std::size_t>(starts.back()));
+  std::vector<int> next(starts.begin(), starts.end() - 1);
+  for (std::size_t i = 0; i < m_edges.size(); ++i) {
+    const Edge &edge = m_edges[i];
+    if (!joins(edge))
+      continue;
+    const auto near = static_cast<std::size_t>(std::min(edge.node1, edge.node2));
+    ways[static_cast<std::size_t>(next[near]++)] = {std::max(edge.node1, edge.node2), static_cast<int>(i)};
+  }
+  for (std::size_t node = 0; node < m_nodes.size(); ++node) {
+    const auto first = ways.begin() + starts[node];
+    const auto last = ways.begin() + starts[node + 1];
+    if (last - first < 2)
+      continue;
+    std::sort(first, last, [](const Way &a, const Way &b) { return std::tie(a.far, a.edge) < std::tie(b.far, b.edge); });
+    for (auto group = first; group != last;) {
+      const auto end = std::find_if(group, last, [group](const Way &way) { return way.far != group->far; });
+      const float middle = static_cast<float>(end - group - 1) * 0.5F;
+      for (auto way = group; way != end; ++way)
+        m_edges[static_cast<std::size_t>(way->edge)].lane = static_cast<float>(way - group) - middle;
+      group = end;
+    }
+  }
+}
+
+const element *NetGeometry::source(Item item) const {
+  const auto i = static_cast<std::size_t>(item.index);
+  switch (item.kind) {
+  case NetData::Node:
+    return m_nodes[i].source;
+  case NetData::Edge:
+    return m_edges[i].source;
+  case NetData::AssembledSubnet:
+    return m_subnets[i].source;
+  case NetData::TextBox:
+    return m_textBoxes[i].source;
+  default:
+    return nullptr;
+  }
+}
+
+std::optional<NetGeometry::Item> NetGeometry::find(const NetData &net, const QString &name, int kinds) const {
+  const std::string utf8 = name.toStdString();
+  // Nodes and edges stand in name order, as the collections do.
+  for (const auto &[kind, collection] : {std::make_pair(NetData::Node, &net.nodes()), {NetData::Edge, &net.edges()}}) {
+    const elements::Entry *entry = (kinds & kind) != 0 ? collection->findEntry(utf8) : nullptr;
+    const std::size_t count = kind == NetData::Node ? m_nodes.size() : m_edges.size();
+    if (entry != nullptr && static_cast<std::size_t>(entry->place) < count && source({kind, entry->place}) == &entry->value)
+      return Item{kind, entry->place};
+  }
+  for (const auto &[kind, places] :
+       {std::make_pair(NetData::AssembledSubnet, &m_subnets), {NetData::TextBox, &m_textBoxes}}) {
+    const elements &collection = kind == NetData::TextBox ? net.textBoxes() : net.assembledSubnets();
+    const element *wanted = (kinds & kind) != 0 ? collection.find(utf8) : nullptr;
+    const auto found = std::find_if(places->begin(), places->end(), [wanted](const Place &p) { return p.source == wanted; });
+    if (wanted != nullptr && found != places->end())
+      return Item{kind, static_cast<int>(found - places->begin())};
+  }
+  return std::nullopt;
+}
+
+std::optional<QPointF> NetGeometry::center(Item item) const {
+  const auto i = static_cast<std::size_t>(item.index);
+  switch (item.kind) {
+  case NetData::Node:
+    return m_nodes[i].isPlaced ? std::optional<QPointF>({m_nodes[i].x, m_nodes[i].y}) : std::nullopt;
+  case NetData::Edge: {
+    if (!isPlaced(m_edges[i]))
+      return std::nullopt;
+    const Node &a = m_nodes[static_cast<std::size_t>(m_edges[i].node1)];
+    const Node &b = m_nodes[static_cast<std::size_t>(m_edges[i].node2)];
+    return QPointF((a.x + b.x) * 0.5, (a.y + b.y) * 0.5);
+  }
+  case NetData::AssembledSubnet:
+    return QPointF(m_subnets[i].x, m_subnets[i].y);
+  case NetData::TextBox:
+    return QPointF(m_textBoxes[i].x, m_textBoxes[i].y);
+  default:
+    return std::nullopt;
+  }
 }
 
 std::vector<NetGeometry::Place> NetGeometry::places(const elements &collection) {
@@ -185,7 +297,7 @@ std::vector<NetGeometry::Place> NetGeometry::places(const elements &collection) 
       ++m_unplaced;
       continue;
     }
-    found.push_back({&entry.value, x, y});
+    found.push_back({&entry.value, x, y, {}});
     extend(x, y);
   }
   return found;

@@ -1,13 +1,15 @@
 #include <base/generalsettings.h>
+#include <base/nivramsg.h>
 #include <view/netplot.h>
+#include <view/plotpanner.h>
 #include <view/plotsettingsfile.h>
 #include <view/plotzoom.h>
 #include <view/qwtfastplot.h>
+#include <view/smoothzoom.h>
 
 #include <QMenu>
 #include <QMouseEvent>
 #include <QVBoxLayout>
-#include <qwt_plot_panner.h>
 #include <qwt_scale_widget.h>
 
 #include <algorithm>
@@ -22,13 +24,15 @@ NetPlot::NetPlot(QWidget *parent)
     : QWidget(parent)
     , m_plot(new QwtFastPlot(this))
     , m_zoomer(new PlotZoom(*m_plot, m_settings))
-    , m_panner(new QwtPlotPanner(m_plot->canvas()))
-    , m_update(std::make_unique<NetUpdate>(*this, m_settings)) {
+    , m_panner(new PlotPanner(*m_plot))
+    , m_update(std::make_unique<NetUpdate>(*this, m_settings))
+    , m_smoothZoom(new SmoothZoom(*this)) {
   constexpr int SmallestSide = 200;
   constexpr double GridZ = 1.0;
   constexpr double LegendZ = 100.0;
   setUpPlot();
   setUpPanner();
+  setUpZoom();
   m_grid.enableXMin(true);
   m_grid.enableYMin(true);
   m_grid.setZ(GridZ);
@@ -40,8 +44,9 @@ NetPlot::NetPlot(QWidget *parent)
   m_legend.hide();
   m_hint.attach(m_plot);
   m_hint.hide();
+  m_selection.attach(m_plot);
+  m_plot->setOverlayItem(&m_selection);
   applyColors();
-  connect(m_zoomer, &QwtPlotZoomer::zoomed, this, &NetPlot::placeLegend);
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(m_plot);
@@ -66,6 +71,64 @@ void NetPlot::setUpPanner() {
   m_panner->setAxisEnabled(QwtPlot::yRight, false);
   connect(m_panner, &QwtPanner::panned, m_zoomer, &PlotZoom::takeView);
   readMousePattern();
+}
+
+void NetPlot::setUpZoom() {
+  connect(m_zoomer, &QwtPlotZoomer::zoomed, this, [this] {
+    placeLegend();
+    if (!m_smoothZoom->isRunning())
+      refresh(GeneralSettings::instance().value(QStringLiteral("pixtest delay")).toInt());
+  });
+  connect(m_zoomer, &PlotZoom::refreshRequested, this, &NetPlot::refresh);
+  connect(m_zoomer, &PlotZoom::wheelTurned, this, &NetPlot::zoomByWheel);
+}
+
+void NetPlot::refresh(int delay) {
+  m_update->requestPixtest(delay);
+}
+
+void NetPlot::zoomByWheel(int steps, QPointF anchor) {
+  const GeneralSettings &general = GeneralSettings::instance();
+  const bool isToElement = general.isOn(QStringLiteral("zoom to element"));
+  if (isToElement) {
+    constexpr double Tolerance = 20.0; // px
+    const QPointF place(m_plot->transform(QwtPlot::xBottom, anchor.x()), m_plot->transform(QwtPlot::yLeft, anchor.y()));
+    const std::vector<Hit> hits = m_update->elementsAt(place, Tolerance);
+    if (!hits.empty())
+      anchor = m_update->geometry().center(hits.front().item).value_or(anchor);
+  }
+  if (general.isOn(QStringLiteral("smooth zoom"))) {
+    m_smoothZoom->setAnchor(isToElement ? std::make_optional(anchor) : std::nullopt);
+    m_smoothZoom->zoom(steps);
+    return;
+  }
+  for (int i = 0; i < std::abs(steps); ++i) {
+    if (steps > 0)
+      m_zoomer->zoomIn(anchor);
+    else
+      m_zoomer->zoomOut(anchor);
+  }
+  refresh(general.value(QStringLiteral("pixtest delay")).toInt());
+}
+
+void NetPlot::zoomToElement(NetGeometry::Item item) {
+  const NetGeometry &geometry = m_update->geometry();
+  const std::optional<QPointF> center = geometry.center(item);
+  if (!center)
+    return;
+  constexpr double Smallest = 1.0;
+  constexpr double Largest = 1000.0;
+  const double wanted = GeneralSettings::instance().value(QStringLiteral("zoom to element: factor")).toDouble();
+  const double factor = qBound(Smallest, wanted, Largest);
+  QSizeF size(m_settings.smallestZoomWidth, m_settings.smallestZoomHeight);
+  if (item.kind == NetData::Edge) {
+    const NetGeometry::Edge &edge = geometry.edges()[static_cast<std::size_t>(item.index)];
+    const NetGeometry::Node &a = geometry.nodes()[static_cast<std::size_t>(edge.node1)];
+    const NetGeometry::Node &b = geometry.nodes()[static_cast<std::size_t>(edge.node2)];
+    size = size.expandedTo({std::abs(a.x - b.x), std::abs(a.y - b.y)});
+  }
+  size = (size * factor).boundedTo(m_zoomer->zoomBase().size());
+  m_zoomer->zoom(QRectF(center->x() - size.width() * 0.5, center->y() - size.height() * 0.5, size.width(), size.height()));
 }
 
 void NetPlot::readMousePattern() {
@@ -112,21 +175,25 @@ void NetPlot::applyColors() {
 }
 
 void NetPlot::showNetwork() {
+  m_selection.readSettings();
+  m_selection.setGeometry(&m_update->geometry());
   m_update->updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
   const NetGeometry &geometry = m_update->geometry();
   const QRectF main = geometry.mainExtent();
   m_stragglers = geometry.hasExtent() ? geometry.nodesOutside(main) : 0;
   showHint();
+  m_selection.setSizes(m_settings.nodeMag, m_settings.symMag);
   if (geometry.hasExtent())
     m_zoomer->setExtent(main);
   else
     m_plot->replot();
+  refresh(-1);
 }
 
 void NetPlot::showStragglers() {
   m_stragglers = 0;
   showHint();
-  m_zoomer->setExtent(m_update->geometry().extent());
+  m_zoomer->resetZoomBase(m_update->geometry().extent());
 }
 
 void NetPlot::showHint() {
@@ -140,7 +207,8 @@ void NetPlot::showHint() {
     text = geometry.unplaced() > 0 ? tr("Nothing to draw: no element of this network has coordinates.")
                                    : tr("Nothing to draw: the network is empty.");
   QwtText hint(text);
-  hint.setColor(Qt::gray);
+  hint.setColor(Qt::darkGray);
+  hint.setBackgroundBrush(QColor(255, 255, 255, 220));
   hint.setRenderFlags(geometry.hasExtent() ? Qt::AlignTop | Qt::AlignHCenter : Qt::AlignCenter);
   m_hint.setText(hint);
   m_hint.setVisible(!text.isEmpty());
@@ -184,6 +252,15 @@ void NetPlot::placeLegend() {
   m_plot->replot();
 }
 
+QRectF NetPlot::legendArea() const {
+  if (!m_legend.isVisible())
+    return QRectF();
+  QRectF area(QPointF(), m_legend.label().textSize());
+  area.moveCenter(
+      {m_plot->transform(QwtPlot::xBottom, m_legend.value().x()), m_plot->transform(QwtPlot::yLeft, m_legend.value().y())});
+  return area;
+}
+
 bool NetPlot::eventFilter(QObject *watched, QEvent *event) {
   if (watched == m_plot->canvas())
     return canvasEvent(event) || QWidget::eventFilter(watched, event);
@@ -206,7 +283,7 @@ bool NetPlot::canvasEvent(QEvent *event) {
     return false;
   case QEvent::MouseButtonRelease:
     if (static_cast<QMouseEvent *>(event)->button() == Qt::RightButton && !m_mouseMoved)
-      showContextMenu();
+      showContextMenu(static_cast<QMouseEvent *>(event)->pos());
     return false;
   case QEvent::Enter:
   case QEvent::Leave:
@@ -216,7 +293,8 @@ bool NetPlot::canvasEvent(QEvent *event) {
   }
 }
 
-void NetPlot::showContextMenu() {
+void NetPlot::showContextMenu(const QPoint &position) {
+  m_menuPosition = position;
   auto *contextMenu = new QMenu(this);
   contextMenu->setAttribute(Qt::WA_DeleteOnClose);
   emit contextMenuRequested(contextMenu);

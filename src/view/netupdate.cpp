@@ -1,10 +1,10 @@
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <view/colorscale.h>
-#include <view/drawfunctions.h>
+#include <view/elementlooks.h>
+#include <view/labelpass.h>
 #include <view/netplot.h>
 #include <view/netupdate.h>
-#include <view/networkgraph.h>
 #include <view/qwtfastplot.h>
 
 #include <QElapsedTimer>
@@ -15,43 +15,29 @@
 
 namespace {
 
-constexpr QRgb NoValueColor = 0xffc4c8cc; ///< the element lacks the value that the others are coloured by
-constexpr QRgb PlainEdge = 0xff2f5d8a;    ///< there is nothing to colour by
-constexpr QRgb PlainNode = 0xff5b6b7b;
-
-QwtInterval rangeOf(const std::vector<double> &values) {
-  double smallest = -NetData::NoValue;
-  double largest = NetData::NoValue;
-  for (const double value : values) {
-    if (value == NetData::NoValue)
-      continue;
-    smallest = std::min(smallest, value);
-    largest = std::max(largest, value);
-  }
-  return smallest <= largest ? QwtInterval(smallest, largest) : QwtInterval();
-}
-
-QwtInterval withFixedBounds(QwtInterval range, double minimum, double maximum) {
-  if (!range.isValid())
-    return range;
-  if (minimum > PlotSettings::OpenMinimum)
-    range.setMinValue(minimum);
-  if (maximum < PlotSettings::OpenMaximum)
-    range.setMaxValue(maximum);
-  return range;
-}
-
 QString seconds(const QElapsedTimer &timer) {
   constexpr double Milli = 1e-3;
   return QString::number(static_cast<double>(timer.elapsed()) * Milli);
+}
+
+bool isSwitchedOn(const char *setting) {
+  return GeneralSettings::instance().isOn(QString::fromLatin1(setting));
 }
 
 } // namespace
 
 NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
     : m_plot(plot)
-    , m_settings(settings) {
-  for (QwtPlotItem *layer : std::initializer_list<QwtPlotItem *>{&m_edges, &m_nodes, &m_symbols, &m_textBoxes})
+    , m_settings(settings)
+    , m_pixtest([this](Pixtest::Labels labels) { runPixtest(labels); },
+                [this] {
+                  const QRectF seen = m_plot.plot()->visibleRect();
+                  return Pixtest::View{
+                      std::max(seen.height() / m_settings.largestZoomHeight, seen.width() / m_settings.largestZoomWidth),
+                      m_plot.window()->windowTitle().startsWith(QStringLiteral("Subassembly "))};
+                }) {
+  for (QwtPlotItem *layer :
+       std::initializer_list<QwtPlotItem *>{&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels})
     layer->attach(plot.plot());
 }
 
@@ -61,7 +47,18 @@ void NetUpdate::setNetData(const NetData *net) {
   m_edges.clear();
   m_nodes.clear();
   m_symbols.clear();
+  m_subnets.clear();
   m_textBoxes.clear();
+  m_labels.clear();
+  m_visibility.clear();
+  m_unplaced.clear();
+}
+
+void NetUpdate::setFolder(const QString &folder) {
+  const SymbolTable table(folder + QStringLiteral("/symbols"));
+  m_symbols.setTable(table);
+  m_symbols.setFigureFolder(folder);
+  m_subnets.setTable(table);
 }
 
 void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
@@ -73,174 +70,199 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     return;
   QElapsedTimer timer;
   timer.start();
-  readValues(rebuild);
-  ColorScale::show(*m_plot.plot(), m_settings, DrawFunction::find(m_settings.colorFunc, *m_net), m_values.edgeColor.range);
+  m_values.read(*m_net, m_settings, m_geometry, rebuild);
+  if (rebuild && m_geometry.unplaced() > 0)
+    NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
+  ColorScale::show(*m_plot.plot(), m_settings, DrawFunction::find(m_settings.colorFunc, *m_net), m_values.edgeColor(),
+                   looks().swatches());
   m_plot.placeLegend();
   m_plot.showAxes();
 
+  const bool isSearch = m_displayMode == DisplayMode::SearchResults;
   std::future<void> nodes; // beside the edges
   if (which != Which::Edges)
-    nodes = std::async(std::launch::async, [this, rebuild] {
+    nodes = std::async(std::launch::async, [this, rebuild, isSearch] {
       if (rebuild)
         m_nodes.setNodes(m_geometry);
-      updateNodes();
+      m_nodes.setLooks(isSearch ? looks().searchedNodes() : looks().nodes(m_displayMode == DisplayMode::Functions));
     });
   if (which != Which::Nodes) {
     if (rebuild) {
       m_edges.setEdges(m_geometry);
       NivraMsg::log(QStringLiteral("   after rebuild edges: %1 sec.").arg(seconds(timer)));
     }
-    updateEdges();
-    NivraMsg::log(QStringLiteral("   after update edge curves: %1 sec.").arg(seconds(timer)));
+    m_edges.setLooks(isSearch ? looks().searchedEdges() : looks().edges());
+    NivraMsg::log((isSearch ? QStringLiteral("   after update edges: %1 sec.")
+                            : QStringLiteral("   after update edge curves: %1 sec."))
+                      .arg(seconds(timer)));
   }
   if (nodes.valid()) {
     nodes.get();
     NivraMsg::log(QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
   }
-  if (rebuild)
-    updateSymbols();
-  m_symbols.setSize(m_settings.symMag);
+  updateSymbols(rebuild);
+  if (relabel)
+    m_labels.clear();
   m_plot.plot()->replot();
   NivraMsg::log(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
 }
 
-void NetUpdate::readValues(bool rebuild) {
-  const PlotSettings &s = m_settings;
-  const auto wanted = [this](const QString &function, bool absolute) {
-    return NetGeometry::Wanted{DrawFunction::find(function, *m_net).property, absolute};
-  };
-  enum { Color, Width, Flow };
-  enum { NodeColor, NodeSize };
-  const bool isFixed = s.nodeSizeFunc == PlotSettings::fixedSize();
-  const bool isOneColor = s.nodeColorFunc == s.colorFunc && s.absNodeColor == s.absColor; // then it is read once
-  const NetGeometry::Request request{
-      {wanted(s.colorFunc, s.absColor), wanted(s.widthFunc, s.absWidth), wanted(s.edgeShowFlow, true)},
-      {wanted(isOneColor ? QString() : s.nodeColorFunc, s.absNodeColor),
-       wanted(isFixed ? QString() : s.nodeSizeFunc, s.absNodeSize)}};
-  NetGeometry::Values read = rebuild ? m_geometry.build(*m_net, request) : m_geometry.values(request);
-  if (rebuild && m_geometry.unplaced() > 0)
-    NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
-  compute(read, {s.colorFunc, s.widthFunc}, {s.nodeColorFunc, s.nodeSizeFunc});
-  if (isOneColor)
-    read.ofNodes[NodeColor] = read.ofEnds[Color];
-
-  // The nodes' own range, so that nodes and edges coloured by one function share their colours.
-  const auto isOfNodes = [this](const QString &function) {
-    const DrawFunction found = DrawFunction::find(function, *m_net);
-    return found.isOfNodes || found.computed != DrawFunction::Computed::No;
-  };
-  const auto edgeRange = [&](const QString &function, std::size_t i) {
-    return rangeOf(isOfNodes(function) ? read.ofEnds[i] : read.ofEdges[i]);
-  };
-  m_values.edgeColor.range = withFixedBounds(edgeRange(s.colorFunc, Color), s.minVal_edgeColor, s.maxVal_edgeColor);
-  m_values.edgeWidth.range = withFixedBounds(edgeRange(s.widthFunc, Width), s.minVal_Width, s.maxVal_Width);
-  m_values.edgeColor.ofElements = std::move(read.ofEdges[Color]);
-  m_values.edgeWidth.ofElements = std::move(read.ofEdges[Width]);
-  m_values.flow = std::move(read.ofEdges[Flow]);
-  m_values.nodeColor.range = withFixedBounds(rangeOf(read.ofNodes[NodeColor]), s.minVal_nodeColor, s.maxVal_nodeColor);
-  m_values.nodeSize.range = withFixedBounds(rangeOf(read.ofNodes[NodeSize]), s.minVal_nodeSize, s.maxVal_nodeSize);
-  m_values.nodeColor.ofElements = std::move(read.ofNodes[NodeColor]);
-  m_values.nodeSize.ofElements = std::move(read.ofNodes[NodeSize]);
+ElementLooks NetUpdate::looks() const {
+  return {*m_net, m_geometry, m_values, m_settings};
 }
 
-void NetUpdate::compute(NetGeometry::Values &values, const QStringList &ofEdges, const QStringList &ofNodes) const {
-  using Computed = DrawFunction::Computed;
-  const auto computed = [this](const QString &function) {
-    const DrawFunction found = DrawFunction::find(function, *m_net);
-    std::vector<double> ofGraph;
-    if (found.computed == Computed::Connectivity) {
-      ofGraph = NetworkGraph(m_geometry).components();
-    } else if (found.computed == Computed::AccumulatedLength) {
-      const NetGeometry::Request lengths{{{PropertyKey::intern("length"), true}}, {}};
-      ofGraph = NetworkGraph(m_geometry).distances(m_geometry.values(lengths).ofEdges.front());
-    }
-    return ofGraph;
-  };
-  // What the elements carry themselves counts more than what can be computed.
-  for (int i = 0; i < ofNodes.size(); ++i) {
-    std::vector<double> &column = values.ofNodes[static_cast<std::size_t>(i)];
-    if (std::vector<double> own = computed(ofNodes.at(i)); !own.empty() && !rangeOf(column).isValid())
-      column = std::move(own);
+void NetUpdate::updateSymbols(bool rebuild) {
+  constexpr double ArrowPixels = 2.0; // a unit of arrowMag
+  QHash<QString, double> sizes;
+  for (const LabelRow &row : m_labelTable.types) {
+    bool isNumber = false;
+    const double size = row[LabelRow::Size].trimmed().toDouble(&isNumber);
+    if (isNumber && size > 0.0)
+      sizes.insert(row[LabelRow::Short], size);
   }
-  for (int i = 0; i < ofEdges.size(); ++i) {
-    const auto function = static_cast<std::size_t>(i);
-    std::vector<double> own = computed(ofEdges.at(i));
-    if (own.empty() || rangeOf(values.ofEdges[function]).isValid())
-      continue;
-    values.ofEnds[function] = std::move(own);
-    m_geometry.takeMeans(values.ofEnds[function], values.ofEdges[function]);
-  }
-}
-
-void NetUpdate::updateEdges() {
-  constexpr double WidthSpan = 4.0; // px that the width function adds at most, at magnification 1
-  constexpr double NoFlow = 1e-10;  // in whatever unit the flow is stored
-  const Values &colors = m_values.edgeColor;
-  const Values &widths = m_values.edgeWidth;
-  const std::vector<double> &flow = m_values.flow;
-  const auto colorMap = ColorScale::colorMap(m_settings, m_settings.logScaleColor);
-  const auto widthMap = ColorScale::colorMap(m_settings, m_settings.logScaleWidth);
-  const TableColorMap table(*colorMap, colors.range);
-
-  std::vector<EdgeLook> looks(m_geometry.edges().size());
-  for (std::size_t i = 0; i < looks.size(); ++i) {
-    EdgeLook &look = looks[i];
-    look.width = m_settings.edgeConst + m_settings.edgeMag;
-    if (widths.range.isValid()) {
-      const double value = widths.ofElements[i];
-      const double fraction = value == NetData::NoValue ? 0.0 : widthMap->fraction(widths.range, value);
-      look.width = m_settings.edgeConst + m_settings.edgeMag * WidthSpan * fraction;
-    }
-    look.isBackground = true;
-    if (m_geometry.edges()[i].isInactive) {
-      look.color = m_settings.edgeColorInactive.rgb();
-    } else if (flow[i] != NetData::NoValue && flow[i] < NoFlow) {
-      look.color = m_settings.edgeColorNoFlow.rgb();
-    } else if (colors.range.isValid() && colors.ofElements[i] == NetData::NoValue) {
-      look.color = NoValueColor;
-    } else {
-      look.isBackground = false;
-      look.color = colors.range.isValid() ? table.rgb(colors.range, colors.ofElements[i]) : PlainEdge;
-    }
-  }
-  m_edges.setLooks(looks);
-}
-
-void NetUpdate::updateNodes() {
-  const PlotSettings &s = m_settings;
-  const Values &colors = m_values.nodeColor;
-  const Values &sizes = m_values.nodeSize;
-  const auto colorMap = ColorScale::colorMap(s, s.logScaleNodeColor);
-  const auto sizeMap = ColorScale::colorMap(s, s.logScaleNodeSize);
-  const TableColorMap table(*colorMap, colors.range);
-  constexpr double SmallestShare = 0.5; // of the magnification, and the largest four times as large
-  constexpr double ShareSpan = 1.5;
-
-  std::vector<NodeLook> looks(m_geometry.nodes().size());
-  for (std::size_t i = 0; i < looks.size(); ++i) {
-    NodeLook &look = looks[i];
-    look.size = s.nodeMag;
-    if (sizes.range.isValid()) {
-      const double value = sizes.ofElements[i];
-      const double fraction = value == NetData::NoValue ? 0.0 : sizeMap->fraction(sizes.range, value);
-      look.size = s.nodeMag * (SmallestShare + ShareSpan * fraction);
-    }
-    if (!colors.range.isValid())
-      look.color = PlainNode;
-    else if (colors.ofElements[i] == NetData::NoValue)
-      look.color = NoValueColor;
+  m_symbols.setSize(m_settings.symMag);
+  m_symbols.setSizes(sizes);
+  m_edges.setSymbolSize(m_settings.symMag);
+  m_edges.setArrowSize(m_settings.arrowMag * ArrowPixels);
+  m_subnets.setLook(m_settings.symMag, m_settings.alphaSubnet);
+  if (rebuild) {
+    m_visibility.read(m_geometry, m_labelTable);
+    if (isSwitchedOn("build symbols"))
+      m_symbols.setStations(m_geometry);
     else
-      look.color = table.rgb(colors.range, colors.ofElements[i]);
+      m_symbols.clear();
+    m_subnets.setSubnets(m_geometry);
   }
-  m_nodes.setLooks(looks);
-}
-
-void NetUpdate::updateSymbols() {
-  if (GeneralSettings::instance().isOn(QStringLiteral("build symbols")))
-    m_symbols.setStations(m_geometry);
-  else
-    m_symbols.clear();
+  m_visibility.setExtent(m_plot.plot()->visibleRect().height());
+  m_symbols.setVisibility(m_visibility);
   m_textBoxes.setBackground(m_settings.bgrColor);
   m_textBoxes.setTextBoxes(m_geometry, m_settings.nodeLabelsColor,
                            QFont(QStringLiteral("Arial"), std::max(m_settings.labelMag, 1)));
+}
+
+Projection NetUpdate::projection() const {
+  const QwtFastPlot &plot = *m_plot.plot();
+  return {plot.canvasMap(QwtPlot::xBottom), plot.canvasMap(QwtPlot::yLeft), plot.canvas()->contentsRect()};
+}
+
+std::vector<SymbolLayer::Placed> NetUpdate::determineVisibleSymbols() const {
+  QElapsedTimer timer;
+  timer.start();
+  std::vector<SymbolLayer::Placed> symbols = m_symbols.place(projection());
+  NivraMsg::debug(QStringLiteral("determineVisibleSymbols() took %1 sec.").arg(seconds(timer)));
+  return symbols;
+}
+
+void NetUpdate::runPixtest(Pixtest::Labels labels) {
+  if (m_net == nullptr)
+    return;
+  constexpr double SameScale = 0.01;
+  QElapsedTimer timer;
+  timer.start();
+  const double units = m_plot.plot()->unitsPerPixel().height();
+  bool hasChanged = m_visibility.setExtent(m_plot.plot()->visibleRect().height());
+  if (hasChanged)
+    m_symbols.setVisibility(m_visibility);
+  if (labels == Pixtest::Labels::With) {
+    placeLabels();
+    hasChanged = true;
+  } else if (!m_labels.labels().empty() && !m_pixtest.isPending() &&
+             std::abs(units - m_labels.unitsPerPixel()) > SameScale * units) {
+    m_labels.clear(); // none is to be placed for this view
+    hasChanged = true;
+  }
+  if (hasChanged)
+    m_plot.plot()->replot();
+  NivraMsg::debug((labels == Pixtest::Labels::With ? QStringLiteral("Pixtest (incl. last update_subnets): %1 sec.")
+                                                   : QStringLiteral("Pixtest_noLabels (incl. last update_subnets): %1 sec."))
+                      .arg(seconds(timer)));
+}
+
+void NetUpdate::placeLabels() {
+  constexpr double SameScale = 1e-6;
+  const LabelContents contents(m_labelTable, m_settings, *m_net->metaData());
+  m_unplaced.clear();
+  if (!isSwitchedOn("build labels") || contents.isOff()) {
+    m_labels.clear();
+    return;
+  }
+  const Projection view = projection();
+  if (!view.isValid())
+    return;
+  const double units = m_plot.plot()->unitsPerPixel().height();
+  const LabelPass::Drawing drawing{m_geometry, m_edges,     m_nodes,      m_symbols,
+                                   m_subnets,  m_textBoxes, m_visibility, m_values.flowSize()};
+  LabelPass pass(drawing, contents, view, m_settings.labelMargin);
+  pass.addObstacle(m_plot.legendArea());
+  const bool isSameScale = std::abs(units - m_labels.unitsPerPixel()) <= SameScale * units;
+  LabelPass::Result result = pass.run(isSameScale ? m_labels.labels() : std::vector<Label>());
+  m_labels.setLabels(std::move(result.labels), units);
+  m_unplaced = std::move(result.unplaced);
+}
+
+void NetUpdate::relabelNow() {
+  const QString key = QStringLiteral("perform label placement");
+  GeneralSettings &general = GeneralSettings::instance();
+  const bool wasSuspended = m_pixtest.isSuspended();
+  const QString before = general.value(key);
+  m_pixtest.setSuspended(false);
+  general.setValue(key, QStringLiteral("always"));
+  updatePlot(true, Which::EdgesAndNodes, true);
+  runPixtest(Pixtest::Labels::With);
+  general.setValue(key, before);
+  m_pixtest.setSuspended(wasSuspended);
+  requestPixtest(-1);
+}
+
+std::vector<Hit> NetUpdate::elementsAt(const QPointF &point, double tolerance) const {
+  const Projection view = projection();
+  std::vector<Hit> hits;
+  if (!view.isValid())
+    return hits;
+  m_subnets.find(view, point, hits);
+  m_symbols.find(view, point, 0.0, hits);
+  m_nodes.find(view, point, tolerance * 0.5, hits);
+  m_textBoxes.find(view, point, hits);
+  const auto nearer = [](const Hit &a, const Hit &b) {
+    return a.distance < b.distance;
+  };
+  std::sort(hits.begin(), hits.end(), nearer);
+  std::vector<Hit> lines;
+  m_edges.find(view, point, tolerance, lines);
+  std::sort(lines.begin(), lines.end(), nearer);
+  for (const Hit &line : lines) {
+    if (std::none_of(hits.begin(), hits.end(), [&line](const Hit &hit) { return hit.item == line.item; }))
+      hits.push_back(line);
+  }
+  return hits;
+}
+
+std::vector<NetGeometry::Item> NetUpdate::elementsIn(const QRectF &area) const {
+  std::vector<NetGeometry::Item> found;
+  const auto isInside = [&area](double x, double y) {
+    return x >= area.left() && x <= area.right() && y >= area.top() && y <= area.bottom();
+  };
+  const auto &nodes = m_geometry.nodes();
+  for (std::size_t i = 0; i < nodes.size(); ++i) {
+    if (nodes[i].isPlaced && isInside(nodes[i].x, nodes[i].y))
+      found.push_back({NetData::Node, static_cast<int>(i)});
+  }
+  for (std::size_t i = 0; i < m_geometry.edges().size(); ++i) {
+    const NetGeometry::Edge &edge = m_geometry.edges()[i];
+    if (!m_geometry.isPlaced(edge))
+      continue;
+    const NetGeometry::Node &a = nodes[static_cast<std::size_t>(edge.node1)];
+    const NetGeometry::Node &b = nodes[static_cast<std::size_t>(edge.node2)];
+    if (isInside(a.x, a.y) && isInside(b.x, b.y))
+      found.push_back({NetData::Edge, static_cast<int>(i)});
+  }
+  const auto takePlaces = [&](NetData::EleType kind, const std::vector<NetGeometry::Place> &places) {
+    for (std::size_t i = 0; i < places.size(); ++i) {
+      if (isInside(places[i].x, places[i].y))
+        found.push_back({kind, static_cast<int>(i)});
+    }
+  };
+  takePlaces(NetData::AssembledSubnet, m_geometry.subnets());
+  takePlaces(NetData::TextBox, m_geometry.textBoxes());
+  return found;
 }

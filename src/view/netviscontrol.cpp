@@ -34,6 +34,6 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
     m_plot->setSettings(settings);
   }
   m_plot->update().setNetData(&m_net);
-  m_plot->update().setSymbolTable(SymbolTable(QFileInfo(plotSettingsPath).dir().filePath(QStringLiteral("symbols"))));
+  m_plot->update().setFolder(QFileInfo(plotSettingsPath).path());
   m_plot->showNetwork();
 }

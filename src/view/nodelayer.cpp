@@ -11,7 +11,9 @@ using Shape = NetGeometry::NodeShape;
 
 constexpr double NodeZ = 20.0;
 constexpr QRgb Outline = 0xff3c4650;
-constexpr double Margin = 20.0; // px: half the largest node
+constexpr double Margin = 20.0;      // px: half the largest node
+constexpr double StationShare = 2.5; // of the size of a junction of the same look
+constexpr double SmallestStation = 5.0;
 
 QPolygonF shapeAround(const QPointF &center, Shape shape, double size) {
   const double r = size * 0.5;
@@ -56,6 +58,22 @@ void NodeLayer::setLooks(const std::vector<NodeLook> &looks) {
 void NodeLayer::clear() {
   m_records.clear();
   m_index.clear();
+}
+
+double NodeLayer::sizeOf(const Record &record) {
+  return record.shape == Shape::Junction ? record.look.size : std::max(SmallestStation, record.look.size * StationShare);
+}
+
+void NodeLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {
+  m_index.query(projection.around(point, tolerance + Margin), [&](int first, int last) {
+    for (int i = first; i < last; ++i) {
+      const Record &record = m_records[static_cast<std::size_t>(i)];
+      const QPointF to = projection.map(record.x, record.y) - point;
+      const double distance = std::hypot(to.x(), to.y());
+      if (distance - sizeOf(record) * 0.5 <= tolerance)
+        hits.push_back({{NetData::Node, record.node}, distance});
+    }
+  });
 }
 
 std::vector<NodeLayer::VisibleNode> NodeLayer::visibleNodes(const Projection &projection) const {
@@ -112,15 +130,13 @@ void NodeLayer::drawJunctions(QPainter &painter, const std::vector<VisibleNode> 
 
 void NodeLayer::drawStations(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest,
                              const QRectF &canvas) {
-  constexpr double Larger = 2.5; // than a junction of the same look
-  constexpr double Smallest = 5.0;
-  PixelGrid grid(canvas.adjusted(-Margin, -Margin, Margin, Margin), Smallest);
+  PixelGrid grid(canvas.adjusted(-Margin, -Margin, Margin, Margin), SmallestStation);
   painter.setPen(QPen(QColor(Outline), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   for (const VisibleNode &node : nodes) {
     if (node.record->shape == Shape::Junction || !grid.take(node.center))
       continue;
     painter.setBrush(QColor(node.record->look.color));
-    painter.drawPolygon(shapeAround(node.center, node.record->shape,
-                                    std::max(Smallest, std::min(node.record->look.size * Larger, largest))));
+    painter.drawPolygon(
+        shapeAround(node.center, node.record->shape, std::max(SmallestStation, std::min(sizeOf(*node.record), largest))));
   }
 }

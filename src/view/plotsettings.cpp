@@ -28,6 +28,10 @@ auto bounds(const PlotSettings &s) {
                   s.maxVal_Width, s.minVal_nodeSize, s.maxVal_nodeSize);
 }
 
+auto drawing(const PlotSettings &s) {
+  return std::tie(s.colorRamp, s.colorClasses, s.classMethod, s.classBreaks, s.bookmarks);
+}
+
 auto zoomLimits(const PlotSettings &s) {
   return std::tie(s.smallestZoomWidth, s.smallestZoomHeight, s.largestZoomWidth, s.largestZoomHeight);
 }
@@ -43,5 +47,5 @@ void PlotSettings::takeZoomLimits(const PlotSettings &other) {
 
 bool operator==(const PlotSettings &a, const PlotSettings &b) {
   return functions(a) == functions(b) && magnitudes(a) == magnitudes(b) && colors(a) == colors(b) &&
-         scales(a) == scales(b) && bounds(a) == bounds(b) && zoomLimits(a) == zoomLimits(b);
+         scales(a) == scales(b) && drawing(a) == drawing(b) && bounds(a) == bounds(b) && zoomLimits(a) == zoomLimits(b);
 }

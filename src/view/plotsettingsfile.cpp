@@ -95,6 +95,15 @@ void visitBounds(Settings &s, Visitor &v) {
 }
 
 template <typename Settings, typename Visitor>
+void visitDrawing(Settings &s, Visitor &v) {
+  v.optional("colorRamp", s.colorRamp);
+  v.optional("colorClasses", s.colorClasses);
+  v.optional("classMethod", s.classMethod);
+  v.optional("classBreaks", s.classBreaks);
+  v.optional("bookmarks", s.bookmarks);
+}
+
+template <typename Settings, typename Visitor>
 void visitAll(Settings &s, Visitor &v) {
   visitFunctions(s, v);
   v.store.beginGroup(QStringLiteral("magnitudes"));
@@ -105,6 +114,9 @@ void visitAll(Settings &s, Visitor &v) {
   v.store.endGroup();
   visitScales(s, v);
   visitBounds(s, v);
+  v.store.beginGroup(QStringLiteral("drawing"));
+  visitDrawing(s, v);
+  v.store.endGroup();
 }
 
 struct Reader {

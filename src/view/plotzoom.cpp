@@ -52,12 +52,68 @@ PlotZoom::PlotZoom(QwtFastPlot &plot, PlotSettings &settings)
   for (const MousePatternCode pattern : {MouseSelect2, MouseSelect3, MouseSelect4, MouseSelect5, MouseSelect6})
     setMousePattern(pattern, Qt::NoButton);
   connect(this, &QwtPlotZoomer::zoomed, this, &PlotZoom::cutStack);
+  constexpr int RestMs = 700;
+  m_rest.setSingleShot(true);
+  m_rest.setInterval(RestMs);
+  connect(this, &QwtPlotZoomer::zoomed, this, [this] { m_rest.start(); });
+  connect(&m_rest, &QTimer::timeout, this, &PlotZoom::recordView);
 }
 
 void PlotZoom::setExtent(const QRectF &extent) {
   m_extent = withArea(extent);
   setZoomLimits(m_extent, QSizeF(m_plot.canvas()->contentsRect().size()));
   fitBase();
+  m_history.clear();
+  recordView();
+}
+
+void PlotZoom::resetZoomBase(const QRectF &rect) {
+  m_extent = withArea(zoomBase().united(rect));
+  const QRectF base = inCanvasRatio(m_extent);
+  {
+    const QSignalBlocker blocker(this);
+    setZoomStack(stackOf({base}), 0);
+  }
+  m_settings.largestZoomWidth = base.width() * Room;
+  m_settings.largestZoomHeight = base.height() * Room;
+  rescale();
+  emit zoomed(base);
+  emit refreshRequested(-1);
+}
+
+void PlotZoom::recordView() {
+  m_rest.stop();
+  m_history.record(zoomRect());
+}
+
+void PlotZoom::goBack() {
+  if (m_rest.isActive())
+    recordView(); // to come back to where this began
+  if (const std::optional<QRectF> view = m_history.back())
+    zoom(*view);
+  m_rest.stop();
+}
+
+void PlotZoom::goForward() {
+  if (m_rest.isActive())
+    recordView();
+  if (const std::optional<QRectF> view = m_history.forward())
+    zoom(*view);
+  m_rest.stop();
+}
+
+void PlotZoom::beginMove() {
+  m_move = Move::Begun;
+  m_plot.freeze();
+}
+
+void PlotZoom::endMove() {
+  m_move = Move::None;
+  m_plot.thaw();
+}
+
+QPointF PlotZoom::cursor() const {
+  return m_plot.toPlot(canvas()->mapFromGlobal(QCursor::pos()));
 }
 
 void PlotZoom::setZoomLimits(const QRectF &extent, const QSizeF &pixelSpan) {
@@ -73,15 +129,15 @@ void PlotZoom::setZoomLimits(const QRectF &extent, const QSizeF &pixelSpan) {
     m_settings.smallestZoomHeight = std::min(m_settings.smallestZoomHeight, pixelSpan.height());
 }
 
-void PlotZoom::zoomIn(const QPointF &point) {
+void PlotZoom::zoomIn(const QPointF &point, double factor) {
   const QRectF r = zoomRect();
   if (m_settings.smallestZoomWidth >= r.width() && m_settings.smallestZoomHeight >= r.height())
     return;
-  zoomAbout(point, {std::max(m_settings.smallestZoomWidth, r.width() / m_settings.zoomFact),
-                    std::max(m_settings.smallestZoomHeight, r.height() / m_settings.zoomFact)});
+  zoomAbout(point, {std::max(m_settings.smallestZoomWidth, r.width() / factor),
+                    std::max(m_settings.smallestZoomHeight, r.height() / factor)});
 }
 
-void PlotZoom::zoomOut(const QPointF &point) {
+void PlotZoom::zoomOut(const QPointF &point, double factor) {
   const QRectF r = zoomRect();
   const QRectF base = zoomBase();
   if (std::round(r.width()) >= std::round(base.width()) && std::round(r.height()) >= std::round(base.height())) {
@@ -91,8 +147,7 @@ void PlotZoom::zoomOut(const QPointF &point) {
     }
     return;
   }
-  zoomAbout(point, {std::min(base.width(), r.width() * m_settings.zoomFact),
-                    std::min(base.height(), r.height() * m_settings.zoomFact)});
+  zoomAbout(point, {std::min(base.width(), r.width() * factor), std::min(base.height(), r.height() * factor)});
 }
 
 void PlotZoom::zoomAbout(const QPointF &point, const QSizeF &size) {
@@ -110,7 +165,26 @@ void PlotZoom::takeView() {
 }
 
 void PlotZoom::zoom(const QRectF &rect) {
-  QwtPlotZoomer::zoom(inCanvasRatio(rect.normalized()));
+  const QRectF view = inCanvasRatio(rect.normalized());
+  if (m_move == Move::Running && zoomRectIndex() > 0) {
+    replaceView(view);
+    return;
+  }
+  if (m_move == Move::Begun)
+    m_move = Move::Running;
+  QwtPlotZoomer::zoom(view);
+}
+
+void PlotZoom::replaceView(const QRectF &rect) {
+  QStack<QRectF> views = zoomStack();
+  const auto at = static_cast<int>(zoomRectIndex());
+  views.resize(at + 1);
+  views[at] = rect;
+  {
+    const QSignalBlocker blocker(this);
+    setZoomStack(views, at);
+  }
+  emit zoomed(rect);
 }
 
 QRectF PlotZoom::inCanvasRatio(const QRectF &rect) const {
@@ -200,37 +274,61 @@ void PlotZoom::widgetWheelEvent(QWheelEvent *event) {
   if (steps == 0)
     return;
   m_wheelDegrees = 0;
-  const QPointF anchor = m_plot.toPlot(event->position().toPoint());
-  for (int i = 0; i < std::abs(steps); ++i) {
-    if (steps > 0)
-      zoomIn(anchor);
-    else
-      zoomOut(anchor);
-  }
+  emit wheelTurned(steps, m_plot.toPlot(event->position().toPoint()));
+}
+
+namespace {
+
+constexpr int KeyDelay = 2000;
+constexpr int KeyReleaseDelay = 250;
+
+bool movesView(int key) {
+  return key == Qt::Key_Plus || key == Qt::Key_Minus || key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up ||
+         key == Qt::Key_Down;
+}
+
+} // namespace
+
+void PlotZoom::widgetKeyReleaseEvent(QKeyEvent *event) {
+  if (movesView(event->key()) && !event->isAutoRepeat())
+    emit refreshRequested(KeyReleaseDelay);
+  QwtPlotZoomer::widgetKeyReleaseEvent(event);
 }
 
 void PlotZoom::widgetKeyPressEvent(QKeyEvent *event) {
   const double part = (m_settings.zoomFact - 1.0) * 0.5;
-  const QPointF cursor = m_plot.toPlot(canvas()->mapFromGlobal(QCursor::pos()));
+  const bool isAlt = event->modifiers().testFlag(Qt::AltModifier);
   switch (event->key()) {
   case Qt::Key_Plus:
-    return zoomIn(cursor);
+    zoomIn(cursor());
+    break;
   case Qt::Key_Minus:
-    return zoomOut(cursor);
+    zoomOut(cursor());
+    break;
   case Qt::Key_Left:
-    return shift(-part, 0.0);
+    if (isAlt)
+      return goBack();
+    shift(-part, 0.0);
+    break;
   case Qt::Key_Right:
-    return shift(part, 0.0);
+    if (isAlt)
+      return goForward();
+    shift(part, 0.0);
+    break;
   case Qt::Key_Up:
-    return shift(0.0, part);
+    shift(0.0, part);
+    break;
   case Qt::Key_Down:
-    return shift(0.0, -part);
+    shift(0.0, -part);
+    break;
   case Qt::Key_Home:
     return fitAll();
   default:
     if (isActive())
       QwtPlotZoomer::widgetKeyPressEvent(event); // Escape gives up the rectangle
+    return;
   }
+  emit refreshRequested(KeyDelay);
 }
 
 void PlotZoom::shift(double horizontal, double vertical) {

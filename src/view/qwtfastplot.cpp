@@ -1,10 +1,13 @@
+#include <view/canvasoverlay.h>
 #include <view/qwtfastplot.h>
 
+#include <QElapsedTimer>
 #include <qwt_plot_layout.h>
 #include <qwt_scale_map.h>
 
 QwtFastPlot::QwtFastPlot(QWidget *parent)
-    : QwtPlot(parent) {
+    : QwtPlot(parent)
+    , m_overlay(nullptr) {
   constexpr int Margin = 6; // px
   setAutoReplot(false);
   setAutoFillBackground(true);
@@ -16,7 +19,10 @@ QwtFastPlot::QwtFastPlot(QWidget *parent)
   setCanvas(area);
   // The drawing reaches the edge of the canvas; the scales need not leave room for their last label.
   plotLayout()->setAlignCanvasToScales(true);
+  m_overlay = new CanvasOverlay(*this);
 }
+
+QwtFastPlot::~QwtFastPlot() = default;
 
 QRectF QwtFastPlot::visibleRect() const {
   const QwtInterval x = axisInterval(xBottom);
@@ -32,4 +38,51 @@ QSizeF QwtFastPlot::unitsPerPixel() const {
 
 QPointF QwtFastPlot::toPlot(const QPoint &canvasPosition) const {
   return {invTransform(xBottom, canvasPosition.x()), invTransform(yLeft, canvasPosition.y())};
+}
+
+void QwtFastPlot::setOverlayItem(const QwtPlotItem *item) {
+  m_overlay->setItem(item);
+}
+
+void QwtFastPlot::updateOverlay() {
+  m_overlay->update();
+}
+
+void QwtFastPlot::freeze() {
+  constexpr double QuickEnough = 8.0; // ms, half of what a fluid movement leaves for a frame
+  if (isFrozen() || m_frameTime < QuickEnough)
+    return;
+  m_overlay->hide(); // what lies on it follows the view by itself
+  m_picture = canvas()->grab();
+  m_pictureView = visibleRect();
+  m_overlay->show();
+}
+
+void QwtFastPlot::thaw() {
+  if (!isFrozen())
+    return;
+  m_picture = QPixmap();
+  replot();
+}
+
+QRectF QwtFastPlot::pictureArea() const {
+  const QPointF topLeft(transform(xBottom, m_pictureView.left()), transform(yLeft, m_pictureView.bottom()));
+  const QPointF bottomRight(transform(xBottom, m_pictureView.right()), transform(yLeft, m_pictureView.top()));
+  return {topLeft, bottomRight};
+}
+
+void QwtFastPlot::replot() {
+  if (isFrozen())
+    updateAxes();
+  else
+    QwtPlot::replot();
+  updateOverlay();
+}
+
+void QwtFastPlot::drawCanvas(QPainter *painter) {
+  constexpr double Nano = 1e-6; // in milliseconds
+  QElapsedTimer timer;
+  timer.start();
+  QwtPlot::drawCanvas(painter);
+  m_frameTime = static_cast<double>(timer.nsecsElapsed()) * Nano;
 }

@@ -1,10 +1,13 @@
 #include <base/nivramsg.h>
 #include <view/layergeometry.h>
+#include <view/picturefile.h>
 #include <view/stationsymbols.h>
 
 #include <QFile>
+#include <QFontMetricsF>
 #include <QSvgRenderer>
 
+#include <algorithm>
 #include <cmath>
 
 static void initialiseResources() {
@@ -22,15 +25,19 @@ void StationSymbols::setTable(const SymbolTable &table) {
   m_numbers.clear();
   m_renderers.clear();
   m_pixmaps.clear();
+  m_badges.clear();
 }
 
 std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) const {
   const QString own = m_table.path(key);
   if (!own.isEmpty()) {
-    auto renderer = std::make_unique<QSvgRenderer>(own);
-    if (renderer->isValid())
+    QString error;
+    const QByteArray text = PictureFile::readSvg(own, &error);
+    auto renderer = std::make_unique<QSvgRenderer>(text);
+    if (!text.isEmpty() && renderer->isValid())
       return renderer;
-    NivraMsg::logWarning(QStringLiteral("The symbol %1 for \"%2\" cannot be read; the built-in one is taken").arg(own, key));
+    NivraMsg::logWarning(
+        QStringLiteral("The symbol %1 for \"%2\" cannot be read; the built-in one is taken. %3").arg(own, key, error));
   }
   const QString path = QStringLiteral(":/iconsNetSymbols/svg TALU/network_symbols/") + key + QStringLiteral(".svg");
   return QFile::exists(path) ? std::make_unique<QSvgRenderer>(path) : nullptr;
@@ -64,6 +71,53 @@ void StationSymbols::draw(QPainter &painter, int symbol, const QPointF &center, 
   QPixmap picture = pixmap(symbol, static_cast<int>(std::lround(size * ratio)), rounded);
   const QSizeF extent = QSizeF(picture.size()) / ratio;
   painter.drawPixmap(QRectF(center - QPointF(extent.width() * 0.5, extent.height() * 0.5), extent), picture, picture.rect());
+}
+
+namespace {
+
+constexpr double BadgeHeight = 11.0; // px
+
+void paintBadge(QPainter &painter, const QRectF &badge, const QString &text, const QFont &font) {
+  painter.setPen(QPen(Qt::white, 1.0));
+  painter.setBrush(QColor(31, 45, 61));
+  painter.drawRoundedRect(badge, BadgeHeight * 0.5, BadgeHeight * 0.5);
+  painter.setPen(Qt::white);
+  painter.setFont(font);
+  painter.drawText(badge, Qt::AlignCenter, text);
+}
+
+} // namespace
+
+void StationSymbols::drawCount(QPainter &painter, const QPointF &center, int count) {
+  constexpr int Most = 999;
+  constexpr int FontPixels = 9;
+  constexpr double Padding = 6.0;
+  const int shown = std::min(count, Most + 1);
+  const QString text = count > Most ? QString::number(Most) + QLatin1Char('+') : QString::number(count);
+  QFont font(QStringLiteral("Arial"));
+  font.setPixelSize(FontPixels);
+  font.setBold(true);
+  const auto areaOf = [&font, &text] {
+    const double width = std::max(BadgeHeight, QFontMetricsF(font).horizontalAdvance(text) + Padding);
+    return QRectF(-width * 0.5, -BadgeHeight * 0.5, width, BadgeHeight);
+  };
+  if (isVectorTarget(painter)) {
+    paintBadge(painter, areaOf().translated(center), text, font);
+    return;
+  }
+  const double ratio = pixelRatio(painter);
+  QPixmap &badge = m_badges[{shown, static_cast<int>(std::lround(ratio * 100.0))}];
+  if (badge.isNull()) {
+    const QRectF area = areaOf().adjusted(-1.0, -1.0, 1.0, 1.0);
+    badge = QPixmap((area.size() * ratio).toSize());
+    badge.fill(Qt::transparent);
+    QPainter prepared(&badge);
+    prepared.setRenderHint(QPainter::Antialiasing);
+    prepared.scale(ratio, ratio);
+    paintBadge(prepared, areaOf().translated(-area.topLeft()), text, font);
+  }
+  const QSizeF extent = QSizeF(badge.size()) / ratio;
+  painter.drawPixmap(QRectF(center - QPointF(extent.width() * 0.5, extent.height() * 0.5), extent), badge, badge.rect());
 }
 
 QPixmap StationSymbols::pixmap(int symbol, int pixels, int angle) {

@@ -1,4 +1,3 @@
-#include <view/layergeometry.h>
 #include <view/symbollayer.h>
 
 #include <algorithm>
@@ -6,6 +5,7 @@
 namespace {
 
 constexpr double SymbolZ = 30.0;
+constexpr double LargestSymbol = 512.0; // px
 
 /// Place in this order is the priority; pipes have no symbol.
 int priorityOf(char type) {
@@ -26,57 +26,114 @@ void SymbolLayer::setTable(const SymbolTable &table) {
   m_symbols.setTable(table);
 }
 
-void SymbolLayer::setStations(const NetGeometry &geometry) {
-  clear();
-  std::vector<Record> records;
-  for (const NetGeometry::Edge &edge : geometry.edges()) {
+int SymbolLayer::symbolOf(const NetGeometry::Edge &edge) {
+  const QString type(QLatin1Char(edge.type));
+  int symbol = -1;
+  if (edge.isInactive)
+    symbol = m_symbols.find(type + QStringLiteral("_off"));
+  else if (edge.isBypass)
+    symbol = m_symbols.find(type + QStringLiteral("_bypass"));
+  return symbol >= 0 ? symbol : m_symbols.find(type);
+}
+
+std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometry) {
+  std::vector<Record> found;
+  const auto shareOf = [this](const QString &type) {
+    return static_cast<float>(m_sizes.contains(type) && m_size > 0.0 ? m_sizes.value(type) / m_size : 1.0);
+  };
+  for (std::size_t i = 0; i < geometry.edges().size(); ++i) {
+    const NetGeometry::Edge &edge = geometry.edges()[i];
     if (edge.type == 'p' || !geometry.isPlaced(edge))
       continue;
     const NetGeometry::Node &a = geometry.nodes()[static_cast<std::size_t>(edge.node1)];
     const NetGeometry::Node &b = geometry.nodes()[static_cast<std::size_t>(edge.node2)];
-    records.push_back({(a.x + b.x) * 0.5, (a.y + b.y) * 0.5, b.x - a.x, b.y - a.y,
-                       m_symbols.find(QString(QLatin1Char(edge.type))), priorityOf(edge.type)});
+    Record record;
+    record.x = (a.x + b.x) * 0.5;
+    record.y = (a.y + b.y) * 0.5;
+    record.dx = b.x - a.x;
+    record.dy = b.y - a.y;
+    record.item = {NetData::Edge, static_cast<int>(i)};
+    record.symbol = symbolOf(edge);
+    record.priority = priorityOf(edge.type);
+    record.lane = edge.node1 <= edge.node2 ? edge.lane : -edge.lane;
+    record.size = m_sizes.isEmpty() ? 1.0F : shareOf(QString(QLatin1Char(edge.type)));
+    found.push_back(record);
   }
-  for (const NetGeometry::Node &node : geometry.nodes()) {
-    if (node.isDrive && node.isPlaced)
-      records.push_back({node.x, node.y, 0.0, 0.0, m_symbols.find(QStringLiteral("d")), priorityOf('d')});
+  for (std::size_t i = 0; i < geometry.nodes().size(); ++i) {
+    const NetGeometry::Node &node = geometry.nodes()[i];
+    if (!node.isDrive || !node.isPlaced)
+      continue;
+    Record record;
+    record.x = node.x;
+    record.y = node.y;
+    record.item = {NetData::Node, static_cast<int>(i)};
+    record.symbol = m_symbols.find(QStringLiteral("d"));
+    record.priority = priorityOf('d');
+    record.size = shareOf(QStringLiteral("d"));
+    found.push_back(record);
   }
-  static const PropertyKey variant = PropertyKey::intern("variant");
-  for (const NetGeometry::Place &subnet : geometry.subnets()) {
-    const int ofKind = m_symbols.find(subnet.source->value(variant));
-    records.push_back({subnet.x, subnet.y, 0.0, 0.0, ofKind >= 0 ? ofKind : m_symbols.find(QStringLiteral("sub")), -1});
-  }
-  records.erase(std::remove_if(records.begin(), records.end(), [](const Record &r) { return r.symbol < 0; }), records.end());
+  found.erase(std::remove_if(found.begin(), found.end(), [](const Record &r) { return r.symbol < 0; }), found.end());
+  return found;
+}
 
+void SymbolLayer::setStations(const NetGeometry &geometry) {
+  clear();
+  std::vector<Record> found = records(geometry);
+  m_figures.read(geometry);
+  for (Record &record : found)
+    record.figure = m_figures.find(record.item);
+  for (const NetGeometry::Item item : m_figures.itemsBesides(found)) {
+    Record record;
+    record.x = geometry.center(item)->x();
+    record.y = geometry.center(item)->y();
+    record.item = item;
+    record.figure = m_figures.find(item);
+    found.push_back(record);
+  }
   std::vector<SpatialIndex::Box> boxes;
-  boxes.reserve(records.size());
-  for (const Record &r : records)
+  boxes.reserve(found.size());
+  for (const Record &r : found)
     boxes.push_back({r.x, r.y, r.x, r.y});
+  m_records.reserve(found.size());
   for (const int i : m_index.build(boxes))
-    m_records.push_back(records[static_cast<std::size_t>(i)]);
+    m_records.push_back(found[static_cast<std::size_t>(i)]);
+}
+
+void SymbolLayer::setVisibility(const VisibilityRules &rules) {
+  for (Record &record : m_records)
+    record.isVisible = rules.of(record.item) != VisibilityRules::State::Off;
 }
 
 void SymbolLayer::clear() {
   m_records.clear();
   m_index.clear();
+  m_figures.clear();
 }
 
-void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
-  const Projection projection(xMap, yMap, canvasRect);
+QPointF SymbolLayer::centerOf(const Record &r, const Projection &projection) const {
+  if (r.lane == 0.0F)
+    return projection.map(r.x, r.y);
+  const QLineF line(projection.map(r.x - r.dx * 0.5, r.y - r.dy * 0.5), projection.map(r.x + r.dx * 0.5, r.y + r.dy * 0.5));
+  return LaneWay(line, static_cast<double>(r.lane) * laneSpacing(true, 0.0, m_size)).middle().center();
+}
+
+std::vector<SymbolLayer::Placed> SymbolLayer::place(const Projection &projection) const {
+  std::vector<Placed> placed;
   if (!projection.isValid() || m_size <= 0.0)
-    return;
+    return placed;
+  const double margin = m_size * 2.0; // lanes move symbols a little
+  const QRectF area = projection.canvas().adjusted(-m_size, -m_size, m_size, m_size);
   std::vector<std::pair<int, QPointF>> visible; // record and place
-  const QRectF area = canvasRect.adjusted(-m_size, -m_size, m_size, m_size);
-  m_index.query(projection.visible(m_size), [&](int first, int last) {
+  m_index.query(projection.visible(margin), [&](int first, int last) {
     for (int i = first; i < last; ++i) {
       const Record &record = m_records[static_cast<std::size_t>(i)];
-      const QPointF center = projection.map(record.x, record.y);
+      if (!record.isVisible)
+        continue;
+      const QPointF center = centerOf(record, projection);
       if (area.contains(center))
         visible.emplace_back(i, center);
     }
   });
-  if (visible.empty())
-    return;
   const auto record = [this](int i) -> const Record & {
     return m_records[static_cast<std::size_t>(i)];
   };
@@ -84,20 +141,54 @@ void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScal
     return std::make_pair(record(a.first).priority, a.first) < std::make_pair(record(b.first).priority, b.first);
   });
 
-  // Symbols shrink where they are many, but stay legible; what then overlaps is left out.
+  // Symbols shrink where they are many, but stay legible; those that then overlap stand behind one of them.
   constexpr double Share = 0.6;
   constexpr double Legible = 12.0;
   constexpr double Apart = 0.55; // cells of this share of a symbol, one free cell between two symbols
   constexpr double Degrees = 180.0 / M_PI;
-  const double room = std::sqrt(canvasRect.width() * canvasRect.height() / static_cast<double>(visible.size()));
+  const QRectF &canvas = projection.canvas();
+  const double room =
+      std::sqrt(canvas.width() * canvas.height() / static_cast<double>(std::max<std::size_t>(visible.size(), 1)));
   const double size = std::min(m_size, std::max(Legible, room * Share));
-  PixelGrid grid(area, size * Apart);
+  ClusterGrid grid(area, size * Apart);
   for (const auto &[i, center] : visible) {
-    if (!grid.takeApart(center))
+    const int number = grid.claim(center, static_cast<int>(placed.size()));
+    if (number < static_cast<int>(placed.size())) {
+      ++placed[static_cast<std::size_t>(number)].others;
       continue;
+    }
     const Record &r = record(i);
-    const QPointF ahead = projection.map(r.x + r.dx, r.y + r.dy) - center;
+    const QPointF ahead = projection.map(r.x + r.dx, r.y + r.dy) - projection.map(r.x, r.y);
     const double angle = ahead.isNull() ? 0.0 : std::atan2(ahead.y(), ahead.x()) * Degrees;
-    m_symbols.draw(*painter, r.symbol, center, size, std::isfinite(angle) ? angle : 0.0);
+    placed.push_back({r.item, center, qBound(1.0, size * static_cast<double>(r.size), LargestSymbol),
+                      std::isfinite(angle) ? angle : 0.0, 0, i});
   }
+  return placed;
+}
+
+void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
+  const std::vector<Placed> placed = place(Projection(xMap, yMap, canvasRect));
+  for (const Placed &p : placed) {
+    const Record &r = m_records[static_cast<std::size_t>(p.record)];
+    if (r.figure < 0 || !m_figures.draw(*painter, r.figure, p.center, p.size))
+      if (r.symbol >= 0)
+        m_symbols.draw(*painter, r.symbol, p.center, p.size, p.angle);
+  }
+  for (const Placed &p : placed) {
+    if (p.others > 0)
+      m_symbols.drawCount(*painter, p.center + QPointF(p.size, -p.size) * 0.5, p.others + 1);
+  }
+}
+
+void SymbolLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {
+  const double reach = m_size * 0.5 + tolerance;
+  m_index.query(projection.around(point, reach + m_size * 2.0), [&](int first, int last) {
+    for (int i = first; i < last; ++i) {
+      const Record &record = m_records[static_cast<std::size_t>(i)];
+      const QPointF to = centerOf(record, projection) - point;
+      const double distance = std::hypot(to.x(), to.y());
+      if (record.isVisible && distance <= reach)
+        hits.push_back({record.item, distance});
+    }
+  });
 }

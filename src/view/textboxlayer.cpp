@@ -32,38 +32,61 @@ void TextBoxLayer::setTextBoxes(const NetGeometry &geometry, const QColor &color
   static const PropertyKey text = PropertyKey::intern("text");
   constexpr int LongestText = 500; // nobody reads more on a drawing
   m_records.clear();
-  for (const NetGeometry::Place &box : geometry.textBoxes()) {
+  for (std::size_t i = 0; i < geometry.textBoxes().size(); ++i) {
+    const NetGeometry::Place &box = geometry.textBoxes()[i];
     const QString shown = box.source->value(text).simplified().left(LongestText);
-    if (!shown.isEmpty())
-      m_records.push_back({box.x, box.y, shown, fontOf(*box.source, font), colorOf(*box.source, color)});
+    if (shown.isEmpty())
+      continue;
+    const QFont own = screenFont(fontOf(*box.source, font));
+    m_records.push_back({box.x, box.y, shown, own, colorOf(*box.source, color), static_cast<int>(i),
+                         QFontMetricsF(own).size(Qt::TextSingleLine, shown)});
+  }
+}
+
+std::vector<TextBoxLayer::Placed> TextBoxLayer::place(const Projection &projection) const {
+  std::vector<Placed> placed;
+  if (!projection.isValid())
+    return placed;
+  constexpr double Cell = 8.0;
+  PixelGrid grid(projection.canvas(), Cell);
+  for (const Record &record : m_records) {
+    QRectF area(QPointF(), record.size);
+    area.moveCenter(projection.map(record.x, record.y));
+    if (projection.canvas().contains(area.center()) && grid.takeArea(area))
+      placed.push_back({&record, area});
+  }
+  return placed;
+}
+
+std::vector<QRectF> TextBoxLayer::places(const Projection &projection) const {
+  std::vector<QRectF> areas;
+  for (const Placed &placed : place(projection))
+    areas.push_back(placed.area);
+  return areas;
+}
+
+void TextBoxLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {
+  for (const Placed &placed : place(projection)) {
+    const QPointF to = placed.area.center() - point;
+    if (placed.area.contains(point))
+      hits.push_back({{NetData::TextBox, placed.record->textBox}, std::hypot(to.x(), to.y())});
   }
 }
 
 void TextBoxLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap,
                         const QRectF &canvasRect) const {
-  const Projection projection(xMap, yMap, canvasRect);
-  if (!projection.isValid())
-    return;
   constexpr double HaloWidth = 3.0;
-  constexpr double Cell = 8.0;
-  PixelGrid grid(canvasRect, Cell);
-  QColor halo = m_background;
   constexpr int HaloAlpha = 210;
+  QColor halo = m_background;
   halo.setAlpha(HaloAlpha);
-  for (const Record &record : m_records) {
-    const QPointF center = projection.map(record.x, record.y);
-    if (!canvasRect.contains(center))
-      continue;
-    const QFontMetricsF metrics(record.font, painter->device());
-    QRectF place(QPointF(), metrics.size(Qt::TextSingleLine, record.text));
-    place.moveCenter(center);
-    if (!grid.takeArea(place))
-      continue;
+  for (const Placed &placed : place(Projection(xMap, yMap, canvasRect))) {
+    const Record &record = *placed.record;
+    const QPointF start(placed.area.left(), placed.area.top() + QFontMetricsF(record.font).ascent());
     QPainterPath outline;
-    outline.addText(place.left(), place.top() + metrics.ascent(), record.font, record.text);
+    outline.addText(start, record.font, record.text);
     painter->strokePath(outline, QPen(halo, HaloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->setPen(record.color);
     painter->setFont(record.font);
-    painter->drawText(QPointF(place.left(), place.top() + metrics.ascent()), record.text);
+    painter->drawText(start, record.text);
   }
 }

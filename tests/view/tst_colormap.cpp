@@ -25,7 +25,7 @@ void TestColorMap::rampEndsAndMiddle() {
   QCOMPARE(QColor(map.rgb(interval, 15.0)).hsvHue(), 120);
   QCOMPARE(QColor(map.rgb(interval, 20.0)).hsvHue(), 240);
   QCOMPARE(QColor(map.rgb(interval, 20.0)).value(), 230);
-  QCOMPARE(ColorRamp({-120, 0, 999, 999}).color(-120), QColor::fromHsv(240, 255, 255).rgb()); // wrong settings stay colours
+  QCOMPARE(ColorRamp({-120, 0, 999, 999}).color(0.0), QColor::fromHsv(240, 255, 255).rgb()); // wrong settings stay colours
 }
 
 void TestColorMap::linearFraction_data() {

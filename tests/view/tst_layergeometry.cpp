@@ -15,6 +15,8 @@ private slots:
   void clip();
   void projectionWithoutExtentIsInvalid();
   void gridTakesEachCellOnce();
+  void clustersGatherBehindTheFirst();
+  void lanesKeepBesideTheLine();
 };
 
 void TestLayerGeometry::indexFindsWhatTouches() {
@@ -104,13 +106,29 @@ void TestLayerGeometry::gridTakesEachCellOnce() {
   PixelGrid grid(QRectF(0, 0, 100, 100), 10.0);
   QVERIFY(grid.take({5, 5}));
   QVERIFY(!grid.take({6, 6}));
-  QVERIFY(!grid.takeApart({15, 15})); // a neighbour is taken
-  QVERIFY(grid.takeApart({35, 35}));
+  QVERIFY(grid.take({35, 35}));
   QVERIFY(!grid.take({-1, 5}));
   QVERIFY(!grid.take({std::nan(""), 5}));
   QVERIFY(!grid.takeArea(QRectF(20, 20, 60, 20)));
   QVERIFY(grid.takeArea(QRectF(60, 60, 20, 20)));
   QVERIFY(!grid.take({75, 65}));
+}
+
+void TestLayerGeometry::clustersGatherBehindTheFirst() {
+  ClusterGrid grid(QRectF(0, 0, 100, 100), 10.0);
+  QCOMPARE(grid.claim({5, 5}, 0), 0);
+  QCOMPARE(grid.claim({15, 15}, 1), 0); // a neighbour is taken
+  QCOMPARE(grid.claim({35, 35}, 1), 1);
+  QCOMPARE(grid.claim({-50, 500}, 2), 2); // outside: the nearest cell
+}
+
+void TestLayerGeometry::lanesKeepBesideTheLine() {
+  const LaneWay way({0, 0, 100, 0}, 10.0); // pixels count downwards: the right of this way is below
+  QCOMPARE(way.start, QPointF(0, 0));
+  QCOMPARE(way.end, QPointF(100, 0));
+  QCOMPARE(way.middle(), QLineF(10, 10, 90, 10));
+  QCOMPARE(LaneWay({0, 0, 8, 0}, 10.0).middle(), QLineF(2, 2, 6, 2)); // too short for so much
+  QCOMPARE(LaneWay({3, 3, 3, 3}, 10.0).middle(), QLineF(3, 3, 3, 3));
 }
 
 NIVRA_TEST(TestLayerGeometry);

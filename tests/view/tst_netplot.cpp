@@ -42,6 +42,11 @@ private:
     QMouseEvent release(QEvent::MouseButtonRelease, to, button, Qt::NoButton, keys);
     QApplication::sendEvent(canvas, &release);
   }
+  /// For as long as it lives, a wheel step is done at once.
+  struct PlainWheel {
+    PlainWheel() { GeneralSettings::instance().setValue(QStringLiteral("smooth zoom"), QStringLiteral("0")); }
+    ~PlainWheel() { GeneralSettings::instance().reset(); }
+  };
   static double unitsRatio(NetPlot &plot) {
     const QSizeF units = plot.plot()->unitsPerPixel();
     return units.width() / units.height();
@@ -77,6 +82,7 @@ void TestNetPlot::resizeKeepsOneScale() {
 }
 
 void TestNetPlot::wheelZoomsAboutTheCursor() {
+  const PlainWheel plain;
   ViewFixture f;
   f.plot().show();
   f.show();
@@ -92,6 +98,7 @@ void TestNetPlot::wheelZoomsAboutTheCursor() {
 }
 
 void TestNetPlot::wheelCollectsSmallTurns() {
+  const PlainWheel plain;
   ViewFixture f;
   f.plot().show();
   f.show();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <model/elements.h>
+#include <model/selection.h>
 
 #include <QList>
 #include <QString>
@@ -53,6 +54,10 @@ public:
   const QList<EleType> &types() const { return m_types; }
   const NetMetaData *metaData() const { return m_metaData; }
 
+  /// What a person has picked; emptied with the network.
+  Selection &selection() { return m_selection; }
+  const Selection &selection() const { return m_selection; }
+
   bool isEmpty() const;
   void clear();
 
@@ -80,6 +85,7 @@ private:
   elements m_edges;
   elements m_tBoxes;
   elements m_assembledSubnets;
+  Selection m_selection;
   const NetMetaData *m_metaData;
   std::map<EleType, elements *> m_typeMap;
   QList<EleType> m_types;

@@ -18,6 +18,9 @@ void initialise();
 
 bool isKnown(const QString &unit);
 
+/// As people write it, such as "m³" for "m3": the unit tables know plain ASCII only.
+QString written(QString unit);
+
 /// value in unit "from" expressed in unit "to". Norm volume flow converts to mass flow when the norm density is known
 /// and to energy flow when the calorific value is known. Nothing when the units are unknown or do not fit.
 std::optional<double> convert(double value, const QString &from, const QString &to, const Gas &gas = Gas());

@@ -1,25 +1,37 @@
 #pragma once
 
 #include <QRgb>
+#include <QStringList>
 #include <qwt_color_map.h>
 
 #include <array>
+#include <vector>
 
-/// What shapes a colour scale.
+/// What shapes a colour scale: hues of the user's choice, or one of the ramps that keep equal steps equally visible and
+/// their order to colour-blind eyes.
 struct ColorRamp {
+  enum class Kind { Hue, Viridis, Cividis, Diverging };
+  static const QStringList &names(); ///< in the order of Kind, as PlotSettings::colorRamp has them
+  static Kind kindOf(const QString &name);
+
   int firstHue = 0;     ///< degrees, at the low end
   int lastHue = 240;    ///< degrees, at the high end
   int saturation = 255; ///< 0 to 255
   int lightness = 230;  ///< 0 to 255, the "value" of the HSV colour
 
-  QRgb color(double hue) const; ///< hue in degrees, taken modulo 360
+  Kind kind = Kind::Hue;
+
+  /// \param fraction of the way from the low (0) to the high end (1)
+  QRgb color(double fraction) const;
 };
 
-/// Hues between the first and the last one, linear in the value.
+/// The colours of a ramp, linear in the value.
 class HueColorMap : public QwtColorMap {
 public:
   explicit HueColorMap(const ColorRamp &ramp)
       : m_ramp(ramp) {}
+
+  const ColorRamp &ramp() const { return m_ramp; }
 
   /// Values outside the interval have the colours of its ends; without an interval the middle of the ramp is taken.
   QRgb rgb(const QwtInterval &interval, double value) const override;
@@ -52,9 +64,36 @@ public:
 
   TableColorMap(const QwtColorMap &map, const QwtInterval &interval);
 
+  /// Marks by a darker shade what lies outside of the interval, as on the end caps of a scale.
+  void setCaps(bool low, bool high);
+
   QRgb rgb(const QwtInterval &interval, double value) const override;
   unsigned char colorIndex(const QwtInterval &interval, double value) const override;
 
 private:
   std::array<QRgb, Colors> m_colors{};
+  bool m_hasLowCap = false;
+  bool m_hasHighCap = false;
+};
+
+/// Few colours, one for each class between breaks.
+class ClassColorMap : public QwtColorMap {
+public:
+  /// \param breaks ascending, between the classes
+  /// \param map whose colours at equal steps are taken
+  ClassColorMap(std::vector<double> breaks, const HueColorMap &map);
+
+  QRgb rgb(const QwtInterval &interval, double value) const override;
+  unsigned char colorIndex(const QwtInterval &interval, double value) const override;
+  /// The same classes for another unit of the values.
+  void setBreaks(std::vector<double> breaks) { m_breaks = std::move(breaks); }
+  const std::vector<double> &breaks() const { return m_breaks; }
+
+  static std::vector<double> equalBreaks(const QwtInterval &range, int classes);
+  /// Breaks that put about as many of the values into each class; equal ones are taken once.
+  static std::vector<double> quantileBreaks(std::vector<double> values, int classes);
+
+private:
+  std::vector<double> m_breaks;
+  std::vector<QRgb> m_colors; ///< one more than breaks
 };

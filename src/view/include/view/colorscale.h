@@ -2,22 +2,35 @@
 
 #include <view/colormap.h>
 #include <view/drawfunctions.h>
+#include <view/drawvalues.h>
 #include <view/plotsettings.h>
 
-#include <qwt_interval.h>
 #include <qwt_plot.h>
 
 #include <memory>
 
-/// The scale beside the drawing that tells which colour stands for which value.
+/// The colour scale beside the drawing, and the maps that belong to it.
 namespace ColorScale {
 
-/// The map that the settings describe, logarithmic or linear.
+/// A colour that says something else than a value.
+struct Swatch {
+  QRgb color = 0;
+  QString text;
+};
+
+/// The map of the settings: linear, or bent by logFactor.
 std::unique_ptr<HueColorMap> colorMap(const PlotSettings &settings, bool logarithmic);
 
-/// Shows the edge colour function on the axis that the settings name, in its display unit. Without a valid range, or
-/// when the settings name an axis of the drawing itself, no scale is shown.
-/// \param range smallest and largest value in the stored unit
-void show(QwtPlot &plot, const PlotSettings &settings, const DrawFunction &function, const QwtInterval &range);
+/// What edges are coloured with: classes where the settings ask for some, else a smooth scale with end caps.
+std::unique_ptr<QwtColorMap> edgeColors(const PlotSettings &settings, const DrawFunction &function,
+                                        const DrawValues::Column &values);
+/// What nodes are coloured with: as edges when they show the same function.
+std::unique_ptr<QwtColorMap> nodeColors(const PlotSettings &settings, const DrawFunction &function,
+                                        const DrawValues &values);
+
+/// Shows the scale of the edge colours on the axis of the settings, in the display unit, and names the other colours;
+/// hides it without a range.
+void show(QwtPlot &plot, const PlotSettings &settings, const DrawFunction &function, const DrawValues::Column &values,
+          const std::vector<Swatch> &swatches);
 
 } // namespace ColorScale

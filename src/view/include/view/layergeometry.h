@@ -1,7 +1,9 @@
 #pragma once
 
+#include <view/netgeometry.h>
 #include <view/spatialindex.h>
 
+#include <QFont>
 #include <QLineF>
 #include <QPainter>
 #include <QPointF>
@@ -21,9 +23,13 @@ public:
   QPointF map(double x, double y) const { return {(x - m_x0) * m_xFactor + m_px0, (y - m_y0) * m_yFactor + m_py0}; }
   /// What the canvas shows, widened by a number of pixels, in plot coordinates.
   SpatialIndex::Box visible(double margin) const;
+  /// The square of so many pixels to each side of a point of the canvas, in plot coordinates.
+  SpatialIndex::Box around(const QPointF &point, double reach) const;
   const QRectF &canvas() const { return m_canvas; }
 
 private:
+  SpatialIndex::Box toPlot(const QRectF &area) const;
+
   QRectF m_canvas;
   double m_x0, m_y0, m_px0, m_py0;
   double m_xFactor = 0.0, m_yFactor = 0.0;
@@ -33,6 +39,34 @@ private:
 /// Cuts the line to the rectangle; false when nothing is left. Painters work with limited integers: a line that leaves
 /// the picture by millions of pixels must not reach them.
 bool clipLine(QLineF &line, const QRectF &rect);
+
+/// The way of one of several lines between the same two points: it leaves them at an angle and keeps beside the others.
+struct LaneWay {
+  /// \param offset px to the right of the line; less on a line too short for it
+  LaneWay(const QLineF &line, double offset);
+
+  QPointF start;
+  QPointF first;  ///< here it has reached its lane,
+  QPointF second; ///< here it leaves it
+  QPointF end;
+
+  QLineF middle() const { return {first, second}; }
+};
+
+/// How far apart lines side by side run, in pixels: a symbol needs more room than a line.
+double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize);
+
+/// Of a point from a line, both in pixels.
+double distanceToLine(const QPointF &point, const QLineF &line);
+
+/// Something drawn under the cursor.
+struct Hit {
+  NetGeometry::Item item;
+  double distance = 0.0; ///< px
+};
+
+/// The font in the size that it has on the screen, whatever it is drawn on.
+QFont screenFont(QFont font);
 
 /// A picture that is looked at in other sizes (SVG, PDF, printer): drawn with shapes instead of prepared pixels.
 bool isVectorTarget(const QPainter &painter);
@@ -46,8 +80,6 @@ public:
 
   /// Takes the cell of the point; false when it was taken before or lies outside.
   bool take(const QPointF &point);
-  /// As take(), but the eight cells around must be free as well.
-  bool takeApart(const QPointF &point);
   /// Takes all cells under the rectangle, as far as they lie inside; false when one of them was taken before.
   bool takeArea(const QRectF &area);
 
@@ -59,4 +91,21 @@ private:
   int m_columns;
   int m_rows;
   std::vector<bool> m_taken; ///< with a frame of one cell that is never taken
+};
+
+/// Coarse cells over the canvas that remember who stands there, to keep things a cell apart.
+class ClusterGrid {
+public:
+  ClusterGrid(const QRectF &canvas, double cell);
+
+  /// Takes the cell of the point when it and the eight around it are free, and returns the number; the number of one of
+  /// those who stand there otherwise. Points outside take the nearest cell.
+  int claim(const QPointF &point, int number);
+
+private:
+  QPointF m_origin;
+  double m_cell;
+  int m_columns;
+  int m_rows;
+  std::vector<int> m_numbers; ///< -1 for a free cell; with a frame of one cell
 };

@@ -6,6 +6,7 @@
 #include <QRectF>
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 /// What the drawing needs to know of a network apart from colours and sizes: where everything lies and which element it
@@ -29,6 +30,10 @@ public:
     int node2 = -1;
     char type = 'p';         ///< type code, of which only the first letter matters
     bool isInactive = false; ///< its "state" or "active" says off, closed, false or 0
+    bool isBypass = false;   ///< its "state" says bypass
+    /// Place among the edges that join the same two nodes, to be drawn side by side: 0 in the middle, positive to the
+    /// right of the way from the node that comes first by name; one unit a line.
+    float lane = 0.0F;
   };
 
   /// A text box or a subnet: something that stands at one point.
@@ -36,6 +41,16 @@ public:
     const element *source = nullptr;
     double x = 0.0;
     double y = 0.0;
+    std::vector<int> pins; ///< of a subnet: positions of its pin nodes in nodes(), in its order
+  };
+
+  /// Something that can be pointed at: which list it is in, and its position there.
+  struct Item {
+    NetData::EleType kind = NetData::Unknown;
+    int index = -1;
+
+    friend bool operator==(Item a, Item b) { return a.kind == b.kind && a.index == b.index; }
+    friend bool operator!=(Item a, Item b) { return !(a == b); }
   };
 
   /// A property whose numbers are asked for.
@@ -75,6 +90,11 @@ public:
   int nodesOutside(const QRectF &area) const;
   bool hasExtent() const { return m_hasExtent; } ///< something is placed
   bool isPlaced(const Edge &edge) const;
+  const element *source(Item item) const;
+  /// The item of a name among the kinds of the mask; nothing when it is not there or was not drawn.
+  std::optional<Item> find(const NetData &net, const QString &name, int kinds = NetData::AllTypes) const;
+  /// Middle of the item in plot coordinates; nothing without coordinates.
+  std::optional<QPointF> center(Item item) const;
   /// Elements that cannot be drawn for want of coordinates.
   int unplaced() const { return m_unplaced; }
 
@@ -87,6 +107,8 @@ private:
                        Values &values);
   void takeEdge(std::size_t edge, const PropertyColumns &read, std::size_t first, const Request &request,
                 Values &values) const;
+  void findLanes();
+  void findPins(const NetData &net);
   std::vector<Place> places(const elements &collection);
   void extend(double x, double y);
 

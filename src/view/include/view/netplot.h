@@ -2,6 +2,7 @@
 
 #include <view/netupdate.h>
 #include <view/plotsettings.h>
+#include <view/selectionlayer.h>
 
 #include <QWidget>
 #include <qwt_plot_grid.h>
@@ -10,10 +11,11 @@
 
 #include <memory>
 
+class PlotPanner;
 class PlotZoom;
 class QMenu;
 class QwtFastPlot;
-class QwtPlotPanner;
+class SmoothZoom;
 
 /// The widget in which the network is drawn: the plot, its settings, the update engine, zoom and pan tools, a grid and a
 /// legend that names the draw functions.
@@ -26,6 +28,7 @@ public:
   QwtFastPlot *plot() const { return m_plot; }
   PlotZoom *zoomer() const { return m_zoomer; }
   NetUpdate &update() { return *m_update; }
+  SelectionLayer &selection() { return m_selection; }
   QwtPlotGrid &grid() { return m_grid; }
   const QwtPlotMarker &legend() const { return m_legend; }
 
@@ -39,12 +42,18 @@ public:
 
   /// Takes the general setting "MousePattern_Panning" for the button that moves the view.
   void readMousePattern();
+  /// The place of the last context menu on the canvas.
+  QPoint menuPosition() const { return m_menuPosition; }
   /// Draws the network anew and fits its main body to the window; a hint tells how many nodes lie far outside.
   void showNetwork();
   bool hasStragglers() const { return m_stragglers > 0; }
   /// Fits the window to everything, however far it lies.
   void showStragglers();
+  /// Brings the element into the middle, as large as the general setting "zoom to element: factor" allows.
+  void zoomToElement(NetGeometry::Item item);
   void placeLegend();
+  /// What the legend covers of the canvas, px; empty when it is hidden.
+  QRectF legendArea() const;
   void showAxes();
 
 signals:
@@ -56,18 +65,24 @@ protected:
 
 private:
   void showHint();
+  void setUpZoom();
+  void zoomByWheel(int steps, QPointF anchor);
+  void refresh(int delay);
   void setUpPlot();
   void setUpPanner();
   void applyColors();
   bool canvasEvent(QEvent *event);
-  void showContextMenu();
+  void showContextMenu(const QPoint &position);
 
   QwtFastPlot *m_plot;
   PlotSettings m_settings;
   PlotZoom *m_zoomer;
-  QwtPlotPanner *m_panner;
+  PlotPanner *m_panner;
   std::unique_ptr<NetUpdate> m_update;
+  SmoothZoom *m_smoothZoom;
+  SelectionLayer m_selection;
   bool m_mouseMoved = false; ///< since the last button press
+  QPoint m_menuPosition;
   QwtPlotGrid m_grid;
   QwtPlotMarker m_legend;
   QwtPlotTextLabel m_hint; ///< why there is nothing to see, or what lies outside

@@ -1,14 +1,19 @@
 #pragma once
 
 #include <model/netdata.h>
+#include <view/drawvalues.h>
 #include <view/edgelayer.h>
+#include <view/elementlooks.h>
+#include <view/labellayer.h>
+#include <view/labeltable.h>
 #include <view/netgeometry.h>
 #include <view/nodelayer.h>
+#include <view/pixtest.h>
 #include <view/plotsettings.h>
+#include <view/subnetlayer.h>
 #include <view/symbollayer.h>
 #include <view/textboxlayer.h>
-
-#include <qwt_interval.h>
+#include <view/visibilityrules.h>
 
 class NetPlot;
 
@@ -16,48 +21,70 @@ class NetPlot;
 class NetUpdate {
 public:
   enum class Which { EdgesAndNodes = 1, Edges = 2, Nodes = 3 };
+  /// How elements are coloured: edges by their function and nodes plainly, both by their functions, or what the search
+  /// found in front of the rest.
+  enum class DisplayMode { Edges = 0, Functions = 1, SearchResults = 2 };
 
   NetUpdate(NetPlot &plot, const PlotSettings &settings);
 
   /// The network to show, null for none. It must outlive the drawing or be taken away before; what was drawn of another
   /// network is forgotten. Shown with the next updatePlot() that rebuilds.
   void setNetData(const NetData *net);
-
-  /// Symbols of the user's own, drawn with the next updatePlot() that rebuilds.
-  void setSymbolTable(const SymbolTable &table) { m_symbols.setTable(table); }
+  const NetData *netData() const { return m_net; }
+  /// The folder of the case: it may hold symbols of the user's own in "symbols", and files of figures. For the next
+  /// updatePlot() that rebuilds, as is the following.
+  void setFolder(const QString &folder);
+  void setLabelTable(const LabelTable &table) { m_labelTable = table; }
+  const LabelTable &labelTable() const { return m_labelTable; }
+  void setDisplayMode(DisplayMode mode) { m_displayMode = mode; }
+  DisplayMode displayMode() const { return m_displayMode; }
 
   /// \param rebuild looks up anew which elements there are and where they lie
   /// \param which whose colours, widths and sizes are made anew
   /// \param relabel asks for new labels
   void updatePlot(bool rebuild, Which which, bool relabel);
 
+  /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
+  /// they are negative.
+  void requestPixtest(int delay, bool quick = true) { m_pixtest.requestPixtest(delay, quick); }
+  Pixtest &pixtest() { return m_pixtest; }
+  /// Places labels at once, whatever the settings say.
+  void relabelNow();
+  /// Finds the symbols that lie in the visible area.
+  std::vector<SymbolLayer::Placed> determineVisibleSymbols() const;
+
   const NetGeometry &geometry() const { return m_geometry; }
+  const DrawValues &values() const { return m_values; }
+  const std::vector<Label> &labels() const { return m_labels.labels(); }
+  /// Elements in view whose label found no place in the last pass.
+  const std::vector<NetGeometry::Item> &unplacedLabels() const { return m_unplaced; }
+
+  /// What is drawn under the point of the canvas: what stands at a place before lines, then by distance.
+  std::vector<Hit> elementsAt(const QPointF &point, double tolerance) const;
+  /// What lies wholly in the rectangle, in plot coordinates.
+  std::vector<NetGeometry::Item> elementsIn(const QRectF &area) const;
+  Projection projection() const;
 
 private:
-  struct Values {
-    std::vector<double> ofElements; ///< one an element, NetData::NoValue where there is none
-    QwtInterval range;              ///< fixed bounds where there are some; invalid without any value
-  };
-
-  void readValues(bool rebuild);
-  void compute(NetGeometry::Values &values, const QStringList &ofEdges, const QStringList &ofNodes) const;
-  void updateEdges();
-  void updateNodes();
-  void updateSymbols();
+  void runPixtest(Pixtest::Labels labels);
+  void placeLabels();
+  ElementLooks looks() const;
+  void updateSymbols(bool rebuild);
 
   NetPlot &m_plot;
   const PlotSettings &m_settings;
   const NetData *m_net = nullptr;
   NetGeometry m_geometry;
-  struct {
-    Values edgeColor;
-    Values edgeWidth;
-    std::vector<double> flow; ///< of edges, without sign
-    Values nodeColor;
-    Values nodeSize;
-  } m_values; ///< what the draw functions say of this network
+  DrawValues m_values;
+  LabelTable m_labelTable;
+  VisibilityRules m_visibility;
+  DisplayMode m_displayMode = DisplayMode::Functions;
   EdgeLayer m_edges;
   NodeLayer m_nodes;
   SymbolLayer m_symbols;
+  SubnetLayer m_subnets;
   TextBoxLayer m_textBoxes;
+  LabelLayer m_labels;
+  std::vector<NetGeometry::Item> m_unplaced;
+  Pixtest m_pixtest;
 };

@@ -1,11 +1,10 @@
 #pragma once
 
+#include <view/layergeometry.h>
 #include <view/netgeometry.h>
 #include <view/spatialindex.h>
 
 #include <qwt_plot_item.h>
-
-class Projection;
 
 /// How one node is drawn.
 struct NodeLook {
@@ -28,6 +27,21 @@ public:
   int rtti() const override { return Rtti_PlotUserItem + 2; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 
+  /// Adds the nodes that stand within so many pixels of the point.
+  void find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const;
+  /// Calls visit(node, center, size) for every node on the canvas, with its middle and size in pixels.
+  template <typename Visitor>
+  void forEachVisible(const Projection &projection, const Visitor &visit) const {
+    m_index.query(projection.visible(0.0), [&](int first, int last) {
+      for (int i = first; i < last; ++i) {
+        const Record &record = m_records[static_cast<std::size_t>(i)];
+        const QPointF center = projection.map(record.x, record.y);
+        if (projection.canvas().contains(center))
+          visit(record.node, center, sizeOf(record));
+      }
+    });
+  }
+
 private:
   struct Record {
     double x = 0.0;
@@ -41,6 +55,7 @@ private:
     const Record *record;
   };
 
+  static double sizeOf(const Record &record);
   std::vector<VisibleNode> visibleNodes(const Projection &projection) const;
   static void drawJunctions(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest, const QRectF &canvas);
   static void drawStations(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest, const QRectF &canvas);

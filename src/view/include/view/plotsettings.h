@@ -7,6 +7,10 @@
 struct PlotSettings {
   static constexpr double OpenMinimum = -1e30;
   static constexpr double OpenMaximum = 1e30;
+  static QString hueRamp() { return QStringLiteral("hue"); }
+  static QString equalClasses() { return QStringLiteral("equal interval"); }
+  static QString quantileClasses() { return QStringLiteral("quantile"); }
+  static QString ownClasses() { return QStringLiteral("own breaks"); }
   static QString fixedSize() { return QStringLiteral("--- fixed ---"); } ///< nodeSizeFunc: all nodes have one size
 
   QString edgeShowFlow = QStringLiteral("q"); ///< property whose value 0 means that an edge carries no flow
@@ -62,6 +66,13 @@ struct PlotSettings {
   double largestZoomHeight = 10000.0;
   int alphaSubnet = 100; ///< 0 to 255
   QString layerProp = QStringLiteral("vis.layer");
+
+  // Kept in the group "drawing" of the file.
+  QString colorRamp = hueRamp(); ///< name of a ramp, see ColorRamp
+  int colorClasses = 0;          ///< number of classes of the edge colours; 0 or 1 for a continuous scale
+  QString classMethod = equalClasses();
+  QString classBreaks; ///< breaks of the user's own in the display unit, ascending, joined by ";"
+  QString bookmarks;   ///< views to come back to, see ViewBookmarks
 
   /// Takes over the zoom limits of another record, which belong to the network rather than to its drawing.
   void takeZoomLimits(const PlotSettings &other);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <view/plotsettings.h>
+#include <view/viewhistory.h>
 
+#include <QTimer>
 #include <qwt_plot_zoomer.h>
 
 class QwtFastPlot;
@@ -19,9 +21,27 @@ public:
   void setZoomLimits(const QRectF &extent, const QSizeF &pixelSpan);
 
   /// One step about a point in plot coordinates, which stays where it is on the canvas.
-  void zoomIn(const QPointF &point);
-  void zoomOut(const QPointF &point);
+  void zoomIn(const QPointF &point) { zoomIn(point, m_settings.zoomFact); }
+  void zoomOut(const QPointF &point) { zoomOut(point, m_settings.zoomFact); }
+  void zoomIn(const QPointF &point, double factor);
+  void zoomOut(const QPointF &point, double factor);
   void fitAll() { zoom(0); }
+  /// Joins the rectangle to the zoom base, goes there and takes the limits from it.
+  void resetZoomBase(const QRectF &rect);
+  /// The views that a person rested at.
+  void goBack();
+  void goForward();
+  bool canGoBack() const { return m_history.canGoBack(); }
+  bool canGoForward() const { return m_history.canGoForward(); }
+
+  /// Between them zooming is one movement: one entry of the stack, and slow drawings are moved as a picture.
+  void beginMove();
+  void endMove();
+
+  /// In plot coordinates.
+  QPointF cursor() const;
+  /// The left button draws the zoom rectangle while these keys are held; nothing but it otherwise.
+  void setRectangleKeys(Qt::KeyboardModifiers keys) { setMousePattern(MouseSelect1, Qt::LeftButton, keys); }
   /// Puts what the plot shows, for instance after panning, on the stack.
   void takeView();
 
@@ -30,11 +50,16 @@ public:
 
   bool eventFilter(QObject *watched, QEvent *event) override;
 
+signals:
+  void refreshRequested(int delay);                   ///< the drawing for this view is wanted after so many milliseconds
+  void wheelTurned(int steps, const QPointF &anchor); ///< positive to zoom in; anchor in plot coordinates
+
 protected:
   void rescale() override;
   QSizeF minZoomSize() const override;
   void widgetWheelEvent(QWheelEvent *event) override;
   void widgetKeyPressEvent(QKeyEvent *event) override;
+  void widgetKeyReleaseEvent(QKeyEvent *event) override;
 
 private:
   void cutStack();
@@ -44,9 +69,14 @@ private:
   bool applyAxesRatio();
   QRectF inCanvasRatio(const QRectF &rect) const;
   void zoomAbout(const QPointF &point, const QSizeF &size);
+  void recordView();
+  void replaceView(const QRectF &rect);
 
   QwtFastPlot &m_plot;
   PlotSettings &m_settings;
   QRectF m_extent;
   int m_wheelDegrees = 0;
+  ViewHistory m_history;
+  QTimer m_rest; ///< until a view counts as one that a person rested at
+  enum class Move { None, Begun, Running } m_move = Move::None;
 };

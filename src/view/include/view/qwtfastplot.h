@@ -1,13 +1,20 @@
 #pragma once
 
+#include <QPixmap>
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
 
-/// The plot area of the network: a plot without frame, title or automatic replot.
+#include <functional>
+
+class CanvasOverlay;
+
+/// The plot area of the network: a plot without frame, title or automatic replot. Over its canvas lies what changes more
+/// often than the drawing. While the view moves, a picture of the drawing is moved in its place if drawing takes long.
 class QwtFastPlot : public QwtPlot {
   Q_OBJECT
 public:
   explicit QwtFastPlot(QWidget *parent = nullptr);
+  ~QwtFastPlot() override;
 
   /// What the canvas shows, in plot coordinates.
   QRectF visibleRect() const;
@@ -15,4 +22,31 @@ public:
   QSizeF unitsPerPixel() const;
   /// From a place on the canvas to plot coordinates.
   QPointF toPlot(const QPoint &canvasPosition) const;
+
+  /// An item to paint over the canvas, whether it is visible or not; it must outlive the plot's painting.
+  void setOverlayItem(const QwtPlotItem *item);
+  void updateOverlay();
+
+  /// Keeps the picture of the present view and moves it with the view until thaw(). Quick drawings are drawn exactly.
+  void freeze();
+  /// Draws the exact picture again.
+  void thaw();
+  bool isFrozen() const { return !m_picture.isNull(); }
+  /// Where the kept picture belongs in the present view, in pixels of the canvas.
+  QRectF pictureArea() const;
+  const QPixmap &picture() const { return m_picture; }
+  /// Of the last drawing of the canvas, in milliseconds.
+  double frameTime() const { return m_frameTime; }
+
+public slots:
+  void replot() override;
+
+protected:
+  void drawCanvas(QPainter *painter) override;
+
+private:
+  CanvasOverlay *m_overlay;
+  QPixmap m_picture;
+  QRectF m_pictureView; ///< in plot coordinates
+  double m_frameTime = 0.0;
 };

@@ -27,6 +27,9 @@ public:
   /// \param angle degrees, clockwise; screens round it to 5 degrees
   void draw(QPainter &painter, int symbol, const QPointF &center, double size, double angle);
 
+  /// A badge with the number of those that share a symbol.
+  void drawCount(QPainter &painter, const QPointF &center, int count);
+
 private:
   std::unique_ptr<QSvgRenderer> load(const QString &key) const;
   QPixmap pixmap(int symbol, int pixels, int angle);
@@ -35,4 +38,5 @@ private:
   QHash<QString, int> m_numbers;
   std::vector<std::unique_ptr<QSvgRenderer>> m_renderers;
   QHash<quint64, QPixmap> m_pixmaps;
+  QHash<QPair<int, int>, QPixmap> m_badges; ///< by number and hundredths of a pixel ratio
 };

@@ -1,25 +1,49 @@
 #pragma once
 
+#include <view/figures.h>
+#include <view/layergeometry.h>
 #include <view/netgeometry.h>
 #include <view/spatialindex.h>
 #include <view/stationsymbols.h>
+#include <view/visibilityrules.h>
 
 #include <qwt_plot_item.h>
 
-/// The symbols of stations: edges other than pipes, drives and subnets. Where they would overlap, the more important one
-/// is drawn.
+/// The symbols of stations: edges other than pipes and drives, and the figures that elements bring themselves. Those that
+/// would overlap share one symbol, that of the most important, with their number.
 class SymbolLayer : public QwtPlotItem {
 public:
   SymbolLayer();
 
   /// Symbols of the user's own, for the stations that are set afterwards.
   void setTable(const SymbolTable &table);
+  void setFigureFolder(const QString &folder) { m_figures.setFolder(folder); }
   void setStations(const NetGeometry &geometry);
+  /// The size of the symbols, and of those of single element types (by type code) that have another.
   void setSize(double pixels) { m_size = pixels; }
+  void setSizes(const QHash<QString, double> &sizes) { m_sizes = sizes; }
+  double size() const { return m_size; }
+  /// Symbols that are off are not drawn.
+  void setVisibility(const VisibilityRules &rules);
   void clear();
 
   int rtti() const override { return Rtti_PlotUserItem + 3; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
+
+  /// Adds the elements whose symbols lie under the point, those that share a symbol too.
+  void find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const;
+
+  /// A symbol that is drawn.
+  struct Placed {
+    NetGeometry::Item item;
+    QPointF center; ///< px
+    double size = 0.0;
+    double angle = 0.0; ///< degrees, clockwise
+    int others = 0;     ///< that stand behind it
+    int record = 0;
+  };
+  /// What is drawn of it, the more important first.
+  std::vector<Placed> place(const Projection &projection) const;
 
 private:
   struct Record {
@@ -27,12 +51,23 @@ private:
     double y = 0.0;
     double dx = 0.0; ///< direction in plot units; none for what stands at a point
     double dy = 0.0;
-    int symbol = -1;
+    NetGeometry::Item item;
+    int symbol = -1;  ///< of m_symbols
+    int figure = -1;  ///< of m_figures, in place of the symbol
     int priority = 0; ///< lower is more important
+    float lane = 0.0F;
+    float size = 1.0F; ///< share of the common size
+    bool isVisible = true;
   };
 
+  std::vector<Record> records(const NetGeometry &geometry);
+  int symbolOf(const NetGeometry::Edge &edge);
+  QPointF centerOf(const Record &record, const Projection &projection) const;
+
   mutable StationSymbols m_symbols; ///< a cache of pixmaps
-  std::vector<Record> m_records;    ///< in the order of the index
+  Figures m_figures;
+  std::vector<Record> m_records; ///< in the order of the index
   SpatialIndex m_index;
+  QHash<QString, double> m_sizes;
   double m_size = 20.0;
 };

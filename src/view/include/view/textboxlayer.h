@@ -1,5 +1,6 @@
 #pragma once
 
+#include <view/layergeometry.h>
 #include <view/netgeometry.h>
 
 #include <QColor>
@@ -19,6 +20,11 @@ public:
   int rtti() const override { return Rtti_PlotUserItem + 4; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 
+  /// What the texts that are drawn cover, px.
+  std::vector<QRectF> places(const Projection &projection) const;
+  /// Adds the text boxes whose text lies under the point.
+  void find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const;
+
 private:
   struct Record {
     double x = 0.0;
@@ -26,7 +32,15 @@ private:
     QString text;
     QFont font;
     QColor color;
+    int textBox = 0; ///< position in the geometry
+    QSizeF size;     ///< px, on a screen
   };
+  struct Placed {
+    const Record *record;
+    QRectF area;
+  };
+
+  std::vector<Placed> place(const Projection &projection) const;
 
   std::vector<Record> m_records;
   QColor m_background = Qt::white;

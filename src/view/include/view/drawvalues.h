@@ -1,0 +1,37 @@
+#pragma once
+
+#include <view/netgeometry.h>
+#include <view/plotsettings.h>
+
+#include <qwt_interval.h>
+
+/// What the draw functions say of the elements of a network.
+class DrawValues {
+public:
+  struct Column {
+    std::vector<double> ofElements; ///< one an element, NetData::NoValue where there is none
+    QwtInterval data;               ///< of the values; invalid without any
+    QwtInterval range;              ///< as drawn: fixed bounds where there are some
+  };
+
+  /// Reads the values, and on rebuild the geometry as well.
+  void read(const NetData &net, const PlotSettings &settings, NetGeometry &geometry, bool rebuild);
+
+  const Column &edgeColor() const { return m_edgeColor; }
+  const Column &edgeWidth() const { return m_edgeWidth; }
+  const Column &nodeColor() const { return m_nodeColor; }
+  const Column &nodeSize() const { return m_nodeSize; }
+  const std::vector<double> &flow() const { return m_flow; } ///< of edges, positive from the first to the second node
+  const std::vector<double> &flowSize() const { return m_flowSize; } ///< the same without sign
+  /// The node colour function is one of nodes; otherwise nodes have plain colours.
+  bool colorsNodes() const { return m_colorsNodes; }
+
+private:
+  Column m_edgeColor;
+  Column m_edgeWidth;
+  Column m_nodeColor;
+  Column m_nodeSize;
+  std::vector<double> m_flow;
+  std::vector<double> m_flowSize;
+  bool m_colorsNodes = false;
+};

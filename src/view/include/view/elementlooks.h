@@ -1,0 +1,36 @@
+#pragma once
+
+#include <view/colorscale.h>
+#include <view/drawvalues.h>
+#include <view/edgelayer.h>
+#include <view/netgeometry.h>
+#include <view/nodelayer.h>
+
+/// How the elements are drawn, after what the draw functions say of them. Elements without a value, without flow and out of
+/// use have colours of their own.
+class ElementLooks {
+public:
+  ElementLooks(const NetData &net, const NetGeometry &geometry, const DrawValues &values, const PlotSettings &settings)
+      : m_net(net)
+      , m_geometry(geometry)
+      , m_values(values)
+      , m_settings(settings) {}
+
+  /// One an edge of the geometry.
+  std::vector<EdgeLook> edges() const;
+  /// One a node. \param byFunction in the colours of the node colour function, if it is one of nodes
+  std::vector<NodeLook> nodes(bool byFunction) const;
+  /// What a search found ("isSearchResult") stands out from the rest.
+  std::vector<EdgeLook> searchedEdges() const;
+  std::vector<NodeLook> searchedNodes() const;
+  /// The colours of edges() that stand for no value, as far as there are such edges.
+  std::vector<ColorScale::Swatch> swatches() const;
+
+private:
+  std::vector<bool> searchResults(NetData::EleType kind) const;
+
+  const NetData &m_net;
+  const NetGeometry &m_geometry;
+  const DrawValues &m_values;
+  const PlotSettings &m_settings;
+};

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <model/netdata.h>
+#include <view/netplot.h>
+
+#include <qwt_plot_picker.h>
+
+class QAction;
+
+/// Turns clicks, drags and keys on the plot into the selection of the network.
+class NetPicker : public QwtPlotPicker {
+  Q_OBJECT
+public:
+  /// What the press of a button began.
+  enum class Mode { Pick = 0, PickMore = 1, Rectangle = 2, RectangleMore = 3, None = 99 };
+
+  NetPicker(NetPlot &plot, NetData &net);
+
+  Mode mode() const { return m_mode; }
+  QAction *selectAllAction() const { return m_selectAll; }
+
+  void selectAll();
+  /// Selects one element by name; false when there is none.
+  bool markElement(const QString &name);
+  void select(const std::vector<NetGeometry::Item> &items, bool more);
+  void clearSelection();
+  /// Shows the selection that the network holds, for instance after somebody else has changed it.
+  void showSelection();
+  /// What is drawn near the place on the canvas, the nearest first.
+  std::vector<NetGeometry::Item> itemsAt(const QPoint &position) const;
+
+signals:
+  void selectionChanged();
+  void picked(const QString &name);    ///< by a click; the current element
+  void activated(const QString &name); ///< by a double click
+
+protected:
+  void widgetMousePressEvent(QMouseEvent *event) override;
+  void widgetMouseReleaseEvent(QMouseEvent *event) override;
+  void widgetMouseDoubleClickEvent(QMouseEvent *event) override;
+  void widgetMouseMoveEvent(QMouseEvent *event) override;
+  void widgetLeaveEvent(QEvent *event) override;
+  void widgetKeyPressEvent(QKeyEvent *event) override;
+  void widgetKeyReleaseEvent(QKeyEvent *event) override;
+  bool end(bool ok) override;
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+  static Mode modeFor(Qt::MouseButton button, Qt::KeyboardModifiers keys);
+  void pick(const QPoint &position);
+  void pickRectangle(const QRectF &area);
+  void add(NetGeometry::Item item);
+  QString nameOf(NetGeometry::Item item) const;
+  QString toolTipFor(NetGeometry::Item item) const;
+  void hover(const QPoint &position);
+  void startRectangleZoom(int key);
+  void endRectangleZoom();
+
+  NetPlot &m_plot;
+  NetData &m_net;
+  QAction *m_selectAll;
+  Mode m_mode = Mode::None;
+  QPoint m_pressed;
+  bool m_picksOnRelease = false;
+  bool m_zoomsRectangle = false; ///< with the next drag
+};
