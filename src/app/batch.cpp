@@ -122,6 +122,8 @@ bool applyFunctions(const CommandLine &line, NetPlot &plot, const NetData &net, 
     settings.*f.minimum = PlotSettings::OpenMinimum;
     settings.*f.maximum = PlotSettings::OpenMaximum;
   }
+  if (!line.labels.isEmpty())
+    settings.label_mode = line.labels;
   if (settings == plot.settings())
     return true;
   plot.setSettings(settings);
@@ -160,6 +162,8 @@ int Batch::run(const CommandLine &line) {
       return failed(reason);
     if (!line.extent.isNull())
       control.plot()->zoomer()->zoom(line.extent);
+    if (!line.labels.isEmpty())
+      control.plot()->update().relabelNow();
     if (!exportPlot(*control.plot(), line.picture, line.width > 0 ? line.width : CommandLine::DefaultWidth, &reason))
       return failed(reason);
   }

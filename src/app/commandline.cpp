@@ -1,5 +1,6 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QHash>
 #include <QVector>
 
 #include <app/aboutbox.h>
@@ -36,17 +37,24 @@ struct DrawOptions {
                                  QStringLiteral("PROPERTY")};
   QCommandLineOption nodeSizeBy{QStringLiteral("node-size-by"), tr("Property that gives the nodes their size."),
                                 QStringLiteral("PROPERTY")};
+  QCommandLineOption labels{QStringLiteral("labels"), tr("What labels say."), QStringLiteral("none|name|selected")};
   QCommandLineOption extent{QStringLiteral("extent"), tr("Part of the network to show, in its coordinates."),
                             QStringLiteral("x0,y0,x1,y1")};
 
-  QList<QCommandLineOption> all() const { return {colorBy, widthBy, nodeColorBy, nodeSizeBy, extent}; }
+  QList<QCommandLineOption> all() const { return {colorBy, widthBy, nodeColorBy, nodeSizeBy, labels, extent}; }
 
   /// Why the options make no sense; empty when they do.
   QString take(const QCommandLineParser &parser, CommandLine &line) const {
     const bool isAnySet = parser.isSet(colorBy) || parser.isSet(widthBy) || parser.isSet(nodeColorBy) ||
-                          parser.isSet(nodeSizeBy) || parser.isSet(extent);
+                          parser.isSet(nodeSizeBy) || parser.isSet(labels) || parser.isSet(extent);
     if (isAnySet && line.picture.isEmpty())
-      return tr("--color-by, --width-by, --node-color-by, --node-size-by and --extent go with --export.");
+      return tr("--color-by, --width-by, --node-color-by, --node-size-by, --labels and --extent go with --export.");
+    static const QHash<QString, QString> Modes{{QStringLiteral("none"), QStringLiteral("no label")},
+                                               {QStringLiteral("name"), QStringLiteral("name only")},
+                                               {QStringLiteral("selected"), QStringLiteral("selected properties")}};
+    line.labels = Modes.value(parser.value(labels));
+    if (parser.isSet(labels) && line.labels.isEmpty())
+      return tr("--labels takes none, name or selected.");
     line.colorBy = parser.value(colorBy);
     line.widthBy = parser.value(widthBy);
     line.nodeColorBy = parser.value(nodeColorBy);

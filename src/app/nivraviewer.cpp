@@ -6,8 +6,7 @@
 #include <model/units.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
-#include <view/plotsaver.h>
-#include <view/plotzoom.h>
+#include <view/viewfuncdialog.h>
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -55,7 +54,14 @@ NivraViewer::NivraViewer(QWidget *parent)
   QCoreApplication::processEvents();
   addAction(m_ui->actionSearch);
   connect(m_ui->menuView, &QMenu::aboutToShow, this, &NivraViewer::fillViewMenu);
-  connect(m_control->plot(), &NetPlot::contextMenuRequested, this, &NivraViewer::fillPlotMenu);
+  connect(m_control.get(), &NetVisControl::selectionChanged, this, &NivraViewer::showSelection);
+  connect(m_control.get(), &NetVisControl::elementAction, this, [this](const QString &name, NetPicker::EleAction action) {
+    if (action == NetPicker::EleAction::Mark)
+      setCurrentElement(name); // the picker has marked it already
+    else
+      elementAction(name, action);
+  });
+  connect(m_control.get(), &NetVisControl::configureDrawRequested, this, &NivraViewer::showDrawConfiguration);
   setAcceptDrops(true);
   GeneralSettings::instance().load();
   m_control->clear();
@@ -125,6 +131,7 @@ void NivraViewer::openWorkspace(const QString &path) {
   setBusy(true);
   const bool done = readWorkspace();
   setBusy(false);
+  createDrawDock();
   showTitle();
   constexpr int ShownMs = 20000;
   if (done)
@@ -136,6 +143,7 @@ void NivraViewer::openWorkspace(const QString &path) {
 bool NivraViewer::readWorkspace() {
   m_control->clear();
   m_net.clear();
+  m_currentElement.clear();
   LoadProgress progress(m_ui->statusbar);
   m_progress = &progress;
   NetworkLoader::ReadOptions options;
@@ -186,6 +194,29 @@ void NivraViewer::createDocks() {
   m_docks.append(console);
 }
 
+void NivraViewer::createDrawDock() {
+  if (m_drawDialog == nullptr) {
+    m_drawDialog = new viewFuncDialog(*m_control->plot());
+    auto *dock = new QDockWidget(m_drawDialog->windowTitle(), this);
+    dock->setObjectName(QStringLiteral("configureDraw"));
+    dock->setWidget(m_drawDialog);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->hide();
+    m_docks.append(dock);
+  }
+  m_drawDialog->setFiles(m_loader.workspace().filePath(QStringLiteral("vfd.csv")),
+                         m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
+  m_drawDialog->refresh();
+}
+
+void NivraViewer::showDrawConfiguration() {
+  if (m_drawDialog == nullptr)
+    return;
+  auto *dock = qobject_cast<QDockWidget *>(m_drawDialog->parentWidget());
+  dock->show();
+  dock->raise();
+}
+
 void NivraViewer::fillViewMenu() {
   m_ui->menuView->clear();
   m_ui->menuView->addSection(tr("Dock Widgets"));
@@ -200,18 +231,40 @@ void NivraViewer::fillViewMenu() {
   m_ui->menuView->addActions(sortedByText(toggles));
 }
 
-void NivraViewer::fillPlotMenu(QMenu *plotMenu) {
-  NetPlot *plot = m_control->plot();
-  PlotZoom *zoomer = plot->zoomer();
-  // The canvas takes the keys; the entries name them.
-  plotMenu->addAction(tr("Show whole network\tHome"), zoomer, &PlotZoom::fitAll);
-  plotMenu->addAction(tr("Back to the last view"), zoomer, [zoomer] { zoomer->zoom(-1); })
-      ->setEnabled(zoomer->zoomRectIndex() > 0);
-  if (plot->hasStragglers())
-    plotMenu->addAction(tr("Show what lies far outside"), plot, &NetPlot::showStragglers);
-  plotMenu->addSeparator();
-  plotMenu->addAction(tr("Save picture …"), plot, [plot] { PlotSaver(*plot).savePlot(QString(), QString(), true); });
-  plotMenu->addAction(tr("Save picture with width …"), plot, [plot] { PlotSaver(*plot).saveWithWidth(); });
+void NivraViewer::elementAction(const QString &eleName, NetPicker::EleAction eleAction) {
+  switch (eleAction) {
+  case NetPicker::EleAction::Mark:
+    m_control->picker()->markElement(eleName);
+    setCurrentElement(eleName);
+    break;
+  case NetPicker::EleAction::ShowInfo:
+    setCurrentElement(eleName);
+    break;
+  default: // other tools are not there yet
+    break;
+  }
+}
+
+void NivraViewer::setCurrentElement(const QString &name) {
+  if (name == m_currentElement)
+    return;
+  m_currentElement = name;
+  emit currentEleChanged(name);
+}
+
+void NivraViewer::showSelection() {
+  const Selection &selection = m_net.selection();
+  QStringList parts;
+  const auto add = [&parts](int count, const QString &one, const QString &many) {
+    if (count > 0)
+      parts.append(count == 1 ? one : many.arg(count));
+  };
+  add(selection.nodes.size(), tr("1 node"), tr("%1 nodes"));
+  add(selection.edges.size(), tr("1 edge"), tr("%1 edges"));
+  add(selection.subnets.size(), tr("1 subnet"), tr("%1 subnets"));
+  add(selection.others.size(), tr("1 other"), tr("%1 others"));
+  const QString names = selection.size() == 1 ? tr(": %1").arg(*selection.names().cbegin()) : QString();
+  m_ui->statusbar->showMessage(parts.isEmpty() ? QString() : tr("Selected %1%2").arg(parts.join(tr(", ")), names));
 }
 
 void NivraViewer::dragEnterEvent(QDragEnterEvent *event) {

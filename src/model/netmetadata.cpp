@@ -13,7 +13,19 @@ static void initResources() {
 
 namespace {
 
-enum Field { Type, Name, LongName, Group, StoredUnit, DisplayUnit, Category, Favourite, Description, FieldCount };
+enum Field {
+  Type,
+  Name,
+  LongName,
+  Group,
+  StoredUnit,
+  DisplayUnit,
+  Category,
+  Favourite,
+  Description,
+  FieldCount,
+  Values = FieldCount
+};
 
 const QString &everyType() {
   static const QString star = QStringLiteral("*");
@@ -102,15 +114,17 @@ Findings NetMetaData::read(QIODevice &device, const QString &fileName) {
       if (fields.first() == QLatin1String("type"))
         continue;
     }
-    if (fields.size() != FieldCount) {
+    if (fields.size() != FieldCount && fields.size() != FieldCount + 1) { // the values may be left out
       found(number, QStringLiteral("%1 fields instead of %2, line left out").arg(fields.size()).arg(int(FieldCount)));
       continue;
     }
     const QStringList types = fields[Type].split(QLatin1Char(','));
     for (const QString &type : types) {
-      const Attribute row{type.trimmed(),     fields[Name],        fields[LongName], fields[Group],
-                          fields[StoredUnit], fields[DisplayUnit], fields[Category], fields[Favourite] == QLatin1String("1"),
-                          fields[Description]};
+      const Attribute row{type.trimmed(),      fields[Name],
+                          fields[LongName],    fields[Group],
+                          fields[StoredUnit],  fields[DisplayUnit],
+                          fields[Category],    fields[Favourite] == QLatin1String("1"),
+                          fields[Description], fields.value(Values).split(QLatin1Char(','), Qt::SkipEmptyParts)};
       const QString reason = m_index.contains(indexKey(row.type, row.property)) ? QStringLiteral("given twice") : fault(row);
       if (reason.isEmpty())
         add(row);

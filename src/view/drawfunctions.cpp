@@ -100,4 +100,6 @@ void chooseDefaults(PlotSettings &settings, const NetData &net) {
   settings.firstColor = Blue;
   settings.lastColor = 0;
   settings.lightness = Darker;
+  constexpr int Dense = 4; // px: people want to see many labels, and these have a ground of their own
+  settings.labelMargin = Dense;
 }

@@ -121,6 +121,10 @@ QString LabelContents::formatted(double value, const QString &unit) {
     value *= 1000.0;
     shownUnit.remove(0, 5);
   }
+  if (!unit.isEmpty() && std::abs(value) >= std::pow(10.0, Digits) && std::isfinite(value)) { // a number alone may be a name
+    const double step = std::pow(10.0, std::floor(std::log10(std::abs(value))) + 1.0 - Digits);
+    value = std::round(value / step) * step;
+  }
   constexpr double Largest = 1e9;
   constexpr double Smallest = 1e-4;
   const double size = std::abs(value);

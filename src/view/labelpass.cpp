@@ -110,8 +110,12 @@ void LabelPass::collectNodes() {
 
 void LabelPass::collectPipes() {
   const NetGeometry &geometry = m_drawing.geometry;
+  constexpr std::size_t Many = 3000; // among so many lines there is no room without one
+  std::size_t lines = 0;
   m_drawing.edges.forEachVisible(m_projection, [&](int edge, const QLineF &drawn, double width) {
     const NetGeometry::Edge &record = geometry.edges()[static_cast<std::size_t>(edge)];
+    if (++lines <= Many)
+      m_placement.addLine(drawn, width);
     if (record.type != 'p')
       return; // labelled at its symbol
     const NetGeometry::Node &a = geometry.nodes()[static_cast<std::size_t>(record.node1)];

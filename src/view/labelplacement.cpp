@@ -13,7 +13,17 @@ LabelPlacement::LabelPlacement(const QRectF &canvas, double margin)
     : m_canvas(canvas)
     , m_margin(std::max(0.0, margin))
     , m_labels(canvas)
-    , m_obstacles(canvas) {}
+    , m_obstacles(canvas)
+    , m_lines(canvas) {}
+
+void LabelPlacement::addLine(const QLineF &line, double width) {
+  constexpr double Degrees = 180.0 / M_PI;
+  QLineF visible = line;
+  if (!clipLine(visible, m_canvas))
+    return;
+  m_hasLines = true;
+  m_lines.take({visible.center(), {visible.length(), width}, std::atan2(visible.dy(), visible.dx()) * Degrees});
+}
 
 bool LabelPlacement::keep(const LabelCandidate &candidate, const LabelSpot &spot) {
   const TurnedBox box = candidate.box(spot);
@@ -27,9 +37,9 @@ bool LabelPlacement::place(const LabelCandidate &candidate, LabelSpot &spot) {
   return candidate.isLine ? tryLine(candidate, spot) : tryPoint(candidate, spot);
 }
 
-bool LabelPlacement::tryAt(const LabelCandidate &candidate, const LabelSpot &spot) {
+bool LabelPlacement::tryAt(const LabelCandidate &candidate, const LabelSpot &spot, bool sparesLines) {
   const TurnedBox box = candidate.box(spot);
-  return m_canvas.contains(box.bounds()) && keep(candidate, spot);
+  return m_canvas.contains(box.bounds()) && (!sparesLines || m_lines.isFree(box)) && keep(candidate, spot);
 }
 
 bool LabelPlacement::tryLine(const LabelCandidate &candidate, LabelSpot &spot) {
@@ -52,14 +62,17 @@ bool LabelPlacement::tryLine(const LabelCandidate &candidate, LabelSpot &spot) {
     spot.angle -= 2.0 * RightAngle; // upright
   else if (spot.angle <= -RightAngle)
     spot.angle += 2.0 * RightAngle;
-  const double distance = candidate.clearance + Gap + candidate.size.height() * 0.5;
+  constexpr double OwnLine = 3.0; // px, so that its cells do not count as covered
+  const double distance = candidate.clearance + OwnLine + Gap + candidate.size.height() * 0.5;
   const double up = normal.y() <= 0.0 ? 1.0 : -1.0; // above the line first
-  for (const double share : {0.5, 0.3, 0.7}) {
-    spot.along = from + (to - from) * share;
-    for (const double side : {up, -up}) {
-      spot.offset = normal * distance * side;
-      if (tryAt(candidate, spot))
-        return true;
+  for (const bool sparesLines : {true, false}) {
+    for (const double share : {0.5, 0.3, 0.7}) {
+      spot.along = from + (to - from) * share;
+      for (const double side : {up, -up}) {
+        spot.offset = normal * distance * side;
+        if (sparesLines <= m_hasLines && tryAt(candidate, spot, sparesLines))
+          return true;
+      }
     }
   }
   return false;
@@ -86,10 +99,12 @@ bool LabelPlacement::tryPoint(const LabelCandidate &candidate, LabelSpot &spot) 
                              {x, y},
                              {halfWidth * 0.5, -y},
                              {-halfWidth * 0.5, -y}};
-  for (const QPointF &offset : offsets) {
-    spot.offset = offset;
-    if (tryAt(candidate, spot))
-      return true;
+  for (const bool sparesLines : {true, false}) {
+    for (const QPointF &offset : offsets) {
+      spot.offset = offset;
+      if (sparesLines <= m_hasLines && tryAt(candidate, spot, sparesLines))
+        return true;
+    }
   }
   return false;
 }

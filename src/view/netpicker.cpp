@@ -248,6 +248,11 @@ bool NetPicker::markElement(const QString &name) {
   return true;
 }
 
+void NetPicker::choose(NetGeometry::Item item) {
+  select({item}, false);
+  emit picked(nameOf(item));
+}
+
 void NetPicker::clearSelection() {
   select({}, false);
 }

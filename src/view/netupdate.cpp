@@ -39,6 +39,7 @@ NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
   for (QwtPlotItem *layer :
        std::initializer_list<QwtPlotItem *>{&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels})
     layer->attach(plot.plot());
+  m_symbols.setSubnets(&m_subnets);
 }
 
 void NetUpdate::setNetData(const NetData *net) {
@@ -198,6 +199,13 @@ void NetUpdate::placeLabels() {
   LabelPass::Result result = pass.run(isSameScale ? m_labels.labels() : std::vector<Label>());
   m_labels.setLabels(std::move(result.labels), units);
   m_unplaced = std::move(result.unplaced);
+}
+
+void NetUpdate::refreshNow() {
+  if (m_labels.labels().empty())
+    requestPixtest(-1);
+  else
+    runPixtest(Pixtest::Labels::With);
 }
 
 void NetUpdate::relabelNow() {

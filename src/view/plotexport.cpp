@@ -50,7 +50,24 @@ private:
 void layOut(NetPlot &plot) {
   QImage scrap(1, 1, QImage::Format_RGB32);
   plot.render(&scrap);
+  plot.update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  plot.update().refreshNow();
 }
+
+/// Documents do not show what lies over the canvas of the screen, so the plot draws the selection itself.
+class SelectionInDocument {
+public:
+  explicit SelectionInDocument(NetPlot &plot)
+      : m_plot(plot) {
+    m_plot.selection().setVisible(true);
+  }
+  ~SelectionInDocument() { m_plot.selection().setVisible(false); }
+  SelectionInDocument(const SelectionInDocument &) = delete;
+  SelectionInDocument &operator=(const SelectionInDocument &) = delete;
+
+private:
+  NetPlot &m_plot;
+};
 
 bool writePixels(NetPlot &plot, QIODevice &device, const QByteArray &format, QString &reason) {
   QImage image(plot.size(), QImage::Format_RGB32);
@@ -76,6 +93,7 @@ QSizeF pageSize(NetPlot &plot) {
 }
 
 bool writeSvg(NetPlot &plot, QIODevice &device) {
+  const SelectionInDocument selection(plot);
   QSvgGenerator generator;
   generator.setOutputDevice(&device);
   generator.setResolution(DocumentDpi);
@@ -86,6 +104,7 @@ bool writeSvg(NetPlot &plot, QIODevice &device) {
 }
 
 bool writePdf(NetPlot &plot, QIODevice &device) {
+  const SelectionInDocument selection(plot);
   QPdfWriter writer(&device);
   writer.setResolution(DocumentDpi);
   writer.setPageSize(QPageSize(pageSize(plot), QPageSize::Millimeter));
@@ -152,9 +171,13 @@ bool exportPlot(NetPlot &plot, const QString &path, int width, QString *error) {
   } else {
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
-      const TemporarySize size(plot, width);
+      plot.selection().setHovered(std::nullopt);
+      {
+        const TemporarySize size(plot, width);
+        layOut(plot);
+        isDone = writeFormat(plot, file, format, reason) && file.error() == QFile::NoError && file.commit();
+      }
       layOut(plot);
-      isDone = writeFormat(plot, file, format, reason) && file.error() == QFile::NoError && file.commit();
     }
     if (!isDone && (reason.isEmpty() || file.error() != QFile::NoError))
       reason = file.errorString(); // says more than the writer of the format, such as that the disk is full

@@ -44,6 +44,8 @@ std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) const {
 }
 
 int StationSymbols::find(const QString &key) {
+  if (key.isEmpty() || key.contains(QLatin1Char('/')))
+    return -1; // no key, but perhaps a way out of the resources
   const auto known = m_numbers.constFind(key);
   if (known != m_numbers.constEnd())
     return *known;

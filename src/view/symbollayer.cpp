@@ -1,3 +1,4 @@
+#include <view/subnetlayer.h>
 #include <view/symbollayer.h>
 
 #include <algorithm>
@@ -28,7 +29,10 @@ void SymbolLayer::setTable(const SymbolTable &table) {
 
 int SymbolLayer::symbolOf(const NetGeometry::Edge &edge) {
   const QString type(QLatin1Char(edge.type));
-  int symbol = -1;
+  const PropertyKey own = PropertyKey::find("vis.symbol");
+  int symbol = own.isNull() ? -1 : m_symbols.find(edge.source->value(own).trimmed());
+  if (symbol >= 0)
+    return symbol;
   if (edge.isInactive)
     symbol = m_symbols.find(type + QStringLiteral("_off"));
   else if (edge.isBypass)
@@ -123,6 +127,13 @@ std::vector<SymbolLayer::Placed> SymbolLayer::place(const Projection &projection
     return placed;
   const double margin = m_size * 2.0; // lanes move symbols a little
   const QRectF area = projection.canvas().adjusted(-m_size, -m_size, m_size, m_size);
+  std::vector<QRectF> boxes;
+  if (m_subnets != nullptr)
+    for (const SubnetLayer::Placed &subnet : m_subnets->place(projection))
+      boxes.push_back(subnet.box);
+  const auto isBehindBox = [&boxes](const QPointF &center) {
+    return std::any_of(boxes.begin(), boxes.end(), [&center](const QRectF &box) { return box.contains(center); });
+  };
   std::vector<std::pair<int, QPointF>> visible; // record and place
   m_index.query(projection.visible(margin), [&](int first, int last) {
     for (int i = first; i < last; ++i) {
@@ -130,7 +141,7 @@ std::vector<SymbolLayer::Placed> SymbolLayer::place(const Projection &projection
       if (!record.isVisible)
         continue;
       const QPointF center = centerOf(record, projection);
-      if (area.contains(center))
+      if (area.contains(center) && !isBehindBox(center))
         visible.emplace_back(i, center);
     }
   });

@@ -4,6 +4,8 @@
 #include <QFontMetricsF>
 #include <QPainterPath>
 
+#include <algorithm>
+
 namespace {
 
 constexpr double TextZ = 40.0;
@@ -52,7 +54,11 @@ std::vector<TextBoxLayer::Placed> TextBoxLayer::place(const Projection &projecti
   for (const Record &record : m_records) {
     QRectF area(QPointF(), record.size);
     area.moveCenter(projection.map(record.x, record.y));
-    if (projection.canvas().contains(area.center()) && grid.takeArea(area))
+    if (!projection.canvas().contains(area.center()))
+      continue;
+    // What would be cut at the side of the canvas is moved in.
+    area.moveLeft(std::max(std::min(area.left(), projection.canvas().right() - area.width()), projection.canvas().left()));
+    if (grid.takeArea(area))
       placed.push_back({&record, area});
   }
   return placed;

@@ -23,7 +23,8 @@ struct CommandLine {
   QString widthBy;
   QString nodeColorBy;
   QString nodeSizeBy;
-  QRectF extent; ///< what the picture shows, in plot coordinates; null for everything
+  QString labels; ///< label mode of the plot settings, empty to leave it; labels are then placed wherever there is room
+  QRectF extent;  ///< what the picture shows, in plot coordinates; null for everything
   QString text;
 
   static constexpr int DefaultWidth = 1600;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <model/netdata.h>
+#include <view/netpicker.h>
 
 #include <QMainWindow>
 
@@ -10,6 +11,7 @@
 class LoadProgress;
 class NetVisControl;
 class QDockWidget;
+class viewFuncDialog;
 
 namespace Ui {
 class NivraViewer;
@@ -28,7 +30,11 @@ public:
   NetVisControl *visControl() const { return m_control.get(); }
   static QString openDialogStart(const QString &applicationDir);
 
+signals:
+  void currentEleChanged(const QString &element);
+
 public slots:
+  void elementAction(const QString &eleName, NetPicker::EleAction eleAction);
   void on_actionAboutNivra_triggered();
   void on_actionExit_triggered();
   void on_actionOpen_triggered();
@@ -45,7 +51,10 @@ private:
   bool askForIncludeLists(NetworkLoader::ReadOptions &options);
   void createDocks();
   void fillViewMenu();
-  void fillPlotMenu(QMenu *plotMenu);
+  void createDrawDock();
+  void showDrawConfiguration();
+  void setCurrentElement(const QString &name);
+  void showSelection();
   void showTitle();
   void setBusy(bool busy);
 
@@ -54,5 +63,7 @@ private:
   std::unique_ptr<NetVisControl> m_control;
   NetworkLoader m_loader;
   QList<QDockWidget *> m_docks;
+  viewFuncDialog *m_drawDialog = nullptr; ///< in its dock, made with the first workspace
+  QString m_currentElement;
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read
 };

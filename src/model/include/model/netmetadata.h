@@ -24,6 +24,7 @@ public:
     QString category;
     bool favourite = false;
     QString description;
+    QStringList values; ///< that a text may have; empty when it may be anything
   };
 
   static const NetMetaData &instance();

@@ -41,8 +41,12 @@ public:
     m_index.query(projection.visible(0.0), [&](int first, int last) {
       for (int i = first; i < last; ++i) {
         const Record &record = m_records[static_cast<std::size_t>(i)];
-        if (record.pen >= 0)
-          visit(record.edge, way(record, projection).middle(), m_pens[static_cast<std::size_t>(record.pen)].widthF());
+        if (record.pen < 0)
+          continue;
+        const QLineF line = way(record, projection).middle();
+        QLineF seen = line;
+        if (clipLine(seen, projection.canvas()))
+          visit(record.edge, line, m_pens[static_cast<std::size_t>(record.pen)].widthF());
       }
     });
   }

@@ -34,6 +34,8 @@ public:
   LabelPlacement(const QRectF &canvas, double margin);
 
   void addObstacle(const QRectF &area) { m_obstacles.take({area.center(), area.size(), 0.0}); }
+  /// A line that labels had better not cover.
+  void addLine(const QLineF &line, double width);
   /// Takes the spot for a label that stood there before; false when there is no longer room.
   bool keep(const LabelCandidate &candidate, const LabelSpot &spot);
   /// Finds a spot; false when there is none.
@@ -42,10 +44,12 @@ public:
 private:
   bool tryLine(const LabelCandidate &candidate, LabelSpot &spot);
   bool tryPoint(const LabelCandidate &candidate, LabelSpot &spot);
-  bool tryAt(const LabelCandidate &candidate, const LabelSpot &spot);
+  bool tryAt(const LabelCandidate &candidate, const LabelSpot &spot, bool sparesLines);
 
   QRectF m_canvas;
   double m_margin;
   OccupancyGrid m_labels;
   OccupancyGrid m_obstacles;
+  OccupancyGrid m_lines;
+  bool m_hasLines = false;
 };

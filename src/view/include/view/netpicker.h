@@ -14,6 +14,10 @@ public:
   /// What the press of a button began.
   enum class Mode { Pick = 0, PickMore = 1, Rectangle = 2, RectangleMore = 3, None = 99 };
 
+  /// What is to be done with an element.
+  enum class EleAction { ShowInfo = 0, Mark = 1, EditProperties = 2, OpenCharacteristics = 3 };
+  Q_ENUM(EleAction)
+
   NetPicker(NetPlot &plot, NetData &net);
 
   Mode mode() const { return m_mode; }
@@ -24,6 +28,8 @@ public:
   bool markElement(const QString &name);
   void select(const std::vector<NetGeometry::Item> &items, bool more);
   void clearSelection();
+  /// Selects the element as a click on it does.
+  void choose(NetGeometry::Item item);
   /// Shows the selection that the network holds, for instance after somebody else has changed it.
   void showSelection();
   /// What is drawn near the place on the canvas, the nearest first.

@@ -48,6 +48,8 @@ public:
   /// they are negative.
   void requestPixtest(int delay, bool quick = true) { m_pixtest.requestPixtest(delay, quick); }
   Pixtest &pixtest() { return m_pixtest; }
+  /// The pass at once for a plot that has another size: labels that stand are placed again, whatever the settings say.
+  void refreshNow();
   /// Places labels at once, whatever the settings say.
   void relabelNow();
   /// Finds the symbols that lie in the visible area.

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <view/netpicker.h>
 #include <view/netplot.h>
 
 #include <QObject>
 #include <QPointer>
 
 class NetData;
+class PlotMenu;
 
 /// Brings a network and its plot together.
 class NetVisControl : public QObject {
@@ -16,17 +18,37 @@ public:
   ~NetVisControl() override;
 
   const QString &name() const { return m_name; }
+  NetData &net() const { return m_net; }
   /// Owned by this object until a window takes it as its child.
   NetPlot *plot() const { return m_plot; }
+  NetPicker *picker() const { return m_picker; }
 
   /// Forgets what is drawn; to be called before the network changes.
   void clear();
-  /// Draws the network with the settings of the file or, where there is none, with settings that suit the network. The
-  /// folder "symbols" beside the file may hold symbols of the user's own.
+  /// Draws the network with the settings of the file or, where there is none, with settings that suit the network. Beside
+  /// the file may stand the label table "vfd.csv" and the folder "symbols" with symbols of the user's own.
   void showNetData(const QString &plotSettingsPath);
+  /// Brings an element into the middle of the view; false when it is not drawn.
+  bool showElement(const QString &name);
+  /// Keeps views to come back to in the plot settings of the case.
+  void setBookmarks(const QString &bookmarks);
+
+signals:
+  void selectionChanged();
+  void elementAction(const QString &name, NetPicker::EleAction action);
+  void editPropertiesRequested(const QStringList &names);
+  void openCharacteristicsRequested(const QStringList &names);
+  void configureDrawRequested();
 
 private:
+  friend class PlotMenu;
+  /// Whether anybody listens to the signal; entries that would do nothing are greyed.
+  bool isWanted(const QMetaMethod &signal) const { return isSignalConnected(signal); }
+
   NetData &m_net;
   QString m_name;
+  QString m_settingsPath;
   QPointer<NetPlot> m_plot;
+  NetPicker *m_picker; ///< belongs to the canvas of the plot
+  std::unique_ptr<PlotMenu> m_menu;
 };

@@ -26,12 +26,14 @@ public:
   void zoomIn(const QPointF &point, double factor);
   void zoomOut(const QPointF &point, double factor);
   void fitAll() { zoom(0); }
+  /// Fits the whole network to the canvas as it is now and forgets the stack.
+  void fitBase();
   /// Joins the rectangle to the zoom base, goes there and takes the limits from it.
   void resetZoomBase(const QRectF &rect);
   /// The views that a person rested at.
   void goBack();
   void goForward();
-  bool canGoBack() const { return m_history.canGoBack(); }
+  bool canGoBack() const { return m_rest.isActive() || m_history.canGoBack(); }
   bool canGoForward() const { return m_history.canGoForward(); }
 
   /// Between them zooming is one movement: one entry of the stack, and slow drawings are moved as a picture.
@@ -63,7 +65,6 @@ protected:
 
 private:
   void cutStack();
-  void fitBase();
   void shift(double horizontal, double vertical);
   /// Gives both axes one scale about their centres; false when nothing is to be done.
   bool applyAxesRatio();

@@ -9,6 +9,8 @@
 
 #include <qwt_plot_item.h>
 
+class SubnetLayer;
+
 /// The symbols of stations: edges other than pipes and drives, and the figures that elements bring themselves. Those that
 /// would overlap share one symbol, that of the most important, with their number.
 class SymbolLayer : public QwtPlotItem {
@@ -19,6 +21,8 @@ public:
   void setTable(const SymbolTable &table);
   void setFigureFolder(const QString &folder) { m_figures.setFolder(folder); }
   void setStations(const NetGeometry &geometry);
+  /// Symbols behind the boxes of subnets are not drawn. It must live as long as this layer.
+  void setSubnets(const SubnetLayer *subnets) { m_subnets = subnets; }
   /// The size of the symbols, and of those of single element types (by type code) that have another.
   void setSize(double pixels) { m_size = pixels; }
   void setSizes(const QHash<QString, double> &sizes) { m_sizes = sizes; }
@@ -68,6 +72,7 @@ private:
   Figures m_figures;
   std::vector<Record> m_records; ///< in the order of the index
   SpatialIndex m_index;
+  const SubnetLayer *m_subnets = nullptr;
   QHash<QString, double> m_sizes;
   double m_size = 20.0;
 };

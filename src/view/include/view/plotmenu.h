@@ -1,0 +1,26 @@
+#pragma once
+
+#include <view/netpicker.h>
+
+class NetVisControl;
+class QMenu;
+
+/// The entries of the context menu of the plot: what can be done with the selection, with what lies under the cursor, and
+/// with the view.
+class PlotMenu {
+public:
+  explicit PlotMenu(NetVisControl &control);
+
+  void fill(QMenu &contextMenu) const;
+
+private:
+  void addCrowd(QMenu &contextMenu) const;
+  void addSelection(QMenu &contextMenu) const;
+  void addSubnet(QMenu &contextMenu) const;
+  void addSubnetEntries(QMenu &parent, const QString &subnet) const;
+  void addView(QMenu &contextMenu) const;
+  void addBookmarks(QMenu &contextMenu) const;
+  void addLabels(QMenu &contextMenu) const;
+
+  NetVisControl &m_control;
+};

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <view/functionrow.h>
+#include <view/plotsettings.h>
+
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+class LabelTableEditor;
+class NetPlot;
+class QPushButton;
+
+namespace Ui {
+class viewFuncDialog;
+}
+
+/// "Configure Draw": which draw functions colour and size the elements, how the scales look, and how labels do.
+class viewFuncDialog : public QWidget {
+  Q_OBJECT
+public:
+  explicit viewFuncDialog(NetPlot &plot, QWidget *parent = nullptr);
+  ~viewFuncDialog() override;
+
+  /// Where "Apply and Save" writes to.
+  void setFiles(const QString &labelTable, const QString &plotSettings);
+  /// Shows how the plot is drawn now.
+  void refresh();
+  /// Takes all bounds of the draw functions from the data.
+  void resetMinMaxColorFuncValues();
+
+  static QStringList edgeFunctions();
+
+public slots:
+  void on_apply_clicked();
+  void on_applyAndSave_clicked();
+  void on_load_clicked();
+  void on_resetMinMax_clicked() { resetMinMaxColorFuncValues(); }
+  void on_addTemplate_clicked();
+  void on_applyTemplate_clicked();
+  void on_deleteRow_clicked();
+
+private:
+  enum Row { EdgeColor, EdgeWidth, NodeColor, NodeSize, Rows };
+  struct ColorButton {
+    QPushButton *button;
+    QColor PlotSettings::*color;
+  };
+
+  bool apply();
+  bool takeFunctions(PlotSettings &settings);
+  bool takeBounds(const FunctionRow &row, FunctionRow::Values &values);
+  void takeForm(PlotSettings &settings) const;
+  void showForm(const PlotSettings &settings);
+  void showUnit(Row row);
+  void fillChoices();
+  void setUpColors();
+
+  NetPlot &m_plot;
+  std::unique_ptr<Ui::viewFuncDialog> m_ui;
+  std::array<FunctionRow *, Rows> m_rows{};
+  std::vector<ColorButton> m_colors;
+  LabelTableEditor *m_labels;
+  QString m_labelTablePath;
+  QString m_plotSettingsPath;
+};

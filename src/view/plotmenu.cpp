@@ -1,0 +1,224 @@
+#include <base/nivramsg.h>
+#include <model/elementtypes.h>
+#include <view/netviscontrol.h>
+#include <view/plotmenu.h>
+#include <view/plotsaver.h>
+#include <view/plotzoom.h>
+
+#include <QDialog>
+#include <QInputDialog>
+#include <QListWidget>
+#include <QMenu>
+#include <QMetaMethod>
+#include <QRegularExpression>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int MostEntries = 30; // a menu longer than the screen helps nobody
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("PlotMenu", text);
+}
+
+/// In a menu an ampersand would mark a key.
+QString menuText(QString text) {
+  return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+QStringList sorted(const Selection::Names &names) {
+  QStringList list = names.values();
+  list.sort(Qt::CaseInsensitive);
+  return list;
+}
+
+/// What belongs to the subnet: the elements that its property "elements" lists.
+QStringList elementsOf(const element &subnet) {
+  QStringList names;
+  for (const QString &name : subnet.value(QStringLiteral("elements")).split(QLatin1Char(';'), Qt::SkipEmptyParts))
+    names.append(name.trimmed());
+  return names;
+}
+
+bool isActive(const element &e) {
+  const QString state = e.value(QStringLiteral("state")).toLower();
+  return state != QLatin1String("off") && state != QLatin1String("closed") && state != QLatin1String("inactive");
+}
+
+} // namespace
+
+PlotMenu::PlotMenu(NetVisControl &control)
+    : m_control(control) {}
+
+void PlotMenu::fill(QMenu &contextMenu) const {
+  addCrowd(contextMenu);
+  addSelection(contextMenu);
+  addSubnet(contextMenu);
+  contextMenu.addAction(m_control.picker()->selectAllAction());
+  contextMenu.addSeparator();
+  addView(contextMenu);
+  addBookmarks(contextMenu);
+  addLabels(contextMenu);
+  contextMenu.addSeparator();
+  contextMenu.addAction(tr("Configure drawing …"), &m_control, &NetVisControl::configureDrawRequested)
+      ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::configureDrawRequested)));
+  NetPlot *plot = m_control.plot();
+  contextMenu.addAction(tr("Save picture …"), plot, [plot] { PlotSaver(*plot).savePlot(QString(), QString(), true); });
+  contextMenu.addAction(tr("Save picture with width …"), plot, [plot] { PlotSaver(*plot).saveWithWidth(); });
+}
+
+void PlotMenu::addCrowd(QMenu &contextMenu) const {
+  const std::vector<NetGeometry::Item> items = m_control.picker()->itemsAt(m_control.plot()->menuPosition());
+  if (items.size() < 2)
+    return;
+  QMenu *crowd = contextMenu.addMenu(tr("Select here (%1)").arg(items.size()));
+  const NetGeometry &geometry = m_control.plot()->update().geometry();
+  int count = 0;
+  for (const NetGeometry::Item item : items) {
+    if (++count > MostEntries)
+      break;
+    const element &source = *geometry.source(item);
+    const ElementType *type = ElementTypes::byCode(source.value(QStringLiteral("type")));
+    const QString text = source.value(QStringLiteral("name")) + QStringLiteral("\t") + (type ? type->longName : QString());
+    NetPicker *picker = m_control.picker();
+    QObject::connect(crowd->addAction(menuText(text)), &QAction::triggered, picker,
+                     [picker, item] { picker->choose(item); });
+  }
+}
+
+void PlotMenu::addSelection(QMenu &contextMenu) const {
+  const QStringList names = sorted(m_control.net().selection().names());
+  QMenu *show = contextMenu.addMenu(tr("Show"));
+  QMenu *info = contextMenu.addMenu(tr("Show Info"));
+  show->setEnabled(!names.isEmpty());
+  info->setEnabled(!names.isEmpty() && m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::elementAction)));
+  for (const QString &name : names.mid(0, MostEntries)) {
+    NetVisControl *control = &m_control;
+    QObject::connect(show->addAction(menuText(name)), &QAction::triggered, control,
+                     [control, name] { control->showElement(name); });
+    QObject::connect(info->addAction(menuText(name)), &QAction::triggered, control,
+                     [control, name] { emit control->elementAction(name, NetPicker::EleAction::ShowInfo); });
+  }
+}
+
+void PlotMenu::addSubnet(QMenu &contextMenu) const {
+  const QStringList subnets = sorted(m_control.net().selection().subnets);
+  if (subnets.isEmpty())
+    return;
+  NivraMsg::debug(QStringLiteral("sel has sub"));
+  addSubnetEntries(*contextMenu.addMenu(tr("Subnet")), subnets.first());
+}
+
+void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name) const {
+  QMenu *edit = parent.addMenu(tr("Edit Properties of"));
+  QMenu *open = parent.addMenu(tr("Open Characteristics of"));
+  const element *subnet = m_control.net().assembledSubnets().find(name);
+  if (subnet == nullptr) {
+    for (QMenu *entries : {edit, open})
+      entries->addAction(tr("<Could not find subnet>!"));
+    return;
+  }
+  static const QRegularExpression Machines(QStringLiteral("^c$|^d$|^r$|^m$"));
+  static const QRegularExpression WithCharacteristics(QStringLiteral("^c$|^d$"));
+  NetVisControl *control = &m_control;
+  const auto addEntries = [control, subnet](QMenu &entries, const QRegularExpression &types, auto signal,
+                                            const QString &otherwise) {
+    QStringList all;
+    QStringList active;
+    for (const QString &elementName : elementsOf(*subnet)) {
+      const element *e = control->net().element(elementName);
+      if (e == nullptr || !types.match(e->value(QStringLiteral("type"))).hasMatch())
+        continue;
+      all.append(elementName);
+      if (isActive(*e))
+        active.append(elementName);
+    }
+    const auto add = [&](const QString &text, const QStringList &names) {
+      QObject::connect(entries.addAction(menuText(text)), &QAction::triggered, control,
+                       [control, signal, names] { emit(control->*signal)(names); });
+    };
+    if (all.isEmpty()) {
+      entries.addAction(otherwise);
+      return;
+    }
+    add(tr("ALL of") + QLatin1Char(' ') + subnet->value(QStringLiteral("name")), all);
+    add(tr("ALL active of") + QLatin1Char(' ') + subnet->value(QStringLiteral("name")), active);
+    entries.addSeparator();
+    for (const QString &elementName : all.mid(0, MostEntries))
+      add(elementName, {elementName});
+  };
+  addEntries(*edit, Machines, &NetVisControl::editPropertiesRequested, tr("<empty element list>!"));
+  addEntries(*open, WithCharacteristics, &NetVisControl::openCharacteristicsRequested, tr("<empty characteristics list>!"));
+  edit->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::editPropertiesRequested)));
+  open->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
+}
+
+void PlotMenu::addView(QMenu &contextMenu) const {
+  NetPlot *plot = m_control.plot();
+  PlotZoom *zoomer = plot->zoomer();
+  // The canvas takes the keys; the entries name them.
+  contextMenu.addAction(tr("Show whole network\tHome"), zoomer, &PlotZoom::fitAll);
+  contextMenu.addAction(tr("Back to the last view\tAlt+Left"), zoomer, &PlotZoom::goBack)->setEnabled(zoomer->canGoBack());
+  contextMenu.addAction(tr("Forward to the next view\tAlt+Right"), zoomer, &PlotZoom::goForward)
+      ->setEnabled(zoomer->canGoForward());
+  if (plot->hasStragglers())
+    contextMenu.addAction(tr("Show what lies far outside"), plot, &NetPlot::showStragglers);
+}
+
+void PlotMenu::addBookmarks(QMenu &contextMenu) const {
+  NetVisControl *control = &m_control;
+  NetPlot *plot = m_control.plot();
+  QMenu *bookmarks = contextMenu.addMenu(tr("Bookmarks"));
+  const std::vector<ViewBookmarks::Bookmark> known = ViewBookmarks::parse(plot->settings().bookmarks);
+  for (const ViewBookmarks::Bookmark &bookmark : known)
+    bookmarks->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->zoomer()->zoom(view); });
+  if (!known.empty())
+    bookmarks->addSeparator();
+  bookmarks->addAction(tr("Bookmark this view …"), plot, [control, plot, known] {
+    bool isTaken = false;
+    const QString name = QInputDialog::getText(plot, tr("Bookmark"), tr("Name of this view:"), QLineEdit::Normal,
+                                               tr("View %1").arg(known.size() + 1), &isTaken)
+                             .trimmed();
+    if (!isTaken || name.isEmpty())
+      return;
+    std::vector<ViewBookmarks::Bookmark> more = known;
+    more.erase(std::remove_if(more.begin(), more.end(), [&name](const auto &bookmark) { return bookmark.name == name; }),
+               more.end());
+    more.push_back({name, plot->zoomer()->zoomRect()});
+    control->setBookmarks(ViewBookmarks::format(more));
+  });
+  QMenu *forget = bookmarks->addMenu(tr("Forget"));
+  forget->setEnabled(!known.empty());
+  for (std::size_t i = 0; i < known.size(); ++i)
+    forget->addAction(menuText(known[i].name), plot, [control, known, i] {
+      std::vector<ViewBookmarks::Bookmark> fewer = known;
+      fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(i));
+      control->setBookmarks(ViewBookmarks::format(fewer));
+    });
+}
+
+void PlotMenu::addLabels(QMenu &contextMenu) const {
+  NetPlot *plot = m_control.plot();
+  NetUpdate &update = plot->update();
+  contextMenu.addAction(tr("Place labels now"), plot, [&update] { update.relabelNow(); });
+  const std::vector<NetGeometry::Item> &unplaced = update.unplacedLabels();
+  if (unplaced.empty())
+    return;
+  NetVisControl *control = &m_control;
+  contextMenu.addAction(tr("%1 labels found no place …").arg(unplaced.size()), plot, [control, plot, unplaced] {
+    QDialog dialog(plot);
+    dialog.setWindowTitle(tr("Labels without a place"));
+    auto *list = new QListWidget(&dialog);
+    for (const NetGeometry::Item item : unplaced)
+      list->addItem(plot->update().geometry().source(item)->value(QStringLiteral("name")));
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(list);
+    QObject::connect(list, &QListWidget::itemActivated, &dialog, [control, &dialog](const QListWidgetItem *entry) {
+      control->showElement(entry->text());
+      dialog.accept();
+    });
+    dialog.exec();
+  });
+}
