@@ -18,6 +18,8 @@
 namespace {
 
 constexpr int HundredThousandEdges = 200000; // elements, half of which are edges
+constexpr int Few = 1000;
+constexpr int Thousands = 10000;
 constexpr int Hundred = 100000;
 constexpr int Million = 1000000;
 constexpr QSize Window(1200, 900);
@@ -113,6 +115,97 @@ void panningStep(benchmark::State &state) {
   send(QEvent::MouseButtonRelease, {Start, Start}, Qt::LeftButton, Qt::NoButton);
 }
 BENCHMARK(panningStep)->Arg(HundredThousandEdges)->Unit(benchmark::kMillisecond);
+
+/// One step of a smooth zoom: a slow drawing is moved as a picture.
+void smoothZoomStep(benchmark::State &state) {
+  Scene &scene = Scene::of(static_cast<int>(state.range(0)));
+  PlotZoom &zoomer = *scene.plot().zoomer();
+  zoomer.fitAll();
+  scene.canvas().repaint();
+  constexpr double Factor = 1.02;
+  zoomer.beginMove();
+  bool isIn = true;
+  for (auto _ : state) {
+    if (isIn)
+      zoomer.zoomIn(zoomer.zoomBase().center(), Factor);
+    else
+      zoomer.zoomOut(zoomer.zoomBase().center(), Factor);
+    isIn = !isIn;
+    QApplication::processEvents(); // paints
+  }
+  zoomer.endMove();
+  zoomer.fitAll();
+}
+BENCHMARK(smoothZoomStep)->Arg(Hundred)->Arg(Million)->Unit(benchmark::kMillisecond);
+
+/// What lies under the cursor.
+void hitTest(benchmark::State &state) {
+  Scene &scene = Scene::of(static_cast<int>(state.range(0)));
+  scene.plot().zoomer()->fitAll();
+  constexpr int Places = 97;
+  int place = 0;
+  for (auto _ : state) {
+    place = (place + 1) % Places;
+    const QPointF point(scene.canvas().width() * place / Places, scene.canvas().height() * place / Places);
+    benchmark::DoNotOptimize(scene.plot().update().elementsAt(point, 8.0));
+  }
+}
+BENCHMARK(hitTest)->Arg(Hundred)->Arg(Million)->Unit(benchmark::kMillisecond);
+
+/// Another property for the colours, the elements as they are.
+void recolour(benchmark::State &state) {
+  Scene &scene = Scene::of(static_cast<int>(state.range(0)));
+  const PlotSettings before = scene.plot().settings();
+  PlotSettings settings = before;
+  for (auto _ : state) {
+    settings.colorFunc = settings.colorFunc == QLatin1String("q") ? QStringLiteral("length") : QStringLiteral("q");
+    scene.plot().setSettings(settings);
+    scene.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  }
+  scene.plot().setSettings(before);
+  scene.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+}
+BENCHMARK(recolour)->Arg(Hundred)->Unit(benchmark::kMillisecond);
+
+/// Labels for everything in view; how many there were, found a place and overlap.
+void labelPass(benchmark::State &state) {
+  Scene &scene = Scene::of(static_cast<int>(state.range(0)));
+  const PlotSettings before = scene.plot().settings();
+  PlotSettings settings = before;
+  settings.labelMargin = 0;
+  settings.label_mode = QStringLiteral("name only");
+  if (state.range(1) == 0) { // nothing but lines, dots and labels on 1200 by 900 pixels
+    settings.symMag = 0;
+    settings.colorScalePos = 0;
+    settings.legendPos = 0;
+  }
+  scene.plot().setSettings(settings);
+  scene.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, true);
+  QApplication::processEvents();
+  scene.plot().zoomer()->fitAll();
+  NetUpdate &update = scene.plot().update();
+  for (auto _ : state) {
+    state.PauseTiming();
+    update.clearLabels(); // a pass that finds its labels in place would be quicker
+    state.ResumeTiming();
+    update.placeLabelsNow();
+  }
+  const std::vector<Label> &labels = update.labels();
+  int overlaps = 0;
+  for (std::size_t i = 0; i < labels.size(); ++i) {
+    for (std::size_t k = i + 1; k < labels.size(); ++k)
+      overlaps += labels[i].candidate.box(labels[i].spot).overlaps(labels[k].candidate.box(labels[k].spot)) ? 1 : 0;
+  }
+  state.counters["candidates"] = static_cast<double>(labels.size() + update.unplacedLabels().size());
+  state.counters["placed"] = static_cast<double>(labels.size());
+  state.counters["overlaps"] = overlaps;
+  scene.plot().setSettings(before);
+  update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, true);
+}
+BENCHMARK(labelPass)
+    ->ArgNames({"elements", "symbols"})
+    ->ArgsProduct({{Few, Thousands}, {0, 1}})
+    ->Unit(benchmark::kMillisecond);
 
 /// From the network to everything that a frame needs.
 void buildRecords(benchmark::State &state) {

@@ -111,11 +111,11 @@ void LabelPass::collectNodes() {
 void LabelPass::collectPipes() {
   const NetGeometry &geometry = m_drawing.geometry;
   constexpr std::size_t Many = 3000; // among so many lines there is no room without one
-  std::size_t lines = 0;
+  std::vector<std::pair<QLineF, double>> lines;
   m_drawing.edges.forEachVisible(m_projection, [&](int edge, const QLineF &drawn, double width) {
     const NetGeometry::Edge &record = geometry.edges()[static_cast<std::size_t>(edge)];
-    if (++lines <= Many)
-      m_placement.addLine(drawn, width);
+    if (lines.size() <= Many)
+      lines.emplace_back(drawn, width);
     if (record.type != 'p')
       return; // labelled at its symbol
     const NetGeometry::Node &a = geometry.nodes()[static_cast<std::size_t>(record.node1)];
@@ -125,6 +125,10 @@ void LabelPass::collectPipes() {
     add({NetData::Edge, edge}, {a.x, a.y, b.x, b.y}, true, width * 0.5 + aside, PipeRank,
         m_drawing.flow[static_cast<std::size_t>(edge)]);
   });
+  for (const auto &[line, width] : lines) {
+    if (lines.size() <= Many)
+      m_placement.addLine(line, width);
+  }
 }
 
 void LabelPass::collect() {

@@ -1,6 +1,7 @@
 #include <view/labelplacement.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -83,22 +84,28 @@ bool LabelPlacement::tryPoint(const LabelCandidate &candidate, LabelSpot &spot) 
   spot.along = 0.5;
   if (!m_canvas.contains(candidate.anchor(spot.along)))
     return false;
-  const double x = candidate.clearance + Gap + candidate.size.width() * 0.5;
-  const double y = candidate.clearance + Gap + candidate.size.height() * 0.5;
   constexpr double Slanted = 0.75; // corners come nearer
+  constexpr double Ring = 8.0;     // px: still beside the element
   const double halfWidth = candidate.size.width() * 0.5;
-  const QPointF offsets[] = {{x, 0.0},
-                             {x * Slanted, -y},
-                             {x * Slanted, y},
-                             {0.0, -y},
-                             {0.0, y},
-                             {-x * Slanted, -y},
-                             {-x * Slanted, y},
-                             {-x, 0.0},
-                             {x, -y},
-                             {x, y},
-                             {halfWidth * 0.5, -y},
-                             {-halfWidth * 0.5, -y}};
+  std::array<QPointF, 24> offsets;
+  std::size_t count = 0;
+  for (const double further : {0.0, Ring}) {
+    const double x = candidate.clearance + Gap + halfWidth + further;
+    const double y = candidate.clearance + Gap + candidate.size.height() * 0.5 + further;
+    for (const QPointF &offset : std::initializer_list<QPointF>{{x, 0.0},
+                                                                {x * Slanted, -y},
+                                                                {x * Slanted, y},
+                                                                {0.0, -y},
+                                                                {0.0, y},
+                                                                {-x * Slanted, -y},
+                                                                {-x * Slanted, y},
+                                                                {-x, 0.0},
+                                                                {x, -y},
+                                                                {x, y},
+                                                                {-x, -y},
+                                                                {-x, y}})
+      offsets[count++] = offset;
+  }
   for (const bool sparesLines : {true, false}) {
     for (const QPointF &offset : offsets) {
       spot.offset = offset;

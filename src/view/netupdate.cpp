@@ -50,9 +50,8 @@ void NetUpdate::setNetData(const NetData *net) {
   m_symbols.clear();
   m_subnets.clear();
   m_textBoxes.clear();
-  m_labels.clear();
+  clearLabels();
   m_visibility.clear();
-  m_unplaced.clear();
 }
 
 void NetUpdate::setFolder(const QString &folder) {
@@ -103,7 +102,7 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
   }
   updateSymbols(rebuild);
   if (relabel)
-    m_labels.clear();
+    clearLabels();
   m_plot.plot()->replot();
   NivraMsg::log(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
 }
@@ -201,11 +200,16 @@ void NetUpdate::placeLabels() {
   m_unplaced = std::move(result.unplaced);
 }
 
+void NetUpdate::clearLabels() {
+  m_labels.clear();
+  m_unplaced.clear();
+}
+
 void NetUpdate::refreshNow() {
   if (m_labels.labels().empty())
     requestPixtest(-1);
   else
-    runPixtest(Pixtest::Labels::With);
+    placeLabelsNow();
 }
 
 void NetUpdate::relabelNow() {
@@ -216,7 +220,7 @@ void NetUpdate::relabelNow() {
   m_pixtest.setSuspended(false);
   general.setValue(key, QStringLiteral("always"));
   updatePlot(true, Which::EdgesAndNodes, true);
-  runPixtest(Pixtest::Labels::With);
+  placeLabelsNow();
   general.setValue(key, before);
   m_pixtest.setSuspended(wasSuspended);
   requestPixtest(-1);

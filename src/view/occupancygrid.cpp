@@ -13,9 +13,22 @@ constexpr double Largest = 30000.0; // px
 
 } // namespace
 
+namespace {
+
+QPointF direction(double angle) {
+  if (angle == 0.0)
+    return {1.0, 0.0};
+  return {std::cos(qDegreesToRadians(angle)), std::sin(qDegreesToRadians(angle))};
+}
+
+QPointF turnedRight(const QPointF &direction) {
+  return {-direction.y(), direction.x()};
+}
+
+} // namespace
+
 TurnedBox::TurnedBox(const QPointF &center, const QSizeF &size, double angle)
-    : TurnedBox(center, QPointF(std::cos(qDegreesToRadians(angle)), std::sin(qDegreesToRadians(angle))) * size.width() * 0.5,
-                QPointF(-std::sin(qDegreesToRadians(angle)), std::cos(qDegreesToRadians(angle))) * size.height() * 0.5) {}
+    : TurnedBox(center, direction(angle) * (size.width() * 0.5), turnedRight(direction(angle)) * (size.height() * 0.5)) {}
 
 TurnedBox::TurnedBox(const QPointF &center, const QPointF &across, const QPointF &down)
     : m_center(center)
@@ -55,6 +68,29 @@ OccupancyGrid::OccupancyGrid(const QRectF &canvas)
     , m_words(static_cast<int>(std::ceil(qBound(1.0, canvas.width(), Largest) / Cell / WordBits)))
     , m_cells(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_words), 0) {}
 
+namespace {
+
+/// How far the box reaches within a row of cells; left lies behind right where it does not reach.
+void reachInRow(const TurnedBox &box, const QPointF &origin, double top, double &left, double &right) {
+  const double bottom = top + Cell;
+  std::swap(left, right);
+  for (std::size_t i = 0; i < box.corners().size(); ++i) {
+    QPointF a = box.corners()[i] - origin;
+    QPointF b = box.corners()[(i + 1) % box.corners().size()] - origin;
+    if (a.y() > b.y())
+      std::swap(a, b);
+    if (a.y() > bottom || b.y() < top)
+      continue;
+    const double slope = b.y() > a.y() ? (b.x() - a.x()) / (b.y() - a.y()) : 0.0;
+    const double x1 = a.y() < top ? a.x() + (top - a.y()) * slope : a.x();
+    const double x2 = b.y() > bottom ? a.x() + (bottom - a.y()) * slope : b.x();
+    left = std::min({left, x1, x2});
+    right = std::max({right, x1, x2});
+  }
+}
+
+} // namespace
+
 template <typename Visitor>
 bool OccupancyGrid::forEachWord(const TurnedBox &box, const Visitor &visit) const {
   const QRectF bounds = box.bounds().translated(-m_origin);
@@ -62,24 +98,10 @@ bool OccupancyGrid::forEachWord(const TurnedBox &box, const Visitor &visit) cons
   const int lastRow = static_cast<int>(std::clamp(std::floor(bounds.bottom() / Cell), -1.0, m_rows - 1.0));
   const double lastColumn = double(m_words) * WordBits - 1.0;
   for (int row = firstRow; row <= lastRow; ++row) {
-    // How far the box reaches within this row.
-    const double top = row * Cell;
-    const double bottom = top + Cell;
-    double left = bounds.right();
-    double right = bounds.left();
-    for (std::size_t i = 0; i < box.corners().size(); ++i) {
-      QPointF a = box.corners()[i] - m_origin;
-      QPointF b = box.corners()[(i + 1) % box.corners().size()] - m_origin;
-      if (a.y() > b.y())
-        std::swap(a, b);
-      if (a.y() > bottom || b.y() < top)
-        continue;
-      const double slope = b.y() > a.y() ? (b.x() - a.x()) / (b.y() - a.y()) : 0.0;
-      const double x1 = a.y() < top ? a.x() + (top - a.y()) * slope : a.x();
-      const double x2 = b.y() > bottom ? a.x() + (bottom - a.y()) * slope : b.x();
-      left = std::min({left, x1, x2});
-      right = std::max({right, x1, x2});
-    }
+    double left = bounds.left();
+    double right = bounds.right();
+    if (!box.isUpright())
+      reachInRow(box, m_origin, row * Cell, left, right);
     if (left > right || right < 0.0)
       continue;
     const double from = std::floor(left / Cell);

@@ -48,6 +48,9 @@ public:
   /// they are negative.
   void requestPixtest(int delay, bool quick = true) { m_pixtest.requestPixtest(delay, quick); }
   Pixtest &pixtest() { return m_pixtest; }
+  /// Places labels for the view as it is; stored ones stay where they are.
+  void placeLabelsNow() { runPixtest(Pixtest::Labels::With); }
+  void clearLabels();
   /// The pass at once for a plot that has another size: labels that stand are placed again, whatever the settings say.
   void refreshNow();
   /// Places labels at once, whatever the settings say.

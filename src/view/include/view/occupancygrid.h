@@ -17,6 +17,7 @@ public:
   TurnedBox grown(double margin) const;
   const std::array<QPointF, 4> &corners() const { return m_corners; }
   QRectF bounds() const;
+  bool isUpright() const { return m_across.y() == 0.0 && m_down.x() == 0.0; }
   /// Whether the boxes have more than their borders in common.
   bool overlaps(const TurnedBox &other) const;
 
