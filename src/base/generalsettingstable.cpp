@@ -67,6 +67,7 @@ const GeneralSettingsTable::Row Rows[] = {
     {"status bar style sheet acceptable", "background: lightBlue", "string", "status bar", ""},
     {"status bar style sheet successful", "background: lightGreen", "string", "status bar", ""},
     {"ask for include lists", "0", "bool", "general", ""},
+    {"pick on Release", "0", "bool", "mouse and keys", ""},
     // What the solving tools and reports on the same workspaces use; the viewer keeps it.
     {"overwrite atan_fact", "", "string", "special", ""},
     {"QP: enforce POWSET bounds at supplies", "off", "list", "special", "on,on if needed,guess,off"},

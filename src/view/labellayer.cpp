@@ -46,6 +46,23 @@ void LabelLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScale
   }
 }
 
+void LabelLayer::drawLines(QPainter &painter, const Label &label, QPointF top) {
+  const bool isVector = isVectorTarget(painter);
+  const double ascent = isVector ? QFontMetricsF(label.style.font).ascent() : 0.0;
+  painter.setFont(label.style.font);
+  for (const QStaticText &line : label.lines) {
+    QPointF corner = top - QPointF(line.size().width() * 0.5, 0.0);
+    if (isVector) { // prepared text would be written as outlines
+      painter.drawText(corner + QPointF(0.0, ascent), line.text());
+    } else {
+      if (label.spot.angle == 0.0) // upright text stands on whole pixels, where it is sharpest
+        corner = {std::round(corner.x()), std::round(corner.y())};
+      painter.drawStaticText(corner, line);
+    }
+    top.ry() += line.size().height();
+  }
+}
+
 void LabelLayer::drawLabel(QPainter &painter, const Label &label, const QPointF &center) {
   const QSizeF size = label.candidate.size;
   const bool isTurned = label.spot.angle != 0.0;
@@ -68,16 +85,7 @@ void LabelLayer::drawLabel(QPainter &painter, const Label &label, const QPointF 
     label.document->drawContents(&painter);
     painter.restore();
   } else {
-    painter.setFont(label.style.font);
-    double y = box.top() + padding().height();
-    for (const QStaticText &line : label.lines) {
-      // Upright text stands on whole pixels, where it is sharpest.
-      QPointF corner(middle.x() - line.size().width() * 0.5, y);
-      if (!isTurned && !isVectorTarget(painter))
-        corner = {std::round(corner.x()), std::round(corner.y())};
-      painter.drawStaticText(corner, line);
-      y += line.size().height();
-    }
+    drawLines(painter, label, {middle.x(), box.top() + padding().height()});
   }
   if (isTurned)
     painter.restore();

@@ -111,6 +111,10 @@ void NetPlot::zoomByWheel(int steps, QPointF anchor) {
   refresh(general.value(QStringLiteral("pixtest delay")).toInt());
 }
 
+bool NetPlot::isZooming() const {
+  return m_smoothZoom->isRunning();
+}
+
 void NetPlot::zoomToElement(NetGeometry::Item item) {
   const NetGeometry &geometry = m_update->geometry();
   const std::optional<QPointF> center = geometry.center(item);

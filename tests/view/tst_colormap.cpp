@@ -15,6 +15,10 @@ private slots:
   void logarithmicFollowsItsFormula_data();
   void logarithmicFollowsItsFormula();
   void tableKeepsTheMap();
+  void rampsKeepTheirOrder_data();
+  void rampsKeepTheirOrder();
+  void capsAreDarker();
+  void classes();
 };
 
 void TestColorMap::rampEndsAndMiddle() {
@@ -79,6 +83,54 @@ void TestColorMap::tableKeepsTheMap() {
   const TableColorMap table(map, stored);
   for (int i = 0; i < TableColorMap::Colors; ++i) // in a display unit of a tenth
     QCOMPARE(table.rgb(QwtInterval(0.0, 25.5), i * 0.1), map.rgb(stored, i));
+}
+
+void TestColorMap::rampsKeepTheirOrder_data() {
+  QTest::addColumn<int>("kind");
+  for (const QString &name : ColorRamp::names().mid(1, 2))
+    QTest::newRow(qPrintable(name)) << int(ColorRamp::kindOf(name));
+}
+
+void TestColorMap::rampsKeepTheirOrder() {
+  QFETCH(int, kind);
+  ColorRamp ramp;
+  ramp.kind = static_cast<ColorRamp::Kind>(kind);
+  const auto lightness = [&ramp](double fraction) {
+    const QRgb color = ramp.color(fraction);
+    return 0.2126 * qRed(color) + 0.7152 * qGreen(color) + 0.0722 * qBlue(color);
+  };
+  for (int i = 0; i < 50; ++i)
+    QVERIFY2(lightness((i + 1) / 50.0) > lightness(i / 50.0),
+             qPrintable(QString::number(i))); // dark to light, without a turn
+  QVERIFY(ColorRamp::kindOf(QStringLiteral("no ramp")) == ColorRamp::Kind::Hue);
+  ramp.kind = ColorRamp::Kind::Diverging;
+  QVERIFY(QColor(ramp.color(0.0)).blue() > QColor(ramp.color(0.0)).red());
+  QVERIFY(QColor(ramp.color(0.5)).saturation() < 5);
+  QVERIFY(QColor(ramp.color(1.0)).red() > QColor(ramp.color(1.0)).blue());
+}
+
+void TestColorMap::capsAreDarker() {
+  const QwtInterval interval(0.0, 10.0);
+  TableColorMap table(HueColorMap({}), interval);
+  QCOMPARE(table.rgb(interval, 11.0), table.rgb(interval, 10.0));
+  table.setCaps(false, true);
+  QVERIFY(QColor(table.rgb(interval, 11.0)).value() < QColor(table.rgb(interval, 10.0)).value());
+  QCOMPARE(table.rgb(interval, -1.0), table.rgb(interval, 0.0));
+}
+
+void TestColorMap::classes() {
+  const HueColorMap map({});
+  const QwtInterval interval(0.0, 100.0);
+  QCOMPARE(ClassColorMap::equalBreaks(interval, 4), (std::vector<double>{25, 50, 75}));
+  QVERIFY(ClassColorMap::equalBreaks(interval, 1).empty());
+  QVERIFY(ClassColorMap::equalBreaks({5.0, 5.0}, 4).empty());
+  QCOMPARE(ClassColorMap::quantileBreaks({9, 1, 1, 1, 1, 1, 1, 1, 2, 3}, 5),
+           (std::vector<double>{3})); // of equal breaks one
+  QVERIFY(ClassColorMap::quantileBreaks({}, 3).empty());
+  const ClassColorMap classes({25, 50}, map);
+  QCOMPARE(classes.rgb(interval, 24.9), map.rgb(interval, 0.0));
+  QCOMPARE(classes.rgb(interval, 25.0), classes.rgb(interval, 49.0));
+  QCOMPARE(classes.rgb(interval, 1e30), map.rgb(interval, 100.0));
 }
 
 NIVRA_TEST(TestColorMap);

@@ -6,6 +6,7 @@
 
 #include <QMenu>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QWheelEvent>
 #include <qwt_scale_widget.h>
 
@@ -28,6 +29,15 @@ private slots:
   void legend_data();
   void legend();
   void clearForgetsTheNetwork();
+  void smoothZoomAddsUp();
+  void smoothZoomTurnsBack();
+  void slowDrawingsAreMovedAsAPicture();
+  void wheelZoomsToElements();
+  void viewsBackAndForward();
+  void bookmarks();
+  void zoomBaseGrows();
+  void showsAnElement();
+  void keysAskForARefresh();
 
 private:
   static void turnWheel(NetPlot &plot, const QPoint &place, int eighths) {
@@ -283,6 +293,138 @@ void TestNetPlot::clearForgetsTheNetwork() {
   f.picture(); // must not look at elements that are gone
   f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
   QVERIFY(f.plot().update().geometry().nodes().empty());
+}
+
+void TestNetPlot::smoothZoomAddsUp() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  PlotZoom &zoomer = *f.plot().zoomer();
+  const double before = zoomer.zoomRect().width();
+  turnWheel(f.plot(), {300, 200}, 120);
+  turnWheel(f.plot(), {300, 200}, 120);
+  QTRY_VERIFY(zoomer.zoomRect().width() < before / 1.2);
+  QTRY_VERIFY(!f.plot().isZooming());
+  QCOMPARE(zoomer.zoomRectIndex(), 1U); // one movement, one entry of the stack
+  zoomer.zoom(-1);
+  QCOMPARE(zoomer.zoomRect().width(), before);
+}
+
+void TestNetPlot::smoothZoomTurnsBack() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  PlotZoom &zoomer = *f.plot().zoomer();
+  GeneralSettings::instance().setValue(QStringLiteral("smooth zoom duration"), QStringLiteral("60000"));
+  GeneralSettings::instance().setValue(QStringLiteral("smooth zoom steps"), QStringLiteral("6000"));
+  turnWheel(f.plot(), {300, 200}, 1200);
+  QTRY_VERIFY(zoomer.zoomRect().width() < zoomer.zoomBase().width());
+  GeneralSettings::instance().setValue(QStringLiteral("smooth zoom duration"), QStringLiteral("50"));
+  GeneralSettings::instance().setValue(QStringLiteral("smooth zoom steps"), QStringLiteral("0")); // no division by it
+  turnWheel(f.plot(), {300, 200}, -120); // the long way in ends at once
+  QTRY_VERIFY(!f.plot().isZooming());
+  GeneralSettings::instance().reset();
+}
+
+void TestNetPlot::slowDrawingsAreMovedAsAPicture() {
+  ViewFixture f;
+  for (int i = 0; i < 20000; ++i)
+    f.addNode(qPrintable(QStringLiteral("J%1").arg(i)), qPrintable(QString::number(i % 200)),
+              qPrintable(QString::number(i / 200)), "30");
+  f.plot().show();
+  f.show();
+  QwtFastPlot &area = *f.plot().plot();
+  PlotZoom &zoomer = *f.plot().zoomer();
+  area.canvas()->repaint();
+  zoomer.beginMove();
+  if (!area.isFrozen())
+    QSKIP("this machine draws so fast that nothing has to be moved");
+  zoomer.zoomIn({100, 50}, 2.0);
+  QVERIFY(qAbs(area.pictureArea().width() / area.canvas()->width() - 2.0) < 0.05);
+  zoomer.endMove();
+  QVERIFY(!area.isFrozen());
+}
+
+void TestNetPlot::wheelZoomsToElements() {
+  const PlainWheel plain;
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  GeneralSettings::instance().setValue(QStringLiteral("zoom to element"), QStringLiteral("1"));
+  const QPoint node = f.plot().plot()->canvas()->mapFrom(&f.plot(), f.pixel(100, 0));
+  turnWheel(f.plot(), node + QPoint(5, 5), 120);
+  const QPoint now = f.plot().plot()->canvas()->mapFrom(&f.plot(), f.pixel(100, 0));
+  QVERIFY((now - node).manhattanLength() <= 2); // the node kept its place, not the cursor's
+}
+
+void TestNetPlot::viewsBackAndForward() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  PlotZoom &zoomer = *f.plot().zoomer();
+  QWidget *canvas = f.plot().plot()->canvas();
+  const QRectF whole = zoomer.zoomRect();
+  zoomer.zoomIn({50, 50});
+  const QRectF near = zoomer.zoomRect();
+  QTest::keyClick(canvas, Qt::Key_Left, Qt::AltModifier);
+  QCOMPARE(zoomer.zoomRect(), whole);
+  QTest::keyClick(canvas, Qt::Key_Left, Qt::AltModifier); // no further
+  QCOMPARE(zoomer.zoomRect(), whole);
+  QTest::keyClick(canvas, Qt::Key_Right, Qt::AltModifier);
+  QCOMPARE(zoomer.zoomRect(), near);
+}
+
+void TestNetPlot::bookmarks() {
+  const std::vector<ViewBookmarks::Bookmark> two{{QStringLiteral("Nord; 50 % | \"x\""), QRectF(1.5, -2e6, 3, 4)},
+                                                 {QStringLiteral("ü"), QRectF(0, 0, 1e-3, 7)}};
+  const std::vector<ViewBookmarks::Bookmark> read = ViewBookmarks::parse(ViewBookmarks::format(two));
+  QCOMPARE(read.size(), two.size());
+  for (std::size_t i = 0; i < two.size(); ++i) {
+    QCOMPARE(read[i].name, two[i].name);
+    QCOMPARE(read[i].view, two[i].view);
+  }
+  QVERIFY(ViewBookmarks::parse(QStringLiteral("a|1|2|3;b|1|2|0|4;c|x|inf|3|4;;|")).empty());
+  const QTemporaryDir folder;
+  ViewFixture f;
+  f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
+  f.control.setBookmarks(ViewBookmarks::format(two));
+  f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
+  QCOMPARE(ViewBookmarks::parse(f.plot().settings().bookmarks).size(), two.size());
+}
+
+void TestNetPlot::zoomBaseGrows() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  PlotZoom &zoomer = *f.plot().zoomer();
+  zoomer.zoomIn({0, 0});
+  zoomer.resetZoomBase(QRectF(1000, 1000, 10, 10));
+  QCOMPARE(zoomer.zoomRectIndex(), 0U);
+  QVERIFY(zoomer.zoomBase().contains(QRectF(0, 0, 1009, 1009)));
+  QVERIFY(qAbs(f.plot().settings().largestZoomWidth / zoomer.zoomBase().width() - 1.1) < 1e-9);
+}
+
+void TestNetPlot::showsAnElement() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  QVERIFY(f.control.showElement(QStringLiteral("D")));
+  QVERIFY((f.plot().zoomer()->zoomRect().center() - QPointF(200, 100)).manhattanLength() < 1e-6);
+  QVERIFY(f.plot().zoomer()->zoomRect().width() < 60);
+  f.control.showElement(QStringLiteral("AB"));
+  QVERIFY(f.plot().plot()->visibleRect().contains(QRectF(1, 0, 98, 0.1)));
+  QVERIFY(!f.control.showElement(QStringLiteral("nowhere")));
+}
+
+void TestNetPlot::keysAskForARefresh() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const QSignalSpy asked(f.plot().zoomer(), &PlotZoom::refreshRequested);
+  QTest::keyClick(f.plot().plot()->canvas(), Qt::Key_Plus);
+  QCOMPARE(asked.count(), 2);
+  QCOMPARE(asked.at(0).first().toInt(), 2000);
+  QCOMPARE(asked.at(1).first().toInt(), 250);
 }
 
 NIVRA_TEST(TestNetPlot);

@@ -1,12 +1,15 @@
 #include "viewfixture.h"
 
 #include <support/nivratest.h>
+#include <view/picturefile.h>
 #include <view/stationsymbols.h>
 
 #include <QDir>
 #include <QFile>
 #include <QPainter>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 class TestSymbols : public QObject {
   Q_OBJECT
@@ -15,7 +18,15 @@ private slots:
   void tableLines();
   void everyTypeHasAReadableSymbol();
   void symbolsPointAlongTheirEdge();
+  void statesHaveTheirSymbols();
   void ownSymbolTakesThePlaceOfTheBuiltIn();
+  void badSvg_data();
+  void badSvg();
+  void badFigures_data();
+  void badFigures();
+  void figuresTakeThePlaceOfSymbols();
+  void crowdedStationsShareASymbol();
+  void edgeOfNoLengthShowsAtItsNode();
 
 private:
   void write(const QString &name, const QByteArray &text) {
@@ -80,6 +91,122 @@ void TestSymbols::ownSymbolTakesThePlaceOfTheBuiltIn() {
   QCOMPARE(f.picture().pixelColor(f.pixel(200, 50)), QColor(Qt::red));
   f.show(); // another case has no symbols of its own
   QVERIFY(f.picture().pixelColor(f.pixel(200, 50)) != QColor(Qt::red));
+}
+
+void TestSymbols::statesHaveTheirSymbols() {
+  StationSymbols symbols;
+  for (const char *key :
+       {"c_off", "r_off", "v_off", "f_off", "s_off", "g_off", "k_off", "w_off", "d_off", "c_bypass", "r_bypass"})
+    QVERIFY2(symbols.find(QString::fromLatin1(key)) >= 0, key);
+  QCOMPARE(symbols.find(QStringLiteral("../network_symbols/c")), -1);
+  ViewFixture f;
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("type"), QStringLiteral("v"));
+  f.show();
+  f.picture(); // lays out
+  const QRect middle(f.pixel(200, 50) - QPoint(8, 8), QSize(17, 17));
+  const int open = inked(f.picture(), middle);
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("state"), QStringLiteral("closed"));
+  f.show();
+  const int closed = inked(f.picture(), middle);
+  QVERIFY2(closed > open + 20, qPrintable(QStringLiteral("%1 %2").arg(open).arg(closed))); // a closed valve is filled
+}
+
+void TestSymbols::badSvg_data() {
+  QTest::addColumn<QByteArray>("text");
+  const QByteArray head =
+      "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' viewBox='0 0 8 8'>";
+  QTest::newRow("no xml") << QByteArray("plain text");
+  QTest::newRow("cut") << head + "<rect width='8'";
+  QTest::newRow("another file") << head + "<image xlink:href='/etc/hostname' width='8' height='8'/></svg>";
+  QTest::newRow("the network") << head + "<image href='http://example.org/a.png' width='8' height='8'/></svg>";
+  QTest::newRow("style from elsewhere") << head + "<style>@import url(http://example.org/a.css);</style></svg>";
+  QTest::newRow("fill from elsewhere") << head + "<rect fill='url(other.svg#a)' width='8' height='8'/></svg>";
+  QTest::newRow("entities") << QByteArray("<!DOCTYPE svg [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]>") + head +
+                                   "<text>&b;</text></svg>";
+  QTest::newRow("nested without end") << head + QByteArray("<g>").repeated(5000);
+  QTest::newRow("huge") << head + QByteArray(3 << 20, ' ') + "</svg>";
+}
+
+void TestSymbols::badSvg() {
+  QFETCH(QByteArray, text);
+  write(QStringLiteral("bad.svg"), text);
+  QString error;
+  QVERIFY(PictureFile::readSvg(m_folder.filePath(QStringLiteral("bad.svg")), &error).isEmpty());
+  QVERIFY(!error.isEmpty());
+}
+
+void TestSymbols::badFigures_data() {
+  QTest::addColumn<QString>("file");
+  write(QStringLiteral("text.png"), "no picture");
+  QFile huge(m_folder.filePath(QStringLiteral("huge.png")));
+  QVERIFY(huge.open(QIODevice::WriteOnly) && huge.resize(qint64(500) << 20)); // without a block on the disk
+  const QString pipe = m_folder.filePath(QStringLiteral("pipe.png"));
+  QVERIFY(::mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0);
+  QTest::newRow("missing") << QStringLiteral("missing.png");
+  QTest::newRow("no picture") << QStringLiteral("text.png");
+  QTest::newRow("directory") << QStringLiteral(".");
+  QTest::newRow("pipe") << pipe;
+  QTest::newRow("huge") << QStringLiteral("huge.png");
+}
+
+void TestSymbols::badFigures() {
+  QFETCH(QString, file);
+  ViewFixture f;
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("figure.file"), file);
+  f.control.showNetData(m_folder.filePath(QStringLiteral("plotsettings.ini")));
+  ViewFixture without;
+  without.control.showNetData(m_folder.filePath(QStringLiteral("plotsettings.ini")));
+  QCOMPARE(f.picture(), without.picture()); // its symbol is drawn
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("figure.char"), QStringLiteral("M"));
+  f.control.showNetData(m_folder.filePath(QStringLiteral("plotsettings.ini")));
+  QVERIFY(f.picture() != without.picture()); // its character is
+  QFile::remove(m_folder.filePath(QStringLiteral("pipe.png")));
+}
+
+void TestSymbols::figuresTakeThePlaceOfSymbols() {
+  QImage red(10, 20, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  QVERIFY(red.save(m_folder.filePath(QStringLiteral("red.png"))));
+  ViewFixture f;
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("figure.file"), QStringLiteral("red.png"));
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("figure.width"), QStringLiteral("30"));
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("figure.height"), QStringLiteral("12"));
+  f.control.showNetData(m_folder.filePath(QStringLiteral("plotsettings.ini")));
+  const QImage picture = f.picture();
+  const QPoint a = f.pixel(0, 0);
+  QCOMPARE(picture.pixelColor(a + QPoint(13, 4)), QColor(Qt::red));
+  QVERIFY(picture.pixelColor(a + QPoint(17, 4)) != QColor(Qt::red));
+  QVERIFY(picture.pixelColor(a + QPoint(4, 8)) != QColor(Qt::red));
+}
+
+void TestSymbols::crowdedStationsShareASymbol() {
+  ViewFixture f;
+  f.addNode("D2", "200.1", "100", "60");
+  f.add(makeEdge("CD2", "C", "D2", "v"), {});
+  f.plot().show();
+  f.show();
+  std::vector<SymbolLayer::Placed> placed = f.plot().update().determineVisibleSymbols();
+  QCOMPARE(placed.size(), std::size_t(1));
+  QCOMPARE(placed.front().others, 1);
+  QCOMPARE(placed.front().item,
+           *f.plot().update().geometry().find(f.net, QStringLiteral("CD"))); // a compressor before a valve
+  f.net.element(QStringLiteral("D2"))->set(QStringLiteral("x"), QStringLiteral("150"));
+  f.show();
+  placed = f.plot().update().determineVisibleSymbols();
+  QCOMPARE(placed.size(), std::size_t(2));
+  QCOMPARE(placed.front().others, 0);
+}
+
+void TestSymbols::edgeOfNoLengthShowsAtItsNode() {
+  ViewFixture f;
+  f.addNode("A2", "0", "0", "20");
+  f.add(makeEdge("AA2", "A", "A2", "v"), {});
+  f.plot().show();
+  f.show();
+  bool isThere = false;
+  for (const SymbolLayer::Placed &placed : f.plot().update().determineVisibleSymbols())
+    isThere = isThere || (placed.center - f.plot().update().projection().map(0, 0)).manhattanLength() < 1e-6;
+  QVERIFY(isThere);
 }
 
 NIVRA_TEST(TestSymbols);

@@ -39,6 +39,8 @@ public:
   static QSizeF padding() { return {2.0, 1.0}; }
 
 private:
+  /// \param top middle of the upper edge of the text
+  static void drawLines(QPainter &painter, const Label &label, QPointF top);
   static void drawLabel(QPainter &painter, const Label &label, const QPointF &center);
 
   std::vector<Label> m_labels;

@@ -1,0 +1,242 @@
+#include "viewfixture.h"
+
+#include <base/generalsettings.h>
+#include <support/nivratest.h>
+#include <view/plotexport.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+/// What belongs to more than one layer: subnets, parallel lines, flow, search results.
+class TestDrawing : public QObject {
+  Q_OBJECT
+
+private slots:
+  void cleanup() { GeneralSettings::instance().reset(); }
+  void subnetColours_data();
+  void subnetColours();
+  void subnetPins();
+  void parallelLinesLieSideBySide();
+  void arrowsPointWhereTheGasGoes();
+  void searchResultsStandOut();
+  void colourScaleNamesOtherColours();
+  void picturesHoldVectors();
+  void likeTheKeptPictures_data();
+  void likeTheKeptPictures();
+
+private:
+  static element station() {
+    return makeElement({{"name", "Station"}, {"type", "sub"}, {"x", "60"}, {"y", "70"}, {"pins", "A; c;nowhere"}});
+  }
+  static int count(const QImage &image, const QColor &color) {
+    int pixels = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        pixels += image.pixelColor(x, y) == color ? 1 : 0;
+    return pixels;
+  }
+  /// Whether each pixel has one of nearly its colour within a pixel of its place.
+  static bool isAlike(const QImage &a, const QImage &b);
+};
+
+void TestDrawing::subnetColours_data() {
+  QTest::addColumn<QString>("property");
+  QTest::addColumn<QString>("value");
+  QTest::addColumn<QString>("ring"); ///< general setting
+  const auto row = [](const char *name, const char *property, const char *value, const char *ring) {
+    QTest::newRow(name) << QString::fromLatin1(property) << QString::fromLatin1(value) << QString::fromLatin1(ring);
+  };
+  row("nobody checked", "other", "", "subnet ring color BV unknown");
+  row("no violation", "CB_info", "(;)", "subnet ring color no BV");
+  row("violation", "CB_info", "(p too high;)", "subnet ring color BV minor");
+  row("great violation", "CB_info", "(MAJOR: p too high;)", "subnet ring color BV major");
+}
+
+void TestDrawing::subnetColours() {
+  QFETCH(QString, property);
+  QFETCH(QString, value);
+  QFETCH(QString, ring);
+  ViewFixture f;
+  element subnet = station();
+  subnet.set(property, value);
+  f.net.addElement(subnet);
+  f.show();
+  QVERIFY(count(f.picture(), QColor(GeneralSettings::instance().value(ring))) > 40);
+  GeneralSettings::instance().setValue(QStringLiteral("show subnet ring colors"), QStringLiteral("SP/SM control"));
+  f.net.assembledSubnets().find(QStringLiteral("Station"))->set(QStringLiteral("substate"), QStringLiteral("Flow control"));
+  f.show();
+  QVERIFY(count(f.picture(), QColor(Qt::yellow)) > 40);
+}
+
+void TestDrawing::subnetPins() {
+  ViewFixture f;
+  f.net.addElement(station());
+  f.show();
+  QCOMPARE(f.plot().update().geometry().subnets().front().pins.size(), std::size_t(2)); // names do not care for case
+  const QImage with = f.picture();
+  GeneralSettings::instance().setValue(QStringLiteral("draw subassembly pin lines"), QStringLiteral("off"));
+  f.show();
+  QVERIFY(f.picture() != with);
+}
+
+void TestDrawing::parallelLinesLieSideBySide() {
+  ViewFixture f;
+  f.add(makeEdge("BA", "B", "A"), {{"diameter", "500"}, {"q", "0"}});
+  f.show();
+  const QImage picture = f.picture();
+  const QPoint middle = f.pixel(25, 0);
+  int lines = 0;
+  bool isLine = false;
+  for (int y = -12; y <= 12; ++y) {
+    const bool isInk = picture.pixelColor(middle + QPoint(0, y)).lightness() < 235;
+    lines += isInk && !isLine ? 1 : 0;
+    isLine = isInk;
+  }
+  QCOMPARE(lines, 2);
+}
+
+void TestDrawing::arrowsPointWhereTheGasGoes() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("q"), QStringLiteral("-5"));
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("diameter"), QStringLiteral("500"));
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("diameter"), QStringLiteral("5000")); // the others are thin
+  PlotSettings settings;
+  f.show();
+  settings = f.plot().settings();
+  settings.arrowMag = 12;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  const QImage picture = f.picture();
+  // An arrow is broad at its back and narrow at its tip.
+  const auto height = [&picture](const QPoint &place) {
+    int pixels = 0;
+    for (int y = -12; y <= 12; ++y)
+      pixels += picture.pixelColor(place + QPoint(0, y)).lightness() < 120 ? 1 : 0;
+    return pixels;
+  };
+  const QPoint ab = f.pixel(50, 0);
+  QVERIFY(height(ab - QPoint(8, 0)) > height(ab + QPoint(8, 0)) + 3);
+  const QPoint bc = f.pixel(150, 0);
+  QVERIFY(height(bc + QPoint(8, 0)) > height(bc - QPoint(8, 0)) + 3);
+}
+
+void TestDrawing::searchResultsStandOut() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("isSearchResult"), QStringLiteral("1"));
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("isSearchResult"), QStringLiteral("false"));
+  f.show();
+  f.plot().update().setDisplayMode(NetUpdate::DisplayMode::SearchResults);
+  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  const QImage picture = f.picture();
+  QVERIFY(picture.pixelColor(f.pixel(50, 0)).saturation() > 150);
+  QVERIFY(picture.pixelColor(f.pixel(150, 0)).saturation() < 20);
+}
+
+void TestDrawing::colourScaleNamesOtherColours() {
+  ViewFixture f;
+  f.show();
+  const auto title = [&f] {
+    return f.plot().plot()->axisTitle(QwtPlot::yRight).text();
+  };
+  QVERIFY(!title().contains(QStringLiteral("no value")));
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("state"), QStringLiteral("off"));
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("q"), QStringLiteral("0"));
+  f.addNode("X", "10", "40", "none");
+  f.add(makeEdge("AX", "A", "X"), {{"q", "1"}});
+  f.show();
+  for (const char *name : {"no value", "no flow", "off"})
+    QVERIFY2(title().contains(QString::fromLatin1(name)), name);
+}
+
+void TestDrawing::picturesHoldVectors() {
+  const QTemporaryDir folder;
+  ViewFixture f;
+  f.net.addElement(station());
+  f.plot().show();
+  f.show();
+  f.control.picker()->selectAll();
+  f.plot().update().relabelNow();
+  QVERIFY(exportPlot(f.plot(), folder.filePath(QStringLiteral("a.svg")), 600));
+  QFile file(folder.filePath(QStringLiteral("a.svg")));
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  const QByteArray svg = file.readAll();
+  for (const char *text : {">Station<", ">30 bar<"})
+    QVERIFY2(svg.contains(text), text); // text stays text
+  QVERIFY(svg.count("<polyline") + svg.count("<path") > 20);
+  QCOMPARE(svg.count("<image"), 1); // the bar of the colour scale
+}
+
+bool TestDrawing::isAlike(const QImage &a, const QImage &b) {
+  constexpr int Tolerance = 48;
+  const auto isNear = [](QRgb p, QRgb q) {
+    return qAbs(qRed(p) - qRed(q)) + qAbs(qGreen(p) - qGreen(q)) + qAbs(qBlue(p) - qBlue(q)) <= Tolerance;
+  };
+  const auto has = [&isNear](const QImage &image, int x, int y, QRgb color) {
+    for (int dy = -1; dy <= 1; ++dy)
+      for (int dx = -1; dx <= 1; ++dx)
+        if (image.valid(x + dx, y + dy) && isNear(image.pixel(x + dx, y + dy), color))
+          return true;
+    return false;
+  };
+  if (a.size() != b.size())
+    return false;
+  for (int y = 0; y < a.height(); ++y)
+    for (int x = 0; x < a.width(); ++x)
+      if (!has(b, x, y, a.pixel(x, y)) || !has(a, x, y, b.pixel(x, y)))
+        return false;
+  return true;
+}
+
+void TestDrawing::likeTheKeptPictures_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<QString>("ramp");
+  QTest::addColumn<int>("classes");
+  QTest::addColumn<bool>("labels");
+  QTest::newRow("smooth") << QStringLiteral("smooth") << QStringLiteral("hue") << 0 << false;
+  QTest::newRow("classes") << QStringLiteral("classes") << QStringLiteral("viridis") << 3 << false;
+  QTest::newRow("labels") << QStringLiteral("labels") << QStringLiteral("cividis") << 0 << true;
+}
+
+void TestDrawing::likeTheKeptPictures() {
+  QFETCH(QString, name);
+  QFETCH(QString, ramp);
+  QFETCH(int, classes);
+  QFETCH(bool, labels);
+  ViewFixture f;
+  f.net.addElement(station());
+  f.add(makeEdge("V", "A", "D", "v"), {{"state", "closed"}});
+  f.plot().resize(320, 240);
+  f.plot().show();
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.colorRamp = ramp;
+  settings.colorClasses = classes;
+  settings.colorScalePos = 0; // its numbers are text
+  settings.legendPos = 0;
+  settings.nodeLabelsColor = settings.edgeLabelsColor = Qt::transparent; // fonts differ between machines
+  LabelTable table;
+  for (LabelRow &row : table.types) {
+    row[LabelRow::Contents] = QStringLiteral("@type");
+    row[LabelRow::BgrColor] = QStringLiteral("#ffe0a0");
+    row[LabelRow::BordColor] = QStringLiteral("#804000");
+    row[LabelRow::BordAlpha] = QStringLiteral("255");
+  }
+  f.plot().update().setLabelTable(table);
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
+  if (labels)
+    f.plot().update().relabelNow();
+  const QImage picture = f.picture().convertToFormat(QImage::Format_RGB32);
+  const QString path = QFINDTESTDATA("../data/view/") + name + QStringLiteral(".png");
+  if (qEnvironmentVariableIsSet("NIVRA_KEEP_PICTURES"))
+    QVERIFY(picture.save(path));
+  const QImage kept = QImage(path).convertToFormat(QImage::Format_RGB32);
+  QVERIFY2(!kept.isNull(), qPrintable(path));
+  if (isAlike(picture, kept))
+    return;
+  picture.save(QDir::temp().filePath(name + QStringLiteral("-differs.png")));
+  QFAIL(qPrintable(QStringLiteral("differs from %1, see the folder of temporary files").arg(path)));
+}
+
+NIVRA_TEST(TestDrawing);
+#include "tst_drawing.moc"

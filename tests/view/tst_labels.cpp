@@ -1,0 +1,352 @@
+#include "viewfixture.h"
+
+#include <base/generalsettings.h>
+#include <model/netmetadata.h>
+#include <support/nivratest.h>
+#include <view/labelcontents.h>
+#include <view/labelplacement.h>
+#include <view/plotzoom.h>
+
+#include <random>
+
+class TestLabels : public QObject {
+  Q_OBJECT
+
+private slots:
+  void cleanup() { GeneralSettings::instance().reset(); }
+  void boxesThatAreFreeNeverOverlap();
+  void marginIsKept();
+  void lineLabelsStandUpright_data();
+  void lineLabelsStandUpright();
+  void linesAreSparedWherePossible();
+  void numbersAsAPersonWritesThem_data();
+  void numbersAsAPersonWritesThem();
+  void contentsFollowTheTable_data();
+  void contentsFollowTheTable();
+  void styleFollowsElementThenTable();
+  void labelsInTheDrawing();
+  void labelsStayWherePanned();
+  void importantOnesComeFirst();
+  void modes_data();
+  void modes();
+  void visibility_data();
+  void visibility();
+  void onlySymbolsFollowWhenLabelsAreOff();
+
+private:
+  static LabelCandidate point(const QPointF &place, const QSizeF &size) {
+    LabelCandidate candidate;
+    candidate.line = {place, place};
+    candidate.clearance = 4.0;
+    candidate.size = size;
+    return candidate;
+  }
+  static int overlaps(const std::vector<TurnedBox> &boxes) {
+    int count = 0;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+      for (std::size_t k = i + 1; k < boxes.size(); ++k)
+        count += boxes[i].overlaps(boxes[k]) ? 1 : 0;
+    }
+    return count;
+  }
+  static std::vector<TurnedBox> boxesOf(const NetUpdate &update) {
+    std::vector<TurnedBox> boxes;
+    for (const Label &label : update.labels())
+      boxes.push_back(label.candidate.box(label.spot));
+    return boxes;
+  }
+  static QStringList namesOf(const NetUpdate &update) {
+    QStringList names;
+    for (const Label &label : update.labels())
+      names.append(update.geometry().source(label.candidate.item)->value(QStringLiteral("name")));
+    names.sort();
+    return names;
+  }
+};
+
+void TestLabels::boxesThatAreFreeNeverOverlap() {
+  std::mt19937 random(7); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same boxes each time
+  std::uniform_real_distribution<double> x(-20.0, 420.0);
+  std::uniform_real_distribution<double> y(-20.0, 320.0);
+  std::uniform_real_distribution<double> side(1.0, 60.0);
+  std::uniform_real_distribution<double> angle(-90.0, 90.0);
+  OccupancyGrid grid(QRectF(0, 0, 400, 300));
+  std::vector<TurnedBox> taken;
+  for (int i = 0; i < 3000; ++i) {
+    const TurnedBox box({x(random), y(random)}, {side(random), side(random) * 0.4}, i % 2 == 0 ? 0.0 : angle(random));
+    if (!QRectF(0, 0, 400, 300).contains(box.bounds()) || !grid.isFree(box))
+      continue;
+    grid.take(box);
+    taken.push_back(box);
+  }
+  QVERIFY(taken.size() > 50);
+  QCOMPARE(overlaps(taken), 0);
+  QVERIFY(TurnedBox({50, 50}, {40, 10}, 0.0).overlaps(TurnedBox({50, 50}, {40, 10}, 90.0)));
+  QVERIFY(!TurnedBox({50, 50}, {40, 10}, 45.0).overlaps(TurnedBox({50, 80}, {40, 10}, 45.0)));
+}
+
+void TestLabels::marginIsKept() {
+  constexpr double Margin = 30.0;
+  LabelPlacement placement(QRectF(0, 0, 600, 400), Margin);
+  placement.addObstacle(QRectF(200, 0, 100, 400));
+  std::vector<TurnedBox> placed;
+  for (int i = 0; i < 400; ++i) {
+    LabelSpot spot;
+    const LabelCandidate candidate = point({30.0 * (i % 20), 20.0 * (i / 20)}, {50, 14});
+    if (placement.place(candidate, spot))
+      placed.push_back(candidate.box(spot).grown(Margin * 0.499));
+  }
+  QVERIFY(placed.size() > 5);
+  QCOMPARE(overlaps(placed), 0);
+  for (const TurnedBox &box : placed)
+    QVERIFY(!box.grown(-Margin * 0.499).bounds().intersects(QRectF(201, 1, 98, 398)));
+}
+
+void TestLabels::lineLabelsStandUpright_data() {
+  QTest::addColumn<QLineF>("line");
+  QTest::addColumn<double>("angle");
+  QTest::newRow("to the right") << QLineF(100, 200, 300, 200) << 0.0;
+  QTest::newRow("to the left") << QLineF(300, 200, 100, 200) << 0.0;
+  QTest::newRow("down") << QLineF(200, 100, 200, 300) << 90.0;
+  QTest::newRow("slanted") << QLineF(300, 300, 100, 100) << 45.0;
+  QTest::newRow("mostly outside") << QLineF(-5000, 200, 5000, 200) << 0.0;
+}
+
+void TestLabels::lineLabelsStandUpright() {
+  QFETCH(QLineF, line);
+  QFETCH(double, angle);
+  LabelPlacement placement(QRectF(0, 0, 400, 400), 0.0);
+  LabelCandidate candidate;
+  candidate.isLine = true;
+  candidate.line = line;
+  candidate.clearance = 2.0;
+  candidate.size = {80, 14};
+  LabelSpot spot;
+  QVERIFY(placement.place(candidate, spot));
+  QVERIFY(qAbs(std::abs(spot.angle) - angle) < 1e-6);
+  const QPointF center = candidate.anchor(spot.along) + spot.offset;
+  QVERIFY(qAbs(distanceToLine(center, line) - 7.0) < 8.0); // beside it, not on it
+  QVERIFY(distanceToLine(center, line) > 7.0);
+}
+
+void TestLabels::linesAreSparedWherePossible() {
+  LabelPlacement placement(QRectF(0, 0, 400, 400), 0.0);
+  placement.addLine({200, 200, 400, 200}, 3.0); // where a label would stand first
+  LabelSpot spot;
+  const LabelCandidate candidate = point({200, 200}, {60, 14});
+  QVERIFY(placement.place(candidate, spot));
+  QVERIFY(qAbs(spot.offset.y()) > 7.0);
+}
+
+void TestLabels::numbersAsAPersonWritesThem_data() {
+  QTest::addColumn<double>("value");
+  QTest::addColumn<QString>("unit");
+  QTest::addColumn<QString>("text");
+  QTest::newRow("pressure") << 62.503 << QStringLiteral("bar") << QStringLiteral("62.5 bar");
+  QTest::newRow("thousands in the unit") << 5.2 << QStringLiteral("1000 m3/h") << QStringLiteral("5\u2009200 m³/h");
+  QTest::newRow("many digits") << -1234567.8 << QStringLiteral("m") << QStringLiteral("-1\u2009235\u2009000 m");
+  QTest::newRow("a number alone may be a name") << 1234567.0 << QString() << QStringLiteral("1\u2009234\u2009567");
+  QTest::newRow("small") << 0.0123456 << QString() << QStringLiteral("0.012");
+  QTest::newRow("nothing") << 0.0 << QStringLiteral("bar") << QStringLiteral("0 bar");
+  QTest::newRow("nearly nothing") << -1e-12 << QString() << QStringLiteral("-1e-12");
+  QTest::newRow("huge") << 1.5e15 << QStringLiteral("W") << QStringLiteral("1.5e+15 W");
+}
+
+void TestLabels::numbersAsAPersonWritesThem() {
+  QFETCH(double, value);
+  QFETCH(QString, unit);
+  QFETCH(QString, text);
+  QCOMPARE(LabelContents::formatted(value, unit), text);
+}
+
+void TestLabels::contentsFollowTheTable_data() {
+  QTest::addColumn<QString>("contents");
+  QTest::addColumn<QStringList>("lines");
+  QTest::addColumn<QString>("html");
+  QTest::newRow("values in the display unit")
+      << QStringLiteral("@name<br/>T = @t") << QStringList{QStringLiteral("A & B"), QStringLiteral("T = 10 °C")}
+      << QString();
+  QTest::newRow("a line without its value")
+      << QStringLiteral("@name<br />@rho") << QStringList{QStringLiteral("A & B")} << QString();
+  QTest::newRow("plain text") << QStringLiteral("a&#44; b<br\t/>a@")
+                              << QStringList{QStringLiteral("a, b"), QStringLiteral("a@")} << QString();
+  QTest::newRow("dots end a name") << QStringLiteral("(@p.)") << QStringList{QStringLiteral("(20 bar.)")} << QString();
+  QTest::newRow("marks") << QStringLiteral("<b>@name</b><br />@p") << QStringList()
+                         << QStringLiteral("<b>A &amp; B</b><br />20 bar");
+  QTest::newRow("nothing") << QString() << QStringList() << QString();
+}
+
+void TestLabels::contentsFollowTheTable() {
+  QFETCH(QString, contents);
+  QFETCH(QStringList, lines);
+  QFETCH(QString, html);
+  LabelTable table;
+  table.types.front()[LabelRow::Contents] = contents; // of nodes
+  const element node = makeElement({{"name", "A & B"}, {"type", "n"}, {"p", "20"}, {"t", "283.15"}});
+  const LabelText text = LabelContents(table, PlotSettings(), NetMetaData::instance()).text(node);
+  QCOMPARE(text.lines, lines);
+  QCOMPARE(text.html, html);
+}
+
+void TestLabels::styleFollowsElementThenTable() {
+  LabelTable table;
+  table.types.front()[LabelRow::Color] = QStringLiteral("red");
+  table.types.front()[LabelRow::BgrColor] = QStringLiteral("no colour");
+  table.types.front()[LabelRow::BgrAlpha] = QStringLiteral("999");
+  table.types.front()[LabelRow::BordColor] = QStringLiteral("#00ff00");
+  table.types.front()[LabelRow::BordAlpha] = QStringLiteral("128");
+  table.types.front()[LabelRow::Font] = QStringLiteral("no, font");
+  element node = makeNode("A");
+  const PlotSettings settings;
+  LabelStyle style = LabelContents(table, settings, NetMetaData::instance()).style(node, NetData::Node);
+  QCOMPARE(style.text, QColor(Qt::red));
+  QCOMPARE(style.background, QColor(255, 255, 255, 255)); // what is no colour changes nothing
+  QCOMPARE(style.border, QColor(0, 255, 0, 128));
+  node.set(QStringLiteral("vis.color"), QStringLiteral("blue"));
+  node.set(QStringLiteral("vis.bgr-alpha"), QStringLiteral("10"));
+  node.set(QStringLiteral("vis.font"), QStringLiteral("Arial,20,-1,5,75,0,0,0,0,0"));
+  style = LabelContents(table, settings, NetMetaData::instance()).style(node, NetData::Node);
+  QCOMPARE(style.text, QColor(Qt::blue));
+  QCOMPARE(style.background.alpha(), 10);
+  QVERIFY(style.font.bold() && style.font.pixelSize() > 20);
+}
+
+void TestLabels::labelsInTheDrawing() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const QImage without = f.picture();
+  QVERIFY(f.plot().update().labels().empty()); // at full extent there are none by themselves
+  f.plot().update().relabelNow();
+  QCOMPARE(GeneralSettings::instance().value(QStringLiteral("perform label placement")), QStringLiteral("proximity"));
+  QCOMPARE(namesOf(f.plot().update()).size() + int(f.plot().update().unplacedLabels().size()), 7);
+  QVERIFY(namesOf(f.plot().update()).size() >= 5);
+  QCOMPARE(overlaps(boxesOf(f.plot().update())), 0);
+  QVERIFY(f.picture() != without);
+}
+
+void TestLabels::labelsStayWherePanned() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  f.plot().zoomer()->zoomIn({150, 20});
+  NetUpdate &update = f.plot().update();
+  update.placeLabelsNow();
+  const auto spots = [&update] {
+    std::map<QString, QPointF> found;
+    for (const Label &label : update.labels())
+      found[update.geometry().source(label.candidate.item)->value(QStringLiteral("name"))] =
+          label.spot.offset + QPointF(label.spot.along, label.spot.angle);
+    return found;
+  };
+  const auto before = spots();
+  QVERIFY(before.size() >= 2);
+  update.placeLabelsNow();
+  QCOMPARE(spots(), before);
+  const QRectF view = f.plot().zoomer()->zoomRect();
+  f.plot().zoomer()->zoom(view.translated(view.width() * 0.05, view.height() * 0.03));
+  update.placeLabelsNow();
+  int kept = 0;
+  for (const auto &[name, spot] : spots()) {
+    if (before.count(name) == 0)
+      continue;
+    ++kept;
+    QVERIFY2((spot - before.at(name)).manhattanLength() < 1e-9, qPrintable(name));
+  }
+  QVERIFY(kept >= 2);
+}
+
+void TestLabels::importantOnesComeFirst() {
+  ViewFixture f;
+  for (int i = 0; i < 300; ++i) // a crowd of junctions about the station
+    f.addNode(qPrintable(QStringLiteral("J%1").arg(i)), qPrintable(QString::number(200 + i % 20)),
+              qPrintable(QString::number(40 + i / 20)), "30");
+  f.plot().show();
+  f.show();
+  f.plot().update().relabelNow();
+  QVERIFY(namesOf(f.plot().update()).contains(QStringLiteral("CD")));
+  QVERIFY(f.plot().update().unplacedLabels().size() > 100);
+  QCOMPARE(overlaps(boxesOf(f.plot().update())), 0);
+}
+
+void TestLabels::modes_data() {
+  QTest::addColumn<QString>("mode");
+  QTest::addColumn<QString>("build");
+  QTest::addColumn<bool>("isAny");
+  QTest::newRow("no label") << QStringLiteral("no label") << QStringLiteral("on") << false;
+  QTest::newRow("names") << QStringLiteral("name only") << QStringLiteral("on") << true;
+  QTest::newRow("switched off") << QStringLiteral("name only") << QStringLiteral("off") << false;
+}
+
+void TestLabels::modes() {
+  QFETCH(QString, mode);
+  QFETCH(QString, build);
+  QFETCH(bool, isAny);
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  GeneralSettings::instance().setValue(QStringLiteral("build labels"), build);
+  PlotSettings settings = f.plot().settings();
+  settings.label_mode = mode;
+  f.plot().setSettings(settings);
+  f.plot().update().relabelNow();
+  QCOMPARE(!f.plot().update().labels().empty(), isAny);
+  for (const Label &label : f.plot().update().labels())
+    QCOMPARE(label.lines.size(), std::size_t(1));
+}
+
+void TestLabels::visibility_data() {
+  QTest::addColumn<QString>("vis");
+  QTest::addColumn<QString>("zoom");
+  QTest::addColumn<int>("extent"); // seen last, after 1000 and 100
+  QTest::addColumn<int>("state");
+  using State = VisibilityRules::State;
+  const auto row = [](const char *name, const char *vis, const char *zoom, int extent, State state) {
+    QTest::newRow(name) << QString::fromLatin1(vis) << QString::fromLatin1(zoom) << extent << int(state);
+  };
+  row("near", "auto", "200", 199, State::On);
+  row("a little further", "AUTO", "200;5", 200, State::Symbol);
+  row("far keeps what was", "auto", "200", 300, State::On);
+  row("no threshold", "auto", "0", 1000, State::On);
+  row("no number", "auto", "x", 1000, State::On);
+  row("off", " off ", "200", 1, State::Off);
+  row("symbol", "symbol", "", 1, State::Symbol);
+  row("any other word", "yes", "", 1, State::On);
+}
+
+void TestLabels::visibility() {
+  QFETCH(QString, vis);
+  QFETCH(QString, zoom);
+  QFETCH(int, extent);
+  QFETCH(int, state);
+  ViewFixture f;
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis"), vis);
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis.zoom"), zoom);
+  NetGeometry geometry;
+  geometry.build(f.net, {});
+  VisibilityRules rules;
+  rules.read(geometry, LabelTable());
+  const NetGeometry::Item item = *geometry.find(f.net, QStringLiteral("CD"));
+  for (const int seen : {1000, 100, extent})
+    rules.setExtent(seen);
+  QCOMPARE(int(rules.of(item)), state);
+  QCOMPARE(int(rules.of(*geometry.find(f.net, QStringLiteral("AB")))), int(VisibilityRules::State::On));
+}
+
+void TestLabels::onlySymbolsFollowWhenLabelsAreOff() {
+  ViewFixture f;
+  GeneralSettings::instance().setValue(QStringLiteral("perform label placement"), QStringLiteral("never"));
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis"), QStringLiteral("auto"));
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis.zoom"), QStringLiteral("60"));
+  f.plot().show();
+  f.show();
+  QVERIFY(f.plot().update().determineVisibleSymbols().empty()); // 110 units are seen
+  for (int i = 0; i < 4; ++i)
+    f.plot().zoomer()->zoomIn({200, 50});
+  f.plot().update().requestPixtest(-1);
+  QCOMPARE(f.plot().update().determineVisibleSymbols().size(), std::size_t(1));
+  QVERIFY(f.plot().update().labels().empty());
+}
+
+NIVRA_TEST(TestLabels);
+#include "tst_labels.moc"

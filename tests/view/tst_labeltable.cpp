@@ -1,0 +1,99 @@
+#include <support/nivratest.h>
+#include <view/labeltable.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+class TestLabelTable : public QObject {
+  Q_OBJECT
+
+private slots:
+  void comesBackAsWritten();
+  void anotherVersionIgnoresMasters();
+  void cutAtEveryLine();
+  void badFiles();
+
+private:
+  static LabelTable sample() {
+    LabelTable table;
+    table.types.at(2)[LabelRow::Contents] = QStringLiteral("@name&#44; ü<br />@p");
+    table.types.at(2)[LabelRow::Font] = QStringLiteral("Calibri,8,-1,5,50,1,0,0,0,0");
+    LabelRow row = table.types.at(3);
+    row[LabelRow::LongName] = QStringLiteral("loud");
+    row[LabelRow::Color] = QStringLiteral("red");
+    row.icon = QStringLiteral("c");
+    table.templates = {row, row};
+    return table;
+  }
+  QString path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
+  QString write(const QByteArray &text) const {
+    QFile file(path("vfd.csv"));
+    file.open(QIODevice::WriteOnly);
+    file.write(text);
+    return file.fileName();
+  }
+  QByteArray sampleText() const {
+    LabelTableFile::write(path("sample.csv"), sample());
+    QFile file(path("sample.csv"));
+    file.open(QIODevice::ReadOnly);
+    return file.readAll();
+  }
+  const QTemporaryDir m_folder;
+};
+
+void TestLabelTable::comesBackAsWritten() {
+  QVERIFY(LabelTableFile::write(path("vfd.csv"), sample()));
+  LabelTable read;
+  QVERIFY(LabelTableFile::read(path("vfd.csv"), read));
+  QVERIFY(read == sample());
+  LabelTable broken = sample();
+  broken.types.at(0)[LabelRow::Contents] = QStringLiteral("two\nlines");
+  QVERIFY(LabelTableFile::write(path("vfd.csv"), broken));
+  QVERIFY(LabelTableFile::read(path("vfd.csv"), read));
+  QCOMPARE(read.types.at(0)[LabelRow::Contents], QStringLiteral("two lines")); // a cell is a line
+  QCOMPARE(read.templates.size(), std::size_t(2));
+}
+
+void TestLabelTable::anotherVersionIgnoresMasters() {
+  QList<QByteArray> lines = sampleText().split('\n');
+  lines[0] = "vfd 0";
+  for (int column = 0; column < LabelRow::Columns; ++column)
+    lines.insert(1 + LabelRow::Columns + column, column == 0 ? "master compressor" : "7");
+  LabelTable read;
+  QVERIFY(LabelTableFile::read(write(lines.join('\n')), read));
+  QVERIFY(read == sample());
+}
+
+void TestLabelTable::cutAtEveryLine() {
+  const QList<QByteArray> lines = sampleText().split('\n');
+  const LabelTable whole = sample();
+  for (int count = 0; count < lines.size(); ++count) {
+    LabelTable read;
+    QVERIFY(LabelTableFile::read(write(lines.mid(0, count).join('\n')), read));
+    // Whole rows are taken, half ones leave what was there.
+    const int cells = std::max(0, count - 1 - LabelRow::Columns);
+    for (std::size_t row = 0; row < whole.types.size(); ++row) {
+      const int end = static_cast<int>(row + 1) * LabelRow::Columns;
+      if (cells != end) // there the last cell, which is empty, may count as missing
+        QVERIFY2(read.types[row] == (cells > end ? whole.types : LabelTable().types)[row],
+                 qPrintable(QString::number(count)));
+    }
+    QVERIFY(read.templates.size() <= whole.templates.size());
+    for (const LabelRow &row : read.templates)
+      QVERIFY(row == whole.templates.front());
+  }
+}
+
+void TestLabelTable::badFiles() {
+  LabelTable read;
+  QVERIFY(!LabelTableFile::read(path("missing.csv"), read));
+  QVERIFY(!LabelTableFile::read(m_folder.path(), read)); // a folder
+  QVERIFY(LabelTableFile::read(write(QByteArray(100000, '\xff')), read));
+  QVERIFY(read == LabelTable());
+  QString error;
+  QVERIFY(!LabelTableFile::write(QStringLiteral("/nowhere/vfd.csv"), read, &error));
+  QVERIFY(error.contains(QStringLiteral("/nowhere/vfd.csv")));
+}
+
+NIVRA_TEST(TestLabelTable);
+#include "tst_labeltable.moc"

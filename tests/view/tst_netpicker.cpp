@@ -1,0 +1,334 @@
+#include "viewfixture.h"
+
+#include <base/generalsettings.h>
+#include <support/nivratest.h>
+#include <view/netpicker.h>
+#include <view/plotzoom.h>
+
+#include <QMenu>
+#include <QSignalSpy>
+
+class TestNetPicker : public QObject {
+  Q_OBJECT
+
+private slots:
+  void cleanup() { GeneralSettings::instance().reset(); }
+  void clickSelectsTheNearest();
+  void controlAdds();
+  void clickBesideEverythingClears();
+  void rightButtonPicksToo();
+  void picksOnReleaseIfAsked();
+  void rectangleNeedsItsSetting_data();
+  void rectangleNeedsItsSetting();
+  void keys();
+  void rectangleZoomKey();
+  void marksByName();
+  void selectionIsDrawnWithoutTheNetwork();
+  void hoverMarksAndTells();
+  void crowdIsListed();
+  void parallelEdgesArePickedApart();
+  void subnetMenu_data();
+  void subnetMenu();
+  void selectionOfAnotherNetworkIsGone();
+
+private:
+  static QPoint canvasPoint(ViewFixture &f, double x, double y) {
+    const QwtFastPlot &area = *f.plot().plot();
+    return QPointF(area.transform(QwtPlot::xBottom, x), area.transform(QwtPlot::yLeft, y)).toPoint();
+  }
+  static void click(ViewFixture &f, double x, double y, Qt::KeyboardModifiers keys = Qt::NoModifier,
+                    Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mouseClick(f.plot().plot()->canvas(), button, keys, canvasPoint(f, x, y));
+    if (QWidget *popup = QApplication::activePopupWidget())
+      popup->close();
+  }
+  static void drag(ViewFixture &f, const QPoint &from, const QPoint &to, Qt::KeyboardModifiers keys) {
+    QWidget *canvas = f.plot().plot()->canvas();
+    QTest::mousePress(canvas, Qt::LeftButton, keys, from);
+    QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, keys);
+    QApplication::sendEvent(canvas, &move);
+    QMouseEvent release(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton, keys);
+    QApplication::sendEvent(canvas, &release);
+  }
+  static void set(const char *key, const char *value) {
+    GeneralSettings::instance().setValue(QString::fromLatin1(key), QString::fromLatin1(value));
+  }
+  static QStringList texts(const QMenu &contextMenu) {
+    QStringList list;
+    for (const QAction *entry : contextMenu.actions())
+      list.append(entry->text());
+    return list;
+  }
+  static QMenu *subMenu(const QMenu &contextMenu, const QString &text) {
+    for (const QAction *entry : contextMenu.actions()) {
+      if (entry->text().startsWith(text))
+        return entry->menu();
+    }
+    return nullptr;
+  }
+};
+
+void TestNetPicker::clickSelectsTheNearest() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const QSignalSpy changed(f.control.picker(), &NetPicker::selectionChanged);
+  const QSignalSpy picked(f.control.picker(), &NetPicker::picked);
+  click(f, 50, 2);
+  QCOMPARE(f.net.selection().edges, Selection::Names{QStringLiteral("AB")});
+  click(f, 100, 0); // where two edges meet, the node counts more than the lines
+  QCOMPARE(f.net.selection().nodes, Selection::Names{QStringLiteral("B")});
+  QVERIFY(f.net.selection().edges.isEmpty());
+  click(f, 200, 50); // the symbol of the compressor
+  QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("CD")});
+  QCOMPARE(changed.count(), 3);
+  QCOMPARE(picked.last().first().toString(), QStringLiteral("CD"));
+  click(f, 200, 50); // again: nothing changes, but it is told
+  QCOMPARE(changed.count(), 3);
+  QCOMPARE(picked.count(), 4);
+}
+
+void TestNetPicker::controlAdds() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  click(f, 50, 0);
+  click(f, 150, 0, Qt::ControlModifier);
+  QCOMPARE(f.net.selection().edges.size(), 2);
+  click(f, 0, 0, Qt::AltModifier); // as without any
+  QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("A")});
+  click(f, 50, 0, Qt::ShiftModifier); // means nothing here
+  QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("A")});
+}
+
+void TestNetPicker::clickBesideEverythingClears() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  click(f, 50, 0);
+  drag(f, canvasPoint(f, 60, 60), canvasPoint(f, 120, 90), Qt::NoModifier); // a zoom rectangle that begins beside
+  QCOMPARE(f.net.selection().size(), 1);
+  f.plot().zoomer()->fitAll();
+  click(f, 60, 60);
+  QVERIFY(f.net.selection().isEmpty());
+}
+
+void TestNetPicker::rightButtonPicksToo() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  set("SelectionModifiers", "ShiftSelect");
+  click(f, 50, 0, Qt::NoModifier, Qt::RightButton);
+  QCOMPARE(f.net.selection().edges, Selection::Names{QStringLiteral("AB")});
+  QTest::mousePress(f.plot().plot()->canvas(), Qt::RightButton, Qt::ShiftModifier, canvasPoint(f, 10, 50));
+  QCOMPARE(f.control.picker()->mode(), NetPicker::Mode::None); // never a rectangle
+  QTest::mouseRelease(f.plot().plot()->canvas(), Qt::RightButton, Qt::ShiftModifier, canvasPoint(f, 10, 50));
+  if (QWidget *popup = QApplication::activePopupWidget())
+    popup->close();
+}
+
+void TestNetPicker::picksOnReleaseIfAsked() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  QWidget *canvas = f.plot().plot()->canvas();
+  QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, canvasPoint(f, 50, 0));
+  QCOMPARE(f.net.selection().size(), 1);
+  QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, canvasPoint(f, 50, 0));
+  set("pick on Release", "1");
+  QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, canvasPoint(f, 150, 0));
+  QVERIFY(f.net.selection().edges.contains(QStringLiteral("AB")));
+  QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, canvasPoint(f, 150, 0));
+  QCOMPARE(f.net.selection().edges, Selection::Names{QStringLiteral("BC")});
+}
+
+void TestNetPicker::rectangleNeedsItsSetting_data() {
+  QTest::addColumn<QString>("setting");
+  QTest::addColumn<int>("keys");
+  QTest::addColumn<int>("nodes");
+  QTest::addColumn<int>("edges");
+  const int shift = Qt::ShiftModifier;
+  QTest::newRow("replaces") << QStringLiteral("ShiftSelect") << shift << 2 << 1;
+  QTest::newRow("adds") << QStringLiteral("ShiftSelect") << int(Qt::ShiftModifier | Qt::ControlModifier) << 3 << 1;
+  QTest::newRow("not asked for") << QStringLiteral("DirectSelect") << shift << 1 << 0;
+}
+
+void TestNetPicker::rectangleNeedsItsSetting() {
+  QFETCH(QString, setting);
+  QFETCH(int, keys);
+  QFETCH(int, nodes);
+  QFETCH(int, edges);
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  set("SelectionModifiers", setting.toLatin1().constData());
+  set("UserKey_RectZoom", "0"); // Shift is wanted for something else
+  click(f, 200, 100);
+  QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("D")});
+  const QRectF view = f.plot().zoomer()->zoomRect();
+  drag(f, canvasPoint(f, -8, 8), canvasPoint(f, 110, -8), Qt::KeyboardModifiers(keys)); // around A, B and AB
+  QCOMPARE(f.net.selection().nodes.size(), nodes);
+  QCOMPARE(f.net.selection().edges.size(), edges);
+  QCOMPARE(f.plot().zoomer()->zoomRect(), view);
+}
+
+void TestNetPicker::keys() {
+  ViewFixture f;
+  f.net.addElement(makeElement({{"name", "T"}, {"type", "t"}, {"x", "50"}, {"y", "50"}, {"text", "text"}}));
+  f.plot().show();
+  f.show();
+  QTest::keyClick(f.plot().plot()->canvas(), Qt::Key_A, Qt::ControlModifier);
+  QCOMPARE(f.net.selection().nodes.size(), 4);
+  QCOMPARE(f.net.selection().edges.size(), 3);
+  QCOMPARE(f.net.selection().others.size(), 1);
+  QTest::keyClick(f.plot().plot()->canvas(), Qt::Key_Escape);
+  QVERIFY(f.net.selection().isEmpty());
+  QCOMPARE(f.control.picker()->selectAllAction()->text(), QStringLiteral("Select All (Ctrl+A)"));
+}
+
+void TestNetPicker::rectangleZoomKey() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  QWidget *canvas = f.plot().plot()->canvas();
+  const double before = f.plot().zoomer()->zoomRect().width();
+  drag(f, canvasPoint(f, 10, 10), canvasPoint(f, 60, 60), Qt::ShiftModifier);
+  QCOMPARE(f.plot().zoomer()->zoomRect().width(), before);
+  QTest::keyPress(canvas, Qt::Key_Shift);
+  drag(f, canvasPoint(f, 10, 10), canvasPoint(f, 60, 60), Qt::ShiftModifier);
+  QVERIFY(f.plot().zoomer()->zoomRect().width() < before);
+  QVERIFY(f.net.selection().isEmpty());
+}
+
+void TestNetPicker::marksByName() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  QVERIFY(f.control.picker()->markElement(QStringLiteral("bc"))); // names do not care for case
+  QCOMPARE(f.net.selection().edges, Selection::Names{QStringLiteral("BC")});
+  QVERIFY(!f.control.picker()->markElement(QStringLiteral("nowhere")));
+  QCOMPARE(f.net.selection().size(), 1);
+}
+
+void TestNetPicker::selectionIsDrawnWithoutTheNetwork() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const QPoint beside = f.pixel(25, 0) + QPoint(0, -4);
+  const QColor before = f.picture().pixelColor(beside);
+  click(f, 25, 0);
+  f.plot().selection().setHovered(std::nullopt);
+  const QColor marked = f.picture().pixelColor(beside);
+  QVERIFY(marked != before);
+  f.control.picker()->clearSelection();
+  QCOMPARE(f.picture().pixelColor(beside), before);
+}
+
+void TestNetPicker::hoverMarksAndTells() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  QWidget *canvas = f.plot().plot()->canvas();
+  QMouseEvent over(QEvent::MouseMove, canvasPoint(f, 50, 0), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(canvas, &over);
+  QVERIFY(f.plot().selection().hovered().has_value());
+  QCOMPARE(f.plot().selection().hovered()->kind, NetData::Edge);
+  QMouseEvent beside(QEvent::MouseMove, canvasPoint(f, 60, 60), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(canvas, &beside);
+  QVERIFY(!f.plot().selection().hovered().has_value());
+}
+
+void TestNetPicker::crowdIsListed() {
+  ViewFixture f;
+  f.addNode("B2", "100", "0", "30");
+  f.plot().show();
+  f.show();
+  QTest::mouseClick(f.plot().plot()->canvas(), Qt::RightButton, Qt::NoModifier, canvasPoint(f, 100, 0));
+  auto *contextMenu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+  QVERIFY(contextMenu != nullptr);
+  const QMenu *crowd = subMenu(*contextMenu, QStringLiteral("Select here (4)")); // two nodes, two lines
+  QVERIFY(crowd != nullptr);
+  for (QAction *entry : crowd->actions()) {
+    if (entry->text().startsWith(QStringLiteral("B2")))
+      entry->trigger();
+  }
+  QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("B2")});
+  contextMenu->close();
+}
+
+void TestNetPicker::parallelEdgesArePickedApart() {
+  ViewFixture f;
+  f.add(makeEdge("BA", "B", "A"), {{"diameter", "800"}}); // the other way round, yet beside
+  f.plot().show();
+  f.show();
+  QStringList names;
+  for (const int aside : {-6, 6}) {
+    QTest::mouseClick(f.plot().plot()->canvas(), Qt::LeftButton, Qt::NoModifier, canvasPoint(f, 50, 0) + QPoint(0, aside));
+    names.append(f.net.selection().edges.values());
+  }
+  names.sort();
+  QCOMPARE(names, (QStringList{QStringLiteral("AB"), QStringLiteral("BA")}));
+}
+
+void TestNetPicker::subnetMenu_data() {
+  QTest::addColumn<QString>("elements");
+  QTest::addColumn<bool>("isThere");
+  QTest::addColumn<QStringList>("edit");
+  QTest::addColumn<QStringList>("open");
+  const QStringList lost{QStringLiteral("<Could not find subnet>!")};
+  const QString all = QStringLiteral("ALL of Station");
+  const QString active = QStringLiteral("ALL active of Station");
+  QTest::newRow("removed") << QStringLiteral("CD") << false << lost << lost;
+  QTest::newRow("empty") << QString() << true << QStringList{QStringLiteral("<empty element list>!")}
+                         << QStringList{QStringLiteral("<empty characteristics list>!")};
+  QTest::newRow("regulator") << QStringLiteral("R;AB") << true << QStringList{all, active, QString(), QStringLiteral("R")}
+                             << QStringList{QStringLiteral("<empty characteristics list>!")};
+  QTest::newRow("compressor") << QStringLiteral("CD;R") << true
+                              << QStringList{all, active, QString(), QStringLiteral("CD"), QStringLiteral("R")}
+                              << QStringList{all, active, QString(), QStringLiteral("CD")};
+}
+
+void TestNetPicker::subnetMenu() {
+  QFETCH(QString, elements);
+  QFETCH(bool, isThere);
+  QFETCH(QStringList, edit);
+  QFETCH(QStringList, open);
+  ViewFixture f;
+  f.add(makeEdge("R", "A", "C", "r"), {});
+  element station = makeElement({{"name", "Station"}, {"type", "sub"}, {"x", "20"}, {"y", "80"}, {"pins", "A;C"}});
+  station.set(QStringLiteral("elements"), elements);
+  f.net.addElement(station);
+  f.plot().show();
+  f.show();
+  click(f, 20, 80);
+  QCOMPARE(f.net.selection().subnets, Selection::Names{QStringLiteral("Station")});
+  if (!isThere)
+    f.net.assembledSubnets().erase(QStringLiteral("Station"));
+  const QSignalSpy opened(&f.control, &NetVisControl::openCharacteristicsRequested);
+  QMenu contextMenu;
+  emit f.plot().contextMenuRequested(&contextMenu);
+  const QMenu *subnet = subMenu(contextMenu, QStringLiteral("Subnet"));
+  QVERIFY(subnet != nullptr);
+  QCOMPARE(texts(*subMenu(*subnet, QStringLiteral("Edit Properties of"))), edit);
+  const QMenu *characteristics = subMenu(*subnet, QStringLiteral("Open Characteristics of"));
+  QCOMPARE(texts(*characteristics), open);
+  characteristics->actions().first()->trigger();
+  QCOMPARE(opened.count(), open.size() > 1 ? 1 : 0);
+}
+
+void TestNetPicker::selectionOfAnotherNetworkIsGone() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  f.control.picker()->selectAll();
+  f.control.clear();
+  f.net.clear();
+  f.picture(); // must not look at what is gone
+  QVERIFY(f.net.selection().isEmpty());
+  f.addNode("X", "0", "0", "1");
+  f.show();
+  QVERIFY(f.plot().selection().items().empty());
+}
+
+NIVRA_TEST(TestNetPicker);
+#include "tst_netpicker.moc"

@@ -1,0 +1,216 @@
+#include "viewfixture.h"
+
+#include <support/nivratest.h>
+#include <view/drawrange.h>
+#include <view/labeltableeditor.h>
+#include <view/plotzoom.h>
+#include <view/viewfuncdialog.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+
+class TestViewFuncDialog : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init() { qunsetenv("NIVRA_BATCH"); }
+  void cleanup() { qputenv("NIVRA_BATCH", "1"); }
+  void ranges_data();
+  void ranges();
+  void choicesOfThePart();
+  void appliesToThePlot();
+  void boundsAreInTheDisplayUnit();
+  void invalidRangeAsks_data();
+  void invalidRangeAsks();
+  void savesBothFiles();
+  void templates();
+
+private:
+  template <typename T>
+  static T *child(QWidget &dialog, const char *name) {
+    return dialog.findChild<T *>(QString::fromLatin1(name));
+  }
+  static FunctionRow *row(viewFuncDialog &dialog, int number) { return dialog.findChildren<FunctionRow *>().at(number); }
+  static void press(viewFuncDialog &dialog, const char *button) { child<QPushButton>(dialog, button)->click(); }
+  /// Answers the next message box and keeps its text.
+  static void answer(QMessageBox::StandardButton button, QString &text) {
+    QTimer::singleShot(0, [button, &text] {
+      auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+      if (box == nullptr)
+        return;
+      text = box->text();
+      if (QAbstractButton *chosen = box->button(button))
+        chosen->click();
+      else
+        box->close();
+    });
+  }
+};
+
+void TestViewFuncDialog::ranges_data() {
+  QTest::addColumn<double>("low");
+  QTest::addColumn<double>("high");
+  QTest::addColumn<int>("state");
+  using State = DrawRange::State;
+  QTest::newRow("sound") << 1.0 << 2.0 << int(State::Sound);
+  QTest::newRow("open") << PlotSettings::OpenMinimum << -5.0 << int(State::Sound);
+  QTest::newRow("inverted") << 2.0 << 1.0 << int(State::Inverted);
+  QTest::newRow("equal") << 2.0 << 2.0 << int(State::Tiny);
+  QTest::newRow("nearly equal") << 1e6 << 1e6 + 1e-5 << int(State::Tiny);
+}
+
+void TestViewFuncDialog::ranges() {
+  QFETCH(double, low);
+  QFETCH(double, high);
+  QFETCH(int, state);
+  QCOMPARE(int(DrawRange::check(low, high)), state);
+  DrawRange::correct(low, high);
+  QCOMPARE(int(DrawRange::check(low, high)), int(DrawRange::State::Sound));
+}
+
+void TestViewFuncDialog::choicesOfThePart() {
+  ViewFixture f;
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  QCOMPARE(dialog.windowTitle(), QStringLiteral("Configure Draw"));
+  const auto texts = [&dialog](const char *name) {
+    const auto *box = child<QComboBox>(dialog, name);
+    QStringList list;
+    for (int i = 0; i < box->count(); ++i)
+      list.append(box->itemText(i));
+    return list;
+  };
+  QCOMPARE(texts("colorScalePos").join(QLatin1Char('|')), QStringLiteral("not shown|at the top|on the right"));
+  QCOMPARE(texts("label_mode").join(QLatin1Char('|')), QStringLiteral("no label|name only|selected properties"));
+  QCOMPARE(texts("viewport").join(QLatin1Char('|')), QStringLiteral("independent axes|original ratio|aspect ratio"));
+  QCOMPARE(texts("legendPos").size(), 5);
+  QCOMPARE(viewFuncDialog::edgeFunctions().size(), 15);
+  QCOMPARE(child<QDoubleSpinBox>(dialog, "logFactor")->minimum(), -15.0);
+  QVERIFY(!LabelTableEditor::visibilityValues().isEmpty());
+}
+
+void TestViewFuncDialog::appliesToThePlot() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  QVERIFY(f.plot().settings().colorFunc == QLatin1String("p"));
+  child<QComboBox>(*row(dialog, 0), "function")->setCurrentText(QStringLiteral("volume flow"));
+  child<QCheckBox>(*row(dialog, 0), "absolute")->setChecked(true);
+  child<QComboBox>(dialog, "colorScalePos")->setCurrentIndex(1);
+  child<QComboBox>(dialog, "colorRamp")->setCurrentIndex(1);
+  child<QComboBox>(dialog, "viewport")->setCurrentIndex(0);
+  press(dialog, "apply");
+  const PlotSettings &settings = f.plot().settings();
+  QCOMPARE(settings.colorFunc, QStringLiteral("volume flow"));
+  QVERIFY(settings.absColor && !settings.fixAxesRatio);
+  QCOMPARE(settings.colorScalePos, int(QwtPlot::xTop));
+  QCOMPARE(settings.colorRamp, QStringLiteral("viridis"));
+  QVERIFY(f.plot().plot()->axisEnabled(QwtPlot::xTop));
+}
+
+void TestViewFuncDialog::boundsAreInTheDisplayUnit() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("t"), QStringLiteral("273.15"));
+  f.net.element(QStringLiteral("B"))->set(QStringLiteral("t"), QStringLiteral("293.15"));
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  FunctionRow *color = row(dialog, 0);
+  child<QComboBox>(*color, "function")->setCurrentText(QStringLiteral("temperature"));
+  auto *minimum = child<QLineEdit>(*color, "minimum");
+  minimum->setText(QStringLiteral("5"));
+  press(dialog, "apply");
+  QVERIFY(qAbs(f.plot().settings().minVal_edgeColor - 278.15) < 1e-9);
+  QCOMPARE(f.plot().settings().maxVal_edgeColor, PlotSettings::OpenMaximum);
+  QCOMPARE(minimum->text(), QStringLiteral("5"));
+  minimum->setText(QStringLiteral("12"));
+  child<QPushButton>(*color, "resetMinimum")->click();
+  QCOMPARE(minimum->text(), QStringLiteral("5"));
+  press(dialog, "resetMinMax");
+  QCOMPARE(f.plot().settings().minVal_edgeColor, PlotSettings::OpenMinimum);
+}
+
+void TestViewFuncDialog::invalidRangeAsks_data() {
+  QTest::addColumn<QString>("high");
+  QTest::addColumn<int>("button");
+  QTest::addColumn<QString>("says");
+  QTest::addColumn<bool>("applied");
+  const QString corrected = QStringLiteral("Proceed with a default/corrected scala?");
+  QTest::newRow("inverted, yes") << QStringLiteral("10") << int(QMessageBox::Yes) << corrected << true;
+  QTest::newRow("inverted, no") << QStringLiteral("10") << int(QMessageBox::No) << corrected << false;
+  QTest::newRow("equal, yes") << QStringLiteral("20") << int(QMessageBox::Yes)
+                              << QStringLiteral("Proceed with a default tiny scala?") << true;
+  QTest::newRow("no number") << QStringLiteral("many") << int(QMessageBox::Ok) << QStringLiteral("\"many\" is no number")
+                             << false;
+}
+
+void TestViewFuncDialog::invalidRangeAsks() {
+  QFETCH(QString, high);
+  QFETCH(int, button);
+  QFETCH(QString, says);
+  QFETCH(bool, applied);
+  ViewFixture f;
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  child<QLineEdit>(*row(dialog, 0), "minimum")->setText(QStringLiteral("20"));
+  child<QLineEdit>(*row(dialog, 0), "maximum")->setText(high);
+  QString text;
+  answer(static_cast<QMessageBox::StandardButton>(button), text);
+  press(dialog, "apply");
+  QVERIFY2(text.contains(says), qPrintable(text));
+  const PlotSettings &settings = f.plot().settings();
+  QCOMPARE(settings.minVal_edgeColor != PlotSettings::OpenMinimum, applied);
+  QVERIFY(settings.minVal_edgeColor < settings.maxVal_edgeColor);
+}
+
+void TestViewFuncDialog::savesBothFiles() {
+  const QTemporaryDir folder;
+  ViewFixture f;
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), folder.filePath(QStringLiteral("plotsettings.ini")));
+  auto *table = child<QTableWidget>(dialog, "labelTable");
+  table->item(0, LabelRow::Contents)->setText(QStringLiteral("@p"));
+  child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
+  press(dialog, "applyAndSave");
+  f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
+  QCOMPARE(f.plot().settings().edgeMag, 2.5);
+  QCOMPARE(f.plot().update().labelTable().types.front()[LabelRow::Contents], QStringLiteral("@p"));
+  dialog.setFiles(QStringLiteral("/nowhere/vfd.csv"), QStringLiteral("/nowhere/plotsettings.ini"));
+  QString text;
+  answer(QMessageBox::Ok, text);
+  press(dialog, "applyAndSave");
+  QVERIFY2(text.contains(QStringLiteral("/nowhere/")), qPrintable(text));
+}
+
+void TestViewFuncDialog::templates() {
+  ViewFixture f;
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  auto *table = child<QTableWidget>(dialog, "labelTable");
+  const int types = table->rowCount();
+  QVERIFY(!(table->item(2, LabelRow::LongName)->flags() & Qt::ItemIsEditable));
+  table->setCurrentCell(2, 0);
+  QString text;
+  answer(QMessageBox::Ok, text);
+  press(dialog, "deleteRow");
+  QCOMPARE(text, QStringLiteral("Deleting this row is not allowed!"));
+  press(dialog, "addTemplate");
+  QCOMPARE(table->rowCount(), types + 1);
+  press(dialog, "apply");
+  QCOMPARE(f.plot().update().labelTable().templates.size(), std::size_t(1));
+  QCOMPARE(f.plot().update().labelTable().templates.front().icon, QStringLiteral("p"));
+  table->setCurrentCell(types, 0);
+  press(dialog, "deleteRow");
+  QCOMPARE(table->rowCount(), types);
+}
+
+NIVRA_TEST(TestViewFuncDialog);
+#include "tst_viewfuncdialog.moc"
