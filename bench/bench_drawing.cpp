@@ -146,7 +146,8 @@ void hitTest(benchmark::State &state) {
   int place = 0;
   for (auto _ : state) {
     place = (place + 1) % Places;
-    const QPointF point(scene.canvas().width() * place / Places, scene.canvas().height() * place / Places);
+    const double share = static_cast<double>(place) / Places;
+    const QPointF point(scene.canvas().width() * share, scene.canvas().height() * share);
     benchmark::DoNotOptimize(scene.plot().update().elementsAt(point, 8.0));
   }
 }

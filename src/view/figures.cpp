@@ -67,7 +67,7 @@ QImage Figures::load(const QString &file) {
   if (known != m_pictures.constEnd())
     return *known;
   QString error;
-  const QImage picture = PictureFile::readImage(path, &error);
+  QImage picture = PictureFile::readImage(path, &error);
   if (picture.isNull())
     NivraMsg::logWarning(QStringLiteral("Could not read figure.file") + QStringLiteral(" %1: %2").arg(path, error));
   m_pictures.insert(path, picture);

@@ -205,13 +205,6 @@ void NetUpdate::clearLabels() {
   m_unplaced.clear();
 }
 
-void NetUpdate::refreshNow() {
-  if (m_labels.labels().empty())
-    requestPixtest(-1);
-  else
-    placeLabelsNow();
-}
-
 void NetUpdate::relabelNow() {
   const QString key = QStringLiteral("perform label placement");
   GeneralSettings &general = GeneralSettings::instance();

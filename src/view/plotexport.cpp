@@ -47,11 +47,15 @@ private:
 };
 
 /// The first rendering brings layout and scales to the new size, so that the next one is as the screen would show it.
-void layOut(NetPlot &plot) {
+/// Labels that stood before are placed again.
+void layOut(NetPlot &plot, bool hasLabels) {
   QImage scrap(1, 1, QImage::Format_RGB32);
   plot.render(&scrap);
   plot.update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
-  plot.update().refreshNow();
+  if (hasLabels)
+    plot.update().placeLabelsNow();
+  else
+    plot.update().requestPixtest(-1);
 }
 
 /// Documents do not show what lies over the canvas of the screen, so the plot draws the selection itself.
@@ -171,13 +175,14 @@ bool exportPlot(NetPlot &plot, const QString &path, int width, QString *error) {
   } else {
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
+      const bool hasLabels = !plot.update().labels().empty();
       plot.selection().setHovered(std::nullopt);
       {
         const TemporarySize size(plot, width);
-        layOut(plot);
+        layOut(plot, hasLabels);
         isDone = writeFormat(plot, file, format, reason) && file.error() == QFile::NoError && file.commit();
       }
-      layOut(plot);
+      layOut(plot, hasLabels);
     }
     if (!isDone && (reason.isEmpty() || file.error() != QFile::NoError))
       reason = file.errorString(); // says more than the writer of the format, such as that the disk is full

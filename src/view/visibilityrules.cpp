@@ -41,7 +41,7 @@ void VisibilityRules::read(const NetGeometry &geometry, const LabelTable &table)
   m_geometry = &geometry;
   QHash<QString, QString> autoTypes;
   for (const LabelRow &row : table.types) {
-    const QString show = row[LabelRow::Show];
+    const QString &show = row[LabelRow::Show];
     if (isAuto(show))
       autoTypes.insert(row[LabelRow::Short], show);
     else if (stateOf(show) != State::On)

@@ -30,6 +30,7 @@ public:
     for (const auto &record : records)
       rest.erase(Key(record.item.kind, record.item.index));
     std::vector<NetGeometry::Item> items;
+    items.reserve(rest.size());
     for (const auto &[key, item] : rest)
       items.push_back(item);
     return items;

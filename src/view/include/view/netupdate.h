@@ -51,8 +51,6 @@ public:
   /// Places labels for the view as it is; stored ones stay where they are.
   void placeLabelsNow() { runPixtest(Pixtest::Labels::With); }
   void clearLabels();
-  /// The pass at once for a plot that has another size: labels that stand are placed again, whatever the settings say.
-  void refreshNow();
   /// Places labels at once, whatever the settings say.
   void relabelNow();
   /// Finds the symbols that lie in the visible area.
