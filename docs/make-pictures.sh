@@ -10,10 +10,10 @@ export XDG_DATA_HOME=$data/data XDG_CONFIG_HOME=$data/config
 trap 'rm -rf "$data"' EXIT
 
 missing=()
-for tool in Xvfb xdotool import; do command -v "$tool" >/dev/null || missing+=("$tool"); done
-[ ${#missing[@]} -eq 0 ] || { echo "needs ${missing[*]} (apt-get install xvfb xdotool imagemagick)" >&2; exit 1; }
+for tool in Xvfb xdotool import montage rsvg-convert pdftoppm gs; do command -v "$tool" >/dev/null || missing+=("$tool"); done
+[ ${#missing[@]} -eq 0 ] || { echo "needs ${missing[*]} (apt-get install xvfb xdotool imagemagick librsvg2-bin poppler-utils ghostscript)" >&2; exit 1; }
 
-window() { # FILE PICTURE
+window() { # FILE PICTURE [COMMANDS with $id]
   xvfb-run -a -s '-screen 0 1280x960x24' bash -c '
     "$1" "$2" & pid=$!
     for _ in $(seq 100); do
@@ -21,8 +21,10 @@ window() { # FILE PICTURE
       sleep 0.1
     done
     sleep 1 # the first frame follows the title
-    import -window "$id" "$3"
-    kill "$pid"' _ "$program" "$1" "$2"
+    xdotool windowsize "$id" 1200 900; sleep 0.5
+    eval "${4:-}"
+    import -window root -crop 1200x900+0+0 "$3"
+    kill "$pid"' _ "$program" "$1" "$2" "${3:-}"
 }
 
 window example/DE_H2/S5/S5.scen.jsn "$images/example-window.png"
@@ -31,3 +33,25 @@ for n in 11 40 135; do
   file=../shared/data/GasLib-$n/N1/N1.scen.jsn
   [ ! -f "$file" ] || window "$file" "$images/gaslib-$n-window.png"
 done
+
+example=example/DE_H2/S5/S5.scen.jsn
+labels() { # NUMBER [OPTION...]
+  "$program" --export "$images/labels-$1.png" --width 1000 --labels selected "${@:2}" "$example"
+}
+labels 1
+labels 2 --extent 380000,5620000,620000,5800000
+labels 3 --extent 403500,5722600,407300,5725450
+window "$example" "$images/selection.png" 'xdotool mousemove 560 440 click --repeat 5 --delay 100 4; sleep 2; xdotool windowfocus $id; sleep 0.3; xdotool mousemove 560 440 key ctrl+a; sleep 1'
+window "$example" "$images/context-menu.png" 'xdotool mousemove 388 409; sleep 0.5; xdotool click 3; sleep 1'
+window "$example" "$images/configure-draw.png" 'xdotool mousemove 1160 280 click --repeat 2 --delay 80 1; sleep 1.5'
+
+formats=$(mktemp -d)
+for format in png jpg bmp tif svg pdf ps; do
+  "$program" --export "$formats/drawing.$format" --width 500 "$example"
+done
+rsvg-convert "$formats/drawing.svg" -o "$formats/svg.png"
+pdftoppm -singlefile -r 85 -png "$formats/drawing.pdf" "$formats/pdf"
+gs -q -dNOPAUSE -dBATCH -sDEVICE=png16m -r85 -sOutputFile="$formats/ps.png" "$formats/drawing.ps"
+montage -label png "$formats/drawing.png" -label jpg "$formats/drawing.jpg" -label bmp "$formats/drawing.bmp" -label tif "$formats/drawing.tif" \
+  -label svg "$formats/svg.png" -label pdf "$formats/pdf.png" -label ps "$formats/ps.png" -tile 4x -geometry 300x225+4+4 "$images/formats.png"
+rm -rf "$formats"

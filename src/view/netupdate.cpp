@@ -224,20 +224,21 @@ std::vector<Hit> NetUpdate::elementsAt(const QPointF &point, double tolerance) c
   std::vector<Hit> hits;
   if (!view.isValid())
     return hits;
-  m_subnets.find(view, point, hits);
-  m_symbols.find(view, point, 0.0, hits);
-  m_nodes.find(view, point, tolerance * 0.5, hits);
-  m_textBoxes.find(view, point, hits);
-  const auto nearer = [](const Hit &a, const Hit &b) {
-    return a.distance < b.distance;
-  };
-  std::sort(hits.begin(), hits.end(), nearer);
+  // Boxes cover what is behind them, and what stands at a place counts more than a line that ends there.
+  std::vector<Hit> places;
   std::vector<Hit> lines;
+  m_subnets.find(view, point, hits);
+  m_symbols.find(view, point, 0.0, places);
+  m_nodes.find(view, point, tolerance * 0.5, places);
+  m_textBoxes.find(view, point, places);
   m_edges.find(view, point, tolerance, lines);
-  std::sort(lines.begin(), lines.end(), nearer);
-  for (const Hit &line : lines) {
-    if (std::none_of(hits.begin(), hits.end(), [&line](const Hit &hit) { return hit.item == line.item; }))
-      hits.push_back(line);
+  for (std::vector<Hit> *group : {&hits, &places, &lines})
+    std::sort(group->begin(), group->end(), [](const Hit &a, const Hit &b) { return a.distance < b.distance; });
+  for (const std::vector<Hit> *group : {&places, &lines}) {
+    for (const Hit &hit : *group) {
+      if (std::none_of(hits.begin(), hits.end(), [&hit](const Hit &known) { return known.item == hit.item; }))
+        hits.push_back(hit);
+    }
   }
   return hits;
 }

@@ -62,7 +62,7 @@ public:
   /// Elements in view whose label found no place in the last pass.
   const std::vector<NetGeometry::Item> &unplacedLabels() const { return m_unplaced; }
 
-  /// What is drawn under the point of the canvas: what stands at a place before lines, then by distance.
+  /// What is drawn under the point of the canvas: boxes, then what stands at a place, then lines; each by distance.
   std::vector<Hit> elementsAt(const QPointF &point, double tolerance) const;
   /// What lies wholly in the rectangle, in plot coordinates.
   std::vector<NetGeometry::Item> elementsIn(const QRectF &area) const;
