@@ -1,0 +1,36 @@
+#pragma once
+
+#include <model/netdata.h>
+#include <model/netmetadata.h>
+#include <model/units.h>
+
+#include <QHash>
+#include <QString>
+
+/// Values and units as people read them, from what the property data say. The conversions are looked up once.
+class DisplayValue {
+public:
+  struct Shown {
+    QString value;
+    QString unit; ///< the display unit, empty when there is none
+  };
+
+  explicit DisplayValue(const NetMetaData &metaData)
+      : m_metaData(metaData) {}
+
+  Shown of(const QString &type, PropertyKey property, const PropertyText &text);
+  /// The display unit of the property, empty when it is shown as stored.
+  QString unit(const QString &type, PropertyKey property) { return find(type, property).unit; }
+
+private:
+  struct Conversion {
+    bool converts = false;
+    Units::Linear toDisplay;
+    QString unit;
+  };
+
+  const Conversion &find(const QString &type, PropertyKey property);
+
+  const NetMetaData &m_metaData;
+  QHash<QPair<QString, int>, Conversion> m_conversions; ///< by type and number of the property's spelling
+};

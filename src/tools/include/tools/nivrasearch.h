@@ -1,0 +1,105 @@
+#pragma once
+
+#include <model/netdata.h>
+#include <tools/searchhistory.h>
+#include <tools/searchparams.h>
+
+#include <QDockWidget>
+#include <QPalette>
+
+#include <memory>
+
+class QLineEdit;
+class QMenu;
+class QTreeWidgetItem;
+
+namespace Ui {
+class NivraSearch;
+}
+
+/// The panel that finds properties of elements by name, type, property, value or formula.
+class NivraSearch : public QDockWidget {
+  Q_OBJECT
+public:
+  explicit NivraSearch(NetData &net, QWidget *parent = nullptr);
+  ~NivraSearch() override;
+
+  SearchParams searchParams() const;
+  const SearchHistory &history() const { return m_history; }
+  /// Makes the first row of the element the current one; false, and no current row, when there is none.
+  bool select(const QString &elementName);
+  /// After an element has changed: its rows are made anew. \param oldName empty when it still has its name
+  void updateSearchItems(element &changed, const QString &oldName);
+  /// After the network has changed altogether.
+  void clearResults();
+  /// Asks for the results to be selected in place of what is; the buttons of the panel offer more.
+  void on_pushButton_select_clicked();
+  void on_pushButton_select_and_closure_clicked();
+  /// Searches for exactly these names, joined by ";".
+  void searchNames(const QString &names);
+  /// Writes the rows to a file; false when it cannot be written.
+  bool save(const QString &path) const;
+
+signals:
+  void elementMarked(const QString &elName);
+  void markSearchResults(bool topoClosure, bool additive);
+  void itemDoubleClicked(QTreeWidgetItem *item, int column);
+  void showInTable();
+  void searchCompleted();
+  void definitionChanged(const QStringList &searchDef); ///< name, type, prop, formula or searchString
+  void categoryWanted(const QStringList &searchDef);    ///< to be kept as a category
+
+public slots:
+  void defineSearch(const QStringList &searchDef, bool regex);
+  void enterLastField();
+  void searchWithFormula();
+  void on_pushButton_search_clicked();
+  void on_pushButton_regex_clicked();
+  void on_lineEdit_name_returnPressed();
+  void on_lineEdit_searchString_returnPressed();
+  void on_lineEdit_type_returnPressed();
+  void on_lineEdit_prop_returnPressed();
+  void on_lineEdit_name_textChanged(const QString &arg1);
+  void on_lineEdit_searchString_textChanged(const QString &arg1);
+  void on_lineEdit_type_textChanged(const QString &arg1);
+  void on_lineEdit_prop_textChanged(const QString &arg1);
+  void on_pushButton_formula_clicked();
+  void on_toolButton_clear_clicked();
+  void on_pushButton_regex_toggled(bool checked);
+  void on_pushButton_save_clicked();
+  void on_pushButton_addCat_clicked();
+  void on_pushButton_toTable_clicked();
+  void on_treeWidget_searchResults_itemDoubleClicked(QTreeWidgetItem *item, int column);
+  void on_treeWidget_searchResults_currentItemChanged(QTreeWidgetItem *current, QTreeWidgetItem *previous);
+  void updateLastSearchesMenu();
+  void resetToSavedSearch(QAction *action);
+
+protected:
+  void dragEnterEvent(QDragEnterEvent *event) override;
+  void dropEvent(QDropEvent *event) override;
+
+private:
+  void setUpSelect();
+  void setUpFormulaMode();
+  void setFormulaMode(bool on);
+  bool isFormulaMode() const;
+  void clearFormulas();
+  void searchFrom(QLineEdit *field);
+  void showCount();
+  QStringList definition() const;
+
+  std::unique_ptr<Ui::NivraSearch> m_ui;
+  NetData &m_net;
+  SearchHistory m_history;
+  QString m_name;
+  QString m_searchString;
+  QString m_type;
+  QString m_prop;
+  QString m_formula;         ///< being entered
+  QString m_reportedFormula; ///< in exports and history
+  QLineEdit *m_lastField;
+  QAction *m_formulaSearch;
+  QAction *m_add;
+  QPalette m_plainPalette;
+  QMenu *m_historyMenu;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <tools/searchparams.h>
+
+#include <QIODevice>
+#include <QStringList>
+
+#include <vector>
+
+/// "searchresults.csv": five lines that tell the restrictions, an empty one, the headers, then a line a row, in Latin-1.
+namespace SearchTable {
+
+QStringList headers();
+/// \param rows in the order in which they are shown, five texts each
+/// \param useComma decimal commas in the values
+/// False when the device does not take it.
+bool write(QIODevice &device, const SearchParams &params, const std::vector<QStringList> &rows, bool useComma);
+
+} // namespace SearchTable

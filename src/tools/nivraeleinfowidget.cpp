@@ -1,0 +1,58 @@
+#include "ui_nivraeleinfowidget.h"
+
+#include <tools/nivraeleinfowidget.h>
+
+NivraEleInfoWidget::NivraEleInfoWidget(LabelOf labelOf, QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::NivraEleInfoWidget>())
+    , m_labelOf(std::move(labelOf)) {
+  m_ui->setupUi(this);
+  m_ui->labelContents->setAutoFillBackground(true);
+}
+
+NivraEleInfoWidget::~NivraEleInfoWidget() = default;
+
+void NivraEleInfoWidget::reset() {
+  m_ui->labelElement->setText(tr("   No element marked!   "));
+  m_ui->labelSubnet->setText(tr("   No subnet marked!   "));
+  m_ui->labelContents->clear();
+  m_ui->labelBounds->clear();
+}
+
+QString NivraEleInfoWidget::bounds(const QString &info) {
+  QString text = info;
+  if (text.startsWith(QLatin1Char('(')))
+    text.remove(0, 1);
+  if (text.endsWith(QLatin1Char(')')))
+    text.chop(1);
+  text = text.trimmed();
+  if (text.endsWith(QLatin1Char(';')))
+    text.chop(1);
+  return text.replace(QLatin1Char(';'), QStringLiteral("</br>"));
+}
+
+void NivraEleInfoWidget::showEleLabel(const element *e) {
+  m_ui->labelContents->clear();
+  m_ui->labelBounds->clear();
+  if (e == nullptr)
+    return;
+  m_ui->labelElement->setText(
+      QStringLiteral("   <b>Element: %1</b>   ").arg(e->value(QStringLiteral("name")).toHtmlEscaped()));
+  const PlotLabel label = m_labelOf ? m_labelOf(*e) : PlotLabel();
+  QPalette colors = palette();
+  if (!label.text.isEmpty()) {
+    colors.setColor(QPalette::WindowText, label.color);
+    if (label.background != QColor(Qt::black))
+      colors.setColor(QPalette::Window, label.background);
+    m_ui->labelContents->setFont(label.font);
+    m_ui->labelContents->setText(label.text);
+  }
+  m_ui->labelContents->setPalette(colors);
+  m_ui->labelBounds->setText(bounds(e->value(QStringLiteral("CB_info"))));
+}
+
+void NivraEleInfoWidget::showSubLabel(const element *e) {
+  if (e != nullptr)
+    m_ui->labelSubnet->setText(
+        QStringLiteral("   <b>Subnet: %1</b>   ").arg(e->value(QStringLiteral("name")).toHtmlEscaped()));
+}

@@ -1,0 +1,88 @@
+#include "ui_nivrapropviewer.h"
+
+#include <tools/nivrapropviewer.h>
+#include <tools/propertylist.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QMap>
+
+namespace {
+
+enum Column { PropertyColumn, ValueColumn, UnitColumn };
+
+} // namespace
+
+NivraPropViewer::NivraPropViewer(QWidget *parent)
+    : QDockWidget(parent)
+    , m_ui(std::make_unique<Ui::NivraPropViewer>()) {
+  m_ui->setupUi(this);
+  m_ui->treeWidget->addAction(m_ui->actionCopy);
+}
+
+NivraPropViewer::~NivraPropViewer() = default;
+
+void NivraPropViewer::showCurrentEleContents(const element *ele) {
+  if (!m_isActive)
+    return;
+  QTreeWidget *tree = m_ui->treeWidget;
+  tree->clear();
+  if (ele == nullptr) {
+    m_elementName.clear();
+    setWindowTitle(tr("Property Viewer (Hover Over Element First!)"));
+    return;
+  }
+  m_elementName = ele->value(QStringLiteral("name"));
+  setWindowTitle(tr("Properties of ") + m_elementName + tr(" of type ") + ele->value(QStringLiteral("type")));
+  for (const PropertyList::Group &group : PropertyList(NetMetaData::instance(), m_showsHidden).of(*ele)) {
+    auto *parent = new QTreeWidgetItem(tree, {group.name});
+    QFont bold = parent->font(PropertyColumn);
+    bold.setWeight(QFont::Bold);
+    parent->setFont(PropertyColumn, bold);
+    for (const PropertyList::Row &row : group.rows) {
+      auto *item = new QTreeWidgetItem(parent, {row.property, row.value, row.unit});
+      item->setToolTip(ValueColumn, row.value);
+      if (row.isLong)
+        item->setSizeHint(ValueColumn, tree->headerItem()->sizeHint(ValueColumn));
+    }
+  }
+  tree->expandAll();
+  for (const int column : {PropertyColumn, ValueColumn, UnitColumn})
+    tree->resizeColumnToContents(column);
+  on_lineEdit_filter_textChanged(m_ui->lineEdit_filter->text());
+}
+
+void NivraPropViewer::on_lineEdit_filter_textChanged(const QString &text) {
+  for (int i = 0; i < m_ui->treeWidget->topLevelItemCount(); ++i) {
+    QTreeWidgetItem *group = m_ui->treeWidget->topLevelItem(i);
+    for (int k = 0; k < group->childCount(); ++k) {
+      QTreeWidgetItem *row = group->child(k);
+      row->setHidden(!row->text(PropertyColumn).contains(text, Qt::CaseInsensitive) &&
+                     !row->text(ValueColumn).contains(text, Qt::CaseInsensitive));
+    }
+  }
+}
+
+void NivraPropViewer::on_actionCopy_triggered() {
+  struct Part {
+    QString text;
+    const QTreeWidgetItem *row = nullptr;
+  };
+  QMap<QString, Part> groups; // by name
+  for (const QModelIndex &cell : m_ui->treeWidget->selectionModel()->selectedIndexes()) {
+    if (!cell.parent().isValid())
+      continue;
+    const QTreeWidgetItem *group = m_ui->treeWidget->topLevelItem(cell.parent().row());
+    const QTreeWidgetItem *row = group->child(cell.row());
+    Part &part = groups[group->text(PropertyColumn)];
+    if (part.row != nullptr)
+      part.text += part.row == row ? QLatin1Char('\t') : QLatin1Char('\n');
+    part.text += row->text(cell.column());
+    part.row = row;
+  }
+  QString text;
+  for (const Part &part : qAsConst(groups))
+    text += part.text + QLatin1Char('\n');
+  QApplication::clipboard()->setText(text);
+}

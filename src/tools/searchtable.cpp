@@ -1,0 +1,45 @@
+#include <tools/searchtable.h>
+
+#include <QTextStream>
+
+namespace {
+
+constexpr int ValueColumn = 3;
+
+QString quoted(const QString &text) {
+  return QLatin1Char('"') + text + QStringLiteral("\";");
+}
+
+} // namespace
+
+QStringList SearchTable::headers() {
+  return {QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("property"), QStringLiteral("value"),
+          QStringLiteral("unit")};
+}
+
+bool SearchTable::write(QIODevice &device, const SearchParams &params, const std::vector<QStringList> &rows, bool useComma) {
+  QTextStream stream(&device);
+  stream.setCodec("ISO-8859-1");
+  const std::pair<QString, QString> restrictions[] = {{QStringLiteral("SearchString:"), params.searchString},
+                                                      {QStringLiteral("NameRestriction:"), params.name},
+                                                      {QStringLiteral("TypeRestriction:"), params.type},
+                                                      {QStringLiteral("PropertyRestriction:"), params.prop},
+                                                      {QStringLiteral("FormulaString:"), params.formula}};
+  for (const auto &[label, text] : restrictions)
+    stream << label << ';' << quoted(text) << '\n';
+  stream << '\n';
+  for (const QString &header : headers())
+    stream << quoted(header);
+  stream << '\n';
+  for (const QStringList &row : rows) {
+    for (int column = 0; column < row.size(); ++column) {
+      QString text = QString(row.at(column)).replace(QLatin1Char('"'), QStringLiteral("\"\""));
+      if (useComma && column == ValueColumn)
+        text.replace(QLatin1Char('.'), QLatin1Char(','));
+      stream << quoted(text);
+    }
+    stream << '\n';
+  }
+  stream.flush();
+  return stream.status() == QTextStream::Ok;
+}
