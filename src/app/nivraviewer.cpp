@@ -4,12 +4,13 @@
 #include <base/logo.h>
 #include <base/nivramsg.h>
 #include <model/units.h>
+#include <tools/nivrasearch.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
-#include <view/viewfuncdialog.h>
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QFile>
@@ -22,9 +23,9 @@
 
 #include <algorithm>
 #include <app/aboutbox.h>
-#include <app/consoledock.h>
 #include <app/loadprogress.h>
 #include <app/nivraviewer.h>
+#include <app/tooldocks.h>
 
 namespace {
 
@@ -48,12 +49,19 @@ NivraViewer::NivraViewer(QWidget *parent)
   const QString ownStyle = GeneralSettings::userDirectory() + QStringLiteral("/stylesheet.qss");
   if (QFileInfo::exists(ownStyle))
     applyStyleSheet(ownStyle);
-  createDocks();
+  m_tools = new ToolDocks(*this, *m_control);
   m_ui->statusbar->showMessage(tr("No Workspace loaded"));
   show();
   QCoreApplication::processEvents();
   addAction(m_ui->actionSearch);
   connect(m_ui->menuView, &QMenu::aboutToShow, this, &NivraViewer::fillViewMenu);
+  connect(this, &NivraViewer::currentEleChanged, m_tools, &ToolDocks::showElement);
+  connect(m_tools, &ToolDocks::elementMarked, this,
+          [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
+  connect(m_ui->actionSearch, &QAction::triggered, this, [this] {
+    if (m_tools->search() != nullptr)
+      m_tools->search()->enterLastField();
+  });
   connect(m_control.get(), &NetVisControl::selectionChanged, this, &NivraViewer::showSelection);
   connect(m_control.get(), &NetVisControl::elementAction, this, [this](const QString &name, NetPicker::EleAction action) {
     if (action == NetPicker::EleAction::Mark)
@@ -61,7 +69,7 @@ NivraViewer::NivraViewer(QWidget *parent)
     else
       elementAction(name, action);
   });
-  connect(m_control.get(), &NetVisControl::configureDrawRequested, this, &NivraViewer::showDrawConfiguration);
+  connect(m_control.get(), &NetVisControl::configureDrawRequested, m_tools, &ToolDocks::showDrawConfiguration);
   setAcceptDrops(true);
   GeneralSettings::instance().load();
   m_control->clear();
@@ -131,7 +139,8 @@ void NivraViewer::openWorkspace(const QString &path) {
   setBusy(true);
   const bool done = readWorkspace();
   setBusy(false);
-  createDrawDock();
+  m_tools->refresh(m_loader.workspace());
+  m_ui->actionSearch->setEnabled(true);
   showTitle();
   constexpr int ShownMs = 20000;
   if (done)
@@ -187,41 +196,11 @@ void NivraViewer::setBusy(bool busy) {
   m_control->plot()->setEnabled(!busy);
 }
 
-void NivraViewer::createDocks() {
-  auto *console = new ConsoleDock(this);
-  addDockWidget(Qt::BottomDockWidgetArea, console);
-  console->hide(); // the network gets the room; the "View" menu brings it
-  m_docks.append(console);
-}
-
-void NivraViewer::createDrawDock() {
-  if (m_drawDialog == nullptr) {
-    m_drawDialog = new viewFuncDialog(*m_control->plot());
-    auto *dock = new QDockWidget(m_drawDialog->windowTitle(), this);
-    dock->setObjectName(QStringLiteral("configureDraw"));
-    dock->setWidget(m_drawDialog);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
-    dock->hide();
-    m_docks.append(dock);
-  }
-  m_drawDialog->setFiles(m_loader.workspace().filePath(QStringLiteral("vfd.csv")),
-                         m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
-  m_drawDialog->refresh();
-}
-
-void NivraViewer::showDrawConfiguration() {
-  if (m_drawDialog == nullptr)
-    return;
-  auto *dock = qobject_cast<QDockWidget *>(m_drawDialog->parentWidget());
-  dock->show();
-  dock->raise();
-}
-
 void NivraViewer::fillViewMenu() {
   m_ui->menuView->clear();
   m_ui->menuView->addSection(tr("Dock Widgets"));
   QList<QAction *> toggles;
-  for (const QDockWidget *dock : qAsConst(m_docks))
+  for (const QDockWidget *dock : m_tools->docks())
     toggles.append(dock->toggleViewAction());
   m_ui->menuView->addActions(sortedByText(toggles));
   toggles.clear();
@@ -239,6 +218,7 @@ void NivraViewer::elementAction(const QString &eleName, NetPicker::EleAction ele
     break;
   case NetPicker::EleAction::ShowInfo:
     setCurrentElement(eleName);
+    m_tools->showInfo(eleName);
     break;
   default: // other tools are not there yet
     break;

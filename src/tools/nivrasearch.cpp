@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMenu>
+#include <QMetaMethod>
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QSaveFile>
@@ -76,6 +77,8 @@ NivraSearch::NivraSearch(NetData &net, QWidget *parent)
   m_ui->toolButton_history->setMenu(m_historyMenu);
   m_ui->toolButton_history->setPopupMode(QToolButton::InstantPopup);
   connect(m_historyMenu, &QMenu::triggered, this, &NivraSearch::resetToSavedSearch);
+  m_ui->pushButton_toTable->setEnabled(false);
+  m_ui->pushButton_addCat->setEnabled(false);
   setUpSelect();
   setUpFormulaMode();
   m_ui->lineEdit_prop->setText(QStringLiteral("^name$"));
@@ -390,6 +393,13 @@ void NivraSearch::updateLastSearchesMenu() {
 
 void NivraSearch::resetToSavedSearch(QAction *action) {
   defineSearch(SearchHistory::parts(action->text()), false);
+}
+
+void NivraSearch::connectNotify(const QMetaMethod &signal) {
+  if (signal == QMetaMethod::fromSignal(&NivraSearch::showInTable))
+    m_ui->pushButton_toTable->setEnabled(true);
+  else if (signal == QMetaMethod::fromSignal(&NivraSearch::categoryWanted))
+    m_ui->pushButton_addCat->setEnabled(true);
 }
 
 void NivraSearch::dragEnterEvent(QDragEnterEvent *event) {

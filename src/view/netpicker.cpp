@@ -111,8 +111,10 @@ void NetPicker::widgetLeaveEvent(QEvent *event) {
 void NetPicker::hover(const QPoint &position) {
   const std::vector<NetGeometry::Item> items = itemsAt(position);
   const auto item = items.empty() ? std::nullopt : std::make_optional(items.front());
-  if (m_plot.selection().setHovered(item))
-    m_plot.plot()->updateOverlay();
+  if (!m_plot.selection().setHovered(item))
+    return;
+  m_plot.plot()->updateOverlay();
+  emit hovered(item ? nameOf(*item) : QString());
 }
 
 bool NetPicker::eventFilter(QObject *watched, QEvent *event) {
@@ -255,6 +257,14 @@ void NetPicker::choose(NetGeometry::Item item) {
 
 void NetPicker::clearSelection() {
   select({}, false);
+}
+
+void NetPicker::setSelection(const Selection &selection) {
+  if (selection == m_net.selection())
+    return;
+  m_net.selection() = selection;
+  showSelection();
+  emit selectionChanged();
 }
 
 void NetPicker::showSelection() {

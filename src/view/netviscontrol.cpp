@@ -64,6 +64,39 @@ bool NetVisControl::showElement(const QString &name) {
   return true;
 }
 
+void NetVisControl::selectSearchResults(bool topoClosure, bool additive) {
+  static const PropertyKey mark = PropertyKey::intern("isSearchResult");
+  static const PropertyKey name = PropertyKey::intern("name");
+  Selection found = additive ? m_net.selection() : Selection();
+  m_net.forEach(NetData::AllTypes, [&](element &e) {
+    const PropertyText *text = e.find(mark);
+    if (text != nullptr && text->utf8() == "1")
+      Topology::select(m_net, e.value(name), found);
+  });
+  if (topoClosure)
+    Topology::close(m_net, found);
+  m_picker->setSelection(found);
+}
+
+void NetVisControl::setShowsSearchResults(bool shows) {
+  using Mode = NetUpdate::DisplayMode;
+  m_plot->update().setDisplayMode(shows ? Mode::SearchResults : Mode::Functions);
+  m_plot->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+}
+
+bool NetVisControl::showsSearchResults() const {
+  return m_plot->update().displayMode() == NetUpdate::DisplayMode::SearchResults;
+}
+
+void NetVisControl::refreshSearchResults() {
+  if (showsSearchResults())
+    setShowsSearchResults(true);
+}
+
+void NetVisControl::trace(const QString &name, Topology::Direction direction) {
+  m_picker->setSelection(Topology::trace(m_net, name, direction, m_plot->settings().edgeShowFlow));
+}
+
 void NetVisControl::setBookmarks(const QString &bookmarks) {
   PlotSettings settings = m_plot->settings();
   settings.bookmarks = bookmarks;

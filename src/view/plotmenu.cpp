@@ -56,6 +56,7 @@ void PlotMenu::fill(QMenu &contextMenu) const {
   addCrowd(contextMenu);
   addSelection(contextMenu);
   addSubnet(contextMenu);
+  addTrace(contextMenu);
   contextMenu.addAction(m_control.picker()->selectAllAction());
   contextMenu.addSeparator();
   addView(contextMenu);
@@ -64,6 +65,9 @@ void PlotMenu::fill(QMenu &contextMenu) const {
   contextMenu.addSeparator();
   contextMenu.addAction(tr("Configure drawing …"), &m_control, &NetVisControl::configureDrawRequested)
       ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::configureDrawRequested)));
+  QAction *results = contextMenu.addAction(tr("Show search results"), &m_control, &NetVisControl::setShowsSearchResults);
+  results->setCheckable(true);
+  results->setChecked(m_control.showsSearchResults());
   NetPlot *plot = m_control.plot();
   contextMenu.addAction(tr("Save picture …"), plot, [plot] { PlotSaver(*plot).savePlot(QString(), QString(), true); });
   contextMenu.addAction(tr("Save picture with width …"), plot, [plot] { PlotSaver(*plot).saveWithWidth(); });
@@ -101,6 +105,18 @@ void PlotMenu::addSelection(QMenu &contextMenu) const {
     QObject::connect(info->addAction(menuText(name)), &QAction::triggered, control,
                      [control, name] { emit control->elementAction(name, NetPicker::EleAction::ShowInfo); });
   }
+}
+
+void PlotMenu::addTrace(QMenu &contextMenu) const {
+  const QStringList names = sorted(m_control.net().selection().names());
+  if (names.size() != 1)
+    return;
+  NetVisControl *control = &m_control;
+  using Direction = Topology::Direction;
+  contextMenu.addAction(tr("Select upstream"), control,
+                        [control, name = names.first()] { control->trace(name, Direction::Upstream); });
+  contextMenu.addAction(tr("Select downstream"), control,
+                        [control, name = names.first()] { control->trace(name, Direction::Downstream); });
 }
 
 void PlotMenu::addSubnet(QMenu &contextMenu) const {

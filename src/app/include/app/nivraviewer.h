@@ -10,8 +10,7 @@
 
 class LoadProgress;
 class NetVisControl;
-class QDockWidget;
-class viewFuncDialog;
+class ToolDocks;
 
 namespace Ui {
 class NivraViewer;
@@ -49,10 +48,7 @@ private:
   void openWorkspace(const QString &path);
   bool readWorkspace();
   bool askForIncludeLists(NetworkLoader::ReadOptions &options);
-  void createDocks();
   void fillViewMenu();
-  void createDrawDock();
-  void showDrawConfiguration();
   void setCurrentElement(const QString &name);
   void showSelection();
   void showTitle();
@@ -62,8 +58,7 @@ private:
   NetData m_net;
   std::unique_ptr<NetVisControl> m_control;
   NetworkLoader m_loader;
-  QList<QDockWidget *> m_docks;
-  viewFuncDialog *m_drawDialog = nullptr; ///< in its dock, made with the first workspace
+  ToolDocks *m_tools = nullptr;
   QString m_currentElement;
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read
 };

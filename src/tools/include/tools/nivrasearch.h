@@ -75,6 +75,8 @@ public slots:
   void resetToSavedSearch(QAction *action);
 
 protected:
+  /// Buttons for other tools are there once these are.
+  void connectNotify(const QMetaMethod &signal) override;
   void dragEnterEvent(QDragEnterEvent *event) override;
   void dropEvent(QDropEvent *event) override;
 

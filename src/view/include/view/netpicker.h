@@ -32,6 +32,8 @@ public:
   void choose(NetGeometry::Item item);
   /// Shows the selection that the network holds, for instance after somebody else has changed it.
   void showSelection();
+  /// Selects what the names say, and shows it.
+  void setSelection(const Selection &selection);
   /// What is drawn near the place on the canvas, the nearest first.
   std::vector<NetGeometry::Item> itemsAt(const QPoint &position) const;
 
@@ -39,6 +41,7 @@ signals:
   void selectionChanged();
   void picked(const QString &name);    ///< by a click; the current element
   void activated(const QString &name); ///< by a double click
+  void hovered(const QString &name);   ///< came under the cursor; empty when nothing is
 
 protected:
   void widgetMousePressEvent(QMouseEvent *event) override;

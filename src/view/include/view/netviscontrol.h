@@ -1,5 +1,6 @@
 #pragma once
 
+#include <model/topology.h>
 #include <view/netpicker.h>
 #include <view/netplot.h>
 
@@ -30,6 +31,15 @@ public:
   void showNetData(const QString &plotSettingsPath);
   /// Brings an element into the middle of the view; false when it is not drawn.
   bool showElement(const QString &name);
+  /// Selects the elements that the last search marked. \param topoClosure with end nodes and the edges between nodes
+  void selectSearchResults(bool topoClosure, bool additive);
+  /// Colours what the last search marked instead of the draw functions.
+  void setShowsSearchResults(bool shows);
+  bool showsSearchResults() const;
+  /// After another search.
+  void refreshSearchResults();
+  /// Selects what lies upstream or downstream of the element along the flow.
+  void trace(const QString &name, Topology::Direction direction);
   /// Keeps views to come back to in the plot settings of the case.
   void setBookmarks(const QString &bookmarks);
 

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <model/netdata.h>
+#include <tools/nivraeleinfowidget.h>
+
+#include <QList>
+#include <QObject>
+
+class NetVisControl;
+class NivraPropViewer;
+class NivraSearch;
+class NivraWorkspace;
+class QDockWidget;
+class QMainWindow;
+class viewFuncDialog;
+
+/// The docks around the drawing and what connects them with it. Each is made with the first workspace and used again.
+class ToolDocks : public QObject {
+  Q_OBJECT
+public:
+  ToolDocks(QMainWindow &window, NetVisControl &control);
+
+  /// Makes what is not there yet and shows the network that was just read.
+  void refresh(const NivraWorkspace &workspace);
+  const QList<QDockWidget *> &docks() const { return m_docks; }
+  NivraSearch *search() const { return m_search; } ///< null before the first workspace
+
+  void showElement(const QString &name);
+  /// As showElement(), in docks that come to the front.
+  void showInfo(const QString &name);
+  void showDrawConfiguration();
+
+signals:
+  void elementMarked(const QString &name); ///< in one of the tools
+
+private:
+  QDockWidget *addDock(QDockWidget *dock, const QString &name, Qt::DockWidgetArea area);
+  void createDraw();
+  void createElement();
+  void createSearch();
+  NivraEleInfoWidget::PlotLabel plotLabel(const element &e) const;
+
+  QMainWindow &m_window;
+  NetVisControl &m_control;
+  NetData &m_net;
+  QList<QDockWidget *> m_docks; ///< in the order in which they were made
+  viewFuncDialog *m_draw = nullptr;
+  NivraEleInfoWidget *m_info = nullptr;
+  NivraPropViewer *m_propViewer = nullptr;
+  NivraSearch *m_search = nullptr;
+};

@@ -1,0 +1,115 @@
+#include <io/nivraworkspace.h>
+#include <tools/nivrapropviewer.h>
+#include <tools/nivrasearch.h>
+#include <view/labelcontents.h>
+#include <view/netplot.h>
+#include <view/netviscontrol.h>
+#include <view/viewfuncdialog.h>
+
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QTreeWidgetItem>
+
+#include <app/consoledock.h>
+#include <app/tooldocks.h>
+
+ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control)
+    : QObject(&window)
+    , m_window(window)
+    , m_control(control)
+    , m_net(control.net()) {
+  addDock(new ConsoleDock(&window), QStringLiteral("messages"), Qt::BottomDockWidgetArea);
+}
+
+QDockWidget *ToolDocks::addDock(QDockWidget *dock, const QString &name, Qt::DockWidgetArea area) {
+  dock->setObjectName(name);
+  m_window.addDockWidget(area, dock);
+  dock->hide(); // the network gets the room; the "View" menu brings it
+  m_docks.append(dock);
+  return dock;
+}
+
+void ToolDocks::refresh(const NivraWorkspace &workspace) {
+  if (m_draw == nullptr)
+    createDraw();
+  if (m_propViewer == nullptr)
+    createElement();
+  if (m_search == nullptr)
+    createSearch();
+  m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), workspace.filePath(QStringLiteral("plotsettings.ini")));
+  m_draw->refresh();
+  m_propViewer->showCurrentEleContents(nullptr);
+  m_info->reset();
+  m_search->clearResults();
+}
+
+void ToolDocks::createDraw() {
+  m_draw = new viewFuncDialog(*m_control.plot());
+  auto *dock = new QDockWidget(m_draw->windowTitle(), &m_window);
+  dock->setWidget(m_draw);
+  addDock(dock, QStringLiteral("configureDraw"), Qt::RightDockWidgetArea);
+}
+
+void ToolDocks::showDrawConfiguration() {
+  if (m_draw == nullptr)
+    return;
+  QWidget *dock = m_draw->parentWidget();
+  dock->show();
+  dock->raise();
+}
+
+void ToolDocks::createElement() {
+  m_info = new NivraEleInfoWidget([this](const element &e) { return plotLabel(e); });
+  auto *infoDock = new QDockWidget(m_info->windowTitle(), &m_window);
+  infoDock->setWidget(m_info);
+  addDock(infoDock, QStringLiteral("elementInformation"), Qt::RightDockWidgetArea);
+  m_propViewer = new NivraPropViewer(&m_window);
+  addDock(m_propViewer, QStringLiteral("propertyViewer"), Qt::RightDockWidgetArea);
+  connect(m_control.picker(), &NetPicker::hovered, this, [this](const QString &name) {
+    if (!name.isEmpty() && m_net.selection().isEmpty()) // what was picked stays until something else is
+      showElement(name);
+  });
+}
+
+NivraEleInfoWidget::PlotLabel ToolDocks::plotLabel(const element &e) const {
+  const NetUpdate &update = m_control.plot()->update();
+  const LabelContents contents(update.labelTable(), m_control.plot()->settings(), *m_net.metaData());
+  const LabelText text = contents.text(e);
+  const LabelStyle style = contents.style(e, m_net.findElement(e.value(QStringLiteral("name")), NetData::AllTypes).first);
+  QStringList lines;
+  for (const QString &line : text.lines)
+    lines.append(line.toHtmlEscaped());
+  return {text.html.isEmpty() ? lines.join(QStringLiteral("<br />")) : text.html, style.font, style.text, style.background};
+}
+
+void ToolDocks::showElement(const QString &name) {
+  if (m_propViewer == nullptr)
+    return;
+  const element *e = m_net.element(name);
+  if (m_propViewer->isVisible())
+    m_propViewer->showCurrentEleContents(e);
+  if (!m_info->isVisible())
+    return;
+  m_info->showEleLabel(e);
+  m_info->showSubLabel(m_net.assembledSubnets().find(name));
+}
+
+void ToolDocks::showInfo(const QString &name) {
+  if (m_propViewer == nullptr)
+    return;
+  m_info->parentWidget()->show();
+  m_propViewer->show();
+  m_propViewer->raise();
+  showElement(name);
+}
+
+void ToolDocks::createSearch() {
+  m_search = new NivraSearch(m_net, &m_window);
+  addDock(m_search, QStringLiteral("search"), Qt::LeftDockWidgetArea);
+  connect(m_search, &NivraSearch::elementMarked, this, &ToolDocks::elementMarked);
+  connect(m_search, &NivraSearch::itemDoubleClicked, this,
+          [this](const QTreeWidgetItem *item) { m_control.showElement(item->text(0)); });
+  connect(m_search, &NivraSearch::markSearchResults, &m_control, &NetVisControl::selectSearchResults);
+  connect(m_search, &NivraSearch::searchCompleted, &m_control, &NetVisControl::refreshSearchResults);
+  connect(m_control.picker(), &NetPicker::picked, m_search, &NivraSearch::select);
+}
