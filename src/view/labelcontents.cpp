@@ -1,3 +1,5 @@
+#include <base/nivramsg.h>
+#include <formulas/parserfactory.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
 #include <view/labelcontents.h>
@@ -56,8 +58,9 @@ QString propertyAt(const QString &text, int position) {
 
 } // namespace
 
-LabelContents::LabelContents(const LabelTable &table, const PlotSettings &settings, const NetMetaData &metaData)
-    : m_hasOwnStyles(StyleKeys().areUsed()) {
+LabelContents::LabelContents(const LabelTable &table, const PlotSettings &settings, const NetData &net)
+    : m_net(net)
+    , m_hasOwnStyles(StyleKeys().areUsed()) {
   if (settings.label_mode == QLatin1String("name only"))
     m_mode = Mode::Name;
   else if (settings.label_mode == QLatin1String("selected properties"))
@@ -68,10 +71,10 @@ LabelContents::LabelContents(const LabelTable &table, const PlotSettings &settin
   m_nodeStyle.text = settings.nodeLabelsColor;
   m_edgeStyle.text = settings.edgeLabelsColor;
   for (const LabelRow &row : table.types)
-    m_types.insert(row[LabelRow::Short].toLower(), typeOf(row, metaData));
+    m_types.insert(row[LabelRow::Short].toLower(), typeOf(row));
 }
 
-LabelContents::Type LabelContents::typeOf(const LabelRow &row, const NetMetaData &metaData) const {
+LabelContents::Type LabelContents::typeOf(const LabelRow &row) const {
   static const QRegularExpression Break(QStringLiteral("<br\\s?/>"));
   static const QRegularExpression Marks(QStringLiteral("<(?!br />)[A-Za-z/]"));
   Type type;
@@ -79,7 +82,7 @@ LabelContents::Type LabelContents::typeOf(const LabelRow &row, const NetMetaData
   contents.replace(QStringLiteral("&#44;"), QStringLiteral(",")).replace(Break, QStringLiteral("<br />"));
   type.isHtml = contents.contains(Marks);
   for (const QString &line : contents.split(QStringLiteral("<br />")))
-    type.lines.push_back(lineOf(line, row[LabelRow::Short], metaData));
+    type.lines.push_back(lineOf(line, row[LabelRow::Short]));
   const ElementType *known = ElementTypes::byCode(row[LabelRow::Short]);
   type.style = known != nullptr && known->kind == NetData::Edge ? m_edgeStyle : m_nodeStyle;
   takeFont(row[LabelRow::Font], type.style.font);
@@ -89,28 +92,53 @@ LabelContents::Type LabelContents::typeOf(const LabelRow &row, const NetMetaData
   return type;
 }
 
-LabelContents::Line LabelContents::lineOf(const QString &text, const QString &type, const NetMetaData &metaData) {
-  Line line;
+LabelContents::Part LabelContents::valueOf(const QString &property, const QString &type) const {
   Part part;
+  part.value = PropertyKey::intern(property);
+  if (const NetMetaData::Attribute *attribute = m_net.metaData()->attribute(type, property)) {
+    const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
+    part.unit = conversion ? attribute->displayUnit : attribute->storedUnit;
+    if (conversion)
+      part.toDisplay = *conversion;
+  }
+  return part;
+}
+
+std::shared_ptr<Formula> LabelContents::formulaOf(const QString &text) const {
+  try {
+    return std::make_shared<Formula>(text, m_net, Formula::Bare::OfCurrent);
+  } catch (const FormulaError &error) {
+    NivraMsg::logWarning(QStringLiteral("The label formula \"%1\" cannot be used: %2").arg(text, error.text()));
+    return nullptr;
+  }
+}
+
+LabelContents::Line LabelContents::lineOf(const QString &text, const QString &type) const {
+  Line line;
+  QString before;
   for (int i = 0; i < text.size(); ++i) {
-    const QString name = text.at(i) == QLatin1Char('@') ? propertyAt(text, i + 1) : QString();
-    if (name.isEmpty()) {
-      part.text += text.at(i);
+    const bool isMark = text.at(i) == QLatin1Char('@');
+    const int end = isMark && text.midRef(i + 1, 1) == QLatin1String("{") ? text.indexOf(QLatin1Char('}'), i) : -1;
+    const QString name = isMark && end < 0 ? propertyAt(text, i + 1) : QString();
+    if (end < 0 && name.isEmpty()) {
+      before += text.at(i);
       continue;
     }
-    part.value = PropertyKey::intern(name);
-    if (const NetMetaData::Attribute *attribute = metaData.attribute(type, name)) {
-      const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
-      part.unit = conversion ? attribute->displayUnit : attribute->storedUnit;
-      if (conversion)
-        part.toDisplay = *conversion;
-    }
+    Part part;
+    if (end < 0)
+      part = valueOf(name, type);
+    else
+      part.formula = formulaOf(text.mid(i + 2, end - i - 2));
+    part.isPlaceHolder = true;
+    part.text = std::exchange(before, QString());
     line.push_back(part);
-    part = Part();
-    i += name.size();
+    i = end < 0 ? i + name.size() : end;
   }
-  if (!part.text.isEmpty())
-    line.push_back(part);
+  if (!before.isEmpty()) {
+    Part rest;
+    rest.text = before;
+    line.push_back(rest);
+  }
   return line;
 }
 
@@ -152,21 +180,35 @@ QString LabelContents::formatted(double value, const QString &unit) {
   return shownUnit.isEmpty() ? number : number + QLatin1Char(' ') + Units::written(shownUnit);
 }
 
+QString LabelContents::shownValue(const Part &part, const element &source) {
+  if (part.formula != nullptr) {
+    try {
+      const Formula::Result result = part.formula->evaluate(source);
+      if (result.number != NetData::NoValue)
+        return formatted(result.number, QString());
+      return result.text.toStdString() == ParserFactory::nullText() ? QString() : result.text;
+    } catch (const FormulaError &) {
+      return QString(); // of this element it says nothing
+    }
+  }
+  const PropertyText *value = source.find(part.value);
+  if (value == nullptr)
+    return QString();
+  const double number = NetData::number(value);
+  return number == NetData::NoValue ? value->toString() : formatted(part.toDisplay(number), part.unit);
+}
+
 QString LabelContents::filled(const Line &line, const element &source, bool isHtml) {
   QString text;
   bool hasPlaceHolder = false;
   bool hasValue = false;
   for (const Part &part : line) {
     text += part.text;
-    if (part.value.isNull())
+    if (!part.isPlaceHolder)
       continue;
     hasPlaceHolder = true;
-    const PropertyText *value = source.find(part.value);
-    if (value == nullptr || value->isEmpty())
-      continue;
-    hasValue = true;
-    const double number = NetData::number(value);
-    const QString shown = number == NetData::NoValue ? value->toString() : formatted(part.toDisplay(number), part.unit);
+    const QString shown = shownValue(part, source);
+    hasValue = hasValue || !shown.isEmpty();
     text += isHtml ? shown.toHtmlEscaped() : shown;
   }
   return hasPlaceHolder && !hasValue ? QString() : text.simplified().left(LongestLine);

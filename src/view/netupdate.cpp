@@ -180,7 +180,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
 
 void NetUpdate::placeLabels() {
   constexpr double SameScale = 1e-6;
-  const LabelContents contents(m_labelTable, m_settings, *m_net->metaData());
+  const LabelContents contents(m_labelTable, m_settings, *m_net);
   m_unplaced.clear();
   if (!isSwitchedOn("build labels") || contents.isOff()) {
     m_labels.clear();

@@ -173,6 +173,8 @@ void TestLabels::contentsFollowTheTable_data() {
   QTest::newRow("dots end a name") << QStringLiteral("(@p.)") << QStringList{QStringLiteral("(20 bar.)")} << QString();
   QTest::newRow("marks") << QStringLiteral("<b>@name</b><br />@p") << QStringList()
                          << QStringLiteral("<b>A &amp; B</b><br />20 bar");
+  QTest::newRow("formula") << QStringLiteral("@{p*2+pow(2,3)} and @{rho}<br />@{p +}") << QStringList{QStringLiteral("48 and")}
+                           << QString();
   QTest::newRow("nothing") << QString() << QStringList() << QString();
 }
 
@@ -183,7 +185,8 @@ void TestLabels::contentsFollowTheTable() {
   LabelTable table;
   table.types.front()[LabelRow::Contents] = contents; // of nodes
   const element node = makeElement({{"name", "A & B"}, {"type", "n"}, {"p", "20"}, {"t", "283.15"}});
-  const LabelText text = LabelContents(table, PlotSettings(), NetMetaData::instance()).text(node);
+  const NetData net;
+  const LabelText text = LabelContents(table, PlotSettings(), net).text(node);
   QCOMPARE(text.lines, lines);
   QCOMPARE(text.html, html);
 }
@@ -198,14 +201,15 @@ void TestLabels::styleFollowsElementThenTable() {
   table.types.front()[LabelRow::Font] = QStringLiteral("no, font");
   element node = makeNode("A");
   const PlotSettings settings;
-  LabelStyle style = LabelContents(table, settings, NetMetaData::instance()).style(node, NetData::Node);
+  const NetData net;
+  LabelStyle style = LabelContents(table, settings, net).style(node, NetData::Node);
   QCOMPARE(style.text, QColor(Qt::red));
   QCOMPARE(style.background, QColor(255, 255, 255, 255)); // what is no colour changes nothing
   QCOMPARE(style.border, QColor(0, 255, 0, 128));
   node.set(QStringLiteral("vis.color"), QStringLiteral("blue"));
   node.set(QStringLiteral("vis.bgr-alpha"), QStringLiteral("10"));
   node.set(QStringLiteral("vis.font"), QStringLiteral("Arial,20,-1,5,75,0,0,0,0,0"));
-  style = LabelContents(table, settings, NetMetaData::instance()).style(node, NetData::Node);
+  style = LabelContents(table, settings, net).style(node, NetData::Node);
   QCOMPARE(style.text, QColor(Qt::blue));
   QCOMPARE(style.background.alpha(), 10);
   QVERIFY(style.font.bold() && style.font.pixelSize() > 20);

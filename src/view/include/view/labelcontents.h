@@ -1,5 +1,6 @@
 #pragma once
 
+#include <formulas/formula.h>
 #include <model/units.h>
 #include <view/labeltable.h>
 #include <view/netgeometry.h>
@@ -8,6 +9,8 @@
 #include <QColor>
 #include <QFont>
 #include <QHash>
+
+#include <memory>
 
 /// How a label's box looks.
 struct LabelStyle {
@@ -26,10 +29,11 @@ struct LabelText {
 };
 
 /// Makes the texts of labels: the name alone, or what the label table says of the element's type. There, "@property"
-/// stands for a value in the unit in which people read it; a line whose place-holders all lack a value is left out.
+/// stands for a value in the unit in which people read it, and "@{formula}" for what a formula says, in which a bare name is
+/// a property of the element; a line whose place-holders all lack a value is left out.
 class LabelContents {
 public:
-  LabelContents(const LabelTable &table, const PlotSettings &settings, const NetMetaData &metaData);
+  LabelContents(const LabelTable &table, const PlotSettings &settings, const NetData &net);
 
   bool isOff() const { return m_mode == Mode::None; }
   LabelText text(const element &source) const;
@@ -43,8 +47,10 @@ private:
   struct Part {
     QString text;      ///< in front of the value
     PropertyKey value; ///< null behind the last value
+    std::shared_ptr<Formula> formula; ///< in place of the value
     Units::Linear toDisplay;
     QString unit;
+    bool isPlaceHolder = false;
   };
   using Line = std::vector<Part>;
   struct Type {
@@ -53,11 +59,15 @@ private:
     LabelStyle style;
   };
 
-  Type typeOf(const LabelRow &row, const NetMetaData &metaData) const;
-  static Line lineOf(const QString &text, const QString &type, const NetMetaData &metaData);
+  Type typeOf(const LabelRow &row) const;
+  Line lineOf(const QString &text, const QString &type) const;
+  Part valueOf(const QString &property, const QString &type) const;
+  std::shared_ptr<Formula> formulaOf(const QString &text) const;
+  static QString shownValue(const Part &part, const element &source);
   static QString filled(const Line &line, const element &source, bool isHtml);
   const Type *find(const element &source) const;
 
+  const NetData &m_net;
   Mode m_mode = Mode::None;
   LabelStyle m_nodeStyle;
   LabelStyle m_edgeStyle;
