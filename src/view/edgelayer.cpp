@@ -73,6 +73,10 @@ void EdgeLayer::setLooks(const std::vector<EdgeLook> &looks) {
   std::vector<std::uint64_t> keys;
   for (Record &record : m_records) {
     const EdgeLook &look = looks[static_cast<std::size_t>(record.edge)];
+    if (look.isHidden) {
+      record.pen = -1;
+      continue;
+    }
     const std::uint64_t key = penKey(look);
     record.flow = static_cast<signed char>(look.flow);
     const auto [known, isNew] = numbers.try_emplace(key, static_cast<int>(keys.size()));
@@ -87,7 +91,7 @@ void EdgeLayer::setLooks(const std::vector<EdgeLook> &looks) {
   for (const std::uint64_t key : keys)
     places.push_back(static_cast<int>(std::lower_bound(sorted.begin(), sorted.end(), key) - sorted.begin()));
   for (Record &record : m_records)
-    record.pen = places[static_cast<std::size_t>(record.pen)];
+    record.pen = record.pen < 0 ? record.pen : places[static_cast<std::size_t>(record.pen)];
 
   m_pens.clear();
   m_widest = 0.0;

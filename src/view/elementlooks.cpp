@@ -19,6 +19,14 @@ bool hasFlow(double flow) {
 
 } // namespace
 
+template <typename Look>
+void ElementLooks::hide(NetData::EleType kind, std::vector<Look> &looks) const {
+  if (!m_layers.hidesAny())
+    return;
+  for (std::size_t i = 0; i < looks.size(); ++i)
+    looks[i].isHidden = m_layers.isHidden({kind, static_cast<int>(i)});
+}
+
 std::vector<EdgeLook> ElementLooks::edges() const {
   constexpr double WidthSpan = 4.0; // px that the width function adds at most, at magnification 1
   const DrawValues::Column &colors = m_values.edgeColor();
@@ -51,6 +59,7 @@ std::vector<EdgeLook> ElementLooks::edges() const {
       look.color = colors.range.isValid() ? table->rgb(colors.range, colors.ofElements[i]) : PlainEdge;
     }
   }
+  hide(NetData::Edge, looks);
   return looks;
 }
 
@@ -80,6 +89,7 @@ std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
     else
       look.color = table->rgb(colors.range, colors.ofElements[i]);
   }
+  hide(NetData::Node, looks);
   return looks;
 }
 
@@ -122,7 +132,8 @@ std::vector<EdgeLook> ElementLooks::searchedEdges() const {
   const std::vector<bool> found = searchResults(NetData::Edge);
   std::vector<EdgeLook> looks(found.size());
   for (std::size_t i = 0; i < looks.size(); ++i)
-    looks[i] = {found[i] ? Found : NotFound, found[i] ? WidthOfResults : 1.0, !found[i], 0};
+    looks[i] = {found[i] ? Found : NotFound, found[i] ? WidthOfResults : 1.0, !found[i], false, 0};
+  hide(NetData::Edge, looks);
   return looks;
 }
 
@@ -130,6 +141,7 @@ std::vector<NodeLook> ElementLooks::searchedNodes() const {
   const std::vector<bool> found = searchResults(NetData::Node);
   std::vector<NodeLook> looks(found.size());
   for (std::size_t i = 0; i < looks.size(); ++i)
-    looks[i] = {found[i] ? Found : NotFound, m_settings.nodeMag * (found[i] ? 2.0 : 1.0)};
+    looks[i] = {found[i] ? Found : NotFound, m_settings.nodeMag * (found[i] ? 2.0 : 1.0), false};
+  hide(NetData::Node, looks);
   return looks;
 }

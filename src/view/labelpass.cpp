@@ -54,7 +54,7 @@ LabelPass::LabelPass(const Drawing &drawing, const LabelContents &contents, cons
     , m_placement(projection.canvas(), margin) {}
 
 void LabelPass::add(NetGeometry::Item item, const QLineF &place, bool isLine, double clearance, int rank, double weight) {
-  if (m_drawing.visibility.of(item) != VisibilityRules::State::On)
+  if (m_drawing.visibility.of(item) != VisibilityRules::State::On || m_drawing.layers.isHidden(item))
     return;
   Wish wish;
   wish.candidate.item = item;

@@ -40,6 +40,8 @@ NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
        std::initializer_list<QwtPlotItem *>{&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels})
     layer->attach(plot.plot());
   m_symbols.setSubnets(&m_subnets);
+  m_subnets.setFilter(&m_layers);
+  m_textBoxes.setFilter(&m_layers);
 }
 
 void NetUpdate::setNetData(const NetData *net) {
@@ -52,6 +54,7 @@ void NetUpdate::setNetData(const NetData *net) {
   m_textBoxes.clear();
   clearLabels();
   m_visibility.clear();
+  m_layers = LayerFilter();
 }
 
 void NetUpdate::setFolder(const QString &folder) {
@@ -73,6 +76,7 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
   m_values.read(*m_net, m_settings, m_geometry, rebuild);
   if (rebuild && m_geometry.unplaced() > 0)
     NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
+  m_layers.read(m_geometry);
   ColorScale::show(*m_plot.plot(), m_settings, DrawFunction::find(m_settings.colorFunc, *m_net), m_values.edgeColor(),
                    looks().swatches());
   m_plot.placeLegend();
@@ -108,7 +112,7 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
 }
 
 ElementLooks NetUpdate::looks() const {
-  return {*m_net, m_geometry, m_values, m_settings};
+  return {*m_net, m_geometry, m_values, m_settings, m_layers};
 }
 
 void NetUpdate::updateSymbols(bool rebuild) {
@@ -134,7 +138,7 @@ void NetUpdate::updateSymbols(bool rebuild) {
     m_subnets.setSubnets(m_geometry);
   }
   m_visibility.setExtent(m_plot.plot()->visibleRect().height());
-  m_symbols.setVisibility(m_visibility);
+  m_symbols.setVisibility(m_visibility, m_layers);
   m_textBoxes.setBackground(m_settings.bgrColor);
   m_textBoxes.setTextBoxes(m_geometry, m_settings.nodeLabelsColor,
                            QFont(QStringLiteral("Arial"), std::max(m_settings.labelMag, 1)));
@@ -162,7 +166,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
   const double units = m_plot.plot()->unitsPerPixel().height();
   bool hasChanged = m_visibility.setExtent(m_plot.plot()->visibleRect().height());
   if (hasChanged)
-    m_symbols.setVisibility(m_visibility);
+    m_symbols.setVisibility(m_visibility, m_layers);
   if (labels == Pixtest::Labels::With) {
     placeLabels();
     hasChanged = true;
@@ -190,8 +194,8 @@ void NetUpdate::placeLabels() {
   if (!view.isValid())
     return;
   const double units = m_plot.plot()->unitsPerPixel().height();
-  const LabelPass::Drawing drawing{m_geometry, m_edges,     m_nodes,      m_symbols,
-                                   m_subnets,  m_textBoxes, m_visibility, m_values.flowSize()};
+  const LabelPass::Drawing drawing{m_geometry,  m_edges,      m_nodes,  m_symbols,          m_subnets,
+                                   m_textBoxes, m_visibility, m_layers, m_values.flowSize()};
   LabelPass pass(drawing, contents, view, m_settings.labelMargin);
   pass.addObstacle(m_plot.legendArea());
   const bool isSameScale = std::abs(units - m_labels.unitsPerPixel()) <= SameScale * units;

@@ -70,7 +70,7 @@ void NodeLayer::find(const Projection &projection, const QPointF &point, double 
       const Record &record = m_records[static_cast<std::size_t>(i)];
       const QPointF to = projection.map(record.x, record.y) - point;
       const double distance = std::hypot(to.x(), to.y());
-      if (distance - sizeOf(record) * 0.5 <= tolerance)
+      if (!record.look.isHidden && distance - sizeOf(record) * 0.5 <= tolerance)
         hits.push_back({{NetData::Node, record.node}, distance});
     }
   });
@@ -83,7 +83,7 @@ std::vector<NodeLayer::VisibleNode> NodeLayer::visibleNodes(const Projection &pr
     for (int i = first; i < last; ++i) {
       const Record &record = m_records[static_cast<std::size_t>(i)];
       const QPointF center = projection.map(record.x, record.y);
-      if (area.contains(center))
+      if (!record.look.isHidden && area.contains(center))
         nodes.push_back({center, &record});
     }
   });

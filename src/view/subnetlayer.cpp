@@ -143,7 +143,7 @@ std::vector<SubnetLayer::Placed> SubnetLayer::place(const Projection &projection
     const double size = sizeOf(record, projection);
     QRectF box(0.0, 0.0, size, size);
     box.moveCenter(center);
-    if (!box.intersects(projection.canvas()))
+    if (isHidden(i) || !box.intersects(projection.canvas()))
       continue;
     const int number = grid.claim(center, static_cast<int>(placed.size()));
     if (number < static_cast<int>(placed.size()))
@@ -204,7 +204,7 @@ void SubnetLayer::find(const Projection &projection, const QPointF &point, std::
     const Record &record = m_records[i];
     const QPointF to = projection.map(record.center.x(), record.center.y()) - point;
     const double half = sizeOf(record, projection) * 0.5;
-    if (std::abs(to.x()) <= half && std::abs(to.y()) <= half)
+    if (!isHidden(i) && std::abs(to.x()) <= half && std::abs(to.y()) <= half)
       hits.push_back({{NetData::AssembledSubnet, static_cast<int>(i)}, std::hypot(to.x(), to.y())});
   }
 }

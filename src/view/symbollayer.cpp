@@ -103,9 +103,9 @@ void SymbolLayer::setStations(const NetGeometry &geometry) {
     m_records.push_back(found[static_cast<std::size_t>(i)]);
 }
 
-void SymbolLayer::setVisibility(const VisibilityRules &rules) {
+void SymbolLayer::setVisibility(const VisibilityRules &rules, const LayerFilter &layers) {
   for (Record &record : m_records)
-    record.isVisible = rules.of(record.item) != VisibilityRules::State::Off;
+    record.isVisible = rules.of(record.item) != VisibilityRules::State::Off && !layers.isHidden(record.item);
 }
 
 void SymbolLayer::clear() {

@@ -54,7 +54,8 @@ std::vector<TextBoxLayer::Placed> TextBoxLayer::place(const Projection &projecti
   for (const Record &record : m_records) {
     QRectF area(QPointF(), record.size);
     area.moveCenter(projection.map(record.x, record.y));
-    if (!projection.canvas().contains(area.center()))
+    const bool isHidden = m_layers != nullptr && m_layers->isHidden({NetData::TextBox, record.textBox});
+    if (isHidden || !projection.canvas().contains(area.center()))
       continue;
     // What would be cut at the side of the canvas is moved in.
     area.moveLeft(std::max(std::min(area.left(), projection.canvas().right() - area.width()), projection.canvas().left()));

@@ -173,8 +173,8 @@ void TestLabels::contentsFollowTheTable_data() {
   QTest::newRow("dots end a name") << QStringLiteral("(@p.)") << QStringList{QStringLiteral("(20 bar.)")} << QString();
   QTest::newRow("marks") << QStringLiteral("<b>@name</b><br />@p") << QStringList()
                          << QStringLiteral("<b>A &amp; B</b><br />20 bar");
-  QTest::newRow("formula") << QStringLiteral("@{p*2+pow(2,3)} and @{rho}<br />@{p +}") << QStringList{QStringLiteral("48 and")}
-                           << QString();
+  QTest::newRow("formula") << QStringLiteral("@{p*2+pow(2,3)} and @{rho}<br />@{p +}")
+                           << QStringList{QStringLiteral("48 and")} << QString();
   QTest::newRow("nothing") << QString() << QStringList() << QString();
 }
 

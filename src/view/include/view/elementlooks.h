@@ -3,6 +3,7 @@
 #include <view/colorscale.h>
 #include <view/drawvalues.h>
 #include <view/edgelayer.h>
+#include <view/layerfilter.h>
 #include <view/netgeometry.h>
 #include <view/nodelayer.h>
 
@@ -10,11 +11,13 @@
 /// use have colours of their own.
 class ElementLooks {
 public:
-  ElementLooks(const NetData &net, const NetGeometry &geometry, const DrawValues &values, const PlotSettings &settings)
+  ElementLooks(const NetData &net, const NetGeometry &geometry, const DrawValues &values, const PlotSettings &settings,
+               const LayerFilter &layers)
       : m_net(net)
       , m_geometry(geometry)
       , m_values(values)
-      , m_settings(settings) {}
+      , m_settings(settings)
+      , m_layers(layers) {}
 
   /// One an edge of the geometry.
   std::vector<EdgeLook> edges() const;
@@ -27,10 +30,13 @@ public:
   std::vector<ColorScale::Swatch> swatches() const;
 
 private:
+  template <typename Look>
+  void hide(NetData::EleType kind, std::vector<Look> &looks) const;
   std::vector<bool> searchResults(NetData::EleType kind) const;
 
   const NetData &m_net;
   const NetGeometry &m_geometry;
   const DrawValues &m_values;
   const PlotSettings &m_settings;
+  const LayerFilter &m_layers;
 };

@@ -45,8 +45,8 @@ public:
 private:
   enum class Mode { None, Name, Selected };
   struct Part {
-    QString text;      ///< in front of the value
-    PropertyKey value; ///< null behind the last value
+    QString text;                     ///< in front of the value
+    PropertyKey value;                ///< null behind the last value
     std::shared_ptr<Formula> formula; ///< in place of the value
     Units::Linear toDisplay;
     QString unit;

@@ -2,6 +2,7 @@
 
 #include <view/labelcontents.h>
 #include <view/labellayer.h>
+#include <view/layerfilter.h>
 #include <view/netgeometry.h>
 #include <view/visibilityrules.h>
 
@@ -23,6 +24,7 @@ public:
     const SubnetLayer &subnets;
     const TextBoxLayer &textBoxes;
     const VisibilityRules &visibility;
+    const LayerFilter &layers;
     const std::vector<double> &flow; ///< of edges; NetData::NoValue is less than any
   };
   struct Result {

@@ -6,6 +6,7 @@
 #include <view/elementlooks.h>
 #include <view/labellayer.h>
 #include <view/labeltable.h>
+#include <view/layerfilter.h>
 #include <view/netgeometry.h>
 #include <view/nodelayer.h>
 #include <view/pixtest.h>
@@ -36,6 +37,8 @@ public:
   void setFolder(const QString &folder);
   void setLabelTable(const LabelTable &table) { m_labelTable = table; }
   const LabelTable &labelTable() const { return m_labelTable; }
+  /// Layers whose elements are not drawn, by the values of the property; drawn with the next updatePlot().
+  void setHiddenLayers(const QString &property, const QSet<QString> &layers) { m_layers.setHidden(property, layers); }
   void setDisplayMode(DisplayMode mode) { m_displayMode = mode; }
   DisplayMode displayMode() const { return m_displayMode; }
 
@@ -81,6 +84,7 @@ private:
   DrawValues m_values;
   LabelTable m_labelTable;
   VisibilityRules m_visibility;
+  LayerFilter m_layers;
   DisplayMode m_displayMode = DisplayMode::Functions;
   EdgeLayer m_edges;
   NodeLayer m_nodes;

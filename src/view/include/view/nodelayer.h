@@ -9,7 +9,8 @@
 /// How one node is drawn.
 struct NodeLook {
   QRgb color = 0;
-  double size = 4.0; ///< px, across
+  double size = 4.0;     ///< px, across
+  bool isHidden = false; ///< not drawn at all
 };
 
 /// All nodes as one plot item: discs for junctions, triangles for supplies and demands, squares for held pressures.
@@ -36,7 +37,7 @@ public:
       for (int i = first; i < last; ++i) {
         const Record &record = m_records[static_cast<std::size_t>(i)];
         const QPointF center = projection.map(record.x, record.y);
-        if (projection.canvas().contains(center))
+        if (!record.look.isHidden && projection.canvas().contains(center))
           visit(record.node, center, sizeOf(record));
       }
     });

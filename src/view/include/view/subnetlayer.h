@@ -1,5 +1,6 @@
 #pragma once
 
+#include <view/layerfilter.h>
 #include <view/layergeometry.h>
 #include <view/netgeometry.h>
 #include <view/stationsymbols.h>
@@ -19,6 +20,9 @@ public:
   /// \param alpha opacity of the ground, 0 to 255
   void setLook(double size, int alpha);
   void clear() { m_records.clear(); }
+
+  /// What is hidden by its layer is not drawn. It must live as long as this layer.
+  void setFilter(const LayerFilter *layers) { m_layers = layers; }
 
   int rtti() const override { return Rtti_PlotUserItem + 5; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
@@ -45,11 +49,15 @@ private:
     QColor ground;
   };
 
+  bool isHidden(std::size_t subnet) const {
+    return m_layers != nullptr && m_layers->isHidden({NetData::AssembledSubnet, static_cast<int>(subnet)});
+  }
   double sizeOf(const Record &record, const Projection &projection) const;
   void drawPins(QPainter &painter, const Record &record, const QRectF &box, const Projection &projection) const;
 
   mutable StationSymbols m_symbols; ///< a cache of pixmaps
   std::vector<Record> m_records;    ///< as in the geometry
+  const LayerFilter *m_layers = nullptr;
   double m_size = 32.0;
   int m_alpha = 100;
   double m_penWidth = 3.0;

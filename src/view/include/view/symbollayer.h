@@ -1,6 +1,7 @@
 #pragma once
 
 #include <view/figures.h>
+#include <view/layerfilter.h>
 #include <view/layergeometry.h>
 #include <view/netgeometry.h>
 #include <view/spatialindex.h>
@@ -28,7 +29,7 @@ public:
   void setSizes(const QHash<QString, double> &sizes) { m_sizes = sizes; }
   double size() const { return m_size; }
   /// Symbols that are off are not drawn.
-  void setVisibility(const VisibilityRules &rules);
+  void setVisibility(const VisibilityRules &rules, const LayerFilter &layers);
   void clear();
 
   int rtti() const override { return Rtti_PlotUserItem + 3; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <view/layerfilter.h>
 #include <view/layergeometry.h>
 #include <view/netgeometry.h>
 
@@ -16,6 +17,9 @@ public:
   void setTextBoxes(const NetGeometry &geometry, const QColor &color, const QFont &font);
   void setBackground(const QColor &background) { m_background = background; } ///< what the halo is made of
   void clear() { m_records.clear(); }
+
+  /// What is hidden by its layer is not drawn. It must live as long as this layer.
+  void setFilter(const LayerFilter *layers) { m_layers = layers; }
 
   int rtti() const override { return Rtti_PlotUserItem + 4; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
@@ -42,6 +46,7 @@ private:
 
   std::vector<Placed> place(const Projection &projection) const;
 
+  const LayerFilter *m_layers = nullptr;
   std::vector<Record> m_records;
   QColor m_background = Qt::white;
 };

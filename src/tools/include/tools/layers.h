@@ -1,0 +1,46 @@
+#pragma once
+
+#include <model/netdata.h>
+
+#include <QMap>
+#include <QSet>
+#include <QStringList>
+
+/// Elements grouped by the value of one property. Visibility is kept by the name of the layer.
+class Layers {
+public:
+  struct Layer {
+    bool isVisible = true;
+    QStringList names; ///< of the elements, in the order of the network
+  };
+
+  explicit Layers(NetData &net)
+      : m_net(net) {}
+
+  const QString &property() const { return m_property; }
+  void setProperty(const QString &property);
+  /// Looks up the layers of the elements anew.
+  void rebuild();
+  const QMap<QString, Layer> &all() const { return m_layers; }
+
+  void setVisible(const QString &layer, bool visible);
+  void setAllVisible(bool visible);
+  void invert();
+  QSet<QString> hidden() const;
+
+  /// Gives elements to a layer; names that the network does not have are passed over.
+  void add(const QStringList &names, const QString &layer);
+  void rename(const QString &layer, const QString &newName);
+  /// Takes the property away from all elements of the layer.
+  void remove(const QString &layer);
+
+  /// Whether a layer may have the name: no line breaks, semicolons or quotes.
+  static bool isAllowed(const QString &name);
+  /// The name of the choice "a new layer", which no layer can have.
+  static QString newLayer() { return QStringLiteral("<new layer>"); }
+
+private:
+  NetData &m_net;
+  QString m_property = QStringLiteral("vis.layer");
+  QMap<QString, Layer> m_layers;
+};

@@ -1,0 +1,73 @@
+#include <model/elementtypes.h>
+#include <tools/metadatatable.h>
+
+#include <QSet>
+
+MetaDataTable::MetaDataTable(const NetMetaData &metaData, QWidget *parent)
+    : QTreeWidget(parent)
+    , m_metaData(metaData) {
+  constexpr int Widths[] = {160, 180, 200};
+  constexpr QSize Size(800, 600);
+  setWindowTitle(QStringLiteral("MetaData"));
+  setHeaderLabels(
+      {QStringLiteral("ShortNames"), QStringLiteral("LongNames"), QStringLiteral("Description (Attribute.csv)")});
+  for (int column = 0; column < columnCount(); ++column)
+    setColumnWidth(column, Widths[column]);
+  setAlternatingRowColors(true);
+  resize(Size);
+  fill();
+}
+
+MetaDataTable::~MetaDataTable() = default;
+
+void MetaDataTable::fill() {
+  clear();
+  addGroup(QStringLiteral("ElementTypes"), types());
+  addGroup(QStringLiteral("NodeFunctions"), functions(m_metaData.nodeFunctions()));
+  addGroup(QStringLiteral("EdgeFunctions"), functions(m_metaData.edgeFunctions()));
+  addGroup(QStringLiteral("GeomParms"), properties(QStringLiteral("geometry")));
+  addGroup(QStringLiteral("ScenParms"), properties(QStringLiteral("scenario")));
+  addGroup(QStringLiteral("ResultParms"), properties(QStringLiteral("results")));
+  addGroup(QStringLiteral("GasParms"), properties(QStringLiteral("gas")));
+  addGroup(QStringLiteral("VisParms"), properties(QString()));
+}
+
+void MetaDataTable::addGroup(const QString &name, const std::vector<Entry> &entries) {
+  auto *group = new QTreeWidgetItem(this, {QStringLiteral("%1 (%2)").arg(name).arg(entries.size())});
+  for (const Entry &entry : entries) {
+    auto *row = new QTreeWidgetItem(group, {entry.shortName, entry.longName, entry.description});
+    row->setToolTip(2, entry.description);
+  }
+}
+
+std::vector<MetaDataTable::Entry> MetaDataTable::types() const {
+  std::vector<Entry> entries;
+  for (const ElementType &type : ElementTypes::all())
+    entries.push_back({type.code, type.longName, type.plural});
+  return entries;
+}
+
+std::vector<MetaDataTable::Entry> MetaDataTable::functions(const QStringList &names) const {
+  std::vector<Entry> entries;
+  for (const QString &name : names) {
+    const NetMetaData::Attribute *attribute = m_metaData.anyAttribute(name);
+    entries.push_back({name, attribute == nullptr ? QString() : attribute->longName,
+                       attribute == nullptr ? QString() : attribute->description});
+  }
+  return entries;
+}
+
+/// Those of a group, or without one those that say how an element is drawn; each name once.
+std::vector<MetaDataTable::Entry> MetaDataTable::properties(const QString &group) const {
+  std::vector<Entry> entries;
+  QSet<QString> known;
+  for (const NetMetaData::Attribute &attribute : m_metaData.attributes()) {
+    const bool isOfDrawing = attribute.category == QLatin1String("drawing") && attribute.group != QLatin1String("hidden");
+    const bool isWanted = group.isEmpty() ? isOfDrawing : attribute.group == group && !isOfDrawing;
+    if (!isWanted || known.contains(attribute.property))
+      continue;
+    known.insert(attribute.property);
+    entries.push_back({attribute.property, attribute.longName, attribute.description});
+  }
+  return entries;
+}
