@@ -98,6 +98,14 @@ void NivraViewer::on_actionExit_triggered() {
   close();
 }
 
+void NivraViewer::on_actionElement_Table_triggered() {
+  m_tools->showVectorTable();
+}
+
+void NivraViewer::on_actionMetadataTable_triggered() {
+  m_tools->showMetaData();
+}
+
 void NivraViewer::on_actionAboutNivra_triggered() {
   AboutBox::show(this);
 }
@@ -140,7 +148,8 @@ void NivraViewer::openWorkspace(const QString &path) {
   const bool done = readWorkspace();
   setBusy(false);
   m_tools->refresh(m_loader.workspace());
-  m_ui->actionSearch->setEnabled(true);
+  for (QAction *action : {m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
+    action->setEnabled(true);
   showTitle();
   constexpr int ShownMs = 20000;
   if (done)

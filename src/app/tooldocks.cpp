@@ -1,12 +1,17 @@
 #include <io/nivraworkspace.h>
+#include <tools/metadatatable.h>
+#include <tools/nivranetlayerseditor.h>
+#include <tools/nivranetobjectcats.h>
 #include <tools/nivrapropviewer.h>
 #include <tools/nivrasearch.h>
+#include <tools/nivravectable.h>
 #include <view/labelcontents.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 #include <view/viewfuncdialog.h>
 
 #include <QDockWidget>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QTreeWidgetItem>
 
@@ -21,6 +26,8 @@ ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control)
   addDock(new ConsoleDock(&window), QStringLiteral("messages"), Qt::BottomDockWidgetArea);
 }
 
+ToolDocks::~ToolDocks() = default;
+
 QDockWidget *ToolDocks::addDock(QDockWidget *dock, const QString &name, Qt::DockWidgetArea area) {
   dock->setObjectName(name);
   m_window.addDockWidget(area, dock);
@@ -34,6 +41,10 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
     createDraw();
   if (m_propViewer == nullptr)
     createElement();
+  if (m_layers == nullptr)
+    createLayers();
+  if (m_categories == nullptr)
+    createCategories();
   if (m_search == nullptr)
     createSearch();
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), workspace.filePath(QStringLiteral("plotsettings.ini")));
@@ -41,6 +52,65 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
   m_propViewer->showCurrentEleContents(nullptr);
   m_info->reset();
   m_search->clearResults();
+  m_layers->setLayerProperty(m_control.plot()->settings().layerProp);
+  m_layers->on_pushButtonReload_clicked();
+  m_categories->setFile(workspace.filePath(QStringLiteral("catdef.csv")));
+  m_directory = QFileInfo(workspace.filePath(QStringLiteral("catdef.csv"))).path();
+  if (m_vectorTable != nullptr) {
+    m_vectorTable->setDirectory(m_directory);
+    m_vectorTable->refresh();
+    m_vectorTable->on_pushButtonUpdate_clicked();
+  }
+}
+
+void ToolDocks::createLayers() {
+  m_layers = new NivraNetLayersEditor(m_net, &m_window);
+  addDock(m_layers, QStringLiteral("layers"), Qt::LeftDockWidgetArea);
+  connect(m_layers, &NivraNetLayersEditor::layerVisChanged, this, &ToolDocks::applyLayers);
+  connect(m_layers, &NivraNetLayersEditor::itemClicked, this, &ToolDocks::elementMarked);
+  connect(m_layers, &NivraNetLayersEditor::itemDoubleClicked, &m_control, &NetVisControl::showElement);
+}
+
+void ToolDocks::applyLayers() {
+  NetUpdate &update = m_control.plot()->update();
+  update.setHiddenLayers(m_layers->layers().property(), m_layers->layers().hidden());
+  update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  update.requestPixtest(0);
+}
+
+void ToolDocks::createCategories() {
+  m_categories = new NivraNetObjectCats(&m_window);
+  addDock(m_categories, QStringLiteral("categories"), Qt::BottomDockWidgetArea);
+  connect(m_categories, &NivraNetObjectCats::showInTable, this,
+          [this](const QString &category) { vectorTable()->on_showCat(category); });
+}
+
+NivraVecTable *ToolDocks::vectorTable() {
+  if (m_vectorTable != nullptr)
+    return m_vectorTable.get();
+  m_vectorTable = std::make_unique<NivraVecTable>(m_net);
+  m_vectorTable->setDirectory(m_directory);
+  connect(m_vectorTable.get(), &NivraVecTable::elementMarked, this, &ToolDocks::elementMarked);
+  if (m_categories != nullptr) {
+    connect(m_categories, &NivraNetObjectCats::catChanged, m_vectorTable.get(), &NivraVecTable::on_updateCats);
+    m_categories->on_pushButtonUse_clicked();
+  }
+  m_vectorTable->on_pushButtonUpdate_clicked();
+  return m_vectorTable.get();
+}
+
+void ToolDocks::showVectorTable() {
+  NivraVecTable *table = vectorTable();
+  table->show();
+  table->raise();
+  table->activateWindow();
+}
+
+void ToolDocks::showMetaData() {
+  if (m_metaData == nullptr)
+    m_metaData = std::make_unique<MetaDataTable>(*m_net.metaData());
+  m_metaData->show();
+  m_metaData->raise();
 }
 
 void ToolDocks::createDraw() {
@@ -112,4 +182,12 @@ void ToolDocks::createSearch() {
   connect(m_search, &NivraSearch::markSearchResults, &m_control, &NetVisControl::selectSearchResults);
   connect(m_search, &NivraSearch::searchCompleted, &m_control, &NetVisControl::refreshSearchResults);
   connect(m_control.picker(), &NetPicker::picked, m_search, &NivraSearch::select);
+  connect(m_search, &NivraSearch::definitionChanged, m_categories, &NivraNetObjectCats::updateTempCategory);
+  connect(m_search, &NivraSearch::categoryWanted, m_categories,
+          [this](const QStringList &definition) { m_categories->addCategory(definition); });
+  connect(m_search, &NivraSearch::showInTable, this, [this] { vectorTable()->on_useSearchConfig(); });
+  connect(m_categories, &NivraNetObjectCats::toSearch, m_search, [this](const QStringList &definition, bool regex) {
+    m_search->show();
+    m_search->defineSearch(definition, regex);
+  });
 }

@@ -6,13 +6,13 @@
 MetaDataTable::MetaDataTable(const NetMetaData &metaData, QWidget *parent)
     : QTreeWidget(parent)
     , m_metaData(metaData) {
-  constexpr int Widths[] = {160, 180, 200};
   constexpr QSize Size(800, 600);
   setWindowTitle(QStringLiteral("MetaData"));
   setHeaderLabels(
       {QStringLiteral("ShortNames"), QStringLiteral("LongNames"), QStringLiteral("Description (Attribute.csv)")});
-  for (int column = 0; column < columnCount(); ++column)
-    setColumnWidth(column, Widths[column]);
+  setColumnWidth(0, 160);
+  setColumnWidth(1, 180);
+  setColumnWidth(2, 200);
   setAlternatingRowColors(true);
   resize(Size);
   fill();

@@ -16,6 +16,7 @@ QIcon actionIcon(const char *name) {
 NivraNetObjectCats::NivraNetObjectCats(QWidget *parent)
     : QDockWidget(parent)
     , m_ui(std::make_unique<Ui::NivraNetObjectCats>()) {
+  qRegisterMetaType<CatMap>("CatMap");
   m_ui->setupUi(this);
   m_ui->tableWidget->setHorizontalHeaderLabels({tr("category"), tr("name"), tr("type"), tr("property"), tr("value")});
   connect(m_ui->tableWidget, &QTableWidget::cellChanged, this, &NivraNetObjectCats::informOnNecessaryUpdate);
@@ -71,6 +72,7 @@ Category NivraNetObjectCats::rowAt(int row) const {
 
 std::vector<Category> NivraNetObjectCats::categories() const {
   std::vector<Category> all;
+  all.reserve(static_cast<std::size_t>(m_ui->tableWidget->rowCount()));
   for (int row = 0; row < m_ui->tableWidget->rowCount(); ++row)
     all.push_back(rowAt(row));
   return all;

@@ -18,6 +18,7 @@ NivraPropViewer::NivraPropViewer(QWidget *parent)
     : QDockWidget(parent)
     , m_ui(std::make_unique<Ui::NivraPropViewer>()) {
   m_ui->setupUi(this);
+  m_ui->treeWidget->setHeaderLabels({QStringLiteral("prop"), QStringLiteral("value"), QStringLiteral("unit")});
   m_ui->treeWidget->addAction(m_ui->actionCopy);
 }
 

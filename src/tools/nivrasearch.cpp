@@ -70,6 +70,7 @@ NivraSearch::NivraSearch(NetData &net, QWidget *parent)
     , m_historyMenu(new QMenu(this)) {
   initialiseResources();
   m_ui->setupUi(this);
+  m_ui->treeWidget_searchResults->setHeaderLabels(SearchTable::headers());
   constexpr int Widths[] = {120, 40, 120, 120, 100};
   for (int column = 0; column < ColumnCount; ++column)
     m_ui->treeWidget_searchResults->setColumnWidth(column, Widths[column]);

@@ -35,7 +35,9 @@ signals:
 public slots:
   void elementAction(const QString &eleName, NetPicker::EleAction eleAction);
   void on_actionAboutNivra_triggered();
+  void on_actionElement_Table_triggered();
   void on_actionExit_triggered();
+  void on_actionMetadataTable_triggered();
   void on_actionOpen_triggered();
 
 protected:

@@ -6,9 +6,15 @@
 #include <QList>
 #include <QObject>
 
+#include <memory>
+
+class MetaDataTable;
 class NetVisControl;
+class NivraNetLayersEditor;
+class NivraNetObjectCats;
 class NivraPropViewer;
 class NivraSearch;
+class NivraVecTable;
 class NivraWorkspace;
 class QDockWidget;
 class QMainWindow;
@@ -19,12 +25,15 @@ class ToolDocks : public QObject {
   Q_OBJECT
 public:
   ToolDocks(QMainWindow &window, NetVisControl &control);
+  ~ToolDocks() override;
 
   /// Makes what is not there yet and shows the network that was just read.
   void refresh(const NivraWorkspace &workspace);
   const QList<QDockWidget *> &docks() const { return m_docks; }
   NivraSearch *search() const { return m_search; } ///< null before the first workspace
 
+  void showVectorTable();
+  void showMetaData();
   void showElement(const QString &name);
   /// As showElement(), in docks that come to the front.
   void showInfo(const QString &name);
@@ -38,6 +47,10 @@ private:
   void createDraw();
   void createElement();
   void createSearch();
+  void createLayers();
+  void createCategories();
+  NivraVecTable *vectorTable();
+  void applyLayers();
   NivraEleInfoWidget::PlotLabel plotLabel(const element &e) const;
 
   QMainWindow &m_window;
@@ -48,4 +61,9 @@ private:
   NivraEleInfoWidget *m_info = nullptr;
   NivraPropViewer *m_propViewer = nullptr;
   NivraSearch *m_search = nullptr;
+  NivraNetLayersEditor *m_layers = nullptr;
+  NivraNetObjectCats *m_categories = nullptr;
+  std::unique_ptr<NivraVecTable> m_vectorTable; ///< windows of their own, made when they are asked for
+  std::unique_ptr<MetaDataTable> m_metaData;
+  QString m_directory; ///< of the case
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMap>
+#include <QMetaType>
 #include <QString>
 #include <QStringList>
 
@@ -32,6 +33,7 @@ struct CategoryRecord {
   bool isChecked = false;
 };
 using CatMap = QMap<QString, CategoryRecord>;
+Q_DECLARE_METATYPE(CategoryRecord)
 
 /// "catdef.csv".
 namespace CategoryFile {

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <tools/category.h>
+#include <tools/vectorrows.h>
+
+#include <QTabWidget>
+
+#include <memory>
+
+class QTableWidgetItem;
+class QwtPlot;
+
+namespace Ui {
+class NivraVecTable;
+}
+
+/// The window "Table of Vector Values".
+class NivraVecTable : public QTabWidget {
+  Q_OBJECT
+public:
+  explicit NivraVecTable(NetData &net, QWidget *parent = nullptr);
+  ~NivraVecTable() override;
+
+  /// Where tables are saved unless somebody says otherwise.
+  void setDirectory(const QString &directory) { m_directory = directory; }
+  /// After the network has changed: the properties that there are.
+  void refresh();
+  bool save(const QString &path) const;
+
+signals:
+  void elementMarked(const QString &elName);
+  void netChanged();
+
+public slots:
+  void on_updateCats(const CatMap &catDataInput);
+  void on_useSearchConfig();
+  void on_showCat(const QString &catToShow);
+  void on_pushButtonUpdate_clicked();
+  void on_pushButtonTryNumSort_clicked();
+  void on_pushButtonSave_clicked();
+  void on_pushButtonClose_clicked();
+  void on_comboBoxCat_currentIndexChanged(const QString &qstr);
+  void on_comboBoxProp_currentIndexChanged(const QString &qstr);
+  void on_checkBoxProp_toggled(bool checked);
+  void on_checkBoxNonZero_toggled(bool checked);
+  void on_checkBoxUseSel_toggled(bool checked);
+  void on_tableWidget_itemClicked(QTableWidgetItem *item);
+  void on_actionCopy_selectedItems_triggered();
+  void on_closePlotButton_clicked();
+  void on_NivraVecTable_currentChanged(int index);
+
+private:
+  bool isPropertyMode() const;
+  QStringList headers() const;
+  void showRows(const std::vector<VectorRows::Row> &rows);
+  void sortNumerically();
+  std::vector<QStringList> texts() const;
+
+  std::unique_ptr<Ui::NivraVecTable> m_ui;
+  NetData &m_net;
+  VectorRows m_rows;
+  CatMap m_categories;
+  QString m_chosenCategory;
+  QString m_chosenProperty;
+  QString m_directory;
+  bool m_isUpdating = false;
+  QwtPlot *m_plot;
+};

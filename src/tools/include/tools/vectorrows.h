@@ -1,0 +1,55 @@
+#pragma once
+
+#include <formulas/formula.h>
+#include <model/netdata.h>
+#include <tools/category.h>
+#include <tools/displayvalue.h>
+
+#include <QIODevice>
+#include <QRegularExpression>
+
+#include <vector>
+
+/// The rows of the vector table, without a window: one property of all elements, or what a category selects.
+class VectorRows {
+public:
+  struct Row {
+    QString name;
+    QString type;
+    QString property;
+    QString value; ///< in the display unit
+    QString unit;
+    QString result; ///< the raw value, or what the formula says
+    QString numsort;
+  };
+  struct Request {
+    bool usesProperty = true;
+    QString property;        ///< exactly, when it is used
+    CategoryRecord category; ///< patterns otherwise; empty ones take everything
+    bool onlyNonZero = false;
+    bool onlySelection = false;
+  };
+
+  explicit VectorRows(NetData &net)
+      : m_net(net)
+      , m_display(*net.metaData()) {}
+
+  std::vector<Row> build(const Request &request);
+  /// Every listed property has a unit, so that the values can be ordered as numbers.
+  bool allHaveUnits() const { return m_allHaveUnits; }
+
+  /// By the number of the value; what is no number comes last and is marked "x". The rank stands in numsort.
+  static void sortNumerically(std::vector<Row> &rows);
+  static QString padded(int number); ///< right-aligned in nine characters
+  static bool write(QIODevice &device, const QStringList &headers, const std::vector<QStringList> &rows, bool useComma);
+
+private:
+  void addRows(const element &e, const Request &request, std::vector<Row> &rows);
+  bool result(const element &e, const Property &property, const Request &request, QString &text);
+
+  NetData &m_net;
+  DisplayValue m_display;
+  std::vector<QRegularExpression> m_patterns; ///< name, type, property, value
+  std::optional<Formula> m_formula;
+  bool m_allHaveUnits = false;
+};

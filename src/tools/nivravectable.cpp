@@ -1,0 +1,274 @@
+#include "ui_nivravectable.h"
+
+#include <base/generalsettings.h>
+#include <base/nivramsg.h>
+#include <tools/nivravectable.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <qwt_plot.h>
+#include <qwt_plot_curve.h>
+#include <qwt_plot_grid.h>
+
+#include <set>
+
+namespace {
+
+enum Column { NameColumn, TypeColumn, PropertyColumn, ValueColumn, UnitColumn, ResultColumn, NumsortColumn, ColumnCount };
+
+} // namespace
+
+NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
+    : QTabWidget(parent)
+    , m_ui(std::make_unique<Ui::NivraVecTable>())
+    , m_net(net)
+    , m_rows(net)
+    , m_plot(new QwtPlot) {
+  m_ui->setupUi(this);
+  m_ui->tableWidget->addAction(m_ui->actionCopy_selectedItems);
+  m_ui->plotLayout->insertWidget(0, m_plot);
+  m_plot->setCanvasBackground(Qt::white);
+  auto *grid = new QwtPlotGrid;
+  grid->setMajorPen(Qt::lightGray, 0.0, Qt::DotLine);
+  grid->attach(m_plot);
+  refresh();
+}
+
+NivraVecTable::~NivraVecTable() {
+  NivraMsg::debug(QStringLiteral("Vector Table deleted."));
+}
+
+void NivraVecTable::refresh() {
+  std::set<QString> names;
+  m_net.forEach(NetData::AllTypes, [&names](const element &e) {
+    for (const Property &property : e)
+      names.insert(property.key.name());
+  });
+  m_isUpdating = true;
+  m_ui->comboBoxProp->clear();
+  for (const QString &name : names)
+    m_ui->comboBoxProp->addItem(name);
+  const int before = m_ui->comboBoxProp->findText(m_chosenProperty.isEmpty() ? QStringLiteral("p") : m_chosenProperty);
+  m_ui->comboBoxProp->setCurrentIndex(std::max(0, before));
+  m_chosenProperty = m_ui->comboBoxProp->currentText();
+  m_isUpdating = false;
+}
+
+bool NivraVecTable::isPropertyMode() const {
+  return m_ui->checkBoxProp->isChecked();
+}
+
+QStringList NivraVecTable::headers() const {
+  QStringList texts{QStringLiteral("name"), QStringLiteral("type"),   QStringLiteral("property"), QStringLiteral("value"),
+                    QStringLiteral("unit"), QStringLiteral("result"), QStringLiteral("numsort")};
+  const CategoryRecord category = m_categories.value(m_chosenCategory);
+  if (!isPropertyMode()) {
+    texts[NameColumn] += QStringLiteral("\n(%1)").arg(category.name);
+    texts[TypeColumn] += QStringLiteral("\n(%1)").arg(category.type);
+    texts[PropertyColumn] += QStringLiteral("\n(%1)").arg(category.prop);
+  }
+  texts[ResultColumn] += QStringLiteral("\n(%1)").arg(isPropertyMode()             ? m_chosenProperty
+                                                      : category.formula.isEmpty() ? category.value
+                                                                                   : category.formula);
+  return texts;
+}
+
+void NivraVecTable::on_pushButtonUpdate_clicked() {
+  NivraMsg::debug(QStringLiteral("update vectable started  ..."));
+  VectorRows::Request request;
+  request.usesProperty = isPropertyMode();
+  request.property = m_chosenProperty;
+  request.category = m_categories.value(m_chosenCategory);
+  request.onlyNonZero = m_ui->checkBoxNonZero->isChecked();
+  request.onlySelection = m_ui->checkBoxUseSel->isChecked();
+  std::vector<VectorRows::Row> rows = m_rows.build(request);
+  showRows(rows);
+  m_ui->tableWidget->sortByColumn(NameColumn, Qt::AscendingOrder);
+  if (m_rows.allHaveUnits())
+    sortNumerically();
+  m_ui->tableWidget->resizeColumnsToContents();
+  m_ui->labelCount->setText(tr("%1 rows").arg(rows.size()));
+  NivraMsg::debug(QStringLiteral("... update finished."));
+}
+
+void NivraVecTable::showRows(const std::vector<VectorRows::Row> &rows) {
+  constexpr int RowMargin = 8; // px around the text
+  QTableWidget *table = m_ui->tableWidget;
+  table->setSortingEnabled(false);
+  table->setRowCount(0);
+  table->setHorizontalHeaderLabels(headers());
+  table->verticalHeader()->setDefaultSectionSize(QFontInfo(font()).pixelSize() + RowMargin);
+  table->setRowCount(static_cast<int>(rows.size()));
+  for (int i = 0; i < table->rowCount(); ++i) {
+    const VectorRows::Row &row = rows[static_cast<std::size_t>(i)];
+    const QString *cells[] = {&row.name, &row.type, &row.property, &row.value, &row.unit, &row.result, &row.numsort};
+    for (int column = 0; column < ColumnCount; ++column) {
+      auto *cell = new QTableWidgetItem(*cells[column]);
+      cell->setFlags(Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsEnabled);
+      if (column == NumsortColumn)
+        cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      table->setItem(i, column, cell);
+    }
+  }
+  table->setSortingEnabled(true);
+}
+
+void NivraVecTable::on_pushButtonTryNumSort_clicked() {
+  sortNumerically();
+}
+
+void NivraVecTable::sortNumerically() {
+  NivraMsg::debug(QStringLiteral("    numsort started ..."));
+  QTableWidget *table = m_ui->tableWidget;
+  table->setSortingEnabled(false);
+  std::vector<VectorRows::Row> rows;
+  for (const QStringList &row : texts())
+    rows.push_back({row[NameColumn], row[TypeColumn], row[PropertyColumn], row[ValueColumn], row[UnitColumn],
+                    row[ResultColumn], row[NumsortColumn]});
+  VectorRows::sortNumerically(rows);
+  showRows(rows);
+  table->sortByColumn(NumsortColumn, Qt::AscendingOrder);
+}
+
+std::vector<QStringList> NivraVecTable::texts() const {
+  std::vector<QStringList> rows;
+  rows.reserve(static_cast<std::size_t>(m_ui->tableWidget->rowCount()));
+  for (int i = 0; i < m_ui->tableWidget->rowCount(); ++i) {
+    QStringList row;
+    for (int column = 0; column < ColumnCount; ++column)
+      row.append(m_ui->tableWidget->item(i, column)->text());
+    rows.push_back(row);
+  }
+  return rows;
+}
+
+void NivraVecTable::on_updateCats(const CatMap &catDataInput) {
+  NivraMsg::debug(QStringLiteral("vectable updatecats"));
+  m_categories = catDataInput;
+  m_isUpdating = true;
+  m_ui->comboBoxCat->clear();
+  m_ui->comboBoxCat->addItems(m_categories.keys());
+  if (!m_categories.contains(m_chosenCategory))
+    m_chosenCategory = m_categories.isEmpty() ? QString() : m_categories.firstKey();
+  m_ui->comboBoxCat->setCurrentText(m_chosenCategory);
+  m_ui->comboBoxCat->setEnabled(!m_categories.isEmpty());
+  m_isUpdating = false;
+  if (!isPropertyMode() && isVisible())
+    on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::on_useSearchConfig() {
+  on_showCat(QStringLiteral("fromSearch"));
+}
+
+void NivraVecTable::on_showCat(const QString &catToShow) {
+  m_chosenCategory = catToShow;
+  m_isUpdating = true;
+  m_ui->comboBoxCat->setCurrentText(catToShow);
+  m_ui->checkBoxProp->setChecked(false);
+  m_isUpdating = false;
+  show();
+  raise();
+  activateWindow();
+  on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::on_comboBoxCat_currentIndexChanged(const QString &qstr) {
+  if (m_isUpdating)
+    return;
+  m_chosenCategory = qstr;
+  on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::on_comboBoxProp_currentIndexChanged(const QString &qstr) {
+  if (m_isUpdating)
+    return;
+  m_chosenProperty = qstr;
+  on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::on_checkBoxProp_toggled(bool) {
+  if (!m_isUpdating)
+    on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::on_checkBoxNonZero_toggled(bool) {
+  on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::on_checkBoxUseSel_toggled(bool) {
+  on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::on_tableWidget_itemClicked(QTableWidgetItem *item) {
+  static const QRegularExpression NamesElement(QStringLiteral("^name$|^node1$|^node2$|^gasnode$|^driven$"));
+  if (item->text().isEmpty())
+    return;
+  const QString property = m_ui->tableWidget->item(item->row(), PropertyColumn)->text();
+  if (item->column() == NameColumn || (item->column() == ValueColumn && NamesElement.match(property).hasMatch()))
+    emit elementMarked(item->text());
+}
+
+void NivraVecTable::on_actionCopy_selectedItems_triggered() {
+  QString text;
+  int row = -1;
+  QModelIndexList cells = m_ui->tableWidget->selectionModel()->selectedIndexes();
+  std::sort(cells.begin(), cells.end());
+  for (const QModelIndex &cell : qAsConst(cells)) {
+    if (row >= 0)
+      text += cell.row() == row ? QLatin1Char('\t') : QLatin1Char('\n');
+    text += cell.data().toString();
+    row = cell.row();
+  }
+  QApplication::clipboard()->setText(text);
+}
+
+void NivraVecTable::on_pushButtonSave_clicked() {
+  const QString proposed = m_directory + QStringLiteral("/table_") +
+                           (isPropertyMode() ? m_chosenProperty : m_chosenCategory) + QStringLiteral(".csv");
+  const QString path =
+      QFileDialog::getSaveFileName(this, tr("Choose File"), proposed, tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
+  if (!path.isEmpty())
+    save(path);
+}
+
+bool NivraVecTable::save(const QString &path) const {
+  QSaveFile file(path);
+  const bool useComma = GeneralSettings::instance().value(QStringLiteral("use comma")) == QLatin1String("1");
+  return file.open(QIODevice::WriteOnly) && VectorRows::write(file, headers(), texts(), useComma) && file.commit();
+}
+
+void NivraVecTable::on_pushButtonClose_clicked() {
+  hide();
+}
+
+void NivraVecTable::on_closePlotButton_clicked() {
+  setCurrentIndex(0);
+}
+
+void NivraVecTable::on_NivraVecTable_currentChanged(int index) {
+  if (index != 1)
+    return;
+  m_plot->detachItems(QwtPlotItem::Rtti_PlotCurve);
+  QVector<QPointF> points;
+  int row = 0;
+  for (const QStringList &cells : texts()) {
+    bool isNumber = false;
+    const double number = cells.at(ResultColumn).toDouble(&isNumber);
+    ++row;
+    if (isNumber)
+      points.append(QPointF(row, number));
+  }
+  auto *curve = new QwtPlotCurve(headers().at(ResultColumn));
+  curve->setSamples(points);
+  curve->setPen(QColor(31, 93, 138), 1.5);
+  curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+  curve->attach(m_plot);
+  m_plot->setAxisTitle(QwtPlot::xBottom, tr("row"));
+  m_plot->setAxisTitle(QwtPlot::yLeft, headers().at(ResultColumn).section(QLatin1Char('\n'), 1));
+  m_plot->replot();
+}

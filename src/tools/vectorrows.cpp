@@ -1,0 +1,122 @@
+#include <tools/networksearch.h>
+#include <tools/vectorrows.h>
+
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace {
+
+enum Pattern { NamePattern, TypePattern, PropertyPattern, ValuePattern };
+constexpr int ValueColumn = 3;
+
+bool matches(const QRegularExpression &pattern, const QString &text) {
+  return pattern.pattern().isEmpty() || (pattern.isValid() && pattern.match(text).hasMatch());
+}
+
+} // namespace
+
+QString VectorRows::padded(int number) {
+  constexpr int Width = 9;
+  return QString::number(number).rightJustified(Width);
+}
+
+std::vector<VectorRows::Row> VectorRows::build(const Request &request) {
+  m_patterns.clear();
+  m_formula.reset();
+  const CategoryRecord category = request.usesProperty ? CategoryRecord() : request.category;
+  const QString value = category.formula.isEmpty() ? category.value : category.formula;
+  const bool isFormula = value.contains(QLatin1Char('@'));
+  for (const QString &text : {category.name, category.type, category.prop, isFormula ? QString() : value})
+    m_patterns.emplace_back(text.isEmpty() ? text : QStringLiteral("(*LIMIT_MATCH=200000)") + text,
+                            QRegularExpression::CaseInsensitiveOption);
+  m_allHaveUnits = true;
+  std::vector<Row> rows;
+  try {
+    if (isFormula)
+      m_formula.emplace(value, m_net);
+  } catch (const FormulaError &) {
+    return rows; // it fails for every element
+  }
+  if (request.onlySelection) {
+    QStringList names = m_net.selection().names().values();
+    names.sort(Qt::CaseInsensitive);
+    for (const QString &name : names) {
+      if (const element *e = m_net.element(name))
+        addRows(*e, request, rows);
+    }
+  } else {
+    m_net.forEach(NetData::AllTypes, [&](const element &e) { addRows(e, request, rows); });
+  }
+  return rows;
+}
+
+bool VectorRows::result(const element &e, const Property &property, const Request &request, QString &text) {
+  text = property.value.toString();
+  if (request.usesProperty)
+    return property.key.name() == request.property;
+  if (!matches(m_patterns[PropertyPattern], property.key.name()))
+    return false;
+  if (!m_formula)
+    return matches(m_patterns[ValuePattern], text);
+  try {
+    text = m_formula->evaluate(e).text;
+    return true;
+  } catch (const FormulaError &) {
+    return false;
+  }
+}
+
+void VectorRows::addRows(const element &e, const Request &request, std::vector<Row> &rows) {
+  static const PropertyKey nameKey = PropertyKey::intern("name");
+  static const PropertyKey typeKey = PropertyKey::intern("type");
+  const QString name = e.value(nameKey);
+  const QString type = e.value(typeKey);
+  if (!matches(m_patterns[NamePattern], name) || !matches(m_patterns[TypePattern], type))
+    return;
+  for (const Property &property : e) {
+    const bool isNever =
+        property.key != typeKey && NetworkSearch::neverSearched().contains(property.key.name(), Qt::CaseInsensitive);
+    QString text;
+    if (isNever || !result(e, property, request, text) || (request.onlyNonZero && text.toDouble() == 0.0))
+      continue;
+    const DisplayValue::Shown shown = m_display.of(type, property.key, property.value);
+    m_allHaveUnits = m_allHaveUnits && !shown.unit.isEmpty();
+    rows.push_back(
+        {name, type, property.key.name(), shown.value, shown.unit, text, padded(static_cast<int>(rows.size()) + 1)});
+  }
+}
+
+void VectorRows::sortNumerically(std::vector<Row> &rows) {
+  std::vector<std::pair<double, Row *>> numbers;
+  for (Row &row : rows) {
+    bool isNumber = false;
+    const double number = row.value.toDouble(&isNumber);
+    row.numsort = QStringLiteral("x");
+    if (isNumber)
+      numbers.emplace_back(number, &row);
+  }
+  std::stable_sort(numbers.begin(), numbers.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
+  for (std::size_t i = 0; i < numbers.size(); ++i)
+    numbers[i].second->numsort = padded(static_cast<int>(i) + 1);
+  std::stable_sort(rows.begin(), rows.end(), [](const Row &a, const Row &b) { return a.numsort < b.numsort; });
+}
+
+bool VectorRows::write(QIODevice &device, const QStringList &headers, const std::vector<QStringList> &rows, bool useComma) {
+  QTextStream stream(&device);
+  stream.setCodec("UTF-8");
+  const auto put = [&stream](QString text) {
+    stream << '"' << text.replace(QLatin1Char('"'), QStringLiteral("\"\"")) << "\";";
+  };
+  for (const QString &header : headers)
+    stream << '"' << QString(header).replace(QLatin1Char('\n'), QLatin1Char(' ')) << "\";";
+  stream << '\n';
+  for (const QStringList &row : rows) {
+    for (int column = 0; column < row.size(); ++column)
+      put(useComma && column == ValueColumn ? QString(row.at(column)).replace(QLatin1Char('.'), QLatin1Char(','))
+                                            : row.at(column));
+    stream << '\n';
+  }
+  stream.flush();
+  return stream.status() == QTextStream::Ok;
+}

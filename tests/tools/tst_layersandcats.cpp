@@ -1,0 +1,203 @@
+#include <model/topology.h>
+#include <support/modelfixture.h>
+#include <support/nivratest.h>
+#include <tools/layers.h>
+#include <tools/metadatatable.h>
+#include <tools/nivranetlayerseditor.h>
+#include <tools/nivranetobjectcats.h>
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTemporaryDir>
+
+class TestLayersAndCats : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init();
+  void layersGroupElements();
+  void layersChangeElements();
+  void layerNames_data();
+  void layerNames();
+  void editorShowsAndHides();
+  void categoryFile();
+  void categoriesComeBack();
+  void panelTellsCategories();
+  void metaDataGroups();
+  void closureAndTrace();
+
+private:
+  QString write(const QByteArray &text) const {
+    QFile file(m_folder.filePath(QStringLiteral("catdef.csv")));
+    file.open(QIODevice::WriteOnly);
+    file.write(text);
+    return file.fileName();
+  }
+  const QTemporaryDir m_folder;
+  std::unique_ptr<NetData> m_net;
+};
+
+void TestLayersAndCats::init() {
+  m_net = std::make_unique<NetData>();
+  for (const char *name : {"A", "B", "C", "D"})
+    m_net->addElement(makeNode(name));
+  const auto addEdge = [this](const char *name, const char *from, const char *to, const char *type, const char *flow) {
+    element edge = makeEdge(name, from, to, type);
+    edge.set(QStringLiteral("q"), QString::fromLatin1(flow));
+    edge.set(QStringLiteral("vis.layer"), QString::fromLatin1(type));
+    m_net->addElement(edge);
+  };
+  addEdge("AB", "A", "B", "p", "5");
+  addEdge("CB", "C", "B", "p", "-5"); // from B to C
+  addEdge("CD", "C", "D", "c", "5");
+  m_net->element(QStringLiteral("A"))->set(QStringLiteral("vis.layer"), QString());
+}
+
+void TestLayersAndCats::layersGroupElements() {
+  Layers layers(*m_net);
+  layers.rebuild();
+  QCOMPARE(layers.all().keys(), (QStringList{QStringLiteral("c"), QStringLiteral("p")})); // an empty value is none
+  QCOMPARE(layers.all().value(QStringLiteral("p")).names.size(), 2);
+  layers.setVisible(QStringLiteral("p"), false);
+  layers.rebuild();
+  QCOMPARE(layers.hidden(), QSet<QString>{QStringLiteral("p")}); // kept by name
+  layers.invert();
+  QCOMPARE(layers.hidden(), QSet<QString>{QStringLiteral("c")});
+  layers.setProperty(QStringLiteral("type"));
+  QCOMPARE(layers.all().value(QStringLiteral("n")).names.size(), 4);
+}
+
+void TestLayersAndCats::layersChangeElements() {
+  Layers layers(*m_net);
+  layers.rebuild();
+  layers.setVisible(QStringLiteral("p"), false);
+  layers.rename(QStringLiteral("p"), QStringLiteral("pipes"));
+  QVERIFY(!layers.all().contains(QStringLiteral("p")));
+  QCOMPARE(layers.hidden(), QSet<QString>{QStringLiteral("pipes")});
+  layers.add({QStringLiteral("A"), QStringLiteral("nowhere")}, QStringLiteral("pipes"));
+  QCOMPARE(layers.all().value(QStringLiteral("pipes")).names.size(), 3);
+  layers.remove(QStringLiteral("pipes"));
+  QVERIFY(!m_net->element(QStringLiteral("A"))->contains(QStringLiteral("vis.layer")));
+  QCOMPARE(layers.all().size(), 1);
+}
+
+void TestLayersAndCats::layerNames_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<bool>("allowed");
+  QTest::newRow("plain") << QStringLiteral("Entry points, ü") << true;
+  QTest::newRow("blank") << QStringLiteral("  ") << false;
+  QTest::newRow("semicolon") << QStringLiteral("a;b") << false;
+  QTest::newRow("line break") << QStringLiteral("a\nb") << false;
+  QTest::newRow("the choice of a new one") << Layers::newLayer() << false;
+}
+
+void TestLayersAndCats::layerNames() {
+  QFETCH(QString, name);
+  QFETCH(bool, allowed);
+  QCOMPARE(Layers::isAllowed(name), allowed);
+}
+
+void TestLayersAndCats::editorShowsAndHides() {
+  NivraNetLayersEditor editor(*m_net);
+  editor.on_pushButtonReload_clicked();
+  auto *table = editor.findChild<QTableWidget *>();
+  QCOMPARE(table->rowCount(), 2);
+  QCOMPARE(table->item(1, 2)->text(), QStringLiteral("2"));
+  const QSignalSpy changed(&editor, &NivraNetLayersEditor::layerVisChanged);
+  table->item(1, 0)->setCheckState(Qt::Unchecked);
+  QCOMPARE(changed.count(), 1);
+  QCOMPARE(editor.layers().hidden(), QSet<QString>{QStringLiteral("p")});
+  editor.on_toolButtonInvert_clicked();
+  QCOMPARE(editor.layers().hidden(), QSet<QString>{QStringLiteral("c")});
+  editor.changeEditMode(NivraNetLayersEditor::EditMode::VisibilityOnly);
+  QVERIFY(!(table->item(0, 1)->flags() & Qt::ItemIsEditable));
+}
+
+void TestLayersAndCats::categoryFile() {
+  const std::vector<Category> read = CategoryFile::read(write("# comment\n\n"
+                                                              "[x]Heavy;;;^p$;p@ELE>60\n"
+                                                              "four;a;b;c\n"
+                                                              " Long ; ^P_ ; p ; length ; ^1 ;more;and more\n"));
+  QCOMPARE(read.size(), std::size_t(2));
+  QVERIFY(read[0].isChecked && read[0].category == QLatin1String("Heavy"));
+  QCOMPARE(read[1].name, QStringLiteral("^P_"));
+  const CatMap map = CategoryFile::toMap(read);
+  QCOMPARE(map.value(QStringLiteral("Heavy")).formula, QStringLiteral("p@ELE>60"));
+  QVERIFY(map.value(QStringLiteral("Heavy")).value.isEmpty());
+  QCOMPARE(map.value(QStringLiteral("Long")).value, QStringLiteral("^1"));
+  QVERIFY(CategoryFile::read(QStringLiteral("/nowhere/catdef.csv")).empty());
+}
+
+void TestLayersAndCats::categoriesComeBack() {
+  const std::vector<Category> two{
+      {QStringLiteral("a"), QStringLiteral("n"), QStringLiteral("t"), QStringLiteral("p"), QStringLiteral("ü"), true},
+      {QStringLiteral("b"), QString(), QString(), QString(), QStringLiteral("v@ELE>1"), false}};
+  const QString path = m_folder.filePath(QStringLiteral("again.csv"));
+  QVERIFY(CategoryFile::write(path, two));
+  QVERIFY(CategoryFile::read(path) == two);
+  QString error;
+  QVERIFY(!CategoryFile::write(QStringLiteral("/nowhere/catdef.csv"), two, &error));
+  QCOMPARE(error, QStringLiteral("Could not open categories file /nowhere/catdef.csv!"));
+}
+
+void TestLayersAndCats::panelTellsCategories() {
+  NivraNetObjectCats panel;
+  panel.setFile(write("one;;p;^v$;v@ELE>10\n"));
+  auto *table = panel.findChild<QTableWidget *>();
+  QCOMPARE(table->rowCount(), 2);
+  QCOMPARE(table->item(0, 0)->text(), QStringLiteral("fromSearch"));
+  QCOMPARE(table->item(0, 3)->text(), QStringLiteral("^name$"));
+  QVERIFY(!(table->item(0, 1)->flags() & Qt::ItemIsEditable));
+  const QSignalSpy told(&panel, &NivraNetObjectCats::catChanged);
+  panel.updateTempCategory({QStringLiteral("x"), QString(), QString(), QString()});
+  QCOMPARE(told.last().first().value<CatMap>().value(QStringLiteral("fromSearch")).name, QStringLiteral("x"));
+  panel.addCategory({QStringLiteral("n"), QStringLiteral("t"), QStringLiteral("p"), QStringLiteral("v")});
+  QCOMPARE(table->item(2, 0)->text(), QStringLiteral("Cat2"));
+  const QSignalSpy search(&panel, &NivraNetObjectCats::toSearch);
+  panel.on_toolButtonToSearch_clicked();
+  QCOMPARE(search.first().first().toStringList().join(QLatin1Char(' ')), QStringLiteral("n t p v"));
+  panel.on_pushButtonOK_clicked();
+  QFile file(m_folder.filePath(QStringLiteral("catdef.csv")));
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  QCOMPARE(file.readAll(), QByteArray("# format (besides comment lines) per LINE:\n# category;name;type;prop;value/formula\n"
+                                      "one;;p;^v$;v@ELE>10\nCat2;n;t;p;v\n"));
+  table->setCurrentCell(0, 0);
+  panel.on_toolButtonRemove_clicked(); // that of the search stays
+  QCOMPARE(table->rowCount(), 3);
+}
+
+void TestLayersAndCats::metaDataGroups() {
+  const MetaDataTable table(NetMetaData::instance());
+  QStringList groups;
+  for (int i = 0; i < table.topLevelItemCount(); ++i) {
+    const QTreeWidgetItem *group = table.topLevelItem(i);
+    groups.append(group->text(0).section(QLatin1Char(' '), 0, 0));
+    QVERIFY(group->text(0).endsWith(QStringLiteral("(%1)").arg(group->childCount())));
+    QVERIFY(group->childCount() > 0);
+  }
+  QCOMPARE(groups.join(QLatin1Char(' ')),
+           QStringLiteral("ElementTypes NodeFunctions EdgeFunctions GeomParms ScenParms ResultParms GasParms VisParms"));
+  const MetaDataTable empty((NetMetaData()));
+  QCOMPARE(empty.topLevelItem(6)->text(0), QStringLiteral("GasParms (0)"));
+}
+
+void TestLayersAndCats::closureAndTrace() {
+  Selection selection;
+  Topology::select(*m_net, QStringLiteral("ab"), selection);
+  Topology::select(*m_net, QStringLiteral("C"), selection);
+  Topology::close(*m_net, selection);
+  QCOMPARE(selection.nodes.size(), 3);
+  QCOMPARE(selection.edges, (Selection::Names{QStringLiteral("AB"), QStringLiteral("CB")}));
+  using Direction = Topology::Direction;
+  const Selection down = Topology::trace(*m_net, QStringLiteral("A"), Direction::Downstream);
+  QCOMPARE(down.edges.size(), 3);                     // up to and with the compressor
+  QVERIFY(!down.nodes.contains(QStringLiteral("D"))); // but not beyond
+  const Selection up = Topology::trace(*m_net, QStringLiteral("CB"), Direction::Upstream);
+  QCOMPARE(up.edges, (Selection::Names{QStringLiteral("AB"), QStringLiteral("CB")}));
+  QVERIFY(up.nodes.contains(QStringLiteral("A")) && !up.nodes.contains(QStringLiteral("C")));
+  QVERIFY(Topology::trace(*m_net, QStringLiteral("nowhere"), Direction::Upstream).isEmpty());
+}
+
+NIVRA_TEST(TestLayersAndCats);
+#include "tst_layersandcats.moc"
