@@ -44,6 +44,7 @@ labels 3 --extent 403500,5722600,407300,5725450
 window "$example" "$images/selection.png" 'xdotool mousemove 560 440 click --repeat 5 --delay 100 4; sleep 2; xdotool windowfocus $id; sleep 0.3; xdotool mousemove 560 440 key ctrl+a; sleep 1'
 window "$example" "$images/context-menu.png" 'xdotool mousemove 388 409; sleep 0.5; xdotool click 3; sleep 1'
 window "$example" "$images/configure-draw.png" 'xdotool mousemove 1160 280 click --repeat 2 --delay 80 1; sleep 1.5'
+window "$example" "$images/search.png" 'xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool mousemove 150 155 click 1 type "v@ELE>10"; xdotool mousemove 150 94 click 1 type "^p"; xdotool key Return; sleep 1; xdotool mousemove 208 186 click 1; sleep 1'
 
 formats=$(mktemp -d)
 for format in png jpg bmp tif svg pdf ps; do
