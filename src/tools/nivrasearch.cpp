@@ -31,13 +31,12 @@ constexpr double Milli = 1e-3;
 class ResultItem : public QTreeWidgetItem {
 public:
   explicit ResultItem(const SearchRow &row)
-      : QTreeWidgetItem(UserType) {
-    const QString *texts[] = {&row.name, &row.type, &row.property, &row.value, &row.unit};
-    for (int column = 0; column < ColumnCount; ++column)
-      setText(column, *texts[column]);
-  }
+      : QTreeWidgetItem({row.name, row.type, row.property, row.value, row.unit}, UserType)
+      , m_name(row.name) {}
   bool operator<(const QTreeWidgetItem &other) const override {
     const int column = treeWidget() == nullptr ? int(NameColumn) : treeWidget()->sortColumn();
+    if (column == NameColumn) // mostly
+      return QString::compare(m_name, static_cast<const ResultItem &>(other).m_name, Qt::CaseInsensitive) < 0;
     if (column == ValueColumn) { // numbers by size
       bool isNumber = false;
       bool isOther = false;
@@ -48,6 +47,9 @@ public:
     }
     return QString::compare(text(column), other.text(column), Qt::CaseInsensitive) < 0;
   }
+
+private:
+  QString m_name; ///< at hand for sorting
 };
 
 QList<QTreeWidgetItem *> itemsOf(const std::vector<SearchRow> &rows) {
@@ -195,8 +197,8 @@ void NivraSearch::searchWithFormula() {
   tree->header()->setResizeContentsPrecision(Looked);
   for (const int column : {NameColumn, TypeColumn, PropertyColumn, UnitColumn})
     tree->resizeColumnToContents(column);
-  tree->setSortingEnabled(true);
-  tree->sortByColumn(NameColumn, Qt::AscendingOrder);
+  tree->header()->setSortIndicator(NameColumn, Qt::AscendingOrder);
+  tree->setSortingEnabled(true); // sorts by what the header shows
   showCount();
   if (result.isStopped) {
     NivraMsg::logWarning(result.error);

@@ -1,6 +1,10 @@
 #include "workspacefixture.h"
 
 #include <support/nivratest.h>
+#include <tools/nivranetlayerseditor.h>
+#include <tools/nivranetobjectcats.h>
+#include <tools/nivrapropviewer.h>
+#include <tools/nivrasearch.h>
 #include <view/netviscontrol.h>
 #include <view/plotzoom.h>
 
@@ -11,6 +15,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QSignalSpy>
 #include <QStatusBar>
 #include <QToolButton>
 
@@ -52,6 +57,7 @@ private slots:
   void styleSheetOnlyRestyles();
   void menus();
   void contextMenuLeadsBack();
+  void toolsAndDrawingMeet();
   void openDialogStartsAtTheExample();
   void progressAppearsLateAndCancels();
 
@@ -147,6 +153,42 @@ void TestWindow::contextMenuLeadsBack() {
   QCOMPARE(plot->zoomer()->zoomRect(), near);
   QVERIFY(trigger(QStringLiteral("Show whole network")));
   QCOMPARE(plot->zoomer()->zoomRectIndex(), 0U);
+}
+
+void TestWindow::toolsAndDrawingMeet() {
+  m_workspace.write(QStringLiteral("CASE/catdef.csv"), "pipes;;^p$;^name$;\n");
+  NivraViewer viewer;
+  viewer.open(m_workspace.scenario());
+  auto *search = viewer.findChild<NivraSearch *>();
+  auto *categories = viewer.findChild<NivraNetObjectCats *>();
+  auto *layers = viewer.findChild<NivraNetLayersEditor *>();
+  QVERIFY(search != nullptr && categories != nullptr && layers != nullptr);
+  NetVisControl &control = *viewer.visControl();
+  const QSignalSpy current(&viewer, &NivraViewer::currentEleChanged);
+
+  search->defineSearch({QString(), QStringLiteral("^p$"), QStringLiteral("^name$"), QString()}, false);
+  search->on_pushButton_select_and_closure_clicked();
+  QCOMPARE(control.net().selection().edges, Selection::Names{QStringLiteral("P1")});
+  QCOMPARE(control.net().selection().nodes.size(), 2);
+  QCOMPARE(categories->categories().front().type, QStringLiteral("^p$")); // follows the search
+  QCOMPARE(categories->categories().size(), std::size_t(2));
+  emit search->elementMarked(QStringLiteral("A"));
+  QCOMPARE(control.net().selection().names(), Selection::Names{QStringLiteral("A")});
+  QCOMPARE(current.last().first().toString(), QStringLiteral("A"));
+  viewer.elementAction(QStringLiteral("A"), NetPicker::EleAction::ShowInfo);
+  QCOMPARE(viewer.findChild<NivraPropViewer *>()->elementName(), QStringLiteral("A"));
+
+  layers->setLayerProperty(QStringLiteral("type"));
+  layers->on_toolButtonHideAll_clicked();
+  const NetUpdate &update = control.plot()->update();
+  const QPointF a = update.projection().map(0, 0);
+  QVERIFY(update.elementsAt(a, 8.0).empty()); // what is not drawn cannot be picked
+  layers->on_toolButtonShowAll_clicked();
+  QVERIFY(!update.elementsAt(a, 8.0).empty());
+  viewer.on_actionElement_Table_triggered();
+  viewer.on_actionMetadataTable_triggered();
+  viewer.open(m_workspace.geometry()); // the tools take the next network
+  QVERIFY(control.net().selection().isEmpty());
 }
 
 void TestWindow::openDialogStartsAtTheExample() {

@@ -1,0 +1,126 @@
+// Searching and listing, against the bare work that is in it.
+
+#include "measure.h"
+
+#include <formulas/formula.h>
+#include <formulas/parserfactory.h>
+#include <io/nivrareader.h>
+#include <tools/networksearch.h>
+#include <tools/nivrasearch.h>
+
+#include <QApplication>
+#include <QRegularExpression>
+#include <QTreeWidget>
+
+#include <benchmark/benchmark.h>
+#include <mpParser.h>
+
+namespace {
+
+constexpr int Hundred = 100000;
+
+NetData &network() {
+  static auto *net = [] {
+    auto *read = new NetData; // never destroyed: it is as large as the benchmarks are short
+    NivraReader(*read).readGeomJsn(Measure::network(Hundred), {});
+    return read;
+  }();
+  return *net;
+}
+
+/// Nodes, which all have coordinates.
+SearchParams allNames(const QString &formula = QString()) {
+  return {QString(), QString(), QStringLiteral("^n$"), QStringLiteral("^name$"), false, formula};
+}
+
+/// The baseline: the compiled expression as often as there are elements, its value bound anew.
+void bareEvaluation(benchmark::State &state) {
+  const auto parser = ParserFactory::create();
+  mup::Value value(0.0);
+  parser->DefineVar("v", mup::Variable(&value));
+  parser->DefineVar("w", mup::Variable(&value));
+  parser->SetExpr("v>1e9 or w>-1e9");
+  const auto count = static_cast<int>(network().nodes().size());
+  for (auto _ : state) {
+    for (int i = 0; i < count; ++i) {
+      value = static_cast<mup::float_type>(i % 20);
+      benchmark::DoNotOptimize(parser->Eval().GetBool());
+    }
+  }
+}
+BENCHMARK(bareEvaluation)->Unit(benchmark::kMillisecond);
+
+void parsedAnew(benchmark::State &state) {
+  constexpr int Few = 1000;
+  for (auto _ : state) {
+    for (int i = 0; i < Few; ++i)
+      benchmark::DoNotOptimize(Formula(QStringLiteral("x@ELE>1e9 or y@ELE>-1e9"), network()).references().size());
+  }
+}
+BENCHMARK(parsedAnew)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+void searchByFormula(benchmark::State &state) {
+  for (auto _ : state) {
+    NetworkSearch search(network(), allNames(QStringLiteral("x@ELE>1e9 or y@ELE>-1e9")));
+    state.counters["rows"] = static_cast<double>(search.run().rows.size());
+  }
+}
+BENCHMARK(searchByFormula)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+const QString &pattern() {
+  static const QString text = QStringLiteral("7[0-9]*9$");
+  return text;
+}
+
+/// The baseline: the same texts matched, nothing else.
+void bareMatching(benchmark::State &state) {
+  std::vector<QString> texts;
+  network().forEach(NetData::AllTypes, [&texts](const element &e) {
+    for (const Property &property : e)
+      texts.push_back(property.value.toString());
+  });
+  const QRegularExpression expression(pattern(), QRegularExpression::CaseInsensitiveOption);
+  for (auto _ : state) {
+    int found = 0;
+    for (const QString &text : texts)
+      found += expression.match(text).hasMatch() ? 1 : 0;
+    benchmark::DoNotOptimize(found);
+  }
+  state.counters["texts"] = static_cast<double>(texts.size());
+}
+BENCHMARK(bareMatching)->Unit(benchmark::kMillisecond)->Iterations(2);
+
+void searchByPattern(benchmark::State &state) {
+  for (auto _ : state) {
+    NetworkSearch search(network(), {QString(), pattern(), QString(), QString(), false, QString()});
+    state.counters["rows"] = static_cast<double>(search.run().rows.size());
+  }
+}
+BENCHMARK(searchByPattern)->Unit(benchmark::kMillisecond)->Iterations(2);
+
+/// The baseline: as many rows of five columns made.
+void bareItems(benchmark::State &state) {
+  for (auto _ : state) {
+    QList<QTreeWidgetItem *> items;
+    for (int i = 0; i < Hundred; ++i)
+      items.append(new QTreeWidgetItem(
+          {QString::number(i), QStringLiteral("p"), QStringLiteral("name"), QString::number(i), QString()}));
+    state.PauseTiming();
+    qDeleteAll(items);
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(bareItems)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+/// The panel with as many rows: searched, filled, sorted and shown.
+void searchPanel(benchmark::State &state) {
+  NivraSearch panel(network());
+  panel.show();
+  for (auto _ : state) {
+    panel.searchWithFormula();
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(searchPanel)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+} // namespace
