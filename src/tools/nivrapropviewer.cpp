@@ -87,3 +87,9 @@ void NivraPropViewer::on_actionCopy_triggered() {
     text += part.text + QLatin1Char('\n');
   QApplication::clipboard()->setText(text);
 }
+
+// Only now: the buttons fade in, which nobody would see before and which outlives a field that goes at once.
+void NivraPropViewer::showEvent(QShowEvent *event) {
+  m_ui->lineEdit_filter->setClearButtonEnabled(true);
+  QDockWidget::showEvent(event);
+}

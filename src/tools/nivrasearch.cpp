@@ -434,3 +434,10 @@ void NivraSearch::searchNames(const QString &names) {
   clearFormulas();
   searchWithFormula();
 }
+
+// Only now: the buttons fade in, which nobody would see before and which outlives a field that goes at once.
+void NivraSearch::showEvent(QShowEvent *event) {
+  for (QLineEdit *field : findChildren<QLineEdit *>())
+    field->setClearButtonEnabled(true);
+  QDockWidget::showEvent(event);
+}

@@ -27,6 +27,9 @@ public slots:
   void on_actionCopy_triggered();
   void on_lineEdit_filter_textChanged(const QString &text);
 
+protected:
+  void showEvent(QShowEvent *event) override;
+
 private:
   std::unique_ptr<Ui::NivraPropViewer> m_ui;
   QString m_elementName;

@@ -77,6 +77,7 @@ public slots:
 protected:
   /// Buttons for other tools are there once these are.
   void connectNotify(const QMetaMethod &signal) override;
+  void showEvent(QShowEvent *event) override;
   void dragEnterEvent(QDragEnterEvent *event) override;
   void dropEvent(QDropEvent *event) override;
 
