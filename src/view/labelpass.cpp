@@ -92,7 +92,6 @@ void LabelPass::collectSymbols() {
 
 void LabelPass::collectNodes() {
   constexpr std::size_t Many = 3000; // so many dots would leave no room for labels
-  const std::size_t first = m_wishes.size();
   std::vector<QRectF> dots;
   m_drawing.nodes.forEachVisible(m_projection, [&](int node, const QPointF &center, double size) {
     const NetGeometry::Node &record = m_drawing.geometry.nodes()[static_cast<std::size_t>(node)];
@@ -105,7 +104,6 @@ void LabelPass::collectNodes() {
     for (const QRectF &dot : dots)
       m_placement.addObstacle(dot);
   }
-  m_wishes.reserve(first + dots.size());
 }
 
 void LabelPass::collectPipes() {
@@ -125,10 +123,10 @@ void LabelPass::collectPipes() {
     add({NetData::Edge, edge}, {a.x, a.y, b.x, b.y}, true, width * 0.5 + aside, PipeRank,
         m_drawing.flow[static_cast<std::size_t>(edge)]);
   });
-  for (const auto &[line, width] : lines) {
-    if (lines.size() <= Many)
-      m_placement.addLine(line, width);
-  }
+  if (lines.size() > Many)
+    return;
+  for (const auto &[line, width] : lines)
+    m_placement.addLine(line, width);
 }
 
 void LabelPass::collect() {

@@ -30,10 +30,6 @@ bool selectsWithShift() {
   return setting("SelectionModifiers") == QLatin1String("ShiftSelect");
 }
 
-QPoint positionOf(const QMouseEvent &event) {
-  return event.pos();
-}
-
 } // namespace
 
 NetPicker::NetPicker(NetPlot &plot, NetData &net)
@@ -66,7 +62,7 @@ NetPicker::Mode NetPicker::modeFor(Qt::MouseButton button, Qt::KeyboardModifiers
 
 void NetPicker::widgetMousePressEvent(QMouseEvent *event) {
   m_mode = m_zoomsRectangle ? Mode::None : modeFor(event->button(), event->modifiers());
-  m_pressed = positionOf(*event);
+  m_pressed = event->pos();
   const bool isRectangle = m_mode == Mode::Rectangle || m_mode == Mode::RectangleMore;
   setMousePattern(MouseSelect1, isRectangle ? Qt::LeftButton : Qt::NoButton, event->modifiers());
   m_picksOnRelease = GeneralSettings::instance().isOn(QStringLiteral("pick on Release"));
@@ -80,17 +76,17 @@ void NetPicker::widgetMousePressEvent(QMouseEvent *event) {
 void NetPicker::widgetMouseReleaseEvent(QMouseEvent *event) {
   QwtPlotPicker::widgetMouseReleaseEvent(event);
   const bool isPick = m_mode == Mode::Pick || m_mode == Mode::PickMore;
-  const QPoint way = positionOf(*event) - m_pressed;
+  const QPoint way = event->pos() - m_pressed;
   const bool isClick = way.manhattanLength() < QApplication::startDragDistance();
   if (isPick && isClick && (m_picksOnRelease || (event->button() == Qt::LeftButton && itemsAt(m_pressed).empty())))
-    pick(positionOf(*event));
+    pick(event->pos());
   m_mode = Mode::None;
   if (m_zoomsRectangle && event->button() == Qt::LeftButton)
     endRectangleZoom();
 }
 
 void NetPicker::widgetMouseDoubleClickEvent(QMouseEvent *event) {
-  const std::vector<NetGeometry::Item> items = itemsAt(positionOf(*event));
+  const std::vector<NetGeometry::Item> items = itemsAt(event->pos());
   if (event->button() == Qt::LeftButton && !items.empty())
     emit activated(nameOf(items.front()));
   QwtPlotPicker::widgetMouseDoubleClickEvent(event);
@@ -98,7 +94,7 @@ void NetPicker::widgetMouseDoubleClickEvent(QMouseEvent *event) {
 
 void NetPicker::widgetMouseMoveEvent(QMouseEvent *event) {
   if (event->buttons() == Qt::NoButton)
-    hover(positionOf(*event));
+    hover(event->pos());
   QwtPlotPicker::widgetMouseMoveEvent(event);
 }
 

@@ -149,6 +149,7 @@ void NetPlot::setSettings(const PlotSettings &settings) {
   const PlotSettings before = m_settings;
   m_settings = settings;
   m_settings.takeZoomLimits(before);
+  m_selection.setSizes(m_settings.nodeMag, m_settings.symMag);
   applyColors();
 }
 
@@ -186,7 +187,6 @@ void NetPlot::showNetwork() {
   const QRectF main = geometry.mainExtent();
   m_stragglers = geometry.hasExtent() ? geometry.nodesOutside(main) : 0;
   showHint();
-  m_selection.setSizes(m_settings.nodeMag, m_settings.symMag);
   if (geometry.hasExtent())
     m_zoomer->setExtent(main);
   else

@@ -172,7 +172,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
     hasChanged = true;
   } else if (!m_labels.labels().empty() && !m_pixtest.isPending() &&
              std::abs(units - m_labels.unitsPerPixel()) > SameScale * units) {
-    m_labels.clear(); // none is to be placed for this view
+    clearLabels(); // none is to be placed for this view
     hasChanged = true;
   }
   if (hasChanged)
@@ -254,12 +254,12 @@ std::vector<NetGeometry::Item> NetUpdate::elementsIn(const QRectF &area) const {
   };
   const auto &nodes = m_geometry.nodes();
   for (std::size_t i = 0; i < nodes.size(); ++i) {
-    if (nodes[i].isPlaced && isInside(nodes[i].x, nodes[i].y))
+    if (nodes[i].isPlaced && !m_layers.isHidden({NetData::Node, static_cast<int>(i)}) && isInside(nodes[i].x, nodes[i].y))
       found.push_back({NetData::Node, static_cast<int>(i)});
   }
   for (std::size_t i = 0; i < m_geometry.edges().size(); ++i) {
     const NetGeometry::Edge &edge = m_geometry.edges()[i];
-    if (!m_geometry.isPlaced(edge))
+    if (!m_geometry.isPlaced(edge) || m_layers.isHidden({NetData::Edge, static_cast<int>(i)}))
       continue;
     const NetGeometry::Node &a = nodes[static_cast<std::size_t>(edge.node1)];
     const NetGeometry::Node &b = nodes[static_cast<std::size_t>(edge.node2)];
@@ -268,7 +268,7 @@ std::vector<NetGeometry::Item> NetUpdate::elementsIn(const QRectF &area) const {
   }
   const auto takePlaces = [&](NetData::EleType kind, const std::vector<NetGeometry::Place> &places) {
     for (std::size_t i = 0; i < places.size(); ++i) {
-      if (isInside(places[i].x, places[i].y))
+      if (!m_layers.isHidden({kind, static_cast<int>(i)}) && isInside(places[i].x, places[i].y))
         found.push_back({kind, static_cast<int>(i)});
     }
   };

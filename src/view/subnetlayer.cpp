@@ -111,7 +111,6 @@ void SubnetLayer::setSubnets(const NetGeometry &geometry) {
     record.pins = pinsOf(subnet, geometry);
     record.width = positive(number("width"));
     record.visSize = positive(number("vis.size"));
-    record.rotation = number("rotation") == NetData::NoValue ? 0.0 : number("rotation");
     const int ofKind = m_symbols.find(source.value(QStringLiteral("variant")));
     record.symbol = ofKind >= 0 ? ofKind : m_symbols.find(QStringLiteral("sub"));
     record.ring = ringColor(source);

@@ -42,8 +42,7 @@ private:
     QPointF center; ///< plot coordinates, as the following
     std::vector<QPointF> pins;
     double width = 0.0;
-    double visSize = 0.0;  ///< px, 0 when it says nothing
-    double rotation = 0.0; ///< degrees, counterclockwise
+    double visSize = 0.0; ///< px, 0 when it says nothing
     int symbol = -1;
     QColor ring;
     QColor ground;

@@ -20,7 +20,6 @@ public:
   bool setExtent(double extent);
 
   State of(NetGeometry::Item item) const;
-  bool areAllOn() const { return m_rules.empty() && m_types.empty(); }
 
 private:
   struct Rule {
