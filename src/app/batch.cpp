@@ -88,7 +88,7 @@ QJsonObject info(NetData &net, const NetworkLoader &loader, double drawSeconds, 
   if (recorder.dropped() > 0)
     warnings.append(tr("... and %1 more, see the log").arg(recorder.dropped()));
   object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(warnings));
-  QJsonObject seconds{{QStringLiteral("formulas"), 0.0}, {QStringLiteral("draw"), drawSeconds}};
+  QJsonObject seconds{{QStringLiteral("draw"), drawSeconds}};
   for (const auto &[stage, time] : loader.seconds())
     seconds.insert(stage, time);
   object.insert(QStringLiteral("seconds"), seconds);

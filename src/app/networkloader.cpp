@@ -2,9 +2,12 @@
 #include <io/nivrareader.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 
+#include <algorithm>
 #include <app/networkloader.h>
+#include <iterator>
 
 namespace {
 
@@ -20,6 +23,18 @@ QString firstCritical(const Findings &findings) {
       return finding.logText();
   }
   return QString();
+}
+
+/// The formula and constraint files of a folder, by name.
+std::vector<FormulaDefinition> definitionsIn(const QString &directory, const QString &category, Findings &findings) {
+  std::vector<FormulaDefinition> definitions;
+  const QStringList patterns{QStringLiteral("*.formulas"), QStringLiteral("*.constraints")};
+  for (const QFileInfo &file : QDir(directory).entryInfoList(patterns, QDir::Files, QDir::Name)) {
+    FormulaFile::Contents contents = FormulaFile::read(file.filePath(), category);
+    std::move(contents.definitions.begin(), contents.definitions.end(), std::back_inserter(definitions));
+    std::move(contents.findings.begin(), contents.findings.end(), std::back_inserter(findings));
+  }
+  return definitions;
 }
 
 } // namespace
@@ -54,6 +69,8 @@ void NetworkLoader::readConfiguration() {
 bool NetworkLoader::readNetwork(const ReadOptions &options) {
   QElapsedTimer timer;
   timer.start();
+  m_noticed.clear();
+  m_formulas.setDefinitions({}); // which speak of the network before
   NivraReader reader(m_net);
   NivraReader::Options readerOptions;
   readerOptions.includeTypes = options.includeTypes;
@@ -64,13 +81,53 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   if (!result.configuration.isEmpty())
     m_workspace.takeConfiguration(result.configuration, m_gasParams);
   report(result.findings);
+  notice(tr("Reading"), result.findings);
   m_cancelled = result.cancelled;
   if (!result.ok || result.cancelled) {
     m_error = result.cancelled ? tr("Reading was cancelled.") : firstCritical(result.findings);
     return false;
   }
-  m_checkFindings = ConsistencyCheck::checkNetData(m_net);
+  Findings checked;
+  m_checkFindings = ConsistencyCheck::checkNetData(m_net, &checked);
   m_removed = ConsistencyCheck::prune(m_net);
+  checked.insert(checked.end(), m_removed.findings.begin(), m_removed.findings.end());
+  notice(tr("Checking"), std::move(checked));
   m_seconds.append({QStringLiteral("check"), static_cast<double>(timer.restart()) * Milli});
-  return true;
+  const bool isComputed = computeFormulas(options.progress);
+  m_seconds.append({QStringLiteral("formulas"), static_cast<double>(timer.restart()) * Milli});
+  return isComputed;
+}
+
+void NetworkLoader::notice(const QString &stage, Findings findings) {
+  if (!findings.empty())
+    m_noticed.push_back({stage, std::move(findings)});
+}
+
+bool NetworkLoader::computeFormulas(const Progress &progress) {
+  Findings findings;
+  std::vector<FormulaDefinition> definitions =
+      definitionsIn(m_workspace.caseDirectory(), QStringLiteral("geometry"), findings);
+  if (m_workspace.hasScenario()) {
+    std::vector<FormulaDefinition> more =
+        definitionsIn(m_workspace.scenarioDirectory(), QStringLiteral("scenario"), findings);
+    std::move(more.begin(), more.end(), std::back_inserter(definitions));
+  } else {
+    const auto isOfResults = [](const FormulaDefinition &definition) {
+      return definition.category == QLatin1String("results");
+    };
+    definitions.erase(std::remove_if(definitions.begin(), definitions.end(), isOfResults), definitions.end());
+  }
+  Findings prepared = m_formulas.setDefinitions(std::move(definitions));
+  std::move(prepared.begin(), prepared.end(), std::back_inserter(findings));
+  NetworkFormulas::Outcome outcome = m_formulas.apply([&](double fraction) {
+    m_cancelled = progress && !progress(fraction);
+    return !m_cancelled;
+  });
+  std::move(outcome.failures.begin(), outcome.failures.end(), std::back_inserter(findings));
+  report(findings);
+  notice(tr("Formulas"), std::move(findings));
+  if (!outcome.violations.empty())
+    NivraMsg::logWarning(tr("%1 bounds are violated, see the findings").arg(outcome.violations.size()));
+  notice(tr("Bounds"), std::move(outcome.violations));
+  return !m_cancelled;
 }

@@ -110,7 +110,7 @@ void ToolDocks::showVectorTable() {
 
 void ToolDocks::showMetaData() {
   if (m_metaData == nullptr)
-    m_metaData = std::make_unique<MetaDataTable>(*m_net.metaData());
+    m_metaData = std::make_unique<MetaDataTable>(m_net);
   m_metaData->show();
   m_metaData->raise();
 }
@@ -135,7 +135,7 @@ void ToolDocks::createElement() {
   auto *infoDock = new QDockWidget(m_info->windowTitle(), &m_window);
   infoDock->setWidget(m_info);
   addDock(infoDock, QStringLiteral("elementInformation"), Qt::RightDockWidgetArea);
-  m_propViewer = new NivraPropViewer(&m_window);
+  m_propViewer = new NivraPropViewer(m_net, &m_window);
   addDock(m_propViewer, QStringLiteral("propertyViewer"), Qt::RightDockWidgetArea);
   connect(m_control.picker(), &NetPicker::hovered, this, [this](const QString &name) {
     if (!name.isEmpty() && m_net.selection().isEmpty()) // what was picked stays until something else is

@@ -75,9 +75,11 @@ const PropertyText *Formula::Engine::resolve(const FormulaReference &reference, 
 }
 
 Formula::Result Formula::evaluate(const element &current) const {
+  bool lacksValue = false;
   for (std::size_t i = 0; i < m_engine->references.size(); ++i) {
     const PropertyText *text = m_engine->resolve(m_engine->references[i], current);
     mup::Value &value = m_engine->values[i];
+    lacksValue = lacksValue || text == nullptr;
     if (text == nullptr)
       value = ParserFactory::nullText();
     else if (const std::optional<double> number = text->toDouble())
@@ -95,9 +97,9 @@ Formula::Result Formula::evaluate(const element &current) const {
       found.number = result.GetFloat();
     return found;
   } catch (const mup::ParserError &error) {
-    throw FormulaError(QString::fromStdString(error.GetMsg()));
+    throw FormulaError(QString::fromStdString(error.GetMsg()), lacksValue);
   } catch (const std::exception &error) { // the library's matrices throw their own
-    throw FormulaError(QString::fromUtf8(error.what()));
+    throw FormulaError(QString::fromUtf8(error.what()), lacksValue);
   }
 }
 

@@ -85,7 +85,8 @@ std::vector<Property> &ElementBuilder::properties(JsonLineParser::Element &parse
   for (const JsonLineParser::Dropped &dropped : parsed.dropped)
     m_report.add("dropped property", line,
                  QStringLiteral("Property %1 of element %2 is left out: %3")
-                     .arg(QString::fromStdString(dropped.key), decoded(parsed.name), QString::fromUtf8(dropped.reason)));
+                     .arg(QString::fromStdString(dropped.key), decoded(parsed.name), QString::fromUtf8(dropped.reason)),
+                 QString(), decoded(parsed.name));
   return m_properties;
 }
 
@@ -129,7 +130,8 @@ bool ElementBuilder::buildElement(JsonLineParser::Element &parsed, int line, ele
     if (property.key == keys().name && property.value.utf8() != parsed.name)
       m_report.add("other name", line,
                    QStringLiteral("Element %1 has a property name of its own, %2; it is left out")
-                       .arg(decoded(parsed.name), property.value.toString()));
+                       .arg(decoded(parsed.name), property.value.toString()),
+                   QString(), decoded(parsed.name));
   }
   list.push_back({keys().name, PropertyText(parsed.name)}); // the last of equal names wins
   list.push_back({keys().type, PropertyText(type->code)});
@@ -140,7 +142,8 @@ bool ElementBuilder::buildElement(JsonLineParser::Element &parsed, int line, ele
     if (duplicate != keys().name && duplicate != keys().type)
       m_report.add("property given twice", line,
                    QStringLiteral("Property %1 of element %2 is given twice; the last value counts")
-                       .arg(duplicate.name(), decoded(parsed.name)));
+                       .arg(duplicate.name(), decoded(parsed.name)),
+                   QString(), decoded(parsed.name));
   }
   return true;
 }

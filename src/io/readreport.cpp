@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-void ReadReport::add(const char *kind, int line, const QString &text, const QString &box) {
+void ReadReport::add(const char *kind, int line, const QString &text, const QString &box, const QString &element) {
   int &count = m_counts[QString::fromLatin1(kind)];
   if (++count <= KeptOfAKind)
-    m_findings.push_back({Finding::Severity::Warning, m_file, line, text, box});
+    m_findings.push_back({Finding::Severity::Warning, m_file, line, text, box, false, element});
 }
 
 QString ReadReport::quoted(const JsonLineReader::Line &line) {

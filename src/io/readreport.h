@@ -12,7 +12,8 @@ public:
   explicit ReadReport(QString file)
       : m_file(std::move(file)) {}
 
-  void add(const char *kind, int line, const QString &text, const QString &box = QString());
+  void add(const char *kind, int line, const QString &text, const QString &box = QString(),
+           const QString &element = QString());
   /// A line that is no valid JSON, with a box for the user.
   void badLine(const JsonLineReader::Line &line, const char *reason);
   Findings take();

@@ -142,14 +142,16 @@ private:
     const QString property = decoded(point.property);
     if (!point.isComplete) {
       m_report.add("incomplete value", line,
-                   QStringLiteral("A value of element %1 is left out: it needs \"property\" and \"value\"").arg(name));
+                   QStringLiteral("A value of element %1 is left out: it needs \"property\" and \"value\"").arg(name),
+                   QString(), name);
       return;
     }
     if (!m_include.pattern().isEmpty() && m_include.isValid() && !m_include.match(property).hasMatch())
       return;
     if (property.compare(QLatin1String("name"), Qt::CaseInsensitive) == 0 ||
         property.compare(QLatin1String("type"), Qt::CaseInsensitive) == 0) {
-      m_report.add("identity", line, QStringLiteral("The %1 of element %2 cannot be set by a scenario").arg(property, name));
+      m_report.add("identity", line, QStringLiteral("The %1 of element %2 cannot be set by a scenario").arg(property, name),
+                   QString(), name);
       return;
     }
     toStoredUnit(target, name, property, point, line);
@@ -176,7 +178,8 @@ private:
       m_report.add(
           "unit", line,
           QStringLiteral("%1 of element %2 is given in \"%3\", which cannot be converted to \"%4\"; the value is kept")
-              .arg(property, name, unit, attribute->storedUnit));
+              .arg(property, name, unit, attribute->storedUnit),
+          QString(), name);
   }
 
   NetData &m_net;

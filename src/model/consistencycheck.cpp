@@ -77,15 +77,19 @@ public:
   explicit FindingsPass(NetData &net)
       : m_net(net) {}
 
-  QString run() {
+  Findings run() {
     for (const elements *collection : {&m_net.nodes(), &m_net.edges()}) {
       for (const elements::Entry &entry : *collection)
         check(entry);
     }
-    return m_text;
+    return std::move(m_findings);
   }
 
 private:
+  void add(const elements::Entry &entry, const QString &text) {
+    m_findings.push_back({Finding::Severity::Warning, QString(), 0, text, QString(), false, entry.name()});
+  }
+
   void check(const elements::Entry &entry) {
     std::string_view name;
     std::string_view type;
@@ -115,26 +119,26 @@ private:
   void checkIdentity(const elements::Entry &entry, std::string_view name, std::string_view type) {
     const std::string_view id = entry.id.utf8();
     if (id.empty() || name.empty())
-      m_text += QStringLiteral("ID or name-property empty: %1, %2\n").arg(entry.name(), entry.value.value(keys().name));
+      add(entry, QStringLiteral("ID or name-property empty: %1, %2").arg(entry.name(), entry.value.value(keys().name)));
     if (name != id)
-      m_text += QStringLiteral("ID and value of name-property not identical: ") + entry.name() + QStringLiteral(", ") +
-                entry.value.value(keys().name) + QLatin1Char('\n');
+      add(entry, QStringLiteral("ID and value of name-property not identical: ") + entry.name() + QStringLiteral(", ") +
+                     entry.value.value(keys().name));
     if (type.empty() || type.find(' ') != std::string_view::npos)
-      m_text += QStringLiteral("value of type-property not OK: ") + entry.name() + QStringLiteral(", ") +
-                entry.value.value(keys().type) + QLatin1Char('\n');
+      add(entry, QStringLiteral("value of type-property not OK: ") + entry.name() + QStringLiteral(", ") +
+                     entry.value.value(keys().type));
   }
 
   void checkProperties(const elements::Entry &entry) {
     std::vector<PropertyKey> nameless;
     for (const Property *property : m_conspicuous) {
       if (m_names.sort(property->key) == PropertyNames::Empty) {
-        m_text += QStringLiteral("A property name is empty for element ") + entry.name() +
-                  QStringLiteral("! Property will be erased!\n");
+        add(entry, QStringLiteral("A property name is empty for element ") + entry.name() +
+                       QStringLiteral("! Property will be erased!"));
         nameless.push_back(property->key);
       } else if (!property->value.isEmpty() && m_net.nodes().find(property->value) == nullptr &&
                  m_net.edges().find(property->value) == nullptr) {
-        m_text += QStringLiteral("Cannot find element: ") + property->key.name() + QLatin1Char('@') + entry.name() +
-                  QLatin1Char('=') + property->value.toString() + QStringLiteral("!\n");
+        add(entry, QStringLiteral("Cannot find element: ") + property->key.name() + QLatin1Char('@') + entry.name() +
+                       QLatin1Char('=') + property->value.toString() + QLatin1Char('!'));
       }
     }
     for (const PropertyKey key : nameless)
@@ -144,7 +148,7 @@ private:
   NetData &m_net;
   PropertyNames m_names;
   std::vector<const Property *> m_conspicuous; // of the element at hand
-  QString m_text;
+  Findings m_findings;
 };
 
 class PruningPass {
@@ -155,20 +159,25 @@ public:
       , m_ofEdge({keys().name, keys().node1, keys().node2}) {}
 
   ConsistencyCheck::PruneResult run() {
-    ConsistencyCheck::PruneResult result;
     static_cast<void>(m_net.nodes().begin()); // gives the nodes their places
     m_passed.assign(m_net.nodes().size(), false);
-    result.edges = erase(m_net.edges(), "edge", [this](const elements::Entry &e) { return edgePasses(e.value); });
-    result.nodes = erase(m_net.nodes(), "node", [this](const elements::Entry &e) { return nodePasses(e); });
-    result.nodes += erase(m_net.nodes(), "drive",
-                          [this](const elements::Entry &e) { return !isDrive(e.value) || drivePasses(e.value); });
-    if (result.nodes > 0 || result.edges > 0)
-      NivraMsg::logCritical(
-          QStringLiteral("CRITICAL - %1 nodes and %2 edges had to be removed!").arg(result.nodes).arg(result.edges));
-    return result;
+    m_result.edges = erase(m_net.edges(), "edge", [this](const elements::Entry &e) { return edgePasses(e.value); });
+    m_result.nodes = erase(m_net.nodes(), "node", [this](const elements::Entry &e) { return nodePasses(e); });
+    m_result.nodes += erase(m_net.nodes(), "drive",
+                            [this](const elements::Entry &e) { return !isDrive(e.value) || drivePasses(e.value); });
+    if (m_result.nodes > 0 || m_result.edges > 0)
+      add(Finding::Severity::Critical, QString(),
+          QStringLiteral("CRITICAL - %1 nodes and %2 edges had to be removed!").arg(m_result.nodes).arg(m_result.edges));
+    return std::move(m_result);
   }
 
 private:
+  /// Logged at once; what a person should look at is kept besides.
+  void add(Finding::Severity severity, const QString &name, const QString &text) {
+    m_result.findings.push_back({severity, QString(), 0, text, QString(), false, name});
+    report({m_result.findings.back()});
+  }
+
   template <typename Test>
   static int erase(elements &collection, const char *word, const Test &passes) {
     return static_cast<int>(collection.eraseIf([&](const elements::Entry &entry) {
@@ -180,14 +189,14 @@ private:
     }));
   }
 
-  static bool hasName(const element &e, const PropertyText *name, const char *word) {
+  bool hasName(const element &e, const PropertyText *name, const char *word) {
     if (name != nullptr && !name->isEmpty())
       return true;
     QString properties;
     for (const Property &property : e)
       properties += property.key.name() + QLatin1Char('=') + property.value.toString() + QLatin1Char(';');
     const QString kind = QLatin1String(word);
-    NivraMsg::logWarning(QStringLiteral("Error for %1: ").arg(kind) + properties);
+    add(Finding::Severity::Warning, QString(), QStringLiteral("Error for %1: ").arg(kind) + properties);
     const QString what = kind.at(0).toUpper() + kind.mid(1);
     NivraMsg::logWarning(
         QStringLiteral("ERROR for current %1: Could not find property name! %2 will be erased!").arg(kind, what));
@@ -216,10 +225,11 @@ private:
     return true;
   }
 
-  static void setDefault(element &node, PropertyKey key, char axis) {
+  void setDefault(element &node, PropertyKey key, char axis) {
     node.set(key, PropertyText(std::string_view("0")));
-    NivraMsg::logWarning(QStringLiteral("Node %1 did not possess %2-value. Set to 0.")
-                             .arg(node.value(keys().name), QString(QLatin1Char(axis))));
+    const QString name = node.value(keys().name);
+    add(Finding::Severity::Warning, name,
+        QStringLiteral("Node %1 did not possess %2-value. Set to 0.").arg(name, QString(QLatin1Char(axis))));
   }
 
   bool edgePasses(const element &edge) {
@@ -234,13 +244,14 @@ private:
     return node2 != nullptr && endPasses(edge, keys().node1, *node1) && endPasses(edge, keys().node2, *node2);
   }
 
-  static bool edgeFails(const element &edge, const QString &reason) {
-    NivraMsg::logWarning(QStringLiteral("ERROR for edge ") + edge.value(keys().name) + QStringLiteral(": ") + reason +
-                         QStringLiteral("! Edge will be erased!"));
+  bool edgeFails(const element &edge, const QString &reason) {
+    const QString name = edge.value(keys().name);
+    add(Finding::Severity::Warning, name,
+        QStringLiteral("ERROR for edge ") + name + QStringLiteral(": ") + reason + QStringLiteral("! Edge will be erased!"));
     return false;
   }
 
-  const elements::Entry *end(const element &edge, PropertyKey key, const PropertyText &name) const {
+  const elements::Entry *end(const element &edge, PropertyKey key, const PropertyText &name) {
     const elements::Entry *node = m_net.nodes().findEntry(name.utf8());
     if (node == nullptr)
       edgeFails(edge, QStringLiteral("Could not find ") + key.name() + QLatin1Char(' ') + name.toString());
@@ -282,8 +293,9 @@ private:
     return true;
   }
 
-  static bool driveFails(const element &drive, const QString &reason) {
-    NivraMsg::logWarning(QStringLiteral("Drive ") + drive.value(keys().name) + QStringLiteral(": ") + reason);
+  bool driveFails(const element &drive, const QString &reason) {
+    const QString name = drive.value(keys().name);
+    add(Finding::Severity::Warning, name, QStringLiteral("Drive ") + name + QStringLiteral(": ") + reason);
     return false;
   }
 
@@ -318,23 +330,29 @@ private:
   NetData &m_net;
   PropertyColumns m_ofNode;
   PropertyColumns m_ofEdge;
+  ConsistencyCheck::PruneResult m_result;
   std::vector<bool> m_passed; // nodes by their place: those that need no second test
 };
 
 } // namespace
 
-QString ConsistencyCheck::findings(NetData &net) {
+Findings ConsistencyCheck::problems(NetData &net) {
   return FindingsPass(net).run();
 }
 
-QString ConsistencyCheck::checkNetData(NetData &net) {
-  QString text = findings(net);
+QString ConsistencyCheck::checkNetData(NetData &net, Findings *list) {
+  Findings found = problems(net);
+  QString text;
+  for (const Finding &finding : found)
+    text += finding.text + QLatin1Char('\n');
   if (!text.isEmpty()) {
     NivraMsg::message(NivraMsg::Kind::Warning, QStringLiteral("Check with findings! See log! Beginning:\n") +
                                                    text.section(QStringLiteral("..."), 0, 200));
     NivraMsg::log(QString(text).replace(QLatin1Char('\n'), QStringLiteral("<br/>")));
   }
   NivraMsg::debug(QStringLiteral("after checkNetData"));
+  if (list != nullptr)
+    std::move(found.begin(), found.end(), std::back_inserter(*list));
   return text;
 }
 

@@ -29,6 +29,11 @@ bool isSelected(int kind, int mask) {
   return kind == 0 ? mask == 0 : (mask & kind) == kind;
 }
 
+/// The vocabulary of the program, which nobody owns.
+std::shared_ptr<const NetMetaData> builtIn() {
+  return {std::shared_ptr<void>(), &NetMetaData::instance()};
+}
+
 /// A text with "(" is a time-dependent or formula value and counts as present.
 bool isPositive(const PropertyText &text) {
   return text.utf8().find('(') != std::string_view::npos || text.toDouble().value_or(0.0) > 0.0;
@@ -41,7 +46,7 @@ NetData::NetData()
     , m_edges(QStringLiteral("edges"))
     , m_tBoxes(QStringLiteral("tBoxes"))
     , m_assembledSubnets(QStringLiteral("assembledSubnets"))
-    , m_metaData(&NetMetaData::instance()) {
+    , m_metaData(builtIn()) {
   buildTypeMap();
 }
 
@@ -78,6 +83,7 @@ NetData &NetData::operator=(NetData &&other) noexcept {
   m_tBoxes = std::move(other.m_tBoxes);
   m_assembledSubnets = std::move(other.m_assembledSubnets);
   m_selection = std::move(other.m_selection);
+  m_metaData = other.m_metaData;
   return *this;
 }
 
@@ -161,6 +167,7 @@ void NetData::clear() {
   for (const auto &entry : m_typeMap)
     entry.second->clear();
   m_selection.clear();
+  m_metaData = builtIn();
 }
 
 double NetData::number(const PropertyText *text, bool absolute) {

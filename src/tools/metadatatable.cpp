@@ -3,9 +3,9 @@
 
 #include <QSet>
 
-MetaDataTable::MetaDataTable(const NetMetaData &metaData, QWidget *parent)
+MetaDataTable::MetaDataTable(const NetData &net, QWidget *parent)
     : QTreeWidget(parent)
-    , m_metaData(metaData) {
+    , m_net(net) {
   constexpr QSize Size(800, 600);
   setWindowTitle(QStringLiteral("MetaData"));
   setHeaderLabels(
@@ -23,8 +23,8 @@ MetaDataTable::~MetaDataTable() = default;
 void MetaDataTable::fill() {
   clear();
   addGroup(QStringLiteral("ElementTypes"), types());
-  addGroup(QStringLiteral("NodeFunctions"), functions(m_metaData.nodeFunctions()));
-  addGroup(QStringLiteral("EdgeFunctions"), functions(m_metaData.edgeFunctions()));
+  addGroup(QStringLiteral("NodeFunctions"), functions(m_net.metaData()->nodeFunctions()));
+  addGroup(QStringLiteral("EdgeFunctions"), functions(m_net.metaData()->edgeFunctions()));
   addGroup(QStringLiteral("GeomParms"), properties(QStringLiteral("geometry")));
   addGroup(QStringLiteral("ScenParms"), properties(QStringLiteral("scenario")));
   addGroup(QStringLiteral("ResultParms"), properties(QStringLiteral("results")));
@@ -50,7 +50,7 @@ std::vector<MetaDataTable::Entry> MetaDataTable::types() const {
 std::vector<MetaDataTable::Entry> MetaDataTable::functions(const QStringList &names) const {
   std::vector<Entry> entries;
   for (const QString &name : names) {
-    const NetMetaData::Attribute *attribute = m_metaData.anyAttribute(name);
+    const NetMetaData::Attribute *attribute = m_net.metaData()->anyAttribute(name);
     entries.push_back({name, attribute == nullptr ? QString() : attribute->longName,
                        attribute == nullptr ? QString() : attribute->description});
   }
@@ -61,7 +61,7 @@ std::vector<MetaDataTable::Entry> MetaDataTable::functions(const QStringList &na
 std::vector<MetaDataTable::Entry> MetaDataTable::properties(const QString &group) const {
   std::vector<Entry> entries;
   QSet<QString> known;
-  for (const NetMetaData::Attribute &attribute : m_metaData.attributes()) {
+  for (const NetMetaData::Attribute &attribute : m_net.metaData()->attributes()) {
     const bool isOfDrawing = attribute.category == QLatin1String("drawing") && attribute.group != QLatin1String("hidden");
     const bool isWanted = group.isEmpty() ? isOfDrawing : attribute.group == group && !isOfDrawing;
     if (!isWanted || known.contains(attribute.property))

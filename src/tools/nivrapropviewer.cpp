@@ -14,9 +14,10 @@ enum Column { PropertyColumn, ValueColumn, UnitColumn };
 
 } // namespace
 
-NivraPropViewer::NivraPropViewer(QWidget *parent)
+NivraPropViewer::NivraPropViewer(const NetData &net, QWidget *parent)
     : QDockWidget(parent)
-    , m_ui(std::make_unique<Ui::NivraPropViewer>()) {
+    , m_ui(std::make_unique<Ui::NivraPropViewer>())
+    , m_net(net) {
   m_ui->setupUi(this);
   m_ui->treeWidget->setHeaderLabels({QStringLiteral("prop"), QStringLiteral("value"), QStringLiteral("unit")});
   m_ui->treeWidget->addAction(m_ui->actionCopy);
@@ -36,7 +37,7 @@ void NivraPropViewer::showCurrentEleContents(const element *ele) {
   }
   m_elementName = ele->value(QStringLiteral("name"));
   setWindowTitle(tr("Properties of ") + m_elementName + tr(" of type ") + ele->value(QStringLiteral("type")));
-  for (const PropertyList::Group &group : PropertyList(NetMetaData::instance(), m_showsHidden).of(*ele)) {
+  for (const PropertyList::Group &group : PropertyList(*m_net.metaData(), m_showsHidden).of(*ele)) {
     auto *parent = new QTreeWidgetItem(tree, {group.name});
     QFont bold = parent->font(PropertyColumn);
     bold.setWeight(QFont::Bold);

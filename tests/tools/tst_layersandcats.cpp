@@ -168,7 +168,8 @@ void TestLayersAndCats::panelTellsCategories() {
 }
 
 void TestLayersAndCats::metaDataGroups() {
-  const MetaDataTable table(NetMetaData::instance());
+  const NetData net;
+  const MetaDataTable table(net);
   QStringList groups;
   for (int i = 0; i < table.topLevelItemCount(); ++i) {
     const QTreeWidgetItem *group = table.topLevelItem(i);
@@ -178,7 +179,9 @@ void TestLayersAndCats::metaDataGroups() {
   }
   QCOMPARE(groups.join(QLatin1Char(' ')),
            QStringLiteral("ElementTypes NodeFunctions EdgeFunctions GeomParms ScenParms ResultParms GasParms VisParms"));
-  const MetaDataTable empty((NetMetaData()));
+  NetData bare;
+  bare.setMetaData(std::make_shared<NetMetaData>());
+  const MetaDataTable empty(bare);
   QCOMPARE(empty.topLevelItem(6)->text(0), QStringLiteral("GasParms (0)"));
 }
 

@@ -50,7 +50,8 @@ private:
 };
 
 void TestPropViewer::groupsAndUnits() {
-  NivraPropViewer viewer;
+  const NetData net;
+  NivraPropViewer viewer(net);
   viewer.showCurrentEleContents(nullptr);
   QCOMPARE(viewer.windowTitle(), QStringLiteral("Property Viewer (Hover Over Element First!)"));
   const element shown = node();
@@ -67,7 +68,8 @@ void TestPropViewer::groupsAndUnits() {
 }
 
 void TestPropViewer::subnetsHaveTheirOwnGroups() {
-  NivraPropViewer viewer;
+  const NetData net;
+  NivraPropViewer viewer(net);
   const element shown = makeElement({{"name", "S"},
                                      {"type", "sub"},
                                      {"a", "1"},
@@ -84,7 +86,8 @@ void TestPropViewer::subnetsHaveTheirOwnGroups() {
 }
 
 void TestPropViewer::hiddenAndNothing() {
-  NivraPropViewer viewer;
+  const NetData net;
+  NivraPropViewer viewer(net);
   const element shown = node();
   viewer.setShowsHidden(true);
   viewer.showCurrentEleContents(&shown);
@@ -95,7 +98,8 @@ void TestPropViewer::hiddenAndNothing() {
 }
 
 void TestPropViewer::copiesCells() {
-  NivraPropViewer viewer;
+  const NetData net;
+  NivraPropViewer viewer(net);
   const element shown = makeElement({{"name", "A"}, {"type", "n"}, {"p", "50"}, {"t", "283.15"}});
   viewer.showCurrentEleContents(&shown);
   auto *tree = viewer.findChild<QTreeWidget *>();
@@ -111,7 +115,8 @@ void TestPropViewer::copiesCells() {
 }
 
 void TestPropViewer::filters() {
-  NivraPropViewer viewer;
+  const NetData net;
+  NivraPropViewer viewer(net);
   const element shown = node();
   viewer.showCurrentEleContents(&shown);
   viewer.findChild<QLineEdit *>()->setText(QStringLiteral("OWN"));

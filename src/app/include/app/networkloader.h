@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/finding.h>
+#include <formulas/networkformulas.h>
 #include <io/nivragasparams.h>
 #include <io/nivraworkspace.h>
 #include <model/consistencycheck.h>
@@ -18,8 +19,15 @@ public:
   /// Seconds by stage, in the order of the stages.
   using Seconds = QVector<std::pair<QString, double>>;
 
+  /// What one stage noticed.
+  struct Noticed {
+    QString stage; ///< for a person
+    Findings findings;
+  };
+
   explicit NetworkLoader(NetData &net)
-      : m_net(net) {}
+      : m_net(net)
+      , m_formulas(net) {}
 
   /// False when the path yields no usable workspace; the reasons are logged and kept for error().
   bool resolve(const QString &path);
@@ -33,23 +41,33 @@ public:
     QString includeProperties; ///< regular expression, empty for all
     Progress progress;
   };
-  /// Fills the NetData, which must be empty, and checks it. False when nothing could be read or reading was cancelled.
+  /// Fills the NetData, which must be empty, checks it and computes its formulas. False when nothing could be read or
+  /// reading was cancelled.
   bool readNetwork(const ReadOptions &options);
 
   const NivraWorkspace &workspace() const { return m_workspace; }
   const NivraGasParams &gasParams() const { return m_gasParams; }
   const QString &checkFindings() const { return m_checkFindings; }
   const ConsistencyCheck::PruneResult &removed() const { return m_removed; }
+  /// Everything that the stages noticed, in their order.
+  const std::vector<Noticed> &noticed() const { return m_noticed; }
+  NetworkFormulas &formulas() { return m_formulas; }
+  const NetworkFormulas &formulas() const { return m_formulas; }
   const Seconds &seconds() const { return m_seconds; }
   bool wasCancelled() const { return m_cancelled; }
   QString error() const { return m_error; } ///< why the last step failed, for a person
 
 private:
+  bool computeFormulas(const Progress &progress);
+  void notice(const QString &stage, Findings findings);
+
   NetData &m_net;
+  NetworkFormulas m_formulas;
   NivraWorkspace m_workspace;
   NivraGasParams m_gasParams;
   QString m_checkFindings;
   ConsistencyCheck::PruneResult m_removed;
+  std::vector<Noticed> m_noticed;
   Seconds m_seconds;
   QString m_error;
   bool m_cancelled = false;

@@ -15,6 +15,7 @@ struct Finding {
   QString text;                  ///< the message as logged
   QString box;                   ///< what a message box says; empty when a log line is enough
   bool isForInformation = false; ///< the box is one of information, whatever the severity in the log
+  QString element{};             ///< name of the element that it is about, where there is one
 
   /// "text (file:line)" as far as they are known.
   QString logText() const;

@@ -11,9 +11,15 @@
 /// What is wrong with a formula.
 class FormulaError : public std::runtime_error {
 public:
-  explicit FormulaError(const QString &text)
-      : std::runtime_error(text.toStdString()) {}
+  explicit FormulaError(const QString &text, bool isForMissingValue = false)
+      : std::runtime_error(text.toStdString())
+      , m_isForMissingValue(isForMissingValue) {}
   QString text() const { return QString::fromUtf8(what()); }
+  /// The formula reads something that does not exist for the element.
+  bool isForMissingValue() const { return m_isForMissingValue; }
+
+private:
+  bool m_isForMissingValue;
 };
 
 /// What a formula refers to: a property of an element, perhaps by way of properties that name other elements.

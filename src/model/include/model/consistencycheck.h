@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/finding.h>
 #include <model/netdata.h>
 
 #include <QString>
@@ -10,14 +11,16 @@
 namespace ConsistencyCheck {
 
 struct PruneResult {
-  int nodes = 0; ///< removed, drives included
-  int edges = 0; ///< removed
+  int nodes = 0;     ///< removed, drives included
+  int edges = 0;     ///< removed
+  Findings findings; ///< why, and what was given a default; they are logged already
 };
 
-/// Identity and reference problems of nodes and edges, one line each ending in "\n"; erases properties without a name.
-QString findings(NetData &net);
-/// findings(), shown in a warning box and logged when there are any; returns them.
-QString checkNetData(NetData &net);
+/// Identity and reference problems of nodes and edges; erases properties without a name.
+Findings problems(NetData &net);
+/// problems(), shown in a warning box and logged when there are any; returns them, one line each ending in "\n".
+/// \param list takes them too
+QString checkNetData(NetData &net, Findings *list = nullptr);
 
 /// Removes what cannot be drawn or computed with, gives missing coordinates defaults.
 PruneResult prune(NetData &net);

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <utility>
 
 class NetMetaData;
@@ -52,7 +53,10 @@ public:
   const elements &assembledSubnets() const { return m_assembledSubnets; }
   const std::map<EleType, elements *> &typeMap() const { return m_typeMap; }
   const QList<EleType> &types() const { return m_types; }
-  const NetMetaData *metaData() const { return m_metaData; }
+  /// The vocabulary; another object once derived properties are described.
+  const NetMetaData *metaData() const { return m_metaData.get(); }
+  /// Takes what is known of its properties in place of what was there, until the network is cleared.
+  void setMetaData(std::shared_ptr<const NetMetaData> metaData) { m_metaData = std::move(metaData); }
 
   /// What a person has picked; emptied with the network.
   Selection &selection() { return m_selection; }
@@ -86,7 +90,7 @@ private:
   elements m_tBoxes;
   elements m_assembledSubnets;
   Selection m_selection;
-  const NetMetaData *m_metaData;
+  std::shared_ptr<const NetMetaData> m_metaData;
   std::map<EleType, elements *> m_typeMap;
   QList<EleType> m_types;
 };

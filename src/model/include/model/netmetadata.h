@@ -32,6 +32,8 @@ public:
   NetMetaData(); ///< the built-in type names and no attributes
   /// Reads "Attribute.csv" from the device; faulty lines are returned and left out.
   Findings read(QIODevice &device, const QString &fileName);
+  /// Adds a row for a type and property that have none.
+  void add(const Attribute &row);
 
   /// Exact lookup, in the order node, edge, text box, subassembly type names.
   NetData::EleType kindOf(const QString &typeName) const;
@@ -51,8 +53,6 @@ public:
   const Attribute *anyAttribute(const QString &property) const;
 
 private:
-  void add(const Attribute &row);
-
   QSet<QString> m_nodeTypes;
   QSet<QString> m_edgeTypes;
   QSet<QString> m_textBoxTypes;

@@ -8,7 +8,7 @@
 class MetaDataTable : public QTreeWidget {
   Q_OBJECT
 public:
-  explicit MetaDataTable(const NetMetaData &metaData, QWidget *parent = nullptr);
+  explicit MetaDataTable(const NetData &net, QWidget *parent = nullptr);
   ~MetaDataTable() override;
 
   void fill();
@@ -25,5 +25,5 @@ private:
   std::vector<Entry> functions(const QStringList &properties) const;
   std::vector<Entry> properties(const QString &group) const;
 
-  const NetMetaData &m_metaData;
+  const NetData &m_net;
 };

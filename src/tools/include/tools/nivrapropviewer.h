@@ -14,7 +14,7 @@ class NivraPropViewer;
 class NivraPropViewer : public QDockWidget {
   Q_OBJECT
 public:
-  explicit NivraPropViewer(QWidget *parent = nullptr);
+  explicit NivraPropViewer(const NetData &net, QWidget *parent = nullptr);
   ~NivraPropViewer() override;
 
   /// Null for none; without effect while the viewer is switched off.
@@ -32,6 +32,7 @@ protected:
 
 private:
   std::unique_ptr<Ui::NivraPropViewer> m_ui;
+  const NetData &m_net;
   QString m_elementName;
   bool m_isActive = true;
   bool m_showsHidden = false;

@@ -1,0 +1,105 @@
+#include "formularule.h"
+
+#include <algorithm>
+#include <boost/graph/adjacency_list.hpp>
+#include <boost/graph/strong_components.hpp>
+
+std::vector<const Formula *> FormulaRule::formulas() const {
+  std::vector<const Formula *> found;
+  for (const Formula *formula : {value.get(), lower.get(), upper.get()}) {
+    if (formula != nullptr)
+      found.push_back(formula);
+  }
+  return found;
+}
+
+FormulaProducers::FormulaProducers(std::vector<FormulaRule> &rules) {
+  std::map<PropertyKey, int> makers;
+  std::set<PropertyKey> asked;
+  for (const FormulaRule &rule : rules) {
+    if (!rule.definition.isConstraint)
+      ++makers[rule.target];
+    for (const Formula *formula : rule.formulas()) {
+      for (const FormulaReference &reference : formula->references()) {
+        asked.insert(reference.property);
+        asked.insert(reference.path.begin(), reference.path.end());
+      }
+    }
+  }
+  // A property that one formula makes and none reads needs no table of its elements.
+  for (std::size_t i = 0; i < rules.size(); ++i) {
+    const FormulaRule &rule = rules[i];
+    if (rule.definition.isConstraint || (makers[rule.target] == 1 && asked.count(rule.target) == 0))
+      continue;
+    ByElement &byElement = m_rules[rule.target];
+    byElement.reserve(byElement.size() + static_cast<int>(rule.elements.size()));
+    for (const element *e : rule.elements)
+      byElement.insert(e, static_cast<int>(i));
+  }
+  for (std::size_t i = 0; i < rules.size(); ++i) {
+    FormulaRule &rule = rules[i];
+    if (rule.definition.isConstraint || makers[rule.target] == 1)
+      continue;
+    const ByElement &byElement = m_rules[rule.target];
+    const auto isAnothers = [&](const element *e) {
+      return byElement.value(e) != static_cast<int>(i);
+    };
+    rule.elements.erase(std::remove_if(rule.elements.begin(), rule.elements.end(), isAnothers), rule.elements.end());
+  }
+}
+
+std::vector<std::vector<int>> FormulaProducers::dependencies(const std::vector<FormulaRule> &rules,
+                                                             const NetData &net) const {
+  std::vector<std::vector<int>> needed(rules.size());
+  for (std::size_t i = 0; i < rules.size(); ++i) {
+    std::set<int> found;
+    const auto note = [&](const element *e, PropertyKey property) {
+      const auto makers = m_rules.find(property);
+      const int maker = makers == m_rules.end() ? -1 : makers->second.value(e, -1);
+      if (maker >= 0)
+        found.insert(maker);
+      return false;
+    };
+    for (const Formula *formula : rules[i].formulas()) {
+      for (const FormulaReference &reference : formula->references()) {
+        bool isMade = m_rules.count(reference.property) > 0;
+        for (const PropertyKey step : reference.path)
+          isMade = isMade || m_rules.count(step) > 0;
+        if (!isMade)
+          continue;
+        for (const element *e : rules[i].elements) {
+          walk(reference, net, e, note);
+          if (!reference.elementName.isEmpty())
+            break; // the same for all
+        }
+      }
+    }
+    needed[i].assign(found.begin(), found.end());
+  }
+  return needed;
+}
+
+FormulaOrder::FormulaOrder(const std::vector<std::vector<int>> &dependencies) {
+  using Graph = boost::adjacency_list<boost::vecS, boost::vecS, boost::directedS>;
+  Graph graph(dependencies.size());
+  for (std::size_t i = 0; i < dependencies.size(); ++i) {
+    for (const int needed : dependencies[i])
+      boost::add_edge(i, static_cast<std::size_t>(needed), graph);
+  }
+  std::vector<int> component(dependencies.size());
+  const int count = dependencies.empty()
+                        ? 0
+                        : boost::strong_components(graph, boost::make_iterator_property_map(
+                                                              component.begin(), boost::get(boost::vertex_index, graph)));
+  // A component is numbered after those that can be reached from it, which is what it depends on.
+  std::vector<std::vector<int>> members(static_cast<std::size_t>(count));
+  for (std::size_t i = 0; i < component.size(); ++i)
+    members[static_cast<std::size_t>(component[i])].push_back(static_cast<int>(i));
+  for (std::vector<int> &together : members) {
+    const std::vector<int> &own = dependencies[static_cast<std::size_t>(together.front())];
+    if (together.size() > 1 || std::find(own.begin(), own.end(), together.front()) != own.end())
+      cycles.push_back(std::move(together));
+    else
+      order.push_back(together.front());
+  }
+}

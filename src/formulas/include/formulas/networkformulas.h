@@ -1,0 +1,44 @@
+#pragma once
+
+#include <base/finding.h>
+#include <formulas/formulafile.h>
+#include <model/netdata.h>
+
+#include <memory>
+
+/// The formulas and constraints of a network: which elements each is for, what depends on what, and the computing itself.
+/// The network must outlive it; elements must not be added or erased while it has definitions.
+class NetworkFormulas {
+public:
+  struct Change {
+    const element *changed;
+    PropertyKey property;
+  };
+
+  struct Outcome {
+    Findings failures;   ///< formulas that some elements got no value from, though they have all that they need
+    Findings violations; ///< of constraints, one an element and constraint
+  };
+
+  explicit NetworkFormulas(NetData &net);
+  ~NetworkFormulas();
+
+  /// Parses the expressions and finds the order of computing. Of several formulas for one property of one element the last
+  /// counts. Left out, with a finding each: what cannot be parsed, and formulas that need one another's results. Properties
+  /// that the vocabulary does not know are described in that of the network.
+  Findings setDefinitions(std::vector<FormulaDefinition> definitions);
+  /// Formulas and constraints that are computed.
+  int size() const;
+
+  /// Computes everything. Where a formula has no value, for want of one that it needs, the element keeps its own. Elements
+  /// that violate constraints get the property "CB_info", "(first;second;)". \param progress false stops
+  Outcome apply(const Progress &progress = Progress());
+  /// After elements have changed: computes what depends on the changes, and nothing else.
+  Outcome update(const std::vector<Change> &changes);
+  /// By the last apply() or update(), for those who watch the cost.
+  int evaluations() const;
+
+private:
+  struct Computing;
+  std::unique_ptr<Computing> m_computing;
+};

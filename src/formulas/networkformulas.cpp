@@ -1,0 +1,458 @@
+#include "formularule.h"
+
+#include <formulas/networkformulas.h>
+#include <model/netmetadata.h>
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const PropertyKey &violationsKey() {
+  static const PropertyKey key = PropertyKey::intern("CB_info");
+  return key;
+}
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("NetworkFormulas", text);
+}
+
+Finding warning(const FormulaDefinition &definition, const QString &text) {
+  return {Finding::Severity::Warning, definition.file, definition.line, text, QString()};
+}
+
+QString nameOf(const element &e) {
+  static const PropertyKey key = PropertyKey::intern("name");
+  return e.value(key);
+}
+
+/// Elements that a formula had no value for, told in one line.
+struct Failures {
+  int count = 0;
+  QString first; ///< by name
+  QString reason;
+
+  void add(const element &e, const QString &why) {
+    const QString name = nameOf(e);
+    if (count++ == 0 || name < first) {
+      first = name;
+      reason = why;
+    }
+  }
+};
+
+} // namespace
+
+struct NetworkFormulas::Computing {
+  explicit Computing(NetData &ofNet)
+      : net(ofNet) {}
+
+  void prepare(std::vector<FormulaDefinition> definitions);
+  void order();
+  void describe();
+  Findings compute(FormulaRule &rule, const std::vector<element *> &elements, FormulaChanges *changes);
+  void judge(FormulaRule &rule, const std::vector<element *> &elements, std::set<element *> &judged);
+  Findings writeViolations(const std::set<element *> &judged);
+  std::vector<element *> affected(const FormulaRule &rule, const FormulaChanges &changes) const;
+  /// Computes the formulas, then the constraints, for those of their elements that elementsOf tells.
+  template <typename ElementsOf, typename GoesOn>
+  Outcome run(const ElementsOf &elementsOf, const GoesOn &goesOn, FormulaChanges *changes);
+
+  NetData &net;
+  std::vector<FormulaRule> rules;
+  std::vector<int> sequence;    ///< formulas in the order of computing
+  std::vector<int> constraints; ///< in the order of the files
+  Findings findings;            ///< of the preparation
+  int evaluations = 0;
+
+private:
+  FormulaRule parsed(FormulaDefinition definition);
+  std::shared_ptr<const Formula> compiled(const QString &text);
+  void reportUnknown();
+  std::optional<double> bound(const Formula *formula, const FormulaRule &rule, const element &e);
+  QString violation(const FormulaRule &rule, const element &e);
+
+  QHash<QString, std::shared_ptr<const Formula>> m_compiled; ///< by text
+};
+
+std::shared_ptr<const Formula> NetworkFormulas::Computing::compiled(const QString &text) {
+  std::shared_ptr<const Formula> &formula = m_compiled[text];
+  if (formula == nullptr)
+    formula = std::make_shared<const Formula>(text, net, Formula::Bare::OfCurrent);
+  return formula;
+}
+
+FormulaRule NetworkFormulas::Computing::parsed(FormulaDefinition definition) {
+  FormulaRule rule;
+  rule.target = PropertyKey::intern(definition.property);
+  if (!definition.isConstraint)
+    rule.value = compiled(definition.expression);
+  if (!definition.lower.isEmpty())
+    rule.lower = compiled(definition.lower);
+  if (!definition.upper.isEmpty())
+    rule.upper = compiled(definition.upper);
+  const NetMetaData::Attribute *attribute =
+      net.metaData()->attribute(definition.types.value(0, QStringLiteral("*")), definition.property);
+  if (attribute == nullptr)
+    attribute = net.metaData()->anyAttribute(definition.property);
+  if (attribute != nullptr && !definition.unit.isEmpty()) {
+    const auto conversion = Units::conversion(definition.unit, attribute->storedUnit);
+    if (!conversion)
+      throw FormulaError(tr("the unit \"%1\" does not fit \"%2\", in which %3 is stored")
+                             .arg(definition.unit, attribute->storedUnit, definition.property));
+    rule.toStored = *conversion;
+  }
+  rule.definition = std::move(definition);
+  return rule;
+}
+
+void NetworkFormulas::Computing::prepare(std::vector<FormulaDefinition> definitions) {
+  QHash<QString, std::vector<std::pair<QString, element *>>> byType;
+  if (!definitions.empty()) {
+    for (elements *collection : net.collections(NetData::AllTypes)) {
+      for (const elements::Entry &entry : *collection)
+        byType[entry.value.value(QStringLiteral("type"))].emplace_back(entry.name(), &entry.value);
+    }
+  }
+  for (FormulaDefinition &definition : definitions) {
+    try {
+      FormulaRule rule = parsed(definition);
+      const QRegularExpression pattern(QStringLiteral("(*LIMIT_MATCH=200000)") + definition.namePattern,
+                                       QRegularExpression::CaseInsensitiveOption);
+      for (const QString &type : definition.types.isEmpty() ? byType.keys() : definition.types) {
+        for (const auto &[name, e] : byType[type]) {
+          if (definition.namePattern.isEmpty() || pattern.match(name).hasMatch())
+            rule.elements.push_back(e);
+        }
+      }
+      std::sort(rule.elements.begin(), rule.elements.end());
+      rules.push_back(std::move(rule));
+    } catch (const FormulaError &error) {
+      findings.push_back(
+          warning(definition, tr("The formula of %1 is left out: %2").arg(definition.property, error.text())));
+    }
+  }
+}
+
+void NetworkFormulas::Computing::order() {
+  const FormulaProducers producers(rules);
+  const FormulaOrder order(producers.dependencies(rules, net));
+  for (const int i : order.order) {
+    if (!rules[static_cast<std::size_t>(i)].definition.isConstraint)
+      sequence.push_back(i);
+  }
+  for (std::size_t i = 0; i < rules.size(); ++i) {
+    if (rules[i].definition.isConstraint)
+      constraints.push_back(static_cast<int>(i));
+  }
+  for (const std::vector<int> &cycle : order.cycles) {
+    QStringList places;
+    for (const int i : cycle)
+      places.append(rules[static_cast<std::size_t>(i)].definition.place());
+    const FormulaDefinition &first = rules[static_cast<std::size_t>(cycle.front())].definition;
+    findings.push_back(warning(
+        first,
+        cycle.size() == 1
+            ? tr("The formula needs its own result and is left out: %1").arg(places.first())
+            : tr("These formulas need one another's results and are left out: %1").arg(places.join(QStringLiteral("; ")))));
+  }
+  if (!rules.empty())
+    reportUnknown();
+}
+
+void NetworkFormulas::Computing::reportUnknown() {
+  std::vector<bool> spellings; // that occur in the network
+  net.forEach(NetData::AllTypes, [&spellings](const element &e) {
+    for (const Property &property : e) {
+      if (property.key.index() >= spellings.size())
+        spellings.resize(property.key.index() + 1);
+      spellings[property.key.index()] = true;
+    }
+  });
+  std::set<PropertyKey> known;
+  net.forEach(NetData::AllTypes, [&](const element &e) {
+    for (const Property &property : e) {
+      if (!spellings[property.key.index()])
+        continue;
+      known.insert(property.key);
+      spellings[property.key.index()] = false; // once is enough
+    }
+  });
+  for (const FormulaRule &rule : rules)
+    known.insert(rule.target);
+  for (const FormulaRule &rule : rules) {
+    for (const Formula *formula : rule.formulas()) {
+      for (const FormulaReference &reference : formula->references()) {
+        std::vector<PropertyKey> properties = reference.path;
+        properties.push_back(reference.property);
+        for (const PropertyKey property : properties) {
+          if (known.count(property) == 0)
+            findings.push_back(warning(rule.definition, tr("No element has the property \"%1\".").arg(property.name())));
+        }
+        if (!reference.elementName.isEmpty() && net.element(reference.elementName) == nullptr)
+          findings.push_back(warning(rule.definition, tr("There is no element \"%1\".").arg(reference.elementName)));
+      }
+    }
+  }
+}
+
+/// Tells the vocabulary of the network what it does not know, so that the property is shown and drawn like others.
+void NetworkFormulas::Computing::describe() {
+  auto metaData = std::make_shared<NetMetaData>(*net.metaData());
+  bool hasNew = false;
+  for (const FormulaRule &rule : rules) {
+    const FormulaDefinition &definition = rule.definition;
+    if (definition.isConstraint)
+      continue;
+    static const QStringList groups{QStringLiteral("geometry"), QStringLiteral("scenario"), QStringLiteral("results")};
+    NetMetaData::Attribute row;
+    row.property = definition.property;
+    row.longName = definition.comment.isEmpty() ? definition.property : definition.comment;
+    row.group = groups.contains(definition.category) ? definition.category : QStringLiteral("extra");
+    row.storedUnit = definition.unit;
+    row.displayUnit = definition.unit;
+    row.category = QStringLiteral("function");
+    row.description = QStringLiteral("= ") + definition.expression;
+    for (const QString &type : definition.types.isEmpty() ? QStringList{QStringLiteral("*")} : definition.types) {
+      row.type = type;
+      if (metaData->attribute(type, row.property) == nullptr) {
+        metaData->add(row);
+        hasNew = true;
+      }
+    }
+  }
+  if (hasNew)
+    net.setMetaData(metaData);
+}
+
+Findings NetworkFormulas::Computing::compute(FormulaRule &rule, const std::vector<element *> &elements,
+                                             FormulaChanges *changes) {
+  Failures failures;
+  rule.computed.resize(rule.elements.size());
+  std::size_t position = 0; // in those of the rule, which stand in the same order
+  const bool isAsStored = rule.toStored.factor == 1.0 && rule.toStored.offset == 0.0;
+  for (element *e : elements) {
+    ++evaluations;
+    while (rule.elements[position] != e)
+      ++position;
+    QString reason;
+    PropertyText text;
+    try {
+      const Formula::Result result = rule.value->evaluate(*e);
+      const bool isNumber = result.number != NetData::NoValue;
+      if (isNumber && !std::isfinite(result.number))
+        reason = tr("the result is not finite");
+      else if (isNumber && !isAsStored)
+        text = PropertyText(std::string_view(formatNumber(rule.toStored(result.number))));
+      else if (result.text != QLatin1String("_null_"))
+        text = PropertyText(result.text);
+    } catch (const FormulaError &error) {
+      if (!error.isForMissingValue())
+        reason = error.text();
+    }
+    if (!reason.isEmpty())
+      failures.add(*e, reason);
+    const PropertyText *before = e->find(rule.target);
+    if (changes != nullptr && (before == nullptr ? !text.isEmpty() : *before != text))
+      (*changes)[rule.target].insert(e);
+    const bool hasValue = !text.isEmpty();
+    if (hasValue)
+      e->set(rule.target, std::move(text));
+    else if (rule.computed[position])
+      e->erase(rule.target); // what it was computed from is gone
+    rule.computed[position] = hasValue;
+  }
+  if (failures.count == 0)
+    return {};
+  Finding finding = warning(rule.definition, tr("%1 could not be computed for %2 of %3 elements, the first is %4: %5")
+                                                 .arg(rule.definition.property)
+                                                 .arg(failures.count)
+                                                 .arg(elements.size())
+                                                 .arg(failures.first, failures.reason));
+  finding.element = failures.first;
+  return {finding};
+}
+
+std::optional<double> NetworkFormulas::Computing::bound(const Formula *formula, const FormulaRule &rule, const element &e) {
+  if (formula == nullptr)
+    return std::nullopt;
+  ++evaluations;
+  try {
+    const double number = formula->evaluate(e).number;
+    if (number != NetData::NoValue && !std::isnan(number))
+      return rule.toStored(number);
+  } catch (const FormulaError &) {
+    return std::nullopt; // an element without bounds keeps them
+  }
+  return std::nullopt;
+}
+
+/// What is wrong with the value, in the unit in which people read it; empty when nothing is.
+QString NetworkFormulas::Computing::violation(const FormulaRule &rule, const element &e) {
+  const double value = net.value(e, rule.target);
+  if (value == NetData::NoValue)
+    return QString();
+  const std::optional<double> lower = bound(rule.lower.get(), rule, e);
+  const std::optional<double> upper = bound(rule.upper.get(), rule, e);
+  const bool isLow = lower && value < *lower;
+  if (!isLow && !(upper && value > *upper))
+    return QString();
+  const NetMetaData::Attribute *attribute =
+      net.metaData()->attribute(e.value(QStringLiteral("type")), rule.definition.property);
+  Units::Linear toDisplay;
+  QString unit;
+  if (attribute != nullptr) {
+    const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
+    toDisplay = conversion.value_or(Units::Linear());
+    unit = conversion ? attribute->displayUnit : attribute->storedUnit;
+  }
+  constexpr int Digits = 6;
+  const auto shown = [&toDisplay](double number) {
+    return QString::fromStdString(formatNumber(toDisplay(number), Digits));
+  };
+  QString text = QStringLiteral("%1 = %2 %3 %4")
+                     .arg(rule.definition.property, shown(value), isLow ? QStringLiteral("<") : QStringLiteral(">"),
+                          shown(isLow ? *lower : *upper));
+  if (!unit.isEmpty())
+    text += QLatin1Char(' ') + Units::written(unit);
+  if (!rule.definition.message.isEmpty())
+    text = rule.definition.message + QStringLiteral(": ") + text;
+  return text.replace(QLatin1Char(';'), QLatin1Char(',')); // which parts the violations of an element
+}
+
+void NetworkFormulas::Computing::judge(FormulaRule &rule, const std::vector<element *> &elements,
+                                       std::set<element *> &judged) {
+  for (element *e : elements) {
+    const QString text = violation(rule, *e);
+    if (!text.isEmpty())
+      rule.violations.insert(e, text);
+    else if (rule.violations.remove(e) == 0)
+      continue;
+    judged.insert(e);
+  }
+}
+
+Findings NetworkFormulas::Computing::writeViolations(const std::set<element *> &judged) {
+  Findings violations;
+  for (element *e : judged) {
+    QString all;
+    for (const int i : constraints) {
+      const FormulaRule &rule = rules[static_cast<std::size_t>(i)];
+      const QString text = rule.violations.value(e);
+      if (text.isEmpty())
+        continue;
+      all += text + QLatin1Char(';');
+      Finding finding = warning(rule.definition, nameOf(*e) + QStringLiteral(": ") + text);
+      finding.element = nameOf(*e);
+      violations.push_back(finding);
+    }
+    if (all.isEmpty())
+      e->erase(violationsKey());
+    else
+      e->set(violationsKey(), PropertyText(QLatin1Char('(') + all + QLatin1Char(')')));
+  }
+  std::sort(violations.begin(), violations.end(),
+            [](const Finding &a, const Finding &b) { return std::tie(a.element, a.line) < std::tie(b.element, b.line); });
+  return violations;
+}
+
+std::vector<element *> NetworkFormulas::Computing::affected(const FormulaRule &rule, const FormulaChanges &changes) const {
+  const auto hasChanged = [&changes](const element *e, PropertyKey property) {
+    const auto found = changes.find(property);
+    return found != changes.end() && found->second.count(e) > 0;
+  };
+  std::set<element *> found;
+  const auto ask = [&](const FormulaReference &reference) {
+    if (!reference.elementName.isEmpty()) {
+      if (walk(reference, net, nullptr, hasChanged))
+        found.insert(rule.elements.begin(), rule.elements.end());
+      return;
+    }
+    if (reference.path.empty()) {
+      const auto changed = changes.find(reference.property);
+      if (changed == changes.end())
+        return;
+      for (const element *e : changed->second) {
+        const auto own = std::lower_bound(rule.elements.begin(), rule.elements.end(), e);
+        if (own != rule.elements.end() && *own == e)
+          found.insert(*own);
+      }
+      return;
+    }
+    bool isAsked = changes.count(reference.property) > 0;
+    for (const PropertyKey step : reference.path)
+      isAsked = isAsked || changes.count(step) > 0;
+    for (element *e : isAsked ? rule.elements : std::vector<element *>()) {
+      if (walk(reference, net, e, hasChanged))
+        found.insert(e);
+    }
+  };
+  for (const Formula *formula : rule.formulas()) {
+    for (const FormulaReference &reference : formula->references())
+      ask(reference);
+  }
+  if (rule.definition.isConstraint)
+    ask({rule.target, {}, QString()});
+  return {found.begin(), found.end()};
+}
+
+template <typename ElementsOf, typename GoesOn>
+NetworkFormulas::Outcome NetworkFormulas::Computing::run(const ElementsOf &elementsOf, const GoesOn &goesOn,
+                                                         FormulaChanges *changes) {
+  evaluations = 0;
+  Outcome outcome;
+  for (const int i : sequence) {
+    if (!goesOn())
+      return outcome;
+    FormulaRule &rule = rules[static_cast<std::size_t>(i)];
+    Findings found = compute(rule, elementsOf(rule), changes);
+    std::move(found.begin(), found.end(), std::back_inserter(outcome.failures));
+  }
+  std::set<element *> judged;
+  for (const int i : constraints) {
+    if (!goesOn())
+      return outcome;
+    FormulaRule &rule = rules[static_cast<std::size_t>(i)];
+    judge(rule, elementsOf(rule), judged);
+  }
+  outcome.violations = writeViolations(judged);
+  return outcome;
+}
+
+NetworkFormulas::NetworkFormulas(NetData &net)
+    : m_computing(std::make_unique<Computing>(net)) {}
+
+NetworkFormulas::~NetworkFormulas() = default;
+
+Findings NetworkFormulas::setDefinitions(std::vector<FormulaDefinition> definitions) {
+  m_computing = std::make_unique<Computing>(m_computing->net);
+  m_computing->prepare(std::move(definitions));
+  m_computing->order();
+  m_computing->describe();
+  return m_computing->findings;
+}
+
+int NetworkFormulas::size() const {
+  return static_cast<int>(m_computing->sequence.size() + m_computing->constraints.size());
+}
+
+int NetworkFormulas::evaluations() const {
+  return m_computing->evaluations;
+}
+
+NetworkFormulas::Outcome NetworkFormulas::apply(const Progress &progress) {
+  int done = 0;
+  return m_computing->run([](const FormulaRule &rule) { return rule.elements; },
+                          [&] { return !progress || progress(static_cast<double>(done++) / size()); }, nullptr);
+}
+
+NetworkFormulas::Outcome NetworkFormulas::update(const std::vector<Change> &changes) {
+  FormulaChanges all;
+  for (const Change &change : changes)
+    all[change.property].insert(change.changed);
+  return m_computing->run([&](const FormulaRule &rule) { return m_computing->affected(rule, all); }, [] { return true; },
+                          &all);
+}

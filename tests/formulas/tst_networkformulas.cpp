@@ -1,0 +1,249 @@
+#include <formulas/networkformulas.h>
+#include <model/netmetadata.h>
+#include <support/modelfixture.h>
+#include <support/nivratest.h>
+
+#include <QBuffer>
+
+/// A line of three nodes and two pipes: A - P1 - B - P2 - C.
+class TestNetworkFormulas : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init();
+  void line();
+  void faultyLines_data();
+  void faultyLines();
+  void sections();
+  void computedInOrder();
+  void laterFormulaCounts();
+  void unitsFollowTheStoredOne();
+  void cyclesAndUnknownNames();
+  void ownMeansOfEndsIsNoCycle();
+  void missingValuesKeepWhatIsThere();
+  void constraints();
+  void onlyWhatDependsIsComputedAgain();
+  void derivedPropertiesAreDescribed();
+
+private:
+  Findings define(const char *text);
+  QString value(const char *property, const char *name) const {
+    return m_net->element(QString::fromUtf8(name))->value(QString::fromUtf8(property));
+  }
+  static FormulaFile::Contents parsed(const QByteArray &text);
+
+  std::unique_ptr<NetData> m_net;
+  std::unique_ptr<NetworkFormulas> m_formulas;
+};
+
+void TestNetworkFormulas::init() {
+  m_formulas.reset();
+  m_net = std::make_unique<NetData>();
+  const auto add = [this](element e, std::initializer_list<std::pair<const char *, const char *>> more) {
+    for (const auto &[name, value] : more)
+      e.set(QString::fromUtf8(name), QString::fromUtf8(value));
+    m_net->addElement(std::move(e));
+  };
+  add(makeNode("A"), {{"p", "60"}, {"pmax", "55"}});
+  add(makeNode("B"), {{"p", "50"}, {"pmax", "70"}});
+  add(makeNode("C"), {{"p", "45"}});
+  add(makeEdge("P1", "A", "B"), {{"length", "10"}});
+  add(makeEdge("P2", "B", "C"), {{"length", "20"}, {"note", "x"}});
+  m_formulas = std::make_unique<NetworkFormulas>(*m_net);
+}
+
+FormulaFile::Contents TestNetworkFormulas::parsed(const QByteArray &text) {
+  QBuffer buffer;
+  buffer.setData(text);
+  buffer.open(QIODevice::ReadOnly);
+  return FormulaFile::parse(buffer, QStringLiteral("t.formulas"), QStringLiteral("geometry"));
+}
+
+Findings TestNetworkFormulas::define(const char *text) {
+  return m_formulas->setDefinitions(parsed(text).definitions);
+}
+
+void TestNetworkFormulas::line() {
+  const FormulaFile::Contents contents =
+      parsed("dp(p, compressor: ^(?:A|B\\))) [bar] = p@N&#45;1 - \" # \" # drop # of it\n");
+  QVERIFY(contents.findings.empty());
+  const FormulaDefinition formula = contents.definitions.front();
+  QCOMPARE(formula.property, QStringLiteral("dp"));
+  QCOMPARE(formula.types, QStringList({QStringLiteral("p"), QStringLiteral("c")}));
+  QCOMPARE(formula.namePattern, QStringLiteral("^(?:A|B\\))"));
+  QCOMPARE(formula.unit, QStringLiteral("bar"));
+  QCOMPARE(formula.expression, QStringLiteral("p@N&#45;1 - \" # \""));
+  QCOMPARE(formula.comment, QStringLiteral("drop # of it"));
+  QCOMPARE(formula.category, QStringLiteral("geometry"));
+  QCOMPARE(formula.place(), QStringLiteral("dp(p,c), t.formulas:1"));
+
+  const FormulaDefinition bounds = parsed("v in 0.5*1.2 .. vmax \"too fast\"  # note").definitions.front();
+  QVERIFY(bounds.isConstraint);
+  QVERIFY(bounds.types.isEmpty());
+  QCOMPARE(bounds.lower, QStringLiteral("0.5*1.2"));
+  QCOMPARE(bounds.upper, QStringLiteral("vmax"));
+  QCOMPARE(bounds.message, QStringLiteral("too fast"));
+  QCOMPARE(parsed("v in .. 20").definitions.front().upper, QStringLiteral("20"));
+  QCOMPARE(parsed("v in 2 ..").definitions.front().lower, QStringLiteral("2"));
+}
+
+void TestNetworkFormulas::faultyLines_data() {
+  QTest::addColumn<QByteArray>("text");
+  QTest::addColumn<QString>("reason");
+  const auto row = [](const char *text, const char *reason) {
+    QTest::newRow(text) << QByteArray(text) << QString::fromLatin1(reason);
+  };
+  row("= 3", "name of a property");
+  row("a(p", "closing bracket is missing after the elements");
+  row("a(pipeline) = 3", "no element type \"pipeline\"");
+  row("a(p: [) = 3", "is none");
+  row("a(p) [furlongs per cow] = 3", "is not known");
+  row("a(p) [bar = 3", "closing bracket is missing after the unit");
+  row("a(p) =", "no expression");
+  row("a(p) == b", "");
+  row("a(p) 3", "expected at character 6");
+  row("a in 3..4", "not parted");
+  row("a in .. \"m\"", "no bound");
+}
+
+void TestNetworkFormulas::faultyLines() {
+  QFETCH(QByteArray, text);
+  QFETCH(QString, reason);
+  const FormulaFile::Contents contents = parsed("ok = 1\n\n" + text + "\nok2 = 2\n");
+  const Findings found = reason.isEmpty() ? define(text.constData()) : contents.findings; // the engine's to say
+  QCOMPARE(found.size(), std::size_t(1));
+  QCOMPARE(found.front().line, reason.isEmpty() ? 1 : 3);
+  QVERIFY2(found.front().text.contains(reason), qPrintable(found.front().text));
+  QCOMPARE(contents.definitions.size(), std::size_t(reason.isEmpty() ? 3 : 2));
+}
+
+void TestNetworkFormulas::sections() {
+  const auto definitions = parsed("# comment\na = 1\n[results]\n\nb = 2\r\n").definitions;
+  QCOMPARE(definitions[0].category, QStringLiteral("geometry"));
+  QCOMPARE(definitions[1].category, QStringLiteral("results"));
+  QCOMPARE(definitions[1].line, 5);
+}
+
+void TestNetworkFormulas::computedInOrder() {
+  QVERIFY(define("worst(p) = sgn(rel - 0.4) > 0 ? \"steep\" : \"flat\"\n"
+                 "rel(p) = dp / length + 0*twice@A\n"
+                 "dp(p) = p@node1@ELE - p@node2@ELE\n"
+                 "twice(n) = 2*p\n")
+              .empty());
+  QVERIFY(m_formulas->apply().failures.empty());
+  QCOMPARE(value("dp", "P1"), QStringLiteral("10"));
+  QCOMPARE(value("rel", "P2"), QStringLiteral("0.25"));
+  QCOMPARE(value("worst", "P1"), QStringLiteral("steep"));
+  QCOMPARE(value("worst", "P2"), QStringLiteral("flat"));
+  QCOMPARE(value("twice", "C"), QStringLiteral("90"));
+  QVERIFY(!m_net->element(QStringLiteral("A"))->contains(QStringLiteral("dp")));
+}
+
+void TestNetworkFormulas::laterFormulaCounts() {
+  QVERIFY(define("class = \"all\"\nclass(p) = \"pipe\"\nclass(p: 2$) = \"second\"\nseen(p) = class").empty());
+  m_formulas->apply();
+  QCOMPARE(value("class", "A"), QStringLiteral("all"));
+  QCOMPARE(value("class", "P1"), QStringLiteral("pipe"));
+  QCOMPARE(value("seen", "P2"), QStringLiteral("second"));
+  QCOMPARE(m_formulas->evaluations(), 3 + 1 + 1 + 2);
+}
+
+void TestNetworkFormulas::unitsFollowTheStoredOne() {
+  QVERIFY(define("pmin(n) [Pa] = 1e5*2\n").empty());
+  m_formulas->apply();
+  QCOMPARE(value("pmin", "A"), QStringLiteral("2")); // bar
+  const Findings findings = define("pmin(n) [m] = 3\n");
+  QCOMPARE(findings.size(), std::size_t(1));
+  QVERIFY(findings.front().text.contains(QStringLiteral("does not fit")));
+}
+
+void TestNetworkFormulas::cyclesAndUnknownNames() {
+  const Findings findings = define("a(n) = b + 1\nb(n) = c\nc(n) = a\nd(n) = a + p\nself(n) = self + 1\n"
+                                   "x1(n) = p@Nowhere\nx2(n) = nosuchproperty\nok(n) = p");
+  QStringList texts;
+  for (const Finding &finding : findings)
+    texts.append(QStringLiteral("%1 %2").arg(finding.line).arg(finding.text));
+  const QString all = texts.join(QLatin1Char('\n'));
+  QCOMPARE(findings.size(), std::size_t(4));
+  QVERIFY2(all.contains(QStringLiteral("a(n), t.formulas:1; b(n), t.formulas:2; c(n), t.formulas:3")), qPrintable(all));
+  QVERIFY2(all.contains(QStringLiteral("5 The formula needs its own result")), qPrintable(all));
+  QVERIFY2(all.contains(QStringLiteral("6 There is no element \"Nowhere\".")), qPrintable(all));
+  QVERIFY2(all.contains(QStringLiteral("7 No element has the property \"nosuchproperty\".")), qPrintable(all));
+  m_formulas->apply();
+  QCOMPARE(value("ok", "A"), QStringLiteral("60"));
+  QVERIFY(value("d", "A").isEmpty());
+}
+
+void TestNetworkFormulas::ownMeansOfEndsIsNoCycle() {
+  QVERIFY(define("p(p) = (p@node1@ELE + p@node2@ELE) / 2").empty());
+  m_formulas->apply();
+  QCOMPARE(value("p", "P1"), QStringLiteral("55"));
+}
+
+void TestNetworkFormulas::missingValuesKeepWhatIsThere() {
+  QVERIFY(
+      define("pmax(n) = pmax@nextnode@ELE\nload(n) = 100 * p / pmax\nnote(p) = isnull(note) ? \"none\" : note + 1").size() ==
+      2); // no "nextnode"; "note" reads itself
+  QVERIFY(m_formulas->apply().failures.empty());
+  QCOMPARE(value("pmax", "A"), QStringLiteral("55"));
+  QVERIFY(!m_net->element(QStringLiteral("C"))->contains(QStringLiteral("load")));
+  define("inverse(p) = 1 / (length - 10)\nsum(p) = note + 1");
+  const Findings failures = m_formulas->apply().failures;
+  QCOMPARE(failures.size(), std::size_t(2));
+  QVERIFY2(failures[0].text.contains(QStringLiteral("1 of 2 elements, the first is P")), qPrintable(failures[0].text));
+  QVERIFY(value("inverse", "P1").isEmpty());
+  QCOMPARE(value("inverse", "P2"), QStringLiteral("0.1"));
+}
+
+void TestNetworkFormulas::constraints() {
+  QVERIFY(define("p(n) in 48 .. pmax \"pressure; of node\"\np(n) [MPa] in 4.7 ..\nlength in .. 100").empty());
+  const Findings violations = m_formulas->apply().violations;
+  QCOMPARE(value("CB_info", "A"), QStringLiteral("(pressure, of node: p = 60 > 55 bar;)"));
+  QCOMPARE(value("CB_info", "C"), QStringLiteral("(pressure, of node: p = 45 < 48 bar;p = 45 < 47 bar;)"));
+  QVERIFY(value("CB_info", "B").isEmpty());
+  QCOMPARE(violations.size(), std::size_t(3));
+  QCOMPARE(violations[0].element, QStringLiteral("A"));
+  QCOMPARE(violations[2].line, 2);
+}
+
+void TestNetworkFormulas::onlyWhatDependsIsComputedAgain() {
+  QVERIFY(define("dp(p) = p@node1@ELE - p@node2@ELE\nrel(p) = dp / length\nother(n) = 3 * x\nhigh(n) = p > 45\n"
+                 "rel(p) in .. 0.5")
+              .empty());
+  QVERIFY(m_formulas->apply().violations.size() == 1);
+  element &c = *m_net->element(QStringLiteral("C"));
+  const PropertyKey p = PropertyKey::intern("p");
+  c.set(QStringLiteral("p"), QStringLiteral("30"));
+  QCOMPARE(m_formulas->update({{&c, p}}).violations.size(), std::size_t(1));
+  QCOMPARE(value("rel", "P2"), QStringLiteral("1"));
+  QVERIFY(value("CB_info", "P2").contains(QStringLiteral("rel = 1 > 0.5")));
+  QCOMPARE(m_formulas->evaluations(), 1 + 1 + 1 + 1); // dp and rel of P2, high of C, the bound of P2
+
+  // high stays what it is, so nothing that reads it would be computed
+  c.set(QStringLiteral("p"), QStringLiteral("44"));
+  QVERIFY(m_formulas->update({{&c, p}}).violations.empty());
+  QVERIFY(value("CB_info", "P2").isEmpty());
+
+  c.erase(QStringLiteral("p")); // what was computed from it goes
+  m_formulas->update({{&c, p}});
+  QVERIFY(value("dp", "P2").isEmpty());
+  QVERIFY(value("rel", "P2").isEmpty());
+
+  m_net->element(QStringLiteral("P2"))->set(QStringLiteral("node2"), QStringLiteral("A")); // another way
+  m_formulas->update({{m_net->element(QStringLiteral("P2")), PropertyKey::intern("node2")}});
+  QCOMPARE(value("dp", "P2"), QStringLiteral("-10"));
+}
+
+void TestNetworkFormulas::derivedPropertiesAreDescribed() {
+  QVERIFY(define("gradient(p) [bar/km] = 1 # pressure gradient\n").empty());
+  const NetMetaData::Attribute *attribute = m_net->metaData()->attribute(QStringLiteral("p"), QStringLiteral("gradient"));
+  QVERIFY(attribute != nullptr);
+  QCOMPARE(attribute->longName, QStringLiteral("pressure gradient"));
+  QCOMPARE(attribute->displayUnit, QStringLiteral("bar/km"));
+  QVERIFY(m_net->metaData()->edgeFunctions().contains(QStringLiteral("gradient")));
+  m_net->clear();
+  QCOMPARE(m_net->metaData(), &NetMetaData::instance());
+}
+
+NIVRA_TEST(TestNetworkFormulas);
+#include "tst_networkformulas.moc"
