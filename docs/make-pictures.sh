@@ -44,7 +44,25 @@ labels 3 --extent 403500,5722600,407300,5725450
 window "$example" "$images/selection.png" 'xdotool mousemove 560 440 click --repeat 5 --delay 100 4; sleep 2; xdotool windowfocus $id; sleep 0.3; xdotool mousemove 560 440 key ctrl+a; sleep 1'
 window "$example" "$images/context-menu.png" 'xdotool mousemove 388 409; sleep 0.5; xdotool click 3; sleep 1'
 window "$example" "$images/configure-draw.png" 'xdotool mousemove 1160 280 click --repeat 2 --delay 80 1; sleep 1.5'
-window "$example" "$images/search.png" 'xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool mousemove 150 155 click 1 type "v@ELE>10"; xdotool mousemove 150 94 click 1 type "^p"; xdotool key Return; sleep 1; xdotool mousemove 208 186 click 1; sleep 1'
+
+
+window "$example" "$images/findings.png" 'xdotool mousemove 1165 886 click 1; sleep 0.5; xdotool key F8 F8; sleep 1.5'
+# The walk through the tools, on a copy: a category is saved on the way.
+walk=$data/walk
+mkdir -p "$walk"
+cp -r example/DE_H2 "$walk/"
+walk_window() { # NUMBER COMMANDS
+  window "$walk/DE_H2/S5/S5.scen.jsn" "$images/walk-$1.png" "$2"
+}
+search='xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool mousemove 150 155 click 1 type "v@ELE>10"; xdotool mousemove 150 94 click 1 type "^p"; xdotool key Return; sleep 1; xdotool mousemove 208 186 click 1; sleep 1;'
+table='xdotool mousemove 54 849 click 1; sleep 1; xdotool mousemove 16 52 click 1; sleep 0.5; xdotool mousemove 778 52 click 1; sleep 0.5; xdotool mousemove 271 52 click 1; sleep 0.3; xdotool type v; xdotool key Return; sleep 1;'
+dock() { echo "xdotool mousemove 100 10 click 1; sleep 0.5; xdotool mousemove 178 $1 click 1; sleep 0.8;"; } # y in the menu
+walk_window 1 "$search"
+walk_window 2 "$search $(dock 77)"'xdotool mousemove 134 552 click 1; sleep 0.5; xdotool mousemove 60 709 click --repeat 2 --delay 80 1; sleep 0.3; xdotool type "fast pipes"; xdotool key Return; sleep 0.3; xdotool mousemove 1150 850 click 1; sleep 0.5'
+walk_window 3 "$search $table"
+walk_window 4 "$search $table"'xdotool mousemove 143 16 click 1; sleep 1'
+walk_window 5 "$(dock 152)"'xdotool mousemove 36 184 click 1; sleep 0.3; xdotool mousemove 36 247 click 1; sleep 1'
+walk_window 6 'xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool type "N_Görlitz"; xdotool key Return; sleep 1; xdotool mousemove 60 235 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 765 440; sleep 0.5; xdotool click 3; sleep 0.5; xdotool mousemove 840 524 click 1; sleep 0.5; xdotool mousemove 840 300 key Home; sleep 1.5'
 
 formats=$(mktemp -d)
 for format in png jpg bmp tif svg pdf ps; do

@@ -119,15 +119,34 @@ bool NetworkLoader::computeFormulas(const Progress &progress) {
   }
   Findings prepared = m_formulas.setDefinitions(std::move(definitions));
   std::move(prepared.begin(), prepared.end(), std::back_inserter(findings));
-  NetworkFormulas::Outcome outcome = m_formulas.apply([&](double fraction) {
+  Findings failures = m_formulas.apply([&](double fraction) {
     m_cancelled = progress && !progress(fraction);
     return !m_cancelled;
   });
-  std::move(outcome.failures.begin(), outcome.failures.end(), std::back_inserter(findings));
+  std::move(failures.begin(), failures.end(), std::back_inserter(findings));
   report(findings);
   notice(tr("Formulas"), std::move(findings));
-  if (!outcome.violations.empty())
-    NivraMsg::logWarning(tr("%1 bounds are violated, see the findings").arg(outcome.violations.size()));
-  notice(tr("Bounds"), std::move(outcome.violations));
+  noticeViolations();
   return !m_cancelled;
+}
+
+void NetworkLoader::noticeViolations() {
+  Findings violations = m_formulas.violations();
+  if (!violations.empty())
+    NivraMsg::logWarning(violations.size() == 1 ? tr("1 bound is violated, see the findings")
+                                                : tr("%1 bounds are violated, see the findings").arg(violations.size()));
+  notice(tr("Bounds"), std::move(violations));
+}
+
+void NetworkLoader::computeAgain(const QStringList &names, const QString &property) {
+  std::vector<NetworkFormulas::Change> changes;
+  const PropertyKey key = PropertyKey::find(property);
+  for (const QString &name : names) {
+    if (const element *changed = m_net.element(name))
+      changes.push_back({changed, key});
+  }
+  report(m_formulas.update(changes));
+  if (!m_noticed.empty() && m_noticed.back().name == tr("Bounds"))
+    m_noticed.pop_back();
+  noticeViolations();
 }

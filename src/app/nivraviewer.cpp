@@ -20,6 +20,7 @@
 #include <QMimeData>
 #include <QStyleFactory>
 #include <QToolBar>
+#include <QToolButton>
 
 #include <algorithm>
 #include <app/aboutbox.h>
@@ -70,6 +71,8 @@ NivraViewer::NivraViewer(QWidget *parent)
       elementAction(name, action);
   });
   connect(m_control.get(), &NetVisControl::configureDrawRequested, m_tools, &ToolDocks::showDrawConfiguration);
+  connect(m_tools, &ToolDocks::propertyChanged, this, &NivraViewer::computeAgain);
+  m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
   setAcceptDrops(true);
   GeneralSettings::instance().load();
   m_control->clear();
@@ -104,6 +107,13 @@ void NivraViewer::on_actionElement_Table_triggered() {
 
 void NivraViewer::on_actionMetadataTable_triggered() {
   m_tools->showMetaData();
+}
+
+void NivraViewer::on_actionHelp_triggered() {
+  const QWidget *at = QApplication::focusWidget();
+  while (at != nullptr && qobject_cast<const QDockWidget *>(at) == nullptr)
+    at = at->parentWidget();
+  m_tools->showHelp(at == nullptr ? QString() : at->objectName());
 }
 
 void NivraViewer::on_actionAboutNivra_triggered() {
@@ -148,6 +158,7 @@ void NivraViewer::openWorkspace(const QString &path) {
   const bool done = readWorkspace();
   setBusy(false);
   m_tools->refresh(m_loader.workspace());
+  m_tools->setFindings(m_loader.noticed());
   for (QAction *action : {m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
     action->setEnabled(true);
   showTitle();
@@ -188,6 +199,13 @@ bool NivraViewer::askForIncludeLists(NetworkLoader::ReadOptions &options) {
         QInputDialog::getText(this, tr("Include Properties"), tr("Enter include list for properties\n(regular expression):"),
                               QLineEdit::Normal, QString(), &accepted);
   return accepted;
+}
+
+void NivraViewer::computeAgain(const QStringList &names, const QString &property) {
+  m_loader.computeAgain(names, property);
+  m_tools->setFindings(m_loader.noticed());
+  m_tools->showElement(m_currentElement);
+  m_control->plot()->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
 }
 
 void NivraViewer::showTitle() {

@@ -1,5 +1,6 @@
 #include <io/nivraworkspace.h>
 #include <tools/metadatatable.h>
+#include <tools/nivrafindings.h>
 #include <tools/nivranetlayerseditor.h>
 #include <tools/nivranetobjectcats.h>
 #include <tools/nivrapropviewer.h>
@@ -10,20 +11,36 @@
 #include <view/netviscontrol.h>
 #include <view/viewfuncdialog.h>
 
+#include <QAction>
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QMainWindow>
+#include <QToolButton>
 #include <QTreeWidgetItem>
 
 #include <app/consoledock.h>
+#include <app/helpwindow.h>
 #include <app/tooldocks.h>
 
 ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control)
     : QObject(&window)
     , m_window(window)
     , m_control(control)
-    , m_net(control.net()) {
+    , m_net(control.net())
+    , m_findings(new NivraFindings(&window))
+    , m_findingsButton(new QToolButton) {
   addDock(new ConsoleDock(&window), QStringLiteral("messages"), Qt::BottomDockWidgetArea);
+  addDock(m_findings, QStringLiteral("findings"), Qt::BottomDockWidgetArea);
+  connect(m_findings, &NivraFindings::elementWanted, this, [this](const QString &name) {
+    m_control.showElement(name);
+    emit elementMarked(name);
+  });
+  m_findingsButton->setAutoRaise(true);
+  m_findingsButton->hide();
+  connect(m_findingsButton, &QToolButton::clicked, m_findings, [this] {
+    m_findings->show();
+    m_findings->raise();
+  });
 }
 
 ToolDocks::~ToolDocks() = default;
@@ -31,6 +48,16 @@ ToolDocks::~ToolDocks() = default;
 QDockWidget *ToolDocks::addDock(QDockWidget *dock, const QString &name, Qt::DockWidgetArea area) {
   dock->setObjectName(name);
   m_window.addDockWidget(area, dock);
+  for (QDockWidget *other : qAsConst(m_docks)) { // one tool at a time on each side, the others behind tabs
+    if (m_window.dockWidgetArea(other) == area) {
+      m_window.tabifyDockWidget(other, dock);
+      break;
+    }
+  }
+  connect(dock->toggleViewAction(), &QAction::triggered, dock, [dock](bool isShown) {
+    if (isShown)
+      dock->raise();
+  });
   dock->hide(); // the network gets the room; the "View" menu brings it
   m_docks.append(dock);
   return dock;
@@ -69,6 +96,7 @@ void ToolDocks::createLayers() {
   m_layers = new NivraNetLayersEditor(m_net, &m_window);
   addDock(m_layers, QStringLiteral("layers"), Qt::LeftDockWidgetArea);
   connect(m_layers, &NivraNetLayersEditor::layerVisChanged, this, &ToolDocks::applyLayers);
+  connect(m_layers, &NivraNetLayersEditor::propertyChanged, this, &ToolDocks::propertyChanged);
   connect(m_layers, &NivraNetLayersEditor::itemClicked, this, &ToolDocks::elementMarked);
   connect(m_layers, &NivraNetLayersEditor::itemDoubleClicked, &m_control, &NetVisControl::showElement);
 }
@@ -92,6 +120,7 @@ NivraVecTable *ToolDocks::vectorTable() {
     return m_vectorTable.get();
   m_vectorTable = std::make_unique<NivraVecTable>(m_net);
   m_vectorTable->setDirectory(m_directory);
+  connect(m_vectorTable.get(), &NivraVecTable::helpWanted, this, &ToolDocks::showHelp);
   connect(m_vectorTable.get(), &NivraVecTable::elementMarked, this, &ToolDocks::elementMarked);
   if (m_categories != nullptr) {
     connect(m_categories, &NivraNetObjectCats::catChanged, m_vectorTable.get(), &NivraVecTable::on_updateCats);
@@ -111,8 +140,24 @@ void ToolDocks::showVectorTable() {
 void ToolDocks::showMetaData() {
   if (m_metaData == nullptr)
     m_metaData = std::make_unique<MetaDataTable>(m_net);
+  m_metaData->fill(); // formulas of another case may have described other properties
   m_metaData->show();
   m_metaData->raise();
+}
+
+void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
+  std::size_t count = 0;
+  for (const FindingList::Group &group : groups)
+    count += group.findings.size();
+  m_findings->setFindings(groups);
+  m_findingsButton->setText(count == 1 ? tr("1 finding") : tr("%1 findings").arg(count));
+  m_findingsButton->setVisible(count > 0);
+}
+
+void ToolDocks::showHelp(const QString &page) {
+  if (m_help == nullptr)
+    m_help = std::make_unique<HelpWindow>();
+  m_help->showPage(page);
 }
 
 void ToolDocks::createDraw() {

@@ -1,10 +1,10 @@
 #include "formularule.h"
 
+#include <base/pattern.h>
 #include <formulas/networkformulas.h>
 #include <model/netmetadata.h>
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -55,11 +55,11 @@ struct NetworkFormulas::Computing {
   void describe();
   Findings compute(FormulaRule &rule, const std::vector<element *> &elements, FormulaChanges *changes);
   void judge(FormulaRule &rule, const std::vector<element *> &elements, std::set<element *> &judged);
-  Findings writeViolations(const std::set<element *> &judged);
+  void writeViolations(const std::set<element *> &judged);
   std::vector<element *> affected(const FormulaRule &rule, const FormulaChanges &changes) const;
   /// Computes the formulas, then the constraints, for those of their elements that elementsOf tells.
   template <typename ElementsOf, typename GoesOn>
-  Outcome run(const ElementsOf &elementsOf, const GoesOn &goesOn, FormulaChanges *changes);
+  Findings run(const ElementsOf &elementsOf, const GoesOn &goesOn, FormulaChanges *changes);
 
   NetData &net;
   std::vector<FormulaRule> rules;
@@ -120,11 +120,10 @@ void NetworkFormulas::Computing::prepare(std::vector<FormulaDefinition> definiti
   for (FormulaDefinition &definition : definitions) {
     try {
       FormulaRule rule = parsed(definition);
-      const QRegularExpression pattern(QStringLiteral("(*LIMIT_MATCH=200000)") + definition.namePattern,
-                                       QRegularExpression::CaseInsensitiveOption);
+      const Pattern pattern(definition.namePattern);
       for (const QString &type : definition.types.isEmpty() ? byType.keys() : definition.types) {
         for (const auto &[name, e] : byType[type]) {
-          if (definition.namePattern.isEmpty() || pattern.match(name).hasMatch())
+          if (pattern.matches(name))
             rule.elements.push_back(e);
         }
       }
@@ -335,28 +334,19 @@ void NetworkFormulas::Computing::judge(FormulaRule &rule, const std::vector<elem
   }
 }
 
-Findings NetworkFormulas::Computing::writeViolations(const std::set<element *> &judged) {
-  Findings violations;
+void NetworkFormulas::Computing::writeViolations(const std::set<element *> &judged) {
   for (element *e : judged) {
     QString all;
     for (const int i : constraints) {
-      const FormulaRule &rule = rules[static_cast<std::size_t>(i)];
-      const QString text = rule.violations.value(e);
-      if (text.isEmpty())
-        continue;
-      all += text + QLatin1Char(';');
-      Finding finding = warning(rule.definition, nameOf(*e) + QStringLiteral(": ") + text);
-      finding.element = nameOf(*e);
-      violations.push_back(finding);
+      const QString text = rules[static_cast<std::size_t>(i)].violations.value(e);
+      if (!text.isEmpty())
+        all += text + QLatin1Char(';');
     }
     if (all.isEmpty())
       e->erase(violationsKey());
     else
       e->set(violationsKey(), PropertyText(QLatin1Char('(') + all + QLatin1Char(')')));
   }
-  std::sort(violations.begin(), violations.end(),
-            [](const Finding &a, const Finding &b) { return std::tie(a.element, a.line) < std::tie(b.element, b.line); });
-  return violations;
 }
 
 std::vector<element *> NetworkFormulas::Computing::affected(const FormulaRule &rule, const FormulaChanges &changes) const {
@@ -400,26 +390,25 @@ std::vector<element *> NetworkFormulas::Computing::affected(const FormulaRule &r
 }
 
 template <typename ElementsOf, typename GoesOn>
-NetworkFormulas::Outcome NetworkFormulas::Computing::run(const ElementsOf &elementsOf, const GoesOn &goesOn,
-                                                         FormulaChanges *changes) {
+Findings NetworkFormulas::Computing::run(const ElementsOf &elementsOf, const GoesOn &goesOn, FormulaChanges *changes) {
   evaluations = 0;
-  Outcome outcome;
+  Findings failures;
   for (const int i : sequence) {
     if (!goesOn())
-      return outcome;
+      return failures;
     FormulaRule &rule = rules[static_cast<std::size_t>(i)];
     Findings found = compute(rule, elementsOf(rule), changes);
-    std::move(found.begin(), found.end(), std::back_inserter(outcome.failures));
+    std::move(found.begin(), found.end(), std::back_inserter(failures));
   }
   std::set<element *> judged;
   for (const int i : constraints) {
     if (!goesOn())
-      return outcome;
+      return failures;
     FormulaRule &rule = rules[static_cast<std::size_t>(i)];
     judge(rule, elementsOf(rule), judged);
   }
-  outcome.violations = writeViolations(judged);
-  return outcome;
+  writeViolations(judged);
+  return failures;
 }
 
 NetworkFormulas::NetworkFormulas(NetData &net)
@@ -439,17 +428,32 @@ int NetworkFormulas::size() const {
   return static_cast<int>(m_computing->sequence.size() + m_computing->constraints.size());
 }
 
+Findings NetworkFormulas::violations() const {
+  Findings found;
+  for (const int i : m_computing->constraints) {
+    const FormulaRule &rule = m_computing->rules[static_cast<std::size_t>(i)];
+    for (auto it = rule.violations.cbegin(); it != rule.violations.cend(); ++it) {
+      Finding finding = warning(rule.definition, it.value());
+      finding.element = nameOf(*it.key());
+      found.push_back(std::move(finding));
+    }
+  }
+  std::sort(found.begin(), found.end(),
+            [](const Finding &a, const Finding &b) { return std::tie(a.element, a.line) < std::tie(b.element, b.line); });
+  return found;
+}
+
 int NetworkFormulas::evaluations() const {
   return m_computing->evaluations;
 }
 
-NetworkFormulas::Outcome NetworkFormulas::apply(const Progress &progress) {
+Findings NetworkFormulas::apply(const Progress &progress) {
   int done = 0;
   return m_computing->run([](const FormulaRule &rule) { return rule.elements; },
                           [&] { return !progress || progress(static_cast<double>(done++) / size()); }, nullptr);
 }
 
-NetworkFormulas::Outcome NetworkFormulas::update(const std::vector<Change> &changes) {
+Findings NetworkFormulas::update(const std::vector<Change> &changes) {
   FormulaChanges all;
   for (const Change &change : changes)
     all[change.property].insert(change.changed);

@@ -225,6 +225,18 @@ bool elements::erase(const QString &id) {
   return true;
 }
 
+std::vector<const elements::Entry *> elements::beginningWith(const QString &text, std::size_t most) const {
+  sort();
+  const std::vector<const Entry *> &order = m_storage->order;
+  auto at = std::lower_bound(order.begin(), order.end(), text, [](const Entry *entry, const QString &name) {
+    return QString::compare(entry->name(), name, Qt::CaseInsensitive) < 0;
+  });
+  std::vector<const Entry *> found;
+  for (; at != order.end() && found.size() < most && (*at)->name().startsWith(text, Qt::CaseInsensitive); ++at)
+    found.push_back(*at);
+  return found;
+}
+
 std::size_t elements::eraseIf(const std::function<bool(const Entry &)> &predicate) {
   sort();
   std::vector<const Entry *> kept;

@@ -1,5 +1,6 @@
 #include <model/elementtypes.h>
 #include <tools/metadatatable.h>
+#include <tools/tablemenu.h>
 
 #include <QSet>
 
@@ -15,6 +16,8 @@ MetaDataTable::MetaDataTable(const NetData &net, QWidget *parent)
   setColumnWidth(2, 200);
   setAlternatingRowColors(true);
   resize(Size);
+  setSelectionMode(ExtendedSelection);
+  TableMenu::offerCopy(*this);
   fill();
 }
 

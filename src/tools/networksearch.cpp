@@ -9,32 +9,33 @@ const PropertyKey &resultKey() {
 
 } // namespace
 
-// The limits end what would try every way through a text; ordinary patterns need a few hundred steps.
-NetworkSearch::Pattern::Pattern(const QString &text)
-    : m_expression(QStringLiteral("(*LIMIT_MATCH=200000)") + text, QRegularExpression::CaseInsensitiveOption)
-    , m_matchesAll(text.isEmpty()) {
-  if (!m_matchesAll)
-    m_expression.optimize();
-}
-
-bool NetworkSearch::Pattern::matches(const QString &text) const {
-  return m_matchesAll || (m_expression.isValid() && m_expression.match(text).hasMatch());
-}
-
 NetworkSearch::NetworkSearch(NetData &net, SearchParams params)
     : m_net(net)
     , m_params(std::move(params))
     , m_name(m_params.name)
     , m_type(m_params.type)
-    , m_property(m_params.prop)
+    , m_properties(m_params.prop)
     , m_value(m_params.searchString)
     , m_display(*net.metaData()) {}
 
-const QStringList &NetworkSearch::neverSearched() {
+const QStringList &SearchedProperties::never() {
   static const QStringList keys{
       QStringLiteral("isSearchResult"), QStringLiteral("pLine"),   QStringLiteral("pArrow"), QStringLiteral("pLabel"),
       QStringLiteral("pSymbol"),        QStringLiteral("vis.ele"), QStringLiteral("type")};
   return keys;
+}
+
+bool SearchedProperties::contains(PropertyKey key) {
+  if (key.index() >= m_known.size())
+    m_known.resize(key.index() + 1, -1);
+  signed char &known = m_known[key.index()];
+  if (known < 0) {
+    const QString name = key.name();
+    const bool isNever =
+        name.compare(QLatin1String("type"), Qt::CaseInsensitive) != 0 && never().contains(name, Qt::CaseInsensitive);
+    known = !isNever && m_pattern.matches(name) ? 1 : 0;
+  }
+  return known == 1;
 }
 
 NetworkSearch::Result NetworkSearch::run() {
@@ -64,19 +65,6 @@ bool NetworkSearch::matchesType(const QString &type) {
   return known != m_types.constEnd() ? *known : *m_types.insert(type, m_type.matches(type));
 }
 
-bool NetworkSearch::matchesProperty(PropertyKey key) {
-  if (key.index() >= m_properties.size())
-    m_properties.resize(key.index() + 1, -1);
-  signed char &known = m_properties[key.index()];
-  if (known < 0) {
-    const QString name = key.name();
-    const bool isNever =
-        name.compare(QLatin1String("type"), Qt::CaseInsensitive) != 0 && neverSearched().contains(name, Qt::CaseInsensitive);
-    known = !isNever && m_property.matches(name) ? 1 : 0;
-  }
-  return known == 1;
-}
-
 bool NetworkSearch::satisfiesFormula(const element &candidate) {
   if (!m_formula)
     m_formula.emplace(m_params.formula, m_net);
@@ -94,7 +82,7 @@ std::vector<SearchRow> NetworkSearch::search(element &candidate) {
     return rows;
   bool isAsked = m_params.formula.isEmpty(); // the formula asks for the element, not for the property: once is enough
   for (const Property &property : candidate) {
-    if (!matchesProperty(property.key))
+    if (!m_properties.contains(property.key))
       continue;
     if (!m_value.matchesAll() && !m_value.matches(property.value.toString()))
       continue;

@@ -2,6 +2,7 @@
 
 #include <base/nivramsg.h>
 #include <tools/nivranetlayerseditor.h>
+#include <tools/tablemenu.h>
 
 #include <QInputDialog>
 #include <QMessageBox>
@@ -42,6 +43,7 @@ NivraNetLayersEditor::NivraNetLayersEditor(NetData &net, QWidget *parent)
     m_ui->tableWidget->addAction(action);
     connect(action, &QAction::triggered, this, slot);
   }
+  TableMenu::offerCopy(*m_ui->tableWidget);
 }
 
 NivraNetLayersEditor::~NivraNetLayersEditor() = default;
@@ -127,8 +129,11 @@ void NivraNetLayersEditor::on_tableWidget_cellChanged(int row, int column) {
           .arg(m_layers.property(), name);
   if (!Layers::isAllowed(name))
     NivraMsg::message(NivraMsg::Kind::Warning, tr("layer name contains forbidden characters! Try again!"));
-  else if (confirms(tr("Rename Layer"), question))
+  else if (confirms(tr("Rename Layer"), question)) {
+    const QStringList names = m_layers.all().value(layer).names;
     m_layers.rename(layer, name);
+    emit propertyChanged(names, m_layers.property());
+  }
   fill();
 }
 
@@ -172,6 +177,7 @@ void NivraNetLayersEditor::on_toolButtonAdd_clicked() {
   if (!confirms(tr("Add Layer"), question))
     return;
   m_layers.add(names, layer);
+  emit propertyChanged(names, m_layers.property());
   fill();
   emit layerVisChanged();
 }
@@ -186,8 +192,12 @@ void NivraNetLayersEditor::on_toolButtonDel_clicked() {
       tr("This will erase the \"%1\" property from all elements in the selected layers. Continue?").arg(m_layers.property());
   if (!confirms(tr("Delete Layers"), question))
     return;
-  for (const QString &layer : qAsConst(chosen))
+  QStringList names;
+  for (const QString &layer : qAsConst(chosen)) {
+    names += m_layers.all().value(layer).names;
     m_layers.remove(layer);
+  }
+  emit propertyChanged(names, m_layers.property());
   fill();
   emit layerVisChanged();
 }

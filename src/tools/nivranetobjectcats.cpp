@@ -2,6 +2,7 @@
 
 #include <base/nivramsg.h>
 #include <tools/nivranetobjectcats.h>
+#include <tools/tablemenu.h>
 
 namespace {
 
@@ -19,6 +20,8 @@ NivraNetObjectCats::NivraNetObjectCats(QWidget *parent)
   qRegisterMetaType<CatMap>("CatMap");
   m_ui->setupUi(this);
   m_ui->tableWidget->setHorizontalHeaderLabels({tr("category"), tr("name"), tr("type"), tr("property"), tr("value")});
+  m_ui->tableWidget->horizontalHeader()->setStretchLastSection(true);
+  TableMenu::offerCopy(*m_ui->tableWidget);
   connect(m_ui->tableWidget, &QTableWidget::cellChanged, this, &NivraNetObjectCats::informOnNecessaryUpdate);
   setFile(QString());
 }

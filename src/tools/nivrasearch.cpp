@@ -2,9 +2,11 @@
 
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <tools/nameaid.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
 #include <tools/searchtable.h>
+#include <tools/tablemenu.h>
 
 #include <QActionGroup>
 #include <QDragEnterEvent>
@@ -85,6 +87,11 @@ NivraSearch::NivraSearch(NetData &net, QWidget *parent)
   setUpSelect();
   setUpFormulaMode();
   m_ui->lineEdit_prop->setText(QStringLiteral("^name$"));
+  new TableMenu(*m_ui->treeWidget_searchResults);
+  NameAid::attach(*m_ui->lineEdit_name,
+                  [this](const QString &beginning, int most) { return NameAid::elementNames(m_net, beginning, most); });
+  NameAid::attach(*m_ui->lineEdit_prop,
+                  [this](const QString &beginning, int most) { return NameAid::propertyNames(m_net, beginning, most); });
   m_lastField = m_ui->lineEdit_name;
 }
 

@@ -3,6 +3,8 @@
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <tools/nivravectable.h>
+#include <tools/tablemenu.h>
+#include <tools/vectorplot.h>
 
 #include <QAction>
 #include <QApplication>
@@ -10,9 +12,6 @@
 #include <QFileDialog>
 #include <QRegularExpression>
 #include <QSaveFile>
-#include <qwt_plot.h>
-#include <qwt_plot_curve.h>
-#include <qwt_plot_grid.h>
 
 #include <set>
 
@@ -27,14 +26,14 @@ NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
     , m_ui(std::make_unique<Ui::NivraVecTable>())
     , m_net(net)
     , m_rows(net)
-    , m_plot(new QwtPlot) {
+    , m_plot(new VectorPlot) {
   m_ui->setupUi(this);
   m_ui->tableWidget->addAction(m_ui->actionCopy_selectedItems);
+  m_menu = new TableMenu(*m_ui->tableWidget);
+  addAction(m_ui->actionHelp);
   m_ui->plotLayout->insertWidget(0, m_plot);
-  m_plot->setCanvasBackground(Qt::white);
-  auto *grid = new QwtPlotGrid;
-  grid->setMajorPen(Qt::lightGray, 0.0, Qt::DotLine);
-  grid->attach(m_plot);
+  connect(m_menu, &TableMenu::filtered, this, &NivraVecTable::showCount);
+  connect(m_ui->pushButtonHelp, &QPushButton::clicked, m_ui->actionHelp, &QAction::trigger);
   refresh();
 }
 
@@ -86,16 +85,25 @@ void NivraVecTable::on_pushButtonUpdate_clicked() {
   request.onlyNonZero = m_ui->checkBoxNonZero->isChecked();
   request.onlySelection = m_ui->checkBoxUseSel->isChecked();
   std::vector<VectorRows::Row> rows = m_rows.build(request);
-  showRows(rows);
-  m_ui->tableWidget->sortByColumn(NameColumn, Qt::AscendingOrder);
-  if (m_rows.allHaveUnits())
-    sortNumerically();
+  VectorRows::sortByName(rows);
+  if (m_rows.allHaveUnits()) {
+    sortNumerically(rows);
+  } else {
+    showRows(rows, NameColumn);
+  }
   m_ui->tableWidget->resizeColumnsToContents();
-  m_ui->labelCount->setText(tr("%1 rows").arg(rows.size()));
+  showCount();
   NivraMsg::debug(QStringLiteral("... update finished."));
 }
 
-void NivraVecTable::showRows(const std::vector<VectorRows::Row> &rows) {
+void NivraVecTable::showCount() {
+  const int all = m_ui->tableWidget->rowCount();
+  const int shown = m_menu->shownRows();
+  m_ui->labelCount->setText(shown == all ? tr("%1 rows").arg(all) : tr("%1 of %2 rows").arg(shown).arg(all));
+}
+
+/// \param sortedBy the column by which the rows are in order
+void NivraVecTable::showRows(const std::vector<VectorRows::Row> &rows, int sortedBy) {
   constexpr int RowMargin = 8; // px around the text
   QTableWidget *table = m_ui->tableWidget;
   table->setSortingEnabled(false);
@@ -114,24 +122,23 @@ void NivraVecTable::showRows(const std::vector<VectorRows::Row> &rows) {
       table->setItem(i, column, cell);
     }
   }
+  table->horizontalHeader()->setSortIndicator(sortedBy, Qt::AscendingOrder);
   table->setSortingEnabled(true);
+  m_menu->apply();
 }
 
 void NivraVecTable::on_pushButtonTryNumSort_clicked() {
-  sortNumerically();
-}
-
-void NivraVecTable::sortNumerically() {
-  NivraMsg::debug(QStringLiteral("    numsort started ..."));
-  QTableWidget *table = m_ui->tableWidget;
-  table->setSortingEnabled(false);
   std::vector<VectorRows::Row> rows;
   for (const QStringList &row : texts())
     rows.push_back({row[NameColumn], row[TypeColumn], row[PropertyColumn], row[ValueColumn], row[UnitColumn],
                     row[ResultColumn], row[NumsortColumn]});
+  sortNumerically(rows);
+}
+
+void NivraVecTable::sortNumerically(std::vector<VectorRows::Row> &rows) {
+  NivraMsg::debug(QStringLiteral("    numsort started ..."));
   VectorRows::sortNumerically(rows);
-  showRows(rows);
-  table->sortByColumn(NumsortColumn, Qt::AscendingOrder);
+  showRows(rows, NumsortColumn);
 }
 
 std::vector<QStringList> NivraVecTable::texts() const {
@@ -214,17 +221,11 @@ void NivraVecTable::on_tableWidget_itemClicked(QTableWidgetItem *item) {
 }
 
 void NivraVecTable::on_actionCopy_selectedItems_triggered() {
-  QString text;
-  int row = -1;
-  QModelIndexList cells = m_ui->tableWidget->selectionModel()->selectedIndexes();
-  std::sort(cells.begin(), cells.end());
-  for (const QModelIndex &cell : qAsConst(cells)) {
-    if (row >= 0)
-      text += cell.row() == row ? QLatin1Char('\t') : QLatin1Char('\n');
-    text += cell.data().toString();
-    row = cell.row();
-  }
-  QApplication::clipboard()->setText(text);
+  QApplication::clipboard()->setText(TableMenu::cellTexts(*m_ui->tableWidget->selectionModel()));
+}
+
+void NivraVecTable::on_actionHelp_triggered() {
+  emit helpWanted(QStringLiteral("tab_cat_search.html"));
 }
 
 void NivraVecTable::on_pushButtonSave_clicked() {
@@ -253,22 +254,24 @@ void NivraVecTable::on_closePlotButton_clicked() {
 void NivraVecTable::on_NivraVecTable_currentChanged(int index) {
   if (index != 1)
     return;
-  m_plot->detachItems(QwtPlotItem::Rtti_PlotCurve);
-  QVector<QPointF> points;
-  int row = 0;
-  for (const QStringList &cells : texts()) {
+  const QTableWidget &table = *m_ui->tableWidget;
+  std::vector<bool> isSelected(static_cast<std::size_t>(table.rowCount()));
+  for (const QModelIndex &cell : table.selectionModel()->selectedIndexes())
+    isSelected[static_cast<std::size_t>(cell.row())] = true;
+  // One row is what was clicked last; several were chosen.
+  const bool usesSelection = std::count(isSelected.begin(), isSelected.end(), true) > 1;
+  std::vector<std::pair<int, double>> values;
+  for (int row = 0; row < table.rowCount(); ++row) {
+    if (usesSelection ? !isSelected[static_cast<std::size_t>(row)] : table.isRowHidden(row))
+      continue;
     bool isNumber = false;
-    const double number = cells.at(ResultColumn).toDouble(&isNumber);
-    ++row;
+    const double number = table.item(row, ResultColumn)->text().toDouble(&isNumber);
     if (isNumber)
-      points.append(QPointF(row, number));
+      values.emplace_back(row + 1, number);
   }
-  auto *curve = new QwtPlotCurve(headers().at(ResultColumn));
-  curve->setSamples(points);
-  curve->setPen(QColor(31, 93, 138), 1.5);
-  curve->setRenderHint(QwtPlotItem::RenderAntialiased);
-  curve->attach(m_plot);
-  m_plot->setAxisTitle(QwtPlot::xBottom, tr("row"));
-  m_plot->setAxisTitle(QwtPlot::yLeft, headers().at(ResultColumn).section(QLatin1Char('\n'), 1));
-  m_plot->replot();
+  QString title = headers().at(ResultColumn).section(QLatin1Char('\n'), 1).mid(1).chopped(1);
+  const NetMetaData::Attribute *attribute = isPropertyMode() ? m_net.metaData()->anyAttribute(m_chosenProperty) : nullptr;
+  if (attribute != nullptr && !attribute->storedUnit.isEmpty())
+    title += QStringLiteral(" [%1]").arg(Units::written(attribute->storedUnit));
+  m_plot->show(title, values, usesSelection ? tr("the selected rows") : tr("the shown rows"));
 }

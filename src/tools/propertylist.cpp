@@ -28,7 +28,7 @@ QString PropertyList::groupOf(const element &shown, const QString &type, const Q
   if (isSubnet(type)) {
     if (property.compare(QLatin1String("subassemblies"), Qt::CaseInsensitive) == 0 ||
         (property.compare(QLatin1String("type"), Qt::CaseInsensitive) != 0 &&
-         NetworkSearch::neverSearched().contains(property, Qt::CaseInsensitive)) ||
+         SearchedProperties::never().contains(property, Qt::CaseInsensitive)) ||
         isCompanion(property))
       return QString();
     const PropertyText *group = shown.find(property + QStringLiteral(".cat"));

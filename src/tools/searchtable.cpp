@@ -1,3 +1,4 @@
+#include <tools/csvfield.h>
 #include <tools/searchtable.h>
 
 #include <QTextStream>
@@ -5,10 +6,6 @@
 namespace {
 
 constexpr int ValueColumn = 3;
-
-QString quoted(const QString &text) {
-  return QLatin1Char('"') + text + QStringLiteral("\";");
-}
 
 } // namespace
 
@@ -26,18 +23,14 @@ bool SearchTable::write(QIODevice &device, const SearchParams &params, const std
                                                       {QStringLiteral("PropertyRestriction:"), params.prop},
                                                       {QStringLiteral("FormulaString:"), params.formula}};
   for (const auto &[label, text] : restrictions)
-    stream << label << ';' << quoted(text) << '\n';
+    stream << label << ";\"" << text << "\";\n"; // quotes inside are not doubled here
   stream << '\n';
   for (const QString &header : headers())
-    stream << quoted(header);
+    stream << CsvField::quoted(header);
   stream << '\n';
   for (const QStringList &row : rows) {
-    for (int column = 0; column < row.size(); ++column) {
-      QString text = QString(row.at(column)).replace(QLatin1Char('"'), QStringLiteral("\"\""));
-      if (useComma && column == ValueColumn)
-        text.replace(QLatin1Char('.'), QLatin1Char(','));
-      stream << quoted(text);
-    }
+    for (int column = 0; column < row.size(); ++column)
+      stream << CsvField::quoted(CsvField::value(row.at(column), useComma && column == ValueColumn));
     stream << '\n';
   }
   stream.flush();

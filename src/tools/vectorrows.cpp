@@ -1,4 +1,4 @@
-#include <tools/networksearch.h>
+#include <tools/csvfield.h>
 #include <tools/vectorrows.h>
 
 #include <QTextStream>
@@ -7,12 +7,7 @@
 
 namespace {
 
-enum Pattern { NamePattern, TypePattern, PropertyPattern, ValuePattern };
 constexpr int ValueColumn = 3;
-
-bool matches(const QRegularExpression &pattern, const QString &text) {
-  return pattern.pattern().isEmpty() || (pattern.isValid() && pattern.match(text).hasMatch());
-}
 
 } // namespace
 
@@ -22,14 +17,15 @@ QString VectorRows::padded(int number) {
 }
 
 std::vector<VectorRows::Row> VectorRows::build(const Request &request) {
-  m_patterns.clear();
   m_formula.reset();
+  m_display.emplace(*m_net.metaData());
   const CategoryRecord category = request.usesProperty ? CategoryRecord() : request.category;
   const QString value = category.formula.isEmpty() ? category.value : category.formula;
   const bool isFormula = value.contains(QLatin1Char('@'));
-  for (const QString &text : {category.name, category.type, category.prop, isFormula ? QString() : value})
-    m_patterns.emplace_back(text.isEmpty() ? text : QStringLiteral("(*LIMIT_MATCH=200000)") + text,
-                            QRegularExpression::CaseInsensitiveOption);
+  m_name = Pattern(category.name);
+  m_type = Pattern(category.type);
+  m_properties = SearchedProperties(category.prop);
+  m_value = Pattern(isFormula ? QString() : value);
   m_allHaveUnits = true;
   std::vector<Row> rows;
   try {
@@ -54,11 +50,9 @@ std::vector<VectorRows::Row> VectorRows::build(const Request &request) {
 bool VectorRows::result(const element &e, const Property &property, const Request &request, QString &text) {
   text = property.value.toString();
   if (request.usesProperty)
-    return property.key.name() == request.property;
-  if (!matches(m_patterns[PropertyPattern], property.key.name()))
-    return false;
+    return true;
   if (!m_formula)
-    return matches(m_patterns[ValuePattern], text);
+    return m_value.matches(text);
   try {
     text = m_formula->evaluate(e).text;
     return true;
@@ -70,21 +64,28 @@ bool VectorRows::result(const element &e, const Property &property, const Reques
 void VectorRows::addRows(const element &e, const Request &request, std::vector<Row> &rows) {
   static const PropertyKey nameKey = PropertyKey::intern("name");
   static const PropertyKey typeKey = PropertyKey::intern("type");
+  const PropertyKey chosen = PropertyKey::find(request.property);
   const QString name = e.value(nameKey);
   const QString type = e.value(typeKey);
-  if (!matches(m_patterns[NamePattern], name) || !matches(m_patterns[TypePattern], type))
+  if (!m_name.matches(name) || !m_type.matches(type))
     return;
   for (const Property &property : e) {
-    const bool isNever =
-        property.key != typeKey && NetworkSearch::neverSearched().contains(property.key.name(), Qt::CaseInsensitive);
-    QString text;
-    if (isNever || !result(e, property, request, text) || (request.onlyNonZero && text.toDouble() == 0.0))
+    if (!m_properties.contains(property.key))
       continue;
-    const DisplayValue::Shown shown = m_display.of(type, property.key, property.value);
+    if (request.usesProperty && (property.key != chosen || property.key.name() != request.property))
+      continue;
+    QString text;
+    if (!result(e, property, request, text) || (request.onlyNonZero && text.toDouble() == 0.0))
+      continue;
+    const DisplayValue::Shown shown = m_display->of(type, property.key, property.value);
     m_allHaveUnits = m_allHaveUnits && !shown.unit.isEmpty();
     rows.push_back(
         {name, type, property.key.name(), shown.value, shown.unit, text, padded(static_cast<int>(rows.size()) + 1)});
   }
+}
+
+void VectorRows::sortByName(std::vector<Row> &rows) {
+  std::stable_sort(rows.begin(), rows.end(), [](const Row &a, const Row &b) { return a.name < b.name; });
 }
 
 void VectorRows::sortNumerically(std::vector<Row> &rows) {
@@ -105,16 +106,12 @@ void VectorRows::sortNumerically(std::vector<Row> &rows) {
 bool VectorRows::write(QIODevice &device, const QStringList &headers, const std::vector<QStringList> &rows, bool useComma) {
   QTextStream stream(&device);
   stream.setCodec("UTF-8");
-  const auto put = [&stream](QString text) {
-    stream << '"' << text.replace(QLatin1Char('"'), QStringLiteral("\"\"")) << "\";";
-  };
   for (const QString &header : headers)
-    stream << '"' << QString(header).replace(QLatin1Char('\n'), QLatin1Char(' ')) << "\";";
+    stream << CsvField::quoted(QString(header).replace(QLatin1Char('\n'), QLatin1Char(' ')));
   stream << '\n';
   for (const QStringList &row : rows) {
     for (int column = 0; column < row.size(); ++column)
-      put(useComma && column == ValueColumn ? QString(row.at(column)).replace(QLatin1Char('.'), QLatin1Char(','))
-                                            : row.at(column));
+      stream << CsvField::quoted(CsvField::value(row.at(column), useComma && column == ValueColumn));
     stream << '\n';
   }
   stream.flush();

@@ -41,6 +41,7 @@ class TestProgram : public QObject {
 private slots:
   void answersWithoutAWorkspace();
   void infoCounts();
+  void formulasAreComputed();
   void picture_data();
   void picture();
   void pictureByOtherFunctions();
@@ -79,6 +80,21 @@ void TestProgram::infoCounts() {
   for (const char *stage : {"read", "check", "formulas", "draw"})
     QVERIFY2(info[QStringLiteral("seconds")].toObject().contains(QLatin1String(stage)), stage);
   QVERIFY(info[QStringLiteral("peakMemoryMB")].toDouble() > 1.0);
+}
+
+void TestProgram::formulasAreComputed() {
+  const WorkspaceFixture workspace;
+  workspace.write(QStringLiteral("CASE/a.formulas"), "dp(p) = p@node1@ELE - p@node2@ELE\n[results]\ntwice(p) = 2 * dp\n");
+  workspace.write(QStringLiteral("CASE/S1/b.constraints"), "dp(p) in .. 1 \"drop\"\nqset(n) in 0 ..\nnot a line\n");
+  const auto ask = [&](const QString &file) {
+    return run({QStringLiteral("--info"), file}, m_data.path()).info();
+  };
+  const QJsonObject with = ask(workspace.scenario());
+  QCOMPARE(with[QStringLiteral("properties")].toInt(), 27 + 2 + 2); // dp, twice; CB_info of P1 and A
+  const QString warnings = with[QStringLiteral("warnings")].toVariant().toStringList().join(QLatin1Char('\n'));
+  QVERIFY2(warnings.contains(QStringLiteral("b.constraints:3")), qPrintable(warnings));
+  QVERIFY2(warnings.contains(QStringLiteral("2 bounds are violated")), qPrintable(warnings));
+  QCOMPARE(ask(workspace.geometry())[QStringLiteral("properties")].toInt(), 26 + 1); // no scenario, no results
 }
 
 void TestProgram::picture_data() {

@@ -6,8 +6,10 @@
 #include <io/nivraworkspace.h>
 #include <model/consistencycheck.h>
 #include <model/netdata.h>
+#include <tools/findinglist.h>
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <utility>
@@ -18,12 +20,6 @@ class NetworkLoader {
 public:
   /// Seconds by stage, in the order of the stages.
   using Seconds = QVector<std::pair<QString, double>>;
-
-  /// What one stage noticed.
-  struct Noticed {
-    QString stage; ///< for a person
-    Findings findings;
-  };
 
   explicit NetworkLoader(NetData &net)
       : m_net(net)
@@ -50,9 +46,10 @@ public:
   const QString &checkFindings() const { return m_checkFindings; }
   const ConsistencyCheck::PruneResult &removed() const { return m_removed; }
   /// Everything that the stages noticed, in their order.
-  const std::vector<Noticed> &noticed() const { return m_noticed; }
-  NetworkFormulas &formulas() { return m_formulas; }
+  const std::vector<FindingList::Group> &noticed() const { return m_noticed; }
   const NetworkFormulas &formulas() const { return m_formulas; }
+  /// After a property of elements has changed: what depends on it.
+  void computeAgain(const QStringList &names, const QString &property);
   const Seconds &seconds() const { return m_seconds; }
   bool wasCancelled() const { return m_cancelled; }
   QString error() const { return m_error; } ///< why the last step failed, for a person
@@ -60,6 +57,7 @@ public:
 private:
   bool computeFormulas(const Progress &progress);
   void notice(const QString &stage, Findings findings);
+  void noticeViolations();
 
   NetData &m_net;
   NetworkFormulas m_formulas;
@@ -67,7 +65,7 @@ private:
   NivraGasParams m_gasParams;
   QString m_checkFindings;
   ConsistencyCheck::PruneResult m_removed;
-  std::vector<Noticed> m_noticed;
+  std::vector<FindingList::Group> m_noticed;
   Seconds m_seconds;
   QString m_error;
   bool m_cancelled = false;

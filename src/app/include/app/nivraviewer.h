@@ -37,6 +37,7 @@ public slots:
   void on_actionAboutNivra_triggered();
   void on_actionElement_Table_triggered();
   void on_actionExit_triggered();
+  void on_actionHelp_triggered();
   void on_actionMetadataTable_triggered();
   void on_actionOpen_triggered();
 
@@ -53,6 +54,7 @@ private:
   void fillViewMenu();
   void setCurrentElement(const QString &name);
   void showSelection();
+  void computeAgain(const QStringList &names, const QString &property);
   void showTitle();
   void setBusy(bool busy);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <model/netdata.h>
+#include <tools/findinglist.h>
 #include <tools/nivraeleinfowidget.h>
 
 #include <QList>
@@ -8,8 +9,10 @@
 
 #include <memory>
 
+class HelpWindow;
 class MetaDataTable;
 class NetVisControl;
+class NivraFindings;
 class NivraNetLayersEditor;
 class NivraNetObjectCats;
 class NivraPropViewer;
@@ -18,6 +21,7 @@ class NivraVecTable;
 class NivraWorkspace;
 class QDockWidget;
 class QMainWindow;
+class QToolButton;
 class viewFuncDialog;
 
 /// The docks around the drawing and what connects them with it. Each is made with the first workspace and used again.
@@ -38,9 +42,15 @@ public:
   /// As showElement(), in docks that come to the front.
   void showInfo(const QString &name);
   void showDrawConfiguration();
+  /// The page of the guide about a tool.
+  void showHelp(const QString &page);
+  void setFindings(const std::vector<FindingList::Group> &groups);
+  /// Says how many there are, and brings them; hidden while there are none.
+  QToolButton *findingsButton() const { return m_findingsButton; }
 
 signals:
   void elementMarked(const QString &name); ///< in one of the tools
+  void propertyChanged(const QStringList &names, const QString &property);
 
 private:
   QDockWidget *addDock(QDockWidget *dock, const QString &name, Qt::DockWidgetArea area);
@@ -60,10 +70,13 @@ private:
   viewFuncDialog *m_draw = nullptr;
   NivraEleInfoWidget *m_info = nullptr;
   NivraPropViewer *m_propViewer = nullptr;
+  NivraFindings *m_findings = nullptr;
+  QToolButton *m_findingsButton;
   NivraSearch *m_search = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;
   NivraNetObjectCats *m_categories = nullptr;
   std::unique_ptr<NivraVecTable> m_vectorTable; ///< windows of their own, made when they are asked for
   std::unique_ptr<MetaDataTable> m_metaData;
+  std::unique_ptr<HelpWindow> m_help;
   QString m_directory; ///< of the case
 };

@@ -15,11 +15,6 @@ public:
     PropertyKey property;
   };
 
-  struct Outcome {
-    Findings failures;   ///< formulas that some elements got no value from, though they have all that they need
-    Findings violations; ///< of constraints, one an element and constraint
-  };
-
   explicit NetworkFormulas(NetData &net);
   ~NetworkFormulas();
 
@@ -31,10 +26,13 @@ public:
   int size() const;
 
   /// Computes everything. Where a formula has no value, for want of one that it needs, the element keeps its own. Elements
-  /// that violate constraints get the property "CB_info", "(first;second;)". \param progress false stops
-  Outcome apply(const Progress &progress = Progress());
+  /// that violate constraints get the property "CB_info", "(first;second;)". Returns a finding for each formula that some
+  /// elements got no value from, though they have all that it needs. \param progress false stops
+  Findings apply(const Progress &progress = Progress());
   /// After elements have changed: computes what depends on the changes, and nothing else.
-  Outcome update(const std::vector<Change> &changes);
+  Findings update(const std::vector<Change> &changes);
+  /// Of constraints as they stand now, one an element and constraint, by name of the element.
+  Findings violations() const;
   /// By the last apply() or update(), for those who watch the cost.
   int evaluations() const;
 

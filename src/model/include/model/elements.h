@@ -39,6 +39,9 @@ public:
   /// The entry rather than its element, for the spelling of the name.
   const Entry *findEntry(std::string_view utf8) const;
 
+  /// In name order, those whose names begin with the text, regardless of case; at most so many.
+  std::vector<const Entry *> beginningWith(const QString &text, std::size_t most) const;
+
   /// Checked lookup; throws elements_out_of_range.
   element &at(const QString &id) const;
   /// Throws elements_insert_exception when the name exists.

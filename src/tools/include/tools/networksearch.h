@@ -1,11 +1,10 @@
 #pragma once
 
+#include <base/pattern.h>
 #include <formulas/formula.h>
 #include <model/netdata.h>
 #include <tools/displayvalue.h>
 #include <tools/searchparams.h>
-
-#include <QRegularExpression>
 
 #include <memory>
 #include <optional>
@@ -18,6 +17,22 @@ struct SearchRow {
   QString property;
   QString value; ///< in the display unit
   QString unit;
+};
+
+/// The properties that a search looks at, asked once a name rather than once an element.
+class SearchedProperties {
+public:
+  explicit SearchedProperties(const QString &pattern = QString())
+      : m_pattern(pattern) {}
+
+  bool contains(PropertyKey key);
+
+  /// Never searched, save for "type", which stands among them.
+  static const QStringList &never();
+
+private:
+  Pattern m_pattern;
+  std::vector<signed char> m_known; ///< by number of the spelling: -1 unknown, else the answer
 };
 
 /// The search for properties of elements, without a window. Elements with a row are marked by "isSearchResult".
@@ -36,34 +51,18 @@ public:
   /// The rows of one element, which is marked or unmarked. Throws FormulaError.
   std::vector<SearchRow> search(element &candidate);
 
-  /// Properties that are never searched; "type", which stands among them, is all the same.
-  static const QStringList &neverSearched();
-
 private:
-  class Pattern {
-  public:
-    explicit Pattern(const QString &text);
-    bool matches(const QString &text) const;
-    bool matchesAll() const { return m_matchesAll; }
-
-  private:
-    QRegularExpression m_expression;
-    bool m_matchesAll;
-  };
-
   bool matchesName(const QString &name) const;
   bool matchesType(const QString &type);
-  bool matchesProperty(PropertyKey key);
   bool satisfiesFormula(const element &candidate);
 
   NetData &m_net;
   SearchParams m_params;
   Pattern m_name;
   Pattern m_type;
-  Pattern m_property;
+  SearchedProperties m_properties;
   Pattern m_value;
   std::optional<Formula> m_formula;
   DisplayValue m_display;
-  QHash<QString, bool> m_types;          ///< type -> whether it matches
-  std::vector<signed char> m_properties; ///< by number of the spelling: -1 unknown, else whether it matches
+  QHash<QString, bool> m_types; ///< type -> whether it matches
 };

@@ -32,6 +32,7 @@ signals:
   void itemDoubleClicked(const QString &eleName);
   void itemClicked(const QString &eleName);
   void selectionChanged();
+  void propertyChanged(const QStringList &names, const QString &property); ///< elements came into a layer or left one
 
 public slots:
   void on_tableWidget_itemClicked(QTableWidgetItem *item);

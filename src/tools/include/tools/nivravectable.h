@@ -8,7 +8,8 @@
 #include <memory>
 
 class QTableWidgetItem;
-class QwtPlot;
+class TableMenu;
+class VectorPlot;
 
 namespace Ui {
 class NivraVecTable;
@@ -30,6 +31,7 @@ public:
 signals:
   void elementMarked(const QString &elName);
   void netChanged();
+  void helpWanted(const QString &page);
 
 public slots:
   void on_updateCats(const CatMap &catDataInput);
@@ -46,14 +48,16 @@ public slots:
   void on_checkBoxUseSel_toggled(bool checked);
   void on_tableWidget_itemClicked(QTableWidgetItem *item);
   void on_actionCopy_selectedItems_triggered();
+  void on_actionHelp_triggered();
   void on_closePlotButton_clicked();
   void on_NivraVecTable_currentChanged(int index);
 
 private:
   bool isPropertyMode() const;
   QStringList headers() const;
-  void showRows(const std::vector<VectorRows::Row> &rows);
-  void sortNumerically();
+  void showRows(const std::vector<VectorRows::Row> &rows, int sortedBy);
+  void sortNumerically(std::vector<VectorRows::Row> &rows);
+  void showCount();
   std::vector<QStringList> texts() const;
 
   std::unique_ptr<Ui::NivraVecTable> m_ui;
@@ -64,5 +68,6 @@ private:
   QString m_chosenProperty;
   QString m_directory;
   bool m_isUpdating = false;
-  QwtPlot *m_plot;
+  VectorPlot *m_plot;
+  TableMenu *m_menu = nullptr;
 };

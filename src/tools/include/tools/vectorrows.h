@@ -4,9 +4,9 @@
 #include <model/netdata.h>
 #include <tools/category.h>
 #include <tools/displayvalue.h>
+#include <tools/networksearch.h>
 
 #include <QIODevice>
-#include <QRegularExpression>
 
 #include <vector>
 
@@ -31,8 +31,7 @@ public:
   };
 
   explicit VectorRows(NetData &net)
-      : m_net(net)
-      , m_display(*net.metaData()) {}
+      : m_net(net) {}
 
   std::vector<Row> build(const Request &request);
   /// Every listed property has a unit, so that the values can be ordered as numbers.
@@ -40,6 +39,7 @@ public:
 
   /// By the number of the value; what is no number comes last and is marked "x". The rank stands in numsort.
   static void sortNumerically(std::vector<Row> &rows);
+  static void sortByName(std::vector<Row> &rows);
   static QString padded(int number); ///< right-aligned in nine characters
   static bool write(QIODevice &device, const QStringList &headers, const std::vector<QStringList> &rows, bool useComma);
 
@@ -48,8 +48,11 @@ private:
   bool result(const element &e, const Property &property, const Request &request, QString &text);
 
   NetData &m_net;
-  DisplayValue m_display;
-  std::vector<QRegularExpression> m_patterns; ///< name, type, property, value
+  std::optional<DisplayValue> m_display; ///< of the vocabulary that the network has when rows are built
+  Pattern m_name;
+  Pattern m_type;
+  Pattern m_value;
+  SearchedProperties m_properties;
   std::optional<Formula> m_formula;
   bool m_allHaveUnits = false;
 };

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QMap>
+#include <QObject>
+#include <QString>
+
+class QAbstractItemView;
+class QHeaderView;
+class QItemSelectionModel;
+
+/// What a person asks of the texts of a column: "> 10", "<= 3", "= open", "!= 0" compare, as numbers where both are; any
+/// other text must be part of the cell's, regardless of case.
+class CellFilter {
+public:
+  explicit CellFilter(const QString &text = QString());
+  bool passes(const QString &cell) const;
+
+private:
+  QString m_operator;
+  QString m_text;
+  double m_number = 0.0;
+  bool m_isNumber = false;
+};
+
+/// What every table offers: columns that can be moved, hidden and filtered by the menu of their header, and Ctrl+C. Belongs
+/// to the view, which must be a table or a flat tree.
+class TableMenu : public QObject {
+  Q_OBJECT
+public:
+  explicit TableMenu(QAbstractItemView &view);
+
+  /// \param text empty for no filter
+  void setFilter(int column, const QString &text);
+  QString filter(int column) const { return m_filters.value(column); }
+  /// Hides and shows rows anew, after they have been filled or sorted.
+  void apply();
+  int shownRows() const;
+
+  /// The cells as a spreadsheet takes them: tabulators between columns, line breaks between rows; texts with either or with
+  /// quotes stand in quotes.
+  static QString cellTexts(const QItemSelectionModel &selection);
+
+  /// Ctrl+C, unless the view has an action for it.
+  static void offerCopy(QAbstractItemView &view);
+
+signals:
+  void filtered(); ///< other rows are shown
+
+private:
+  void showMenu(const QPoint &position);
+  void askForFilter(int column);
+  void hideRow(int row, bool hidden);
+  bool isHidden(int row) const;
+  void markHeader(int column);
+
+  QAbstractItemView &m_view;
+  QHeaderView *m_header;
+  QMap<int, QString> m_filters; ///< by column, none of them empty
+};

@@ -1,0 +1,198 @@
+#include <tools/tablemenu.h>
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QInputDialog>
+#include <QMenu>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QTableView>
+#include <QTreeView>
+
+#include <algorithm>
+
+namespace {
+
+QIcon funnel() {
+  constexpr int Side = 16;
+  QPixmap picture(Side, Side);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(QColor(196, 98, 16));
+  painter.setPen(Qt::NoPen);
+  painter.drawPolygon(QPolygon({{1, 2}, {15, 2}, {10, 8}, {10, 14}, {6, 12}, {6, 8}}));
+  return {picture};
+}
+
+} // namespace
+
+CellFilter::CellFilter(const QString &text) {
+  static const QRegularExpression comparison(QStringLiteral("^\\s*(<=|>=|!=|<|>|=)\\s*(.*?)\\s*$"));
+  const QRegularExpressionMatch match = comparison.match(text);
+  m_operator = match.captured(1);
+  m_text = match.hasMatch() ? match.captured(2) : text;
+  m_number = m_text.toDouble(&m_isNumber);
+}
+
+bool CellFilter::passes(const QString &cell) const {
+  if (m_operator.isEmpty())
+    return cell.contains(m_text, Qt::CaseInsensitive);
+  bool isNumber = false;
+  const double number = cell.toDouble(&isNumber);
+  int order = 0; // of the cell, seen from what is asked
+  if (isNumber && m_isNumber)
+    order = number < m_number ? -1 : number > m_number ? 1 : 0;
+  else if (m_isNumber && m_operator != QLatin1String("!="))
+    return false; // a text is neither more nor less than a number
+  else
+    order = QString::compare(cell, m_text, Qt::CaseInsensitive);
+  if (m_operator == QLatin1String("="))
+    return order == 0;
+  if (m_operator == QLatin1String("!="))
+    return order != 0;
+  if (order == 0)
+    return m_operator.endsWith(QLatin1Char('='));
+  return m_operator.startsWith(QLatin1Char('<')) == (order < 0);
+}
+
+TableMenu::TableMenu(QAbstractItemView &view)
+    : QObject(&view)
+    , m_view(view) {
+  auto *table = qobject_cast<QTableView *>(&view);
+  m_header = table != nullptr ? table->horizontalHeader() : qobject_cast<QTreeView *>(&view)->header();
+  m_header->setSectionsMovable(true);
+  m_header->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(m_header, &QHeaderView::customContextMenuRequested, this, &TableMenu::showMenu);
+  // Sorting moves the rows but not which are hidden; the view sorts before a queued call comes.
+  connect(m_header, &QHeaderView::sortIndicatorChanged, this, &TableMenu::apply, Qt::QueuedConnection);
+  offerCopy(view);
+}
+
+void TableMenu::offerCopy(QAbstractItemView &view) {
+  for (const QAction *action : view.actions()) {
+    if (action->shortcut() == QKeySequence(QKeySequence::Copy))
+      return; // the view has one of its own
+  }
+  auto *copy = new QAction(tr("Copy"), &view);
+  copy->setShortcut(QKeySequence::Copy);
+  copy->setShortcutContext(Qt::WidgetShortcut);
+  connect(copy, &QAction::triggered, &view,
+          [&view] { QApplication::clipboard()->setText(cellTexts(*view.selectionModel())); });
+  view.addAction(copy);
+  if (view.contextMenuPolicy() == Qt::DefaultContextMenu)
+    view.setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+QString TableMenu::cellTexts(const QItemSelectionModel &selection) {
+  QModelIndexList cells = selection.selectedIndexes();
+  std::sort(cells.begin(), cells.end(), [](const QModelIndex &a, const QModelIndex &b) {
+    return a.parent() == b.parent() ? a < b : a.parent() < b.parent();
+  });
+  QString text;
+  QModelIndex before;
+  for (const QModelIndex &cell : qAsConst(cells)) {
+    if (before.isValid())
+      text += cell.row() == before.row() && cell.parent() == before.parent() ? QLatin1Char('\t') : QLatin1Char('\n');
+    before = cell;
+    QString part = cell.data().toString();
+    static const QRegularExpression special(QStringLiteral("[\t\r\n\"]"));
+    if (part.contains(special))
+      part = QLatin1Char('"') + part.replace(QLatin1Char('"'), QStringLiteral("\"\"")) + QLatin1Char('"');
+    text += part;
+  }
+  return text;
+}
+
+void TableMenu::showMenu(const QPoint &position) {
+  const int column = m_header->logicalIndexAt(position);
+  QMenu menu;
+  if (column >= 0) {
+    connect(menu.addAction(tr("Filter …")), &QAction::triggered, this, [this, column] { askForFilter(column); });
+    connect(menu.addAction(tr("Hide column")), &QAction::triggered, this,
+            [this, column] { m_header->setSectionHidden(column, true); });
+  }
+  QAction *none = menu.addAction(tr("Show all rows"));
+  none->setEnabled(!m_filters.isEmpty());
+  connect(none, &QAction::triggered, this, [this] {
+    for (const int filteredColumn : m_filters.keys())
+      setFilter(filteredColumn, QString());
+  });
+  QAction *all = menu.addAction(tr("Show all columns"));
+  all->setEnabled(m_header->hiddenSectionCount() > 0);
+  connect(all, &QAction::triggered, this, [this] {
+    for (int i = 0; i < m_header->count(); ++i)
+      m_header->setSectionHidden(i, false);
+  });
+  menu.exec(m_header->viewport()->mapToGlobal(position));
+}
+
+void TableMenu::askForFilter(int column) {
+  bool isTaken = false;
+  const QString title = m_view.model()->headerData(column, Qt::Horizontal).toString().section(QLatin1Char('\n'), 0, 0);
+  const QString text = QInputDialog::getText(
+      &m_view, tr("Filter"), tr("Show rows whose \"%1\" contains a text,\nor compares: > 10, <= 3, = open, != 0").arg(title),
+      QLineEdit::Normal, filter(column), &isTaken);
+  if (isTaken)
+    setFilter(column, text.trimmed());
+}
+
+void TableMenu::setFilter(int column, const QString &text) {
+  if (text.isEmpty())
+    m_filters.remove(column);
+  else
+    m_filters.insert(column, text);
+  markHeader(column);
+  apply();
+}
+
+/// A filtered column shows it, so that nobody misses rows without knowing why.
+void TableMenu::markHeader(int column) {
+  QAbstractItemModel *model = m_view.model();
+  const QString text = filter(column);
+  model->setHeaderData(column, Qt::Horizontal, text.isEmpty() ? QVariant() : funnel(), Qt::DecorationRole);
+  model->setHeaderData(column, Qt::Horizontal, text.isEmpty() ? QString() : tr("Filter: %1").arg(text), Qt::ToolTipRole);
+}
+
+void TableMenu::apply() {
+  const QAbstractItemModel &model = *m_view.model();
+  QMap<int, CellFilter> filters;
+  for (auto it = m_filters.cbegin(); it != m_filters.cend(); ++it)
+    filters.insert(it.key(), CellFilter(it.value()));
+  bool hasChanged = false;
+  for (int row = 0; row < model.rowCount(); ++row) {
+    bool isShown = true;
+    for (auto it = filters.cbegin(); it != filters.cend() && isShown; ++it)
+      isShown = it->passes(model.index(row, it.key()).data().toString());
+    if (isShown == isHidden(row)) {
+      hideRow(row, !isShown);
+      hasChanged = true;
+    }
+  }
+  if (hasChanged)
+    emit filtered();
+}
+
+int TableMenu::shownRows() const {
+  int count = 0;
+  for (int row = 0; row < m_view.model()->rowCount(); ++row)
+    count += isHidden(row) ? 0 : 1;
+  return count;
+}
+
+void TableMenu::hideRow(int row, bool hidden) {
+  if (auto *table = qobject_cast<QTableView *>(&m_view))
+    table->setRowHidden(row, hidden);
+  else if (auto *tree = qobject_cast<QTreeView *>(&m_view))
+    tree->setRowHidden(row, QModelIndex(), hidden);
+}
+
+bool TableMenu::isHidden(int row) const {
+  if (const auto *table = qobject_cast<const QTableView *>(&m_view))
+    return table->isRowHidden(row);
+  const auto *tree = qobject_cast<const QTreeView *>(&m_view);
+  return tree != nullptr && tree->isRowHidden(row, QModelIndex());
+}

@@ -1,0 +1,118 @@
+#include <tools/valuestatistics.h>
+#include <tools/vectorplot.h>
+
+#include <QLabel>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <qwt_plot.h>
+#include <qwt_plot_curve.h>
+#include <qwt_plot_grid.h>
+#include <qwt_plot_histogram.h>
+#include <qwt_plot_layout.h>
+#include <qwt_plot_marker.h>
+
+namespace {
+
+const QColor Blue(31, 93, 138);
+const QColor PaleBlue(150, 188, 217);
+const QColor Orange(196, 98, 16);
+
+QwtPlot *makePlot() {
+  auto *plot = new QwtPlot;
+  plot->setCanvasBackground(Qt::white);
+  plot->plotLayout()->setAlignCanvasToScales(true);
+  auto *grid = new QwtPlotGrid;
+  grid->setMajorPen(Qt::lightGray, 0.0, Qt::DotLine);
+  grid->attach(plot);
+  plot->setMinimumHeight(120);
+  return plot;
+}
+
+QString shown(double number) {
+  constexpr int Digits = 5;
+  return QString::number(number, 'g', Digits);
+}
+
+void mark(QwtPlot &plot, double x, const QString &text, const QColor &color, Qt::PenStyle style, Qt::Alignment alignment) {
+  auto *marker = new QwtPlotMarker;
+  marker->setLineStyle(QwtPlotMarker::VLine);
+  marker->setLinePen(color, 1.5, style);
+  marker->setXValue(x);
+  QwtText label(text);
+  label.setColor(color);
+  label.setBackgroundBrush(QColor(255, 255, 255, 200));
+  marker->setLabel(label);
+  marker->setLabelAlignment(alignment);
+  marker->attach(&plot);
+}
+
+} // namespace
+
+VectorPlot::VectorPlot(QWidget *parent)
+    : QWidget(parent)
+    , m_rows(makePlot())
+    , m_histogram(makePlot())
+    , m_summary(new QLabel) {
+  auto *splitter = new QSplitter(Qt::Vertical);
+  splitter->addWidget(m_rows);
+  splitter->addWidget(m_histogram);
+  auto *column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(splitter, 1);
+  column->addWidget(m_summary);
+  m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  m_summary->setWordWrap(true);
+  m_rows->setAxisTitle(QwtPlot::xBottom, tr("row"));
+  m_histogram->setAxisTitle(QwtPlot::yLeft, tr("number"));
+}
+
+void VectorPlot::show(const QString &title, const std::vector<std::pair<int, double>> &values, const QString &ofWhat) {
+  for (QwtPlot *plot : {m_rows, m_histogram}) {
+    plot->detachItems(QwtPlotItem::Rtti_PlotCurve);
+    plot->detachItems(QwtPlotItem::Rtti_PlotHistogram);
+    plot->detachItems(QwtPlotItem::Rtti_PlotMarker);
+  }
+  m_rows->setAxisTitle(QwtPlot::yLeft, title);
+  m_histogram->setAxisTitle(QwtPlot::xBottom, title);
+  QVector<QPointF> points;
+  std::vector<double> numbers;
+  for (const auto &[row, number] : values) {
+    points.append(QPointF(row, number));
+    numbers.push_back(number);
+  }
+  const ValueStatistics statistics(std::move(numbers));
+  if (statistics.count == 0) {
+    m_summary->setText(tr("There are no numbers in %1.").arg(ofWhat));
+  } else {
+    auto *curve = new QwtPlotCurve;
+    curve->setSamples(points);
+    curve->setPen(Blue, 1.5);
+    curve->setRenderHint(QwtPlotItem::RenderAntialiased, points.size() < 10000);
+    curve->attach(m_rows);
+    auto *histogram = new QwtPlotHistogram;
+    QVector<QwtIntervalSample> samples;
+    for (const ValueStatistics::Bin &bin : statistics.bins) {
+      const bool isPoint = bin.to <= bin.from; // one number only: a bar that can be seen
+      samples.append(QwtIntervalSample(bin.count, isPoint ? bin.from - 0.5 : bin.from, isPoint ? bin.to + 0.5 : bin.to));
+    }
+    histogram->setSamples(samples);
+    histogram->setBrush(PaleBlue);
+    histogram->setPen(Blue, 1.0);
+    histogram->attach(m_histogram);
+    if (statistics.maximum > statistics.minimum) {
+      mark(*m_histogram, statistics.quantile(0.05), tr("5 %"), Blue, Qt::DashLine, Qt::AlignRight | Qt::AlignTop);
+      mark(*m_histogram, statistics.quantile(0.95), tr("95 %"), Blue, Qt::DashLine, Qt::AlignRight | Qt::AlignTop);
+      mark(*m_histogram, statistics.quantile(0.5), tr("median"), Blue, Qt::SolidLine, Qt::AlignLeft | Qt::AlignVCenter);
+      mark(*m_histogram, statistics.mean, tr("mean"), Orange, Qt::SolidLine, Qt::AlignRight | Qt::AlignVCenter);
+    }
+    m_summary->setText(tr("%1 numbers of %2: minimum %3, maximum %4, mean %5, standard deviation %6, "
+                          "quantiles 5 % %7, 25 % %8, 50 % %9, ")
+                           .arg(statistics.count)
+                           .arg(ofWhat, shown(statistics.minimum), shown(statistics.maximum), shown(statistics.mean),
+                                shown(statistics.standardDeviation), shown(statistics.quantile(0.05)),
+                                shown(statistics.quantile(0.25)), shown(statistics.quantile(0.5))) +
+                       tr("75 % %1, 95 % %2").arg(shown(statistics.quantile(0.75)), shown(statistics.quantile(0.95))));
+  }
+  m_rows->replot();
+  m_histogram->replot();
+}
