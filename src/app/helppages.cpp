@@ -29,7 +29,7 @@ HelpPages::HelpPages() {
 void HelpPages::add(const QString &document, const QString &markdown) {
   static const QRegularExpression marker(QStringLiteral("^<!-- page: (.*) -->$"));
   QStringList names;
-  Page page{QString(), document, QString(), {}, QString()};
+  Page page{QString(), document, {}, {}, QString()};
   const auto finish = [&] {
     if (!page.markdown.trimmed().isEmpty())
       m_pages.push_back(page);
@@ -46,11 +46,13 @@ void HelpPages::add(const QString &document, const QString &markdown) {
     if (isTitle || (!isCode && line.startsWith(QStringLiteral("## ")))) {
       finish();
       const QString title = line.section(QLatin1Char(' '), 1);
-      page = {title, document, isTitle ? QString() : anchorOf(title), names, QString()};
+      page = {title, document, {anchorOf(title)}, names, QString()};
       names.clear();
       if (isTitle)
         continue; // a document without text before its first section has no page for the title
     }
+    if (!isCode && line.startsWith(QStringLiteral("### ")))
+      page.anchors.append(anchorOf(line.section(QLatin1Char(' '), 1)));
     page.markdown += line + QLatin1Char('\n');
   }
   finish();
@@ -69,7 +71,8 @@ int HelpPages::follow(const QString &link, const QString &fromDocument) const {
   const QString anchor = link.section(QLatin1Char('#'), 1);
   for (std::size_t i = 0; i < m_pages.size(); ++i) {
     const Page &page = m_pages[i];
-    if (page.document == (document.isEmpty() ? fromDocument : document) && (anchor.isEmpty() || page.anchor == anchor))
+    if (page.document == (document.isEmpty() ? fromDocument : document) &&
+        (anchor.isEmpty() || page.anchors.contains(anchor)))
       return static_cast<int>(i);
   }
   return -1;

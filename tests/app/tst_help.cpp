@@ -21,7 +21,7 @@ void TestHelp::pages() {
   help.add(QStringLiteral("x.md"), QStringLiteral("# Title\n\n## One: two\ntext\n```\n## no heading\n```\n"
                                                   "<!-- page: a b -->\n## Three\nmore\n"));
   QCOMPARE(help.pages().size(), before + 2);
-  QCOMPARE(help.pages()[before].anchor, QStringLiteral("one-two"));
+  QCOMPARE(help.pages()[before].anchors.first(), QStringLiteral("one-two"));
   QVERIFY(help.pages()[before].markdown.contains(QStringLiteral("no heading")));
   QCOMPARE(help.find(QStringLiteral("b")), int(before) + 1);
   QCOMPARE(help.find(QStringLiteral("c")), -1);

@@ -10,9 +10,9 @@ class HelpPages {
 public:
   struct Page {
     QString title;
-    QString document;  ///< file name, such as "user-guide.md"
-    QString anchor;    ///< as links name it, such as "label-table"
-    QStringList names; ///< by which the tools ask for it: "<!-- page: search findings -->" above the heading
+    QString document;    ///< file name, such as "user-guide.md"
+    QStringList anchors; ///< as links name it and its headings below, such as "label-table"
+    QStringList names;   ///< by which the tools ask for it: "<!-- page: search findings -->" above the heading
     QString markdown;
   };
 
