@@ -3,13 +3,18 @@
 #include "measure.h"
 
 #include <formulas/formula.h>
+#include <formulas/networkformulas.h>
 #include <formulas/parserfactory.h>
 #include <io/nivrareader.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
+#include <tools/nivravectable.h>
 
 #include <QApplication>
+#include <QBuffer>
+#include <QComboBox>
 #include <QRegularExpression>
+#include <QTableWidget>
 #include <QTreeWidget>
 
 #include <benchmark/benchmark.h>
@@ -65,7 +70,7 @@ void searchByFormula(benchmark::State &state) {
     state.counters["rows"] = static_cast<double>(search.run().rows.size());
   }
 }
-BENCHMARK(searchByFormula)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(searchByFormula)->Unit(benchmark::kMillisecond)->Iterations(10);
 
 const QString &pattern() {
   static const QString text = QStringLiteral("7[0-9]*9$");
@@ -122,5 +127,68 @@ void searchPanel(benchmark::State &state) {
   }
 }
 BENCHMARK(searchPanel)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+/// The baseline: as many rows of seven columns put into a table.
+void bareTable(benchmark::State &state) {
+  constexpr int Columns = 7;
+  for (auto _ : state) {
+    QTableWidget table(Hundred, Columns);
+    for (int i = 0; i < Hundred; ++i) {
+      const QString number = QString::number(i);
+      for (int column = 0; column < Columns; ++column)
+        table.setItem(i, column, new QTableWidgetItem(number));
+    }
+    state.PauseTiming();
+    table.clear();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(bareTable)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+/// The vector table with a property of all elements: rows built, filled, sorted and shown.
+void vectorTable(benchmark::State &state) {
+  NivraVecTable table(network());
+  table.show();
+  auto *properties = table.findChild<QComboBox *>(QStringLiteral("comboBoxProp"));
+  properties->setCurrentText(QStringLiteral("name"));
+  for (auto _ : state) {
+    table.on_pushButtonUpdate_clicked();
+    QApplication::processEvents();
+  }
+  state.counters["rows"] = table.findChild<QTableWidget *>()->rowCount();
+}
+BENCHMARK(vectorTable)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+/// So many formulas, each for a tenth of the nodes or pipes, a third of which need the result of the one before.
+void formulaFiles(benchmark::State &state) {
+  const auto count = static_cast<int>(state.range(0));
+  QByteArray lines;
+  for (int i = 0; i < count; ++i)
+    lines += QStringLiteral("f%1(%2: %3$) = %4 + %5\n")
+                 .arg(i % 20)
+                 .arg(i % 2 == 0 ? QStringLiteral("n") : QStringLiteral("p"))
+                 .arg((i / 20) % 100, 2, 10, QLatin1Char('0'))
+                 .arg(i % 2 == 0 ? QStringLiteral("x") : QStringLiteral("length"))
+                 .arg(i % 3 == 0 && i % 20 > 1 ? QStringLiteral("f%1").arg(i % 20 - 2) : QString::number(i))
+                 .toUtf8();
+  QBuffer buffer(&lines);
+  buffer.open(QIODevice::ReadOnly);
+  const std::vector<FormulaDefinition> definitions =
+      FormulaFile::parse(buffer, QStringLiteral("bench"), QString()).definitions;
+  for (auto _ : state) {
+    state.PauseTiming();
+    NetData net = network();
+    state.ResumeTiming();
+    NetworkFormulas formulas(net);
+    formulas.setDefinitions(definitions);
+    formulas.apply();
+    state.counters["evaluations"] = formulas.evaluations();
+    state.counters["formulas"] = formulas.size();
+    state.PauseTiming();
+    net.clear();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(formulaFiles)->Unit(benchmark::kMillisecond)->Iterations(1)->Arg(100)->Arg(1000);
 
 } // namespace

@@ -16,6 +16,9 @@ struct Formula::Engine {
   std::deque<mup::Value> values; ///< one a reference
 
   const PropertyText *resolve(const FormulaReference &reference, const element &current) const;
+  /// Binds the values and lets take() have what the expression yields.
+  template <typename Take>
+  auto evaluate(const element &current, const Take &take);
 };
 
 namespace {
@@ -74,11 +77,12 @@ const PropertyText *Formula::Engine::resolve(const FormulaReference &reference, 
   return at == nullptr ? nullptr : at->find(reference.property);
 }
 
-Formula::Result Formula::evaluate(const element &current) const {
+template <typename Take>
+auto Formula::Engine::evaluate(const element &current, const Take &take) {
   bool lacksValue = false;
-  for (std::size_t i = 0; i < m_engine->references.size(); ++i) {
-    const PropertyText *text = m_engine->resolve(m_engine->references[i], current);
-    mup::Value &value = m_engine->values[i];
+  for (std::size_t i = 0; i < references.size(); ++i) {
+    const PropertyText *text = resolve(references[i], current);
+    mup::Value &value = values[i];
     lacksValue = lacksValue || text == nullptr;
     if (text == nullptr)
       value = ParserFactory::nullText();
@@ -88,7 +92,16 @@ Formula::Result Formula::evaluate(const element &current) const {
       value = mup::string_type(text->utf8());
   }
   try {
-    const mup::IValue &result = m_engine->parser->Eval();
+    return take(parser->Eval());
+  } catch (const mup::ParserError &error) {
+    throw FormulaError(QString::fromStdString(error.GetMsg()), lacksValue);
+  } catch (const std::exception &error) { // the library's matrices throw their own
+    throw FormulaError(QString::fromUtf8(error.what()), lacksValue);
+  }
+}
+
+Formula::Result Formula::evaluate(const element &current) const {
+  return m_engine->evaluate(current, [](const mup::IValue &result) {
     Result found;
     found.text = asResultText(result);
     if (result.GetType() == 'b')
@@ -96,11 +109,13 @@ Formula::Result Formula::evaluate(const element &current) const {
     else if (result.IsNonComplexScalar())
       found.number = result.GetFloat();
     return found;
-  } catch (const mup::ParserError &error) {
-    throw FormulaError(QString::fromStdString(error.GetMsg()), lacksValue);
-  } catch (const std::exception &error) { // the library's matrices throw their own
-    throw FormulaError(QString::fromUtf8(error.what()), lacksValue);
-  }
+  });
+}
+
+bool Formula::accepts(const element &current) const {
+  return m_engine->evaluate(current, [](const mup::IValue &result) {
+    return result.GetType() == 'b' ? result.GetBool() : asResultText(result) != QLatin1String("0");
+  });
 }
 
 QString Formula::escaped(const QString &name) {

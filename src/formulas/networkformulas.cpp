@@ -44,6 +44,44 @@ struct Failures {
   }
 };
 
+/// Elements by type and name. Many formulas are for the same ones, so what was looked for once is kept.
+class ElementFinder {
+public:
+  explicit ElementFinder(const NetData &net)
+      : m_net(net) {}
+
+  /// By address.
+  std::vector<element *> find(const QStringList &types, const QString &namePattern) {
+    std::vector<element *> &found = m_found[{types, namePattern}];
+    if (!found.empty())
+      return found;
+    if (m_byType.isEmpty())
+      sortByType();
+    const Pattern pattern(namePattern);
+    for (const QString &type : types.isEmpty() ? QStringList(m_byType.keys()) : types) {
+      for (const auto &[name, e] : m_byType[type]) {
+        if (pattern.matches(name))
+          found.push_back(e);
+      }
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+  }
+
+private:
+  void sortByType() {
+    static const PropertyKey key = PropertyKey::intern("type");
+    for (const elements *collection : {&m_net.nodes(), &m_net.edges(), &m_net.assembledSubnets(), &m_net.textBoxes()}) {
+      for (const elements::Entry &entry : *collection)
+        m_byType[entry.value.value(key)].emplace_back(entry.name(), &entry.value);
+    }
+  }
+
+  const NetData &m_net;
+  QHash<QString, std::vector<std::pair<QString, element *>>> m_byType;
+  std::map<std::pair<QStringList, QString>, std::vector<element *>> m_found;
+};
+
 } // namespace
 
 struct NetworkFormulas::Computing {
@@ -110,24 +148,11 @@ FormulaRule NetworkFormulas::Computing::parsed(FormulaDefinition definition) {
 }
 
 void NetworkFormulas::Computing::prepare(std::vector<FormulaDefinition> definitions) {
-  QHash<QString, std::vector<std::pair<QString, element *>>> byType;
-  if (!definitions.empty()) {
-    for (elements *collection : net.collections(NetData::AllTypes)) {
-      for (const elements::Entry &entry : *collection)
-        byType[entry.value.value(QStringLiteral("type"))].emplace_back(entry.name(), &entry.value);
-    }
-  }
+  ElementFinder finder(net);
   for (FormulaDefinition &definition : definitions) {
     try {
       FormulaRule rule = parsed(definition);
-      const Pattern pattern(definition.namePattern);
-      for (const QString &type : definition.types.isEmpty() ? byType.keys() : definition.types) {
-        for (const auto &[name, e] : byType[type]) {
-          if (pattern.matches(name))
-            rule.elements.push_back(e);
-        }
-      }
-      std::sort(rule.elements.begin(), rule.elements.end());
+      rule.elements = finder.find(rule.definition.types, rule.definition.namePattern);
       rules.push_back(std::move(rule));
     } catch (const FormulaError &error) {
       findings.push_back(

@@ -1,9 +1,15 @@
 #include <tools/displayvalue.h>
 
 const DisplayValue::Conversion &DisplayValue::find(const QString &type, PropertyKey property) {
-  const QPair<QString, int> key(type, static_cast<int>(property.index()));
-  const auto known = m_conversions.constFind(key);
-  if (known != m_conversions.constEnd())
+  if (m_lastType == nullptr || *m_lastType != type) {
+    auto entry = m_conversions.try_emplace(type).first;
+    m_lastType = &entry->first;
+    m_last = &entry->second;
+  }
+  if (property.index() >= m_last->size())
+    m_last->resize(property.index() + 1);
+  std::optional<Conversion> &known = (*m_last)[property.index()];
+  if (known)
     return *known;
   Conversion found;
   const NetMetaData::Attribute *attribute = m_metaData.attribute(type, property.name());
@@ -16,7 +22,8 @@ const DisplayValue::Conversion &DisplayValue::find(const QString &type, Property
       found.unit = attribute->storedUnit; // shown as stored
     }
   }
-  return *m_conversions.insert(key, found);
+  known = found;
+  return *known;
 }
 
 DisplayValue::Shown DisplayValue::of(const QString &type, PropertyKey property, const PropertyText &text) {

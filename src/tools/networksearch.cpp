@@ -1,10 +1,34 @@
+#include <base/parallel.h>
 #include <tools/networksearch.h>
+
+#include <atomic>
+#include <iterator>
+#include <map>
+#include <mutex>
 
 namespace {
 
 const PropertyKey &resultKey() {
   static const PropertyKey key = PropertyKey::intern("isSearchResult");
   return key;
+}
+
+enum Column { NameColumn, TypeColumn, MarkColumn };
+
+/// Elements lie all over the memory: those to come are fetched while the present one is looked at.
+void fetchAhead(const std::vector<element *> &candidates, std::size_t at) {
+  constexpr std::size_t Elements = 12;
+  constexpr std::size_t Properties = 6;
+  constexpr std::size_t Line = 128;
+  constexpr std::size_t Lines = 4;
+  if (at + Elements >= candidates.size())
+    return;
+  __builtin_prefetch(candidates[at + Elements]);
+  if (candidates[at + Properties]->isEmpty())
+    return;
+  const auto *properties = reinterpret_cast<const char *>(&*candidates[at + Properties]->begin());
+  for (std::size_t i = 0; i < Lines; ++i)
+    __builtin_prefetch(properties + i * Line);
 }
 
 } // namespace
@@ -16,7 +40,10 @@ NetworkSearch::NetworkSearch(NetData &net, SearchParams params)
     , m_type(m_params.type)
     , m_properties(m_params.prop)
     , m_value(m_params.searchString)
-    , m_display(*net.metaData()) {}
+    , m_columns({PropertyKey::intern("name"), PropertyKey::intern("type"), resultKey()})
+    , m_display(*net.metaData()) {
+  m_current.matches = m_type.matches(m_current.text); // no type at all
+}
 
 const QStringList &SearchedProperties::never() {
   static const QStringList keys{
@@ -39,18 +66,61 @@ bool SearchedProperties::contains(PropertyKey key) {
 }
 
 NetworkSearch::Result NetworkSearch::run() {
-  Result result;
-  try {
-    for (elements *collection : m_net.collections(NetData::AllTypes)) {
-      for (const elements::Entry &entry : *collection) {
-        std::vector<SearchRow> rows = search(entry.value);
-        std::move(rows.begin(), rows.end(), std::back_inserter(result.rows));
+  struct Part {
+    std::vector<SearchRow> rows;
+    std::vector<std::size_t> found;  ///< places of the elements with rows and without the mark
+    std::vector<std::size_t> former; ///< of those with the mark and without rows
+    std::size_t searched = 0;        ///< the place behind the last element that was
+    QString error;
+    bool isStopped = false;
+  };
+  std::vector<element *> candidates;
+  m_net.forEach(NetData::AllTypes, [&candidates](element &e) { candidates.push_back(&e); });
+  std::map<std::size_t, Part> parts; // by the place of their first element
+  std::mutex mutex;
+  std::atomic<std::size_t> stoppedAt = candidates.size(); // the first chunk that was, what follows is not searched
+  constexpr std::size_t Chunk = 2000;
+  const auto makeState = [this] { // patterns and formulas remember things, so each thread has its own
+    return NetworkSearch(m_net, m_params);
+  };
+  Parallel::inChunks(candidates.size(), Chunk, makeState, [&](NetworkSearch &search, std::size_t first, std::size_t last) {
+    Part part;
+    std::size_t i = first;
+    try {
+      for (; i < last && first <= stoppedAt; ++i) {
+        fetchAhead(candidates, i);
+        const std::size_t before = part.rows.size();
+        const bool isMarked = search.addRows(*candidates[i], part.rows);
+        if (isMarked != (part.rows.size() > before))
+          (isMarked ? part.former : part.found).push_back(i);
       }
+    } catch (const FormulaError &error) {
+      part.isStopped = true;
+      part.error = error.text();
+      for (std::size_t known = stoppedAt; first < known && !stoppedAt.compare_exchange_weak(known, first);)
+        ;
     }
-  } catch (const FormulaError &error) {
-    result.isStopped = true;
-    result.error = error.text();
+    part.searched = i;
+    const std::lock_guard lock(mutex);
+    parts.emplace(first, std::move(part));
+  });
+  Result result;
+  std::size_t searched = 0;
+  for (auto &[first, part] : parts) {
+    std::move(part.rows.begin(), part.rows.end(), std::back_inserter(result.rows));
+    for (const std::size_t place : part.found)
+      candidates[place]->set(resultKey(), PropertyText(std::string_view("1")));
+    for (const std::size_t place : part.former)
+      candidates[place]->erase(resultKey());
+    searched = part.searched;
+    if (part.isStopped) {
+      result.isStopped = true;
+      result.error = part.error;
+      break;
+    }
   }
+  for (std::size_t i = searched; i < candidates.size(); ++i)
+    candidates[i]->erase(resultKey()); // marks of the search before
   return result;
 }
 
@@ -58,41 +128,49 @@ bool NetworkSearch::matchesName(const QString &name) const {
   return m_params.regex ? m_name.matches(name) : name.contains(m_params.name, Qt::CaseInsensitive);
 }
 
-bool NetworkSearch::matchesType(const QString &type) {
-  if (m_type.matchesAll())
-    return true;
-  const auto known = m_types.constFind(type);
-  return known != m_types.constEnd() ? *known : *m_types.insert(type, m_type.matches(type));
+const NetworkSearch::Type &NetworkSearch::type(std::string_view utf8) {
+  if (m_current.utf8 != utf8) { // elements of one type follow one another
+    m_current.utf8 = utf8;
+    m_current.text = QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+    m_current.matches = m_type.matches(m_current.text);
+  }
+  return m_current;
 }
 
 bool NetworkSearch::satisfiesFormula(const element &candidate) {
   if (!m_formula)
     m_formula.emplace(m_params.formula, m_net);
-  return m_formula->evaluate(candidate).text != QLatin1String("0");
+  return m_formula->accepts(candidate);
 }
 
-std::vector<SearchRow> NetworkSearch::search(element &candidate) {
-  static const PropertyKey nameKey = PropertyKey::intern("name");
-  static const PropertyKey typeKey = PropertyKey::intern("type");
-  std::vector<SearchRow> rows;
+void NetworkSearch::search(element &candidate, std::vector<SearchRow> &rows) {
+  const std::size_t before = rows.size();
   candidate.erase(resultKey());
-  const QString name = candidate.value(nameKey);
-  const QString type = candidate.value(typeKey);
-  if (!matchesName(name) || !matchesType(type))
-    return rows;
+  addRows(candidate, rows);
+  if (rows.size() > before)
+    candidate.set(resultKey(), PropertyText(std::string_view("1")));
+}
+
+/// Returns whether the element is marked by a search before.
+bool NetworkSearch::addRows(const element &candidate, std::vector<SearchRow> &rows) {
+  m_columns.read(candidate);
+  const PropertyText *typeText = m_columns[TypeColumn];
+  const bool isMarked = m_columns[MarkColumn] != nullptr;
+  const Type &ofType = type(typeText == nullptr ? std::string_view() : typeText->utf8());
+  if (!ofType.matches)
+    return isMarked;
+  const QString name = m_columns[NameColumn] == nullptr ? QString() : m_columns[NameColumn]->toString();
+  if (!matchesName(name))
+    return isMarked;
   bool isAsked = m_params.formula.isEmpty(); // the formula asks for the element, not for the property: once is enough
   for (const Property &property : candidate) {
-    if (!m_properties.contains(property.key))
-      continue;
-    if (!m_value.matchesAll() && !m_value.matches(property.value.toString()))
+    if (!m_properties.contains(property.key) || !m_value.matches(property.value.utf8()))
       continue;
     if (!isAsked && !satisfiesFormula(candidate))
-      return {};
+      return isMarked;
     isAsked = true;
-    DisplayValue::Shown shown = m_display.of(type, property.key, property.value);
-    rows.push_back({name, type, property.key.name(), std::move(shown.value), std::move(shown.unit)});
+    DisplayValue::Shown shown = m_display.of(ofType.text, property.key, property.value);
+    rows.push_back({name, ofType.text, property.key.name(), std::move(shown.value), std::move(shown.unit)});
   }
-  if (!rows.empty())
-    candidate.set(resultKey(), PropertyText(std::string_view("1")));
-  return rows;
+  return isMarked;
 }

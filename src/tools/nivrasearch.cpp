@@ -233,7 +233,9 @@ void NivraSearch::updateSearchItems(element &changed, const QString &oldName) {
   tree->setSortingEnabled(false);
   qDeleteAll(tree->findItems(name, Qt::MatchFixedString, NameColumn));
   try {
-    tree->addTopLevelItems(itemsOf(NetworkSearch(m_net, searchParams()).search(changed)));
+    std::vector<SearchRow> rows;
+    NetworkSearch(m_net, searchParams()).search(changed, rows);
+    tree->addTopLevelItems(itemsOf(rows));
   } catch (const FormulaError &error) {
     NivraMsg::logWarning(error.text());
   }

@@ -162,6 +162,9 @@ void TableMenu::apply() {
   QMap<int, CellFilter> filters;
   for (auto it = m_filters.cbegin(); it != m_filters.cend(); ++it)
     filters.insert(it.key(), CellFilter(it.value()));
+  if (filters.isEmpty() && !m_hidesRows)
+    return;
+  m_hidesRows = !filters.isEmpty();
   bool hasChanged = false;
   for (int row = 0; row < model.rowCount(); ++row) {
     bool isShown = true;
@@ -177,6 +180,8 @@ void TableMenu::apply() {
 }
 
 int TableMenu::shownRows() const {
+  if (!m_hidesRows)
+    return m_view.model()->rowCount();
   int count = 0;
   for (int row = 0; row < m_view.model()->rowCount(); ++row)
     count += isHidden(row) ? 0 : 1;

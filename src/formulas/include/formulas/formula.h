@@ -52,6 +52,8 @@ public:
 
   /// Throws FormulaError when the expression cannot be computed with these values.
   Result evaluate(const element &current) const;
+  /// Whether the result is anything but "0", which saves making its text. Throws as evaluate().
+  bool accepts(const element &current) const;
 
   const std::vector<FormulaReference> &references() const;
 

@@ -4,8 +4,11 @@
 #include <model/netmetadata.h>
 #include <model/units.h>
 
-#include <QHash>
 #include <QString>
+
+#include <map>
+#include <optional>
+#include <vector>
 
 /// Values and units as people read them, from what the property data say. The conversions are looked up once.
 class DisplayValue {
@@ -32,5 +35,9 @@ private:
   const Conversion &find(const QString &type, PropertyKey property);
 
   const NetMetaData &m_metaData;
-  QHash<QPair<QString, int>, Conversion> m_conversions; ///< by type and number of the property's spelling
+  using OfType = std::vector<std::optional<Conversion>>; ///< by number of the property's spelling
+
+  std::map<QString, OfType> m_conversions;
+  const QString *m_lastType = nullptr; ///< of m_conversions, for rows of one type follow one another
+  OfType *m_last = nullptr;
 };

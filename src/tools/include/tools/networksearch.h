@@ -3,6 +3,7 @@
 #include <base/pattern.h>
 #include <formulas/formula.h>
 #include <model/netdata.h>
+#include <model/propertycolumns.h>
 #include <tools/displayvalue.h>
 #include <tools/searchparams.h>
 
@@ -48,12 +49,19 @@ public:
   NetworkSearch(NetData &net, SearchParams params);
 
   Result run();
-  /// The rows of one element, which is marked or unmarked. Throws FormulaError.
-  std::vector<SearchRow> search(element &candidate);
+  /// Adds the rows of one element, which is marked or unmarked. Throws FormulaError.
+  void search(element &candidate, std::vector<SearchRow> &rows);
 
 private:
+  struct Type {
+    std::string utf8;
+    QString text;
+    bool matches = false;
+  };
+
   bool matchesName(const QString &name) const;
-  bool matchesType(const QString &type);
+  const Type &type(std::string_view utf8);
+  bool addRows(const element &candidate, std::vector<SearchRow> &rows);
   bool satisfiesFormula(const element &candidate);
 
   NetData &m_net;
@@ -63,6 +71,7 @@ private:
   SearchedProperties m_properties;
   Pattern m_value;
   std::optional<Formula> m_formula;
+  PropertyColumns m_columns;
   DisplayValue m_display;
-  QHash<QString, bool> m_types; ///< type -> whether it matches
+  Type m_current; ///< of the element looked at last
 };

@@ -56,4 +56,5 @@ private:
   QAbstractItemView &m_view;
   QHeaderView *m_header;
   QMap<int, QString> m_filters; ///< by column, none of them empty
+  bool m_hidesRows = false;
 };
