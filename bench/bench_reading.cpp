@@ -3,6 +3,7 @@
 #include "baseline.h"
 #include "measure.h"
 
+#include <io/networkfileconverter.h>
 #include <io/nivrareader.h>
 #include <model/consistencycheck.h>
 
@@ -51,6 +52,24 @@ void readStore(benchmark::State &state) {
 }
 BENCHMARK(readStore)->Arg(Hundred)->Unit(benchmark::kMillisecond)->Iterations(8);
 BENCHMARK(readStore)->Arg(Million)->Unit(benchmark::kMillisecond)->Iterations(2);
+
+/// The same network in the text form.
+void readText(benchmark::State &state) {
+  const QString json = Measure::network(static_cast<int>(state.range(0)));
+  const QString text = NetworkFileConverter::otherForm(json);
+  if (!NetworkFileConverter::convert(json, text).ok)
+    state.SkipWithError("the network cannot be converted");
+  for (auto _ : state) {
+    auto net = std::make_unique<NetData>();
+    NivraReader(*net).readGeomJsn(text, {});
+    state.PauseTiming();
+    net.reset();
+    malloc_trim(0);
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(readText)->Arg(Hundred)->Unit(benchmark::kMillisecond)->Iterations(8);
+BENCHMARK(readText)->Arg(Million)->Unit(benchmark::kMillisecond)->Iterations(2);
 
 /// Every element asked for by name once.
 void findElements(benchmark::State &state) {

@@ -117,7 +117,7 @@ bool NetworkLoader::computeFormulas(const Progress &progress) {
     };
     definitions.erase(std::remove_if(definitions.begin(), definitions.end(), isOfResults), definitions.end());
   }
-  Findings prepared = m_formulas.setDefinitions(std::move(definitions));
+  Findings prepared = m_formulas.setDefinitions(definitions);
   std::move(prepared.begin(), prepared.end(), std::back_inserter(findings));
   Findings failures = m_formulas.apply([&](double fraction) {
     m_cancelled = progress && !progress(fraction);

@@ -88,7 +88,7 @@ struct NetworkFormulas::Computing {
   explicit Computing(NetData &ofNet)
       : net(ofNet) {}
 
-  void prepare(std::vector<FormulaDefinition> definitions);
+  void prepare(const std::vector<FormulaDefinition> &definitions);
   void order();
   void describe();
   Findings compute(FormulaRule &rule, const std::vector<element *> &elements, FormulaChanges *changes);
@@ -147,9 +147,9 @@ FormulaRule NetworkFormulas::Computing::parsed(FormulaDefinition definition) {
   return rule;
 }
 
-void NetworkFormulas::Computing::prepare(std::vector<FormulaDefinition> definitions) {
+void NetworkFormulas::Computing::prepare(const std::vector<FormulaDefinition> &definitions) {
   ElementFinder finder(net);
-  for (FormulaDefinition &definition : definitions) {
+  for (const FormulaDefinition &definition : definitions) {
     try {
       FormulaRule rule = parsed(definition);
       rule.elements = finder.find(rule.definition.types, rule.definition.namePattern);
@@ -441,9 +441,9 @@ NetworkFormulas::NetworkFormulas(NetData &net)
 
 NetworkFormulas::~NetworkFormulas() = default;
 
-Findings NetworkFormulas::setDefinitions(std::vector<FormulaDefinition> definitions) {
+Findings NetworkFormulas::setDefinitions(const std::vector<FormulaDefinition> &definitions) {
   m_computing = std::make_unique<Computing>(m_computing->net);
-  m_computing->prepare(std::move(definitions));
+  m_computing->prepare(definitions);
   m_computing->order();
   m_computing->describe();
   return m_computing->findings;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <io/jsonlinereader.h>
+#include "jsonlinereader.h"
+
 #include <model/propertytext.h>
 
 #include <simdjson.h>

@@ -1,5 +1,6 @@
 #include "elementbuilder.h"
 #include "jsonfile.h"
+#include "texttablereader.h"
 
 #include <base/nivramsg.h>
 #include <io/nivrareader.h>
@@ -20,8 +21,14 @@ QString decoded(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
-/// ".jsn" is the suffix; the longer ".json" is taken where only that is there.
-QString jsonPath(const QString &textPath) {
+bool isJsonPath(const QString &path) {
+  return path.endsWith(QStringLiteral(".jsn")) || path.endsWith(QStringLiteral(".json"));
+}
+
+/// ".jsn" is the suffix; the longer ".json" is taken where only that is there. The text form has none.
+QString networkPath(const QString &textPath, bool isJson) {
+  if (!isJson)
+    return textPath;
   const QString path = textPath + QStringLiteral(".jsn");
   const QString longer = textPath + QStringLiteral(".json");
   return !QFileInfo::exists(path) && QFileInfo::exists(longer) ? longer : path;
@@ -42,10 +49,56 @@ void append(NivraReader::Result &result, NivraReader::Result &&part) {
                          std::make_move_iterator(part.findings.end()));
 }
 
-/// Runs over the lines of a file whose members are objects and hands each element to take(element, line, reader).
+/// Tells the progress from time to time; false when it asks to stop.
+class ProgressTeller {
+public:
+  explicit ProgressTeller(const Progress &progress)
+      : m_progress(progress) {}
+
+  template <typename Reader>
+  bool goesOn(const Reader &reader) {
+    if (++m_lines < LinesBetweenProgress || !m_progress)
+      return true;
+    m_lines = 0;
+    return m_progress(reader.fraction());
+  }
+
+private:
+  const Progress &m_progress;
+  int m_lines = 0;
+};
+
+/// The same for the rows of the text form.
+template <typename Take>
+NivraReader::Result readRows(const QString &path, const NivraReader::Options &options, ReadReport &report,
+                             const Take &take) {
+  TextTableReader reader(path);
+  QString reason;
+  if (!reader.open(&reason))
+    return failure(reason);
+  NivraReader::Result result;
+  result.ok = true;
+  ProgressTeller progress(options.progress);
+  JsonLineParser::Element row;
+  for (TextTableReader::Found found = reader.next(row); found != TextTableReader::Found::End; found = reader.next(row)) {
+    if (found == TextTableReader::Found::Row)
+      take(row, reader.line(), reader.fraction());
+    else
+      report.badRow(reader.line(), reader.quote(), reader.fault());
+    if (!progress.goesOn(reader)) {
+      result.cancelled = true;
+      break;
+    }
+  }
+  return result;
+}
+
+/// Runs over the lines of a file whose members are objects and hands each element to take(element, line, fraction).
 template <typename Take>
 NivraReader::Result readObjects(const QString &path, const NivraReader::Options &options, ReadReport &report,
                                 const Take &take) {
+  if (!isJsonPath(path))
+    return readRows(path, options, report, take);
   JsonLineReader reader(path);
   QString reason;
   if (!reader.open(&reason))
@@ -56,21 +109,18 @@ NivraReader::Result readObjects(const QString &path, const NivraReader::Options 
   JsonLineReader::Line line;
   std::vector<JsonLineParser::Element> parsed;
   std::size_t count = 0;
-  int sinceProgress = 0;
+  ProgressTeller progress(options.progress);
   while (reader.next(line)) {
     const char *fault = line.tooLong ? "the line is longer than 64 MB" : nullptr;
     if (fault == nullptr)
       fault = parser.parse(line, parsed, count);
     for (std::size_t i = 0; fault == nullptr && i < count; ++i)
-      take(parsed[i], line.number, reader);
+      take(parsed[i], line.number, reader.fraction());
     if (fault != nullptr)
       report.badLine(line, fault);
-    if (++sinceProgress >= LinesBetweenProgress && options.progress) {
-      sinceProgress = 0;
-      if (!options.progress(reader.fraction())) {
-        result.cancelled = true;
-        return result;
-      }
+    if (!progress.goesOn(reader)) {
+      result.cancelled = true;
+      break;
     }
   }
   return result;
@@ -92,19 +142,27 @@ void makeRoom(NetData &net, double fraction) {
 } // namespace
 
 NivraReader::Result NivraReader::readTopoAndScen(const NivraWorkspace &workspace, const Options &options) {
-  if (!workspace.isJson())
-    return failure(
-        QStringLiteral("readTopoAndScen: cannot read %1: only the JSON form of network files (.geom.jsn, .scen.jsn) "
-                       "can be read")
-            .arg(workspace.hasScenario() ? workspace.scenarioPath() : workspace.geometryPath()));
   const NivraScenario scenario = workspace.hasScenario() ? *workspace.currentScenario() : NivraScenario();
-  return readTopoAndScenJsn(workspace.geometryPath(), workspace.scenarioPath(), scenario, options);
+  m_isJson = workspace.isJson();
+  return readNetwork(workspace.geometryPath(), workspace.scenarioPath(), scenario, options);
+}
+
+NivraReader::Result NivraReader::readTopoAndScenText(const QString &geometryPath, const QString &scenarioPath,
+                                                     const NivraScenario &scenario, const Options &options) {
+  m_isJson = false;
+  return readNetwork(geometryPath, scenarioPath, scenario, options);
 }
 
 NivraReader::Result NivraReader::readTopoAndScenJsn(const QString &geometryPath, const QString &scenarioPath,
                                                     const NivraScenario &scenario, const Options &options) {
+  m_isJson = true;
   NivraMsg::debug(QStringLiteral("starting  readTopoAndScenJsn with ") + geometryPath + QLatin1Char(' ') + scenarioPath);
-  Result result = readGeomJsn(jsonPath(geometryPath), options);
+  return readNetwork(geometryPath, scenarioPath, scenario, options);
+}
+
+NivraReader::Result NivraReader::readNetwork(const QString &geometryPath, const QString &scenarioPath,
+                                             const NivraScenario &scenario, const Options &options) {
+  Result result = readGeomJsn(networkPath(geometryPath, m_isJson), options);
   if (!result.ok) {
     for (Finding &finding : result.findings)
       finding.text = finding.box = QStringLiteral("readTopoAndScen: cannot read ") + finding.text;
@@ -112,8 +170,9 @@ NivraReader::Result NivraReader::readTopoAndScenJsn(const QString &geometryPath,
   }
   if (result.cancelled || scenarioPath.isEmpty())
     return result;
-  append(result, readScenarioJsn(scenarioPath, scenario, options));
-  const QString subResults = jsonPath(scenarioPath.section(QLatin1Char('.'), 0, -2) + QStringLiteral(".res.sub"));
+  append(result, readScenario(scenarioPath, scenario, options));
+  const QString subResults =
+      networkPath(scenarioPath.section(QLatin1Char('.'), 0, -2) + QStringLiteral(".res.sub"), m_isJson);
   if (!result.cancelled && QFileInfo::exists(subResults))
     append(result, readResultsJsn(subResults, options));
   return result;
@@ -128,15 +187,14 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
   ElementBuilder builder(options.includeTypes, options.includeProperties, report);
   qint64 properties = 0;
   element built;
-  Result result =
-      readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line, const JsonLineReader &lines) {
-        if (!builder.buildElement(parsed, line, built))
-          return;
-        if (m_net.nodes().size() + m_net.edges().size() == Sample)
-          makeRoom(m_net, lines.fraction());
-        properties += static_cast<qint64>(built.size());
-        m_net.addElement(std::move(built));
-      });
+  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line, double fraction) {
+    if (!builder.buildElement(parsed, line, built))
+      return;
+    if (m_net.nodes().size() + m_net.edges().size() == Sample)
+      makeRoom(m_net, fraction);
+    properties += static_cast<qint64>(built.size());
+    m_net.addElement(std::move(built));
+  });
   if (result.ok && !result.cancelled && m_net.isEmpty())
     report.add("empty", 0, QStringLiteral("The file holds no element"));
   result.properties = properties;
@@ -151,7 +209,7 @@ NivraReader::Result NivraReader::readValues(const QString &path, const Options &
   ReadReport report(path);
   ElementBuilder builder(QString(), options.includeProperties, report);
   qint64 properties = 0;
-  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line, const JsonLineReader &) {
+  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line, double) {
     element *target = m_net.element(decoded(parsed.name));
     if (target == nullptr) {
       report.add("unknown name", line,
@@ -181,10 +239,9 @@ NivraReader::Result NivraReader::readGasJsn(const QString &path) {
   ReadReport report(path);
   ElementBuilder builder(QString(), QString(), report);
   GasTable gases;
-  Result result =
-      readObjects(path, Options(), report, [&](JsonLineParser::Element &parsed, int line, const JsonLineReader &) {
-        gases[decoded(parsed.name)] = element::fromProperties(builder.properties(parsed, line));
-      });
+  Result result = readObjects(path, Options(), report, [&](JsonLineParser::Element &parsed, int line, double) {
+    gases[decoded(parsed.name)] = element::fromProperties(builder.properties(parsed, line));
+  });
   result.ok = result.ok && !gases.empty();
   if (result.ok)
     m_gases = std::move(gases);
@@ -196,7 +253,13 @@ NivraReader::Result NivraReader::readGasJsn(const QString &path) {
 NivraReader::Result NivraReader::readScenarioJsn(const QString &scenarioPath, const NivraScenario &scenario,
                                                  const Options &options) {
   NivraMsg::debug(QStringLiteral("starting readScenarioJsn with ") + scenarioPath);
-  Result result = readScenariofileJsn(jsonPath(scenarioPath), options);
+  m_isJson = true;
+  return readScenario(scenarioPath, scenario, options);
+}
+
+NivraReader::Result NivraReader::readScenario(const QString &scenarioPath, const NivraScenario &scenario,
+                                              const Options &options) {
+  Result result = readScenariofileJsn(networkPath(scenarioPath, m_isJson), options);
   if (!result.ok) {
     for (Finding &finding : result.findings) {
       finding.severity = Finding::Severity::Warning;
@@ -216,7 +279,7 @@ void NivraReader::readGas(const QString &base, const NivraScenario &scenario, Re
   const QString folder = QFileInfo(base).path();
   const QString path =
       scenario.gasFile.isEmpty() ? base + QStringLiteral(".gas") : folder + QLatin1Char('/') + scenario.gasFile;
-  Result gas = readGasJsn(path.endsWith(QStringLiteral(".jsn")) ? path : jsonPath(path));
+  Result gas = readGasJsn(isJsonPath(path) ? path : networkPath(path, m_isJson));
   if (!gas.ok) {
     NivraMsg::logWarning(QStringLiteral("readScen: cannot find or read a gas file"));
     for (Finding &finding : gas.findings) {
@@ -245,9 +308,13 @@ void NivraReader::readCompanions(const QString &base, const Options &options, Re
 void NivraReader::readCompanion(const Companion &companion, const QString &base, const Options &options, Result &result) {
   if (result.cancelled)
     return;
-  const QString path = jsonPath(base + QLatin1String(companion.suffix));
+  const QString path = networkPath(base + QLatin1String(companion.suffix), m_isJson);
+  const auto text = [this](const char *json) {
+    QString said = QString::fromLatin1(json);
+    return m_isJson ? said : said.remove(QStringLiteral(".jsn"));
+  };
   if (!QFileInfo::exists(path)) {
-    for (const QString &line : QString::fromLatin1(companion.absent).split(QLatin1Char('\n')))
+    for (const QString &line : text(companion.absent).split(QLatin1Char('\n')))
       NivraMsg::log(line);
     return;
   }
@@ -255,7 +322,7 @@ void NivraReader::readCompanion(const Companion &companion, const QString &base,
   if (part.ok) {
     NivraMsg::log(QLatin1String(companion.success));
   } else {
-    NivraMsg::logWarning(QLatin1String(companion.failed));
+    NivraMsg::logWarning(text(companion.failed));
     for (Finding &finding : part.findings) {
       finding.severity = Finding::Severity::Warning;
       finding.box.clear();
@@ -265,8 +332,8 @@ void NivraReader::readCompanion(const Companion &companion, const QString &base,
 }
 
 void NivraReader::readConfiguration(const QString &base, Result &result) {
-  const QString path = jsonPath(base + QStringLiteral(".scen.cfg"));
-  if (result.cancelled || !QFileInfo::exists(path))
+  const QString path = networkPath(base + QStringLiteral(".scen.cfg"), true);
+  if (!m_isJson || result.cancelled || !QFileInfo::exists(path)) // the text form was read with the configuration
     return;
   QString reason;
   const std::optional<QJsonObject> object = readJsonObject(path, &reason);

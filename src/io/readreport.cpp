@@ -8,7 +8,7 @@ void ReadReport::add(const char *kind, int line, const QString &text, const QStr
     m_findings.push_back({Finding::Severity::Warning, m_file, line, text, box, false, element});
 }
 
-QString ReadReport::quoted(const JsonLineReader::Line &line) {
+QString ReadReport::quoted(const LineReader::Line &line) {
   constexpr std::size_t Longest = 200;
   QString quote = QString::fromUtf8(line.text, static_cast<int>(std::min(line.size, Longest)));
   for (QChar &c : quote) {
@@ -18,7 +18,15 @@ QString ReadReport::quoted(const JsonLineReader::Line &line) {
   return line.size > Longest ? quote + QStringLiteral(" ...") : quote;
 }
 
-void ReadReport::badLine(const JsonLineReader::Line &line, const char *reason) {
+void ReadReport::badRow(int line, const QString &quote, const QString &reason) {
+  const std::size_t before = m_findings.size();
+  add(BadLine, line, QStringLiteral("Problem with line %1: %2").arg(quote, reason),
+      QStringLiteral("Severe problem with line: ") + quote + QStringLiteral("\nCheck console for info!"));
+  if (m_findings.size() > before)
+    m_findings.back().isForInformation = true;
+}
+
+void ReadReport::badLine(const LineReader::Line &line, const char *reason) {
   const QString quote = quoted(line);
   const std::size_t before = m_findings.size();
   add(BadLine, line.number,

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "linereader.h"
+
 #include <base/finding.h>
-#include <io/jsonlinereader.h>
 
 #include <QHash>
 #include <QString>
@@ -15,12 +16,14 @@ public:
   void add(const char *kind, int line, const QString &text, const QString &box = QString(),
            const QString &element = QString());
   /// A line that is no valid JSON, with a box for the user.
-  void badLine(const JsonLineReader::Line &line, const char *reason);
+  void badLine(const LineReader::Line &line, const char *reason);
+  /// Likewise for the text form.
+  void badRow(int line, const QString &quote, const QString &reason);
   Findings take();
   int count(const char *kind) const { return m_counts.value(QLatin1String(kind)); }
 
   static constexpr const char *BadLine = "bad line";
-  static QString quoted(const JsonLineReader::Line &line);
+  static QString quoted(const LineReader::Line &line);
 
 private:
   static constexpr int KeptOfAKind = 1000;

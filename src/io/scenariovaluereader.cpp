@@ -3,6 +3,7 @@
 
 #include "jsonlineparser.h"
 #include "readreport.h"
+#include "texttablereader.h"
 
 #include <base/nivramsg.h>
 #include <io/nivrareader.h>
@@ -191,6 +192,8 @@ private:
 } // namespace
 
 NivraReader::Result NivraReader::readScenariofileJsn(const QString &path, const Options &options) {
+  if (!path.endsWith(QStringLiteral(".jsn")) && !path.endsWith(QStringLiteral(".json")))
+    return readScenarioRows(path, options);
   Result result;
   JsonLineReader reader(path);
   QString reason;
@@ -224,6 +227,39 @@ NivraReader::Result NivraReader::readScenariofileJsn(const QString &path, const 
   NivraMsg::log(QStringLiteral("### To read elements of scenario jsn buffer took %1 [sec] for %2 properties")
                     .arg(static_cast<double>(timer.elapsed()) * Milli)
                     .arg(result.properties));
+  result.findings = report.take();
+  return result;
+}
+
+NivraReader::Result NivraReader::readScenarioRows(const QString &path, const Options &options) {
+  Result result;
+  TextTableReader reader(path);
+  QString reason;
+  if (!reader.open(&reason)) {
+    result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, reason});
+    return result;
+  }
+  result.ok = true;
+  ReadReport report(path);
+  Applier applier(m_net, options.includeProperties, report);
+  JsonLineParser::Element row;
+  constexpr int RowsBetweenProgress = 1000;
+  int rows = 0;
+  for (TextTableReader::Found found = reader.next(row); found != TextTableReader::Found::End; found = reader.next(row)) {
+    if (found == TextTableReader::Found::Fault) {
+      report.badRow(reader.line(), reader.quote(), reader.fault());
+    } else {
+      ParsedLine line;
+      line.number = reader.line();
+      line.setPoints.push_back({std::string(row.name), {TextTableReader::setPoint(row)}});
+      applier.apply(line);
+    }
+    if (++rows % RowsBetweenProgress == 0 && options.progress && !options.progress(reader.fraction())) {
+      result.cancelled = true;
+      break;
+    }
+  }
+  result.properties = applier.properties();
   result.findings = report.take();
   return result;
 }

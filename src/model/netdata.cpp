@@ -66,7 +66,7 @@ NetData::NetData(NetData &&other) noexcept
     , m_tBoxes(std::move(other.m_tBoxes))
     , m_assembledSubnets(std::move(other.m_assembledSubnets))
     , m_selection(std::move(other.m_selection))
-    , m_metaData(other.m_metaData) {
+    , m_metaData(std::exchange(other.m_metaData, builtIn())) {
   buildTypeMap();
 }
 
@@ -83,7 +83,7 @@ NetData &NetData::operator=(NetData &&other) noexcept {
   m_tBoxes = std::move(other.m_tBoxes);
   m_assembledSubnets = std::move(other.m_assembledSubnets);
   m_selection = std::move(other.m_selection);
-  m_metaData = other.m_metaData;
+  m_metaData = std::exchange(other.m_metaData, builtIn());
   return *this;
 }
 

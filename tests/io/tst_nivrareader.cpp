@@ -22,7 +22,7 @@ private slots:
   void scenarioUnitsAndUnknownNames();
   void companionFiles();
   void cancelling();
-  void textFormIsRefused();
+  void textWorkspace();
 
 private:
   QTemporaryDir m_folder;
@@ -289,13 +289,27 @@ void TestNivraReader::cancelling() {
   QVERIFY(net.nodes().size() < 5000);
 }
 
-void TestNivraReader::textFormIsRefused() {
-  QDir(m_folder.path()).mkpath(QStringLiteral("C"));
-  const NivraWorkspace workspace = NivraWorkspace::fromFile(write(QStringLiteral("C/a.geom"), "x"));
+void TestNivraReader::textWorkspace() {
+  QDir(m_folder.path()).mkpath(QStringLiteral("C/S"));
+  write(QStringLiteral("C/a.geom"), "[node]\nname;x;y\nA;0;0\nB;1;0\n[pipe]\nname;node1;node2\nP;A;B\n");
+  const QString scenario = write(QStringLiteral("C/S/S.scen"), "name;property;value;unit\nA;pset;7;MPa\n");
+  write(QStringLiteral("C/S/S.gas"), "[gas]\nname;rhon\nHydrogen;0.0899\n");
+  write(QStringLiteral("C/S/S.fix"), "name;property;value\nB;qset;5\n");
+  write(QStringLiteral("C/S/S.res"), "name;p\nA;70\nB;69.5\nname;q;v\nP;5;3.1\n");
+  write(QStringLiteral("C/S/S.res.sub"), "name;p\nB;69\n");
+  write(QStringLiteral("C/S/S.res.jsn"), "{\n\"A\":{\"p\":1}\n}\n"); // of the other form
+  const NivraWorkspace workspace = NivraWorkspace::fromFile(scenario);
+  QVERIFY(!workspace.isJson());
   NetData net;
-  const auto result = NivraReader(net).readTopoAndScen(workspace, {});
-  QVERIFY(!result.ok);
-  QVERIFY(result.findings.at(0).text.contains(QStringLiteral("a.geom")));
+  NivraReader reader(net);
+  const auto result = reader.readTopoAndScen(workspace, {});
+  QVERIFY2(result.ok && result.findings.empty(), qPrintable(result.findings.empty() ? QString() : result.findings[0].text));
+  QCOMPARE(net.nodes().at(QStringLiteral("A")).value(QStringLiteral("pset")), QStringLiteral("70"));
+  QCOMPARE(net.nodes().at(QStringLiteral("A")).value(QStringLiteral("p")), QStringLiteral("70"));
+  QCOMPARE(net.nodes().at(QStringLiteral("B")).value(QStringLiteral("p")), QStringLiteral("69"));
+  QCOMPARE(net.nodes().at(QStringLiteral("B")).value(QStringLiteral("qset")), QStringLiteral("5"));
+  QCOMPARE(net.edges().at(QStringLiteral("P")).value(QStringLiteral("v")), QStringLiteral("3.1"));
+  QCOMPARE(reader.gases().count(QStringLiteral("Hydrogen")), std::size_t(1));
 }
 
 NIVRA_TEST(TestNivraReader);

@@ -21,7 +21,7 @@ public:
   /// Parses the expressions and finds the order of computing. Of several formulas for one property of one element the last
   /// counts. Left out, with a finding each: what cannot be parsed, and formulas that need one another's results. Properties
   /// that the vocabulary does not know are described in that of the network.
-  Findings setDefinitions(std::vector<FormulaDefinition> definitions);
+  Findings setDefinitions(const std::vector<FormulaDefinition> &definitions);
   /// Formulas and constraints that are computed.
   int size() const;
 

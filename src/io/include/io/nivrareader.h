@@ -35,6 +35,10 @@ public:
   Result readTopoAndScen(const NivraWorkspace &workspace, const Options &options);
   Result readTopoAndScenJsn(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
                             const Options &options);
+  /// The same in the text form.
+  Result readTopoAndScenText(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
+                             const Options &options);
+  /// This one and the following take both forms: files that end in ".jsn" or ".json" are JSON, others text.
   Result readGeomJsn(const QString &path, const Options &options);
   /// scenarioPath without the JSON suffix; the companion files lie beside it.
   Result readScenarioJsn(const QString &scenarioPath, const NivraScenario &scenario, const Options &options);
@@ -48,6 +52,10 @@ public:
   const GasTable &gases() const { return m_gases; }
 
 private:
+  Result readNetwork(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
+                     const Options &options);
+  Result readScenario(const QString &scenarioPath, const NivraScenario &scenario, const Options &options);
+  Result readScenarioRows(const QString &path, const Options &options);
   Result readValues(const QString &path, const Options &options);
   struct Companion {
     const char *suffix;
@@ -63,4 +71,5 @@ private:
 
   NetData &m_net;
   GasTable m_gases;
+  bool m_isJson = true; ///< the form in which companion files are looked for
 };

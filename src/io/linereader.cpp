@@ -1,4 +1,4 @@
-#include <io/jsonlinereader.h>
+#include "linereader.h"
 
 #include <QFileInfo>
 
@@ -17,11 +17,11 @@ bool isBlank(char c) {
 
 } // namespace
 
-JsonLineReader::JsonLineReader(const QString &path)
+LineReader::LineReader(const QString &path)
     : m_path(path)
     , m_file(path) {}
 
-bool JsonLineReader::open(QString *reason) {
+bool LineReader::open(QString *reason) {
   if (QFileInfo(m_path).isDir()) {
     *reason = m_path + QStringLiteral(": is a directory");
     return false;
@@ -37,12 +37,12 @@ bool JsonLineReader::open(QString *reason) {
   return true;
 }
 
-double JsonLineReader::fraction() const {
+double LineReader::fraction() const {
   return m_file.size() > 0 ? static_cast<double>(m_file.pos()) / static_cast<double>(m_file.size()) : 1.0;
 }
 
 /// Moves what is left to the front and reads behind it; false when the file has no more.
-bool JsonLineReader::fill() {
+bool LineReader::fill() {
   const std::size_t left = m_end - m_begin;
   std::memmove(m_buffer.data() + 1, m_buffer.data() + m_begin, left);
   m_begin = 1;
@@ -57,7 +57,7 @@ bool JsonLineReader::fill() {
   return true;
 }
 
-bool JsonLineReader::nextRaw(Line &line) {
+bool LineReader::nextRaw(Line &line) {
   line.tooLong = false;
   std::size_t searched = 0;
   for (;;) {
@@ -87,7 +87,7 @@ bool JsonLineReader::nextRaw(Line &line) {
   }
 }
 
-bool JsonLineReader::next(Line &line) {
+bool LineReader::nextTrimmed(Line &line) {
   while (nextRaw(line)) {
     if (line.tooLong)
       return true;
@@ -97,7 +97,7 @@ bool JsonLineReader::next(Line &line) {
     }
     while (line.size > 0 && isBlank(line.text[line.size - 1]))
       --line.size;
-    if (line.size < 2 || line.text[0] == '{' || line.text[0] == '}')
+    if (line.size == 0)
       continue;
     line.capacity = static_cast<std::size_t>(m_buffer.data() + m_buffer.size() - line.text);
     return true;

@@ -6,9 +6,8 @@
 #include <cstddef>
 #include <vector>
 
-/// Hands out the lines of a file that holds one JSON member a line, block by block, so that a file of any size takes a few
-/// megabytes. Lines are trimmed; those of the enclosing object ("{", "}") and those of fewer than 2 characters are left out.
-class JsonLineReader {
+/// Hands out the lines of a file, block by block, so that a file of any size takes a few megabytes.
+class LineReader {
 public:
   /// A longer line is skipped and told as such: no element is that large.
   static constexpr std::size_t LongestLine = std::size_t(64) << 20;
@@ -21,16 +20,17 @@ public:
     bool tooLong = false;     ///< text is only the beginning
   };
 
-  explicit JsonLineReader(const QString &path);
+  explicit LineReader(const QString &path);
 
   bool open(QString *reason);
   /// False at the end. The line lives until the next call; its bytes, and one before and one behind, may be overwritten.
-  bool next(Line &line);
+  bool nextRaw(Line &line);
+  /// As nextRaw(), without blanks around it; lines of nothing else are left out.
+  bool nextTrimmed(Line &line);
   double fraction() const; ///< of the file, 0 to 1
   const QString &path() const { return m_path; }
 
 private:
-  bool nextRaw(Line &line);
   bool fill();
 
   QString m_path;

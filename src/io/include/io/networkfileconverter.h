@@ -1,0 +1,25 @@
+#pragma once
+
+#include <base/finding.h>
+
+#include <QString>
+
+/// Writes network files in the other of their two forms: JSON (".jsn") and text. The names before that suffix tell what they
+/// hold: ".geom", ".gas" elements, ".scen", ".fix" set points, ".res", ".gaspar", ".res.sub" values.
+namespace NetworkFileConverter {
+
+struct Result {
+  bool ok = false; ///< the file was written, whole
+  int records = 0; ///< elements, set points or elements with values
+  Findings findings;
+};
+
+/// Whether the name is that of a network file, in either form.
+bool isNetworkFile(const QString &name);
+/// The name of the file in the other form.
+QString otherForm(const QString &name);
+
+/// Reads one file and writes the other; each in the form that its name tells.
+Result convert(const QString &from, const QString &to);
+
+} // namespace NetworkFileConverter

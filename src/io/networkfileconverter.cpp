@@ -1,0 +1,167 @@
+#include "jsonlineparser.h"
+#include "networkfilewriter.h"
+#include "readreport.h"
+#include "texttablereader.h"
+
+#include <io/networkfileconverter.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+#include <memory>
+
+namespace {
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("NetworkFileConverter", text);
+}
+
+/// What the name of a network file tells: 1 what it holds, 2 whether it is JSON.
+QRegularExpressionMatch parts(const QString &name) {
+  static const QRegularExpression pattern(QStringLiteral("\\.(geom|scen|gas|fix|res|gaspar|res\\.sub)(\\.(?:jsn|json))?$"));
+  return pattern.match(name);
+}
+
+bool isJson(const QString &name) {
+  return !parts(name).captured(2).isEmpty();
+}
+
+bool holdsSetPoints(const QString &name) {
+  const QString kind = parts(name).captured(1);
+  return kind == QLatin1String("scen") || kind == QLatin1String("fix");
+}
+
+/// Hands on what the lines of a file hold, in either form.
+class Feeder {
+public:
+  Feeder(const QString &path, NetworkFileWriter &writer, ReadReport &report)
+      : m_path(path)
+      , m_writer(writer)
+      , m_report(report) {}
+
+  /// False when the file cannot be read.
+  bool run(QString *reason) { return isJson(m_path) ? feedJson(reason) : feedText(reason); }
+  int records() const { return m_records; }
+
+private:
+  bool feedJson(QString *reason) {
+    JsonLineReader reader(m_path);
+    if (!reader.open(reason))
+      return false;
+    JsonLineParser parser;
+    JsonLineReader::Line line;
+    std::vector<JsonLineParser::Element> elements;
+    std::vector<JsonLineParser::SetPoints> setPoints;
+    std::size_t count = 0;
+    while (reader.next(line)) {
+      const char *fault = line.tooLong             ? "the line is longer than 64 MB"
+                          : holdsSetPoints(m_path) ? parser.parse(line, setPoints)
+                                                   : parser.parse(line, elements, count);
+      if (fault != nullptr) {
+        m_report.badLine(line, fault);
+        continue;
+      }
+      for (const JsonLineParser::SetPoints &points : setPoints) {
+        for (const JsonLineParser::SetPoint &point : points.points)
+          take(points.name, point, line.number);
+      }
+      for (std::size_t i = 0; i < count; ++i)
+        take(elements[i], line.number);
+    }
+    return true;
+  }
+
+  bool feedText(QString *reason) {
+    TextTableReader reader(m_path);
+    if (!reader.open(reason))
+      return false;
+    JsonLineParser::Element row;
+    for (TextTableReader::Found found = reader.next(row); found != TextTableReader::Found::End; found = reader.next(row)) {
+      if (found == TextTableReader::Found::Fault)
+        m_report.badRow(reader.line(), reader.quote(), reader.fault());
+      else if (holdsSetPoints(m_path))
+        take(row.name, TextTableReader::setPoint(row), reader.line());
+      else
+        take(row, reader.line());
+    }
+    return true;
+  }
+
+  void take(std::string_view name, const JsonLineParser::SetPoint &point, int line) {
+    if (point.isComplete) {
+      m_writer.writeSetPoint(name, point.property, point.value, point.unit);
+      ++m_records;
+    } else {
+      m_report.add("incomplete value", line,
+                   tr("A value of element %1 is left out: it needs \"property\" and \"value\"")
+                       .arg(QString::fromUtf8(name.data(), static_cast<int>(name.size()))));
+    }
+  }
+
+  void take(JsonLineParser::Element &parsed, int line) {
+    std::string type;
+    std::vector<Property> properties;
+    for (JsonLineParser::Value &value : parsed.values) {
+      if (value.key == "obj_type")
+        type = value.text.utf8();
+      else
+        properties.push_back({PropertyKey::intern(value.key), std::move(value.text)});
+    }
+    for (const JsonLineParser::Dropped &dropped : parsed.dropped)
+      m_report.add("dropped property", line,
+                   tr("Property %1 of element %2 is left out: %3")
+                       .arg(QString::fromStdString(dropped.key), QString::fromStdString(std::string(parsed.name)),
+                            QString::fromUtf8(dropped.reason)));
+    m_writer.write(parsed.name, type, std::move(properties));
+    ++m_records;
+  }
+
+  QString m_path;
+  NetworkFileWriter &m_writer;
+  ReadReport &m_report;
+  int m_records = 0;
+};
+
+} // namespace
+
+bool NetworkFileConverter::isNetworkFile(const QString &name) {
+  return parts(name).hasMatch();
+}
+
+QString NetworkFileConverter::otherForm(const QString &name) {
+  const QRegularExpressionMatch match = parts(name);
+  return match.captured(2).isEmpty() ? name + QStringLiteral(".jsn") : name.left(match.capturedStart(2));
+}
+
+NetworkFileConverter::Result NetworkFileConverter::convert(const QString &from, const QString &to) {
+  Result result;
+  const auto fail = [&result](const QString &reason) {
+    result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, QString()});
+    return result;
+  };
+  for (const QString &path : {from, to}) {
+    if (!isNetworkFile(path))
+      return fail(tr("%1 is not named as a network file is").arg(path));
+  }
+  QSaveFile file(to);
+  if (!file.open(QIODevice::WriteOnly))
+    return fail(tr("Cannot write %1: %2").arg(to, file.errorString()));
+  std::unique_ptr<NetworkFileWriter> writer;
+  if (isJson(to))
+    writer = std::make_unique<JsonFileWriter>(file);
+  else
+    writer = std::make_unique<TextFileWriter>(file);
+  ReadReport report(from);
+  Feeder feeder(from, *writer, report);
+  QString reason;
+  if (!feeder.run(&reason))
+    return fail(tr("Cannot read %1").arg(reason));
+  result.findings = report.take();
+  if (!writer->finish() || !file.commit())
+    return fail(tr("Cannot write %1: %2").arg(to, file.errorString()));
+  result.records = feeder.records();
+  result.ok = true;
+  return result;
+}

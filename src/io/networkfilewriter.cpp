@@ -1,0 +1,237 @@
+#include "networkfilewriter.h"
+
+#include "jsonlineparser.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+/// A number in the text that reading makes of it.
+bool isPlainNumber(std::string_view text) {
+  PropertyText read;
+  return numberText(text, read) == NumberText::Taken && read.utf8() == text;
+}
+
+bool isNumber(std::string_view text) {
+  PropertyText read;
+  return numberText(text, read) != NumberText::Invalid;
+}
+
+bool isName(std::string_view text) {
+  constexpr std::string_view Name = "name";
+  return std::equal(text.begin(), text.end(), Name.begin(), Name.end(), [](char a, char b) { return (a | 0x20) == b; });
+}
+
+} // namespace
+
+void NetworkFileWriter::put(std::string_view text) {
+  constexpr std::size_t Block = 1 << 20;
+  m_buffer += text;
+  if (m_buffer.size() > Block)
+    flush();
+}
+
+bool NetworkFileWriter::flush() {
+  const auto size = static_cast<qint64>(m_buffer.size());
+  m_isSound = m_isSound && m_device.write(m_buffer.data(), size) == size;
+  m_buffer.clear();
+  return m_isSound;
+}
+
+JsonFileWriter::JsonFileWriter(QIODevice &device)
+    : NetworkFileWriter(device) {
+  put("{\n");
+}
+
+void JsonFileWriter::putText(std::string_view text) {
+  put("\"");
+  for (const char c : text) {
+    constexpr char FirstPlain = 0x20;
+    if (c == '"' || c == '\\') {
+      const std::array<char, 2> escaped{'\\', c};
+      put({escaped.data(), escaped.size()});
+    } else if (c >= 0 && c < FirstPlain) {
+      constexpr std::string_view Hex = "0123456789abcdef";
+      const std::array<char, 6> escaped{
+          '\\', 'u', '0', '0', Hex[static_cast<std::size_t>(c) >> 4], Hex[static_cast<std::size_t>(c) & 15]};
+      put({escaped.data(), escaped.size()});
+    } else {
+      put({&c, 1});
+    }
+  }
+  put("\"");
+}
+
+void JsonFileWriter::putValue(const PropertyText &value) {
+  if (isPlainNumber(value.utf8()))
+    put(value.utf8());
+  else
+    putText(value.utf8());
+}
+
+void JsonFileWriter::beginMember(std::string_view name) {
+  if (!m_isFirst)
+    put(",");
+  m_isFirst = false;
+  putText(name);
+  put(":");
+}
+
+void JsonFileWriter::write(std::string_view name, std::string_view type, std::vector<Property> properties) {
+  beginMember(name);
+  put("{");
+  bool isFirst = type.empty();
+  if (!type.empty()) {
+    put("\"obj_type\":");
+    putText(type);
+  }
+  for (const Property &property : properties) {
+    if (!isFirst)
+      put(",");
+    isFirst = false;
+    putText(property.key.utf8());
+    put(":");
+    putValue(property.value);
+  }
+  put("}\n");
+}
+
+void JsonFileWriter::endSetPoints() {
+  if (m_hasSetPoints)
+    put("]\n");
+  m_hasSetPoints = false;
+}
+
+void JsonFileWriter::writeSetPoint(std::string_view name, std::string_view property, const PropertyText &value,
+                                   std::string_view unit) {
+  if (m_hasSetPoints && m_setPointsOf == name) {
+    put(",");
+  } else {
+    endSetPoints();
+    beginMember(name);
+    put("[");
+    m_setPointsOf = name;
+    m_hasSetPoints = true;
+  }
+  put("{\"property\":");
+  putText(property);
+  put(",\"value\":");
+  putValue(value);
+  if (!unit.empty()) {
+    put(",\"unit\":");
+    putText(unit);
+  }
+  put("}");
+}
+
+bool JsonFileWriter::finish() {
+  endSetPoints();
+  put("}\n");
+  return flush();
+}
+
+/// Quoted when it would be read as something else without quotes.
+void TextFileWriter::putCell(std::string_view text) {
+  constexpr std::string_view Special = ";\t\"\n\r";
+  const bool isPlain = !text.empty() && text.find_first_of(Special) == std::string_view::npos && text.front() != ' ' &&
+                       text.back() != ' ' && (isPlainNumber(text) || !isNumber(text));
+  if (isPlain) {
+    NetworkFileWriter::put(text);
+    return;
+  }
+  NetworkFileWriter::put("\"");
+  while (true) {
+    const std::size_t quote = text.find('"');
+    NetworkFileWriter::put(text.substr(0, quote));
+    if (quote == std::string_view::npos)
+      break;
+    NetworkFileWriter::put("\"\"");
+    text.remove_prefix(quote + 1);
+  }
+  NetworkFileWriter::put("\"");
+}
+
+/// The first cell of a row, which must not look like a comment, a type or column names.
+void TextFileWriter::putName(std::string_view text) {
+  const bool isOdd = !text.empty() && (text.front() == '#' || text.front() == '[' || isName(text));
+  if (isOdd && text.find('"') == std::string_view::npos) {
+    NetworkFileWriter::put("\"");
+    NetworkFileWriter::put(text);
+    NetworkFileWriter::put("\"");
+  } else {
+    putCell(text);
+  }
+}
+
+void TextFileWriter::write(std::string_view name, std::string_view type, std::vector<Property> properties) {
+  std::string shape(type);
+  if (type.empty()) {
+    for (const Property &property : properties) {
+      shape += '\n';
+      shape += property.key.utf8();
+    }
+  }
+  const auto [entry, isNew] = m_byShape.try_emplace(std::move(shape), m_tables.size());
+  if (isNew)
+    m_tables.push_back({std::string(type), {}, {}});
+  Table &table = m_tables[entry->second];
+  for (const Property &property : properties) {
+    if (std::find(table.columns.begin(), table.columns.end(), property.key) == table.columns.end())
+      table.columns.push_back(property.key);
+  }
+  table.rows.push_back({PropertyText(name), std::move(properties)});
+}
+
+void TextFileWriter::writeSetPoint(std::string_view name, std::string_view property, const PropertyText &value,
+                                   std::string_view unit) {
+  if (!m_hasSetPoints)
+    NetworkFileWriter::put("name;property;value;unit\n");
+  m_hasSetPoints = true;
+  putName(name);
+  NetworkFileWriter::put(";");
+  putCell(property);
+  NetworkFileWriter::put(";");
+  putCell(value.utf8());
+  if (!unit.empty()) {
+    NetworkFileWriter::put(";");
+    putCell(unit);
+  }
+  NetworkFileWriter::put("\n");
+}
+
+void TextFileWriter::put(const Table &table) {
+  if (!table.type.empty())
+    NetworkFileWriter::put("[" + table.type + "]\n");
+  NetworkFileWriter::put("name");
+  for (const PropertyKey column : table.columns) {
+    NetworkFileWriter::put(";");
+    putCell(column.utf8());
+  }
+  NetworkFileWriter::put("\n");
+  for (const Row &row : table.rows) {
+    putName(row.name.utf8());
+    std::size_t separators = 0; // not yet written, so that no row ends in some
+    for (const PropertyKey column : table.columns) {
+      ++separators;
+      const auto found = std::find_if(row.properties.begin(), row.properties.end(),
+                                      [column](const Property &property) { return property.key == column; });
+      if (found == row.properties.end())
+        continue;
+      NetworkFileWriter::put(std::string(separators, ';'));
+      separators = 0;
+      putCell(found->value.utf8());
+    }
+    NetworkFileWriter::put("\n");
+  }
+}
+
+bool TextFileWriter::finish() {
+  for (std::size_t i = 0; i < m_tables.size(); ++i) {
+    if (i > 0)
+      NetworkFileWriter::put("\n");
+    put(m_tables[i]);
+  }
+  m_tables.clear();
+  return flush();
+}

@@ -1,0 +1,238 @@
+#include <io/networkfileconverter.h>
+#include <io/nivrareader.h>
+#include <support/nivratest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+/// The text form of network files, alone and beside the JSON form.
+class TestTextForms : public QObject {
+  Q_OBJECT
+
+private slots:
+  void cells_data();
+  void cells();
+  void tables();
+  void tabulators();
+  void faultyLines_data();
+  void faultyLines();
+  void openQuoteCostsOneLine();
+  void reportsAsJsonDoes();
+  void setPoints();
+  void thereAndBack();
+  void setPointsThereAndBack();
+  void realNetworksThereAndBack_data();
+  void realNetworksThereAndBack();
+  void conversionsThatFail();
+
+private:
+  QString write(const QString &name, const QByteArray &text) const {
+    QFile file(m_folder.filePath(name));
+    file.open(QIODevice::WriteOnly);
+    file.write(text);
+    return file.fileName();
+  }
+  QByteArray contents(const QString &name) const {
+    QFile file(m_folder.filePath(name));
+    file.open(QIODevice::ReadOnly);
+    return file.readAll();
+  }
+  NivraReader::Result read(NetData &net, const QByteArray &text) const {
+    return NivraReader(net).readGeomJsn(write(QStringLiteral("a.geom"), text), {});
+  }
+  /// Everything that a network holds.
+  static QString dump(NetData &net) {
+    QString text;
+    net.forEach(NetData::AllTypes, [&text](const element &e) { text += e.lines() + QLatin1Char('\n'); });
+    return text;
+  }
+
+  QTemporaryDir m_folder;
+};
+
+void TestTextForms::cells_data() {
+  QTest::addColumn<QByteArray>("cell");
+  QTest::addColumn<QByteArray>("value"); // null: none
+  const auto row = [](const char *cell, const char *value) {
+    QTest::newRow(cell) << QByteArray(cell) << (value == nullptr ? QByteArray() : QByteArray(value));
+  };
+  row("12.50", "12.5"); // as JSON numbers
+  row("\"12.50\"", "12.50");
+  row("  a b  ", "a b");
+  row("\" a b \"", " a b ");
+  row("", nullptr);
+  row("say \"x\"", "say \"x\"");
+  row("\"say \"\"x\"\";\"", "say \"x\";");
+  row("\"two\nlines\r\nand three\"", "two\nlines\r\nand three");
+  row("1,5", "1,5");
+  row("نص 🔥", "نص 🔥");
+  row("1e400", "1e400"); // no number that can be stored: a text
+}
+
+void TestTextForms::cells() {
+  QFETCH(QByteArray, cell);
+  QFETCH(QByteArray, value);
+  NetData net;
+  const auto result = read(net, "[node]\nname;note;x\nA;" + cell + ";3\nB;;4\n");
+  QVERIFY2(result.findings.empty(), qPrintable(result.findings.empty() ? QString() : result.findings[0].text));
+  QCOMPARE(net.nodes().at(QStringLiteral("A")).value(QStringLiteral("note")).toUtf8(), value);
+  QCOMPARE(net.nodes().at(QStringLiteral("A")).contains(QStringLiteral("note")), !value.isNull());
+  QCOMPARE(net.nodes().at(QStringLiteral("B")).value(QStringLiteral("x")), QStringLiteral("4"));
+
+  NetData empty;
+  read(empty, "[node]\nname;note\nA;\"\"\n");
+  QVERIFY(empty.nodes().at(QStringLiteral("A")).contains(QStringLiteral("note")));
+}
+
+void TestTextForms::tables() {
+  NetData net;
+  const auto result =
+      read(net, "\xEF\xBB\xBF# a network\n\n[node];;\r\nName;x;y;;\r\nA;0;0;;\r\n;;;\r\n\"#B\";1;0\n"
+                "[pipe]\nname;node1;node2\nP1;A;#B\nname;node1;node2;\"length;m\"\n\"name\";A;#B;7\nnamely;A;#B\n");
+  QVERIFY2(result.findings.empty(), qPrintable(result.findings.empty() ? QString() : result.findings[0].text));
+  QCOMPARE(net.nodes().size(), std::size_t(2));
+  QCOMPARE(net.edges().size(), std::size_t(3));
+  QCOMPARE(net.edges().at(QStringLiteral("name")).value(QStringLiteral("length;m")), QStringLiteral("7"));
+  QVERIFY(net.edges().find(QStringLiteral("namely")) != nullptr);
+}
+
+void TestTextForms::tabulators() {
+  NetData net;
+  QVERIFY(read(net, "[node]\nname\tx\ty\tnote\nA\t\t3\ta;b\nname2\t4\n").findings.empty());
+  const element &a = net.nodes().at(QStringLiteral("A"));
+  QVERIFY(!a.contains(QStringLiteral("x")));
+  QCOMPARE(a.value(QStringLiteral("y")), QStringLiteral("3"));
+  QCOMPARE(a.value(QStringLiteral("note")), QStringLiteral("a;b"));
+  QCOMPARE(net.nodes().at(QStringLiteral("name2")).value(QStringLiteral("x")), QStringLiteral("4"));
+}
+
+void TestTextForms::faultyLines_data() {
+  QTest::addColumn<QByteArray>("line");
+  QTest::addColumn<QString>("reason");
+  QTest::newRow("too many cells") << QByteArray("B;1;2;3") << QStringLiteral("more than the 3 columns");
+  QTest::newRow("behind a quote") << QByteArray("\"B\" x;1;2") << QStringLiteral("behind a closing quote");
+  QTest::newRow("type") << QByteArray("[pipe] x") << QStringLiteral("alone in its line");
+  QTest::newRow("column") << QByteArray("name;;x") << QStringLiteral("a column has no name");
+}
+
+void TestTextForms::faultyLines() {
+  QFETCH(QByteArray, line);
+  QFETCH(QString, reason);
+  NetData net;
+  const auto result = read(net, "[node]\nname;x;y\nA;0;0\n" + line + "\nC;1;1\n");
+  QCOMPARE(result.findings.size(), std::size_t(1));
+  QCOMPARE(result.findings[0].line, 4);
+  QVERIFY2(result.findings[0].text.contains(reason), qPrintable(result.findings[0].text));
+  QVERIFY(!result.findings[0].box.isEmpty());
+  QCOMPARE(net.nodes().size(), std::size_t(2)); // the rest is shown
+  NetData none;
+  QVERIFY(read(none, "A;1\n").findings[0].text.contains(QStringLiteral("column names")));
+}
+
+void TestTextForms::openQuoteCostsOneLine() {
+  QByteArray text = "[node]\nname;x;note\nA;0;\"open\n";
+  for (int i = 0; i < 500; ++i)
+    text += "N" + QByteArray::number(i) + ";1;\n";
+  NetData net;
+  const auto result = read(net, text + "Z;1;\"\"\n");
+  QCOMPARE(result.findings.size(), std::size_t(1));
+  QCOMPARE(result.findings[0].line, 3);
+  QCOMPARE(net.nodes().size(), std::size_t(501));
+}
+
+void TestTextForms::reportsAsJsonDoes() {
+  NetData net;
+  const auto result = read(net, "[gadget]\nname;x\nA;0\n[node]\nname;x;X\nB;1;2\n");
+  QCOMPARE(result.findings.size(), std::size_t(2));
+  QCOMPARE(result.findings[0].text, QStringLiteral("ERROR: Type gadget of element A not known! Element will be erased!"));
+  QCOMPARE(result.findings[1].text, QStringLiteral("Property X of element B is given twice; the last value counts"));
+  NivraReader::Options options;
+  options.includeTypes = QStringLiteral("^pipe$");
+  NetData pipes;
+  NivraReader(pipes).readGeomJsn(write(QStringLiteral("a.geom"), "[node]\nname\nA\n[pipe]\nname;node1;node2\nP;A;A\n"),
+                                 options);
+  QVERIFY(pipes.nodes().isEmpty() && pipes.edges().size() == 1);
+}
+
+void TestTextForms::setPoints() {
+  NetData net;
+  read(net, "[node]\nname\nA\nB\n");
+  const auto result = NivraReader(net).readScenariofileJsn(
+      write(QStringLiteral("a.scen"), "name;property;value;unit\nA;pset;7;MPa\nB;qset;12.5\nC;pset;1\nA;tset\n"), {});
+  QCOMPARE(net.nodes().at(QStringLiteral("A")).value(QStringLiteral("pset")), QStringLiteral("70"));
+  QCOMPARE(net.nodes().at(QStringLiteral("B")).value(QStringLiteral("qset")), QStringLiteral("12.5"));
+  QCOMPARE(result.findings.size(), std::size_t(2));
+  QCOMPARE(result.findings[1].line, 5);
+}
+
+void TestTextForms::thereAndBack() {
+  const QString json = write(QStringLiteral("b.geom.jsn"),
+                             "{\n\"A;1\":{\"obj_type\":\"node\",\"x\":0,\"y\":1e-7,\"z\":\"1.50\",\"empty\":\"\"}\n"
+                             ",\"\\\"q\\\"\":{\"obj_type\":\"node\",\"x\":\" 1\",\"note\":\"two\\nlines\\u0007 \\\\ 🔥\"}\n"
+                             ",\"name\":{\"obj_type\":\"pipe\",\"node1\":\"A;1\",\"node2\":\"#N\",\"length\":12.50}\n"
+                             ",\"#N\":{\"obj_type\":\"node\",\"x\":3,\"flag\":true,\"[k]\":-0.0}\n}\n");
+  const QString text = m_folder.filePath(QStringLiteral("b.geom"));
+  const auto there = NetworkFileConverter::convert(json, text);
+  QVERIFY(there.ok && there.findings.empty());
+  QCOMPARE(there.records, 4);
+  const QString back = m_folder.filePath(QStringLiteral("c.geom.jsn"));
+  QVERIFY(NetworkFileConverter::convert(text, back).ok);
+  NetData nets[3];
+  NivraReader(nets[0]).readGeomJsn(json, {});
+  NivraReader(nets[1]).readGeomJsn(text, {});
+  NivraReader(nets[2]).readGeomJsn(back, {});
+  QCOMPARE(nets[0].nodes().size(), std::size_t(3));
+  QCOMPARE(dump(nets[1]), dump(nets[0]));
+  QCOMPARE(dump(nets[2]), dump(nets[0]));
+}
+
+void TestTextForms::setPointsThereAndBack() {
+  const QByteArray json =
+      "{\n\"A\":[{\"property\":\"pset\",\"value\":70,\"unit\":\"bar\"},{\"property\":\"t\",\"value\":\"x\"}]\n"
+      ",\"B\":[{\"property\":\"q\",\"value\":-1.5}]\n}\n";
+  const QString from = write(QStringLiteral("d.scen.jsn"), json);
+  const QString text = m_folder.filePath(QStringLiteral("d.scen"));
+  QVERIFY(NetworkFileConverter::convert(from, text).ok);
+  QCOMPARE(contents(QStringLiteral("d.scen")), QByteArray("name;property;value;unit\nA;pset;70;bar\nA;t;x\nB;q;-1.5\n"));
+  QVERIFY(NetworkFileConverter::convert(text, m_folder.filePath(QStringLiteral("e.scen.jsn"))).ok);
+  QCOMPARE(contents(QStringLiteral("e.scen.jsn")), json);
+}
+
+void TestTextForms::realNetworksThereAndBack_data() {
+  QTest::addColumn<QString>("file");
+  QTest::newRow("example") << QStringLiteral(NIVRA_SOURCE_DIR "/example/DE_H2/DE_H2.geom.jsn");
+  for (const char *name : {"GasLib-11", "GasLib-40", "GasLib-135"})
+    QTest::newRow(name) << QStringLiteral(NIVRA_SOURCE_DIR "/../shared/data/%1/%1.geom.jsn").arg(QLatin1String(name));
+}
+
+void TestTextForms::realNetworksThereAndBack() {
+  QFETCH(QString, file);
+  if (!QFile::exists(file))
+    QSKIP("the network is not on this machine");
+  const QString text = m_folder.filePath(QStringLiteral("real.geom"));
+  const QString back = m_folder.filePath(QStringLiteral("real.geom.jsn"));
+  QVERIFY(NetworkFileConverter::convert(file, text).ok);
+  QVERIFY(NetworkFileConverter::convert(text, back).ok);
+  NetData before;
+  NetData between;
+  NetData after;
+  QVERIFY(NivraReader(before).readGeomJsn(file, {}).findings.empty());
+  QVERIFY(NivraReader(between).readGeomJsn(text, {}).findings.empty());
+  NivraReader(after).readGeomJsn(back, {});
+  QCOMPARE(dump(between), dump(before));
+  QCOMPARE(dump(after), dump(before));
+}
+
+void TestTextForms::conversionsThatFail() {
+  const QString good = write(QStringLiteral("g.geom"), "[node]\nname\nA\n");
+  QVERIFY(!NetworkFileConverter::convert(good, m_folder.filePath(QStringLiteral("none/g.geom.jsn"))).ok);
+  QVERIFY(!NetworkFileConverter::convert(m_folder.filePath(QStringLiteral("gone.geom")), good + QStringLiteral(".jsn")).ok);
+  QVERIFY(!NetworkFileConverter::convert(good, m_folder.filePath(QStringLiteral("g.xyz"))).ok);
+  QVERIFY(!QFile::exists(good + QStringLiteral(".jsn"))); // whole or not at all
+  QCOMPARE(NetworkFileConverter::otherForm(QStringLiteral("a.res.sub.jsn")), QStringLiteral("a.res.sub"));
+  QCOMPARE(NetworkFileConverter::otherForm(QStringLiteral("a.scen")), QStringLiteral("a.scen.jsn"));
+  QVERIFY(!NetworkFileConverter::isNetworkFile(QStringLiteral("a.scen.cfg.jsn")));
+}
+
+NIVRA_TEST(TestTextForms);
+#include "tst_textforms.moc"
