@@ -4,6 +4,7 @@
 Prints what is wrong and exits with 1. Needs nothing but Python and nothing of what made the files.
 """
 
+import csv
 import json
 import sys
 from fractions import Fraction
@@ -19,11 +20,22 @@ SMALL_FLOW = 0.05  # kg/s; below it the pressure drop may vanish in the digits t
 BALANCE = Fraction(1, 10**9)  # of the flow through a node
 
 
+def number(text):
+    try:
+        return Fraction(text)
+    except ValueError:
+        return text
+
+
 class Checker:
     def __init__(self, case, faults):
         self.case = case
         self.faults = faults
         self.net = self.read(case / f"{case.name}.geom.jsn")
+        self.assembled = {}
+        for name, subnet in [*self.of_type("subnet").items()]:
+            self.assembled |= self.assemble(name, subnet)
+        self.net |= self.assembled
         self.edges = {name: e for name, e in self.net.items() if e["obj_type"] not in NO_EDGES}
         self.nodes = self.of_type("node")
 
@@ -47,6 +59,23 @@ class Checker:
             elements[name] = value
         return elements
 
+    def assemble(self, name, subnet):
+        """The elements that the template of a subnet stands for, as the viewer names them."""
+        columns, word, rows = [], "", {}
+        path = Path(__file__).resolve().parent.parent / "net_subassemblies" / f"{subnet['variant']}.geom"
+        for line in path.read_text(encoding="utf-8").splitlines():
+            if line.startswith("["):
+                word = line.strip("[]")
+            elif line.startswith("name;"):
+                columns = line.split(";")
+            elif line and not line.startswith("#"):
+                row = dict(zip(columns, next(csv.reader([line], delimiter=";"))))
+                rows[row.pop("name")] = {"obj_type": word, **{k: number(v) for k, v in row.items() if v}}
+        names = dict(zip(rows.pop("SUB")["pins"].split(";"), subnet["pins"].split(";")))
+        names |= {key: f"{name}_{key}" for key in rows if key not in names}
+        return {names[key]: {k: names.get(v, v) for k, v in row.items()} for key, row in rows.items()
+                if names[key] not in self.net}
+
     def check_geometry(self):
         found = {e["obj_type"] for e in self.net.values()}
         self.expect(found == WORDS, f"types missing or unknown: {found ^ WORDS}")
@@ -55,7 +84,7 @@ class Checker:
         count = len(self.nodes) + len(self.of_type("drive"))
         self.expect(150 <= count <= 300, f"{count} nodes and drives")
         for name, node in self.nodes.items():
-            inside = 5.8 < node["lon"] < 15.1 and 47.2 < node["lat"] < 55.1
+            inside = name in self.assembled or 5.8 < node["lon"] < 15.1 and 47.2 < node["lat"] < 55.1
             self.expect(inside, f"{name} lies abroad")
             self.expect(node["pmin"] < node["pmax"], f"{name}: pressure bounds")
         for name, edge in self.edges.items():
@@ -94,6 +123,10 @@ class Checker:
         results = self.read(directory / f"{name}.res.jsn")
         values = {element: {v["property"]: v["value"] for v in entries}
                   for element, entries in self.read(directory / f"{name}.scen.jsn").items()}
+        inside = self.read(directory / f"{name}.res.sub.jsn")
+        self.expect(inside.keys() == self.assembled.keys(), f"{name}: sub-results of {inside.keys() ^ self.assembled.keys()}")
+        results |= inside
+        values |= inside
         for element in (*results, *values):
             self.expect(element in self.net, f"{name}: {element} is not in the network")
         missing = {*self.nodes, *self.edges, *self.of_type("drive")} - results.keys()
@@ -111,7 +144,7 @@ class Checker:
         for drive, properties in self.of_type("drive").items():
             power = results[drive]["power"]
             self.expect(power == results[properties["driven"]]["power"], f"{name}: {drive} and its compressor differ")
-            self.expect(0 <= power <= properties["powermax"], f"{name}: {drive} at {float(power)} MW")
+            self.expect(0 <= power <= {**properties, **values.get(drive, {})}["powermax"], f"{name}: {drive} at {float(power)} MW")
 
     def check_balance(self, scenario, results, values):
         demands = {node: values.get(node, {}).get("qset", 0) for node in self.nodes}

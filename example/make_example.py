@@ -23,7 +23,7 @@ def main():
     net = network.build()
     outcomes = {name: scenarios.run(net, name) for name in scenarios.SCENARIOS}
     set_power_limits(net, outcomes)
-    writer.write_geometry(case, net.elements)
+    writer.write_geometry(case, net)
     for name, outcome in outcomes.items():
         writer.write_scenario(case / name, net, outcome)
     print(f"{len(net.nodes())} nodes and {len(net.edges)} edges written to {case}")

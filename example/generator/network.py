@@ -19,7 +19,7 @@ KG_PER_S_TO_Q = 3.6 / RHO_NORM  # 1000 m3/h of a kg/s
 # What stations take away, as K in bar² s²/kg²
 STATION_FRICTION = {"valve": 0.002, "cooler": 0.004, "heater": 0.004, "flaptrap": 0.003, "resistor": 0.012, "shortcut": 0.0}
 
-MARKED_STATIONS = ("Rehden", "Werne", "Reckrod")  # those that a subnet symbol stands for
+MARKED_STATIONS = ("Werne", "Radeland", "Reckrod")  # those that are subnets: two electric machines each
 
 METERED_ENTRIES = {"Emden": "shortcut", "Lubmin": "shortcut", "Elten": "shortcut", "Waidhaus": "shortcut",
                    "Ellund": "shortcut", "Wilhelmshaven": "resistor", "Stade": "resistor", "Brunsbüttel": "resistor"}

@@ -32,10 +32,16 @@ bool LoadProgress::update(double fraction) {
   return !m_cancelled;
 }
 
+void LoadProgress::tell(const QString &text) {
+  m_text = text;
+  if (m_progress != nullptr)
+    m_bar->showMessage(text);
+}
+
 void LoadProgress::show() {
   constexpr int Steps = 1000;
   constexpr int Width = 240;
-  m_bar->showMessage(tr("Reading the network …"));
+  m_bar->showMessage(m_text.isEmpty() ? tr("Reading the network …") : m_text);
   m_progress = new QProgressBar;
   m_progress->setRange(0, Steps);
   m_progress->setMaximumWidth(Width);

@@ -1,5 +1,6 @@
 #include <base/nivramsg.h>
 #include <io/nivrareader.h>
+#include <subassembly/subassembler.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -93,7 +94,13 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   checked.insert(checked.end(), m_removed.findings.begin(), m_removed.findings.end());
   notice(tr("Checking"), std::move(checked));
   m_seconds.append({QStringLiteral("check"), static_cast<double>(timer.restart()) * Milli});
-  const bool isComputed = computeFormulas(options.progress);
+  assembleSubnets(options);
+  const NivraReader::Result subResults = reader.readSubResults(m_workspace, readerOptions);
+  report(subResults.findings);
+  notice(tr("Reading"), subResults.findings);
+  m_seconds.append({QStringLiteral("subnets"), static_cast<double>(timer.restart()) * Milli});
+  m_cancelled = m_cancelled || subResults.cancelled;
+  const bool isComputed = !m_cancelled && computeFormulas(options.progress);
   m_seconds.append({QStringLiteral("formulas"), static_cast<double>(timer.restart()) * Milli});
   return isComputed;
 }
@@ -103,10 +110,29 @@ void NetworkLoader::notice(const QString &stage, Findings findings) {
     m_noticed.push_back({stage, std::move(findings)});
 }
 
+void NetworkLoader::assembleSubnets(const ReadOptions &options) {
+  m_templateDefinitions.clear();
+  if (m_net.assembledSubnets().isEmpty())
+    return;
+  const QString folder = SubAssembler::findFolder(QCoreApplication::applicationDirPath());
+  SubAssembler assembler(m_net, folder);
+  SubAssembler::Result result =
+      assembler.createElesOfAssembledSubnets(SubAssembler::Flag::All, [&](const QString &text, int done, int count) {
+        if (options.told)
+          options.told(text);
+        m_cancelled = options.progress && !options.progress(static_cast<double>(done) / count);
+        return !m_cancelled;
+      });
+  m_templateDefinitions = std::move(result.definitions);
+  report(result.findings);
+  notice(tr("Subnets"), std::move(result.findings));
+}
+
 bool NetworkLoader::computeFormulas(const Progress &progress) {
   Findings findings;
-  std::vector<FormulaDefinition> definitions =
-      definitionsIn(m_workspace.caseDirectory(), QStringLiteral("geometry"), findings);
+  std::vector<FormulaDefinition> definitions = std::move(m_templateDefinitions); // those of the case come after and count
+  std::vector<FormulaDefinition> own = definitionsIn(m_workspace.caseDirectory(), QStringLiteral("geometry"), findings);
+  std::move(own.begin(), own.end(), std::back_inserter(definitions));
   if (m_workspace.hasScenario()) {
     std::vector<FormulaDefinition> more =
         definitionsIn(m_workspace.scenarioDirectory(), QStringLiteral("scenario"), findings);

@@ -181,6 +181,9 @@ bool NivraViewer::readWorkspace() {
   options.progress = [&progress](double fraction) {
     return progress.update(fraction);
   };
+  options.told = [&progress](const QString &text) {
+    progress.tell(text);
+  };
   const bool done = m_loader.readNetwork(options);
   m_progress = nullptr;
   if (!done)

@@ -68,6 +68,17 @@ public:
     return found;
   }
 
+  std::vector<element *> named(const QStringList &names, const QStringList &types) const {
+    std::vector<element *> found;
+    for (const QString &name : names) {
+      element *e = m_net.element(name);
+      if (e != nullptr && (types.isEmpty() || types.contains(e->value(QStringLiteral("type")))))
+        found.push_back(e);
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+  }
+
 private:
   void sortByType() {
     static const PropertyKey key = PropertyKey::intern("type");
@@ -152,7 +163,8 @@ void NetworkFormulas::Computing::prepare(const std::vector<FormulaDefinition> &d
   for (const FormulaDefinition &definition : definitions) {
     try {
       FormulaRule rule = parsed(definition);
-      rule.elements = finder.find(rule.definition.types, rule.definition.namePattern);
+      rule.elements = definition.elements.isEmpty() ? finder.find(definition.types, definition.namePattern)
+                                                    : finder.named(definition.elements, definition.types);
       rules.push_back(std::move(rule));
     } catch (const FormulaError &error) {
       findings.push_back(

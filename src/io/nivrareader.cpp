@@ -171,11 +171,17 @@ NivraReader::Result NivraReader::readNetwork(const QString &geometryPath, const 
   if (result.cancelled || scenarioPath.isEmpty())
     return result;
   append(result, readScenario(scenarioPath, scenario, options));
-  const QString subResults =
-      networkPath(scenarioPath.section(QLatin1Char('.'), 0, -2) + QStringLiteral(".res.sub"), m_isJson);
-  if (!result.cancelled && QFileInfo::exists(subResults))
-    append(result, readResultsJsn(subResults, options));
   return result;
+}
+
+NivraReader::Result NivraReader::readSubResults(const NivraWorkspace &workspace, const Options &options) {
+  const QString base = workspace.scenarioPath().section(QLatin1Char('.'), 0, -2);
+  const QString path = networkPath(base + QStringLiteral(".res.sub"), workspace.isJson());
+  if (workspace.hasScenario() && QFileInfo::exists(path))
+    return readResultsJsn(path, options);
+  Result none;
+  none.ok = true;
+  return none;
 }
 
 NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options &options) {

@@ -304,6 +304,8 @@ void TestNivraReader::textWorkspace() {
   NivraReader reader(net);
   const auto result = reader.readTopoAndScen(workspace, {});
   QVERIFY2(result.ok && result.findings.empty(), qPrintable(result.findings.empty() ? QString() : result.findings[0].text));
+  QCOMPARE(net.nodes().at(QStringLiteral("B")).value(QStringLiteral("p")), QStringLiteral("69.5"));
+  QVERIFY(reader.readSubResults(workspace, {}).findings.empty());
   QCOMPARE(net.nodes().at(QStringLiteral("A")).value(QStringLiteral("pset")), QStringLiteral("70"));
   QCOMPARE(net.nodes().at(QStringLiteral("A")).value(QStringLiteral("p")), QStringLiteral("70"));
   QCOMPARE(net.nodes().at(QStringLiteral("B")).value(QStringLiteral("p")), QStringLiteral("69"));

@@ -22,6 +22,8 @@ public:
 
   /// False when the user cancelled. Called often; does something only every few dozen milliseconds.
   bool update(double fraction);
+  /// What is being done.
+  void tell(const QString &text);
 
 public slots:
   void cancel() { m_cancelled = true; }
@@ -34,5 +36,6 @@ private:
   QToolButton *m_button = nullptr;
   QElapsedTimer m_sinceStart;
   QElapsedTimer m_sinceUpdate;
+  QString m_text;
   bool m_cancelled = false;
 };

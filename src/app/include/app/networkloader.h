@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
 #include <utility>
 
 /// Brings a chosen file into a NetData: workspace, configuration, network, checks. It knows no widgets; the window and
@@ -36,9 +37,10 @@ public:
     QString includeTypes;      ///< regular expression, empty for all
     QString includeProperties; ///< regular expression, empty for all
     Progress progress;
+    std::function<void(const QString &text)> told; ///< what is being done, for a person
   };
-  /// Fills the NetData, which must be empty, checks it and computes its formulas. False when nothing could be read or
-  /// reading was cancelled.
+  /// Fills the NetData, which must be empty, checks it, assembles its subnets and computes its formulas. False when nothing
+  /// could be read or reading was cancelled.
   bool readNetwork(const ReadOptions &options);
 
   const NivraWorkspace &workspace() const { return m_workspace; }
@@ -55,6 +57,7 @@ public:
   QString error() const { return m_error; } ///< why the last step failed, for a person
 
 private:
+  void assembleSubnets(const ReadOptions &options);
   bool computeFormulas(const Progress &progress);
   void notice(const QString &stage, Findings findings);
   void noticeViolations();
@@ -65,6 +68,7 @@ private:
   NivraGasParams m_gasParams;
   QString m_checkFindings;
   ConsistencyCheck::PruneResult m_removed;
+  std::vector<FormulaDefinition> m_templateDefinitions; ///< of the assembled subnets
   std::vector<FindingList::Group> m_noticed;
   Seconds m_seconds;
   QString m_error;

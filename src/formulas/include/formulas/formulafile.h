@@ -11,10 +11,11 @@
 /// One line of a formula file: what a property is computed from, or the bounds that it is to keep.
 struct FormulaDefinition {
   QString property;
-  QStringList types;   ///< codes; empty for all
-  QString namePattern; ///< regular expression, empty for all
-  QString unit;        ///< of what the expressions yield; empty for the stored one
-  QString category;    ///< such as "geometry", "scenario", "results"
+  QStringList types;    ///< codes; empty for all
+  QString namePattern;  ///< regular expression, empty for all
+  QStringList elements; ///< names; when there are some, only these of the types
+  QString unit;         ///< of what the expressions yield; empty for the stored one
+  QString category;     ///< such as "geometry", "scenario", "results"
   QString comment;
 
   bool isConstraint = false;

@@ -31,8 +31,10 @@ public:
   explicit NivraReader(NetData &net)
       : m_net(net) {}
 
-  /// Geometry, then the scenario with its companion files where there is one, then the sub-results.
+  /// Geometry, then the scenario with its companion files where there is one.
   Result readTopoAndScen(const NivraWorkspace &workspace, const Options &options);
+  /// Values of elements inside of subnets, once these are assembled; nothing when the scenario has no such file.
+  Result readSubResults(const NivraWorkspace &workspace, const Options &options);
   Result readTopoAndScenJsn(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
                             const Options &options);
   /// The same in the text form.

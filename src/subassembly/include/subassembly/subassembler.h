@@ -1,0 +1,66 @@
+#pragma once
+
+#include <base/finding.h>
+#include <formulas/formulafile.h>
+#include <model/netdata.h>
+#include <subassembly/subassemblycache.h>
+
+#include <QStringList>
+
+#include <functional>
+
+/// Turns the subnet elements of a network into real elements, from the templates of a folder. A template is a small network
+/// "VARIANT.geom" with one subnet named "SUB", which holds pins and default values; constraints and formulas for its
+/// elements stand in "VARIANT.geom.csv" and "VARIANT.formulas". An element T of the template becomes SUBNET_T.
+class SubAssembler {
+public:
+  /// What to build.
+  enum class Flag {
+    All,          ///< the elements of the template and everything about the subnet
+    PlacementOnly ///< only what the subnet element itself says: defaults, position, direction
+  };
+  /// Told the text for a person and how far the work has come; false stops.
+  using Told = std::function<bool(const QString &text, int done, int count)>;
+
+  struct Result {
+    int assembled = 0;
+    int replaced = 0; ///< with the variant "default"
+    int erased = 0;
+    bool newPins = false;                       ///< pin nodes were added to the network
+    std::vector<FormulaDefinition> definitions; ///< formulas and constraints of the created elements
+    Findings findings;
+  };
+
+  /// \param folder of the templates; when it is empty nothing is assembled
+  SubAssembler(NetData &net, const QString &folder, SubAssemblyCache &cache = SubAssemblyCache::instance());
+
+  /// "net_subassemblies" in the program's folder or up to three above it; empty, with a message in the log, when there is
+  /// none.
+  static QString findFolder(const QString &programFolder);
+
+  /// Builds all assembled subnets of the network.
+  Result createElesOfAssembledSubnets(Flag flag = Flag::All, const Told &told = Told());
+  /// Builds one; below 1 on failure. \param tryReset whether a pin list of another length than the template's may be reset
+  int createEleOfAssembledSubnet(element &subnet, const QStringList &pins, Flag flag, bool tryReset);
+
+  const Result &result() const { return m_result; }
+
+private:
+  struct Names;
+
+  const NetData *geometry(const QString &name, const QString &variant);
+  QString templateFile(const QString &variant, const char *suffix) const;
+  void takeDefaults(element &subnet, const element &record) const;
+  QStringList pinsOf(element &subnet, const QStringList &pins, const QStringList &ofTemplate, bool tryReset);
+  void placeSubnet(element &subnet, const QStringList &pins);
+  void createElements(element &subnet, const NetData &source, const QStringList &templatePins, const QStringList &pins);
+  void createPin(const element &source, const QString &name, const QPointF &at);
+  void takeDefinitions(const element &subnet, const FormulaFile::Contents &contents, const Names &names);
+  QString uniqueName(const QString &wanted) const;
+  void log(const QString &text, const QString &element = QString());
+
+  NetData &m_net;
+  QString m_folder;
+  std::shared_ptr<SubAssemblyTemplates> m_templates;
+  Result m_result;
+};
