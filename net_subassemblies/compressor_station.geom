@@ -9,9 +9,9 @@ K;800;800;stations;;25;84;innode
 Out;1400;0;stations;;25;84;innode
 
 [drive]
-name;gasnode;driven;kind;vis.layer;powermax
-D1;In;C1;electricMotor;stations;20
-D2;In;C2;electricMotor;stations;20
+name;x;y;gasnode;driven;kind;vis.layer;powermax
+D1;-40;680;In;C1;electricMotor;stations;20
+D2;-40;920;In;C2;electricMotor;stations;20
 
 [valve]
 name;node1;node2;state;dpmax;qmin;qmax;vis.layer

@@ -26,6 +26,7 @@
 #include <app/aboutbox.h>
 #include <app/loadprogress.h>
 #include <app/nivraviewer.h>
+#include <app/subnetwindow.h>
 #include <app/tooldocks.h>
 
 namespace {
@@ -70,6 +71,7 @@ NivraViewer::NivraViewer(QWidget *parent)
     else
       elementAction(name, action);
   });
+  connect(m_control.get(), &NetVisControl::subnetWanted, this, &NivraViewer::openSubnet);
   connect(m_control.get(), &NetVisControl::configureDrawRequested, m_tools, &ToolDocks::showDrawConfiguration);
   connect(m_tools, &ToolDocks::propertyChanged, this, &NivraViewer::computeAgain);
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
@@ -202,6 +204,15 @@ bool NivraViewer::askForIncludeLists(NetworkLoader::ReadOptions &options) {
         QInputDialog::getText(this, tr("Include Properties"), tr("Enter include list for properties\n(regular expression):"),
                               QLineEdit::Normal, QString(), &accepted);
   return accepted;
+}
+
+void NivraViewer::openSubnet(const QString &name) {
+  auto *window = new SubnetWindow(m_net, name, m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")), this);
+  connect(window->visControl(), &NetVisControl::elementAction, this,
+          [this](const QString &picked, NetPicker::EleAction action) {
+            elementAction(picked, action); // the tools know the elements by their names
+          });
+  window->show();
 }
 
 void NivraViewer::computeAgain(const QStringList &names, const QString &property) {

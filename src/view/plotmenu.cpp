@@ -124,7 +124,12 @@ void PlotMenu::addSubnet(QMenu &contextMenu) const {
   if (subnets.isEmpty())
     return;
   NivraMsg::debug(QStringLiteral("sel has sub"));
-  addSubnetEntries(*contextMenu.addMenu(tr("Subnet")), subnets.first());
+  QMenu *menu = contextMenu.addMenu(tr("Subnet"));
+  NetVisControl *control = &m_control;
+  QAction *open = menu->addAction(tr("Open in a window of its own"), control,
+                                  [control, name = subnets.first()] { emit control->subnetWanted(name); });
+  open->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::subnetWanted)));
+  addSubnetEntries(*menu, subnets.first());
 }
 
 void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name) const {
@@ -223,18 +228,20 @@ void PlotMenu::addLabels(QMenu &contextMenu) const {
   if (unplaced.empty())
     return;
   NetVisControl *control = &m_control;
-  contextMenu.addAction(tr("%1 labels found no place …").arg(unplaced.size()), plot, [control, plot, unplaced] {
-    QDialog dialog(plot);
-    dialog.setWindowTitle(tr("Labels without a place"));
-    auto *list = new QListWidget(&dialog);
-    for (const NetGeometry::Item item : unplaced)
-      list->addItem(plot->update().geometry().source(item)->value(QStringLiteral("name")));
-    auto *layout = new QVBoxLayout(&dialog);
-    layout->addWidget(list);
-    QObject::connect(list, &QListWidget::itemActivated, &dialog, [control, &dialog](const QListWidgetItem *entry) {
-      control->showElement(entry->text());
-      dialog.accept();
-    });
-    dialog.exec();
-  });
+  contextMenu.addAction(
+      unplaced.size() == 1 ? tr("1 label found no place …") : tr("%1 labels found no place …").arg(unplaced.size()), plot,
+      [control, plot, unplaced] {
+        QDialog dialog(plot);
+        dialog.setWindowTitle(tr("Labels without a place"));
+        auto *list = new QListWidget(&dialog);
+        for (const NetGeometry::Item item : unplaced)
+          list->addItem(plot->update().geometry().source(item)->value(QStringLiteral("name")));
+        auto *layout = new QVBoxLayout(&dialog);
+        layout->addWidget(list);
+        QObject::connect(list, &QListWidget::itemActivated, &dialog, [control, &dialog](const QListWidgetItem *entry) {
+          control->showElement(entry->text());
+          dialog.accept();
+        });
+        dialog.exec();
+      });
 }

@@ -21,6 +21,7 @@
 
 #include <app/loadprogress.h>
 #include <app/nivraviewer.h>
+#include <app/subnetwindow.h>
 
 namespace {
 
@@ -58,6 +59,7 @@ private slots:
   void menus();
   void contextMenuLeadsBack();
   void toolsAndDrawingMeet();
+  void subnetsHaveWindowsOfTheirOwn();
   void openDialogStartsAtTheExample();
   void progressAppearsLateAndCancels();
 
@@ -189,6 +191,27 @@ void TestWindow::toolsAndDrawingMeet() {
   viewer.on_actionMetadataTable_triggered();
   viewer.open(m_workspace.geometry()); // the tools take the next network
   QVERIFY(control.net().selection().isEmpty());
+}
+
+void TestWindow::subnetsHaveWindowsOfTheirOwn() {
+  const WorkspaceFixture workspace;
+  workspace.writeGeometry(
+      "{\n\"A\":{\"obj_type\":\"node\",\"x\":0,\"y\":0}\n,\"B\":{\"obj_type\":\"node\",\"x\":9,\"y\":0}\n"
+      ",\"C\":{\"obj_type\":\"node\",\"x\":20,\"y\":0}\n"
+      ",\"P\":{\"obj_type\":\"pipe\",\"node1\":\"B\",\"node2\":\"C\"}\n"
+      ",\"M\":{\"obj_type\":\"subnet\",\"variant\":\"metering_station\",\"pins\":\"A;B\"}\n}\n");
+  NivraViewer viewer;
+  viewer.open(workspace.geometry());
+  emit viewer.visControl()->subnetWanted(QStringLiteral("M"));
+  auto *window = viewer.findChild<SubnetWindow *>();
+  QVERIFY(window != nullptr);
+  QCOMPARE(window->windowTitle(), QStringLiteral("Subassembly M"));
+  QCOMPARE(window->visControl()->net().nodes().size(), std::size_t(4)); // two pins, two inside
+  QCOMPARE(window->visControl()->net().edges().size(), std::size_t(4));
+  const QSignalSpy current(&viewer, &NivraViewer::currentEleChanged);
+  emit window->visControl()->elementAction(QStringLiteral("M_V1"), NetPicker::EleAction::Mark);
+  QCOMPARE(current.count(), 1); // the tools follow what is picked there
+  QVERIFY(SubnetWindow::part(viewer.visControl()->net(), QStringLiteral("none")).isEmpty());
 }
 
 void TestWindow::openDialogStartsAtTheExample() {

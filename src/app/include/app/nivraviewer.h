@@ -54,6 +54,7 @@ private:
   void fillViewMenu();
   void setCurrentElement(const QString &name);
   void showSelection();
+  void openSubnet(const QString &name);
   void computeAgain(const QStringList &names, const QString &property);
   void showTitle();
   void setBusy(bool busy);

@@ -49,6 +49,7 @@ signals:
   void editPropertiesRequested(const QStringList &names);
   void openCharacteristicsRequested(const QStringList &names);
   void configureDrawRequested();
+  void subnetWanted(const QString &name); ///< in a window of its own
 
 private:
   friend class PlotMenu;
