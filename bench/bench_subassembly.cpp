@@ -60,7 +60,7 @@ void assembleSubnets(benchmark::State &state) {
   }
   state.counters["templates read"] = cache.folder(folder())->geometry.size();
 }
-BENCHMARK(assembleSubnets)->Unit(benchmark::kMillisecond)->Iterations(5);
+BENCHMARK(assembleSubnets)->Unit(benchmark::kMillisecond)->Iterations(50);
 
 /// The baseline: the same elements added as they are.
 void addElements(benchmark::State &state) {
@@ -86,6 +86,6 @@ void addElements(benchmark::State &state) {
     state.ResumeTiming();
   }
 }
-BENCHMARK(addElements)->Unit(benchmark::kMillisecond)->Iterations(5);
+BENCHMARK(addElements)->Unit(benchmark::kMillisecond)->Iterations(50);
 
 } // namespace

@@ -123,7 +123,7 @@ void NetworkLoader::assembleSubnets(const ReadOptions &options) {
         m_cancelled = options.progress && !options.progress(static_cast<double>(done) / count);
         return !m_cancelled;
       });
-  m_templateDefinitions = std::move(result.definitions);
+  m_templateDefinitions = assembler.definitions(result.findings);
   report(result.findings);
   notice(tr("Subnets"), std::move(result.findings));
 }

@@ -1,4 +1,5 @@
 #include "templateplacement.h"
+#include "templateplan.h"
 
 #include <base/nivramsg.h>
 #include <base/pattern.h>
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 namespace {
 
@@ -20,12 +22,16 @@ constexpr double Milli = 1e-3;
 
 struct Keys {
   PropertyKey name = PropertyKey::intern("name");
-  PropertyKey type = PropertyKey::intern("type");
   PropertyKey x = PropertyKey::intern("X");
   PropertyKey y = PropertyKey::intern("Y");
   PropertyKey pins = PropertyKey::intern("pins");
   PropertyKey variant = PropertyKey::intern("variant");
-  PropertyKey refEle = PropertyKey::intern("refEle");
+  PropertyKey width = PropertyKey::intern("width");
+  PropertyKey rotation = PropertyKey::intern("rotation");
+  PropertyKey icon = PropertyKey::intern("icon");
+  PropertyKey constraints = PropertyKey::intern("constraints");
+  PropertyKey elements = PropertyKey::intern("elements");
+  PropertyKey visSize = PropertyKey::intern("vis.size");
 };
 
 const Keys &keys() {
@@ -57,17 +63,6 @@ QStringList split(const QString &names) {
   return names.isEmpty() ? QStringList() : names.split(QLatin1Char(';'));
 }
 
-/// Properties that name an element of the same network.
-const std::vector<PropertyKey> &references() {
-  static const std::vector<PropertyKey> instance = [] {
-    std::vector<PropertyKey> found;
-    for (const char *name : {"name", "node1", "node2", "entry", "exit", "drive", "driven", "gasnode"})
-      found.push_back(PropertyKey::intern(name));
-    return found;
-  }();
-  return instance;
-}
-
 Finding problem(const QString &text, const QString &element) {
   return {Finding::Severity::Warning, QString(), 0, text, QString(), false, element};
 }
@@ -88,12 +83,6 @@ QString renamed(const QString &expression, const QHash<QString, QString> &names)
 }
 
 } // namespace
-
-/// Template names and what was made of them.
-struct SubAssembler::Names {
-  QHash<QString, QString> all; ///< pins too
-  QStringList created;         ///< template names, without pins
-};
 
 SubAssembler::SubAssembler(NetData &net, const QString &folder, SubAssemblyCache &cache)
     : m_net(net)
@@ -127,40 +116,49 @@ QString SubAssembler::templateFile(const QString &variant, const char *suffix) c
   return file.filePath();
 }
 
-const NetData *SubAssembler::geometry(const QString &name, const QString &variant) {
-  const QString path = templateFile(variant, ".geom");
-  if (path.isEmpty()) {
-    log(QStringLiteral("Error - could not find subassembly:") + m_folder + QLatin1Char('/') + variant +
-            QStringLiteral(".geom"),
-        name);
-    return nullptr;
+const SubAssembler::Variant &SubAssembler::variant(const QString &name) {
+  const auto known = m_variants.find(name);
+  if (known != m_variants.end())
+    return known->second;
+  Variant &made = m_variants[name];
+  made.geometry = templateFile(name, ".geom");
+  made.constraints = templateFile(name, ".geom.csv");
+  made.formulas = templateFile(name, ".formulas");
+  made.hasIcon = !templateFile(name, ".svg").isEmpty();
+  if (made.geometry.isEmpty()) {
+    made.error =
+        QStringLiteral("Error - could not find subassembly:") + m_folder + QLatin1Char('/') + name + QStringLiteral(".geom");
+    return made;
   }
-  bool isNew = false;
-  const TemplateGeometry &read = m_templates->geometry.get(path, [&isNew](const QString &file) {
-    isNew = true;
+  if (made.formulas.isEmpty())
+    NivraMsg::log(QStringLiteral("### File containing formulas") + m_folder + QLatin1Char('/') + name +
+                  QStringLiteral(".formulas") + QStringLiteral(" not found!"));
+  const TemplateGeometry &read = m_templates->geometry.get(made.geometry, [](const QString &file) {
     TemplateGeometry content;
     auto net = std::make_shared<NetData>();
     NivraReader::Result result = NivraReader(*net).readGeomJsn(file, {});
     content.findings = std::move(result.findings);
-    if (!result.ok)
+    if (!result.ok) {
       content.error = QStringLiteral("Cannot read ") + file;
-    else if (net->assembledSubnets().find(recordName()) == nullptr)
+    } else if (net->assembledSubnets().find(recordName()) == nullptr) {
       content.error = QStringLiteral("%1 has no subnet named \"SUB\", which would tell its pins").arg(file);
-    else
+    } else {
       content.net = net;
+      content.plan = std::make_shared<const TemplatePlan>(*net);
+    }
     return content;
   });
-  if (isNew)
-    m_result.findings.insert(m_result.findings.end(), read.findings.begin(), read.findings.end());
-  if (read.net == nullptr)
-    log(read.error, name);
-  return read.net.get();
+  m_result.findings.insert(m_result.findings.end(), read.findings.begin(), read.findings.end());
+  made.plan = read.plan;
+  made.error = read.error;
+  return made;
 }
 
 SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const Told &told) {
   QElapsedTimer timer;
   timer.start();
   m_result = Result();
+  m_assembled.clear();
   std::vector<QString> names;
   for (const elements::Entry &entry : m_net.assembledSubnets()) {
     if (entry.name() != recordName())
@@ -210,67 +208,49 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
 
 int SubAssembler::createEleOfAssembledSubnet(element &subnet, const QStringList &pins, Flag flag, bool tryReset) {
   const QString name = subnet.value(keys().name);
-  const QString variant = subnet.value(keys().variant);
+  const QString variantName = subnet.value(keys().variant);
   if (name.isEmpty()) {
     log(QStringLiteral("Assembled subnet: name empty! Skipped!"));
     return 0;
   }
-  if (variant.isEmpty()) {
+  if (variantName.isEmpty()) {
     log(QStringLiteral("Assembled subnet: variant empty for ") + name + QStringLiteral("! Skipped!"), name);
     return 0;
   }
-  const NetData *source = m_templates == nullptr ? nullptr : geometry(name, variant);
-  if (source == nullptr)
+  if (m_templates == nullptr)
     return 0;
-  if (!templateFile(variant, ".svg").isEmpty())
-    subnet.set(QStringLiteral("icon"), variant + QStringLiteral(".svg"));
-  const QString constraints = templateFile(variant, ".geom.csv");
-  if (!constraints.isEmpty())
-    subnet.set(QStringLiteral("constraints"), constraints);
-  const element &record = *source->assembledSubnets().find(recordName());
-  takeDefaults(subnet, record);
-  const QStringList templatePins = split(record.value(keys().pins));
-  if (templatePins.isEmpty()) {
+  const Variant &used = variant(variantName);
+  if (used.plan == nullptr) {
+    log(used.error, name);
+    return 0;
+  }
+  const TemplatePlan &plan = *used.plan;
+  if (used.hasIcon)
+    subnet.set(keys().icon, PropertyText(variantName + QStringLiteral(".svg")));
+  if (!used.constraints.isEmpty())
+    subnet.set(keys().constraints, PropertyText(used.constraints));
+  plan.giveDefaults(subnet);
+  if (plan.pinNames().isEmpty()) {
     log(QStringLiteral("Problem with creating assembledsubnet: loaded pins empty! Skipped!"), name);
     return 0;
   }
-  const auto isNoNode = [source](const QString &pin) {
-    return source->nodes().find(pin) == nullptr;
-  };
-  if (std::any_of(templatePins.begin(), templatePins.end(), isNoNode)) {
+  for (int i = 0; i < plan.pinNames().size(); ++i) {
+    if (plan.pin(i) != nullptr)
+      continue;
     log(QStringLiteral("### in createEleOfAssembledSubnet: Problem with assembled subnet ") + name, name);
-    log(QStringLiteral("The template %1 names pins that are none of its nodes: %2")
-            .arg(variant, templatePins.join(QLatin1Char(';'))),
+    log(QStringLiteral("The template %1 names a pin that is none of its nodes: %2").arg(variantName, plan.pinNames().at(i)),
         name);
     return 0;
   }
-  const QStringList used = pinsOf(subnet, pins, templatePins, tryReset);
-  if (used.isEmpty()) {
+  const QStringList netPins = pinsOf(subnet, pins, plan.pinNames(), tryReset);
+  if (netPins.isEmpty()) {
     log(QStringLiteral("Problem with creating assembledsubnet: pins still empty! Skipped!"), name);
     return 0;
   }
-  placeSubnet(subnet, used);
+  placeSubnet(subnet, netPins);
   if (flag == Flag::All)
-    createElements(subnet, *source, templatePins, used);
+    createElements(subnet, used, netPins);
   return 1;
-}
-
-void SubAssembler::takeDefaults(element &subnet, const element &record) const {
-  static const QRegularExpression never(
-      QStringLiteral("^icon$|^constraints$|^rotation$|^width$|^x$|^y$|^h$|^name$|^type$|^pins$|^variant$|^subassemblies$"),
-      QRegularExpression::CaseInsensitiveOption);
-  static const QString suffix = QStringLiteral(".default");
-  for (const Property &property : record) {
-    const QString key = property.key.name();
-    if (key.endsWith(suffix)) {
-      subnet.set(property.key, property.value);
-      const PropertyKey plain = PropertyKey::intern(key.chopped(suffix.size()));
-      if (subnet.find(plain) == nullptr)
-        subnet.set(plain, property.value);
-    } else if (!never.match(key).hasMatch()) {
-      subnet.set(property.key, property.value);
-    }
-  }
 }
 
 QStringList SubAssembler::pinsOf(element &subnet, const QStringList &pins, const QStringList &ofTemplate, bool tryReset) {
@@ -304,20 +284,13 @@ void SubAssembler::placeSubnet(element &subnet, const QStringList &pins) {
   if (!areFirstTwoThere)
     return;
   const QPointF way = places[1] - places[0];
-  subnet.set(PropertyKey::intern("width"), numberText(std::hypot(way.x(), way.y())));
-  subnet.set(PropertyKey::intern("rotation"), numberText(TemplatePlacement::rotation(places[0], places[1])));
+  subnet.set(keys().width, numberText(std::hypot(way.x(), way.y())));
+  subnet.set(keys().rotation, numberText(TemplatePlacement::rotation(places[0], places[1])));
   const QPointF center = TemplatePlacement::mean(places);
   subnet.set(keys().x, numberText(center.x()));
   subnet.set(keys().y, numberText(center.y()));
   if (!others.isEmpty())
     log(QStringLiteral("pinList contains non-net nodes: ") + others.join(QLatin1Char(';')), subnet.value(keys().name));
-}
-
-QString SubAssembler::uniqueName(const QString &wanted) const {
-  QString name = wanted;
-  for (int i = 2; m_net.element(name) != nullptr; ++i)
-    name = QStringLiteral("%1_%2").arg(wanted).arg(i);
-  return name;
 }
 
 /// A node that the network lacks, to be saved by hand.
@@ -333,96 +306,70 @@ void SubAssembler::createPin(const element &source, const QString &name, const Q
   m_result.newPins = true;
 }
 
-void SubAssembler::createElements(element &subnet, const NetData &source, const QStringList &templatePins,
-                                  const QStringList &pins) {
-  static const PropertyKey visSize = PropertyKey::intern("vis.size");
-  const QString subnetName = subnet.value(keys().name);
-  std::vector<QPointF> from;
-  for (const QString &pin : templatePins)
-    from.push_back(position(source, *source.nodes().find(pin)));
-  const auto number = [&](const char *key) {
-    const double value = m_net.value(subnet, PropertyKey::intern(key));
+void SubAssembler::createElements(element &subnet, const Variant &variant, const QStringList &pins) {
+  const TemplatePlan &plan = *variant.plan;
+  const auto number = [&](PropertyKey key) {
+    const double value = m_net.value(subnet, key);
     return value == NetData::NoValue ? 0.0 : value;
   };
-  const TemplatePlacement placement(from, number("width"), number("rotation"), position(m_net, subnet));
-  Names names;
-  for (int i = 0; i < templatePins.size(); ++i) {
-    const element &templatePin = *source.nodes().find(templatePins.at(i));
-    names.all.insert(templatePins.at(i), pins.at(i));
+  const TemplatePlacement placement(plan.pinPlaces(), number(keys().width), number(keys().rotation),
+                                    position(m_net, subnet));
+  for (int i = 0; i < pins.size(); ++i) {
     element *pin = m_net.nodes().find(pins.at(i));
-    if (pin == nullptr) {
-      createPin(templatePin, pins.at(i), placement.place(from[static_cast<std::size_t>(i)]));
-    } else if (const PropertyText *size = templatePin.find(visSize)) {
-      pin->set(visSize, *size);
-    }
+    if (pin == nullptr)
+      createPin(*plan.pin(i), pins.at(i), placement.place(plan.pinPlaces()[static_cast<std::size_t>(i)]));
+    else if (const PropertyText *size = plan.pin(i)->find(keys().visSize))
+      pin->set(keys().visSize, *size);
   }
-  QStringList created;
-  for (const elements *collection : {&source.nodes(), &source.edges()}) {
-    for (const elements::Entry &entry : *collection) {
-      const QString name = entry.name();
-      if (names.all.contains(name))
-        continue;
-      names.all.insert(name, uniqueName(subnetName + QLatin1Char('_') + name));
-      names.created.append(name);
-      created.append(names.all.value(name));
-    }
+  const QString name = subnet.value(keys().name);
+  std::vector<PropertyText> names = plan.names(m_net, name.toStdString());
+  plan.create(m_net, names, pins, placement);
+  std::string all;
+  for (const PropertyText &created : names) {
+    all += all.empty() ? "" : ";";
+    all += created.utf8();
   }
-  for (const QString &name : qAsConst(names.created)) {
-    const element &original = *source.element(name);
-    element copy = original;
-    for (const PropertyKey key : references()) {
-      const PropertyText *reference = original.find(key);
-      const auto other = reference == nullptr ? names.all.constEnd() : names.all.constFind(reference->toString());
-      if (other != names.all.constEnd())
-        copy.set(key, PropertyText(*other));
-    }
-    if (source.nodes().find(name) != nullptr) {
-      const QPointF at = placement.place(position(source, original));
-      copy.set(keys().x, numberText(at.x()));
-      copy.set(keys().y, numberText(at.y()));
-    }
-    copy.set(keys().refEle, PropertyText(name));
-    m_net.addElement(std::move(copy));
-  }
-  subnet.set(QStringLiteral("elements"), created.join(QLatin1Char(';')));
+  subnet.set(keys().elements, PropertyText(std::string_view(all)));
+  m_assembled.push_back({&variant, name, pins, std::move(names)});
+}
+
+std::vector<FormulaDefinition> SubAssembler::definitions(Findings &findings) const {
   const auto read = [](const QString &path) {
     return FormulaFile::read(path, QStringLiteral("geometry"));
   };
-  const QString variant = subnet.value(keys().variant);
-  const QString constraints = templateFile(variant, ".geom.csv");
-  if (!constraints.isEmpty())
-    takeDefinitions(subnet, m_templates->constraints.get(constraints, read), names);
-  const QString formulas = templateFile(variant, ".formulas");
-  if (!formulas.isEmpty())
-    takeDefinitions(subnet, m_templates->formulas.get(formulas, read), names);
-  else
-    NivraMsg::log(QStringLiteral("### File containing formulas") + m_folder + QLatin1Char('/') + variant +
-                  QStringLiteral(".formulas") + QStringLiteral(" not found!"));
-}
-
-/// Makes the template's definitions those of the created elements, and of the subnet itself where they are for subnets.
-void SubAssembler::takeDefinitions(const element &subnet, const FormulaFile::Contents &contents, const Names &names) {
-  for (const FormulaDefinition &definition : contents.definitions) {
-    const Pattern pattern(definition.namePattern);
-    FormulaDefinition own = definition;
-    for (const QString &name : names.created) {
-      if (pattern.matches(name))
-        own.elements.append(names.all.value(name));
+  std::set<QString> told;
+  std::vector<FormulaDefinition> definitions;
+  for (const Assembled &assembled : m_assembled) {
+    const TemplatePlan &plan = *assembled.variant->plan;
+    QHash<QString, QString> names; // of the template to those of the network
+    for (int i = 0; i < assembled.pins.size(); ++i)
+      names.insert(plan.pinNames().at(i), assembled.pins.at(i));
+    for (std::size_t i = 0; i < assembled.names.size(); ++i)
+      names.insert(QString::fromStdString(plan.parts()[i]), assembled.names[i].toString());
+    for (TemplateCache<FormulaFile::Contents> *cache : {&m_templates->constraints, &m_templates->formulas}) {
+      const QString &path =
+          cache == &m_templates->constraints ? assembled.variant->constraints : assembled.variant->formulas;
+      if (path.isEmpty())
+        continue;
+      const FormulaFile::Contents &contents = cache->get(path, read);
+      if (told.insert(path).second)
+        findings.insert(findings.end(), contents.findings.begin(), contents.findings.end());
+      for (const FormulaDefinition &definition : contents.definitions) {
+        FormulaDefinition own = definition;
+        const Pattern pattern(definition.namePattern);
+        for (std::size_t i = 0; i < assembled.names.size(); ++i) {
+          if (pattern.matches(plan.parts()[i]))
+            own.elements.append(assembled.names[i].toString());
+        }
+        if (own.types.contains(QStringLiteral("sub")))
+          own.elements.append(assembled.subnet);
+        own.namePattern.clear();
+        for (QString *expression : {&own.expression, &own.lower, &own.upper})
+          *expression = renamed(*expression, names);
+        if (!own.elements.isEmpty())
+          definitions.push_back(std::move(own));
+      }
     }
-    if (own.types.contains(QStringLiteral("sub")))
-      own.elements.append(subnet.value(keys().name));
-    if (own.elements.isEmpty())
-      continue;
-    own.namePattern.clear();
-    for (QString *expression : {&own.expression, &own.lower, &own.upper})
-      *expression = renamed(*expression, names.all);
-    m_result.definitions.push_back(std::move(own));
   }
-  for (const Finding &finding : contents.findings) {
-    const bool isKnown = std::any_of(m_result.findings.begin(), m_result.findings.end(), [&finding](const Finding &known) {
-      return known.file == finding.file && known.line == finding.line;
-    });
-    if (!isKnown)
-      m_result.findings.push_back(finding);
-  }
+  return definitions;
 }

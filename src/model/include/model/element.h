@@ -37,6 +37,8 @@ public:
   /// Inserts or overwrites.
   void set(PropertyKey key, PropertyText value);
   void set(const QString &key, const QString &value) { set(PropertyKey::intern(key), PropertyText(value)); }
+  /// Another value for the property at a place of the iteration.
+  void replace(std::size_t place, PropertyText value) { m_properties[place].value = std::move(value); }
   bool erase(PropertyKey key);
   bool erase(const QString &key) { return erase(PropertyKey::find(key)); }
   void clear() { m_properties.clear(); }

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <map>
 
 /// Turns the subnet elements of a network into real elements, from the templates of a folder. A template is a small network
 /// "VARIANT.geom" with one subnet named "SUB", which holds pins and default values; constraints and formulas for its
@@ -26,8 +27,7 @@ public:
     int assembled = 0;
     int replaced = 0; ///< with the variant "default"
     int erased = 0;
-    bool newPins = false;                       ///< pin nodes were added to the network
-    std::vector<FormulaDefinition> definitions; ///< formulas and constraints of the created elements
+    bool newPins = false; ///< pin nodes were added to the network
     Findings findings;
   };
 
@@ -44,23 +44,38 @@ public:
   int createEleOfAssembledSubnet(element &subnet, const QStringList &pins, Flag flag, bool tryReset);
 
   const Result &result() const { return m_result; }
+  /// The templates' formulas and constraints as those of the created elements; what is wrong with them is in the findings.
+  std::vector<FormulaDefinition> definitions(Findings &findings) const;
 
 private:
-  struct Names;
+  /// The files of a variant, looked up once.
+  struct Variant {
+    QString geometry;
+    QString constraints; ///< empty when there is none, as the following
+    QString formulas;
+    bool hasIcon = false;
+    std::shared_ptr<const TemplatePlan> plan; ///< null when it cannot be used
+    QString error;
+  };
+  struct Assembled {
+    const Variant *variant;
+    QString subnet;
+    QStringList pins;
+    std::vector<PropertyText> names; ///< of the created elements, as the plan orders them
+  };
 
-  const NetData *geometry(const QString &name, const QString &variant);
+  const Variant &variant(const QString &name);
   QString templateFile(const QString &variant, const char *suffix) const;
-  void takeDefaults(element &subnet, const element &record) const;
   QStringList pinsOf(element &subnet, const QStringList &pins, const QStringList &ofTemplate, bool tryReset);
   void placeSubnet(element &subnet, const QStringList &pins);
-  void createElements(element &subnet, const NetData &source, const QStringList &templatePins, const QStringList &pins);
+  void createElements(element &subnet, const Variant &variant, const QStringList &pins);
   void createPin(const element &source, const QString &name, const QPointF &at);
-  void takeDefinitions(const element &subnet, const FormulaFile::Contents &contents, const Names &names);
-  QString uniqueName(const QString &wanted) const;
   void log(const QString &text, const QString &element = QString());
 
   NetData &m_net;
   QString m_folder;
   std::shared_ptr<SubAssemblyTemplates> m_templates;
+  std::map<QString, Variant> m_variants;
+  std::vector<Assembled> m_assembled;
   Result m_result;
 };

@@ -39,9 +39,12 @@ private:
   int m_hits = 0;
 };
 
+class TemplatePlan;
+
 /// The template network of one variant.
 struct TemplateGeometry {
-  std::shared_ptr<const NetData> net; ///< null when the file cannot be used
+  std::shared_ptr<const NetData> net;
+  std::shared_ptr<const TemplatePlan> plan; ///< of the net; null when the file cannot be used
   QString error;
   Findings findings;
 };

@@ -1,0 +1,151 @@
+#include "templateplan.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+struct Keys {
+  PropertyKey name = PropertyKey::intern("name");
+  PropertyKey x = PropertyKey::intern("X");
+  PropertyKey y = PropertyKey::intern("Y");
+  PropertyKey pins = PropertyKey::intern("pins");
+  PropertyKey refEle = PropertyKey::intern("refEle");
+};
+
+const Keys &keys() {
+  static const Keys instance;
+  return instance;
+}
+
+/// Properties that name an element of the same network, besides "name".
+const std::vector<PropertyKey> &references() {
+  static const std::vector<PropertyKey> instance{PropertyKey::intern("node1"),  PropertyKey::intern("node2"),
+                                                 PropertyKey::intern("entry"),  PropertyKey::intern("exit"),
+                                                 PropertyKey::intern("drive"),  PropertyKey::intern("driven"),
+                                                 PropertyKey::intern("gasnode")};
+  return instance;
+}
+
+QPointF position(const NetData &net, const element &e) {
+  const double x = net.value(e, keys().x);
+  const double y = net.value(e, keys().y);
+  return {x == NetData::NoValue ? 0.0 : x, y == NetData::NoValue ? 0.0 : y};
+}
+
+std::size_t placeOf(const element &e, PropertyKey key) {
+  return static_cast<std::size_t>(
+      std::find_if(e.begin(), e.end(), [key](const Property &property) { return property.key == key; }) - e.begin());
+}
+
+PropertyText numberText(double number) {
+  return PropertyText(std::string_view(formatNumber(number)));
+}
+
+} // namespace
+
+TemplatePlan::TemplatePlan(const NetData &source) {
+  static const QRegularExpression never(
+      QStringLiteral("^icon$|^constraints$|^rotation$|^width$|^x$|^y$|^h$|^name$|^type$|^pins$|^variant$|^subassemblies$"),
+      QRegularExpression::CaseInsensitiveOption);
+  static const QString suffix = QStringLiteral(".default");
+  const element &record = *source.assembledSubnets().find(std::string_view("SUB"));
+  for (const Property &property : record) {
+    const QString key = property.key.name();
+    if (key.endsWith(suffix))
+      m_defaults.push_back({property, PropertyKey::intern(key.chopped(suffix.size()))});
+    else if (!never.match(key).hasMatch())
+      m_defaults.push_back({property, PropertyKey()});
+  }
+  const QString pins = record.value(keys().pins);
+  m_pinNames = pins.isEmpty() ? QStringList() : pins.split(QLatin1Char(';'));
+  for (const QString &name : qAsConst(m_pinNames)) {
+    const element *node = source.nodes().find(name);
+    m_pins.push_back(node);
+    m_pinPlaces.push_back(node == nullptr ? QPointF() : position(source, *node));
+  }
+  for (const elements::Entry &entry : source.nodes()) {
+    if (!m_pinNames.contains(entry.name(), Qt::CaseInsensitive))
+      addPart(source, entry, true);
+  }
+  for (const elements::Entry &entry : source.edges())
+    addPart(source, entry, false);
+  for (Part &part : m_parts) {
+    for (const PropertyKey key : references()) {
+      const PropertyText *name = part.prototype.find(key);
+      if (name == nullptr)
+        continue;
+      const auto other = std::find(m_partNames.begin(), m_partNames.end(), name->utf8());
+      const int pin = m_pinNames.indexOf(name->toString());
+      if (other != m_partNames.end())
+        part.references.push_back({placeOf(part.prototype, key), static_cast<int>(other - m_partNames.begin())});
+      else if (pin >= 0)
+        part.references.push_back({placeOf(part.prototype, key), -1 - pin});
+    }
+  }
+}
+
+void TemplatePlan::giveDefaults(element &subnet) const {
+  for (const Default &given : m_defaults) {
+    subnet.set(given.property.key, given.property.value);
+    if (!given.plain.isNull() && subnet.find(given.plain) == nullptr)
+      subnet.set(given.plain, given.property.value);
+  }
+}
+
+void TemplatePlan::addPart(const NetData &source, const elements::Entry &entry, bool isNode) {
+  Part part;
+  part.prototype = entry.value;
+  part.isNode = isNode;
+  part.at = position(source, entry.value);
+  part.prototype.set(keys().refEle, entry.id);
+  if (isNode) {
+    part.prototype.set(keys().x, PropertyText());
+    part.prototype.set(keys().y, PropertyText());
+    part.xPlace = placeOf(part.prototype, keys().x);
+    part.yPlace = placeOf(part.prototype, keys().y);
+  }
+  part.namePlace = placeOf(part.prototype, keys().name);
+  m_parts.push_back(std::move(part));
+  m_partNames.emplace_back(entry.id.utf8());
+}
+
+std::vector<PropertyText> TemplatePlan::names(const NetData &net, const std::string &subnet) const {
+  const bool hasBoxes = !net.textBoxes().isEmpty();
+  const auto isTaken = [&net, hasBoxes](std::string_view name) {
+    return net.nodes().find(name) != nullptr || net.edges().find(name) != nullptr ||
+           net.assembledSubnets().find(name) != nullptr || (hasBoxes && net.textBoxes().find(name) != nullptr);
+  };
+  std::vector<PropertyText> names;
+  names.reserve(m_partNames.size());
+  std::string name;
+  for (const std::string &part : m_partNames) {
+    name.assign(subnet).append("_").append(part);
+    for (int i = 2; isTaken(name); ++i)
+      name = subnet + "_" + part + "_" + std::to_string(i);
+    names.emplace_back(std::string_view(name));
+  }
+  return names;
+}
+
+void TemplatePlan::create(NetData &net, const std::vector<PropertyText> &names, const QStringList &pins,
+                          const TemplatePlacement &placement) const {
+  std::vector<PropertyText> pinTexts;
+  for (const QString &pin : pins)
+    pinTexts.emplace_back(pin);
+  for (std::size_t i = 0; i < m_parts.size(); ++i) {
+    const Part &part = m_parts[i];
+    element made = part.prototype;
+    made.replace(part.namePlace, names[i]);
+    for (const Reference &reference : part.references)
+      made.replace(reference.place, reference.part >= 0 ? names[static_cast<std::size_t>(reference.part)]
+                                                        : pinTexts[static_cast<std::size_t>(-1 - reference.part)]);
+    if (part.isNode) {
+      const QPointF at = placement.place(part.at);
+      made.replace(part.xPlace, numberText(at.x()));
+      made.replace(part.yPlace, numberText(at.y()));
+    }
+    net.addElement(std::move(made));
+  }
+}
