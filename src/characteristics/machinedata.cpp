@@ -1,0 +1,137 @@
+#include <characteristics/machinedata.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("MachineData", text);
+}
+
+Finding warning(const QString &machine, const QString &text) {
+  return {Finding::Severity::Warning, QString(), 0, machine + QStringLiteral(": ") + text, QString(), false, machine};
+}
+
+template <typename Machine>
+const Machine *named(const std::vector<Machine> &machines, const QString &name) {
+  for (const Machine &machine : machines) {
+    if (machine.name.compare(name, Qt::CaseInsensitive) == 0)
+      return &machine;
+  }
+  return nullptr;
+}
+
+/// Takes a fit of the points in place of what is given; says why there is none when points were measured.
+template <typename Function>
+void take(const QString &machine, const QString &what, const std::vector<FitPoint> &points,
+          std::optional<Function> &function, Fits::Quality &quality, Findings &findings) {
+  if (points.empty())
+    return;
+  Function fitted;
+  quality = Fits::fit(points, fitted);
+  if (quality.ok)
+    function = fitted;
+  else
+    findings.push_back(warning(machine, tr("no fit of the %1: %2").arg(what, quality.reason)));
+}
+
+} // namespace
+
+Findings TurboCompressor::fit() {
+  Findings findings;
+  std::vector<FitPoint> heads;
+  std::vector<FitPoint> efficiencies;
+  std::set<double> speeds;
+  const auto isSound = [&](const MeasuredPoint &point) {
+    const bool sound =
+        point.speed > 0.0 && point.flow > 0.0 && point.head > 0.0 && point.efficiency >= 0.0 && point.efficiency <= 1.0;
+    if (!sound)
+      findings.push_back(warning(name, tr("a point is left out: speed %1, flow %2, head %3, efficiency %4")
+                                           .arg(point.speed)
+                                           .arg(point.flow)
+                                           .arg(point.head)
+                                           .arg(point.efficiency)));
+    return sound;
+  };
+  for (const MeasuredPoint &point : points) {
+    if (!isSound(point))
+      continue;
+    heads.push_back({point.flow, point.speed, point.head});
+    if (point.efficiency > 0.0)
+      efficiencies.push_back({point.flow, point.speed, point.efficiency});
+    speeds.insert(point.speed);
+  }
+  std::vector<FitPoint> surges;
+  for (const MeasuredPoint &point : surgePoints) {
+    if (!isSound(point))
+      continue;
+    surges.push_back({point.flow, 0.0, point.head});
+    heads.push_back({point.flow, point.speed, point.head});
+  }
+  take(name, tr("head"), heads, head, headQuality, findings);
+  take(name, tr("efficiency"), efficiencies, efficiency, efficiencyQuality, findings);
+  take(name, tr("surge line"), surges, surge, surgeQuality, findings);
+  if (speedMax <= speedMin && speeds.size() > 1) {
+    speedMin = *speeds.begin();
+    speedMax = *speeds.rbegin();
+  }
+  if (!head)
+    findings.push_back(warning(name, tr("there are neither coefficients nor enough points for its map")));
+  return findings;
+}
+
+std::optional<std::pair<double, double>> TurboCompressor::flows(double speed) const {
+  if (!head)
+    return std::nullopt;
+  const Quadratic line = head->inX(speed);
+  const auto crossing = [&line](const Quadratic &bound) {
+    const Quadratic difference{{line.c[0] - bound.c[0], line.c[1] - bound.c[1], line.c[2] - bound.c[2]}};
+    double found = -1.0;
+    for (const double flow : Fits::solve(difference, 0.0)) {
+      if (flow > 0.0 && (found < 0.0 || flow < found))
+        found = flow;
+    }
+    return found;
+  };
+  // Without lines of its own the speed line ends where it has no head.
+  double first = surge ? crossing(*surge) : 0.0;
+  double last = choke ? crossing(*choke) : -1.0;
+  if (last < 0.0) {
+    for (const double flow : Fits::solve(line, 0.0))
+      last = std::max(last, flow);
+  }
+  first = std::max(first, 0.0);
+  if (!(last > first))
+    return std::nullopt;
+  return std::make_pair(first, last);
+}
+
+Findings Drive::fit() {
+  Findings findings;
+  std::vector<FitPoint> powers;
+  for (const PowerPoint &point : powerPoints)
+    powers.push_back({point.temperature, point.speed, point.power});
+  std::vector<FitPoint> rates;
+  for (const EnergyPoint &point : energyPoints)
+    rates.push_back({point.power, 0.0, point.rate});
+  take(name, tr("power limit"), powers, power, powerQuality, findings);
+  take(name, tr("energy rate"), rates, energy, energyQuality, findings);
+  if (!power)
+    findings.push_back(warning(name, tr("there are neither coefficients nor enough points for its power limit")));
+  return findings;
+}
+
+const TurboCompressor *MachineData::turbo(const QString &name) const {
+  return named(turbos, name);
+}
+
+const PistonCompressor *MachineData::piston(const QString &name) const {
+  return named(pistons, name);
+}
+
+const Drive *MachineData::drive(const QString &name) const {
+  return named(drives, name);
+}
