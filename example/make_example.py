@@ -5,7 +5,7 @@ import math
 import sys
 from pathlib import Path
 
-from generator import network, scenarios, writer
+from generator import machines, network, scenarios, writer
 
 
 def set_power_limits(net, outcomes):
@@ -24,6 +24,7 @@ def main():
     outcomes = {name: scenarios.run(net, name) for name in scenarios.SCENARIOS}
     set_power_limits(net, outcomes)
     writer.write_geometry(case, net)
+    machines.write(case / "machines.txt", net, outcomes)
     for name, outcome in outcomes.items():
         writer.write_scenario(case / name, net, outcome)
     print(f"{len(net.nodes())} nodes and {len(net.edges)} edges written to {case}")

@@ -96,7 +96,7 @@ def write_scenario(directory, net, outcome):
     write_lines(directory / f"{name}.gas.jsn", {"Hydrogen": {"obj_type": "gas", "rhon": RHO_NORM, "molarmass": MOLAR_MASS,
                                                              "hs": CALORIFIC_VALUE, **CRITICAL_POINT}})
     write_document(directory / "scenconfig.jsn", {
-        "workDir": name, "scenFile": f"{name}.scen", "gasFile": f"{name}.gas", "comprDatabase": "", "pyFile": "nivra_run.py",
+        "workDir": name, "scenFile": f"{name}.scen", "gasFile": f"{name}.gas", "comprDatabase": "../machines.txt", "pyFile": "nivra_run.py",
         "logFile": "nivra_run.log", "resRoot": "nivra_run", "statusFile": "nivra_run.stat", "NivraVersion_used": "example",
         "GeneralProps": {"title": SCENARIOS[name]["title"]}})
     write_document(directory / "solverconfig.jsn", {

@@ -1,4 +1,5 @@
 #include <base/nivramsg.h>
+#include <characteristics/machinereader.h>
 #include <io/nivrareader.h>
 #include <subassembly/subassembler.h>
 
@@ -99,6 +100,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   report(subResults.findings);
   notice(tr("Reading"), subResults.findings);
   m_seconds.append({QStringLiteral("subnets"), static_cast<double>(timer.restart()) * Milli});
+  readMachines();
   m_cancelled = m_cancelled || subResults.cancelled;
   const bool isComputed = !m_cancelled && computeFormulas(options.progress);
   m_seconds.append({QStringLiteral("formulas"), static_cast<double>(timer.restart()) * Milli});
@@ -108,6 +110,20 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
 void NetworkLoader::notice(const QString &stage, Findings findings) {
   if (!findings.empty())
     m_noticed.push_back({stage, std::move(findings)});
+}
+
+void NetworkLoader::readMachines() {
+  m_machines = MachineData();
+  if (!m_workspace.hasScenario() || m_workspace.currentScenario()->comprDatabase.isEmpty())
+    return;
+  const QString &database = m_workspace.currentScenario()->comprDatabase;
+  const QString path = QDir(m_workspace.scenarioDirectory()).filePath(database);
+  if (database == NivraScenario().comprDatabase && !QFileInfo::exists(path))
+    return; // nobody named it
+  MachineReader::Result result = MachineReader::read(path);
+  m_machines = std::move(result.data);
+  report(result.findings);
+  notice(tr("Machine data"), std::move(result.findings));
 }
 
 void NetworkLoader::assembleSubnets(const ReadOptions &options) {

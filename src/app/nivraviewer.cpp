@@ -161,6 +161,7 @@ void NivraViewer::openWorkspace(const QString &path) {
   setBusy(false);
   m_tools->refresh(m_loader.workspace());
   m_tools->setFindings(m_loader.noticed());
+  m_tools->setMachines(m_loader.machines());
   for (QAction *action : {m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
     action->setEnabled(true);
   showTitle();
@@ -261,7 +262,10 @@ void NivraViewer::elementAction(const QString &eleName, NetPicker::EleAction ele
     setCurrentElement(eleName);
     m_tools->showInfo(eleName);
     break;
-  default: // other tools are not there yet
+  case NetPicker::EleAction::OpenCharacteristics:
+    m_tools->openCharacteristics({eleName});
+    break;
+  case NetPicker::EleAction::EditProperties: // a viewer changes no properties
     break;
   }
 }

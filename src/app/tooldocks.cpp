@@ -1,3 +1,4 @@
+#include <characteristics/characteristicsstack.h>
 #include <io/nivraworkspace.h>
 #include <tools/metadatatable.h>
 #include <tools/nivrafindings.h>
@@ -74,6 +75,8 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
     createCategories();
   if (m_search == nullptr)
     createSearch();
+  if (m_characteristics == nullptr)
+    createCharacteristics();
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), workspace.filePath(QStringLiteral("plotsettings.ini")));
   m_draw->refresh();
   m_propViewer->showCurrentEleContents(nullptr);
@@ -89,6 +92,25 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
     m_vectorTable->setDirectory(m_directory);
     m_vectorTable->refresh();
     m_vectorTable->on_pushButtonUpdate_clicked();
+  }
+}
+
+void ToolDocks::createCharacteristics() {
+  m_characteristics = new CharacteristicsStack(m_net, &m_window);
+  addDock(m_characteristics, QStringLiteral("characteristics"), Qt::RightDockWidgetArea);
+  connect(&m_control, &NetVisControl::openCharacteristicsRequested, this, &ToolDocks::openCharacteristics);
+}
+
+void ToolDocks::setMachines(const MachineData &machines) {
+  m_characteristics->setFile(QString()); // the pages of the case before are no longer kept
+  m_characteristics->setMachines(machines);
+  m_characteristics->setFile(m_directory + QStringLiteral("/characteristics.txt"));
+}
+
+void ToolDocks::openCharacteristics(const QStringList &names) {
+  for (const QString &name : names) {
+    if (m_characteristics == nullptr || !m_characteristics->open(name))
+      return; // the reason was shown once
   }
 }
 

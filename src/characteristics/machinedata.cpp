@@ -125,7 +125,13 @@ Findings Drive::fit() {
 }
 
 const TurboCompressor *MachineData::turbo(const QString &name) const {
-  return named(turbos, name);
+  if (const TurboCompressor *found = named(turbos, name))
+    return found;
+  for (const TurboCompressor &machine : turbos) {
+    if (!machine.station.isEmpty() && machine.station.compare(name, Qt::CaseInsensitive) == 0)
+      return &machine;
+  }
+  return nullptr;
 }
 
 const PistonCompressor *MachineData::piston(const QString &name) const {

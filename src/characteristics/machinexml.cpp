@@ -104,6 +104,7 @@ MachineReader::Result MachineXml::read() {
 }
 
 void MachineXml::readStation() {
+  m_station = m_xml.attributes().value(QStringLiteral("id")).toString();
   while (m_xml.readNextStartElement()) {
     if (m_xml.name() == QLatin1String("compressors"))
       readCompressors();
@@ -158,6 +159,7 @@ void MachineXml::readPoints(std::vector<MeasuredPoint> &points, double efficienc
 void MachineXml::readTurbo() {
   TurboCompressor machine;
   machine.name = m_xml.attributes().value(QStringLiteral("id")).toString();
+  machine.station = m_station;
   machine.drive = m_xml.attributes().value(QStringLiteral("drive")).toString();
   Biquadratic head;
   Biquadratic efficiency;

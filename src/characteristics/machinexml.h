@@ -30,5 +30,6 @@ private:
 
   QXmlStreamReader m_xml;
   QString m_path;
+  QString m_station; ///< being read
   MachineReader::Result m_result;
 };

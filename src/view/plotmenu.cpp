@@ -56,6 +56,7 @@ void PlotMenu::fill(QMenu &contextMenu) const {
   addCrowd(contextMenu);
   addSelection(contextMenu);
   addSubnet(contextMenu);
+  addCharacteristics(contextMenu);
   addTrace(contextMenu);
   contextMenu.addAction(m_control.picker()->selectAllAction());
   contextMenu.addSeparator();
@@ -105,6 +106,23 @@ void PlotMenu::addSelection(QMenu &contextMenu) const {
     QObject::connect(info->addAction(menuText(name)), &QAction::triggered, control,
                      [control, name] { emit control->elementAction(name, NetPicker::EleAction::ShowInfo); });
   }
+}
+
+void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
+  static const QRegularExpression machines(QStringLiteral("^[cd]$"));
+  QStringList names;
+  for (const QString &name : sorted(m_control.net().selection().names())) {
+    const element *e = m_control.net().element(name);
+    if (e != nullptr && machines.match(e->value(QStringLiteral("type"))).hasMatch())
+      names.append(name);
+  }
+  if (names.isEmpty() || names.size() > MostEntries)
+    return;
+  NetVisControl *control = &m_control;
+  contextMenu
+      .addAction(names.size() == 1 ? tr("Open Characteristics") : tr("Open Characteristics (%1)").arg(names.size()), control,
+                 [control, names] { emit control->openCharacteristicsRequested(names); })
+      ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
 }
 
 void PlotMenu::addTrace(QMenu &contextMenu) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/finding.h>
+#include <characteristics/machinedata.h>
 #include <formulas/networkformulas.h>
 #include <io/nivragasparams.h>
 #include <io/nivraworkspace.h>
@@ -49,6 +50,8 @@ public:
   const ConsistencyCheck::PruneResult &removed() const { return m_removed; }
   /// Everything that the stages noticed, in their order.
   const std::vector<FindingList::Group> &noticed() const { return m_noticed; }
+  /// Of the scenario's compressor database; empty without one.
+  const MachineData &machines() const { return m_machines; }
   const NetworkFormulas &formulas() const { return m_formulas; }
   /// After a property of elements has changed: what depends on it.
   void computeAgain(const QStringList &names, const QString &property);
@@ -57,6 +60,7 @@ public:
   QString error() const { return m_error; } ///< why the last step failed, for a person
 
 private:
+  void readMachines();
   void assembleSubnets(const ReadOptions &options);
   bool computeFormulas(const Progress &progress);
   void notice(const QString &stage, Findings findings);
@@ -66,6 +70,7 @@ private:
   NetworkFormulas m_formulas;
   NivraWorkspace m_workspace;
   NivraGasParams m_gasParams;
+  MachineData m_machines;
   QString m_checkFindings;
   ConsistencyCheck::PruneResult m_removed;
   std::vector<FormulaDefinition> m_templateDefinitions; ///< of the assembled subnets

@@ -9,7 +9,9 @@
 
 #include <memory>
 
+class CharacteristicsStack;
 class HelpWindow;
+struct MachineData;
 class MetaDataTable;
 class NetVisControl;
 class NivraFindings;
@@ -42,6 +44,9 @@ public:
   /// As showElement(), in docks that come to the front.
   void showInfo(const QString &name);
   void showDrawConfiguration();
+  /// The maps of compressors and drives, in pages of their own.
+  void openCharacteristics(const QStringList &names);
+  void setMachines(const MachineData &machines);
   /// The page of the guide about a tool.
   void showHelp(const QString &page);
   void setFindings(const std::vector<FindingList::Group> &groups);
@@ -59,6 +64,7 @@ private:
   void createSearch();
   void createLayers();
   void createCategories();
+  void createCharacteristics();
   NivraVecTable *vectorTable();
   void applyLayers();
   NivraEleInfoWidget::PlotLabel plotLabel(const element &e) const;
@@ -70,6 +76,7 @@ private:
   viewFuncDialog *m_draw = nullptr;
   NivraEleInfoWidget *m_info = nullptr;
   NivraPropViewer *m_propViewer = nullptr;
+  CharacteristicsStack *m_characteristics = nullptr;
   NivraFindings *m_findings = nullptr;
   QToolButton *m_findingsButton;
   NivraSearch *m_search = nullptr;

@@ -19,6 +19,7 @@ struct MeasuredPoint {
 
 struct TurboCompressor {
   QString name;
+  QString station; ///< in which it stands, empty when that is not said
   QString drive;
   double speedMin = 0.0;
   double speedMax = 0.0;
@@ -88,7 +89,7 @@ struct MachineData {
   std::vector<Drive> drives;
 
   bool isEmpty() const { return turbos.empty() && pistons.empty() && drives.empty(); }
-  /// Regardless of case; null when there is none.
+  /// Regardless of case; null when there is none. A station's name finds its first turbo compressor.
   const TurboCompressor *turbo(const QString &name) const;
   const PistonCompressor *piston(const QString &name) const;
   const Drive *drive(const QString &name) const;

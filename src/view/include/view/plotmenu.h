@@ -17,6 +17,7 @@ private:
   void addCrowd(QMenu &contextMenu) const;
   void addSelection(QMenu &contextMenu) const;
   void addSubnet(QMenu &contextMenu) const;
+  void addCharacteristics(QMenu &contextMenu) const;
   void addTrace(QMenu &contextMenu) const;
   void addSubnetEntries(QMenu &parent, const QString &subnet) const;
   void addView(QMenu &contextMenu) const;

@@ -1,0 +1,236 @@
+#include <base/generalsettings.h>
+#include <base/nivramsg.h>
+#include <characteristics/characteristicsstack.h>
+#include <characteristics/mapplot.h>
+#include <characteristics/workingpoint.h>
+
+#include <QFile>
+#include <QLabel>
+#include <QSaveFile>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr double AmbientTemperature = 10.0; // degC, where nothing else is said
+
+QString number(double value, int digits = 4) {
+  return QString::number(value, 'g', digits);
+}
+
+QString row(const QString &name, const QString &value) {
+  return QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td><b>%2</b></td></tr>").arg(name, value);
+}
+
+QString fitText(const QString &what, const Fits::Quality &quality, const QString &unit) {
+  if (!quality.ok)
+    return QString();
+  return CharacteristicsStack::tr("%1 fitted: largest residual %2 %3, mean %4 %3, condition %5")
+             .arg(what, number(quality.largestResidual, 3), unit, number(quality.meanResidual, 3),
+                  number(quality.condition, 3)) +
+         QStringLiteral("<br/>");
+}
+
+QString pointTable(const WorkingPoint &point) {
+  using Stack = CharacteristicsStack;
+  QString text = QStringLiteral("<table>");
+  text += row(Stack::tr("volume flow"), number(point.flow) + QStringLiteral(" m³/s"));
+  text += row(Stack::tr("adiabatic head"), number(point.head) + QStringLiteral(" kJ/kg"));
+  text += row(Stack::tr("pressure ratio"), number(point.ratio));
+  if (point.speed)
+    text += row(Stack::tr("speed"), number(*point.speed) + QStringLiteral(" 1/min"));
+  if (point.efficiency)
+    text += row(Stack::tr("efficiency"), number(100.0 * *point.efficiency, 3) + QStringLiteral(" %"));
+  if (point.power)
+    text += row(Stack::tr("shaft power"), number(*point.power) + QStringLiteral(" kW"));
+  if (point.powerLimit)
+    text += row(Stack::tr("power limit"), number(*point.powerLimit) + QStringLiteral(" kW"));
+  if (point.energyRate)
+    text += row(Stack::tr("fuel or current"), number(*point.energyRate) + QStringLiteral(" kW"));
+  text += QStringLiteral("</table>");
+  if (!point.remark.isEmpty())
+    text += QStringLiteral("<p style=\"color:#b22222;\">%1</p>").arg(point.remark.toHtmlEscaped());
+  return text;
+}
+
+} // namespace
+
+CharacteristicsStack::CharacteristicsStack(const NetData &net, QWidget *parent)
+    : QDockWidget(tr("Characteristics"), parent)
+    , m_net(net)
+    , m_tabs(new QTabWidget) {
+  m_tabs->setTabsClosable(true);
+  m_tabs->setMovable(true);
+  m_tabs->setDocumentMode(true);
+  setWidget(m_tabs);
+  connect(m_tabs, &QTabWidget::tabCloseRequested, this, [this](int index) {
+    delete m_tabs->widget(index);
+    keep();
+    showHint();
+  });
+  showHint();
+}
+
+/// An empty panel says how it is filled.
+void CharacteristicsStack::showHint() {
+  const bool isEmpty = opened().isEmpty();
+  if (isEmpty && m_tabs->count() == 0) {
+    auto *hint =
+        new QLabel(tr("Open the characteristics of a compressor or drive\nby the right-click menu of the drawing."));
+    hint->setAlignment(Qt::AlignCenter);
+    m_tabs->addTab(hint, tr("none open"));
+    m_tabs->setTabsClosable(false);
+  } else if (!isEmpty && qobject_cast<QLabel *>(m_tabs->widget(0)) != nullptr) {
+    delete m_tabs->widget(0);
+    m_tabs->setTabsClosable(true);
+  }
+}
+
+QStringList CharacteristicsStack::opened() const {
+  QStringList names;
+  for (int i = 0; i < m_tabs->count(); ++i) {
+    if (!m_tabs->widget(i)->objectName().isEmpty())
+      names.append(m_tabs->widget(i)->objectName());
+  }
+  return names;
+}
+
+void CharacteristicsStack::setMachines(MachineData machines) {
+  m_machines = std::move(machines);
+  const QStringList names = opened();
+  m_tabs->clear();
+  for (const QString &name : names) {
+    if (QWidget *page = makePage(name))
+      m_tabs->addTab(page, name);
+  }
+  showHint();
+}
+
+void CharacteristicsStack::setFile(const QString &path) {
+  m_path = path;
+  QFile file(path);
+  if (!GeneralSettings::instance().isOn(QStringLiteral("auto-save PE and CHAR widget list")) || path.isEmpty() ||
+      !file.open(QIODevice::ReadOnly))
+    return;
+  for (const QByteArray &line : file.readAll().split('\n')) {
+    const QString name = QString::fromUtf8(line).trimmed();
+    QWidget *page = name.isEmpty() || opened().contains(name) ? nullptr : makePage(name);
+    if (page != nullptr)
+      m_tabs->addTab(page, name);
+  }
+  showHint();
+}
+
+void CharacteristicsStack::keep() const {
+  if (m_path.isEmpty() || !GeneralSettings::instance().isOn(QStringLiteral("auto-save PE and CHAR widget list")))
+    return;
+  QSaveFile file(m_path);
+  const QByteArray text = opened().join(QLatin1Char('\n')).toUtf8();
+  if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+    NivraMsg::logWarning(tr("The list of open characteristics cannot be kept in %1: %2").arg(m_path, file.errorString()));
+}
+
+QString CharacteristicsStack::machineOf(const element &e) const {
+  const QString machine = e.value(QStringLiteral("machine"));
+  if (!machine.isEmpty())
+    return machine;
+  // A drive without data of its own has those that its compressor's machine names.
+  const element *driven = m_net.edges().find(e.value(QStringLiteral("driven")));
+  const QString name = e.value(QStringLiteral("name"));
+  if (driven == nullptr || m_machines.drive(name) != nullptr)
+    return name;
+  const TurboCompressor *turbo = m_machines.turbo(machineOf(*driven));
+  return turbo == nullptr ? name : turbo->drive;
+}
+
+const Drive *CharacteristicsStack::driveOf(const element &compressor, const QString &named) const {
+  const element *drive = m_net.nodes().find(compressor.value(QStringLiteral("drive")));
+  const Drive *own = drive == nullptr ? nullptr : m_machines.drive(machineOf(*drive));
+  return own != nullptr ? own : m_machines.drive(named);
+}
+
+bool CharacteristicsStack::open(const QString &elementName) {
+  QWidget *page = m_tabs->findChild<QWidget *>(elementName);
+  if (page == nullptr) {
+    page = makePage(elementName);
+    if (page == nullptr) {
+      NivraMsg::message(NivraMsg::Kind::Information,
+                        tr("There are no machine data for %1: neither its property \"machine\" nor its name is in the "
+                           "machine data of the scenario.")
+                            .arg(elementName));
+      return false;
+    }
+    m_tabs->addTab(page, elementName);
+    showHint();
+    keep();
+  }
+  m_tabs->setCurrentWidget(page);
+  show();
+  raise();
+  return true;
+}
+
+QString CharacteristicsStack::summary(const QString &elementName) const {
+  const element *e = m_net.element(elementName);
+  if (e == nullptr)
+    return QString();
+  const QString machine = machineOf(*e);
+  const auto compression = Compression::of(m_net, *e);
+  const QString none = tr("<p>The network has no flow and pressures for a working point.</p>");
+  if (const TurboCompressor *turbo = m_machines.turbo(machine))
+    return fitText(tr("Head"), turbo->headQuality, QStringLiteral("kJ/kg")) +
+           fitText(tr("Efficiency"), turbo->efficiencyQuality, QString()) +
+           fitText(tr("Surge line"), turbo->surgeQuality, QStringLiteral("kJ/kg")) +
+           (compression ? pointTable(WorkingPoint::of(*turbo, driveOf(*e, turbo->drive), *compression, AmbientTemperature))
+                        : none);
+  if (const PistonCompressor *piston = m_machines.piston(machine))
+    return compression ? pointTable(WorkingPoint::of(*piston, driveOf(*e, piston->drive), *compression, AmbientTemperature))
+                       : none;
+  if (const Drive *drive = m_machines.drive(machine))
+    return fitText(tr("Power limit"), drive->powerQuality, QStringLiteral("kW")) +
+           fitText(tr("Energy rate"), drive->energyQuality, QStringLiteral("kW")) +
+           tr("Power at %1 °C").arg(AmbientTemperature);
+  return QString();
+}
+
+QWidget *CharacteristicsStack::makePage(const QString &elementName) const {
+  const element *e = m_net.element(elementName);
+  if (e == nullptr)
+    return nullptr;
+  const QString machine = machineOf(*e);
+  const TurboCompressor *turbo = m_machines.turbo(machine);
+  const PistonCompressor *piston = m_machines.piston(machine);
+  const Drive *drive = m_machines.drive(machine);
+  if (turbo == nullptr && piston == nullptr && drive == nullptr)
+    return nullptr;
+  auto *page = new QWidget;
+  page->setObjectName(elementName);
+  auto *plot = new MapPlot;
+  auto *column = new QVBoxLayout(page);
+  column->addWidget(plot, 1);
+  auto *text = new QLabel(summary(elementName));
+  text->setTextFormat(Qt::RichText);
+  text->setWordWrap(true);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  column->addWidget(text);
+  const auto compression = Compression::of(m_net, *e);
+  std::optional<WorkingPoint> point;
+  if (turbo != nullptr) {
+    if (compression)
+      point = WorkingPoint::of(*turbo, driveOf(*e, turbo->drive), *compression, AmbientTemperature);
+    plot->show(*turbo, point);
+  } else if (piston != nullptr) {
+    if (compression)
+      point = WorkingPoint::of(*piston, driveOf(*e, piston->drive), *compression, AmbientTemperature);
+    plot->show(*piston, point);
+  } else {
+    // A drive works where its compressor does.
+    const element *driven = m_net.edges().find(e->value(QStringLiteral("driven")));
+    const TurboCompressor *its = driven == nullptr ? nullptr : m_machines.turbo(machineOf(*driven));
+    const auto ofDriven = driven == nullptr ? std::nullopt : Compression::of(m_net, *driven);
+    if (its != nullptr && ofDriven)
+      point = WorkingPoint::of(*its, drive, *ofDriven, AmbientTemperature);
+    plot->show(*drive, point, AmbientTemperature);
+  }
+  return page;
+}

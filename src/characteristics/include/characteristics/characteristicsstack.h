@@ -1,0 +1,42 @@
+#pragma once
+
+#include <characteristics/machinedata.h>
+#include <model/netdata.h>
+
+#include <QDockWidget>
+#include <QStringList>
+
+class QTabWidget;
+
+/// The panel "Characteristics": a page for each machine that was opened.
+class CharacteristicsStack : public QDockWidget {
+  Q_OBJECT
+public:
+  explicit CharacteristicsStack(const NetData &net, QWidget *parent = nullptr);
+
+  /// Machines of the scenario; pages that are open are made anew.
+  void setMachines(MachineData machines);
+  /// Where the names of the open pages are kept for the next opening of the case; empty for nowhere.
+  void setFile(const QString &path);
+
+  /// Opens the page of a compressor or drive of the network, or brings it to the front. False when it has none; the reason
+  /// is shown.
+  bool open(const QString &elementName);
+  QStringList opened() const;
+
+  /// What the page of an element says beside the map, as rich text; empty when there is nothing for it.
+  QString summary(const QString &elementName) const;
+
+private:
+  /// The machine of an element: by its property "machine", else by its name.
+  QString machineOf(const element &e) const;
+  const Drive *driveOf(const element &compressor, const QString &named) const;
+  QWidget *makePage(const QString &elementName) const;
+  void keep() const;
+  void showHint();
+
+  const NetData &m_net;
+  MachineData m_machines;
+  QString m_path;
+  QTabWidget *m_tabs;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <characteristics/workingpoint.h>
+
+#include <qwt_plot.h>
+
+#include <functional>
+
+class QwtPlotPicker;
+
+/// The map of a machine: lines of constant speed and efficiency, the area in which it works, measured points, and where it
+/// works now. Dragging zooms, a right click zooms out and offers to save and to print.
+class MapPlot : public QwtPlot {
+  Q_OBJECT
+public:
+  explicit MapPlot(QWidget *parent = nullptr);
+
+  void show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point);
+  void show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point);
+  /// \param point power and speed of it are shown; \param temperature ambient, degC
+  void show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature);
+
+  /// What stands under the cursor, for the plot's coordinates.
+  QString readout(const QPointF &position) const { return m_readout ? m_readout(position) : QString(); }
+  /// The format by the suffix: PDF, SVG or a picture. False with the reason.
+  bool save(const QString &path, QString *reason = nullptr);
+
+protected:
+  void contextMenuEvent(QContextMenuEvent *event) override;
+
+private:
+  void reset(const QString &x, const QString &y);
+  void addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label = QString());
+  void addArea(const QVector<QPointF> &outline);
+  void addDots(const QVector<QPointF> &points);
+  void addWorkingPoint(const QPointF &at, bool isInside);
+  void addEfficiencies(const TurboCompressor &machine);
+  void finish();
+  void saveAs();
+  void print();
+
+  std::function<QString(const QPointF &)> m_readout;
+  class QwtPlotZoomer *m_zoomer;
+};

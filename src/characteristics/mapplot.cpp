@@ -1,0 +1,323 @@
+#include <base/nivramsg.h>
+#include <characteristics/mapplot.h>
+
+#include <QContextMenuEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSaveFile>
+#include <qwt_plot_curve.h>
+#include <qwt_plot_grid.h>
+#include <qwt_plot_marker.h>
+#include <qwt_plot_renderer.h>
+#include <qwt_plot_shapeitem.h>
+#include <qwt_plot_zoomer.h>
+#include <qwt_symbol.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int Steps = 60;
+const QColor Blue(31, 93, 138);
+const QColor Green(46, 125, 50);
+const QColor Red(178, 34, 34);
+const QColor Orange(196, 98, 16);
+
+QString shown(double number, int digits = 4) {
+  return QString::number(number, 'g', digits);
+}
+
+/// Zooms with what stands under the cursor beside it.
+class ReadingZoomer : public QwtPlotZoomer {
+public:
+  explicit ReadingZoomer(MapPlot &plot)
+      : QwtPlotZoomer(plot.canvas())
+      , m_plot(plot) {
+    setTrackerMode(QwtPicker::AlwaysOn);
+    setRubberBandPen(QPen(Blue, 1.0, Qt::DashLine));
+    setTrackerPen(QColor(40, 40, 40));
+    setMousePattern(QwtEventPattern::MouseSelect2, Qt::MiddleButton, Qt::ControlModifier); // the right one has a menu
+    setMousePattern(QwtEventPattern::MouseSelect3, Qt::MiddleButton);
+  }
+
+protected:
+  QwtText trackerTextF(const QPointF &position) const override {
+    QwtText text(m_plot.readout(position));
+    text.setBackgroundBrush(QColor(255, 255, 255, 220));
+    text.setRenderFlags(Qt::AlignLeft);
+    return text;
+  }
+
+private:
+  MapPlot &m_plot;
+};
+
+} // namespace
+
+MapPlot::MapPlot(QWidget *parent)
+    : QwtPlot(parent)
+    , m_zoomer(nullptr) {
+  setCanvasBackground(Qt::white);
+  m_zoomer = new ReadingZoomer(*this);
+  setMinimumSize(260, 200);
+}
+
+void MapPlot::reset(const QString &x, const QString &y) {
+  detachItems();
+  auto *grid = new QwtPlotGrid;
+  grid->setMajorPen(Qt::lightGray, 0.0, Qt::DotLine);
+  grid->attach(this);
+  setAxisTitle(xBottom, x);
+  setAxisTitle(yLeft, y);
+}
+
+void MapPlot::addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label) {
+  if (points.size() < 2)
+    return;
+  auto *curve = new QwtPlotCurve;
+  curve->setSamples(points);
+  curve->setPen(pen);
+  curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+  curve->attach(this);
+  if (label.isEmpty())
+    return;
+  auto *marker = new QwtPlotMarker;
+  QwtText text(label);
+  QFont font = text.font();
+  font.setPointSize(8);
+  text.setFont(font);
+  text.setColor(pen.color());
+  marker->setLabel(text);
+  marker->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  marker->setValue(points.last());
+  marker->attach(this);
+}
+
+void MapPlot::addArea(const QVector<QPointF> &outline) {
+  auto *area = new QwtPlotShapeItem;
+  area->setPolygon(QPolygonF(outline));
+  area->setPen(QPen(Qt::NoPen));
+  area->setBrush(QColor(31, 93, 138, 26));
+  area->attach(this);
+}
+
+void MapPlot::addDots(const QVector<QPointF> &points) {
+  auto *dots = new QwtPlotCurve;
+  dots->setStyle(QwtPlotCurve::NoCurve);
+  dots->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, Qt::white, QPen(Orange, 1.2), QSize(5, 5)));
+  dots->setSamples(points);
+  dots->setRenderHint(QwtPlotItem::RenderAntialiased);
+  dots->attach(this);
+}
+
+void MapPlot::addWorkingPoint(const QPointF &at, bool isInside) {
+  auto *marker = new QwtPlotMarker;
+  const QColor color = isInside ? Green : Red;
+  marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, color, QPen(Qt::white, 1.5), QSize(13, 13)));
+  marker->setValue(at);
+  marker->setLineStyle(QwtPlotMarker::Cross);
+  marker->setLinePen(color, 1.0, Qt::DotLine);
+  marker->setZ(50.0);
+  marker->attach(this);
+}
+
+void MapPlot::finish() {
+  setAxisAutoScale(xBottom);
+  setAxisAutoScale(yLeft);
+  updateAxes();
+  replot();
+  m_zoomer->setZoomBase();
+}
+
+/// Points of equal efficiency, speed by speed: the efficiency is quadratic in the flow, so each speed has two of them.
+void MapPlot::addEfficiencies(const TurboCompressor &machine) {
+  if (!machine.efficiency)
+    return;
+  for (int percent = 50; percent < 95; percent += 5) {
+    QVector<QPointF> rising;
+    QVector<QPointF> falling;
+    for (int i = 0; i <= Steps; ++i) {
+      const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Steps;
+      const auto flows = machine.flows(speed);
+      const Quadratic line = machine.efficiency->inX(speed);
+      for (const double flow : Fits::solve(line, percent / 100.0)) {
+        if (!flows || flow < flows->first || flow > flows->second)
+          continue;
+        const bool isRising = line.c[1] + 2.0 * line.c[2] * flow > 0.0;
+        (isRising ? rising : falling).append(QPointF(flow, (*machine.head)(flow, speed)));
+      }
+    }
+    for (const QVector<QPointF> &branch : {rising, falling})
+      addLine(branch, QPen(Green, 1.0, Qt::DashLine), QStringLiteral("%1 %").arg(percent));
+  }
+}
+
+void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point) {
+  reset(tr("volume flow at the inlet [m³/s]"), tr("adiabatic head [kJ/kg]"));
+  m_readout = [machine](const QPointF &at) {
+    QString text = tr("Q = %1 m³/s\nH = %2 kJ/kg").arg(shown(at.x()), shown(at.y()));
+    if (!machine.head)
+      return text;
+    for (const double speed : Fits::solve(machine.head->inY(at.x()), at.y())) {
+      if (speed < machine.speedMin || speed > machine.speedMax)
+        continue;
+      text += tr("\nn = %1 1/min").arg(shown(speed));
+      if (machine.efficiency)
+        text += tr("\nη = %1 %").arg(shown(100.0 * (*machine.efficiency)(at.x(), speed), 3));
+    }
+    return text;
+  };
+  if (machine.isUsable()) {
+    QVector<QPointF> surge;
+    QVector<QPointF> choke;
+    for (int i = 0; i <= Steps; ++i) {
+      const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Steps;
+      if (const auto flows = machine.flows(speed)) {
+        surge.append(QPointF(flows->first, (*machine.head)(flows->first, speed)));
+        choke.append(QPointF(flows->second, (*machine.head)(flows->second, speed)));
+      }
+    }
+    constexpr int Lines = 6;
+    QVector<QPointF> top;
+    QVector<QPointF> bottom;
+    for (int i = 0; i <= Lines; ++i) {
+      const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Lines;
+      const auto flows = machine.flows(speed);
+      QVector<QPointF> line;
+      for (int k = 0; flows && k <= Steps; ++k) {
+        const double flow = flows->first + (flows->second - flows->first) * k / Steps;
+        line.append(QPointF(flow, (*machine.head)(flow, speed)));
+      }
+      const bool isEdge = i == 0 || i == Lines;
+      addLine(line, QPen(Blue, isEdge ? 2.0 : 1.0), tr("%1 /min").arg(shown(speed)));
+      if (i == 0)
+        bottom = line;
+      top = line;
+    }
+    QVector<QPointF> outline = bottom;
+    outline += choke;
+    std::reverse(top.begin(), top.end());
+    outline += top;
+    std::reverse(surge.begin(), surge.end());
+    outline += surge;
+    addArea(outline);
+    addLine(surge, QPen(Red, 2.0), machine.surge ? tr("surge") : QString());
+    addLine(choke, QPen(Orange, 2.0), machine.choke ? tr("choke") : QString());
+    addEfficiencies(machine);
+  }
+  QVector<QPointF> dots;
+  for (const auto *points : {&machine.points, &machine.surgePoints}) {
+    for (const MeasuredPoint &measured : *points)
+      dots.append(QPointF(measured.flow, measured.head));
+  }
+  if (!dots.isEmpty())
+    addDots(dots);
+  if (point)
+    addWorkingPoint({point->flow, point->head}, point->isInside);
+  finish();
+}
+
+void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point) {
+  constexpr double SecondsPerMinute = 60.0;
+  constexpr double ShownRatio = 4.0; // of a machine that says no largest
+  reset(tr("volume flow at the inlet [m³/s]"), tr("pressure ratio"));
+  m_readout = [machine](const QPointF &at) {
+    return tr("Q = %1 m³/s\nratio = %2\nn = %3 1/min")
+        .arg(shown(at.x()), shown(at.y()), shown(at.x() / machine.displacement * SecondsPerMinute));
+  };
+  const double first = machine.displacement * machine.speedMin / SecondsPerMinute;
+  const double last = machine.displacement * machine.speedMax / SecondsPerMinute;
+  const double top = machine.maximalRatio > 0.0 ? machine.maximalRatio : ShownRatio;
+  addArea({{first, 1.0}, {last, 1.0}, {last, top}, {first, top}});
+  addLine({{first, 1.0}, {first, top}}, QPen(Blue, 2.0), tr("%1 /min").arg(shown(machine.speedMin)));
+  addLine({{last, 1.0}, {last, top}}, QPen(Blue, 2.0), tr("%1 /min").arg(shown(machine.speedMax)));
+  addLine({{first, top}, {last, top}}, QPen(Red, machine.maximalRatio > 0.0 ? 2.0 : 0.5));
+  if (point)
+    addWorkingPoint({point->flow, point->ratio}, point->isInside);
+  finish();
+}
+
+void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature) {
+  reset(tr("speed [1/min]"), tr("largest power [kW]"));
+  const auto power = drive.power;
+  m_readout = [power, temperature](const QPointF &at) {
+    QString text = tr("n = %1 1/min\nP = %2 kW").arg(shown(at.x()), shown(at.y()));
+    if (power)
+      text += tr("\nlimit = %1 kW at %2 °C").arg(shown((*power)(temperature, at.x())), shown(temperature, 3));
+    return text;
+  };
+  double first = 0.0;
+  double last = point && point->speed ? 1.5 * *point->speed : 0.0;
+  for (const Drive::PowerPoint &measured : drive.powerPoints)
+    last = std::max(last, measured.speed);
+  constexpr double Usual = 10000.0;
+  last = last > 0.0 ? last : Usual;
+  if (drive.power) {
+    for (const double at : {-10.0, 10.0, 30.0}) {
+      QVector<QPointF> line;
+      for (int i = 0; i <= Steps; ++i) {
+        const double speed = first + (last - first) * i / Steps;
+        const double limit = (*drive.power)(at, speed);
+        if (limit > 0.0)
+          line.append(QPointF(speed, limit));
+      }
+      addLine(line, QPen(at == 10.0 ? Blue : QColor(120, 160, 190), at == 10.0 ? 2.0 : 1.2), tr("%1 °C").arg(at));
+    }
+  }
+  QVector<QPointF> dots;
+  for (const Drive::PowerPoint &measured : drive.powerPoints)
+    dots.append(QPointF(measured.speed, measured.power));
+  if (!dots.isEmpty())
+    addDots(dots);
+  if (point && point->speed && point->power)
+    addWorkingPoint({*point->speed, *point->power}, !point->powerLimit || *point->power <= *point->powerLimit);
+  finish();
+}
+
+void MapPlot::contextMenuEvent(QContextMenuEvent *event) {
+  QMenu menu(this);
+  menu.addAction(tr("Show everything"), m_zoomer, [this] { m_zoomer->zoom(0); });
+  menu.addAction(tr("Save picture …"), this, &MapPlot::saveAs);
+  menu.addAction(tr("Print …"), this, &MapPlot::print);
+  menu.exec(event->globalPos());
+}
+
+bool MapPlot::save(const QString &path, QString *reason) {
+  const QString suffix = QFileInfo(path).suffix().toLower();
+  bool isSaved = false;
+  if (suffix == QLatin1String("pdf") || suffix == QLatin1String("svg")) {
+    constexpr QSizeF Millimetres(200, 140);
+    QwtPlotRenderer renderer;
+    renderer.renderDocument(this, path, Millimetres);
+    isSaved = QFileInfo(path).size() > 0;
+  } else {
+    QSaveFile file(path);
+    isSaved = file.open(QIODevice::WriteOnly) && grab().save(&file, qPrintable(suffix)) && file.commit();
+  }
+  if (!isSaved && reason != nullptr)
+    *reason = tr("The picture %1 could not be written.").arg(path);
+  return isSaved;
+}
+
+void MapPlot::saveAs() {
+  const QString path = QFileDialog::getSaveFileName(this, tr("Save picture"), QStringLiteral("map.png"),
+                                                    tr("Pictures (*.png *.jpg *.pdf *.svg)"));
+  QString reason;
+  if (!path.isEmpty() && !save(path, &reason))
+    NivraMsg::message(NivraMsg::Kind::Warning, reason);
+}
+
+void MapPlot::print() {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPageOrientation(QPageLayout::Landscape);
+  QPrintDialog dialog(&printer, this);
+  if (dialog.exec() != QDialog::Accepted)
+    return;
+  QwtPlotRenderer renderer;
+  renderer.renderTo(this, printer);
+}

@@ -1,0 +1,170 @@
+#include <characteristics/workingpoint.h>
+
+#include <QCoreApplication>
+
+#include <cmath>
+
+namespace {
+
+constexpr double GasConstant = 8.314462618; // kJ/(kmol K)
+constexpr double KiloPascalPerBar = 100.0;
+constexpr double NormFlowsPerSecond = 1000.0 / 3600.0; // from 1000 m3/h
+constexpr double Pi = 3.14159265358979323846;
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("WorkingPoint", text);
+}
+
+double value(const NetData &net, const element &e, const char *property) {
+  const double number = net.value(e, PropertyKey::find(property));
+  return number == NetData::NoValue ? 0.0 : number;
+}
+
+/// Gas data stand at the supplies; networks of one gas say them once.
+const element *gasSource(const NetData &net) {
+  static const PropertyKey density = PropertyKey::intern("rhon");
+  for (const elements::Entry &entry : net.nodes()) {
+    if (entry.value.find(density) != nullptr)
+      return &entry.value;
+  }
+  return nullptr;
+}
+
+} // namespace
+
+std::optional<Compression> Compression::of(const NetData &net, const element &compressor) {
+  const element *inlet = net.nodes().find(compressor.value(QStringLiteral("node1")));
+  const element *outlet = net.nodes().find(compressor.value(QStringLiteral("node2")));
+  if (inlet == nullptr || outlet == nullptr)
+    return std::nullopt;
+  Compression c;
+  c.inletPressure = value(net, *inlet, "p");
+  c.outletPressure = value(net, *outlet, "p");
+  c.inletDensity = value(net, *inlet, "rho");
+  const double temperature = value(net, *inlet, "t");
+  if (temperature > 0.0)
+    c.inletTemperature = temperature;
+  if (const element *gas = gasSource(net)) {
+    c.normDensity = value(net, *gas, "rhon");
+    c.calorificValue = value(net, *gas, "hs");
+    const auto take = [&](double &target, const char *property) {
+      const double number = value(net, *gas, property);
+      if (number > 0.0)
+        target = number;
+    };
+    take(c.molarMass, "molarmass");
+    take(c.criticalPressure, "pcrit");
+    take(c.criticalTemperature, "tcrit");
+    constexpr double DiatomicBelow = 5.0; // kg/kmol: hydrogen
+    if (c.molarMass < DiatomicBelow)
+      c.exponent = 1.405;
+  }
+  c.massFlow = std::abs(value(net, compressor, "m"));
+  if (c.massFlow == 0.0)
+    c.massFlow = std::abs(value(net, compressor, "q")) * NormFlowsPerSecond * c.normDensity;
+  if (!(c.massFlow > 0.0 && c.inletPressure > 0.0 && c.outletPressure > 0.0))
+    return std::nullopt;
+  return c;
+}
+
+double Compression::realGasFactor() const {
+  if (inletDensity > 0.0)
+    return inletPressure * KiloPascalPerBar * molarMass / (inletDensity * GasConstant * inletTemperature);
+  const double pr = inletPressure / criticalPressure;
+  const double tr = inletTemperature / criticalTemperature;
+  return 1.0 - 3.52 * pr * std::exp(-2.26 * tr) + 0.247 * pr * pr * std::exp(-1.878 * tr);
+}
+
+double Compression::density() const {
+  return inletDensity > 0.0
+             ? inletDensity
+             : inletPressure * KiloPascalPerBar * molarMass / (realGasFactor() * GasConstant * inletTemperature);
+}
+
+double Compression::volumeFlow() const {
+  return massFlow / density();
+}
+
+double Compression::adiabaticHead() const {
+  const double k = (exponent - 1.0) / exponent;
+  return realGasFactor() * GasConstant / molarMass * inletTemperature / k * (std::pow(ratio(), k) - 1.0);
+}
+
+void WorkingPoint::takeDrive(const Drive *drive, double massFlow, double ambientTemperature) {
+  if (efficiency && *efficiency > 0.0)
+    power = massFlow * head / *efficiency;
+  if (drive == nullptr || !power)
+    return;
+  if (drive->energy)
+    energyRate = (*drive->energy)(*power);
+  if (drive->power && speed)
+    powerLimit = (*drive->power)(ambientTemperature, *speed);
+  if (powerLimit && *power > *powerLimit) {
+    isInside = false;
+    remark = tr("The drive cannot give this power.");
+  }
+}
+
+WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive, const Compression &compression,
+                              double ambientTemperature) {
+  WorkingPoint point;
+  point.flow = compression.volumeFlow();
+  point.head = compression.adiabaticHead();
+  point.ratio = compression.ratio();
+  if (!machine.head) {
+    point.remark = tr("The machine has no map.");
+    return point;
+  }
+  for (const double speed : Fits::solve(machine.head->inY(point.flow), point.head)) {
+    if (speed > 0.0)
+      point.speed = speed; // the larger one: the head grows with the speed
+  }
+  if (!point.speed) {
+    point.remark = tr("No speed gives this head at this flow.");
+    return point;
+  }
+  const auto flows = machine.flows(*point.speed);
+  const bool isSpeedInside = *point.speed >= machine.speedMin && *point.speed <= machine.speedMax;
+  point.isInside = isSpeedInside && flows && point.flow >= flows->first && point.flow <= flows->second;
+  if (!isSpeedInside)
+    point.remark =
+        *point.speed < machine.speedMin ? tr("The speed is below the smallest.") : tr("The speed is above the largest.");
+  else if (!point.isInside)
+    point.remark = flows && point.flow < flows->first ? tr("The point lies beyond the surge line.")
+                                                      : tr("The point lies beyond the choke line.");
+  if (machine.efficiency)
+    point.efficiency = (*machine.efficiency)(point.flow, *point.speed);
+  point.takeDrive(drive, compression.massFlow, ambientTemperature);
+  return point;
+}
+
+WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *drive, const Compression &compression,
+                              double ambientTemperature) {
+  constexpr double SecondsPerMinute = 60.0;
+  WorkingPoint point;
+  point.flow = compression.volumeFlow();
+  point.head = compression.adiabaticHead();
+  point.ratio = compression.ratio();
+  if (!machine.isUsable()) {
+    point.remark = tr("The machine has no displacement.");
+    return point;
+  }
+  point.speed = point.flow / machine.displacement * SecondsPerMinute;
+  point.isInside = *point.speed >= machine.speedMin && *point.speed <= machine.speedMax;
+  if (!point.isInside)
+    point.remark =
+        *point.speed < machine.speedMin ? tr("The speed is below the smallest.") : tr("The speed is above the largest.");
+  if (machine.maximalRatio > 0.0 && point.ratio > machine.maximalRatio) {
+    point.isInside = false;
+    point.remark = tr("The pressure ratio is above the largest.");
+  }
+  if (machine.efficiency > 0.0)
+    point.efficiency = machine.efficiency;
+  point.takeDrive(drive, compression.massFlow, ambientTemperature);
+  const double torque = point.power ? *point.power / (2.0 * Pi * *point.speed / SecondsPerMinute) : 0.0; // kNm
+  if (machine.maximalTorque > 0.0 && torque > machine.maximalTorque) {
+    point.isInside = false;
+    point.remark = tr("The torque is above the largest.");
+  }
+  return point;
+}
