@@ -10,12 +10,15 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace {
 
 constexpr double AmbientTemperature = 10.0; // degC, where nothing else is said
 
 QString number(double value, int digits = 4) {
-  return QString::number(value, 'g', digits);
+  constexpr double Whole = 1000.0;
+  return std::abs(value) >= Whole ? QString::number(value, 'f', 0) : QString::number(value, 'g', digits);
 }
 
 QString row(const QString &name, const QString &value) {
@@ -25,9 +28,9 @@ QString row(const QString &name, const QString &value) {
 QString fitText(const QString &what, const Fits::Quality &quality, const QString &unit) {
   if (!quality.ok)
     return QString();
-  return CharacteristicsStack::tr("%1 fitted: largest residual %2 %3, mean %4 %3, condition %5")
-             .arg(what, number(quality.largestResidual, 3), unit, number(quality.meanResidual, 3),
-                  number(quality.condition, 3)) +
+  return CharacteristicsStack::tr("%1 fitted: largest residual %2%3, mean %4%3, condition %5")
+             .arg(what, number(quality.largestResidual, 3), unit.isEmpty() ? unit : QLatin1Char(' ') + unit,
+                  number(quality.meanResidual, 3), number(quality.condition, 3)) +
          QStringLiteral("<br/>");
 }
 

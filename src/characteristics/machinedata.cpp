@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 namespace {
@@ -74,6 +75,21 @@ Findings TurboCompressor::fit() {
   take(name, tr("head"), heads, head, headQuality, findings);
   take(name, tr("efficiency"), efficiencies, efficiency, efficiencyQuality, findings);
   take(name, tr("surge line"), surges, surge, surgeQuality, findings);
+  if (!choke) {
+    // Nobody measures the choke line: it goes along the largest flows that were measured.
+    std::map<double, FitPoint> last; // by speed
+    for (const FitPoint &point : heads) {
+      FitPoint &largest = last[point.y];
+      if (point.x > largest.x)
+        largest = {point.x, 0.0, point.z};
+    }
+    std::vector<FitPoint> chokes;
+    for (const auto &entry : last)
+      chokes.push_back(entry.second);
+    Quadratic fitted;
+    if (Fits::fit(chokes, fitted).ok)
+      choke = fitted;
+  }
   if (speedMax <= speedMin && speeds.size() > 1) {
     speedMin = *speeds.begin();
     speedMax = *speeds.rbegin();

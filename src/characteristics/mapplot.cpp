@@ -29,7 +29,8 @@ const QColor Red(178, 34, 34);
 const QColor Orange(196, 98, 16);
 
 QString shown(double number, int digits = 4) {
-  return QString::number(number, 'g', digits);
+  constexpr double Whole = 1000.0;
+  return std::abs(number) >= Whole ? QString::number(number, 'f', 0) : QString::number(number, 'g', digits);
 }
 
 /// Zooms with what stands under the cursor beside it.

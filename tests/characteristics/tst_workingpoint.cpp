@@ -1,0 +1,235 @@
+#include <characteristics/characteristicsstack.h>
+#include <characteristics/machinereader.h>
+#include <characteristics/mapplot.h>
+#include <characteristics/workingpoint.h>
+#include <support/modelfixture.h>
+#include <support/nivratest.h>
+
+#include <QTabWidget>
+#include <QTemporaryDir>
+
+#include <cmath>
+
+class TestWorkingPoint : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init();
+  void compression();
+  void realGas();
+  void turbo();
+  void outsideOfTheMap_data();
+  void outsideOfTheMap();
+  void piston();
+  void stackOpensAndKeeps();
+  void stackWithoutData();
+  void picturesOfMaps_data();
+  void picturesOfMaps();
+
+private:
+  static Compression natural() {
+    Compression c;
+    c.massFlow = 100.0;
+    c.inletPressure = 50.0;
+    c.outletPressure = 70.0;
+    c.inletTemperature = 288.15;
+    c.inletDensity = 42.0;
+    return c;
+  }
+  /// Head 1e-6 n^2 - q^2, efficiency 0.8, between lines of flow that grow with the head.
+  static TurboCompressor machine() {
+    TurboCompressor m;
+    m.name = QStringLiteral("M");
+    m.drive = QStringLiteral("D");
+    m.speedMin = 5000.0;
+    m.speedMax = 9000.0;
+    m.head = Biquadratic{{0, 0, 1e-6, 0, 0, 0, -1, 0, 0}};
+    m.efficiency = Biquadratic{{0.8}};
+    m.surge = Quadratic{{0, 30, 0}};
+    m.choke = Quadratic{{0, 8, 0}};
+    return m;
+  }
+  MachineData data() const {
+    MachineData d;
+    d.turbos.push_back(machine());
+    Drive drive;
+    drive.name = QStringLiteral("D");
+    drive.power = Biquadratic{{0, 2}};
+    drive.energy = Quadratic{{100, 2.5, 0}};
+    d.drives.push_back(drive);
+    return d;
+  }
+
+  std::unique_ptr<NetData> m_net;
+};
+
+void TestWorkingPoint::init() {
+  m_net = std::make_unique<NetData>();
+  const auto add = [this](element e, std::initializer_list<std::pair<const char *, const char *>> more) {
+    for (const auto &[name, value] : more)
+      e.set(QString::fromUtf8(name), QString::fromUtf8(value));
+    m_net->addElement(std::move(e));
+  };
+  add(makeNode("A"), {{"p", "50"}, {"t", "288.15"}, {"rhon", "0.785"}, {"molarmass", "18"}, {"rho", "42"}});
+  add(makeNode("B"), {{"p", "70"}});
+  add(makeEdge("M", "A", "B", "c"), {{"m", "100"}, {"drive", "D1"}});
+  add(makeNode("D1"), {{"type", "d"}, {"machine", "D"}, {"driven", "M"}});
+  add(makeEdge("K", "B", "A", "c"), {{"machine", "unknown"}});
+}
+
+void TestWorkingPoint::compression() {
+  const auto c = Compression::of(*m_net, m_net->edges().at(QStringLiteral("M")));
+  QVERIFY(c.has_value());
+  QCOMPARE(c->volumeFlow(), 100.0 / 42.0);
+  QCOMPARE(c->ratio(), 1.4);
+  // z R T / M k/(k-1) (ratio^((k-1)/k) - 1) with z R T / M = p / rho
+  const double k = 0.296 / 1.296;
+  QVERIFY(std::abs(c->adiabaticHead() - 5000.0 / 42.0 / k * (std::pow(1.4, k) - 1.0)) < 1e-9);
+  QVERIFY(!Compression::of(*m_net, m_net->edges().at(QStringLiteral("K"))).has_value()); // no flow
+  m_net->edges().at(QStringLiteral("K")).set(QStringLiteral("q"), QStringLiteral("-36"));
+  const auto byNormFlow = Compression::of(*m_net, m_net->edges().at(QStringLiteral("K")));
+  QVERIFY(std::abs(byNormFlow->massFlow - 10.0 * 0.785) < 1e-12);
+}
+
+void TestWorkingPoint::realGas() {
+  Compression c = natural();
+  c.inletDensity = 0.0;
+  QVERIFY(c.realGasFactor() > 0.8 && c.realGasFactor() < 0.95); // natural gas at 50 bar and 15 degC
+  QVERIFY(std::abs(c.density() - 42.0) < 3.0);
+  c.molarMass = 2.016;
+  c.criticalPressure = 12.96;
+  c.criticalTemperature = 33.1;
+  QVERIFY(std::abs(c.realGasFactor() - 1.0) < 0.02); // hydrogen is nearly ideal
+}
+
+void TestWorkingPoint::turbo() {
+  const MachineData d = data();
+  const WorkingPoint point = WorkingPoint::of(d.turbos[0], &d.drives[0], natural(), 10.0);
+  QVERIFY(point.speed.has_value());
+  QVERIFY(std::abs((*d.turbos[0].head)(point.flow, *point.speed) - point.head) < 1e-9);
+  QVERIFY2(point.isInside, qPrintable(point.remark));
+  QVERIFY(std::abs(*point.power - 100.0 * point.head / 0.8) < 1e-9);
+  QCOMPARE(*point.energyRate, 100.0 + 2.5 * *point.power);
+  QCOMPARE(*point.powerLimit, 2.0 * *point.speed);
+}
+
+void TestWorkingPoint::outsideOfTheMap_data() {
+  QTest::addColumn<double>("massFlow");
+  QTest::addColumn<double>("outlet");
+  QTest::addColumn<QString>("remark");
+  QTest::newRow("surge") << 40.0 << 70.0 << QStringLiteral("surge");
+  QTest::newRow("choke") << 260.0 << 70.0 << QStringLiteral("choke");
+  QTest::newRow("too slow") << 100.0 << 51.0 << QStringLiteral("below the smallest");
+  QTest::newRow("too fast") << 150.0 << 140.0 << QStringLiteral("above the largest");
+}
+
+void TestWorkingPoint::outsideOfTheMap() {
+  QFETCH(double, massFlow);
+  QFETCH(double, outlet);
+  QFETCH(QString, remark);
+  Compression c = natural();
+  c.massFlow = massFlow;
+  c.outletPressure = outlet;
+  const WorkingPoint point = WorkingPoint::of(machine(), nullptr, c, 10.0);
+  QVERIFY(!point.isInside);
+  QVERIFY2(point.remark.contains(remark), qPrintable(point.remark));
+
+  Drive weak;
+  weak.power = Biquadratic{{100}};
+  const WorkingPoint beyond = WorkingPoint::of(machine(), &weak, natural(), 10.0);
+  QVERIFY(!beyond.isInside && beyond.remark.contains(QStringLiteral("drive")));
+}
+
+void TestWorkingPoint::piston() {
+  PistonCompressor m;
+  m.displacement = 0.5;
+  m.speedMin = 200;
+  m.speedMax = 400;
+  m.efficiency = 0.85;
+  m.maximalRatio = 2.0;
+  const WorkingPoint point = WorkingPoint::of(m, nullptr, natural(), 10.0);
+  QVERIFY(std::abs(*point.speed - point.flow / 0.5 * 60.0) < 1e-9);
+  QVERIFY2(point.isInside, qPrintable(point.remark));
+  m.maximalTorque = 1.0;
+  QVERIFY(WorkingPoint::of(m, nullptr, natural(), 10.0).remark.contains(QStringLiteral("torque")));
+  m.maximalTorque = 0.0;
+  m.maximalRatio = 1.2;
+  QVERIFY(!WorkingPoint::of(m, nullptr, natural(), 10.0).isInside);
+}
+
+void TestWorkingPoint::stackOpensAndKeeps() {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("characteristics.txt"));
+  {
+    CharacteristicsStack stack(*m_net);
+    stack.setMachines(data());
+    stack.setFile(file);
+    QVERIFY(stack.open(QStringLiteral("M")));
+    QVERIFY(stack.open(QStringLiteral("D1")));
+    QVERIFY(stack.open(QStringLiteral("M"))); // again: the same page
+    QCOMPARE(stack.opened(), (QStringList{QStringLiteral("M"), QStringLiteral("D1")}));
+    const QString text = stack.summary(QStringLiteral("M"));
+    QVERIFY2(text.contains(QStringLiteral("shaft power")) && text.contains(QStringLiteral("fuel or current")),
+             qPrintable(text));
+  }
+  CharacteristicsStack again(*m_net);
+  again.setMachines(data());
+  again.setFile(file);
+  QCOMPARE(again.opened().size(), 2);
+  auto *tabs = again.findChild<QTabWidget *>();
+  emit tabs->tabCloseRequested(0);
+  QCOMPARE(again.opened(), QStringList{QStringLiteral("D1")});
+  QFile kept(file);
+  QVERIFY(kept.open(QIODevice::ReadOnly));
+  QCOMPARE(kept.readAll(), QByteArray("D1"));
+}
+
+void TestWorkingPoint::stackWithoutData() {
+  CharacteristicsStack stack(*m_net);
+  QVERIFY(!stack.open(QStringLiteral("M")));
+  QVERIFY(!stack.open(QStringLiteral("no such element")));
+  stack.setMachines(data());
+  QVERIFY(!stack.open(QStringLiteral("K"))); // its machine is not in the data
+  QVERIFY(stack.opened().isEmpty());
+  QVERIFY(stack.open(QStringLiteral("M")));
+  stack.setMachines(MachineData()); // the next case
+  QVERIFY(stack.opened().isEmpty());
+}
+
+void TestWorkingPoint::picturesOfMaps_data() {
+  QTest::addColumn<QString>("suffix");
+  for (const char *suffix : {"png", "pdf", "svg"})
+    QTest::newRow(suffix) << QString::fromLatin1(suffix);
+}
+
+void TestWorkingPoint::picturesOfMaps() {
+  QFETCH(QString, suffix);
+  const QTemporaryDir folder;
+  const MachineData d = data();
+  MapPlot plot;
+  plot.resize(500, 400);
+  const WorkingPoint point = WorkingPoint::of(d.turbos[0], &d.drives[0], natural(), 10.0);
+  plot.show(d.drives[0], point, 10.0);
+  PistonCompressor piston;
+  piston.displacement = 0.5;
+  piston.speedMin = 200;
+  piston.speedMax = 400;
+  plot.show(piston, std::nullopt);
+  plot.show(d.turbos[0], point);
+  const QString text = plot.readout({point.flow, point.head});
+  QVERIFY2(text.contains(QStringLiteral("η = 80 %")), qPrintable(text));
+  QVERIFY(plot.save(folder.filePath(QStringLiteral("map.") + suffix)));
+  QString reason;
+  QVERIFY(!plot.save(folder.filePath(QStringLiteral("none/map.") + suffix), &reason));
+  QVERIFY(!reason.isEmpty());
+  const QImage picture = plot.grab().toImage();
+  int green = 0; // the working point
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x)
+      green += picture.pixelColor(x, y) == QColor(46, 125, 50) ? 1 : 0;
+  }
+  QVERIFY(green > 20);
+}
+
+NIVRA_TEST(TestWorkingPoint);
+#include "tst_workingpoint.moc"
