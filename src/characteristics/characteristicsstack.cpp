@@ -135,14 +135,12 @@ void CharacteristicsStack::keep() const {
 
 QString CharacteristicsStack::machineOf(const element &e) const {
   const QString machine = e.value(QStringLiteral("machine"));
-  if (!machine.isEmpty())
-    return machine;
-  // A drive without data of its own has those that its compressor's machine names.
+  const QString name = machine.isEmpty() ? e.value(QStringLiteral("name")) : machine;
   const element *driven = m_net.edges().find(e.value(QStringLiteral("driven")));
-  const QString name = e.value(QStringLiteral("name"));
   if (driven == nullptr || m_machines.drive(name) != nullptr)
     return name;
-  const TurboCompressor *turbo = m_machines.turbo(machineOf(*driven));
+  // A drive may name its compressor's machine, or none: then it has the data of the drive that this one names.
+  const TurboCompressor *turbo = m_machines.turbo(machine.isEmpty() ? machineOf(*driven) : machine);
   return turbo == nullptr ? name : turbo->drive;
 }
 

@@ -124,7 +124,48 @@ private:
   int m_records = 0;
 };
 
+std::unique_ptr<NetworkFileWriter> writerFor(const QString &path, QIODevice &device) {
+  if (isJson(path))
+    return std::make_unique<JsonFileWriter>(device);
+  return std::make_unique<TextFileWriter>(device);
+}
+
+/// Opens a file, lets fill(writer) write and keeps it when everything was taken.
+template <typename Fill>
+bool writeFile(const QString &path, const Fill &fill, QString *reason) {
+  QSaveFile file(path);
+  if (file.open(QIODevice::WriteOnly)) {
+    const std::unique_ptr<NetworkFileWriter> writer = writerFor(path, file);
+    fill(*writer);
+    if (writer->finish() && file.commit())
+      return true;
+  }
+  *reason = tr("Cannot write %1: %2").arg(path, file.errorString());
+  return false;
+}
+
 } // namespace
+
+bool NetworkFileConverter::write(const QString &path, const std::vector<Record> &records, QString *reason) {
+  return writeFile(
+      path,
+      [&records](NetworkFileWriter &writer) {
+        for (const Record &record : records)
+          writer.write(record.name.toStdString(), record.type.toStdString(), record.values);
+      },
+      reason);
+}
+
+bool NetworkFileConverter::write(const QString &path, const std::vector<SetPoint> &setPoints, QString *reason) {
+  return writeFile(
+      path,
+      [&setPoints](NetworkFileWriter &writer) {
+        for (const SetPoint &point : setPoints)
+          writer.writeSetPoint(point.name.toStdString(), point.property.toStdString(), point.value,
+                               point.unit.toStdString());
+      },
+      reason);
+}
 
 bool NetworkFileConverter::isNetworkFile(const QString &name) {
   return parts(name).hasMatch();
@@ -148,11 +189,7 @@ NetworkFileConverter::Result NetworkFileConverter::convert(const QString &from, 
   QSaveFile file(to);
   if (!file.open(QIODevice::WriteOnly))
     return fail(tr("Cannot write %1: %2").arg(to, file.errorString()));
-  std::unique_ptr<NetworkFileWriter> writer;
-  if (isJson(to))
-    writer = std::make_unique<JsonFileWriter>(file);
-  else
-    writer = std::make_unique<TextFileWriter>(file);
+  const std::unique_ptr<NetworkFileWriter> writer = writerFor(to, file);
   ReadReport report(from);
   Feeder feeder(from, *writer, report);
   QString reason;
