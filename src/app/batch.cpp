@@ -151,6 +151,7 @@ int Batch::run(const CommandLine &line) {
   constexpr int ShownWidth = 1200;
   constexpr int ShownHeight = 900;
   control.plot()->resize(ShownWidth, ShownHeight);
+  control.setSubnetIcons(loader.templateFolder());
   control.showNetData(loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
   control.plot()->grab();
   constexpr double Milli = 1e-3;

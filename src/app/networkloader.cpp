@@ -128,10 +128,11 @@ void NetworkLoader::readMachines() {
 
 void NetworkLoader::assembleSubnets(const ReadOptions &options) {
   m_templateDefinitions.clear();
+  m_templateFolder.clear();
   if (m_net.assembledSubnets().isEmpty())
     return;
-  const QString folder = SubAssembler::findFolder(QCoreApplication::applicationDirPath());
-  SubAssembler assembler(m_net, folder);
+  m_templateFolder = SubAssembler::findFolder(QCoreApplication::applicationDirPath());
+  SubAssembler assembler(m_net, m_templateFolder);
   SubAssembler::Result result =
       assembler.createElesOfAssembledSubnets(SubAssembler::Flag::All, [&](const QString &text, int done, int count) {
         if (options.told)

@@ -191,6 +191,7 @@ bool NivraViewer::readWorkspace() {
   m_progress = nullptr;
   if (!done)
     m_net.clear(); // half a network would look like a whole one
+  m_control->setSubnetIcons(m_loader.templateFolder());
   m_control->showNetData(m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
   return done;
 }

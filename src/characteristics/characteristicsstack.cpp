@@ -232,6 +232,11 @@ QWidget *CharacteristicsStack::makePage(const QString &elementName) const {
     if (its != nullptr && ofDriven)
       point = WorkingPoint::of(*its, drive, *ofDriven, AmbientTemperature);
     plot->show(*drive, point, AmbientTemperature);
+    if (drive->energy) {
+      auto *consumption = new MapPlot;
+      column->insertWidget(1, consumption, 1);
+      consumption->showConsumption(*drive, point);
+    }
   }
   return page;
 }

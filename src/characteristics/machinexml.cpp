@@ -41,6 +41,13 @@ MachineXml::MachineXml(QIODevice &device, QString path)
     , m_path(std::move(path)) {}
 
 void MachineXml::tell(const QString &text) {
+  constexpr std::size_t Most = 1000; // a file that is wrong altogether must not fill the memory
+  if (m_result.findings.size() > Most)
+    return;
+  if (m_result.findings.size() == Most) {
+    m_result.findings.push_back({Finding::Severity::Warning, m_path, 0, tr("... and more, which are not told"), QString()});
+    return;
+  }
   m_result.findings.push_back({Finding::Severity::Warning, m_path, static_cast<int>(m_xml.lineNumber()), text, QString()});
 }
 
@@ -50,16 +57,11 @@ double MachineXml::number() {
   bool isNumber = false;
   const double value = attributes.value(QStringLiteral("value")).toDouble(&isNumber);
   const double factor = factorOf(attributes.value(QStringLiteral("unit")));
-  const int line = static_cast<int>(m_xml.lineNumber());
   if (!isNumber || !std::isfinite(value))
-    m_result.findings.push_back(
-        {Finding::Severity::Warning, m_path, line,
-         tr("%1 is no number: \"%2\"").arg(element, attributes.value(QStringLiteral("value")).toString()), QString()});
+    tell(tr("%1 is no number: \"%2\"").arg(element, attributes.value(QStringLiteral("value")).toString()));
   else if (factor == 0.0)
-    m_result.findings.push_back({Finding::Severity::Warning, m_path, line,
-                                 tr("the unit \"%1\" of %2 is not known, the value is taken as it stands")
-                                     .arg(attributes.value(QStringLiteral("unit")).toString(), element),
-                                 QString()});
+    tell(tr("the unit \"%1\" of %2 is not known, the value is taken as it stands")
+             .arg(attributes.value(QStringLiteral("unit")).toString(), element));
   m_xml.skipCurrentElement();
   return isNumber && std::isfinite(value) ? value * (factor == 0.0 ? 1.0 : factor) : std::nan("");
 }

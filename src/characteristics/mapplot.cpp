@@ -280,6 +280,34 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
   finish();
 }
 
+void MapPlot::showConsumption(const Drive &drive, const std::optional<WorkingPoint> &point) {
+  reset(tr("power [kW]"), drive.kind == Drive::Kind::ElectricMotor ? tr("current taken [kW]") : tr("fuel taken [kW]"));
+  const auto energy = drive.energy;
+  m_readout = [energy](const QPointF &at) {
+    QString text = tr("P = %1 kW").arg(shown(at.x()));
+    if (energy)
+      text += tr("\ntakes %1 kW").arg(shown((*energy)(at.x())));
+    return text;
+  };
+  double last = point && point->power ? 1.3 * *point->power : 0.0;
+  for (const Drive::EnergyPoint &measured : drive.energyPoints)
+    last = std::max(last, measured.power);
+  constexpr double Usual = 10000.0; // kW
+  last = last > 0.0 ? last : Usual;
+  QVector<QPointF> line;
+  for (int i = 0; drive.energy && i <= Steps; ++i)
+    line.append(QPointF(last * i / Steps, (*drive.energy)(last * i / Steps)));
+  addLine(line, QPen(Blue, 2.0));
+  QVector<QPointF> dots;
+  for (const Drive::EnergyPoint &measured : drive.energyPoints)
+    dots.append(QPointF(measured.power, measured.rate));
+  if (!dots.isEmpty())
+    addDots(dots);
+  if (point && point->power && point->energyRate)
+    addWorkingPoint({*point->power, *point->energyRate}, true);
+  finish();
+}
+
 void MapPlot::contextMenuEvent(QContextMenuEvent *event) {
   QMenu menu(this);
   menu.addAction(tr("Show everything"), m_zoomer, [this] { m_zoomer->zoom(0); });

@@ -46,6 +46,13 @@ QString unitOf(const QString &name) {
 } // namespace
 
 void GasLibNetwork::tell(const QString &text) {
+  constexpr std::size_t Most = 1000; // a file that is wrong altogether must not fill the memory
+  if (findings.size() > Most)
+    return;
+  if (findings.size() == Most) {
+    findings.push_back({Finding::Severity::Warning, m_path, 0, tr("... and more, which are not told"), QString()});
+    return;
+  }
   findings.push_back({Finding::Severity::Warning, m_path, static_cast<int>(m_xml.lineNumber()), text, QString()});
 }
 

@@ -122,7 +122,7 @@ std::vector<bool> ElementLooks::searchResults(NetData::EleType kind) const {
   std::vector<bool> found(count);
   for (std::size_t i = 0; i < count; ++i) {
     const PropertyText *text = m_geometry.source({kind, static_cast<int>(i)})->find(key);
-    found[i] = text != nullptr && !text->isEmpty() && text->utf8() != "0" && text->utf8() != "false";
+    found[i] = text != nullptr && text->isOn();
   }
   return found;
 }

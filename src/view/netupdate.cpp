@@ -57,10 +57,11 @@ void NetUpdate::setNetData(const NetData *net) {
   m_layers = LayerFilter();
 }
 
-void NetUpdate::setFolder(const QString &folder) {
-  const SymbolTable table(folder + QStringLiteral("/symbols"));
+void NetUpdate::setFolder(const QString &folder, const QString &subnetIcons) {
+  SymbolTable table(folder + QStringLiteral("/symbols"));
   m_symbols.setTable(table);
   m_symbols.setFigureFolder(folder);
+  table.setFurtherDirectory(subnetIcons);
   m_subnets.setTable(table);
 }
 

@@ -51,7 +51,7 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   LabelTable labels;
   LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels);
   m_plot->update().setNetData(&m_net);
-  m_plot->update().setFolder(folder);
+  m_plot->update().setFolder(folder, m_subnetIcons);
   m_plot->update().setLabelTable(labels);
   m_plot->showNetwork();
 }
@@ -70,7 +70,7 @@ void NetVisControl::selectSearchResults(bool topoClosure, bool additive) {
   Selection found = additive ? m_net.selection() : Selection();
   m_net.forEach(NetData::AllTypes, [&](element &e) {
     const PropertyText *text = e.find(mark);
-    if (text != nullptr && text->utf8() == "1")
+    if (text != nullptr && text->isOn())
       Topology::select(m_net, e.value(name), found);
   });
   if (topoClosure)

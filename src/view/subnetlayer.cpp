@@ -15,8 +15,8 @@ QColor colorSetting(const char *key) {
 }
 
 bool isSearchResult(const element &subnet) {
-  const QString text = subnet.value(QStringLiteral("isSearchResult")).trimmed();
-  return !text.isEmpty() && text != QLatin1String("0") && text.compare(QLatin1String("false"), Qt::CaseInsensitive) != 0;
+  const PropertyText *text = subnet.find(QStringLiteral("isSearchResult"));
+  return text != nullptr && text->isOn();
 }
 
 /// How the subnet is controlled, by its "substate".

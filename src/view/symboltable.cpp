@@ -28,5 +28,8 @@ SymbolTable::SymbolTable(const QString &directory)
 
 QString SymbolTable::path(const QString &key) const {
   const auto found = m_files.find(key);
-  return found == m_files.end() ? QString() : QDir(m_directory).filePath(found->second);
+  if (found != m_files.end())
+    return QDir(m_directory).filePath(found->second);
+  const QString further = m_furtherDirectory + QLatin1Char('/') + key + QStringLiteral(".svg");
+  return !m_furtherDirectory.isEmpty() && QFile::exists(further) ? further : QString();
 }

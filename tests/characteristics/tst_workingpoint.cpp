@@ -210,6 +210,8 @@ void TestWorkingPoint::picturesOfMaps() {
   plot.resize(500, 400);
   const WorkingPoint point = WorkingPoint::of(d.turbos[0], &d.drives[0], natural(), 10.0);
   plot.show(d.drives[0], point, 10.0);
+  plot.showConsumption(d.drives[0], point);
+  QVERIFY(plot.readout({1000, 0}).contains(QStringLiteral("takes 2600 kW")));
   PistonCompressor piston;
   piston.displacement = 0.5;
   piston.speedMin = 200;

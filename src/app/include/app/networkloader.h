@@ -50,6 +50,8 @@ public:
   const ConsistencyCheck::PruneResult &removed() const { return m_removed; }
   /// Everything that the stages noticed, in their order.
   const std::vector<FindingList::Group> &noticed() const { return m_noticed; }
+  /// Where the templates of subnets are; empty when the network has no subnets or there are none.
+  const QString &templateFolder() const { return m_templateFolder; }
   /// Of the scenario's compressor database; empty without one.
   const MachineData &machines() const { return m_machines; }
   const NetworkFormulas &formulas() const { return m_formulas; }
@@ -71,6 +73,7 @@ private:
   NivraWorkspace m_workspace;
   NivraGasParams m_gasParams;
   MachineData m_machines;
+  QString m_templateFolder;
   QString m_checkFindings;
   ConsistencyCheck::PruneResult m_removed;
   std::vector<FormulaDefinition> m_templateDefinitions; ///< of the assembled subnets

@@ -19,6 +19,8 @@ public:
   void show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point);
   /// \param point power and speed of it are shown; \param temperature ambient, degC
   void show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature);
+  /// What the drive takes over its power.
+  void showConsumption(const Drive &drive, const std::optional<WorkingPoint> &point);
 
   /// What stands under the cursor, for the plot's coordinates.
   QString readout(const QPointF &position) const { return m_readout ? m_readout(position) : QString(); }

@@ -37,6 +37,9 @@ public:
   QString toString() const;
   bool isEmpty() const noexcept { return utf8().empty(); }
 
+  /// Neither empty nor "0" nor "false": a switch that is on.
+  bool isOn() const noexcept { return !isEmpty() && utf8() != "0" && utf8() != "false"; }
+
   /// The whole text as a floating-point number in the C locale, blanks around it ignored; nothing when it is none.
   /// "inf" and "nan" parse, as do values beyond the range (to infinity).
   std::optional<double> toDouble() const noexcept;

@@ -34,7 +34,8 @@ public:
   const NetData *netData() const { return m_net; }
   /// The folder of the case: it may hold symbols of the user's own in "symbols", and files of figures. For the next
   /// updatePlot() that rebuilds, as is the following.
-  void setFolder(const QString &folder);
+  /// \param subnetIcons folder with an icon for each kind of subnet, empty for none
+  void setFolder(const QString &folder, const QString &subnetIcons = QString());
   void setLabelTable(const LabelTable &table) { m_labelTable = table; }
   const LabelTable &labelTable() const { return m_labelTable; }
   /// Layers whose elements are not drawn, by the values of the property; drawn with the next updatePlot().

@@ -26,6 +26,8 @@ public:
 
   /// Forgets what is drawn; to be called before the network changes.
   void clear();
+  /// Where "KIND.svg" is the symbol of a kind of subnet; for the networks shown from now on.
+  void setSubnetIcons(const QString &folder) { m_subnetIcons = folder; }
   /// Draws the network with the settings of the file or, where there is none, with settings that suit the network. Beside
   /// the file may stand the label table "vfd.csv" and the folder "symbols" with symbols of the user's own.
   void showNetData(const QString &plotSettingsPath);
@@ -59,6 +61,7 @@ private:
   NetData &m_net;
   QString m_name;
   QString m_settingsPath;
+  QString m_subnetIcons;
   QPointer<NetPlot> m_plot;
   NetPicker *m_picker; ///< belongs to the canvas of the plot
   std::unique_ptr<PlotMenu> m_menu;

@@ -14,10 +14,13 @@ public:
 
   /// File name as the table gives it, by key.
   const std::map<QString, QString> &files() const { return m_files; }
-  /// The path of the key's file, relative names taken from the table's directory; empty when the table has no such key.
+  /// Where a file "KEY.svg" counts for keys that the table does not name.
+  void setFurtherDirectory(const QString &directory) { m_furtherDirectory = directory; }
+  /// The path of the key's file, relative names taken from the table's directory; empty when there is no such key.
   QString path(const QString &key) const;
 
 private:
   QString m_directory;
+  QString m_furtherDirectory;
   std::map<QString, QString> m_files;
 };
