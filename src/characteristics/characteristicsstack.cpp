@@ -135,7 +135,7 @@ void CharacteristicsStack::keep() const {
 
 QString CharacteristicsStack::machineOf(const element &e) const {
   const QString machine = e.value(QStringLiteral("machine"));
-  const QString name = machine.isEmpty() ? e.value(QStringLiteral("name")) : machine;
+  QString name = machine.isEmpty() ? e.value(QStringLiteral("name")) : machine;
   const element *driven = m_net.edges().find(e.value(QStringLiteral("driven")));
   if (driven == nullptr || m_machines.drive(name) != nullptr)
     return name;

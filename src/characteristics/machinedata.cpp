@@ -84,6 +84,7 @@ Findings TurboCompressor::fit() {
         largest = {point.x, 0.0, point.z};
     }
     std::vector<FitPoint> chokes;
+    chokes.reserve(last.size());
     for (const auto &entry : last)
       chokes.push_back(entry.second);
     Quadratic fitted;

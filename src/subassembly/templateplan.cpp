@@ -123,7 +123,7 @@ std::vector<PropertyText> TemplatePlan::names(const NetData &net, const std::str
   for (const std::string &part : m_partNames) {
     name.assign(subnet).append("_").append(part);
     for (int i = 2; isTaken(name); ++i)
-      name = subnet + "_" + part + "_" + std::to_string(i);
+      name.assign(subnet).append("_").append(part).append("_").append(std::to_string(i));
     names.emplace_back(std::string_view(name));
   }
   return names;
