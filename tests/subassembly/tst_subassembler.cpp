@@ -28,6 +28,7 @@ private slots:
   void formulasAndConstraints();
   void foldersAreCached();
   void manySubnets();
+  void templatesOfTheProgram();
 
 private:
   void write(const QString &name, const QByteArray &text) const {
@@ -288,6 +289,31 @@ void TestSubAssembler::manySubnets() {
   });
   QCOMPARE(result.assembled, 149);
   QCOMPARE(m_net->edges().size(), std::size_t(2 * 149));
+}
+
+void TestSubAssembler::templatesOfTheProgram() {
+  const QDir folder(QStringLiteral(NIVRA_SOURCE_DIR "/net_subassemblies"));
+  const QStringList files = folder.entryList({QStringLiteral("*.geom")});
+  QVERIFY(files.size() >= 5 && files.contains(QStringLiteral("default.geom")));
+  m_net->addElement(makeNode("N3", "1200", "600"));
+  for (const QString &file : files) {
+    const QString variant = QString(file).remove(QStringLiteral(".geom"));
+    for (const char *suffix : {".geom.csv", ".formulas", ".svg"})
+      QVERIFY2(folder.exists(variant + QLatin1String(suffix)), qPrintable(variant));
+    addSubnet(variant.toUtf8(), variant.toUtf8(), variant == QLatin1String("valve_junction") ? "N1;N2;N3" : "N1;N2");
+  }
+  SubAssembler assembler(*m_net, folder.path(), m_cache);
+  const SubAssembler::Result result = assembler.createElesOfAssembledSubnets();
+  QCOMPARE(result.assembled, files.size());
+  QVERIFY2(result.findings.empty(), qPrintable(texts(result.findings)));
+  Findings findings;
+  const std::vector<FormulaDefinition> definitions = assembler.definitions(findings);
+  QVERIFY2(findings.empty(), qPrintable(texts(findings)));
+  QVERIFY(definitions.size() > 8);
+  for (const elements::Entry &edge : m_net->edges()) { // every created edge has its ends
+    for (const char *end : {"node1", "node2"})
+      QVERIFY2(m_net->nodes().find(edge.value.value(QLatin1String(end))) != nullptr, qPrintable(edge.name()));
+  }
 }
 
 NIVRA_TEST(TestSubAssembler);
