@@ -103,6 +103,10 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   readMachines();
   m_cancelled = m_cancelled || subResults.cancelled;
   const bool isComputed = !m_cancelled && computeFormulas(options.progress);
+  if (!isComputed) {
+    m_error = tr("Reading was cancelled.");
+    m_formulas.setDefinitions({}); // of elements that nobody will see
+  }
   m_seconds.append({QStringLiteral("formulas"), static_cast<double>(timer.restart()) * Milli});
   return isComputed;
 }

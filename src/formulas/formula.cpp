@@ -136,3 +136,20 @@ QString Formula::escaped(const QString &name) {
   }
   return text;
 }
+
+QString Formula::renamed(const QString &text, const QHash<QString, QString> &names) {
+  QString renamed;
+  bool isQuoted = false;
+  for (int i = 0; i < text.size();) {
+    const QChar c = text.at(i++);
+    renamed += c;
+    if (c == QLatin1Char('"'))
+      isQuoted = !isQuoted;
+    if (isQuoted || c != QLatin1Char('@') || i >= text.size() || !FormulaLexer::continuesName(text.at(i)))
+      continue;
+    const int begin = i;
+    const auto other = names.constFind(FormulaLexer::takeName(text, i));
+    renamed += other == names.constEnd() ? text.mid(begin, i - begin) : escaped(*other);
+  }
+  return renamed;
+}

@@ -18,8 +18,10 @@ struct FormulaLexer {
   static bool continuesName(QChar c);
   static QString variable(std::size_t number) { return QStringLiteral("v_%1").arg(number); }
 
+  /// The name that stands at the position, with its escapes read; the position is moved behind it.
+  static QString takeName(const QString &text, int &i);
+
 private:
-  QString takeName(const QString &text, int &i);
   void addReference(const QStringList &parts);
   void checkLimits(const QString &text) const;
 };

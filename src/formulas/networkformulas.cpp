@@ -200,21 +200,16 @@ void NetworkFormulas::Computing::order() {
 }
 
 void NetworkFormulas::Computing::reportUnknown() {
-  std::vector<bool> spellings; // that occur in the network
-  net.forEach(NetData::AllTypes, [&spellings](const element &e) {
-    for (const Property &property : e) {
-      if (property.key.index() >= spellings.size())
-        spellings.resize(property.key.index() + 1);
-      spellings[property.key.index()] = true;
-    }
-  });
+  std::vector<bool> isKnown; // by spelling, so that most properties cost no look-up
   std::set<PropertyKey> known;
   net.forEach(NetData::AllTypes, [&](const element &e) {
     for (const Property &property : e) {
-      if (!spellings[property.key.index()])
+      if (property.key.index() >= isKnown.size())
+        isKnown.resize(property.key.index() + 1);
+      if (isKnown[property.key.index()])
         continue;
+      isKnown[property.key.index()] = true;
       known.insert(property.key);
-      spellings[property.key.index()] = false; // once is enough
     }
   });
   for (const FormulaRule &rule : rules)
@@ -237,6 +232,8 @@ void NetworkFormulas::Computing::reportUnknown() {
 
 /// Tells the vocabulary of the network what it does not know, so that the property is shown and drawn like others.
 void NetworkFormulas::Computing::describe() {
+  if (rules.empty())
+    return;
   auto metaData = std::make_shared<NetMetaData>(*net.metaData());
   bool hasNew = false;
   for (const FormulaRule &rule : rules) {

@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -65,21 +64,6 @@ QStringList split(const QString &names) {
 
 Finding problem(const QString &text, const QString &element) {
   return {Finding::Severity::Warning, QString(), 0, text, QString(), false, element};
-}
-
-/// In a formula the names of the template's elements stand for those that were made of them.
-QString renamed(const QString &expression, const QHash<QString, QString> &names) {
-  static const QRegularExpression reference(QStringLiteral("@([^\\s()\\[\\]{}<>=!+\\-*/^|?:,\"'%@~]+)"));
-  QString text;
-  int end = 0;
-  for (auto it = reference.globalMatch(expression); it.hasNext();) {
-    const QRegularExpressionMatch match = it.next();
-    const auto created = names.constFind(match.captured(1));
-    text += expression.midRef(end, match.capturedStart(1) - end);
-    text += created == names.constEnd() ? match.captured(1) : Formula::escaped(*created);
-    end = match.capturedEnd(1);
-  }
-  return text + expression.mid(end);
 }
 
 } // namespace
@@ -365,7 +349,7 @@ std::vector<FormulaDefinition> SubAssembler::definitions(Findings &findings) con
           own.elements.append(assembled.subnet);
         own.namePattern.clear();
         for (QString *expression : {&own.expression, &own.lower, &own.upper})
-          *expression = renamed(*expression, names);
+          *expression = Formula::renamed(*expression, names); // the template's names stand for what was made of them
         if (!own.elements.isEmpty())
           definitions.push_back(std::move(own));
       }

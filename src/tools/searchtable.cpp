@@ -28,11 +28,7 @@ bool SearchTable::write(QIODevice &device, const SearchParams &params, const std
   for (const QString &header : headers())
     stream << CsvField::quoted(header);
   stream << '\n';
-  for (const QStringList &row : rows) {
-    for (int column = 0; column < row.size(); ++column)
-      stream << CsvField::quoted(CsvField::value(row.at(column), useComma && column == ValueColumn));
-    stream << '\n';
-  }
+  CsvField::writeRows(stream, rows, ValueColumn, useComma);
   stream.flush();
   return stream.status() == QTextStream::Ok;
 }

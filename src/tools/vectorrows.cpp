@@ -109,11 +109,7 @@ bool VectorRows::write(QIODevice &device, const QStringList &headers, const std:
   for (const QString &header : headers)
     stream << CsvField::quoted(QString(header).replace(QLatin1Char('\n'), QLatin1Char(' ')));
   stream << '\n';
-  for (const QStringList &row : rows) {
-    for (int column = 0; column < row.size(); ++column)
-      stream << CsvField::quoted(CsvField::value(row.at(column), useComma && column == ValueColumn));
-    stream << '\n';
-  }
+  CsvField::writeRows(stream, rows, ValueColumn, useComma);
   stream.flush();
   return stream.status() == QTextStream::Ok;
 }

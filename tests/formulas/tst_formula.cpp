@@ -19,6 +19,7 @@ private slots:
   void namesInFormulas();
   void bareNames();
   void boundAnew();
+  void namesGivenAnew();
   void errors_data();
   void errors();
   void boundless_data();
@@ -138,6 +139,13 @@ void TestFormula::bareNames() {
           2.8); // Euler's, not the property
   QCOMPARE(Formula(QStringLiteral("e@ELE"), m_net, Formula::Bare::OfCurrent).evaluate(pipe).text, QStringLiteral("3"));
   QVERIFY_EXCEPTION_THROWN(Formula(QStringLiteral("v*2"), m_net).evaluate(pipe), FormulaError);
+}
+
+void TestFormula::namesGivenAnew() {
+  const QHash<QString, QString> names{{QStringLiteral("A"), QStringLiteral("S-1_A")},
+                                      {QStringLiteral("B-2"), QStringLiteral("T_B")}};
+  QCOMPARE(Formula::renamed(QStringLiteral("p@A - q@node1@B&#45;2 + r@ELE * s@AB + \"@A\" + t@"), names),
+           QStringLiteral("p@S&#45;1_A - q@node1@T_B + r@ELE * s@AB + \"@A\" + t@"));
 }
 
 void TestFormula::boundAnew() {

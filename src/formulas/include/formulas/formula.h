@@ -2,6 +2,7 @@
 
 #include <model/netdata.h>
 
+#include <QHash>
 #include <QString>
 
 #include <memory>
@@ -59,6 +60,8 @@ public:
 
   /// The name as it is written in a formula.
   static QString escaped(const QString &name);
+  /// The formula with other names of elements, where there are others for them.
+  static QString renamed(const QString &text, const QHash<QString, QString> &names);
 
 private:
   struct Engine;
