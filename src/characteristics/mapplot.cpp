@@ -77,7 +77,7 @@ void MapPlot::reset(const QString &x, const QString &y) {
   setAxisTitle(yLeft, y);
 }
 
-void MapPlot::addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label) {
+void MapPlot::addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label, Qt::Alignment alignment) {
   if (points.size() < 2)
     return;
   auto *curve = new QwtPlotCurve;
@@ -94,7 +94,7 @@ void MapPlot::addLine(const QVector<QPointF> &points, const QPen &pen, const QSt
   text.setFont(font);
   text.setColor(pen.color());
   marker->setLabel(text);
-  marker->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  marker->setLabelAlignment(alignment);
   marker->setValue(points.last());
   marker->attach(this);
 }
@@ -267,7 +267,8 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
         if (limit > 0.0)
           line.append(QPointF(speed, limit));
       }
-      addLine(line, QPen(at == 10.0 ? Blue : QColor(120, 160, 190), at == 10.0 ? 2.0 : 1.2), tr("%1 °C").arg(at));
+      addLine(line, QPen(at == 10.0 ? Blue : QColor(120, 160, 190), at == 10.0 ? 2.0 : 1.2), tr("%1 °C").arg(at),
+              Qt::AlignLeft | Qt::AlignTop); // inside, where the line ends at the edge
     }
   }
   QVector<QPointF> dots;

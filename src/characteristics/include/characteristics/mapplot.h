@@ -32,7 +32,8 @@ protected:
 
 private:
   void reset(const QString &x, const QString &y);
-  void addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label = QString());
+  void addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label = QString(),
+               Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter);
   void addArea(const QVector<QPointF> &outline);
   void addDots(const QVector<QPointF> &points);
   void addWorkingPoint(const QPointF &at, bool isInside);
