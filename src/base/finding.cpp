@@ -3,6 +3,8 @@
 
 #include <QCoreApplication>
 
+#include <iterator>
+
 namespace {
 
 void logFinding(Finding::Severity severity, const QString &text) {
@@ -42,6 +44,10 @@ QString Finding::logText() const {
   if (line > 0)
     place += (file.isEmpty() ? QStringLiteral("line ") : QStringLiteral(":")) + QString::number(line);
   return text + QStringLiteral(" (") + place + QLatin1Char(')');
+}
+
+void append(Findings &findings, Findings more) {
+  std::move(more.begin(), more.end(), std::back_inserter(findings));
 }
 
 void report(const Findings &findings) {

@@ -281,7 +281,7 @@ private:
                                    QStringLiteral(" could be found. Drive is excluded!"));
     if (driven == nullptr) {
       driveFails(drive, QStringLiteral("Could not find DRIVEN ") + drivenName->toString() + QStringLiteral(". Check!"));
-      place(drive, coordinate(*gasNode, keys().x), coordinate(*gasNode, keys().y) + 50.0);
+      place(drive, m_net.position(*gasNode) + QPointF(0.0, 50.0));
       return true;
     }
     if (!isTypeCode(driven->find(keys().type), 'c'))
@@ -303,21 +303,13 @@ private:
   void placeBeside(element &drive, const element &compressor) const {
     const element &inlet = *m_net.nodes().find(*compressor.find(keys().node1));
     const element &outlet = *m_net.nodes().find(*compressor.find(keys().node2));
-    const auto between = [&](PropertyKey key) {
-      return 0.3 * coordinate(inlet, key) + 0.7 * coordinate(outlet, key);
-    };
-    place(drive, between(keys().x), between(keys().y));
+    place(drive, 0.3 * m_net.position(inlet) + 0.7 * m_net.position(outlet));
   }
 
-  double coordinate(const element &node, PropertyKey key) const {
-    const double number = m_net.value(node, key);
-    return number == NetData::NoValue ? 0.0 : number;
-  }
-
-  static void place(element &drive, double x, double y) {
+  static void place(element &drive, const QPointF &at) {
     constexpr int Digits = 8;
-    const QString xText = QString::number(x, 'g', Digits);
-    const QString yText = QString::number(y, 'g', Digits);
+    const QString xText = QString::number(at.x(), 'g', Digits);
+    const QString yText = QString::number(at.y(), 'g', Digits);
     drive.set(keys().x, xText);
     drive.set(keys().y, yText);
     NivraMsg::log(QStringLiteral("Drive ") + drive.value(keys().name) +

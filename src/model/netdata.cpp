@@ -12,6 +12,8 @@ namespace {
 struct Keys {
   PropertyKey name = PropertyKey::intern("name");
   PropertyKey type = PropertyKey::intern("type");
+  PropertyKey x = PropertyKey::intern("X");
+  PropertyKey y = PropertyKey::intern("Y");
   PropertyKey node1 = PropertyKey::intern("node1");
   PropertyKey node2 = PropertyKey::intern("node2");
   PropertyKey pset = PropertyKey::intern("pset");
@@ -136,8 +138,13 @@ std::pair<NetData::EleType, ::element *> NetData::findElement(const QString &nam
 }
 
 ::element *NetData::element(const QString &name) const {
+  const QByteArray utf8 = name.toUtf8();
+  return element(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+}
+
+::element *NetData::element(std::string_view utf8) const {
   for (const elements *collection : {&m_nodes, &m_edges, &m_assembledSubnets, &m_tBoxes}) {
-    if (::element *found = collection->find(name))
+    if (::element *found = collection->find(utf8))
       return found;
   }
   return nullptr;
@@ -197,6 +204,12 @@ double NetData::edgeValue(const ::element &edge, PropertyKey property, bool abso
 
 double NetData::edgeValue(const ::element &edge, const QString &property, bool absolute) const {
   return edgeValue(edge, PropertyKey::find(property), absolute);
+}
+
+QPointF NetData::position(const ::element &element) const {
+  const double x = value(element, keys().x);
+  const double y = value(element, keys().y);
+  return {x == NoValue ? 0.0 : x, y == NoValue ? 0.0 : y};
 }
 
 std::pair<double, double> NetData::range(const QString &property, bool absolute) const {

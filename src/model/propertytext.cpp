@@ -65,6 +65,10 @@ QString PropertyText::toString() const {
   return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
+PropertyText PropertyText::ofNumber(double number, int significantDigits) {
+  return PropertyText(std::string_view(formatNumber(number, significantDigits)));
+}
+
 std::optional<double> PropertyText::toDouble() const noexcept {
   return parseNumber(utf8());
 }

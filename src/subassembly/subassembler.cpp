@@ -48,16 +48,6 @@ const QString &fallback() {
   return variant;
 }
 
-QPointF position(const NetData &net, const element &e) {
-  const double x = net.value(e, keys().x);
-  const double y = net.value(e, keys().y);
-  return {x == NetData::NoValue ? 0.0 : x, y == NetData::NoValue ? 0.0 : y};
-}
-
-PropertyText numberText(double number) {
-  return PropertyText(std::string_view(formatNumber(number)));
-}
-
 QStringList split(const QString &names) {
   return names.isEmpty() ? QStringList() : names.split(QLatin1Char(';'));
 }
@@ -71,6 +61,7 @@ Finding problem(const QString &text, const QString &element) {
 SubAssembler::SubAssembler(NetData &net, const QString &folder, SubAssemblyCache &cache)
     : m_net(net)
     , m_folder(folder)
+    , m_realFolder(QFileInfo(folder).canonicalFilePath())
     , m_templates(cache.folder(folder)) {}
 
 QString SubAssembler::findFolder(const QString &programFolder) {
@@ -95,7 +86,7 @@ QString SubAssembler::templateFile(const QString &variant, const char *suffix) c
     return QString();
   const QFileInfo file(m_folder + QLatin1Char('/') + variant + QLatin1String(suffix));
   const QString real = file.canonicalFilePath();
-  if (!file.exists() || !real.startsWith(QFileInfo(m_folder).canonicalFilePath() + QLatin1Char('/')))
+  if (!file.exists() || !real.startsWith(m_realFolder + QLatin1Char('/')))
     return QString();
   return file.filePath();
 }
@@ -108,7 +99,8 @@ const SubAssembler::Variant &SubAssembler::variant(const QString &name) {
   made.geometry = templateFile(name, ".geom");
   made.constraints = templateFile(name, ".geom.csv");
   made.formulas = templateFile(name, ".formulas");
-  made.hasIcon = !templateFile(name, ".svg").isEmpty();
+  if (!templateFile(name, ".svg").isEmpty())
+    made.icon = PropertyText(name + QStringLiteral(".svg"));
   if (made.geometry.isEmpty()) {
     made.error =
         QStringLiteral("Error - could not find subassembly:") + m_folder + QLatin1Char('/') + name + QStringLiteral(".geom");
@@ -132,7 +124,7 @@ const SubAssembler::Variant &SubAssembler::variant(const QString &name) {
     }
     return content;
   });
-  m_result.findings.insert(m_result.findings.end(), read.findings.begin(), read.findings.end());
+  append(m_result.findings, read.findings);
   made.plan = read.plan;
   made.error = read.error;
   return made;
@@ -143,22 +135,23 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
   timer.start();
   m_result = Result();
   m_assembled.clear();
-  std::vector<QString> names;
+  std::vector<const elements::Entry *> subnets;
   for (const elements::Entry &entry : m_net.assembledSubnets()) {
     if (entry.name() != recordName())
-      names.push_back(entry.name());
+      subnets.push_back(&entry);
   }
-  if (m_templates == nullptr || names.empty())
+  if (m_templates == nullptr || subnets.empty())
     return m_result;
-  const auto count = static_cast<int>(names.size());
+  reserve(subnets);
+  findFreePrefixes(subnets);
+  const auto count = static_cast<int>(subnets.size());
   NivraMsg::debug(QStringLiteral("     before rebuild %1 sec.\n").arg(static_cast<double>(timer.elapsed()) * Milli));
   if (told)
     told(QStringLiteral("Creating Subnets"), 0, count);
   for (int i = 0; i < count; ++i) {
     if (told && !told(QStringLiteral("Creating Subnets (%1/%2)").arg(i + 1).arg(count), i, count))
       return m_result;
-    const QString &name = names[static_cast<std::size_t>(i)];
-    element &subnet = *m_net.assembledSubnets().find(name);
+    element &subnet = subnets[static_cast<std::size_t>(i)]->value;
     const QStringList pins = split(subnet.value(keys().pins));
     if (createEleOfAssembledSubnet(subnet, pins, flag, true) >= 1) {
       ++m_result.assembled;
@@ -169,6 +162,7 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
       ++m_result.replaced;
       continue;
     }
+    const QString name = subnets[static_cast<std::size_t>(i)]->name();
     log(QStringLiteral("Problem with assembled subnet ") + name + QStringLiteral("! It will be erased!"));
     m_net.assembledSubnets().erase(name);
     ++m_result.erased;
@@ -209,8 +203,8 @@ int SubAssembler::createEleOfAssembledSubnet(element &subnet, const QStringList 
     return 0;
   }
   const TemplatePlan &plan = *used.plan;
-  if (used.hasIcon)
-    subnet.set(keys().icon, PropertyText(variantName + QStringLiteral(".svg")));
+  if (!used.icon.isEmpty())
+    subnet.set(keys().icon, used.icon);
   if (!used.constraints.isEmpty())
     subnet.set(keys().constraints, PropertyText(used.constraints));
   plan.giveDefaults(subnet);
@@ -226,8 +220,8 @@ int SubAssembler::createEleOfAssembledSubnet(element &subnet, const QStringList 
         name);
     return 0;
   }
-  const QStringList netPins = pinsOf(subnet, pins, plan.pinNames(), tryReset);
-  if (netPins.isEmpty()) {
+  const std::vector<Pin> netPins = nodesOf(pinsOf(subnet, pins, plan.pinNames(), tryReset));
+  if (netPins.empty()) {
     log(QStringLiteral("Problem with creating assembledsubnet: pins still empty! Skipped!"), name);
     return 0;
   }
@@ -252,27 +246,31 @@ QStringList SubAssembler::pinsOf(element &subnet, const QStringList &pins, const
   return reset;
 }
 
-void SubAssembler::placeSubnet(element &subnet, const QStringList &pins) {
+std::vector<SubAssembler::Pin> SubAssembler::nodesOf(const QStringList &pins) const {
+  std::vector<Pin> found;
+  found.reserve(static_cast<std::size_t>(pins.size()));
+  for (const QString &name : pins)
+    found.push_back({name, m_net.nodes().find(name)});
+  return found;
+}
+
+void SubAssembler::placeSubnet(element &subnet, const std::vector<Pin> &pins) {
+  if (pins.size() < 2 || pins[0].node == nullptr || pins[1].node == nullptr)
+    return;
   std::vector<QPointF> places;
   QStringList others;
-  bool areFirstTwoThere = pins.size() >= 2;
-  for (int i = 0; i < pins.size(); ++i) {
-    const element *node = m_net.nodes().find(pins.at(i));
-    if (node != nullptr) {
-      places.push_back(position(m_net, *node));
-    } else {
-      others.append(pins.at(i));
-      areFirstTwoThere = areFirstTwoThere && i > 1;
-    }
+  for (const Pin &pin : pins) {
+    if (pin.node != nullptr)
+      places.push_back(m_net.position(*pin.node));
+    else
+      others.append(pin.name);
   }
-  if (!areFirstTwoThere)
-    return;
   const QPointF way = places[1] - places[0];
-  subnet.set(keys().width, numberText(std::hypot(way.x(), way.y())));
-  subnet.set(keys().rotation, numberText(TemplatePlacement::rotation(places[0], places[1])));
+  subnet.set(keys().width, PropertyText::ofNumber(std::hypot(way.x(), way.y())));
+  subnet.set(keys().rotation, PropertyText::ofNumber(TemplatePlacement::rotation(places[0], places[1])));
   const QPointF center = TemplatePlacement::mean(places);
-  subnet.set(keys().x, numberText(center.x()));
-  subnet.set(keys().y, numberText(center.y()));
+  subnet.set(keys().x, PropertyText::ofNumber(center.x()));
+  subnet.set(keys().y, PropertyText::ofNumber(center.y()));
   if (!others.isEmpty())
     log(QStringLiteral("pinList contains non-net nodes: ") + others.join(QLatin1Char(';')), subnet.value(keys().name));
 }
@@ -281,40 +279,83 @@ void SubAssembler::placeSubnet(element &subnet, const QStringList &pins) {
 void SubAssembler::createPin(const element &source, const QString &name, const QPointF &at) {
   element pin = source;
   pin.set(keys().name, PropertyText(name));
-  pin.set(keys().x, numberText(at.x()));
-  pin.set(keys().y, numberText(at.y()));
+  pin.set(keys().x, PropertyText::ofNumber(at.x()));
+  pin.set(keys().y, PropertyText::ofNumber(at.y()));
   pin.set(QStringLiteral("doSave"), QStringLiteral("false"));
   pin.set(QStringLiteral("vis"), QStringLiteral("AUTO"));
   log(QStringLiteral("This pin is new and needs saving: ") + name, name);
   m_net.addElement(std::move(pin));
+  m_freePrefixes.clear();
   m_result.newPins = true;
 }
 
-void SubAssembler::createElements(element &subnet, const Variant &variant, const QStringList &pins) {
+void SubAssembler::createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins) {
   const TemplatePlan &plan = *variant.plan;
   const auto number = [&](PropertyKey key) {
     const double value = m_net.value(subnet, key);
     return value == NetData::NoValue ? 0.0 : value;
   };
-  const TemplatePlacement placement(plan.pinPlaces(), number(keys().width), number(keys().rotation),
-                                    position(m_net, subnet));
-  for (int i = 0; i < pins.size(); ++i) {
-    element *pin = m_net.nodes().find(pins.at(i));
-    if (pin == nullptr)
-      createPin(*plan.pin(i), pins.at(i), placement.place(plan.pinPlaces()[static_cast<std::size_t>(i)]));
-    else if (const PropertyText *size = plan.pin(i)->find(keys().visSize))
-      pin->set(keys().visSize, *size);
+  const TemplatePlacement placement(plan.pinPlaces(), number(keys().width), number(keys().rotation), m_net.position(subnet));
+  QStringList pinNames;
+  std::vector<PropertyText> pinTexts;
+  pinTexts.reserve(pins.size());
+  for (std::size_t i = 0; i < pins.size(); ++i) {
+    const element &source = *plan.pin(static_cast<int>(i));
+    if (pins[i].node == nullptr)
+      createPin(source, pins[i].name, placement.place(plan.pinPlaces()[i]));
+    else if (const PropertyText *size = source.find(keys().visSize))
+      pins[i].node->set(keys().visSize, *size);
+    pinNames.append(pins[i].name);
+    pinTexts.emplace_back(pins[i].name);
   }
-  const QString name = subnet.value(keys().name);
-  std::vector<PropertyText> names = plan.names(m_net, name.toStdString());
-  plan.create(m_net, names, pins, placement);
+  const PropertyText &name = *subnet.find(keys().name);
+  const std::string prefix(name.utf8());
+  std::vector<PropertyText> names = plan.names(m_net, prefix, m_freePrefixes.find(prefix + '_') != nullptr);
+  plan.create(m_net, names, pinTexts, placement);
   std::string all;
   for (const PropertyText &created : names) {
     all += all.empty() ? "" : ";";
     all += created.utf8();
   }
   subnet.set(keys().elements, PropertyText(std::string_view(all)));
-  m_assembled.push_back({&variant, name, pins, std::move(names)});
+  m_assembled.push_back({&variant, QString::fromStdString(prefix), pinNames, std::move(names)});
+}
+
+/// Room for all elements to come at once.
+void SubAssembler::reserve(const std::vector<const elements::Entry *> &subnets) {
+  std::size_t nodes = m_net.nodes().size();
+  std::size_t edges = m_net.edges().size();
+  for (const elements::Entry *subnet : subnets) {
+    const TemplatePlan *plan = variant(subnet->value.value(keys().variant)).plan.get();
+    if (plan == nullptr)
+      continue;
+    nodes += plan->nodeCount();
+    edges += plan->parts().size() - plan->nodeCount();
+  }
+  m_net.nodes().reserve(nodes);
+  m_net.edges().reserve(edges);
+}
+
+/// One walk over all names, in place of a look-up in every collection for each element that is made.
+void SubAssembler::findFreePrefixes(const std::vector<const elements::Entry *> &subnets) {
+  m_freePrefixes.clear();
+  for (const elements::Entry *subnet : subnets)
+    m_freePrefixes.tryInsert(PropertyText(std::string_view(std::string(subnet->id.utf8()) + '_')), element());
+  std::vector<std::string> taken;
+  for (const elements *collection : {&m_net.nodes(), &m_net.edges(), &m_net.assembledSubnets(), &m_net.textBoxes()}) {
+    for (const elements::Entry &entry : *collection) {
+      const std::string_view name = entry.id.utf8();
+      for (std::size_t end = name.find('_'); end != std::string_view::npos; end = name.find('_', end + 1)) {
+        const std::string_view prefix = name.substr(0, end + 1);
+        if (m_freePrefixes.find(prefix) == nullptr)
+          continue;
+        taken.emplace_back(prefix);
+        taken.push_back(std::string(name) + '_'); // of a subnet S_T: its elements could have names of those of S
+      }
+    }
+  }
+  for (const std::string &prefix : taken)
+    m_freePrefixes.erase(QString::fromStdString(prefix));
 }
 
 std::vector<FormulaDefinition> SubAssembler::definitions(Findings &findings) const {
@@ -337,7 +378,7 @@ std::vector<FormulaDefinition> SubAssembler::definitions(Findings &findings) con
         continue;
       const FormulaFile::Contents &contents = cache->get(path, read);
       if (told.insert(path).second)
-        findings.insert(findings.end(), contents.findings.begin(), contents.findings.end());
+        append(findings, contents.findings);
       for (const FormulaDefinition &definition : contents.definitions) {
         FormulaDefinition own = definition;
         const Pattern pattern(definition.namePattern);

@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -28,19 +29,9 @@ const std::vector<PropertyKey> &references() {
   return instance;
 }
 
-QPointF position(const NetData &net, const element &e) {
-  const double x = net.value(e, keys().x);
-  const double y = net.value(e, keys().y);
-  return {x == NetData::NoValue ? 0.0 : x, y == NetData::NoValue ? 0.0 : y};
-}
-
 std::size_t placeOf(const element &e, PropertyKey key) {
   return static_cast<std::size_t>(
       std::find_if(e.begin(), e.end(), [key](const Property &property) { return property.key == key; }) - e.begin());
-}
-
-PropertyText numberText(double number) {
-  return PropertyText(std::string_view(formatNumber(number)));
 }
 
 } // namespace
@@ -63,7 +54,7 @@ TemplatePlan::TemplatePlan(const NetData &source) {
   for (const QString &name : qAsConst(m_pinNames)) {
     const element *node = source.nodes().find(name);
     m_pins.push_back(node);
-    m_pinPlaces.push_back(node == nullptr ? QPointF() : position(source, *node));
+    m_pinPlaces.push_back(node == nullptr ? QPointF() : source.position(*node));
   }
   for (const elements::Entry &entry : source.nodes()) {
     if (!m_pinNames.contains(entry.name(), Qt::CaseInsensitive))
@@ -95,10 +86,15 @@ void TemplatePlan::giveDefaults(element &subnet) const {
 }
 
 void TemplatePlan::addPart(const NetData &source, const elements::Entry &entry, bool isNode) {
+  std::string own(entry.id.utf8());
+  const bool isTwin = !isNode && source.nodes().find(own) != nullptr; // a node and an edge may have one name
+  for (int i = 2; isTwin && source.element(own) != nullptr; ++i)
+    own = std::string(entry.id.utf8()) + "_" + std::to_string(i);
   Part part;
   part.prototype = entry.value;
   part.isNode = isNode;
-  part.at = position(source, entry.value);
+  m_nodeCount += isNode ? 1 : 0;
+  part.at = source.position(entry.value);
   part.prototype.set(keys().refEle, entry.id);
   if (isNode) {
     part.prototype.set(keys().x, PropertyText());
@@ -108,44 +104,41 @@ void TemplatePlan::addPart(const NetData &source, const elements::Entry &entry, 
   }
   part.namePlace = placeOf(part.prototype, keys().name);
   m_parts.push_back(std::move(part));
-  m_partNames.emplace_back(entry.id.utf8());
+  m_partNames.push_back(own);
 }
 
-std::vector<PropertyText> TemplatePlan::names(const NetData &net, const std::string &subnet) const {
-  const bool hasBoxes = !net.textBoxes().isEmpty();
-  const auto isTaken = [&net, hasBoxes](std::string_view name) {
-    return net.nodes().find(name) != nullptr || net.edges().find(name) != nullptr ||
-           net.assembledSubnets().find(name) != nullptr || (hasBoxes && net.textBoxes().find(name) != nullptr);
-  };
+std::vector<PropertyText> TemplatePlan::names(const NetData &net, const std::string &subnet, bool areFree) const {
   std::vector<PropertyText> names;
   names.reserve(m_partNames.size());
   std::string name;
+  std::optional<elements> own;
+  if (!areFree)
+    own.emplace(QString());
   for (const std::string &part : m_partNames) {
     name.assign(subnet).append("_").append(part);
-    for (int i = 2; isTaken(name); ++i)
+    for (int i = 2; own && (net.element(name) != nullptr || own->find(name) != nullptr); ++i)
       name.assign(subnet).append("_").append(part).append("_").append(std::to_string(i));
     names.emplace_back(std::string_view(name));
+    if (own)
+      own->insert(names.back(), element());
   }
   return names;
 }
 
-void TemplatePlan::create(NetData &net, const std::vector<PropertyText> &names, const QStringList &pins,
+void TemplatePlan::create(NetData &net, const std::vector<PropertyText> &names, const std::vector<PropertyText> &pins,
                           const TemplatePlacement &placement) const {
-  std::vector<PropertyText> pinTexts;
-  for (const QString &pin : pins)
-    pinTexts.emplace_back(pin);
   for (std::size_t i = 0; i < m_parts.size(); ++i) {
     const Part &part = m_parts[i];
     element made = part.prototype;
     made.replace(part.namePlace, names[i]);
     for (const Reference &reference : part.references)
       made.replace(reference.place, reference.part >= 0 ? names[static_cast<std::size_t>(reference.part)]
-                                                        : pinTexts[static_cast<std::size_t>(-1 - reference.part)]);
+                                                        : pins[static_cast<std::size_t>(-1 - reference.part)]);
     if (part.isNode) {
       const QPointF at = placement.place(part.at);
-      made.replace(part.xPlace, numberText(at.x()));
-      made.replace(part.yPlace, numberText(at.y()));
+      made.replace(part.xPlace, PropertyText::ofNumber(at.x()));
+      made.replace(part.yPlace, PropertyText::ofNumber(at.y()));
     }
-    net.addElement(std::move(made));
+    (part.isNode ? net.nodes() : net.edges()).tryInsert(names[i], std::move(made));
   }
 }

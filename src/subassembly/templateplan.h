@@ -24,10 +24,13 @@ public:
   /// Of the elements to be made, in the order in which names() tells those of a subnet.
   const std::vector<std::string> &parts() const { return m_partNames; }
 
+  std::size_t nodeCount() const { return m_nodeCount; } ///< of the parts
+
   /// The names of the elements made for a subnet: its own name, "_" and the template's, unique in the network.
-  std::vector<PropertyText> names(const NetData &net, const std::string &subnet) const;
-  /// Adds the elements to the network.
-  void create(NetData &net, const std::vector<PropertyText> &names, const QStringList &pins,
+  /// \param areFree it is known that no element has any of these names
+  std::vector<PropertyText> names(const NetData &net, const std::string &subnet, bool areFree) const;
+  /// Adds the elements to the network. \param names unique, see names()
+  void create(NetData &net, const std::vector<PropertyText> &names, const std::vector<PropertyText> &pins,
               const TemplatePlacement &placement) const;
 
 private:
@@ -58,4 +61,5 @@ private:
   std::vector<QPointF> m_pinPlaces;
   std::vector<Part> m_parts;
   std::vector<std::string> m_partNames;
+  std::size_t m_nodeCount = 0;
 };

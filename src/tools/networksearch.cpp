@@ -19,16 +19,10 @@ enum Column { NameColumn, TypeColumn, MarkColumn };
 void fetchAhead(const std::vector<element *> &candidates, std::size_t at) {
   constexpr std::size_t Elements = 12;
   constexpr std::size_t Properties = 6;
-  constexpr std::size_t Line = 128;
-  constexpr std::size_t Lines = 4;
   if (at + Elements >= candidates.size())
     return;
   __builtin_prefetch(candidates[at + Elements]);
-  if (candidates[at + Properties]->isEmpty())
-    return;
-  const auto *properties = reinterpret_cast<const char *>(&*candidates[at + Properties]->begin());
-  for (std::size_t i = 0; i < Lines; ++i)
-    __builtin_prefetch(properties + i * Line);
+  candidates[at + Properties]->prefetch();
 }
 
 } // namespace

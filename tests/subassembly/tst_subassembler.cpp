@@ -17,6 +17,7 @@ private slots:
   void placement_data();
   void placement();
   void namesStayUnique();
+  void namesOfManySubnetsStayUnique();
   void defaultsAreTakenOnce();
   void missingPinsAreMade();
   void pinListIsReset();
@@ -143,6 +144,32 @@ void TestSubAssembler::namesStayUnique() {
   assemble();
   QCOMPARE(value("refEle", "S_M_2"), QStringLiteral("M"));
   QCOMPARE(value("node1", "S_B"), QStringLiteral("S_M_2"));
+}
+
+/// S_M has an element of the name that one of S has; twin has a node and an edge of one name; a pin that is made on the way
+/// takes the name of an element to come. Whatever happens, nothing is lost and no name is there twice.
+void TestSubAssembler::namesOfManySubnetsStayUnique() {
+  writeTemplate(QStringLiteral("nested"), "[pipe]\nname;node1;node2;length\nM_A;In;M;1\n");
+  writeTemplate(QStringLiteral("twin"), "[pipe]\nname;node1;node2;length\nM;In;M;1\nM_2;In;M;1\n");
+  m_net->addElement(makeNode("T_A_2"));
+  addSubnet("S", "nested", "N1;N2");
+  addSubnet("s_m", "station", "N1;N2");
+  addSubnet("Late", "station", "N1;N2");
+  addSubnet("Early", "station", "N1;late_a");
+  addSubnet("T", "twin", "N1;N2");
+  const SubAssembler::Result result = assemble();
+  QCOMPARE(result.assembled, 5);
+  QCOMPARE(m_net->edges().size(), std::size_t(3 + 2 + 2 + 2 + 4));
+  QCOMPARE(m_net->nodes().size(), std::size_t(2 + 1 + 1 + 5)); // with T_A_2 and the pin
+  QSet<QString> names;
+  m_net->forEach(NetData::AllTypes,
+                 [&names](const element &e) { names.insert(e.value(QStringLiteral("name")).toCaseFolded()); });
+  QCOMPARE(names.size(), 13 + 9 + 5);
+  QCOMPARE(value("refEle", "S_M_A"), QStringLiteral("M_A"));
+  QCOMPARE(value("refEle", "s_m_A_2"), QStringLiteral("A"));
+  QCOMPARE(value("refEle", "Late_A_2"), QStringLiteral("A"));
+  QCOMPARE(value("refEle", "T_M_3"), QStringLiteral("M"));
+  QCOMPARE(value("node2", "T_M_3"), QStringLiteral("T_M"));
 }
 
 void TestSubAssembler::defaultsAreTakenOnce() {

@@ -23,6 +23,9 @@ struct Finding {
 
 using Findings = std::vector<Finding>;
 
+/// Adds further findings behind those that are there.
+void append(Findings &findings, Findings more);
+
 /// Logs every finding at its level; texts for a box are shown: the first as it stands, further ones counted behind it.
 void report(const Findings &findings);
 

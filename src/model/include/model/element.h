@@ -49,6 +49,15 @@ public:
   const_iterator begin() const noexcept { return m_properties.begin(); }
   const_iterator end() const noexcept { return m_properties.end(); }
 
+  /// Has the processor fetch the first properties, which lie anywhere in the memory, ahead of their use.
+  void prefetch() const noexcept {
+    constexpr std::size_t Line = 128; // two cache lines, which processors fetch together
+    constexpr std::size_t Lines = 4;
+    const auto *properties = reinterpret_cast<const char *>(m_properties.data());
+    for (std::size_t i = 0; i < Lines; ++i)
+      __builtin_prefetch(properties + i * Line);
+  }
+
   /// One line "    e[name] = value\n" per property, in key order.
   QString lines() const;
 

@@ -95,16 +95,10 @@ private:
   void fetchAhead() const {
     constexpr std::ptrdiff_t Entries = 12;
     constexpr std::ptrdiff_t Properties = 6;
-    constexpr std::size_t Line = 128; // two cache lines, which processors fetch together
-    constexpr std::size_t Lines = 4;
     if (m_end - m_position <= Entries)
       return;
     __builtin_prefetch(m_position[Entries]);
-    if (m_position[Properties]->value.isEmpty())
-      return;
-    const auto *properties = reinterpret_cast<const char *>(&*m_position[Properties]->value.begin());
-    for (std::size_t i = 0; i < Lines; ++i)
-      __builtin_prefetch(properties + i * Line);
+    m_position[Properties]->value.prefetch();
   }
 
   const Entry *const *m_position = nullptr;

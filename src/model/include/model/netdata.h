@@ -4,6 +4,7 @@
 #include <model/selection.h>
 
 #include <QList>
+#include <QPointF>
 #include <QString>
 
 #include <functional>
@@ -39,6 +40,7 @@ public:
   std::pair<EleType, ::element *> findElement(const QString &name, int mask) const;
   /// Searches nodes, edges, assembled subnets, text boxes in this order; null when there is no such element.
   ::element *element(const QString &name) const;
+  ::element *element(std::string_view utf8) const;
 
   QList<elements *> collections(int mask);
   void forEach(int mask, const std::function<void(::element &)> &visit);
@@ -75,6 +77,8 @@ public:
   /// element_out_of_range without "node1" or "node2", elements_out_of_range when an end node does not exist.
   double edgeValue(const ::element &edge, PropertyKey property, bool absolute = false) const;
   double edgeValue(const ::element &edge, const QString &property, bool absolute = false) const;
+  /// Where the properties "X" and "Y" put the element; 0 for a coordinate that it lacks.
+  QPointF position(const ::element &element) const;
   /// Smallest and largest valid value over all nodes for a node function, over all edges otherwise; (1e30, -1e30)
   /// when there is none.
   std::pair<double, double> range(const QString &property, bool absolute = false) const;

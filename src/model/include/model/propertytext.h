@@ -29,6 +29,9 @@ public:
   }
   ~PropertyText() { release(); }
 
+  /// The number as formatNumber() writes it.
+  static PropertyText ofNumber(double number, int significantDigits = 16);
+
   std::string_view utf8() const noexcept {
     if (onHeap())
       return heapText();

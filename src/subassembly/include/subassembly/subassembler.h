@@ -53,9 +53,14 @@ private:
     QString geometry;
     QString constraints; ///< empty when there is none, as the following
     QString formulas;
-    bool hasIcon = false;
+    PropertyText icon;                        ///< its file's name
     std::shared_ptr<const TemplatePlan> plan; ///< null when it cannot be used
     QString error;
+  };
+  /// A node that a subnet connects to.
+  struct Pin {
+    QString name;
+    element *node; ///< null when the network lacks it
   };
   struct Assembled {
     const Variant *variant;
@@ -67,15 +72,20 @@ private:
   const Variant &variant(const QString &name);
   QString templateFile(const QString &variant, const char *suffix) const;
   QStringList pinsOf(element &subnet, const QStringList &pins, const QStringList &ofTemplate, bool tryReset);
-  void placeSubnet(element &subnet, const QStringList &pins);
-  void createElements(element &subnet, const Variant &variant, const QStringList &pins);
+  std::vector<Pin> nodesOf(const QStringList &pins) const;
+  void placeSubnet(element &subnet, const std::vector<Pin> &pins);
+  void createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins);
+  void reserve(const std::vector<const elements::Entry *> &subnets);
+  void findFreePrefixes(const std::vector<const elements::Entry *> &subnets);
   void createPin(const element &source, const QString &name, const QPointF &at);
   void log(const QString &text, const QString &element = QString());
 
   NetData &m_net;
   QString m_folder;
+  QString m_realFolder; ///< wherever links lead
   std::shared_ptr<SubAssemblyTemplates> m_templates;
   std::map<QString, Variant> m_variants;
   std::vector<Assembled> m_assembled;
+  elements m_freePrefixes{QString()}; ///< "SUBNET_" with which no name begins but those of the subnet's own elements
   Result m_result;
 };
