@@ -19,24 +19,13 @@
 #include <QInputDialog>
 #include <QMimeData>
 #include <QStyleFactory>
-#include <QToolBar>
 #include <QToolButton>
 
-#include <algorithm>
 #include <app/aboutbox.h>
 #include <app/loadprogress.h>
 #include <app/nivraviewer.h>
 #include <app/subnetwindow.h>
 #include <app/tooldocks.h>
-
-namespace {
-
-QList<QAction *> sortedByText(QList<QAction *> actions) {
-  std::sort(actions.begin(), actions.end(), [](const QAction *a, const QAction *b) { return a->text() < b->text(); });
-  return actions;
-}
-
-} // namespace
 
 NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
@@ -56,7 +45,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   show();
   QCoreApplication::processEvents();
   addAction(m_ui->actionSearch);
-  connect(m_ui->menuView, &QMenu::aboutToShow, this, &NivraViewer::fillViewMenu);
+  connect(m_ui->menuView, &QMenu::aboutToShow, m_tools, [this] { m_tools->fillViewMenu(*m_ui->menuView); });
   connect(this, &NivraViewer::currentEleChanged, m_tools, &ToolDocks::showElement);
   connect(m_tools, &ToolDocks::elementMarked, this,
           [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
@@ -64,7 +53,6 @@ NivraViewer::NivraViewer(QWidget *parent)
     if (m_tools->search() != nullptr)
       m_tools->search()->enterLastField();
   });
-  connect(m_control.get(), &NetVisControl::selectionChanged, this, &NivraViewer::showSelection);
   connect(m_control.get(), &NetVisControl::elementAction, this, [this](const QString &name, NetPicker::EleAction action) {
     if (action == NetPicker::EleAction::Mark)
       setCurrentElement(name); // the picker has marked it already
@@ -72,7 +60,6 @@ NivraViewer::NivraViewer(QWidget *parent)
       elementAction(name, action);
   });
   connect(m_control.get(), &NetVisControl::subnetWanted, this, &NivraViewer::openSubnet);
-  connect(m_control.get(), &NetVisControl::configureDrawRequested, m_tools, &ToolDocks::showDrawConfiguration);
   connect(m_tools, &ToolDocks::propertyChanged, this, &NivraViewer::computeAgain);
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
   setAcceptDrops(true);
@@ -173,6 +160,7 @@ void NivraViewer::openWorkspace(const QString &path) {
 }
 
 bool NivraViewer::readWorkspace() {
+  qDeleteAll(subnetWindows()); // parts of the network before
   m_control->clear();
   m_net.clear();
   m_currentElement.clear();
@@ -209,12 +197,26 @@ bool NivraViewer::askForIncludeLists(NetworkLoader::ReadOptions &options) {
 }
 
 void NivraViewer::openSubnet(const QString &name) {
-  auto *window = new SubnetWindow(m_net, name, m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")), this);
-  connect(window->visControl(), &NetVisControl::elementAction, this,
-          [this](const QString &picked, NetPicker::EleAction action) {
-            elementAction(picked, action); // the tools know the elements by their names
-          });
+  for (SubnetWindow *window : subnetWindows()) {
+    if (window->subnet() != name)
+      continue;
+    window->raise();
+    window->activateWindow();
+    return;
+  }
+  auto *window = new SubnetWindow(m_net, name, m_loader.workspace(), this);
+  connect(window, &SubnetWindow::elementMarked, this,
+          [this](const QString &picked) { elementAction(picked, NetPicker::EleAction::Mark); });
+  connect(window, &SubnetWindow::propertyChanged, this, [this](const QStringList &names, const QString &property) {
+    computeAgain(names, property);
+    m_tools->reload();
+  });
+  connect(window->visControl(), &NetVisControl::openCharacteristicsRequested, m_tools, &ToolDocks::openCharacteristics);
   window->show();
+}
+
+QList<SubnetWindow *> NivraViewer::subnetWindows() const {
+  return findChildren<SubnetWindow *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 void NivraViewer::computeAgain(const QStringList &names, const QString &property) {
@@ -222,6 +224,8 @@ void NivraViewer::computeAgain(const QStringList &names, const QString &property
   m_tools->setFindings(m_loader.noticed());
   m_tools->showElement(m_currentElement);
   m_control->plot()->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  for (SubnetWindow *window : subnetWindows())
+    window->takeProperties();
 }
 
 void NivraViewer::showTitle() {
@@ -237,20 +241,6 @@ void NivraViewer::setBusy(bool busy) {
   m_ui->menubar->setEnabled(!busy);
   m_ui->actionOpen->setEnabled(!busy);
   m_control->plot()->setEnabled(!busy);
-}
-
-void NivraViewer::fillViewMenu() {
-  m_ui->menuView->clear();
-  m_ui->menuView->addSection(tr("Dock Widgets"));
-  QList<QAction *> toggles;
-  for (const QDockWidget *dock : m_tools->docks())
-    toggles.append(dock->toggleViewAction());
-  m_ui->menuView->addActions(sortedByText(toggles));
-  toggles.clear();
-  for (const QToolBar *bar : findChildren<QToolBar *>())
-    toggles.append(bar->toggleViewAction());
-  m_ui->menuView->addSection(tr("Toolbars"));
-  m_ui->menuView->addActions(sortedByText(toggles));
 }
 
 void NivraViewer::elementAction(const QString &eleName, NetPicker::EleAction eleAction) {
@@ -276,21 +266,6 @@ void NivraViewer::setCurrentElement(const QString &name) {
     return;
   m_currentElement = name;
   emit currentEleChanged(name);
-}
-
-void NivraViewer::showSelection() {
-  const Selection &selection = m_net.selection();
-  QStringList parts;
-  const auto add = [&parts](int count, const QString &one, const QString &many) {
-    if (count > 0)
-      parts.append(count == 1 ? one : many.arg(count));
-  };
-  add(selection.nodes.size(), tr("1 node"), tr("%1 nodes"));
-  add(selection.edges.size(), tr("1 edge"), tr("%1 edges"));
-  add(selection.subnets.size(), tr("1 subnet"), tr("%1 subnets"));
-  add(selection.others.size(), tr("1 other"), tr("%1 others"));
-  const QString names = selection.size() == 1 ? tr(": %1").arg(*selection.names().cbegin()) : QString();
-  m_ui->statusbar->showMessage(parts.isEmpty() ? QString() : tr("Selected %1%2").arg(parts.join(tr(", ")), names));
 }
 
 void NivraViewer::dragEnterEvent(QDragEnterEvent *event) {

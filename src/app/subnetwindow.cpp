@@ -1,22 +1,97 @@
+#include <io/nivraworkspace.h>
 #include <model/netmetadata.h>
+#include <tools/nivrasearch.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 
-#include <app/subnetwindow.h>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
 
-SubnetWindow::SubnetWindow(const NetData &net, const QString &subnet, const QString &plotSettingsPath, QWidget *parent)
+#include <app/subnetwindow.h>
+#include <app/tooldocks.h>
+
+SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorkspace &workspace, QWidget *parent)
     : QMainWindow(parent)
+    , m_whole(net)
+    , m_subnet(subnet)
     , m_net(part(net, subnet))
-    , m_control(std::make_unique<NetVisControl>(m_net, subnet)) {
+    , m_control(std::make_unique<NetVisControl>(m_net, subnet))
+    , m_tools(new ToolDocks(*this, *m_control, ToolDocks::Extent::Network)) {
   constexpr QSize Size(800, 600);
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(tr("Subassembly %1").arg(subnet)); // by which labels know that they are wanted at once
   setCentralWidget(m_control->plot());
   resize(Size);
-  m_control->showNetData(plotSettingsPath);
+  m_control->showNetData(workspace.filePath(QStringLiteral("plotsettings.ini")));
+  m_tools->refresh(workspace);
+  fillMenus();
+  const QString contents = m_net.isEmpty() ? tr("The subnet has no elements")
+                                           : tr("%1 nodes and %2 edges").arg(m_net.nodes().size()).arg(m_net.edges().size());
+  statusBar()->addPermanentWidget(new QLabel(contents));
+  connect(m_tools, &ToolDocks::elementMarked, this, [this](const QString &name) {
+    m_control->picker()->markElement(name);
+    showElement(name);
+  });
+  connect(m_tools, &ToolDocks::propertyChanged, this, &SubnetWindow::giveProperty);
+  connect(m_control.get(), &NetVisControl::elementAction, this, [this](const QString &name, NetPicker::EleAction action) {
+    if (action == NetPicker::EleAction::OpenCharacteristics)
+      emit m_control->openCharacteristicsRequested({name});
+    else if (action == NetPicker::EleAction::ShowInfo)
+      m_tools->showInfo(name);
+    showElement(name);
+  });
 }
 
 SubnetWindow::~SubnetWindow() = default;
+
+void SubnetWindow::fillMenus() {
+  QMenu *info = menuBar()->addMenu(tr("Info"));
+  info->addAction(tr("Element Table"), m_tools, &ToolDocks::showVectorTable);
+  info->addAction(tr("Metadata Table"), m_tools, &ToolDocks::showMetaData);
+  info->addAction(
+      tr("SearchElements"), m_tools, [this] { m_tools->search()->enterLastField(); }, QKeySequence::Find);
+  QMenu *view = menuBar()->addMenu(tr("View"));
+  connect(view, &QMenu::aboutToShow, m_tools, [this, view] { m_tools->fillViewMenu(*view); });
+}
+
+void SubnetWindow::showElement(const QString &name) {
+  m_tools->showElement(name);
+  emit elementMarked(name);
+}
+
+void SubnetWindow::giveProperty(const QStringList &names, const QString &property) {
+  const PropertyKey key = PropertyKey::intern(property);
+  for (const QString &name : names) {
+    const element *here = m_net.element(name);
+    element *there = m_whole.element(name);
+    if (here == nullptr || there == nullptr)
+      continue;
+    if (const PropertyText *value = here->find(key))
+      there->set(key, *value);
+    else
+      there->erase(key);
+  }
+  emit propertyChanged(names, property);
+}
+
+void SubnetWindow::takeProperties() {
+  static const PropertyKey searched = PropertyKey::intern("isSearchResult"); // each window has its own search
+  m_net.forEach(NetData::AllTypes, [this](element &here) {
+    const element *there = m_whole.element(here.value(QStringLiteral("name")));
+    if (there == nullptr)
+      return;
+    const PropertyText *mark = here.find(searched);
+    element taken = *there;
+    if (mark != nullptr)
+      taken.set(searched, *mark);
+    else
+      taken.erase(searched);
+    here = std::move(taken);
+  });
+  m_control->plot()->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  m_tools->reload();
+}
 
 NetData SubnetWindow::part(const NetData &net, const QString &subnet) {
   NetData part;

@@ -16,20 +16,38 @@
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QMainWindow>
+#include <QMenu>
+#include <QStatusBar>
+#include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidgetItem>
 
+#include <algorithm>
 #include <app/consoledock.h>
 #include <app/helpwindow.h>
 #include <app/tooldocks.h>
 
-ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control)
+namespace {
+
+QList<QAction *> sortedByText(QList<QAction *> actions) {
+  std::sort(actions.begin(), actions.end(), [](const QAction *a, const QAction *b) { return a->text() < b->text(); });
+  return actions;
+}
+
+} // namespace
+
+ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control, Extent extent)
     : QObject(&window)
     , m_window(window)
     , m_control(control)
     , m_net(control.net())
-    , m_findings(new NivraFindings(&window))
-    , m_findingsButton(new QToolButton) {
+    , m_extent(extent) {
+  connect(&control, &NetVisControl::selectionChanged, this, &ToolDocks::showSelection);
+  connect(&control, &NetVisControl::configureDrawRequested, this, &ToolDocks::showDrawConfiguration);
+  if (extent == Extent::Network)
+    return;
+  m_findings = new NivraFindings(&window);
+  m_findingsButton = new QToolButton;
   addDock(new ConsoleDock(&window), QStringLiteral("messages"), Qt::BottomDockWidgetArea);
   addDock(m_findings, QStringLiteral("findings"), Qt::BottomDockWidgetArea);
   connect(m_findings, &NivraFindings::elementWanted, this, [this](const QString &name) {
@@ -64,6 +82,35 @@ QDockWidget *ToolDocks::addDock(QDockWidget *dock, const QString &name, Qt::Dock
   return dock;
 }
 
+void ToolDocks::fillViewMenu(QMenu &menu) const {
+  menu.clear();
+  QList<QAction *> toggles;
+  for (const QDockWidget *dock : m_docks)
+    toggles.append(dock->toggleViewAction());
+  menu.addSection(tr("Dock Widgets"));
+  menu.addActions(sortedByText(toggles));
+  toggles.clear();
+  for (const QToolBar *bar : m_window.findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly))
+    toggles.append(bar->toggleViewAction());
+  menu.addSection(tr("Toolbars"));
+  menu.addActions(sortedByText(toggles));
+}
+
+void ToolDocks::showSelection() {
+  const Selection &selection = m_net.selection();
+  QStringList parts;
+  const auto add = [&parts](int count, const QString &one, const QString &many) {
+    if (count > 0)
+      parts.append(count == 1 ? one : many.arg(count));
+  };
+  add(selection.nodes.size(), tr("1 node"), tr("%1 nodes"));
+  add(selection.edges.size(), tr("1 edge"), tr("%1 edges"));
+  add(selection.subnets.size(), tr("1 subnet"), tr("%1 subnets"));
+  add(selection.others.size(), tr("1 other"), tr("%1 others"));
+  const QString names = selection.size() == 1 ? tr(": %1").arg(*selection.names().cbegin()) : QString();
+  m_window.statusBar()->showMessage(parts.isEmpty() ? QString() : tr("Selected %1%2").arg(parts.join(tr(", ")), names));
+}
+
 void ToolDocks::refresh(const NivraWorkspace &workspace) {
   if (m_draw == nullptr)
     createDraw();
@@ -75,7 +122,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
     createCategories();
   if (m_search == nullptr)
     createSearch();
-  if (m_characteristics == nullptr)
+  if (m_characteristics == nullptr && m_extent == Extent::Program)
     createCharacteristics();
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), workspace.filePath(QStringLiteral("plotsettings.ini")));
   m_draw->refresh();
@@ -150,6 +197,12 @@ NivraVecTable *ToolDocks::vectorTable() {
   }
   m_vectorTable->on_pushButtonUpdate_clicked();
   return m_vectorTable.get();
+}
+
+void ToolDocks::reload() {
+  m_layers->on_pushButtonReload_clicked();
+  if (m_vectorTable != nullptr)
+    m_vectorTable->on_pushButtonUpdate_clicked();
 }
 
 void ToolDocks::showVectorTable() {

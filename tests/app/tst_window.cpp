@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPointer>
 #include <QProgressBar>
 #include <QSignalSpy>
 #include <QStatusBar>
@@ -22,6 +23,7 @@
 #include <app/loadprogress.h>
 #include <app/nivraviewer.h>
 #include <app/subnetwindow.h>
+#include <app/tooldocks.h>
 
 namespace {
 
@@ -212,6 +214,31 @@ void TestWindow::subnetsHaveWindowsOfTheirOwn() {
   emit window->visControl()->elementAction(QStringLiteral("M_V1"), NetPicker::EleAction::Mark);
   QCOMPARE(current.count(), 1); // the tools follow what is picked there
   QVERIFY(SubnetWindow::part(viewer.visControl()->net(), QStringLiteral("none")).isEmpty());
+
+  emit viewer.visControl()->subnetWanted(QStringLiteral("M"));
+  QCOMPARE(viewer.findChildren<SubnetWindow *>().size(), 1); // the one that is open
+  auto *search = window->findChild<NivraSearch *>();
+  search->defineSearch({QString(), QStringLiteral("^v$"), QStringLiteral("^name$"), QString()}, false);
+  search->on_pushButton_select_clicked();
+  QVERIFY(!window->visControl()->net().selection().isEmpty());
+  QVERIFY(viewer.visControl()->net().selection().edges != window->visControl()->net().selection().edges);
+
+  // What is changed in one window is changed in the other; formulas and searches stay apart.
+  auto *layers = window->findChild<NivraNetLayersEditor *>();
+  element &here = window->visControl()->net().edges().at(QStringLiteral("M_V1"));
+  element &there = viewer.visControl()->net().edges().at(QStringLiteral("M_V1"));
+  here.set(QStringLiteral("vis.layer"), QStringLiteral("L"));
+  emit layers->propertyChanged({QStringLiteral("M_V1"), QStringLiteral("gone")}, QStringLiteral("vis.layer"));
+  QCOMPARE(there.value(QStringLiteral("vis.layer")), QStringLiteral("L"));
+  QVERIFY(!there.contains(QStringLiteral("isSearchResult")) && here.contains(QStringLiteral("isSearchResult")));
+  there.erase(QStringLiteral("vis.layer"));
+  emit viewer.findChild<ToolDocks *>()->propertyChanged({QStringLiteral("M_V1")}, QStringLiteral("vis.layer"));
+  QVERIFY(!here.contains(QStringLiteral("vis.layer")));
+  QVERIFY(here.contains(QStringLiteral("isSearchResult")));
+
+  QPointer<SubnetWindow> watched = window;
+  viewer.open(workspace.geometry());
+  QVERIFY(watched.isNull()); // a part of the network before
 }
 
 void TestWindow::openDialogStartsAtTheExample() {

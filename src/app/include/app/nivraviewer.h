@@ -10,6 +10,7 @@
 
 class LoadProgress;
 class NetVisControl;
+class SubnetWindow;
 class ToolDocks;
 
 namespace Ui {
@@ -51,10 +52,9 @@ private:
   void openWorkspace(const QString &path);
   bool readWorkspace();
   bool askForIncludeLists(NetworkLoader::ReadOptions &options);
-  void fillViewMenu();
   void setCurrentElement(const QString &name);
-  void showSelection();
   void openSubnet(const QString &name);
+  QList<SubnetWindow *> subnetWindows() const;
   void computeAgain(const QStringList &names, const QString &property);
   void showTitle();
   void setBusy(bool busy);

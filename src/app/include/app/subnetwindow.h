@@ -7,22 +7,39 @@
 #include <memory>
 
 class NetVisControl;
+class NivraWorkspace;
+class ToolDocks;
 
 /// A window of its own for one subnet, "Subassembly NAME": its pins, what was made of its template, and what lies between
-/// them. It shows a copy, which does not follow later changes.
+/// them, with tools of its own. It shows a copy of that part of the network; what is changed here is changed there too.
 class SubnetWindow : public QMainWindow {
   Q_OBJECT
 public:
-  /// \param plotSettingsPath of the case, for the same colours and labels
-  SubnetWindow(const NetData &net, const QString &subnet, const QString &plotSettingsPath, QWidget *parent = nullptr);
+  /// \param net outlives the window
+  /// \param workspace whose settings the drawing and the tools take
+  SubnetWindow(NetData &net, const QString &subnet, const NivraWorkspace &workspace, QWidget *parent = nullptr);
   ~SubnetWindow() override;
 
+  const QString &subnet() const { return m_subnet; }
   NetVisControl *visControl() const { return m_control.get(); }
+  /// Takes the properties of its elements from the network again.
+  void takeProperties();
 
   /// The pins, elements and the edges between them; empty when there is no such subnet.
   static NetData part(const NetData &net, const QString &subnet);
 
+signals:
+  void elementMarked(const QString &name);
+  void propertyChanged(const QStringList &names, const QString &property); ///< in the network, as here
+
 private:
+  void fillMenus();
+  void showElement(const QString &name);
+  void giveProperty(const QStringList &names, const QString &property);
+
+  NetData &m_whole;
+  QString m_subnet;
   NetData m_net;
   std::unique_ptr<NetVisControl> m_control;
+  ToolDocks *m_tools;
 };

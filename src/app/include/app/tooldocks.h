@@ -23,6 +23,7 @@ class NivraVecTable;
 class NivraWorkspace;
 class QDockWidget;
 class QMainWindow;
+class QMenu;
 class QToolButton;
 class viewFuncDialog;
 
@@ -30,13 +31,22 @@ class viewFuncDialog;
 class ToolDocks : public QObject {
   Q_OBJECT
 public:
-  ToolDocks(QMainWindow &window, NetVisControl &control);
+  enum class Extent {
+    Program, ///< all of them
+    Network  ///< without messages, findings and machines, of which there is one for all windows
+  };
+
+  ToolDocks(QMainWindow &window, NetVisControl &control, Extent extent = Extent::Program);
   ~ToolDocks() override;
 
   /// Makes what is not there yet and shows the network that was just read.
   void refresh(const NivraWorkspace &workspace);
-  const QList<QDockWidget *> &docks() const { return m_docks; }
+  /// Shows and hides the docks.
+  void fillViewMenu(QMenu &menu) const;
   NivraSearch *search() const { return m_search; } ///< null before the first workspace
+
+  /// After properties were changed elsewhere.
+  void reload();
 
   void showVectorTable();
   void showMetaData();
@@ -67,18 +77,20 @@ private:
   void createCharacteristics();
   NivraVecTable *vectorTable();
   void applyLayers();
+  void showSelection();
   NivraEleInfoWidget::PlotLabel plotLabel(const element &e) const;
 
   QMainWindow &m_window;
   NetVisControl &m_control;
   NetData &m_net;
+  Extent m_extent;
   QList<QDockWidget *> m_docks; ///< in the order in which they were made
   viewFuncDialog *m_draw = nullptr;
   NivraEleInfoWidget *m_info = nullptr;
   NivraPropViewer *m_propViewer = nullptr;
   CharacteristicsStack *m_characteristics = nullptr;
   NivraFindings *m_findings = nullptr;
-  QToolButton *m_findingsButton;
+  QToolButton *m_findingsButton = nullptr;
   NivraSearch *m_search = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;
   NivraNetObjectCats *m_categories = nullptr;
