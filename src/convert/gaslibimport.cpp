@@ -3,10 +3,12 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <convert/gaslibimport.h>
 #include <iterator>
 
@@ -37,6 +39,118 @@ QByteArray json(std::initializer_list<QPair<QString, QJsonValue>> members) {
   return QJsonDocument(QJsonObject(members)).toJson();
 }
 
+using Record = NetworkFileConverter::Record;
+
+QString valueOf(const Record &record, PropertyKey key) {
+  const auto found = std::find_if(record.values.begin(), record.values.end(),
+                                  [key](const Property &property) { return property.key == key; });
+  return found == record.values.end() ? QString() : found->value.toString();
+}
+
+/// The gas of such a network stands at its supplies; the first one stands for all.
+Record gasOf(const std::vector<Record> &nodes) {
+  static const QStringList ofGas{QStringLiteral("hs"), QStringLiteral("rhon"), QStringLiteral("molarmass"),
+                                 QStringLiteral("pcrit"), QStringLiteral("tcrit")};
+  Record gas{QStringLiteral("gas"), QStringLiteral("gas"), {}};
+  for (const Record &node : nodes) {
+    std::copy_if(node.values.begin(), node.values.end(), std::back_inserter(gas.values),
+                 [](const Property &property) { return ofGas.contains(property.key.name()); });
+    if (!gas.values.empty())
+      break;
+  }
+  return gas;
+}
+
+/// The drives of the stations as elements. They take their gas where the station says, else at its inlet, and stand on its
+/// line, several behind one another.
+std::vector<Record> drivesOf(GasLibNetwork &net, GasLibNetwork &machines) {
+  static const PropertyKey node1 = PropertyKey::intern("node1");
+  static const PropertyKey node2 = PropertyKey::intern("node2");
+  static const PropertyKey gasNode = PropertyKey::intern("gasnode");
+  QHash<QString, const Record *> nodes;
+  for (const Record &node : net.nodes)
+    nodes.insert(node.name, &node);
+  QHash<QString, Record *> edges;
+  for (Record &edge : net.edges)
+    edges.insert(edge.name, &edge);
+  std::vector<Record> drives;
+  for (const GasLibNetwork::Station &station : machines.stations) {
+    Record *edge = edges.value(station.name);
+    if (edge == nullptr || edge->type != QLatin1String("compressor")) {
+      machines.tell(tr("%1 is no compressor station of the network; it gets no drives").arg(station.name), station.line);
+      continue;
+    }
+    if (!station.compressor.isEmpty())
+      edge->values.push_back({PropertyKey::intern("machine"), PropertyText(station.compressor)});
+    const Record *from = nodes.value(valueOf(*edge, node1));
+    const Record *to = nodes.value(valueOf(*edge, node2));
+    const QString fuel = valueOf(*edge, gasNode);
+    for (std::size_t i = 0; i < station.drives.size(); ++i) {
+      const GasLibNetwork::Station::Drive &source = station.drives[i];
+      Record drive{QStringLiteral("D_%1_%2").arg(station.name, source.name), QStringLiteral("drive"), {}};
+      const auto set = [&drive](const char *property, const QString &value) {
+        drive.values.push_back({PropertyKey::intern(property), PropertyText(value)});
+      };
+      set("gasnode", fuel.isEmpty() ? valueOf(*edge, node1) : fuel);
+      set("driven", station.name);
+      set("kind", source.kind);
+      set("machine", source.name);
+      set("vis.layer", QStringLiteral("stations"));
+      constexpr double First = 0.7; // of the way, where a single drive would be put
+      const double share = First + (0.95 - First) * static_cast<double>(i) / static_cast<double>(station.drives.size());
+      for (const char *axis : {"x", "y"}) {
+        constexpr int Digits = 14; // what the sum adds beyond is noise
+        const PropertyKey key = PropertyKey::intern(axis);
+        if (from == nullptr || to == nullptr)
+          continue;
+        const double at = valueOf(*from, key).toDouble() * (1.0 - share) + valueOf(*to, key).toDouble() * share;
+        drive.values.push_back({key, PropertyText::ofNumber(at, Digits)});
+      }
+      if (i == 0)
+        edge->values.push_back({PropertyKey::intern("drive"), PropertyText(drive.name)});
+      drives.push_back(std::move(drive));
+    }
+  }
+  return drives;
+}
+
+/// Writes the case; an empty text when it did, else the reason.
+QString write(const QDir &folder, const GasLibNetwork &net, const GasLibNetwork &nomination,
+              const std::vector<Record> &drives, const QString &machines) {
+  const QString name = QFileInfo(folder.absolutePath()).fileName();
+  if (!folder.mkpath(QStringLiteral("N1")))
+    return tr("Cannot make the folder %1").arg(folder.path());
+  std::vector<Record> records = net.nodes;
+  records.insert(records.end(), drives.begin(), drives.end());
+  records.insert(records.end(), net.edges.begin(), net.edges.end());
+  QString reason;
+  QString database;
+  if (!machines.isEmpty()) {
+    database = QStringLiteral("../") + name + QStringLiteral(".cs");
+    QFile source(machines);
+    if (!source.open(QIODevice::ReadOnly))
+      return tr("Cannot read %1: %2").arg(machines, source.errorString());
+    if (!writeText(folder.filePath(name + QStringLiteral(".cs")), source.readAll(), &reason))
+      return reason;
+  }
+  const QByteArray geometry = "geometry configuration\n" + name.toUtf8() + '\n' + name.toUtf8() + ".geom\n0\n{}\n";
+  const QByteArray scenario = json({{QStringLiteral("workDir"), QStringLiteral("N1")},
+                                    {QStringLiteral("scenFile"), QStringLiteral("N1.scen")},
+                                    {QStringLiteral("gasFile"), QStringLiteral("N1.gas")},
+                                    {QStringLiteral("comprDatabase"), database}});
+  const auto file = [&folder](const QString &path) {
+    return folder.filePath(path);
+  };
+  if (NetworkFileConverter::write(file(name + QStringLiteral(".geom.jsn")), records, &reason) &&
+      writeText(file(name + QStringLiteral(".geom.cfg")), geometry, &reason) &&
+      NetworkFileConverter::write(file(QStringLiteral("N1/N1.scen.jsn")), nomination.setPoints, &reason) &&
+      NetworkFileConverter::write(file(QStringLiteral("N1/N1.gas.jsn")), {gasOf(net.nodes)}, &reason) &&
+      writeText(file(QStringLiteral("N1/scenconfig.jsn")), scenario, &reason) &&
+      writeText(file(QStringLiteral("N1/solverconfig.jsn")), "{}\n", &reason))
+    return QString();
+  return reason;
+}
+
 } // namespace
 
 GasLibImport::Result GasLibImport::import(const QString &network, const QString &scenario, const QString &compressors,
@@ -46,63 +160,27 @@ GasLibImport::Result GasLibImport::import(const QString &network, const QString 
     result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, QString()});
     return result;
   };
-  const auto take = [&result](Findings &findings) {
-    std::move(findings.begin(), findings.end(), std::back_inserter(result.findings));
-  };
   GasLibNetwork net(network);
   const bool isRead = net.readNetwork();
-  take(net.findings);
+  append(result.findings, net.findings);
   if (!isRead)
     return fail(tr("%1 holds no network").arg(network));
   const QString scn = companion(scenario, network, QStringLiteral(".scn"));
   GasLibNetwork nomination(scn);
-  if (!scn.isEmpty()) {
+  if (!scn.isEmpty())
     nomination.readScenario();
-    take(nomination.findings);
-  }
+  append(result.findings, nomination.findings);
   const QString machines = companion(compressors, network, QStringLiteral(".cs"));
-
-  const QString name = QFileInfo(QDir(to).absolutePath()).fileName();
-  const QDir folder(to);
-  if (!folder.mkpath(QStringLiteral("N1")))
-    return fail(tr("Cannot make the folder %1").arg(to));
-  std::vector<NetworkFileConverter::Record> records = net.nodes;
-  records.insert(records.end(), net.edges.begin(), net.edges.end());
-  QString reason;
-  const QByteArray configuration = "geometry configuration\n" + name.toUtf8() + '\n' + name.toUtf8() + ".geom\n0\n{}\n";
-  if (!NetworkFileConverter::write(folder.filePath(name + QStringLiteral(".geom.jsn")), records, &reason) ||
-      !writeText(folder.filePath(name + QStringLiteral(".geom.cfg")), configuration, &reason) ||
-      !NetworkFileConverter::write(folder.filePath(QStringLiteral("N1/N1.scen.jsn")), nomination.setPoints, &reason))
-    return fail(reason);
-  // The gas of a network stands at its supplies; the first one stands for all.
-  NetworkFileConverter::Record gas{QStringLiteral("gas"), QStringLiteral("gas"), {}};
-  for (const NetworkFileConverter::Record &node : net.nodes) {
-    for (const Property &property : node.values) {
-      static const QStringList ofGas{QStringLiteral("hs"), QStringLiteral("rhon"), QStringLiteral("molarmass"),
-                                     QStringLiteral("pcrit"), QStringLiteral("tcrit")};
-      if (ofGas.contains(property.key.name()))
-        gas.values.push_back(property);
-    }
-    if (!gas.values.empty())
-      break;
-  }
-  QString database;
-  if (!machines.isEmpty()) {
-    database = QStringLiteral("../") + name + QStringLiteral(".cs");
-    QFile source(machines);
-    if (!source.open(QIODevice::ReadOnly) ||
-        !writeText(folder.filePath(name + QStringLiteral(".cs")), source.readAll(), &reason))
-      return fail(reason.isEmpty() ? tr("Cannot read %1: %2").arg(machines, source.errorString()) : reason);
-  }
-  const QByteArray scenarioConfiguration = json({{QStringLiteral("workDir"), QStringLiteral("N1")},
-                                                 {QStringLiteral("scenFile"), QStringLiteral("N1.scen")},
-                                                 {QStringLiteral("gasFile"), QStringLiteral("N1.gas")},
-                                                 {QStringLiteral("comprDatabase"), database}});
-  if (!NetworkFileConverter::write(folder.filePath(QStringLiteral("N1/N1.gas.jsn")), {gas}, &reason) ||
-      !writeText(folder.filePath(QStringLiteral("N1/scenconfig.jsn")), scenarioConfiguration, &reason) ||
-      !writeText(folder.filePath(QStringLiteral("N1/solverconfig.jsn")), "{}\n", &reason))
+  GasLibNetwork stations(machines);
+  if (!machines.isEmpty())
+    stations.readStations();
+  const std::vector<Record> drives = drivesOf(net, stations);
+  append(result.findings, stations.findings);
+  const QString reason = write(QDir(to), net, nomination, drives, machines);
+  if (!reason.isEmpty())
     return fail(reason);
   result.nodes = static_cast<int>(net.nodes.size());
+  result.drives = static_cast<int>(drives.size());
   result.edges = static_cast<int>(net.edges.size());
   result.setPoints = static_cast<int>(nomination.setPoints.size());
   result.ok = true;

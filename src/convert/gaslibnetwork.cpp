@@ -20,7 +20,7 @@ void add(NetworkFileConverter::Record &record, const char *property, const QStri
 
 void add(NetworkFileConverter::Record &record, const char *property, double value) {
   constexpr int Digits = 14; // what a conversion adds beyond is noise
-  record.values.push_back({PropertyKey::intern(property), PropertyText(std::string_view(formatNumber(value, Digits)))});
+  record.values.push_back({PropertyKey::intern(property), PropertyText::ofNumber(value, Digits)});
 }
 
 /// The units of the format as UDUNITS-2 writes them; null for one that is not known.
@@ -43,9 +43,18 @@ QString unitOf(const QString &name) {
   return units.value(name);
 }
 
+/// So that the layers of an imported network are worth having.
+QString layerOf(const QString &kind) {
+  static const QHash<QString, QString> layers{{QStringLiteral("source"), QStringLiteral("entries")},
+                                              {QStringLiteral("sink"), QStringLiteral("exits")},
+                                              {QStringLiteral("innode"), QStringLiteral("junctions")},
+                                              {QStringLiteral("pipe"), QStringLiteral("pipes")}};
+  return layers.value(kind, QStringLiteral("stations"));
+}
+
 } // namespace
 
-void GasLibNetwork::tell(const QString &text) {
+void GasLibNetwork::tell(const QString &text, int line) {
   constexpr std::size_t Most = 1000; // a file that is wrong altogether must not fill the memory
   if (findings.size() > Most)
     return;
@@ -53,10 +62,10 @@ void GasLibNetwork::tell(const QString &text) {
     findings.push_back({Finding::Severity::Warning, m_path, 0, tr("... and more, which are not told"), QString()});
     return;
   }
-  findings.push_back({Finding::Severity::Warning, m_path, static_cast<int>(m_xml.lineNumber()), text, QString()});
+  findings.push_back({Finding::Severity::Warning, m_path, line, text, QString()});
 }
 
-bool GasLibNetwork::open(QIODevice &device, const QString &root) {
+bool GasLibNetwork::open(QIODevice &device, const QString &root, const QString &space) {
   if (!device.open(QIODevice::ReadOnly)) {
     tell(tr("The file cannot be read: %1").arg(device.errorString()));
     return false;
@@ -72,8 +81,9 @@ bool GasLibNetwork::open(QIODevice &device, const QString &root) {
     tell(m_xml.hasError() ? m_xml.errorString() : tr("The file holds %1 instead of %2.").arg(m_xml.name().toString(), root));
     return false;
   }
-  if (m_xml.namespaceUri() != QLatin1String("http://gaslib.zib.de/Gas"))
-    tell(tr("The namespace is \"%1\" instead of \"http://gaslib.zib.de/Gas\".").arg(m_xml.namespaceUri().toString()));
+  const QString wanted = QStringLiteral("http://gaslib.zib.de/") + space;
+  if (m_xml.namespaceUri() != wanted)
+    tell(tr("The namespace is \"%1\" instead of \"%2\".").arg(m_xml.namespaceUri().toString(), wanted));
   return true;
 }
 
@@ -178,7 +188,14 @@ void GasLibNetwork::readNodes() {
       else
         tell(tr("%1 has no %2").arg(name, QLatin1String(axis)));
     }
+    for (const auto &[property, attribute] : {std::make_pair("lat", "geoWGS84Lat"), {"lon", "geoWGS84Long"}}) {
+      bool isNumber = false;
+      const double degrees = attributes.value(QLatin1String(attribute)).toDouble(&isNumber);
+      if (isNumber)
+        add(record, property, degrees);
+    }
     add(record, "kind", kind);
+    add(record, "vis.layer", layerOf(kind));
     readRecord(record, properties, std::size(properties));
     nodes.push_back(std::move(record));
   }
@@ -220,6 +237,7 @@ void GasLibNetwork::readConnections() {
     NetworkFileConverter::Record record{text("id"), words.value(kind), {}};
     add(record, "node1", text("from"));
     add(record, "node2", text("to"));
+    add(record, "vis.layer", layerOf(kind));
     if (kind == QLatin1String("compressorStation") && !text("fuelGasVertex").isEmpty())
       add(record, "gasnode", text("fuelGasVertex"));
     readRecord(record, properties, std::size(properties));
@@ -254,8 +272,7 @@ bool GasLibNetwork::readScenario() {
 
 void GasLibNetwork::readBoundary(const QString &node, bool isEntry) {
   const auto set = [&](const char *property, double value, const char *unit) {
-    setPoints.push_back({node, QString::fromLatin1(property), PropertyText(std::string_view(formatNumber(value))),
-                         QString::fromLatin1(unit)});
+    setPoints.push_back({node, QString::fromLatin1(property), PropertyText::ofNumber(value), QString::fromLatin1(unit)});
   };
   while (m_xml.readNextStartElement()) {
     const QString what = m_xml.name().toString();
@@ -279,4 +296,42 @@ void GasLibNetwork::readBoundary(const QString &node, bool isEntry) {
       m_xml.skipCurrentElement();
     }
   }
+}
+
+bool GasLibNetwork::readStations() {
+  QFile file(m_path);
+  if (!open(file, QStringLiteral("compressorStations"), QStringLiteral("CompressorStations")))
+    return false;
+  while (m_xml.readNextStartElement()) {
+    if (m_xml.name() == QLatin1String("compressorStation"))
+      readStation();
+    else
+      m_xml.skipCurrentElement();
+  }
+  finish();
+  return true;
+}
+
+void GasLibNetwork::readStation() {
+  const auto id = [this] {
+    return m_xml.attributes().value(QStringLiteral("id")).toString();
+  };
+  Station station{id(), QString(), {}, static_cast<int>(m_xml.lineNumber())};
+  while (m_xml.readNextStartElement()) {
+    const bool areDrives = m_xml.name() == QLatin1String("drives");
+    if (!areDrives && m_xml.name() != QLatin1String("compressors")) {
+      m_xml.skipCurrentElement();
+      continue;
+    }
+    while (m_xml.readNextStartElement()) {
+      if (id().isEmpty())
+        tell(tr("A %1 without id is left out").arg(m_xml.name().toString()));
+      else if (areDrives)
+        station.drives.push_back({id(), m_xml.name().toString()});
+      else if (station.compressor.isEmpty())
+        station.compressor = id();
+      m_xml.skipCurrentElement();
+    }
+  }
+  stations.push_back(std::move(station));
 }

@@ -16,11 +16,27 @@ public:
   /// False when the file cannot be used at all. What is wrong is in the findings, with its line.
   bool readNetwork();
   bool readScenario();
+  bool readStations();
+
+  /// What a compressor station consists of, apart from the data of its machines.
+  struct Station {
+    struct Drive {
+      QString name;
+      QString kind; ///< "gasTurbine", "gasDrivenMotor" or "electricMotor"
+    };
+    QString name;
+    QString compressor; ///< the first one
+    std::vector<Drive> drives;
+    int line = 0;
+  };
 
   std::vector<NetworkFileConverter::Record> nodes;
   std::vector<NetworkFileConverter::Record> edges;
   std::vector<NetworkFileConverter::SetPoint> setPoints;
+  std::vector<Station> stations;
   Findings findings;
+
+  void tell(const QString &text, int line);
 
 private:
   struct Known {
@@ -29,15 +45,16 @@ private:
     const char *unit; ///< in which the property is stored, empty for none
   };
 
-  bool open(QIODevice &device, const QString &root);
+  bool open(QIODevice &device, const QString &root, const QString &space = QStringLiteral("Gas"));
   void readNodes();
   void readConnections();
   void readRecord(NetworkFileConverter::Record &record, const Known *known, std::size_t count);
   void readBoundary(const QString &node, bool isEntry);
   /// The number of the current element in a unit of ours; false and a finding when there is none.
   bool number(const char *unit, double &value);
+  void readStation();
   void finish();
-  void tell(const QString &text);
+  void tell(const QString &text) { tell(text, static_cast<int>(m_xml.lineNumber())); }
 
   QString m_path;
   QXmlStreamReader m_xml;

@@ -48,7 +48,8 @@ int main(int argc, char **argv) {
         GasLibImport::import(names[0], parser.value(scenario), parser.value(compressors), names[1]);
     tell(result.findings);
     if (result.ok)
-      std::printf("%d nodes, %d edges, %d set points written\n", result.nodes, result.edges, result.setPoints);
+      std::printf("%d nodes, %d drives, %d edges, %d set points written\n", result.nodes, result.drives, result.edges,
+                  result.setPoints);
     return result.ok ? 0 : 1;
   }
   if (QFileInfo(names[0]).isDir()) {

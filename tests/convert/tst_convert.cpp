@@ -1,4 +1,5 @@
 #include <io/nivrareader.h>
+#include <model/consistencycheck.h>
 #include <support/nivratest.h>
 
 #include <QDir>
@@ -73,7 +74,8 @@ void TestConvert::publicNetwork() {
   const QString network =
       write("P.net", "<network xmlns=\"http://gaslib.zib.de/Gas\" xmlns:framework=\"http://gaslib.zib.de/Framework\">"
                      "<framework:information><framework:title>t</framework:title></framework:information><framework:nodes>"
-                     "<source id=\"in\" x=\"1\" y=\"2\"><pressureMax value=\"80\" unit=\"barg\"/><gasTemperature "
+                     "<source id=\"in\" x=\"1\" y=\"2\" geoWGS84Lat=\"51.5\" geoWGS84Long=\"\"><pressureMax value=\"80\" "
+                     "unit=\"barg\"/><gasTemperature "
                      "value=\"283.15\" unit=\"K\"/>"
                      "<normDensity value=\"0.785\" unit=\"kg_per_m_cube\"/></source>\n"
                      "<sink id=\"out\" x=\"3\" y=\"4\"><flowMax value=\"5000\" unit=\"m_cube_per_hour\"/></sink><innode "
@@ -85,12 +87,21 @@ void TestConvert::publicNetwork() {
                  "unit=\"1000m_cube_per_hour\"/></node>"
                  "<node type=\"exit\" id=\"out\"><flow bound=\"both\" value=\"160\" "
                  "unit=\"1000m_cube_per_hour\"/></node></scenario></boundaryValue>");
-  write("P.cs", "<compressorStations xmlns=\"http://gaslib.zib.de/CompressorStations\"/>");
+  write("P.cs", "<compressorStations xmlns=\"http://gaslib.zib.de/CompressorStations\">"
+                "<compressorStation id=\"compressorStation_1\"><compressors><turboCompressor drive=\"G\" id=\"T\"><speedMin "
+                "value=\"3\"/></turboCompressor><pistonCompressor drive=\"E\" id=\"K\"/></compressors><drives><gasTurbine "
+                "id=\"G\"/><electricMotor id=\"E\"/></drives><configurations/></compressorStation>\n"
+                "<compressorStation id=\"valve_1\"><drives><gasTurbine id=\"G\"/></drives></compressorStation>"
+                "</compressorStations>");
   const QString folder = m_folder.filePath(QStringLiteral("public/Net P"));
   const GasLibImport::Result result = GasLibImport::import(network, QString(), QString(), folder);
-  QVERIFY2(result.ok && result.findings.empty(),
-           qPrintable(result.findings.empty() ? QString() : result.findings[0].logText()));
+  QVERIFY(result.ok);
+  QCOMPARE(result.findings.size(), std::size_t(1));
+  QVERIFY2(result.findings[0].logText().contains(QStringLiteral("valve_1 is no compressor station")) &&
+               result.findings[0].line == 2,
+           qPrintable(result.findings[0].logText()));
   QCOMPARE(result.nodes, 3);
+  QCOMPARE(result.drives, 2);
   QCOMPARE(result.edges, 6);
   QCOMPARE(result.setPoints, 3);
   QVERIFY(QFile::exists(folder + QStringLiteral("/Net P.cs")));
@@ -110,6 +121,16 @@ void TestConvert::publicNetwork() {
   QCOMPARE(value("controlValve_1", "type"), QStringLiteral("r"));
   QCOMPARE(value("shortPipe_1", "type"), QStringLiteral("s"));
   QCOMPARE(value("compressorStation_1", "pinmin"), QStringLiteral("31.01325"));
+  QCOMPARE(value("compressorStation_1", "machine"), QStringLiteral("T"));
+  QCOMPARE(value("compressorStation_1", "drive"), QStringLiteral("D_compressorStation_1_G"));
+  QCOMPARE(value("D_compressorStation_1_E", "kind"), QStringLiteral("electricMotor"));
+  QCOMPARE(value("D_compressorStation_1_E", "machine"), QStringLiteral("E"));
+  QCOMPARE(value("D_compressorStation_1_G", "gasnode"), QStringLiteral("in"));
+  QCOMPARE(value("D_compressorStation_1_G", "x").toDouble(), 2.4);
+  QCOMPARE(value("in", "lat"), QStringLiteral("51.5"));
+  QVERIFY(!net.element(QStringLiteral("in"))->contains(QStringLiteral("lon")));
+  QCOMPARE(value("in", "vis.layer"), QStringLiteral("entries"));
+  QVERIFY(ConsistencyCheck::prune(net).findings.empty());
 }
 
 void TestConvert::faultyNetworks_data() {

@@ -11,6 +11,7 @@ namespace GasLibImport {
 struct Result {
   bool ok = false; ///< the case was written
   int nodes = 0;
+  int drives = 0;
   int edges = 0;
   int setPoints = 0;
   Findings findings;
