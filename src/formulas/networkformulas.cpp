@@ -1,3 +1,5 @@
+#include "constraintjudge.h"
+#include "elementfinder.h"
 #include "formularule.h"
 
 #include <base/pattern.h>
@@ -10,11 +12,6 @@
 #include <cmath>
 
 namespace {
-
-const PropertyKey &violationsKey() {
-  static const PropertyKey key = PropertyKey::intern("CB_info");
-  return key;
-}
 
 QString tr(const char *text) {
   return QCoreApplication::translate("NetworkFormulas", text);
@@ -44,55 +41,6 @@ struct Failures {
   }
 };
 
-/// Elements by type and name. Many formulas are for the same ones, so what was looked for once is kept.
-class ElementFinder {
-public:
-  explicit ElementFinder(const NetData &net)
-      : m_net(net) {}
-
-  /// By address.
-  std::vector<element *> find(const QStringList &types, const QString &namePattern) {
-    std::vector<element *> &found = m_found[{types, namePattern}];
-    if (!found.empty())
-      return found;
-    if (m_byType.isEmpty())
-      sortByType();
-    const Pattern pattern(namePattern);
-    for (const QString &type : types.isEmpty() ? QStringList(m_byType.keys()) : types) {
-      for (const auto &[name, e] : m_byType[type]) {
-        if (pattern.matches(name))
-          found.push_back(e);
-      }
-    }
-    std::sort(found.begin(), found.end());
-    return found;
-  }
-
-  std::vector<element *> named(const QStringList &names, const QStringList &types) const {
-    std::vector<element *> found;
-    for (const QString &name : names) {
-      element *e = m_net.element(name);
-      if (e != nullptr && (types.isEmpty() || types.contains(e->value(QStringLiteral("type")))))
-        found.push_back(e);
-    }
-    std::sort(found.begin(), found.end());
-    return found;
-  }
-
-private:
-  void sortByType() {
-    static const PropertyKey key = PropertyKey::intern("type");
-    for (const elements *collection : {&m_net.nodes(), &m_net.edges(), &m_net.assembledSubnets(), &m_net.textBoxes()}) {
-      for (const elements::Entry &entry : *collection)
-        m_byType[entry.value.value(key)].emplace_back(entry.name(), &entry.value);
-    }
-  }
-
-  const NetData &m_net;
-  QHash<QString, std::vector<std::pair<QString, element *>>> m_byType;
-  std::map<std::pair<QStringList, QString>, std::vector<element *>> m_found;
-};
-
 } // namespace
 
 struct NetworkFormulas::Computing {
@@ -103,8 +51,6 @@ struct NetworkFormulas::Computing {
   void order();
   void describe();
   Findings compute(FormulaRule &rule, const std::vector<element *> &elements, FormulaChanges *changes);
-  void judge(FormulaRule &rule, const std::vector<element *> &elements, std::set<element *> &judged);
-  void writeViolations(const std::set<element *> &judged);
   std::vector<element *> affected(const FormulaRule &rule, const FormulaChanges &changes) const;
   /// Computes the formulas, then the constraints, for those of their elements that elementsOf tells.
   template <typename ElementsOf, typename GoesOn>
@@ -121,8 +67,6 @@ private:
   FormulaRule parsed(FormulaDefinition definition);
   std::shared_ptr<const Formula> compiled(const QString &text);
   void reportUnknown();
-  std::optional<double> bound(const Formula *formula, const FormulaRule &rule, const element &e);
-  QString violation(const FormulaRule &rule, const element &e);
 
   QHash<QString, std::shared_ptr<const Formula>> m_compiled; ///< by text
 };
@@ -279,7 +223,7 @@ Findings NetworkFormulas::Computing::compute(FormulaRule &rule, const std::vecto
       if (isNumber && !std::isfinite(result.number))
         reason = tr("the result is not finite");
       else if (isNumber && !isAsStored)
-        text = PropertyText(std::string_view(formatNumber(rule.toStored(result.number))));
+        text = PropertyText::ofNumber(rule.toStored(result.number));
       else if (result.text != QLatin1String("_null_"))
         text = PropertyText(result.text);
     } catch (const FormulaError &error) {
@@ -307,80 +251,6 @@ Findings NetworkFormulas::Computing::compute(FormulaRule &rule, const std::vecto
                                                  .arg(failures.first, failures.reason));
   finding.element = failures.first;
   return {finding};
-}
-
-std::optional<double> NetworkFormulas::Computing::bound(const Formula *formula, const FormulaRule &rule, const element &e) {
-  if (formula == nullptr)
-    return std::nullopt;
-  ++evaluations;
-  try {
-    const double number = formula->evaluate(e).number;
-    if (number != NetData::NoValue && !std::isnan(number))
-      return rule.toStored(number);
-  } catch (const FormulaError &) {
-    return std::nullopt; // an element without bounds keeps them
-  }
-  return std::nullopt;
-}
-
-/// What is wrong with the value, in the unit in which people read it; empty when nothing is.
-QString NetworkFormulas::Computing::violation(const FormulaRule &rule, const element &e) {
-  const double value = net.value(e, rule.target);
-  if (value == NetData::NoValue)
-    return QString();
-  const std::optional<double> lower = bound(rule.lower.get(), rule, e);
-  const std::optional<double> upper = bound(rule.upper.get(), rule, e);
-  const bool isLow = lower && value < *lower;
-  if (!isLow && !(upper && value > *upper))
-    return QString();
-  const NetMetaData::Attribute *attribute =
-      net.metaData()->attribute(e.value(QStringLiteral("type")), rule.definition.property);
-  Units::Linear toDisplay;
-  QString unit;
-  if (attribute != nullptr) {
-    const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
-    toDisplay = conversion.value_or(Units::Linear());
-    unit = conversion ? attribute->displayUnit : attribute->storedUnit;
-  }
-  constexpr int Digits = 6;
-  const auto shown = [&toDisplay](double number) {
-    return QString::fromStdString(formatNumber(toDisplay(number), Digits));
-  };
-  QString text = QStringLiteral("%1 = %2 %3 %4")
-                     .arg(rule.definition.property, shown(value), isLow ? QStringLiteral("<") : QStringLiteral(">"),
-                          shown(isLow ? *lower : *upper));
-  if (!unit.isEmpty())
-    text += QLatin1Char(' ') + Units::written(unit);
-  if (!rule.definition.message.isEmpty())
-    text = rule.definition.message + QStringLiteral(": ") + text;
-  return text.replace(QLatin1Char(';'), QLatin1Char(',')); // which parts the violations of an element
-}
-
-void NetworkFormulas::Computing::judge(FormulaRule &rule, const std::vector<element *> &elements,
-                                       std::set<element *> &judged) {
-  for (element *e : elements) {
-    const QString text = violation(rule, *e);
-    if (!text.isEmpty())
-      rule.violations.insert(e, text);
-    else if (rule.violations.remove(e) == 0)
-      continue;
-    judged.insert(e);
-  }
-}
-
-void NetworkFormulas::Computing::writeViolations(const std::set<element *> &judged) {
-  for (element *e : judged) {
-    QString all;
-    for (const int i : constraints) {
-      const QString text = rules[static_cast<std::size_t>(i)].violations.value(e);
-      if (!text.isEmpty())
-        all += text + QLatin1Char(';');
-    }
-    if (all.isEmpty())
-      e->erase(violationsKey());
-    else
-      e->set(violationsKey(), PropertyText(QLatin1Char('(') + all + QLatin1Char(')')));
-  }
 }
 
 std::vector<element *> NetworkFormulas::Computing::affected(const FormulaRule &rule, const FormulaChanges &changes) const {
@@ -431,17 +301,17 @@ Findings NetworkFormulas::Computing::run(const ElementsOf &elementsOf, const Goe
     if (!goesOn())
       return failures;
     FormulaRule &rule = rules[static_cast<std::size_t>(i)];
-    Findings found = compute(rule, elementsOf(rule), changes);
-    std::move(found.begin(), found.end(), std::back_inserter(failures));
+    append(failures, compute(rule, elementsOf(rule), changes));
   }
-  std::set<element *> judged;
+  ConstraintJudge judge(net);
   for (const int i : constraints) {
     if (!goesOn())
       return failures;
     FormulaRule &rule = rules[static_cast<std::size_t>(i)];
-    judge(rule, elementsOf(rule), judged);
+    judge.judge(rule, elementsOf(rule));
   }
-  writeViolations(judged);
+  judge.write(rules, constraints);
+  evaluations += judge.evaluations();
   return failures;
 }
 

@@ -1,0 +1,79 @@
+#include "constraintjudge.h"
+
+#include <model/netmetadata.h>
+
+#include <cmath>
+
+std::optional<double> ConstraintJudge::bound(const Formula *formula, const FormulaRule &rule, const element &e) {
+  if (formula == nullptr)
+    return std::nullopt;
+  ++m_evaluations;
+  try {
+    const double number = formula->evaluate(e).number;
+    if (number != NetData::NoValue && !std::isnan(number))
+      return rule.toStored(number);
+  } catch (const FormulaError &) {
+    return std::nullopt; // an element without bounds keeps them
+  }
+  return std::nullopt;
+}
+
+/// What is wrong with the value, in the unit in which people read it; empty when nothing is.
+QString ConstraintJudge::violation(const FormulaRule &rule, const element &e) {
+  const double value = m_net.value(e, rule.target);
+  if (value == NetData::NoValue)
+    return QString();
+  const std::optional<double> lower = bound(rule.lower.get(), rule, e);
+  const std::optional<double> upper = bound(rule.upper.get(), rule, e);
+  const bool isLow = lower && value < *lower;
+  if (!isLow && !(upper && value > *upper))
+    return QString();
+  const NetMetaData::Attribute *attribute =
+      m_net.metaData()->attribute(e.value(QStringLiteral("type")), rule.definition.property);
+  Units::Linear toDisplay;
+  QString unit;
+  if (attribute != nullptr) {
+    const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
+    toDisplay = conversion.value_or(Units::Linear());
+    unit = conversion ? attribute->displayUnit : attribute->storedUnit;
+  }
+  constexpr int Digits = 6;
+  const auto shown = [&toDisplay](double number) {
+    return QString::fromStdString(formatNumber(toDisplay(number), Digits));
+  };
+  QString text = QStringLiteral("%1 = %2 %3 %4")
+                     .arg(rule.definition.property, shown(value), isLow ? QStringLiteral("<") : QStringLiteral(">"),
+                          shown(isLow ? *lower : *upper));
+  if (!unit.isEmpty())
+    text += QLatin1Char(' ') + Units::written(unit);
+  if (!rule.definition.message.isEmpty())
+    text = rule.definition.message + QStringLiteral(": ") + text;
+  return text.replace(QLatin1Char(';'), QLatin1Char(',')); // which parts the violations of an element
+}
+
+void ConstraintJudge::judge(FormulaRule &rule, const std::vector<element *> &elements) {
+  for (element *e : elements) {
+    const QString text = violation(rule, *e);
+    if (!text.isEmpty())
+      rule.violations.insert(e, text);
+    else if (rule.violations.remove(e) == 0)
+      continue;
+    m_judged.insert(e);
+  }
+}
+
+void ConstraintJudge::write(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints) {
+  static const PropertyKey key = PropertyKey::intern("CB_info");
+  for (element *e : m_judged) {
+    QString all;
+    for (const int i : constraints) {
+      const QString text = rules[static_cast<std::size_t>(i)].violations.value(e);
+      if (!text.isEmpty())
+        all += text + QLatin1Char(';');
+    }
+    if (all.isEmpty())
+      e->erase(key);
+    else
+      e->set(key, PropertyText(QLatin1Char('(') + all + QLatin1Char(')')));
+  }
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "formularule.h"
+
+#include <optional>
+#include <set>
+
+/// Holds elements against constraints and writes down what is wrong with each, in its property "CB_info".
+class ConstraintJudge {
+public:
+  explicit ConstraintJudge(NetData &net)
+      : m_net(net) {}
+
+  void judge(FormulaRule &rule, const std::vector<element *> &elements);
+  /// "(first;second;)" to what was judged. \param constraints their places among the rules, in the order of the texts
+  void write(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints);
+  /// Of bounds, for those who watch the cost.
+  int evaluations() const { return m_evaluations; }
+
+private:
+  std::optional<double> bound(const Formula *formula, const FormulaRule &rule, const element &e);
+  QString violation(const FormulaRule &rule, const element &e);
+
+  NetData &m_net;
+  std::set<element *> m_judged; ///< those with something to be written
+  int m_evaluations = 0;
+};
