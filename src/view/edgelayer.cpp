@@ -43,9 +43,10 @@ void EdgeLayer::setEdges(const NetGeometry &geometry) {
     const NetGeometry::Edge &edge = geometry.edges()[i];
     if (!geometry.isPlaced(edge))
       continue;
-    const NetGeometry::Node &a = geometry.nodes()[static_cast<std::size_t>(edge.node1)];
-    const NetGeometry::Node &b = geometry.nodes()[static_cast<std::size_t>(edge.node2)];
-    boxes.push_back({std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x), std::max(a.y, b.y)});
+    const QLineF line = geometry.line(edge);
+    const auto [x1, x2] = std::minmax({line.x1(), line.x2()});
+    const auto [y1, y2] = std::minmax({line.y1(), line.y2()});
+    boxes.push_back({x1, y1, x2, y2});
     positions.push_back(static_cast<int>(i));
   }
   const std::vector<int> order = m_index.build(boxes);
@@ -55,13 +56,12 @@ void EdgeLayer::setEdges(const NetGeometry &geometry) {
     Record record;
     record.edge = positions[static_cast<std::size_t>(box)];
     const NetGeometry::Edge &edge = geometry.edges()[static_cast<std::size_t>(record.edge)];
-    const NetGeometry::Node &a = geometry.nodes()[static_cast<std::size_t>(edge.node1)];
-    const NetGeometry::Node &b = geometry.nodes()[static_cast<std::size_t>(edge.node2)];
-    record.x1 = a.x;
-    record.y1 = a.y;
-    record.x2 = b.x;
-    record.y2 = b.y;
-    record.lane = edge.node1 <= edge.node2 ? edge.lane : -edge.lane;
+    const QLineF line = geometry.line(edge);
+    record.x1 = line.x1();
+    record.y1 = line.y1();
+    record.x2 = line.x2();
+    record.y2 = line.y2();
+    record.lane = edge.lane;
     record.hasSymbol = edge.type != 'p';
     m_records.push_back(record);
   }

@@ -116,11 +116,9 @@ void LabelPass::collectPipes() {
       lines.emplace_back(drawn, width);
     if (record.type != 'p')
       return; // labelled at its symbol
-    const NetGeometry::Node &a = geometry.nodes()[static_cast<std::size_t>(record.node1)];
-    const NetGeometry::Node &b = geometry.nodes()[static_cast<std::size_t>(record.node2)];
-    const QLineF straight(m_projection.map(a.x, a.y), m_projection.map(b.x, b.y));
-    const double aside = record.lane == 0.0F ? 0.0 : distanceToLine(drawn.center(), straight);
-    add({NetData::Edge, edge}, {a.x, a.y, b.x, b.y}, true, width * 0.5 + aside, PipeRank,
+    const QLineF straight = geometry.line(record);
+    const double aside = record.lane == 0.0F ? 0.0 : distanceToLine(drawn.center(), m_projection.map(straight));
+    add({NetData::Edge, edge}, straight, true, width * 0.5 + aside, PipeRank,
         m_drawing.flow[static_cast<std::size_t>(edge)]);
   });
   if (lines.size() > Many)

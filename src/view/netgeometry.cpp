@@ -222,8 +222,11 @@ void NetGeometry::findLanes() {
     for (auto group = first; group != last;) {
       const auto end = std::find_if(group, last, [group](const Way &way) { return way.far != group->far; });
       const float middle = static_cast<float>(end - group - 1) * 0.5F;
-      for (auto way = group; way != end; ++way)
-        m_edges[static_cast<std::size_t>(way->edge)].lane = static_cast<float>(way - group) - middle;
+      for (auto way = group; way != end; ++way) {
+        Edge &edge = m_edges[static_cast<std::size_t>(way->edge)];
+        const float aside = static_cast<float>(way - group) - middle; // of the way from the node that comes first by name
+        edge.lane = edge.node1 < edge.node2 ? aside : -aside;
+      }
       group = end;
     }
   }
@@ -270,13 +273,8 @@ std::optional<QPointF> NetGeometry::center(Item item) const {
   switch (item.kind) {
   case NetData::Node:
     return m_nodes[i].isPlaced ? std::optional<QPointF>({m_nodes[i].x, m_nodes[i].y}) : std::nullopt;
-  case NetData::Edge: {
-    if (!isPlaced(m_edges[i]))
-      return std::nullopt;
-    const Node &a = m_nodes[static_cast<std::size_t>(m_edges[i].node1)];
-    const Node &b = m_nodes[static_cast<std::size_t>(m_edges[i].node2)];
-    return QPointF((a.x + b.x) * 0.5, (a.y + b.y) * 0.5);
-  }
+  case NetData::Edge:
+    return isPlaced(m_edges[i]) ? std::optional<QPointF>(line(m_edges[i]).center()) : std::nullopt;
   case NetData::AssembledSubnet:
     return QPointF(m_subnets[i].x, m_subnets[i].y);
   case NetData::TextBox:

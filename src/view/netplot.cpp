@@ -126,10 +126,8 @@ void NetPlot::zoomToElement(NetGeometry::Item item) {
   const double factor = qBound(Smallest, wanted, Largest);
   QSizeF size(m_settings.smallestZoomWidth, m_settings.smallestZoomHeight);
   if (item.kind == NetData::Edge) {
-    const NetGeometry::Edge &edge = geometry.edges()[static_cast<std::size_t>(item.index)];
-    const NetGeometry::Node &a = geometry.nodes()[static_cast<std::size_t>(edge.node1)];
-    const NetGeometry::Node &b = geometry.nodes()[static_cast<std::size_t>(edge.node2)];
-    size = size.expandedTo({std::abs(a.x - b.x), std::abs(a.y - b.y)});
+    const QLineF line = geometry.line(geometry.edges()[static_cast<std::size_t>(item.index)]);
+    size = size.expandedTo({std::abs(line.dx()), std::abs(line.dy())});
   }
   size = (size * factor).boundedTo(m_zoomer->zoomBase().size());
   m_zoomer->zoom(QRectF(center->x() - size.width() * 0.5, center->y() - size.height() * 0.5, size.width(), size.height()));

@@ -262,9 +262,8 @@ std::vector<NetGeometry::Item> NetUpdate::elementsIn(const QRectF &area) const {
     const NetGeometry::Edge &edge = m_geometry.edges()[i];
     if (!m_geometry.isPlaced(edge) || m_layers.isHidden({NetData::Edge, static_cast<int>(i)}))
       continue;
-    const NetGeometry::Node &a = nodes[static_cast<std::size_t>(edge.node1)];
-    const NetGeometry::Node &b = nodes[static_cast<std::size_t>(edge.node2)];
-    if (isInside(a.x, a.y) && isInside(b.x, b.y))
+    const QLineF line = m_geometry.line(edge);
+    if (isInside(line.x1(), line.y1()) && isInside(line.x2(), line.y2()))
       found.push_back({NetData::Edge, static_cast<int>(i)});
   }
   const auto takePlaces = [&](NetData::EleType kind, const std::vector<NetGeometry::Place> &places) {

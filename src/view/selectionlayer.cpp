@@ -67,11 +67,9 @@ std::optional<QLineF> SelectionLayer::lineOf(NetGeometry::Item item, const Proje
     return QLineF(place, place);
   }
   const NetGeometry::Edge &edge = m_geometry->edges()[static_cast<std::size_t>(item.index)];
-  const NetGeometry::Node &a = m_geometry->nodes()[static_cast<std::size_t>(edge.node1)];
-  const NetGeometry::Node &b = m_geometry->nodes()[static_cast<std::size_t>(edge.node2)];
-  const QLineF straight(projection.map(a.x, a.y), projection.map(b.x, b.y));
-  const double lane = static_cast<double>(edge.node1 <= edge.node2 ? edge.lane : -edge.lane);
-  return LaneWay(straight, lane * laneSpacing(edge.type != 'p', 1.0, m_symbolSize)).middle();
+  return LaneWay(projection.map(m_geometry->line(edge)),
+                 static_cast<double>(edge.lane) * laneSpacing(edge.type != 'p', 1.0, m_symbolSize))
+      .middle();
 }
 
 double SelectionLayer::reachOf(NetGeometry::Item item) const {

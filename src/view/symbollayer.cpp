@@ -49,17 +49,16 @@ std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometr
     const NetGeometry::Edge &edge = geometry.edges()[i];
     if (edge.type == 'p' || !geometry.isPlaced(edge))
       continue;
-    const NetGeometry::Node &a = geometry.nodes()[static_cast<std::size_t>(edge.node1)];
-    const NetGeometry::Node &b = geometry.nodes()[static_cast<std::size_t>(edge.node2)];
+    const QLineF line = geometry.line(edge);
     Record record;
-    record.x = (a.x + b.x) * 0.5;
-    record.y = (a.y + b.y) * 0.5;
-    record.dx = b.x - a.x;
-    record.dy = b.y - a.y;
+    record.x = line.center().x();
+    record.y = line.center().y();
+    record.dx = line.dx();
+    record.dy = line.dy();
     record.item = {NetData::Edge, static_cast<int>(i)};
     record.symbol = symbolOf(edge);
     record.priority = priorityOf(edge.type);
-    record.lane = edge.node1 <= edge.node2 ? edge.lane : -edge.lane;
+    record.lane = edge.lane;
     record.size = m_sizes.isEmpty() ? 1.0F : shareOf(QString(QLatin1Char(edge.type)));
     found.push_back(record);
   }

@@ -21,6 +21,7 @@ public:
   /// False when the axes have no extent, so that nothing can be drawn.
   bool isValid() const { return m_valid; }
   QPointF map(double x, double y) const { return {(x - m_x0) * m_xFactor + m_px0, (y - m_y0) * m_yFactor + m_py0}; }
+  QLineF map(const QLineF &line) const { return {map(line.x1(), line.y1()), map(line.x2(), line.y2())}; }
   /// What the canvas shows, widened by a number of pixels, in plot coordinates.
   SpatialIndex::Box visible(double margin) const;
   /// The square of so many pixels to each side of a point of the canvas, in plot coordinates.

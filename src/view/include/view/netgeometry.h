@@ -3,6 +3,7 @@
 #include <model/netdata.h>
 #include <model/propertycolumns.h>
 
+#include <QLineF>
 #include <QRectF>
 
 #include <cstdint>
@@ -32,7 +33,7 @@ public:
     bool isInactive = false; ///< its "state" or "active" says off, closed, false or 0
     bool isBypass = false;   ///< its "state" says bypass
     /// Place among the edges that join the same two nodes, to be drawn side by side: 0 in the middle, positive to the
-    /// right of the way from the node that comes first by name; one unit a line.
+    /// right of the way from node1 to node2; one unit a line.
     float lane = 0.0F;
   };
 
@@ -90,6 +91,12 @@ public:
   int nodesOutside(const QRectF &area) const;
   bool hasExtent() const { return m_hasExtent; } ///< something is placed
   bool isPlaced(const Edge &edge) const;
+  /// From the first end node to the second; of a placed edge.
+  QLineF line(const Edge &edge) const {
+    const Node &from = m_nodes[static_cast<std::size_t>(edge.node1)];
+    const Node &to = m_nodes[static_cast<std::size_t>(edge.node2)];
+    return {from.x, from.y, to.x, to.y};
+  }
   const element *source(Item item) const;
   /// The item of a name among the kinds of the mask; nothing when it is not there or was not drawn.
   std::optional<Item> find(const NetData &net, const QString &name, int kinds = NetData::AllTypes) const;
