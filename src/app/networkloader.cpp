@@ -34,7 +34,7 @@ std::vector<FormulaDefinition> definitionsIn(const QString &directory, const QSt
   for (const QFileInfo &file : QDir(directory).entryInfoList(patterns, QDir::Files, QDir::Name)) {
     FormulaFile::Contents contents = FormulaFile::read(file.filePath(), category);
     std::move(contents.definitions.begin(), contents.definitions.end(), std::back_inserter(definitions));
-    std::move(contents.findings.begin(), contents.findings.end(), std::back_inserter(findings));
+    append(findings, std::move(contents.findings));
   }
   return definitions;
 }
@@ -92,7 +92,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   Findings checked;
   m_checkFindings = ConsistencyCheck::checkNetData(m_net, &checked);
   m_removed = ConsistencyCheck::prune(m_net);
-  checked.insert(checked.end(), m_removed.findings.begin(), m_removed.findings.end());
+  append(checked, m_removed.findings);
   notice(tr("Checking"), std::move(checked));
   m_seconds.append({QStringLiteral("check"), static_cast<double>(timer.restart()) * Milli});
   assembleSubnets(options);

@@ -171,72 +171,79 @@ bool CharacteristicsStack::open(const QString &elementName) {
   return true;
 }
 
-QString CharacteristicsStack::summary(const QString &elementName) const {
+CharacteristicsStack::Machine CharacteristicsStack::machine(const QString &elementName) const {
+  Machine found;
   const element *e = m_net.element(elementName);
   if (e == nullptr)
-    return QString();
-  const QString machine = machineOf(*e);
-  const auto compression = Compression::of(m_net, *e);
-  const QString none = tr("<p>The network has no flow and pressures for a working point.</p>");
-  if (const TurboCompressor *turbo = m_machines.turbo(machine))
-    return fitText(tr("Head"), turbo->headQuality, QStringLiteral("kJ/kg")) +
-           fitText(tr("Efficiency"), turbo->efficiencyQuality, QString()) +
-           fitText(tr("Surge line"), turbo->surgeQuality, QStringLiteral("kJ/kg")) +
-           (compression ? pointTable(WorkingPoint::of(*turbo, driveOf(*e, turbo->drive), *compression, AmbientTemperature))
-                        : none);
-  if (const PistonCompressor *piston = m_machines.piston(machine))
-    return compression ? pointTable(WorkingPoint::of(*piston, driveOf(*e, piston->drive), *compression, AmbientTemperature))
-                       : none;
-  if (const Drive *drive = m_machines.drive(machine))
-    return fitText(tr("Power limit"), drive->powerQuality, QStringLiteral("kW")) +
-           fitText(tr("Energy rate"), drive->energyQuality, QStringLiteral("kW")) +
+    return found;
+  const QString name = machineOf(*e);
+  found.turbo = m_machines.turbo(name);
+  found.piston = found.turbo == nullptr ? m_machines.piston(name) : nullptr;
+  found.drive = found.turbo == nullptr && found.piston == nullptr ? m_machines.drive(name) : nullptr;
+  const element *driven = m_net.edges().find(e->value(QStringLiteral("driven")));
+  const element *compressor = found.drive == nullptr ? e : driven; // a drive works where its compressor does
+  const auto compression = compressor == nullptr ? std::nullopt : Compression::of(m_net, *compressor);
+  if (!compression)
+    return found;
+  if (found.turbo != nullptr) {
+    found.point = WorkingPoint::of(*found.turbo, driveOf(*e, found.turbo->drive), *compression, AmbientTemperature);
+  } else if (found.piston != nullptr) {
+    found.point = WorkingPoint::of(*found.piston, driveOf(*e, found.piston->drive), *compression, AmbientTemperature);
+  } else if (found.drive != nullptr) {
+    const QString driving = machineOf(*compressor);
+    if (const TurboCompressor *turbo = m_machines.turbo(driving))
+      found.point = WorkingPoint::of(*turbo, found.drive, *compression, AmbientTemperature);
+    else if (const PistonCompressor *piston = m_machines.piston(driving))
+      found.point = WorkingPoint::of(*piston, found.drive, *compression, AmbientTemperature);
+  }
+  return found;
+}
+
+QString CharacteristicsStack::summary(const Machine &machine) {
+  QString text;
+  if (machine.turbo != nullptr)
+    text = fitText(tr("Head"), machine.turbo->headQuality, QStringLiteral("kJ/kg")) +
+           fitText(tr("Efficiency"), machine.turbo->efficiencyQuality, QString()) +
+           fitText(tr("Surge line"), machine.turbo->surgeQuality, QStringLiteral("kJ/kg"));
+  else if (machine.drive != nullptr)
+    text = fitText(tr("Power limit"), machine.drive->powerQuality, QStringLiteral("kW")) +
+           fitText(tr("Energy rate"), machine.drive->energyQuality, QStringLiteral("kW")) +
            tr("Power at %1 °C").arg(AmbientTemperature);
-  return QString();
+  if (machine.point)
+    return text + pointTable(*machine.point);
+  return text + tr("<p>The network has no flow and pressures for a working point.</p>");
+}
+
+QString CharacteristicsStack::summary(const QString &elementName) const {
+  const Machine found = machine(elementName);
+  return found.isThere() ? summary(found) : QString();
 }
 
 QWidget *CharacteristicsStack::makePage(const QString &elementName) const {
-  const element *e = m_net.element(elementName);
-  if (e == nullptr)
-    return nullptr;
-  const QString machine = machineOf(*e);
-  const TurboCompressor *turbo = m_machines.turbo(machine);
-  const PistonCompressor *piston = m_machines.piston(machine);
-  const Drive *drive = m_machines.drive(machine);
-  if (turbo == nullptr && piston == nullptr && drive == nullptr)
+  const Machine found = machine(elementName);
+  if (!found.isThere())
     return nullptr;
   auto *page = new QWidget;
   page->setObjectName(elementName);
-  auto *plot = new MapPlot;
   auto *column = new QVBoxLayout(page);
+  auto *plot = new MapPlot;
   column->addWidget(plot, 1);
-  auto *text = new QLabel(summary(elementName));
+  if (found.turbo != nullptr) {
+    plot->show(*found.turbo, found.point);
+  } else if (found.piston != nullptr) {
+    plot->show(*found.piston, found.point);
+  } else {
+    plot->show(*found.drive, found.point, AmbientTemperature);
+    if (found.drive->energy) {
+      auto *consumption = new MapPlot;
+      column->addWidget(consumption, 1);
+      consumption->showConsumption(*found.drive, found.point);
+    }
+  }
+  auto *text = new QLabel(summary(found));
   text->setTextFormat(Qt::RichText);
   text->setWordWrap(true);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   column->addWidget(text);
-  const auto compression = Compression::of(m_net, *e);
-  std::optional<WorkingPoint> point;
-  if (turbo != nullptr) {
-    if (compression)
-      point = WorkingPoint::of(*turbo, driveOf(*e, turbo->drive), *compression, AmbientTemperature);
-    plot->show(*turbo, point);
-  } else if (piston != nullptr) {
-    if (compression)
-      point = WorkingPoint::of(*piston, driveOf(*e, piston->drive), *compression, AmbientTemperature);
-    plot->show(*piston, point);
-  } else {
-    // A drive works where its compressor does.
-    const element *driven = m_net.edges().find(e->value(QStringLiteral("driven")));
-    const TurboCompressor *its = driven == nullptr ? nullptr : m_machines.turbo(machineOf(*driven));
-    const auto ofDriven = driven == nullptr ? std::nullopt : Compression::of(m_net, *driven);
-    if (its != nullptr && ofDriven)
-      point = WorkingPoint::of(*its, drive, *ofDriven, AmbientTemperature);
-    plot->show(*drive, point, AmbientTemperature);
-    if (drive->energy) {
-      auto *consumption = new MapPlot;
-      column->insertWidget(1, consumption, 1);
-      consumption->showConsumption(*drive, point);
-    }
-  }
   return page;
 }

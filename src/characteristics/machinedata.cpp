@@ -39,58 +39,61 @@ void take(const QString &machine, const QString &what, const std::vector<FitPoin
     findings.push_back(warning(machine, tr("no fit of the %1: %2").arg(what, quality.reason)));
 }
 
+/// The points that a machine can have; tells of the others.
+std::vector<MeasuredPoint> soundOnes(const QString &name, const std::vector<MeasuredPoint> &points, Findings &findings) {
+  std::vector<MeasuredPoint> sound;
+  for (const MeasuredPoint &point : points) {
+    if (point.speed > 0.0 && point.flow > 0.0 && point.head > 0.0 && point.efficiency >= 0.0 && point.efficiency <= 1.0)
+      sound.push_back(point);
+    else
+      findings.push_back(warning(name, tr("a point is left out: speed %1, flow %2, head %3, efficiency %4")
+                                           .arg(point.speed)
+                                           .arg(point.flow)
+                                           .arg(point.head)
+                                           .arg(point.efficiency)));
+  }
+  return sound;
+}
+
+/// A choke line where nobody measured one: along the largest flows that were measured.
+std::optional<Quadratic> alongLargestFlows(const std::vector<FitPoint> &heads) {
+  std::map<double, FitPoint> last; // by speed
+  for (const FitPoint &point : heads) {
+    FitPoint &largest = last[point.y];
+    if (point.x > largest.x)
+      largest = {point.x, 0.0, point.z};
+  }
+  std::vector<FitPoint> chokes;
+  chokes.reserve(last.size());
+  for (const auto &entry : last)
+    chokes.push_back(entry.second);
+  Quadratic fitted;
+  return Fits::fit(chokes, fitted).ok ? std::optional<Quadratic>(fitted) : std::nullopt;
+}
+
 } // namespace
 
 Findings TurboCompressor::fit() {
   Findings findings;
   std::vector<FitPoint> heads;
   std::vector<FitPoint> efficiencies;
+  std::vector<FitPoint> surges;
   std::set<double> speeds;
-  const auto isSound = [&](const MeasuredPoint &point) {
-    const bool sound =
-        point.speed > 0.0 && point.flow > 0.0 && point.head > 0.0 && point.efficiency >= 0.0 && point.efficiency <= 1.0;
-    if (!sound)
-      findings.push_back(warning(name, tr("a point is left out: speed %1, flow %2, head %3, efficiency %4")
-                                           .arg(point.speed)
-                                           .arg(point.flow)
-                                           .arg(point.head)
-                                           .arg(point.efficiency)));
-    return sound;
-  };
-  for (const MeasuredPoint &point : points) {
-    if (!isSound(point))
-      continue;
+  for (const MeasuredPoint &point : soundOnes(name, points, findings)) {
     heads.push_back({point.flow, point.speed, point.head});
     if (point.efficiency > 0.0)
       efficiencies.push_back({point.flow, point.speed, point.efficiency});
     speeds.insert(point.speed);
   }
-  std::vector<FitPoint> surges;
-  for (const MeasuredPoint &point : surgePoints) {
-    if (!isSound(point))
-      continue;
+  for (const MeasuredPoint &point : soundOnes(name, surgePoints, findings)) {
     surges.push_back({point.flow, 0.0, point.head});
     heads.push_back({point.flow, point.speed, point.head});
   }
   take(name, tr("head"), heads, head, headQuality, findings);
   take(name, tr("efficiency"), efficiencies, efficiency, efficiencyQuality, findings);
   take(name, tr("surge line"), surges, surge, surgeQuality, findings);
-  if (!choke) {
-    // Nobody measures the choke line: it goes along the largest flows that were measured.
-    std::map<double, FitPoint> last; // by speed
-    for (const FitPoint &point : heads) {
-      FitPoint &largest = last[point.y];
-      if (point.x > largest.x)
-        largest = {point.x, 0.0, point.z};
-    }
-    std::vector<FitPoint> chokes;
-    chokes.reserve(last.size());
-    for (const auto &entry : last)
-      chokes.push_back(entry.second);
-    Quadratic fitted;
-    if (Fits::fit(chokes, fitted).ok)
-      choke = fitted;
-  }
+  if (!choke)
+    choke = alongLargestFlows(heads);
   if (speedMax <= speedMin && speeds.size() > 1) {
     speedMin = *speeds.begin();
     speedMax = *speeds.rbegin();

@@ -58,7 +58,7 @@ CaseConverter::Result CaseConverter::convert(const QString &from, const QString 
     NetworkFileConverter::Result converted = NetworkFileConverter::convert(path, NetworkFileConverter::otherForm(copied));
     result.ok = result.ok && converted.ok;
     result.files += converted.ok ? 1 : 0;
-    std::move(converted.findings.begin(), converted.findings.end(), std::back_inserter(result.findings));
+    append(result.findings, converted.findings);
   }
   if (result.ok && result.files == 0)
     fail(tr("%1 holds no network file").arg(from));

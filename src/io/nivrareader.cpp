@@ -45,8 +45,7 @@ void append(NivraReader::Result &result, NivraReader::Result &&part) {
     result.configuration = part.configuration;
   result.cancelled = result.cancelled || part.cancelled;
   result.properties += part.properties;
-  result.findings.insert(result.findings.end(), std::make_move_iterator(part.findings.begin()),
-                         std::make_move_iterator(part.findings.end()));
+  append(result.findings, std::move(part.findings));
 }
 
 /// Tells the progress from time to time; false when it asks to stop.
@@ -204,8 +203,7 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
   if (result.ok && !result.cancelled && m_net.isEmpty())
     report.add("empty", 0, QStringLiteral("The file holds no element"));
   result.properties = properties;
-  Findings found = report.take();
-  result.findings.insert(result.findings.end(), found.begin(), found.end());
+  append(result.findings, report.take());
   NivraMsg::debug(QStringLiteral("### To read elements of geom.jsn file took %1s").arg(seconds(timer)));
   NivraMsg::log(QStringLiteral("### To read elements of geom buffer took %1s").arg(seconds(timer)));
   return result;
@@ -228,8 +226,7 @@ NivraReader::Result NivraReader::readValues(const QString &path, const Options &
     }
   });
   result.properties = properties;
-  Findings found = report.take();
-  result.findings.insert(result.findings.end(), found.begin(), found.end());
+  append(result.findings, report.take());
   return result;
 }
 
@@ -251,8 +248,7 @@ NivraReader::Result NivraReader::readGasJsn(const QString &path) {
   result.ok = result.ok && !gases.empty();
   if (result.ok)
     m_gases = std::move(gases);
-  Findings found = report.take();
-  result.findings.insert(result.findings.end(), found.begin(), found.end());
+  append(result.findings, report.take());
   return result;
 }
 

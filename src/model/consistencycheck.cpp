@@ -344,7 +344,7 @@ QString ConsistencyCheck::checkNetData(NetData &net, Findings *list) {
   }
   NivraMsg::debug(QStringLiteral("after checkNetData"));
   if (list != nullptr)
-    std::move(found.begin(), found.end(), std::back_inserter(*list));
+    append(*list, found);
   return text;
 }
 

@@ -1,7 +1,6 @@
 #include <base/parallel.h>
 #include <tools/networksearch.h>
 
-#include <atomic>
 #include <iterator>
 #include <map>
 #include <mutex>
@@ -59,15 +58,39 @@ bool SearchedProperties::contains(PropertyKey key) {
   return known == 1;
 }
 
+/// What a run of candidates one after the other has yielded.
+struct NetworkSearch::Part {
+  std::vector<SearchRow> rows;
+  std::vector<std::size_t> found;  ///< places of the elements with rows and without the mark
+  std::vector<std::size_t> former; ///< of those with the mark and without rows
+  std::size_t searched = 0;        ///< the place behind the last element that was
+  QString error;
+  bool isStopped = false;
+};
+
+NetworkSearch::Part NetworkSearch::searchPart(const std::vector<element *> &candidates, std::size_t first, std::size_t last,
+                                              std::atomic<std::size_t> &stoppedAt) {
+  Part part;
+  std::size_t i = first;
+  try {
+    for (; i < last && first <= stoppedAt; ++i) {
+      fetchAhead(candidates, i);
+      const std::size_t before = part.rows.size();
+      const bool isMarked = addRows(*candidates[i], part.rows);
+      if (isMarked != (part.rows.size() > before))
+        (isMarked ? part.former : part.found).push_back(i);
+    }
+  } catch (const FormulaError &error) {
+    part.isStopped = true;
+    part.error = error.text();
+    for (std::size_t known = stoppedAt; first < known && !stoppedAt.compare_exchange_weak(known, first);)
+      ;
+  }
+  part.searched = i;
+  return part;
+}
+
 NetworkSearch::Result NetworkSearch::run() {
-  struct Part {
-    std::vector<SearchRow> rows;
-    std::vector<std::size_t> found;  ///< places of the elements with rows and without the mark
-    std::vector<std::size_t> former; ///< of those with the mark and without rows
-    std::size_t searched = 0;        ///< the place behind the last element that was
-    QString error;
-    bool isStopped = false;
-  };
   std::vector<element *> candidates;
   m_net.forEach(NetData::AllTypes, [&candidates](element &e) { candidates.push_back(&e); });
   std::map<std::size_t, Part> parts; // by the place of their first element
@@ -78,23 +101,7 @@ NetworkSearch::Result NetworkSearch::run() {
     return NetworkSearch(m_net, m_params);
   };
   Parallel::inChunks(candidates.size(), Chunk, makeState, [&](NetworkSearch &search, std::size_t first, std::size_t last) {
-    Part part;
-    std::size_t i = first;
-    try {
-      for (; i < last && first <= stoppedAt; ++i) {
-        fetchAhead(candidates, i);
-        const std::size_t before = part.rows.size();
-        const bool isMarked = search.addRows(*candidates[i], part.rows);
-        if (isMarked != (part.rows.size() > before))
-          (isMarked ? part.former : part.found).push_back(i);
-      }
-    } catch (const FormulaError &error) {
-      part.isStopped = true;
-      part.error = error.text();
-      for (std::size_t known = stoppedAt; first < known && !stoppedAt.compare_exchange_weak(known, first);)
-        ;
-    }
-    part.searched = i;
+    Part part = search.searchPart(candidates, first, last, stoppedAt);
     const std::lock_guard lock(mutex);
     parts.emplace(first, std::move(part));
   });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <characteristics/machinedata.h>
+#include <characteristics/workingpoint.h>
 #include <model/netdata.h>
 
 #include <QDockWidget>
@@ -28,7 +29,19 @@ public:
   QString summary(const QString &elementName) const;
 
 private:
-  /// The machine of an element: by its property "machine", else by its name.
+  /// The data of an element's machine, one of the three, and where it works.
+  struct Machine {
+    const TurboCompressor *turbo = nullptr;
+    const PistonCompressor *piston = nullptr;
+    const Drive *drive = nullptr;
+    std::optional<WorkingPoint> point;
+
+    bool isThere() const { return turbo != nullptr || piston != nullptr || drive != nullptr; }
+  };
+
+  Machine machine(const QString &elementName) const;
+  static QString summary(const Machine &machine);
+  /// The name of an element's machine: its property "machine", else its own.
   QString machineOf(const element &e) const;
   const Drive *driveOf(const element &compressor, const QString &named) const;
   QWidget *makePage(const QString &elementName) const;

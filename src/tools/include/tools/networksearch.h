@@ -7,6 +7,7 @@
 #include <tools/displayvalue.h>
 #include <tools/searchparams.h>
 
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -53,12 +54,16 @@ public:
   void search(element &candidate, std::vector<SearchRow> &rows);
 
 private:
+  struct Part;
   struct Type {
     std::string utf8;
     QString text;
     bool matches = false;
   };
 
+  /// Searches from one place of the candidates to another, unless a part before it has stopped.
+  Part searchPart(const std::vector<element *> &candidates, std::size_t first, std::size_t last,
+                  std::atomic<std::size_t> &stoppedAt);
   bool matchesName(const QString &name) const;
   const Type &type(std::string_view utf8);
   bool addRows(const element &candidate, std::vector<SearchRow> &rows);
