@@ -65,8 +65,12 @@ walk_window 5 "$(dock 152)"'xdotool mousemove 36 184 click 1; sleep 0.3; xdotool
 walk_window 6 'xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool type "N_Görlitz"; xdotool key Return; sleep 1; xdotool mousemove 60 235 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 765 440; sleep 0.5; xdotool click 3; sleep 0.5; xdotool mousemove 840 524 click 1; sleep 0.5; xdotool mousemove 840 300 key Home; sleep 1.5'
 
 station='xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5;'
-window "$walk/DE_H2/S5/S5.scen.jsn" "$images/subnet.png" "$station"' xdotool type "CS_Werne"; xdotool key Escape; xdotool mousemove 150 94 click 1 type "sub"; xdotool key Return; sleep 1; xdotool mousemove 60 233 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 765 440; sleep 0.5; xdotool click 3; sleep 1; xdotool mousemove 820 527 click 1; sleep 0.7; xdotool mousemove 600 527; sleep 0.3; xdotool click 1; sleep 2'
-window "$walk/DE_H2/S5/S5.scen.jsn" "$images/characteristics.png" "$station"' xdotool type "CS_Rehden_C1"; xdotool key Escape; xdotool key Return; sleep 1; xdotool mousemove 60 233 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 765 440; sleep 0.5; xdotool click 3; sleep 1; xdotool mousemove 860 502 click 1; sleep 2; xdotool mousemove 1020 300; sleep 1'
+window "$walk/DE_H2/S5/S5.scen.jsn" "$images/subnet.png" "$station"' xdotool type "CS_Werne"; xdotool key Escape; xdotool mousemove 150 94 click 1 type "sub"; xdotool key Return; sleep 1; xdotool mousemove 60 233 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 765 440; sleep 0.5; xdotool click 3; sleep 1; xdotool mousemove 820 527 click 1; sleep 0.7; xdotool mousemove 600 527; sleep 0.3; xdotool click 1; sleep 2; sub=$(xdotool search --onlyvisible --name Subassembly | head -n 1); xdotool windowsize $sub 1200 900; sleep 0.5; xdotool windowfocus $sub; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool type "_V"; xdotool key Escape; xdotool key Return; sleep 1; xdotool mousemove 200 185 click 1; sleep 1'
+machine_map() { # COMPRESSOR PICTURE
+  window "$walk/DE_H2/S5/S5.scen.jsn" "$2" "$station xdotool type '$1'"'; xdotool key Escape; xdotool key Return; sleep 1; xdotool mousemove 60 233 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 765 440; sleep 0.5; xdotool click 3; sleep 1; xdotool mousemove 860 502 click 1; sleep 2; xdotool mousemove 1020 300; sleep 1'
+}
+machine_map CS_Rehden_C1 "$images/characteristics.png"
+machine_map CS_Rimpar_C1 "$images/piston.png"
 
 formats=$(mktemp -d)
 for format in png jpg bmp tif svg pdf ps; do

@@ -8,6 +8,10 @@ from .scenarios import units_to_m
 ISENTROPIC_EXPONENT = 1.405  # of hydrogen
 NOMINAL_SPEED = 8000.0  # 1/min
 SPEEDS = (4000, 5000, 6000, 7000, 8000, 9000)
+PISTONS = {"CS_Rimpar_C1"}  # little head, and a flow that changes much from season to season
+PISTON_SPEEDS = (120, 500)
+PISTON_NOMINAL_SPEED = 420.0
+PISTON_EFFICIENCY = 0.86
 COEFFICIENTS = [f"power{i}" for i in range(1, 10)] + [f"energy{i}" for i in range(1, 4)]
 
 
@@ -42,26 +46,42 @@ def _points(name, flow0, head0):
         yield "surge points", (name, speed, f"{flow:.5g}", f"{head:.5g}")
 
 
+def _piston(compressor, drive, flow, head):
+    """Displacement in m3 a turn, torque in kNm for a fifth more than the drive gives at its nominal speed."""
+    torque = 1.2 * 1000.0 * drive["powermax"] / (2.0 * math.pi * PISTON_NOMINAL_SPEED / 60.0)
+    ratio = 1.6 if head < 250.0 else 2.2
+    return (compressor, drive["machine"], *PISTON_SPEEDS, f"{flow * 60.0 / PISTON_NOMINAL_SPEED:.4g}", f"{torque:.4g}",
+            ratio, PISTON_EFFICIENCY)
+
+
 def write(path, net, outcomes):
     tables = {"turbo compressor": ["name;drive;speedmin;speedmax"], "points": ["name;speed;flow;head;efficiency"],
-              "surge points": ["name;speed;flow;head"], "gas turbine": ["name;" + ";".join(COEFFICIENTS)],
+              "surge points": ["name;speed;flow;head"],
+              "piston compressor": ["name;drive;speedmin;speedmax;displacement;torque;ratio;efficiency"],
+              "gas turbine": ["name;" + ";".join(COEFFICIENTS)],
               "electric motor": ["name;" + ";".join(COEFFICIENTS)]}
     for station in net.stations.values():
         for compressor in station["compressors"]:
             drive = net.elements[net.elements[compressor]["drive"]]
-            tables["turbo compressor"].append(f"{compressor};{drive['machine']};{SPEEDS[0]};{SPEEDS[-1]}")
-            for table, row in _points(compressor, *_design(net, compressor, outcomes)):
-                tables[table].append(";".join(map(str, row)))
+            nominal = NOMINAL_SPEED
+            design = _design(net, compressor, outcomes)
+            if compressor in PISTONS:
+                nominal = PISTON_NOMINAL_SPEED
+                tables["piston compressor"].append(";".join(map(str, _piston(compressor, drive, *design))))
+            else:
+                tables["turbo compressor"].append(f"{compressor};{drive['machine']};{SPEEDS[0]};{SPEEDS[-1]}")
+                for table, row in _points(compressor, *design):
+                    tables[table].append(";".join(map(str, row)))
             top = 1000.0 * drive["powermax"]
             turbine = drive["kind"] == "gasTurbine"
             # Proportional to the speed up to the nominal one, flat behind; a turbine gives less in warm air.
-            power = [0.0, 1.5 * top / NOMINAL_SPEED, -0.5 * top / NOMINAL_SPEED**2] + [0.0] * 6
+            power = [0.0, 1.5 * top / nominal, -0.5 * top / nominal**2] + [0.0] * 6
             if turbine:
                 power[3] = -0.004 * top
             energy = [0.08 * top, 2.6, 0.0] if turbine else [0.01 * top, 1.04, 0.0]
             row = ";".join([drive["machine"]] + [f"{c:.6g}" if c else "" for c in power + energy])
             tables["gas turbine" if turbine else "electric motor"].append(row)
-    order = ("turbo compressor", "points", "surge points", "gas turbine", "electric motor")
+    order = ("turbo compressor", "points", "surge points", "piston compressor", "gas turbine", "electric motor")
     text = "\n\n".join(f"[{name}]\n" + "\n".join(tables[name]) for name in order)
     path.write_text("# Machines of the compressor stations, fictional. Speeds 1/min, flows m3/s, heads kJ/kg, powers kW.\n"
                     + text + "\n", encoding="utf-8")

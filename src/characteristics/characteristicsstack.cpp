@@ -56,6 +56,18 @@ QString pointTable(const WorkingPoint &point) {
   return text;
 }
 
+QVector<QPointF> limitsOf(const PistonCompressor &machine, const Drive *drive, const Compression &compression) {
+  constexpr int Steps = 40;
+  QVector<QPointF> limits;
+  for (int i = 0; i <= Steps; ++i) {
+    const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Steps;
+    const auto ratio = WorkingPoint::largestRatio(machine, speed, drive, compression, AmbientTemperature);
+    if (ratio)
+      limits.append(QPointF(speed, *ratio));
+  }
+  return limits;
+}
+
 } // namespace
 
 CharacteristicsStack::CharacteristicsStack(const NetData &net, QWidget *parent)
@@ -188,7 +200,9 @@ CharacteristicsStack::Machine CharacteristicsStack::machine(const QString &eleme
   if (found.turbo != nullptr) {
     found.point = WorkingPoint::of(*found.turbo, driveOf(*e, found.turbo->drive), *compression, AmbientTemperature);
   } else if (found.piston != nullptr) {
-    found.point = WorkingPoint::of(*found.piston, driveOf(*e, found.piston->drive), *compression, AmbientTemperature);
+    const Drive *drive = driveOf(*e, found.piston->drive);
+    found.point = WorkingPoint::of(*found.piston, drive, *compression, AmbientTemperature);
+    found.limits = limitsOf(*found.piston, drive, *compression);
   } else if (found.drive != nullptr) {
     const QString driving = machineOf(*compressor);
     if (const TurboCompressor *turbo = m_machines.turbo(driving))
@@ -231,7 +245,7 @@ QWidget *CharacteristicsStack::makePage(const QString &elementName) const {
   if (found.turbo != nullptr) {
     plot->show(*found.turbo, found.point);
   } else if (found.piston != nullptr) {
-    plot->show(*found.piston, found.point);
+    plot->show(*found.piston, found.point, found.limits);
   } else {
     plot->show(*found.drive, found.point, AmbientTemperature);
     if (found.drive->energy) {

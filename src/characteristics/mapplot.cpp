@@ -223,21 +223,38 @@ void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPo
   finish();
 }
 
-void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point) {
+void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point,
+                   const QVector<QPointF> &limits) {
   constexpr double SecondsPerMinute = 60.0;
   constexpr double ShownRatio = 4.0; // of a machine that says no largest
+  constexpr int Speeds = 4;
   reset(tr("volume flow at the inlet [m³/s]"), tr("pressure ratio"));
   m_readout = [machine](const QPointF &at) {
     return tr("Q = %1 m³/s\nratio = %2\nn = %3 1/min")
         .arg(shown(at.x()), shown(at.y()), shown(at.x() / machine.displacement * SecondsPerMinute));
   };
-  const double first = machine.displacement * machine.speedMin / SecondsPerMinute;
-  const double last = machine.displacement * machine.speedMax / SecondsPerMinute;
-  const double top = machine.maximalRatio > 0.0 ? machine.maximalRatio : ShownRatio;
-  addArea({{first, 1.0}, {last, 1.0}, {last, top}, {first, top}});
-  addLine({{first, 1.0}, {first, top}}, QPen(Blue, 2.0), tr("%1 /min").arg(shown(machine.speedMin)));
-  addLine({{last, 1.0}, {last, top}}, QPen(Blue, 2.0), tr("%1 /min").arg(shown(machine.speedMax)));
-  addLine({{first, top}, {last, top}}, QPen(Red, machine.maximalRatio > 0.0 ? 2.0 : 0.5));
+  const auto flow = [&machine](double speed) {
+    return machine.displacement * speed / SecondsPerMinute;
+  };
+  QVector<QPointF> top; // from the smallest speed to the largest
+  for (const QPointF &limit : limits)
+    top.append(QPointF(flow(limit.x()), std::max(1.0, limit.y())));
+  const bool isLimited = !top.isEmpty() || machine.maximalRatio > 0.0;
+  if (top.isEmpty()) {
+    const double ratio = machine.maximalRatio > 0.0 ? machine.maximalRatio : ShownRatio;
+    top = {{flow(machine.speedMin), ratio}, {flow(machine.speedMax), ratio}};
+  }
+  QVector<QPointF> outline{{top.last().x(), 1.0}, {top.first().x(), 1.0}};
+  addArea(outline + top);
+  for (int i = 0; i <= Speeds; ++i) {
+    const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Speeds;
+    const auto end =
+        std::find_if(top.begin(), top.end(), [&](const QPointF &at) { return at.x() >= flow(speed) * (1.0 - 1e-9); });
+    const double ratio = end == top.end() ? top.last().y() : end->y();
+    addLine({{flow(speed), 1.0}, {flow(speed), ratio}}, QPen(Blue, i == 0 || i == Speeds ? 2.0 : 1.0),
+            tr("%1 /min").arg(shown(speed)), (i == Speeds ? Qt::AlignHCenter : Qt::AlignRight) | Qt::AlignTop);
+  }
+  addLine(top, QPen(Red, isLimited ? 2.0 : 0.5));
   if (point)
     addWorkingPoint({point->flow, point->ratio}, point->isInside);
   finish();

@@ -9,6 +9,7 @@ namespace {
 constexpr double GasConstant = 8.314462618; // kJ/(kmol K)
 constexpr double KiloPascalPerBar = 100.0;
 constexpr double NormFlowsPerSecond = 1000.0 / 3600.0; // from 1000 m3/h
+constexpr double SecondsPerMinute = 60.0;
 constexpr double Pi = 3.14159265358979323846;
 
 QString tr(const char *text) {
@@ -90,6 +91,29 @@ double Compression::adiabaticHead() const {
   return realGasFactor() * GasConstant / molarMass * inletTemperature / k * (std::pow(ratio(), k) - 1.0);
 }
 
+double Compression::ratioOf(double head) const {
+  const double k = (exponent - 1.0) / exponent;
+  return std::pow(1.0 + head * k * molarMass / (realGasFactor() * GasConstant * inletTemperature), 1.0 / k);
+}
+
+std::optional<double> WorkingPoint::largestRatio(const PistonCompressor &machine, double speed, const Drive *drive,
+                                                 const Compression &compression, double ambientTemperature) {
+  std::optional<double> largest;
+  const auto take = [&largest](double ratio) {
+    largest = largest ? std::min(*largest, ratio) : ratio;
+  };
+  if (machine.maximalRatio > 0.0)
+    take(machine.maximalRatio);
+  const double massPerTurn = compression.density() * machine.displacement; // kg
+  if (machine.efficiency > 0.0 && machine.maximalTorque > 0.0)
+    take(compression.ratioOf(machine.maximalTorque * 2.0 * Pi * machine.efficiency / massPerTurn));
+  if (machine.efficiency > 0.0 && drive != nullptr && drive->power && speed > 0.0) {
+    const double power = std::max(0.0, (*drive->power)(ambientTemperature, speed));
+    take(compression.ratioOf(power * machine.efficiency / (massPerTurn * speed / SecondsPerMinute)));
+  }
+  return largest;
+}
+
 void WorkingPoint::takeDrive(const Drive *drive, double massFlow, double ambientTemperature) {
   if (efficiency && *efficiency > 0.0)
     power = massFlow * head / *efficiency;
@@ -140,7 +164,6 @@ WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive
 
 WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *drive, const Compression &compression,
                               double ambientTemperature) {
-  constexpr double SecondsPerMinute = 60.0;
   WorkingPoint point;
   point.flow = compression.volumeFlow();
   point.head = compression.adiabaticHead();

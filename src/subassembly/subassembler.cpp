@@ -30,6 +30,8 @@ struct Keys {
   PropertyKey icon = PropertyKey::intern("icon");
   PropertyKey constraints = PropertyKey::intern("constraints");
   PropertyKey elements = PropertyKey::intern("elements");
+  PropertyKey gasnode = PropertyKey::intern("gasnode");
+  PropertyKey driven = PropertyKey::intern("driven");
   PropertyKey visSize = PropertyKey::intern("vis.size");
 };
 
@@ -121,6 +123,12 @@ const SubAssembler::Variant &SubAssembler::variant(const QString &name) {
     } else {
       content.net = net;
       content.plan = std::make_shared<const TemplatePlan>(*net);
+      for (const elements::Entry &entry : net->assembledSubnets()) {
+        if (entry.name().compare(recordName(), Qt::CaseInsensitive) != 0)
+          content.findings.push_back(
+              {Finding::Severity::Warning, file, 0,
+               QStringLiteral("Templates do not hold other subnets: %1 is left out").arg(entry.name()), QString()});
+      }
     }
     return content;
   });
@@ -278,6 +286,9 @@ void SubAssembler::placeSubnet(element &subnet, const std::vector<Pin> &pins) {
 /// A node that the network lacks, to be saved by hand.
 void SubAssembler::createPin(const element &source, const QString &name, const QPointF &at) {
   element pin = source;
+  pin.set(QStringLiteral("refEle"), source.value(keys().name));
+  for (const PropertyKey key : {keys().gasnode, keys().driven})
+    pin.erase(key);
   pin.set(keys().name, PropertyText(name));
   pin.set(keys().x, PropertyText::ofNumber(at.x()));
   pin.set(keys().y, PropertyText::ofNumber(at.y()));

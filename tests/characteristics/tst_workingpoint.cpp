@@ -7,6 +7,7 @@
 
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <qwt_scale_div.h>
 
 #include <cmath>
 
@@ -21,6 +22,7 @@ private slots:
   void outsideOfTheMap_data();
   void outsideOfTheMap();
   void piston();
+  void pistonLimits();
   void stackOpensAndKeeps();
   void stackWithoutData();
   void picturesOfMaps_data();
@@ -157,6 +159,43 @@ void TestWorkingPoint::piston() {
   QVERIFY(!WorkingPoint::of(m, nullptr, natural(), 10.0).isInside);
 }
 
+/// What limits the machine where it works is what its largest ratio comes from.
+void TestWorkingPoint::pistonLimits() {
+  PistonCompressor m;
+  m.name = QStringLiteral("unknown"); // the machine that K names
+  m.displacement = 0.5;
+  m.speedMin = 200;
+  m.speedMax = 400;
+  m.efficiency = 0.85;
+  const Compression c = natural();
+  const auto largest = [&](double speed, const Drive *drive) {
+    return WorkingPoint::largestRatio(m, speed, drive, c, 10.0);
+  };
+  QVERIFY(!largest(300, nullptr).has_value());
+  const WorkingPoint point = WorkingPoint::of(m, nullptr, c, 10.0);
+  QVERIFY(std::abs(c.ratioOf(point.head) - c.ratio()) < 1e-12);
+  m.maximalTorque = *point.power * 60.0 / (2.0 * 3.14159265358979323846 * *point.speed);
+  QVERIFY(std::abs(*largest(200, nullptr) - c.ratio()) < 1e-12); // at any speed
+  Drive drive;
+  drive.power = Biquadratic{{*point.power}};
+  QVERIFY(std::abs(*largest(*point.speed, &drive) - c.ratio()) < 1e-12);
+  QVERIFY(*largest(400, &drive) < c.ratio()); // the same power at a larger flow
+  drive.power = Biquadratic{{-5.0}};
+  QCOMPARE(*largest(300, &drive), 1.0);
+  m.maximalRatio = 1.1;
+  QCOMPARE(*largest(300, nullptr), 1.1);
+
+  MachineData pistons;
+  pistons.pistons.push_back(m);
+  element &edge = m_net->edges().at(QStringLiteral("M"));
+  edge.set(QStringLiteral("machine"), QStringLiteral("unknown"));
+  CharacteristicsStack stack(*m_net);
+  stack.setMachines(pistons);
+  QVERIFY(stack.open(QStringLiteral("M")));
+  QVERIFY2(stack.summary(QStringLiteral("M")).contains(QStringLiteral("ratio is above the largest")),
+           qPrintable(stack.summary(QStringLiteral("M"))));
+}
+
 void TestWorkingPoint::stackOpensAndKeeps() {
   const QTemporaryDir folder;
   const QString file = folder.filePath(QStringLiteral("characteristics.txt"));
@@ -217,6 +256,10 @@ void TestWorkingPoint::picturesOfMaps() {
   piston.speedMin = 200;
   piston.speedMax = 400;
   plot.show(piston, std::nullopt);
+  QCOMPARE(plot.axisScaleDiv(QwtPlot::xBottom).contains(0.5 * 400 / 60), true);
+  plot.show(piston, point, {{200, 3.0}, {400, 0.5}}); // a limit below 1 is one at 1
+  QVERIFY(plot.axisScaleDiv(QwtPlot::yLeft).lowerBound() >= 0.5);
+  QVERIFY(plot.readout({0.5 * 300 / 60, 1.5}).contains(QStringLiteral("n = 300")));
   plot.show(d.turbos[0], point);
   const QString text = plot.readout({point.flow, point.head});
   QVERIFY2(text.contains(QStringLiteral("η = 80 %")), qPrintable(text));

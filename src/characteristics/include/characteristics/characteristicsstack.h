@@ -35,6 +35,7 @@ private:
     const PistonCompressor *piston = nullptr;
     const Drive *drive = nullptr;
     std::optional<WorkingPoint> point;
+    QVector<QPointF> limits; ///< of a piston compressor: the largest ratio over the speed
 
     bool isThere() const { return turbo != nullptr || piston != nullptr || drive != nullptr; }
   };

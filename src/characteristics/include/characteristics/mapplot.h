@@ -16,7 +16,8 @@ public:
   explicit MapPlot(QWidget *parent = nullptr);
 
   void show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point);
-  void show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point);
+  /// \param limits the largest pressure ratio over the speed in 1/min; empty when only the machine's own limit is known
+  void show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point, const QVector<QPointF> &limits = {});
   /// \param point power and speed of it are shown; \param temperature ambient, degC
   void show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature);
   /// What the drive takes over its power.

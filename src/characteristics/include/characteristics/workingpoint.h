@@ -33,6 +33,8 @@ struct Compression {
   double volumeFlow() const; ///< m3/s at the inlet
   /// kJ/kg, z R T k/(k-1) (ratio^((k-1)/k) - 1).
   double adiabaticHead() const;
+  /// The ratio to which a head in kJ/kg compresses.
+  double ratioOf(double head) const;
 };
 
 /// Where a machine works.
@@ -53,6 +55,11 @@ struct WorkingPoint {
                          double ambientTemperature);
   static WorkingPoint of(const PistonCompressor &machine, const Drive *drive, const Compression &compression,
                          double ambientTemperature);
+
+  /// The largest pressure ratio that a piston compressor reaches at a speed, by its own limit, its torque and the power of
+  /// its drive; nothing when none of them is known. P = rho Q H / eta, M = rho V H / (2 pi eta).
+  static std::optional<double> largestRatio(const PistonCompressor &machine, double speed, const Drive *drive,
+                                            const Compression &compression, double ambientTemperature);
 
 private:
   void takeDrive(const Drive *drive, double massFlow, double ambientTemperature);
