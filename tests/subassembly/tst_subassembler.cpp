@@ -26,6 +26,7 @@ private slots:
   void erasedWithoutDefault();
   void faultyTemplates_data();
   void faultyTemplates();
+  void templatesDoNotNest();
   void formulasAndConstraints();
   void foldersAreCached();
   void manySubnets();
@@ -191,6 +192,7 @@ void TestSubAssembler::missingPinsAreMade() {
   QVERIFY(result.newPins);
   QCOMPARE(value("doSave", "Gone"), QStringLiteral("false"));
   QCOMPARE(value("vis", "Gone"), QStringLiteral("AUTO"));
+  QCOMPARE(value("refEle", "Gone"), QStringLiteral("Out"));
   QCOMPARE(value("x", "Gone"), QStringLiteral("60")); // half of the template's 100 beside the middle
   QVERIFY(texts(result.findings).contains(QStringLiteral("This pin is new and needs saving: Gone")));
   QVERIFY(texts(result.findings).contains(QStringLiteral("Save manually!")));
@@ -263,6 +265,18 @@ void TestSubAssembler::faultyTemplates() {
   const SubAssembler::Result result = assemble();
   QVERIFY2(texts(result.findings).contains(message), qPrintable(texts(result.findings)));
   QCOMPARE(result.replaced, 2);
+}
+
+/// A template that holds itself would never end.
+void TestSubAssembler::templatesDoNotNest() {
+  writeTemplate(QStringLiteral("cyclic"), "inner;\"In;Out\";1;x\n[subnet]\nname;variant;pins\ninner2;cyclic;\"In;Out\"\n");
+  addSubnet("S", "cyclic", "N1;N2");
+  const SubAssembler::Result result = assemble();
+  QCOMPARE(result.assembled, 1);
+  QVERIFY2(texts(result.findings).contains(QStringLiteral("Templates do not hold other subnets: inner2 is left out")),
+           qPrintable(texts(result.findings)));
+  QCOMPARE(m_net->edges().size(), std::size_t(2));
+  QCOMPARE(m_net->assembledSubnets().size(), std::size_t(1));
 }
 
 void TestSubAssembler::formulasAndConstraints() {
