@@ -19,7 +19,12 @@ KG_PER_S_TO_Q = 3.6 / RHO_NORM  # 1000 m3/h of a kg/s
 # What stations take away, as K in bar² s²/kg²
 STATION_FRICTION = {"valve": 0.002, "cooler": 0.004, "heater": 0.004, "flaptrap": 0.003, "resistor": 0.012, "shortcut": 0.0}
 
-MARKED_STATIONS = ("Werne", "Radeland", "Reckrod")  # those that are subnets: two electric machines each
+# What is a subnet, made of a template when the network is opened: compressor stations with two electric machines each,
+# the entry to a region, the metering run of a terminal, and a place where three lines meet.
+MARKED_STATIONS = ("Werne", "Radeland", "Reckrod")
+REGULATOR_STATIONS = ("München",)
+METERING_STATIONS = ("Brunsbüttel",)
+VALVE_JUNCTIONS = ("Schweinfurt",)
 
 METERED_ENTRIES = {"Emden": "shortcut", "Lubmin": "shortcut", "Elten": "shortcut", "Waidhaus": "shortcut",
                    "Ellund": "shortcut", "Wilhelmshaven": "resistor", "Stade": "resistor", "Brunsbüttel": "resistor"}
@@ -33,6 +38,7 @@ class Network:
         self.edges = []
         self.offtakes = {}  # node: (kg/s at the winter peak, its class: city, industry, import, storage, ...)
         self.stations = {}  # name: what a station's control has to know
+        self.inside = {}  # name of an element inside of a subnet: the name that it gets when it is made of the template
 
     def nodes(self):
         return [name for name, e in self.elements.items() if e["obj_type"] == "node"]
@@ -107,7 +113,9 @@ def build():
     for name, region in places.REGIONS.items():
         _add_region(net, name, *region)
     for name in MARKED_STATIONS:
-        _add_subnet(net, name)
+        _add_marked_station(net, name)
+    for name in VALVE_JUNCTIONS:
+        _add_valve_junction(net, name)
     _add_texts(net)
     return net
 
@@ -202,8 +210,11 @@ def _add_entries(net):
             entry = net.add_node_beside("E_" + name, node, 1600, 1200, "entries")
             word = METERED_ENTRIES[name]
             extra = {"zeta": 5.0, "diameter": 800.0} if word == "resistor" else {}
-            net.add_edge(f"{METERING_PREFIX[word]}_{name}", word, (entry, node), "entries", qmin=-4000.0,
-                         qmax=4000.0, **extra)
+            if name in METERING_STATIONS:
+                _add_metering_station(net, "MS_" + name, entry, node)
+            else:
+                net.add_edge(f"{METERING_PREFIX[word]}_{name}", word, (entry, node), "entries", qmin=-4000.0,
+                             qmax=4000.0, **extra)
             node = entry
         net.add_offtake(node, -float(flow), kind)
 
@@ -223,11 +234,11 @@ def _add_region(net, name, own, towns):
     node = "N_" + name
     gate = net.add_node_beside(f"R_{name}", node, 2000, -1200, "regional", REGIONAL)
     net.add_offtake(gate, own, "city")
-    for i in (1, 2):
-        active = i == 1
-        net.add_edge(f"RG_{name}_{i}", "regulator", (node, gate), "regional", "outlet" if active else "shut",
-                     REGIONAL_SET_POINT, pset=REGIONAL_SET_POINT, state="active" if active else "off",
-                     pinmin=TRANSMISSION[0], poutmax=REGIONAL[1], qmin=0.0, qmax=1500.0)
+    if name in REGULATOR_STATIONS:
+        _add_regulator_station(net, "RG_" + name, node, gate)
+    else:
+        for i in (1, 2):
+            _add_regulator(net, f"RG_{name}_{i}", (node, gate), i == 1)
     for town, lon, lat, flow, source in towns:
         sink = net.add_node(f"R_{town}", (lon, lat), "regional", REGIONAL)
         net.add_offtake(sink, flow, "city")
@@ -235,15 +246,88 @@ def _add_region(net, name, own, towns):
         net.add_pipe(f"P_{source or name}_{town}_1", (start, sink), 600 if not source else 400, "regional", REGIONAL[1])
 
 
-def _add_subnet(net, name):
-    pins = net.stations[name]["in"], net.stations[name]["out"]
-    (x0, y0), (x1, y1) = ((net.elements[p]["x"], net.elements[p]["y"]) for p in pins)
-    net.elements["CS_" + name] = {
-        "obj_type": "subnet", "x": round((x0 + x1) / 2, 1), "y": round((y0 + y1) / 2, 1), "variant": "compressor_station",
-        "pins": ";".join(pins), "main_element": net.stations[name]["compressors"][0],
-        "width": round(math.hypot(x1 - x0, y1 - y0), 1), "rotation": round(math.degrees(math.atan2(y1 - y0, x1 - x0)), 3),
-        "vis.size": 24, "vis.layer": "stations",
+def _add_regulator(net, name, ends, active):
+    net.add_edge(name, "regulator", ends, "regional", "outlet" if active else "shut", REGIONAL_SET_POINT,
+                 pset=REGIONAL_SET_POINT, state="active" if active else "off", pinmin=TRANSMISSION[0], poutmax=REGIONAL[1],
+                 qmin=0.0, qmax=1500.0)
+
+
+def _add_subnet(net, name, variant, pins, main_element, inside, size):
+    """inside: from the names of elements to those that the template gives them."""
+    (x0, y0), (x1, y1) = ((net.elements[p]["x"], net.elements[p]["y"]) for p in pins[:2])
+    positions = [(net.elements[p]["x"], net.elements[p]["y"]) for p in pins]
+    net.elements[name] = {
+        "obj_type": "subnet", "x": round(sum(x for x, _ in positions) / len(pins), 1),
+        "y": round(sum(y for _, y in positions) / len(pins), 1), "variant": variant, "pins": ";".join(pins),
+        "main_element": main_element, "width": round(math.hypot(x1 - x0, y1 - y0), 1),
+        "rotation": round(math.degrees(math.atan2(y1 - y0, x1 - x0)), 3), "vis.size": size, "vis.layer": "stations",
     }
+    net.inside.update(inside)
+
+
+def _add_marked_station(net, name):
+    prefix = f"CS_{name}_"
+    pins = net.stations[name]["in"], net.stations[name]["out"]
+    inside = {}
+    for element in net.elements:
+        if element.startswith("D_" + prefix):
+            inside[element] = prefix + "D" + element[len("D_" + prefix) + 1:]
+        elif element.startswith(prefix) and element not in pins:
+            inside[element] = element
+    _add_subnet(net, "CS_" + name, "compressor_station", pins, net.stations[name]["compressors"][0], inside, 24)
+
+
+def _add_inside(net, name, node, parts, edges):
+    """Nodes beside another one, and edges of (word, first end, second end, further arguments), by the template's names."""
+    for part, bounds in parts.items():
+        net.add_node_beside(f"{name}_{part}", node, 0.0, 0.0, "stations", bounds)
+    for part, (word, *ends, extra) in edges.items():
+        if word == "regulator":
+            _add_regulator(net, f"{name}_{part}", ends, **extra)
+        else:
+            net.add_edge(f"{name}_{part}", word, ends, "stations", **extra)
+    return {key: key for key in (f"{name}_{part}" for part in (*parts, *edges))}
+
+
+def _add_regulator_station(net, name, before, behind):
+    a1, a2, b1, b2 = (f"{name}_{part}" for part in ("A1", "A2", "B1", "B2"))
+    inside = _add_inside(net, name, before, {"A1": TRANSMISSION, "A2": TRANSMISSION, "B1": REGIONAL, "B2": REGIONAL},
+                         {"V1": ("valve", before, a1, {}), "V2": ("valve", before, a2, {}), "V3": ("valve", b1, behind, {}),
+                          "V4": ("valve", b2, behind, {}), "R1": ("regulator", a1, b1, {"active": True}),
+                          "R2": ("regulator", a2, b2, {"active": False})})
+    _add_subnet(net, name, "regulator_station", (before, behind), name + "_R1", inside, 20)
+
+
+def _add_metering_station(net, name, before, behind):
+    a, b = name + "_A", name + "_B"
+    inside = _add_inside(net, name, before, {"A": TRANSMISSION, "B": TRANSMISSION},
+                         {"V1": ("valve", before, a, {}), "V2": ("valve", b, behind, {}), "M": ("resistor", a, b, {}),
+                          "BP": ("valve", before, behind, {"law": "shut"})})
+    _add_subnet(net, name, "metering_station", (before, behind), name + "_M", inside, 20)
+
+
+def _add_valve_junction(net, place):
+    """The pipes of a place keep apart: the second and the third get end nodes of their own."""
+    name, node = "VJ_" + place, "N_" + place
+    pins = node, *(net.add_node_beside(f"{node}_{pin}", node, dx, dy, "backbone")
+                   for pin, dx, dy in (("B", 800.0, 0.0), ("C", 400.0, -400.0)))
+    pipes = [edge for edge in net.edges if node in (edge.node1, edge.node2)]
+    assert len(pipes) == 3, f"{place} has {len(pipes)} pipes"
+    pipes.sort(key=lambda edge: _eastward(net, edge, node))  # the one from the west stays, the one to the east goes to B
+    for edge, pin in ((pipes[2], pins[1]), (pipes[1], pins[2])):
+        for end in ("node1", "node2"):
+            if getattr(edge, end) == node:
+                setattr(edge, end, pin)
+                net.elements[edge.name][end] = pin
+    middle = name + "_M"
+    inside = _add_inside(net, name, node, {"M": TRANSMISSION},
+                         {"VA": ("valve", pins[0], middle, {}), "VB": ("valve", middle, pins[1], {}),
+                          "VC": ("valve", middle, pins[2], {})})
+    _add_subnet(net, name, "valve_junction", pins, name + "_VA", inside, 20)
+
+
+def _eastward(net, edge, node):
+    return net.elements[edge.node2 if edge.node1 == node else edge.node1]["x"]
 
 
 def _add_texts(net):

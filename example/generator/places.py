@@ -99,19 +99,19 @@ INDUSTRIES = {
 
 # place: (offtake of the city itself, its neighbours as (town, lon, lat, offtake in kg/s, fed from)); "" is the city
 REGIONS = {
-    "Hamburg": (9.0, (("Harburg", 9.98, 53.43, 6.1, ""), ("Norderstedt", 10.01, 53.70, 4.3, ""))),
+    "Hamburg": (13.3, (("Harburg", 9.98, 53.43, 6.1, ""),)),
     "Bremen": (6.1, (("Delmenhorst", 8.62, 53.05, 4.0, ""),)),
-    "Berlin": (14.4, (("Spandau", 13.20, 52.54, 7.2, ""), ("Köpenick", 13.58, 52.45, 6.5, ""))),
-    "Hannover": (6.5, (("Garbsen", 9.59, 52.43, 4.7, ""),)),
-    "Leipzig": (6.1, (("Markkleeberg", 12.37, 51.27, 4.0, ""),)),
-    "Dresden": (5.8, (("Radebeul", 13.65, 51.11, 2.9, ""), ("Pirna", 13.94, 50.96, 2.9, ""))),
-    "Dortmund": (7.2, (("Bochum", 7.22, 51.48, 7.2, ""), ("Unna", 7.69, 51.54, 3.6, ""))),
+    "Berlin": (20.9, (("Spandau", 13.20, 52.54, 7.2, ""),)),
+    "Hannover": (11.2, ()),
+    "Leipzig": (10.1, ()),
+    "Dresden": (8.7, (("Radebeul", 13.65, 51.11, 2.9, ""),)),
+    "Dortmund": (10.8, (("Bochum", 7.22, 51.48, 7.2, ""),)),
     "Köln": (9.0, (("Leverkusen", 6.99, 51.03, 5.8, ""),)),
-    "Frankfurt": (9.0, (("Hanau", 8.92, 50.13, 4.3, ""),)),
+    "Frankfurt": (13.3, ()),
     "Stuttgart": (8.1, (("Ludwigsburg", 9.19, 48.90, 4.7, ""), ("Esslingen", 9.31, 48.74, 4.0, ""),
                   ("Göppingen", 9.65, 48.70, 2.5, "Esslingen"))),
-    "Nürnberg": (6.5, (("Erlangen", 11.00, 49.60, 4.0, ""),)),
-    "München": (12.6, (("Freising", 11.75, 48.40, 3.6, ""), ("Dachau", 11.43, 48.26, 4.3, ""))),
+    "Nürnberg": (10.5, ()),
+    "München": (16.9, (("Freising", 11.75, 48.40, 3.6, ""),)),
 }
 
 # name: (lon, lat, number of machines, drive, discharge pressure aimed at in bar at the winter peak)

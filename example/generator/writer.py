@@ -4,10 +4,10 @@ import json
 import math
 
 from .hydraulics import CALORIFIC_VALUE, COMPRESSOR_EFFICIENCY, HEAT_CAPACITY, MOLAR_MASS, RHO_NORM, density
-from .network import CRITICAL_POINT, MARKED_STATIONS
+from .network import CRITICAL_POINT
 from .places import REFERENCE_NODE
 from .scenarios import SCENARIOS, units_to_m, units_to_q
-from .subnets import created_names, outside, sub_results
+from .subnets import outside, sub_results
 
 PLOT_SETTINGS = """[General]
 colorFunc=p
@@ -77,7 +77,7 @@ def write_document(path, value):
 
 
 def write_geometry(directory, net):
-    elements = outside(net.elements, created_names(net, MARKED_STATIONS))
+    elements = outside(net.elements, net.inside)
     write_lines(directory / f"{directory.name}.geom.jsn", elements)
     about = json.dumps({"source": "fictional network, made by make_example.py", "projection": "UTM zone 32, GRS80, metres"})
     (directory / f"{directory.name}.geom.cfg").write_text(
@@ -88,11 +88,10 @@ def write_geometry(directory, net):
 def write_scenario(directory, net, outcome):
     name = directory.name
     directory.mkdir(parents=True, exist_ok=True)
-    inside = created_names(net, MARKED_STATIONS)
     values, results = _set_points(net, outcome), _results(net, outcome)
-    write_lines(directory / f"{name}.scen.jsn", outside(values, inside))
-    write_lines(directory / f"{name}.res.jsn", outside(results, inside))
-    write_lines(directory / f"{name}.res.sub.jsn", sub_results(net, inside, values, results))
+    write_lines(directory / f"{name}.scen.jsn", outside(values, net.inside))
+    write_lines(directory / f"{name}.res.jsn", outside(results, net.inside))
+    write_lines(directory / f"{name}.res.sub.jsn", sub_results(net, values, results))
     write_lines(directory / f"{name}.gas.jsn", {"Hydrogen": {"obj_type": "gas", "rhon": RHO_NORM, "molarmass": MOLAR_MASS,
                                                              "hs": CALORIFIC_VALUE, **CRITICAL_POINT}})
     write_document(directory / "scenconfig.jsn", {
