@@ -28,9 +28,13 @@ QString row(const QString &name, const QString &value) {
 QString fitText(const QString &what, const Fits::Quality &quality, const QString &unit) {
   if (!quality.ok)
     return QString();
+  constexpr double Rounding = 1e-9; // below it a residual says nothing about the points
+  const auto residual = [](double value) {
+    return number(value < Rounding ? 0.0 : value, 3);
+  };
   return CharacteristicsStack::tr("%1 fitted: largest residual %2%3, mean %4%3, condition %5")
-             .arg(what, number(quality.largestResidual, 3), unit.isEmpty() ? unit : QLatin1Char(' ') + unit,
-                  number(quality.meanResidual, 3), number(quality.condition, 3)) +
+             .arg(what, residual(quality.largestResidual), unit.isEmpty() ? unit : QLatin1Char(' ') + unit,
+                  residual(quality.meanResidual), number(quality.condition, 3)) +
          QStringLiteral("<br/>");
 }
 

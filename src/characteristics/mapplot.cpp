@@ -33,6 +33,26 @@ QString shown(double number, int digits = 4) {
   return std::abs(number) >= Whole ? QString::number(number, 'f', 0) : QString::number(number, 'g', digits);
 }
 
+/// Both ends of a range and round numbers between them, about half a dozen.
+std::vector<double> roundValues(double from, double to) {
+  constexpr double Parts = 6.0;
+  if (!(to > from))
+    return {from};
+  const double smallest = (to - from) / Parts;
+  const double power = std::pow(10.0, std::floor(std::log10(smallest)));
+  double step = 10.0 * power;
+  for (const double factor : {5.0, 2.5, 2.0, 1.0}) {
+    if (factor * power >= smallest * (1.0 - 1e-9))
+      step = factor * power;
+  }
+  constexpr double Apart = 0.4; // of a step from the ends
+  std::vector<double> values{from};
+  for (double value = std::ceil(from / step + Apart) * step; value <= to - Apart * step; value += step)
+    values.push_back(value);
+  values.push_back(to);
+  return values;
+}
+
 /// Zooms with what stands under the cursor beside it.
 class ReadingZoomer : public QwtPlotZoomer {
 public:
@@ -99,6 +119,13 @@ void MapPlot::addLine(const QVector<QPointF> &points, const QPen &pen, const QSt
   marker->attach(this);
 }
 
+void MapPlot::addRoom(const QPointF &to) {
+  auto *marker = new QwtPlotMarker;
+  marker->setValue(to);
+  marker->setItemAttribute(QwtPlotItem::AutoScale);
+  marker->attach(this);
+}
+
 void MapPlot::addArea(const QVector<QPointF> &outline) {
   auto *area = new QwtPlotShapeItem;
   area->setPolygon(QPolygonF(outline));
@@ -136,9 +163,13 @@ void MapPlot::finish() {
 }
 
 /// Points of equal efficiency, speed by speed: the efficiency is quadratic in the flow, so each speed has two of them.
-void MapPlot::addEfficiencies(const TurboCompressor &machine) {
+void MapPlot::addEfficiencies(const TurboCompressor &machine, const QPointF &corner) {
   if (!machine.efficiency)
     return;
+  constexpr double Beside = 0.15; // of the corner's own coordinates
+  const auto isBeside = [&corner](const QPointF &at) {
+    return std::abs(at.x() - corner.x()) < Beside * corner.x() && std::abs(at.y() - corner.y()) < Beside * corner.y();
+  };
   for (int percent = 50; percent < 95; percent += 5) {
     QVector<QPointF> rising;
     QVector<QPointF> falling;
@@ -153,8 +184,10 @@ void MapPlot::addEfficiencies(const TurboCompressor &machine) {
         (isRising ? rising : falling).append(QPointF(flow, (*machine.head)(flow, speed)));
       }
     }
-    for (const QVector<QPointF> &branch : {rising, falling})
-      addLine(branch, QPen(Green, 1.0, Qt::DashLine), QStringLiteral("%1 %").arg(percent));
+    for (const QVector<QPointF> &branch : {rising, falling}) {
+      const bool isFree = !branch.isEmpty() && !isBeside(branch.last());
+      addLine(branch, QPen(Green, 1.0, Qt::DashLine), isFree ? QStringLiteral("%1 %").arg(percent) : QString());
+    }
   }
 }
 
@@ -183,23 +216,24 @@ void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPo
         choke.append(QPointF(flows->second, (*machine.head)(flows->second, speed)));
       }
     }
-    constexpr int Lines = 6;
     QVector<QPointF> top;
     QVector<QPointF> bottom;
-    for (int i = 0; i <= Lines; ++i) {
-      const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Lines;
+    for (const double speed : roundValues(machine.speedMin, machine.speedMax)) {
       const auto flows = machine.flows(speed);
       QVector<QPointF> line;
       for (int k = 0; flows && k <= Steps; ++k) {
         const double flow = flows->first + (flows->second - flows->first) * k / Steps;
         line.append(QPointF(flow, (*machine.head)(flow, speed)));
       }
-      const bool isEdge = i == 0 || i == Lines;
+      const bool isEdge = speed == machine.speedMin || speed == machine.speedMax;
       addLine(line, QPen(Blue, isEdge ? 2.0 : 1.0), tr("%1 /min").arg(shown(speed)));
-      if (i == 0)
+      if (speed == machine.speedMin)
         bottom = line;
       top = line;
     }
+    const QPointF corner = top.isEmpty() ? QPointF() : top.last();
+    constexpr double LabelRoom = 1.15;
+    addRoom({corner.x() * LabelRoom, corner.y()});
     QVector<QPointF> outline = bottom;
     outline += choke;
     std::reverse(top.begin(), top.end());
@@ -207,9 +241,10 @@ void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPo
     std::reverse(surge.begin(), surge.end());
     outline += surge;
     addArea(outline);
-    addLine(surge, QPen(Red, 2.0), machine.surge ? tr("surge") : QString());
-    addLine(choke, QPen(Orange, 2.0), machine.choke ? tr("choke") : QString());
-    addEfficiencies(machine);
+    std::reverse(choke.begin(), choke.end()); // labels stand at the ends of small heads
+    addLine(surge, QPen(Red, 2.0), machine.surge ? tr("surge") : QString(), Qt::AlignRight | Qt::AlignBottom);
+    addLine(choke, QPen(Orange, 2.0), machine.choke ? tr("choke") : QString(), Qt::AlignLeft | Qt::AlignBottom);
+    addEfficiencies(machine, corner);
   }
   QVector<QPointF> dots;
   for (const auto *points : {&machine.points, &machine.surgePoints}) {
@@ -227,7 +262,6 @@ void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingP
                    const QVector<QPointF> &limits) {
   constexpr double SecondsPerMinute = 60.0;
   constexpr double ShownRatio = 4.0; // of a machine that says no largest
-  constexpr int Speeds = 4;
   reset(tr("volume flow at the inlet [m³/s]"), tr("pressure ratio"));
   m_readout = [machine](const QPointF &at) {
     return tr("Q = %1 m³/s\nratio = %2\nn = %3 1/min")
@@ -246,13 +280,13 @@ void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingP
   }
   QVector<QPointF> outline{{top.last().x(), 1.0}, {top.first().x(), 1.0}};
   addArea(outline + top);
-  for (int i = 0; i <= Speeds; ++i) {
-    const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Speeds;
+  for (const double speed : roundValues(machine.speedMin, machine.speedMax)) {
     const auto end =
         std::find_if(top.begin(), top.end(), [&](const QPointF &at) { return at.x() >= flow(speed) * (1.0 - 1e-9); });
     const double ratio = end == top.end() ? top.last().y() : end->y();
-    addLine({{flow(speed), 1.0}, {flow(speed), ratio}}, QPen(Blue, i == 0 || i == Speeds ? 2.0 : 1.0),
-            tr("%1 /min").arg(shown(speed)), (i == Speeds ? Qt::AlignHCenter : Qt::AlignRight) | Qt::AlignTop);
+    const bool isEdge = speed == machine.speedMin || speed == machine.speedMax;
+    addLine({{flow(speed), 1.0}, {flow(speed), ratio}}, QPen(Blue, isEdge ? 2.0 : 1.0), tr("%1 /min").arg(shown(speed)),
+            (speed == machine.speedMax ? Qt::AlignHCenter : Qt::AlignRight) | Qt::AlignTop);
   }
   addLine(top, QPen(Red, isLimited ? 2.0 : 0.5));
   if (point)

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -29,6 +30,24 @@ const element *gasSource(const NetData &net) {
       return &entry.value;
   }
   return nullptr;
+}
+
+/// Of the speeds that give the head those at which it grows with the speed, and of these the one nearest to the range of the
+/// machine; none where that is far beyond it, since the function was made for the range.
+std::optional<double> speedFor(const TurboCompressor &machine, double flow, double head) {
+  constexpr double Farthest = 2.0; // largest speeds
+  const Quadratic heads = machine.head->inY(flow);
+  const auto distance = [&machine](double speed) {
+    return std::max({0.0, machine.speedMin - speed, speed - machine.speedMax});
+  };
+  std::optional<double> best;
+  for (const double speed : Fits::solve(heads, head)) {
+    const bool isPossible =
+        speed > 0.0 && speed <= Farthest * machine.speedMax && heads.c[1] + 2.0 * heads.c[2] * speed > 0.0;
+    if (isPossible && (!best || distance(speed) < distance(*best)))
+      best = speed;
+  }
+  return best;
 }
 
 } // namespace
@@ -60,9 +79,11 @@ std::optional<Compression> Compression::of(const NetData &net, const element &co
     if (c.molarMass < DiatomicBelow)
       c.exponent = 1.405;
   }
-  c.massFlow = std::abs(value(net, compressor, "m"));
+  c.massFlow = value(net, compressor, "m");
   if (c.massFlow == 0.0)
-    c.massFlow = std::abs(value(net, compressor, "q")) * NormFlowsPerSecond * c.normDensity;
+    c.massFlow = value(net, compressor, "q") * NormFlowsPerSecond * c.normDensity;
+  c.isReversed = c.massFlow < 0.0;
+  c.massFlow = std::abs(c.massFlow);
   if (!(c.massFlow > 0.0 && c.inletPressure > 0.0 && c.outletPressure > 0.0))
     return std::nullopt;
   return c;
@@ -114,6 +135,13 @@ std::optional<double> WorkingPoint::largestRatio(const PistonCompressor &machine
   return largest;
 }
 
+void WorkingPoint::judgeDirection(const Compression &compression) {
+  if (!compression.isReversed)
+    return;
+  isInside = false;
+  remark = tr("The gas flows backwards through the machine.");
+}
+
 void WorkingPoint::takeDrive(const Drive *drive, double massFlow, double ambientTemperature) {
   if (efficiency && *efficiency > 0.0)
     power = massFlow * head / *efficiency;
@@ -139,10 +167,7 @@ WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive
     point.remark = tr("The machine has no map.");
     return point;
   }
-  for (const double speed : Fits::solve(machine.head->inY(point.flow), point.head)) {
-    if (speed > 0.0)
-      point.speed = speed; // the larger one: the head grows with the speed
-  }
+  point.speed = speedFor(machine, point.flow, point.head);
   if (!point.speed) {
     point.remark = tr("No speed gives this head at this flow.");
     return point;
@@ -156,9 +181,11 @@ WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive
   else if (!point.isInside)
     point.remark = flows && point.flow < flows->first ? tr("The point lies beyond the surge line.")
                                                       : tr("The point lies beyond the choke line.");
-  if (machine.efficiency)
-    point.efficiency = (*machine.efficiency)(point.flow, *point.speed);
+  const double efficiency = machine.efficiency ? (*machine.efficiency)(point.flow, *point.speed) : 0.0;
+  if (efficiency > 0.0 && efficiency <= 1.0) // far from the map the function says anything
+    point.efficiency = efficiency;
   point.takeDrive(drive, compression.massFlow, ambientTemperature);
+  point.judgeDirection(compression);
   return point;
 }
 
@@ -189,5 +216,6 @@ WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *driv
     point.isInside = false;
     point.remark = tr("The torque is above the largest.");
   }
+  point.judgeDirection(compression);
   return point;
 }

@@ -91,6 +91,7 @@ void TestWorkingPoint::compression() {
   m_net->edges().at(QStringLiteral("K")).set(QStringLiteral("q"), QStringLiteral("-36"));
   const auto byNormFlow = Compression::of(*m_net, m_net->edges().at(QStringLiteral("K")));
   QVERIFY(std::abs(byNormFlow->massFlow - 10.0 * 0.785) < 1e-12);
+  QVERIFY(byNormFlow->isReversed && !c->isReversed);
 }
 
 void TestWorkingPoint::realGas() {
@@ -123,6 +124,7 @@ void TestWorkingPoint::outsideOfTheMap_data() {
   QTest::newRow("choke") << 260.0 << 70.0 << QStringLiteral("choke");
   QTest::newRow("too slow") << 100.0 << 51.0 << QStringLiteral("below the smallest");
   QTest::newRow("too fast") << 150.0 << 140.0 << QStringLiteral("above the largest");
+  QTest::newRow("far too fast") << 150.0 << 5000.0 << QStringLiteral("No speed");
 }
 
 void TestWorkingPoint::outsideOfTheMap() {
@@ -135,6 +137,18 @@ void TestWorkingPoint::outsideOfTheMap() {
   const WorkingPoint point = WorkingPoint::of(machine(), nullptr, c, 10.0);
   QVERIFY(!point.isInside);
   QVERIFY2(point.remark.contains(remark), qPrintable(point.remark));
+
+  Compression backwards = natural();
+  backwards.isReversed = true;
+  QVERIFY(WorkingPoint::of(machine(), nullptr, backwards, 10.0).remark.contains(QStringLiteral("backwards")));
+
+  // A head that hardly depends on the squared speed has a second solution at an absurd one.
+  TurboCompressor flat = machine();
+  flat.head = Biquadratic{{-20.0, 0.009, -1e-22, 0, 0, 0, -1, 0, 0}};
+  const WorkingPoint sane = WorkingPoint::of(flat, nullptr, natural(), 10.0);
+  QVERIFY(sane.speed && *sane.speed > 5000.0 && *sane.speed < 10000.0);
+  flat.efficiency = Biquadratic{{-3.0}};
+  QVERIFY(!WorkingPoint::of(flat, nullptr, natural(), 10.0).efficiency.has_value());
 
   Drive weak;
   weak.power = Biquadratic{{100}};

@@ -35,10 +35,13 @@ private:
   void reset(const QString &x, const QString &y);
   void addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label = QString(),
                Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter);
+  /// Has the axes reach to a place, so that a label there is not cut.
+  void addRoom(const QPointF &to);
   void addArea(const QVector<QPointF> &outline);
   void addDots(const QVector<QPointF> &points);
   void addWorkingPoint(const QPointF &at, bool isInside);
-  void addEfficiencies(const TurboCompressor &machine);
+  /// \param corner where another label stands, beside which there is none
+  void addEfficiencies(const TurboCompressor &machine, const QPointF &corner);
   void finish();
   void saveAs();
   void print();

@@ -9,7 +9,8 @@
 
 /// What a compression is like, from the values of the network.
 struct Compression {
-  double massFlow = 0.0;              ///< kg/s
+  double massFlow = 0.0;              ///< kg/s, positive
+  bool isReversed = false;            ///< the flow goes from the outlet to the inlet
   double inletPressure = 0.0;         ///< bar
   double outletPressure = 0.0;        ///< bar
   double inletTemperature = 288.15;   ///< K
@@ -62,5 +63,6 @@ struct WorkingPoint {
                                             const Compression &compression, double ambientTemperature);
 
 private:
+  void judgeDirection(const Compression &compression);
   void takeDrive(const Drive *drive, double massFlow, double ambientTemperature);
 };
