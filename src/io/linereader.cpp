@@ -30,6 +30,7 @@ bool LineReader::open(QString *reason) {
     *reason = m_path + QStringLiteral(": ") + m_file.errorString();
     return false;
   }
+  m_size = m_file.size();
   m_buffer.resize(1 + BlockSize + Padding);
   fill();
   if (m_end - m_begin >= 3 && std::memcmp(m_buffer.data() + m_begin, "\xEF\xBB\xBF", 3) == 0)
@@ -38,7 +39,7 @@ bool LineReader::open(QString *reason) {
 }
 
 double LineReader::fraction() const {
-  return m_file.size() > 0 ? static_cast<double>(m_file.pos()) / static_cast<double>(m_file.size()) : 1.0;
+  return m_read < m_size ? static_cast<double>(m_read) / static_cast<double>(m_size) : 1.0;
 }
 
 /// Moves what is left to the front and reads behind it; false when the file has no more.
@@ -54,6 +55,7 @@ bool LineReader::fill() {
   if (got <= 0)
     return false;
   m_end += static_cast<std::size_t>(got);
+  m_read += got;
   return true;
 }
 

@@ -38,5 +38,7 @@ private:
   std::vector<char> m_buffer; ///< one spare byte in front, padding behind
   std::size_t m_begin = 1;    ///< of what is not yet handed out
   std::size_t m_end = 1;
+  qint64 m_size = 0; ///< when it was opened: the system is not asked for every line
+  qint64 m_read = 0;
   int m_number = 0;
 };

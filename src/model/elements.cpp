@@ -127,6 +127,11 @@ using ById = mi::multi_index_container<
 } // namespace
 
 struct elements::Storage {
+  // A name that is looked at in vain lies anywhere in the memory: there are twice as many places as names.
+  static constexpr float FullestHash = 0.5F;
+
+  Storage() { entries.max_load_factor(FullestHash); }
+
   // Entries lie close together, apart from their properties: a lookup among a million then misses the caches less often.
   std::pmr::unsynchronized_pool_resource pool;
   ById entries{ById::ctor_args_list(), &pool};

@@ -211,11 +211,11 @@ int SubAssembler::createEleOfAssembledSubnet(element &subnet, const QStringList 
     return 0;
   }
   const TemplatePlan &plan = *used.plan;
+  plan.giveDefaults(subnet);
   if (!used.icon.isEmpty())
     subnet.set(keys().icon, used.icon);
   if (!used.constraints.isEmpty())
     subnet.set(keys().constraints, PropertyText(used.constraints));
-  plan.giveDefaults(subnet);
   if (plan.pinNames().isEmpty()) {
     log(QStringLiteral("Problem with creating assembledsubnet: loaded pins empty! Skipped!"), name);
     return 0;
@@ -233,9 +233,9 @@ int SubAssembler::createEleOfAssembledSubnet(element &subnet, const QStringList 
     log(QStringLiteral("Problem with creating assembledsubnet: pins still empty! Skipped!"), name);
     return 0;
   }
-  placeSubnet(subnet, netPins);
+  const Place place = placeSubnet(subnet, netPins);
   if (flag == Flag::All)
-    createElements(subnet, used, netPins);
+    createElements(subnet, used, netPins, place);
   return 1;
 }
 
@@ -262,9 +262,13 @@ std::vector<SubAssembler::Pin> SubAssembler::nodesOf(const QStringList &pins) co
   return found;
 }
 
-void SubAssembler::placeSubnet(element &subnet, const std::vector<Pin> &pins) {
+SubAssembler::Place SubAssembler::placeSubnet(element &subnet, const std::vector<Pin> &pins) {
+  const auto number = [&](PropertyKey key) {
+    const double value = m_net.value(subnet, key);
+    return value == NetData::NoValue ? 0.0 : value;
+  };
   if (pins.size() < 2 || pins[0].node == nullptr || pins[1].node == nullptr)
-    return;
+    return {m_net.position(subnet), number(keys().width), number(keys().rotation)};
   std::vector<QPointF> places;
   QStringList others;
   for (const Pin &pin : pins) {
@@ -274,13 +278,15 @@ void SubAssembler::placeSubnet(element &subnet, const std::vector<Pin> &pins) {
       others.append(pin.name);
   }
   const QPointF way = places[1] - places[0];
-  subnet.set(keys().width, PropertyText::ofNumber(std::hypot(way.x(), way.y())));
-  subnet.set(keys().rotation, PropertyText::ofNumber(TemplatePlacement::rotation(places[0], places[1])));
-  const QPointF center = TemplatePlacement::mean(places);
-  subnet.set(keys().x, PropertyText::ofNumber(center.x()));
-  subnet.set(keys().y, PropertyText::ofNumber(center.y()));
+  const Place place{TemplatePlacement::mean(places), std::hypot(way.x(), way.y()),
+                    TemplatePlacement::rotation(places[0], places[1])};
+  subnet.set(keys().width, PropertyText::ofNumber(place.width));
+  subnet.set(keys().rotation, PropertyText::ofNumber(place.rotation));
+  subnet.set(keys().x, PropertyText::ofNumber(place.center.x()));
+  subnet.set(keys().y, PropertyText::ofNumber(place.center.y()));
   if (!others.isEmpty())
     log(QStringLiteral("pinList contains non-net nodes: ") + others.join(QLatin1Char(';')), subnet.value(keys().name));
+  return place;
 }
 
 /// A node that the network lacks, to be saved by hand.
@@ -300,13 +306,10 @@ void SubAssembler::createPin(const element &source, const QString &name, const Q
   m_result.newPins = true;
 }
 
-void SubAssembler::createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins) {
+void SubAssembler::createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins,
+                                  const Place &place) {
   const TemplatePlan &plan = *variant.plan;
-  const auto number = [&](PropertyKey key) {
-    const double value = m_net.value(subnet, key);
-    return value == NetData::NoValue ? 0.0 : value;
-  };
-  const TemplatePlacement placement(plan.pinPlaces(), number(keys().width), number(keys().rotation), m_net.position(subnet));
+  const TemplatePlacement placement(plan.pinPlaces(), place.width, place.rotation, place.center);
   QStringList pinNames;
   std::vector<PropertyText> pinTexts;
   pinTexts.reserve(pins.size());

@@ -78,6 +78,8 @@ TemplatePlan::TemplatePlan(const NetData &source) {
 }
 
 void TemplatePlan::giveDefaults(element &subnet) const {
+  constexpr std::size_t Further = 8; // what the assembling itself says of the subnet
+  subnet.reserve(subnet.size() + 2 * m_defaults.size() + Further);
   for (const Default &given : m_defaults) {
     subnet.set(given.property.key, given.property.value);
     if (!given.plain.isNull() && subnet.find(given.plain) == nullptr)

@@ -62,6 +62,11 @@ private:
     QString name;
     element *node; ///< null when the network lacks it
   };
+  struct Place {
+    QPointF center;
+    double width = 0.0;
+    double rotation = 0.0; ///< degrees
+  };
   struct Assembled {
     const Variant *variant;
     QString subnet;
@@ -73,8 +78,9 @@ private:
   QString templateFile(const QString &variant, const char *suffix) const;
   QStringList pinsOf(element &subnet, const QStringList &pins, const QStringList &ofTemplate, bool tryReset);
   std::vector<Pin> nodesOf(const QStringList &pins) const;
-  void placeSubnet(element &subnet, const std::vector<Pin> &pins);
-  void createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins);
+  /// Gives the subnet its place between its pins; where these are not there it keeps its own.
+  Place placeSubnet(element &subnet, const std::vector<Pin> &pins);
+  void createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins, const Place &place);
   void reserve(const std::vector<const elements::Entry *> &subnets);
   void findFreePrefixes(const std::vector<const elements::Entry *> &subnets);
   void createPin(const element &source, const QString &name, const QPointF &at);
