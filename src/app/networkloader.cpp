@@ -126,6 +126,8 @@ void NetworkLoader::readMachines() {
     return; // nobody named it
   MachineReader::Result result = MachineReader::read(path);
   m_machines = std::move(result.data);
+  constexpr double FreezingPoint = 273.15; // K
+  m_machines.ambientTemperature = m_gasParams.tamb - FreezingPoint;
   report(result.findings);
   notice(tr("Machine data"), std::move(result.findings));
 }

@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr double AmbientTemperature = 10.0; // degC, where nothing else is said
-
 QString number(double value, int digits = 4) {
   constexpr double Whole = 1000.0;
   return std::abs(value) >= Whole ? QString::number(value, 'f', 0) : QString::number(value, 'g', digits);
@@ -60,12 +58,13 @@ QString pointTable(const WorkingPoint &point) {
   return text;
 }
 
-QVector<QPointF> limitsOf(const PistonCompressor &machine, const Drive *drive, const Compression &compression) {
+QVector<QPointF> limitsOf(const PistonCompressor &machine, const Drive *drive, const Compression &compression,
+                          double ambientTemperature) {
   constexpr int Steps = 40;
   QVector<QPointF> limits;
   for (int i = 0; i <= Steps; ++i) {
     const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Steps;
-    const auto ratio = WorkingPoint::largestRatio(machine, speed, drive, compression, AmbientTemperature);
+    const auto ratio = WorkingPoint::largestRatio(machine, speed, drive, compression, ambientTemperature);
     if (ratio)
       limits.append(QPointF(speed, *ratio));
   }
@@ -192,6 +191,7 @@ CharacteristicsStack::Machine CharacteristicsStack::machine(const QString &eleme
   const element *e = m_net.element(elementName);
   if (e == nullptr)
     return found;
+  found.ambientTemperature = m_machines.ambientTemperature;
   const QString name = machineOf(*e);
   found.turbo = m_machines.turbo(name);
   found.piston = found.turbo == nullptr ? m_machines.piston(name) : nullptr;
@@ -201,18 +201,19 @@ CharacteristicsStack::Machine CharacteristicsStack::machine(const QString &eleme
   const auto compression = compressor == nullptr ? std::nullopt : Compression::of(m_net, *compressor);
   if (!compression)
     return found;
+  const double ambient = m_machines.ambientTemperature;
   if (found.turbo != nullptr) {
-    found.point = WorkingPoint::of(*found.turbo, driveOf(*e, found.turbo->drive), *compression, AmbientTemperature);
+    found.point = WorkingPoint::of(*found.turbo, driveOf(*e, found.turbo->drive), *compression, ambient);
   } else if (found.piston != nullptr) {
     const Drive *drive = driveOf(*e, found.piston->drive);
-    found.point = WorkingPoint::of(*found.piston, drive, *compression, AmbientTemperature);
-    found.limits = limitsOf(*found.piston, drive, *compression);
+    found.point = WorkingPoint::of(*found.piston, drive, *compression, ambient);
+    found.limits = limitsOf(*found.piston, drive, *compression, ambient);
   } else if (found.drive != nullptr) {
     const QString driving = machineOf(*compressor);
     if (const TurboCompressor *turbo = m_machines.turbo(driving))
-      found.point = WorkingPoint::of(*turbo, found.drive, *compression, AmbientTemperature);
+      found.point = WorkingPoint::of(*turbo, found.drive, *compression, ambient);
     else if (const PistonCompressor *piston = m_machines.piston(driving))
-      found.point = WorkingPoint::of(*piston, found.drive, *compression, AmbientTemperature);
+      found.point = WorkingPoint::of(*piston, found.drive, *compression, ambient);
   }
   return found;
 }
@@ -226,7 +227,7 @@ QString CharacteristicsStack::summary(const Machine &machine) {
   else if (machine.drive != nullptr)
     text = fitText(tr("Power limit"), machine.drive->powerQuality, QStringLiteral("kW")) +
            fitText(tr("Energy rate"), machine.drive->energyQuality, QStringLiteral("kW")) +
-           tr("Power at %1 °C").arg(AmbientTemperature);
+           tr("Power at %1 °C").arg(machine.ambientTemperature);
   if (machine.point)
     return text + pointTable(*machine.point);
   return text + tr("<p>The network has no flow and pressures for a working point.</p>");
@@ -251,7 +252,7 @@ QWidget *CharacteristicsStack::makePage(const QString &elementName) const {
   } else if (found.piston != nullptr) {
     plot->show(*found.piston, found.point, found.limits);
   } else {
-    plot->show(*found.drive, found.point, AmbientTemperature);
+    plot->show(*found.drive, found.point, found.ambientTemperature);
     if (found.drive->energy) {
       auto *consumption = new MapPlot;
       column->addWidget(consumption, 1);

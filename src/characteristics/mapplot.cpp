@@ -310,7 +310,7 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
   constexpr double Usual = 10000.0;
   last = last > 0.0 ? last : Usual;
   if (drive.power) {
-    for (const double at : {-10.0, 10.0, 30.0}) {
+    for (const double at : {-10.0, 30.0, temperature}) {
       QVector<QPointF> line;
       for (int i = 0; i <= Steps; ++i) {
         const double speed = first + (last - first) * i / Steps;
@@ -318,7 +318,8 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
         if (limit > 0.0)
           line.append(QPointF(speed, limit));
       }
-      addLine(line, QPen(at == 10.0 ? Blue : QColor(120, 160, 190), at == 10.0 ? 2.0 : 1.2), tr("%1 °C").arg(at),
+      addLine(line, QPen(at == temperature ? Blue : QColor(120, 160, 190), at == temperature ? 2.0 : 1.2),
+              tr("%1 °C").arg(shown(at, 3)),
               Qt::AlignLeft | Qt::AlignTop); // inside, where the line ends at the edge
     }
   }

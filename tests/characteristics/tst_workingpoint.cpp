@@ -59,6 +59,7 @@ private:
     drive.power = Biquadratic{{0, 2}};
     drive.energy = Quadratic{{100, 2.5, 0}};
     d.drives.push_back(drive);
+    d.ambientTemperature = 5.0;
     return d;
   }
 
@@ -221,6 +222,7 @@ void TestWorkingPoint::stackOpensAndKeeps() {
     QVERIFY(stack.open(QStringLiteral("D1")));
     QVERIFY(stack.open(QStringLiteral("M"))); // again: the same page
     QCOMPARE(stack.opened(), (QStringList{QStringLiteral("M"), QStringLiteral("D1")}));
+    QVERIFY(stack.summary(QStringLiteral("D1")).contains(QStringLiteral("Power at 5 °C")));
     const QString text = stack.summary(QStringLiteral("M"));
     QVERIFY2(text.contains(QStringLiteral("shaft power")) && text.contains(QStringLiteral("fuel or current")),
              qPrintable(text));

@@ -34,6 +34,7 @@ private:
     const TurboCompressor *turbo = nullptr;
     const PistonCompressor *piston = nullptr;
     const Drive *drive = nullptr;
+    double ambientTemperature = MachineData::UsualTemperature; ///< degC
     std::optional<WorkingPoint> point;
     QVector<QPointF> limits; ///< of a piston compressor: the largest ratio over the speed
 

@@ -84,6 +84,9 @@ struct Drive {
 
 /// The machines of a scenario.
 struct MachineData {
+  static constexpr double UsualTemperature = 12.0; ///< degC
+
+  double ambientTemperature = UsualTemperature; ///< degC, at which the drives work
   std::vector<TurboCompressor> turbos;
   std::vector<PistonCompressor> pistons;
   std::vector<Drive> drives;
