@@ -5,6 +5,8 @@
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <qwt_scale_div.h>
@@ -25,6 +27,7 @@ private slots:
   void pistonLimits();
   void stackOpensAndKeeps();
   void stackWithoutData();
+  void mouseZoomsAndReads();
   void picturesOfMaps_data();
   void picturesOfMaps();
 
@@ -249,6 +252,35 @@ void TestWorkingPoint::stackWithoutData() {
   QVERIFY(stack.open(QStringLiteral("M")));
   stack.setMachines(MachineData()); // the next case
   QVERIFY(stack.opened().isEmpty());
+}
+
+void TestWorkingPoint::mouseZoomsAndReads() {
+  MapPlot plot;
+  plot.resize(500, 400);
+  plot.show(machine(), std::nullopt);
+  QwtPlot &base = plot; // whose show() is that of a widget
+  base.show();
+  QVERIFY(QTest::qWaitForWindowExposed(&plot));
+  QWidget *canvas = plot.canvas();
+  const auto spans = [&plot] {
+    return std::make_pair(plot.axisInterval(QwtPlot::xBottom), plot.axisInterval(QwtPlot::yLeft));
+  };
+  const auto whole = spans();
+  const QPoint from(canvas->width() / 4, canvas->height() / 4);
+  const QPoint to = 3 * from;
+  const QPointF corner(plot.invTransform(QwtPlot::xBottom, from.x()), plot.invTransform(QwtPlot::yLeft, to.y()));
+  QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, from);
+  QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(canvas, &move);
+  QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, to);
+  const auto part = spans();
+  QVERIFY(part.first.width() < 0.6 * whole.first.width() && part.second.width() < 0.6 * whole.second.width());
+  QVERIFY(std::abs(part.first.minValue() - corner.x()) < 0.02 * whole.first.width());
+  QVERIFY(std::abs(part.second.minValue() - corner.y()) < 0.02 * whole.second.width());
+  QTest::mouseClick(canvas, Qt::MiddleButton); // back
+  QCOMPARE(spans().first, whole.first);
+  plot.show(data().drives[0], std::nullopt, 10.0); // another map is seen as a whole
+  QVERIFY(plot.axisInterval(QwtPlot::xBottom).maxValue() >= 9000.0);
 }
 
 void TestWorkingPoint::picturesOfMaps_data() {
