@@ -58,10 +58,10 @@ search='xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdoto
 table='xdotool mousemove 54 849 click 1; sleep 1; xdotool mousemove 16 52 click 1; sleep 0.5; xdotool mousemove 778 52 click 1; sleep 0.5; xdotool mousemove 271 52 click 1; sleep 0.3; xdotool type v; xdotool key Return; sleep 1;'
 dock() { echo "xdotool mousemove 100 10 click 1; sleep 0.5; xdotool mousemove 178 $1 click 1; sleep 0.8;"; } # y in the menu
 walk_window 1 "$search"
-walk_window 2 "$search $(dock 77)"'xdotool mousemove 134 552 click 1; sleep 0.5; xdotool mousemove 60 709 click --repeat 2 --delay 80 1; sleep 0.3; xdotool type "fast pipes"; xdotool key Return; sleep 0.3; xdotool mousemove 1150 850 click 1; sleep 0.5'
+walk_window 2 "$search $(dock 102)"'xdotool mousemove 134 552 click 1; sleep 0.5; xdotool mousemove 60 709 click --repeat 2 --delay 80 1; sleep 0.3; xdotool type "fast pipes"; xdotool key Return; sleep 0.3; xdotool mousemove 1150 850 click 1; sleep 0.5'
 walk_window 3 "$search $table"
 walk_window 4 "$search $table"'xdotool mousemove 143 16 click 1; sleep 1'
-walk_window 5 "$(dock 152)"'xdotool mousemove 36 184 click 1; sleep 0.3; xdotool mousemove 36 247 click 1; sleep 1'
+walk_window 5 "$(dock 177)"'xdotool mousemove 36 184 click 1; sleep 0.3; xdotool mousemove 36 247 click 1; sleep 1'
 walk_window 6 'xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool type "N_Görlitz"; xdotool key Return; sleep 1; xdotool mousemove 60 235 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 765 440; sleep 0.5; xdotool click 3; sleep 0.5; xdotool mousemove 840 524 click 1; sleep 0.5; xdotool mousemove 840 300 key Home; sleep 1.5'
 
 station='xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5;'
