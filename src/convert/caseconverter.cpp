@@ -34,14 +34,14 @@ CaseConverter::Result CaseConverter::convert(const QString &from, const QString 
     result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, QString()});
   };
   const QDir source(from);
-  const QDir target(to);
+  const QDir target(to); // either may be relative to where the program runs
   result.ok = true;
   if (QFileInfo(to).absoluteFilePath().startsWith(source.absolutePath() + QLatin1Char('/')) ||
       QFileInfo(from) == QFileInfo(to)) {
     fail(tr("%1 lies in the folder that is converted").arg(to));
     return result;
   }
-  for (QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
+  for (QDirIterator files(source.absolutePath(), QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
     const QString path = files.next();
     const QString name = source.relativeFilePath(path);
     const QString copied = target.filePath(name);

@@ -41,7 +41,7 @@ void TestConvert::casesThereAndBack() {
   const CaseConverter::Result there = CaseConverter::convert(source, text);
   QVERIFY(there.ok && there.findings.empty());
   QCOMPARE(there.files, 1 + 3 * 4); // geometry; gas, results, sub-results and set points of three scenarios
-  QVERIFY(CaseConverter::convert(text, back).ok);
+  QVERIFY(CaseConverter::convert(QDir::current().relativeFilePath(text), QDir::current().relativeFilePath(back)).ok);
   QVERIFY(QFile::exists(text + QStringLiteral("/DE_H2.formulas")));
   const QString before = opened(source + QStringLiteral("/S5/S5.scen.jsn"));
   QVERIFY(before.size() > 10000);
