@@ -4,6 +4,7 @@
 #include <characteristics/mapplot.h>
 #include <characteristics/workingpoint.h>
 
+#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QSaveFile>
@@ -161,7 +162,8 @@ QString CharacteristicsStack::machineOf(const element &e) const {
 
 const Drive *CharacteristicsStack::driveOf(const element &compressor, const QString &named) const {
   const element *drive = m_net.nodes().find(compressor.value(QStringLiteral("drive")));
-  const Drive *own = drive == nullptr ? nullptr : m_machines.drive(machineOf(*drive));
+  const bool isOneOfSeveral = machinesOf(compressor).size() > 1; // the drive that the network names is that of the first
+  const Drive *own = drive == nullptr || isOneOfSeveral ? nullptr : m_machines.drive(machineOf(*drive));
   return own != nullptr ? own : m_machines.drive(named);
 }
 
@@ -186,33 +188,45 @@ bool CharacteristicsStack::open(const QString &elementName) {
   return true;
 }
 
-CharacteristicsStack::Machine CharacteristicsStack::machine(const QString &elementName) const {
+QStringList CharacteristicsStack::machinesOf(const element &e) const {
+  const QString name = machineOf(e);
+  const QStringList all = m_machines.ofStation(e.value(QStringLiteral("name")));
+  if (all.size() < 2)
+    return {name};
+  const int first = all.indexOf(name);
+  return first <= 0 ? all : QStringList{name} + all.mid(0, first) + all.mid(first + 1);
+}
+
+CharacteristicsStack::Machine CharacteristicsStack::machine(const element &e, const QString &machineName) const {
   Machine found;
-  const element *e = m_net.element(elementName);
-  if (e == nullptr)
-    return found;
-  found.ambientTemperature = m_machines.ambientTemperature;
-  const QString name = machineOf(*e);
-  found.turbo = m_machines.turbo(name);
-  found.piston = found.turbo == nullptr ? m_machines.piston(name) : nullptr;
-  found.drive = found.turbo == nullptr && found.piston == nullptr ? m_machines.drive(name) : nullptr;
-  const element *driven = m_net.edges().find(e->value(QStringLiteral("driven")));
-  const element *compressor = found.drive == nullptr ? e : driven; // a drive works where its compressor does
+  const double ambient = m_machines.ambientTemperature;
+  found.ambientTemperature = ambient;
+  found.ofStation = machinesOf(e).size();
+  found.turbo = m_machines.turbo(machineName);
+  found.piston = found.turbo == nullptr ? m_machines.piston(machineName) : nullptr;
+  found.drive = found.turbo == nullptr && found.piston == nullptr ? m_machines.drive(machineName) : nullptr;
+  const element *driven = m_net.edges().find(e.value(QStringLiteral("driven")));
+  const element *compressor = found.drive == nullptr ? &e : driven; // a drive works where its compressor does
   const auto compression = compressor == nullptr ? std::nullopt : Compression::of(m_net, *compressor);
   if (!compression)
     return found;
-  const double ambient = m_machines.ambientTemperature;
   if (found.turbo != nullptr) {
-    found.point = WorkingPoint::of(*found.turbo, driveOf(*e, found.turbo->drive), *compression, ambient);
+    found.point = WorkingPoint::of(*found.turbo, driveOf(e, found.turbo->drive), *compression, ambient);
   } else if (found.piston != nullptr) {
-    const Drive *drive = driveOf(*e, found.piston->drive);
+    const Drive *drive = driveOf(e, found.piston->drive);
     found.point = WorkingPoint::of(*found.piston, drive, *compression, ambient);
     found.limits = limitsOf(*found.piston, drive, *compression, ambient);
   } else if (found.drive != nullptr) {
     const QString driving = machineOf(*compressor);
-    if (const TurboCompressor *turbo = m_machines.turbo(driving))
+    const TurboCompressor *turbo = m_machines.turboOf(*found.drive);
+    const PistonCompressor *piston = m_machines.pistonOf(*found.drive);
+    if (turbo == nullptr && piston == nullptr) {
+      turbo = m_machines.turbo(driving);
+      piston = m_machines.piston(driving);
+    }
+    if (turbo != nullptr)
       found.point = WorkingPoint::of(*turbo, found.drive, *compression, ambient);
-    else if (const PistonCompressor *piston = m_machines.piston(driving))
+    else if (piston != nullptr)
       found.point = WorkingPoint::of(*piston, found.drive, *compression, ambient);
   }
   return found;
@@ -228,41 +242,69 @@ QString CharacteristicsStack::summary(const Machine &machine) {
     text = fitText(tr("Power limit"), machine.drive->powerQuality, QStringLiteral("kW")) +
            fitText(tr("Energy rate"), machine.drive->energyQuality, QStringLiteral("kW")) +
            tr("Power at %1 °C").arg(machine.ambientTemperature);
-  if (machine.point)
-    return text + pointTable(*machine.point);
-  return text + tr("<p>The network has no flow and pressures for a working point.</p>");
+  if (!machine.point)
+    return text + tr("<p>The network has no flow and pressures for a working point.</p>");
+  text += pointTable(*machine.point);
+  if (machine.ofStation > 1)
+    text += tr("<p>The station has %1 compressors; the point is that of its whole flow through this one.</p>")
+                .arg(machine.ofStation);
+  return text;
 }
 
 QString CharacteristicsStack::summary(const QString &elementName) const {
-  const Machine found = machine(elementName);
+  const element *e = m_net.element(elementName);
+  if (e == nullptr)
+    return QString();
+  const Machine found = machine(*e, machinesOf(*e).first());
   return found.isThere() ? summary(found) : QString();
 }
 
 QWidget *CharacteristicsStack::makePage(const QString &elementName) const {
-  const Machine found = machine(elementName);
-  if (!found.isThere())
+  const element *e = m_net.element(elementName);
+  if (e == nullptr)
+    return nullptr;
+  const QStringList names = machinesOf(*e);
+  const Machine first = machine(*e, names.first());
+  if (!first.isThere())
     return nullptr;
   auto *page = new QWidget;
   page->setObjectName(elementName);
   auto *column = new QVBoxLayout(page);
+  auto *choice = new QComboBox;
+  choice->addItems(names);
+  choice->setVisible(names.size() > 1);
+  column->addWidget(choice);
+  column->addWidget(makeMap(first), 1);
+  connect(choice, &QComboBox::currentTextChanged, page, [this, column, elementName](const QString &name) {
+    delete column->itemAt(1)->widget();
+    if (const element *station = m_net.element(elementName))
+      column->addWidget(makeMap(machine(*station, name)), 1);
+  });
+  return page;
+}
+
+QWidget *CharacteristicsStack::makeMap(const Machine &machine) {
+  auto *map = new QWidget;
+  auto *column = new QVBoxLayout(map);
+  column->setContentsMargins(0, 0, 0, 0);
   auto *plot = new MapPlot;
   column->addWidget(plot, 1);
-  if (found.turbo != nullptr) {
-    plot->show(*found.turbo, found.point);
-  } else if (found.piston != nullptr) {
-    plot->show(*found.piston, found.point, found.limits);
-  } else {
-    plot->show(*found.drive, found.point, found.ambientTemperature);
-    if (found.drive->energy) {
+  if (machine.turbo != nullptr) {
+    plot->show(*machine.turbo, machine.point);
+  } else if (machine.piston != nullptr) {
+    plot->show(*machine.piston, machine.point, machine.limits);
+  } else if (machine.drive != nullptr) {
+    plot->show(*machine.drive, machine.point, machine.ambientTemperature);
+    if (machine.drive->energy) {
       auto *consumption = new MapPlot;
       column->addWidget(consumption, 1);
-      consumption->showConsumption(*found.drive, found.point);
+      consumption->showConsumption(*machine.drive, machine.point);
     }
   }
-  auto *text = new QLabel(summary(found));
+  auto *text = new QLabel(summary(machine));
   text->setTextFormat(Qt::RichText);
   text->setWordWrap(true);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   column->addWidget(text);
-  return page;
+  return map;
 }

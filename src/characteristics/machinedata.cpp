@@ -25,6 +25,14 @@ const Machine *named(const std::vector<Machine> &machines, const QString &name) 
   return nullptr;
 }
 
+template <typename Machine>
+const Machine *drivenBy(const std::vector<Machine> &machines, const Drive &drive) {
+  const auto found = std::find_if(machines.begin(), machines.end(), [&drive](const Machine &machine) {
+    return machine.drive.compare(drive.name, Qt::CaseInsensitive) == 0;
+  });
+  return found == machines.end() ? nullptr : &*found;
+}
+
 /// Takes a fit of the points in place of what is given; says why there is none when points were measured.
 template <typename Function>
 void take(const QString &machine, const QString &what, const std::vector<FitPoint> &points,
@@ -152,6 +160,27 @@ const TurboCompressor *MachineData::turbo(const QString &name) const {
       return &machine;
   }
   return nullptr;
+}
+
+QStringList MachineData::ofStation(const QString &station) const {
+  QStringList names;
+  const auto take = [&](const auto &machines) {
+    for (const auto &machine : machines) {
+      if (!machine.station.isEmpty() && machine.station.compare(station, Qt::CaseInsensitive) == 0)
+        names.append(machine.name);
+    }
+  };
+  take(turbos);
+  take(pistons);
+  return names;
+}
+
+const TurboCompressor *MachineData::turboOf(const Drive &drive) const {
+  return drivenBy(turbos, drive);
+}
+
+const PistonCompressor *MachineData::pistonOf(const Drive &drive) const {
+  return drivenBy(pistons, drive);
 }
 
 const PistonCompressor *MachineData::piston(const QString &name) const {

@@ -72,6 +72,7 @@ private:
   void takeTurbo(const TableFile::Row &row) {
     TurboCompressor machine;
     machine.name = row.name;
+    machine.station = row.values.value(QStringLiteral("station"));
     machine.drive = row.values.value(QStringLiteral("drive"));
     machine.speedMin = number(row, "speedmin");
     machine.speedMax = number(row, "speedmax");
@@ -85,6 +86,7 @@ private:
   void takePiston(const TableFile::Row &row) {
     PistonCompressor machine;
     machine.name = row.name;
+    machine.station = row.values.value(QStringLiteral("station"));
     machine.drive = row.values.value(QStringLiteral("drive"));
     machine.speedMin = number(row, "speedmin");
     machine.speedMax = number(row, "speedmax");

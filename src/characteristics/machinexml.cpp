@@ -204,6 +204,7 @@ void MachineXml::readTurbo() {
 void MachineXml::readPiston() {
   PistonCompressor machine;
   machine.name = m_xml.attributes().value(QStringLiteral("id")).toString();
+  machine.station = m_station;
   machine.drive = m_xml.attributes().value(QStringLiteral("drive")).toString();
   while (m_xml.readNextStartElement()) {
     if (m_xml.name() == QLatin1String("speedMin"))

@@ -6,6 +6,8 @@
 #include <support/nivratest.h>
 
 #include <QApplication>
+#include <QComboBox>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -26,6 +28,7 @@ private slots:
   void piston();
   void pistonLimits();
   void stackOpensAndKeeps();
+  void stationsWithSeveralMachines();
   void stackWithoutData();
   void mouseZoomsAndReads();
   void picturesOfMaps_data();
@@ -240,6 +243,46 @@ void TestWorkingPoint::stackOpensAndKeeps() {
   QFile kept(file);
   QVERIFY(kept.open(QIODevice::ReadOnly));
   QCOMPARE(kept.readAll(), QByteArray("D1"));
+}
+
+/// As public networks have them: the element is a station, its machines and drives stand in the data alone.
+void TestWorkingPoint::stationsWithSeveralMachines() {
+  MachineData d = data();
+  d.turbos[0].station = QStringLiteral("m"); // the element M, regardless of case
+  d.turbos.push_back(machine());
+  d.turbos[1].name = QStringLiteral("second");
+  d.turbos[1].station = QStringLiteral("M");
+  d.turbos[1].drive = QStringLiteral("E");
+  d.turbos[1].efficiency = Biquadratic{{0.4}};
+  PistonCompressor piston;
+  piston.name = QStringLiteral("third");
+  piston.station = QStringLiteral("M");
+  piston.displacement = 0.5;
+  piston.speedMin = 200;
+  piston.speedMax = 400;
+  d.pistons.push_back(piston);
+  d.drives.push_back(d.drives[0]);
+  d.drives[1].name = QStringLiteral("E");
+  d.drives[1].energy = Quadratic{{7.0}};
+  m_net->element(QStringLiteral("D1"))->set(QStringLiteral("machine"), QStringLiteral("E"));
+  m_net->element(QStringLiteral("M"))->set(QStringLiteral("machine"), QStringLiteral("second"));
+  CharacteristicsStack stack(*m_net);
+  stack.setMachines(d);
+  QVERIFY(stack.open(QStringLiteral("M")));
+  auto *choice = stack.findChild<QComboBox *>();
+  QCOMPARE(choice->count(), 3);
+  QCOMPARE(choice->currentText(), QStringLiteral("second")); // which the element names
+  const auto text = [&stack] {
+    return stack.findChild<QTabWidget *>()->currentWidget()->findChild<QLabel *>()->text();
+  };
+  QVERIFY2(text().contains(QStringLiteral("40 %")) && text().contains(QStringLiteral("3 compressors")) &&
+               text().contains(QStringLiteral("<b>7 kW")),
+           qPrintable(text()));
+  choice->setCurrentText(QStringLiteral("M"));
+  QVERIFY2(text().contains(QStringLiteral("80 %")) && !text().contains(QStringLiteral("<b>7 kW")), qPrintable(text()));
+  choice->setCurrentText(QStringLiteral("third"));
+  QVERIFY2(text().contains(QStringLiteral("speed")) && !text().contains(QStringLiteral("efficiency")), qPrintable(text()));
+  QVERIFY(stack.summary(QStringLiteral("D1")).contains(QStringLiteral("40 %"))); // E drives the second one
 }
 
 void TestWorkingPoint::stackWithoutData() {

@@ -37,12 +37,16 @@ private:
     double ambientTemperature = MachineData::UsualTemperature; ///< degC
     std::optional<WorkingPoint> point;
     QVector<QPointF> limits; ///< of a piston compressor: the largest ratio over the speed
+    int ofStation = 1;       ///< compressors in its station
 
     bool isThere() const { return turbo != nullptr || piston != nullptr || drive != nullptr; }
   };
 
-  Machine machine(const QString &elementName) const;
+  Machine machine(const element &e, const QString &machineName) const;
+  /// The names of an element's machines: several when it is a station that has them.
+  QStringList machinesOf(const element &e) const;
   static QString summary(const Machine &machine);
+  static QWidget *makeMap(const Machine &machine);
   /// The name of an element's machine: its property "machine", else its own.
   QString machineOf(const element &e) const;
   const Drive *driveOf(const element &compressor, const QString &named) const;

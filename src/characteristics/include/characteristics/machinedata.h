@@ -4,6 +4,7 @@
 #include <characteristics/fits.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -46,6 +47,7 @@ struct TurboCompressor {
 
 struct PistonCompressor {
   QString name;
+  QString station; ///< in which it stands, empty when that is not said
   QString drive;
   double speedMin = 0.0;
   double speedMax = 0.0;
@@ -96,4 +98,9 @@ struct MachineData {
   const TurboCompressor *turbo(const QString &name) const;
   const PistonCompressor *piston(const QString &name) const;
   const Drive *drive(const QString &name) const;
+  /// The names of the compressors that stand in a station, in the order of the file.
+  QStringList ofStation(const QString &station) const;
+  /// Null when the drive drives none.
+  const TurboCompressor *turboOf(const Drive &drive) const;
+  const PistonCompressor *pistonOf(const Drive &drive) const;
 };
