@@ -47,8 +47,9 @@ std::vector<double> roundValues(double from, double to) {
   }
   constexpr double Apart = 0.4; // of a step from the ends
   std::vector<double> values{from};
-  for (double value = std::ceil(from / step + Apart) * step; value <= to - Apart * step; value += step)
-    values.push_back(value);
+  const auto last = static_cast<int>(std::floor(to / step - Apart));
+  for (auto i = static_cast<int>(std::ceil(from / step + Apart)); i <= last; ++i)
+    values.push_back(i * step);
   values.push_back(to);
   return values;
 }
