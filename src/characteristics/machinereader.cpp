@@ -69,13 +69,20 @@ private:
     return hasSome ? std::optional<Function>(function) : std::nullopt;
   }
 
-  void takeTurbo(const TableFile::Row &row) {
-    TurboCompressor machine;
+  /// What both kinds of compressors have.
+  template <typename Machine>
+  Machine compressor(const TableFile::Row &row) {
+    Machine machine;
     machine.name = row.name;
     machine.station = row.values.value(QStringLiteral("station"));
     machine.drive = row.values.value(QStringLiteral("drive"));
     machine.speedMin = number(row, "speedmin");
     machine.speedMax = number(row, "speedmax");
+    return machine;
+  }
+
+  void takeTurbo(const TableFile::Row &row) {
+    auto machine = compressor<TurboCompressor>(row);
     machine.head = coefficients<Biquadratic>(row, "head");
     machine.efficiency = coefficients<Biquadratic>(row, "efficiency");
     machine.surge = coefficients<Quadratic>(row, "surge");
@@ -84,12 +91,7 @@ private:
   }
 
   void takePiston(const TableFile::Row &row) {
-    PistonCompressor machine;
-    machine.name = row.name;
-    machine.station = row.values.value(QStringLiteral("station"));
-    machine.drive = row.values.value(QStringLiteral("drive"));
-    machine.speedMin = number(row, "speedmin");
-    machine.speedMax = number(row, "speedmax");
+    auto machine = compressor<PistonCompressor>(row);
     machine.displacement = number(row, "displacement");
     machine.maximalTorque = number(row, "torque");
     machine.maximalRatio = number(row, "ratio");

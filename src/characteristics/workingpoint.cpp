@@ -32,6 +32,10 @@ const element *gasSource(const NetData &net) {
   return nullptr;
 }
 
+QString speedRemark(bool isBelow) {
+  return isBelow ? tr("The speed is below the smallest.") : tr("The speed is above the largest.");
+}
+
 /// Of the speeds that give the head those at which it grows with the speed, and of these the one nearest to the range of the
 /// machine; none where that is far beyond it, since the function was made for the range.
 std::optional<double> speedFor(const TurboCompressor &machine, double flow, double head) {
@@ -135,6 +139,11 @@ std::optional<double> WorkingPoint::largestRatio(const PistonCompressor &machine
   return largest;
 }
 
+WorkingPoint::WorkingPoint(const Compression &compression)
+    : flow(compression.volumeFlow())
+    , head(compression.adiabaticHead())
+    , ratio(compression.ratio()) {}
+
 void WorkingPoint::judgeDirection(const Compression &compression) {
   if (!compression.isReversed)
     return;
@@ -159,10 +168,7 @@ void WorkingPoint::takeDrive(const Drive *drive, double massFlow, double ambient
 
 WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive, const Compression &compression,
                               double ambientTemperature) {
-  WorkingPoint point;
-  point.flow = compression.volumeFlow();
-  point.head = compression.adiabaticHead();
-  point.ratio = compression.ratio();
+  WorkingPoint point(compression);
   if (!machine.head) {
     point.remark = tr("The machine has no map.");
     return point;
@@ -176,8 +182,7 @@ WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive
   const bool isSpeedInside = *point.speed >= machine.speedMin && *point.speed <= machine.speedMax;
   point.isInside = isSpeedInside && flows && point.flow >= flows->first && point.flow <= flows->second;
   if (!isSpeedInside)
-    point.remark =
-        *point.speed < machine.speedMin ? tr("The speed is below the smallest.") : tr("The speed is above the largest.");
+    point.remark = speedRemark(*point.speed < machine.speedMin);
   else if (!point.isInside)
     point.remark = flows && point.flow < flows->first ? tr("The point lies beyond the surge line.")
                                                       : tr("The point lies beyond the choke line.");
@@ -191,10 +196,7 @@ WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive
 
 WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *drive, const Compression &compression,
                               double ambientTemperature) {
-  WorkingPoint point;
-  point.flow = compression.volumeFlow();
-  point.head = compression.adiabaticHead();
-  point.ratio = compression.ratio();
+  WorkingPoint point(compression);
   if (!machine.isUsable()) {
     point.remark = tr("The machine has no displacement.");
     return point;
@@ -202,8 +204,7 @@ WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *driv
   point.speed = point.flow / machine.displacement * SecondsPerMinute;
   point.isInside = *point.speed >= machine.speedMin && *point.speed <= machine.speedMax;
   if (!point.isInside)
-    point.remark =
-        *point.speed < machine.speedMin ? tr("The speed is below the smallest.") : tr("The speed is above the largest.");
+    point.remark = speedRemark(*point.speed < machine.speedMin);
   if (machine.maximalRatio > 0.0 && point.ratio > machine.maximalRatio) {
     point.isInside = false;
     point.remark = tr("The pressure ratio is above the largest.");

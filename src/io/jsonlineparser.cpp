@@ -153,14 +153,8 @@ error_code JsonLineParser::readElement(simdjson::ondemand::object object, Elemen
   element.dropped.clear();
   for (auto member : object) {
     Value read;
-    simdjson::ondemand::value value;
     const char *dropped = nullptr;
-    error_code error = member.unescaped_key().get(read.key);
-    if (error == simdjson::SUCCESS)
-      error = member.value().get(value);
-    if (error == simdjson::SUCCESS)
-      error = readValue(value, read, dropped);
-    if (error != simdjson::SUCCESS)
+    if (const error_code error = readMember(member, read, dropped); error != simdjson::SUCCESS)
       return error;
     if (dropped == nullptr)
       element.values.push_back(std::move(read));
@@ -168,6 +162,14 @@ error_code JsonLineParser::readElement(simdjson::ondemand::object object, Elemen
       element.dropped.push_back({std::string(read.key), dropped});
   }
   return simdjson::SUCCESS;
+}
+
+error_code JsonLineParser::readMember(Member &member, Value &read, const char *&dropped) {
+  simdjson::ondemand::value value;
+  error_code error = member.unescaped_key().get(read.key);
+  if (error == simdjson::SUCCESS)
+    error = member.value().get(value);
+  return error == simdjson::SUCCESS ? readValue(value, read, dropped) : error;
 }
 
 error_code JsonLineParser::readValue(simdjson::ondemand::value value, Value &read, const char *&dropped) {
@@ -244,14 +246,8 @@ error_code JsonLineParser::readPoint(simdjson::ondemand::object object, SetPoint
   bool hasValue = false;
   for (auto member : object) {
     Value read;
-    simdjson::ondemand::value value;
     const char *dropped = nullptr;
-    error_code error = member.unescaped_key().get(read.key);
-    if (error == simdjson::SUCCESS)
-      error = member.value().get(value);
-    if (error == simdjson::SUCCESS)
-      error = readValue(value, read, dropped);
-    if (error != simdjson::SUCCESS)
+    if (const error_code error = readMember(member, read, dropped); error != simdjson::SUCCESS)
       return error;
     if (read.key == "property") {
       point.property = std::string(read.text.utf8());

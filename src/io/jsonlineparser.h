@@ -49,6 +49,8 @@ public:
 private:
   simdjson::error_code begin(const JsonLineReader::Line &line);
   simdjson::error_code readElement(simdjson::ondemand::object object, Element &element);
+  using Member = simdjson::simdjson_result<simdjson::ondemand::field>;
+  simdjson::error_code readMember(Member &member, Value &read, const char *&dropped);
   simdjson::error_code readValue(simdjson::ondemand::value value, Value &read, const char *&dropped);
   simdjson::error_code readList(simdjson::ondemand::array list, SetPoints &target);
   simdjson::error_code readPoint(simdjson::ondemand::object object, SetPoint &point);

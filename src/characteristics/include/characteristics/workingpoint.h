@@ -63,6 +63,7 @@ struct WorkingPoint {
                                             const Compression &compression, double ambientTemperature);
 
 private:
+  explicit WorkingPoint(const Compression &compression);
   void judgeDirection(const Compression &compression);
   void takeDrive(const Drive *drive, double massFlow, double ambientTemperature);
 };
