@@ -1,6 +1,8 @@
 #include "workspacefixture.h"
 
+#include <characteristics/characteristicsstack.h>
 #include <support/nivratest.h>
+#include <tools/nivrafindings.h>
 #include <tools/nivranetlayerseditor.h>
 #include <tools/nivranetobjectcats.h>
 #include <tools/nivrapropviewer.h>
@@ -19,8 +21,10 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include <app/loadprogress.h>
+#include <app/networkloader.h>
 #include <app/nivraviewer.h>
 #include <app/subnetwindow.h>
 #include <app/tooldocks.h>
@@ -62,6 +66,7 @@ private slots:
   void contextMenuLeadsBack();
   void toolsAndDrawingMeet();
   void subnetsHaveWindowsOfTheirOwn();
+  void machinesOpenAndComeBack();
   void openDialogStartsAtTheExample();
   void progressAppearsLateAndCancels();
 
@@ -239,6 +244,46 @@ void TestWindow::subnetsHaveWindowsOfTheirOwn() {
   QPointer<SubnetWindow> watched = window;
   viewer.open(workspace.geometry());
   QVERIFY(watched.isNull()); // a part of the network before
+}
+
+void TestWindow::machinesOpenAndComeBack() {
+  const WorkspaceFixture workspace;
+  workspace.write(QStringLiteral("CASE/S1/scenconfig.jsn"),
+                  "{\"workDir\":\"S1\",\"scenFile\":\"S1.scen\",\"comprDatabase\":\"../machines.txt\"}");
+  workspace.write(QStringLiteral("CASE/S1/solverconfig.jsn"), "{\"tamb\":293.15}");
+  workspace.writeGeometry(WorkspaceFixture::soundGeometry().replace("\"node2\":\"C\"", "\"node2\":\"C\",\"m\":50"));
+  workspace.write(QStringLiteral("CASE/machines.txt"),
+                  "[turbo compressor]\nname;drive;speedmin;speedmax;head3;efficiency1\nK1;G;3000;9000;1e-6;0.8\n"
+                  "faulty;G;fast;9000;1e-6;0.8\n[gas turbine]\nname;power1;energy2\nG;5000;3\n");
+  {
+    NivraViewer viewer;
+    viewer.open(workspace.scenario());
+    auto *stack = viewer.findChild<CharacteristicsStack *>();
+    QVERIFY(stack->isHidden() && stack->opened().isEmpty());
+    viewer.elementAction(QStringLiteral("P1"), NetPicker::EleAction::OpenCharacteristics); // a pipe has none
+    QVERIFY(stack->opened().isEmpty());
+    viewer.elementAction(QStringLiteral("K1"), NetPicker::EleAction::OpenCharacteristics);
+    QCOMPARE(stack->opened(), QStringList{QStringLiteral("K1")});
+    QVERIFY(!stack->isHidden());
+    QVERIFY(stack->summary(QStringLiteral("K1")).contains(QStringLiteral("pressure ratio")));
+    auto *findings = viewer.findChild<NivraFindings *>();
+    QStringList texts;
+    for (QTreeWidgetItemIterator it(findings->findChild<QTreeWidget *>()); *it != nullptr; ++it)
+      texts.append((*it)->text(0));
+    QVERIFY2(texts.join(QLatin1Char('\n')).contains(QStringLiteral("faulty: \"speedmin\" is no number: fast")),
+             qPrintable(texts.join(QLatin1Char('\n'))));
+  }
+  NivraViewer again;
+  again.open(workspace.scenario());
+  QCOMPARE(again.findChild<CharacteristicsStack *>()->opened(), QStringList{QStringLiteral("K1")});
+  NetData net;
+  NetworkLoader loader(net);
+  QVERIFY(loader.resolve(workspace.scenario()));
+  loader.readConfiguration();
+  QVERIFY(loader.readNetwork({}));
+  QVERIFY(std::abs(loader.machines().ambientTemperature - 20.0) < 1e-9);
+  again.open(workspace.geometry()); // without a scenario there are no machines
+  QVERIFY(again.findChild<CharacteristicsStack *>()->opened().isEmpty());
 }
 
 void TestWindow::openDialogStartsAtTheExample() {
