@@ -35,7 +35,11 @@ std::shared_ptr<SubAssemblyTemplates> SubAssemblyCache::folder(const QString &pa
   if (known != m_folders.end()) {
     NivraMsg::debug(QStringLiteral("SubAssemblyCache: using existing cache for dir ") + path);
     m_folders.splice(m_folders.begin(), m_folders, known);
-    return m_folders.front().templates;
+    const std::shared_ptr<SubAssemblyTemplates> &templates = m_folders.front().templates;
+    templates->geometry.forgetChanged();
+    templates->constraints.forgetChanged();
+    templates->formulas.forgetChanged();
+    return templates;
   }
   if (size() >= MostFolders) {
     NivraMsg::debug(QStringLiteral("SubAssemblyCache: removing cache for dir ") + m_folders.back().path);

@@ -29,6 +29,7 @@ private slots:
   void templatesDoNotNest();
   void formulasAndConstraints();
   void foldersAreCached();
+  void editedTemplatesAreReadAnew();
   void manySubnets();
   void templatesOfTheProgram();
 
@@ -318,6 +319,23 @@ void TestSubAssembler::foldersAreCached() {
   QCOMPARE(m_cache.size(), 3);
   QCOMPARE(m_cache.folder(QStringLiteral("/a")), a);
   QVERIFY(m_cache.folder(m_folder->path()) == templates);
+}
+
+void TestSubAssembler::editedTemplatesAreReadAnew() {
+  addSubnet("S", "station", "N1;N2");
+  assemble();
+  QCOMPARE(value("length", "S_A"), QStringLiteral("3"));
+  QFile file(m_folder->filePath(QStringLiteral("station.geom")));
+  QVERIFY(file.open(QIODevice::ReadWrite));
+  const QByteArray text = file.readAll().replace("A;In;M;3", "A;In;M;33");
+  file.resize(0);
+  file.seek(0);
+  file.write(text);
+  file.close();
+  m_net->edges().clear();
+  m_net->nodes().erase(QStringLiteral("S_M"));
+  assemble();
+  QCOMPARE(value("length", "S_A"), QStringLiteral("33"));
 }
 
 void TestSubAssembler::manySubnets() {

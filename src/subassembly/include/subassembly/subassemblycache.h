@@ -4,6 +4,8 @@
 #include <formulas/formulafile.h>
 #include <model/netdata.h>
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QHash>
 #include <QString>
 
@@ -23,10 +25,19 @@ public:
     const auto known = m_entries.find(path);
     if (known != m_entries.end()) {
       ++m_hits;
-      return **known;
+      return *known->content;
     }
     noteEntry(m_name, m_hits, m_entries.size() + 1, path);
-    return **m_entries.insert(path, std::make_shared<const Content>(read(path)));
+    const QFileInfo file(path);
+    return *m_entries.insert(path, {std::make_shared<const Content>(read(path)), file.lastModified(), file.size()})->content;
+  }
+  /// Files that were edited since are read anew when they are asked for again.
+  void forgetChanged() {
+    for (auto entry = m_entries.begin(); entry != m_entries.end();) {
+      const QFileInfo file(entry.key());
+      const bool isSame = file.lastModified() == entry->modified && file.size() == entry->size;
+      entry = isSame ? std::next(entry) : m_entries.erase(entry);
+    }
   }
   int hits() const { return m_hits; }
   int size() const { return m_entries.size(); }
@@ -34,8 +45,14 @@ public:
 private:
   static void noteEntry(const QString &name, int hits, int number, const QString &path);
 
+  struct Entry {
+    std::shared_ptr<const Content> content;
+    QDateTime modified; ///< of the file, as the size
+    qint64 size = 0;
+  };
+
   QString m_name;
-  QHash<QString, std::shared_ptr<const Content>> m_entries;
+  QHash<QString, Entry> m_entries;
   int m_hits = 0;
 };
 
@@ -64,7 +81,8 @@ public:
   /// That of the program.
   static SubAssemblyCache &instance();
 
-  /// Null for an empty path. Of more folders than MostFolders the one that was not used longest is dropped.
+  /// Null for an empty path. What was edited meanwhile is forgotten. Of more folders than MostFolders the one that was not
+  /// used longest is dropped.
   std::shared_ptr<SubAssemblyTemplates> folder(const QString &path);
   int size() const { return static_cast<int>(m_folders.size()); }
 
