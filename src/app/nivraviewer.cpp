@@ -223,6 +223,7 @@ void NivraViewer::computeAgain(const QStringList &names, const QString &property
   m_loader.computeAgain(names, property);
   m_tools->setFindings(m_loader.noticed());
   m_tools->showElement(m_currentElement);
+  m_tools->refreshMachines();
   m_control->plot()->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
   for (SubnetWindow *window : subnetWindows())
     window->takeProperties();

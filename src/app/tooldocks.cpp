@@ -154,6 +154,10 @@ void ToolDocks::setMachines(const MachineData &machines) {
   m_characteristics->setFile(m_directory + QStringLiteral("/characteristics.txt"));
 }
 
+void ToolDocks::refreshMachines() {
+  m_characteristics->refresh();
+}
+
 void ToolDocks::openCharacteristics(const QStringList &names) {
   for (const QString &name : names) {
     if (m_characteristics == nullptr || !m_characteristics->open(name))

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr const char *SaidProperty = "said"; // of a page: its text when it was made
+
 QString number(double value, int digits = 4) {
   constexpr double Whole = 1000.0;
   return std::abs(value) >= Whole ? QString::number(value, 'f', 0) : QString::number(value, 'g', digits);
@@ -123,6 +125,22 @@ void CharacteristicsStack::setMachines(MachineData machines) {
       m_tabs->addTab(page, name);
   }
   showHint();
+}
+
+void CharacteristicsStack::refresh() {
+  const int current = m_tabs->currentIndex();
+  for (int i = 0; i < m_tabs->count(); ++i) {
+    QWidget *before = m_tabs->widget(i);
+    const QString name = before->objectName();
+    if (name.isEmpty() || before->property(SaidProperty).toString() == summary(name))
+      continue;
+    QWidget *page = makePage(name);
+    if (page == nullptr)
+      continue;
+    delete before;
+    m_tabs->insertTab(i, page, name);
+  }
+  m_tabs->setCurrentIndex(current);
 }
 
 void CharacteristicsStack::setFile(const QString &path) {
@@ -269,6 +287,7 @@ QWidget *CharacteristicsStack::makePage(const QString &elementName) const {
     return nullptr;
   auto *page = new QWidget;
   page->setObjectName(elementName);
+  page->setProperty(SaidProperty, summary(first));
   auto *column = new QVBoxLayout(page);
   auto *choice = new QComboBox;
   choice->addItems(names);

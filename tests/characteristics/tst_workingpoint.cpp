@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <qwt_scale_div.h>
@@ -232,6 +233,15 @@ void TestWorkingPoint::stackOpensAndKeeps() {
     const QString text = stack.summary(QStringLiteral("M"));
     QVERIFY2(text.contains(QStringLiteral("shaft power")) && text.contains(QStringLiteral("fuel or current")),
              qPrintable(text));
+    auto *tabs = stack.findChild<QTabWidget *>();
+    const QList<QPointer<QWidget>> before{tabs->widget(0), tabs->widget(1)};
+    stack.refresh(); // nothing is new
+    QVERIFY(!before[0].isNull() && !before[1].isNull());
+    m_net->edges().at(QStringLiteral("M")).set(QStringLiteral("m"), QStringLiteral("120"));
+    stack.refresh();
+    QVERIFY(before[0].isNull() && before[1].isNull()); // the drive works where its compressor does
+    QCOMPARE(stack.opened(), (QStringList{QStringLiteral("M"), QStringLiteral("D1")}));
+    QCOMPARE(tabs->currentIndex(), 0);
   }
   CharacteristicsStack again(*m_net);
   again.setMachines(data());

@@ -57,6 +57,8 @@ public:
   /// The maps of compressors and drives, in pages of their own.
   void openCharacteristics(const QStringList &names);
   void setMachines(const MachineData &machines);
+  /// After properties have changed, the working points with them.
+  void refreshMachines();
   /// The page of the guide about a tool.
   void showHelp(const QString &page);
   void setFindings(const std::vector<FindingList::Group> &groups);

@@ -24,6 +24,8 @@ public:
   /// is shown.
   bool open(const QString &elementName);
   QStringList opened() const;
+  /// After properties have changed: pages that have something else to say are made anew.
+  void refresh();
 
   /// What the page of an element says beside the map, as rich text; empty when there is nothing for it.
   QString summary(const QString &elementName) const;
