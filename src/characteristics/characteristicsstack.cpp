@@ -119,7 +119,8 @@ QStringList CharacteristicsStack::opened() const {
 void CharacteristicsStack::setMachines(MachineData machines) {
   m_machines = std::move(machines);
   const QStringList names = opened();
-  m_tabs->clear();
+  while (m_tabs->count() > 0)
+    delete m_tabs->widget(0);
   for (const QString &name : names) {
     if (QWidget *page = makePage(name))
       m_tabs->addTab(page, name);
@@ -186,7 +187,8 @@ const Drive *CharacteristicsStack::driveOf(const element &compressor, const QStr
 }
 
 bool CharacteristicsStack::open(const QString &elementName) {
-  QWidget *page = m_tabs->findChild<QWidget *>(elementName);
+  const int tab = opened().indexOf(elementName);
+  QWidget *page = tab >= 0 ? m_tabs->widget(tab) : nullptr;
   if (page == nullptr) {
     page = makePage(elementName);
     if (page == nullptr) {

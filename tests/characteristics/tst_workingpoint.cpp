@@ -305,6 +305,13 @@ void TestWorkingPoint::stackWithoutData() {
   QVERIFY(stack.open(QStringLiteral("M")));
   stack.setMachines(MachineData()); // the next case
   QVERIFY(stack.opened().isEmpty());
+  stack.setMachines(data()); // and the first one again
+  QVERIFY(stack.open(QStringLiteral("M")));
+  QCOMPARE(stack.opened(), QStringList{QStringLiteral("M")});
+  QVERIFY(stack.open(QStringLiteral("D1")));
+  stack.setMachines(data());
+  QVERIFY(stack.open(QStringLiteral("D1")));
+  QCOMPARE(stack.findChild<QTabWidget *>()->currentWidget()->objectName(), QStringLiteral("D1"));
 }
 
 void TestWorkingPoint::mouseZoomsAndReads() {
