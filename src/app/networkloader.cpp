@@ -101,6 +101,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   notice(tr("Reading"), subResults.findings);
   m_seconds.append({QStringLiteral("subnets"), static_cast<double>(timer.restart()) * Milli});
   readMachines();
+  m_seconds.append({QStringLiteral("machines"), static_cast<double>(timer.restart()) * Milli});
   m_cancelled = m_cancelled || subResults.cancelled;
   const bool isComputed = !m_cancelled && computeFormulas(options.progress);
   if (!isComputed) {

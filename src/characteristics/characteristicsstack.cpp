@@ -1,8 +1,9 @@
+#include "shownnumber.h"
+
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
 #include <characteristics/mapplot.h>
-#include <characteristics/workingpoint.h>
 
 #include <QComboBox>
 #include <QFile>
@@ -11,16 +12,9 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include <cmath>
-
 namespace {
 
 constexpr const char *SaidProperty = "said"; // of a page: its text when it was made
-
-QString number(double value, int digits = 4) {
-  constexpr double Whole = 1000.0;
-  return std::abs(value) >= Whole ? QString::number(value, 'f', 0) : QString::number(value, 'g', digits);
-}
 
 QString row(const QString &name, const QString &value) {
   return QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td><b>%2</b></td></tr>").arg(name, value);
@@ -31,47 +25,34 @@ QString fitText(const QString &what, const Fits::Quality &quality, const QString
     return QString();
   constexpr double Rounding = 1e-9; // below it a residual says nothing about the points
   const auto residual = [](double value) {
-    return number(value < Rounding ? 0.0 : value, 3);
+    return shownNumber(value < Rounding ? 0.0 : value, 3);
   };
   return CharacteristicsStack::tr("%1 fitted: largest residual %2%3, mean %4%3, condition %5")
              .arg(what, residual(quality.largestResidual), unit.isEmpty() ? unit : QLatin1Char(' ') + unit,
-                  residual(quality.meanResidual), number(quality.condition, 3)) +
+                  residual(quality.meanResidual), shownNumber(quality.condition, 3)) +
          QStringLiteral("<br/>");
 }
 
 QString pointTable(const WorkingPoint &point) {
   using Stack = CharacteristicsStack;
   QString text = QStringLiteral("<table>");
-  text += row(Stack::tr("volume flow"), number(point.flow) + QStringLiteral(" m³/s"));
-  text += row(Stack::tr("adiabatic head"), number(point.head) + QStringLiteral(" kJ/kg"));
-  text += row(Stack::tr("pressure ratio"), number(point.ratio));
+  text += row(Stack::tr("volume flow"), shownNumber(point.flow) + QStringLiteral(" m³/s"));
+  text += row(Stack::tr("adiabatic head"), shownNumber(point.head) + QStringLiteral(" kJ/kg"));
+  text += row(Stack::tr("pressure ratio"), shownNumber(point.ratio));
   if (point.speed)
-    text += row(Stack::tr("speed"), number(*point.speed) + QStringLiteral(" 1/min"));
+    text += row(Stack::tr("speed"), shownNumber(*point.speed) + QStringLiteral(" 1/min"));
   if (point.efficiency)
-    text += row(Stack::tr("efficiency"), number(100.0 * *point.efficiency, 3) + QStringLiteral(" %"));
+    text += row(Stack::tr("efficiency"), shownNumber(100.0 * *point.efficiency, 3) + QStringLiteral(" %"));
   if (point.power)
-    text += row(Stack::tr("shaft power"), number(*point.power) + QStringLiteral(" kW"));
+    text += row(Stack::tr("shaft power"), shownNumber(*point.power) + QStringLiteral(" kW"));
   if (point.powerLimit)
-    text += row(Stack::tr("power limit"), number(*point.powerLimit) + QStringLiteral(" kW"));
+    text += row(Stack::tr("power limit"), shownNumber(*point.powerLimit) + QStringLiteral(" kW"));
   if (point.energyRate)
-    text += row(Stack::tr("fuel or current"), number(*point.energyRate) + QStringLiteral(" kW"));
+    text += row(Stack::tr("fuel or current"), shownNumber(*point.energyRate) + QStringLiteral(" kW"));
   text += QStringLiteral("</table>");
   if (!point.remark.isEmpty())
     text += QStringLiteral("<p style=\"color:#b22222;\">%1</p>").arg(point.remark.toHtmlEscaped());
   return text;
-}
-
-QVector<QPointF> limitsOf(const PistonCompressor &machine, const Drive *drive, const Compression &compression,
-                          double ambientTemperature) {
-  constexpr int Steps = 40;
-  QVector<QPointF> limits;
-  for (int i = 0; i <= Steps; ++i) {
-    const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Steps;
-    const auto ratio = WorkingPoint::largestRatio(machine, speed, drive, compression, ambientTemperature);
-    if (ratio)
-      limits.append(QPointF(speed, *ratio));
-  }
-  return limits;
 }
 
 } // namespace
@@ -79,6 +60,7 @@ QVector<QPointF> limitsOf(const PistonCompressor &machine, const Drive *drive, c
 CharacteristicsStack::CharacteristicsStack(const NetData &net, QWidget *parent)
     : QDockWidget(tr("Characteristics"), parent)
     , m_net(net)
+    , m_machines(net)
     , m_tabs(new QTabWidget) {
   m_tabs->setTabsClosable(true);
   m_tabs->setMovable(true);
@@ -117,7 +99,7 @@ QStringList CharacteristicsStack::opened() const {
 }
 
 void CharacteristicsStack::setMachines(MachineData machines) {
-  m_machines = std::move(machines);
+  m_machines.set(std::move(machines));
   const QStringList names = opened();
   while (m_tabs->count() > 0)
     delete m_tabs->widget(0);
@@ -168,24 +150,6 @@ void CharacteristicsStack::keep() const {
     NivraMsg::logWarning(tr("The list of open characteristics cannot be kept in %1: %2").arg(m_path, file.errorString()));
 }
 
-QString CharacteristicsStack::machineOf(const element &e) const {
-  const QString machine = e.value(QStringLiteral("machine"));
-  QString name = machine.isEmpty() ? e.value(QStringLiteral("name")) : machine;
-  const element *driven = m_net.edges().find(e.value(QStringLiteral("driven")));
-  if (driven == nullptr || m_machines.drive(name) != nullptr)
-    return name;
-  // A drive may name its compressor's machine, or none: then it has the data of the drive that this one names.
-  const TurboCompressor *turbo = m_machines.turbo(machine.isEmpty() ? machineOf(*driven) : machine);
-  return turbo == nullptr ? name : turbo->drive;
-}
-
-const Drive *CharacteristicsStack::driveOf(const element &compressor, const QString &named) const {
-  const element *drive = m_net.nodes().find(compressor.value(QStringLiteral("drive")));
-  const bool isOneOfSeveral = machinesOf(compressor).size() > 1; // the drive that the network names is that of the first
-  const Drive *own = drive == nullptr || isOneOfSeveral ? nullptr : m_machines.drive(machineOf(*drive));
-  return own != nullptr ? own : m_machines.drive(named);
-}
-
 bool CharacteristicsStack::open(const QString &elementName) {
   const int tab = opened().indexOf(elementName);
   QWidget *page = tab >= 0 ? m_tabs->widget(tab) : nullptr;
@@ -208,51 +172,7 @@ bool CharacteristicsStack::open(const QString &elementName) {
   return true;
 }
 
-QStringList CharacteristicsStack::machinesOf(const element &e) const {
-  const QString name = machineOf(e);
-  const QStringList all = m_machines.ofStation(e.value(QStringLiteral("name")));
-  if (all.size() < 2)
-    return {name};
-  const int first = all.indexOf(name);
-  return first <= 0 ? all : QStringList{name} + all.mid(0, first) + all.mid(first + 1);
-}
-
-CharacteristicsStack::Machine CharacteristicsStack::machine(const element &e, const QString &machineName) const {
-  Machine found;
-  const double ambient = m_machines.ambientTemperature;
-  found.ambientTemperature = ambient;
-  found.ofStation = machinesOf(e).size();
-  found.turbo = m_machines.turbo(machineName);
-  found.piston = found.turbo == nullptr ? m_machines.piston(machineName) : nullptr;
-  found.drive = found.turbo == nullptr && found.piston == nullptr ? m_machines.drive(machineName) : nullptr;
-  const element *driven = m_net.edges().find(e.value(QStringLiteral("driven")));
-  const element *compressor = found.drive == nullptr ? &e : driven; // a drive works where its compressor does
-  const auto compression = compressor == nullptr ? std::nullopt : Compression::of(m_net, *compressor);
-  if (!compression)
-    return found;
-  if (found.turbo != nullptr) {
-    found.point = WorkingPoint::of(*found.turbo, driveOf(e, found.turbo->drive), *compression, ambient);
-  } else if (found.piston != nullptr) {
-    const Drive *drive = driveOf(e, found.piston->drive);
-    found.point = WorkingPoint::of(*found.piston, drive, *compression, ambient);
-    found.limits = limitsOf(*found.piston, drive, *compression, ambient);
-  } else if (found.drive != nullptr) {
-    const QString driving = machineOf(*compressor);
-    const TurboCompressor *turbo = m_machines.turboOf(*found.drive);
-    const PistonCompressor *piston = m_machines.pistonOf(*found.drive);
-    if (turbo == nullptr && piston == nullptr) {
-      turbo = m_machines.turbo(driving);
-      piston = m_machines.piston(driving);
-    }
-    if (turbo != nullptr)
-      found.point = WorkingPoint::of(*turbo, found.drive, *compression, ambient);
-    else if (piston != nullptr)
-      found.point = WorkingPoint::of(*piston, found.drive, *compression, ambient);
-  }
-  return found;
-}
-
-QString CharacteristicsStack::summary(const Machine &machine) {
+QString CharacteristicsStack::summary(const NetworkMachines::Machine &machine) {
   QString text;
   if (machine.turbo != nullptr)
     text = fitText(tr("Head"), machine.turbo->headQuality, QStringLiteral("kJ/kg")) +
@@ -275,7 +195,7 @@ QString CharacteristicsStack::summary(const QString &elementName) const {
   const element *e = m_net.element(elementName);
   if (e == nullptr)
     return QString();
-  const Machine found = machine(*e, machinesOf(*e).first());
+  const NetworkMachines::Machine found = m_machines.machine(*e, m_machines.names(*e).first());
   return found.isThere() ? summary(found) : QString();
 }
 
@@ -283,8 +203,8 @@ QWidget *CharacteristicsStack::makePage(const QString &elementName) const {
   const element *e = m_net.element(elementName);
   if (e == nullptr)
     return nullptr;
-  const QStringList names = machinesOf(*e);
-  const Machine first = machine(*e, names.first());
+  const QStringList names = m_machines.names(*e);
+  const NetworkMachines::Machine first = m_machines.machine(*e, names.first());
   if (!first.isThere())
     return nullptr;
   auto *page = new QWidget;
@@ -299,12 +219,12 @@ QWidget *CharacteristicsStack::makePage(const QString &elementName) const {
   connect(choice, &QComboBox::currentTextChanged, page, [this, column, elementName](const QString &name) {
     delete column->itemAt(1)->widget();
     if (const element *station = m_net.element(elementName))
-      column->addWidget(makeMap(machine(*station, name)), 1);
+      column->addWidget(makeMap(m_machines.machine(*station, name)), 1);
   });
   return page;
 }
 
-QWidget *CharacteristicsStack::makeMap(const Machine &machine) {
+QWidget *CharacteristicsStack::makeMap(const NetworkMachines::Machine &machine) {
   auto *map = new QWidget;
   auto *column = new QVBoxLayout(map);
   column->setContentsMargins(0, 0, 0, 0);

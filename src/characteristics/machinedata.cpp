@@ -153,13 +153,7 @@ Findings Drive::fit() {
 }
 
 const TurboCompressor *MachineData::turbo(const QString &name) const {
-  if (const TurboCompressor *found = named(turbos, name))
-    return found;
-  for (const TurboCompressor &machine : turbos) {
-    if (!machine.station.isEmpty() && machine.station.compare(name, Qt::CaseInsensitive) == 0)
-      return &machine;
-  }
-  return nullptr;
+  return named(turbos, name);
 }
 
 QStringList MachineData::ofStation(const QString &station) const {

@@ -160,7 +160,7 @@ MachineReader::Result MachineReader::read(const QString &path) {
   constexpr qint64 Looked = 1024;
   const QByteArray beginning = file.peek(Looked).trimmed();
   const bool isXml = beginning.startsWith('<') || beginning.startsWith("\xEF\xBB\xBF<");
-  result = isXml ? MachineXml(file, path).read() : readTables(path);
+  result = isXml ? MachineXml(path).read(file) : readTables(path);
   const auto tell = [&](Findings findings) {
     for (Finding &finding : findings) {
       finding.file = path;

@@ -11,7 +11,7 @@ QString tr(const char *text) {
 }
 
 /// To the units of machine data; 0 for a unit that is not known.
-double factorOf(const QStringRef &unit) {
+double factorOf(const QString &unit) {
   static const std::pair<QLatin1String, double> factors[] = {{QLatin1String(""), 1.0},
                                                              {QLatin1String("per_min"), 1.0},
                                                              {QLatin1String("per_s"), 60.0},
@@ -36,34 +36,25 @@ double factorOf(const QStringRef &unit) {
 
 } // namespace
 
-MachineXml::MachineXml(QIODevice &device, QString path)
-    : m_xml(&device)
-    , m_path(std::move(path)) {}
-
-void MachineXml::tell(const QString &text) {
-  constexpr std::size_t Most = 1000; // a file that is wrong altogether must not fill the memory
-  if (m_result.findings.size() > Most)
-    return;
-  if (m_result.findings.size() == Most) {
-    m_result.findings.push_back({Finding::Severity::Warning, m_path, 0, tr("... and more, which are not told"), QString()});
-    return;
-  }
-  m_result.findings.push_back({Finding::Severity::Warning, m_path, static_cast<int>(m_xml.lineNumber()), text, QString()});
+double MachineXml::valueHere() {
+  bool isNumber = false;
+  const QString text = attribute("value");
+  const double value = text.toDouble(&isNumber);
+  if (isNumber && std::isfinite(value))
+    return value;
+  tell(tr("%1 is no number: \"%2\"").arg(m_xml.name().toString(), text));
+  return std::nan("");
 }
 
 double MachineXml::number() {
-  const QXmlStreamAttributes attributes = m_xml.attributes();
-  const QString element = m_xml.name().toString();
-  bool isNumber = false;
-  const double value = attributes.value(QStringLiteral("value")).toDouble(&isNumber);
-  const double factor = factorOf(attributes.value(QStringLiteral("unit")));
-  if (!isNumber || !std::isfinite(value))
-    tell(tr("%1 is no number: \"%2\"").arg(element, attributes.value(QStringLiteral("value")).toString()));
-  else if (factor == 0.0)
-    tell(tr("the unit \"%1\" of %2 is not known, the value is taken as it stands")
-             .arg(attributes.value(QStringLiteral("unit")).toString(), element));
+  double value = valueHere();
+  const QString unit = attribute("unit");
+  if (const double factor = factorOf(unit); factor != 0.0)
+    value *= factor;
+  else if (!std::isnan(value))
+    tell(tr("the unit \"%1\" of %2 is not known, the value is taken as it stands").arg(unit, m_xml.name().toString()));
   m_xml.skipCurrentElement();
-  return isNumber && std::isfinite(value) ? value * (factor == 0.0 ? 1.0 : factor) : std::nan("");
+  return value;
 }
 
 int MachineXml::coefficient(const char *prefix, std::size_t count) const {
@@ -79,34 +70,23 @@ void MachineXml::skipUnknown() {
   m_xml.skipCurrentElement();
 }
 
-MachineReader::Result MachineXml::read() {
-  constexpr auto Namespace = "http://gaslib.zib.de/CompressorStations";
+MachineReader::Result MachineXml::read(QIODevice &device) {
   m_result.ok = true;
-  while (!m_xml.atEnd() && m_xml.readNext() != QXmlStreamReader::StartElement) {
-    if (m_xml.isDTD()) { // before anything in it is used
-      tell(tr("The file has a document type, which is not allowed: nothing is read."));
-      return m_result;
+  if (start(device, QStringLiteral("compressorStations"), QStringLiteral("CompressorStations"))) {
+    while (m_xml.readNextStartElement()) {
+      if (m_xml.name() == QLatin1String("compressorStation"))
+        readStation();
+      else
+        skipUnknown();
     }
+    finish();
   }
-  if (m_xml.isStartElement() && m_xml.name() != QLatin1String("compressorStations")) {
-    tell(tr("The file holds %1 instead of compressorStations: nothing is read.").arg(m_xml.name().toString()));
-    return m_result;
-  }
-  if (m_xml.isStartElement() && m_xml.namespaceUri() != QLatin1String(Namespace))
-    tell(tr("The namespace is \"%1\" instead of \"%2\".").arg(m_xml.namespaceUri().toString(), QLatin1String(Namespace)));
-  while (m_xml.readNextStartElement()) {
-    if (m_xml.name() == QLatin1String("compressorStation"))
-      readStation();
-    else
-      skipUnknown();
-  }
-  if (m_xml.hasError())
-    tell(tr("The file cannot be read any further: %1").arg(m_xml.errorString()));
-  return m_result;
+  m_result.findings = std::move(findings);
+  return std::move(m_result);
 }
 
 void MachineXml::readStation() {
-  m_station = m_xml.attributes().value(QStringLiteral("id")).toString();
+  m_station = attribute("id");
   while (m_xml.readNextStartElement()) {
     if (m_xml.name() == QLatin1String("compressors"))
       readCompressors();
@@ -160,9 +140,9 @@ void MachineXml::readPoints(std::vector<MeasuredPoint> &points, double efficienc
 
 void MachineXml::readTurbo() {
   TurboCompressor machine;
-  machine.name = m_xml.attributes().value(QStringLiteral("id")).toString();
+  machine.name = attribute("id");
   machine.station = m_station;
-  machine.drive = m_xml.attributes().value(QStringLiteral("drive")).toString();
+  machine.drive = attribute("drive");
   Biquadratic head;
   Biquadratic efficiency;
   Quadratic surge;
@@ -190,7 +170,7 @@ void MachineXml::readTurbo() {
     } else if (m_xml.name() == QLatin1String("characteristicDiagramMeasurements")) {
       while (m_xml.readNextStartElement()) {
         if (m_xml.name() == QLatin1String("adiabaticEfficiency"))
-          readPoints(machine.points, m_xml.attributes().value(QStringLiteral("value")).toDouble());
+          readPoints(machine.points, valueHere());
         else
           skipUnknown();
       }
@@ -203,9 +183,9 @@ void MachineXml::readTurbo() {
 
 void MachineXml::readPiston() {
   PistonCompressor machine;
-  machine.name = m_xml.attributes().value(QStringLiteral("id")).toString();
+  machine.name = attribute("id");
   machine.station = m_station;
-  machine.drive = m_xml.attributes().value(QStringLiteral("drive")).toString();
+  machine.drive = attribute("drive");
   while (m_xml.readNextStartElement()) {
     if (m_xml.name() == QLatin1String("speedMin"))
       machine.speedMin = number();
@@ -244,7 +224,7 @@ void MachineXml::readDrives() {
 
 void MachineXml::readDrive(Drive::Kind kind) {
   Drive drive;
-  drive.name = m_xml.attributes().value(QStringLiteral("id")).toString();
+  drive.name = attribute("id");
   drive.kind = kind;
   Biquadratic power;
   Quadratic energy;

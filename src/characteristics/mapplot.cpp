@@ -1,3 +1,5 @@
+#include "shownnumber.h"
+
 #include <base/nivramsg.h>
 #include <characteristics/mapplot.h>
 
@@ -27,11 +29,6 @@ const QColor Blue(31, 93, 138);
 const QColor Green(46, 125, 50);
 const QColor Red(178, 34, 34);
 const QColor Orange(196, 98, 16);
-
-QString shown(double number, int digits = 4) {
-  constexpr double Whole = 1000.0;
-  return std::abs(number) >= Whole ? QString::number(number, 'f', 0) : QString::number(number, 'g', digits);
-}
 
 /// Both ends of a range and round numbers between them, about half a dozen.
 std::vector<double> roundValues(double from, double to) {
@@ -136,6 +133,8 @@ void MapPlot::addArea(const QVector<QPointF> &outline) {
 }
 
 void MapPlot::addDots(const QVector<QPointF> &points) {
+  if (points.isEmpty())
+    return;
   auto *dots = new QwtPlotCurve;
   dots->setStyle(QwtPlotCurve::NoCurve);
   dots->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, Qt::white, QPen(Orange, 1.2), QSize(5, 5)));
@@ -192,68 +191,66 @@ void MapPlot::addEfficiencies(const TurboCompressor &machine, const QPointF &cor
   }
 }
 
+/// Speed lines, surge and choke line with the area between them, lines of equal efficiency.
+void MapPlot::addLines(const TurboCompressor &machine) {
+  const auto at = [&machine](double flow, double speed) {
+    return QPointF(flow, (*machine.head)(flow, speed));
+  };
+  QVector<QPointF> surge; // from the largest speed to the smallest, as the following: labels stand at the end
+  QVector<QPointF> choke;
+  for (int i = Steps; i >= 0; --i) {
+    const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Steps;
+    if (const auto flows = machine.flows(speed)) {
+      surge.append(at(flows->first, speed));
+      choke.append(at(flows->second, speed));
+    }
+  }
+  QVector<QPointF> top; // from the surge line to the choke line
+  QVector<QPointF> bottom;
+  for (const double speed : roundValues(machine.speedMin, machine.speedMax)) {
+    const auto flows = machine.flows(speed);
+    QVector<QPointF> line;
+    for (int i = 0; flows && i <= Steps; ++i)
+      line.append(at(flows->first + (flows->second - flows->first) * i / Steps, speed));
+    const bool isEdge = speed == machine.speedMin || speed == machine.speedMax;
+    addLine(line, QPen(Blue, isEdge ? 2.0 : 1.0), tr("%1 /min").arg(shownNumber(speed)));
+    if (speed == machine.speedMin)
+      bottom = line;
+    top = line;
+  }
+  constexpr double LabelRoom = 1.15;
+  const QPointF corner = top.isEmpty() ? QPointF() : top.last();
+  addRoom({corner.x() * LabelRoom, corner.y()});
+  std::reverse(bottom.begin(), bottom.end());
+  addArea(top + choke + bottom + QVector<QPointF>(surge.rbegin(), surge.rend()));
+  addLine(surge, QPen(Red, 2.0), machine.surge ? tr("surge") : QString(), Qt::AlignRight | Qt::AlignBottom);
+  addLine(choke, QPen(Orange, 2.0), machine.choke ? tr("choke") : QString(), Qt::AlignLeft | Qt::AlignBottom);
+  addEfficiencies(machine, corner);
+}
+
 void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point) {
   reset(tr("volume flow at the inlet [m³/s]"), tr("adiabatic head [kJ/kg]"));
   m_readout = [machine](const QPointF &at) {
-    QString text = tr("Q = %1 m³/s\nH = %2 kJ/kg").arg(shown(at.x()), shown(at.y()));
+    QString text = tr("Q = %1 m³/s\nH = %2 kJ/kg").arg(shownNumber(at.x()), shownNumber(at.y()));
     if (!machine.head)
       return text;
     for (const double speed : Fits::solve(machine.head->inY(at.x()), at.y())) {
       if (speed < machine.speedMin || speed > machine.speedMax)
         continue;
-      text += tr("\nn = %1 1/min").arg(shown(speed));
+      text += tr("\nn = %1 1/min").arg(shownNumber(speed));
       if (machine.efficiency)
-        text += tr("\nη = %1 %").arg(shown(100.0 * (*machine.efficiency)(at.x(), speed), 3));
+        text += tr("\nη = %1 %").arg(shownNumber(100.0 * (*machine.efficiency)(at.x(), speed), 3));
     }
     return text;
   };
-  if (machine.isUsable()) {
-    QVector<QPointF> surge;
-    QVector<QPointF> choke;
-    for (int i = 0; i <= Steps; ++i) {
-      const double speed = machine.speedMin + (machine.speedMax - machine.speedMin) * i / Steps;
-      if (const auto flows = machine.flows(speed)) {
-        surge.append(QPointF(flows->first, (*machine.head)(flows->first, speed)));
-        choke.append(QPointF(flows->second, (*machine.head)(flows->second, speed)));
-      }
-    }
-    QVector<QPointF> top;
-    QVector<QPointF> bottom;
-    for (const double speed : roundValues(machine.speedMin, machine.speedMax)) {
-      const auto flows = machine.flows(speed);
-      QVector<QPointF> line;
-      for (int k = 0; flows && k <= Steps; ++k) {
-        const double flow = flows->first + (flows->second - flows->first) * k / Steps;
-        line.append(QPointF(flow, (*machine.head)(flow, speed)));
-      }
-      const bool isEdge = speed == machine.speedMin || speed == machine.speedMax;
-      addLine(line, QPen(Blue, isEdge ? 2.0 : 1.0), tr("%1 /min").arg(shown(speed)));
-      if (speed == machine.speedMin)
-        bottom = line;
-      top = line;
-    }
-    const QPointF corner = top.isEmpty() ? QPointF() : top.last();
-    constexpr double LabelRoom = 1.15;
-    addRoom({corner.x() * LabelRoom, corner.y()});
-    QVector<QPointF> outline = bottom;
-    outline += choke;
-    std::reverse(top.begin(), top.end());
-    outline += top;
-    std::reverse(surge.begin(), surge.end());
-    outline += surge;
-    addArea(outline);
-    std::reverse(choke.begin(), choke.end()); // labels stand at the ends of small heads
-    addLine(surge, QPen(Red, 2.0), machine.surge ? tr("surge") : QString(), Qt::AlignRight | Qt::AlignBottom);
-    addLine(choke, QPen(Orange, 2.0), machine.choke ? tr("choke") : QString(), Qt::AlignLeft | Qt::AlignBottom);
-    addEfficiencies(machine, corner);
-  }
+  if (machine.isUsable())
+    addLines(machine);
   QVector<QPointF> dots;
   for (const auto *points : {&machine.points, &machine.surgePoints}) {
     for (const MeasuredPoint &measured : *points)
       dots.append(QPointF(measured.flow, measured.head));
   }
-  if (!dots.isEmpty())
-    addDots(dots);
+  addDots(dots);
   if (point)
     addWorkingPoint({point->flow, point->head}, point->isInside);
   finish();
@@ -261,32 +258,29 @@ void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPo
 
 void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point,
                    const QVector<QPointF> &limits) {
-  constexpr double SecondsPerMinute = 60.0;
   constexpr double ShownRatio = 4.0; // of a machine that says no largest
   reset(tr("volume flow at the inlet [m³/s]"), tr("pressure ratio"));
   m_readout = [machine](const QPointF &at) {
     return tr("Q = %1 m³/s\nratio = %2\nn = %3 1/min")
-        .arg(shown(at.x()), shown(at.y()), shown(at.x() / machine.displacement * SecondsPerMinute));
-  };
-  const auto flow = [&machine](double speed) {
-    return machine.displacement * speed / SecondsPerMinute;
+        .arg(shownNumber(at.x()), shownNumber(at.y()), shownNumber(machine.speed(at.x())));
   };
   QVector<QPointF> top; // from the smallest speed to the largest
   for (const QPointF &limit : limits)
-    top.append(QPointF(flow(limit.x()), std::max(1.0, limit.y())));
+    top.append(QPointF(machine.flow(limit.x()), std::max(1.0, limit.y())));
   const bool isLimited = !top.isEmpty() || machine.maximalRatio > 0.0;
   if (top.isEmpty()) {
     const double ratio = machine.maximalRatio > 0.0 ? machine.maximalRatio : ShownRatio;
-    top = {{flow(machine.speedMin), ratio}, {flow(machine.speedMax), ratio}};
+    top = {{machine.flow(machine.speedMin), ratio}, {machine.flow(machine.speedMax), ratio}};
   }
   QVector<QPointF> outline{{top.last().x(), 1.0}, {top.first().x(), 1.0}};
   addArea(outline + top);
   for (const double speed : roundValues(machine.speedMin, machine.speedMax)) {
+    const double flow = machine.flow(speed);
     const auto end =
-        std::find_if(top.begin(), top.end(), [&](const QPointF &at) { return at.x() >= flow(speed) * (1.0 - 1e-9); });
+        std::find_if(top.begin(), top.end(), [flow](const QPointF &at) { return at.x() >= flow * (1.0 - 1e-9); });
     const double ratio = end == top.end() ? top.last().y() : end->y();
     const bool isEdge = speed == machine.speedMin || speed == machine.speedMax;
-    addLine({{flow(speed), 1.0}, {flow(speed), ratio}}, QPen(Blue, isEdge ? 2.0 : 1.0), tr("%1 /min").arg(shown(speed)),
+    addLine({{flow, 1.0}, {flow, ratio}}, QPen(Blue, isEdge ? 2.0 : 1.0), tr("%1 /min").arg(shownNumber(speed)),
             (speed == machine.speedMax ? Qt::AlignHCenter : Qt::AlignRight) | Qt::AlignTop);
   }
   addLine(top, QPen(Red, isLimited ? 2.0 : 0.5));
@@ -299,12 +293,11 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
   reset(tr("speed [1/min]"), tr("largest power [kW]"));
   const auto power = drive.power;
   m_readout = [power, temperature](const QPointF &at) {
-    QString text = tr("n = %1 1/min\nP = %2 kW").arg(shown(at.x()), shown(at.y()));
+    QString text = tr("n = %1 1/min\nP = %2 kW").arg(shownNumber(at.x()), shownNumber(at.y()));
     if (power)
-      text += tr("\nlimit = %1 kW at %2 °C").arg(shown((*power)(temperature, at.x())), shown(temperature, 3));
+      text += tr("\nlimit = %1 kW at %2 °C").arg(shownNumber((*power)(temperature, at.x())), shownNumber(temperature, 3));
     return text;
   };
-  double first = 0.0;
   double last = point && point->speed ? 1.5 * *point->speed : 0.0;
   for (const Drive::PowerPoint &measured : drive.powerPoints)
     last = std::max(last, measured.speed);
@@ -314,21 +307,20 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
     for (const double at : {-10.0, 30.0, temperature}) {
       QVector<QPointF> line;
       for (int i = 0; i <= Steps; ++i) {
-        const double speed = first + (last - first) * i / Steps;
+        const double speed = last * i / Steps;
         const double limit = (*drive.power)(at, speed);
         if (limit > 0.0)
           line.append(QPointF(speed, limit));
       }
       addLine(line, QPen(at == temperature ? Blue : QColor(120, 160, 190), at == temperature ? 2.0 : 1.2),
-              tr("%1 °C").arg(shown(at, 3)),
+              tr("%1 °C").arg(shownNumber(at, 3)),
               Qt::AlignLeft | Qt::AlignTop); // inside, where the line ends at the edge
     }
   }
   QVector<QPointF> dots;
   for (const Drive::PowerPoint &measured : drive.powerPoints)
     dots.append(QPointF(measured.speed, measured.power));
-  if (!dots.isEmpty())
-    addDots(dots);
+  addDots(dots);
   if (point && point->speed && point->power)
     addWorkingPoint({*point->speed, *point->power}, !point->powerLimit || *point->power <= *point->powerLimit);
   finish();
@@ -338,9 +330,9 @@ void MapPlot::showConsumption(const Drive &drive, const std::optional<WorkingPoi
   reset(tr("power [kW]"), drive.kind == Drive::Kind::ElectricMotor ? tr("current taken [kW]") : tr("fuel taken [kW]"));
   const auto energy = drive.energy;
   m_readout = [energy](const QPointF &at) {
-    QString text = tr("P = %1 kW").arg(shown(at.x()));
+    QString text = tr("P = %1 kW").arg(shownNumber(at.x()));
     if (energy)
-      text += tr("\ntakes %1 kW").arg(shown((*energy)(at.x())));
+      text += tr("\ntakes %1 kW").arg(shownNumber((*energy)(at.x())));
     return text;
   };
   double last = point && point->power ? 1.3 * *point->power : 0.0;
@@ -355,8 +347,7 @@ void MapPlot::showConsumption(const Drive &drive, const std::optional<WorkingPoi
   QVector<QPointF> dots;
   for (const Drive::EnergyPoint &measured : drive.energyPoints)
     dots.append(QPointF(measured.power, measured.rate));
-  if (!dots.isEmpty())
-    addDots(dots);
+  addDots(dots);
   if (point && point->power && point->energyRate)
     addWorkingPoint({*point->power, *point->energyRate}, true);
   finish();

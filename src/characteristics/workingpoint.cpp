@@ -201,7 +201,7 @@ WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *driv
     point.remark = tr("The machine has no displacement.");
     return point;
   }
-  point.speed = point.flow / machine.displacement * SecondsPerMinute;
+  point.speed = machine.speed(point.flow);
   point.isInside = *point.speed >= machine.speedMin && *point.speed <= machine.speedMax;
   if (!point.isInside)
     point.remark = speedRemark(*point.speed < machine.speedMin);

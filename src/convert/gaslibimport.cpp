@@ -61,12 +61,38 @@ Record gasOf(const std::vector<Record> &nodes) {
   return gas;
 }
 
-/// The drives of the stations as elements. They take their gas where the station says, else at its inlet, and stand on its
-/// line, several behind one another.
+/// A drive as an element. It takes its gas where the station says, else at its inlet, and stands on its line.
+/// \param from, to the station's ends; null for one that the network lacks
+/// \param share of the way between them at which it stands
+Record driveOf(const GasLibNetwork::Station::Drive &source, const Record &station, const Record *from, const Record *to,
+               double share) {
+  static const PropertyKey node1 = PropertyKey::intern("node1");
+  static const PropertyKey gasNode = PropertyKey::intern("gasnode");
+  Record drive{QStringLiteral("D_%1_%2").arg(station.name, source.name), QStringLiteral("drive"), {}};
+  const auto set = [&drive](const char *property, const QString &value) {
+    drive.values.push_back({PropertyKey::intern(property), PropertyText(value)});
+  };
+  const QString fuel = valueOf(station, gasNode);
+  set("gasnode", fuel.isEmpty() ? valueOf(station, node1) : fuel);
+  set("driven", station.name);
+  set("kind", source.kind);
+  set("machine", source.name);
+  set("vis.layer", QStringLiteral("stations"));
+  if (from == nullptr || to == nullptr)
+    return drive;
+  for (const char *axis : {"x", "y"}) {
+    constexpr int Digits = 14; // what the sum adds beyond is noise
+    const PropertyKey key = PropertyKey::intern(axis);
+    const double at = valueOf(*from, key).toDouble() * (1.0 - share) + valueOf(*to, key).toDouble() * share;
+    drive.values.push_back({key, PropertyText::ofNumber(at, Digits)});
+  }
+  return drive;
+}
+
+/// The drives of all stations, several of one behind one another.
 std::vector<Record> drivesOf(GasLibNetwork &net, GasLibNetwork &machines) {
   static const PropertyKey node1 = PropertyKey::intern("node1");
   static const PropertyKey node2 = PropertyKey::intern("node2");
-  static const PropertyKey gasNode = PropertyKey::intern("gasnode");
   QHash<QString, const Record *> nodes;
   for (const Record &node : net.nodes)
     nodes.insert(node.name, &node);
@@ -80,36 +106,19 @@ std::vector<Record> drivesOf(GasLibNetwork &net, GasLibNetwork &machines) {
       machines.tell(tr("%1 is no compressor station of the network; it gets no drives").arg(station.name), station.line);
       continue;
     }
+    constexpr double First = 0.7; // of the way, where a single drive would be put
+    constexpr double Last = 0.95;
+    const double step = (Last - First) / std::max(1.0, static_cast<double>(station.drives.size()));
+    double share = First;
+    const std::size_t before = drives.size();
+    for (const GasLibNetwork::Station::Drive &drive : station.drives) {
+      drives.push_back(driveOf(drive, *edge, nodes.value(valueOf(*edge, node1)), nodes.value(valueOf(*edge, node2)), share));
+      share += step;
+    }
     if (!station.compressor.isEmpty())
       edge->values.push_back({PropertyKey::intern("machine"), PropertyText(station.compressor)});
-    const Record *from = nodes.value(valueOf(*edge, node1));
-    const Record *to = nodes.value(valueOf(*edge, node2));
-    const QString fuel = valueOf(*edge, gasNode);
-    for (std::size_t i = 0; i < station.drives.size(); ++i) {
-      const GasLibNetwork::Station::Drive &source = station.drives[i];
-      Record drive{QStringLiteral("D_%1_%2").arg(station.name, source.name), QStringLiteral("drive"), {}};
-      const auto set = [&drive](const char *property, const QString &value) {
-        drive.values.push_back({PropertyKey::intern(property), PropertyText(value)});
-      };
-      set("gasnode", fuel.isEmpty() ? valueOf(*edge, node1) : fuel);
-      set("driven", station.name);
-      set("kind", source.kind);
-      set("machine", source.name);
-      set("vis.layer", QStringLiteral("stations"));
-      constexpr double First = 0.7; // of the way, where a single drive would be put
-      const double share = First + (0.95 - First) * static_cast<double>(i) / static_cast<double>(station.drives.size());
-      for (const char *axis : {"x", "y"}) {
-        constexpr int Digits = 14; // what the sum adds beyond is noise
-        const PropertyKey key = PropertyKey::intern(axis);
-        if (from == nullptr || to == nullptr)
-          continue;
-        const double at = valueOf(*from, key).toDouble() * (1.0 - share) + valueOf(*to, key).toDouble() * share;
-        drive.values.push_back({key, PropertyText::ofNumber(at, Digits)});
-      }
-      if (i == 0)
-        edge->values.push_back({PropertyKey::intern("drive"), PropertyText(drive.name)});
-      drives.push_back(std::move(drive));
-    }
+    if (drives.size() > before)
+      edge->values.push_back({PropertyKey::intern("drive"), PropertyText(drives[before].name)});
   }
   return drives;
 }

@@ -54,44 +54,6 @@ QString layerOf(const QString &kind) {
 
 } // namespace
 
-void GasLibNetwork::tell(const QString &text, int line) {
-  constexpr std::size_t Most = 1000; // a file that is wrong altogether must not fill the memory
-  if (findings.size() > Most)
-    return;
-  if (findings.size() == Most) {
-    findings.push_back({Finding::Severity::Warning, m_path, 0, tr("... and more, which are not told"), QString()});
-    return;
-  }
-  findings.push_back({Finding::Severity::Warning, m_path, line, text, QString()});
-}
-
-bool GasLibNetwork::open(QIODevice &device, const QString &root, const QString &space) {
-  if (!device.open(QIODevice::ReadOnly)) {
-    tell(tr("The file cannot be read: %1").arg(device.errorString()));
-    return false;
-  }
-  m_xml.setDevice(&device);
-  while (!m_xml.atEnd() && m_xml.readNext() != QXmlStreamReader::StartElement) {
-    if (m_xml.isDTD()) {
-      tell(tr("The file has a document type, which is not allowed: nothing is read."));
-      return false;
-    }
-  }
-  if (!m_xml.isStartElement() || m_xml.name() != root) {
-    tell(m_xml.hasError() ? m_xml.errorString() : tr("The file holds %1 instead of %2.").arg(m_xml.name().toString(), root));
-    return false;
-  }
-  const QString wanted = QStringLiteral("http://gaslib.zib.de/") + space;
-  if (m_xml.namespaceUri() != wanted)
-    tell(tr("The namespace is \"%1\" instead of \"%2\".").arg(m_xml.namespaceUri().toString(), wanted));
-  return true;
-}
-
-void GasLibNetwork::finish() {
-  if (m_xml.hasError())
-    tell(tr("The file cannot be read any further: %1").arg(m_xml.errorString()));
-}
-
 bool GasLibNetwork::number(const char *unit, double &value) {
   const QXmlStreamAttributes attributes = m_xml.attributes();
   const QString element = m_xml.name().toString();
@@ -143,7 +105,7 @@ void GasLibNetwork::readRecord(NetworkFileConverter::Record &record, const Known
 
 bool GasLibNetwork::readNetwork() {
   QFile file(m_path);
-  if (!open(file, QStringLiteral("network")))
+  if (!start(file, QStringLiteral("network"), QStringLiteral("Gas")))
     return false;
   while (m_xml.readNextStartElement()) {
     if (m_xml.name() == QLatin1String("nodes"))
@@ -247,7 +209,7 @@ void GasLibNetwork::readConnections() {
 
 bool GasLibNetwork::readScenario() {
   QFile file(m_path);
-  if (!open(file, QStringLiteral("boundaryValue")))
+  if (!start(file, QStringLiteral("boundaryValue"), QStringLiteral("Gas")))
     return false;
   bool hasScenario = false;
   while (m_xml.readNextStartElement()) {
@@ -300,7 +262,7 @@ void GasLibNetwork::readBoundary(const QString &node, bool isEntry) {
 
 bool GasLibNetwork::readStations() {
   QFile file(m_path);
-  if (!open(file, QStringLiteral("compressorStations"), QStringLiteral("CompressorStations")))
+  if (!start(file, QStringLiteral("compressorStations"), QStringLiteral("CompressorStations")))
     return false;
   while (m_xml.readNextStartElement()) {
     if (m_xml.name() == QLatin1String("compressorStation"))
@@ -313,10 +275,7 @@ bool GasLibNetwork::readStations() {
 }
 
 void GasLibNetwork::readStation() {
-  const auto id = [this] {
-    return m_xml.attributes().value(QStringLiteral("id")).toString();
-  };
-  Station station{id(), QString(), {}, static_cast<int>(m_xml.lineNumber())};
+  Station station{attribute("id"), QString(), {}, static_cast<int>(m_xml.lineNumber())};
   while (m_xml.readNextStartElement()) {
     const bool areDrives = m_xml.name() == QLatin1String("drives");
     if (!areDrives && m_xml.name() != QLatin1String("compressors")) {
@@ -324,12 +283,12 @@ void GasLibNetwork::readStation() {
       continue;
     }
     while (m_xml.readNextStartElement()) {
-      if (id().isEmpty())
+      if (attribute("id").isEmpty())
         tell(tr("A %1 without id is left out").arg(m_xml.name().toString()));
       else if (areDrives)
-        station.drives.push_back({id(), m_xml.name().toString()});
+        station.drives.push_back({attribute("id"), m_xml.name().toString()});
       else if (station.compressor.isEmpty())
-        station.compressor = id();
+        station.compressor = attribute("id");
       m_xml.skipCurrentElement();
     }
   }

@@ -1,17 +1,14 @@
 #pragma once
 
-#include <base/finding.h>
+#include <io/gaslibxml.h>
 #include <io/networkfileconverter.h>
-
-#include <QXmlStreamReader>
 
 #include <vector>
 
 /// Reads the XML of a public network instance into records of our own, converting units.
-class GasLibNetwork {
+class GasLibNetwork : public GasLibXml {
 public:
-  explicit GasLibNetwork(QString path)
-      : m_path(std::move(path)) {}
+  using GasLibXml::GasLibXml;
 
   /// False when the file cannot be used at all. What is wrong is in the findings, with its line.
   bool readNetwork();
@@ -34,9 +31,6 @@ public:
   std::vector<NetworkFileConverter::Record> edges;
   std::vector<NetworkFileConverter::SetPoint> setPoints;
   std::vector<Station> stations;
-  Findings findings;
-
-  void tell(const QString &text, int line);
 
 private:
   struct Known {
@@ -45,7 +39,6 @@ private:
     const char *unit; ///< in which the property is stored, empty for none
   };
 
-  bool open(QIODevice &device, const QString &root, const QString &space = QStringLiteral("Gas"));
   void readNodes();
   void readConnections();
   void readRecord(NetworkFileConverter::Record &record, const Known *known, std::size_t count);
@@ -53,9 +46,4 @@ private:
   /// The number of the current element in a unit of ours; false and a finding when there is none.
   bool number(const char *unit, double &value);
   void readStation();
-  void finish();
-  void tell(const QString &text) { tell(text, static_cast<int>(m_xml.lineNumber())); }
-
-  QString m_path;
-  QXmlStreamReader m_xml;
 };

@@ -58,6 +58,30 @@ Finding problem(const QString &text, const QString &element) {
   return {Finding::Severity::Warning, QString(), 0, text, QString(), false, element};
 }
 
+TemplateGeometry readTemplate(const QString &file) {
+  TemplateGeometry content;
+  auto net = std::make_shared<NetData>();
+  NivraReader::Result result = NivraReader(*net).readGeomJsn(file, {});
+  content.findings = std::move(result.findings);
+  if (!result.ok) {
+    content.error = QStringLiteral("Cannot read ") + file;
+    return content;
+  }
+  if (net->assembledSubnets().find(recordName()) == nullptr) {
+    content.error = QStringLiteral("%1 has no subnet named \"SUB\", which would tell its pins").arg(file);
+    return content;
+  }
+  content.net = net;
+  content.plan = std::make_shared<const TemplatePlan>(*net);
+  for (const elements::Entry &entry : net->assembledSubnets()) {
+    if (entry.name().compare(recordName(), Qt::CaseInsensitive) != 0)
+      content.findings.push_back({Finding::Severity::Warning, file, 0,
+                                  QStringLiteral("Templates do not hold other subnets: %1 is left out").arg(entry.name()),
+                                  QString()});
+  }
+  return content;
+}
+
 } // namespace
 
 SubAssembler::SubAssembler(NetData &net, const QString &folder, SubAssemblyCache &cache)
@@ -111,27 +135,7 @@ const SubAssembler::Variant &SubAssembler::variant(const QString &name) {
   if (made.formulas.isEmpty())
     NivraMsg::log(QStringLiteral("### File containing formulas") + m_folder + QLatin1Char('/') + name +
                   QStringLiteral(".formulas") + QStringLiteral(" not found!"));
-  const TemplateGeometry &read = m_templates->geometry.get(made.geometry, [](const QString &file) {
-    TemplateGeometry content;
-    auto net = std::make_shared<NetData>();
-    NivraReader::Result result = NivraReader(*net).readGeomJsn(file, {});
-    content.findings = std::move(result.findings);
-    if (!result.ok) {
-      content.error = QStringLiteral("Cannot read ") + file;
-    } else if (net->assembledSubnets().find(recordName()) == nullptr) {
-      content.error = QStringLiteral("%1 has no subnet named \"SUB\", which would tell its pins").arg(file);
-    } else {
-      content.net = net;
-      content.plan = std::make_shared<const TemplatePlan>(*net);
-      for (const elements::Entry &entry : net->assembledSubnets()) {
-        if (entry.name().compare(recordName(), Qt::CaseInsensitive) != 0)
-          content.findings.push_back(
-              {Finding::Severity::Warning, file, 0,
-               QStringLiteral("Templates do not hold other subnets: %1 is left out").arg(entry.name()), QString()});
-      }
-    }
-    return content;
-  });
+  const TemplateGeometry &read = m_templates->geometry.get(made.geometry, readTemplate);
   append(m_result.findings, read.findings);
   made.plan = read.plan;
   made.error = read.error;
@@ -372,6 +376,24 @@ void SubAssembler::findFreePrefixes(const std::vector<const elements::Entry *> &
     m_freePrefixes.erase(QString::fromStdString(prefix));
 }
 
+/// A template's definition as that of the elements that were made for one subnet.
+FormulaDefinition SubAssembler::ownDefinition(const FormulaDefinition &definition, const Assembled &assembled,
+                                              const QHash<QString, QString> &names) {
+  FormulaDefinition own = definition;
+  const std::vector<std::string> &parts = assembled.variant->plan->parts();
+  const Pattern pattern(definition.namePattern);
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    if (pattern.matches(parts[i]))
+      own.elements.append(assembled.names[i].toString());
+  }
+  if (own.types.contains(QStringLiteral("sub")))
+    own.elements.append(assembled.subnet);
+  own.namePattern.clear();
+  for (QString *expression : {&own.expression, &own.lower, &own.upper})
+    *expression = Formula::renamed(*expression, names); // the template's names stand for what was made of them
+  return own;
+}
+
 std::vector<FormulaDefinition> SubAssembler::definitions(Findings &findings) const {
   const auto read = [](const QString &path) {
     return FormulaFile::read(path, QStringLiteral("geometry"));
@@ -379,32 +401,21 @@ std::vector<FormulaDefinition> SubAssembler::definitions(Findings &findings) con
   std::set<QString> told;
   std::vector<FormulaDefinition> definitions;
   for (const Assembled &assembled : m_assembled) {
-    const TemplatePlan &plan = *assembled.variant->plan;
+    const Variant &variant = *assembled.variant;
     QHash<QString, QString> names; // of the template to those of the network
     for (int i = 0; i < assembled.pins.size(); ++i)
-      names.insert(plan.pinNames().at(i), assembled.pins.at(i));
+      names.insert(variant.plan->pinNames().at(i), assembled.pins.at(i));
     for (std::size_t i = 0; i < assembled.names.size(); ++i)
-      names.insert(QString::fromStdString(plan.parts()[i]), assembled.names[i].toString());
-    for (TemplateCache<FormulaFile::Contents> *cache : {&m_templates->constraints, &m_templates->formulas}) {
-      const QString &path =
-          cache == &m_templates->constraints ? assembled.variant->constraints : assembled.variant->formulas;
-      if (path.isEmpty())
+      names.insert(QString::fromStdString(variant.plan->parts()[i]), assembled.names[i].toString());
+    for (const auto &[path, cache] :
+         {std::make_pair(&variant.constraints, &m_templates->constraints), {&variant.formulas, &m_templates->formulas}}) {
+      if (path->isEmpty())
         continue;
-      const FormulaFile::Contents &contents = cache->get(path, read);
-      if (told.insert(path).second)
+      const FormulaFile::Contents &contents = cache->get(*path, read);
+      if (told.insert(*path).second)
         append(findings, contents.findings);
       for (const FormulaDefinition &definition : contents.definitions) {
-        FormulaDefinition own = definition;
-        const Pattern pattern(definition.namePattern);
-        for (std::size_t i = 0; i < assembled.names.size(); ++i) {
-          if (pattern.matches(plan.parts()[i]))
-            own.elements.append(assembled.names[i].toString());
-        }
-        if (own.types.contains(QStringLiteral("sub")))
-          own.elements.append(assembled.subnet);
-        own.namePattern.clear();
-        for (QString *expression : {&own.expression, &own.lower, &own.upper})
-          *expression = Formula::renamed(*expression, names); // the template's names stand for what was made of them
+        FormulaDefinition own = ownDefinition(definition, assembled, names);
         if (!own.elements.isEmpty())
           definitions.push_back(std::move(own));
       }

@@ -95,7 +95,6 @@ void TemplatePlan::addPart(const NetData &source, const elements::Entry &entry, 
   Part part;
   part.prototype = entry.value;
   part.isNode = isNode;
-  m_nodeCount += isNode ? 1 : 0;
   part.at = source.position(entry.value);
   part.prototype.set(keys().refEle, entry.id);
   if (isNode) {
@@ -107,6 +106,11 @@ void TemplatePlan::addPart(const NetData &source, const elements::Entry &entry, 
   part.namePlace = placeOf(part.prototype, keys().name);
   m_parts.push_back(std::move(part));
   m_partNames.push_back(own);
+}
+
+std::size_t TemplatePlan::nodeCount() const {
+  return static_cast<std::size_t>(
+      std::count_if(m_parts.begin(), m_parts.end(), [](const Part &part) { return part.isNode; }));
 }
 
 std::vector<PropertyText> TemplatePlan::names(const NetData &net, const std::string &subnet, bool areFree) const {

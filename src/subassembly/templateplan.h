@@ -24,7 +24,7 @@ public:
   /// Of the elements to be made, in the order in which names() tells those of a subnet.
   const std::vector<std::string> &parts() const { return m_partNames; }
 
-  std::size_t nodeCount() const { return m_nodeCount; } ///< of the parts
+  std::size_t nodeCount() const; ///< of the parts
 
   /// The names of the elements made for a subnet: its own name, "_" and the template's, unique in the network.
   /// \param areFree it is known that no element has any of these names
@@ -61,5 +61,4 @@ private:
   std::vector<QPointF> m_pinPlaces;
   std::vector<Part> m_parts;
   std::vector<std::string> m_partNames;
-  std::size_t m_nodeCount = 0;
 };

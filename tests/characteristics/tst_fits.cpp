@@ -210,6 +210,11 @@ void TestFits::faultyXml_data() {
       << head + "<compressorStation><compressors><turboCompressor id=\"a\"><speedMin value=\"x\"/></turboCompressor>" +
              "</compressors></compressorStation></compressorStations>"
       << QStringLiteral("speedMin is no number: \"x\"") << 1;
+  QTest::newRow("text for an efficiency")
+      << head + "<compressorStation><compressors><turboCompressor id=\"a\"><characteristicDiagramMeasurements>" +
+             "<adiabaticEfficiency value=\"high\"/></characteristicDiagramMeasurements></turboCompressor>" +
+             "</compressors></compressorStation></compressorStations>"
+      << QStringLiteral("adiabaticEfficiency is no number: \"high\"") << 1;
 }
 
 void TestFits::faultyXml() {

@@ -30,6 +30,7 @@ private slots:
   void pistonLimits();
   void stackOpensAndKeeps();
   void stationsWithSeveralMachines();
+  void machinesOfElements();
   void stackWithoutData();
   void mouseZoomsAndReads();
   void picturesOfMaps_data();
@@ -293,6 +294,39 @@ void TestWorkingPoint::stationsWithSeveralMachines() {
   choice->setCurrentText(QStringLiteral("third"));
   QVERIFY2(text().contains(QStringLiteral("speed")) && !text().contains(QStringLiteral("efficiency")), qPrintable(text()));
   QVERIFY(stack.summary(QStringLiteral("D1")).contains(QStringLiteral("40 %"))); // E drives the second one
+}
+
+/// Machines are found by whatever way the network and the data name one another, pistons as well as turbo compressors, and
+/// names in a circle do not matter.
+void TestWorkingPoint::machinesOfElements() {
+  MachineData d;
+  PistonCompressor piston;
+  piston.name = QStringLiteral("P1");
+  piston.station = QStringLiteral("M");
+  piston.drive = QStringLiteral("D");
+  piston.displacement = 0.5;
+  piston.speedMin = 200;
+  piston.speedMax = 400;
+  d.pistons.push_back(piston);
+  d.drives.push_back(data().drives[0]);
+  NetworkMachines machines(*m_net);
+  machines.set(d);
+  element &edge = m_net->edges().at(QStringLiteral("M"));
+  element &drive = m_net->nodes().at(QStringLiteral("D1"));
+  QCOMPARE(machines.names(edge), QStringList{QStringLiteral("P1")}); // by the name of its station
+  QVERIFY(machines.machine(edge, QStringLiteral("p1")).piston != nullptr);
+  for (const char *named : {"D", "P1", ""}) { // itself, its compressor, nothing
+    drive.set(QStringLiteral("machine"), QString::fromLatin1(named));
+    QCOMPARE(machines.names(drive), QStringList{QStringLiteral("D")});
+    const auto found = machines.machine(drive, QStringLiteral("D"));
+    QVERIFY(found.drive != nullptr && found.point && found.point->power.has_value() == (piston.efficiency > 0.0));
+    QCOMPARE(found.point->ratio, 1.4);
+  }
+  edge.set(QStringLiteral("machine"), QStringLiteral("of nobody"));
+  QCOMPARE(machines.names(edge), QStringList{QStringLiteral("P1")});
+  edge.set(QStringLiteral("driven"), QStringLiteral("M"));
+  QCOMPARE(machines.names(edge), QStringList{QStringLiteral("P1")});
+  QCOMPARE(machines.names(m_net->edges().at(QStringLiteral("K"))), QStringList{QStringLiteral("unknown")});
 }
 
 void TestWorkingPoint::stackWithoutData() {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <characteristics/machinedata.h>
-#include <characteristics/workingpoint.h>
+#include <characteristics/networkmachines.h>
 #include <model/netdata.h>
 
 #include <QDockWidget>
@@ -31,33 +30,14 @@ public:
   QString summary(const QString &elementName) const;
 
 private:
-  /// The data of an element's machine, one of the three, and where it works.
-  struct Machine {
-    const TurboCompressor *turbo = nullptr;
-    const PistonCompressor *piston = nullptr;
-    const Drive *drive = nullptr;
-    double ambientTemperature = MachineData::UsualTemperature; ///< degC
-    std::optional<WorkingPoint> point;
-    QVector<QPointF> limits; ///< of a piston compressor: the largest ratio over the speed
-    int ofStation = 1;       ///< compressors in its station
-
-    bool isThere() const { return turbo != nullptr || piston != nullptr || drive != nullptr; }
-  };
-
-  Machine machine(const element &e, const QString &machineName) const;
-  /// The names of an element's machines: several when it is a station that has them.
-  QStringList machinesOf(const element &e) const;
-  static QString summary(const Machine &machine);
-  static QWidget *makeMap(const Machine &machine);
-  /// The name of an element's machine: its property "machine", else its own.
-  QString machineOf(const element &e) const;
-  const Drive *driveOf(const element &compressor, const QString &named) const;
+  static QString summary(const NetworkMachines::Machine &machine);
+  static QWidget *makeMap(const NetworkMachines::Machine &machine);
   QWidget *makePage(const QString &elementName) const;
   void keep() const;
   void showHint();
 
   const NetData &m_net;
-  MachineData m_machines;
+  NetworkMachines m_machines;
   QString m_path;
   QTabWidget *m_tabs;
 };

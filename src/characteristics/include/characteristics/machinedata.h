@@ -57,6 +57,12 @@ struct PistonCompressor {
   double efficiency = 0.0;    ///< adiabatic
 
   bool isUsable() const { return displacement > 0.0 && speedMax > speedMin; }
+  /// m3/s at the inlet at a speed in 1/min, and the other way round.
+  double flow(double speed) const { return displacement * speed / SecondsPerMinute; }
+  double speed(double flow) const { return flow / displacement * SecondsPerMinute; }
+
+private:
+  static constexpr double SecondsPerMinute = 60.0;
 };
 
 struct Drive {
@@ -94,7 +100,7 @@ struct MachineData {
   std::vector<Drive> drives;
 
   bool isEmpty() const { return turbos.empty() && pistons.empty() && drives.empty(); }
-  /// Regardless of case; null when there is none. A station's name finds its first turbo compressor.
+  /// Regardless of case; null when there is none.
   const TurboCompressor *turbo(const QString &name) const;
   const PistonCompressor *piston(const QString &name) const;
   const Drive *drive(const QString &name) const;

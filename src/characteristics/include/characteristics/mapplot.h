@@ -40,6 +40,7 @@ private:
   void addArea(const QVector<QPointF> &outline);
   void addDots(const QVector<QPointF> &points);
   void addWorkingPoint(const QPointF &at, bool isInside);
+  void addLines(const TurboCompressor &machine);
   /// \param corner where another label stands, beside which there is none
   void addEfficiencies(const TurboCompressor &machine, const QPointF &corner);
   void finish();

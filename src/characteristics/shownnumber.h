@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+#include <cmath>
+
+/// Large numbers as whole ones, others to a few digits.
+inline QString shownNumber(double number, int digits = 4) {
+  constexpr double Whole = 1000.0;
+  return std::abs(number) >= Whole ? QString::number(number, 'f', 0) : QString::number(number, 'g', digits);
+}
