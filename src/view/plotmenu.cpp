@@ -34,6 +34,24 @@ QStringList sorted(const Selection::Names &names) {
   return list;
 }
 
+/// The first names of what is selected, which may be a whole network: not all of it is sorted for a few entries.
+QStringList firstOf(const Selection &selection, int most) {
+  std::vector<QString> names;
+  names.reserve(static_cast<std::size_t>(selection.size()));
+  for (const Selection::Names *kind : {&selection.nodes, &selection.edges, &selection.subnets, &selection.others})
+    names.insert(names.end(), kind->begin(), kind->end());
+  const auto end = names.begin() + std::min<std::ptrdiff_t>(most, static_cast<std::ptrdiff_t>(names.size()));
+  std::partial_sort(names.begin(), end, names.end(),
+                    [](const QString &a, const QString &b) { return QString::compare(a, b, Qt::CaseInsensitive) < 0; });
+  return QStringList(names.begin(), end);
+}
+
+/// Types of elements that have machine data.
+const QRegularExpression &withCharacteristics() {
+  static const QRegularExpression types(QStringLiteral("^c$|^d$"));
+  return types;
+}
+
 /// What belongs to the subnet: the elements that its property "elements" lists.
 QStringList elementsOf(const element &subnet) {
   QStringList names;
@@ -94,12 +112,12 @@ void PlotMenu::addCrowd(QMenu &contextMenu) const {
 }
 
 void PlotMenu::addSelection(QMenu &contextMenu) const {
-  const QStringList names = sorted(m_control.net().selection().names());
+  const QStringList names = firstOf(m_control.net().selection(), MostEntries);
   QMenu *show = contextMenu.addMenu(tr("Show"));
   QMenu *info = contextMenu.addMenu(tr("Show Info"));
   show->setEnabled(!names.isEmpty());
   info->setEnabled(!names.isEmpty() && m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::elementAction)));
-  for (const QString &name : names.mid(0, MostEntries)) {
+  for (const QString &name : names) {
     NetVisControl *control = &m_control;
     QObject::connect(show->addAction(menuText(name)), &QAction::triggered, control,
                      [control, name] { control->showElement(name); });
@@ -109,13 +127,19 @@ void PlotMenu::addSelection(QMenu &contextMenu) const {
 }
 
 void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
-  static const QRegularExpression machines(QStringLiteral("^[cd]$"));
-  QStringList names;
-  for (const QString &name : sorted(m_control.net().selection().names())) {
-    const element *e = m_control.net().element(name);
-    if (e != nullptr && machines.match(e->value(QStringLiteral("type"))).hasMatch())
-      names.append(name);
+  constexpr int Most = 10000; // whoever selects more is not after machines
+  const Selection &selection = m_control.net().selection();
+  if (selection.nodes.size() + selection.edges.size() > Most)
+    return;
+  Selection::Names machines;
+  for (const Selection::Names *kind : {&selection.nodes, &selection.edges}) {
+    for (const QString &name : *kind) {
+      const element *e = m_control.net().element(name);
+      if (e != nullptr && withCharacteristics().match(e->value(QStringLiteral("type"))).hasMatch())
+        machines.insert(name);
+    }
   }
+  const QStringList names = sorted(machines);
   if (names.isEmpty() || names.size() > MostEntries)
     return;
   NetVisControl *control = &m_control;
@@ -126,9 +150,9 @@ void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
 }
 
 void PlotMenu::addTrace(QMenu &contextMenu) const {
-  const QStringList names = sorted(m_control.net().selection().names());
-  if (names.size() != 1)
+  if (m_control.net().selection().size() != 1)
     return;
+  const QStringList names = firstOf(m_control.net().selection(), 1);
   NetVisControl *control = &m_control;
   using Direction = Topology::Direction;
   contextMenu.addAction(tr("Select upstream"), control,
@@ -160,7 +184,6 @@ void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name) const {
     return;
   }
   static const QRegularExpression Machines(QStringLiteral("^c$|^d$|^r$|^m$"));
-  static const QRegularExpression WithCharacteristics(QStringLiteral("^c$|^d$"));
   NetVisControl *control = &m_control;
   const auto addEntries = [control, subnet](QMenu &entries, const QRegularExpression &types, auto signal,
                                             const QString &otherwise) {
@@ -189,7 +212,8 @@ void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name) const {
       add(elementName, {elementName});
   };
   addEntries(*edit, Machines, &NetVisControl::editPropertiesRequested, tr("<empty element list>!"));
-  addEntries(*open, WithCharacteristics, &NetVisControl::openCharacteristicsRequested, tr("<empty characteristics list>!"));
+  addEntries(*open, withCharacteristics(), &NetVisControl::openCharacteristicsRequested,
+             tr("<empty characteristics list>!"));
   edit->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::editPropertiesRequested)));
   open->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
 }

@@ -29,6 +29,7 @@ private slots:
   void parallelEdgesArePickedApart();
   void subnetMenu_data();
   void subnetMenu();
+  void selectionMenu();
   void selectionOfAnotherNetworkIsGone();
 
 private:
@@ -314,6 +315,41 @@ void TestNetPicker::subnetMenu() {
   QCOMPARE(texts(*characteristics), open);
   characteristics->actions().first()->trigger();
   QCOMPARE(opened.count(), open.size() > 1 ? 1 : 0);
+}
+
+/// The entries for what is selected, of which there may be far more than a menu holds.
+void TestNetPicker::selectionMenu() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const auto fill = [&f](QMenu &contextMenu) {
+    emit f.plot().contextMenuRequested(&contextMenu);
+    return texts(contextMenu);
+  };
+  const QSignalSpy opened(&f.control, &NetVisControl::openCharacteristicsRequested);
+  const QString characteristics = QStringLiteral("Open Characteristics");
+  QMenu ofPipe;
+  f.control.picker()->markElement(QStringLiteral("AB"));
+  const QStringList pipe = fill(ofPipe);
+  QVERIFY(!pipe.contains(characteristics) && pipe.contains(QStringLiteral("Select upstream")));
+  QMenu ofCompressor;
+  f.control.picker()->markElement(QStringLiteral("CD"));
+  QVERIFY(fill(ofCompressor).contains(characteristics));
+  for (QAction *entry : ofCompressor.actions()) {
+    if (entry->text() == characteristics)
+      entry->trigger();
+  }
+  QCOMPARE(opened.count(), 1);
+  QCOMPARE(opened[0][0].toStringList(), QStringList{QStringLiteral("CD")});
+  QMenu ofMany;
+  for (int i = 0; i < 200; ++i)
+    f.net.selection().nodes.insert(QStringLiteral("n%1").arg(i, 3, 10, QLatin1Char('0')));
+  const QStringList many = fill(ofMany);
+  QVERIFY(many.contains(characteristics) && !many.contains(QStringLiteral("Select upstream")));
+  const QStringList shown = texts(*subMenu(ofMany, QStringLiteral("Show")));
+  QCOMPARE(shown.size(), 30);
+  QCOMPARE(shown.first(), QStringLiteral("CD")); // regardless of case
+  QCOMPARE(shown.last(), QStringLiteral("n028"));
 }
 
 void TestNetPicker::selectionOfAnotherNetworkIsGone() {
