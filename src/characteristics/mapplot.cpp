@@ -8,9 +8,11 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QSaveFile>
+#include <QSvgGenerator>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_marker.h>
@@ -25,6 +27,7 @@
 namespace {
 
 constexpr int Steps = 60;
+constexpr int Resolution = 72; // dots an inch of documents: those of a point
 const QColor Blue(31, 93, 138);
 const QColor Green(46, 125, 50);
 const QColor Red(178, 34, 34);
@@ -361,20 +364,35 @@ void MapPlot::contextMenuEvent(QContextMenuEvent *event) {
   menu.exec(event->globalPos());
 }
 
-bool MapPlot::save(const QString &path, QString *reason) {
-  const QString suffix = QFileInfo(path).suffix().toLower();
-  bool isSaved = false;
-  if (suffix == QLatin1String("pdf") || suffix == QLatin1String("svg")) {
-    constexpr QSizeF Millimetres(200, 140);
-    QwtPlotRenderer renderer;
-    renderer.renderDocument(this, path, Millimetres);
-    isSaved = QFileInfo(path).size() > 0;
-  } else {
-    QSaveFile file(path);
-    isSaved = file.open(QIODevice::WriteOnly) && grab().save(&file, qPrintable(suffix)) && file.commit();
+bool MapPlot::write(QIODevice &device, const QString &suffix) {
+  constexpr QSize Points(600, 420);
+  QwtPlotRenderer renderer;
+  if (suffix == QLatin1String("pdf")) {
+    QPdfWriter writer(&device);
+    writer.setPageSize(QPageSize(QSizeF(Points), QPageSize::Point));
+    writer.setPageMargins(QMarginsF());
+    writer.setResolution(Resolution);
+    renderer.renderTo(this, writer);
+    return true;
   }
+  if (suffix == QLatin1String("svg")) {
+    QSvgGenerator generator;
+    generator.setOutputDevice(&device);
+    generator.setResolution(Resolution);
+    generator.setSize(Points);
+    generator.setViewBox(QRect(QPoint(), Points));
+    renderer.renderTo(this, generator);
+    return true;
+  }
+  return grab().save(&device, qPrintable(suffix));
+}
+
+bool MapPlot::save(const QString &path, QString *reason) {
+  QSaveFile file(path);
+  const bool isSaved = file.open(QIODevice::WriteOnly) && write(file, QFileInfo(path).suffix().toLower()) &&
+                       file.error() == QFile::NoError && file.commit();
   if (!isSaved && reason != nullptr)
-    *reason = tr("The picture %1 could not be written.").arg(path);
+    *reason = tr("The picture %1 could not be written: %2").arg(path, file.errorString());
   return isSaved;
 }
 

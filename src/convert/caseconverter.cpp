@@ -1,28 +1,18 @@
+#include "wholefile.h"
+
 #include <io/networkfileconverter.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <convert/caseconverter.h>
-#include <iterator>
 
 namespace {
 
 QString tr(const char *text) {
   return QCoreApplication::translate("CaseConverter", text);
-}
-
-bool copy(const QString &from, const QString &to, QString *reason) {
-  QFile source(from);
-  QSaveFile target(to);
-  const bool isCopied = source.open(QIODevice::ReadOnly) && target.open(QIODevice::WriteOnly) &&
-                        target.write(source.readAll()) == source.size() && target.commit();
-  if (!isCopied)
-    *reason = tr("Cannot copy %1 to %2: %3").arg(from, to, source.isOpen() ? target.errorString() : source.errorString());
-  return isCopied;
 }
 
 } // namespace
@@ -51,7 +41,7 @@ CaseConverter::Result CaseConverter::convert(const QString &from, const QString 
     }
     if (!NetworkFileConverter::isNetworkFile(name)) {
       QString reason;
-      if (!copy(path, copied, &reason))
+      if (!WholeFile::copy(path, copied, &reason))
         fail(reason);
       continue;
     }

@@ -1,4 +1,5 @@
 #include "gaslibnetwork.h"
+#include "wholefile.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -6,7 +7,6 @@
 #include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <convert/gaslibimport.h>
@@ -16,14 +16,6 @@ namespace {
 
 QString tr(const char *text) {
   return QCoreApplication::translate("GasLibImport", text);
-}
-
-bool writeText(const QString &path, const QByteArray &text, QString *reason) {
-  QSaveFile file(path);
-  if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
-    return true;
-  *reason = tr("Cannot write %1: %2").arg(path, file.errorString());
-  return false;
 }
 
 /// The path that was named, else one beside the network when it is there.
@@ -136,10 +128,7 @@ QString write(const QDir &folder, const GasLibNetwork &net, const GasLibNetwork 
   QString database;
   if (!machines.isEmpty()) {
     database = QStringLiteral("../") + name + QStringLiteral(".cs");
-    QFile source(machines);
-    if (!source.open(QIODevice::ReadOnly))
-      return tr("Cannot read %1: %2").arg(machines, source.errorString());
-    if (!writeText(folder.filePath(name + QStringLiteral(".cs")), source.readAll(), &reason))
+    if (!WholeFile::copy(machines, folder.filePath(name + QStringLiteral(".cs")), &reason))
       return reason;
   }
   const QByteArray geometry = "geometry configuration\n" + name.toUtf8() + '\n' + name.toUtf8() + ".geom\n0\n{}\n";
@@ -151,11 +140,11 @@ QString write(const QDir &folder, const GasLibNetwork &net, const GasLibNetwork 
     return folder.filePath(path);
   };
   if (NetworkFileConverter::write(file(name + QStringLiteral(".geom.jsn")), records, &reason) &&
-      writeText(file(name + QStringLiteral(".geom.cfg")), geometry, &reason) &&
+      WholeFile::write(file(name + QStringLiteral(".geom.cfg")), geometry, &reason) &&
       NetworkFileConverter::write(file(QStringLiteral("N1/N1.scen.jsn")), nomination.setPoints, &reason) &&
       NetworkFileConverter::write(file(QStringLiteral("N1/N1.gas.jsn")), {gasOf(net.nodes)}, &reason) &&
-      writeText(file(QStringLiteral("N1/scenconfig.jsn")), scenario, &reason) &&
-      writeText(file(QStringLiteral("N1/solverconfig.jsn")), "{}\n", &reason))
+      WholeFile::write(file(QStringLiteral("N1/scenconfig.jsn")), scenario, &reason) &&
+      WholeFile::write(file(QStringLiteral("N1/solverconfig.jsn")), "{}\n", &reason))
     return QString();
   return reason;
 }

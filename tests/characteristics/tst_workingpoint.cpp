@@ -406,9 +406,16 @@ void TestWorkingPoint::picturesOfMaps() {
   const QString text = plot.readout({point.flow, point.head});
   QVERIFY2(text.contains(QStringLiteral("η = 80 %")), qPrintable(text));
   QVERIFY(plot.save(folder.filePath(QStringLiteral("map.") + suffix)));
+  QFile saved(folder.filePath(QStringLiteral("map.") + suffix));
+  QVERIFY(saved.open(QIODevice::ReadOnly));
+  const QByteArray beginning = saved.read(200);
+  QVERIFY2(beginning.contains(suffix == QLatin1String("svg") ? "<svg" : qPrintable(suffix.toUpper())),
+           beginning.constData());
   QString reason;
   QVERIFY(!plot.save(folder.filePath(QStringLiteral("none/map.") + suffix), &reason));
   QVERIFY(!reason.isEmpty());
+  QVERIFY(!plot.save(folder.filePath(QStringLiteral("map.none")), &reason));
+  QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("map.none")))); // whole or not at all
   const QImage picture = plot.grab().toImage();
   int green = 0; // the working point
   for (int y = 0; y < picture.height(); ++y) {

@@ -44,6 +44,7 @@ private:
   /// \param corner where another label stands, beside which there is none
   void addEfficiencies(const TurboCompressor &machine, const QPointF &corner);
   void finish();
+  bool write(QIODevice &device, const QString &suffix);
   void saveAs();
   void print();
 
