@@ -23,12 +23,20 @@ function(nivra_library folder)
 endfunction()
 
 # nivra_test(<folder> SOURCES <files> LINK <targets>): one executable a folder, every tst_*.cpp of which registers its classes.
+# Each class is an entry of CTest, <folder>.<class>, and writes its own report beside the executable's build files.
 function(nivra_test folder)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
   add_executable(tst_${folder} ${ARG_SOURCES})
   target_link_libraries(tst_${folder} PRIVATE nivra_testsupport ${ARG_LINK} nivra_options)
   target_compile_definitions(tst_${folder} PRIVATE NIVRA_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data/${folder}"
                                                    NIVRA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
-  add_test(NAME ${folder} COMMAND tst_${folder})
-  set_tests_properties(${folder} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 300)
+  set(entries "${CMAKE_CURRENT_BINARY_DIR}/entries.cmake")
+  add_custom_command(TARGET tst_${folder} POST_BUILD
+    COMMAND ${CMAKE_COMMAND} -DPROGRAM=$<TARGET_FILE:tst_${folder}> -DFOLDER=${folder} -DENTRIES=${entries}
+            -DREPORTS=${CMAKE_CURRENT_BINARY_DIR} -P ${CMAKE_SOURCE_DIR}/cmake/TestEntries.cmake
+    BYPRODUCTS "${entries}" VERBATIM)
+  if(NOT EXISTS "${entries}") # until the executable is built
+    file(WRITE "${entries}" "add_test(${folder}.NOT_BUILT tst_${folder}.NOT_BUILT)\n")
+  endif()
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${entries}")
 endfunction()

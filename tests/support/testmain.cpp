@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QStandardPaths>
+#include <QTextStream>
 
 #include <memory>
 #include <vector>
@@ -32,14 +33,98 @@ bool NivraTest::registerTest(Factory factory) {
   return true;
 }
 
+namespace {
+
+/// The arguments without those that choose: "tst_view TestNetPicker" runs a class, "tst_view clickSelectsTheNearest" every
+/// class that has such a test, and both may be given.
+struct Choice {
+  QStringList classes;
+  QStringList functions; ///< as Qt Test takes them: with ":row" where a row is asked for
+  QStringList switches;
+};
+
+bool hasTest(const QObject &test, const QString &function) {
+  const QByteArray signature = function.section(QLatin1Char(':'), 0, 0).toLatin1() + "()";
+  return test.metaObject()->indexOfMethod(signature) >= 0;
+}
+
+QString nameOf(const QObject &test) {
+  return QString::fromLatin1(test.metaObject()->className());
+}
+
+Choice choiceOf(const QStringList &arguments, const QStringList &classNames) {
+  static const QStringList withValue{
+      QStringLiteral("-o"),        QStringLiteral("-maxwarnings"),  QStringLiteral("-eventdelay"),
+      QStringLiteral("-keydelay"), QStringLiteral("-mousedelay"),   QStringLiteral("-iterations"),
+      QStringLiteral("-median"),   QStringLiteral("-minimumvalue"), QStringLiteral("-minimumtotal")};
+  Choice choice;
+  for (int i = 1; i < arguments.size(); ++i) {
+    const QString &argument = arguments.at(i);
+    if (argument.startsWith(QLatin1Char('-'))) {
+      choice.switches << argument;
+      if (withValue.contains(argument) && i + 1 < arguments.size())
+        choice.switches << arguments.at(++i);
+    } else if (classNames.contains(argument)) {
+      choice.classes << argument;
+    } else {
+      choice.functions << argument;
+    }
+  }
+  return choice;
+}
+
+/// "report.xml,junitxml" becomes "report.TestNetPicker.xml,junitxml", so that no class overwrites the report of another.
+QStringList withOwnReports(QStringList switches, const QString &className) {
+  for (int i = 1; i < switches.size(); ++i) {
+    QString &target = switches[i];
+    if (switches.at(i - 1) != QLatin1String("-o") || target.startsWith(QLatin1String("-,")))
+      continue;
+    const int comma = target.lastIndexOf(QLatin1Char(','));
+    const int dot = target.lastIndexOf(QLatin1Char('.'), comma);
+    target.insert(dot > target.lastIndexOf(QLatin1Char('/'), comma) ? dot : comma, QLatin1Char('.') + className);
+  }
+  return switches;
+}
+
+} // namespace
+
 int main(int argc, char **argv) {
   QStandardPaths::setTestModeEnabled(true); // never touch the user's own settings and logs
   qputenv("NIVRA_BATCH", "1");              // a message box would wait for nobody
   const auto application = makeApplication(argc, argv);
-  int failed = 0;
+
+  std::vector<std::unique_ptr<QObject>> tests;
+  QStringList classNames;
   for (const auto &factory : factories()) {
-    const auto test = factory();
-    failed += QTest::qExec(test.get(), argc, argv) != 0 ? 1 : 0;
+    tests.push_back(factory());
+    classNames << nameOf(*tests.back());
   }
-  return failed;
+  const QStringList arguments = QCoreApplication::arguments();
+  if (arguments.mid(1) == QStringList{QStringLiteral("-classes")}) {
+    QTextStream(stdout) << classNames.join(QLatin1Char('\n')) << '\n';
+    return 0;
+  }
+
+  const Choice choice = choiceOf(arguments, classNames);
+  int failed = 0;
+  QStringList unmatched = choice.functions;
+  for (const auto &test : tests) {
+    const QString name = nameOf(*test);
+    if (!choice.classes.isEmpty() && !choice.classes.contains(name))
+      continue;
+    QStringList own{arguments.first()};
+    for (const QString &function : choice.functions) {
+      if (!hasTest(*test, function))
+        continue;
+      own << function;
+      unmatched.removeAll(function);
+    }
+    if (!choice.functions.isEmpty() && own.size() == 1)
+      continue;
+    own << (choice.classes.size() == 1 ? choice.switches : withOwnReports(choice.switches, name));
+    failed += QTest::qExec(test.get(), own) != 0 ? 1 : 0;
+  }
+  for (const QString &function : unmatched)
+    QTextStream(stderr) << "There is no test class and no test " << function << '\n';
+  return failed + unmatched.size();
 }
