@@ -18,8 +18,9 @@ bool write(const QString &path, FileAccess::Source source, const Writer &writer,
     if (isWritten && file.commit())
       return true;
     if (!isWritten) {
-      if (why.isEmpty())
-        why = file.errorString(); // before the cancelling becomes the error
+      // Before the cancelling becomes the error; a writer of a format only knows that it failed.
+      if (why.isEmpty() || file.error() != QFileDevice::NoError)
+        why = file.errorString();
       file.cancelWriting();
     }
   }

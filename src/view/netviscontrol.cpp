@@ -1,4 +1,3 @@
-#include <base/nivramsg.h>
 #include <view/drawfunctions.h>
 #include <view/netviscontrol.h>
 #include <view/plotmenu.h>
@@ -97,11 +96,6 @@ void NetVisControl::trace(const QString &name, Topology::Direction direction) {
   m_picker->setSelection(Topology::trace(m_net, name, direction, m_plot->settings().edgeShowFlow));
 }
 
-void NetVisControl::setBookmarks(const QString &bookmarks) {
-  PlotSettings settings = m_plot->settings();
-  settings.bookmarks = bookmarks;
-  m_plot->setSettings(settings);
-  QString error;
-  if (!m_plot->writePlotSettings(m_settingsPath, &error))
-    NivraMsg::message(NivraMsg::Kind::Warning, error);
+ViewBookmarks NetVisControl::bookmarks() const {
+  return ViewBookmarks(QFileInfo(m_settingsPath).path() + QStringLiteral("/viewbookmarks.csv"));
 }

@@ -1,3 +1,6 @@
+#include "documentrenderer.h"
+
+#include <base/wholefile.h>
 #include <view/netplot.h>
 #include <view/plotexport.h>
 #include <view/qwtfastplot.h>
@@ -8,11 +11,11 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QProcess>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QSvgGenerator>
 #include <QTemporaryDir>
-#include <qwt_plot_renderer.h>
+
+#include <cmath>
 
 namespace {
 
@@ -73,12 +76,13 @@ private:
   NetPlot &m_plot;
 };
 
-bool writePixels(NetPlot &plot, QIODevice &device, const QByteArray &format, QString &reason) {
-  QImage image(plot.size(), QImage::Format_RGB32);
+bool writePixels(NetPlot &plot, double scale, QIODevice &device, const QByteArray &format, QString &reason) {
+  QImage image((QSizeF(plot.size()) * scale).toSize(), QImage::Format_RGB32);
   if (image.isNull()) {
     reason = tr("there is not enough memory for a picture of this width");
     return false;
   }
+  image.setDevicePixelRatio(scale);
   image.fill(Qt::white);
   plot.render(&image);
   QImageWriter writer(&device, format);
@@ -91,34 +95,37 @@ bool writePixels(NetPlot &plot, QIODevice &device, const QByteArray &format, QSt
   return false;
 }
 
-QSizeF pageSize(NetPlot &plot) {
-  constexpr double MillimetersPerInch = 25.4;
-  return QSizeF(plot.plot()->size()) * MillimetersPerInch / DocumentDpi;
+void renderDocument(NetPlot &plot, double scale, QPaintDevice &document) {
+  const SelectionInDocument selection(plot);
+  QPainter painter(&document);
+  painter.scale(scale, scale);
+  DocumentRenderer().render(plot.plot(), &painter, QRectF(QPointF(), QSizeF(document.width(), document.height()) / scale));
 }
 
-bool writeSvg(NetPlot &plot, QIODevice &device) {
-  const SelectionInDocument selection(plot);
+bool writeSvg(NetPlot &plot, double scale, QIODevice &device) {
+  const QSize size = (QSizeF(plot.plot()->size()) * scale).toSize();
   QSvgGenerator generator;
   generator.setOutputDevice(&device);
   generator.setResolution(DocumentDpi);
-  generator.setSize(plot.plot()->size());
-  generator.setViewBox(QRect(QPoint(), plot.plot()->size()));
-  QwtPlotRenderer().renderTo(plot.plot(), generator);
+  generator.setSize(size);
+  generator.setViewBox(QRect(QPoint(), size));
+  renderDocument(plot, scale, generator);
   return true;
 }
 
-bool writePdf(NetPlot &plot, QIODevice &device) {
-  const SelectionInDocument selection(plot);
+bool writePdf(NetPlot &plot, double scale, QIODevice &device) {
+  constexpr double MillimetersPerInch = 25.4;
   QPdfWriter writer(&device);
   writer.setResolution(DocumentDpi);
-  writer.setPageSize(QPageSize(pageSize(plot), QPageSize::Millimeter));
+  writer.setPageSize(
+      QPageSize(QSizeF(plot.plot()->size()) * scale * MillimetersPerInch / DocumentDpi, QPageSize::Millimeter));
   writer.setPageMargins(QMarginsF());
-  QwtPlotRenderer().renderTo(plot.plot(), writer);
+  renderDocument(plot, scale, writer);
   return true;
 }
 
 /// By way of PDF and a tool that is likely to be there: the toolkit no longer writes PostScript.
-bool writePostScript(NetPlot &plot, QIODevice &device, QString &reason) {
+bool writePostScript(NetPlot &plot, double scale, QIODevice &device, QString &reason) {
   const QTemporaryDir folder;
   const QString source = folder.filePath(QStringLiteral("plot.pdf"));
   const QString target = folder.filePath(QStringLiteral("plot.ps"));
@@ -129,7 +136,7 @@ bool writePostScript(NetPlot &plot, QIODevice &device, QString &reason) {
     return false;
   }
   QFile document(source);
-  if (!document.open(QIODevice::WriteOnly) || !writePdf(plot, document)) {
+  if (!document.open(QIODevice::WriteOnly) || !writePdf(plot, scale, document)) {
     reason = document.errorString();
     return false;
   }
@@ -150,44 +157,52 @@ bool writePostScript(NetPlot &plot, QIODevice &device, QString &reason) {
   return device.write(text) == text.size();
 }
 
-bool writeFormat(NetPlot &plot, QIODevice &device, const QByteArray &format, QString &reason) {
+bool writeFormat(NetPlot &plot, double scale, QIODevice &device, const QByteArray &format, QString &reason) {
   if (format == "svg")
-    return writeSvg(plot, device);
+    return writeSvg(plot, scale, device);
   if (format == "pdf")
-    return writePdf(plot, device);
+    return writePdf(plot, scale, device);
   if (format == "ps")
-    return writePostScript(plot, device, reason);
-  return writePixels(plot, device, format, reason);
+    return writePostScript(plot, scale, device, reason);
+  return writePixels(plot, scale, device, format, reason);
+}
+
+/// Why there can be no such picture; empty when there can.
+QString faultOf(const QByteArray &format, const PictureSize &size) {
+  static const QList<QByteArray> Formats{"png", "jpg", "jpeg", "bmp", "tif", "tiff", "svg", "pdf", "ps"};
+  if (!Formats.contains(format))
+    return tr("\"%1\" is no format of pictures; there are png, jpg, bmp, tif, svg, pdf and ps")
+        .arg(QString::fromLatin1(format));
+  if (size.width <= 0)
+    return tr("a picture needs a width");
+  if (!(size.scale > 0.0 && size.scale <= PictureSize::LargestScale && size.width / size.scale >= 1.0))
+    return tr("a picture of %1 pixels cannot have the scale %2").arg(size.width).arg(size.scale);
+  return QString();
 }
 
 } // namespace
 
-bool exportPlot(NetPlot &plot, const QString &path, int width, QString *error) {
-  static const QList<QByteArray> Formats{"png", "jpg", "jpeg", "bmp", "tif", "tiff", "svg", "pdf", "ps"};
+bool exportPlot(NetPlot &plot, const QString &path, const PictureSize &size, QString *error) {
   const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
-  QString reason;
+  QString reason = faultOf(format, size);
   bool isDone = false;
-  if (!Formats.contains(format)) {
-    reason = tr("\"%1\" is no format of pictures; there are png, jpg, bmp, tif, svg, pdf and ps")
-                 .arg(QString::fromLatin1(format));
-  } else if (width <= 0) {
-    reason = tr("a picture needs a width");
-  } else {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-      const bool hasLabels = !plot.update().labels().empty();
-      plot.selection().setHovered(std::nullopt);
-      {
-        const TemporarySize size(plot, width);
-        layOut(plot, hasLabels);
-        isDone = writeFormat(plot, file, format, reason) && file.error() == QFile::NoError && file.commit();
-      }
+  if (reason.isEmpty()) {
+    const bool hasLabels = !plot.update().labels().empty();
+    plot.selection().setHovered(std::nullopt);
+    {
+      const TemporarySize temporary(plot, static_cast<int>(std::lround(size.width / size.scale)));
       layOut(plot, hasLabels);
+      // The plot lies on whole pixels of its own; the picture has the width that was asked for all the same.
+      const double scale = static_cast<double>(size.width) / plot.width();
+      isDone = WholeFile::write(
+          path, FileAccess::Source::Trusted,
+          [&](QIODevice &device, QString *why) { return writeFormat(plot, scale, device, format, *why); }, &reason);
     }
-    if (!isDone && (reason.isEmpty() || file.error() != QFile::NoError))
-      reason = file.errorString(); // says more than the writer of the format, such as that the disk is full
+    layOut(plot, hasLabels);
+  } else {
+    reason = tr("Could not write %1: %2").arg(path, reason);
   }
   if (!isDone && error != nullptr)
-    *error = tr("Could not write %1: %2").arg(path, reason);
+    *error = reason;
   return isDone;
 }

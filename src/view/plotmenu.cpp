@@ -231,34 +231,30 @@ void PlotMenu::addView(QMenu &contextMenu) const {
 }
 
 void PlotMenu::addBookmarks(QMenu &contextMenu) const {
-  NetVisControl *control = &m_control;
   NetPlot *plot = m_control.plot();
-  QMenu *bookmarks = contextMenu.addMenu(tr("Bookmarks"));
-  const std::vector<ViewBookmarks::Bookmark> known = ViewBookmarks::parse(plot->settings().bookmarks);
+  const ViewBookmarks bookmarks = m_control.bookmarks();
+  const std::vector<ViewBookmarks::Bookmark> known = bookmarks.all();
+  QMenu *menu = contextMenu.addMenu(tr("Bookmarks"));
   for (const ViewBookmarks::Bookmark &bookmark : known)
-    bookmarks->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->zoomer()->zoom(view); });
+    menu->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->zoomer()->zoom(view); });
   if (!known.empty())
-    bookmarks->addSeparator();
-  bookmarks->addAction(tr("Bookmark this view …"), plot, [control, plot, known] {
+    menu->addSeparator();
+  menu->addAction(tr("Bookmark this view …"), plot, [bookmarks, plot, count = known.size()] {
     bool isTaken = false;
     const QString name = QInputDialog::getText(plot, tr("Bookmark"), tr("Name of this view:"), QLineEdit::Normal,
-                                               tr("View %1").arg(known.size() + 1), &isTaken)
+                                               tr("View %1").arg(count + 1), &isTaken)
                              .trimmed();
-    if (!isTaken || name.isEmpty())
-      return;
-    std::vector<ViewBookmarks::Bookmark> more = known;
-    more.erase(std::remove_if(more.begin(), more.end(), [&name](const auto &bookmark) { return bookmark.name == name; }),
-               more.end());
-    more.push_back({name, plot->zoomer()->zoomRect()});
-    control->setBookmarks(ViewBookmarks::format(more));
+    QString reason;
+    if (isTaken && !name.isEmpty() && !bookmarks.add({name, plot->zoomer()->zoomRect()}, &reason))
+      NivraMsg::message(NivraMsg::Kind::Warning, reason);
   });
-  QMenu *forget = bookmarks->addMenu(tr("Forget"));
+  QMenu *forget = menu->addMenu(tr("Forget"));
   forget->setEnabled(!known.empty());
-  for (std::size_t i = 0; i < known.size(); ++i)
-    forget->addAction(menuText(known[i].name), plot, [control, known, i] {
-      std::vector<ViewBookmarks::Bookmark> fewer = known;
-      fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(i));
-      control->setBookmarks(ViewBookmarks::format(fewer));
+  for (const ViewBookmarks::Bookmark &bookmark : known)
+    forget->addAction(menuText(bookmark.name), plot, [bookmarks, name = bookmark.name] {
+      QString reason;
+      if (!bookmarks.forget(name, &reason))
+        NivraMsg::message(NivraMsg::Kind::Warning, reason);
     });
 }
 

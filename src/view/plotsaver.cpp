@@ -1,13 +1,15 @@
 #include <base/nivramsg.h>
 #include <view/netplot.h>
-#include <view/plotexport.h>
 #include <view/plotsaver.h>
 
 #include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QInputDialog>
+#include <QFormLayout>
 #include <QMessageBox>
+#include <QSpinBox>
 
 namespace {
 
@@ -18,23 +20,41 @@ QString tr(const char *text) {
 } // namespace
 
 void PlotSaver::saveWithWidth() {
-  bool accepted = false;
-  const int width =
-      QInputDialog::getInt(&m_plot, tr("Specify Width [Pixel]"),
-                           tr("Width [pixel] of plot (max. 20,000 memory-dependent,\ndefault is current width): "),
-                           m_plot.width(), std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), 1, &accepted);
-  if (accepted)
-    saveWithWidth(width);
+  QDialog dialog(&m_plot);
+  dialog.setWindowTitle(tr("Specify Width [Pixel]"));
+  auto *width = new QSpinBox(&dialog);
+  width->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+  width->setValue(m_plot.width());
+  width->setObjectName(QStringLiteral("width"));
+  auto *scale = new QDoubleSpinBox(&dialog);
+  constexpr double SmallestScale = 0.1;
+  scale->setRange(SmallestScale, PictureSize::LargestScale);
+  scale->setSingleStep(0.5);
+  scale->setValue(1.0);
+  scale->setObjectName(QStringLiteral("scale"));
+  scale->setToolTip(
+      tr("2 makes texts, lines and symbols twice as large as on the screen, for a picture that is printed small."));
+  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+  QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+  QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+  auto *form = new QFormLayout(&dialog);
+  form->addRow(tr("Width [pixel] of plot (max. 20,000 memory-dependent,\ndefault is current width): "), width);
+  form->addRow(tr("Scale of texts, lines and symbols:"), scale);
+  form->addRow(buttons);
+  width->selectAll();
+  if (dialog.exec() == QDialog::Accepted)
+    saveWithWidth(PictureSize(width->value(), scale->value()));
 }
 
-void PlotSaver::saveWithWidth(int width) {
-  if (width <= 0) {
+void PlotSaver::saveWithWidth(PictureSize size) {
+  if (size.width <= 0) {
     NivraMsg::message(NivraMsg::Kind::Warning, tr("Specified width not possible!"));
     return;
   }
+  size.width = possibleWidth(size.width);
   const QString path = askForFile(&m_plot);
   if (!path.isEmpty() && mayBeLarge(path))
-    save(path, possibleWidth(width));
+    save(path, size);
 }
 
 void PlotSaver::savePlot(const QString &path, const QString &reducedPath, bool asksForFile) {
@@ -70,9 +90,9 @@ bool PlotSaver::mayBeLarge(const QString &path) {
              QMessageBox::Yes;
 }
 
-bool PlotSaver::save(const QString &path, int width) {
+bool PlotSaver::save(const QString &path, const PictureSize &size) {
   QString error;
-  if (exportPlot(m_plot, path, width, &error))
+  if (exportPlot(m_plot, path, size, &error))
     return true;
   NivraMsg::message(NivraMsg::Kind::Critical, error);
   return false;

@@ -1,9 +1,12 @@
+#include "initext.h"
+
 #include <base/nivramsg.h>
+#include <base/wholefile.h>
 #include <view/plotsettingsfile.h>
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QSaveFile>
+#include <QDataStream>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -13,15 +16,31 @@ QString tr(const char *text) {
   return QCoreApplication::translate("PlotSettingsFile", text);
 }
 
+constexpr qint64 LargestFile = qint64(4) << 20;
+
 bool fail(QString *error, const QString &reason) {
   if (error != nullptr)
     *error = reason;
   return false;
 }
 
-QColor toColor(const QVariant &value) {
-  // A text that names no colour yields the invalid colour by itself.
-  return value.type() == QVariant::Color ? value.value<QColor>() : QColor(value.toString());
+/// A colour as the toolkit's settings class stores it: "@Variant(", the type number of colours, the colour, ")". Any other
+/// object is refused, for reading it would make whatever the file names. The invalid colour when it is none.
+QColor storedColor(const QString &object) {
+  static const QByteArray Begin = QByteArrayLiteral("@Variant(") + QByteArray("\0\0\0\x43", 4);
+  constexpr int ColorBytes = 11;
+  const QByteArray bytes = object.toLatin1();
+  if (!bytes.startsWith(Begin) || bytes.size() != Begin.size() + ColorBytes + 1 || !bytes.endsWith(')'))
+    return QColor();
+  const char spec = bytes.at(Begin.size());
+  if (spec != QColor::Rgb && spec != QColor::Hsv)
+    return QColor();
+  QDataStream stream(bytes.mid(Begin.size(), ColorBytes));
+  stream.setVersion(QDataStream::Qt_4_0);
+  QColor color;
+  stream >> color;
+  constexpr int FullCircle = 359;
+  return spec == QColor::Hsv && color.hue() > FullCircle ? QColor() : color.toRgb();
 }
 
 /// Visits every stored field with its key, so that reading and writing cannot drift apart. A visitor takes plain fields
@@ -100,7 +119,6 @@ void visitDrawing(Settings &s, Visitor &v) {
   v.optional("colorClasses", s.colorClasses);
   v.optional("classMethod", s.classMethod);
   v.optional("classBreaks", s.classBreaks);
-  v.optional("bookmarks", s.bookmarks);
 }
 
 template <typename Settings, typename Visitor>
@@ -119,26 +137,53 @@ void visitAll(Settings &s, Visitor &v) {
   v.store.endGroup();
 }
 
-struct Reader {
-  QSettings &store;
+/// What the visitor knows of groups, for the reader as the settings class has it for the writer.
+struct GroupedText {
+  const IniText &text;
+  QByteArray group{};
 
-  static void assign(QString &field, const QVariant &value) {
-    // An unquoted comma makes a list of a text that a person edited.
-    field = value.type() == QVariant::StringList ? value.toStringList().join(QLatin1Char(',')) : value.toString();
-  }
-  static void assign(int &field, const QVariant &value) { field = value.toInt(); }
-  static void assign(double &field, const QVariant &value) { field = value.toDouble(); }
-  static void assign(bool &field, const QVariant &value) { field = value.toBool(); }
-  static void assign(QColor &field, const QVariant &value) { field = toColor(value); }
+  void beginGroup(const QString &name) { group = name.toLatin1(); }
+  void endGroup() { group.clear(); }
+};
+
+struct Reader {
+  GroupedText store;
+  QStringList refused{}; ///< keys whose values are objects that no setting has
+
+  static void assign(QString &field, const QString &value) { field = value; }
+  static void assign(int &field, const QString &value) { field = QVariant(value).toInt(); }
+  static void assign(double &field, const QString &value) { field = QVariant(value).toDouble(); }
+  static void assign(bool &field, const QString &value) { field = QVariant(value).toBool(); }
+  static void assign(QColor &field, const QString &value) { field = QColor(value); }
 
   template <typename T>
   void field(const char *key, T &field, const T &missing) {
-    assign(field, store.value(QLatin1String(key), QVariant(missing)));
+    if (!take(key, field))
+      field = missing;
   }
   template <typename T>
   void optional(const char *key, T &field) {
-    if (store.contains(QLatin1String(key)))
-      assign(field, store.value(QLatin1String(key)));
+    take(key, field);
+  }
+
+private:
+  /// False when the file says nothing that can be taken.
+  template <typename T>
+  bool take(const char *key, T &field) {
+    bool isObject = false;
+    const std::optional<QString> value = store.text.value(store.group, key, &isObject);
+    if (!value)
+      return false;
+    if (!isObject) {
+      assign(field, *value);
+      return true;
+    }
+    if constexpr (std::is_same_v<T, QColor>) {
+      field = storedColor(*value);
+      return true;
+    }
+    refused << QLatin1String(key);
+    return false;
   }
 };
 
@@ -158,20 +203,28 @@ struct Writer {
 } // namespace
 
 bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, QString *error) {
-  if (!QFile::exists(path)) {
+  if (!QFileInfo::exists(path)) {
     NivraMsg::debug(QStringLiteral("### Plot Settings file ") + path + QStringLiteral(" not found!"));
     return fail(error, tr("There is no file %1.").arg(path));
   }
-  QSettings store(path, QSettings::IniFormat);
-  Reader reader{store};
+  QString reason;
+  const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, LargestFile, &reason);
+  if (!content) {
+    NivraMsg::logWarning(reason);
+    return fail(error, reason);
+  }
+  const IniText text(*content);
+  Reader reader{{text}};
   visitAll(settings, reader);
+  if (!reader.refused.isEmpty())
+    NivraMsg::logWarning(tr("%1: values that are no text, number or colour are left out: %2")
+                             .arg(path, reader.refused.join(QStringLiteral(", "))));
   return true;
 }
 
 bool PlotSettingsFile::write(const QString &path, const PlotSettings &settings, QString *error) {
+  QString reason;
   const QTemporaryDir folder;
-  if (!folder.isValid())
-    return fail(error, folder.errorString());
   const QString draft = folder.filePath(QStringLiteral("plotsettings.ini"));
   {
     QSettings store(draft, QSettings::IniFormat);
@@ -181,14 +234,16 @@ bool PlotSettingsFile::write(const QString &path, const PlotSettings &settings, 
     if (store.status() != QSettings::NoError)
       return fail(error, tr("The plot settings could not be written to %1.").arg(draft));
   }
-  QFile source(draft);
-  QSaveFile target(path);
-  if (!source.open(QIODevice::ReadOnly))
-    return fail(error, source.errorString());
-  if (!target.open(QIODevice::WriteOnly))
-    return fail(error, tr("Could not write %1: %2").arg(path, target.errorString()));
-  const QByteArray text = source.readAll();
-  if (target.write(text) != text.size() || !target.commit())
-    return fail(error, tr("Could not write %1: %2").arg(path, target.errorString()));
-  return true;
+  const auto own = FileAccess::readWhole(draft, FileAccess::Source::Trusted, LargestFile, &reason);
+  if (!own)
+    return fail(error, reason);
+  IniText text; // with what is there already: other programs keep groups of their own in the file
+  if (QFileInfo::exists(path)) {
+    const auto present = FileAccess::readWhole(path, FileAccess::Source::Workspace, LargestFile, &reason);
+    if (!present)
+      return fail(error, reason);
+    text = IniText(*present);
+  }
+  text.merge(IniText(*own));
+  return WholeFile::write(path, FileAccess::Source::Workspace, text.toText(), &reason) || fail(error, reason);
 }

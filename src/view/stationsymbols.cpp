@@ -29,15 +29,15 @@ void StationSymbols::setTable(const SymbolTable &table) {
 }
 
 std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) const {
-  const QString own = m_table.path(key);
-  if (!own.isEmpty()) {
+  const SymbolTable::File own = m_table.file(key);
+  if (!own.path.isEmpty()) {
     QString error;
-    const QByteArray text = PictureFile::readSvg(own, &error);
+    const QByteArray text = PictureFile::readSvg(own.path, own.source, &error);
     auto renderer = std::make_unique<QSvgRenderer>(text);
     if (!text.isEmpty() && renderer->isValid())
       return renderer;
     NivraMsg::logWarning(
-        QStringLiteral("The symbol %1 for \"%2\" cannot be read; the built-in one is taken. %3").arg(own, key, error));
+        QStringLiteral("The symbol %1 for \"%2\" cannot be read; the built-in one is taken. %3").arg(own.path, key, error));
   }
   const QString path = QStringLiteral(":/iconsNetSymbols/svg TALU/network_symbols/") + key + QStringLiteral(".svg");
   return QFile::exists(path) ? std::make_unique<QSvgRenderer>(path) : nullptr;

@@ -6,15 +6,18 @@
 
 SymbolTable::SymbolTable(const QString &directory)
     : m_directory(directory) {
-  constexpr qint64 LongestLine = 1 << 16;
-  QFile file(directory + QStringLiteral("/svg_symbols.csv"));
-  if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-    NivraMsg::log(QStringLiteral("SVG symbols file ") + file.fileName() +
-                  QStringLiteral(" not found! Using built-in defaults!"));
+  constexpr qint64 Largest = qint64(1) << 20;
+  const QString path = directory + QStringLiteral("/svg_symbols.csv");
+  if (!QFile::exists(path)) {
+    NivraMsg::log(QStringLiteral("SVG symbols file ") + path + QStringLiteral(" not found! Using built-in defaults!"));
     return;
   }
-  while (!file.atEnd()) {
-    const QString line = QString::fromUtf8(file.readLine(LongestLine)).remove(QLatin1Char('\n'));
+  QString reason;
+  const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, Largest, &reason);
+  if (!content)
+    NivraMsg::logWarning(reason);
+  for (const QByteArray &bytes : content.value_or(QByteArray()).split('\n')) {
+    const QString line = QString::fromUtf8(bytes);
     if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
       continue;
     const QStringList parts = line.split(QLatin1Char(';'), Qt::SkipEmptyParts);
@@ -26,10 +29,12 @@ SymbolTable::SymbolTable(const QString &directory)
   }
 }
 
-QString SymbolTable::path(const QString &key) const {
+SymbolTable::File SymbolTable::file(const QString &key) const {
   const auto found = m_files.find(key);
   if (found != m_files.end())
-    return QDir(m_directory).filePath(found->second);
+    return {QDir(m_directory).filePath(found->second)};
   const QString further = m_furtherDirectory + QLatin1Char('/') + key + QStringLiteral(".svg");
-  return !m_furtherDirectory.isEmpty() && QFile::exists(further) ? further : QString();
+  if (m_furtherDirectory.isEmpty() || !QFile::exists(further))
+    return {};
+  return {further, FileAccess::Source::Trusted};
 }

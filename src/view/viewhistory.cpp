@@ -1,8 +1,5 @@
 #include <view/viewhistory.h>
 
-#include <QStringList>
-#include <QUrl>
-
 #include <cmath>
 
 namespace {
@@ -42,30 +39,4 @@ std::optional<QRectF> ViewHistory::forward() {
   if (!canGoForward())
     return std::nullopt;
   return m_views[++m_at];
-}
-
-std::vector<ViewBookmarks::Bookmark> ViewBookmarks::parse(const QString &text) {
-  constexpr int Parts = 5;
-  std::vector<Bookmark> bookmarks;
-  for (const QString &entry : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-    const QStringList parts = entry.split(QLatin1Char('|'));
-    if (parts.size() != Parts)
-      continue;
-    const QRectF view(parts.at(1).toDouble(), parts.at(2).toDouble(), parts.at(3).toDouble(), parts.at(4).toDouble());
-    if (view.width() > 0.0 && view.height() > 0.0 && std::isfinite(view.x() + view.y() + view.right() + view.bottom()))
-      bookmarks.push_back({QUrl::fromPercentEncoding(parts.first().toUtf8()), view});
-  }
-  return bookmarks;
-}
-
-QString ViewBookmarks::format(const std::vector<Bookmark> &bookmarks) {
-  constexpr int Digits = 12;
-  QStringList entries;
-  for (const Bookmark &bookmark : bookmarks) {
-    QStringList parts{QString::fromLatin1(QUrl::toPercentEncoding(bookmark.name, " "))};
-    for (const double number : {bookmark.view.x(), bookmark.view.y(), bookmark.view.width(), bookmark.view.height()})
-      parts.append(QString::number(number, 'g', Digits));
-    entries.append(parts.join(QLatin1Char('|')));
-  }
-  return entries.join(QLatin1Char(';'));
 }

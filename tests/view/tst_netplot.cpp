@@ -375,21 +375,35 @@ void TestNetPlot::viewsBackAndForward() {
 }
 
 void TestNetPlot::bookmarks() {
-  const std::vector<ViewBookmarks::Bookmark> two{{QStringLiteral("Nord; 50 % | \"x\""), QRectF(1.5, -2e6, 3, 4)},
-                                                 {QStringLiteral("ü"), QRectF(0, 0, 1e-3, 7)}};
-  const std::vector<ViewBookmarks::Bookmark> read = ViewBookmarks::parse(ViewBookmarks::format(two));
-  QCOMPARE(read.size(), two.size());
-  for (std::size_t i = 0; i < two.size(); ++i) {
-    QCOMPARE(read[i].name, two[i].name);
-    QCOMPARE(read[i].view, two[i].view);
-  }
-  QVERIFY(ViewBookmarks::parse(QStringLiteral("a|1|2|3;b|1|2|0|4;c|x|inf|3|4;;|")).empty());
   const QTemporaryDir folder;
+  const QString settings = folder.filePath(QStringLiteral("plotsettings.ini"));
   ViewFixture f;
-  f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
-  f.control.setBookmarks(ViewBookmarks::format(two));
-  f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
-  QCOMPARE(ViewBookmarks::parse(f.plot().settings().bookmarks).size(), two.size());
+  f.control.showNetData(settings);
+  PlotSettings applied = f.plot().settings();
+  applied.edgeMag = 7.0; // applied, not saved
+  f.plot().setSettings(applied);
+  NetData part = f.net;
+  NetVisControl window(part, QStringLiteral("a subnet's window"));
+  window.showNetData(settings);
+
+  QString reason;
+  const ViewBookmarks::Bookmark odd{QStringLiteral("Nord; 50 % | \"x\""), QRectF(1.5, -2e6, 1.0 / 3.0, 4)};
+  QVERIFY2(f.control.bookmarks().add(odd, &reason), qPrintable(reason));
+  QVERIFY(window.bookmarks().add({QStringLiteral("ü"), QRectF(0, 0, 1e-3, 7)}, &reason));
+  QVERIFY(f.control.bookmarks().add({QStringLiteral("ü"), QRectF(0, 0, 2, 7)}, &reason));
+  const std::vector<ViewBookmarks::Bookmark> all = window.bookmarks().all();
+  QCOMPARE(all.size(), std::size_t(2));
+  QCOMPARE(all[0].name, odd.name);
+  QCOMPARE(all[0].view, odd.view);
+  QCOMPARE(all[1].view.width(), 2.0);
+  QVERIFY(f.control.bookmarks().forget(odd.name, &reason));
+  QCOMPARE(window.bookmarks().all().size(), std::size_t(1));
+  QVERIFY(!QFile::exists(settings)); // which would decide how the network looks
+  QFile file(folder.filePath(QStringLiteral("viewbookmarks.csv")));
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  file.write("a;1;2;3\nb;1;2;0;4\nc;x;inf;3;4\n\n;\n");
+  file.close();
+  QVERIFY(window.bookmarks().all().empty());
 }
 
 void TestNetPlot::zoomBaseGrows() {

@@ -1,5 +1,7 @@
 #include "viewfixture.h"
 
+#include <base/wholefile.h>
+#include <support/fulldisk.h>
 #include <support/nivratest.h>
 #include <view/plotexport.h>
 #include <view/plotsaver.h>
@@ -7,6 +9,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QImageReader>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -18,7 +21,11 @@ private slots:
   void pixels_data();
   void pixels();
   void documentsHoldVectors();
+  void scaleMakesMarksLarger_data();
+  void scaleMakesMarksLarger();
+  void failuresLeaveTheFileAlone_data();
   void failuresLeaveTheFileAlone();
+  void impossiblePictures();
   void thePlotIsAsBefore();
   void savingWithAReducedCopy();
   void savingAsksForAFile();
@@ -60,17 +67,75 @@ void TestPlotExport::documentsHoldVectors() {
   QVERIFY(file.open(QIODevice::ReadOnly));
   const QByteArray text = file.readAll();
   QVERIFY(text.contains("Rhine") && text.contains("pressure"));
-  QVERIFY(text.count("<image") <= 1); // the bar of the colour scale
+  QCOMPARE(text.count("<image"), 0); // not even the bar of the colour scale
   QVERIFY(text.contains("<polyline") && text.contains("<path"));
   QVERIFY(exportPlot(f.plot(), m_folder.filePath(QStringLiteral("a.PDF")), 900));
   QFile pdf(m_folder.filePath(QStringLiteral("a.PDF")));
   QVERIFY(pdf.open(QIODevice::ReadOnly) && pdf.readAll().startsWith("%PDF"));
 }
 
+void TestPlotExport::scaleMakesMarksLarger_data() {
+  QTest::addColumn<QString>("suffix");
+  QTest::newRow("pixels") << QStringLiteral("png");
+  QTest::newRow("document") << QStringLiteral("svg");
+}
+
+void TestPlotExport::scaleMakesMarksLarger() {
+  QFETCH(QString, suffix);
+  ViewFixture f;
+  f.show();
+  const auto inkAt = [&](double scale) {
+    const QString path = m_folder.filePath(QStringLiteral("scaled.") + suffix);
+    QString error;
+    if (!exportPlot(f.plot(), path, PictureSize(1200, scale), &error))
+      qWarning("%s", qPrintable(error));
+    QImageReader reader(path);
+    if (suffix == QLatin1String("svg")) // which says its size in millimetres
+      reader.setScaledSize(QSize(1200, 800));
+    const QImage picture = reader.read();
+    int ink = 0;                // of the drawing, beside the colour scale
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width() * 3 / 4; ++x)
+        ink += picture.pixelColor(x, y).alpha() > 0 && picture.pixelColor(x, y).lightness() < 250 ? 1 : 0;
+    return picture.width() == 1200 ? ink : -1;
+  };
+  const int single = inkAt(1.0);
+  const int triple = inkAt(3.0);
+  QVERIFY(single > 0);
+  QVERIFY2(triple > 2 * single && triple < 12 * single, qPrintable(QStringLiteral("%1 %2").arg(single).arg(triple)));
+}
+
+void TestPlotExport::failuresLeaveTheFileAlone_data() {
+  QTest::addColumn<QString>("suffix");
+  for (const char *suffix : {"png", "jpg", "bmp", "tif", "svg", "pdf", "ps"})
+    QTest::newRow(suffix) << QString::fromLatin1(suffix);
+}
+
 void TestPlotExport::failuresLeaveTheFileAlone() {
+  QFETCH(QString, suffix);
+  const FullDisk disk;
+  if (!disk.isMounted())
+    QSKIP("a small disk cannot be mounted without root");
+  const QString path = disk.path(QStringLiteral("a.") + suffix);
+  QString error;
+  QVERIFY(WholeFile::write(path, FileAccess::Source::Trusted, QByteArray("a picture"), &error));
+  disk.fill();
+  ViewFixture f;
+  f.show();
+  QVERIFY(!exportPlot(f.plot(), path, 300, &error));
+  if (suffix != QLatin1String("ps")) // whose tool may be missing
+    QVERIFY2(error.contains(QLatin1String("space")), qPrintable(error));
+  QFile file(path);
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  QCOMPARE(file.readAll(), QByteArray("a picture"));
+}
+
+void TestPlotExport::impossiblePictures() {
   ViewFixture f;
   f.show();
   QString error;
+  QVERIFY(!exportPlot(f.plot(), m_folder.filePath(QStringLiteral("b.png")), PictureSize(300, 0.0), &error));
+  QVERIFY(!exportPlot(f.plot(), m_folder.filePath(QStringLiteral("b.png")), PictureSize(300, 1000.0), &error));
   QVERIFY(!exportPlot(f.plot(), m_folder.filePath(QStringLiteral("a.xyz")), 900, &error));
   QVERIFY(error.startsWith(QStringLiteral("Could not write ")));
   QVERIFY(!QFileInfo::exists(m_folder.filePath(QStringLiteral("a.xyz"))));

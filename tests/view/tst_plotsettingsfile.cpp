@@ -1,8 +1,10 @@
+#include <support/fulldisk.h>
 #include <support/nivratest.h>
 #include <view/netplot.h>
 #include <view/plotsettingsfile.h>
 
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 
 namespace {
@@ -45,7 +47,11 @@ private slots:
   void missingFileChangesNothing();
   void missingKeys();
   void textsOfAPerson();
+  void objectsAreRefused_data();
+  void objectsAreRefused();
+  void whatOthersKeepInTheFileStays();
   void whatCannotBeWrittenIsSaid();
+  void aFullDiskLeavesTheOldFile();
 
 private:
   QString file(const QByteArray &text) {
@@ -96,6 +102,69 @@ void TestPlotSettingsFile::textsOfAPerson() {
   QCOMPARE(settings.legendPos, 0);
   QVERIFY(!settings.fixAxesRatio);
   QCOMPARE(settings.edgeMag, 2.5);
+}
+
+void TestPlotSettingsFile::objectsAreRefused_data() {
+  QTest::addColumn<QByteArray>("value");
+  QTest::newRow("list of endless length") << QByteArray("\"@Variant(\\0\\0\\0\\xb\\x7f\\xff\\xff\\xf0)\"");
+  QTest::newRow("written with escapes") << QByteArray("\\x40Variant(\\0\\0\\0\\xb\\x7f\\xff\\xff\\xf0)");
+  QTest::newRow("written in octal") << QByteArray("\\100Variant(\\0\\0\\0\\xb\\x7f\\xff\\xff\\xf0)");
+  QTest::newRow("behind blanks") << QByteArray("   @Variant(\\0\\0\\0\\x42)");
+  QTest::newRow("in a list") << QByteArray("a, @Variant(\\0\\0\\0\\xb\\x7f\\xff\\xff\\xf0)");
+  for (const char *type : {"9", "42", "44", "47"})
+    QTest::newRow(type) << QByteArray("@Variant(\\0\\0\\0\\x") + type + "\\xff\\xff\\xff\\xff)";
+  QTest::newRow("cut colour") << QByteArray("@Variant(\\0\\0\\0\\x43\\x1\\xff)");
+  QTest::newRow("byte array") << QByteArray("@ByteArray(x)");
+}
+
+void TestPlotSettingsFile::objectsAreRefused() {
+  QFETCH(QByteArray, value);
+  PlotSettings settings;
+  QVERIFY(PlotSettingsFile::read(file("colorFunc=" + value + "\nlegendPos=" + value + "\ngridMajorColor=" + value +
+                                      "\nwidthFunc=\"@@x, y\"\n[color_options]\nbgrColor=" + value +
+                                      "\n[drawing]\nclassBreaks=" + value + "\n"),
+                                 settings));
+  QVERIFY(!settings.gridMajorColor.isValid());
+  QCOMPARE(settings.legendPos, 0);
+  QCOMPARE(settings.widthFunc, QStringLiteral("@x, y")); // a text that begins so is written with two
+}
+
+void TestPlotSettingsFile::whatOthersKeepInTheFileStays() {
+  const QString path =
+      file("; by hand\ncolorFunc=old\nelse=1\n\n[other program]\nnodeMag=77\nblob=@ByteArray(x)\n[magnitudes]\n"
+           "further=2\n");
+  QVERIFY(PlotSettingsFile::write(path, unusual()));
+  PlotSettings read;
+  QVERIFY(PlotSettingsFile::read(path, read));
+  QVERIFY(read == unusual());
+  QVERIFY(PlotSettingsFile::write(path, unusual()));
+  QFile written(path);
+  QVERIFY(written.open(QIODevice::ReadOnly));
+  const QByteArray text = written.readAll();
+  for (const char *line : {"; by hand\n", "else=1\n", "[other program]\nnodeMag=77\nblob=@ByteArray(x)\n", "further=2\n"})
+    QVERIFY2(text.count(line) == 1, line);
+  QCOMPARE(text.count("nodeMag="), 2);
+  QCOMPARE(text.count("colorFunc="), 1);
+  // The toolkit's own reader sees the same.
+  QSettings store(path, QSettings::IniFormat);
+  QCOMPARE(store.value(QStringLiteral("widthFunc")).toString(), unusual().widthFunc);
+  QCOMPARE(store.value(QStringLiteral("color_options/bgrColor")).value<QColor>(), unusual().bgrColor);
+  QCOMPARE(store.value(QStringLiteral("magnitudes/further")).toInt(), 2);
+}
+
+void TestPlotSettingsFile::aFullDiskLeavesTheOldFile() {
+  const FullDisk disk;
+  if (!disk.isMounted())
+    QSKIP("a small disk cannot be mounted without root");
+  const QString path = disk.path(QStringLiteral("plotsettings.ini"));
+  QVERIFY(PlotSettingsFile::write(path, unusual()));
+  disk.fill();
+  QString error;
+  QVERIFY(!PlotSettingsFile::write(path, PlotSettings(), &error));
+  QVERIFY2(error.contains(QLatin1String("space")), qPrintable(error));
+  PlotSettings read;
+  QVERIFY(PlotSettingsFile::read(path, read));
+  QVERIFY(read == unusual());
 }
 
 void TestPlotSettingsFile::whatCannotBeWrittenIsSaid() {

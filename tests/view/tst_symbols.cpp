@@ -4,6 +4,7 @@
 #include <view/picturefile.h>
 #include <view/stationsymbols.h>
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QPainter>
@@ -22,6 +23,7 @@ private slots:
   void ownSymbolTakesThePlaceOfTheBuiltIn();
   void badSvg_data();
   void badSvg();
+  void ordinarySvgIsDrawn();
   void badFigures_data();
   void badFigures();
   void figuresTakeThePlaceOfSymbols();
@@ -56,8 +58,8 @@ void TestSymbols::tableLines() {
   const SymbolTable table(m_folder.path());
   QCOMPARE(table.files().size(), std::size_t(2));
   QCOMPARE(table.files().at(QStringLiteral("c")), QStringLiteral("Own.SVG"));
-  QCOMPARE(table.path(QStringLiteral("f")), m_folder.filePath(QStringLiteral("two.svg")));
-  QVERIFY(table.path(QStringLiteral("v")).isEmpty());
+  QCOMPARE(table.file(QStringLiteral("f")).path, m_folder.filePath(QStringLiteral("two.svg")));
+  QVERIFY(table.file(QStringLiteral("v")).path.isEmpty());
   QVERIFY(SymbolTable(QStringLiteral("/nowhere")).files().empty());
 }
 
@@ -123,6 +125,29 @@ void TestSymbols::badSvg_data() {
   QTest::newRow("fill from elsewhere") << head + "<rect fill='url(other.svg#a)' width='8' height='8'/></svg>";
   QTest::newRow("entities") << QByteArray("<!DOCTYPE svg [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]>") + head +
                                    "<text>&b;</text></svg>";
+  const auto embedded = [&head](const char *kind, const QByteArray &content) {
+    return head + "<image xlink:href='data:image/" + kind + ";base64," + content.toBase64() +
+           "' width='8' height='8'/></svg>";
+  };
+  const QByteArray inner = head + "<image xlink:href='file:///etc/hostname' width='8' height='8'/></svg>";
+  QTest::newRow("SVG in SVG") << embedded("svg+xml", inner);
+  QTest::newRow("SVG in SVG, called pixels") << embedded("png", inner);
+  QTest::newRow("compressed") << QByteArray::fromHex("1f8b0800000000000003b3c9c82cc9496552d00702000000ffff");
+  QTest::newRow("lines of endless dashes")
+      << head + "<polygon points='0,0 1e308,0 1e308,1e308' stroke='red' stroke-dasharray='0 1'/></svg>";
+  QTest::newRow("lines of very short dashes")
+      << head + "<polygon points='0,0 900000,0 900000,900000' stroke='red' style='stroke-dasharray:1e-4,1e-4'/></svg>";
+  QTest::newRow("endless number") << head + "<rect width='" + QByteArray(400, '9') + "' height='1'/></svg>";
+  QByteArray attributes;
+  for (int i = 0; i < 60000; ++i)
+    attributes += " a" + QByteArray::number(i) + "=''";
+  QTest::newRow("many attributes") << head + "<rect" + attributes + "/></svg>";
+  QTest::newRow("many attributes behind a comment") << head + "<!-- don't -->" + "<rect" + attributes + "/></svg>";
+  QByteArray repeats;
+  for (int i = 1; i < 20; ++i)
+    repeats += "<g id='a" + QByteArray::number(i) + "'>" +
+               QByteArray("<use xlink:href='#a" + QByteArray::number(i - 1) + "'/>").repeated(10) + "</g>";
+  QTest::newRow("repeats within repeats") << head + "<rect id='a0' width='1' height='1'/>" + repeats + "</svg>";
   QTest::newRow("nested without end") << head + QByteArray("<g>").repeated(5000);
   QTest::newRow("huge") << head + QByteArray(3 << 20, ' ') + "</svg>";
 }
@@ -131,8 +156,29 @@ void TestSymbols::badSvg() {
   QFETCH(QByteArray, text);
   write(QStringLiteral("bad.svg"), text);
   QString error;
-  QVERIFY(PictureFile::readSvg(m_folder.filePath(QStringLiteral("bad.svg")), &error).isEmpty());
+  QVERIFY(
+      PictureFile::readSvg(m_folder.filePath(QStringLiteral("bad.svg")), FileAccess::Source::Workspace, &error).isEmpty());
   QVERIFY(!error.isEmpty());
+}
+
+void TestSymbols::ordinarySvgIsDrawn() {
+  QImage dot(2, 2, QImage::Format_RGB32);
+  dot.fill(Qt::red);
+  QByteArray png;
+  QBuffer buffer(&png);
+  QVERIFY(buffer.open(QIODevice::WriteOnly) && dot.save(&buffer, "png"));
+  write(QStringLiteral("good.svg"),
+        "<?xml version='1.0'?><!-- it's drawn by hand --><svg xmlns='http://www.w3.org/2000/svg' "
+        "xmlns:xlink='http://www.w3.org/1999/xlink' width='80' height='80' viewBox='0 0 80 80'>"
+        "<defs><linearGradient id='g'><stop offset='0' stop-color='#123456'/></linearGradient>"
+        "<path id='p' d='M0 0L40.5,30.25 1e1-3z'/></defs><use xlink:href='#p' fill='url(#g)'/>"
+        "<path d='M0 60H80' stroke='#00f' style='stroke-width:2;stroke-dasharray:4,2'/>"
+        "<image xlink:href='data:image/png;base64," +
+            png.toBase64() + "' width='8' height='8'/></svg>");
+  QString error;
+  const QImage picture = PictureFile::readImage(m_folder.filePath(QStringLiteral("good.svg")), &error);
+  QVERIFY2(!picture.isNull(), qPrintable(error));
+  QCOMPARE(picture.pixelColor(10, 10), QColor(Qt::red));
 }
 
 void TestSymbols::badFigures_data() {
@@ -142,6 +188,11 @@ void TestSymbols::badFigures_data() {
   QVERIFY(huge.open(QIODevice::WriteOnly) && huge.resize(qint64(500) << 20)); // without a block on the disk
   const QString pipe = m_folder.filePath(QStringLiteral("pipe.png"));
   QVERIFY(::mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0);
+  const QByteArray square = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 8 8'><rect width='8' height='8'/></svg>";
+  for (const char *name : {"svg.png", "dotted.svg.", "packed.svgz"}) {
+    write(QString::fromLatin1(name), square);
+    QTest::newRow(name) << QString::fromLatin1(name);
+  }
   QTest::newRow("missing") << QStringLiteral("missing.png");
   QTest::newRow("no picture") << QStringLiteral("text.png");
   QTest::newRow("directory") << QStringLiteral(".");

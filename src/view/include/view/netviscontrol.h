@@ -3,6 +3,7 @@
 #include <model/topology.h>
 #include <view/netpicker.h>
 #include <view/netplot.h>
+#include <view/viewbookmarks.h>
 
 #include <QObject>
 #include <QPointer>
@@ -42,8 +43,8 @@ public:
   void refreshSearchResults();
   /// Selects what lies upstream or downstream of the element along the flow.
   void trace(const QString &name, Topology::Direction direction);
-  /// Keeps views to come back to in the plot settings of the case.
-  void setBookmarks(const QString &bookmarks);
+  /// Views to come back to, kept with the case.
+  ViewBookmarks bookmarks() const;
 
 signals:
   void selectionChanged();

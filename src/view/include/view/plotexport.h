@@ -4,8 +4,20 @@
 
 class NetPlot;
 
+/// How large a picture becomes.
+struct PictureSize {
+  static constexpr double LargestScale = 20.0;
+
+  // NOLINTNEXTLINE(google-explicit-constructor): a width alone is a size
+  PictureSize(int widthOfPicture, double scaleOfMarks = 1.0)
+      : width(widthOfPicture)
+      , scale(scaleOfMarks) {}
+
+  int width;    ///< px; the height follows the shape of the plot
+  double scale; ///< of texts, lines and symbols against those on the screen: 2 for a picture that is printed half as large
+};
+
 /// Writes the drawing with its colour scale and legend; the suffix gives the format: png, jpg, bmp and tif as pixels, svg,
-/// pdf and ps as documents (ps by a tool for it that is installed). The height follows the shape of the plot, which is
-/// brought to the width for the picture and back afterwards. The file is written whole or stays as it was; false with the
-/// reason when it could not be written. \param width px
-bool exportPlot(NetPlot &plot, const QString &path, int width, QString *error = nullptr);
+/// pdf and ps as documents (ps by a tool for it that is installed). The plot is brought to the size for the picture and back
+/// afterwards. The file is written whole or stays as it was; false with the reason when it could not be written.
+bool exportPlot(NetPlot &plot, const QString &path, const PictureSize &size, QString *error = nullptr);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <view/plotexport.h>
+
 #include <QString>
 
 class NetPlot;
@@ -14,10 +16,10 @@ public:
 
   static int possibleWidth(int width) { return width < LargestWidth ? width : LargestWidth; }
 
-  /// Asks for the width of the picture, then for its file.
+  /// Asks for the width of the picture and the scale of what it shows, then for its file.
   void saveWithWidth();
-  /// At the width given, which is reported and nothing done when it is not positive.
-  void saveWithWidth(int width);
+  /// At the size given; a width that is not positive is reported and nothing done.
+  void saveWithWidth(PictureSize size);
   /// At the present width. Blank names do nothing.
   /// \param path empty when a dialog asks for it
   /// \param reducedPath a second picture of 30 % of the size, none when empty
@@ -26,7 +28,7 @@ public:
 private:
   static QString askForFile(QWidget *parent);
   static bool mayBeLarge(const QString &path);
-  bool save(const QString &path, int width);
+  bool save(const QString &path, const PictureSize &size);
 
   NetPlot &m_plot;
 };

@@ -72,7 +72,6 @@ struct PlotSettings {
   int colorClasses = 0;          ///< number of classes of the edge colours; 0 or 1 for a continuous scale
   QString classMethod = equalClasses();
   QString classBreaks; ///< breaks of the user's own in the display unit, ascending, joined by ";"
-  QString bookmarks;   ///< views to come back to, see ViewBookmarks
 
   /// Takes over the zoom limits of another record, which belong to the network rather than to its drawing.
   void takeZoomLimits(const PlotSettings &other);

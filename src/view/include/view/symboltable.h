@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/fileaccess.h>
+
 #include <QString>
 
 #include <map>
@@ -16,8 +18,13 @@ public:
   const std::map<QString, QString> &files() const { return m_files; }
   /// Where a file "KEY.svg" counts for keys that the table does not name.
   void setFurtherDirectory(const QString &directory) { m_furtherDirectory = directory; }
-  /// The path of the key's file, relative names taken from the table's directory; empty when there is no such key.
-  QString path(const QString &key) const;
+  struct File {
+    QString path; ///< empty when there is no such key
+    FileAccess::Source source = FileAccess::Source::Workspace;
+  };
+  /// The key's file: one that the table names, relative names taken from the table's directory, else one of the further
+  /// directory, which belongs to the program.
+  File file(const QString &key) const;
 
 private:
   QString m_directory;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QRectF>
-#include <QString>
 
 #include <optional>
 #include <vector>
@@ -21,17 +20,3 @@ private:
   std::vector<QRectF> m_views;
   std::size_t m_at = 0;
 };
-
-/// Views with names, as PlotSettings::bookmarks keeps them: "name|x|y|width|height", joined by ";". A "%" in a name, and
-/// what else would be taken for a mark, is percent-encoded.
-namespace ViewBookmarks {
-
-struct Bookmark {
-  QString name;
-  QRectF view; ///< plot coordinates
-};
-
-std::vector<Bookmark> parse(const QString &text); ///< what is no bookmark is left out
-QString format(const std::vector<Bookmark> &bookmarks);
-
-} // namespace ViewBookmarks

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QRectF>
+#include <QString>
+
+#include <vector>
+
+/// Views with names, kept with the case in a file of their own: "viewbookmarks.csv", a line each,
+/// "name;x;y;width;height" in the network's coordinates, the name percent-encoded where it holds marks.
+///
+/// Every change reads the file anew, so that two windows of one case do not undo each other's.
+class ViewBookmarks {
+public:
+  struct Bookmark {
+    QString name;
+    QRectF view;
+  };
+
+  explicit ViewBookmarks(const QString &path)
+      : m_path(path) {}
+
+  /// In the order in which they were made; what is no bookmark is left out, a file that cannot be read is logged.
+  std::vector<Bookmark> all() const;
+  /// In place of one of the same name. False with the reason when the file cannot be written.
+  bool add(const Bookmark &bookmark, QString *reason) const;
+  bool forget(const QString &name, QString *reason) const;
+
+private:
+  bool write(const std::vector<Bookmark> &bookmarks, QString *reason) const;
+
+  QString m_path;
+};

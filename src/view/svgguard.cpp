@@ -1,0 +1,250 @@
+#include "svgguard.h"
+
+#include "picturebounds.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QImageReader>
+#include <QSet>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <utility>
+
+namespace {
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("SvgGuard", text);
+}
+
+bool isGap(char c) {
+  return c == ' ' || c == '\n' || c == '\t' || c == '\r';
+}
+
+/// Behind the comment or the literal text that begins here; the same place when neither does.
+int behindLiteral(const QByteArray &svg, int at) {
+  const std::pair<QByteArray, QByteArray> Literals[] = {{"<!--", "-->"}, {"<![CDATA[", "]]>"}};
+  for (const auto &[begin, end] : Literals) {
+    if (qstrncmp(svg.constData() + at, begin.constData(), static_cast<uint>(begin.size())) != 0)
+      continue;
+    const int found = svg.indexOf(end, at + begin.size());
+    return found < 0 ? svg.size() : found + end.size();
+  }
+  return at;
+}
+
+/// The parser compares every attribute of an element with all others, so they are counted before it is asked.
+bool hasElementOfTooManyAttributes(const QByteArray &svg) {
+  constexpr int Most = 100;
+  int inElement = -1; // attributes so far; -1 outside
+  char quote = 0;
+  for (int at = 0; at < svg.size(); ++at) {
+    const char c = svg.at(at);
+    if (quote != 0) {
+      if (c == quote)
+        quote = 0;
+    } else if (c == '<') {
+      const int behind = behindLiteral(svg, at);
+      inElement = behind == at ? 0 : inElement;
+      at = std::max(at, behind - 1);
+    } else if (c == '>') {
+      inElement = -1;
+    } else if (inElement >= 0 && (c == '"' || c == '\'')) {
+      quote = c;
+      if (++inElement > Most)
+        return true;
+    }
+  }
+  return false;
+}
+
+/// Only pixels in formats whose reader does not read SVG in turn, and not too many.
+bool isBoundedPixels(const QStringRef &url) {
+  const int comma = url.indexOf(QLatin1Char(','));
+  QByteArray content = comma < 0 || !url.left(comma).endsWith(QLatin1String(";base64"))
+                           ? QByteArray()
+                           : QByteArray::fromBase64(url.mid(comma + 1).toLatin1());
+  QBuffer buffer(&content);
+  return PictureBounds::fault(buffer).isEmpty();
+}
+
+bool isInside(const QStringRef &reference) {
+  const QStringRef place = reference.trimmed();
+  return place.isEmpty() || place.startsWith(QLatin1Char('#'));
+}
+
+bool namesOutside(const QStringRef &text) {
+  for (int i = text.indexOf(QLatin1String("url("), 0, Qt::CaseInsensitive); i >= 0;
+       i = text.indexOf(QLatin1String("url("), i + 1, Qt::CaseInsensitive)) {
+    QStringRef place = text.mid(i + 4).trimmed();
+    if (place.startsWith(QLatin1Char('\'')) || place.startsWith(QLatin1Char('"')))
+      place = place.mid(1);
+    if (!isInside(place))
+      return true;
+  }
+  return text.contains(QLatin1String("@import"), Qt::CaseInsensitive);
+}
+
+/// What a text of numbers holds: coordinates, lengths, a path.
+struct Numbers {
+  int count = 0;
+  double largest = 0.0; ///< magnitude
+  double sum = 0.0;
+};
+
+Numbers numbersIn(const QStringRef &text) {
+  Numbers numbers;
+  const QByteArray bytes = text.toLatin1();
+  const char *at = bytes.constData();
+  const char *end = at + bytes.size();
+  while (at < end) {
+    if ((*at < '0' || *at > '9') && *at != '.') {
+      ++at;
+      continue;
+    }
+    char *behind = nullptr;
+    const double number = std::abs(std::strtod(at, &behind)); // one that no double holds is infinite
+    if (behind == at) {
+      ++at;
+      continue;
+    }
+    at = behind;
+    ++numbers.count;
+    numbers.largest = std::max(numbers.largest, number);
+    numbers.sum += number;
+  }
+  return numbers;
+}
+
+/// Walks through the document once and adds up what drawing it would ask for.
+class Walk {
+public:
+  explicit Walk(const QByteArray &svg)
+      : m_reader(svg) {}
+
+  QString fault() {
+    while (!m_reader.atEnd()) {
+      const QString found = judge(m_reader.readNext());
+      if (!found.isEmpty())
+        return found;
+    }
+    if (m_reader.hasError())
+      return tr("line %1: %2").arg(m_reader.lineNumber()).arg(m_reader.errorString());
+    return faultOfTheWhole();
+  }
+
+private:
+  QString judge(QXmlStreamReader::TokenType token) {
+    constexpr int DeepestNesting = 100;
+    switch (token) {
+    case QXmlStreamReader::DTD:
+      return m_reader.entityDeclarations().isEmpty() ? QString() : tr("it declares entities");
+    case QXmlStreamReader::StartElement:
+      m_holders.push_back(m_reader.attributes().value(QLatin1String("id")).toString());
+      if (m_holders.size() > DeepestNesting)
+        return tr("it is nested too deeply");
+      return attributesFault();
+    case QXmlStreamReader::EndElement:
+      m_holders.removeLast();
+      return QString();
+    case QXmlStreamReader::Characters:
+      if (m_reader.text().contains(QLatin1String("stroke-dasharray")))
+        return tr("its style sheet has dashed lines");
+      return namesOutside(m_reader.text()) ? tr("its style refers to other files") : QString();
+    default:
+      return QString();
+    }
+  }
+
+  QString attributesFault() {
+    const bool isImage = m_reader.name() == QLatin1String("image");
+    const bool isUse = m_reader.name() == QLatin1String("use");
+    const QXmlStreamAttributes attributes = m_reader.attributes(); // lives as long as what is read of it
+    for (const QXmlStreamAttribute &attribute : attributes) {
+      const QStringRef value = attribute.value();
+      if (attribute.name() == QLatin1String("href")) {
+        const QStringRef url = value.trimmed();
+        const bool isPixels = isImage && url.startsWith(QLatin1String("data:")) && isBoundedPixels(url);
+        if (!isPixels && !isInside(value))
+          return tr("it refers to %1").arg(value.left(100).toString());
+        if (isUse)
+          noteUse(value.trimmed().mid(1).toString());
+        continue;
+      }
+      if (namesOutside(value))
+        return tr("it refers to %1").arg(value.left(100).toString());
+      const QString found = numbersFault(attribute);
+      if (!found.isEmpty())
+        return found;
+    }
+    return QString();
+  }
+
+  QString numbersFault(const QXmlStreamAttribute &attribute) {
+    constexpr double Largest = 1e6;
+    const QStringRef name = attribute.name();
+    if (name == QLatin1String("id") || name == QLatin1String("class") || !attribute.namespaceUri().isEmpty())
+      return QString();
+    const Numbers numbers = numbersIn(attribute.value());
+    const bool isColor = attribute.value().contains(QLatin1Char('#'));
+    if (!isColor && numbers.largest > Largest)
+      return tr("it has a number beyond %1: %2").arg(Largest).arg(attribute.value().left(100).toString());
+    m_count += numbers.count;
+    if (!isColor)
+      m_largest = std::max(m_largest, numbers.largest);
+    if (name == QLatin1String("stroke-dasharray"))
+      noteDashes(attribute.value());
+    else if (name == QLatin1String("style"))
+      for (const QStringRef &rule : attribute.value().split(QLatin1Char(';')))
+        if (rule.trimmed().startsWith(QLatin1String("stroke-dasharray")))
+          noteDashes(rule.mid(rule.indexOf(QLatin1Char(':')) + 1));
+    return QString();
+  }
+
+  void noteDashes(const QStringRef &pattern) {
+    const Numbers numbers = numbersIn(pattern);
+    if (numbers.count > 0)
+      m_shortestDash = std::min(m_shortestDash, numbers.sum / numbers.count);
+  }
+
+  void noteUse(const QString &used) {
+    m_used.insert(used);
+    ++m_uses;
+    for (const QString &holder : m_holders)
+      if (!holder.isEmpty())
+        m_using.insert(holder);
+  }
+
+  QString faultOfTheWhole() const {
+    constexpr int MostUses = 1000;
+    constexpr double MostDashes = 1e6;
+    if (m_uses > MostUses || m_used.intersects(m_using))
+      return tr("it repeats parts within parts");
+    if (m_count * m_largest > MostDashes * m_shortestDash)
+      return tr("its lines have too many dashes");
+    return QString();
+  }
+
+  QXmlStreamReader m_reader;
+  QStringList m_holders; ///< ids of the elements around the present one, it included
+  QSet<QString> m_used;  ///< ids that somebody repeats
+  QSet<QString> m_using; ///< ids of what repeats something itself
+  int m_uses = 0;
+  double m_count = 0.0; ///< numbers in all
+  double m_largest = 0.0;
+  double m_shortestDash = std::numeric_limits<double>::infinity();
+};
+
+} // namespace
+
+QString SvgGuard::fault(const QByteArray &svg) {
+  const auto begin = std::find_if_not(svg.begin(), svg.end(), isGap);
+  if (begin == svg.end() || (*begin != '<' && !svg.startsWith("\xEF\xBB\xBF")))
+    return tr("it is no SVG text"); // among others a compressed one, which may be any size once it is unpacked
+  if (hasElementOfTooManyAttributes(svg))
+    return tr("an element has too many attributes");
+  return Walk(svg).fault();
+}
