@@ -6,8 +6,12 @@
 #include <io/networkfileconverter.h>
 #include <io/nivrareader.h>
 #include <model/consistencycheck.h>
+#include <view/netviscontrol.h>
 
+#include <algorithm>
+#include <array>
 #include <benchmark/benchmark.h>
+#include <chrono>
 #include <malloc.h>
 #include <memory>
 
@@ -99,5 +103,52 @@ void checkNetwork(benchmark::State &state) {
 }
 BENCHMARK(checkNetwork)->Arg(Hundred)->Unit(benchmark::kMillisecond)->Iterations(8);
 BENCHMARK(checkNetwork)->Arg(Million)->Unit(benchmark::kMillisecond)->Iterations(2);
+
+/// Reads, checks and draws a network; the seconds of each.
+std::array<double, 3> secondsOf(const QString &path) {
+  using Clock = std::chrono::steady_clock;
+  const auto since = [](Clock::time_point start) {
+    return std::chrono::duration<double>(Clock::now() - start).count();
+  };
+  std::array<double, 3> seconds{};
+  NetData net;
+  NetVisControl control(net, QString());
+  auto start = Clock::now();
+  NivraReader(net).readGeomJsn(path, {});
+  seconds[0] = since(start);
+  start = Clock::now();
+  ConsistencyCheck::checkNetData(net);
+  benchmark::DoNotOptimize(ConsistencyCheck::prune(net).edges);
+  seconds[1] = since(start);
+  start = Clock::now();
+  control.plot()->resize(1200, 900);
+  control.showNetData(QString());
+  control.plot()->grab();
+  seconds[2] = since(start);
+  return seconds;
+}
+
+/// Names outside of ASCII against the same network with plain names, in turns: the counters are ratios of the shortest
+/// times, each of which is to stay below 1.3.
+void otherNames(benchmark::State &state) {
+  const int elements = static_cast<int>(state.range(0));
+  const QString plain = Measure::network(elements);
+  const QString other = Measure::networkOfOtherNames(elements);
+  constexpr double Endless = 1e9;
+  std::array<double, 3> ofPlain{Endless, Endless, Endless};
+  std::array<double, 3> ofOther = ofPlain;
+  const auto shorten = [](std::array<double, 3> &shortest, const std::array<double, 3> &seconds) {
+    for (std::size_t i = 0; i < seconds.size(); ++i)
+      shortest[i] = std::min(shortest[i], seconds[i]);
+  };
+  for (auto _ : state) {
+    shorten(ofPlain, secondsOf(plain));
+    shorten(ofOther, secondsOf(other));
+  }
+  const std::array<const char *, 3> names{"read", "check", "draw"};
+  for (std::size_t i = 0; i < names.size(); ++i)
+    state.counters[names[i]] = ofOther[i] / ofPlain[i];
+}
+BENCHMARK(otherNames)->Arg(3 * Hundred)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 } // namespace

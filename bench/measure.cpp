@@ -2,7 +2,10 @@
 
 #include "networkgenerator.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <malloc.h>
@@ -39,6 +42,27 @@ QString Measure::network(int elements) {
   if (made.insert(elements).second)
     NetworkGenerator::write(folder, elements, 1);
   return NetworkGenerator::geometryFile(folder);
+}
+
+QString Measure::networkOfOtherNames(int elements) {
+  const QString from = network(elements);
+  const QString folder = QFileInfo(from).path() + QStringLiteral("/other");
+  const QString to = folder + QStringLiteral("/other.geom.jsn");
+  if (QFile::exists(to))
+    return to;
+  QDir().mkpath(folder);
+  QFile source(from);
+  QFile target(to);
+  if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
+    qFatal("no network can be written");
+  // "NAME":{ and what names an element, such as "node1":"NAME"
+  static const QRegularExpression name(
+      QStringLiteral("^(,?\")[A-Za-z]|(\"(?:node1|node2|gasnode|driven|drive)\":\")[A-Za-z]"));
+  while (!source.atEnd()) {
+    QString line = QString::fromUtf8(source.readLine());
+    target.write(line.replace(name, QStringLiteral("\\1\\2\u00e4")).toUtf8());
+  }
+  return to;
 }
 
 double Measure::peakMemory(const std::function<void()> &work) {

@@ -1,3 +1,4 @@
+#include <base/fileaccess.h>
 #include <base/nivramsg.h>
 #include <characteristics/machinereader.h>
 #include <io/nivrareader.h>
@@ -46,8 +47,10 @@ bool NetworkLoader::resolve(const QString &path) {
   m_cancelled = false;
   const NivraMsg::Recorder recorder;
   m_workspace = NivraWorkspace::fromFile(path);
-  if (m_workspace.isValid())
+  if (m_workspace.isValid()) {
+    FileAccess::confineTo(m_workspace.root()); // before anything in it is opened
     return true;
+  }
   const QString reasons = recorder.lines().join(QStringLiteral("; "));
   m_error = tr("%1 is no usable workspace: %2").arg(path, reasons);
   return false;
@@ -55,6 +58,7 @@ bool NetworkLoader::resolve(const QString &path) {
 
 void NetworkLoader::takeWorkspace(const NetworkLoader &other) {
   m_workspace = other.m_workspace;
+  FileAccess::confineTo(m_workspace.root());
   m_seconds.clear();
   m_cancelled = false;
 }
@@ -81,7 +85,9 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   const NivraReader::Result result = reader.readTopoAndScen(m_workspace, readerOptions);
   m_seconds.append({QStringLiteral("read"), static_cast<double>(timer.restart()) * Milli});
   if (!result.configuration.isEmpty())
-    m_workspace.takeConfiguration(result.configuration, m_gasParams);
+    m_workspace.takeConfiguration(result.configuration, m_gasParams, result.configurationFile);
+  m_gases = reader.gases();
+  m_gasFile = reader.gasFile();
   report(result.findings);
   notice(tr("Reading"), result.findings);
   m_cancelled = result.cancelled;
@@ -115,6 +121,10 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
 void NetworkLoader::notice(const QString &stage, Findings findings) {
   if (!findings.empty())
     m_noticed.push_back({stage, std::move(findings)});
+}
+
+ScenarioSummary NetworkLoader::scenarioSummary() const {
+  return ScenarioSummary::of(m_workspace, m_gasParams, m_gases, m_gasFile);
 }
 
 void NetworkLoader::readMachines() {

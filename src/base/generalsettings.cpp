@@ -3,8 +3,7 @@
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 
-#include <QDir>
-#include <QFile>
+#include <QBuffer>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -90,21 +89,25 @@ QString GeneralSettings::settingsFile(const QString &workspaceDir) {
 }
 
 int GeneralSettings::load(const QString &workspaceDir) {
-  return loadFile(settingsFile(workspaceDir));
+  return loadFile(settingsFile(workspaceDir),
+                  workspaceDir.isEmpty() ? FileAccess::Source::Trusted : FileAccess::Source::Workspace);
 }
 
-int GeneralSettings::loadFile(const QString &path) {
+int GeneralSettings::loadFile(const QString &path, FileAccess::Source source) {
   reset();
   NivraMsg::log(QStringLiteral("Trying to (re)load general settings file ") + path + QStringLiteral(" ..."));
   if (!QFileInfo::exists(path)) {
     NivraMsg::log(QStringLiteral("General settings file ") + path + QStringLiteral(" not found!"));
     return 0;
   }
-  QFile file(path);
-  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-    NivraMsg::logWarning(QStringLiteral("Cannot open General settings file ") + path);
+  QString reason;
+  std::optional<QByteArray> content = FileAccess::readWhole(path, source, FileAccess::LargestConfiguration, &reason);
+  if (!content) {
+    NivraMsg::logWarning(QStringLiteral("Cannot open General settings file ") + reason);
     return 0;
   }
+  QBuffer file(&*content);
+  file.open(QIODevice::ReadOnly | QIODevice::Text);
   int taken = 0;
   bool continued = false; // the line before was cut at LongestLine
   for (int number = 1; !file.atEnd();) {

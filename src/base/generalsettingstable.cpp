@@ -5,9 +5,6 @@ namespace {
 // key, value, type, category, options. Pure data: one row a setting.
 const GeneralSettingsTable::Row Rows[] = {
     {"start with last scenario", "off", "list", "general", "on,off"},
-    {"check net and add missing properties", "off", "list", "general", "after reading,off"},
-    {"ignore subnets while checking net", "on", "list", "general", "on,off"},
-    {"properties to be ignored while checking net", "^sm|^sp", "string", "general", ""},
     {"auto-save PE and CHAR widget list", "on", "list", "general", "on,off"},
     {"use comma", "1", "bool", "general", ""},
     {"zoom to element", "0", "bool", "zooming", ""},
@@ -37,7 +34,6 @@ const GeneralSettingsTable::Row Rows[] = {
     {"subnet selection pen color", "red", "string", "selection", ""},
     {"subnet selection pen alpha", "127", "string", "selection", ""},
     {"subnet selection size factor", "0.8", "string", "selection", ""},
-    {"subnet update routine", "build version", "list", "subnets", "old version,new version,build version"},
     {"show subnet ring colors", "BV status", "list", "subnets", "BV status,SP/SM control,search results,off"},
     {"perform subnet label placement ratio", "0.05", "string", "subnets", ""},
     {"subnet background z", "1000.0", "string", "subnets", ""},
@@ -68,6 +64,12 @@ const GeneralSettingsTable::Row Rows[] = {
     {"status bar style sheet successful", "background: lightGreen", "string", "status bar", ""},
     {"ask for include lists", "0", "bool", "general", ""},
     {"pick on Release", "0", "bool", "mouse and keys", ""},
+    // Kept for the tools that prepare networks on the same workspaces: the viewer's own check adds no properties, knows no
+    // subnets and asks for no property by its name; subnets are always updated in one way.
+    {"subnet update routine", "build version", "list", "subnets", "old version,new version,build version"},
+    {"check net and add missing properties", "off", "list", "general", "after reading,off"},
+    {"ignore subnets while checking net", "on", "list", "general", "on,off"},
+    {"properties to be ignored while checking net", "^sm|^sp", "string", "general", ""},
     // What the solving tools and reports on the same workspaces use; the viewer keeps it.
     {"overwrite atan_fact", "", "string", "special", ""},
     {"QP: enforce POWSET bounds at supplies", "off", "list", "special", "on,on if needed,guess,off"},

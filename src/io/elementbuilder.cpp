@@ -87,6 +87,11 @@ std::vector<Property> &ElementBuilder::properties(JsonLineParser::Element &parse
                  QStringLiteral("Property %1 of element %2 is left out: %3")
                      .arg(QString::fromStdString(dropped.key), decoded(parsed.name), QString::fromUtf8(dropped.reason)),
                  QString(), decoded(parsed.name));
+  for (const JsonLineParser::Doubt &doubt : parsed.doubtful)
+    m_report.add("doubtful value", line,
+                 QStringLiteral("Property %1 of element %2 %3")
+                     .arg(QString::fromStdString(doubt.key), decoded(parsed.name), QString::fromUtf8(doubt.reason)),
+                 QString(), decoded(parsed.name));
   return m_properties;
 }
 

@@ -1,23 +1,19 @@
 #include "jsonfile.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <base/fileaccess.h>
+
 #include <QJsonDocument>
 
 std::optional<QJsonObject> readJsonObject(const QString &path, QString *reason) {
-  constexpr qint64 LargestConfiguration = 64LL << 20;
-  QFile file(path);
   const auto failed = [&](const QString &why) {
     *reason = path + QStringLiteral(": ") + why;
     return std::nullopt;
   };
-  if (QFileInfo(path).isDir())
-    return failed(QStringLiteral("is a directory"));
-  if (!file.open(QIODevice::ReadOnly))
-    return failed(file.errorString());
-  if (file.size() > LargestConfiguration)
-    return failed(QStringLiteral("is too large for a configuration"));
-  QByteArray text = file.readAll();
+  std::optional<QByteArray> content =
+      FileAccess::readWhole(path, FileAccess::Source::Workspace, FileAccess::LargestConfiguration, reason);
+  if (!content)
+    return std::nullopt;
+  QByteArray &text = *content;
   if (text.startsWith("\xEF\xBB\xBF"))
     text.remove(0, 3);
   QJsonParseError error;

@@ -151,6 +151,7 @@ const char *JsonLineParser::parse(const JsonLineReader::Line &line, std::vector<
 error_code JsonLineParser::readElement(simdjson::ondemand::object object, Element &element) {
   element.values.clear();
   element.dropped.clear();
+  element.doubtful.clear();
   for (auto member : object) {
     Value read;
     const char *dropped = nullptr;
@@ -178,7 +179,10 @@ error_code JsonLineParser::readValue(simdjson::ondemand::value value, Value &rea
     return error;
   switch (type) {
   case simdjson::ondemand::json_type::number: {
-    const NumberText taken = numberText(trimmed(value.raw_json_token()), read.text);
+    const std::string_view token = trimmed(value.raw_json_token());
+    const NumberText taken = numberText(token, read.text);
+    if (m_numbers == Numbers::AsWritten && taken == NumberText::Taken)
+      read.text = PropertyText(token);
     if (taken == NumberText::OutOfRange)
       dropped = "the number is out of range";
     read.isNumber = true;

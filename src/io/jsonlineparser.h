@@ -22,11 +22,13 @@ public:
     std::string key;
     const char *reason;
   };
+  using Doubt = Dropped;
   /// A member whose value is an object: a name with properties.
   struct Element {
     std::string_view name;
     std::vector<Value> values;
     std::vector<Dropped> dropped; ///< values that are neither number, text nor truth value
+    std::vector<Doubt> doubtful;  ///< values that are kept but may not be what was meant
   };
   /// One entry of a member whose value is a list: an object with property, value and unit.
   struct SetPoint {
@@ -34,12 +36,19 @@ public:
     PropertyText value;
     std::string unit;
     bool isNumber = false;
-    bool isComplete = false; ///< has property and value
+    bool isComplete = false;     ///< has property and value
+    const char *doubt = nullptr; ///< why the value may not be what was meant
   };
   struct SetPoints {
     std::string name;
     std::vector<SetPoint> points;
   };
+
+  /// How the texts of numbers are given: as properties hold them (numberText()), or letter by letter.
+  enum class Numbers { AsHeld, AsWritten };
+
+  explicit JsonLineParser(Numbers numbers = Numbers::AsHeld)
+      : m_numbers(numbers) {}
 
   /// Null on success, the reason otherwise. Reuses the vector's elements. A separating comma before the line becomes a
   /// brace.
@@ -60,6 +69,7 @@ private:
   simdjson::ondemand::document m_document;
   simdjson::dom::parser m_strict; ///< for the rare lines with parts that the walk skips
   std::string_view m_text;
+  Numbers m_numbers;
   bool m_skipped = false;
 };
 

@@ -1,6 +1,9 @@
 #include "linereader.h"
 
-#include <QFileInfo>
+#include <base/fileaccess.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
 
 #include <algorithm>
 #include <cstring>
@@ -22,28 +25,32 @@ LineReader::LineReader(const QString &path)
     , m_file(path) {}
 
 bool LineReader::open(QString *reason) {
-  if (QFileInfo(m_path).isDir()) {
-    *reason = m_path + QStringLiteral(": is a directory");
+  if (!FileAccess::openForReading(m_file, FileAccess::Source::Workspace, FileAccess::AnySize, reason))
     return false;
-  }
-  if (!m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-    *reason = m_path + QStringLiteral(": ") + m_file.errorString();
-    return false;
-  }
   m_size = m_file.size();
   m_buffer.resize(1 + BlockSize + Padding);
-  fill();
+  if (!fill() && !m_fault.isEmpty()) { // nothing was read: not the same as an empty file
+    *reason = m_fault;
+    return false;
+  }
   if (m_end - m_begin >= 3 && std::memcmp(m_buffer.data() + m_begin, "\xEF\xBB\xBF", 3) == 0)
     m_begin += 3;
   return true;
+}
+
+double LineReader::readingSeconds() const {
+  constexpr double Nano = 1e-9;
+  return static_cast<double>(m_nanoseconds) * Nano;
 }
 
 double LineReader::fraction() const {
   return m_read < m_size ? static_cast<double>(m_read) / static_cast<double>(m_size) : 1.0;
 }
 
-/// Moves what is left to the front and reads behind it; false when the file has no more.
+/// Moves what is left to the front and reads behind it; false when the file has no more, or cannot be read any further.
 bool LineReader::fill() {
+  if (m_isAtEnd)
+    return false;
   const std::size_t left = m_end - m_begin;
   std::memmove(m_buffer.data() + 1, m_buffer.data() + m_begin, left);
   m_begin = 1;
@@ -51,9 +58,19 @@ bool LineReader::fill() {
   const std::size_t room = m_buffer.size() - Padding - m_end;
   if (room == 0)
     m_buffer.resize(2 * m_buffer.size());
+  QElapsedTimer timer;
+  timer.start();
   const qint64 got = m_file.read(m_buffer.data() + m_end, static_cast<qint64>(m_buffer.size() - Padding - m_end));
-  if (got <= 0)
+  m_nanoseconds += timer.nsecsElapsed();
+  if (got <= 0) {
+    m_isAtEnd = true;
+    if (m_file.error() != QFile::NoError)
+      m_fault = m_path + QStringLiteral(": ") + m_file.errorString();
+    else if (m_read < m_size)
+      m_fault =
+          m_path + QStringLiteral(": ") + QCoreApplication::translate("LineReader", "became shorter while it was read");
     return false;
+  }
   m_end += static_cast<std::size_t>(got);
   m_read += got;
   return true;
@@ -65,7 +82,7 @@ bool LineReader::nextRaw(Line &line) {
   for (;;) {
     const char *from = m_buffer.data() + m_begin + searched;
     const auto *newline = static_cast<const char *>(std::memchr(from, '\n', m_end - m_begin - searched));
-    if (newline != nullptr || (m_end > m_begin && m_file.atEnd())) {
+    if (newline != nullptr || (m_end > m_begin && m_isAtEnd && m_fault.isEmpty())) {
       const std::size_t end = newline != nullptr ? static_cast<std::size_t>(newline - m_buffer.data()) : m_end;
       line.number = ++m_number;
       line.text = m_buffer.data() + m_begin;
@@ -73,6 +90,8 @@ bool LineReader::nextRaw(Line &line) {
       m_begin = newline != nullptr ? end + 1 : end;
       return true;
     }
+    if (m_isAtEnd && !m_fault.isEmpty())
+      return false;
     searched = m_end - m_begin;
     if (searched > LongestLine) {
       line.tooLong = true; // what comes before the line's end is dropped as it is read

@@ -6,7 +6,8 @@
 #include <cstddef>
 #include <vector>
 
-/// Hands out the lines of a file, block by block, so that a file of any size takes a few megabytes.
+/// Hands out the lines of a file of the workspace, block by block, so that a file of any size takes a few megabytes. A file
+/// that cannot be read to its end counts with the lines before; ask readFault() after the last one.
 class LineReader {
 public:
   /// A longer line is skipped and told as such: no element is that large.
@@ -28,17 +29,23 @@ public:
   /// As nextRaw(), without blanks around it; lines of nothing else are left out.
   bool nextTrimmed(Line &line);
   double fraction() const; ///< of the file, 0 to 1
+  /// Why the file could not be read to its end, with its path; empty when it could.
+  const QString &readFault() const { return m_fault; }
+  double readingSeconds() const; ///< spent in reading from the file so far
   const QString &path() const { return m_path; }
 
 private:
   bool fill();
 
   QString m_path;
+  QString m_fault;
   QFile m_file;
   std::vector<char> m_buffer; ///< one spare byte in front, padding behind
   std::size_t m_begin = 1;    ///< of what is not yet handed out
   std::size_t m_end = 1;
   qint64 m_size = 0; ///< when it was opened: the system is not asked for every line
   qint64 m_read = 0;
+  qint64 m_nanoseconds = 0;
+  bool m_isAtEnd = false; ///< the file has no more than is in the buffer
   int m_number = 0;
 };

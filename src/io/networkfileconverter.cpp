@@ -70,7 +70,8 @@ private:
       for (std::size_t i = 0; i < count; ++i)
         take(elements[i], line.number);
     }
-    return true;
+    *reason = reader.readFault(); // half of a file is none
+    return reason->isEmpty();
   }
 
   bool feedText(QString *reason) {
@@ -86,7 +87,8 @@ private:
       else
         take(row, reader.line());
     }
-    return true;
+    *reason = reader.readFault(); // half of a file is none
+    return reason->isEmpty();
   }
 
   void take(std::string_view name, const JsonLineParser::SetPoint &point, int line) {

@@ -6,6 +6,7 @@
 #include <QHash>
 
 #include <cmath>
+#include <functional>
 
 namespace {
 
@@ -66,48 +67,95 @@ void readTexts(const QJsonValue &value, QMap<QString, QString> &texts) {
 } // namespace
 
 bool NivraGasParams::readFromFile(const QString &directory) {
+  const QString path = directory + QStringLiteral("/solverconfig.jsn");
   QString reason;
-  const std::optional<QJsonObject> object = readJsonObject(directory + QStringLiteral("/solverconfig.jsn"), &reason);
+  const std::optional<QJsonObject> object = readJsonObject(path, &reason);
   if (!object) {
     NivraMsg::debug(QStringLiteral("NivraGasParams::readFromFile: cannot open file ") + reason);
     return false;
   }
-  fromJson(*object);
+  fromJson(*object, path);
   return true;
 }
 
-void NivraGasParams::fromJson(const QJsonObject &object) {
-  for (const auto &[key, field] : Integers) {
-    const double number = object.value(QLatin1String(key)).toDouble(this->*field);
-    if (number == std::floor(number) && std::abs(number) < 1e9)
-      this->*field = static_cast<int>(number);
-  }
+void NivraGasParams::fromJson(const QJsonObject &object, const QString &file) {
+  const auto take = [&](const char *key, auto isRight, auto assign) {
+    const QJsonValue value = object.value(QLatin1String(key));
+    if (!isRight(value))
+      return;
+    assign(value);
+    origin.insert(QLatin1String(key), file);
+  };
+  const auto isInteger = [](const QJsonValue &value) {
+    const double number = value.toDouble();
+    return value.isDouble() && number == std::floor(number) && std::abs(number) < 1e9;
+  };
+  for (const auto &[key, field] : Integers)
+    take(key, isInteger, [this, field = field](const QJsonValue &value) { this->*field = value.toInt(); });
   for (const auto &[key, field] : Reals)
-    this->*field = object.value(QLatin1String(key)).toDouble(this->*field);
+    take(key, std::mem_fn(&QJsonValue::isDouble),
+         [this, field = field](const QJsonValue &value) { this->*field = value.toDouble(); });
   for (const auto &[key, field] : Switches)
-    this->*field = object.value(QLatin1String(key)).toBool(this->*field);
-  solveType = object.value(QLatin1String("solveType")).toString(solveType);
+    take(key, std::mem_fn(&QJsonValue::isBool),
+         [this, field = field](const QJsonValue &value) { this->*field = value.toBool(); });
+  take("solveType", std::mem_fn(&QJsonValue::isString), [this](const QJsonValue &value) { solveType = value.toString(); });
   readTexts(object.value(QLatin1String("source")), source);
   readTexts(object.value(QLatin1String("comment")), comment);
 }
 
-bool NivraGasParams::setFromText(const QString &key, const QString &text) {
+bool NivraGasParams::setFromText(const QString &key, const QString &text, const QString &file) {
   static const QHash<QString, QString> prefixed{{QStringLiteral("NIVRA_ntype_HTC"), QStringLiteral("ntype_HTC")},
                                                 {QStringLiteral("NIVRA_HTC_value"), QStringLiteral("HTC_value")}};
   const QString name = prefixed.value(key, key);
   for (const auto &[integerKey, field] : Integers) {
     if (name == QLatin1String(integerKey)) {
       this->*field = text.toInt();
+      origin.insert(name, file);
       return true;
     }
   }
   for (const auto &[realKey, field] : Reals) {
     if (name == QLatin1String(realKey)) {
       this->*field = text.toDouble();
+      origin.insert(name, file);
       return true;
     }
   }
   return false;
+}
+
+QVector<NivraGasParams::Entry> NivraGasParams::entries() const {
+  constexpr int Digits = 16;
+  const auto word = [](const QStringList &words, int number) {
+    return words.value(number);
+  };
+  const auto real = [](double number) {
+    return QString::number(number, 'g', Digits);
+  };
+  QVector<Entry> list;
+  for (const auto &[key, field] : Integers)
+    list.append({QLatin1String(key), QString::number(this->*field), word(names(QLatin1String(key)), this->*field)});
+  for (const auto &[key, field] : Reals)
+    list.append({QLatin1String(key), real(this->*field), QString()});
+  for (const auto &[key, field] : Switches)
+    list.append({QLatin1String(key), this->*field ? QStringLiteral("true") : QStringLiteral("false"), QString()});
+  list.append({QStringLiteral("solveType"), solveType, QString()});
+  const auto further = [&list](int position, const QString &value, const QString &meaning = QString()) {
+    list.append({QStringLiteral("field%1").arg(position), value, meaning, true});
+  };
+  const Positional &p = positional;
+  further(16, p.field16);
+  further(17, QString::number(p.field17));
+  further(18, QString::number(p.field18));
+  further(19, QString::number(p.field19));
+  further(20, real(p.field20));
+  further(21, QString::number(p.field21), word({QStringLiteral("off"), QStringLiteral("on")}, p.field21));
+  further(23, QString::number(p.field23), word({QStringLiteral("qust"), QStringLiteral("isoeuler")}, p.field23));
+  further(24, real(p.field24));
+  further(25, QString::number(p.field25));
+  further(26, QString::number(p.field26));
+  further(27, QString::number(p.field27));
+  return list;
 }
 
 QStringList NivraGasParams::names(const QString &key) {

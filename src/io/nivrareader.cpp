@@ -10,12 +10,8 @@
 
 namespace {
 
-constexpr double Milli = 1e-3;
+constexpr double Nano = 1e-9;
 constexpr int LinesBetweenProgress = 1000;
-
-QString seconds(const QElapsedTimer &timer) {
-  return QString::number(static_cast<double>(timer.elapsed()) * Milli);
-}
 
 QString decoded(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
@@ -25,10 +21,7 @@ bool isJsonPath(const QString &path) {
   return path.endsWith(QStringLiteral(".jsn")) || path.endsWith(QStringLiteral(".json"));
 }
 
-/// ".jsn" is the suffix; the longer ".json" is taken where only that is there. The text form has none.
-QString networkPath(const QString &textPath, bool isJson) {
-  if (!isJson)
-    return textPath;
+QString jsonPath(const QString &textPath) {
   const QString path = textPath + QStringLiteral(".jsn");
   const QString longer = textPath + QStringLiteral(".json");
   return !QFileInfo::exists(path) && QFileInfo::exists(longer) ? longer : path;
@@ -41,8 +34,6 @@ NivraReader::Result failure(const QString &text) {
 }
 
 void append(NivraReader::Result &result, NivraReader::Result &&part) {
-  if (!part.configuration.isEmpty())
-    result.configuration = part.configuration;
   result.cancelled = result.cancelled || part.cancelled;
   result.properties += part.properties;
   append(result.findings, std::move(part.findings));
@@ -67,11 +58,13 @@ private:
   int m_lines = 0;
 };
 
+using Numbers = JsonLineParser::Numbers;
+
 /// The same for the rows of the text form.
 template <typename Take>
-NivraReader::Result readRows(const QString &path, const NivraReader::Options &options, ReadReport &report,
+NivraReader::Result readRows(const QString &path, Numbers numbers, const NivraReader::Options &options, ReadReport &report,
                              const Take &take) {
-  TextTableReader reader(path);
+  TextTableReader reader(path, numbers);
   QString reason;
   if (!reader.open(&reason))
     return failure(reason);
@@ -89,22 +82,25 @@ NivraReader::Result readRows(const QString &path, const NivraReader::Options &op
       break;
     }
   }
+  report.readFault(reader.readFault());
+  report.notUtf8(reader.notUtf8Line());
+  result.readingSeconds = reader.readingSeconds();
   return result;
 }
 
 /// Runs over the lines of a file whose members are objects and hands each element to take(element, line, fraction).
 template <typename Take>
-NivraReader::Result readObjects(const QString &path, const NivraReader::Options &options, ReadReport &report,
-                                const Take &take) {
+NivraReader::Result readObjects(const QString &path, Numbers numbers, const NivraReader::Options &options,
+                                ReadReport &report, const Take &take) {
   if (!isJsonPath(path))
-    return readRows(path, options, report, take);
+    return readRows(path, numbers, options, report, take);
   JsonLineReader reader(path);
   QString reason;
   if (!reader.open(&reason))
     return failure(reason);
   NivraReader::Result result;
   result.ok = true;
-  JsonLineParser parser;
+  JsonLineParser parser(numbers);
   JsonLineReader::Line line;
   std::vector<JsonLineParser::Element> parsed;
   std::size_t count = 0;
@@ -122,6 +118,8 @@ NivraReader::Result readObjects(const QString &path, const NivraReader::Options 
       break;
     }
   }
+  report.readFault(reader.readFault());
+  result.readingSeconds = reader.readingSeconds();
   return result;
 }
 
@@ -140,9 +138,18 @@ void makeRoom(NetData &net, double fraction) {
 
 } // namespace
 
+/// ".jsn" is the suffix; the longer ".json" is taken where only that is there, or where it was chosen. The text form has
+/// none.
+QString NivraReader::networkPath(const QString &textPath) const {
+  if (!m_isJson)
+    return textPath;
+  return m_chosen.startsWith(textPath + QStringLiteral(".js")) ? m_chosen : jsonPath(textPath);
+}
+
 NivraReader::Result NivraReader::readTopoAndScen(const NivraWorkspace &workspace, const Options &options) {
   const NivraScenario scenario = workspace.hasScenario() ? *workspace.currentScenario() : NivraScenario();
   m_isJson = workspace.isJson();
+  m_chosen = workspace.chosenPath();
   return readNetwork(workspace.geometryPath(), workspace.scenarioPath(), scenario, options);
 }
 
@@ -155,13 +162,14 @@ NivraReader::Result NivraReader::readTopoAndScenText(const QString &geometryPath
 NivraReader::Result NivraReader::readTopoAndScenJsn(const QString &geometryPath, const QString &scenarioPath,
                                                     const NivraScenario &scenario, const Options &options) {
   m_isJson = true;
-  NivraMsg::debug(QStringLiteral("starting  readTopoAndScenJsn with ") + geometryPath + QLatin1Char(' ') + scenarioPath);
   return readNetwork(geometryPath, scenarioPath, scenario, options);
 }
 
 NivraReader::Result NivraReader::readNetwork(const QString &geometryPath, const QString &scenarioPath,
                                              const NivraScenario &scenario, const Options &options) {
-  Result result = readGeomJsn(networkPath(geometryPath, m_isJson), options);
+  if (m_isJson)
+    NivraMsg::log(QStringLiteral("starting  readTopoAndScenJsn with ") + geometryPath + QLatin1Char(' ') + scenarioPath);
+  Result result = readGeomJsn(networkPath(geometryPath), options);
   if (!result.ok) {
     for (Finding &finding : result.findings)
       finding.text = finding.box = QStringLiteral("readTopoAndScen: cannot read ") + finding.text;
@@ -169,13 +177,17 @@ NivraReader::Result NivraReader::readNetwork(const QString &geometryPath, const 
   }
   if (result.cancelled || scenarioPath.isEmpty())
     return result;
-  append(result, readScenario(scenarioPath, scenario, options));
+  Result part = readScenario(scenarioPath, scenario, options);
+  result.configuration = part.configuration;
+  result.configurationFile = part.configurationFile;
+  append(result, std::move(part));
   return result;
 }
 
 NivraReader::Result NivraReader::readSubResults(const NivraWorkspace &workspace, const Options &options) {
   const QString base = workspace.scenarioPath().section(QLatin1Char('.'), 0, -2);
-  const QString path = networkPath(base + QStringLiteral(".res.sub"), workspace.isJson());
+  m_isJson = workspace.isJson();
+  const QString path = networkPath(base + QStringLiteral(".res.sub"));
   if (workspace.hasScenario() && QFileInfo::exists(path))
     return readResultsJsn(path, options);
   Result none;
@@ -192,20 +204,23 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
   ElementBuilder builder(options.includeTypes, options.includeProperties, report);
   qint64 properties = 0;
   element built;
-  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line, double fraction) {
+  const auto take = [&](JsonLineParser::Element &parsed, int line, double fraction) {
     if (!builder.buildElement(parsed, line, built))
       return;
     if (m_net.nodes().size() + m_net.edges().size() == Sample)
       makeRoom(m_net, fraction);
     properties += static_cast<qint64>(built.size());
     m_net.addElement(std::move(built));
-  });
+  };
+  Result result = readObjects(path, Numbers::AsHeld, options, report, take);
   if (result.ok && !result.cancelled && m_net.isEmpty())
     report.add("empty", 0, QStringLiteral("The file holds no element"));
   result.properties = properties;
   append(result.findings, report.take());
-  NivraMsg::debug(QStringLiteral("### To read elements of geom.jsn file took %1s").arg(seconds(timer)));
-  NivraMsg::log(QStringLiteral("### To read elements of geom buffer took %1s").arg(seconds(timer)));
+  const QString file = isJsonPath(path) ? QStringLiteral("geom.jsn") : QStringLiteral("geom");
+  NivraMsg::debug(QStringLiteral("### To read elements of %1 file took %2s").arg(file).arg(result.readingSeconds));
+  NivraMsg::log(QStringLiteral("### To read elements of geom buffer took %1s")
+                    .arg(static_cast<double>(timer.nsecsElapsed()) * Nano - result.readingSeconds));
   return result;
 }
 
@@ -213,18 +228,19 @@ NivraReader::Result NivraReader::readValues(const QString &path, const Options &
   ReadReport report(path);
   ElementBuilder builder(QString(), options.includeProperties, report);
   qint64 properties = 0;
-  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line, double) {
-    element *target = m_net.element(decoded(parsed.name));
-    if (target == nullptr) {
-      report.add("unknown name", line,
-                 QStringLiteral("name not found, is no valid node or element: ") + decoded(parsed.name));
-      return;
-    }
-    for (Property &property : builder.properties(parsed, line)) {
-      target->set(property.key, std::move(property.value));
-      ++properties;
-    }
-  });
+  Result result =
+      readObjects(path, Numbers::AsWritten, options, report, [&](JsonLineParser::Element &parsed, int line, double) {
+        element *target = m_net.element(parsed.name);
+        if (target == nullptr) {
+          report.add("unknown name", line,
+                     QStringLiteral("name not found, is no valid node or element: ") + decoded(parsed.name));
+          return;
+        }
+        for (Property &property : builder.properties(parsed, line)) {
+          set(*target, property.key, std::move(property.value));
+          ++properties;
+        }
+      });
   result.properties = properties;
   append(result.findings, report.take());
   return result;
@@ -242,26 +258,31 @@ NivraReader::Result NivraReader::readGasJsn(const QString &path) {
   ReadReport report(path);
   ElementBuilder builder(QString(), QString(), report);
   GasTable gases;
-  Result result = readObjects(path, Options(), report, [&](JsonLineParser::Element &parsed, int line, double) {
-    gases[decoded(parsed.name)] = element::fromProperties(builder.properties(parsed, line));
-  });
+  Result result =
+      readObjects(path, Numbers::AsWritten, Options(), report, [&](JsonLineParser::Element &parsed, int line, double) {
+        gases[decoded(parsed.name)] = element::fromProperties(builder.properties(parsed, line));
+      });
   result.ok = result.ok && !gases.empty();
-  if (result.ok)
+  if (result.ok) {
     m_gases = std::move(gases);
+    m_gasFile = path;
+  }
   append(result.findings, report.take());
   return result;
 }
 
 NivraReader::Result NivraReader::readScenarioJsn(const QString &scenarioPath, const NivraScenario &scenario,
                                                  const Options &options) {
-  NivraMsg::debug(QStringLiteral("starting readScenarioJsn with ") + scenarioPath);
   m_isJson = true;
   return readScenario(scenarioPath, scenario, options);
 }
 
 NivraReader::Result NivraReader::readScenario(const QString &scenarioPath, const NivraScenario &scenario,
                                               const Options &options) {
-  Result result = readScenariofileJsn(networkPath(scenarioPath, m_isJson), options);
+  if (m_isJson)
+    NivraMsg::log(QStringLiteral("starting readScenarioJsn with ") + scenarioPath);
+  m_waiting.clear();
+  Result result = readSetPoints(networkPath(scenarioPath), options);
   if (!result.ok) {
     for (Finding &finding : result.findings) {
       finding.severity = Finding::Severity::Warning;
@@ -274,27 +295,44 @@ NivraReader::Result NivraReader::readScenario(const QString &scenarioPath, const
     readGas(base, scenario, result);
   if (!result.cancelled)
     readCompanions(base, options, result);
+  convertWaiting(result.findings); // now that all is read that may tell of gases
   return result;
 }
 
 void NivraReader::readGas(const QString &base, const NivraScenario &scenario, Result &result) {
-  const QString folder = QFileInfo(base).path();
-  const QString path =
-      scenario.gasFile.isEmpty() ? base + QStringLiteral(".gas") : folder + QLatin1Char('/') + scenario.gasFile;
-  Result gas = readGasJsn(isJsonPath(path) ? path : networkPath(path, m_isJson));
-  if (!gas.ok) {
-    NivraMsg::logWarning(QStringLiteral("readScen: cannot find or read a gas file"));
-    for (Finding &finding : gas.findings) {
+  QString path = scenario.gasFile.isEmpty() ? base + QStringLiteral(".gas")
+                                            : QFileInfo(base).path() + QLatin1Char('/') + scenario.gasFile;
+  const auto asWarnings = [](Findings findings) {
+    for (Finding &finding : findings) {
       finding.severity = Finding::Severity::Warning;
       finding.box.clear();
     }
+    return findings;
+  };
+  const QString first = isJsonPath(path) ? path : networkPath(path);
+  Result gas = readGasJsn(first);
+  if (!gas.ok && isJsonPath(first)) {
+    if (isJsonPath(path))
+      path = path.section(QLatin1Char('.'), 0, -2);
+    Result text = readGasJsn(path);
+    if (text.ok) {
+      NivraMsg::logWarning(
+          QStringLiteral("readScen: cannot find or read JSON gas file, but could read via readGas-function"));
+      if (QFileInfo::exists(first))
+        append(result.findings, asWarnings(std::move(gas.findings)));
+      gas = std::move(text);
+    }
+  }
+  if (!gas.ok) {
+    NivraMsg::logWarning(QStringLiteral("readScen: cannot find or read a gas file"));
+    gas.findings = asWarnings(std::move(gas.findings));
   }
   append(result, std::move(gas));
 }
 
 void NivraReader::readCompanions(const QString &base, const Options &options, Result &result) {
   static const Companion fixes{".fix", "Fixes for scenario are loaded!", "Could not read .fix.jsn file",
-                               "There is no scenario fixes file", &NivraReader::readScenariofileJsn};
+                               "There is no scenario fixes file", &NivraReader::readSetPoints};
   static const Companion results{".res", "Results for scenario are loaded!", "Could not read .res.jsn file",
                                  "There is no scenario .res.jsn file", &NivraReader::readResultsJsn};
   static const Companion percentages{
@@ -310,7 +348,7 @@ void NivraReader::readCompanions(const QString &base, const Options &options, Re
 void NivraReader::readCompanion(const Companion &companion, const QString &base, const Options &options, Result &result) {
   if (result.cancelled)
     return;
-  const QString path = networkPath(base + QLatin1String(companion.suffix), m_isJson);
+  const QString path = networkPath(base + QLatin1String(companion.suffix));
   const auto text = [this](const char *json) {
     QString said = QString::fromLatin1(json);
     return m_isJson ? said : said.remove(QStringLiteral(".jsn"));
@@ -334,11 +372,12 @@ void NivraReader::readCompanion(const Companion &companion, const QString &base,
 }
 
 void NivraReader::readConfiguration(const QString &base, Result &result) {
-  const QString path = networkPath(base + QStringLiteral(".scen.cfg"), true);
+  const QString path = jsonPath(base + QStringLiteral(".scen.cfg"));
   if (!m_isJson || result.cancelled || !QFileInfo::exists(path)) // the text form was read with the configuration
     return;
   QString reason;
   const std::optional<QJsonObject> object = readJsonObject(path, &reason);
+  result.configurationFile = path;
   if (object)
     result.configuration = *object;
   else

@@ -32,13 +32,15 @@ bool NivraScenario::isAbsent() const {
   return workDir.isEmpty() || workDir == QLatin1String("EMPTY") || workDir == QLatin1String(".");
 }
 
-void NivraScenario::fromJson(const QJsonObject &object) {
+void NivraScenario::fromJson(const QJsonObject &object, const QString &file) {
   for (const auto &[key, field] : Texts) {
     const auto member = object.constFind(QLatin1String(key));
-    if (member == object.constEnd())
+    if (member == object.constEnd()) {
       logMissing(key);
-    else
-      this->*field = member->toString(this->*field);
+    } else if (member->isString()) {
+      this->*field = member->toString();
+      origin.insert(QLatin1String(key), file);
+    }
   }
   const auto general = object.constFind(QLatin1String("GeneralProps"));
   if (general == object.constEnd()) {
@@ -46,8 +48,18 @@ void NivraScenario::fromJson(const QJsonObject &object) {
     return;
   }
   const QJsonObject properties = general->toObject();
-  for (auto property = properties.begin(); property != properties.end(); ++property)
+  for (auto property = properties.begin(); property != properties.end(); ++property) {
     generalProps.insert(property.key(), property.value().toVariant().toString());
+    origin.insert(QStringLiteral("GeneralProps/") + property.key(), file);
+  }
+}
+
+QVector<QPair<QString, QString>> NivraScenario::entries() const {
+  QVector<QPair<QString, QString>> list;
+  for (const auto &[key, field] : Texts)
+    list.append({QLatin1String(key), this->*field});
+  list.append({QStringLiteral("furtherFile"), furtherFile});
+  return list;
 }
 
 QJsonObject NivraScenario::toJson() const {

@@ -1,20 +1,18 @@
 #include "jsonfile.h"
 #include "scenariofields.h"
 
+#include <base/fileaccess.h>
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <io/nivraworkspace.h>
 
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QRegularExpression>
 
 namespace {
-
-constexpr qint64 LongestLine = 1 << 22; // of a configuration file
 
 bool mismatchesAreShown() {
   return GeneralSettings::instance()
@@ -26,19 +24,49 @@ Finding mismatch(Finding::Severity severity, const QString &file, const QString 
   return {severity, file, 0, text, mismatchesAreShown() ? text : QString()};
 }
 
-/// Opens a text file, or adds why not.
-bool openText(QFile &file, const QString &missing, Findings &findings) {
-  if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly | QIODevice::Text))
-    return true;
-  findings.push_back(mismatch(Finding::Severity::Warning, QString(), missing.arg(file.fileName())));
-  return false;
-}
+/// The lines of a text configuration.
+class TextConfiguration {
+public:
+  explicit TextConfiguration(const QString &path)
+      : m_path(path) {}
 
-QString nextLine(QFile &file) {
-  QString line = QString::fromUtf8(file.readLine(LongestLine));
-  if (line.startsWith(QChar(QChar::ByteOrderMark)))
-    line.remove(0, 1);
-  return line.trimmed();
+  /// Reads the file, or adds why it could not.
+  bool open(const QString &missing, Findings &findings) {
+    QString reason;
+    const std::optional<QByteArray> content =
+        FileAccess::readWhole(m_path, FileAccess::Source::Workspace, FileAccess::LargestConfiguration, &reason);
+    if (!content) {
+      QString text = missing.arg(m_path);
+      if (QFileInfo::exists(m_path))
+        text += QStringLiteral(" (%1)").arg(reason);
+      findings.push_back(mismatch(Finding::Severity::Warning, QString(), text));
+      return false;
+    }
+    m_lines = QString::fromUtf8(*content).split(QLatin1Char('\n'));
+    if (m_lines.first().startsWith(QChar(QChar::ByteOrderMark)))
+      m_lines.first().remove(0, 1);
+    if (m_lines.last().isEmpty())
+      m_lines.removeLast();
+    return true;
+  }
+
+  bool atEnd() const { return m_next >= m_lines.size(); }
+  QString nextLine() { return atEnd() ? QString() : m_lines[m_next++].trimmed(); }
+  const QString &path() const { return m_path; }
+
+private:
+  QString m_path;
+  QStringList m_lines;
+  int m_next = 0;
+};
+
+/// The name of a file without its kind (".geom" or ".scen") and the suffix of the JSON form. It ends at the first dot, as
+/// the other files of the case are named; a file that is not named so counts with its whole name.
+QString baseNameOf(const QFileInfo &file, const QString &kind, const QString &jsonSuffix) {
+  const QString shortest = file.fileName().section(QLatin1Char('.'), 0, 0);
+  if (QFileInfo::exists(file.path() + QLatin1Char('/') + shortest + kind + jsonSuffix))
+    return shortest;
+  return file.fileName().chopped(kind.size() + jsonSuffix.size());
 }
 
 QString upwards(const QString &directory) {
@@ -81,14 +109,16 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   opened.name = QFileInfo(caseDirectory).fileName();
   workspace.m_cases.append(opened);
   workspace.findCaseFiles();
-  if (!isScenario && workspace.m_cases.last().geometryFile.isEmpty())
-    workspace.m_cases.last().geometryFile = file.baseName() + QStringLiteral(".geom");
+  workspace.m_chosen = file.absoluteFilePath();
+  const QString base = baseNameOf(file, QLatin1Char('.') + match.captured(1), match.captured(2));
   if (isScenario) {
     workspace.addScenario(QFileInfo(directory).fileName());
     NivraScenario &scenario = workspace.m_cases.last().scenarios.last();
-    scenario.baseName = file.baseName();
-    scenario.scenFile = file.baseName() + QStringLiteral(".scen");
-    scenario.configFile = file.baseName() + QStringLiteral(".scen.cfg");
+    scenario.baseName = base;
+    scenario.scenFile = base + QStringLiteral(".scen");
+    scenario.configFile = base + QStringLiteral(".scen.cfg");
+  } else {
+    workspace.takeChosenGeometry(base);
   }
   return workspace;
 }
@@ -98,16 +128,27 @@ void NivraWorkspace::findCaseFiles() {
   for (QDirIterator files(caseDirectory(), QDir::Files); files.hasNext();) {
     files.next();
     const QString name = files.fileName();
+    static const QRegularExpression geometry(QStringLiteral("\\.geom(\\.jso?n)?$"));
+    const QRegularExpressionMatch match = geometry.match(name);
+    const bool isLongForm = match.captured(1) == QLatin1String(".json");
     if (name.endsWith(QStringLiteral(".cfg"))) {
       current.configFile = name;
-    } else if (name.endsWith(QStringLiteral(".geom")) || name.endsWith(QStringLiteral(".geom.jsn")) ||
-               (current.geometryFile.isEmpty() && name.endsWith(QStringLiteral(".geom.json")))) {
-      current.baseName = name.section(QLatin1Char('.'), 0, 0);
+    } else if (match.hasMatch() && (!isLongForm || current.geometryFile.isEmpty())) {
+      current.baseName = baseNameOf(files.fileInfo(), QStringLiteral(".geom"), match.captured(1));
       current.geometryFile = current.baseName + QStringLiteral(".geom");
     }
   }
   if (current.configFile.isEmpty())
     current.configFile = current.geometryFile + QStringLiteral(".cfg");
+}
+
+/// A folder lists its files in no order: the chosen one, and the configuration of its name, count as the last.
+void NivraWorkspace::takeChosenGeometry(const QString &base) {
+  Case &current = m_cases.last();
+  const QString foundConfiguration = current.configFile;
+  current.setFilesFromBaseName(base);
+  if (!QFileInfo::exists(filePath(current.configFile)) && QFileInfo::exists(filePath(foundConfiguration)))
+    current.configFile = foundConfiguration;
 }
 
 const NivraScenario *NivraWorkspace::currentScenario() const {
@@ -150,29 +191,30 @@ void NivraWorkspace::addScenario(const QString &directoryName) {
 
 int NivraWorkspace::readCaseConfiguration(Findings &findings) {
   Case &current = m_cases.last();
-  QFile file(filePath(current.configFile));
-  if (!openText(file, QStringLiteral("Case config file does not exist: %1"), findings)) {
+  TextConfiguration file(filePath(current.configFile));
+  if (!file.open(QStringLiteral("Case config file does not exist: %1"), findings)) {
     current.workDir = current.name;
     NivraMsg::debug(QStringLiteral("Case workDir is now = ") + current.name);
     return -1;
   }
-  nextLine(file);
-  current.workDir = nextLine(file);
-  const QString geometryFile = nextLine(file);
+  current.isConfigured = true;
+  file.nextLine();
+  current.workDir = file.nextLine();
+  const QString geometryFile = file.nextLine();
   if (!geometryFile.isEmpty() && geometryFile != current.geometryFile)
     NivraMsg::debug(
         QStringLiteral("Case config names the geometry file %1; %2 is read").arg(geometryFile, current.geometryFile));
-  current.flag = nextLine(file) == QLatin1String("1");
-  const QString properties = nextLine(file);
+  current.flag = file.nextLine() == QLatin1String("1");
+  const QString properties = file.nextLine();
   if (!properties.isEmpty()) {
     QJsonParseError error;
     current.properties = QJsonDocument::fromJson(properties.toUtf8(), &error).object();
     if (error.error != QJsonParseError::NoError)
-      findings.push_back({Finding::Severity::Warning, file.fileName(), 5,
+      findings.push_back({Finding::Severity::Warning, file.path(), 5,
                           QStringLiteral("Case properties are no JSON object: ") + error.errorString(), QString()});
   }
   if (current.workDir != current.name) {
-    findings.push_back(mismatch(Finding::Severity::Warning, file.fileName(),
+    findings.push_back(mismatch(Finding::Severity::Warning, file.path(),
                                 QStringLiteral("Directory of geometry\n%1\nand config value for it\n%2\ndid not "
                                                "match!\nCorrected! Perform a save yourself!")
                                     .arg(current.name, current.workDir)));
@@ -196,28 +238,32 @@ void NivraWorkspace::readScenarioConfiguration(NivraGasParams &gas, Findings &fi
   scenario.scenFile = opened.scenFile;
   scenario.baseName = opened.baseName;
   scenario.configFile = opened.configFile;
+  scenario.origin.insert(QStringLiteral("scenFile"), m_chosen);
   if (skipWorkDirCheck)
     scenario.workDir = actualName;
   else
     checkScenarioDirectory(actualName, findings);
 }
 
-void NivraWorkspace::takeConfiguration(const QJsonObject &object, NivraGasParams &gas) {
+void NivraWorkspace::takeConfiguration(const QJsonObject &object, NivraGasParams &gas, const QString &file) {
   if (currentScenario() == nullptr)
     return;
   NivraScenario &scenario = m_cases.last().scenarios.last();
   const NivraScenario before = scenario;
-  gas.fromJson(object);
-  scenario.fromJson(object);
+  gas.fromJson(object, file);
+  scenario.fromJson(object, file);
+  for (const char *key : {"workDir", "scenFile"})
+    scenario.origin.insert(QLatin1String(key), before.origin.value(QLatin1String(key)));
   scenario.workDir = before.workDir;
   scenario.scenFile = before.scenFile;
 }
 
 void NivraWorkspace::readUnifiedConfiguration(const QString &directory) {
   QString reason;
-  const std::optional<QJsonObject> object = readJsonObject(directory + QStringLiteral("/scenconfig.jsn"), &reason);
+  const QString path = directory + QStringLiteral("/scenconfig.jsn");
+  const std::optional<QJsonObject> object = readJsonObject(path, &reason);
   if (object)
-    m_cases.last().scenarios.last().fromJson(*object);
+    m_cases.last().scenarios.last().fromJson(*object, path);
   else
     NivraMsg::logWarning(QStringLiteral("readUnifiedScenConfig: cannot open file ") + reason);
 }
@@ -225,21 +271,21 @@ void NivraWorkspace::readUnifiedConfiguration(const QString &directory) {
 void NivraWorkspace::readTextConfiguration(const QString &path, NivraGasParams &gas, Findings &findings) {
   NivraScenario &scenario = m_cases.last().scenarios.last();
   NivraMsg::debug(QStringLiteral("Reading scenario config file: ") + path);
-  QFile file(path);
-  if (!openText(file, QStringLiteral("Scenario config file does not exist: %1"), findings)) {
+  TextConfiguration file(path);
+  if (!file.open(QStringLiteral("Scenario config file does not exist: %1"), findings)) {
     NivraMsg::debug(QStringLiteral("Scenario workDir is now = ") + scenario.workDir);
     return;
   }
-  const QString first = nextLine(file);
+  const QString first = file.nextLine();
   QStringList fields;
   if (first.contains(QStringLiteral("NivraVersion_used"))) {
     fields = first.split(QLatin1Char(' '), Qt::SkipEmptyParts);
   } else {
     fields.append(first);
     while (!file.atEnd() && fields.size() < ScenarioFields::Count)
-      fields.append(nextLine(file));
+      fields.append(file.nextLine());
   }
-  ScenarioFields::apply(fields, scenario, gas);
+  ScenarioFields::apply(fields, path, scenario, gas);
 }
 
 void NivraWorkspace::checkScenarioDirectory(const QString &actualName, Findings &findings) {

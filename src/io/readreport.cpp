@@ -36,6 +36,18 @@ void ReadReport::badLine(const LineReader::Line &line, const char *reason) {
     m_findings.back().isForInformation = true;
 }
 
+void ReadReport::readFault(const QString &reason) {
+  if (reason.isEmpty())
+    return;
+  const QString text = QStringLiteral("The file could not be read to its end, what follows is missing: ") + reason;
+  m_findings.push_back({Finding::Severity::Critical, QString(), 0, text, text});
+}
+
+void ReadReport::notUtf8(int line) {
+  if (line > 0)
+    add("encoding", line, QStringLiteral("The file is not written in UTF-8; it is read as Windows-1252 (Latin-1)"));
+}
+
 Findings ReadReport::take() {
   for (auto kind = m_counts.begin(); kind != m_counts.end(); ++kind) {
     if (kind.value() > KeptOfAKind)

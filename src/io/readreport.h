@@ -19,6 +19,10 @@ public:
   void badLine(const LineReader::Line &line, const char *reason);
   /// Likewise for the text form.
   void badRow(int line, const QString &quote, const QString &reason);
+  /// The file could not be read to its end; with a box, since what is shown is not the whole.
+  void readFault(const QString &reason);
+  /// A text file is not in UTF-8. \param line the first such; nothing is told for 0
+  void notUtf8(int line);
   Findings take();
   int count(const char *kind) const { return m_counts.value(QLatin1String(kind)); }
 

@@ -41,44 +41,51 @@ Setter positional(T NivraGasParams::Positional::*field) {
   };
 }
 
-const QVector<Setter> &setters() {
+/// One position: the key of the value, as in the JSON forms, and where it goes.
+struct Field {
+  const char *key;
+  bool isOfScenario;
+  Setter set;
+};
+
+const QVector<Field> &fieldsInOrder() {
   using S = NivraScenario;
   using G = NivraGasParams;
   using X = NivraGasParams::Positional;
-  static const QVector<Setter> list{text(&S::workDir),
-                                    text(&S::scenFile),
-                                    text(&S::gasFile),
-                                    text(&S::furtherFile),
-                                    gas(&G::ntype_gasLaw),
-                                    gas(&G::ntype_hydraulicsFormula),
-                                    gas(&G::ntype_gasMix),
-                                    gas(&G::ntype_temperature),
-                                    gas(&G::ntype_transient),
-                                    gas(&G::ntype_steady),
-                                    gas(&G::timeIntegration_start),
-                                    gas(&G::timeIntegration_end),
-                                    gas(&G::timeIntegration_scal),
-                                    gas(&G::ntype_nonlinsolver),
-                                    gas(&G::ntype_jacobian),
-                                    gas(&G::ntype_linsolver),
-                                    positional(&X::field16),
-                                    positional(&X::field17),
-                                    positional(&X::field18),
-                                    positional(&X::field19),
-                                    positional(&X::field20),
-                                    positional(&X::field21),
-                                    gas(&G::tsoil),
-                                    positional(&X::field23),
-                                    positional(&X::field24),
-                                    positional(&X::field25),
-                                    positional(&X::field26),
-                                    positional(&X::field27),
-                                    text(&S::pyFile),
-                                    text(&S::logFile),
-                                    text(&S::resRoot),
-                                    text(&S::comprDatabase),
-                                    text(&S::statusFile),
-                                    gas(&G::tamb)};
+  static const QVector<Field> list{{"workDir", true, text(&S::workDir)},
+                                   {"scenFile", true, text(&S::scenFile)},
+                                   {"gasFile", true, text(&S::gasFile)},
+                                   {"furtherFile", true, text(&S::furtherFile)},
+                                   {"ntype_gasLaw", false, gas(&G::ntype_gasLaw)},
+                                   {"ntype_hydraulicsFormula", false, gas(&G::ntype_hydraulicsFormula)},
+                                   {"ntype_gasMix", false, gas(&G::ntype_gasMix)},
+                                   {"ntype_temperature", false, gas(&G::ntype_temperature)},
+                                   {"ntype_transient", false, gas(&G::ntype_transient)},
+                                   {"ntype_steady", false, gas(&G::ntype_steady)},
+                                   {"timeIntegration_start", false, gas(&G::timeIntegration_start)},
+                                   {"timeIntegration_end", false, gas(&G::timeIntegration_end)},
+                                   {"timeIntegration_scal", false, gas(&G::timeIntegration_scal)},
+                                   {"ntype_nonlinsolver", false, gas(&G::ntype_nonlinsolver)},
+                                   {"ntype_jacobian", false, gas(&G::ntype_jacobian)},
+                                   {"ntype_linsolver", false, gas(&G::ntype_linsolver)},
+                                   {"field16", false, positional(&X::field16)},
+                                   {"field17", false, positional(&X::field17)},
+                                   {"field18", false, positional(&X::field18)},
+                                   {"field19", false, positional(&X::field19)},
+                                   {"field20", false, positional(&X::field20)},
+                                   {"field21", false, positional(&X::field21)},
+                                   {"tsoil", false, gas(&G::tsoil)},
+                                   {"field23", false, positional(&X::field23)},
+                                   {"field24", false, positional(&X::field24)},
+                                   {"field25", false, positional(&X::field25)},
+                                   {"field26", false, positional(&X::field26)},
+                                   {"field27", false, positional(&X::field27)},
+                                   {"pyFile", true, text(&S::pyFile)},
+                                   {"logFile", true, text(&S::logFile)},
+                                   {"resRoot", true, text(&S::resRoot)},
+                                   {"comprDatabase", true, text(&S::comprDatabase)},
+                                   {"statusFile", true, text(&S::statusFile)},
+                                   {"tamb", false, gas(&G::tamb)}};
   return list;
 }
 
@@ -89,12 +96,15 @@ bool isOptional(int position) {
 
 } // namespace
 
-void ScenarioFields::apply(const QStringList &fields, NivraScenario &scenario, NivraGasParams &gasParams) {
+void ScenarioFields::apply(const QStringList &fields, const QString &file, NivraScenario &scenario,
+                           NivraGasParams &gasParams) {
   int position = 0;
-  for (; position < fields.size() && position < setters().size(); ++position) {
+  for (; position < fields.size() && position < fieldsInOrder().size(); ++position) {
     if (isOptional(position) && fields[position].contains(QLatin1Char('=')))
       break;
-    setters()[position](fields[position], scenario, gasParams);
+    const Field &field = fieldsInOrder()[position];
+    field.set(fields[position], scenario, gasParams);
+    (field.isOfScenario ? scenario.origin : gasParams.origin).insert(QLatin1String(field.key), file);
   }
   for (; position < fields.size(); ++position) {
     const int equals = fields[position].indexOf(QLatin1Char('='));
@@ -102,9 +112,12 @@ void ScenarioFields::apply(const QStringList &fields, NivraScenario &scenario, N
       return;
     const QString key = fields[position].left(equals);
     const QString value = fields[position].mid(equals + 1);
-    if (key == QLatin1String("NivraVersion_used"))
+    if (key == QLatin1String("NivraVersion_used")) {
       scenario.version = value;
-    else if (!gasParams.setFromText(key, value))
+      scenario.origin.insert(key, file);
+    } else if (!gasParams.setFromText(key, value, file)) {
       scenario.generalProps.insert(key, value);
+      scenario.origin.insert(QStringLiteral("GeneralProps/") + key, file);
+    }
   }
 }

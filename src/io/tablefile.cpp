@@ -31,6 +31,8 @@ TableFile::Contents TableFile::read(const QString &path) {
     }
     contents.rows.push_back(std::move(row));
   }
+  report.readFault(reader.readFault());
+  report.notUtf8(reader.notUtf8Line());
   contents.findings = report.take();
   return contents;
 }

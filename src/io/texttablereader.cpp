@@ -2,24 +2,22 @@
 
 #include "readreport.h"
 
+#include <QTextCodec>
+
 #include <algorithm>
-#include <cstring>
 
 namespace {
-
-constexpr std::string_view TypeMember = "obj_type";
-
-bool isBlank(char c) {
-  return c == ' ' || c == '\r' || c == '\t';
-}
-
-const char *find(const char *from, const char *end, char wanted) {
-  return from < end ? static_cast<const char *>(std::memchr(from, wanted, static_cast<std::size_t>(end - from))) : nullptr;
-}
 
 bool isName(std::string_view text) {
   constexpr std::string_view Name = "name";
   return std::equal(text.begin(), text.end(), Name.begin(), Name.end(), [](char a, char b) { return (a | 0x20) == b; });
+}
+
+/// What is not UTF-8 mostly comes from a spreadsheet of a Western machine.
+std::string fromWindows1252(const std::string &text) {
+  const auto size = static_cast<int>(text.size());
+  const QTextCodec *codec = QTextCodec::codecForName("windows-1252");
+  return (codec != nullptr ? codec->toUnicode(text.data(), size) : QString::fromLatin1(text.data(), size)).toStdString();
 }
 
 } // namespace
@@ -38,72 +36,28 @@ bool TextTableReader::nextLine() {
   m_number = line.number;
   m_isTooLong = line.tooLong;
   m_line.assign(line.text, line.size);
+  if (!simdjson::validate_utf8(m_line)) {
+    m_line = fromWindows1252(m_line);
+    if (m_notUtf8Line == 0)
+      m_notUtf8Line = m_number;
+  }
   return true;
 }
 
-QString TextTableReader::quote() const {
+QString TextTableReader::quoted(const std::string &text) {
   LineReader::Line line;
-  line.text = const_cast<char *>(m_line.data()); // which is only read
-  line.size = m_line.size();
+  line.text = const_cast<char *>(text.data()); // which is only read
+  line.size = text.size();
   return ReadReport::quoted(line);
+}
+
+QString TextTableReader::quote() const {
+  return quoted(m_line);
 }
 
 TextTableReader::Found TextTableReader::fail(const QString &reason) {
   m_fault = reason;
   return Found::Fault;
-}
-
-bool TextTableReader::split() {
-  m_cells.clear();
-  m_room.clear();
-  m_room.reserve(m_line.size()); // views into it must stay
-  const char *at = m_line.data();
-  const char *const end = at + m_line.size();
-  while (true) {
-    while (at < end && isBlank(*at) && *at != m_separator)
-      ++at;
-    Cell cell;
-    if (at < end && *at == '"') {
-      cell.isQuoted = true;
-      const char *begin = ++at;
-      const std::size_t roomBefore = m_room.size();
-      bool isCopied = false;
-      while (true) {
-        const char *quote = find(at, end, '"');
-        if (quote == nullptr)
-          return false;
-        if (quote + 1 == end || quote[1] != '"') {
-          if (isCopied)
-            m_room.append(begin, quote);
-          cell.text = isCopied ? std::string_view(m_room).substr(roomBefore)
-                               : std::string_view(begin, static_cast<std::size_t>(quote - begin));
-          at = quote + 1;
-          break;
-        }
-        m_room.append(begin, quote + 1); // one of the two
-        isCopied = true;
-        begin = at = quote + 2;
-      }
-      while (at < end && isBlank(*at) && *at != m_separator)
-        ++at;
-    } else {
-      const char *next = find(at, end, m_separator);
-      const char *last = next == nullptr ? end : next;
-      const char *begin = at;
-      at = last;
-      while (last > begin && isBlank(last[-1]))
-        --last;
-      cell.text = std::string_view(begin, static_cast<std::size_t>(last - begin));
-    }
-    m_cells.push_back(cell);
-    if (at >= end)
-      return true;
-    if (*at != m_separator) { // something stands behind a closing quote
-      m_cells.clear();
-      return true;
-    }
-    ++at;
-  }
 }
 
 /// Takes the following lines to one whose quote stays open, as spreadsheets write texts with line breaks. When no line
@@ -119,7 +73,7 @@ bool TextTableReader::continueLine() {
       break;
     taken.emplace_back(m_number, m_line);
     m_line = whole + '\n' + m_line;
-    if (split()) {
+    if (m_parser.split(m_line, m_table->separator)) {
       m_number = number;
       return true;
     }
@@ -131,41 +85,34 @@ bool TextTableReader::continueLine() {
 }
 
 bool TextTableReader::takeHeader() {
-  std::vector<std::string> columns;
-  for (const Cell &cell : m_cells)
-    columns.emplace_back(cell.text);
-  while (!columns.empty() && columns.back().empty())
-    columns.pop_back(); // spreadsheets fill up with separators
-  if (std::find(columns.begin(), columns.end(), std::string()) != columns.end())
+  TextRowParser::Table table;
+  table.type = m_table->type;
+  table.separator = m_table->separator;
+  for (const TextRowParser::Cell &cell : m_parser.cells())
+    table.columns.emplace_back(cell.text);
+  while (!table.columns.empty() && table.columns.back().empty())
+    table.columns.pop_back(); // spreadsheets fill up with separators
+  if (std::find(table.columns.begin(), table.columns.end(), std::string()) != table.columns.end())
     return false;
-  m_columns = std::move(columns);
+  m_table = std::make_shared<TextRowParser::Table>(std::move(table));
   return true;
 }
 
-bool TextTableReader::takeRow(JsonLineParser::Element &row) {
-  row.values.clear();
-  row.dropped.clear();
-  row.name = m_cells.front().text;
-  if (!m_type.empty())
-    row.values.push_back({TypeMember, PropertyText(std::string_view(m_type)), false});
-  for (std::size_t i = 1; i < m_cells.size(); ++i) {
-    const Cell &cell = m_cells[i];
-    if (!cell.isQuoted && cell.text.empty())
-      continue;
-    if (i >= m_columns.size())
-      return false;
-    JsonLineParser::Value value;
-    value.key = m_columns[i];
-    if (cell.isQuoted || numberText(cell.text, value.text) != NumberText::Taken)
-      value.text = PropertyText(cell.text);
-    else
-      value.isNumber = true;
-    row.values.push_back(std::move(value));
-  }
-  return true;
+bool TextTableReader::isOnlySeparators() const {
+  return std::all_of(m_line.begin(), m_line.end(),
+                     [this](char c) { return c == m_table->separator || c == ' ' || c == '\t' || c == '\r'; });
 }
 
 TextTableReader::Found TextTableReader::next(JsonLineParser::Element &row) {
+  const Found found = nextRow(m_row);
+  const QString fault = found == Found::Row ? m_parser.parse(m_row, row) : QString();
+  if (fault.isEmpty())
+    return found;
+  m_line.swap(m_row.text);
+  return fail(fault);
+}
+
+TextTableReader::Found TextTableReader::nextRow(TextRowParser::Row &row) {
   while (nextLine()) {
     if (m_isTooLong)
       return fail(QStringLiteral("the line is longer than 64 MB"));
@@ -176,37 +123,38 @@ TextTableReader::Found TextTableReader::next(JsonLineParser::Element &row) {
       const std::size_t end = m_line.find(']', begin);
       if (end == std::string::npos || m_line.find_first_not_of(" \t\r;", end + 1) != std::string::npos)
         return fail(QStringLiteral("a type stands alone in its line, in square brackets"));
-      m_type = m_line.substr(begin + 1, end - begin - 1);
-      m_columns.clear();
+      m_table = std::make_shared<TextRowParser::Table>(
+          TextRowParser::Table{m_line.substr(begin + 1, end - begin - 1), {}, m_table->separator});
       continue;
     }
+    const std::shared_ptr<const TextRowParser::Table> before = m_table;
     const bool mayBeHeader = isName(std::string_view(m_line).substr(begin, 4));
-    const char separatorBefore = m_separator;
-    if (mayBeHeader && m_line.size() > begin + 4 && m_line[begin + 4] == '\t')
-      m_separator = '\t';
-    else if (mayBeHeader)
-      m_separator = ';';
-    if (!split() && !continueLine())
+    if (mayBeHeader) {
+      const bool hasTabs = m_line.size() > begin + 4 && m_line[begin + 4] == '\t';
+      m_table =
+          std::make_shared<TextRowParser::Table>(TextRowParser::Table{before->type, before->columns, hasTabs ? '\t' : ';'});
+    }
+    const bool hasQuotes = m_line.find('"') != std::string::npos;
+    if (hasQuotes && !m_parser.split(m_line, m_table->separator) && !continueLine()) {
+      m_table = before;
       return fail(QStringLiteral("a quote is not closed"));
-    if (m_cells.empty())
-      return fail(QStringLiteral("something stands behind a closing quote"));
-    if (mayBeHeader && !m_cells.front().isQuoted && isName(m_cells.front().text)) {
-      if (!takeHeader())
-        return fail(QStringLiteral("a column has no name"));
-      continue;
     }
-    if (m_separator != separatorBefore) { // a name that only begins so
-      m_separator = separatorBefore;
-      split();
+    if (mayBeHeader) {
+      m_parser.split(m_line, m_table->separator);
+      if (!m_parser.cells().empty() && !m_parser.cells().front().isQuoted && isName(m_parser.cells().front().text)) {
+        if (!takeHeader())
+          return fail(QStringLiteral("a column has no name"));
+        continue;
+      }
+      m_table = before; // a name that only begins so
     }
-    const bool isAllEmpty =
-        std::all_of(m_cells.begin(), m_cells.end(), [](const Cell &cell) { return cell.text.empty() && !cell.isQuoted; });
-    if (isAllEmpty)
+    if (isOnlySeparators())
       continue;
-    if (m_columns.empty())
+    if (m_table->columns.empty())
       return fail(QStringLiteral("no line with column names, which begins with \"name\", stands above it"));
-    if (!takeRow(row))
-      return fail(QStringLiteral("it has more than the %1 columns of its table").arg(m_columns.size()));
+    row.number = m_number;
+    row.table = m_table;
+    row.text.swap(m_line);
     return Found::Row;
   }
   return Found::End;
@@ -225,6 +173,10 @@ JsonLineParser::SetPoint TextTableReader::setPoint(const JsonLineParser::Element
       point.isNumber = value.isNumber;
       hasValue = true;
     }
+  }
+  for (const JsonLineParser::Doubt &doubt : row.doubtful) {
+    if (doubt.key == "value")
+      point.doubt = doubt.reason;
   }
   point.isComplete = hasValue && !point.property.empty();
   return point;

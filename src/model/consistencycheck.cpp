@@ -163,8 +163,13 @@ public:
     m_passed.assign(m_net.nodes().size(), false);
     m_result.edges = erase(m_net.edges(), "edge", [this](const elements::Entry &e) { return edgePasses(e.value); });
     m_result.nodes = erase(m_net.nodes(), "node", [this](const elements::Entry &e) { return nodePasses(e); });
-    m_result.nodes += erase(m_net.nodes(), "drive",
-                            [this](const elements::Entry &e) { return !isDrive(e.value) || drivePasses(e.value); });
+    const int drives = erase(m_net.nodes(), "drive",
+                             [this](const elements::Entry &e) { return !isDrive(e.value) || drivePasses(e.value); });
+    static_cast<void>(m_net.nodes().begin()); // places as they are now
+    m_passed.assign(m_net.nodes().size(), true);
+    if (drives > 0) // no edge may end at one of them
+      m_result.edges += erase(m_net.edges(), "edge", [this](const elements::Entry &e) { return edgePasses(e.value); });
+    m_result.nodes += drives;
     if (m_result.nodes > 0 || m_result.edges > 0)
       add(Finding::Severity::Critical, QString(),
           QStringLiteral("CRITICAL - %1 nodes and %2 edges had to be removed!").arg(m_result.nodes).arg(m_result.edges));
@@ -274,6 +279,8 @@ private:
     if (gasNodeName == nullptr || drivenName == nullptr)
       return driveFails(drive, QStringLiteral("Could not find properties GASNODE and/or DRIVEN. Drive is excluded!"));
     const element *gasNode = m_net.nodes().find(*gasNodeName);
+    if (gasNode != nullptr && gasNode->isEmpty()) // a drive that was excluded before this one
+      gasNode = nullptr;
     const element *driven = m_net.edges().find(*drivenName);
     if (driven == nullptr && gasNode == nullptr)
       return driveFails(drive, QStringLiteral("Neither GASNODE ") + gasNodeName->toString() +

@@ -1,12 +1,10 @@
 #include <model/elementexceptions.h>
 #include <model/elements.h>
 
-#include <QVector>
-
 #include <algorithm>
 #include <atomic>
 #include <boost/multi_index/hashed_index.hpp>
-#include <boost/multi_index/member.hpp>
+#include <boost/multi_index/identity.hpp>
 #include <boost/multi_index_container.hpp>
 #include <cstring>
 #include <memory_resource>
@@ -22,25 +20,52 @@ char lower(char c) noexcept {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }
 
-QString decoded(std::string_view utf8) {
-  return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+/// The next character of a text in UTF-8; what is none counts as the replacement character.
+uint nextCharacter(const char *&at, const char *end) noexcept {
+  const auto first = static_cast<unsigned char>(*at++);
+  if (first < 0x80)
+    return first;
+  const int further = first >= 0xf0 ? 3 : first >= 0xe0 ? 2 : 1;
+  uint character = first & (0x3fU >> static_cast<unsigned>(further));
+  for (int i = 0; i < further; ++i) {
+    if (at == end || (static_cast<unsigned char>(*at) & 0xc0U) != 0x80)
+      return QChar::ReplacementCharacter;
+    character = character << 6U | (static_cast<unsigned char>(*at++) & 0x3fU);
+  }
+  return character;
 }
 
-/// Two texts that QString::compare calls equal regardless of case fold to the same text. (Character by character: the full
-/// folding of a text would also equate sharp s with ss, which the comparison does not.)
-std::string folded(std::string_view utf8) {
-  std::string result;
-  if (isAscii(utf8)) {
-    result.resize(utf8.size());
-    std::transform(utf8.begin(), utf8.end(), result.begin(), lower);
-    return result;
+void put(std::string &text, uint character) {
+  const auto byte = [&text](uint bits) {
+    text += static_cast<char>(bits);
+  };
+  if (character < 0x80) {
+    byte(character);
+  } else if (character < 0x800) {
+    byte(0xc0U | character >> 6U);
+    byte(0x80U | (character & 0x3fU));
+  } else if (character < 0x10000) {
+    byte(0xe0U | character >> 12U);
+    byte(0x80U | (character >> 6U & 0x3fU));
+    byte(0x80U | (character & 0x3fU));
+  } else {
+    put(text, QChar::highSurrogate(character));
+    put(text, QChar::lowSurrogate(character));
   }
-  QString text;
-  for (const uint character : decoded(utf8).toUcs4()) {
-    const uint fold = QChar::toCaseFolded(character);
-    text += QString::fromUcs4(&fold, 1);
+}
+
+/// Two texts that QString::compare calls equal regardless of case fold to the same bytes, and bytes compare as it does: each
+/// UTF-16 unit is written by itself. (Character by character: the full folding of a text would also equate sharp s with ss,
+/// which the comparison does not.)
+void fold(std::string_view utf8, std::string &result) {
+  result.clear();
+  const char *const end = utf8.data() + utf8.size();
+  for (const char *at = utf8.data(); at < end;) {
+    if (static_cast<unsigned char>(*at) < 0x80)
+      result += lower(*at++);
+    else
+      put(result, QChar::toCaseFolded(nextCharacter(at, end)));
   }
-  return text.toStdString();
 }
 
 /// Eight bytes with their ASCII letters in lower case.
@@ -67,44 +92,69 @@ std::size_t hashOf(std::string_view text) noexcept {
   return hash;
 }
 
-struct IdHash {
-  std::size_t operator()(std::string_view utf8) const { return hashOf(isAscii(utf8) ? utf8 : folded(utf8)); }
-  std::size_t operator()(const PropertyText &id) const { return operator()(id.utf8()); }
-};
-
-struct IdEqual {
-  static bool same(std::string_view a, std::string_view b) {
-    if (a == b)
-      return true;
-    if (isAscii(a) && isAscii(b))
-      return a.size() == b.size() &&
-             std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return lower(x) == lower(y); });
-    return QString::compare(decoded(a), decoded(b), Qt::CaseInsensitive) == 0;
+/// A name that is looked for, folded once.
+class Wanted {
+public:
+  explicit Wanted(std::string_view utf8)
+      : m_text(utf8) {
+    if (!isAscii(utf8)) {
+      thread_local std::string room; // a lookup must not ask for memory
+      fold(utf8, room);
+      m_text = room;
+    }
+    m_hash = hashOf(m_text);
   }
-  bool operator()(const PropertyText &a, const PropertyText &b) const { return same(a.utf8(), b.utf8()); }
-  bool operator()(std::string_view a, const PropertyText &b) const { return same(a, b.utf8()); }
-  bool operator()(const PropertyText &a, std::string_view b) const { return same(a.utf8(), b); }
+  std::string_view text() const noexcept { return m_text; } ///< folded, but for the case of ASCII letters
+  std::size_t hash() const noexcept { return m_hash; }
+
+private:
+  std::string_view m_text;
+  std::size_t m_hash = 0;
 };
 
-bool idLess(std::string_view a, std::string_view b) {
-  if (isAscii(a) && isAscii(b))
-    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                        [](char x, char y) { return lower(x) < lower(y); });
-  return QString::compare(decoded(a), decoded(b), Qt::CaseInsensitive) < 0;
+/// An entry with its name folded: names in plain ASCII, of which most networks are made, are folded as they are compared.
+struct Stored : elements::Entry {
+  PropertyText folded; ///< empty for a name in ASCII
+
+  Stored(const PropertyText &name, element contents)
+      : Entry{name, std::move(contents)} {
+    if (isAscii(name.utf8()))
+      return;
+    std::string text;
+    fold(name.utf8(), text);
+    folded = PropertyText(std::string_view(text));
+  }
+  std::string_view text() const noexcept { return folded.isEmpty() ? id.utf8() : folded.utf8(); }
+};
+
+std::string_view textOf(const elements::Entry *entry) noexcept {
+  return static_cast<const Stored *>(entry)->text();
 }
 
-/// The beginning of an ASCII name as two integers that compare like the name: sorting a million names mostly stays in
-/// them. Names with other characters get no prefix and are compared in full.
+struct NameHash {
+  std::size_t operator()(const Stored &stored) const noexcept { return hashOf(stored.text()); }
+  std::size_t operator()(const Wanted &wanted) const noexcept { return wanted.hash(); }
+};
+
+struct NameEqual {
+  static bool same(std::string_view a, std::string_view b) noexcept {
+    return a == b || (a.size() == b.size() &&
+                      std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return lower(x) == lower(y); }));
+  }
+  bool operator()(const Stored &a, const Stored &b) const noexcept { return same(a.text(), b.text()); }
+  bool operator()(const Wanted &a, const Stored &b) const noexcept { return same(a.text(), b.text()); }
+  bool operator()(const Stored &a, const Wanted &b) const noexcept { return same(a.text(), b.text()); }
+};
+
+/// The beginning of a name as two integers that compare like the name: sorting a million names mostly stays in them.
 struct SortKey {
   std::uint64_t high = 0;
   std::uint64_t low = 0;
-  bool ascii = false;
   const elements::Entry *entry = nullptr;
 
   explicit SortKey(const elements::Entry *e)
-      : ascii(isAscii(e->id.utf8()))
-      , entry(e) {
-    const std::string_view text = e->id.utf8();
+      : entry(e) {
+    const std::string_view text = textOf(e);
     for (std::size_t i = 0; i < 8; ++i) {
       high = high << 8 | (i < text.size() ? static_cast<unsigned char>(lower(text[i])) : 0U);
       low = low << 8 | (i + 8 < text.size() ? static_cast<unsigned char>(lower(text[i + 8])) : 0U);
@@ -112,17 +162,20 @@ struct SortKey {
   }
 
   friend bool operator<(const SortKey &a, const SortKey &b) {
-    if (a.ascii && b.ascii && (a.high != b.high || a.low != b.low))
+    if (a.high != b.high || a.low != b.low)
       return a.high != b.high ? a.high < b.high : a.low < b.low;
-    return idLess(a.entry->id.utf8(), b.entry->id.utf8());
+    const std::string_view x = textOf(a.entry);
+    const std::string_view y = textOf(b.entry);
+    return std::lexicographical_compare(x.begin(), x.end(), y.begin(), y.end(), [](char c, char d) {
+      return static_cast<unsigned char>(lower(c)) < static_cast<unsigned char>(lower(d));
+    });
   }
 };
 
 namespace mi = boost::multi_index;
-using ById = mi::multi_index_container<
-    elements::Entry,
-    mi::indexed_by<mi::hashed_unique<mi::member<elements::Entry, PropertyText, &elements::Entry::id>, IdHash, IdEqual>>,
-    std::pmr::polymorphic_allocator<elements::Entry>>;
+using ByName =
+    mi::multi_index_container<Stored, mi::indexed_by<mi::hashed_unique<mi::identity<Stored>, NameHash, NameEqual>>,
+                              std::pmr::polymorphic_allocator<Stored>>;
 
 } // namespace
 
@@ -134,7 +187,7 @@ struct elements::Storage {
 
   // Entries lie close together, apart from their properties: a lookup among a million then misses the caches less often.
   std::pmr::unsynchronized_pool_resource pool;
-  ById entries{ById::ctor_args_list(), &pool};
+  ByName entries{ByName::ctor_args_list(), &pool};
   // In the order in which they came until somebody walks the collection, then in name order until it changes. Not all of
   // them after an erasure or a copy: then it is made anew. The mutex is for concurrent readers.
   std::vector<const Entry *> order;
@@ -154,7 +207,7 @@ elements::elements(QString name)
 
 elements::elements(const elements &other)
     : elements(other.m_name) {
-  for (const Entry &entry : other.m_storage->entries)
+  for (const Stored &entry : other.m_storage->entries)
     m_storage->entries.insert(entry);
 }
 
@@ -180,7 +233,7 @@ std::size_t elements::size() const noexcept {
 }
 
 const elements::Entry *elements::findEntry(std::string_view utf8) const {
-  const auto found = m_storage->entries.find(utf8, IdHash(), IdEqual());
+  const auto found = m_storage->entries.find(Wanted(utf8), NameHash(), NameEqual());
   return found == m_storage->entries.end() ? nullptr : &*found;
 }
 
@@ -202,7 +255,7 @@ element &elements::at(const QString &id) const {
 }
 
 element *elements::tryInsert(const PropertyText &id, element &&value) {
-  const auto [position, inserted] = m_storage->entries.insert(Entry{id, element()});
+  const auto [position, inserted] = m_storage->entries.emplace(id, element());
   if (!inserted)
     return nullptr;
   position->value = std::move(value);
@@ -220,8 +273,8 @@ element &elements::insert(const PropertyText &id, element value) {
 
 bool elements::erase(const QString &id) {
   const QByteArray utf8 = id.toUtf8();
-  const auto found = m_storage->entries.find(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())),
-                                             IdHash(), IdEqual());
+  const Wanted wanted(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+  const auto found = m_storage->entries.find(wanted, NameHash(), NameEqual());
   if (found == m_storage->entries.end())
     return false;
   m_storage->sorted = false;
@@ -254,7 +307,7 @@ std::size_t elements::eraseIf(const std::function<bool(const Entry &)> &predicat
   m_storage->order = std::move(kept);
   m_storage->number();
   for (const Entry *entry : erased)
-    m_storage->entries.erase(m_storage->entries.iterator_to(*entry));
+    m_storage->entries.erase(m_storage->entries.iterator_to(static_cast<const Stored &>(*entry)));
   return erased.size();
 }
 

@@ -73,17 +73,43 @@ private:
     return result;
   }
 
+  /// Gives the new group a number between those of its neighbours. Where there is none, the numbers around are spread
+  /// anew: over the smallest range, of doubling sizes, that is filled sparsely enough for its size. So names that come in
+  /// any order cost a few renumberings each. (Bender, Cole, Demaine, Farach-Colton, Zito: Two simplified algorithms for
+  /// maintaining order in a list, 2002.)
   void rank(Groups::iterator added) {
     const unsigned long long below = added == m_groups.begin() ? 0 : std::prev(added)->second.group->rank;
     const auto next = std::next(added);
     const unsigned long long above = next == m_groups.end() ? below + 2 * Spacing : next->second.group->rank;
-    if (above - below >= 2) {
+    if (above - below >= 2)
       added->second.group->rank = below + (above - below) / 2;
+    else
+      spread(added, below);
+  }
+
+  void spread(Groups::iterator added, unsigned long long at) {
+    constexpr double MostFilled = 1.4; // a range may be filled to one part in so many, to the power of its level
+    added->second.group->rank = at;
+    auto first = added;
+    auto last = added;
+    unsigned long long count = 1;
+    double capacity = 1.0;
+    for (unsigned level = 1; level < 63; ++level) {
+      const unsigned long long size = 1ULL << level;
+      const unsigned long long low = at & ~(size - 1);
+      capacity *= 2.0 / MostFilled;
+      for (; first != m_groups.begin() && std::prev(first)->second.group->rank >= low; --first)
+        ++count;
+      for (; std::next(last) != m_groups.end() && std::next(last)->second.group->rank <= low + (size - 1); ++last)
+        ++count;
+      const unsigned long long step = size / (count + 1);
+      if (static_cast<double>(count) > capacity || step < 2)
+        continue;
+      unsigned long long rank = low;
+      for (auto group = first; group != std::next(last); ++group)
+        group->second.group->rank = rank += step;
       return;
     }
-    unsigned long long rank = 0;
-    for (auto &entry : m_groups)
-      entry.second.group->rank = rank += Spacing;
   }
 
   mutable std::shared_mutex m_mutex;

@@ -1,3 +1,4 @@
+#include <model/elementstate.h>
 #include <model/topology.h>
 
 #include <cmath>
@@ -11,7 +12,6 @@ struct Keys {
   PropertyKey type = PropertyKey::intern("type");
   PropertyKey node1 = PropertyKey::intern("node1");
   PropertyKey node2 = PropertyKey::intern("node2");
-  PropertyKey state = PropertyKey::intern("state");
 };
 
 const Keys &keys() {
@@ -28,8 +28,7 @@ bool isBarrier(const element &edge) {
   const PropertyText *type = edge.find(keys().type);
   if (type != nullptr && (type->utf8() == "c" || type->utf8() == "r"))
     return true;
-  const QString state = edge.value(keys().state).toLower();
-  return state == QLatin1String("closed") || state == QLatin1String("off");
+  return ElementState::isOutOfUse(edge);
 }
 
 /// The edges at each node, with the direction of their flow.

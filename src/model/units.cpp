@@ -2,6 +2,7 @@
 
 #include <QHash>
 
+#include <charconv>
 #include <cmath>
 #include <memory>
 #include <mutex>
@@ -102,6 +103,22 @@ private:
   QHash<QString, std::shared_ptr<ut_unit>> m_units; // null for what is no unit, so that it is asked once
 };
 
+/// What a factor or offset of the tables means: a number of few digits, or one over a whole number. Their arithmetic leaves
+/// noise in the last digits, which would show: 5000 m3/h are 5, not 4.999999999999999 thousand.
+long double meant(double number) {
+  constexpr double Noise = 1e-14;
+  constexpr double LargestWhole = 1e15;
+  const double whole = std::round(1.0 / number);
+  if (std::abs(whole) >= 1.0 && std::abs(whole) < LargestWhole && std::abs(1.0 / number - whole) <= Noise * std::abs(whole))
+    return 1.0L / static_cast<long double>(whole);
+  constexpr int FewDigits = 13;
+  char text[64];
+  const auto written = std::to_chars(text, text + sizeof text, number, std::chars_format::scientific, FewDigits);
+  long double few = 0.0L;
+  std::from_chars(text, written.ptr, few);
+  return std::abs(static_cast<double>(few) - number) <= Noise * std::abs(number) ? few : static_cast<long double>(number);
+}
+
 std::optional<Units::Linear> plain(const ut_unit *from, const ut_unit *to) {
   const std::unique_ptr<cv_converter, UnitFree> converter(
       ut_get_converter(const_cast<ut_unit *>(from), const_cast<ut_unit *>(to)));
@@ -179,5 +196,5 @@ std::optional<double> Units::convert(double value, const QString &from, const QS
   const std::optional<Linear> line = conversion(from, to, gas);
   if (!line)
     return std::nullopt;
-  return (*line)(value);
+  return static_cast<double>(meant(line->factor) * static_cast<long double>(value) + meant(line->offset));
 }

@@ -1,8 +1,8 @@
+#include <model/elementstate.h>
 #include <model/propertycolumns.h>
 #include <view/netgeometry.h>
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <numeric>
 #include <tuple>
@@ -33,17 +33,6 @@ bool equals(std::string_view text, std::string_view lower) {
   return text.size() == lower.size() && std::equal(text.begin(), text.end(), lower.begin(), [](char a, char b) {
            return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
          });
-}
-
-bool saysOff(const PropertyText *text) {
-  if (text == nullptr || text->isEmpty())
-    return false;
-  constexpr std::array<std::string_view, 5> Words{"off", "closed", "false", "inactive", "no"};
-  for (const std::string_view word : Words) {
-    if (equals(text->utf8(), word))
-      return true;
-  }
-  return text->toDouble() == 0.0;
 }
 
 /// "kind" tells a station of supply or demand even when the scenario sets no flow; a held pressure is shown as such.
@@ -170,8 +159,8 @@ void NetGeometry::addEdges(const NetData &net, const Request &request, Values &v
     edge.node2 = position(read[EdgeNode2]);
     if (read[EdgeType] != nullptr && read[EdgeType]->utf8().size() == 1)
       edge.type = read[EdgeType]->utf8().front();
-    edge.isInactive = saysOff(read[EdgeState]) || saysOff(read[EdgeActive]);
-    edge.isBypass = read[EdgeState] != nullptr && equals(read[EdgeState]->utf8(), "bypass");
+    edge.isInactive = ElementState::isOutOfUse(read[EdgeState], read[EdgeActive]);
+    edge.isBypass = ElementState::saysBypass(read[EdgeState]);
     takeEdge(i, read, EdgeWanted, request, values);
   });
   for (const Edge &edge : m_edges)

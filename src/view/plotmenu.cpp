@@ -1,4 +1,5 @@
 #include <base/nivramsg.h>
+#include <model/elementstate.h>
 #include <model/elementtypes.h>
 #include <view/netviscontrol.h>
 #include <view/plotmenu.h>
@@ -58,11 +59,6 @@ QStringList elementsOf(const element &subnet) {
   for (const QString &name : subnet.value(QStringLiteral("elements")).split(QLatin1Char(';'), Qt::SkipEmptyParts))
     names.append(name.trimmed());
   return names;
-}
-
-bool isActive(const element &e) {
-  const QString state = e.value(QStringLiteral("state")).toLower();
-  return state != QLatin1String("off") && state != QLatin1String("closed") && state != QLatin1String("inactive");
 }
 
 } // namespace
@@ -194,7 +190,7 @@ void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name) const {
       if (e == nullptr || !types.match(e->value(QStringLiteral("type"))).hasMatch())
         continue;
       all.append(elementName);
-      if (isActive(*e))
+      if (!ElementState::isOutOfUse(*e))
         active.append(elementName);
     }
     const auto add = [&](const QString &text, const QStringList &names) {

@@ -1,4 +1,5 @@
 #include <base/generalsettings.h>
+#include <model/elementstate.h>
 #include <view/subnetlayer.h>
 
 #include <algorithm>
@@ -25,7 +26,7 @@ QColor controlColor(const element &subnet) {
   const auto says = [&state](const char *word) {
     return state.contains(QLatin1String(word));
   };
-  if (says("off") || says("closed"))
+  if (ElementState::saysOff(subnet.find(QStringLiteral("substate"))) || ElementState::isOutOfUse(subnet))
     return colorSetting("subnet color off");
   if (says("bypass"))
     return colorSetting("subnet color bypass");

@@ -1,8 +1,13 @@
+#include <base/fileaccess.h>
 #include <base/nivramsg.h>
 #include <io/nivrareader.h>
 #include <support/nivratest.h>
 
 #include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 class TestNivraReader : public QObject {
   Q_OBJECT
@@ -20,7 +25,18 @@ private slots:
   void includeLists();
   void scenarioValuesEndAsTheLinesSay();
   void scenarioUnitsAndUnknownNames();
+  void setPointsKeepTheirNumbers_data();
+  void setPointsKeepTheirNumbers();
+  void massFlowsNeedTheGas_data();
+  void massFlowsNeedTheGas();
   void companionFiles();
+  void gasInTheOtherForm();
+  void logLines_data();
+  void logLines();
+  void specialFilesAreRefused_data();
+  void specialFilesAreRefused();
+  void readErrorsEndAndAreTold_data();
+  void readErrorsEndAndAreTold();
   void cancelling();
   void textWorkspace();
 
@@ -236,6 +252,240 @@ void TestNivraReader::scenarioUnitsAndUnknownNames() {
   QCOMPARE(node.value(QStringLiteral("tset")), QStringLiteral("10"));
   QCOMPARE(result.findings.size(), std::size_t(4));
   QVERIFY(result.findings.back().text.startsWith(QStringLiteral("name not found, is no valid node or element: Z")));
+}
+
+// In either form: to the last bit, and letter by letter where there is nothing to convert.
+void TestNivraReader::setPointsKeepTheirNumbers_data() {
+  QTest::addColumn<QByteArray>("number");
+  QTest::addColumn<QByteArray>("unit");
+  QTest::addColumn<QString>("stored");
+  QTest::newRow("17 digits") << QByteArray("10396.223600000001") << QByteArray() << QStringLiteral("10396.223600000001");
+  QTest::newRow("zeros") << QByteArray("1.50") << QByteArray("1000 m3/h") << QStringLiteral("1.50");
+  QTest::newRow("exponent") << QByteArray("1e3") << QByteArray() << QStringLiteral("1e3");
+  QTest::newRow("thousands") << QByteArray("5000") << QByteArray("m3/h") << QStringLiteral("5");
+  QTest::newRow("odd thousands") << QByteArray("4350.7") << QByteArray("m3/h") << QStringLiteral("4.3507");
+  QTest::newRow("seventh") << QByteArray("0.14285714285714285") << QByteArray("m3/h")
+                           << QStringLiteral("0.00014285714285714284");
+  QTest::newRow("noise") << QByteArray("1e-9") << QByteArray("m3/h") << QStringLiteral("0");
+}
+
+void TestNivraReader::setPointsKeepTheirNumbers() {
+  QFETCH(QByteArray, number);
+  QFETCH(QByteArray, unit);
+  QFETCH(QString, stored);
+  for (const bool isJson : {true, false}) {
+    NetData net;
+    read(net, R"("A":{"obj_type":"node"})");
+    const QByteArray json = R"("A":[{"property":"qset","value":)" + number + R"(,"unit":")" + unit + "\"}]\n";
+    const QByteArray text = "name;property;value;unit\nA;qset;" + number + ";" + unit + "\n";
+    const QString file = write(isJson ? QStringLiteral("n.scen.jsn") : QStringLiteral("n.scen"), isJson ? json : text);
+    QVERIFY(NivraReader(net).readScenariofileJsn(file, {}).findings.empty());
+    QCOMPARE(net.element(QStringLiteral("A"))->value(QStringLiteral("qset")), stored);
+  }
+}
+
+void TestNivraReader::massFlowsNeedTheGas_data() {
+  QTest::addColumn<QByteArray>("node");
+  QTest::addColumn<QByteArray>("gases");
+  QTest::addColumn<QString>("qset"); // empty: it cannot be known
+  // 10 kg/s of a gas of 0.8 kg/m3 are 12.5 m3/s, 45 thousand m3/h.
+  QTest::newRow("the only gas") << QByteArray() << QByteArray(R"("G":{"obj_type":"gas","rhon":0.8})")
+                                << QStringLiteral("45");
+  QTest::newRow("the node's own density") << QByteArray(R"(,"rhon":0.4)")
+                                          << QByteArray(R"("G":{"obj_type":"gas","rhon":0.8})") << QStringLiteral("90");
+  QTest::newRow("the gas it names") << QByteArray(R"(,"gas":"h")")
+                                    << QByteArray("\"G\":{\"obj_type\":\"gas\",\"rhon\":0.8}\n,\"H\":{\"obj_type\":\"gas\","
+                                                  "\"rhon\":0.4}")
+                                    << QStringLiteral("90");
+  QTest::newRow("one of two") << QByteArray()
+                              << QByteArray(
+                                     "\"G\":{\"obj_type\":\"gas\",\"rhon\":0.8}\n,\"H\":{\"obj_type\":\"gas\",\"rhon\":0.4}")
+                              << QString();
+  QTest::newRow("no density") << QByteArray() << QByteArray(R"("G":{"obj_type":"gas","hs":40})") << QString();
+}
+
+void TestNivraReader::massFlowsNeedTheGas() {
+  QFETCH(QByteArray, node);
+  QFETCH(QByteArray, gases);
+  QFETCH(QString, qset);
+  NetData net;
+  read(net, R"("A":{"obj_type":"node")" + node + "}\n,\"B\":{\"obj_type\":\"node\"}\n");
+  write(QStringLiteral("m.gas.jsn"), gases);
+  const QString scenario =
+      write(QStringLiteral("m.scen.jsn"), "{\n\"B\":[{\"property\":\"qset\",\"value\":7,\"unit\":\"kg/s\"}]\n"
+                                          ",\"A\":[{\"property\":\"qset\",\"value\":10,\"unit\":\"kg/s\"}]\n"
+                                          ",\"B\":[{\"property\":\"qset\",\"value\":3}]\n}\n");
+  const auto result = NivraReader(net).readScenarioJsn(scenario.chopped(4), NivraScenario(), {});
+  QCOMPARE(net.element(QStringLiteral("A"))->value(QStringLiteral("qset")), qset);
+  QCOMPARE(net.element(QStringLiteral("B"))->value(QStringLiteral("qset")), QStringLiteral("3")); // the last counts
+  QCOMPARE(result.findings.empty(), !qset.isEmpty());
+  if (qset.isEmpty()) {
+    QCOMPARE(result.findings[0].line, 3);
+    QCOMPARE(result.findings[0].file, scenario);
+  }
+}
+
+void TestNivraReader::gasInTheOtherForm() {
+  NetData net;
+  write(QStringLiteral("t.scen.jsn"), "{\n}\n");
+  write(QStringLiteral("t.gas"), "[gas]\nname;rhon\nHydrogen;0.0899\n");
+  NivraReader reader(net);
+  const NivraMsg::Recorder recorder;
+  const auto result = reader.readScenarioJsn(m_folder.filePath(QStringLiteral("t.scen")), NivraScenario(), {});
+  QVERIFY(result.findings.empty());
+  QCOMPARE(reader.gases().size(), std::size_t(1));
+  QVERIFY(reader.gasFile().endsWith(QStringLiteral("t.gas")));
+  QVERIFY(recorder.lines().contains(
+      QStringLiteral("readScen: cannot find or read JSON gas file, but could read via readGas-function")));
+}
+
+void TestNivraReader::logLines_data() {
+  QTest::addColumn<QString>("suffix");
+  QTest::addColumn<QStringList>("expected");
+  QTest::newRow("JSON") << QStringLiteral(".jsn")
+                        << QStringList{
+                               QStringLiteral("^starting  readTopoAndScenJsn with .*w.geom .*w.scen$"),
+                               QStringLiteral("^### To read elements of geom buffer took [-0-9.e]+s$"),
+                               QStringLiteral("^starting readScenarioJsn with .*w.scen$"),
+                               QStringLiteral("^NivraReader::readScenariofileJsn \\[2 threads\\]$"),
+                               QStringLiteral("^### To read elements of scenario jsn file took [-0-9.e]+s$"),
+                               QStringLiteral("^### To read elements of scenario jsn buffer took [-0-9.e]+ \\[sec\\] "
+                                              "for 1 properties$"),
+                               QStringLiteral("^readScen: cannot find or read a gas file$"),
+                               QStringLiteral("^There is no scenario fixes file$"),
+                               QStringLiteral("^There is no scenario .res.jsn file$"),
+                               QStringLiteral("^Could not find .gaspar.jsn file$")};
+  QTest::newRow("text") << QString()
+                        << QStringList{QStringLiteral("^### To read elements of geom buffer took .*$"),
+                                       QStringLiteral("^NivraReader::readScenariofile \\[2 threads\\]$"),
+                                       QStringLiteral("^### To read elements of scenario file took .*$"),
+                                       QStringLiteral("^There is no scenario .res file$")};
+}
+
+void TestNivraReader::logLines() {
+  QFETCH(QString, suffix);
+  QFETCH(QStringList, expected);
+  QDir(m_folder.path()).mkpath(QStringLiteral("L/S"));
+  const bool isJson = !suffix.isEmpty();
+  write(QStringLiteral("L/w.geom") + suffix, isJson ? "{\n\"A\":{\"obj_type\":\"node\"}\n}\n" : "[node]\nname\nA\n");
+  const QString scenario =
+      write(QStringLiteral("L/S/w.scen") + suffix,
+            isJson ? "{\n\"A\":[{\"property\":\"pset\",\"value\":1}]\n}\n" : "name;property;value\nA;pset;1\n");
+  NetData net;
+  QStringList lines;
+  const auto connection = connect(
+      &NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
+      [&](const QString &text) { lines.append(text); }, Qt::DirectConnection);
+  NivraReader(net).readTopoAndScen(NivraWorkspace::fromFile(scenario), {});
+  disconnect(connection);
+  int at = 0;
+  for (const QString &pattern : expected) {
+    at = lines.indexOf(QRegularExpression(pattern), at) + 1;
+    QVERIFY2(at > 0, qPrintable(pattern + QLatin1Char('\n') + lines.join(QLatin1Char('\n'))));
+  }
+}
+
+void TestNivraReader::specialFilesAreRefused_data() {
+  QTest::addColumn<QString>("file");
+  for (const char *file : {"w.geom.jsn", "S/w.scen.jsn", "S/w.gas.jsn", "S/w.fix.jsn", "S/w.res.jsn", "S/w.gaspar.jsn",
+                           "S/w.scen.cfg.jsn", "S/w.res.sub.jsn"})
+    QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+// A pipe would hang for ever, a device fill the memory, a link show a stranger's file.
+void TestNivraReader::specialFilesAreRefused() {
+  QFETCH(QString, file);
+  QTemporaryDir root;
+  QTemporaryDir elsewhere;
+  QDir(root.path()).mkpath(QStringLiteral("C/S"));
+  const QString folder = root.filePath(QStringLiteral("C/"));
+  const auto put = [](const QString &path, const QByteArray &text) {
+    QFile made(path);
+    return made.open(QIODevice::WriteOnly) && made.write(text) == text.size();
+  };
+  const QString stranger = elsewhere.filePath(QStringLiteral("f"));
+  QVERIFY(put(stranger, "{\n\"A\":{\"obj_type\":\"node\",\"p\":99}\n}\n"));
+  for (const QString &kind : {QStringLiteral("pipe"), QStringLiteral("/dev/zero"), stranger}) {
+    QVERIFY(put(folder + QStringLiteral("w.geom.jsn"), "{\n\"A\":{\"obj_type\":\"node\"}\n}\n"));
+    QVERIFY(put(folder + QStringLiteral("S/w.scen.jsn"), "{\n}\n"));
+    const NivraWorkspace workspace = NivraWorkspace::fromFile(folder + QStringLiteral("S/w.scen.jsn"));
+    QFile::remove(folder + file);
+    if (kind == QLatin1String("pipe"))
+      QCOMPARE(::mkfifo(QFile::encodeName(folder + file).constData(), 0600), 0);
+    else
+      QVERIFY(QFile::link(kind, folder + file));
+    FileAccess::confineTo(root.path());
+    NetData net;
+    NivraReader reader(net);
+    auto result = reader.readTopoAndScen(workspace, {});
+    append(result.findings, reader.readSubResults(workspace, {}).findings);
+    FileAccess::confineTo(QString());
+    const element *node = net.element(QStringLiteral("A"));
+    QCOMPARE(node == nullptr, file == QLatin1String("w.geom.jsn"));
+    QVERIFY(node == nullptr || !node->contains(QStringLiteral("p")));
+    QString told;
+    for (const Finding &finding : result.findings)
+      told += finding.text + QLatin1Char('\n');
+    const QString reason =
+        kind == QLatin1String("pipe") ? QStringLiteral("not a regular file") : QStringLiteral("leads out of the workspace");
+    QVERIFY2(told.contains(reason), qPrintable(told));
+    QFile::remove(folder + file);
+  }
+}
+
+void TestNivraReader::readErrorsEndAndAreTold_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<QByteArray>("head");
+  QTest::addColumn<QByteArray>("line");
+  const QByteArray filler(300, 'c'); // so that few lines fill many blocks
+  QTest::newRow("geometry") << QStringLiteral("e.geom.jsn") << QByteArray("{\n")
+                            << R"("A":{"obj_type":"node","note":")" + filler + "\"}";
+  QTest::newRow("geometry, text") << QStringLiteral("e.geom") << QByteArray("[node]\nname;note\n") << "A;" + filler;
+  QTest::newRow("set points") << QStringLiteral("e.scen.jsn") << QByteArray("{\n")
+                              << R"("A":[{"property":"note","value":")" + filler + "\"}]";
+  QTest::newRow("set points, text") << QStringLiteral("e.scen") << QByteArray("name;property;value\n") << "A;note;" + filler;
+}
+
+// The file is replaced by a folder behind the descriptor once a block was read; and one fails from the first byte on.
+void TestNivraReader::readErrorsEndAndAreTold() {
+  QFETCH(QString, name);
+  QFETCH(QByteArray, head);
+  QFETCH(QByteArray, line);
+  const bool isText = !name.endsWith(QStringLiteral(".jsn"));
+  QByteArray content = head;
+  for (int i = 0; content.size() < (4 << 20); ++i)
+    content += (isText || i == 0 ? QByteArray() : QByteArray(",")) + line + "\n";
+  const QString path = write(name, content);
+  bool isBroken = false;
+  NivraReader::Options options;
+  options.progress = [&](double) {
+    for (const QFileInfo &open : QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::Files | QDir::System)) {
+      if (open.symLinkTarget() != path || isBroken)
+        continue;
+      const int folder = ::open("/", O_RDONLY | O_DIRECTORY);
+      isBroken = ::dup2(folder, open.fileName().toInt()) >= 0;
+      ::close(folder);
+    }
+    return true;
+  };
+  NetData net;
+  read(net, R"("A":{"obj_type":"node"})");
+  NivraReader reader(net);
+  const bool isGeometry = name.contains(QStringLiteral("geom"));
+  const NivraMsg::Recorder recorder; // a thousand times the same element
+  const auto result = isGeometry ? reader.readGeomJsn(path, options) : reader.readScenariofileJsn(path, options);
+  QVERIFY(isBroken);
+  QVERIFY(result.ok); // what was read is shown
+  QVERIFY(!result.findings.empty());
+  const Finding &told = result.findings.back();
+  QVERIFY2(told.text.contains(QStringLiteral("could not be read to its end")), qPrintable(told.text));
+  QVERIFY(told.text.contains(path) && !told.box.isEmpty());
+
+  const QString never = m_folder.filePath(QStringLiteral("never") + name.mid(1));
+  QVERIFY(QFile::link(QStringLiteral("/proc/self/mem"), never));
+  const auto none = isGeometry ? reader.readGeomJsn(never, {}) : reader.readScenariofileJsn(never, {});
+  QVERIFY(!none.ok);
+  QVERIFY(none.findings.at(0).text.startsWith(never));
 }
 
 void TestNivraReader::companionFiles() {

@@ -1,10 +1,14 @@
+#include <base/fileaccess.h>
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <io/nivraworkspace.h>
+#include <io/scenariosummary.h>
 #include <support/nivratest.h>
 
 #include <QDir>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -33,6 +37,8 @@ private slots:
   void init();
   void resolves_data();
   void resolves();
+  void theChosenFileIsRead_data();
+  void theChosenFileIsRead();
   void refuses_data();
   void refuses();
   void caseConfiguration_data();
@@ -43,6 +49,9 @@ private slots:
   void oddScenarioConfigurations_data();
   void oddScenarioConfigurations();
   void gasParametersKeepWhatIsNotGiven();
+  void summaryTellsValuesAndTheirFiles();
+  void specialFilesAreRefused_data();
+  void specialFilesAreRefused();
 
 private:
   QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -82,6 +91,30 @@ void TestNivraWorkspace::resolves() {
   QCOMPARE(workspace.currentCase()->configFile, QStringLiteral("net.geom.cfg"));
   QCOMPARE(workspace.filePath(QStringLiteral("vfd.csv")), path(QStringLiteral("CASE/vfd.csv")));
   QCOMPARE(workspace.scenarioPath(), scenario ? path(QStringLiteral("CASE/S1/run.scen")) : QString());
+}
+
+// Folders list their files in no order, so every one of several must open when it is chosen.
+void TestNivraWorkspace::theChosenFileIsRead_data() {
+  QTest::addColumn<QString>("file");
+  for (const char *file :
+       {"CASE/net.geom.jsn", "CASE/variant.geom.jsn", "CASE/other.geom.json", "CASE/b.geom", "CASE/net.v2.geom",
+        "CASE/X-134.v2.geom.jsn", "CASE/S1/run.scen.jsn", "CASE/S1/second.scen.jsn", "CASE/S1/N1.v2.scen.jsn"})
+    QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void TestNivraWorkspace::theChosenFileIsRead() {
+  QFETCH(QString, file);
+  for (const char *name : {"variant.geom.jsn", "other.geom.json", "b.geom", "net.v2.geom", "X-134.v2.geom.jsn", "a.geom.jsn",
+                           "S1/second.scen.jsn", "S1/N1.v2.scen.jsn"})
+    write(path(QStringLiteral("CASE/") + QLatin1String(name)), "{\n}\n");
+  write(path(QStringLiteral("CASE/variant.geom.cfg")), "x\nCASE\n");
+  write(path(QStringLiteral("CASE/a.geom.cfg")), "x\nCASE\n");
+  const NivraWorkspace workspace = NivraWorkspace::fromFile(path(file));
+  const QString read = file.contains(QStringLiteral(".scen")) ? workspace.scenarioPath() : workspace.geometryPath();
+  const QString textForm = path(file).remove(QRegularExpression(QStringLiteral("\\.jso?n$")));
+  QCOMPARE(read, textForm);
+  if (file.contains(QStringLiteral("variant")))
+    QCOMPARE(workspace.currentCase()->configFile, QStringLiteral("variant.geom.cfg"));
 }
 
 void TestNivraWorkspace::refuses_data() {
@@ -241,6 +274,83 @@ void TestNivraWorkspace::gasParametersKeepWhatIsNotGiven() {
   QCOMPARE(gas.CompThermo, 0);
   QCOMPARE(gas.ntype_gasMix, 1);
   QCOMPARE(NivraGasParams::names(QStringLiteral("ntype_gasLaw")).value(gas.ntype_gasLaw), QStringLiteral("dc92"));
+}
+
+void TestNivraWorkspace::summaryTellsValuesAndTheirFiles() {
+  write(path(QStringLiteral("CASE/net.geom.cfg")), "x\nCASE\nnet.geom\n1\n{\"owner\":\"me\"}\n");
+  write(path(QStringLiteral("CASE/S1/solverconfig.jsn")),
+        R"({"ntype_gasLaw":2,"tsoil":281.5,"source":{"tsoil":"measured"},"comment":{"tsoil":"in May"}})");
+  write(
+      path(QStringLiteral("CASE/S1/scenconfig.jsn")),
+      R"({"workDir":"S1","pyFile":"go.py","statusFile":"go.stat","NivraVersion_used":"3.1","GeneralProps":{"mode":"fast"}})");
+  NivraWorkspace workspace = scenario();
+  NivraGasParams gas;
+  Findings findings;
+  workspace.readCaseConfiguration(findings);
+  workspace.readScenarioConfiguration(gas, findings);
+  element hydrogen;
+  hydrogen.set(QStringLiteral("rhon"), QStringLiteral("0.09"));
+  const ScenarioSummary summary =
+      ScenarioSummary::of(workspace, gas, {{QStringLiteral("Hydrogen"), hydrogen}}, QStringLiteral("/gas"));
+  const auto row = [&summary](const char *name) {
+    QStringList told;
+    for (const ScenarioSummary::Row &candidate : summary.rows) {
+      if (candidate.name == QLatin1String(name))
+        told = QStringList{candidate.section, candidate.value, QFileInfo(candidate.source).fileName(), candidate.comment};
+    }
+    return told.join(QLatin1Char('|'));
+  };
+  QCOMPARE(row("owner"), QStringLiteral("Case|me|net.geom.cfg|"));
+  QCOMPARE(row("pyFile"), QStringLiteral("Scenario|go.py|scenconfig.jsn|"));
+  QCOMPARE(row("statusFile"), QStringLiteral("Scenario|go.stat|scenconfig.jsn|"));
+  QCOMPARE(row("logFile"), QStringLiteral("Scenario|nivra_run.log||"));
+  QCOMPARE(row("NivraVersion_used"), QStringLiteral("Scenario|3.1|scenconfig.jsn|"));
+  QCOMPARE(row("mode"), QStringLiteral("General properties|fast|scenconfig.jsn|"));
+  QCOMPARE(row("ntype_gasLaw"), QStringLiteral("Gas law and solver|2 (papay)|solverconfig.jsn|"));
+  QCOMPARE(row("tsoil"), QStringLiteral("Gas law and solver|281.5|solverconfig.jsn|measured; in May"));
+  QCOMPARE(row("tamb"), QStringLiteral("Gas law and solver|285.15||"));
+  QCOMPARE(row("field21"), QStringLiteral("Further fields|1 (on)||"));
+  QCOMPARE(row("rhon"), QStringLiteral("Gas Hydrogen|0.09|gas|"));
+}
+
+void TestNivraWorkspace::specialFilesAreRefused_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<bool>("isPipe");
+  for (const char *name : {"net.geom.cfg", "S1/run.scen.cfg", "S1/solverconfig.jsn", "S1/scenconfig.jsn"}) {
+    QTest::addRow("%s is a pipe", name) << QString::fromLatin1(name) << true;
+    QTest::addRow("%s leads out", name) << QString::fromLatin1(name) << false;
+  }
+}
+
+// Neither hangs nor reads what is not the workspace's.
+void TestNivraWorkspace::specialFilesAreRefused() {
+  QFETCH(QString, name);
+  QFETCH(bool, isPipe);
+  QTemporaryDir elsewhere;
+  const QString stranger = elsewhere.filePath(QStringLiteral("stranger"));
+  write(stranger, R"({"tsoil":1,"pyFile":"stolen"})");
+  if (name.endsWith(QStringLiteral("scenconfig.jsn")))
+    write(path(QStringLiteral("CASE/S1/solverconfig.jsn")), "{}");
+  const QString at = path(QStringLiteral("CASE/") + name);
+  if (isPipe)
+    QCOMPARE(::mkfifo(QFile::encodeName(at).constData(), 0600), 0);
+  else
+    QVERIFY(QFile::link(stranger, at));
+  FileAccess::confineTo(m_folder->path());
+  NivraWorkspace workspace = scenario();
+  NivraGasParams gas;
+  Findings findings;
+  const NivraMsg::Recorder recorder;
+  workspace.readCaseConfiguration(findings);
+  workspace.readScenarioConfiguration(gas, findings);
+  FileAccess::confineTo(QString());
+  QString told = recorder.lines().join(QLatin1Char('\n'));
+  for (const Finding &finding : findings)
+    told += finding.text;
+  QCOMPARE(gas.tsoil, NivraGasParams().tsoil);
+  QCOMPARE(workspace.currentScenario()->pyFile, NivraScenario().pyFile);
+  if (!name.endsWith(QStringLiteral("solverconfig.jsn"))) // the way on to the text form is logged for debugging alone
+    QVERIFY2(told.contains(isPipe ? QStringLiteral("not a regular file") : QStringLiteral("leads out")), qPrintable(told));
 }
 
 NIVRA_TEST(TestNivraWorkspace);

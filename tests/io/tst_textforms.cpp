@@ -18,6 +18,8 @@ private slots:
   void faultyLines();
   void openQuoteCostsOneLine();
   void reportsAsJsonDoes();
+  void decimalCommas();
+  void otherEncodings();
   void setPoints();
   void thereAndBack();
   void setPointsThereAndBack();
@@ -64,7 +66,6 @@ void TestTextForms::cells_data() {
   row("say \"x\"", "say \"x\"");
   row("\"say \"\"x\"\";\"", "say \"x\";");
   row("\"two\nlines\r\nand three\"", "two\nlines\r\nand three");
-  row("1,5", "1,5");
   row("نص 🔥", "نص 🔥");
   row("1e400", "1e400"); // no number that can be stored: a text
 }
@@ -152,6 +153,34 @@ void TestTextForms::reportsAsJsonDoes() {
   NivraReader(pipes).readGeomJsn(write(QStringLiteral("a.geom"), "[node]\nname\nA\n[pipe]\nname;node1;node2\nP;A;A\n"),
                                  options);
   QVERIFY(pipes.nodes().isEmpty() && pipes.edges().size() == 1);
+}
+
+// A text it stays, but not without a word.
+void TestTextForms::decimalCommas() {
+  NetData net;
+  const auto result = read(net, "[node]\nname;x;note;height\nA;12,5;\"1,5\";a,b\nB;1;1,2,3;,5\n");
+  QCOMPARE(net.nodes().at(QStringLiteral("A")).value(QStringLiteral("x")), QStringLiteral("12,5"));
+  QCOMPARE(result.findings.size(), std::size_t(1));
+  QCOMPARE(result.findings[0].line, 3);
+  QVERIFY2(result.findings[0].text.contains(QStringLiteral("x of element A")), qPrintable(result.findings[0].text));
+  const auto values =
+      NivraReader(net).readScenariofileJsn(write(QStringLiteral("c.scen"), "name;property;value\nB;pset;50,5\n"), {});
+  QCOMPARE(values.findings.size(), std::size_t(1));
+  QCOMPARE(values.findings[0].line, 2);
+}
+
+void TestTextForms::otherEncodings() {
+  NetData net;
+  const auto result = read(net, "[node]\nname;x\nM\xfcnster;1\nM\xf6nster;2\n");
+  QCOMPARE(net.nodes().size(), std::size_t(2));
+  QCOMPARE(net.nodes().at(QStringLiteral("M\u00fcnster")).value(QStringLiteral("x")), QStringLiteral("1"));
+  QCOMPARE(result.findings.size(), std::size_t(1));
+  QVERIFY(result.findings[0].text.contains(QStringLiteral("not written in UTF-8")));
+  QCOMPARE(result.findings[0].line, 3);
+  const auto values =
+      NivraReader(net).readScenariofileJsn(write(QStringLiteral("l.scen"), "name;property;value\nM\xf6nster;pset;50\n"), {});
+  QCOMPARE(values.findings.size(), std::size_t(1));
+  QCOMPARE(net.nodes().at(QStringLiteral("M\u00f6nster")).value(QStringLiteral("pset")), QStringLiteral("50"));
 }
 
 void TestTextForms::setPoints() {

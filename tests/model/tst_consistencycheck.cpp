@@ -35,6 +35,7 @@ private slots:
   void missingCoordinatesGetDefaults();
   void drives_data();
   void drives();
+  void excludedDrivesServeNobody();
 };
 
 void TestConsistencyCheck::findings_data() {
@@ -167,6 +168,25 @@ void TestConsistencyCheck::drives() {
   QCOMPARE(coordinates(net, "D1"), place);
   QCOMPARE(removed.nodes, place == QLatin1String("gone") ? 1 : 0);
   QVERIFY2(console.lines.contains(message), qPrintable(console.lines.join(QLatin1Char('\n'))));
+}
+
+void TestConsistencyCheck::excludedDrivesServeNobody() {
+  NetData net;
+  net.addElement(makeNode("A", "0", "0"));
+  net.addElement(makeElement({{"name", "D1"}, {"type", "d"}}));
+  net.addElement(makeElement({{"name", "D2"}, {"type", "d"}, {"gasnode", "D1"}, {"driven", "C9"}}));
+  net.addElement(makeElement({{"name", "D3"}, {"type", "d"}, {"gasnode", "A"}, {"driven", "C9"}}));
+  net.addElement(makeEdge("P1", "A", "D1"));
+  net.addElement(makeEdge("P2", "A", "D3"));
+  Console console;
+  const ConsistencyCheck::PruneResult removed = ConsistencyCheck::prune(net);
+  QVERIFY2(console.lines.contains(
+               QStringLiteral("Drive D2: Neither GASNODE D1 nor DRIVEN C9 could be found. Drive is excluded!")),
+           qPrintable(console.lines.join(QLatin1Char('\n'))));
+  QCOMPARE(net.nodes().size(), std::size_t(2));
+  QCOMPARE(removed.nodes, 2);
+  QCOMPARE(removed.edges, 1); // it ended at a drive that is gone
+  QVERIFY(net.edges().find(QStringLiteral("P1")) == nullptr && net.edges().find(QStringLiteral("P2")) != nullptr);
 }
 
 NIVRA_TEST(TestConsistencyCheck);

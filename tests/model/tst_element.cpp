@@ -36,6 +36,7 @@ private slots:
   void keysAreOneRegardlessOfCase();
   void propertiesStayInAlphabeticalOrder();
   void manyKeysInAnyOrderStaySorted();
+  void adverseKeysAreCheap();
   void propertiesOfAReaderAreSortedAndTheLastOfEqualsWins();
   void columnsFindWhatASearchFinds();
   void checkedAccessThrowsTheContents();
@@ -129,6 +130,25 @@ void TestElement::manyKeysInAnyOrderStaySorted() {
   for (int i = 0; i < 200; ++i)
     QCOMPARE(e.value(QStringLiteral("dense") + QString(i, QLatin1Char('m')) + QLatin1Char(i % 2 == 0 ? 'a' : 'z')),
              QString::number(i));
+}
+
+// Each falls between the two before it, in one place among all names.
+void TestElement::adverseKeysAreCheap() {
+  constexpr int Count = 50000;
+  std::vector<PropertyKey> keys;
+  keys.reserve(Count);
+  QElapsedTimer timer;
+  timer.start();
+  for (int i = 0; i < Count; ++i) // every name comes before the one made last, behind all others
+    keys.push_back(PropertyKey::intern(QStringLiteral("adverse%1").arg(Count - i, 6, 10, QLatin1Char('0'))));
+  const qint64 adverse = timer.restart();
+  for (int i = 0; i < Count; ++i) // each behind all others, where there is always room
+    PropertyKey::intern(QStringLiteral("\uffee%1").arg(i, 6, 10, QLatin1Char('0')));
+  const qint64 kind = timer.elapsed();
+  for (int i = 1; i < Count; ++i)
+    QVERIFY(keys[std::size_t(i)] < keys[std::size_t(i - 1)]);
+  QVERIFY(keys.front() < PropertyKey::intern("adversf") && PropertyKey::intern("adversd") < keys.back());
+  QVERIFY2(adverse < 3 * kind + 50, qPrintable(QStringLiteral("%1 ms, others %2 ms").arg(adverse).arg(kind)));
 }
 
 void TestElement::propertiesOfAReaderAreSortedAndTheLastOfEqualsWins() {

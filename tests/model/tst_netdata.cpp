@@ -9,6 +9,7 @@ class TestNetData : public QObject {
 private slots:
   void elementsFindTheirKind();
   void lastOfANameWins();
+  void namesOfAnyScriptFoldAsTextsCompare();
   void masksSelectKinds();
   void numericAccess_data();
   void numericAccess();
@@ -154,6 +155,47 @@ void TestNetData::copiesAreDeep() {
   copy.clear();
   QVERIFY(copy.isEmpty());
   QVERIFY(net.findElement(QStringLiteral("a"), 1).second->contains(QStringLiteral("p")));
+}
+
+void TestNetData::namesOfAnyScriptFoldAsTextsCompare() {
+  const QStringList names{QStringLiteral("K\u00f6ln"),
+                          QStringLiteral("Kelvin"),
+                          QStringLiteral("stra\u00dfe"),
+                          QStringLiteral("STRASSE"),
+                          QStringLiteral("\u0421\u0435\u0432\u0435\u0440"),
+                          QStringLiteral("\u03a3\u03af\u03b3\u03bc\u03b1"),
+                          QStringLiteral("\u79fb\u9001"),
+                          QString::fromUtf8("\xf0\x90\x90\x80x"),
+                          QString::fromUtf8("\xef\xbf\xbdz"),
+                          QStringLiteral("k\u00f6lm"),
+                          QStringLiteral("Z"),
+                          QStringLiteral("\u0130stanbul")};
+  NetData net;
+  for (const QString &name : names) {
+    element node;
+    node.set(QStringLiteral("name"), name);
+    node.set(QStringLiteral("type"), QStringLiteral("n"));
+    net.addElement(node);
+  }
+  QCOMPARE(int(net.nodes().size()), names.size());
+  QStringList others = names;
+  others << QStringLiteral("\u212aELVIN") << QStringLiteral("\u1e9e") << QStringLiteral("K\u00d6LN")
+         << QString::fromUtf8("\xf0\x90\x90\xa8X") << QStringLiteral("\u03c3\u03af\u03b3\u03bc\u03b1");
+  for (const QString &name : qAsConst(others)) {
+    for (const QString &spelling : {name, name.toUpper(), name.toLower()}) {
+      const bool isThere = std::any_of(names.begin(), names.end(), [&](const QString &known) {
+        return QString::compare(known, spelling, Qt::CaseInsensitive) == 0;
+      });
+      QVERIFY2((net.nodes().find(spelling) != nullptr) == isThere, qPrintable(spelling));
+    }
+  }
+  QStringList walked;
+  for (const elements::Entry &entry : net.nodes())
+    walked.append(entry.name());
+  QStringList sorted = names;
+  std::sort(sorted.begin(), sorted.end(),
+            [](const QString &a, const QString &b) { return QString::compare(a, b, Qt::CaseInsensitive) < 0; });
+  QCOMPARE(walked, sorted);
 }
 
 NIVRA_TEST(TestNetData);

@@ -5,6 +5,7 @@
 #include <formulas/networkformulas.h>
 #include <io/nivragasparams.h>
 #include <io/nivraworkspace.h>
+#include <io/scenariosummary.h>
 #include <model/consistencycheck.h>
 #include <model/netdata.h>
 #include <tools/findinglist.h>
@@ -46,6 +47,9 @@ public:
 
   const NivraWorkspace &workspace() const { return m_workspace; }
   const NivraGasParams &gasParams() const { return m_gasParams; }
+  const GasTable &gases() const { return m_gases; } ///< of the scenario
+  /// What case and scenario carry beside the network, each with the file that says so.
+  ScenarioSummary scenarioSummary() const;
   const QString &checkFindings() const { return m_checkFindings; }
   const ConsistencyCheck::PruneResult &removed() const { return m_removed; }
   /// Everything that the stages noticed, in their order.
@@ -72,6 +76,8 @@ private:
   NetworkFormulas m_formulas;
   NivraWorkspace m_workspace;
   NivraGasParams m_gasParams;
+  GasTable m_gases;
+  QString m_gasFile;
   MachineData m_machines;
   QString m_templateFolder;
   QString m_checkFindings;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/fileaccess.h>
+
 #include <QString>
 #include <QStringList>
 
@@ -33,7 +35,7 @@ public:
   /// Resets, then overlays the settings file: workspaceDir + "/generalsettings_" + user + ".csv", or
   /// "generalsettings.csv" in userDirectory() when workspaceDir is empty. Returns the number of lines taken.
   int load(const QString &workspaceDir = QString());
-  int loadFile(const QString &path);
+  int loadFile(const QString &path, FileAccess::Source source = FileAccess::Source::Trusted);
 
   static QString settingsFile(const QString &workspaceDir);
   static QString userDirectory(); ///< where "generalsettings.csv" and "stylesheet.qss" are looked for

@@ -4,6 +4,7 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /// Physical-model and solver settings of a scenario. The viewer reads and shows them; it does not compute with them.
 /// Enumerations are integers that index the name lists below.
@@ -62,13 +63,25 @@ struct NivraGasParams {
     int field27 = 15;
   } positional;
 
+  QMap<QString, QString> origin; ///< per key, the file that set it; without one the default stands
+
   void reset() { *this = NivraGasParams(); }
   /// Reads directory + "/solverconfig.jsn"; true on success.
   bool readFromFile(const QString &directory);
   /// A key that is absent or of another type leaves its field as it was.
-  void fromJson(const QJsonObject &object);
+  /// \param file path, for origin
+  void fromJson(const QJsonObject &object, const QString &file = QString());
   /// Sets the field of a key from text, as the one-line configuration gives it; false for a key that it does not know.
-  bool setFromText(const QString &key, const QString &text);
+  bool setFromText(const QString &key, const QString &text, const QString &file = QString());
+
+  struct Entry {
+    QString key;
+    QString value;
+    QString word; ///< that an enumeration's number stands for
+    bool isPositional = false;
+  };
+  /// Every field, those of Positional last.
+  QVector<Entry> entries() const;
 
   /// The names that an enumeration's integers index; empty for a key that is no enumeration.
   static QStringList names(const QString &key);

@@ -2,15 +2,13 @@
 
 #include <base/finding.h>
 #include <io/nivraworkspace.h>
+#include <io/scenariosummary.h>
 #include <model/netdata.h>
 
 #include <QJsonObject>
 #include <QString>
 
 #include <map>
-
-/// Gas name to the properties of the gas.
-using GasTable = std::map<QString, element>;
 
 /// Fills a NetData from the files of a workspace. It knows no widgets: what it notices is returned, timings go to the log.
 class NivraReader {
@@ -25,6 +23,8 @@ public:
     bool cancelled = false;    ///< by the progress callback
     qint64 properties = 0;     ///< taken over
     QJsonObject configuration; ///< of the scenario, from ".scen.cfg.jsn"; empty when there is no such file
+    QString configurationFile; ///< its path
+    double readingSeconds = 0; ///< spent in taking the bytes from the file
     Findings findings;
   };
 
@@ -45,6 +45,7 @@ public:
   /// scenarioPath without the JSON suffix; the companion files lie beside it.
   Result readScenarioJsn(const QString &scenarioPath, const NivraScenario &scenario, const Options &options);
   /// Set points: a list of property, value and unit per element name. Two threads parse, the result is as the lines say.
+  /// Values are converted to the stored unit; those that need the gas for it (mass for volume) by the gases read before.
   Result readScenariofileJsn(const QString &path, const Options &options);
   Result readGasJsn(const QString &path);
   /// Values per element name, such as gas percentages and results; elements are never made.
@@ -52,12 +53,28 @@ public:
   Result readResultsJsn(const QString &path, const Options &options);
 
   const GasTable &gases() const { return m_gases; }
+  const QString &gasFile() const { return m_gasFile; } ///< that the gases were read from; empty without one
 
 private:
   Result readNetwork(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
                      const Options &options);
   Result readScenario(const QString &scenarioPath, const NivraScenario &scenario, const Options &options);
-  Result readScenarioRows(const QString &path, const Options &options);
+  Result readSetPoints(const QString &path, const Options &options);
+  template <typename Lines>
+  Result readLines(const QString &path, const Options &options);
+  class SetPointApplier;
+  /// A set point whose unit needs the gas to be converted; of one property the last counts.
+  struct WaitingSetPoint {
+    PropertyText value;
+    QString unit;
+    QString storedUnit;
+    QString element;
+    QString file;
+    int line = 0;
+  };
+  using SetPointPlace = std::pair<const element *, PropertyKey>;
+  void set(element &target, PropertyKey key, PropertyText value);
+  void convertWaiting(Findings &findings);
   Result readValues(const QString &path, const Options &options);
   struct Companion {
     const char *suffix;
@@ -70,8 +87,12 @@ private:
   void readCompanion(const Companion &companion, const QString &base, const Options &options, Result &result);
   void readConfiguration(const QString &base, Result &result);
   void readGas(const QString &base, const NivraScenario &scenario, Result &result);
+  QString networkPath(const QString &textPath) const;
 
   NetData &m_net;
   GasTable m_gases;
+  QString m_gasFile;
+  std::map<SetPointPlace, WaitingSetPoint> m_waiting;
+  QString m_chosen;     ///< the file that was opened, whose suffix counts
   bool m_isJson = true; ///< the form in which companion files are looked for
 };

@@ -2,8 +2,10 @@
 
 #include <QJsonObject>
 #include <QMap>
+#include <QPair>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /// The record of one scenario: which files belong to it.
 struct NivraScenario {
@@ -25,9 +27,13 @@ struct NivraScenario {
       QStringLiteral("QP_balances.csv"),      QStringLiteral("supplyStatus.csv"), QStringLiteral("solverinfo.csv"),
       QStringLiteral("additionalInfo.csv"),   QStringLiteral("gasnodeInfo.csv"),  QStringLiteral("regulatorInfo.csv")};
 
+  QMap<QString, QString> origin; ///< per JSON key ("GeneralProps/name" for a general property), the file that set it
+
   /// A work directory "EMPTY", "." or empty stands for no scenario.
   bool isAbsent() const;
-  /// A key that is absent or of another type leaves its field and is logged.
-  void fromJson(const QJsonObject &object);
+  /// A key that is absent or of another type leaves its field and is logged. \param file path, for origin
+  void fromJson(const QJsonObject &object, const QString &file = QString());
+  /// Key and value of the fields that name files and the version.
+  QVector<QPair<QString, QString>> entries() const;
   QJsonObject toJson() const;
 };

@@ -19,6 +19,7 @@ public:
     QString configFile;
     QString workDir; ///< as configured
     bool flag = false;
+    bool isConfigured = false; ///< the configuration file could be read
     QJsonObject properties;
     QVector<NivraScenario> scenarios;
 
@@ -37,6 +38,8 @@ public:
   const NivraScenario *currentScenario() const;
   bool hasScenario() const;
 
+  /// The file that the workspace was resolved from, as an absolute path.
+  const QString &chosenPath() const { return m_chosen; }
   QString caseDirectory() const;
   QString geometryPath() const;
   QString scenarioDirectory() const; ///< empty without a scenario
@@ -54,15 +57,17 @@ public:
 
   /// Lays what a ".scen.cfg.jsn" file holds over the current scenario and its gas parameters; the directory and the opened
   /// file stay.
-  void takeConfiguration(const QJsonObject &object, NivraGasParams &gas);
+  void takeConfiguration(const QJsonObject &object, NivraGasParams &gas, const QString &file = QString());
 
 private:
   void findCaseFiles();
+  void takeChosenGeometry(const QString &base);
   void readUnifiedConfiguration(const QString &directory);
   void readTextConfiguration(const QString &path, NivraGasParams &gas, Findings &findings);
   void checkScenarioDirectory(const QString &actualName, Findings &findings);
 
   QString m_root;
+  QString m_chosen;
   bool m_json = false;
   QVector<Case> m_cases;
 };

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <model/element.h>
+
+#include <QString>
+
+#include <map>
+#include <vector>
+
+struct NivraGasParams;
+class NivraWorkspace;
+
+/// Gas name to the properties of the gas.
+using GasTable = std::map<QString, element>;
+
+/// All that the opened case and scenario carry beside the network, for a person to look at: files, versions, solver
+/// settings, gases.
+struct ScenarioSummary {
+  struct Row {
+    QString section; ///< for a person; rows of a section stand together
+    QString name;    ///< as the files call it
+    QString value;   ///< with the word for a number that stands for one, such as "1 (dc92)"
+    QString source;  ///< path of the file that says so; empty: the built-in default
+    QString comment; ///< of the file, where it has one
+  };
+  std::vector<Row> rows;
+
+  /// \param gasFile where the gases come from
+  static ScenarioSummary of(const NivraWorkspace &workspace, const NivraGasParams &params, const GasTable &gases,
+                            const QString &gasFile);
+};

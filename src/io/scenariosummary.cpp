@@ -1,0 +1,89 @@
+#include <io/nivraworkspace.h>
+#include <io/scenariosummary.h>
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace {
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("ScenarioSummary", text);
+}
+
+QString textOf(const QJsonValue &value) {
+  if (value.isObject())
+    return QString::fromUtf8(QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact));
+  if (value.isArray())
+    return QString::fromUtf8(QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact));
+  return value.toVariant().toString();
+}
+
+class Builder {
+public:
+  void addCase(const NivraWorkspace &workspace) {
+    const NivraWorkspace::Case &opened = *workspace.currentCase();
+    m_section = tr("Case");
+    const QString source = opened.isConfigured ? workspace.filePath(opened.configFile) : QString();
+    add(QStringLiteral("geometry"), opened.geometryFile, workspace.geometryPath());
+    add(QStringLiteral("flag"), opened.flag ? QStringLiteral("1") : QStringLiteral("0"), source);
+    for (auto property = opened.properties.begin(); property != opened.properties.end(); ++property)
+      add(property.key(), textOf(property.value()), source);
+  }
+
+  void addScenario(const NivraScenario &scenario) {
+    m_section = tr("Scenario");
+    for (const auto &[key, value] : scenario.entries())
+      add(key, value, scenario.origin.value(key));
+    add(QStringLiteral("result files"), scenario.resultFiles.join(QStringLiteral(", ")), QString());
+    m_section = tr("General properties");
+    for (auto property = scenario.generalProps.begin(); property != scenario.generalProps.end(); ++property)
+      add(property.key(), property.value(), scenario.origin.value(QStringLiteral("GeneralProps/") + property.key()));
+  }
+
+  void addParams(const NivraGasParams &params) {
+    m_section = tr("Gas law and solver");
+    for (const NivraGasParams::Entry &entry : params.entries()) {
+      if (entry.isPositional)
+        m_section = tr("Further fields");
+      QString comment = params.comment.value(entry.key);
+      if (params.source.contains(entry.key))
+        comment = comment.isEmpty() ? params.source.value(entry.key)
+                                    : params.source.value(entry.key) + QStringLiteral("; ") + comment;
+      const QString value = entry.word.isEmpty() ? entry.value : QStringLiteral("%1 (%2)").arg(entry.value, entry.word);
+      add(entry.key, value, params.origin.value(entry.key), comment);
+    }
+  }
+
+  void addGases(const GasTable &gases, const QString &file) {
+    for (const auto &[name, gas] : gases) {
+      m_section = tr("Gas %1").arg(name);
+      for (const Property &property : gas)
+        add(property.key.name(), property.value.toString(), file);
+    }
+  }
+
+  ScenarioSummary summary;
+
+private:
+  void add(const QString &name, const QString &value, const QString &source, const QString &comment = QString()) {
+    summary.rows.push_back({m_section, name, value, source, comment});
+  }
+
+  QString m_section;
+};
+
+} // namespace
+
+ScenarioSummary ScenarioSummary::of(const NivraWorkspace &workspace, const NivraGasParams &params, const GasTable &gases,
+                                    const QString &gasFile) {
+  Builder builder;
+  if (workspace.isValid())
+    builder.addCase(workspace);
+  if (workspace.hasScenario()) {
+    builder.addScenario(*workspace.currentScenario());
+    builder.addParams(params);
+    builder.addGases(gases, gasFile);
+  }
+  return std::move(builder.summary);
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "jsonlineparser.h"
+
+#include <QString>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Takes a row of a text table to pieces. One parser serves any number of rows, and several work side by side on those that
+/// a TextTableReader hands out.
+class TextRowParser {
+public:
+  /// What the rows of a table share.
+  struct Table {
+    std::string type; ///< empty for none
+    std::vector<std::string> columns;
+    char separator = ';';
+  };
+  /// A row whose cells nobody has looked at.
+  struct Row {
+    int number = 0; ///< of its first line
+    std::string text;
+    std::shared_ptr<const Table> table;
+  };
+  struct Cell {
+    std::string_view text;
+    bool isQuoted = false;
+  };
+
+  explicit TextRowParser(JsonLineParser::Numbers numbers = JsonLineParser::Numbers::AsHeld)
+      : m_numbers(numbers) {}
+
+  /// The reason when the row is faulty, nothing otherwise. The result refers to the row and lives until the next call.
+  QString parse(const Row &row, JsonLineParser::Element &parsed);
+  /// Cuts a line into cells(); false when a quote stays open. No cells: something stands behind a closing quote.
+  bool split(std::string_view line, char separator);
+  const std::vector<Cell> &cells() const { return m_cells; }
+
+private:
+  JsonLineParser::Value valueOf(const Cell &cell, std::string_view column) const;
+
+  JsonLineParser::Numbers m_numbers;
+  std::vector<Cell> m_cells;
+  std::string m_room; ///< for the texts of cells whose quotes are doubled
+};

@@ -1,0 +1,53 @@
+#include <model/elementstate.h>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+struct Keys {
+  PropertyKey state = PropertyKey::intern("state");
+  PropertyKey active = PropertyKey::intern("active");
+};
+
+const Keys &keys() {
+  static const Keys instance;
+  return instance;
+}
+
+std::string_view trimmed(std::string_view text) noexcept {
+  while (!text.empty() && text.front() == ' ')
+    text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ')
+    text.remove_suffix(1);
+  return text;
+}
+
+bool isWord(std::string_view text, std::string_view lower) noexcept {
+  return text.size() == lower.size() && std::equal(text.begin(), text.end(), lower.begin(), [](char a, char b) {
+           return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
+         });
+}
+
+} // namespace
+
+bool ElementState::saysOff(const PropertyText *text) noexcept {
+  const std::string_view said = text == nullptr ? std::string_view() : trimmed(text->utf8());
+  if (said.empty())
+    return false;
+  constexpr std::array<std::string_view, 5> Words{"off", "closed", "inactive", "false", "no"};
+  return std::any_of(Words.begin(), Words.end(), [said](std::string_view word) { return isWord(said, word); }) ||
+         text->toDouble() == 0.0;
+}
+
+bool ElementState::saysBypass(const PropertyText *text) noexcept {
+  return text != nullptr && isWord(trimmed(text->utf8()), "bypass");
+}
+
+bool ElementState::isOutOfUse(const element &e) noexcept {
+  return isOutOfUse(e.find(keys().state), e.find(keys().active));
+}
+
+bool ElementState::isOutOfUse(const PropertyText *state, const PropertyText *active) noexcept {
+  return saysOff(state) || saysOff(active);
+}

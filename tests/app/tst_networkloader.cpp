@@ -1,0 +1,57 @@
+#include "workspacefixture.h"
+
+#include <base/fileaccess.h>
+#include <support/nivratest.h>
+
+#include <app/networkloader.h>
+
+class TestNetworkLoader : public QObject {
+  Q_OBJECT
+
+private slots:
+  void everythingReadIsReachable();
+  void nothingOutsideTheWorkspaceIsRead();
+};
+
+void TestNetworkLoader::everythingReadIsReachable() {
+  const WorkspaceFixture workspace;
+  workspace.write(QStringLiteral("CASE/S1/S1.gas.jsn"), "{\n\"Hydrogen\":{\"obj_type\":\"gas\",\"rhon\":0.09}\n}\n");
+  workspace.write(QStringLiteral("CASE/S1/S1.scen.cfg.jsn"), "{\"tsoil\":280,\"GeneralProps\":{\"mode\":\"fast\"}}");
+  NetData net;
+  NetworkLoader loader(net);
+  QVERIFY(loader.resolve(workspace.scenario()));
+  loader.readConfiguration();
+  QVERIFY(loader.readNetwork({}));
+  QCOMPARE(loader.gases().size(), std::size_t(1));
+  QStringList told;
+  for (const ScenarioSummary::Row &row : loader.scenarioSummary().rows)
+    told.append(QStringLiteral("%1=%2 %3").arg(row.name, row.value, QFileInfo(row.source).fileName()));
+  for (const char *expected : {"tsoil=280 S1.scen.cfg.jsn", "mode=fast S1.scen.cfg.jsn", "rhon=0.09 S1.gas.jsn",
+                               "workDir=S1 scenconfig.jsn", "tamb=285.15 ", "scenFile=S1.scen S1.scen.jsn"})
+    QVERIFY2(told.contains(QLatin1String(expected)), qPrintable(told.join(QLatin1Char('\n'))));
+}
+
+void TestNetworkLoader::nothingOutsideTheWorkspaceIsRead() {
+  const WorkspaceFixture workspace;
+  const WorkspaceFixture stranger;
+  stranger.write(QStringLiteral("CASE/S1/S1.res.jsn"), "{\n\"A\":{\"secret\":1}\n}\n");
+  QVERIFY(QFile::link(stranger.path(QStringLiteral("CASE/S1/S1.res.jsn")),
+                      workspace.path(QStringLiteral("CASE/S1/S1.res.jsn"))));
+  NetData net;
+  NetworkLoader loader(net);
+  QVERIFY(loader.resolve(workspace.scenario()));
+  loader.readConfiguration();
+  QVERIFY(loader.readNetwork({}));
+  QVERIFY(!net.element(QStringLiteral("A"))->contains(QStringLiteral("secret")));
+  QString told;
+  for (const FindingList::Group &group : loader.noticed()) {
+    for (const Finding &finding : group.findings)
+      told += finding.logText();
+  }
+  QVERIFY2(told.contains(QStringLiteral("leads out of the workspace")), qPrintable(told));
+  QVERIFY(!FileAccess::confinementFault(stranger.scenario()).isEmpty());
+  QVERIFY(FileAccess::confinementFault(workspace.geometry()).isEmpty());
+}
+
+NIVRA_TEST(TestNetworkLoader);
+#include "tst_networkloader.moc"
