@@ -140,12 +140,28 @@ std::optional<std::pair<double, double>> TurboCompressor::flows(double speed) co
 Findings Drive::fit() {
   Findings findings;
   std::vector<FitPoint> powers;
-  for (const PowerPoint &point : powerPoints)
-    powers.push_back({point.temperature, point.speed, point.power});
+  const bool isAtOneTemperature = std::all_of(powerPoints.begin(), powerPoints.end(), [this](const PowerPoint &point) {
+    return point.temperature == powerPoints.front().temperature;
+  });
+  for (const PowerPoint &point : powerPoints) {
+    if (isAtOneTemperature)
+      powers.push_back({point.speed, 0.0, point.power});
+    else
+      powers.push_back({point.temperature, point.speed, point.power});
+  }
   std::vector<FitPoint> rates;
   for (const EnergyPoint &point : energyPoints)
     rates.push_back({point.power, 0.0, point.rate});
-  take(name, tr("power limit"), powers, power, powerQuality, findings);
+  if (isAtOneTemperature) { // or it does not matter, as for gas engines: a function of the speed alone
+    std::optional<Quadratic> overSpeed;
+    take(name, tr("power limit"), powers, overSpeed, powerQuality, findings);
+    if (overSpeed) {
+      power = Biquadratic();
+      std::copy(overSpeed->c.begin(), overSpeed->c.end(), power->c.begin());
+    }
+  } else {
+    take(name, tr("power limit"), powers, power, powerQuality, findings);
+  }
   take(name, tr("energy rate"), rates, energy, energyQuality, findings);
   if (!power)
     findings.push_back(warning(name, tr("there are neither coefficients nor enough points for its power limit")));

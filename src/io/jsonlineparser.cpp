@@ -178,7 +178,10 @@ error_code JsonLineParser::readValue(simdjson::ondemand::value value, Value &rea
     return error;
   switch (type) {
   case simdjson::ondemand::json_type::number: {
-    const NumberText taken = numberText(trimmed(value.raw_json_token()), read.text);
+    const std::string_view token = trimmed(value.raw_json_token());
+    const NumberText taken = numberText(token, read.text);
+    if (m_numbers == Numbers::AsWritten && taken == NumberText::Taken)
+      read.text = PropertyText(token);
     if (taken == NumberText::OutOfRange)
       dropped = "the number is out of range";
     read.isNumber = true;

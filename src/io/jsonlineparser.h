@@ -41,6 +41,12 @@ public:
     std::vector<SetPoint> points;
   };
 
+  /// How the texts of numbers are given: as properties hold them (numberText()), or letter by letter.
+  enum class Numbers { AsHeld, AsWritten };
+
+  explicit JsonLineParser(Numbers numbers = Numbers::AsHeld)
+      : m_numbers(numbers) {}
+
   /// Null on success, the reason otherwise. Reuses the vector's elements. A separating comma before the line becomes a
   /// brace.
   const char *parse(const JsonLineReader::Line &line, std::vector<Element> &elements, std::size_t &count);
@@ -60,6 +66,7 @@ private:
   simdjson::ondemand::document m_document;
   simdjson::dom::parser m_strict; ///< for the rare lines with parts that the walk skips
   std::string_view m_text;
+  Numbers m_numbers;
   bool m_skipped = false;
 };
 

@@ -156,10 +156,9 @@ bool TextTableReader::takeRow(JsonLineParser::Element &row) {
       return false;
     JsonLineParser::Value value;
     value.key = m_columns[i];
-    if (cell.isQuoted || numberText(cell.text, value.text) != NumberText::Taken)
+    value.isNumber = !cell.isQuoted && numberText(cell.text, value.text) == NumberText::Taken;
+    if (!value.isNumber || m_numbers == JsonLineParser::Numbers::AsWritten)
       value.text = PropertyText(cell.text);
-    else
-      value.isNumber = true;
     row.values.push_back(std::move(value));
   }
   return true;

@@ -22,8 +22,9 @@ class TextTableReader {
 public:
   enum class Found { Row, Fault, End };
 
-  explicit TextTableReader(const QString &path)
-      : m_lines(path) {}
+  explicit TextTableReader(const QString &path, JsonLineParser::Numbers numbers = JsonLineParser::Numbers::AsHeld)
+      : m_lines(path)
+      , m_numbers(numbers) {}
 
   bool open(QString *reason) { return m_lines.open(reason); }
   double fraction() const { return m_lines.fraction(); }
@@ -52,6 +53,7 @@ private:
   Found fail(const QString &reason);
 
   LineReader m_lines;
+  JsonLineParser::Numbers m_numbers;
   std::deque<std::pair<int, std::string>> m_pending; ///< lines that were read ahead in vain
   std::string m_line;                                ///< being worked on
   std::string m_room;                                ///< for the texts of cells whose quotes are doubled
