@@ -168,12 +168,22 @@ private:
     return m_folder.commit(m_request.overwrites, kept, &reason) || fail(reason);
   }
 
-  /// Scenarios that are there belong to somebody, whatever they hold.
+  /// Cases and scenarios that are there belong to somebody, whatever they hold.
   bool isFreeForUs(QString *reason) {
+    if (m_request.overwrites)
+      return true;
+    const QString geometry = baseOf(m_case) + QStringLiteral(".geom.jsn");
+    const QStringList present =
+        QDir(m_request.to).entryList({QStringLiteral("*.geom"), QStringLiteral("*.geom.js*n")}, QDir::Files);
+    for (const QString &name : present) {
+      if (name == geometry)
+        continue;
+      *reason = tr("%1 holds the geometry %2 already; the new one would be %3").arg(m_request.to, name, geometry);
+      return false;
+    }
     for (const Scenario &scenario : m_scenarios) {
-      const bool isOurs =
-          m_folder.isThere(scenario.name + QLatin1Char('/') + baseOf(scenario.name) + QStringLiteral(".scen.jsn"));
-      if (m_request.overwrites || isOurs || !m_folder.isThere(scenario.name))
+      const QString ours = scenario.name + QLatin1Char('/') + baseOf(scenario.name) + QStringLiteral(".scen.jsn");
+      if (m_folder.isThere(ours) || !m_folder.isThere(scenario.name))
         continue;
       *reason = tr("%1 holds a folder %2 already, which is no scenario of ours").arg(m_request.to, scenario.name);
       return false;

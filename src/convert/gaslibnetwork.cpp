@@ -169,6 +169,7 @@ void GasLibNetwork::readConnections() {
                                         {"pressureMin", "pmin", "bar"},
                                         {"pressureMax", "pmax", "bar"},
                                         {"heatTransferCoefficient", "htc", "W/(m2 K)"},
+                                        {"soilTemperature", "tsoil", "K"},
                                         {"dragFactor", "zeta", ""},
                                         {"pressureLoss", "dploss", "bar"},
                                         {"pressureInMin", "pinmin", "bar"},
@@ -211,6 +212,7 @@ void GasLibNetwork::leaveOutLooseEnds() {
     const auto &[kind, line] = m_edgeOrigins[i];
     if (m_kinds.contains(from) && m_kinds.contains(to)) {
       report.take(kind);
+      m_connections.insert(edges[i].name, kind);
       kept.push_back(std::move(edges[i]));
       continue;
     }

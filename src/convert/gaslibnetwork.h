@@ -17,6 +17,8 @@ public:
 
   /// "source", "sink" or "innode"; empty for a node that is not there.
   QString kindOf(const QString &node) const { return m_kinds.value(node); }
+  /// "pipe", "valve" and so on; empty for a connection that is not there.
+  QString kindOfConnection(const QString &name) const { return m_connections.value(name); }
   /// Where gas enters or leaves.
   int boundaryNodes() const { return m_boundaryNodes; }
   /// Of the first supply, which stands for all.
@@ -48,6 +50,7 @@ private:
   void placeNodes();
 
   QHash<QString, QString> m_kinds;                    ///< of nodes, by name
+  QHash<QString, QString> m_connections;              ///< their kinds, by name
   std::vector<std::pair<QString, int>> m_edgeOrigins; ///< kind in the XML, and line
   int m_boundaryNodes = 0;
 };

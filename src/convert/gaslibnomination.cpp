@@ -50,21 +50,41 @@ bool GasLibNomination::read() {
 void GasLibNomination::readScenario() {
   Scenario scenario{attribute("id"), {}};
   report.take(QStringLiteral("scenario"));
-  QSet<QString> named;
+  QSet<QString> named; // nodes and pipes may be named alike
   while (m_xml.readNextStartElement()) {
-    const QString node = attribute("id");
-    const bool isNode = m_xml.name() == QLatin1String("node");
-    if (isNode && !node.isEmpty() && !named.contains(node)) {
-      named.insert(node);
-      readNode(scenario);
-      continue;
+    const QString kind = m_xml.name().toString();
+    const QString name = attribute("id");
+    const bool isPipe = kind == QLatin1String("pipe");
+    if (kind != QLatin1String("node") && !isPipe) {
+      drop(tr("has no place in a scenario"));
+    } else if (name.isEmpty() || named.contains(kind + name)) {
+      tell(name.isEmpty() ? tr("A %1 without id is left out").arg(kind)
+                          : tr("%1 is named again; what follows is left out").arg(name));
+      drop(tr("named twice or not at all"));
+    } else {
+      named.insert(kind + name);
+      isPipe ? readPipe(scenario) : readNode(scenario);
     }
-    if (isNode)
-      tell(node.isEmpty() ? tr("A node without id is left out")
-                          : tr("%1 is named again; what follows is left out").arg(node));
-    drop(isNode ? tr("named twice or not at all") : tr("has no place in a scenario"));
   }
   scenarios.push_back(std::move(scenario));
+}
+
+/// Pipes come in with the temperature of their soil.
+void GasLibNomination::readPipe(Scenario &scenario) {
+  const QString name = attribute("id");
+  // A set point names its element alone, and nodes come first.
+  if (m_network.kindOfConnection(name) != QLatin1String("pipe") || !m_network.kindOf(name).isEmpty()) {
+    tell(tr("%1 is no pipe of the network; what is said of it is left out").arg(name));
+    drop(tr("not in the network"));
+    return;
+  }
+  report.take(QStringLiteral("pipe"));
+  while (m_xml.readNextStartElement()) {
+    if (m_xml.name() != QLatin1String("soilTemperature"))
+      drop(tr("not known"));
+    else if (const auto temperature = number("K"))
+      set(scenario, name, "tsoil", *temperature, "K");
+  }
 }
 
 void GasLibNomination::readNode(Scenario &scenario) {

@@ -29,6 +29,7 @@ private:
 
   void readScenario();
   void readNode(Scenario &scenario);
+  void readPipe(Scenario &scenario);
   void readQuality(Scenario &scenario, const QString &node);
   void readBound(Bounds &bounds, const char *unit, bool isNegated);
   void set(Scenario &scenario, const QString &node, const char *property, const GasLibUnits::Number &number,

@@ -14,6 +14,7 @@ QString unitOf(const QString &name) {
   static const QHash<QString, QString> units{{QStringLiteral("1000m_cube_per_hour"), QStringLiteral("1000 m3/h")},
                                              {QStringLiteral("m_cube_per_hour"), QStringLiteral("m3/h")},
                                              {QStringLiteral("m_cube_per_s"), QStringLiteral("m3/s")},
+                                             {QStringLiteral("m_cube_per_second"), QStringLiteral("m3/s")},
                                              {QStringLiteral("m_cube_per_day"), QStringLiteral("m3/day")},
                                              {QStringLiteral("kg_per_s"), QStringLiteral("kg/s")},
                                              {QStringLiteral("kg_per_hour"), QStringLiteral("kg/h")},

@@ -165,7 +165,8 @@ void TestConvert::everyKindAndUnit() {
               connections));
   write(QStringLiteral("P.SCN"), nomination("<node type=\"entry\" id=\"in\"><pressure bound=\"lower\" value=\"40\" "
                                             "unit=\"bar\"/><flow bound=\"both\" value=\"0.785\" unit=\"kg_per_s\"/></node>" +
-                                            flow("out", "exit", "both", "160")));
+                                            flow("out", "exit", "both", "160") +
+                                            "<pipe id=\"pipe_1\"><soilTemperature value=\"38\" unit=\"Celsius\"/></pipe>"));
   write(QStringLiteral("P.cs"),
         stations("<compressorStation id=\"compressorStation_1\"><compressors><turboCompressor drive=\"G\" id=\"T\"/>"
                  "<pistonCompressor drive=\"E\" id=\"K\"/></compressors><drives><gasTurbine id=\"G\"/><electricMotor "
@@ -199,6 +200,7 @@ void TestConvert::everyKindAndUnit() {
                                                           {"out", "qmax", "5"},
                                                           {"out", "qset", "160"},
                                                           {"pipe_1", "length", "734.2"},
+                                                          {"pipe_1", "tsoil", "311.15"},
                                                           {"pipe_1", "diameter", "900"},
                                                           {"pipe_1", "roughness", "0.0501"},
                                                           {"pipe_1", "alias", "007"},
@@ -493,6 +495,17 @@ void TestConvert::whatIsThereStays() {
   QVERIFY(opened(path(QStringLiteral("case/a/a.scen.jsn"))).contains(QStringLiteral("e[qset] = -7")));
   QCOMPARE(contents(path(QStringLiteral("case/a/solverconfig.jsn"))), QByteArray("{\"tamb\":290}\n"));
   QCOMPARE(contents(path(QStringLiteral("case/plotsettings.ini"))), QByteArray("mine"));
+  // Another case, and a scenario that somebody made.
+  write(QStringLiteral("other/other_one.geom"), "[node]\nname\n");
+  write(QStringLiteral("made/a/mine.scen"), "name;property;value\n");
+  for (const char *taken : {"other", "made"}) {
+    GasLibImport::Request third = first;
+    third.to = path(QLatin1String(taken));
+    third.overwrites = false;
+    const QStringList mine = census(third.to);
+    QVERIFY(!GasLibImport::import(third).ok);
+    QCOMPARE(census(third.to), mine);
+  }
   // The same for cases that are written in the other form.
   const QString text = path(QStringLiteral("text"));
   QVERIFY(CaseConverter::convert(path(QStringLiteral("case")), text).ok);
