@@ -51,7 +51,7 @@ bool StagedFolder::open(QString *reason) {
 }
 
 QString StagedFolder::path(const QString &name) const {
-  const QString path = within(m_room->filePath(QStringLiteral("new")), name);
+  QString path = within(m_room->filePath(QStringLiteral("new")), name);
   QDir().mkpath(QFileInfo(path).path());
   return path;
 }
