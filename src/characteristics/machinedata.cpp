@@ -47,6 +47,28 @@ void take(const QString &machine, const QString &what, const std::vector<FitPoin
     findings.push_back(warning(machine, tr("no fit of the %1: %2").arg(what, quality.reason)));
 }
 
+/// The same for power limits. What was measured at one temperature, as where it does not matter, is a function of the speed
+/// alone.
+void takePower(const QString &drive, const std::vector<FitPoint> &points, std::optional<Biquadratic> &power,
+               Fits::Quality &quality, Findings &findings) {
+  const QString what = tr("power limit");
+  const bool isAtOneTemperature =
+      std::all_of(points.begin(), points.end(), [&points](const FitPoint &point) { return point.x == points.front().x; });
+  if (!isAtOneTemperature) {
+    take(drive, what, points, power, quality, findings);
+    return;
+  }
+  std::vector<FitPoint> bySpeed;
+  for (const FitPoint &point : points)
+    bySpeed.push_back({point.y, 0.0, point.z});
+  std::optional<Quadratic> overSpeed;
+  take(drive, what, bySpeed, overSpeed, quality, findings);
+  if (overSpeed) {
+    power = Biquadratic();
+    std::copy(overSpeed->c.begin(), overSpeed->c.end(), power->c.begin());
+  }
+}
+
 /// The points that a machine can have; tells of the others.
 std::vector<MeasuredPoint> soundOnes(const QString &name, const std::vector<MeasuredPoint> &points, Findings &findings) {
   std::vector<MeasuredPoint> sound;
@@ -145,7 +167,7 @@ Findings Drive::fit() {
   std::vector<FitPoint> rates;
   for (const EnergyPoint &point : energyPoints)
     rates.push_back({point.power, 0.0, point.rate});
-  take(name, tr("power limit"), powers, power, powerQuality, findings);
+  takePower(name, powers, power, powerQuality, findings);
   take(name, tr("energy rate"), rates, energy, energyQuality, findings);
   if (!power)
     findings.push_back(warning(name, tr("there are neither coefficients nor enough points for its power limit")));

@@ -1,5 +1,6 @@
 #include "machinexml.h"
 
+#include <base/fileaccess.h>
 #include <characteristics/machinereader.h>
 #include <io/tablefile.h>
 
@@ -29,6 +30,8 @@ public:
       takeDrive(row, Drive::Kind::GasTurbine);
     else if (row.type == QLatin1String("gas engine"))
       takeDrive(row, Drive::Kind::GasEngine);
+    else if (row.type == QLatin1String("steam turbine"))
+      takeDrive(row, Drive::Kind::SteamTurbine);
     else if (row.type == QLatin1String("electric motor"))
       takeDrive(row, Drive::Kind::ElectricMotor);
     else
@@ -152,15 +155,17 @@ MachineReader::Result readTables(const QString &path) {
 MachineReader::Result MachineReader::read(const QString &path) {
   QFile file(path);
   Result result;
-  if (!file.open(QIODevice::ReadOnly)) {
+  QString reason;
+  if (!FileAccess::openForReading(file, FileAccess::Source::Workspace, FileAccess::LargestConfiguration, &reason)) {
     result.findings.push_back(
-        {Finding::Severity::Warning, path, 0, tr("The machine data cannot be read: %1").arg(file.errorString()), QString()});
+        {Finding::Severity::Warning, path, 0, tr("The machine data cannot be read: %1").arg(reason), QString()});
     return result;
   }
   constexpr qint64 Looked = 1024;
-  const QByteArray beginning = file.peek(Looked).trimmed();
+  const QByteArray beginning = file.read(Looked).trimmed();
+  file.close();
   const bool isXml = beginning.startsWith('<') || beginning.startsWith("\xEF\xBB\xBF<");
-  result = isXml ? MachineXml(path).read(file) : readTables(path);
+  result = isXml ? MachineXml(path).read() : readTables(path);
   const auto tell = [&](Findings findings) {
     for (Finding &finding : findings) {
       finding.file = path;

@@ -10,6 +10,8 @@ QString tr(const char *text) {
   return QCoreApplication::translate("MachineXml", text);
 }
 
+constexpr double Freezing = 273.15; // K
+
 /// To the units of machine data; 0 for a unit that is not known.
 double factorOf(const QString &unit) {
   static const std::pair<QLatin1String, double> factors[] = {{QLatin1String(""), 1.0},
@@ -26,7 +28,8 @@ double factorOf(const QString &unit) {
                                                              {QLatin1String("MW"), 1e3},
                                                              {QLatin1String("W"), 1e-3},
                                                              {QLatin1String("C"), 1.0},
-                                                             {QLatin1String("Celsius"), 1.0}};
+                                                             {QLatin1String("Celsius"), 1.0},
+                                                             {QLatin1String("percent"), 0.01}};
   for (const auto &[name, factor] : factors) {
     if (unit == name)
       return factor;
@@ -46,13 +49,20 @@ double MachineXml::valueHere() {
   return std::nan("");
 }
 
-double MachineXml::number() {
-  double value = valueHere();
+double MachineXml::numberHere() {
+  const double value = valueHere();
   const QString unit = attribute("unit");
   if (const double factor = factorOf(unit); factor != 0.0)
-    value *= factor;
-  else if (!std::isnan(value))
-    tell(tr("the unit \"%1\" of %2 is not known, the value is taken as it stands").arg(unit, m_xml.name().toString()));
+    return value * factor;
+  if (unit == QLatin1String("K"))
+    return value - Freezing;
+  if (!std::isnan(value))
+    tell(tr("the unit \"%1\" of %2 is not known, the value is left out").arg(unit, m_xml.name().toString()));
+  return std::nan("");
+}
+
+double MachineXml::number() {
+  const double value = numberHere();
   m_xml.skipCurrentElement();
   return value;
 }
@@ -70,9 +80,9 @@ void MachineXml::skipUnknown() {
   m_xml.skipCurrentElement();
 }
 
-MachineReader::Result MachineXml::read(QIODevice &device) {
+MachineReader::Result MachineXml::read() {
   m_result.ok = true;
-  if (start(device, QStringLiteral("compressorStations"), QStringLiteral("CompressorStations"))) {
+  if (start(QStringLiteral("compressorStations"), QStringLiteral("CompressorStations"))) {
     while (m_xml.readNextStartElement()) {
       if (m_xml.name() == QLatin1String("compressorStation"))
         readStation();
@@ -170,7 +180,7 @@ void MachineXml::readTurbo() {
     } else if (m_xml.name() == QLatin1String("characteristicDiagramMeasurements")) {
       while (m_xml.readNextStartElement()) {
         if (m_xml.name() == QLatin1String("adiabaticEfficiency"))
-          readPoints(machine.points, valueHere());
+          readPoints(machine.points, numberHere());
         else
           skipUnknown();
       }
@@ -213,6 +223,8 @@ void MachineXml::readDrives() {
   while (m_xml.readNextStartElement()) {
     if (m_xml.name() == QLatin1String("gasTurbine"))
       readDrive(Drive::Kind::GasTurbine);
+    else if (m_xml.name() == QLatin1String("steamTurbine"))
+      readDrive(Drive::Kind::SteamTurbine);
     else if (m_xml.name() == QLatin1String("gasDrivenMotor"))
       readDrive(Drive::Kind::GasEngine);
     else if (m_xml.name() == QLatin1String("electricMotor"))
@@ -228,20 +240,6 @@ void MachineXml::readDrive(Drive::Kind kind) {
   drive.kind = kind;
   Biquadratic power;
   Quadratic energy;
-  const auto readPair = [this](const char *first, const char *second, const char *third) {
-    std::array<double, 3> values{};
-    while (m_xml.readNextStartElement()) {
-      if (m_xml.name() == QLatin1String(first))
-        values[0] = number();
-      else if (m_xml.name() == QLatin1String(second))
-        values[1] = number();
-      else if (m_xml.name() == QLatin1String(third))
-        values[2] = number();
-      else
-        skipUnknown();
-    }
-    return values;
-  };
   while (m_xml.readNextStartElement()) {
     const int ofPower = coefficient("power_fun_coeff_", power.c.size());
     const int ofEnergy = coefficient("energy_rate_fun_coeff_", energy.c.size());
@@ -252,20 +250,76 @@ void MachineXml::readDrive(Drive::Kind kind) {
       energy.c[static_cast<std::size_t>(ofEnergy)] = number();
       drive.energy = energy;
     } else if (m_xml.name() == QLatin1String("maximalPowerMeasurements")) {
-      while (m_xml.readNextStartElement()) {
-        const auto values = readPair("speed", "ambientTemperature", "maximalPower");
-        if (std::isfinite(values[0] + values[1] + values[2]))
-          drive.powerPoints.push_back({values[0], values[1], values[2]});
-      }
+      readPowerPoints(drive);
     } else if (m_xml.name() == QLatin1String("specificEnergyConsumptionMeasurements")) {
-      while (m_xml.readNextStartElement()) {
-        const auto values = readPair("compressorPower", "fuelConsumption", "");
-        if (std::isfinite(values[0] + values[1]))
-          drive.energyPoints.push_back({values[0], values[1]});
-      }
+      readEnergyPoints(drive);
     } else {
       skipUnknown();
     }
   }
   m_result.data.drives.push_back(std::move(drive));
+}
+
+/// The measurements stand under the ambient temperature at which they were made, or state it themselves; where the power
+/// does not depend on it nobody states it.
+void MachineXml::readPowerPoints(Drive &drive) {
+  while (m_xml.readNextStartElement()) {
+    if (m_xml.name() == QLatin1String("measurement")) {
+      readPowerPoint(drive, MachineData::UsualTemperature);
+    } else if (m_xml.name() == QLatin1String("ambientTemperature")) {
+      const double temperature = numberHere();
+      while (m_xml.readNextStartElement()) {
+        if (m_xml.name() == QLatin1String("measurement"))
+          readPowerPoint(drive, temperature);
+        else
+          skipUnknown();
+      }
+    } else {
+      skipUnknown();
+    }
+  }
+}
+
+void MachineXml::readPowerPoint(Drive &drive, double temperature) {
+  const auto line = static_cast<int>(m_xml.lineNumber());
+  std::optional<double> speed;
+  std::optional<double> power;
+  while (m_xml.readNextStartElement()) {
+    if (m_xml.name() == QLatin1String("speed"))
+      speed = number();
+    else if (m_xml.name() == QLatin1String("maximalPower"))
+      power = number();
+    else if (m_xml.name() == QLatin1String("ambientTemperature"))
+      temperature = number();
+    else
+      skipUnknown();
+  }
+  if (!speed || !power)
+    tell(tr("%1: a measurement needs its speed and its power; it is left out").arg(drive.name), line);
+  else if (std::isfinite(*speed + *power + temperature))
+    drive.powerPoints.push_back({*speed, temperature, *power});
+}
+
+void MachineXml::readEnergyPoints(Drive &drive) {
+  while (m_xml.readNextStartElement()) {
+    if (m_xml.name() != QLatin1String("measurement")) {
+      skipUnknown();
+      continue;
+    }
+    const auto line = static_cast<int>(m_xml.lineNumber());
+    std::optional<double> power;
+    std::optional<double> rate;
+    while (m_xml.readNextStartElement()) {
+      if (m_xml.name() == QLatin1String("compressorPower"))
+        power = number();
+      else if (m_xml.name() == QLatin1String("fuelConsumption"))
+        rate = number();
+      else
+        skipUnknown();
+    }
+    if (!power || !rate)
+      tell(tr("%1: a measurement needs its power and its consumption; it is left out").arg(drive.name), line);
+    else if (std::isfinite(*power + *rate))
+      drive.energyPoints.push_back({*power, *rate});
+  }
 }

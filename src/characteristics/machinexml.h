@@ -6,9 +6,10 @@
 /// The XML of compressor stations of public gas network instances (namespace http://gaslib.zib.de/CompressorStations).
 class MachineXml : private GasLibXml {
 public:
-  using GasLibXml::GasLibXml;
+  explicit MachineXml(const QString &path)
+      : GasLibXml(path, FileAccess::Source::Workspace) {}
 
-  MachineReader::Result read(QIODevice &device);
+  MachineReader::Result read();
 
 private:
   void readStation();
@@ -17,12 +18,17 @@ private:
   void readPiston();
   void readDrives();
   void readDrive(Drive::Kind kind);
+  void readPowerPoints(Drive &drive);
+  void readPowerPoint(Drive &drive, double temperature);
+  void readEnergyPoints(Drive &drive);
   /// The numbers of a "measurement" by the names of its children.
   MeasuredPoint readPoint(double efficiency);
   void readPoints(std::vector<MeasuredPoint> &points, double efficiency);
   /// The number that the current element states; no number, and a message, where it states none.
   double valueHere();
-  /// The same in our units, and past the element.
+  /// The same in our units; of the current element, which is not left.
+  double numberHere();
+  /// The same, and past the element.
   double number();
   /// "head_coeff_3" for "head_coeff_" gives 2; -1 for another name or a number beyond the count.
   int coefficient(const char *prefix, std::size_t count) const;

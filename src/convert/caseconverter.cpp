@@ -1,5 +1,7 @@
-#include "wholefile.h"
+#include "stagedfolder.h"
 
+#include <base/fileaccess.h>
+#include <base/wholefile.h>
 #include <io/networkfileconverter.h>
 
 #include <QCoreApplication>
@@ -15,42 +17,93 @@ QString tr(const char *text) {
   return QCoreApplication::translate("CaseConverter", text);
 }
 
-} // namespace
+/// What the case names is read inside of it alone while this lives.
+class Confinement {
+public:
+  explicit Confinement(const QString &folder) { FileAccess::confineTo(folder); }
+  ~Confinement() { FileAccess::confineTo(QString()); }
+  Confinement(const Confinement &) = delete;
+  Confinement &operator=(const Confinement &) = delete;
+};
 
-CaseConverter::Result CaseConverter::convert(const QString &from, const QString &to) {
-  Result result;
-  const auto fail = [&result](const QString &reason) {
+/// Writes the files of a case into a staged folder.
+class Conversion {
+public:
+  Conversion(const QDir &source, const StagedFolder &target)
+      : m_source(source)
+      , m_target(target) {
+    result.ok = true;
+  }
+
+  void run() {
+    const auto filter = QDir::Files | QDir::System; // pipes, devices and broken links are told of
+    for (QDirIterator files(m_source.absolutePath(), filter, QDirIterator::Subdirectories); files.hasNext();) {
+      const QString path = files.next();
+      const QString name = m_source.relativeFilePath(path);
+      const QString why = QFileInfo(path).isFile() ? FileAccess::confinementFault(path) : tr("is not a regular file");
+      if (!why.isEmpty()) {
+        result.findings.push_back(
+            {Finding::Severity::Warning, path, 0, tr("%1 is left out: it %2").arg(name, why), QString()});
+        result.report.drop(tr("file"), why);
+      } else if (NetworkFileConverter::isNetworkFile(name)) {
+        convert(path, NetworkFileConverter::otherForm(name));
+      } else {
+        copy(path, name);
+      }
+    }
+    if (result.ok && result.files == 0)
+      fail(tr("%1 holds no network file").arg(m_source.path()));
+  }
+
+  void fail(const QString &reason) {
     result.ok = false;
     result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, QString()});
-  };
-  const QDir source(from);
-  const QDir target(to); // either may be relative to where the program runs
-  result.ok = true;
-  if (QFileInfo(to).absoluteFilePath().startsWith(source.absolutePath() + QLatin1Char('/')) ||
-      QFileInfo(from) == QFileInfo(to)) {
-    fail(tr("%1 lies in the folder that is converted").arg(to));
-    return result;
   }
-  for (QDirIterator files(source.absolutePath(), QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
-    const QString path = files.next();
-    const QString name = source.relativeFilePath(path);
-    const QString copied = target.filePath(name);
-    if (!target.mkpath(QFileInfo(name).path())) {
-      fail(tr("Cannot make the folder of %1").arg(copied));
-      continue;
-    }
-    if (!NetworkFileConverter::isNetworkFile(name)) {
-      QString reason;
-      if (!WholeFile::copy(path, copied, &reason))
-        fail(reason);
-      continue;
-    }
-    NetworkFileConverter::Result converted = NetworkFileConverter::convert(path, NetworkFileConverter::otherForm(copied));
+
+  CaseConverter::Result result;
+
+private:
+  void convert(const QString &path, const QString &name) {
+    NetworkFileConverter::Result converted = NetworkFileConverter::convert(path, m_target.path(name));
     result.ok = result.ok && converted.ok;
     result.files += converted.ok ? 1 : 0;
-    append(result.findings, converted.findings);
+    result.report.add(converted.report);
+    result.report.convert(tr("file"), tr("to the other form"));
+    append(result.findings, std::move(converted.findings));
   }
-  if (result.ok && result.files == 0)
-    fail(tr("%1 holds no network file").arg(from));
-  return result;
+
+  void copy(const QString &path, const QString &name) {
+    QString reason;
+    if (WholeFile::copy(path, m_target.path(name), &reason))
+      result.report.take(tr("file"));
+    else
+      fail(reason);
+  }
+
+  QDir m_source;
+  const StagedFolder &m_target;
+};
+
+} // namespace
+
+CaseConverter::Result CaseConverter::convert(const QString &from, const QString &to, bool overwrites) {
+  const QDir source(from);
+  StagedFolder target(to);
+  Conversion conversion(source, target);
+  QString reason;
+  const QString absolute = QDir(to).absolutePath();
+  if (absolute.startsWith(source.absolutePath() + QLatin1Char('/')) ||
+      QFileInfo(absolute) == QFileInfo(source.absolutePath()))
+    conversion.fail(tr("%1 lies in the folder that is converted").arg(to));
+  else if (!source.exists())
+    conversion.fail(tr("%1 is no folder").arg(from));
+  else if (!target.open(&reason))
+    conversion.fail(reason);
+  if (!conversion.result.ok)
+    return std::move(conversion.result);
+  const Confinement confinement(source.absolutePath());
+  conversion.run();
+  if (conversion.result.ok && !target.commit(overwrites, {}, &reason))
+    conversion.fail(reason);
+  return std::move(conversion.result);
 }

@@ -1,186 +1,249 @@
-#include "gaslibnetwork.h"
-#include "wholefile.h"
+#include "gaslibnomination.h"
+#include "stagedfolder.h"
+#include "stationdrives.h"
+
+#include <base/wholefile.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QHash>
 #include <QJsonDocument>
-#include <QJsonObject>
 
-#include <algorithm>
 #include <convert/gaslibimport.h>
-#include <iterator>
 
 namespace {
+
+using Record = NetworkFileConverter::Record;
+using SetPoints = std::vector<NetworkFileConverter::SetPoint>;
 
 QString tr(const char *text) {
   return QCoreApplication::translate("GasLibImport", text);
 }
 
-/// The path that was named, else one beside the network when it is there.
-QString companion(const QString &named, const QString &network, const QString &suffix) {
-  if (!named.isEmpty())
-    return named;
+const QString SolverConfiguration = QStringLiteral("solverconfig.jsn");
+
+/// A file beside the network that has its base name and this suffix in any case; empty when there is none.
+QString companion(const QString &network, const QString &suffix) {
   const QFileInfo info(network);
-  const QString path = info.path() + QLatin1Char('/') + info.completeBaseName() + suffix;
-  return QFileInfo::exists(path) ? path : QString();
+  const QString wanted = info.completeBaseName() + suffix;
+  const QStringList names = info.dir().entryList(QDir::Files, QDir::Name);
+  for (const QString &name : names) {
+    if (name.compare(wanted, Qt::CaseInsensitive) == 0)
+      return info.dir().filePath(name);
+  }
+  return QString();
+}
+
+/// What companion files begin with: the program takes the part before the first dot of a name.
+QString baseOf(const QString &name) {
+  return QString(name).replace(QLatin1Char('.'), QLatin1Char('_'));
 }
 
 QByteArray json(std::initializer_list<QPair<QString, QJsonValue>> members) {
   return QJsonDocument(QJsonObject(members)).toJson();
 }
 
-using Record = NetworkFileConverter::Record;
+/// Brings the parts of an instance together.
+class Import {
+public:
+  explicit Import(const GasLibImport::Request &request)
+      : m_request(request)
+      , m_net(request.network)
+      , m_case(QFileInfo(QDir(request.to).absolutePath()).fileName())
+      , m_folder(request.to) {}
 
-QString valueOf(const Record &record, PropertyKey key) {
-  const auto found = std::find_if(record.values.begin(), record.values.end(),
-                                  [key](const Property &property) { return property.key == key; });
-  return found == record.values.end() ? QString() : found->value.toString();
-}
-
-/// The gas of such a network stands at its supplies; the first one stands for all.
-Record gasOf(const std::vector<Record> &nodes) {
-  static const QStringList ofGas{QStringLiteral("hs"), QStringLiteral("rhon"), QStringLiteral("molarmass"),
-                                 QStringLiteral("pcrit"), QStringLiteral("tcrit")};
-  Record gas{QStringLiteral("gas"), QStringLiteral("gas"), {}};
-  for (const Record &node : nodes) {
-    std::copy_if(node.values.begin(), node.values.end(), std::back_inserter(gas.values),
-                 [](const Property &property) { return ofGas.contains(property.key.name()); });
-    if (!gas.values.empty())
-      break;
+  GasLibImport::Result run() {
+    m_result.ok = readNetwork() && readNominations() && readStations() && write();
+    m_result.nodes = static_cast<int>(m_net.nodes.size());
+    m_result.edges = static_cast<int>(m_net.edges.size());
+    m_result.drives = static_cast<int>(m_drives.size());
+    return std::move(m_result);
   }
-  return gas;
-}
 
-/// A drive as an element. It takes its gas where the station says, else at its inlet, and stands on its line.
-/// \param from, to the station's ends; null for one that the network lacks
-/// \param share of the way between them at which it stands
-Record driveOf(const GasLibNetwork::Station::Drive &source, const Record &station, const Record *from, const Record *to,
-               double share) {
-  static const PropertyKey node1 = PropertyKey::intern("node1");
-  static const PropertyKey gasNode = PropertyKey::intern("gasnode");
-  Record drive{QStringLiteral("D_%1_%2").arg(station.name, source.name), QStringLiteral("drive"), {}};
-  const auto set = [&drive](const char *property, const QString &value) {
-    drive.values.push_back({PropertyKey::intern(property), PropertyText(value)});
+private:
+  struct Scenario {
+    QString name;
+    SetPoints setPoints;
   };
-  const QString fuel = valueOf(station, gasNode);
-  set("gasnode", fuel.isEmpty() ? valueOf(station, node1) : fuel);
-  set("driven", station.name);
-  set("kind", source.kind);
-  set("machine", source.name);
-  set("vis.layer", QStringLiteral("stations"));
-  if (from == nullptr || to == nullptr)
-    return drive;
-  for (const char *axis : {"x", "y"}) {
-    constexpr int Digits = 14; // what the sum adds beyond is noise
-    const PropertyKey key = PropertyKey::intern(axis);
-    const double at = valueOf(*from, key).toDouble() * (1.0 - share) + valueOf(*to, key).toDouble() * share;
-    drive.values.push_back({key, PropertyText::ofNumber(at, Digits)});
-  }
-  return drive;
-}
 
-/// The drives of all stations, several of one behind one another.
-std::vector<Record> drivesOf(GasLibNetwork &net, GasLibNetwork &machines) {
-  static const PropertyKey node1 = PropertyKey::intern("node1");
-  static const PropertyKey node2 = PropertyKey::intern("node2");
-  QHash<QString, const Record *> nodes;
-  for (const Record &node : net.nodes)
-    nodes.insert(node.name, &node);
-  QHash<QString, Record *> edges;
-  for (Record &edge : net.edges)
-    edges.insert(edge.name, &edge);
-  std::vector<Record> drives;
-  for (const GasLibNetwork::Station &station : machines.stations) {
-    Record *edge = edges.value(station.name);
-    if (edge == nullptr || edge->type != QLatin1String("compressor")) {
-      machines.tell(tr("%1 is no compressor station of the network; it gets no drives").arg(station.name), station.line);
-      continue;
-    }
-    constexpr double First = 0.7; // of the way, where a single drive would be put
-    constexpr double Last = 0.95;
-    const double step = (Last - First) / std::max(1.0, static_cast<double>(station.drives.size()));
-    double share = First;
-    const std::size_t before = drives.size();
-    for (const GasLibNetwork::Station::Drive &drive : station.drives) {
-      drives.push_back(driveOf(drive, *edge, nodes.value(valueOf(*edge, node1)), nodes.value(valueOf(*edge, node2)), share));
-      share += step;
-    }
-    if (!station.compressor.isEmpty())
-      edge->values.push_back({PropertyKey::intern("machine"), PropertyText(station.compressor)});
-    if (drives.size() > before)
-      edge->values.push_back({PropertyKey::intern("drive"), PropertyText(drives[before].name)});
+  bool fail(const QString &reason) {
+    m_result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, QString()});
+    return false;
   }
-  return drives;
-}
 
-/// Writes the case; an empty text when it did, else the reason.
-QString write(const QDir &folder, const GasLibNetwork &net, const GasLibNetwork &nomination,
-              const std::vector<Record> &drives, const QString &machines) {
-  const QString name = QFileInfo(folder.absolutePath()).fileName();
-  if (!folder.mkpath(QStringLiteral("N1")))
-    return tr("Cannot make the folder %1").arg(folder.path());
-  std::vector<Record> records = net.nodes;
-  records.insert(records.end(), drives.begin(), drives.end());
-  records.insert(records.end(), net.edges.begin(), net.edges.end());
-  QString reason;
-  QString database;
-  if (!machines.isEmpty()) {
-    database = QStringLiteral("../") + name + QStringLiteral(".cs");
-    if (!WholeFile::copy(machines, folder.filePath(name + QStringLiteral(".cs")), &reason))
-      return reason;
+  /// Takes what a reader found, which had to be read.
+  bool take(GasLibReader &reader, bool isRead, const QString &path, const QString &what) {
+    append(m_result.findings, std::move(reader.findings));
+    m_result.report.add(reader.report);
+    return isRead || fail(tr("%1 cannot be taken as %2: nothing is written").arg(path, what));
   }
-  const QByteArray geometry = "geometry configuration\n" + name.toUtf8() + '\n' + name.toUtf8() + ".geom\n0\n{}\n";
-  const QByteArray scenario = json({{QStringLiteral("workDir"), QStringLiteral("N1")},
-                                    {QStringLiteral("scenFile"), QStringLiteral("N1.scen")},
-                                    {QStringLiteral("gasFile"), QStringLiteral("N1.gas")},
-                                    {QStringLiteral("comprDatabase"), database}});
-  const auto file = [&folder](const QString &path) {
-    return folder.filePath(path);
-  };
-  if (NetworkFileConverter::write(file(name + QStringLiteral(".geom.jsn")), records, &reason) &&
-      WholeFile::write(file(name + QStringLiteral(".geom.cfg")), geometry, &reason) &&
-      NetworkFileConverter::write(file(QStringLiteral("N1/N1.scen.jsn")), nomination.setPoints, &reason) &&
-      NetworkFileConverter::write(file(QStringLiteral("N1/N1.gas.jsn")), {gasOf(net.nodes)}, &reason) &&
-      WholeFile::write(file(QStringLiteral("N1/scenconfig.jsn")), scenario, &reason) &&
-      WholeFile::write(file(QStringLiteral("N1/solverconfig.jsn")), "{}\n", &reason))
-    return QString();
-  return reason;
-}
+
+  bool readNetwork() {
+    const bool isRead = m_net.read();
+    return take(m_net, isRead, m_request.network, tr("a network"));
+  }
+
+  /// Folders become the nominations that lie in them.
+  QStringList nominationFiles() {
+    QStringList files;
+    for (const QString &path : m_request.nominations) {
+      if (!QFileInfo(path).isDir()) {
+        files.append(path);
+        continue;
+      }
+      const QDir folder(path);
+      const QStringList found = folder.entryList({QStringLiteral("*.scn")}, QDir::Files, QDir::Name);
+      if (found.isEmpty())
+        fail(tr("%1 holds no nomination (.scn)").arg(path));
+      for (const QString &name : found)
+        files.append(folder.filePath(name));
+    }
+    if (m_request.nominations.isEmpty()) {
+      if (const QString beside = companion(m_request.network, QStringLiteral(".scn")); !beside.isEmpty())
+        files.append(beside);
+    }
+    return files;
+  }
+
+  bool readNominations() {
+    const std::size_t before = m_result.findings.size();
+    const QStringList files = nominationFiles();
+    if (m_result.findings.size() > before)
+      return false;
+    for (const QString &path : files) {
+      GasLibNomination nomination(path, m_net);
+      const bool isRead = nomination.read();
+      if (!take(nomination, isRead, path, tr("a nomination of this network")))
+        return false;
+      const bool isOnly = nomination.scenarios.size() == 1;
+      for (GasLibNomination::Scenario &scenario : nomination.scenarios) {
+        const QString file = QFileInfo(path).completeBaseName();
+        if (!add({isOnly ? file : file + QLatin1Char('_') + scenario.id, std::move(scenario.setPoints)}))
+          return false;
+      }
+    }
+    return !m_scenarios.empty() || add({QStringLiteral("N1"), {}}); // so that the machines can be opened
+  }
+
+  bool add(Scenario scenario) {
+    scenario.name.replace(QLatin1Char('/'), QLatin1Char('_')).replace(QLatin1Char('\\'), QLatin1Char('_'));
+    if (scenario.name.isEmpty() || scenario.name.startsWith(QLatin1Char('.')))
+      return fail(tr("\"%1\" cannot be the name of a scenario: nothing is written").arg(scenario.name));
+    if (m_result.scenarios.contains(scenario.name, Qt::CaseInsensitive))
+      return fail(tr("Two nominations are named %1: nothing is written").arg(scenario.name));
+    m_result.scenarios.append(scenario.name);
+    m_result.setPoints += static_cast<int>(scenario.setPoints.size());
+    m_scenarios.push_back(std::move(scenario));
+    return true;
+  }
+
+  bool readStations() {
+    m_machines =
+        m_request.compressors.isEmpty() ? companion(m_request.network, QStringLiteral(".cs")) : m_request.compressors;
+    if (m_machines.isEmpty())
+      return true;
+    GasLibStations stations(m_machines);
+    bool isRead = stations.read();
+    if (isRead) {
+      const std::size_t all = stations.stations.size();
+      m_drives = StationDrives::make(m_net, stations);
+      isRead = all == 0 || stations.report.of(QStringLiteral("compressorStation")).dropped < static_cast<int>(all);
+    }
+    m_result.report.take(tr("drive"), static_cast<int>(m_drives.size()));
+    return take(stations, isRead, m_machines, tr("compressor stations of this network"));
+  }
+
+  bool write() {
+    QString reason;
+    if (!m_folder.open(&reason))
+      return fail(reason);
+    if (!isFreeForUs(&reason) || !writeCase(&reason))
+      return fail(reason);
+    QStringList kept{baseOf(m_case) + QStringLiteral(".geom.cfg")};
+    for (const Scenario &scenario : m_scenarios) {
+      if (!writeScenario(scenario, &reason))
+        return fail(reason);
+      kept.append(scenario.name + QLatin1Char('/') + SolverConfiguration);
+    }
+    return m_folder.commit(m_request.overwrites, kept, &reason) || fail(reason);
+  }
+
+  /// Cases and scenarios that are there belong to somebody, whatever they hold.
+  bool isFreeForUs(QString *reason) {
+    if (m_request.overwrites)
+      return true;
+    const QString geometry = baseOf(m_case) + QStringLiteral(".geom.jsn");
+    const QStringList present =
+        QDir(m_request.to).entryList({QStringLiteral("*.geom"), QStringLiteral("*.geom.js*n")}, QDir::Files);
+    for (const QString &name : present) {
+      if (name == geometry)
+        continue;
+      *reason = tr("%1 holds the geometry %2 already; the new one would be %3").arg(m_request.to, name, geometry);
+      return false;
+    }
+    for (const Scenario &scenario : m_scenarios) {
+      const QString ours = scenario.name + QLatin1Char('/') + baseOf(scenario.name) + QStringLiteral(".scen.jsn");
+      if (m_folder.isThere(ours) || !m_folder.isThere(scenario.name))
+        continue;
+      *reason = tr("%1 holds a folder %2 already, which is no scenario of ours").arg(m_request.to, scenario.name);
+      return false;
+    }
+    return true;
+  }
+
+  bool writeFile(const QString &name, const QByteArray &content, QString *reason) {
+    return WholeFile::write(m_folder.path(name), FileAccess::Source::Trusted, content, reason);
+  }
+
+  bool writeCase(QString *reason) {
+    std::vector<Record> records = m_net.nodes;
+    records.insert(records.end(), m_drives.begin(), m_drives.end());
+    records.insert(records.end(), m_net.edges.begin(), m_net.edges.end());
+    const QString base = baseOf(m_case);
+    const QByteArray configuration = "geometry configuration\n" + m_case.toUtf8() + '\n' + base.toUtf8() + ".geom\n0\n" +
+                                     QJsonDocument(m_net.information).toJson(QJsonDocument::Compact) + '\n';
+    if (!m_machines.isEmpty()) {
+      const auto content = FileAccess::readWhole(m_machines, FileAccess::Source::Trusted, GasLibXml::LargestFile, reason);
+      if (!content || !writeFile(base + QStringLiteral(".cs"), *content, reason))
+        return false;
+    }
+    return NetworkFileConverter::write(m_folder.path(base + QStringLiteral(".geom.jsn")), records, reason) &&
+           writeFile(base + QStringLiteral(".geom.cfg"), configuration, reason);
+  }
+
+  bool writeScenario(const Scenario &scenario, QString *reason) {
+    const QString base = baseOf(scenario.name);
+    const QString folder = scenario.name + QLatin1Char('/');
+    const QByteArray configuration =
+        json({{QStringLiteral("workDir"), scenario.name},
+              {QStringLiteral("scenFile"), base + QStringLiteral(".scen")},
+              {QStringLiteral("gasFile"), base + QStringLiteral(".gas")},
+              {QStringLiteral("comprDatabase"),
+               m_machines.isEmpty() ? QString() : QStringLiteral("../") + baseOf(m_case) + QStringLiteral(".cs")}});
+    return NetworkFileConverter::write(m_folder.path(folder + base + QStringLiteral(".scen.jsn")), scenario.setPoints,
+                                       reason) &&
+           NetworkFileConverter::write(m_folder.path(folder + base + QStringLiteral(".gas.jsn")),
+                                       std::vector<Record>{m_net.gas()}, reason) &&
+           writeFile(folder + QStringLiteral("scenconfig.jsn"), configuration, reason) &&
+           writeFile(folder + SolverConfiguration, "{}\n", reason);
+  }
+
+  const GasLibImport::Request &m_request;
+  GasLibImport::Result m_result;
+  GasLibNetwork m_net;
+  QString m_case;
+  StagedFolder m_folder;
+  std::vector<Scenario> m_scenarios;
+  QString m_machines; ///< path, empty for none
+  std::vector<Record> m_drives;
+};
 
 } // namespace
 
-GasLibImport::Result GasLibImport::import(const QString &network, const QString &scenario, const QString &compressors,
-                                          const QString &to) {
-  Result result;
-  const auto fail = [&result](const QString &reason) {
-    result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, QString()});
-    return result;
-  };
-  GasLibNetwork net(network);
-  const bool isRead = net.readNetwork();
-  append(result.findings, net.findings);
-  if (!isRead)
-    return fail(tr("%1 holds no network").arg(network));
-  const QString scn = companion(scenario, network, QStringLiteral(".scn"));
-  GasLibNetwork nomination(scn);
-  if (!scn.isEmpty())
-    nomination.readScenario();
-  append(result.findings, nomination.findings);
-  const QString machines = companion(compressors, network, QStringLiteral(".cs"));
-  GasLibNetwork stations(machines);
-  if (!machines.isEmpty())
-    stations.readStations();
-  const std::vector<Record> drives = drivesOf(net, stations);
-  append(result.findings, stations.findings);
-  const QString reason = write(QDir(to), net, nomination, drives, machines);
-  if (!reason.isEmpty())
-    return fail(reason);
-  result.nodes = static_cast<int>(net.nodes.size());
-  result.drives = static_cast<int>(drives.size());
-  result.edges = static_cast<int>(net.edges.size());
-  result.setPoints = static_cast<int>(nomination.setPoints.size());
-  result.ok = true;
-  return result;
+GasLibImport::Result GasLibImport::import(const Request &request) {
+  return Import(request).run();
+}
+
+bool GasLibImport::isNetwork(const QString &name) {
+  return name.endsWith(QStringLiteral(".net"), Qt::CaseInsensitive);
 }

@@ -1,49 +1,56 @@
 #pragma once
 
-#include <io/gaslibxml.h>
-#include <io/networkfileconverter.h>
+#include "gaslibreader.h"
+
+#include <QHash>
+#include <QJsonObject>
 
 #include <vector>
 
-/// Reads the XML of a public network instance into records of our own, converting units.
-class GasLibNetwork : public GasLibXml {
+/// Reads the network of a public instance (".net") into records of our own.
+class GasLibNetwork : public GasLibReader {
 public:
-  using GasLibXml::GasLibXml;
+  using GasLibReader::GasLibReader;
 
-  /// False when the file cannot be used at all. What is wrong is in the findings, with its line.
-  bool readNetwork();
-  bool readScenario();
-  bool readStations();
+  /// False when the file holds no network, or not all of it. What is wrong is in the findings, with its line.
+  bool read();
 
-  /// What a compressor station consists of, apart from the data of its machines.
-  struct Station {
-    struct Drive {
-      QString name;
-      QString kind; ///< "gasTurbine", "gasDrivenMotor" or "electricMotor"
-    };
-    QString name;
-    QString compressor; ///< the first one
-    std::vector<Drive> drives;
-    int line = 0;
-  };
+  /// "source", "sink" or "innode"; empty for a node that is not there.
+  QString kindOf(const QString &node) const { return m_kinds.value(node); }
+  /// "pipe", "valve" and so on; empty for a connection that is not there.
+  QString kindOfConnection(const QString &name) const { return m_connections.value(name); }
+  /// Where gas enters or leaves.
+  int boundaryNodes() const { return m_boundaryNodes; }
+  /// Of the first supply, which stands for all.
+  Record gas() const;
 
-  std::vector<NetworkFileConverter::Record> nodes;
-  std::vector<NetworkFileConverter::Record> edges;
-  std::vector<NetworkFileConverter::SetPoint> setPoints;
-  std::vector<Station> stations;
+  std::vector<Record> nodes;
+  std::vector<Record> edges;
+  QJsonObject information; ///< title, date and documentation
 
 private:
   struct Known {
     const char *element; ///< in the XML
     const char *property;
     const char *unit; ///< in which the property is stored, empty for none
+    bool isNegated = false;
+  };
+  struct Attribute {
+    const char *name; ///< in the XML
+    const char *property;
   };
 
+  void readInformation();
   void readNodes();
   void readConnections();
-  void readRecord(NetworkFileConverter::Record &record, const Known *known, std::size_t count);
-  void readBoundary(const QString &node, bool isEntry);
-  /// The number of the current element in a unit of ours; false and a finding when there is none.
-  bool number(const char *unit, double &value);
-  void readStation();
+  bool isUsable(const QString &kind, bool isKnown, QHash<QString, int> &names);
+  void readAttributes(Record &record, const std::vector<Attribute> &known);
+  void readValues(Record &record, const std::vector<Known> &known);
+  void leaveOutLooseEnds();
+  void placeNodes();
+
+  QHash<QString, QString> m_kinds;                    ///< of nodes, by name
+  QHash<QString, QString> m_connections;              ///< their kinds, by name
+  std::vector<std::pair<QString, int>> m_edgeOrigins; ///< kind in the XML, and line
+  int m_boundaryNodes = 0;
 };

@@ -11,9 +11,41 @@
 
 namespace {
 
-void tell(const Findings &findings) {
+constexpr int Done = 0;
+constexpr int Failed = 1;
+constexpr int Usage = 2;
+
+/// What was noticed to standard error, what was done to standard output.
+int tell(bool ok, const Findings &findings, const QString &done, const ConversionReport &report) {
   for (const Finding &finding : findings)
     std::fprintf(stderr, "%s\n", finding.logText().toLocal8Bit().constData());
+  if (!ok)
+    return Failed;
+  std::printf("%s\n%s", done.toLocal8Bit().constData(), report.text().toLocal8Bit().constData());
+  return std::fflush(stdout) == 0 ? Done : Failed;
+}
+
+int importNetwork(const GasLibImport::Request &request) {
+  const GasLibImport::Result result = GasLibImport::import(request);
+  return tell(result.ok, result.findings,
+              QStringLiteral("%1 nodes, %2 drives, %3 edges, %4 set points of %5 scenarios written: %6")
+                  .arg(result.nodes)
+                  .arg(result.drives)
+                  .arg(result.edges)
+                  .arg(result.setPoints)
+                  .arg(result.scenarios.size())
+                  .arg(result.scenarios.join(QStringLiteral(", "))),
+              result.report);
+}
+
+int convertCase(const QString &from, const QString &to, bool overwrites) {
+  const CaseConverter::Result result = CaseConverter::convert(from, to, overwrites);
+  return tell(result.ok, result.findings, QStringLiteral("%1 network files written").arg(result.files), result.report);
+}
+
+int convertFile(const QString &from, const QString &to) {
+  const NetworkFileConverter::Result result = NetworkFileConverter::convert(from, to);
+  return tell(result.ok, result.findings, QStringLiteral("%1 records written").arg(result.records), result.report);
 }
 
 } // namespace
@@ -26,41 +58,36 @@ int main(int argc, char **argv) {
       QStringLiteral("Converts network files between their two forms, JSON (.jsn) and text.\n"
                      "IN and OUT are network files (.geom, .scen, .gas, .fix, .res, .gaspar, .res.sub, with or\n"
                      "without .jsn), or case folders, all network files of which are written in the other form.\n"
-                     "A public network instance in XML (.net) becomes the case folder OUT."));
+                     "A public network instance in XML (.net) becomes the case folder OUT, each nomination (.scn) a\n"
+                     "scenario of its name. A conversion that fails leaves nothing behind (exit status 1)."));
   parser.addHelpOption();
   parser.addPositionalArgument(QStringLiteral("IN"), QStringLiteral("file or folder"));
   parser.addPositionalArgument(QStringLiteral("OUT"), QStringLiteral("file or folder to be written"));
-  const QCommandLineOption scenario(QStringLiteral("scenario"),
-                                    QStringLiteral("nomination of a .net, else the .scn beside it"), QStringLiteral("FILE"));
+  parser.addPositionalArgument(QStringLiteral("SCN"), QStringLiteral("further nominations of a .net"),
+                               QStringLiteral("[SCN...]"));
+  const QCommandLineOption scenario(
+      QStringLiteral("scenario"),
+      QStringLiteral("nomination of a .net, or a folder of them, else the .scn beside it; may be given several times"),
+      QStringLiteral("FILE"));
   const QCommandLineOption compressors(QStringLiteral("compressors"),
                                        QStringLiteral("compressor stations of a .net, else the .cs beside it"),
                                        QStringLiteral("FILE"));
-  parser.addOptions({scenario, compressors});
+  const QCommandLineOption overwrite(
+      QStringLiteral("overwrite"),
+      QStringLiteral("replace other files of the same names that are in the folder OUT; its solverconfig.jsn stay"));
+  parser.addOptions({scenario, compressors, overwrite});
   parser.process(application);
   const QStringList names = parser.positionalArguments();
-  constexpr int Usage = 2;
-  if (names.size() != 2) {
+  const bool isImport = !names.isEmpty() && GasLibImport::isNetwork(names[0]);
+  const bool isOfImport = names.size() > 2 || parser.isSet(scenario) || parser.isSet(compressors);
+  if (names.size() < 2 || (isOfImport && !isImport)) {
     std::fprintf(stderr, "%s", parser.helpText().toLocal8Bit().constData());
     return Usage;
   }
-  if (names[0].endsWith(QStringLiteral(".net"))) {
-    const GasLibImport::Result result =
-        GasLibImport::import(names[0], parser.value(scenario), parser.value(compressors), names[1]);
-    tell(result.findings);
-    if (result.ok)
-      std::printf("%d nodes, %d drives, %d edges, %d set points written\n", result.nodes, result.drives, result.edges,
-                  result.setPoints);
-    return result.ok ? 0 : 1;
-  }
-  if (QFileInfo(names[0]).isDir()) {
-    const CaseConverter::Result result = CaseConverter::convert(names[0], names[1]);
-    tell(result.findings);
-    std::printf("%d network files written\n", result.files);
-    return result.ok ? 0 : 1;
-  }
-  const NetworkFileConverter::Result result = NetworkFileConverter::convert(names[0], names[1]);
-  tell(result.findings);
-  if (result.ok)
-    std::printf("%d records written\n", result.records);
-  return result.ok ? 0 : 1;
+  if (isImport)
+    return importNetwork(
+        {names[0], parser.values(scenario) + names.mid(2), parser.value(compressors), names[1], parser.isSet(overwrite)});
+  if (QFileInfo(names[0]).isDir())
+    return convertCase(names[0], names[1], parser.isSet(overwrite));
+  return convertFile(names[0], names[1]);
 }

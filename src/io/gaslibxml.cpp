@@ -1,12 +1,36 @@
+#include "xmlbounds.h"
+
 #include <io/gaslibxml.h>
 
 #include <QCoreApplication>
-#include <QIODevice>
+#include <QRegularExpression>
+#include <QTextCodec>
+
+#include <memory>
 
 namespace {
 
 QString tr(const char *text) {
   return QCoreApplication::translate("GasLibXml", text);
+}
+
+/// The text of an XML file; nothing when its bytes are none in the encoding that it states. Other encodings than the usual
+/// ones count as UTF-8.
+std::optional<QString> decoded(const QByteArray &content) {
+  constexpr int Looked = 200;
+  static const QRegularExpression pattern(
+      QStringLiteral("^\\s*<\\?xml[^>]*encoding\\s*=\\s*[\"'](ISO-8859-1|ISO-8859-15|windows-1252)[\"']"),
+      QRegularExpression::CaseInsensitiveOption);
+  const QRegularExpressionMatch match = pattern.match(QString::fromLatin1(content.left(Looked)));
+  const QTextCodec *codec = QTextCodec::codecForName(match.hasMatch() ? match.captured(1).toLatin1() : QByteArray("UTF-8"));
+  if (codec == nullptr)
+    return std::nullopt;
+  codec = QTextCodec::codecForUtfText(content, const_cast<QTextCodec *>(codec)); // which is only read
+  QTextCodec::ConverterState state;
+  QString text = codec->toUnicode(content.constData(), content.size(), &state);
+  if (state.invalidChars > 0 || state.remainingChars > 0)
+    return std::nullopt;
+  return text;
 }
 
 } // namespace
@@ -19,20 +43,32 @@ void GasLibXml::tell(const QString &text, int line) {
     findings.push_back({Finding::Severity::Warning, m_path, 0, tr("... and more, which are not told"), QString()});
 }
 
-bool GasLibXml::start(QIODevice &device, const QString &root, const QString &space) {
-  if (!device.isOpen() && !device.open(QIODevice::ReadOnly)) {
-    tell(tr("The file cannot be read: %1").arg(device.errorString()));
+bool GasLibXml::load() {
+  QString reason;
+  const std::optional<QByteArray> content = FileAccess::readWhole(m_path, m_source, LargestFile, &reason);
+  if (!content) {
+    findings.push_back({Finding::Severity::Warning, QString(), 0, tr("The file cannot be read: %1").arg(reason), QString()});
     return false;
   }
-  m_xml.setDevice(&device);
-  while (!m_xml.atEnd() && m_xml.readNext() != QXmlStreamReader::StartElement) {
-    if (m_xml.isDTD()) { // before anything in it is used
-      tell(tr("The file has a document type, which is not allowed: nothing is read."));
-      return false;
-    }
+  const std::optional<QString> text = decoded(*content);
+  if (!text) {
+    tell(tr("The file is not written in UTF-8, nor in what it says: nothing is read."), 0);
+    return false;
   }
-  finish();
-  if (!m_xml.isStartElement())
+  if (const XmlBounds::Fault fault = XmlBounds::check(*text); !fault.reason.isEmpty()) {
+    tell(fault.reason + tr(": nothing is read."), fault.line);
+    return false;
+  }
+  m_xml.addData(*text);
+  return true;
+}
+
+bool GasLibXml::start(const QString &root, const QString &space) {
+  if (!load())
+    return false;
+  while (!m_xml.atEnd() && m_xml.readNext() != QXmlStreamReader::StartElement) {
+  }
+  if (!finish() || !m_xml.isStartElement())
     return false;
   if (m_xml.name() != root) {
     tell(tr("The file holds %1 instead of %2: nothing is read.").arg(m_xml.name().toString(), root));
@@ -44,7 +80,9 @@ bool GasLibXml::start(QIODevice &device, const QString &root, const QString &spa
   return true;
 }
 
-void GasLibXml::finish() {
-  if (m_xml.hasError())
-    tell(tr("The file cannot be read any further: %1").arg(m_xml.errorString()));
+bool GasLibXml::finish() {
+  if (!m_xml.hasError())
+    return true;
+  tell(tr("The file cannot be read any further: %1").arg(m_xml.errorString()));
+  return false;
 }

@@ -3,12 +3,12 @@
 #include "readreport.h"
 #include "texttablereader.h"
 
+#include <base/wholefile.h>
 #include <io/networkfileconverter.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 #include <memory>
 
@@ -36,21 +36,25 @@ bool holdsSetPoints(const QString &name) {
 /// Hands on what the lines of a file hold, in either form.
 class Feeder {
 public:
-  Feeder(const QString &path, NetworkFileWriter &writer, ReadReport &report)
+  Feeder(const QString &path, NetworkFileWriter &writer, NetworkFileConverter::Result &result)
       : m_path(path)
       , m_writer(writer)
-      , m_report(report) {}
+      , m_report(path)
+      , m_result(result) {}
 
   /// False when the file cannot be read.
-  bool run(QString *reason) { return isJson(m_path) ? feedJson(reason) : feedText(reason); }
-  int records() const { return m_records; }
+  bool run(QString *reason) {
+    const bool isRead = isJson(m_path) ? feedJson(reason) : feedText(reason);
+    m_result.findings = m_report.take();
+    return isRead;
+  }
 
 private:
   bool feedJson(QString *reason) {
     JsonLineReader reader(m_path);
     if (!reader.open(reason))
       return false;
-    JsonLineParser parser;
+    JsonLineParser parser(JsonLineParser::Numbers::AsWritten);
     JsonLineReader::Line line;
     std::vector<JsonLineParser::Element> elements;
     std::vector<JsonLineParser::SetPoints> setPoints;
@@ -61,6 +65,7 @@ private:
                                                    : parser.parse(line, elements, count);
       if (fault != nullptr) {
         m_report.badLine(line, fault);
+        m_result.report.drop(tr("line"), QString::fromUtf8(fault));
         continue;
       }
       for (const JsonLineParser::SetPoints &points : setPoints) {
@@ -75,17 +80,19 @@ private:
   }
 
   bool feedText(QString *reason) {
-    TextTableReader reader(m_path);
+    TextTableReader reader(m_path, JsonLineParser::Numbers::AsWritten);
     if (!reader.open(reason))
       return false;
     JsonLineParser::Element row;
     for (TextTableReader::Found found = reader.next(row); found != TextTableReader::Found::End; found = reader.next(row)) {
-      if (found == TextTableReader::Found::Fault)
+      if (found == TextTableReader::Found::Fault) {
         m_report.badRow(reader.line(), reader.quote(), reader.fault());
-      else if (holdsSetPoints(m_path))
+        m_result.report.drop(tr("line"), reader.fault());
+      } else if (holdsSetPoints(m_path)) {
         take(row.name, TextTableReader::setPoint(row), reader.line());
-      else
+      } else {
         take(row, reader.line());
+      }
     }
     *reason = reader.readFault(); // half of a file is none
     return reason->isEmpty();
@@ -93,37 +100,43 @@ private:
 
   void take(std::string_view name, const JsonLineParser::SetPoint &point, int line) {
     if (point.isComplete) {
-      m_writer.writeSetPoint(name, point.property, point.value, point.unit);
-      ++m_records;
+      m_writer.writeSetPoint(name, {PropertyKey::intern(std::string_view(point.property)), point.value, point.isNumber},
+                             point.unit);
+      m_result.report.take(QString::fromStdString(point.property));
+      ++m_result.records;
     } else {
       m_report.add("incomplete value", line,
                    tr("A value of element %1 is left out: it needs \"property\" and \"value\"")
                        .arg(QString::fromUtf8(name.data(), static_cast<int>(name.size()))));
+      m_result.report.drop(tr("value"), tr("incomplete"));
     }
   }
 
   void take(JsonLineParser::Element &parsed, int line) {
     std::string type;
-    std::vector<Property> properties;
+    std::vector<NetworkFileConverter::Value> values;
     for (JsonLineParser::Value &value : parsed.values) {
       if (value.key == "obj_type")
         type = value.text.utf8();
       else
-        properties.push_back({PropertyKey::intern(value.key), std::move(value.text)});
+        values.push_back({PropertyKey::intern(value.key), std::move(value.text), value.isNumber});
     }
-    for (const JsonLineParser::Dropped &dropped : parsed.dropped)
+    for (const JsonLineParser::Dropped &dropped : parsed.dropped) {
       m_report.add("dropped property", line,
                    tr("Property %1 of element %2 is left out: %3")
                        .arg(QString::fromStdString(dropped.key), QString::fromStdString(std::string(parsed.name)),
                             QString::fromUtf8(dropped.reason)));
-    m_writer.write(parsed.name, type, std::move(properties));
-    ++m_records;
+      m_result.report.drop(QString::fromStdString(dropped.key), QString::fromUtf8(dropped.reason));
+    }
+    m_writer.write(parsed.name, type, std::move(values));
+    m_result.report.take(type.empty() ? tr("element with values") : QString::fromStdString(type));
+    ++m_result.records;
   }
 
   QString m_path;
   NetworkFileWriter &m_writer;
-  ReadReport &m_report;
-  int m_records = 0;
+  ReadReport m_report;
+  NetworkFileConverter::Result &m_result;
 };
 
 std::unique_ptr<NetworkFileWriter> writerFor(const QString &path, QIODevice &device) {
@@ -132,18 +145,16 @@ std::unique_ptr<NetworkFileWriter> writerFor(const QString &path, QIODevice &dev
   return std::make_unique<TextFileWriter>(device);
 }
 
-/// Opens a file, lets fill(writer) write and keeps it when everything was taken.
+/// Lets fill(writer) write, and keeps the file when everything was taken.
 template <typename Fill>
 bool writeFile(const QString &path, const Fill &fill, QString *reason) {
-  QSaveFile file(path);
-  if (file.open(QIODevice::WriteOnly)) {
-    const std::unique_ptr<NetworkFileWriter> writer = writerFor(path, file);
-    fill(*writer);
-    if (writer->finish() && file.commit())
-      return true;
-  }
-  *reason = tr("Cannot write %1: %2").arg(path, file.errorString());
-  return false;
+  return WholeFile::write(
+      path, FileAccess::Source::Trusted,
+      [&](QIODevice &device, QString *why) {
+        const std::unique_ptr<NetworkFileWriter> writer = writerFor(path, device);
+        return fill(*writer, why) && writer->finish();
+      },
+      reason);
 }
 
 } // namespace
@@ -151,9 +162,10 @@ bool writeFile(const QString &path, const Fill &fill, QString *reason) {
 bool NetworkFileConverter::write(const QString &path, const std::vector<Record> &records, QString *reason) {
   return writeFile(
       path,
-      [&records](NetworkFileWriter &writer) {
+      [&records](NetworkFileWriter &writer, QString *) {
         for (const Record &record : records)
           writer.write(record.name.toStdString(), record.type.toStdString(), record.values);
+        return true;
       },
       reason);
 }
@@ -161,10 +173,10 @@ bool NetworkFileConverter::write(const QString &path, const std::vector<Record> 
 bool NetworkFileConverter::write(const QString &path, const std::vector<SetPoint> &setPoints, QString *reason) {
   return writeFile(
       path,
-      [&setPoints](NetworkFileWriter &writer) {
+      [&setPoints](NetworkFileWriter &writer, QString *) {
         for (const SetPoint &point : setPoints)
-          writer.writeSetPoint(point.name.toStdString(), point.property.toStdString(), point.value,
-                               point.unit.toStdString());
+          writer.writeSetPoint(point.name.toStdString(), point.value, point.unit.toStdString());
+        return true;
       },
       reason);
 }
@@ -188,19 +200,19 @@ NetworkFileConverter::Result NetworkFileConverter::convert(const QString &from, 
     if (!isNetworkFile(path))
       return fail(tr("%1 is not named as a network file is").arg(path));
   }
-  QSaveFile file(to);
-  if (!file.open(QIODevice::WriteOnly))
-    return fail(tr("Cannot write %1: %2").arg(to, file.errorString()));
-  const std::unique_ptr<NetworkFileWriter> writer = writerFor(to, file);
-  ReadReport report(from);
-  Feeder feeder(from, *writer, report);
   QString reason;
-  if (!feeder.run(&reason))
-    return fail(tr("Cannot read %1").arg(reason));
-  result.findings = report.take();
-  if (!writer->finish() || !file.commit())
-    return fail(tr("Cannot write %1: %2").arg(to, file.errorString()));
-  result.records = feeder.records();
-  result.ok = true;
-  return result;
+  result.ok = writeFile(
+      to,
+      [&](NetworkFileWriter &writer, QString *why) {
+        QString fault;
+        if (Feeder(from, writer, result).run(&fault))
+          return true;
+        *why = tr("Cannot read %1").arg(fault);
+        return false;
+      },
+      &reason);
+  if (result.ok)
+    return result;
+  result.records = 0;
+  return fail(reason);
 }

@@ -63,11 +63,11 @@ void JsonFileWriter::putText(std::string_view text) {
   put("\"");
 }
 
-void JsonFileWriter::putValue(const PropertyText &value) {
-  if (isPlainNumber(value.utf8()))
-    put(value.utf8());
+void JsonFileWriter::putValue(const Value &value) {
+  if (value.isNumber)
+    put(value.text.utf8());
   else
-    putText(value.utf8());
+    putText(value.text.utf8());
 }
 
 void JsonFileWriter::beginMember(std::string_view name) {
@@ -78,7 +78,7 @@ void JsonFileWriter::beginMember(std::string_view name) {
   put(":");
 }
 
-void JsonFileWriter::write(std::string_view name, std::string_view type, std::vector<Property> properties) {
+void JsonFileWriter::write(std::string_view name, std::string_view type, std::vector<Value> values) {
   beginMember(name);
   put("{");
   bool isFirst = type.empty();
@@ -86,13 +86,13 @@ void JsonFileWriter::write(std::string_view name, std::string_view type, std::ve
     put("\"obj_type\":");
     putText(type);
   }
-  for (const Property &property : properties) {
+  for (const Value &value : values) {
     if (!isFirst)
       put(",");
     isFirst = false;
-    putText(property.key.utf8());
+    putText(value.key.utf8());
     put(":");
-    putValue(property.value);
+    putValue(value);
   }
   put("}\n");
 }
@@ -103,8 +103,7 @@ void JsonFileWriter::endSetPoints() {
   m_hasSetPoints = false;
 }
 
-void JsonFileWriter::writeSetPoint(std::string_view name, std::string_view property, const PropertyText &value,
-                                   std::string_view unit) {
+void JsonFileWriter::writeSetPoint(std::string_view name, const Value &value, std::string_view unit) {
   if (m_hasSetPoints && m_setPointsOf == name) {
     put(",");
   } else {
@@ -115,7 +114,7 @@ void JsonFileWriter::writeSetPoint(std::string_view name, std::string_view prope
     m_hasSetPoints = true;
   }
   put("{\"property\":");
-  putText(property);
+  putText(value.key.utf8());
   put(",\"value\":");
   putValue(value);
   if (!unit.empty()) {
@@ -131,15 +130,18 @@ bool JsonFileWriter::finish() {
   return flush();
 }
 
-/// Quoted when it would be read as something else without quotes.
+/// A name or a unit: quoted when it would be read as something else without quotes.
 void TextFileWriter::putCell(std::string_view text) {
   constexpr std::string_view Special = ";\t\"\n\r";
   const bool isPlain = !text.empty() && text.find_first_of(Special) == std::string_view::npos && text.front() != ' ' &&
                        text.back() != ' ' && (isPlainNumber(text) || !isNumber(text));
-  if (isPlain) {
+  if (isPlain)
     NetworkFileWriter::put(text);
-    return;
-  }
+  else
+    putQuoted(text);
+}
+
+void TextFileWriter::putQuoted(std::string_view text) {
   NetworkFileWriter::put("\"");
   while (true) {
     const std::size_t quote = text.find('"');
@@ -150,6 +152,16 @@ void TextFileWriter::putCell(std::string_view text) {
     text.remove_prefix(quote + 1);
   }
   NetworkFileWriter::put("\"");
+}
+
+/// Numbers stand without quotes, texts that look like numbers in them.
+void TextFileWriter::putValue(const Value &value) {
+  if (value.isNumber)
+    NetworkFileWriter::put(value.text.utf8());
+  else if (isNumber(value.text.utf8()))
+    putQuoted(value.text.utf8());
+  else
+    putCell(value.text.utf8());
 }
 
 /// The first cell of a row, which must not look like a comment, a type or column names.
@@ -164,35 +176,38 @@ void TextFileWriter::putName(std::string_view text) {
   }
 }
 
-void TextFileWriter::write(std::string_view name, std::string_view type, std::vector<Property> properties) {
+void TextFileWriter::write(std::string_view name, std::string_view type, std::vector<Value> values) {
   std::string shape(type);
   if (type.empty()) {
-    for (const Property &property : properties) {
+    for (const Value &value : values) {
       shape += '\n';
-      shape += property.key.utf8();
+      shape += value.key.utf8();
     }
   }
   const auto [entry, isNew] = m_byShape.try_emplace(std::move(shape), m_tables.size());
   if (isNew)
-    m_tables.push_back({std::string(type), {}, {}});
+    m_tables.push_back({std::string(type), {}, {}, {}});
   Table &table = m_tables[entry->second];
-  for (const Property &property : properties) {
-    if (std::find(table.columns.begin(), table.columns.end(), property.key) == table.columns.end())
-      table.columns.push_back(property.key);
+  Row row{PropertyText(name), {}};
+  for (Value &value : values) {
+    const auto [column, isNewColumn] = table.columnOf.try_emplace(value.key, table.columns.size());
+    if (isNewColumn)
+      table.columns.push_back(value.key);
+    row.cells.push_back({column->second, std::move(value)});
   }
-  table.rows.push_back({PropertyText(name), std::move(properties)});
+  std::stable_sort(row.cells.begin(), row.cells.end(), [](const Cell &a, const Cell &b) { return a.column < b.column; });
+  table.rows.push_back(std::move(row));
 }
 
-void TextFileWriter::writeSetPoint(std::string_view name, std::string_view property, const PropertyText &value,
-                                   std::string_view unit) {
+void TextFileWriter::writeSetPoint(std::string_view name, const Value &value, std::string_view unit) {
   if (!m_hasSetPoints)
     NetworkFileWriter::put("name;property;value;unit\n");
   m_hasSetPoints = true;
   putName(name);
   NetworkFileWriter::put(";");
-  putCell(property);
+  putCell(value.key.utf8());
   NetworkFileWriter::put(";");
-  putCell(value.utf8());
+  putValue(value);
   if (!unit.empty()) {
     NetworkFileWriter::put(";");
     putCell(unit);
@@ -211,16 +226,14 @@ void TextFileWriter::put(const Table &table) {
   NetworkFileWriter::put("\n");
   for (const Row &row : table.rows) {
     putName(row.name.utf8());
-    std::size_t separators = 0; // not yet written, so that no row ends in some
-    for (const PropertyKey column : table.columns) {
-      ++separators;
-      const auto found = std::find_if(row.properties.begin(), row.properties.end(),
-                                      [column](const Property &property) { return property.key == column; });
-      if (found == row.properties.end())
-        continue;
-      NetworkFileWriter::put(std::string(separators, ';'));
-      separators = 0;
-      putCell(found->value.utf8());
+    std::size_t separators = 0; // that are written
+    for (std::size_t i = 0; i < row.cells.size(); ++i) {
+      const Cell &cell = row.cells[i];
+      if (i + 1 < row.cells.size() && row.cells[i + 1].column == cell.column)
+        continue; // of a property given twice the last value counts
+      NetworkFileWriter::put(std::string(cell.column + 1 - separators, ';'));
+      separators = cell.column + 1;
+      putValue(cell.value);
     }
     NetworkFileWriter::put("\n");
   }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <model/element.h>
+#include <io/networkfileconverter.h>
 
 #include <QIODevice>
 #include <QString>
@@ -11,6 +11,8 @@
 /// Writes network files. What it is given is written at the latest by finish().
 class NetworkFileWriter {
 public:
+  using Value = NetworkFileConverter::Value;
+
   explicit NetworkFileWriter(QIODevice &device)
       : m_device(device) {}
   virtual ~NetworkFileWriter() = default;
@@ -18,10 +20,9 @@ public:
   NetworkFileWriter &operator=(const NetworkFileWriter &) = delete;
 
   /// \param type word, empty for values of elements that are described elsewhere
-  virtual void write(std::string_view name, std::string_view type, std::vector<Property> properties) = 0;
+  virtual void write(std::string_view name, std::string_view type, std::vector<Value> values) = 0;
   /// \param unit empty for the stored one
-  virtual void writeSetPoint(std::string_view name, std::string_view property, const PropertyText &value,
-                             std::string_view unit) = 0;
+  virtual void writeSetPoint(std::string_view name, const Value &value, std::string_view unit) = 0;
   /// False when the device did not take everything.
   virtual bool finish() = 0;
 
@@ -40,14 +41,13 @@ class JsonFileWriter : public NetworkFileWriter {
 public:
   explicit JsonFileWriter(QIODevice &device);
 
-  void write(std::string_view name, std::string_view type, std::vector<Property> properties) override;
-  void writeSetPoint(std::string_view name, std::string_view property, const PropertyText &value,
-                     std::string_view unit) override;
+  void write(std::string_view name, std::string_view type, std::vector<Value> values) override;
+  void writeSetPoint(std::string_view name, const Value &value, std::string_view unit) override;
   bool finish() override;
 
 private:
   void putText(std::string_view text);
-  void putValue(const PropertyText &value);
+  void putValue(const Value &value);
   void beginMember(std::string_view name);
   void endSetPoints();
 
@@ -61,24 +61,30 @@ class TextFileWriter : public NetworkFileWriter {
 public:
   using NetworkFileWriter::NetworkFileWriter;
 
-  void write(std::string_view name, std::string_view type, std::vector<Property> properties) override;
-  void writeSetPoint(std::string_view name, std::string_view property, const PropertyText &value,
-                     std::string_view unit) override;
+  void write(std::string_view name, std::string_view type, std::vector<Value> values) override;
+  void writeSetPoint(std::string_view name, const Value &value, std::string_view unit) override;
   bool finish() override;
 
 private:
+  struct Cell {
+    std::size_t column;
+    Value value;
+  };
   struct Row {
     PropertyText name;
-    std::vector<Property> properties;
+    std::vector<Cell> cells; ///< in the order of the columns
   };
   struct Table {
     std::string type;
     std::vector<PropertyKey> columns;
+    std::map<PropertyKey, std::size_t> columnOf;
     std::vector<Row> rows;
   };
 
   void putName(std::string_view text);
   void putCell(std::string_view text);
+  void putQuoted(std::string_view text);
+  void putValue(const Value &value);
   void put(const Table &table);
 
   std::vector<Table> m_tables;

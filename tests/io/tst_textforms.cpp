@@ -3,6 +3,7 @@
 #include <support/nivratest.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 /// The text form of network files, alone and beside the JSON form.
@@ -22,6 +23,8 @@ private slots:
   void otherEncodings();
   void setPoints();
   void thereAndBack();
+  void numbersThereAndBack();
+  void manyProperties();
   void setPointsThereAndBack();
   void realNetworksThereAndBack_data();
   void realNetworksThereAndBack();
@@ -213,6 +216,38 @@ void TestTextForms::thereAndBack() {
   QCOMPARE(nets[0].nodes().size(), std::size_t(3));
   QCOMPARE(dump(nets[1]), dump(nets[0]));
   QCOMPARE(dump(nets[2]), dump(nets[0]));
+}
+
+/// Numbers come back letter by letter, and what was a text stays one.
+void TestTextForms::numbersThereAndBack() {
+  const QByteArray geometry = "{\n\"A\":{\"obj_type\":\"node\",\"x\":10396.223600000001,\"y\":12.50,\"z\":1E-7,\"u\":-0.0,"
+                              "\"v\":\"12.5\",\"w\":\"12.50\",\"a\":123456789012345678901234567890}\n}\n";
+  const QByteArray setPoints = "{\n\"A\":[{\"property\":\"pset\",\"value\":0.30000000000000004,\"unit\":\"bar\"},"
+                               "{\"property\":\"t\",\"value\":\"7\"}]\n}\n";
+  for (const auto &[name, json] : {std::make_pair("n.geom", geometry), {"n.scen", setPoints}}) {
+    const QString text = m_folder.filePath(QLatin1String(name));
+    const QString from = write(QLatin1String(name) + QStringLiteral(".jsn"), json);
+    const QString back = QStringLiteral("back_") + QLatin1String(name) + QStringLiteral(".jsn");
+    QVERIFY(NetworkFileConverter::convert(from, text).ok);
+    QVERIFY(NetworkFileConverter::convert(text, m_folder.filePath(back)).ok);
+    QCOMPARE(contents(back), json);
+  }
+}
+
+void TestTextForms::manyProperties() {
+  QByteArray line = "\"A\":{\"obj_type\":\"node\",\"x\":1";
+  for (int i = 0; i < 60000; ++i)
+    line += ",\"p" + QByteArray::number(i) + "\":" + QByteArray::number(i);
+  const QString from = write(QStringLiteral("many.geom.jsn"), "{\n" + line + ",\"X\":2}\n}\n");
+  const QString text = m_folder.filePath(QStringLiteral("many.geom"));
+  QElapsedTimer timer;
+  timer.start();
+  QVERIFY(NetworkFileConverter::convert(from, text).ok);
+  QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+  NetData net;
+  NivraReader(net).readGeomJsn(text, {});
+  QCOMPARE(net.element(QStringLiteral("A"))->value(QStringLiteral("p59999")), QStringLiteral("59999"));
+  QCOMPARE(net.element(QStringLiteral("A"))->value(QStringLiteral("x")), QStringLiteral("2")); // given twice
 }
 
 void TestTextForms::setPointsThereAndBack() {

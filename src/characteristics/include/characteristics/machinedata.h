@@ -66,7 +66,7 @@ private:
 };
 
 struct Drive {
-  enum class Kind { GasTurbine, GasEngine, ElectricMotor };
+  enum class Kind { GasTurbine, GasEngine, ElectricMotor, SteamTurbine };
   struct PowerPoint {
     double speed = 0.0;
     double temperature = 0.0; ///< degC

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/finding.h>
+#include <io/conversionreport.h>
 
 #include <QString>
 
@@ -9,12 +10,14 @@
 namespace CaseConverter {
 
 struct Result {
-  bool ok = false; ///< every file was written
+  bool ok = false; ///< every file was written; otherwise none was
   int files = 0;   ///< network files that were converted
   Findings findings;
+  ConversionReport report;
 };
 
-/// \param to a folder, made when missing; files that are there are replaced
-Result convert(const QString &from, const QString &to);
+/// Pipes, devices and links that lead out of the case are left out, and told.
+/// \param to a folder, made when missing \param overwrites whether files that are there and differ may be replaced
+Result convert(const QString &from, const QString &to, bool overwrites = false);
 
 } // namespace CaseConverter

@@ -1,30 +1,44 @@
 #pragma once
 
+#include <base/fileaccess.h>
 #include <base/finding.h>
 
 #include <QXmlStreamReader>
 
 /// What the readers of public gas network instances have in common: the way into a file, and what is told of it. Document
-/// types are refused, so that no entity is expanded or loaded.
+/// types are refused, so that no entity is expanded or loaded. The work that a file can cause is bounded before the parser
+/// sees it: its size, and the attributes, the nesting and the namespaces of its elements, since the parser compares every
+/// attribute with every other.
 class GasLibXml {
 public:
-  explicit GasLibXml(QString path)
-      : m_path(std::move(path)) {}
+  static constexpr qint64 LargestFile = qint64(64) << 20;
+  static constexpr int MostAttributes = 100; ///< of an element
+  static constexpr int DeepestNesting = 50;
+  static constexpr int MostNamespaces = 50; ///< declared in a file
+
+  explicit GasLibXml(QString path, FileAccess::Source source)
+      : m_path(std::move(path))
+      , m_source(source) {}
 
   /// What is wrong, with its line; at most a thousand, since a file that is wrong altogether must not fill the memory.
   Findings findings;
   void tell(const QString &text, int line);
 
 protected:
-  /// Goes to the root element, opening the device when it is not. False when nothing can be read. \param space last part of
-  /// the namespace, another one is told only
-  bool start(QIODevice &device, const QString &root, const QString &space);
-  /// Tells why the file ended early, when it did.
-  void finish();
+  /// Opens the file and goes to its root element. False when nothing can be read. \param space last part of the namespace,
+  /// another one is told only
+  bool start(const QString &root, const QString &space);
+  /// False, and told why, when the file ended early.
+  bool finish();
   void tell(const QString &text) { tell(text, static_cast<int>(m_xml.lineNumber())); }
   /// Of the current element.
   QString attribute(const char *name) const { return m_xml.attributes().value(QLatin1String(name)).toString(); }
 
   QString m_path;
   QXmlStreamReader m_xml;
+
+private:
+  bool load();
+
+  FileAccess::Source m_source;
 };

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "gaslibunits.h"
+
+#include <io/conversionreport.h>
+#include <io/gaslibxml.h>
+#include <io/networkfileconverter.h>
+
+/// What the importers of public network instances have in common: numbers in our units, and account of every element.
+class GasLibReader : public GasLibXml {
+public:
+  explicit GasLibReader(const QString &path)
+      : GasLibXml(path, FileAccess::Source::Trusted) {}
+
+  ConversionReport report; ///< by the names of elements and attributes
+
+protected:
+  using Record = NetworkFileConverter::Record;
+
+  /// The number of the current element in a unit of ours, and past the element; nothing, and told, when there is none.
+  /// \param isNegated for values that count the other way round
+  std::optional<GasLibUnits::Number> number(const char *unit, const Units::Gas &gas = {}, bool isNegated = false);
+  /// Passes over the current element with all that it holds.
+  void drop(const QString &why);
+
+  static void add(Record &record, const char *property, const QString &text);
+  static void add(Record &record, const char *property, const GasLibUnits::Number &number);
+};

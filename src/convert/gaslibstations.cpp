@@ -1,0 +1,50 @@
+#include "gaslibstations.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("GasLibStations", text);
+}
+
+} // namespace
+
+bool GasLibStations::read() {
+  if (!start(QStringLiteral("compressorStations"), QStringLiteral("CompressorStations")))
+    return false;
+  while (m_xml.readNextStartElement()) {
+    if (m_xml.name() == QLatin1String("compressorStation"))
+      readStation();
+    else
+      drop(tr("not known"));
+  }
+  return finish();
+}
+
+void GasLibStations::readStation() {
+  Station station{attribute("id"), QString(), {}, static_cast<int>(m_xml.lineNumber())};
+  while (m_xml.readNextStartElement()) {
+    const bool areDrives = m_xml.name() == QLatin1String("drives");
+    if (!areDrives && m_xml.name() != QLatin1String("compressors")) {
+      m_xml.skipCurrentElement(); // the file is copied as it is
+      continue;
+    }
+    while (m_xml.readNextStartElement()) {
+      const QString name = attribute("id");
+      const QString kind = m_xml.name().toString();
+      if (name.isEmpty()) {
+        tell(tr("A %1 without id is left out").arg(kind));
+        drop(tr("without id"));
+        continue;
+      }
+      report.take(kind);
+      if (areDrives)
+        station.drives.push_back({name, kind});
+      else if (station.compressor.isEmpty())
+        station.compressor = name;
+      m_xml.skipCurrentElement();
+    }
+  }
+  stations.push_back(std::move(station));
+}
