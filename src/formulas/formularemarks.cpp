@@ -37,7 +37,8 @@ void FormulaFailures::add(const FormulaDefinition &definition, const element &e,
 
 Findings FormulaFailures::findings() const {
   Findings found;
-  for (const OfLine &line : m_lines) {
+  for (const auto &[place, number] : m_index) { // as they stand in the files
+    const OfLine &line = m_lines[number];
     if (line.count == 0)
       continue;
     Finding finding =

@@ -120,11 +120,23 @@ void NetworkFormulas::Computing::prepare(const std::vector<FormulaDefinition> &d
 
 void NetworkFormulas::Computing::order() {
   const FormulaProducers producers(rules);
-  const FormulaOrder order(producers.dependencies(rules, net));
+  const std::vector<std::vector<int>> dependencies = producers.dependencies(rules, net);
+  const FormulaOrder order(dependencies);
+  // Of those that do not need one another, by name: so do elements keep their properties, and one that goes to the end of
+  // 100,000 others moves none of them.
+  std::vector<int> levels(rules.size());
   for (const int i : order.order) {
-    if (!rules[static_cast<std::size_t>(i)].definition.isConstraint)
+    const auto number = static_cast<std::size_t>(i);
+    for (const int needed : dependencies[number])
+      levels[number] = std::max(levels[number], levels[static_cast<std::size_t>(needed)] + 1);
+    if (!rules[number].definition.isConstraint)
       sequence.push_back(i);
   }
+  std::stable_sort(sequence.begin(), sequence.end(), [&](int a, int b) {
+    const auto first = static_cast<std::size_t>(a);
+    const auto second = static_cast<std::size_t>(b);
+    return levels[first] != levels[second] ? levels[first] < levels[second] : rules[first].target < rules[second].target;
+  });
   for (std::size_t i = 0; i < rules.size(); ++i) {
     if (rules[i].definition.isConstraint)
       constraints.push_back(static_cast<int>(i));

@@ -316,18 +316,17 @@ void TestNetworkFormulas::cancelledWithinALine() {
 
 /// What each line costs must not be what a parser costs.
 void TestNetworkFormulas::manyLines() {
-  constexpr int Lines = 3000;
+  constexpr int Lines = 20000;
   QByteArray text;
   for (int i = 0; i < Lines; ++i)
     text += QStringLiteral("a%1(p) = length + %1\n").arg(i).toUtf8();
   QElapsedTimer timer;
   timer.start();
-  QVERIFY(define("a(p) = length").empty());
   QVERIFY(define(text).empty());
   QVERIFY(m_formulas->apply().empty());
   QCOMPARE(value("a2999", "P1"), QStringLiteral("3009"));
   qInfo("%d lines: %lld ms", Lines, timer.elapsed());
-  QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+  QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed()))); // 1.2 s without optimisation
 }
 
 void TestNetworkFormulas::onlyPlainFilesAreRead() {
