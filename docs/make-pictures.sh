@@ -54,7 +54,7 @@ cp -r example/DE_H2 "$walk/"
 walk_window() { # NUMBER COMMANDS
   window "$walk/DE_H2/S5/S5.scen.jsn" "$images/walk-$1.png" "$2"
 }
-search='xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool mousemove 150 155 click 1 type "v@ELE>10"; xdotool mousemove 150 94 click 1 type "^p"; xdotool key Return; sleep 1; xdotool mousemove 208 186 click 1; sleep 1;'
+search='xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool mousemove 150 155 click 1 type "abs(v@ELE)>10"; xdotool mousemove 150 94 click 1 type "^p"; xdotool key Return; sleep 1; xdotool mousemove 208 186 click 1; sleep 1;'
 table='xdotool mousemove 54 849 click 1; sleep 1; xdotool mousemove 16 52 click 1; sleep 0.5; xdotool mousemove 778 52 click 1; sleep 0.5; xdotool mousemove 271 52 click 1; sleep 0.3; xdotool type v; xdotool key Return; sleep 1;'
 dock() { echo "xdotool mousemove 100 10 click 1; sleep 0.5; xdotool mousemove 178 $1 click 1; sleep 0.8;"; } # y in the menu
 walk_window 1 "$search"

@@ -312,6 +312,7 @@ void ToolDocks::createSearch() {
   connect(m_search, &NivraSearch::categoryWanted, m_categories,
           [this](const QStringList &definition) { m_categories->addCategory(definition); });
   connect(m_search, &NivraSearch::showInTable, this, [this] { vectorTable()->on_useSearchConfig(); });
+  connect(m_search, &NivraSearch::characteristicsWanted, &m_control, &NetVisControl::openCharacteristicsRequested);
   connect(m_categories, &NivraNetObjectCats::toSearch, m_search, [this](const QStringList &definition, bool regex) {
     m_search->show();
     m_search->defineSearch(definition, regex);

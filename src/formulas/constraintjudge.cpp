@@ -9,10 +9,13 @@ std::optional<double> ConstraintJudge::bound(const Formula *formula, const Formu
     return std::nullopt;
   ++m_evaluations;
   try {
-    const double number = formula->evaluate(e).number;
+    const double number = formula->evaluate(e, rule.names()).number;
     if (number != NetData::NoValue && !std::isnan(number))
       return rule.toStored(number);
-  } catch (const FormulaError &) {
+  } catch (const FormulaError &error) {
+    if (error.kind() == FormulaError::Kind::TooCostly)
+      m_findings.push_back(
+          {Finding::Severity::Warning, rule.definition.file, rule.definition.line, error.text(), QString()});
     return std::nullopt; // an element without bounds keeps them
   }
   return std::nullopt;
@@ -51,8 +54,12 @@ QString ConstraintJudge::violation(const FormulaRule &rule, const element &e) {
   return text.replace(QLatin1Char(';'), QLatin1Char(',')); // which parts the violations of an element
 }
 
-void ConstraintJudge::judge(FormulaRule &rule, const std::vector<element *> &elements) {
+bool ConstraintJudge::judge(FormulaRule &rule, const std::vector<element *> &elements,
+                            const std::function<bool(std::size_t)> &goesOn) {
+  std::size_t done = 0;
   for (element *e : elements) {
+    if (!goesOn(done++))
+      return false;
     const QString text = violation(rule, *e);
     if (!text.isEmpty())
       rule.violations.insert(e, text);
@@ -60,6 +67,7 @@ void ConstraintJudge::judge(FormulaRule &rule, const std::vector<element *> &ele
       continue;
     m_judged.insert(e);
   }
+  return true;
 }
 
 void ConstraintJudge::write(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints) {

@@ -2,6 +2,7 @@
 
 #include "formularule.h"
 
+#include <functional>
 #include <optional>
 #include <set>
 
@@ -11,11 +12,14 @@ public:
   explicit ConstraintJudge(NetData &net)
       : m_net(net) {}
 
-  void judge(FormulaRule &rule, const std::vector<element *> &elements);
+  /// Returns whether it came to the end. \param goesOn told how many elements are done, false stops
+  bool judge(FormulaRule &rule, const std::vector<element *> &elements, const std::function<bool(std::size_t)> &goesOn);
   /// "(first;second;)" to what was judged. \param constraints their places among the rules, in the order of the texts
   void write(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints);
   /// Of bounds, for those who watch the cost.
   int evaluations() const { return m_evaluations; }
+  /// Bounds that were given up, for they cost too much.
+  const Findings &findings() const { return m_findings; }
 
 private:
   std::optional<double> bound(const Formula *formula, const FormulaRule &rule, const element &e);
@@ -24,4 +28,5 @@ private:
   NetData &m_net;
   std::set<element *> m_judged; ///< those with something to be written
   int m_evaluations = 0;
+  Findings m_findings;
 };

@@ -1,27 +1,47 @@
 #include "formulalexer.h"
+#include "formulaparsers.h"
 
 #include <formulas/formula.h>
 #include <formulas/parserfactory.h>
 
+#include <QCoreApplication>
 #include <QHash>
+#include <QRegularExpression>
 
-#include <deque>
+#include <atomic>
 #include <mpParser.h>
 
-/// The parser and what it looks at, which must not move.
+/// The expression, what it refers to, and the parsers that it may use.
 struct Formula::Engine {
   const NetData *net = nullptr;
-  std::unique_ptr<mup::ParserX> parser;
-  std::vector<FormulaReference> references;
-  std::deque<mup::Value> values; ///< one a reference
+  QString original; ///< as it was written
+  QString expression;
+  std::vector<FormulaReference> references; ///< one a variable of the expression
+  std::shared_ptr<FormulaParsers> parsers;
+  quint64 id = 0;  ///< that no other formula has
+  QString givenUp; ///< why it is not evaluated any more; empty while it is
 
-  const PropertyText *resolve(const FormulaReference &reference, const element &current) const;
+  static quint64 nextId() {
+    static std::atomic<quint64> last = 0;
+    return ++last;
+  }
+  FormulaParsers::Slot &slot() { return parsers->slotFor(id, expression, references.size()); }
+  const PropertyText *resolve(const FormulaReference &reference, const element &current, const FormulaNames *names) const;
+  /// Returns whether all values are there.
+  bool bind(FormulaParsers::Slot &slot, const element &current, const FormulaNames *names) const;
   /// Binds the values and lets take() have what the expression yields.
   template <typename Take>
-  auto evaluate(const element &current, const Take &take);
+  auto evaluate(const element &current, const FormulaNames *names, const Take &take);
+  QString readable(const std::string &message) const;
+  /// What the references that are no numbers stand for, to be put behind a message; empty when all are.
+  QString odd(const element &current, const FormulaNames *names) const;
 };
 
 namespace {
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("Formula", text);
+}
 
 QString asResultText(const mup::IValue &value) {
   switch (value.GetType()) {
@@ -32,6 +52,10 @@ QString asResultText(const mup::IValue &value) {
   case 'i':
   case 'f':
     return QString::fromStdString(formatNumber(value.GetFloat()));
+  case 'm':
+    if (value.GetRows() * value.GetCols() > EvaluationBounds::MostPrinted)
+      throw FormulaError(tr("its result is a matrix of more than %1 numbers").arg(EvaluationBounds::MostPrinted));
+    return QString::fromStdString(value.ToString());
   default:
     return QString::fromStdString(value.ToString());
   }
@@ -39,24 +63,36 @@ QString asResultText(const mup::IValue &value) {
 
 } // namespace
 
-Formula::Formula(const QString &text, const NetData &net, Bare bare)
+const element *FormulaReference::start(const NetData &net, const element *current, const FormulaNames *names) const {
+  if (elementName.isEmpty())
+    return current;
+  return net.element(names == nullptr ? elementName : names->element(elementName));
+}
+
+QString FormulaReference::written() const {
+  QString text = property.name();
+  for (auto step = path.rbegin(); step != path.rend(); ++step)
+    text += QLatin1Char('@') + step->name();
+  return text + QLatin1Char('@') + (elementName.isEmpty() ? QStringLiteral("ELE") : elementName);
+}
+
+Formula::Formula(const QString &text, const NetData &net, Bare bare, std::shared_ptr<FormulaParsers> parsers)
     : m_engine(std::make_unique<Engine>()) {
   m_engine->net = &net;
+  m_engine->original = text;
+  m_engine->id = Engine::nextId();
+  m_engine->parsers = parsers != nullptr ? std::move(parsers) : std::make_shared<FormulaParsers>(net, 1);
   try {
-    m_engine->parser = ParserFactory::create(&net);
-    const mup::ParserX &parser = *m_engine->parser;
+    const mup::ParserX &parser = m_engine->parsers->any();
     FormulaLexer lexer(text, bare, [&parser](const QString &name) {
       return parser.IsConstDefined(name.toStdString()) || parser.IsOprtDefined(name.toStdString()) ||
              name == QLatin1String("true") || name == QLatin1String("false");
     });
     m_engine->references = std::move(lexer.references);
-    for (std::size_t i = 0; i < m_engine->references.size(); ++i) {
-      m_engine->values.emplace_back(mup::float_type(0.0));
-      m_engine->parser->DefineVar(FormulaLexer::variable(i).toStdString(), mup::Variable(&m_engine->values.back()));
-    }
-    m_engine->parser->SetExpr(lexer.expression.toStdString());
+    m_engine->expression = lexer.expression;
+    m_engine->slot().parser->GetExprVar(); // parses, so that what is no formula is told at once
   } catch (const mup::ParserError &error) {
-    throw FormulaError(QString::fromStdString(error.GetMsg()));
+    throw FormulaError(m_engine->readable(error.GetMsg()));
   }
 }
 
@@ -68,8 +104,9 @@ const std::vector<FormulaReference> &Formula::references() const {
   return m_engine->references;
 }
 
-const PropertyText *Formula::Engine::resolve(const FormulaReference &reference, const element &current) const {
-  const element *at = reference.elementName.isEmpty() ? &current : net->element(reference.elementName);
+const PropertyText *Formula::Engine::resolve(const FormulaReference &reference, const element &current,
+                                             const FormulaNames *names) const {
+  const element *at = reference.start(*net, &current, names);
   for (const PropertyKey step : reference.path) {
     const PropertyText *name = at == nullptr ? nullptr : at->find(step);
     at = name == nullptr ? nullptr : net->element(name->toString());
@@ -77,31 +114,79 @@ const PropertyText *Formula::Engine::resolve(const FormulaReference &reference, 
   return at == nullptr ? nullptr : at->find(reference.property);
 }
 
-template <typename Take>
-auto Formula::Engine::evaluate(const element &current, const Take &take) {
-  bool lacksValue = false;
+bool Formula::Engine::bind(FormulaParsers::Slot &slot, const element &current, const FormulaNames *names) const {
+  bool hasAll = true;
   for (std::size_t i = 0; i < references.size(); ++i) {
-    const PropertyText *text = resolve(references[i], current);
-    mup::Value &value = values[i];
-    lacksValue = lacksValue || text == nullptr;
+    const PropertyText *text = resolve(references[i], current, names);
+    mup::Value &value = slot.values[i];
+    hasAll = hasAll && text != nullptr;
+    const std::optional<double> number = text == nullptr || references[i].isText ? std::nullopt : text->toDouble();
     if (text == nullptr)
       value = ParserFactory::nullText();
-    else if (const std::optional<double> number = text->toDouble())
+    else if (number)
       value = static_cast<mup::float_type>(*number);
     else
       value = mup::string_type(text->utf8());
   }
+  return hasAll;
+}
+
+/// With the references as they are written, in place of the variables that stand for them.
+QString Formula::Engine::readable(const std::string &message) const {
+  static const QRegularExpression variable(QStringLiteral("\\bv_(\\d+)\\b"));
+  QString text = QString::fromStdString(message);
+  for (QRegularExpressionMatch match = variable.match(text); match.hasMatch();) {
+    const auto number = match.captured(1).toULongLong();
+    const QString written = number < references.size() ? references[number].written() : match.captured();
+    text.replace(match.capturedStart(), match.capturedLength(), written);
+    match = variable.match(text, match.capturedStart() + written.size());
+  }
+  return text;
+}
+
+QString Formula::Engine::odd(const element &current, const FormulaNames *names) const {
+  constexpr int Most = 3;
+  constexpr int Shown = 30;
+  QStringList parts;
+  for (const FormulaReference &reference : references) {
+    const PropertyText *value = resolve(reference, current, names);
+    if (value == nullptr)
+      parts.append(tr("%1 is missing").arg(reference.written()));
+    else if (!value->toDouble())
+      parts.append(tr("%1 is \"%2\"").arg(reference.written(), value->toString().left(Shown)));
+  }
+  return parts.isEmpty() ? QString()
+                         : QStringLiteral(" (%1)").arg(QStringList(parts.mid(0, Most)).join(QStringLiteral(", ")));
+}
+
+template <typename Take>
+auto Formula::Engine::evaluate(const element &current, const FormulaNames *names, const Take &take) {
+  if (!givenUp.isEmpty())
+    throw FormulaError(givenUp);
+  bool hasAll = true;
   try {
-    return take(parser->Eval());
+    FormulaParsers::Slot &used = slot();
+    hasAll = bind(used, current, names);
+    used.parser->bounds().restart();
+    return take(used.parser->Eval());
+  } catch (const FormulaError &error) {
+    constexpr int Shown = 80;
+    const QString shown = original.size() > Shown ? original.left(Shown) + QStringLiteral("…") : original;
+    const QString why = tr("The formula \"%1\" is stopped: %2").arg(shown, error.text());
+    if (error.kind() == FormulaError::Kind::TooCostly)
+      givenUp = why;
+    throw FormulaError(why, error.kind());
   } catch (const mup::ParserError &error) {
-    throw FormulaError(QString::fromStdString(error.GetMsg()), lacksValue);
+    throw FormulaError(readable(error.GetMsg()) + odd(current, names),
+                       hasAll ? FormulaError::Kind::Fault : FormulaError::Kind::MissingValue);
   } catch (const std::exception &error) { // the library's matrices throw their own
-    throw FormulaError(QString::fromUtf8(error.what()), lacksValue);
+    throw FormulaError(QString::fromUtf8(error.what()),
+                       hasAll ? FormulaError::Kind::Fault : FormulaError::Kind::MissingValue);
   }
 }
 
-Formula::Result Formula::evaluate(const element &current) const {
-  return m_engine->evaluate(current, [](const mup::IValue &result) {
+Formula::Result Formula::evaluate(const element &current, const FormulaNames *names) const {
+  return m_engine->evaluate(current, names, [](const mup::IValue &result) {
     Result found;
     found.text = asResultText(result);
     if (result.GetType() == 'b')
@@ -113,7 +198,7 @@ Formula::Result Formula::evaluate(const element &current) const {
 }
 
 bool Formula::accepts(const element &current) const {
-  return m_engine->evaluate(current, [](const mup::IValue &result) {
+  return m_engine->evaluate(current, nullptr, [](const mup::IValue &result) {
     return result.GetType() == 'b' ? result.GetBool() : asResultText(result) != QLatin1String("0");
   });
 }
@@ -135,21 +220,4 @@ QString Formula::escaped(const QString &name) {
       text += QStringLiteral("&#%1;").arg(c.unicode());
   }
   return text;
-}
-
-QString Formula::renamed(const QString &text, const QHash<QString, QString> &names) {
-  QString renamed;
-  bool isQuoted = false;
-  for (int i = 0; i < text.size();) {
-    const QChar c = text.at(i++);
-    renamed += c;
-    if (c == QLatin1Char('"'))
-      isQuoted = !isQuoted;
-    if (isQuoted || c != QLatin1Char('@') || i >= text.size() || !FormulaLexer::continuesName(text.at(i)))
-      continue;
-    const int begin = i;
-    const auto other = names.constFind(FormulaLexer::takeName(text, i));
-    renamed += other == names.constEnd() ? text.mid(begin, i - begin) : escaped(*other);
-  }
-  return renamed;
 }

@@ -1,10 +1,8 @@
-#include <formulas/formula.h>
 #include <formulas/formulafile.h>
 #include <model/elementtypes.h>
 #include <model/units.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -160,12 +158,13 @@ QString FormulaDefinition::place() const {
       .arg(line);
 }
 
-FormulaFile::Contents FormulaFile::parse(QIODevice &device, const QString &fileName, const QString &category) {
-  constexpr qint64 LongestLine = 1 << 16;
+FormulaFile::Contents FormulaFile::parse(const QByteArray &text, const QString &fileName, const QString &category) {
+  constexpr int LongestLine = 1 << 16;
   Contents contents;
   QString current = category;
-  for (int number = 1; !device.atEnd(); ++number) {
-    const QString line = QString::fromUtf8(device.readLine(LongestLine)).trimmed();
+  const QList<QByteArray> lines = text.split('\n');
+  for (int i = 0; i < lines.size(); ++i) {
+    const QString line = QString::fromUtf8(lines.at(i)).trimmed();
     if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
       continue;
     if (line.startsWith(QLatin1Char('[')) && line.endsWith(QLatin1Char(']'))) {
@@ -173,25 +172,27 @@ FormulaFile::Contents FormulaFile::parse(QIODevice &device, const QString &fileN
       continue;
     }
     try {
+      if (line.size() > LongestLine)
+        throw FormulaError(tr("it is longer than %1 characters").arg(LongestLine));
       FormulaDefinition definition = LineParser(line).parse();
       definition.category = current;
       definition.file = fileName;
-      definition.line = number;
+      definition.line = i + 1;
       contents.definitions.push_back(definition);
     } catch (const FormulaError &error) {
       contents.findings.push_back(
-          {Finding::Severity::Warning, fileName, number, tr("The line is left out: %1").arg(error.text()), QString()});
+          {Finding::Severity::Warning, fileName, i + 1, tr("The line is left out: %1").arg(error.text()), QString()});
     }
   }
   return contents;
 }
 
-FormulaFile::Contents FormulaFile::read(const QString &path, const QString &category) {
-  QFile file(path);
-  if (file.open(QIODevice::ReadOnly))
-    return parse(file, path, category);
+FormulaFile::Contents FormulaFile::read(const QString &path, const QString &category, FileAccess::Source source) {
+  QString reason;
+  if (const auto text = FileAccess::readWhole(path, source, FileAccess::LargestConfiguration, &reason))
+    return parse(*text, path, category);
   Contents contents;
   contents.findings.push_back(
-      {Finding::Severity::Warning, path, 0, tr("The formulas cannot be read: %1").arg(file.errorString()), QString()});
+      {Finding::Severity::Warning, path, 0, tr("The formulas cannot be read: %1").arg(reason), QString()});
   return contents;
 }

@@ -1,7 +1,7 @@
 #include "formulalexer.h"
 
 #include <QCoreApplication>
-#include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -39,6 +39,16 @@ QChar escapedAt(const QString &text, int position, int &length) {
   bool isNumber = false;
   const ushort code = inner.mid(1).toUShort(&isNumber);
   return isNumber ? QChar(code) : QChar();
+}
+
+/// Whether a reference is all that isnull(), isnotnull() or nonull() are asked for, perhaps in brackets of its own.
+/// \param before the formula up to the reference \param end the position behind it in the text
+bool isAskedAsText(const QString &before, const QString &text, int end) {
+  static const QRegularExpression call(
+      QStringLiteral("(?<![\\p{L}\\p{N}_])(?:isnull|isnotnull|nonull)\\s*\\((\\s*\\()*\\s*$"));
+  while (end < text.size() && text.at(end).isSpace())
+    ++end;
+  return end < text.size() && text.at(end) == QLatin1Char(')') && call.match(before).hasMatch();
 }
 
 } // namespace
@@ -88,7 +98,7 @@ FormulaLexer::FormulaLexer(const QString &text, Formula::Bare bare, const std::f
     if (parts.size() == 1 && (isFunction || bare == Formula::Bare::Refused || isKnown(parts.first())))
       expression += parts.first();
     else
-      addReference(parts.size() == 1 ? parts << QStringLiteral("ELE") : parts);
+      addReference(parts.size() == 1 ? parts << QStringLiteral("ELE") : parts, isAskedAsText(expression, text, i));
   }
 }
 
@@ -132,15 +142,16 @@ QString FormulaLexer::takeName(const QString &text, int &i) {
   return name;
 }
 
-void FormulaLexer::addReference(const QStringList &parts) {
+void FormulaLexer::addReference(const QStringList &parts, bool isText) {
   FormulaReference reference;
+  reference.isText = isText;
   reference.property = PropertyKey::intern(parts.first());
   reference.elementName = parts.last() == QLatin1String("ELE") ? QString() : parts.last();
   for (int i = parts.size() - 2; i > 0; --i)
     reference.path.push_back(PropertyKey::intern(parts.at(i)));
   const auto known = std::find_if(references.begin(), references.end(), [&reference](const FormulaReference &other) {
     return other.property == reference.property && other.path == reference.path &&
-           other.elementName == reference.elementName;
+           other.elementName == reference.elementName && other.isText == reference.isText;
   });
   expression += variable(static_cast<std::size_t>(known - references.begin()));
   if (known == references.end())

@@ -22,6 +22,6 @@ struct FormulaLexer {
   static QString takeName(const QString &text, int &i);
 
 private:
-  void addReference(const QStringList &parts);
+  void addReference(const QStringList &parts, bool isText);
   void checkLimits(const QString &text) const;
 };

@@ -68,7 +68,7 @@ std::vector<std::vector<int>> FormulaProducers::dependencies(const std::vector<F
         if (!isMade)
           continue;
         for (const element *e : rules[i].elements) {
-          walk(reference, net, e, note);
+          walk(reference, net, e, rules[i].names(), note);
           if (!reference.elementName.isEmpty())
             break; // the same for all
         }

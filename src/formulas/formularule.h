@@ -23,6 +23,7 @@ struct FormulaRule {
   std::vector<bool> computed;           ///< by position: the value is of the formula's making
 
   std::vector<const Formula *> formulas() const;
+  const FormulaNames *names() const { return definition.names.get(); }
 };
 
 /// Elements whose properties have changed.
@@ -45,8 +46,9 @@ private:
 /// Calls visit(element, property) for all that the formula reads to know the referred value, until it returns true.
 /// Returns whether it did.
 template <typename Visit>
-bool walk(const FormulaReference &reference, const NetData &net, const element *current, const Visit &visit) {
-  const element *at = reference.elementName.isEmpty() ? current : net.element(reference.elementName);
+bool walk(const FormulaReference &reference, const NetData &net, const element *current, const FormulaNames *names,
+          const Visit &visit) {
+  const element *at = reference.start(net, current, names);
   for (const PropertyKey step : reference.path) {
     if (at == nullptr)
       return false;

@@ -1,5 +1,8 @@
+#include "askedprogress.h"
 #include "constraintjudge.h"
 #include "elementfinder.h"
+#include "formulaparsers.h"
+#include "formularemarks.h"
 #include "formularule.h"
 
 #include <base/pattern.h>
@@ -17,65 +20,63 @@ QString tr(const char *text) {
   return QCoreApplication::translate("NetworkFormulas", text);
 }
 
-Finding warning(const FormulaDefinition &definition, const QString &text) {
-  return {Finding::Severity::Warning, definition.file, definition.line, text, QString()};
-}
-
-QString nameOf(const element &e) {
-  static const PropertyKey key = PropertyKey::intern("name");
-  return e.value(key);
-}
-
-/// Elements that a formula had no value for, told in one line.
-struct Failures {
-  int count = 0;
-  QString first; ///< by name
-  QString reason;
-
-  void add(const element &e, const QString &why) {
-    const QString name = nameOf(e);
-    if (count++ == 0 || name < first) {
-      first = name;
-      reason = why;
-    }
-  }
-};
-
 } // namespace
 
 struct NetworkFormulas::Computing {
   explicit Computing(NetData &ofNet)
-      : net(ofNet) {}
+      : net(ofNet)
+      , m_parsers(std::make_shared<FormulaParsers>(ofNet, MostParsers)) {}
 
   void prepare(const std::vector<FormulaDefinition> &definitions);
   void order();
   void describe();
-  Findings compute(FormulaRule &rule, const std::vector<element *> &elements, FormulaChanges *changes);
   std::vector<element *> affected(const FormulaRule &rule, const FormulaChanges &changes) const;
   /// Computes the formulas, then the constraints, for those of their elements that elementsOf tells.
-  template <typename ElementsOf, typename GoesOn>
-  Findings run(const ElementsOf &elementsOf, const GoesOn &goesOn, FormulaChanges *changes);
+  template <typename ElementsOf>
+  Findings run(const ElementsOf &elementsOf, const Progress &progress, FormulaChanges *changes);
 
   NetData &net;
   std::vector<FormulaRule> rules;
   std::vector<int> sequence;    ///< formulas in the order of computing
   std::vector<int> constraints; ///< in the order of the files
-  Findings findings;            ///< of the preparation
+  FormulaRemarks remarks;       ///< of the preparation
   int evaluations = 0;
 
 private:
+  static constexpr std::size_t MostParsers = 32;
+  static constexpr std::size_t MostText = std::size_t(256) << 20; ///< bytes that one run makes of long texts
+
+  struct Compiled {
+    std::shared_ptr<const Formula> formula;
+    QString error;
+  };
+
   FormulaRule parsed(FormulaDefinition definition);
   std::shared_ptr<const Formula> compiled(const QString &text);
   void reportUnknown();
+  /// What the formula yields for the element; empty for nothing, with the reason where that is a fault.
+  PropertyText valueOf(const FormulaRule &rule, const element &e, QString &reason);
+  template <typename GoesOn>
+  bool compute(FormulaRule &rule, const std::vector<element *> &elements, FormulaFailures &failures, FormulaChanges *changes,
+               const GoesOn &goesOn);
 
-  QHash<QString, std::shared_ptr<const Formula>> m_compiled; ///< by text
+  std::shared_ptr<FormulaParsers> m_parsers;
+  QHash<QString, Compiled> m_compiled; ///< by text
+  std::size_t m_madeText = 0;
 };
 
 std::shared_ptr<const Formula> NetworkFormulas::Computing::compiled(const QString &text) {
-  std::shared_ptr<const Formula> &formula = m_compiled[text];
-  if (formula == nullptr)
-    formula = std::make_shared<const Formula>(text, net, Formula::Bare::OfCurrent);
-  return formula;
+  Compiled &known = m_compiled[text];
+  if (known.formula == nullptr && known.error.isEmpty()) {
+    try {
+      known.formula = std::make_shared<const Formula>(text, net, Formula::Bare::OfCurrent, m_parsers);
+    } catch (const FormulaError &error) {
+      known.error = error.text();
+    }
+  }
+  if (known.formula == nullptr)
+    throw FormulaError(known.error);
+  return known.formula;
 }
 
 FormulaRule NetworkFormulas::Computing::parsed(FormulaDefinition definition) {
@@ -109,21 +110,33 @@ void NetworkFormulas::Computing::prepare(const std::vector<FormulaDefinition> &d
       FormulaRule rule = parsed(definition);
       rule.elements = definition.elements.isEmpty() ? finder.find(definition.types, definition.namePattern)
                                                     : finder.named(definition.elements, definition.types);
+      rule.definition.elements.clear(); // thousands of names, when subnets have thousands of elements
       rules.push_back(std::move(rule));
     } catch (const FormulaError &error) {
-      findings.push_back(
-          warning(definition, tr("The formula of %1 is left out: %2").arg(definition.property, error.text())));
+      remarks.add(definition, tr("The formula of %1 is left out: %2").arg(definition.property, error.text()));
     }
   }
 }
 
 void NetworkFormulas::Computing::order() {
   const FormulaProducers producers(rules);
-  const FormulaOrder order(producers.dependencies(rules, net));
+  const std::vector<std::vector<int>> dependencies = producers.dependencies(rules, net);
+  const FormulaOrder order(dependencies);
+  // Of those that do not need one another, by name: so do elements keep their properties, and one that goes to the end of
+  // 100,000 others moves none of them.
+  std::vector<int> levels(rules.size());
   for (const int i : order.order) {
-    if (!rules[static_cast<std::size_t>(i)].definition.isConstraint)
+    const auto number = static_cast<std::size_t>(i);
+    for (const int needed : dependencies[number])
+      levels[number] = std::max(levels[number], levels[static_cast<std::size_t>(needed)] + 1);
+    if (!rules[number].definition.isConstraint)
       sequence.push_back(i);
   }
+  std::stable_sort(sequence.begin(), sequence.end(), [&](int a, int b) {
+    const auto first = static_cast<std::size_t>(a);
+    const auto second = static_cast<std::size_t>(b);
+    return levels[first] != levels[second] ? levels[first] < levels[second] : rules[first].target < rules[second].target;
+  });
   for (std::size_t i = 0; i < rules.size(); ++i) {
     if (rules[i].definition.isConstraint)
       constraints.push_back(static_cast<int>(i));
@@ -133,11 +146,11 @@ void NetworkFormulas::Computing::order() {
     for (const int i : cycle)
       places.append(rules[static_cast<std::size_t>(i)].definition.place());
     const FormulaDefinition &first = rules[static_cast<std::size_t>(cycle.front())].definition;
-    findings.push_back(warning(
+    remarks.add(
         first,
         cycle.size() == 1
             ? tr("The formula needs its own result and is left out: %1").arg(places.first())
-            : tr("These formulas need one another's results and are left out: %1").arg(places.join(QStringLiteral("; ")))));
+            : tr("These formulas need one another's results and are left out: %1").arg(places.join(QStringLiteral("; "))));
   }
   if (!rules.empty())
     reportUnknown();
@@ -165,10 +178,10 @@ void NetworkFormulas::Computing::reportUnknown() {
         properties.push_back(reference.property);
         for (const PropertyKey property : properties) {
           if (known.count(property) == 0)
-            findings.push_back(warning(rule.definition, tr("No element has the property \"%1\".").arg(property.name())));
+            remarks.add(rule.definition, tr("No element has the property \"%1\".").arg(property.name()));
         }
-        if (!reference.elementName.isEmpty() && net.element(reference.elementName) == nullptr)
-          findings.push_back(warning(rule.definition, tr("There is no element \"%1\".").arg(reference.elementName)));
+        if (!reference.elementName.isEmpty() && reference.start(net, nullptr, rule.names()) == nullptr)
+          remarks.add(rule.definition, tr("There is no element \"%1\".").arg(reference.elementName));
       }
     }
   }
@@ -205,33 +218,50 @@ void NetworkFormulas::Computing::describe() {
     net.setMetaData(metaData);
 }
 
-Findings NetworkFormulas::Computing::compute(FormulaRule &rule, const std::vector<element *> &elements,
-                                             FormulaChanges *changes) {
-  Failures failures;
+PropertyText NetworkFormulas::Computing::valueOf(const FormulaRule &rule, const element &e, QString &reason) {
+  constexpr std::size_t Short = 64; // bytes
+  const bool isAsStored = rule.toStored.factor == 1.0 && rule.toStored.offset == 0.0;
+  try {
+    const Formula::Result result = rule.value->evaluate(e, rule.names());
+    const bool isNumber = result.number != NetData::NoValue;
+    if (isNumber && !std::isfinite(result.number))
+      reason = tr("the result is not finite");
+    else if (isNumber && !isAsStored)
+      return PropertyText::ofNumber(rule.toStored(result.number));
+    else if (result.text != QLatin1String("_null_")) {
+      PropertyText text(result.text);
+      m_madeText += text.utf8().size() > Short ? text.utf8().size() : 0;
+      if (m_madeText <= MostText)
+        return text;
+      reason = tr("the formulas make more than %1 MB of texts").arg(MostText >> 20);
+    }
+  } catch (const FormulaError &error) {
+    if (!error.isForMissingValue())
+      reason = error.text();
+  }
+  return PropertyText();
+}
+
+/// Returns whether it came to the end. \param goesOn told how many elements are done
+template <typename GoesOn>
+bool NetworkFormulas::Computing::compute(FormulaRule &rule, const std::vector<element *> &elements,
+                                         FormulaFailures &failures, FormulaChanges *changes, const GoesOn &goesOn) {
+  if (elements.empty())
+    return true;
   rule.computed.resize(rule.elements.size());
   std::size_t position = 0; // in those of the rule, which stand in the same order
-  const bool isAsStored = rule.toStored.factor == 1.0 && rule.toStored.offset == 0.0;
+  failures.addElements(rule.definition, elements.size());
+  std::size_t done = 0;
   for (element *e : elements) {
+    if (!goesOn(done++))
+      return false;
     ++evaluations;
     while (rule.elements[position] != e)
       ++position;
     QString reason;
-    PropertyText text;
-    try {
-      const Formula::Result result = rule.value->evaluate(*e);
-      const bool isNumber = result.number != NetData::NoValue;
-      if (isNumber && !std::isfinite(result.number))
-        reason = tr("the result is not finite");
-      else if (isNumber && !isAsStored)
-        text = PropertyText::ofNumber(rule.toStored(result.number));
-      else if (result.text != QLatin1String("_null_"))
-        text = PropertyText(result.text);
-    } catch (const FormulaError &error) {
-      if (!error.isForMissingValue())
-        reason = error.text();
-    }
+    PropertyText text = valueOf(rule, *e, reason);
     if (!reason.isEmpty())
-      failures.add(*e, reason);
+      failures.add(rule.definition, *e, reason);
     const PropertyText *before = e->find(rule.target);
     if (changes != nullptr && (before == nullptr ? !text.isEmpty() : *before != text))
       (*changes)[rule.target].insert(e);
@@ -242,15 +272,7 @@ Findings NetworkFormulas::Computing::compute(FormulaRule &rule, const std::vecto
       e->erase(rule.target); // what it was computed from is gone
     rule.computed[position] = hasValue;
   }
-  if (failures.count == 0)
-    return {};
-  Finding finding = warning(rule.definition, tr("%1 could not be computed for %2 of %3 elements, the first is %4: %5")
-                                                 .arg(rule.definition.property)
-                                                 .arg(failures.count)
-                                                 .arg(elements.size())
-                                                 .arg(failures.first, failures.reason));
-  finding.element = failures.first;
-  return {finding};
+  return true;
 }
 
 std::vector<element *> NetworkFormulas::Computing::affected(const FormulaRule &rule, const FormulaChanges &changes) const {
@@ -261,7 +283,7 @@ std::vector<element *> NetworkFormulas::Computing::affected(const FormulaRule &r
   std::set<element *> found;
   const auto ask = [&](const FormulaReference &reference) {
     if (!reference.elementName.isEmpty()) {
-      if (walk(reference, net, nullptr, hasChanged))
+      if (walk(reference, net, nullptr, rule.names(), hasChanged))
         found.insert(rule.elements.begin(), rule.elements.end());
       return;
     }
@@ -280,7 +302,7 @@ std::vector<element *> NetworkFormulas::Computing::affected(const FormulaRule &r
     for (const PropertyKey step : reference.path)
       isAsked = isAsked || changes.count(step) > 0;
     for (element *e : isAsked ? rule.elements : std::vector<element *>()) {
-      if (walk(reference, net, e, hasChanged))
+      if (walk(reference, net, e, rule.names(), hasChanged))
         found.insert(e);
     }
   };
@@ -293,26 +315,40 @@ std::vector<element *> NetworkFormulas::Computing::affected(const FormulaRule &r
   return {found.begin(), found.end()};
 }
 
-template <typename ElementsOf, typename GoesOn>
-Findings NetworkFormulas::Computing::run(const ElementsOf &elementsOf, const GoesOn &goesOn, FormulaChanges *changes) {
+template <typename ElementsOf>
+Findings NetworkFormulas::Computing::run(const ElementsOf &elementsOf, const Progress &progress, FormulaChanges *changes) {
   evaluations = 0;
-  Findings failures;
+  m_madeText = 0;
+  FormulaFailures failures;
+  AskedProgress asking(progress);
+  const auto count = static_cast<double>(sequence.size() + constraints.size());
+  int rulesDone = 0;
+  std::size_t ofRule = 1;
+  const auto goesOn = [&](std::size_t elementsDone) {
+    return asking.goesOn((rulesDone + static_cast<double>(elementsDone) / static_cast<double>(ofRule)) / count);
+  };
   for (const int i : sequence) {
-    if (!goesOn())
-      return failures;
     FormulaRule &rule = rules[static_cast<std::size_t>(i)];
-    append(failures, compute(rule, elementsOf(rule), changes));
+    const std::vector<element *> &elements = elementsOf(rule);
+    ofRule = std::max<std::size_t>(1, elements.size());
+    if (!compute(rule, elements, failures, changes, goesOn))
+      return failures.findings();
+    ++rulesDone;
   }
   ConstraintJudge judge(net);
   for (const int i : constraints) {
-    if (!goesOn())
-      return failures;
     FormulaRule &rule = rules[static_cast<std::size_t>(i)];
-    judge.judge(rule, elementsOf(rule));
+    const std::vector<element *> &elements = elementsOf(rule);
+    ofRule = std::max<std::size_t>(1, elements.size());
+    if (!judge.judge(rule, elements, goesOn))
+      return failures.findings();
+    ++rulesDone;
   }
   judge.write(rules, constraints);
   evaluations += judge.evaluations();
-  return failures;
+  Findings found = failures.findings();
+  append(found, judge.findings());
+  return found;
 }
 
 NetworkFormulas::NetworkFormulas(NetData &net)
@@ -325,7 +361,7 @@ Findings NetworkFormulas::setDefinitions(const std::vector<FormulaDefinition> &d
   m_computing->prepare(definitions);
   m_computing->order();
   m_computing->describe();
-  return m_computing->findings;
+  return m_computing->remarks.findings();
 }
 
 int NetworkFormulas::size() const {
@@ -337,8 +373,8 @@ Findings NetworkFormulas::violations() const {
   for (const int i : m_computing->constraints) {
     const FormulaRule &rule = m_computing->rules[static_cast<std::size_t>(i)];
     for (auto it = rule.violations.cbegin(); it != rule.violations.cend(); ++it) {
-      Finding finding = warning(rule.definition, it.value());
-      finding.element = nameOf(*it.key());
+      Finding finding = FormulaRemarks::warning(rule.definition, it.value());
+      finding.element = it.key()->value(QStringLiteral("name"));
       found.push_back(std::move(finding));
     }
   }
@@ -352,15 +388,13 @@ int NetworkFormulas::evaluations() const {
 }
 
 Findings NetworkFormulas::apply(const Progress &progress) {
-  int done = 0;
-  return m_computing->run([](const FormulaRule &rule) { return rule.elements; },
-                          [&] { return !progress || progress(static_cast<double>(done++) / size()); }, nullptr);
+  return m_computing->run([](const FormulaRule &rule) -> const std::vector<element *> & { return rule.elements; }, progress,
+                          nullptr);
 }
 
 Findings NetworkFormulas::update(const std::vector<Change> &changes) {
   FormulaChanges all;
   for (const Change &change : changes)
     all[change.property].insert(change.changed);
-  return m_computing->run([&](const FormulaRule &rule) { return m_computing->affected(rule, all); }, [] { return true; },
-                          &all);
+  return m_computing->run([&](const FormulaRule &rule) { return m_computing->affected(rule, all); }, Progress(), &all);
 }

@@ -378,8 +378,9 @@ void SubAssembler::findFreePrefixes(const std::vector<const elements::Entry *> &
 
 /// A template's definition as that of the elements that were made for one subnet.
 FormulaDefinition SubAssembler::ownDefinition(const FormulaDefinition &definition, const Assembled &assembled,
-                                              const QHash<QString, QString> &names) {
+                                              const std::shared_ptr<const FormulaNames> &names) {
   FormulaDefinition own = definition;
+  own.names = names;
   const std::vector<std::string> &parts = assembled.variant->plan->parts();
   const Pattern pattern(definition.namePattern);
   for (std::size_t i = 0; i < parts.size(); ++i) {
@@ -389,24 +390,22 @@ FormulaDefinition SubAssembler::ownDefinition(const FormulaDefinition &definitio
   if (own.types.contains(QStringLiteral("sub")))
     own.elements.append(assembled.subnet);
   own.namePattern.clear();
-  for (QString *expression : {&own.expression, &own.lower, &own.upper})
-    *expression = Formula::renamed(*expression, names); // the template's names stand for what was made of them
   return own;
 }
 
 std::vector<FormulaDefinition> SubAssembler::definitions(Findings &findings) const {
   const auto read = [](const QString &path) {
-    return FormulaFile::read(path, QStringLiteral("geometry"));
+    return FormulaFile::read(path, QStringLiteral("geometry"), FileAccess::Source::Trusted); // of the program
   };
   std::set<QString> told;
   std::vector<FormulaDefinition> definitions;
   for (const Assembled &assembled : m_assembled) {
     const Variant &variant = *assembled.variant;
-    QHash<QString, QString> names; // of the template to those of the network
+    const auto names = std::make_shared<FormulaNames>(); // of the template to those of the network
     for (int i = 0; i < assembled.pins.size(); ++i)
-      names.insert(variant.plan->pinNames().at(i), assembled.pins.at(i));
+      names->add(variant.plan->pinNames().at(i), assembled.pins.at(i));
     for (std::size_t i = 0; i < assembled.names.size(); ++i)
-      names.insert(QString::fromStdString(variant.plan->parts()[i]), assembled.names[i].toString());
+      names->add(QString::fromStdString(variant.plan->parts()[i]), assembled.names[i].toString());
     for (const auto &[path, cache] :
          {std::make_pair(&variant.constraints, &m_templates->constraints), {&variant.formulas, &m_templates->formulas}}) {
       if (path->isEmpty())

@@ -38,26 +38,6 @@ NetworkSearch::NetworkSearch(NetData &net, SearchParams params)
   m_current.matches = m_type.matches(m_current.text); // no type at all
 }
 
-const QStringList &SearchedProperties::never() {
-  static const QStringList keys{
-      QStringLiteral("isSearchResult"), QStringLiteral("pLine"),   QStringLiteral("pArrow"), QStringLiteral("pLabel"),
-      QStringLiteral("pSymbol"),        QStringLiteral("vis.ele"), QStringLiteral("type")};
-  return keys;
-}
-
-bool SearchedProperties::contains(PropertyKey key) {
-  if (key.index() >= m_known.size())
-    m_known.resize(key.index() + 1, -1);
-  signed char &known = m_known[key.index()];
-  if (known < 0) {
-    const QString name = key.name();
-    const bool isNever =
-        name.compare(QLatin1String("type"), Qt::CaseInsensitive) != 0 && never().contains(name, Qt::CaseInsensitive);
-    known = !isNever && m_pattern.matches(name) ? 1 : 0;
-  }
-  return known == 1;
-}
-
 /// What a run of candidates one after the other has yielded.
 struct NetworkSearch::Part {
   std::vector<SearchRow> rows;
@@ -138,10 +118,17 @@ const NetworkSearch::Type &NetworkSearch::type(std::string_view utf8) {
   return m_current;
 }
 
+/// An element without what the formula reads does not satisfy it: drives have no pressure, and are not above one.
 bool NetworkSearch::satisfiesFormula(const element &candidate) {
   if (!m_formula)
     m_formula.emplace(m_params.formula, m_net);
-  return m_formula->accepts(candidate);
+  try {
+    return m_formula->accepts(candidate);
+  } catch (const FormulaError &error) {
+    if (error.isForMissingValue())
+      return false;
+    throw FormulaError(candidate.value(QStringLiteral("name")) + QStringLiteral(": ") + error.text(), error.kind());
+  }
 }
 
 void NetworkSearch::search(element &candidate, std::vector<SearchRow> &rows) {
@@ -165,12 +152,17 @@ bool NetworkSearch::addRows(const element &candidate, std::vector<SearchRow> &ro
     return isMarked;
   bool isAsked = m_params.formula.isEmpty(); // the formula asks for the element, not for the property: once is enough
   for (const Property &property : candidate) {
-    if (!m_properties.contains(property.key) || !m_value.matches(property.value.utf8()))
+    if (!m_properties.contains(property.key))
+      continue;
+    const bool isLike = m_value.matches(property.value.utf8());
+    if (!isLike && !m_value.compares())
+      continue;
+    DisplayValue::Shown shown = m_display.of(ofType.text, property.key, property.value);
+    if (!isLike && !m_value.holdsFor(shown.value))
       continue;
     if (!isAsked && !satisfiesFormula(candidate))
       return isMarked;
     isAsked = true;
-    DisplayValue::Shown shown = m_display.of(ofType.text, property.key, property.value);
     rows.push_back({name, ofType.text, property.key.name(), std::move(shown.value), std::move(shown.unit)});
   }
   return isMarked;

@@ -2,9 +2,12 @@
 
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/wholefile.h>
 #include <tools/nameaid.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
+#include <tools/numberdelegate.h>
+#include <tools/searchhint.h>
 #include <tools/searchtable.h>
 #include <tools/tablemenu.h>
 
@@ -17,7 +20,6 @@
 #include <QMetaMethod>
 #include <QMimeData>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 static void initialiseResources() {
   Q_INIT_RESOURCE(tools); // a static library's resources are dropped by the linker unless somebody asks for them
@@ -74,11 +76,7 @@ NivraSearch::NivraSearch(NetData &net, QWidget *parent)
     , m_historyMenu(new QMenu(this)) {
   initialiseResources();
   m_ui->setupUi(this);
-  m_ui->treeWidget_searchResults->setHeaderLabels(SearchTable::headers());
-  constexpr int Widths[] = {120, 40, 120, 120, 100};
-  for (int column = 0; column < ColumnCount; ++column)
-    m_ui->treeWidget_searchResults->setColumnWidth(column, Widths[column]);
-  m_ui->treeWidget_searchResults->sortByColumn(NameColumn, Qt::AscendingOrder);
+  setUpResults();
   m_ui->toolButton_history->setMenu(m_historyMenu);
   m_ui->toolButton_history->setPopupMode(QToolButton::InstantPopup);
   connect(m_historyMenu, &QMenu::triggered, this, &NivraSearch::resetToSavedSearch);
@@ -87,7 +85,6 @@ NivraSearch::NivraSearch(NetData &net, QWidget *parent)
   setUpSelect();
   setUpFormulaMode();
   m_ui->lineEdit_prop->setText(QStringLiteral("^name$"));
-  new TableMenu(*m_ui->treeWidget_searchResults);
   NameAid::attach(*m_ui->lineEdit_name,
                   [this](const QString &beginning, int most) { return NameAid::elementNames(m_net, beginning, most); });
   NameAid::attach(*m_ui->lineEdit_prop,
@@ -96,6 +93,40 @@ NivraSearch::NivraSearch(NetData &net, QWidget *parent)
 }
 
 NivraSearch::~NivraSearch() = default;
+
+void NivraSearch::setUpResults() {
+  QTreeWidget *tree = m_ui->treeWidget_searchResults;
+  tree->setHeaderLabels(SearchTable::headers());
+  constexpr int Widths[] = {120, 40, 120, 120, 100};
+  for (int column = 0; column < ColumnCount; ++column)
+    tree->setColumnWidth(column, Widths[column]);
+  tree->sortByColumn(NameColumn, Qt::AscendingOrder);
+  tree->setItemDelegateForColumn(ValueColumn, new NumberDelegate(PropertyColumn, tree));
+  new TableMenu(*tree);
+  auto *characteristics = new QAction(tr("Open Characteristics"), this);
+  characteristics->setObjectName(QStringLiteral("actionOpenCharacteristics"));
+  characteristics->setVisible(false);
+  tree->addAction(characteristics);
+  connect(tree, &QTreeWidget::itemSelectionChanged, characteristics,
+          [this, characteristics] { characteristics->setVisible(!selectedMachines().isEmpty()); });
+  connect(characteristics, &QAction::triggered, this, [this] { emit characteristicsWanted(selectedMachines()); });
+  showHint(QString());
+}
+
+QStringList NivraSearch::selectedMachines() const {
+  QStringList names;
+  for (const QTreeWidgetItem *item : m_ui->treeWidget_searchResults->selectedItems()) {
+    const QString type = item->text(TypeColumn);
+    if (type == QLatin1String("c") || type == QLatin1String("d"))
+      names.append(item->text(NameColumn));
+  }
+  return names;
+}
+
+void NivraSearch::showHint(const QString &text) {
+  m_ui->label_hint->setText(text);
+  m_ui->label_hint->setVisible(!text.isEmpty());
+}
 
 void NivraSearch::setUpSelect() {
   auto *selectMenu = new QMenu(this);
@@ -172,6 +203,7 @@ void NivraSearch::defineSearch(const QStringList &searchDef, bool regex) {
   m_ui->lineEdit_type->setText(searchDef.at(1));
   m_ui->lineEdit_prop->setText(searchDef.at(2));
   m_ui->lineEdit_searchString->setText(searchDef.at(3));
+  m_lastField = m_ui->lineEdit_name; // nobody has edited the others
   m_ui->pushButton_regex->setChecked(regex);
   clearFormulas();
   searchWithFormula();
@@ -207,6 +239,7 @@ void NivraSearch::searchWithFormula() {
   tree->header()->setSortIndicator(NameColumn, Qt::AscendingOrder);
   tree->setSortingEnabled(true); // sorts by what the header shows
   showCount();
+  showHint(result.isStopped ? result.error : SearchHint::of(m_net, searchParams(), result.rows.size()));
   if (result.isStopped) {
     NivraMsg::logWarning(result.error);
     NivraMsg::message(NivraMsg::Kind::Warning, tr("Formula not ok! Search stopped (incomplete)!"));
@@ -221,6 +254,7 @@ void NivraSearch::showCount() {
 
 void NivraSearch::clearResults() {
   m_ui->treeWidget_searchResults->clear();
+  showHint(QString());
   m_ui->label_found->setText(tr("Found:"));
 }
 
@@ -332,6 +366,7 @@ void NivraSearch::on_pushButton_formula_clicked() {
 void NivraSearch::on_toolButton_clear_clicked() {
   for (QLineEdit *field : {m_ui->lineEdit_name, m_ui->lineEdit_type, m_ui->lineEdit_prop, m_ui->lineEdit_searchString})
     field->clear();
+  m_lastField = m_ui->lineEdit_name;
 }
 
 void NivraSearch::on_pushButton_regex_toggled(bool checked) {
@@ -341,11 +376,15 @@ void NivraSearch::on_pushButton_regex_toggled(bool checked) {
 void NivraSearch::on_pushButton_save_clicked() {
   const QString path = QFileDialog::getSaveFileName(this, tr("Choose File"), QStringLiteral("searchresults.csv"),
                                                     tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
-  if (!path.isEmpty())
-    save(path);
+  if (path.isEmpty())
+    return;
+  QString reason;
+  save(path, &reason);
+  showHint(reason);
 }
 
-bool NivraSearch::save(const QString &path) const {
+bool NivraSearch::save(const QString &path, QString *reason) const {
+  QString unasked;
   std::vector<QStringList> rows;
   const QTreeWidget *tree = m_ui->treeWidget_searchResults;
   rows.reserve(static_cast<std::size_t>(tree->topLevelItemCount()));
@@ -357,10 +396,11 @@ bool NivraSearch::save(const QString &path) const {
   }
   SearchParams params = searchParams();
   params.formula = m_reportedFormula;
-  QSaveFile file(path);
-  return file.open(QIODevice::WriteOnly) &&
-         SearchTable::write(file, params, rows, GeneralSettings::instance().isOn(QStringLiteral("use comma"))) &&
-         file.commit();
+  const bool useComma = GeneralSettings::instance().isOn(QStringLiteral("use comma"));
+  return WholeFile::write(
+      path, FileAccess::Source::Trusted,
+      [&](QIODevice &device, QString *) { return SearchTable::write(device, params, rows, useComma); },
+      reason == nullptr ? &unasked : reason);
 }
 
 void NivraSearch::on_pushButton_addCat_clicked() {

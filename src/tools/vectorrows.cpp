@@ -1,3 +1,4 @@
+#include <base/nivramsg.h>
 #include <tools/csvfield.h>
 #include <tools/vectorrows.h>
 
@@ -23,9 +24,9 @@ std::vector<VectorRows::Row> VectorRows::build(const Request &request) {
   const QString value = category.formula.isEmpty() ? category.value : category.formula;
   const bool isFormula = value.contains(QLatin1Char('@'));
   m_name = Pattern(category.name);
-  m_type = Pattern(category.type);
+  m_type = SearchedTypes(category.type);
   m_properties = SearchedProperties(category.prop);
-  m_value = Pattern(isFormula ? QString() : value);
+  m_value = SearchedValues(isFormula ? QString() : value);
   m_allHaveUnits = true;
   std::vector<Row> rows;
   try {
@@ -52,11 +53,15 @@ bool VectorRows::result(const element &e, const Property &property, const Reques
   if (request.usesProperty)
     return true;
   if (!m_formula)
-    return m_value.matches(text);
+    return m_value.matches(property.value.utf8()) ||
+           (m_value.compares() &&
+            m_value.holdsFor(m_display->of(e.value(QStringLiteral("type")), property.key, property.value).value));
   try {
     text = m_formula->evaluate(e).text;
     return true;
-  } catch (const FormulaError &) {
+  } catch (const FormulaError &error) {
+    if (error.kind() == FormulaError::Kind::TooCostly)
+      NivraMsg::logWarning(error.text());
     return false;
   }
 }

@@ -187,8 +187,10 @@ QString LabelContents::shownValue(const Part &part, const element &source) {
       if (result.number != NetData::NoValue)
         return formatted(result.number, QString());
       return result.text.toStdString() == ParserFactory::nullText() ? QString() : result.text;
-    } catch (const FormulaError &) {
-      return QString(); // of this element it says nothing
+    } catch (const FormulaError &error) {
+      if (error.kind() == FormulaError::Kind::TooCostly)
+        NivraMsg::logWarning(error.text()); // once: from now on it is not evaluated
+      return QString();                     // of this element it says nothing
     }
   }
   const PropertyText *value = source.find(part.value);

@@ -20,6 +20,8 @@ private slots:
   void bareNames();
   void boundAnew();
   void namesGivenAnew();
+  void errorsNameWhatIsRead_data();
+  void errorsNameWhatIsRead();
   void errors_data();
   void errors();
   void boundless_data();
@@ -94,6 +96,14 @@ void TestFormula::references_data() {
   row("p@node1@ELE - p@node2@ELE", "43.5");
   row("isnull(p@ELE)", "1");
   row("isnull(p@node1@node1@ELE)", "1"); // a node has no first node
+  row("isnull(v@ELE)", "0");             // these ask for a text, and have to take what is a number
+  row("isnotnull( (p@N1) )", "1");
+  row("isnotnull(p@ELE)", "0");
+  row("nonull(p@N1)", "50.5");
+  row("nonull(p@ELE) // \"-\" // nonull(v@ELE)", "-12");
+  row("isnotnull(v@ELE) && v@ELE > 10", "1");
+  row("isnull(v@ELE) ? 0 : v@ELE * 2", "24");
+  row("isnull(p@ELE) ? v@ELE : p@ELE", "12");
   row("state@ELE == \"open\"", "1");
   row("\"v@ELE\"", "v@ELE"); // in a text it is a text
   row("empty@ELE == \"\"", "1");
@@ -141,11 +151,14 @@ void TestFormula::bareNames() {
   QVERIFY_EXCEPTION_THROWN(Formula(QStringLiteral("v*2"), m_net).evaluate(pipe), FormulaError);
 }
 
+/// As in the formulas of a template: its names stand for what was made of them.
 void TestFormula::namesGivenAnew() {
-  const QHash<QString, QString> names{{QStringLiteral("A"), QStringLiteral("S-1_A")},
-                                      {QStringLiteral("B-2"), QStringLiteral("T_B")}};
-  QCOMPARE(Formula::renamed(QStringLiteral("p@A - q@node1@B&#45;2 + r@ELE * s@AB + \"@A\" + t@"), names),
-           QStringLiteral("p@S&#45;1_A - q@node1@T_B + r@ELE * s@AB + \"@A\" + t@"));
+  FormulaNames names;
+  names.add(QStringLiteral("In-1"), QStringLiteral("N1"));
+  names.add(QStringLiteral("Edge"), QStringLiteral("P1"));
+  const Formula formula(QStringLiteral("p@in&#45;1 + v@Edge + p@node2@Edge + 100 * p@N1"), m_net);
+  QCOMPARE(formula.evaluate(element(), &names).text, QStringLiteral("5119.5"));
+  QVERIFY_EXCEPTION_THROWN(formula.evaluate(element()), FormulaError);
 }
 
 void TestFormula::boundAnew() {
@@ -155,6 +168,27 @@ void TestFormula::boundAnew() {
   m_net.element(QStringLiteral("P2"))->set(QStringLiteral("v"), QStringLiteral("5"));
   const Formula moved = std::move(formula);
   QCOMPARE(moved.evaluate(*m_net.element(QStringLiteral("P2"))).number, 2.5);
+}
+
+void TestFormula::errorsNameWhatIsRead_data() {
+  QTest::addColumn<QString>("formula");
+  QTest::addColumn<QString>("named");
+  QTest::newRow("value") << QStringLiteral("isnull(v@ELE+1)") << QStringLiteral("isnull");
+  QTest::newRow("index") << QStringLiteral("state@ELE + v@N1 + v@ELE[3]") << QString();
+  QTest::newRow("beside another") << QStringLiteral("v@ELE p@node1@ELE") << QStringLiteral("p@node1@ELE");
+  QTest::newRow("call") << QStringLiteral("sin(state@ELE)") << QStringLiteral("sin");
+}
+
+void TestFormula::errorsNameWhatIsRead() {
+  QFETCH(QString, formula);
+  QFETCH(QString, named);
+  QString text;
+  try {
+    Formula(formula, m_net).evaluate(*m_net.element(QStringLiteral("P1")));
+  } catch (const FormulaError &error) {
+    text = error.text();
+  }
+  QVERIFY2(!text.isEmpty() && text.contains(named) && !text.contains(QStringLiteral("v_")), qPrintable(text));
 }
 
 void TestFormula::errors_data() {
@@ -178,6 +212,10 @@ void TestFormula::boundless_data() {
   row("matrix of a property", QStringLiteral("ones(v@ELE*1e6)"));
   row("no size", QStringLiteral("eye(-1)"));
   row("factorial", QStringLiteral("1e15!"));
+  row("products of matrices",
+      QStringLiteral("(ones(100,100)") + QStringLiteral("*ones(100,100)").repeated(250) + QStringLiteral(")[0,0]"));
+  row("growing text", QStringLiteral("(state@ELE=state@ELE//state@ELE)//").repeated(39) + QStringLiteral("\"\""));
+  row("printed matrix", QStringLiteral("ones(60,60)"));
   row("nesting", QString(5000, QLatin1Char('(')) + QLatin1Char('1') + QString(5000, QLatin1Char(')')));
   row("length", QString(1000000, QLatin1Char('1')));
   row("list", QStringLiteral("{") + QStringLiteral("1,").repeated(1000) + QStringLiteral("1}"));
@@ -187,6 +225,10 @@ void TestFormula::boundless() {
   QFETCH(QString, formula);
   QVERIFY_EXCEPTION_THROWN(Formula(formula, m_net).evaluate(*m_net.element(QStringLiteral("P1"))), FormulaError);
   QCOMPARE(Formula(QStringLiteral("5!"), m_net).evaluate(element()).text, QStringLiteral("120"));
+  QCOMPARE(Formula(QStringLiteral("(ones(20,20)*ones(20,20))[0,0]"), m_net).evaluate(element()).number, 20.0);
+  const QString longest =
+      QStringLiteral("v@ELE") + QStringLiteral("+v@ELE").repeated(660); // what is allowed can be computed
+  QCOMPARE(Formula(longest, m_net).evaluate(*m_net.element(QStringLiteral("P1"))).number, 12.0 * 661);
 }
 
 NIVRA_TEST(TestFormula);

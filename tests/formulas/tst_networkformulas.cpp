@@ -3,7 +3,10 @@
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 
-#include <QBuffer>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 /// A line of three nodes and two pipes: A - P1 - B - P2 - C.
 class TestNetworkFormulas : public QObject {
@@ -24,9 +27,15 @@ private slots:
   void constraints();
   void onlyWhatDependsIsComputedAgain();
   void derivedPropertiesAreDescribed();
+  void growingTextsAreStopped();
+  void costlyFormulasAreGivenUp_data();
+  void costlyFormulasAreGivenUp();
+  void cancelledWithinALine();
+  void manyLines();
+  void onlyPlainFilesAreRead();
 
 private:
-  Findings define(const char *text);
+  Findings define(const QByteArray &text);
   QString value(const char *property, const char *name) const {
     return m_net->element(QString::fromUtf8(name))->value(QString::fromUtf8(property));
   }
@@ -53,13 +62,10 @@ void TestNetworkFormulas::init() {
 }
 
 FormulaFile::Contents TestNetworkFormulas::parsed(const QByteArray &text) {
-  QBuffer buffer;
-  buffer.setData(text);
-  buffer.open(QIODevice::ReadOnly);
-  return FormulaFile::parse(buffer, QStringLiteral("t.formulas"), QStringLiteral("geometry"));
+  return FormulaFile::parse(text, QStringLiteral("t.formulas"), QStringLiteral("geometry"));
 }
 
-Findings TestNetworkFormulas::define(const char *text) {
+Findings TestNetworkFormulas::define(const QByteArray &text) {
   return m_formulas->setDefinitions(parsed(text).definitions);
 }
 
@@ -110,7 +116,7 @@ void TestNetworkFormulas::faultyLines() {
   QFETCH(QByteArray, text);
   QFETCH(QString, reason);
   const FormulaFile::Contents contents = parsed("ok = 1\n\n" + text + "\nok2 = 2\n");
-  const Findings found = reason.isEmpty() ? define(text.constData()) : contents.findings; // the engine's to say
+  const Findings found = reason.isEmpty() ? define(text) : contents.findings; // the engine's to say
   QCOMPARE(found.size(), std::size_t(1));
   QCOMPARE(found.front().line, reason.isEmpty() ? 1 : 3);
   QVERIFY2(found.front().text.contains(reason), qPrintable(found.front().text));
@@ -247,6 +253,108 @@ void TestNetworkFormulas::derivedPropertiesAreDescribed() {
   QVERIFY(m_net->metaData()->edgeFunctions().contains(QStringLiteral("gradient")));
   m_net->clear();
   QCOMPARE(m_net->metaData(), &NetMetaData::instance());
+}
+
+/// Each line doubles what the one before has made: forty of them would fill the memory.
+void TestNetworkFormulas::growingTextsAreStopped() {
+  QByteArray text = "t0(p) = \"abcdefghij\"\n";
+  for (int i = 1; i <= 40; ++i)
+    text += QStringLiteral("t%1(p) = t%2 // t%2\n").arg(i).arg(i - 1).toUtf8();
+  QVERIFY(define(text).empty());
+  const Findings findings = m_formulas->apply();
+  QVERIFY(!findings.empty());
+  QVERIFY2(findings.front().text.contains(QStringLiteral("could not be computed for 2 of 2 elements")),
+           qPrintable(findings.front().text));
+  QVERIFY(findings.front().line > 5 && findings.front().line < 15);
+  QCOMPARE(value("t5", "P1").size(), 320);
+  m_net->forEach(NetData::Edge, [](const element &e) {
+    for (const Property &property : e)
+      QVERIFY(property.value.utf8().size() <= 4096);
+  });
+}
+
+void TestNetworkFormulas::costlyFormulasAreGivenUp_data() {
+  QTest::addColumn<QByteArray>("formula");
+  QTest::newRow("products of matrices") << "(ones(100,100)" + QByteArray("*ones(100,100)").repeated(250) + ")[0,0]";
+  QTest::newRow("sums of matrices") << "(ones(90,90)" + QByteArray("+ones(90,90)").repeated(250) + ")[0,0]";
+  QTest::newRow("a text that grows") << QByteArray("(note = note // note)//").repeated(60) + "\"\"";
+}
+
+void TestNetworkFormulas::costlyFormulasAreGivenUp() {
+  QFETCH(QByteArray, formula);
+  for (int i = 0; i < 1000; ++i)
+    m_net->addElement(makeEdge(QByteArray("Q" + QByteArray::number(i)), "A", "B"));
+  m_net->forEach(NetData::Edge, [](element &e) { e.set(QStringLiteral("note"), QStringLiteral("x")); });
+  define("fine(p) = 1\nbad(p) = " + formula + "\nlength(p) in .. " + formula + "\n");
+  QElapsedTimer timer;
+  timer.start();
+  const Findings findings = m_formulas->apply();
+  QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+  QVERIFY(!findings.empty());
+  QCOMPARE(findings.front().line, 2);
+  QVERIFY2(findings.front().text.contains(QStringLiteral("1002 of 1002 elements")), qPrintable(findings.front().text));
+  QVERIFY2(findings.front().text.contains(QString::fromUtf8(formula.left(15))), qPrintable(findings.front().text));
+  QVERIFY(value("bad", "P1").isEmpty());
+  QCOMPARE(value("fine", "Q999"), QStringLiteral("1"));
+}
+
+void TestNetworkFormulas::cancelledWithinALine() {
+  constexpr int Elements = 20000;
+  for (int i = 0; i < Elements; ++i)
+    m_net->addElement(makeEdge(QByteArray("Q" + QByteArray::number(i)), "A", "B"));
+  define("s(p) = ones(60,60)[0,0]");
+  int asked = 0;
+  double last = -1.0;
+  m_formulas->apply([&](double fraction) {
+    last = fraction;
+    return ++asked < 3;
+  });
+  QCOMPARE(asked, 3);
+  QVERIFY(last > 0.0 && last < 1.0);
+  QVERIFY(m_formulas->evaluations() > 0 && m_formulas->evaluations() < Elements);
+}
+
+/// What each line costs must not be what a parser costs.
+void TestNetworkFormulas::manyLines() {
+  constexpr int Lines = 20000;
+  QByteArray text;
+  for (int i = 0; i < Lines; ++i)
+    text += QStringLiteral("a%1(p) = length + %1\n").arg(i).toUtf8();
+  QElapsedTimer timer;
+  timer.start();
+  QVERIFY(define(text).empty());
+  QVERIFY(m_formulas->apply().empty());
+  QCOMPARE(value("a2999", "P1"), QStringLiteral("3009"));
+  qInfo("%d lines: %lld ms", Lines, timer.elapsed());
+  QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed()))); // 1.2 s without optimisation
+}
+
+void TestNetworkFormulas::onlyPlainFilesAreRead() {
+  const QTemporaryDir folder;
+  const auto path = [&folder](const char *name) {
+    return folder.filePath(QString::fromLatin1(name));
+  };
+  QVERIFY(::mkfifo(QFile::encodeName(path("pipe.formulas")).constData(), 0600) == 0);
+  const QTemporaryDir outside;
+  QFile other(outside.filePath(QStringLiteral("other.formulas")));
+  QVERIFY(other.open(QIODevice::WriteOnly) && other.write("a = 1\n") > 0);
+  other.close();
+  QVERIFY(QFile::link(other.fileName(), path("linked.formulas")));
+  QFile longLine(path("long.formulas"));
+  QVERIFY(longLine.open(QIODevice::WriteOnly) &&
+          longLine.write("a = 1" + QByteArray("+1").repeated(50000) + "\nb = 2\n") > 0);
+  longLine.close();
+  FileAccess::confineTo(folder.path());
+  for (const char *name : {"pipe.formulas", "linked.formulas", "missing.formulas"}) {
+    const FormulaFile::Contents contents = FormulaFile::read(path(name), QStringLiteral("geometry"));
+    QVERIFY2(contents.definitions.empty() && contents.findings.size() == 1, name);
+    QVERIFY2(contents.findings.front().text.contains(QString::fromLatin1(name)), qPrintable(contents.findings.front().text));
+  }
+  const FormulaFile::Contents contents = FormulaFile::read(path("long.formulas"), QStringLiteral("geometry"));
+  FileAccess::confineTo(QString());
+  QCOMPARE(contents.findings.size(), std::size_t(1)); // the long line is one, not several
+  QCOMPARE(contents.definitions.size(), std::size_t(1));
+  QCOMPARE(contents.definitions.front().line, 2);
 }
 
 NIVRA_TEST(TestNetworkFormulas);

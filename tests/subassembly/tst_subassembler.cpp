@@ -28,6 +28,7 @@ private slots:
   void faultyTemplates();
   void templatesDoNotNest();
   void formulasAndConstraints();
+  void linesOfTemplatesAreToldOnce();
   void foldersAreCached();
   void editedTemplatesAreReadAnew();
   void manySubnets();
@@ -299,6 +300,29 @@ void TestSubAssembler::formulasAndConstraints() {
   QVERIFY(!m_net->element(QStringLiteral("T_B"))->contains(QStringLiteral("twice")));
   QCOMPARE(formulas.violations().size(), std::size_t(2));
   QVERIFY(value("CB_info", "S-1_B").contains(QStringLiteral("long")));
+}
+
+void TestSubAssembler::linesOfTemplatesAreToldOnce() {
+  constexpr int Subnets = 250;
+  write(QStringLiteral("station.formulas"), "total(sub) = length@A + length@b + p@In\nbad(p) = length +* 2\n"
+                                            "odd(p) = nosuch@ELE + p@Nowhere\ntext(p: ^A$) = length + refEle\n"
+                                            "loop(p) [m/cow] = 1\n");
+  m_net->element(QStringLiteral("N1"))->set(QStringLiteral("p"), QStringLiteral("1"));
+  for (int i = 0; i < Subnets; ++i)
+    addSubnet(QByteArray("S" + QByteArray::number(i)), "station", "N1;N2");
+  SubAssembler assembler(*m_net, m_folder->path(), m_cache);
+  assembler.createElesOfAssembledSubnets();
+  Findings findings;
+  NetworkFormulas formulas(*m_net);
+  append(findings, formulas.setDefinitions(assembler.definitions(findings)));
+  append(findings, formulas.apply());
+  QCOMPARE(value("total", "S7"), QStringLiteral("8"));
+  QCOMPARE(value("total", "S249"), QStringLiteral("8"));
+  const QString all = texts(findings);
+  QVERIFY2(findings.size() == 5, qPrintable(all));
+  QCOMPARE(all.count(QStringLiteral("bad")), 1);
+  QVERIFY2(all.contains(QStringLiteral("\"nosuch\"")) && all.contains(QStringLiteral("\"Nowhere\"")), qPrintable(all));
+  QVERIFY2(all.contains(QStringLiteral("text could not be computed for 250 of 250 elements")), qPrintable(all));
 }
 
 void TestSubAssembler::foldersAreCached() {

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <base/fileaccess.h>
 #include <base/finding.h>
+#include <formulas/formula.h>
 
-#include <QIODevice>
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <vector>
 
 /// One line of a formula file: what a property is computed from, or the bounds that it is to keep.
@@ -23,6 +25,7 @@ struct FormulaDefinition {
   QString lower;      ///< bounds of a constraint, empty for none
   QString upper;
   QString message;
+  std::shared_ptr<const FormulaNames> names; ///< in the expressions that stand for other elements; null for none
 
   QString file;
   int line = 0;
@@ -46,8 +49,8 @@ struct Contents {
 };
 
 /// \param category of the lines above the first that names one
-Contents parse(QIODevice &device, const QString &fileName, const QString &category);
+Contents parse(const QByteArray &text, const QString &fileName, const QString &category);
 /// A file that cannot be read is a finding.
-Contents read(const QString &path, const QString &category);
+Contents read(const QString &path, const QString &category, FileAccess::Source source = FileAccess::Source::Workspace);
 
 } // namespace FormulaFile

@@ -82,7 +82,7 @@ private:
   Place placeSubnet(element &subnet, const std::vector<Pin> &pins);
   void createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins, const Place &place);
   static FormulaDefinition ownDefinition(const FormulaDefinition &definition, const Assembled &assembled,
-                                         const QHash<QString, QString> &names);
+                                         const std::shared_ptr<const FormulaNames> &names);
   void reserve(const std::vector<const elements::Entry *> &subnets);
   void findFreePrefixes(const std::vector<const elements::Entry *> &subnets);
   void createPin(const element &source, const QString &name, const QPointF &at);

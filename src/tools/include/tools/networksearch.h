@@ -5,6 +5,7 @@
 #include <model/netdata.h>
 #include <model/propertycolumns.h>
 #include <tools/displayvalue.h>
+#include <tools/searchcriteria.h>
 #include <tools/searchparams.h>
 
 #include <atomic>
@@ -21,22 +22,6 @@ struct SearchRow {
   QString unit;
 };
 
-/// The properties that a search looks at, asked once a name rather than once an element.
-class SearchedProperties {
-public:
-  explicit SearchedProperties(const QString &pattern = QString())
-      : m_pattern(pattern) {}
-
-  bool contains(PropertyKey key);
-
-  /// Never searched, save for "type", which stands among them.
-  static const QStringList &never();
-
-private:
-  Pattern m_pattern;
-  std::vector<signed char> m_known; ///< by number of the spelling: -1 unknown, else the answer
-};
-
 /// The search for properties of elements, without a window. Elements with a row are marked by "isSearchResult".
 class NetworkSearch {
 public:
@@ -50,7 +35,7 @@ public:
   NetworkSearch(NetData &net, SearchParams params);
 
   Result run();
-  /// Adds the rows of one element, which is marked or unmarked. Throws FormulaError.
+  /// Adds the rows of one element, which is marked or unmarked. Throws FormulaError, which names the element.
   void search(element &candidate, std::vector<SearchRow> &rows);
 
 private:
@@ -72,9 +57,9 @@ private:
   NetData &m_net;
   SearchParams m_params;
   Pattern m_name;
-  Pattern m_type;
+  SearchedTypes m_type;
   SearchedProperties m_properties;
-  Pattern m_value;
+  SearchedValues m_value;
   std::optional<Formula> m_formula;
   PropertyColumns m_columns;
   DisplayValue m_display;

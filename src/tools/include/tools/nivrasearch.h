@@ -37,8 +37,8 @@ public:
   void on_pushButton_select_and_closure_clicked();
   /// Searches for exactly these names, joined by ";".
   void searchNames(const QString &names);
-  /// Writes the rows to a file; false when it cannot be written.
-  bool save(const QString &path) const;
+  /// Writes the rows to a file, whole or not at all; false with the reason when it cannot be written.
+  bool save(const QString &path, QString *reason = nullptr) const;
 
 signals:
   void elementMarked(const QString &elName);
@@ -48,6 +48,7 @@ signals:
   void searchCompleted();
   void definitionChanged(const QStringList &searchDef); ///< name, type, prop, formula or searchString
   void categoryWanted(const QStringList &searchDef);    ///< to be kept as a category
+  void characteristicsWanted(const QStringList &names); ///< maps of machines
 
 public slots:
   void defineSearch(const QStringList &searchDef, bool regex);
@@ -82,6 +83,7 @@ protected:
   void dropEvent(QDropEvent *event) override;
 
 private:
+  void setUpResults();
   void setUpSelect();
   void setUpFormulaMode();
   void setFormulaMode(bool on);
@@ -89,6 +91,9 @@ private:
   void clearFormulas();
   void searchFrom(QLineEdit *field);
   void showCount();
+  /// Below the rows; nothing for an empty text.
+  void showHint(const QString &text);
+  QStringList selectedMachines() const;
   QStringList definition() const;
 
   std::unique_ptr<Ui::NivraSearch> m_ui;

@@ -50,8 +50,8 @@ private:
   NetData &m_net;
   std::optional<DisplayValue> m_display; ///< of the vocabulary that the network has when rows are built
   Pattern m_name;
-  Pattern m_type;
-  Pattern m_value;
+  SearchedTypes m_type;
+  SearchedValues m_value;
   SearchedProperties m_properties;
   std::optional<Formula> m_formula;
   bool m_allHaveUnits = false;

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <base/pattern.h>
+#include <model/propertykey.h>
+#include <tools/tablemenu.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+/// The properties that a search looks at, asked once a name rather than once an element.
+class SearchedProperties {
+public:
+  explicit SearchedProperties(const QString &pattern = QString())
+      : m_pattern(pattern) {}
+
+  bool contains(PropertyKey key);
+
+  /// Never searched, save for "type", which stands among them.
+  static const QStringList &never();
+
+private:
+  Pattern m_pattern;
+  std::vector<signed char> m_known; ///< by number of the spelling: -1 unknown, else the answer
+};
+
+/// The types that a search looks at: a pattern of type codes ("p", "^[vr]$"). One that no code is like is a pattern of the
+/// words that people say ("pipe", "valve|regulator").
+class SearchedTypes {
+public:
+  explicit SearchedTypes(const QString &pattern = QString());
+  bool matches(const QString &code) const;
+
+private:
+  Pattern m_pattern;
+  bool m_takesWords = false;
+};
+
+/// The values that a search looks for: a pattern, which may as well be read as a comparison with a number (">10", "<= 3").
+class SearchedValues {
+public:
+  explicit SearchedValues(const QString &text = QString());
+
+  /// The pattern. \param value as it is stored
+  bool matches(std::string_view value) const { return m_pattern.matches(value); }
+  bool compares() const { return m_comparison.has_value(); }
+  /// The comparison; false when there is none. \param shown in the unit in which people read it
+  bool holdsFor(const QString &shown) const;
+
+private:
+  Pattern m_pattern;
+  std::optional<CellFilter> m_comparison;
+};
