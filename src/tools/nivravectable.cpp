@@ -143,8 +143,8 @@ void NivraVecTable::on_pushButtonUpdate_clicked() {
   request.onlyNonZero = m_ui->checkBoxNonZero->isChecked();
   request.onlySelection = m_ui->checkBoxUseSel->isChecked();
   std::vector<VectorRows::Row> rows = m_rows.build(request);
-  VectorRows::sortByName(rows);
   if (m_rows.allHaveUnits()) {
+    VectorRows::sortByName(rows); // for equal numbers
     sortNumerically(rows);
   } else {
     showRows(rows, NameColumn);
@@ -164,7 +164,7 @@ void NivraVecTable::showCount() {
                                 : tr("%1 of %2 rows, filter: %3").arg(shown).arg(all).arg(m_menu->filterSummary()));
 }
 
-/// \param sortedBy the column by which the rows are in order
+/// \param sortedBy the column by which the rows are put in order
 void NivraVecTable::showRows(const std::vector<VectorRows::Row> &rows, int sortedBy) {
   constexpr int RowMargin = 8; // px around the text
   QTableWidget *table = m_ui->tableWidget;

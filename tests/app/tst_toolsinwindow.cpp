@@ -83,6 +83,7 @@ private slots:
   void panelsShowWhatIsMarkedWhenTheyOpen();
   void drawingStandsStillUnderTheMouse();
   void tableShowsTheNewSearch();
+  void publicNamesStandAsPeopleCount();
   void hiddenLayersStayHiddenUnderAnotherName();
   void editsAreAskedAboutBeforeAnotherCase();
 
@@ -187,6 +188,22 @@ void TestToolsInWindow::tableShowsTheNewSearch() {
   viewer.on_actionElement_Table_triggered();
   QCOMPARE(names(*table), QStringList{QStringLiteral("K1")});
   table->close();
+}
+
+void TestToolsInWindow::publicNamesStandAsPeopleCount() {
+  const QString path = QStringLiteral(NIVRA_SOURCE_DIR "/../shared/data/GasLib-40/N1/N1.scen.jsn");
+  if (!QFile::exists(path))
+    QSKIP("there is no public network");
+  NivraViewer viewer;
+  viewer.open(path);
+  auto &search = panelOf<NivraSearch>(viewer);
+  search.defineSearch({QString(), QStringLiteral("^p$"), QStringLiteral("^name$"), QString()}, false);
+  search.findChild<QPushButton *>(QStringLiteral("pushButton_toTable"))->click();
+  const QStringList shown = names(*vectorTable());
+  QVERIFY(shown.size() > 11);
+  for (int i = 0; i < shown.size(); ++i)
+    QCOMPARE(shown.at(i), QStringLiteral("pipe_%1").arg(i + 1));
+  vectorTable()->close();
 }
 
 void TestToolsInWindow::hiddenLayersStayHiddenUnderAnotherName() {

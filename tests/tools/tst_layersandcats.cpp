@@ -155,6 +155,7 @@ void TestLayersAndCats::renamingKeepsWhatIsHidden() {
     QTest::keyClicks(field, QString::fromLatin1(name));
     QTest::keyClick(field, Qt::Key_Return);
     QCoreApplication::processEvents(); // the field is read after the key
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   };
   table->item(1, 0)->setCheckState(Qt::Unchecked);
   const QSignalSpy visibility(&editor, &NivraNetLayersEditor::layerVisChanged);
