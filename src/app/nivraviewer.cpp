@@ -114,7 +114,7 @@ void NivraViewer::open(const QString &path) {
     return; // a drop or a shortcut while the network is being read
   if (path.endsWith(QStringLiteral(".qss")))
     applyStyleSheet(path);
-  else
+  else if (m_tools->settleChanges())
     openWorkspace(path);
 }
 

@@ -98,6 +98,8 @@ void ToolDocks::fillViewMenu(QMenu &menu) const {
 
 void ToolDocks::showSelection() {
   const Selection &selection = m_net.selection();
+  if (selection.size() == 1)
+    showContents(marked()); // in place of what the mouse went over
   QStringList parts;
   const auto add = [&parts](int count, const QString &one, const QString &many) {
     if (count > 0)
@@ -126,13 +128,12 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
     createCharacteristics();
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), workspace.filePath(QStringLiteral("plotsettings.ini")));
   m_draw->refresh();
+  m_marked.clear();
   m_propViewer->showCurrentEleContents(nullptr);
   m_info->reset();
   m_search->clearResults();
   m_layers->setLayerProperty(m_control.plot()->settings().layerProp);
   m_layers->on_pushButtonReload_clicked();
-  if (!m_layers->layers().hidden().isEmpty())
-    applyLayers(); // layers are known by name, in the next network too
   m_categories->setFile(workspace.filePath(QStringLiteral("catdef.csv")));
   m_directory = QFileInfo(workspace.filePath(QStringLiteral("catdef.csv"))).path();
   if (m_vectorTable != nullptr) {
@@ -168,17 +169,19 @@ void ToolDocks::openCharacteristics(const QStringList &names) {
 void ToolDocks::createLayers() {
   m_layers = new NivraNetLayersEditor(m_net, &m_window);
   addDock(m_layers, QStringLiteral("layers"), Qt::LeftDockWidgetArea);
-  connect(m_layers, &NivraNetLayersEditor::layerVisChanged, this, &ToolDocks::applyLayers);
-  connect(m_layers, &NivraNetLayersEditor::propertyChanged, this, &ToolDocks::propertyChanged);
+  NetUpdate &update = m_control.plot()->update();
+  connect(m_layers, &NivraNetLayersEditor::hiddenLayersWanted, this,
+          [this, &update](const QString &property, const QSet<QString> &hidden) {
+            update.setHiddenLayers(property, hidden);
+            m_layers->setHiddenLayers(update.hiddenLayers());
+          });
+  connect(m_layers, &NivraNetLayersEditor::layerVisChanged, this, [&update] {
+    update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+    update.requestPixtest(0);
+  });
+  connect(m_layers, &NivraNetLayersEditor::propertyChanged, this, &ToolDocks::propertyChanged); // which draws
   connect(m_layers, &NivraNetLayersEditor::itemClicked, this, &ToolDocks::elementMarked);
   connect(m_layers, &NivraNetLayersEditor::itemDoubleClicked, &m_control, &NetVisControl::showElement);
-}
-
-void ToolDocks::applyLayers() {
-  NetUpdate &update = m_control.plot()->update();
-  update.setHiddenLayers(m_layers->layers().property(), m_layers->layers().hidden());
-  update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
-  update.requestPixtest(0);
 }
 
 void ToolDocks::createCategories() {
@@ -195,12 +198,18 @@ NivraVecTable *ToolDocks::vectorTable() {
   m_vectorTable->setDirectory(m_directory);
   connect(m_vectorTable.get(), &NivraVecTable::helpWanted, this, &ToolDocks::showHelp);
   connect(m_vectorTable.get(), &NivraVecTable::elementMarked, this, &ToolDocks::elementMarked);
+  connect(m_vectorTable.get(), &NivraVecTable::characteristicsWanted, &m_control,
+          &NetVisControl::openCharacteristicsRequested);
   if (m_categories != nullptr) {
     connect(m_categories, &NivraNetObjectCats::catChanged, m_vectorTable.get(), &NivraVecTable::on_updateCats);
     m_categories->on_pushButtonUse_clicked();
   }
   m_vectorTable->on_pushButtonUpdate_clicked();
   return m_vectorTable.get();
+}
+
+bool ToolDocks::settleChanges() {
+  return m_categories == nullptr || m_categories->settleChanges();
 }
 
 void ToolDocks::reload() {
@@ -261,9 +270,16 @@ void ToolDocks::createElement() {
   addDock(infoDock, QStringLiteral("elementInformation"), Qt::RightDockWidgetArea);
   m_propViewer = new NivraPropViewer(m_net, &m_window);
   addDock(m_propViewer, QStringLiteral("propertyViewer"), Qt::RightDockWidgetArea);
+  for (const QDockWidget *dock : {infoDock, static_cast<QDockWidget *>(m_propViewer)}) {
+    connect(dock, &QDockWidget::visibilityChanged, this, [this](bool isShown) {
+      if (isShown)
+        showContents(marked());
+    });
+  }
+  connect(m_propViewer, &NivraPropViewer::characteristicsWanted, &m_control, &NetVisControl::openCharacteristicsRequested);
   connect(m_control.picker(), &NetPicker::hovered, this, [this](const QString &name) {
     if (!name.isEmpty() && m_net.selection().isEmpty()) // what was picked stays until something else is
-      showElement(name);
+      showContents(name);
   });
 }
 
@@ -279,6 +295,18 @@ NivraEleInfoWidget::PlotLabel ToolDocks::plotLabel(const element &e) const {
 }
 
 void ToolDocks::showElement(const QString &name) {
+  m_marked = name;
+  showContents(name);
+}
+
+QString ToolDocks::marked() const {
+  const Selection::Names names = m_net.selection().names();
+  if (names.size() == 1)
+    return *names.cbegin();
+  return names.contains(m_marked) ? m_marked : QString();
+}
+
+void ToolDocks::showContents(const QString &name) {
   if (m_propViewer == nullptr)
     return;
   const element *e = m_net.element(name);

@@ -1,61 +1,106 @@
+#include <base/fileaccess.h>
 #include <base/nivramsg.h>
+#include <base/wholefile.h>
 #include <tools/category.h>
 
-#include <QFile>
-#include <QSaveFile>
-#include <QTextStream>
+#include <QFileInfo>
+#include <QMap>
+#include <QRegularExpression>
+#include <QTextCodec>
+
+namespace {
+
+const QString CheckedMark = QStringLiteral("[x]");
+
+QString written(QString text) {
+  static const QRegularExpression mistakable(QStringLiteral("\\$(?=SEMI|BREAK|HASH|BRACKET|DOLLAR)"));
+  text.replace(mistakable, QStringLiteral("$DOLLAR$"));
+  text.replace(QLatin1Char(';'), QStringLiteral("$SEMI$"));
+  return text.remove(QLatin1Char('\r')).replace(QLatin1Char('\n'), QStringLiteral("$BREAK$"));
+}
+
+/// A name, which begins its line.
+QString writtenFirst(const QString &name) {
+  const QString text = written(name);
+  if (text.startsWith(QLatin1Char('#')))
+    return QStringLiteral("$HASH$") + text.mid(1);
+  return text.startsWith(CheckedMark) ? QStringLiteral("$BRACKET$") + text.mid(1) : text;
+}
+
+QString meant(const QString &field) {
+  static const QRegularExpression word(QStringLiteral("\\$(SEMI|BREAK|HASH|BRACKET|DOLLAR)\\$"));
+  static const QMap<QString, QString> meaning{{QStringLiteral("SEMI"), QStringLiteral(";")},
+                                              {QStringLiteral("BREAK"), QStringLiteral("\n")},
+                                              {QStringLiteral("HASH"), QStringLiteral("#")},
+                                              {QStringLiteral("BRACKET"), QStringLiteral("[")},
+                                              {QStringLiteral("DOLLAR"), QStringLiteral("$")}};
+  const QString text = field.trimmed();
+  QString result;
+  int end = 0;
+  for (auto it = word.globalMatch(text); it.hasNext();) {
+    const QRegularExpressionMatch match = it.next();
+    result += text.mid(end, match.capturedStart() - end) + meaning.value(match.captured(1));
+    end = match.capturedEnd();
+  }
+  return result + text.mid(end);
+}
+
+/// Files written elsewhere may be in the encoding of old.
+QString decoded(const QByteArray &content, const QString &path) {
+  QTextCodec::ConverterState state;
+  const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(content.constData(), content.size(), &state);
+  if (state.invalidChars == 0)
+    return text;
+  NivraMsg::logWarning(QStringLiteral("%1 is not UTF-8 and is read as Latin-1").arg(path));
+  return QString::fromLatin1(content);
+}
+
+} // namespace
 
 std::vector<Category> CategoryFile::read(const QString &path) {
   constexpr int Fields = 5;
-  constexpr qint64 LongestLine = 1 << 16;
   std::vector<Category> categories;
-  QFile file(path);
-  if (!file.exists() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+  if (!QFileInfo::exists(path)) {
     NivraMsg::log(QStringLiteral("### Categories file ") + path + QStringLiteral(" not found!"));
     return categories;
   }
-  QTextStream stream(&file);
-  stream.setCodec("UTF-8");
+  QString reason;
+  const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, FileAccess::LargestConfiguration, &reason);
+  if (!content) {
+    NivraMsg::logWarning(reason);
+    return categories;
+  }
   int number = 0;
-  for (QString line = stream.readLine(LongestLine); !line.isNull(); line = stream.readLine(LongestLine)) {
+  for (const QString &line : decoded(*content, path).split(QLatin1Char('\n'))) {
     ++number;
-    if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+    if (line.trimmed().isEmpty() || line.startsWith(QLatin1Char('#')))
       continue;
-    const QStringList fields = line.split(QLatin1Char(';'));
+    QStringList fields = line.split(QLatin1Char(';'));
     if (fields.size() < Fields) {
       NivraMsg::logWarning(QStringLiteral("Line contains less than 5 entries!") +
                            QStringLiteral(" (%1:%2)").arg(path).arg(number));
       continue;
     }
-    Category category{fields[0].trimmed(), fields[1].trimmed(), fields[2].trimmed(),
-                      fields[3].trimmed(), fields[4].trimmed(), false};
-    if (category.category.startsWith(QLatin1String("[x]"))) {
-      category.isChecked = true;
-      category.category.remove(0, 3);
-    }
-    categories.push_back(category);
+    const bool isChecked = fields[0].trimmed().startsWith(CheckedMark);
+    if (isChecked)
+      fields[0] = fields[0].trimmed().mid(CheckedMark.size());
+    categories.push_back(
+        {meant(fields[0]), meant(fields[1]), meant(fields[2]), meant(fields[3]), meant(fields[4]), isChecked});
   }
   return categories;
 }
 
 bool CategoryFile::write(const QString &path, const std::vector<Category> &categories, QString *error) {
-  QSaveFile file(path);
-  bool isDone = file.open(QIODevice::WriteOnly | QIODevice::Text);
-  if (isDone) {
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
-    stream << "# format (besides comment lines) per LINE:\n# category;name;type;prop;value/formula\n";
-    for (const Category &c : categories) {
-      if (c.isChecked)
-        stream << "[x]";
-      stream << QStringList{c.category, c.name, c.type, c.prop, c.value}.join(QLatin1Char(';')) << '\n';
-    }
-    stream.flush();
-    isDone = file.error() == QFile::NoError && file.commit();
+  QString text = QStringLiteral("# format (besides comment lines) per LINE:\n# category;name;type;prop;value/formula\n");
+  for (const Category &c : categories) {
+    const QStringList fields{writtenFirst(c.category), written(c.name), written(c.type), written(c.prop), written(c.value)};
+    text += (c.isChecked ? CheckedMark : QString()) + fields.join(QLatin1Char(';')) + QLatin1Char('\n');
   }
-  if (!isDone && error != nullptr)
-    *error = QStringLiteral("Could not open categories file ") + path + QStringLiteral("!");
-  return isDone;
+  QString reason;
+  if (WholeFile::write(path, FileAccess::Source::Workspace, text.toUtf8(), &reason))
+    return true;
+  *error = QStringLiteral("Could not open categories file ") + path + QStringLiteral("!\n") + reason;
+  return false;
 }
 
 CatMap CategoryFile::toMap(const std::vector<Category> &categories) {

@@ -1,5 +1,6 @@
 #include <model/elementtypes.h>
 #include <tools/metadatatable.h>
+#include <tools/plaintip.h>
 #include <tools/tablemenu.h>
 
 #include <QSet>
@@ -39,7 +40,7 @@ void MetaDataTable::addGroup(const QString &name, const std::vector<Entry> &entr
   auto *group = new QTreeWidgetItem(this, {QStringLiteral("%1 (%2)").arg(name).arg(entries.size())});
   for (const Entry &entry : entries) {
     auto *row = new QTreeWidgetItem(group, {entry.shortName, entry.longName, entry.description});
-    row->setToolTip(2, entry.description);
+    row->setToolTip(2, PlainTip::of(entry.description));
   }
 }
 

@@ -7,7 +7,7 @@ NivraEleInfoWidget::NivraEleInfoWidget(LabelOf labelOf, QWidget *parent)
     , m_ui(std::make_unique<Ui::NivraEleInfoWidget>())
     , m_labelOf(std::move(labelOf)) {
   m_ui->setupUi(this);
-  m_ui->labelContents->setAutoFillBackground(true);
+  m_ui->labelContents->setLabel(tr("(Element Label shown here)"), font(), palette().color(QPalette::WindowText));
 }
 
 NivraEleInfoWidget::~NivraEleInfoWidget() = default;
@@ -28,7 +28,10 @@ QString NivraEleInfoWidget::bounds(const QString &info) {
   text = text.trimmed();
   if (text.endsWith(QLatin1Char(';')))
     text.chop(1);
-  return text.replace(QLatin1Char(';'), QStringLiteral("</br>"));
+  QStringList lines = text.split(QLatin1Char(';'));
+  for (QString &line : lines)
+    line = line.toHtmlEscaped(); // "p = 45 < 48 bar" is no markup
+  return lines.join(QStringLiteral("<br/>"));
 }
 
 void NivraEleInfoWidget::showEleLabel(const element *e) {
@@ -39,15 +42,9 @@ void NivraEleInfoWidget::showEleLabel(const element *e) {
   m_ui->labelElement->setText(
       QStringLiteral("   <b>Element: %1</b>   ").arg(e->value(QStringLiteral("name")).toHtmlEscaped()));
   const PlotLabel label = m_labelOf ? m_labelOf(*e) : PlotLabel();
-  QPalette colors = palette();
-  if (!label.text.isEmpty()) {
-    colors.setColor(QPalette::WindowText, label.color);
-    if (label.background != QColor(Qt::black))
-      colors.setColor(QPalette::Window, label.background);
-    m_ui->labelContents->setFont(label.font);
-    m_ui->labelContents->setText(label.text);
-  }
-  m_ui->labelContents->setPalette(colors);
+  if (!label.text.isEmpty())
+    m_ui->labelContents->setLabel(label.text, label.font, label.color,
+                                  label.background == QColor(Qt::black) ? QColor() : label.background);
   m_ui->labelBounds->setText(bounds(e->value(QStringLiteral("CB_info"))));
 }
 

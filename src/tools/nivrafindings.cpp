@@ -1,4 +1,5 @@
 #include <tools/nivrafindings.h>
+#include <tools/plaintip.h>
 #include <tools/tablemenu.h>
 
 #include <QHBoxLayout>
@@ -69,8 +70,8 @@ void NivraFindings::fill() {
     for (std::size_t i = 0; i < std::min(group.findings.size(), Most); ++i) {
       const Finding &finding = group.findings[i];
       auto *row = new QTreeWidgetItem({finding.text, finding.element, FindingList::place(finding)});
-      row->setToolTip(TextColumn, finding.text.toHtmlEscaped());
-      row->setToolTip(PlaceColumn, finding.logText().toHtmlEscaped());
+      row->setToolTip(TextColumn, PlainTip::of(finding.text));
+      row->setToolTip(PlaceColumn, PlainTip::of(finding.logText()));
       rows.append(row);
     }
     if (group.findings.size() > Most)

@@ -58,6 +58,19 @@ void NivraNetLayersEditor::on_lineEditProperty_editingFinished() {
     return;
   m_layers.setProperty(m_ui->lineEditProperty->text());
   fill();
+  emit hiddenLayersWanted(m_layers.property(), {}); // layers of another property are others
+  emit layerVisChanged();
+}
+
+void NivraNetLayersEditor::setHiddenLayers(const QSet<QString> &hidden) {
+  m_hidden = hidden;
+  const QSignalBlocker blocker(m_ui->tableWidget);
+  for (int row = 0; row < m_ui->tableWidget->rowCount(); ++row)
+    m_ui->tableWidget->item(row, VisibleColumn)->setCheckState(hidden.contains(layerAt(row)) ? Qt::Unchecked : Qt::Checked);
+}
+
+void NivraNetLayersEditor::showWithout(const QSet<QString> &hidden) {
+  emit hiddenLayersWanted(m_layers.property(), hidden);
   emit layerVisChanged();
 }
 
@@ -66,26 +79,32 @@ void NivraNetLayersEditor::on_pushButtonReload_clicked() {
   fill();
 }
 
-void NivraNetLayersEditor::fill() {
+void NivraNetLayersEditor::fill(const QString &marked) {
   QTableWidget *table = m_ui->tableWidget;
   const QSignalBlocker blocker(table);
+  const QString current = !marked.isEmpty() || table->currentRow() < 0 ? marked : layerAt(table->currentRow());
   table->setSortingEnabled(false);
   table->setRowCount(m_layers.all().size());
   int row = 0;
   for (auto layer = m_layers.all().cbegin(); layer != m_layers.all().cend(); ++layer, ++row) {
     auto *visible = new QTableWidgetItem;
     visible->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
-    visible->setCheckState(layer->isVisible ? Qt::Checked : Qt::Unchecked);
+    visible->setCheckState(m_hidden.contains(layer.key()) ? Qt::Unchecked : Qt::Checked);
     auto *name = new QTableWidgetItem(layer.key());
     name->setData(LayerRole, layer.key());
     if (m_mode == EditMode::VisibilityOnly || layer.key() == Layers::newLayer())
       name->setFlags(name->flags() & ~Qt::ItemIsEditable);
     table->setItem(row, VisibleColumn, visible);
     table->setItem(row, LayerColumn, name);
-    table->setItem(row, CountColumn, new CountItem(layer->names.size()));
+    table->setItem(row, CountColumn, new CountItem(layer->size()));
   }
   table->setSortingEnabled(true);
   table->resizeColumnsToContents();
+  table->setCurrentItem(nullptr);
+  for (int i = 0; i < table->rowCount(); ++i) { // wherever sorting has put it
+    if (layerAt(i) == current)
+      table->setCurrentCell(i, LayerColumn);
+  }
   m_ui->listWidget->clear();
 }
 
@@ -110,35 +129,58 @@ void NivraNetLayersEditor::on_toolButtonList_clicked() {
 void NivraNetLayersEditor::showList(const QString &layer) {
   const QSignalBlocker blocker(m_ui->listWidget);
   m_ui->listWidget->clear();
-  m_ui->listWidget->addItems(m_layers.all().value(layer).names);
+  m_ui->listWidget->addItems(m_layers.all().value(layer));
 }
 
 void NivraNetLayersEditor::on_tableWidget_cellChanged(int row, int column) {
   const QString layer = layerAt(row);
+  const QTableWidgetItem *cell = m_ui->tableWidget->item(row, column);
   if (column == VisibleColumn) {
-    m_layers.setVisible(layer, m_ui->tableWidget->item(row, column)->checkState() == Qt::Checked);
-    emit layerVisChanged();
+    QSet<QString> hidden = m_hidden;
+    if (cell->checkState() == Qt::Checked)
+      hidden.remove(layer);
+    else
+      hidden.insert(layer);
+    showWithout(hidden);
+  } else if (column == LayerColumn && cell->text() != layer) {
+    rename(layer, cell->text());
+  }
+}
+
+void NivraNetLayersEditor::rename(const QString &layer, const QString &name) {
+  if (!mayBecome(name)) {
+    fill(layer);
     return;
   }
-  const QString name = m_ui->tableWidget->item(row, column)->text();
-  if (column != LayerColumn || name == layer)
-    return;
+  QSet<QString> hidden = m_hidden;
+  const bool joinsAnother = m_layers.all().contains(name); // which stays as it is
+  if (hidden.remove(layer) && !joinsAnother)
+    hidden.insert(name);
+  const QStringList names = m_layers.all().value(layer);
+  m_layers.rename(layer, name);
+  emit hiddenLayersWanted(m_layers.property(), hidden);
+  fill(name);
+  emit propertyChanged(names, m_layers.property());
+}
+
+/// Whether a layer may be renamed so; asks the person.
+bool NivraNetLayersEditor::mayBecome(const QString &name) {
+  if (!Layers::isAllowed(name)) {
+    NivraMsg::message(NivraMsg::Kind::Warning, tr("layer name contains forbidden characters! Try again!"));
+    return false;
+  }
   const QString question =
       tr("This will set the \"%1\" property to \"%2\" for all elements in this Layer. Existing values will "
          "be overwritten. Continue?")
           .arg(m_layers.property(), name);
-  if (!Layers::isAllowed(name))
-    NivraMsg::message(NivraMsg::Kind::Warning, tr("layer name contains forbidden characters! Try again!"));
-  else if (confirms(tr("Rename Layer"), question)) {
-    const QStringList names = m_layers.all().value(layer).names;
-    m_layers.rename(layer, name);
-    emit propertyChanged(names, m_layers.property());
-  }
-  fill();
+  return (!m_layers.all().contains(name) || confirms(tr("Rename Layer"), tr("layer already exists! Use?"))) &&
+         confirms(tr("Rename Layer"), question);
 }
 
 bool NivraNetLayersEditor::confirms(const QString &title, const QString &question) {
-  return QMessageBox::question(this, title, question) == QMessageBox::Yes;
+  QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No, this);
+  box.setTextFormat(Qt::PlainText); // names of layers come from the workspace
+  return box.exec() == QMessageBox::Yes;
 }
 
 QString NivraNetLayersEditor::askForLayer() {
@@ -177,9 +219,8 @@ void NivraNetLayersEditor::on_toolButtonAdd_clicked() {
   if (!confirms(tr("Add Layer"), question))
     return;
   m_layers.add(names, layer);
+  fill(layer);
   emit propertyChanged(names, m_layers.property());
-  fill();
-  emit layerVisChanged();
 }
 
 void NivraNetLayersEditor::on_toolButtonDel_clicked() {
@@ -194,30 +235,26 @@ void NivraNetLayersEditor::on_toolButtonDel_clicked() {
     return;
   QStringList names;
   for (const QString &layer : qAsConst(chosen)) {
-    names += m_layers.all().value(layer).names;
+    names += m_layers.all().value(layer);
     m_layers.remove(layer);
   }
-  emit propertyChanged(names, m_layers.property());
+  emit hiddenLayersWanted(m_layers.property(), QSet<QString>(m_hidden).subtract(chosen));
   fill();
-  emit layerVisChanged();
+  emit propertyChanged(names, m_layers.property());
 }
 
 void NivraNetLayersEditor::on_toolButtonShowAll_clicked() {
-  m_layers.setAllVisible(true);
-  fill();
-  emit layerVisChanged();
+  showWithout({});
 }
 
 void NivraNetLayersEditor::on_toolButtonHideAll_clicked() {
-  m_layers.setAllVisible(false);
-  fill();
-  emit layerVisChanged();
+  const QStringList all = m_layers.all().keys();
+  showWithout(QSet<QString>(all.begin(), all.end()));
 }
 
 void NivraNetLayersEditor::on_toolButtonInvert_clicked() {
-  m_layers.invert();
-  fill();
-  emit layerVisChanged();
+  const QStringList all = m_layers.all().keys();
+  showWithout(QSet<QString>(all.begin(), all.end()).subtract(m_hidden));
 }
 
 void NivraNetLayersEditor::on_listWidget_itemDoubleClicked(QListWidgetItem *item) {

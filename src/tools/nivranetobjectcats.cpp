@@ -4,6 +4,9 @@
 #include <tools/nivranetobjectcats.h>
 #include <tools/tablemenu.h>
 
+#include <QEvent>
+#include <QMessageBox>
+
 namespace {
 
 enum Column { CategoryColumn, NameColumn, TypeColumn, PropertyColumn, ValueColumn };
@@ -22,28 +25,57 @@ NivraNetObjectCats::NivraNetObjectCats(QWidget *parent)
   m_ui->tableWidget->setHorizontalHeaderLabels({tr("category"), tr("name"), tr("type"), tr("property"), tr("value")});
   m_ui->tableWidget->horizontalHeader()->setStretchLastSection(true);
   TableMenu::offerCopy(*m_ui->tableWidget);
-  connect(m_ui->tableWidget, &QTableWidget::cellChanged, this, &NivraNetObjectCats::informOnNecessaryUpdate);
-  setFile(QString());
+  connect(m_ui->tableWidget, &QTableWidget::cellChanged, this, &NivraNetObjectCats::setChanged);
+  appendRow({QStringLiteral("fromSearch"), QString(), QString(), QStringLiteral("^name$"), QString(), false});
+  if (parent != nullptr)
+    parent->installEventFilter(this);
 }
 
 NivraNetObjectCats::~NivraNetObjectCats() = default;
 
 void NivraNetObjectCats::setFile(const QString &path) {
   m_path = path;
-  on_pushButtonReload_clicked();
+  readFile();
 }
 
 void NivraNetObjectCats::on_pushButtonReload_clicked() {
+  if (settleChanges())
+    readFile();
+}
+
+void NivraNetObjectCats::readFile() {
   const QSignalBlocker blocker(m_ui->tableWidget);
   m_ui->tableWidget->setSortingEnabled(false);
-  m_ui->tableWidget->setRowCount(0);
-  appendRow({QStringLiteral("fromSearch"), QString(), QString(), QStringLiteral("^name$"), QString(), false});
+  m_ui->tableWidget->setRowCount(1); // that of the search
   if (!m_path.isEmpty()) {
     for (const Category &category : CategoryFile::read(m_path))
       appendRow(category);
   }
+  m_isChanged = false;
   m_ui->tableWidget->resizeColumnsToContents();
   on_pushButtonUse_clicked();
+}
+
+bool NivraNetObjectCats::settleChanges() {
+  if (!m_isChanged || !NivraMsg::isInteractive())
+    return true;
+  const auto answer =
+      QMessageBox::question(this, tr("Element Categories"), tr("The categories have changes that are not saved. Save them?"),
+                            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+  return answer == QMessageBox::Save ? save() : answer == QMessageBox::Discard;
+}
+
+bool NivraNetObjectCats::eventFilter(QObject *watched, QEvent *event) {
+  if (event->type() == QEvent::Close && watched == parent() && !settleChanges()) {
+    event->ignore();
+    return true;
+  }
+  return QDockWidget::eventFilter(watched, event);
+}
+
+void NivraNetObjectCats::setChanged() {
+  m_isChanged = true;
+  informOnNecessaryUpdate();
 }
 
 void NivraNetObjectCats::appendRow(const Category &category) {
@@ -100,12 +132,14 @@ void NivraNetObjectCats::addCategory(const QStringList &strList, const QString &
   m_ui->tableWidget->setCurrentCell(row, CategoryColumn);
   show();
   raise();
-  informOnNecessaryUpdate();
+  setChanged();
 }
 
 void NivraNetObjectCats::addToCurrentCategory(const QStringList &strList) {
-  if (m_ui->tableWidget->currentRow() > 0)
-    setTexts(m_ui->tableWidget->currentRow(), strList);
+  if (m_ui->tableWidget->currentRow() <= 0)
+    return;
+  setTexts(m_ui->tableWidget->currentRow(), strList);
+  setChanged();
 }
 
 void NivraNetObjectCats::on_toolButtonAdd_clicked() {
@@ -116,15 +150,23 @@ void NivraNetObjectCats::on_toolButtonRemove_clicked() {
   if (m_ui->tableWidget->currentRow() <= 0)
     return; // that of the search stays
   m_ui->tableWidget->removeRow(m_ui->tableWidget->currentRow());
-  informOnNecessaryUpdate();
+  setChanged();
 }
 
 void NivraNetObjectCats::on_pushButtonOK_clicked() {
+  save();
+}
+
+bool NivraNetObjectCats::save() {
   std::vector<Category> kept = categories();
   kept.erase(kept.begin());
   QString error;
-  if (!CategoryFile::write(m_path, kept, &error))
+  if (!CategoryFile::write(m_path, kept, &error)) {
     NivraMsg::message(NivraMsg::Kind::Warning, error);
+    return false;
+  }
+  m_isChanged = false;
+  return true;
 }
 
 void NivraNetObjectCats::on_pushButtonUse_clicked() {

@@ -1,11 +1,14 @@
 #include "ui_nivrapropviewer.h"
 
 #include <tools/nivrapropviewer.h>
+#include <tools/numberdelegate.h>
 #include <tools/propertylist.h>
+#include <tools/tablemenu.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QEvent>
 #include <QMap>
 
 namespace {
@@ -20,7 +23,12 @@ NivraPropViewer::NivraPropViewer(const NetData &net, QWidget *parent)
     , m_net(net) {
   m_ui->setupUi(this);
   m_ui->treeWidget->setHeaderLabels({QStringLiteral("prop"), QStringLiteral("value"), QStringLiteral("unit")});
-  m_ui->treeWidget->addAction(m_ui->actionCopy);
+  m_ui->treeWidget->setItemDelegate(new NumberDelegate(PropertyColumn, this));
+  m_ui->treeWidget->addActions({m_ui->actionCopy, m_ui->actionOpenCharacteristics});
+  m_ui->actionOpenCharacteristics->setVisible(false);
+  connect(m_ui->actionOpenCharacteristics, &QAction::triggered, this,
+          [this] { emit characteristicsWanted({m_elementName}); });
+  m_hasFrameTitle = true;
 }
 
 NivraPropViewer::~NivraPropViewer() = default;
@@ -30,6 +38,8 @@ void NivraPropViewer::showCurrentEleContents(const element *ele) {
     return;
   QTreeWidget *tree = m_ui->treeWidget;
   tree->clear();
+  m_ui->actionOpenCharacteristics->setVisible(ele != nullptr &&
+                                              TableMenu::hasCharacteristics(ele->value(QStringLiteral("type"))));
   if (ele == nullptr) {
     m_elementName.clear();
     setWindowTitle(tr("Property Viewer (Hover Over Element First!)"));
@@ -44,7 +54,6 @@ void NivraPropViewer::showCurrentEleContents(const element *ele) {
     parent->setFont(PropertyColumn, bold);
     for (const PropertyList::Row &row : group.rows) {
       auto *item = new QTreeWidgetItem(parent, {row.property, row.value, row.unit});
-      item->setToolTip(ValueColumn, row.value);
       if (row.isLong)
         item->setSizeHint(ValueColumn, tree->headerItem()->sizeHint(ValueColumn));
     }
@@ -87,6 +96,13 @@ void NivraPropViewer::on_actionCopy_triggered() {
   for (const Part &part : qAsConst(groups))
     text += part.text + QLatin1Char('\n');
   QApplication::clipboard()->setText(text);
+}
+
+void NivraPropViewer::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::WindowTitleChange && m_hasFrameTitle)
+    m_ui->labelTitle->setText(windowTitle()); // and not into the dock's frame, as its own handler would
+  else
+    QDockWidget::changeEvent(event);
 }
 
 // Only now: the buttons fade in, which nobody would see before and which outlives a field that goes at once.

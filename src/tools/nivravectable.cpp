@@ -2,7 +2,10 @@
 
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/wholefile.h>
+#include <tools/naturalorder.h>
 #include <tools/nivravectable.h>
+#include <tools/numberdelegate.h>
 #include <tools/tablemenu.h>
 #include <tools/vectorplot.h>
 
@@ -10,16 +13,20 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
+#include <QHideEvent>
 #include <QRegularExpression>
-#include <QSaveFile>
 
+#include <algorithm>
+#include <cmath>
+#include <optional>
 #include <set>
 
 namespace {
 
 enum Column { NameColumn, TypeColumn, PropertyColumn, ValueColumn, UnitColumn, ResultColumn, NumsortColumn, ColumnCount };
 
-/// Sorted by plain comparison of its text at hand: asking each cell of 100,000 for a variant takes most of a second.
+/// Numbers are sorted by size and stand before texts, which follow in natural order. What that takes is found out once, and
+/// only for the columns by which somebody sorts.
 class Cell : public QTableWidgetItem {
 public:
   explicit Cell(const QString &text)
@@ -27,10 +34,34 @@ public:
       , m_text(text) {
     setFlags(Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsEnabled);
   }
-  bool operator<(const QTableWidgetItem &other) const override { return m_text < static_cast<const Cell &>(other).m_text; }
+  bool operator<(const QTableWidgetItem &other) const override {
+    const Rank &mine = rank();
+    const Rank &others = static_cast<const Cell &>(other).rank();
+    if (mine.isNumber && others.isNumber)
+      return mine.number < others.number;
+    return mine.isNumber == others.isNumber ? mine.key->compare(*others.key) < 0 : mine.isNumber;
+  }
 
 private:
-  QString m_text;
+  struct Rank {
+    bool isNumber = false;
+    double number = 0.0;
+    std::optional<QCollatorSortKey> key; ///< of a text
+  };
+
+  const Rank &rank() const {
+    if (!m_rank) {
+      m_rank.emplace();
+      m_rank->number = m_text.toDouble(&m_rank->isNumber);
+      m_rank->isNumber = m_rank->isNumber && !std::isnan(m_rank->number);
+      if (!m_rank->isNumber)
+        m_rank->key = NaturalOrder::key(m_text);
+    }
+    return *m_rank;
+  }
+
+  QString m_text; ///< at hand: asking each item of 100,000 for a variant takes most of a second
+  mutable std::optional<Rank> m_rank;
 };
 
 } // namespace
@@ -42,7 +73,13 @@ NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
     , m_rows(net)
     , m_plot(new VectorPlot) {
   m_ui->setupUi(this);
-  m_ui->tableWidget->addAction(m_ui->actionCopy_selectedItems);
+  m_ui->tableWidget->addActions({m_ui->actionCopy_selectedItems, m_ui->actionOpenCharacteristics});
+  m_ui->tableWidget->setItemDelegate(new NumberDelegate(PropertyColumn, this));
+  m_ui->actionOpenCharacteristics->setVisible(false);
+  connect(m_ui->tableWidget, &QTableWidget::itemSelectionChanged, this,
+          [this] { m_ui->actionOpenCharacteristics->setVisible(!selectedMachines().isEmpty()); });
+  connect(m_ui->actionOpenCharacteristics, &QAction::triggered, this,
+          [this] { emit characteristicsWanted(selectedMachines()); });
   m_menu = new TableMenu(*m_ui->tableWidget);
   addAction(m_ui->actionHelp);
   m_ui->plotLayout->insertWidget(0, m_plot);
@@ -90,7 +127,14 @@ QStringList NivraVecTable::headers() const {
   return texts;
 }
 
+/// Rows that the filters of the list before would hide look as if something were wrong.
+void NivraVecTable::listSomethingElse() {
+  m_menu->clearFilters();
+  on_pushButtonUpdate_clicked();
+}
+
 void NivraVecTable::on_pushButtonUpdate_clicked() {
+  m_isStale = false;
   NivraMsg::debug(QStringLiteral("update vectable started  ..."));
   VectorRows::Request request;
   request.usesProperty = isPropertyMode();
@@ -99,24 +143,28 @@ void NivraVecTable::on_pushButtonUpdate_clicked() {
   request.onlyNonZero = m_ui->checkBoxNonZero->isChecked();
   request.onlySelection = m_ui->checkBoxUseSel->isChecked();
   std::vector<VectorRows::Row> rows = m_rows.build(request);
-  VectorRows::sortByName(rows);
   if (m_rows.allHaveUnits()) {
+    VectorRows::sortByName(rows); // for equal numbers
     sortNumerically(rows);
   } else {
     showRows(rows, NameColumn);
   }
   m_ui->tableWidget->resizeColumnsToContents();
   showCount();
+  if (currentWidget() == m_ui->plotPage)
+    showPlot();
   NivraMsg::debug(QStringLiteral("... update finished."));
 }
 
 void NivraVecTable::showCount() {
   const int all = m_ui->tableWidget->rowCount();
   const int shown = m_menu->shownRows();
-  m_ui->labelCount->setText(shown == all ? tr("%1 rows").arg(all) : tr("%1 of %2 rows").arg(shown).arg(all));
+  m_ui->labelCount->setText(m_menu->filterSummary().isEmpty()
+                                ? tr("%1 rows").arg(all)
+                                : tr("%1 of %2 rows, filter: %3").arg(shown).arg(all).arg(m_menu->filterSummary()));
 }
 
-/// \param sortedBy the column by which the rows are in order
+/// \param sortedBy the column by which the rows are put in order
 void NivraVecTable::showRows(const std::vector<VectorRows::Row> &rows, int sortedBy) {
   constexpr int RowMargin = 8; // px around the text
   QTableWidget *table = m_ui->tableWidget;
@@ -142,9 +190,13 @@ void NivraVecTable::showRows(const std::vector<VectorRows::Row> &rows, int sorte
 
 void NivraVecTable::on_pushButtonTryNumSort_clicked() {
   std::vector<VectorRows::Row> rows;
-  for (const QStringList &row : texts())
-    rows.push_back({row[NameColumn], row[TypeColumn], row[PropertyColumn], row[ValueColumn], row[UnitColumn],
-                    row[ResultColumn], row[NumsortColumn]});
+  const QTableWidget &table = *m_ui->tableWidget;
+  const auto text = [&table](int row, int column) {
+    return table.item(row, column)->text();
+  };
+  for (int row = 0; row < table.rowCount(); ++row)
+    rows.push_back({text(row, NameColumn), text(row, TypeColumn), text(row, PropertyColumn), text(row, ValueColumn),
+                    text(row, UnitColumn), text(row, ResultColumn), text(row, NumsortColumn)});
   sortNumerically(rows);
 }
 
@@ -154,20 +206,30 @@ void NivraVecTable::sortNumerically(std::vector<VectorRows::Row> &rows) {
   showRows(rows, NumsortColumn);
 }
 
-std::vector<QStringList> NivraVecTable::texts() const {
-  std::vector<QStringList> rows;
-  rows.reserve(static_cast<std::size_t>(m_ui->tableWidget->rowCount()));
-  for (int i = 0; i < m_ui->tableWidget->rowCount(); ++i) {
-    QStringList row;
-    for (int column = 0; column < ColumnCount; ++column)
-      row.append(m_ui->tableWidget->item(i, column)->text());
-    rows.push_back(row);
+std::vector<int> NivraVecTable::shownRows() const {
+  std::vector<int> rows;
+  for (int row = 0; row < m_ui->tableWidget->rowCount(); ++row) {
+    if (!m_ui->tableWidget->isRowHidden(row))
+      rows.push_back(row);
   }
   return rows;
 }
 
+QStringList NivraVecTable::selectedMachines() const {
+  QStringList names;
+  const QTableWidget &table = *m_ui->tableWidget;
+  for (const QModelIndex &cell : table.selectionModel()->selectedIndexes()) {
+    const QString name = table.item(cell.row(), NameColumn)->text();
+    if (!table.isRowHidden(cell.row()) && !names.contains(name) &&
+        TableMenu::hasCharacteristics(table.item(cell.row(), TypeColumn)->text()))
+      names.append(name);
+  }
+  return names;
+}
+
 void NivraVecTable::on_updateCats(const CatMap &catDataInput) {
   NivraMsg::debug(QStringLiteral("vectable updatecats"));
+  const bool isAnother = !(m_categories.value(m_chosenCategory) == catDataInput.value(m_chosenCategory));
   m_categories = catDataInput;
   m_isUpdating = true;
   m_ui->comboBoxCat->clear();
@@ -177,8 +239,26 @@ void NivraVecTable::on_updateCats(const CatMap &catDataInput) {
   m_ui->comboBoxCat->setCurrentText(m_chosenCategory);
   m_ui->comboBoxCat->setEnabled(!m_categories.isEmpty());
   m_isUpdating = false;
-  if (!isPropertyMode() && isVisible())
+  if (isPropertyMode())
+    return;
+  if (!isVisible())
+    m_isStale = true;
+  else if (isAnother)
+    listSomethingElse();
+  else
     on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::showEvent(QShowEvent *event) {
+  if (m_isStale)
+    on_pushButtonUpdate_clicked();
+  QTabWidget::showEvent(event);
+}
+
+void NivraVecTable::hideEvent(QHideEvent *event) {
+  if (!event->spontaneous()) // not only minimised
+    m_menu->clearFilters();
+  QTabWidget::hideEvent(event);
 }
 
 void NivraVecTable::on_useSearchConfig() {
@@ -191,29 +271,30 @@ void NivraVecTable::on_showCat(const QString &catToShow) {
   m_ui->comboBoxCat->setCurrentText(catToShow);
   m_ui->checkBoxProp->setChecked(false);
   m_isUpdating = false;
+  m_isStale = false; // it is asked for below
   show();
   raise();
   activateWindow();
-  on_pushButtonUpdate_clicked();
+  listSomethingElse();
 }
 
 void NivraVecTable::on_comboBoxCat_currentIndexChanged(const QString &qstr) {
   if (m_isUpdating)
     return;
   m_chosenCategory = qstr;
-  on_pushButtonUpdate_clicked();
+  listSomethingElse();
 }
 
 void NivraVecTable::on_comboBoxProp_currentIndexChanged(const QString &qstr) {
   if (m_isUpdating)
     return;
   m_chosenProperty = qstr;
-  on_pushButtonUpdate_clicked();
+  listSomethingElse();
 }
 
 void NivraVecTable::on_checkBoxProp_toggled(bool) {
   if (!m_isUpdating)
-    on_pushButtonUpdate_clicked();
+    listSomethingElse();
 }
 
 void NivraVecTable::on_checkBoxNonZero_toggled(bool) {
@@ -234,7 +315,7 @@ void NivraVecTable::on_tableWidget_itemClicked(QTableWidgetItem *item) {
 }
 
 void NivraVecTable::on_actionCopy_selectedItems_triggered() {
-  QApplication::clipboard()->setText(TableMenu::cellTexts(*m_ui->tableWidget->selectionModel()));
+  QApplication::clipboard()->setText(TableMenu::cellTexts(*m_ui->tableWidget));
 }
 
 void NivraVecTable::on_actionHelp_triggered() {
@@ -246,14 +327,36 @@ void NivraVecTable::on_pushButtonSave_clicked() {
                            (isPropertyMode() ? m_chosenProperty : m_chosenCategory) + QStringLiteral(".csv");
   const QString path =
       QFileDialog::getSaveFileName(this, tr("Choose File"), proposed, tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
-  if (!path.isEmpty())
-    save(path);
+  QString reason;
+  if (!path.isEmpty() && !save(path, &reason))
+    NivraMsg::message(NivraMsg::Kind::Warning, reason);
 }
 
-bool NivraVecTable::save(const QString &path) const {
-  QSaveFile file(path);
-  const bool useComma = GeneralSettings::instance().value(QStringLiteral("use comma")) == QLatin1String("1");
-  return file.open(QIODevice::WriteOnly) && VectorRows::write(file, headers(), texts(), useComma) && file.commit();
+bool NivraVecTable::save(const QString &path, QString *reason) const {
+  const QTableWidget &table = *m_ui->tableWidget;
+  VectorRows::Exported exported;
+  std::vector<int> columns; // as they are shown
+  for (int i = 0; i < ColumnCount; ++i) {
+    const int column = table.horizontalHeader()->logicalIndex(i);
+    if (table.isColumnHidden(column))
+      continue;
+    if (column == ValueColumn || column == ResultColumn)
+      exported.valueColumns.append(static_cast<int>(columns.size()));
+    columns.push_back(column);
+    exported.headers.append(headers().at(column));
+  }
+  for (const int row : shownRows()) {
+    QStringList texts;
+    for (const int column : columns) {
+      const QString text = table.item(row, column)->text();
+      texts.append(column == NumsortColumn ? text.trimmed() : text); // blanks would make a text of the number
+    }
+    exported.rows.push_back(texts);
+  }
+  const bool useComma = GeneralSettings::instance().isOn(QStringLiteral("use comma"));
+  return WholeFile::write(
+      path, FileAccess::Source::Trusted,
+      [&](QIODevice &device, QString *) { return VectorRows::write(device, exported, useComma); }, reason);
 }
 
 void NivraVecTable::on_pushButtonClose_clicked() {
@@ -264,23 +367,29 @@ void NivraVecTable::on_closePlotButton_clicked() {
   setCurrentIndex(0);
 }
 
-void NivraVecTable::on_NivraVecTable_currentChanged(int index) {
-  if (index != 1)
-    return;
+void NivraVecTable::on_NivraVecTable_currentChanged(int) {
+  if (currentWidget() == m_ui->plotPage)
+    showPlot();
+}
+
+void NivraVecTable::showPlot() {
   const QTableWidget &table = *m_ui->tableWidget;
-  std::vector<bool> isSelected(static_cast<std::size_t>(table.rowCount()));
-  for (const QModelIndex &cell : table.selectionModel()->selectedIndexes())
-    isSelected[static_cast<std::size_t>(cell.row())] = true;
+  std::vector<int> rows = shownRows();
+  std::set<int> selected;
+  for (const QModelIndex &cell : table.selectionModel()->selectedIndexes()) {
+    if (!table.isRowHidden(cell.row()))
+      selected.insert(cell.row());
+  }
   // One row is what was clicked last; several were chosen.
-  const bool usesSelection = std::count(isSelected.begin(), isSelected.end(), true) > 1;
+  const bool usesSelection = selected.size() > 1;
+  if (usesSelection)
+    rows.assign(selected.begin(), selected.end());
   std::vector<std::pair<int, double>> values;
-  for (int row = 0; row < table.rowCount(); ++row) {
-    if (usesSelection ? !isSelected[static_cast<std::size_t>(row)] : table.isRowHidden(row))
-      continue;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
     bool isNumber = false;
-    const double number = table.item(row, ResultColumn)->text().toDouble(&isNumber);
+    const double number = table.item(rows[i], ResultColumn)->text().toDouble(&isNumber);
     if (isNumber)
-      values.emplace_back(row + 1, number);
+      values.emplace_back(static_cast<int>(i) + 1, number);
   }
   QString title = headers().at(ResultColumn).section(QLatin1Char('\n'), 1).mid(1).chopped(1);
   const NetMetaData::Attribute *attribute = isPropertyMode() ? m_net.metaData()->anyAttribute(m_chosenProperty) : nullptr;

@@ -1,3 +1,4 @@
+#include <tools/plaintip.h>
 #include <tools/tablemenu.h>
 
 #include <QAbstractItemView>
@@ -26,6 +27,11 @@ QIcon funnel() {
   painter.setPen(Qt::NoPen);
   painter.drawPolygon(QPolygon({{1, 2}, {15, 2}, {10, 8}, {10, 14}, {6, 12}, {6, 8}}));
   return {picture};
+}
+
+/// The first line: the others say what the column is about.
+QString columnTitle(const QAbstractItemModel &model, int column) {
+  return model.headerData(column, Qt::Horizontal).toString().section(QLatin1Char('\n'), 0, 0);
 }
 
 } // namespace
@@ -62,8 +68,7 @@ bool CellFilter::passes(const QString &cell) const {
 TableMenu::TableMenu(QAbstractItemView &view)
     : QObject(&view)
     , m_view(view) {
-  auto *table = qobject_cast<QTableView *>(&view);
-  m_header = table != nullptr ? table->horizontalHeader() : qobject_cast<QTreeView *>(&view)->header();
+  m_header = header(view);
   m_header->setSectionsMovable(true);
   m_header->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(m_header, &QHeaderView::customContextMenuRequested, this, &TableMenu::showMenu);
@@ -80,15 +85,20 @@ void TableMenu::offerCopy(QAbstractItemView &view) {
   auto *copy = new QAction(tr("Copy"), &view);
   copy->setShortcut(QKeySequence::Copy);
   copy->setShortcutContext(Qt::WidgetShortcut);
-  connect(copy, &QAction::triggered, &view,
-          [&view] { QApplication::clipboard()->setText(cellTexts(*view.selectionModel())); });
+  connect(copy, &QAction::triggered, &view, [&view] { QApplication::clipboard()->setText(cellTexts(view)); });
   view.addAction(copy);
   if (view.contextMenuPolicy() == Qt::DefaultContextMenu)
     view.setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
-QString TableMenu::cellTexts(const QItemSelectionModel &selection) {
-  QModelIndexList cells = selection.selectedIndexes();
+QString TableMenu::cellTexts(const QAbstractItemView &view) {
+  QModelIndexList cells = view.selectionModel()->selectedIndexes();
+  const QHeaderView *columns = header(view);
+  const auto isUnseen = [&](const QModelIndex &cell) {
+    return (columns != nullptr && columns->isSectionHidden(cell.column())) ||
+           (!cell.parent().isValid() && isHidden(view, cell.row()));
+  };
+  cells.erase(std::remove_if(cells.begin(), cells.end(), isUnseen), cells.end());
   std::sort(cells.begin(), cells.end(), [](const QModelIndex &a, const QModelIndex &b) {
     return a.parent() == b.parent() ? a < b : a.parent() < b.parent();
   });
@@ -117,10 +127,7 @@ void TableMenu::showMenu(const QPoint &position) {
   }
   QAction *none = menu.addAction(tr("Show all rows"));
   none->setEnabled(!m_filters.isEmpty());
-  connect(none, &QAction::triggered, this, [this] {
-    for (const int filteredColumn : m_filters.keys())
-      setFilter(filteredColumn, QString());
-  });
+  connect(none, &QAction::triggered, this, &TableMenu::clearFilters);
   QAction *all = menu.addAction(tr("Show all columns"));
   all->setEnabled(m_header->hiddenSectionCount() > 0);
   connect(all, &QAction::triggered, this, [this] {
@@ -132,7 +139,7 @@ void TableMenu::showMenu(const QPoint &position) {
 
 void TableMenu::askForFilter(int column) {
   bool isTaken = false;
-  const QString title = m_view.model()->headerData(column, Qt::Horizontal).toString().section(QLatin1Char('\n'), 0, 0);
+  const QString title = columnTitle(*m_view.model(), column);
   const QString text = QInputDialog::getText(
       &m_view, tr("Filter"), tr("Show rows whose \"%1\" contains a text,\nor compares: > 10, <= 3, = open, != 0").arg(title),
       QLineEdit::Normal, filter(column), &isTaken);
@@ -149,12 +156,29 @@ void TableMenu::setFilter(int column, const QString &text) {
   apply();
 }
 
+void TableMenu::clearFilters() {
+  for (const int column : m_filters.keys())
+    setFilter(column, QString());
+}
+
+QString TableMenu::filterSummary() const {
+  QStringList parts;
+  for (auto it = m_filters.cbegin(); it != m_filters.cend(); ++it)
+    parts.append(columnTitle(*m_view.model(), it.key()) + QLatin1Char(' ') + it.value());
+  return parts.join(QStringLiteral(", "));
+}
+
+bool TableMenu::hasCharacteristics(const QString &type) {
+  return type == QLatin1String("c") || type == QLatin1String("d");
+}
+
 /// A filtered column shows it, so that nobody misses rows without knowing why.
 void TableMenu::markHeader(int column) {
   QAbstractItemModel *model = m_view.model();
   const QString text = filter(column);
   model->setHeaderData(column, Qt::Horizontal, text.isEmpty() ? QVariant() : funnel(), Qt::DecorationRole);
-  model->setHeaderData(column, Qt::Horizontal, text.isEmpty() ? QString() : tr("Filter: %1").arg(text), Qt::ToolTipRole);
+  model->setHeaderData(column, Qt::Horizontal, PlainTip::of(text.isEmpty() ? QString() : tr("Filter: %1").arg(text)),
+                       Qt::ToolTipRole);
 }
 
 void TableMenu::apply() {
@@ -195,9 +219,17 @@ void TableMenu::hideRow(int row, bool hidden) {
     tree->setRowHidden(row, QModelIndex(), hidden);
 }
 
-bool TableMenu::isHidden(int row) const {
-  if (const auto *table = qobject_cast<const QTableView *>(&m_view))
+bool TableMenu::isHidden(const QAbstractItemView &view, int row) {
+  if (const auto *table = qobject_cast<const QTableView *>(&view))
     return table->isRowHidden(row);
-  const auto *tree = qobject_cast<const QTreeView *>(&m_view);
+  const auto *tree = qobject_cast<const QTreeView *>(&view);
   return tree != nullptr && tree->isRowHidden(row, QModelIndex());
+}
+
+/// Null for views without columns.
+QHeaderView *TableMenu::header(const QAbstractItemView &view) {
+  if (const auto *table = qobject_cast<const QTableView *>(&view))
+    return table->horizontalHeader();
+  const auto *tree = qobject_cast<const QTreeView *>(&view);
+  return tree == nullptr ? nullptr : tree->header();
 }

@@ -1,3 +1,4 @@
+#include <model/displayformat.h>
 #include <tools/valuestatistics.h>
 #include <tools/vectorplot.h>
 
@@ -26,11 +27,6 @@ QwtPlot *makePlot() {
   grid->attach(plot);
   plot->setMinimumHeight(120);
   return plot;
-}
-
-QString shown(double number) {
-  constexpr int Digits = 5;
-  return QString::number(number, 'g', Digits);
 }
 
 void mark(QwtPlot &plot, double x, const QString &text, const QColor &color, Qt::PenStyle style, Qt::Alignment alignment) {
@@ -72,8 +68,9 @@ void VectorPlot::show(const QString &title, const std::vector<std::pair<int, dou
     plot->detachItems(QwtPlotItem::Rtti_PlotHistogram);
     plot->detachItems(QwtPlotItem::Rtti_PlotMarker);
   }
-  m_rows->setAxisTitle(QwtPlot::yLeft, title);
-  m_histogram->setAxisTitle(QwtPlot::xBottom, title);
+  const QwtText plain(title, QwtText::PlainText); // names of properties and formulas come from the workspace
+  m_rows->setAxisTitle(QwtPlot::yLeft, plain);
+  m_histogram->setAxisTitle(QwtPlot::xBottom, plain);
   QVector<QPointF> points;
   std::vector<double> numbers;
   for (const auto &[row, number] : values) {
@@ -105,13 +102,16 @@ void VectorPlot::show(const QString &title, const std::vector<std::pair<int, dou
       mark(*m_histogram, statistics.quantile(0.5), tr("median"), Blue, Qt::SolidLine, Qt::AlignLeft | Qt::AlignVCenter);
       mark(*m_histogram, statistics.mean, tr("mean"), Orange, Qt::SolidLine, Qt::AlignRight | Qt::AlignVCenter);
     }
-    m_summary->setText(tr("%1 numbers of %2: minimum %3, maximum %4, mean %5, standard deviation %6, "
-                          "quantiles 5 % %7, 25 % %8, 50 % %9, ")
-                           .arg(statistics.count)
-                           .arg(ofWhat, shown(statistics.minimum), shown(statistics.maximum), shown(statistics.mean),
-                                shown(statistics.standardDeviation), shown(statistics.quantile(0.05)),
-                                shown(statistics.quantile(0.25)), shown(statistics.quantile(0.5))) +
-                       tr("75 % %1, 95 % %2").arg(shown(statistics.quantile(0.75)), shown(statistics.quantile(0.95))));
+    m_summary->setText(
+        tr("%1 numbers of %2: minimum %3, maximum %4, mean %5, standard deviation %6, "
+           "quantiles 5 % %7, 25 % %8, 50 % %9, ")
+            .arg(statistics.count)
+            .arg(ofWhat, DisplayFormat::number(statistics.minimum), DisplayFormat::number(statistics.maximum),
+                 DisplayFormat::number(statistics.mean), DisplayFormat::number(statistics.standardDeviation),
+                 DisplayFormat::number(statistics.quantile(0.05)), DisplayFormat::number(statistics.quantile(0.25)),
+                 DisplayFormat::number(statistics.quantile(0.5))) +
+        tr("75 % %1, 95 % %2")
+            .arg(DisplayFormat::number(statistics.quantile(0.75)), DisplayFormat::number(statistics.quantile(0.95))));
   }
   m_rows->replot();
   m_histogram->replot();

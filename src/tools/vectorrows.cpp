@@ -1,16 +1,12 @@
 #include <base/nivramsg.h>
 #include <tools/csvfield.h>
+#include <tools/naturalorder.h>
 #include <tools/vectorrows.h>
 
 #include <QTextStream>
 
 #include <algorithm>
-
-namespace {
-
-constexpr int ValueColumn = 3;
-
-} // namespace
+#include <iterator>
 
 QString VectorRows::padded(int number) {
   constexpr int Width = 9;
@@ -90,7 +86,14 @@ void VectorRows::addRows(const element &e, const Request &request, std::vector<R
 }
 
 void VectorRows::sortByName(std::vector<Row> &rows) {
-  std::stable_sort(rows.begin(), rows.end(), [](const Row &a, const Row &b) { return a.name < b.name; });
+  std::vector<std::pair<QCollatorSortKey, Row>> keyed;
+  keyed.reserve(rows.size());
+  for (Row &row : rows) {
+    QCollatorSortKey key = NaturalOrder::key(row.name);
+    keyed.emplace_back(std::move(key), std::move(row));
+  }
+  std::stable_sort(keyed.begin(), keyed.end(), [](const auto &a, const auto &b) { return a.first.compare(b.first) < 0; });
+  std::transform(keyed.begin(), keyed.end(), rows.begin(), [](auto &entry) { return std::move(entry.second); });
 }
 
 void VectorRows::sortNumerically(std::vector<Row> &rows) {
@@ -108,13 +111,13 @@ void VectorRows::sortNumerically(std::vector<Row> &rows) {
   std::stable_sort(rows.begin(), rows.end(), [](const Row &a, const Row &b) { return a.numsort < b.numsort; });
 }
 
-bool VectorRows::write(QIODevice &device, const QStringList &headers, const std::vector<QStringList> &rows, bool useComma) {
+bool VectorRows::write(QIODevice &device, const Exported &table, bool useComma) {
   QTextStream stream(&device);
   stream.setCodec("UTF-8");
-  for (const QString &header : headers)
+  for (const QString &header : table.headers)
     stream << CsvField::quoted(QString(header).replace(QLatin1Char('\n'), QLatin1Char(' ')));
   stream << '\n';
-  CsvField::writeRows(stream, rows, ValueColumn, useComma);
+  CsvField::writeRows(stream, table.rows, table.valueColumns, useComma);
   stream.flush();
   return stream.status() == QTextStream::Ok;
 }

@@ -1,4 +1,6 @@
 #include <model/topology.h>
+#include <support/answers.h>
+#include <support/fulldisk.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 #include <tools/layers.h>
@@ -7,9 +9,14 @@
 #include <tools/nivranetobjectcats.h>
 
 #include <QFile>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 class TestLayersAndCats : public QObject {
   Q_OBJECT
@@ -21,8 +28,12 @@ private slots:
   void layerNames_data();
   void layerNames();
   void editorShowsAndHides();
+  void renamingKeepsWhatIsHidden();
   void categoryFile();
   void categoriesComeBack();
+  void categoryFileOnAFullDisk();
+  void categoryFileThatIsNone();
+  void changedCategoriesAreAskedAbout();
   void panelTellsCategories();
   void metaDataGroups();
   void closureAndTrace();
@@ -58,25 +69,18 @@ void TestLayersAndCats::layersGroupElements() {
   Layers layers(*m_net);
   layers.rebuild();
   QCOMPARE(layers.all().keys(), (QStringList{QStringLiteral("c"), QStringLiteral("p")})); // an empty value is none
-  QCOMPARE(layers.all().value(QStringLiteral("p")).names.size(), 2);
-  layers.setVisible(QStringLiteral("p"), false);
-  layers.rebuild();
-  QCOMPARE(layers.hidden(), QSet<QString>{QStringLiteral("p")}); // kept by name
-  layers.invert();
-  QCOMPARE(layers.hidden(), QSet<QString>{QStringLiteral("c")});
+  QCOMPARE(layers.all().value(QStringLiteral("p")).size(), 2);
   layers.setProperty(QStringLiteral("type"));
-  QCOMPARE(layers.all().value(QStringLiteral("n")).names.size(), 4);
+  QCOMPARE(layers.all().value(QStringLiteral("n")).size(), 4);
 }
 
 void TestLayersAndCats::layersChangeElements() {
   Layers layers(*m_net);
   layers.rebuild();
-  layers.setVisible(QStringLiteral("p"), false);
   layers.rename(QStringLiteral("p"), QStringLiteral("pipes"));
   QVERIFY(!layers.all().contains(QStringLiteral("p")));
-  QCOMPARE(layers.hidden(), QSet<QString>{QStringLiteral("pipes")});
   layers.add({QStringLiteral("A"), QStringLiteral("nowhere")}, QStringLiteral("pipes"));
-  QCOMPARE(layers.all().value(QStringLiteral("pipes")).names.size(), 3);
+  QCOMPARE(layers.all().value(QStringLiteral("pipes")).size(), 3);
   layers.remove(QStringLiteral("pipes"));
   QVERIFY(!m_net->element(QStringLiteral("A"))->contains(QStringLiteral("vis.layer")));
   QCOMPARE(layers.all().size(), 1);
@@ -98,8 +102,25 @@ void TestLayersAndCats::layerNames() {
   QCOMPARE(Layers::isAllowed(name), allowed);
 }
 
+namespace {
+
+/// What the drawing does with the wishes of the editor.
+struct Drawing {
+  explicit Drawing(NivraNetLayersEditor &editor) {
+    QObject::connect(&editor, &NivraNetLayersEditor::hiddenLayersWanted, &editor,
+                     [this, &editor](const QString &, const QSet<QString> &wanted) {
+                       hidden = wanted;
+                       editor.setHiddenLayers(hidden);
+                     });
+  }
+  QSet<QString> hidden;
+};
+
+} // namespace
+
 void TestLayersAndCats::editorShowsAndHides() {
   NivraNetLayersEditor editor(*m_net);
+  const Drawing drawing(editor);
   editor.on_pushButtonReload_clicked();
   auto *table = editor.findChild<QTableWidget *>();
   QCOMPARE(table->rowCount(), 2);
@@ -107,11 +128,62 @@ void TestLayersAndCats::editorShowsAndHides() {
   const QSignalSpy changed(&editor, &NivraNetLayersEditor::layerVisChanged);
   table->item(1, 0)->setCheckState(Qt::Unchecked);
   QCOMPARE(changed.count(), 1);
-  QCOMPARE(editor.layers().hidden(), QSet<QString>{QStringLiteral("p")});
+  QCOMPARE(drawing.hidden, QSet<QString>{QStringLiteral("p")});
   editor.on_toolButtonInvert_clicked();
-  QCOMPARE(editor.layers().hidden(), QSet<QString>{QStringLiteral("c")});
+  QCOMPARE(drawing.hidden, QSet<QString>{QStringLiteral("c")});
+  QCOMPARE(table->item(0, 0)->checkState(), Qt::Unchecked);
+  QCOMPARE(table->item(1, 0)->checkState(), Qt::Checked);
+  editor.on_pushButtonReload_clicked(); // kept by name
+  QCOMPARE(table->item(0, 0)->checkState(), Qt::Unchecked);
   editor.changeEditMode(NivraNetLayersEditor::EditMode::VisibilityOnly);
   QVERIFY(!(table->item(0, 1)->flags() & Qt::ItemIsEditable));
+}
+
+/// With mouse and keys, as a person renames.
+void TestLayersAndCats::renamingKeepsWhatIsHidden() {
+  NivraNetLayersEditor editor(*m_net);
+  const Drawing drawing(editor);
+  editor.on_pushButtonReload_clicked();
+  editor.show();
+  auto *table = editor.findChild<QTableWidget *>();
+  const auto rename = [table](int row, const char *name) {
+    table->setCurrentCell(row, 1);
+    table->editItem(table->item(row, 1));
+    auto *field = table->findChild<QLineEdit *>();
+    QVERIFY(field != nullptr);
+    field->selectAll();
+    QTest::keyClicks(field, QString::fromLatin1(name));
+    QTest::keyClick(field, Qt::Key_Return);
+    QCoreApplication::processEvents(); // the field is read after the key
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  };
+  table->item(1, 0)->setCheckState(Qt::Unchecked);
+  const QSignalSpy visibility(&editor, &NivraNetLayersEditor::layerVisChanged);
+  const QSignalSpy changed(&editor, &NivraNetLayersEditor::propertyChanged);
+  {
+    const Answers answers({QMessageBox::Yes});
+    rename(1, "a pipe");
+    QVERIFY(answers.areGiven());
+  }
+  QCOMPARE(drawing.hidden, QSet<QString>{QStringLiteral("a pipe")});
+  QCOMPARE(table->item(0, 1)->text(), QStringLiteral("a pipe")); // where sorting puts it
+  QCOMPARE(table->item(0, 0)->checkState(), Qt::Unchecked);
+  QCOMPARE(table->currentRow(), 0);
+  QCOMPARE(visibility.count() + changed.count(), 1); // each of which draws
+  {
+    const Answers no({QMessageBox::No}); // a layer of that name is there
+    rename(0, "c");
+    QVERIFY(no.areGiven() && no.texts().first().contains(QStringLiteral("layer already exists! Use?")));
+  }
+  QCOMPARE(table->rowCount(), 2);
+  QCOMPARE(table->item(table->currentRow(), 1)->text(), QStringLiteral("a pipe"));
+  {
+    const Answers both({QMessageBox::Yes, QMessageBox::Yes});
+    rename(0, "c");
+    QVERIFY(both.areGiven());
+  }
+  QCOMPARE(table->rowCount(), 1);
+  QVERIFY(drawing.hidden.isEmpty()); // it joined a layer that is seen
 }
 
 void TestLayersAndCats::categoryFile() {
@@ -130,15 +202,82 @@ void TestLayersAndCats::categoryFile() {
 }
 
 void TestLayersAndCats::categoriesComeBack() {
-  const std::vector<Category> two{
-      {QStringLiteral("a"), QStringLiteral("n"), QStringLiteral("t"), QStringLiteral("p"), QStringLiteral("ü"), true},
-      {QStringLiteral("b"), QString(), QString(), QString(), QStringLiteral("v@ELE>1"), false}};
+  const auto text = [](const char *utf8) {
+    return QString::fromUtf8(utf8);
+  };
+  const std::vector<Category> all{{text("a"), text("n"), text("t"), text("p"), text("ü"), true},
+                                  {text("b"), QString(), QString(), QString(), text("v@ELE>1"), false},
+                                  {text("# of pipes"), QString(), text("^p$"), text("^name$"), text("^a;b$"), false},
+                                  {text("#"), text("x;"), text(";y"), text("$;$"), text(";;"), true},
+                                  {text("[x]"), text("$SEMI$"), text("$DOLLAR$;"), text("$SEMI;"), text("^p$;SEMI$"), false},
+                                  {text("two\nlines"), QString(), QString(), QString(), text("p@ELE\n> 1"), false}};
   const QString path = m_folder.filePath(QStringLiteral("again.csv"));
-  QVERIFY(CategoryFile::write(path, two));
-  QVERIFY(CategoryFile::read(path) == two);
   QString error;
-  QVERIFY(!CategoryFile::write(QStringLiteral("/nowhere/catdef.csv"), two, &error));
-  QCOMPARE(error, QStringLiteral("Could not open categories file /nowhere/catdef.csv!"));
+  QVERIFY2(CategoryFile::write(path, all, &error), qPrintable(error));
+  QVERIFY(CategoryFile::read(path) == all);
+  QVERIFY(!CategoryFile::write(QStringLiteral("/nowhere/catdef.csv"), all, &error));
+  QVERIFY(error.startsWith(QStringLiteral("Could not open categories file /nowhere/catdef.csv!")));
+}
+
+void TestLayersAndCats::categoryFileOnAFullDisk() {
+  const FullDisk disk;
+  if (!disk.isMounted())
+    QSKIP("no disk can be mounted here");
+  const QString path = disk.path(QStringLiteral("catdef.csv"));
+  const std::vector<Category> one{{QStringLiteral("a"), QString(), QString(), QString(), QString(), false}};
+  QString error;
+  QVERIFY(CategoryFile::write(path, one, &error));
+  disk.fill();
+  QVERIFY(!CategoryFile::write(path, std::vector<Category>(300, one.front()), &error));
+  QVERIFY(!error.isEmpty());
+  QVERIFY(CategoryFile::read(path) == one); // what was there
+}
+
+void TestLayersAndCats::categoryFileThatIsNone() {
+  const QByteArray pipe = QFile::encodeName(m_folder.filePath(QStringLiteral("pipe.csv")));
+  QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+  QVERIFY(CategoryFile::read(QFile::decodeName(pipe)).empty()); // and does not wait for the other end
+  QVERIFY(CategoryFile::read(m_folder.path()).empty());
+  const std::vector<Category> old = CategoryFile::read(write("M\xfcnster;;;;\n"));
+  QCOMPARE(old.at(0).category, QString::fromUtf8("Münster"));
+}
+
+/// Nothing that somebody has typed goes without a question.
+void TestLayersAndCats::changedCategoriesAreAskedAbout() {
+  QMainWindow window;
+  auto *panel = new NivraNetObjectCats(&window);
+  window.addDockWidget(Qt::BottomDockWidgetArea, panel);
+  panel->setFile(write("one;;p;^v$;v@ELE>10\n"));
+  panel->updateTempCategory({QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"), QString()});
+  auto *table = panel->findChild<QTableWidget *>();
+  auto *reload = panel->findChild<QPushButton *>(QStringLiteral("pushButtonReload"));
+  window.show();
+  {
+    const Answers none({});
+    reload->click(); // nothing has changed
+    QVERIFY(none.areGiven());
+  }
+  QCOMPARE(table->item(0, 1)->text(), QStringLiteral("x")); // which still follows the search
+  table->item(1, 1)->setText(QStringLiteral("typed"));
+  {
+    const Answers answers({QMessageBox::Cancel, QMessageBox::Cancel});
+    reload->click();
+    QCOMPARE(table->item(1, 1)->text(), QStringLiteral("typed"));
+    QVERIFY(!window.close());
+    QVERIFY(answers.areGiven());
+  }
+  {
+    const Answers answers({QMessageBox::Save});
+    QVERIFY(window.close());
+    QVERIFY(answers.areGiven());
+  }
+  QCOMPARE(CategoryFile::read(m_folder.filePath(QStringLiteral("catdef.csv"))).at(0).name, QStringLiteral("typed"));
+  window.show();
+  table->item(1, 1)->setText(QStringLiteral("again"));
+  const Answers discard({QMessageBox::Discard});
+  reload->click();
+  QCOMPARE(table->item(1, 1)->text(), QStringLiteral("typed"));
+  QVERIFY(window.close());
 }
 
 void TestLayersAndCats::panelTellsCategories() {

@@ -2,12 +2,19 @@
 #include <support/nivratest.h>
 #include <tools/nivraeleinfowidget.h>
 #include <tools/nivrapropviewer.h>
+#include <tools/numberdelegate.h>
+#include <tools/plotlabelview.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QToolTip>
 #include <QTreeWidget>
 
 class TestPropViewer : public QObject {
@@ -20,6 +27,11 @@ private slots:
   void copiesCells();
   void filters();
   void elementInformation();
+  void boundsAreRead();
+  void markupOfAWorkspaceLoadsNothing();
+  void longNamesNeedNoRoom();
+  void numbersAreRoundedForTheEyeOnly();
+  void machinesOpenTheirMaps();
   void bounds_data();
   void bounds();
 
@@ -137,20 +149,146 @@ void TestPropViewer::elementInformation() {
   const element shown = makeElement({{"name", "A<b"}, {"type", "n"}, {"CB_info", "(a;b;)"}});
   widget.showEleLabel(&shown);
   QCOMPARE(text("labelElement"), QStringLiteral("   <b>Element: A&lt;b</b>   "));
-  QCOMPARE(text("labelContents"), QStringLiteral("label"));
-  QCOMPARE(text("labelBounds"), QStringLiteral("a</br>b"));
-  QCOMPARE(widget.findChild<QLabel *>(QStringLiteral("labelContents"))->palette().color(QPalette::Window),
-           QColor(Qt::yellow));
+  auto *label = widget.findChild<PlotLabelView *>();
+  QCOMPARE(label->plainText(), QStringLiteral("label"));
+  QCOMPARE(text("labelBounds"), QStringLiteral("a<br/>b"));
+  widget.resize(300, 300);
+  widget.show();
+  QVERIFY(QTest::qWaitForWindowExposed(&widget));
+  const QImage picture = label->grab().toImage();
+  QCOMPARE(picture.pixelColor(picture.width() - 1, 0), QColor(Qt::yellow));
   widget.showEleLabel(nullptr);
   QVERIFY(text("labelBounds").isEmpty());
   widget.reset();
   QCOMPARE(text("labelSubnet"), QStringLiteral("   No subnet marked!   "));
 }
 
+/// As a person sees them: a line each, none of it lost.
+void TestPropViewer::boundsAreRead() {
+  NivraEleInfoWidget widget({});
+  widget.resize(400, 300);
+  const auto height = [&widget](const char *info) {
+    const element e = makeElement({{"name", "A"}, {"type", "n"}, {"CB_info", info}});
+    widget.showEleLabel(&e);
+    return widget.findChild<QLabel *>(QStringLiteral("labelBounds"))->heightForWidth(300);
+  };
+  const int one = height("(p 45 48 bar;)");
+  QCOMPARE(height("(p = 45 < 48 bar;)"), one);
+  QCOMPARE(height("(<br><br><br>;)"), one);
+  QVERIFY(height("(p = 45 < 48 bar;v = 30 > 20 m/s;)") > one);
+}
+
+void TestPropViewer::markupOfAWorkspaceLoadsNothing() {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("high.png"));
+  QImage high(20, 900, QImage::Format_RGB32);
+  high.fill(Qt::red);
+  QVERIFY(high.save(path));
+  const QString markup = QStringLiteral("<img src=\"%1\"><img src=\"file:%1\"><a href=\"file:%1\">x</a>").arg(path);
+  PlotLabelView label;
+  label.resize(300, 300);
+  label.setLabel(markup + QStringLiteral("<table background=\"%1\"><tr><td>x</td></tr></table>").arg(path), QFont(),
+                 Qt::black);
+  QVERIFY(label.heightForWidth(300) < 300);
+  const QImage picture = label.grab().toImage();
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      QVERIFY(picture.pixelColor(x, y) != QColor(Qt::red));
+
+  const NetData net;
+  NivraPropViewer viewer(net);
+  element shown = makeElement({{"type", "n"}});
+  shown.set(QStringLiteral("name"), markup);
+  viewer.showCurrentEleContents(&shown);
+  viewer.show();
+  auto *tree = viewer.findChild<QTreeWidget *>();
+  QTreeWidgetItem *row = tree->findItems(QStringLiteral("name"), Qt::MatchExactly | Qt::MatchRecursive).value(0);
+  QVERIFY(row != nullptr);
+  const QPoint spot = tree->visualItemRect(row).center();
+  const QPoint inValue(tree->columnViewportPosition(1) + 3, spot.y());
+  QHelpEvent help(QEvent::ToolTip, inValue, tree->viewport()->mapToGlobal(inValue));
+  QApplication::sendEvent(tree->viewport(), &help);
+  QVERIFY(QToolTip::text().contains(QStringLiteral("&lt;img src=")));
+  QVERIFY(!QToolTip::text().contains(QStringLiteral("<img")));
+  QToolTip::hideText();
+}
+
+void TestPropViewer::longNamesNeedNoRoom() {
+  const NetData net;
+  QMainWindow window;
+  NivraPropViewer viewer(net);
+  NivraEleInfoWidget info({});
+  window.addDockWidget(Qt::RightDockWidgetArea, &viewer);
+  const QSize panel = viewer.minimumSizeHint();
+  const QSize information = info.minimumSizeHint();
+  const QString action = viewer.toggleViewAction()->text();
+  element shown = makeElement({{"type", "n"}, {"CB_info", QByteArray(300, 'x').constData()}});
+  shown.set(QStringLiteral("name"), QString(300, QLatin1Char('W')));
+  viewer.showCurrentEleContents(&shown);
+  info.showEleLabel(&shown);
+  info.showSubLabel(&shown);
+  QCOMPARE(viewer.minimumSizeHint().width(), panel.width());
+  QCOMPARE(info.minimumSizeHint().width(), information.width());
+  QCOMPARE(viewer.toggleViewAction()->text(), action);
+  window.removeDockWidget(&viewer);
+  viewer.setParent(nullptr);
+}
+
+void TestPropViewer::numbersAreRoundedForTheEyeOnly() {
+  const std::pair<const char *, const char *> numbers[] = {
+      {"83.84299999999999", "83.843"}, {"0.033697930194084", "0.0336979"}, {"-1.23456789e-9", "-1.23457e-09"},
+      {"1234567", "1234567"},          {"1234567.89", "1234568"},          {"10.5", "10.5"},
+      {"0.000001", "0.000001"},        {"2021-12-31.5", "2021-12-31.5"},   {"version 1.2345678", "version 1.2345678"}};
+  for (const auto &[exact, seen] : numbers)
+    QCOMPARE(NumberDelegate::forTheEye(QString::fromLatin1(exact)), QString::fromLatin1(seen));
+
+  const NetData net;
+  NivraPropViewer viewer(net);
+  const element shown = makeElement(
+      {{"name", "1.23456789012"}, {"type", "n"}, {"a", "83.84299999999999"}, {"b", "83.843"}, {"c", "1.23456789012"}});
+  viewer.showCurrentEleContents(&shown);
+  auto *tree = viewer.findChild<QTreeWidget *>();
+  const auto find = [tree](const char *property) {
+    return tree->findItems(QString::fromLatin1(property), Qt::MatchExactly | Qt::MatchRecursive).value(0);
+  };
+  const auto width = [&](const char *property) {
+    const QTreeWidgetItem *row = find(property);
+    const QModelIndex index = tree->model()->index(row->parent()->indexOfChild(const_cast<QTreeWidgetItem *>(row)), 1,
+                                                   tree->model()->index(tree->indexOfTopLevelItem(row->parent()), 0));
+    return tree->itemDelegate()->sizeHint(QStyleOptionViewItem(), index).width();
+  };
+  QCOMPARE(width("a"), width("b"));
+  QVERIFY(width("c") < width("name")); // a name stays what it is
+  tree->setCurrentItem(find("a"), 1);
+  viewer.on_actionCopy_triggered();
+  QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("83.84299999999999\n"));
+}
+
+void TestPropViewer::machinesOpenTheirMaps() {
+  const NetData net;
+  NivraPropViewer viewer(net);
+  auto *open = viewer.findChild<QAction *>(QStringLiteral("actionOpenCharacteristics"));
+  QVERIFY(viewer.findChild<QTreeWidget *>()->actions().contains(open));
+  const element pipe = makeEdge("P", "A", "B");
+  viewer.showCurrentEleContents(&pipe);
+  QVERIFY(!open->isVisible());
+  const element compressor = makeEdge("K", "A", "B", "c");
+  viewer.showCurrentEleContents(&compressor);
+  QVERIFY(open->isVisible());
+  const QSignalSpy wanted(&viewer, &NivraPropViewer::characteristicsWanted);
+  open->trigger();
+  QCOMPARE(wanted.value(0).value(0).toStringList(), QStringList{QStringLiteral("K")});
+  viewer.showCurrentEleContents(nullptr);
+  QVERIFY(!open->isVisible());
+}
+
 void TestPropViewer::bounds_data() {
   QTest::addColumn<QString>("info");
   QTest::addColumn<QString>("shown");
-  QTest::newRow("two") << QStringLiteral("(a;b;)") << QStringLiteral("a</br>b");
+  QTest::newRow("two") << QStringLiteral("(a;b;)") << QStringLiteral("a<br/>b");
+  QTest::newRow("comparison") << QStringLiteral("(p = 45 < 48 bar;q > 1;)")
+                              << QStringLiteral("p = 45 &lt; 48 bar<br/>q &gt; 1");
+  QTest::newRow("markup") << QStringLiteral("<img src='x'>") << QStringLiteral("&lt;img src='x'&gt;");
   QTest::newRow("brackets only") << QStringLiteral("()") << QString();
   QTest::newRow("semicolon only") << QStringLiteral(";") << QString();
   QTest::newRow("one of two brackets") << QStringLiteral("((a)") << QStringLiteral("(a");

@@ -109,6 +109,10 @@ void TestTables::copiesForSpreadsheets() {
   table.selectAll();
   table.actions().first()->trigger();
   QCOMPARE(QApplication::clipboard()->text(), QString::fromUtf8("\"say \"\"x\"\"\"\ta;b\n\"two\nlines\"\tنص 🔥\n\"c\td\"\t"));
+  table.setRowHidden(1, true); // nobody sees what a range takes in
+  table.setColumnHidden(0, true);
+  table.actions().first()->trigger();
+  QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("a;b\n"));
 }
 
 void TestTables::namesAhead() {
@@ -173,9 +177,12 @@ void TestTables::findings() {
   inFile.text = QStringLiteral("bad line");
   inFile.file = QStringLiteral("/x/net.geom.jsn");
   inFile.line = 12;
+  inFile.text += QStringLiteral(" <b>x</b>");
   panel.setFindings({{QStringLiteral("Reading"), {inFile, inFile}}, {QStringLiteral("Bounds"), {about}}});
   QCOMPARE(tree->topLevelItem(0)->text(0), QStringLiteral("Reading (2)"));
   QCOMPARE(tree->topLevelItem(0)->child(0)->text(2), QStringLiteral("net.geom.jsn:12"));
+  QCOMPARE(tree->topLevelItem(0)->child(0)->toolTip(0), QStringLiteral("<qt>bad line &lt;b&gt;x&lt;/b&gt;</qt>"));
+  QCOMPARE(tree->topLevelItem(1)->child(0)->toolTip(0), QStringLiteral("too fast"));
 
   const QSignalSpy wanted(&panel, &NivraFindings::elementWanted);
   for (int i = 0; i < 3; ++i)
@@ -183,7 +190,7 @@ void TestTables::findings() {
   QCOMPARE(tree->currentItem()->text(1), QStringLiteral("P1"));
   QCOMPARE(wanted.count(), 1);
   panel.showNext(); // from the last to the first
-  QCOMPARE(tree->currentItem()->text(0), QStringLiteral("bad line"));
+  QCOMPARE(tree->currentItem()->text(0), QStringLiteral("bad line <b>x</b>"));
 
   auto *filter = panel.findChild<QLineEdit *>();
   filter->setText(QStringLiteral("JSN:12"));

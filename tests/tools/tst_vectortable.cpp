@@ -1,13 +1,23 @@
 #include <base/generalsettings.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
+#include <tools/csvfield.h>
 #include <tools/nivravectable.h>
+#include <tools/tablemenu.h>
 
+#include <QAction>
+#include <QApplication>
 #include <QBuffer>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QTableWidget>
+#include <QTemporaryDir>
+#include <qwt_plot.h>
+#include <qwt_plot_curve.h>
 
 class TestVectorTable : public QObject {
   Q_OBJECT
@@ -19,6 +29,12 @@ private slots:
   void rowsOfACategory();
   void numericalSort();
   void exportsRows();
+  void cellsAreNoFormulas_data();
+  void cellsAreNoFormulas();
+  void sortsAsPeopleCount();
+  void copySaveAndPlotHoldWhatIsShown();
+  void filtersEndWithTheList();
+  void machinesOpenTheirMaps();
   void tableFollowsItsChoices();
   void clicksMarkElements();
 
@@ -97,10 +113,161 @@ void TestVectorTable::numericalSort() {
 void TestVectorTable::exportsRows() {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
-  const std::vector<QStringList> rows{{QStringLiteral("A"), QStringLiteral("n"), QStringLiteral("p"), QStringLiteral("1.5"),
-                                       QStringLiteral("say \"ü\""), QStringLiteral("1.5")}};
-  QVERIFY(VectorRows::write(buffer, {QStringLiteral("name\n(a)"), QStringLiteral("value")}, rows, true));
-  QCOMPARE(buffer.data(), QByteArray("\"name (a)\";\"value\";\n\"A\";\"n\";\"p\";\"1,5\";\"say \"\"ü\"\"\";\"1.5\";\n"));
+  const VectorRows::Exported table{
+      {QStringLiteral("name\n(a)"), QStringLiteral("value")},
+      {{QStringLiteral("A.1"), QStringLiteral("1.5"), QStringLiteral("say \"ü\""), QStringLiteral("-1.5e-3")}},
+      {1, 3}};
+  QVERIFY(VectorRows::write(buffer, table, true));
+  QCOMPARE(buffer.data(), QByteArray("\"name (a)\";\"value\";\n\"A.1\";\"1,5\";\"say \"\"ü\"\"\";\"-1,5e-3\";\n"));
+}
+
+void TestVectorTable::cellsAreNoFormulas_data() {
+  QTest::addColumn<QString>("text");
+  QTest::addColumn<QString>("field");
+  const auto row = [](const char *text, const char *field) {
+    QTest::newRow(text) << QString::fromLatin1(text) << QString::fromLatin1(field);
+  };
+  row("=1+1", "\"'=1+1\";");
+  row("@SUM(1)", "\"'@SUM(1)\";");
+  row("+cmd|' /C calc'!A0", "\"'+cmd|' /C calc'!A0\";");
+  row("-2+3", "\"'-2+3\";");
+  row("-5,3,1", "\"'-5,3,1\";");
+  row(" =1", "\"' =1\";");
+  row("\t=1", "\"'\t=1\";");
+  row("=say \"x\"", "\"'=say \"\"x\"\"\";");
+  row("-5", "\"-5\";");
+  row("-5,3", "\"-5,3\";");
+  row("+1.5E-07", "\"+1.5E-07\";");
+  row("-.5", "\"-.5\";");
+  row("a=b", "\"a=b\";");
+  row("", "\"\";");
+}
+
+void TestVectorTable::cellsAreNoFormulas() {
+  QFETCH(QString, text);
+  QFETCH(QString, field);
+  QCOMPARE(CsvField::quoted(text), field);
+}
+
+namespace {
+
+QStringList column(const QTableWidget &table, int column) {
+  QStringList texts;
+  for (int row = 0; row < table.rowCount(); ++row)
+    texts.append(table.item(row, column)->text());
+  return texts;
+}
+
+QByteArray contentOf(const QString &path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+void TestVectorTable::sortsAsPeopleCount() {
+  for (const auto &[name, k] : std::initializer_list<std::pair<const char *, const char *>>{
+           {"S_10", "89.6"}, {"S_9", "9.6"}, {"s_1", "open"}, {"S_2", "-1e3"}, {"S_11", "9.4"}}) {
+    element node = makeNode(name);
+    node.set(QStringLiteral("own"), QString::fromLatin1(k));
+    m_net->addElement(node);
+  }
+  NivraVecTable panel(*m_net);
+  panel.show();
+  auto *table = panel.findChild<QTableWidget *>();
+  panel.findChild<QComboBox *>(QStringLiteral("comboBoxProp"))->setCurrentText(QStringLiteral("own"));
+  QCOMPARE(column(*table, 0).join(QLatin1Char(' ')), QStringLiteral("s_1 S_2 S_9 S_10 S_11"));
+  const auto clickHeader = [table](int section) {
+    QHeaderView *header = table->horizontalHeader();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      QPoint(header->sectionViewportPosition(section) + 20, header->height() / 2));
+  };
+  clickHeader(3);
+  QCOMPARE(column(*table, 3).join(QLatin1Char(' ')), QStringLiteral("-1e3 9.4 9.6 89.6 open"));
+  clickHeader(0);
+  QCOMPARE(column(*table, 0).join(QLatin1Char(' ')), QStringLiteral("s_1 S_2 S_9 S_10 S_11"));
+}
+
+void TestVectorTable::copySaveAndPlotHoldWhatIsShown() {
+  GeneralSettings::instance().setValue(QStringLiteral("use comma"), QStringLiteral("1"));
+  m_net->element(QStringLiteral("A"))->set(QStringLiteral("p"), QStringLiteral("10.5000000001"));
+  NivraVecTable panel(*m_net);
+  panel.show();
+  auto *table = panel.findChild<QTableWidget *>();
+  panel.on_pushButtonUpdate_clicked();
+  panel.findChild<TableMenu *>()->setFilter(3, QStringLiteral("> 5"));
+  table->setColumnHidden(1, true);
+  QVERIFY(panel.findChild<QLabel *>(QStringLiteral("labelCount"))
+              ->text()
+              .contains(QStringLiteral("2 of 3 rows, filter: value > 5")));
+
+  const QTemporaryDir folder;
+  QString reason;
+  QVERIFY2(panel.save(folder.filePath(QStringLiteral("t.csv")), &reason), qPrintable(reason));
+  QCOMPARE(contentOf(folder.filePath(QStringLiteral("t.csv"))),
+           QByteArray("\"name\";\"property\";\"value\";\"unit\";\"result (p)\";\"numsort\";\n"
+                      "\"B\";\"p\";\"9\";\"bar\";\"9\";\"2\";\n"
+                      "\"A\";\"p\";\"10,5000000001\";\"bar\";\"10,5000000001\";\"3\";\n"));
+  QVERIFY(!panel.save(folder.filePath(QStringLiteral("none/t.csv")), &reason));
+  QVERIFY(reason.contains(QStringLiteral("none/t.csv")));
+
+  table->selectAll();
+  panel.findChild<QAction *>(QStringLiteral("actionCopy_selectedItems"))->trigger();
+  QCOMPARE(QApplication::clipboard()->text().section(QLatin1Char('\n'), 1),
+           QStringLiteral("A\tp\t10.5000000001\tbar\t10.5000000001\t        3"));
+  const auto plotted = [&panel] {
+    panel.setCurrentIndex(1);
+    std::size_t count = 0;
+    for (const QwtPlot *plot : panel.findChildren<QwtPlot *>())
+      for (const QwtPlotItem *item : plot->itemList(QwtPlotItem::Rtti_PlotCurve))
+        count += static_cast<const QwtPlotCurve *>(item)->dataSize();
+    panel.setCurrentIndex(0);
+    return count;
+  };
+  QCOMPARE(plotted(), std::size_t(2)); // of the selection, which spans the hidden row
+  table->clearSelection();
+  QCOMPARE(plotted(), std::size_t(2));
+}
+
+void TestVectorTable::filtersEndWithTheList() {
+  NivraVecTable panel(*m_net);
+  panel.show();
+  auto *menu = panel.findChild<TableMenu *>();
+  auto *label = panel.findChild<QLabel *>(QStringLiteral("labelCount"));
+  panel.on_pushButtonUpdate_clicked();
+  menu->setFilter(3, QStringLiteral("> 5"));
+  panel.on_pushButtonUpdate_clicked(); // the same list
+  QCOMPARE(menu->shownRows(), 2);
+  const Category nodes{QStringLiteral("Cat2"), QString(), QStringLiteral("^n$"), QStringLiteral("^name$"), QString(), false};
+  panel.on_updateCats(CategoryFile::toMap({nodes}));
+  panel.on_showCat(QStringLiteral("Cat2"));
+  QCOMPARE(label->text(), QStringLiteral("3 rows"));
+  menu->setFilter(0, QStringLiteral("A"));
+  panel.on_pushButtonClose_clicked();
+  panel.show();
+  QCOMPARE(label->text(), QStringLiteral("3 rows"));
+}
+
+void TestVectorTable::machinesOpenTheirMaps() {
+  m_net->addElement(makeEdge("K", "A", "B", "c"));
+  NivraVecTable panel(*m_net);
+  panel.on_updateCats(CategoryFile::toMap(
+      {{QStringLiteral("edges"), QString(), QStringLiteral("^[cp]$"), QStringLiteral("^name$"), QString(), false}}));
+  panel.on_showCat(QStringLiteral("edges"));
+  auto *table = panel.findChild<QTableWidget *>();
+  auto *open = panel.findChild<QAction *>(QStringLiteral("actionOpenCharacteristics"));
+  QCOMPARE(column(*table, 0), (QStringList{QStringLiteral("AB"), QStringLiteral("K")}));
+  const auto click = [table](int row) {
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      table->visualItemRect(table->item(row, 0)).center());
+  };
+  click(0);
+  QVERIFY(!open->isVisible());
+  click(1);
+  QVERIFY(open->isVisible() && table->actions().contains(open));
+  const QSignalSpy wanted(&panel, &NivraVecTable::characteristicsWanted);
+  open->trigger();
+  QCOMPARE(wanted.value(0).value(0).toStringList(), QStringList{QStringLiteral("K")});
 }
 
 void TestVectorTable::tableFollowsItsChoices() {

@@ -45,6 +45,9 @@ public:
   void fillViewMenu(QMenu &menu) const;
   NivraSearch *search() const { return m_search; } ///< null before the first workspace
 
+  /// Before another case: false when a person wants to stay with changes that are not saved.
+  bool settleChanges();
+
   /// After properties were changed elsewhere.
   void reload();
 
@@ -78,7 +81,8 @@ private:
   void createCategories();
   void createCharacteristics();
   NivraVecTable *vectorTable();
-  void applyLayers();
+  void showContents(const QString &name);
+  QString marked() const;
   void showSelection();
   NivraEleInfoWidget::PlotLabel plotLabel(const element &e) const;
 
@@ -100,4 +104,5 @@ private:
   std::unique_ptr<MetaDataTable> m_metaData;
   std::unique_ptr<HelpWindow> m_help;
   QString m_directory; ///< of the case
+  QString m_marked;    ///< last, by whatever tool
 };

@@ -31,17 +31,24 @@ struct CategoryRecord {
   QString value; ///< empty when there is a formula
   QString formula;
   bool isChecked = false;
+
+  friend bool operator==(const CategoryRecord &a, const CategoryRecord &b) {
+    return a.name == b.name && a.type == b.type && a.prop == b.prop && a.value == b.value && a.formula == b.formula &&
+           a.isChecked == b.isChecked;
+  }
 };
 using CatMap = QMap<QString, CategoryRecord>;
 Q_DECLARE_METATYPE(CategoryRecord)
 
-/// "catdef.csv".
+/// "catdef.csv". Characters that mean something to the file are written as words between dollar signs, as settings files do
+/// it: "$SEMI$" for ";", "$BREAK$" for the end of a line, "$HASH$" and "$BRACKET$" for "#" and "[" where a name begins with
+/// "#" or "[x]", "$DOLLAR$" for a "$" in front of such a word.
 namespace CategoryFile {
 
 /// What is wrong with a line is logged, and the line skipped. A missing file is logged and holds none.
 std::vector<Category> read(const QString &path);
 /// Whole or not at all; false with the reason.
-bool write(const QString &path, const std::vector<Category> &categories, QString *error = nullptr);
+bool write(const QString &path, const std::vector<Category> &categories, QString *error);
 
 CatMap toMap(const std::vector<Category> &categories);
 

@@ -1,17 +1,27 @@
 #pragma once
 
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 #include <QTextStream>
+#include <QVector>
 
 #include <vector>
 
 /// Fields of tables for spreadsheets.
 namespace CsvField {
 
-/// In quotes, those inside doubled, with the semicolon behind.
-inline QString quoted(QString text) {
-  return QLatin1Char('"') + text.replace(QLatin1Char('"'), QStringLiteral("\"\"")) + QStringLiteral("\";");
+/// A text that a spreadsheet would take for a formula gets an apostrophe in front, which makes it a text; numbers, with
+/// either decimal sign, stay numbers.
+inline QString harmless(const QString &text) {
+  static const QRegularExpression formula(QStringLiteral("^(?:\\s*[-=+@]|[\\t\\r\\n])"));
+  static const QRegularExpression number(QStringLiteral("^\\s*[-+]?(?:\\d+[.,]?\\d*|[.,]\\d+)(?:[eE][-+]?\\d+)?\\s*$"));
+  return formula.match(text).hasMatch() && !number.match(text).hasMatch() ? QLatin1Char('\'') + text : text;
+}
+
+/// In quotes, those inside doubled, with the semicolon behind. Never a formula.
+inline QString quoted(const QString &text) {
+  return QLatin1Char('"') + harmless(text).replace(QLatin1Char('"'), QStringLiteral("\"\"")) + QStringLiteral("\";");
 }
 
 /// A value with a decimal comma when it is wanted.
@@ -19,13 +29,19 @@ inline QString value(QString text, bool useComma) {
   return useComma ? text.replace(QLatin1Char('.'), QLatin1Char(',')) : text;
 }
 
-/// Rows of quoted fields, one a line. \param valueColumn the one that gets decimal commas when useComma says so
-inline void writeRows(QTextStream &stream, const std::vector<QStringList> &rows, int valueColumn, bool useComma) {
+/// Rows of quoted fields, one a line. \param valueColumns those that get decimal commas when useComma says so
+inline void writeRows(QTextStream &stream, const std::vector<QStringList> &rows, const QVector<int> &valueColumns,
+                      bool useComma) {
   for (const QStringList &row : rows) {
     for (int column = 0; column < row.size(); ++column)
-      stream << quoted(value(row.at(column), useComma && column == valueColumn));
+      stream << quoted(value(row.at(column), useComma && valueColumns.contains(column)));
     stream << '\n';
   }
+}
+
+/// The same for tables with one column of values.
+inline void writeRows(QTextStream &stream, const std::vector<QStringList> &rows, int valueColumn, bool useComma) {
+  writeRows(stream, rows, QVector<int>{valueColumn}, useComma);
 }
 
 } // namespace CsvField

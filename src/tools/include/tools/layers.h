@@ -3,16 +3,12 @@
 #include <model/netdata.h>
 
 #include <QMap>
-#include <QSet>
 #include <QStringList>
 
-/// Elements grouped by the value of one property. Visibility is kept by the name of the layer.
+/// Elements grouped by the value of one property. Which layers are hidden is the drawing's affair.
 class Layers {
 public:
-  struct Layer {
-    bool isVisible = true;
-    QStringList names; ///< of the elements, in the order of the network
-  };
+  using Names = QStringList; ///< of elements, in the order of the network
 
   explicit Layers(NetData &net)
       : m_net(net) {}
@@ -21,12 +17,7 @@ public:
   void setProperty(const QString &property);
   /// Looks up the layers of the elements anew.
   void rebuild();
-  const QMap<QString, Layer> &all() const { return m_layers; }
-
-  void setVisible(const QString &layer, bool visible);
-  void setAllVisible(bool visible);
-  void invert();
-  QSet<QString> hidden() const;
+  const QMap<QString, Names> &all() const { return m_layers; }
 
   /// Gives elements to a layer; names that the network does not have are passed over.
   void add(const QStringList &names, const QString &layer);
@@ -42,5 +33,5 @@ public:
 private:
   NetData &m_net;
   QString m_property = QStringLiteral("vis.layer");
-  QMap<QString, Layer> m_layers;
+  QMap<QString, Names> m_layers;
 };

@@ -3,6 +3,7 @@
 #include <tools/layers.h>
 
 #include <QDockWidget>
+#include <QSet>
 
 #include <memory>
 
@@ -13,7 +14,8 @@ namespace Ui {
 class NivraNetLayersEditor;
 }
 
-/// The panel "Layers Editor".
+/// The panel "Layers Editor". Which layers are hidden belongs to the drawing: the panel says what is wanted, is told what
+/// became of it and shows that.
 class NivraNetLayersEditor : public QDockWidget {
   Q_OBJECT
 public:
@@ -26,8 +28,12 @@ public:
 
   const Layers &layers() const { return m_layers; }
   void setLayerProperty(const QString &property);
+  /// By the drawing, after each change.
+  void setHiddenLayers(const QSet<QString> &hidden);
 
 signals:
+  /// Nothing is to be drawn for it: layerVisChanged() or propertyChanged() follow.
+  void hiddenLayersWanted(const QString &property, const QSet<QString> &hidden);
   void layerVisChanged();
   void itemDoubleClicked(const QString &eleName);
   void itemClicked(const QString &eleName);
@@ -51,7 +57,11 @@ public slots:
   void changeEditMode(NivraNetLayersEditor::EditMode mode);
 
 private:
-  void fill();
+  /// \param marked the layer whose row is to be the current one
+  void fill(const QString &marked = QString());
+  void rename(const QString &layer, const QString &name);
+  bool mayBecome(const QString &name);
+  void showWithout(const QSet<QString> &hidden);
   void showList(const QString &layer);
   QString layerAt(int row) const;
   QString askForLayer();
@@ -60,5 +70,6 @@ private:
   std::unique_ptr<Ui::NivraNetLayersEditor> m_ui;
   NetData &m_net;
   Layers m_layers;
+  QSet<QString> m_hidden; ///< as the drawing said
   EditMode m_mode = EditMode::Layers;
 };

@@ -10,7 +10,8 @@ namespace Ui {
 class NivraPropViewer;
 }
 
-/// The panel that lists every property of one element.
+/// The panel that lists every property of one element. Its window title names the element and stands in a line of the
+/// panel; the frame and the tab of the dock keep theirs, so that the drawing beside it does not move under the mouse.
 class NivraPropViewer : public QDockWidget {
   Q_OBJECT
 public:
@@ -23,11 +24,15 @@ public:
   void setShowsHidden(bool showsHidden) { m_showsHidden = showsHidden; }
   const QString &elementName() const { return m_elementName; }
 
+signals:
+  void characteristicsWanted(const QStringList &names);
+
 public slots:
   void on_actionCopy_triggered();
   void on_lineEdit_filter_textChanged(const QString &text);
 
 protected:
+  void changeEvent(QEvent *event) override;
   void showEvent(QShowEvent *event) override;
 
 private:
@@ -36,4 +41,5 @@ private:
   QString m_elementName;
   bool m_isActive = true;
   bool m_showsHidden = false;
+  bool m_hasFrameTitle = false; ///< which stays from then on
 };

@@ -15,7 +15,8 @@ namespace Ui {
 class NivraVecTable;
 }
 
-/// The window "Table of Vector Values".
+/// The window "Table of Vector Values". What is copied, saved and plotted is what is shown: rows that pass the filters, in
+/// their order, with the columns that are there. Filters go when something else is listed and when the window closes.
 class NivraVecTable : public QTabWidget {
   Q_OBJECT
 public:
@@ -26,10 +27,12 @@ public:
   void setDirectory(const QString &directory) { m_directory = directory; }
   /// After the network has changed: the properties that there are.
   void refresh();
-  bool save(const QString &path) const;
+  /// False with the reason.
+  bool save(const QString &path, QString *reason) const;
 
 signals:
   void elementMarked(const QString &elName);
+  void characteristicsWanted(const QStringList &names);
   void netChanged();
   void helpWanted(const QString &page);
 
@@ -52,13 +55,20 @@ public slots:
   void on_closePlotButton_clicked();
   void on_NivraVecTable_currentChanged(int index);
 
+protected:
+  void showEvent(QShowEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
+
 private:
   bool isPropertyMode() const;
+  void listSomethingElse();
   QStringList headers() const;
   void showRows(const std::vector<VectorRows::Row> &rows, int sortedBy);
   void sortNumerically(std::vector<VectorRows::Row> &rows);
   void showCount();
-  std::vector<QStringList> texts() const;
+  std::vector<int> shownRows() const;
+  QStringList selectedMachines() const;
+  void showPlot();
 
   std::unique_ptr<Ui::NivraVecTable> m_ui;
   NetData &m_net;
@@ -68,6 +78,7 @@ private:
   QString m_chosenProperty;
   QString m_directory;
   bool m_isUpdating = false;
+  bool m_isStale = false; ///< the category has changed while nobody saw it
   VectorPlot *m_plot;
   TableMenu *m_menu = nullptr;
 };

@@ -6,7 +6,6 @@
 
 class QAbstractItemView;
 class QHeaderView;
-class QItemSelectionModel;
 
 /// What a person asks of the texts of a column: "> 10", "<= 3", "= open", "!= 0" compare, as numbers where both are; any
 /// other text must be part of the cell's, regardless of case.
@@ -32,16 +31,22 @@ public:
   /// \param text empty for no filter
   void setFilter(int column, const QString &text);
   QString filter(int column) const { return m_filters.value(column); }
+  void clearFilters();
+  /// "value > 4, name A": what is asked of which column; empty without filters.
+  QString filterSummary() const;
   /// Hides and shows rows anew, after they have been filled or sorted.
   void apply();
   int shownRows() const;
 
-  /// The cells as a spreadsheet takes them: tabulators between columns, line breaks between rows; texts with either or with
-  /// quotes stand in quotes.
-  static QString cellTexts(const QItemSelectionModel &selection);
+  /// The selected cells that are shown, as a spreadsheet takes them: tabulators between columns, line breaks between rows;
+  /// texts with either or with quotes stand in quotes.
+  static QString cellTexts(const QAbstractItemView &view);
 
   /// Ctrl+C, unless the view has an action for it.
   static void offerCopy(QAbstractItemView &view);
+
+  /// Whether elements of the type are machines whose maps can be opened.
+  static bool hasCharacteristics(const QString &type);
 
 signals:
   void filtered(); ///< other rows are shown
@@ -50,7 +55,9 @@ private:
   void showMenu(const QPoint &position);
   void askForFilter(int column);
   void hideRow(int row, bool hidden);
-  bool isHidden(int row) const;
+  bool isHidden(int row) const { return isHidden(m_view, row); }
+  static bool isHidden(const QAbstractItemView &view, int row);
+  static QHeaderView *header(const QAbstractItemView &view);
   void markHeader(int column);
 
   QAbstractItemView &m_view;

@@ -30,6 +30,13 @@ public:
     bool onlySelection = false;
   };
 
+  /// What goes into a file.
+  struct Exported {
+    QStringList headers;
+    std::vector<QStringList> rows;
+    QVector<int> valueColumns; ///< which get decimal commas
+  };
+
   explicit VectorRows(NetData &net)
       : m_net(net) {}
 
@@ -39,9 +46,10 @@ public:
 
   /// By the number of the value; what is no number comes last and is marked "x". The rank stands in numsort.
   static void sortNumerically(std::vector<Row> &rows);
+  /// In natural order: P_2 before P_10.
   static void sortByName(std::vector<Row> &rows);
   static QString padded(int number); ///< right-aligned in nine characters
-  static bool write(QIODevice &device, const QStringList &headers, const std::vector<QStringList> &rows, bool useComma);
+  static bool write(QIODevice &device, const Exported &table, bool useComma);
 
 private:
   void addRows(const element &e, const Request &request, std::vector<Row> &rows);

@@ -7,10 +7,12 @@
 #include <map>
 #include <vector>
 
-/// Which elements are not drawn because their layer is hidden. The layer is the value of one property.
+/// Which elements are not drawn because their layer is hidden. The layer is the value of one property; layers are known by
+/// name, whatever the network.
 class LayerFilter {
 public:
   void setHidden(const QString &property, const QSet<QString> &layers);
+  const QSet<QString> &hidden() const { return m_layers; }
   /// Looks up the layers of the elements.
   void read(const NetGeometry &geometry);
 

@@ -1,0 +1,289 @@
+#include "workspacefixture.h"
+
+#include <base/nivramsg.h>
+#include <characteristics/characteristicsstack.h>
+#include <support/answers.h>
+#include <support/nivratest.h>
+#include <tools/nivranetlayerseditor.h>
+#include <tools/nivranetobjectcats.h>
+#include <tools/nivrapropviewer.h>
+#include <tools/nivrasearch.h>
+#include <tools/nivravectable.h>
+#include <view/netviscontrol.h>
+#include <view/qwtfastplot.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QTreeWidget>
+
+#include <app/nivraviewer.h>
+
+namespace {
+
+template <typename Panel>
+Panel &panelOf(NivraViewer &viewer) {
+  auto *panel = viewer.findChild<Panel *>();
+  Q_ASSERT(panel != nullptr);
+  return *panel;
+}
+
+QWidget &dockOf(NivraViewer &viewer, const char *name) {
+  return *viewer.findChild<QWidget *>(QString::fromLatin1(name));
+}
+
+/// Where an element stands on the screen, seen from the canvas.
+QPoint canvasPoint(NivraViewer &viewer, double x, double y) {
+  return viewer.visControl()->plot()->update().projection().map(x, y).toPoint();
+}
+
+void hover(NivraViewer &viewer, const QPoint &point) {
+  QWidget *canvas = viewer.visControl()->plot()->plot()->canvas();
+  QMouseEvent move(QEvent::MouseMove, point, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(canvas, &move);
+  QApplication::processEvents();
+}
+
+void click(NivraViewer &viewer, const QPoint &point) {
+  QTest::mouseClick(viewer.visControl()->plot()->plot()->canvas(), Qt::LeftButton, Qt::NoModifier, point);
+  QApplication::processEvents();
+}
+
+/// A table is a window of its own.
+NivraVecTable *vectorTable() {
+  for (QWidget *window : QApplication::topLevelWidgets()) {
+    if (auto *table = qobject_cast<NivraVecTable *>(window))
+      return table;
+  }
+  return nullptr;
+}
+
+QStringList names(const NivraVecTable &panel) {
+  const auto *table = panel.findChild<QTableWidget *>();
+  QStringList texts;
+  for (int row = 0; row < table->rowCount(); ++row) {
+    if (!table->isRowHidden(row))
+      texts.append(table->item(row, 0)->text());
+  }
+  return texts;
+}
+
+} // namespace
+
+/// The inspection tools beside the drawing, with mouse and keys.
+class TestToolsInWindow : public QObject {
+  Q_OBJECT
+
+private slots:
+  void panelsShowWhatIsMarkedWhenTheyOpen();
+  void drawingStandsStillUnderTheMouse();
+  void tableShowsTheNewSearch();
+  void publicNamesStandAsPeopleCount();
+  void hiddenLayersStayHiddenUnderAnotherName();
+  void editsAreAskedAboutBeforeAnotherCase();
+
+private:
+  WorkspaceFixture m_workspace;
+};
+
+void TestToolsInWindow::panelsShowWhatIsMarkedWhenTheyOpen() {
+  NivraViewer viewer;
+  viewer.open(m_workspace.scenario());
+  auto &properties = panelOf<NivraPropViewer>(viewer);
+  auto *element = viewer.findChild<QLabel *>(QStringLiteral("labelElement"));
+  click(viewer, canvasPoint(viewer, 0, 0));
+  QCOMPARE(viewer.visControl()->net().selection().names(), Selection::Names{QStringLiteral("A")});
+  properties.toggleViewAction()->trigger();
+  QVERIFY(properties.isVisible());
+  QCOMPARE(properties.elementName(), QStringLiteral("A"));
+  QVERIFY(properties.findChild<QTreeWidget *>()->topLevelItemCount() > 0);
+  auto &information = static_cast<QDockWidget &>(dockOf(viewer, "elementInformation"));
+  information.toggleViewAction()->trigger();
+  QTRY_VERIFY(element->isVisible());
+  QVERIFY2(element->text().contains(QStringLiteral("Element: A")), qPrintable(element->text()));
+
+  // Behind the other tab it follows what is marked meanwhile.
+  click(viewer, canvasPoint(viewer, 100, 80));
+  properties.raise();
+  QTRY_VERIFY(!properties.visibleRegion().isEmpty());
+  QTRY_COMPARE(properties.elementName(), QStringLiteral("C"));
+  viewer.visControl()->net().selection().clear();
+  properties.hide();
+  properties.show();
+  QVERIFY(properties.elementName().isEmpty()); // nothing is marked
+}
+
+void TestToolsInWindow::drawingStandsStillUnderTheMouse() {
+  const QByteArray longName(120, 'N');
+  const WorkspaceFixture workspace;
+  workspace.writeGeometry(WorkspaceFixture::soundGeometry().replace("\"C\"", '"' + longName + '"'));
+  NivraViewer viewer;
+  viewer.open(workspace.geometry());
+  auto &properties = panelOf<NivraPropViewer>(viewer);
+  for (const char *name : {"elementInformation", "configureDraw", "propertyViewer"})
+    dockOf(viewer, name).show();
+  properties.raise();
+  QTest::qWait(50);
+  const QWidget *plot = viewer.centralWidget();
+  const QRect before = plot->geometry();
+  QStringList tabs;
+  const auto tabTexts = [&viewer] {
+    QStringList texts;
+    for (const QTabBar *bar : viewer.findChildren<QTabBar *>())
+      for (int i = 0; i < bar->count(); ++i)
+        texts.append(bar->tabText(i));
+    return texts;
+  };
+  const QStringList texts = tabTexts();
+  QVERIFY(texts.contains(QStringLiteral("Property Viewer")));
+  for (const char *shown : {"propertyViewer", "elementInformation"}) {
+    dockOf(viewer, shown).raise();
+    QTest::qWait(50);
+    QCOMPARE(plot->geometry(), before);
+    for (const QPoint &point : {canvasPoint(viewer, 0, 0), canvasPoint(viewer, 100, 80)}) {
+      hover(viewer, point);
+      QTest::qWait(20);
+      QCOMPARE(plot->geometry(), before);
+      QCOMPARE(tabTexts(), texts);
+    }
+  }
+  dockOf(viewer, "propertyViewer").raise();
+  QTest::qWait(50);
+  hover(viewer, canvasPoint(viewer, 50, 0));
+  hover(viewer, canvasPoint(viewer, 100, 80));
+  QCOMPARE(properties.elementName(), QString::fromLatin1(longName));
+  QVERIFY(properties.windowTitle().startsWith(QStringLiteral("Properties of NNN")));
+  QCOMPARE(properties.findChild<QLabel *>(QStringLiteral("labelTitle"))->text(), properties.windowTitle());
+  QCOMPARE(plot->geometry(), before);
+  click(viewer, canvasPoint(viewer, 100, 80)); // hits what was under the mouse
+  QCOMPARE(viewer.visControl()->net().selection().names(), Selection::Names{QString::fromLatin1(longName)});
+}
+
+void TestToolsInWindow::tableShowsTheNewSearch() {
+  NivraViewer viewer;
+  viewer.open(m_workspace.scenario());
+  auto &search = panelOf<NivraSearch>(viewer);
+  search.enterLastField();
+  auto *name = search.findChild<QLineEdit *>(QStringLiteral("lineEdit_name"));
+  const auto searchFor = [name](const char *text) {
+    name->clear();
+    QTest::keyClicks(name, QString::fromLatin1(text));
+    QTest::keyClick(name, Qt::Key_Return);
+  };
+  searchFor("A");
+  search.findChild<QPushButton *>(QStringLiteral("pushButton_toTable"))->click();
+  NivraVecTable *table = vectorTable();
+  QVERIFY(table != nullptr && table->isVisible());
+  QCOMPARE(names(*table), QStringList{QStringLiteral("A")});
+  searchFor("B"); // while it is there
+  QCOMPARE(names(*table), QStringList{QStringLiteral("B")});
+  table->on_pushButtonClose_clicked();
+  searchFor("P");
+  searchFor("K"); // while it is not
+  viewer.on_actionElement_Table_triggered();
+  QCOMPARE(names(*table), QStringList{QStringLiteral("K1")});
+  table->close();
+}
+
+void TestToolsInWindow::publicNamesStandAsPeopleCount() {
+  const QString path = QStringLiteral(NIVRA_SOURCE_DIR "/../shared/data/GasLib-40/N1/N1.scen.jsn");
+  if (!QFile::exists(path))
+    QSKIP("there is no public network");
+  NivraViewer viewer;
+  viewer.open(path);
+  auto &search = panelOf<NivraSearch>(viewer);
+  search.defineSearch({QString(), QStringLiteral("^p$"), QStringLiteral("^name$"), QString()}, false);
+  search.findChild<QPushButton *>(QStringLiteral("pushButton_toTable"))->click();
+  const QStringList shown = names(*vectorTable());
+  QVERIFY(shown.size() > 11);
+  for (int i = 0; i < shown.size(); ++i)
+    QCOMPARE(shown.at(i), QStringLiteral("pipe_%1").arg(i + 1));
+  vectorTable()->close();
+}
+
+void TestToolsInWindow::hiddenLayersStayHiddenUnderAnotherName() {
+  const WorkspaceFixture workspace;
+  workspace.writeGeometry(WorkspaceFixture::soundGeometry()
+                              .replace("\"p\":50", "\"p\":50,\"vis.layer\":\"west\"")
+                              .replace("\"p\":60", "\"p\":60,\"vis.layer\":\"east\""));
+  NivraViewer viewer;
+  viewer.open(workspace.geometry());
+  auto &layers = panelOf<NivraNetLayersEditor>(viewer);
+  layers.show();
+  auto *table = layers.findChild<QTableWidget *>();
+  QCOMPARE(table->rowCount(), 2);
+  const NetUpdate &update = viewer.visControl()->plot()->update();
+  const auto isDrawn = [&](double x, double y) {
+    for (const Hit &hit : update.elementsAt(update.projection().map(x, y), 4.0)) {
+      if (hit.item.kind == NetData::Node)
+        return true;
+    }
+    return false;
+  };
+  QVERIFY(isDrawn(0, 0));
+  table->item(1, 0)->setCheckState(Qt::Unchecked);
+  QVERIFY(!isDrawn(0, 0) && isDrawn(100, 80));
+
+  int redraws = 0;
+  const auto counting =
+      connect(&NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
+              [&redraws](const QString &text) { redraws += text.contains(QStringLiteral("Updating plot")) ? 1 : 0; });
+  table->setCurrentCell(1, 1);
+  table->editItem(table->item(1, 1));
+  auto *field = table->findChild<QLineEdit *>();
+  field->selectAll();
+  QTest::keyClicks(field, QStringLiteral("abroad"));
+  {
+    const Answers yes({QMessageBox::Yes});
+    QTest::keyClick(field, Qt::Key_Return);
+    QCoreApplication::processEvents(); // the field is read after the key
+    QVERIFY(yes.areGiven());
+  }
+  disconnect(counting);
+  QCOMPARE(viewer.visControl()->net().element(QStringLiteral("A"))->value(QStringLiteral("vis.layer")),
+           QStringLiteral("abroad"));
+  QVERIFY(!isDrawn(0, 0) && isDrawn(100, 80));
+  QCOMPARE(table->item(0, 1)->text(), QStringLiteral("abroad"));
+  QCOMPARE(table->item(0, 0)->checkState(), Qt::Unchecked);
+  QCOMPARE(table->currentRow(), 0);
+  QCOMPARE(redraws, 1);
+
+  workspace.writeGeometry(WorkspaceFixture::soundGeometry().replace("\"p\":50", "\"p\":50,\"vis.layer\":\"abroad\""));
+  viewer.open(workspace.geometry()); // layers are known by name
+  QVERIFY(!isDrawn(0, 0));
+  QCOMPARE(table->item(0, 0)->checkState(), Qt::Unchecked);
+}
+
+void TestToolsInWindow::editsAreAskedAboutBeforeAnotherCase() {
+  const WorkspaceFixture workspace;
+  NivraViewer viewer;
+  viewer.open(workspace.geometry());
+  auto &categories = panelOf<NivraNetObjectCats>(viewer);
+  categories.show();
+  categories.findChild<QAbstractButton *>(QStringLiteral("toolButtonAdd"))->click();
+  QCOMPARE(categories.categories().size(), std::size_t(2));
+  const QString title = viewer.windowTitle();
+  {
+    const Answers cancel({QMessageBox::Cancel, QMessageBox::Cancel});
+    viewer.open(m_workspace.scenario());
+    QCOMPARE(viewer.windowTitle(), title);
+    QVERIFY(!viewer.close());
+    QVERIFY(cancel.areGiven());
+  }
+  const Answers save({QMessageBox::Save});
+  viewer.open(m_workspace.scenario());
+  QVERIFY(save.areGiven());
+  QVERIFY(viewer.windowTitle() != title);
+  QVERIFY(QFile::exists(workspace.path(QStringLiteral("CASE/catdef.csv"))));
+  QVERIFY(!QFile::exists(m_workspace.path(QStringLiteral("CASE/catdef.csv"))));
+  QCOMPARE(categories.categories().size(), std::size_t(1));
+  QVERIFY(viewer.close());
+}
+
+NIVRA_TEST(TestToolsInWindow);
+#include "tst_toolsinwindow.moc"
