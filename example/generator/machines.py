@@ -7,6 +7,7 @@ from .scenarios import units_to_m
 
 NOMINAL_SPEED = 8000.0  # 1/min
 SPEEDS = (4000, 5000, 6000, 7000, 8000, 9000)
+LARGEST_PART = 1.2  # of the nominal flow at a speed; machines choke at 1.3
 PISTONS = {"CS_Rimpar_C1"}  # little head, and a flow that changes much from season to season
 PISTON_SPEEDS = (120, 500)
 PISTON_NOMINAL_SPEED = 420.0
@@ -42,7 +43,7 @@ def design(net, outcomes):
     maps = {}
     for station in net.stations.values():
         for compressor in station["compressors"]:
-            element, best = net.elements[compressor], (2.0, 60.0)
+            element, best, asked = net.elements[compressor], (2.0, 60.0), []
             for outcome in outcomes.values():
                 m = units_to_m(outcome.flows[compressor])
                 p1, p2 = outcome.pressures[element["node1"]], outcome.pressures[element["node2"]]
@@ -50,8 +51,20 @@ def design(net, outcomes):
                     temperature = outcome.temperatures[element["node1"]]
                     point = (m / hydrogen.density(p1, temperature), hydrogen.head(p1, p2, temperature))
                     best = max(best, point, key=lambda one: one[1])
-            maps[compressor] = Map(compressor, (float(f"{best[0]:.5g}"), float(f"{best[1]:.5g}")))
+                    asked.append(point)
+            maps[compressor] = Map(compressor, _wide_enough(best, asked))
     return maps
+
+
+def _wide_enough(best, asked):
+    """The design point, with a flow at which no other scenario comes near the choke line."""
+    flow, head = best
+    for _ in range(20):
+        for other, lift in asked:
+            part = other / flow
+            turn = (0.2 * part + math.sqrt(0.04 * part**2 + 5.2 * (0.1 * part**2 + lift / head))) / 2.6
+            flow = max(flow, flow * part / turn / LARGEST_PART)
+    return float(f"{flow:.5g}"), float(f"{head:.5g}")
 
 
 def _points(name, chart):

@@ -1,5 +1,6 @@
 #include "machinexml.h"
 
+#include <base/fileaccess.h>
 #include <characteristics/machinereader.h>
 #include <io/tablefile.h>
 
@@ -152,9 +153,10 @@ MachineReader::Result readTables(const QString &path) {
 MachineReader::Result MachineReader::read(const QString &path) {
   QFile file(path);
   Result result;
-  if (!file.open(QIODevice::ReadOnly)) {
+  QString reason;
+  if (!FileAccess::openForReading(file, FileAccess::Source::Workspace, FileAccess::LargestConfiguration, &reason)) {
     result.findings.push_back(
-        {Finding::Severity::Warning, path, 0, tr("The machine data cannot be read: %1").arg(file.errorString()), QString()});
+        {Finding::Severity::Warning, path, 0, tr("The machine data cannot be read: %1").arg(reason), QString()});
     return result;
   }
   constexpr qint64 Looked = 1024;

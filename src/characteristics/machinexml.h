@@ -17,6 +17,8 @@ private:
   void readPiston();
   void readDrives();
   void readDrive(Drive::Kind kind);
+  void readConfigurations();
+  void readConfiguration();
   /// The numbers of a "measurement" by the names of its children.
   MeasuredPoint readPoint(double efficiency);
   void readPoints(std::vector<MeasuredPoint> &points, double efficiency);
