@@ -38,7 +38,7 @@ std::optional<Compression> Compression::of(const NetData &net, const element &co
   c.inletPressure = value(net, *inlet, "p") - losses;
   const double outside = value(net, *outlet, "p");
   c.outletPressure = outside + std::max(0.0, value(net, compressor, "dpout"));
-  c.inletTemperature = gases.temperatureAt(*inlet);
+  c.inletTemperature = gases.temperatureAt(*inlet, &c.remarks);
   const double stated = value(net, *inlet, "rho");
   if (stated > 0.0 && c.inletPressure > 0.0)
     c.inletDensity = stated * c.inletPressure / (c.inletPressure + losses);
@@ -52,7 +52,7 @@ std::optional<Compression> Compression::of(const NetData &net, const element &co
   c.massFlow = std::abs(c.massFlow);
   if (!(c.massFlow > 0.0 && c.inletPressure > 0.0 && outside > 0.0))
     return std::nullopt;
-  c.remarks = c.gas->remarks();
+  c.remarks += c.gas->remarks();
   judgeDensity(c);
   return c;
 }
@@ -78,6 +78,8 @@ double Compression::exponent() const {
     return inlet.exponent;
   const double work = inletPressure * KiloPascalPerBar / inlet.density;
   const double wanted = (gas->at(outletPressure, *behind).enthalpy - inlet.enthalpy) / work;
+  if (!std::isfinite(wanted))
+    return inlet.exponent;
   // (ratio^k - 1) / k grows with k.
   double low = 0.01;
   double high = 0.7;

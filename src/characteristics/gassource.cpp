@@ -21,6 +21,12 @@ QString keyOf(const GasData &data) {
   return parts.join(QLatin1Char(';'));
 }
 
+bool isPossible(double temperature) {
+  constexpr double Coldest = 200.0; // K
+  constexpr double Warmest = 600.0;
+  return temperature >= Coldest && temperature <= Warmest;
+}
+
 Finding warning(const QString &text, const QString &element) {
   return {Finding::Severity::Warning, QString(), 0, text, QString(), false, element};
 }
@@ -29,6 +35,8 @@ Finding warning(const QString &text, const QString &element) {
 
 void GasSource::set(ScenarioGas scenario) {
   m_scenario = std::move(scenario);
+  if (!isPossible(m_scenario.temperature)) // a text that is no number is read as 0
+    m_scenario.temperature = ScenarioGas().temperature;
   m_made.clear();
   forget();
 }
@@ -85,9 +93,15 @@ GasSource::Gas GasSource::findScenario() const {
   return made(GasData(), tr("assumed"));
 }
 
-double GasSource::temperatureAt(const element &node) const {
+double GasSource::temperatureAt(const element &node, QStringList *remarks) const {
   const double own = m_net.value(node, PropertyKey::find("t"));
-  return own == NetData::NoValue || own <= 0.0 ? m_scenario.temperature : own;
+  if (own == NetData::NoValue)
+    return m_scenario.temperature;
+  if (isPossible(own))
+    return own;
+  if (remarks != nullptr)
+    remarks->append(tr("The temperature %1 K at the inlet cannot be, %2 K are taken").arg(own).arg(m_scenario.temperature));
+  return m_scenario.temperature;
 }
 
 Findings GasSource::findings() const {

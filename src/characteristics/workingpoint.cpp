@@ -68,7 +68,11 @@ WorkingPoint::WorkingPoint(const Compression &compression)
 
 void WorkingPoint::judgeMode(const Compression &compression) {
   constexpr double LossOfBypass = 0.01; // of the pressure
-  if (compression.isReversed) {
+  if (!std::isfinite(flow) || !std::isfinite(head)) {
+    flow = head = 0.0;
+    mode = Mode::NotCompressing;
+    remarks.append(tr("The gas law does not hold at these pressures and this temperature."));
+  } else if (compression.isReversed) {
     mode = Mode::Backwards;
     remarks.append(tr("The gas flows backwards through the machine: it does not compress."));
   } else if (ratio <= 1.0 && ratio >= 1.0 - LossOfBypass) {

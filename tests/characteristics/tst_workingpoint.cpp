@@ -28,6 +28,7 @@ private slots:
   void turbo();
   void notCompressing_data();
   void notCompressing();
+  void lawsBeyondTheirRange();
   void everyLimitIsTold();
   void outsideOfTheMap_data();
   void outsideOfTheMap();
@@ -188,6 +189,23 @@ void TestWorkingPoint::notCompressing_data() {
   QTest::newRow("bypass") << 50.0 << false << QStringLiteral("Bypass");
   QTest::newRow("bypass with its loss") << 49.8 << false << QStringLiteral("Bypass");
   QTest::newRow("expansion") << 30.0 << false << QStringLiteral("Not compressing");
+}
+
+/// Values that no gas has.
+void TestWorkingPoint::lawsBeyondTheirRange() {
+  Compression cold = natural();
+  cold.inletDensity = 0.0;
+  cold.inletTemperature = 0.0;
+  PistonCompressor piston;
+  piston.displacement = 0.5;
+  piston.speedMin = 200;
+  piston.speedMax = 400;
+  const WorkingPoint point = WorkingPoint::of(piston, nullptr, cold, 10.0);
+  QVERIFY(!point.isInside && !point.speed && point.remarks.join(QString()).contains(QStringLiteral("gas law")));
+  m_net->nodes().at(QStringLiteral("A")).set(QStringLiteral("t"), QStringLiteral("15")); // degC in place of K
+  const auto c = Compression::of(*m_net, m_net->edges().at(QStringLiteral("M")), GasSource(*m_net));
+  QCOMPARE(c->inletTemperature, ScenarioGas().temperature);
+  QVERIFY2(c->remarks.join(QString()).contains(QStringLiteral("15 K")), qPrintable(c->remarks.join(QString())));
 }
 
 /// No speed, efficiency or power is made up where nothing is compressed.

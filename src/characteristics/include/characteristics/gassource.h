@@ -35,8 +35,8 @@ public:
   Gas at(const element &node) const;
   /// Of nodes that say nothing.
   const Gas &scenario() const;
-  /// K: of the node itself, else of the scenario.
-  double temperatureAt(const element &node) const;
+  /// K: of the node itself, else of the scenario. One that no gas in a network has is told and left out.
+  double temperatureAt(const element &node, QStringList *remarks = nullptr) const;
   /// What is doubtful about the scenario's gas.
   Findings findings() const;
 
