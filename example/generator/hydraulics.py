@@ -17,8 +17,7 @@ GAS_CONSTANT = 8314.4621 / MOLAR_MASS  # J/(kg K)
 COMPRESSIBILITY = 1.035  # of hydrogen near 55 bar and 283 K, taken for the friction law
 SOIL_TEMPERATURE = 283.15  # K
 HEAT_CAPACITY = 14300.0  # J/(kg K)
-ISENTROPIC_EXPONENT = 1.41
-COMPRESSOR_EFFICIENCY = 0.80
+COMPRESSOR_EFFICIENCY = 0.80  # before there are maps
 TURBINE_EFFICIENCY = 0.36
 LOWER_HEATING_VALUE = 120.0  # MJ/kg
 WARMING_BY_EXPANSION = 0.035  # K/bar; hydrogen gets warmer when its pressure drops
@@ -149,12 +148,6 @@ def _flows_on_tree(tree, surplus, rounded):
             leaves.append(other)
 
 
-def compression_power(flow, ratio, inlet_temperature):
-    """Shaft power in MW."""
-    exponent = (ISENTROPIC_EXPONENT - 1.0) / ISENTROPIC_EXPONENT
-    return flow * HEAT_CAPACITY * inlet_temperature * (ratio**exponent - 1.0) / COMPRESSOR_EFFICIENCY / 1.0e6
-
-
-def density(pressure, temperature):
-    """kg/m3 at a pressure in bar and a temperature in K."""
-    return pressure * 1.0e5 / ((1.0 + 6.3e-4 * pressure) * GAS_CONSTANT * temperature)
+def compression_power(flow, head, efficiency):
+    """Shaft power in MW of a flow in kg/s with a head in kJ/kg."""
+    return flow * head / efficiency / 1000.0

@@ -3,7 +3,8 @@
 import math
 
 from . import places, routes
-from .hydraulics import CALORIFIC_VALUE, MOLAR_MASS, RHO_NORM, Edge, density, friction_coefficient
+from .hydraulics import CALORIFIC_VALUE, MOLAR_MASS, RHO_NORM, Edge, friction_coefficient
+from .hydrogen import density
 from .projection import forward, great_circle, inverse
 
 DETOUR = 1.1  # a pipe is that much longer than the great circle

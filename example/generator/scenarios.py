@@ -3,9 +3,9 @@
 import math
 from dataclasses import dataclass
 
-from . import places
+from . import hydrogen, places
 from .hydraulics import (
-    COMPRESSOR_EFFICIENCY, HEAT_CAPACITY, ISENTROPIC_EXPONENT, LOWER_HEATING_VALUE, SOIL_TEMPERATURE, TURBINE_EFFICIENCY,
+    COMPRESSOR_EFFICIENCY, HEAT_CAPACITY, LOWER_HEATING_VALUE, SOIL_TEMPERATURE, TURBINE_EFFICIENCY,
     WARMING_BY_EXPANSION, compression_power, solve, whole_units,
 )
 
@@ -28,14 +28,24 @@ START_RATIO = 1.3  # without compression the south would run out of pressure
 
 
 @dataclass
+class Work:
+    """Of a compressor: head in kJ/kg, shaft power in MW, speed in 1/min where its map is known."""
+
+    head: float = 0.0
+    efficiency: float = 0.0
+    power: float = 0.0
+    speed: float = 0.0
+
+
+@dataclass
 class Outcome:
-    """A solved scenario; flows and offtakes in whole units, temperatures in K, power in MW."""
+    """A solved scenario; flows and offtakes in whole units, temperatures in K."""
 
     pressures: dict
     flows: dict
     offtakes: dict
     temperatures: dict
-    power: dict
+    machines: dict  # what every compressor does, see Work
     ratios: dict  # by station; 1.0 stands for by-passed
 
 
@@ -49,8 +59,9 @@ def units_to_m(units):
     return units * 899 / 1_000_000_000
 
 
-def run(net, name):
-    """Finds the ratios that bring the stations near their discharge pressures, then the final flow."""
+def run(net, name, maps=None):
+    """Finds the ratios that bring the stations near their discharge pressures, then the final flow. Without maps every
+    compressor has the same efficiency."""
     settings = SCENARIOS[name]
     ratios = dict.fromkeys(net.stations, START_RATIO)
     fuel = dict.fromkeys(net.stations, 0.0)
@@ -58,12 +69,17 @@ def run(net, name):
     for turn in range(30):
         offtakes = _offtakes(net, settings, fuel)
         pressures, flows = _steady(net, settings, ratios, offtakes)
-        fuel = {s: _fuel(net.stations[s], flows, ratios[s]) for s in net.stations}
+        fuel = {s: _fuel(net, net.stations[s], flows, pressures, ratios[s], maps) for s in net.stations}
         if turn < 24:
             _turn_ratios(net, settings, pressures, flows, ratios, resting, turn)
     rounded = whole_units(net.edges, {k: m / UNIT_KG_PER_S for k, m in flows.items()}, offtakes)
-    temperatures = _temperatures(net, rounded, offtakes, ratios, pressures)
-    return Outcome(pressures, rounded, offtakes, temperatures, _power(net, rounded, ratios, temperatures), ratios)
+    # To the digits that are written, so that who reads them computes the same.
+    pressures = {node: round(p, 8) for node, p in pressures.items()}
+    temperatures = _temperatures(net, rounded, offtakes, pressures, maps)
+    temperatures = {node: round(t, 3) for node, t in temperatures.items()}
+    work = {c: _work(net, c, units_to_m(rounded[c]), pressures, temperatures[net.elements[c]["node1"]], maps)
+            for station in net.stations.values() for c in station["compressors"]}
+    return Outcome(pressures, rounded, offtakes, temperatures, work, ratios)
 
 
 def _offtakes(net, settings, fuel):
@@ -110,12 +126,25 @@ def _turn_ratios(net, settings, pressures, flows, ratios, resting, turn):
         ratios[name] = round(max(ratio, 1.0), 3)
 
 
-def _fuel(station, flows, ratio):
+def _work(net, compressor, m, pressures, temperature, maps):
+    """What a compressor does with m kg/s that enter it with a temperature."""
+    element = net.elements[compressor]
+    p1, p2 = pressures[element["node1"]], pressures[element["node2"]]
+    if m <= 0.0 or p2 <= p1:
+        return Work()
+    head = hydrogen.head(p1, p2, temperature)
+    speed, efficiency = 0.0, COMPRESSOR_EFFICIENCY
+    if maps:
+        speed, efficiency = maps[compressor].working_point(m / hydrogen.density(p1, temperature), head)
+    return Work(head, efficiency, compression_power(m, head, efficiency), speed)
+
+
+def _fuel(net, station, flows, pressures, ratio, maps):
     """kg/s of the station's turbines; nothing where motors drive it."""
     if not station["turbine"] or ratio <= 1.0:
         return 0.0
-    through = sum(flows[c] for c in station["compressors"])
-    return compression_power(through, ratio, SOIL_TEMPERATURE) / TURBINE_EFFICIENCY / LOWER_HEATING_VALUE
+    power = sum(_work(net, c, flows[c], pressures, SOIL_TEMPERATURE, maps).power for c in station["compressors"])
+    return power / TURBINE_EFFICIENCY / LOWER_HEATING_VALUE
 
 
 def _directed(net, flows):
@@ -128,9 +157,8 @@ def _directed(net, flows):
             yield edge, edge.node2, edge.node1, -m
 
 
-def _temperatures(net, flows, offtakes, ratios, pressures):
+def _temperatures(net, flows, offtakes, pressures, maps):
     """Mixes the gas at every node until nothing changes any more; gas at rest takes the temperature of the soil."""
-    station_ratio = {c: ratios[name] for name, station in net.stations.items() for c in station["compressors"]}
     temperatures = dict.fromkeys(net.nodes(), SOIL_TEMPERATURE)
     directed = list(_directed(net, flows))
     supplies = {node: (-units_to_m(units), net.elements[node]["tset"] + 273.15)
@@ -140,8 +168,8 @@ def _temperatures(net, flows, offtakes, ratios, pressures):
         for node, (m, temperature) in supplies.items():
             heat[node] = [m, m * temperature]
         for edge, start, end, m in directed:
-            outlet = _outlet_temperature(net.elements[edge.name], temperatures[start], m, station_ratio.get(edge.name, 1.0),
-                                         pressures[start] - pressures[end])
+            outlet = _outlet_temperature(net, edge.name, temperatures[start], m, pressures[start], pressures[end], pressures,
+                                         maps)
             heat[end][0] += m
             heat[end][1] += m * outlet
         mixed = {node: h / m if m > 0.0 else SOIL_TEMPERATURE for node, (m, h) in heat.items()}
@@ -152,25 +180,18 @@ def _temperatures(net, flows, offtakes, ratios, pressures):
     return temperatures
 
 
-def _outlet_temperature(element, inlet, m, ratio, drop):
-    """K at the end of an edge that m kg/s enter with inlet; drop in bar."""
+def _outlet_temperature(net, name, inlet, m, first, last, pressures, maps):
+    """K at the end of an edge that m kg/s enter with inlet; first and last are the pressures along the flow."""
+    element = net.elements[name]
     word = element["obj_type"]
     if word == "pipe":
         surface = math.pi * element["diameter"] / 1000.0 * element["length"]
         return SOIL_TEMPERATURE + (inlet - SOIL_TEMPERATURE) * math.exp(-surface * element["htc"] / (m * HEAT_CAPACITY))
     if word == "compressor":
-        exponent = (ISENTROPIC_EXPONENT - 1.0) / ISENTROPIC_EXPONENT
-        return inlet * (1.0 + (ratio**exponent - 1.0) / COMPRESSOR_EFFICIENCY)
+        work = _work(net, name, m, pressures, inlet, maps)
+        return hydrogen.outlet_temperature(first, last, inlet, work.efficiency) if work.head > 0.0 else inlet
     if word == "cooler":
         return min(inlet, element["tset"] + 273.15)
     if word == "heater":
         return max(inlet, element["tset"] + 273.15)
-    return inlet + WARMING_BY_EXPANSION * drop if word == "regulator" else inlet
-
-
-def _power(net, flows, ratios, temperatures):
-    """MW of every compressor."""
-    return {
-        c: compression_power(units_to_m(flows[c]), ratios[name], temperatures[net.elements[c]["node1"]])
-        for name, station in net.stations.items() for c in station["compressors"]
-    }
+    return inlet + WARMING_BY_EXPANSION * (first - last) if word == "regulator" else inlet

@@ -3,7 +3,8 @@
 import json
 import math
 
-from .hydraulics import CALORIFIC_VALUE, COMPRESSOR_EFFICIENCY, HEAT_CAPACITY, MOLAR_MASS, RHO_NORM, density
+from .hydraulics import CALORIFIC_VALUE, HEAT_CAPACITY, MOLAR_MASS, RHO_NORM
+from .hydrogen import density
 from .network import CRITICAL_POINT
 from .places import REFERENCE_NODE
 from .scenarios import SCENARIOS, units_to_m, units_to_q
@@ -153,12 +154,11 @@ def _extra(element, m, first, second):
 
 def _machine_results(net, outcome, name, station, results):
     """The fuel of a station is what its fuel gas node takes, split by power."""
-    total = sum(outcome.power[c] for c in station["compressors"])
+    total = sum(outcome.machines[c].power for c in station["compressors"])
     fuel = units_to_q(outcome.offtakes[station["fuel"]]) if station["turbine"] else 0.0
     for compressor in station["compressors"]:
-        power, m = outcome.power[compressor], units_to_m(outcome.flows[compressor])
-        head = power * 1000.0 * COMPRESSOR_EFFICIENCY / m if m > 0.0 else 0.0
-        results[compressor].update({"power": round(power, 4), "head": round(head, 3), "ratio": outcome.ratios[name],
-                                    "efficiency": COMPRESSOR_EFFICIENCY if m > 0.0 else 0.0})
-        share = power / total if total > 0.0 else 0.0
-        results[net.elements[compressor]["drive"]] = {"power": round(power, 4), "fuel": round(fuel * share, 6)}
+        work = outcome.machines[compressor]
+        results[compressor].update({"power": round(work.power, 4), "head": round(work.head, 3), "ratio": outcome.ratios[name],
+                                    "efficiency": round(work.efficiency, 5), "speed": round(work.speed, 1)})
+        share = work.power / total if total > 0.0 else 0.0
+        results[net.elements[compressor]["drive"]] = {"power": round(work.power, 4), "fuel": round(fuel * share, 6)}

@@ -1,6 +1,7 @@
 #include <base/fileaccess.h>
 #include <base/nivramsg.h>
 #include <characteristics/machinereader.h>
+#include <characteristics/networkmachines.h>
 #include <io/nivrareader.h>
 #include <subassembly/subassembler.h>
 
@@ -106,7 +107,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   report(subResults.findings);
   notice(tr("Reading"), subResults.findings);
   m_seconds.append({QStringLiteral("subnets"), static_cast<double>(timer.restart()) * Milli});
-  readMachines();
+  readMachines(reader);
   m_seconds.append({QStringLiteral("machines"), static_cast<double>(timer.restart()) * Milli});
   m_cancelled = m_cancelled || subResults.cancelled;
   const bool isComputed = !m_cancelled && computeFormulas(options.progress);
@@ -127,7 +128,7 @@ ScenarioSummary NetworkLoader::scenarioSummary() const {
   return ScenarioSummary::of(m_workspace, m_gasParams, m_gases, m_gasFile);
 }
 
-void NetworkLoader::readMachines() {
+void NetworkLoader::readMachines(const NivraReader &reader) {
   m_machines = MachineData();
   if (!m_workspace.hasScenario() || m_workspace.currentScenario()->comprDatabase.isEmpty())
     return;
@@ -139,6 +140,8 @@ void NetworkLoader::readMachines() {
   m_machines = std::move(result.data);
   constexpr double FreezingPoint = 273.15; // K
   m_machines.ambientTemperature = m_gasParams.tamb - FreezingPoint;
+  m_machines.gas = {reader.gases(), static_cast<GasLaw::Wanted>(m_gasParams.ntype_gasLaw), m_gasParams.tsoil};
+  append(result.findings, NetworkMachines(m_net, m_machines).findings());
   report(result.findings);
   notice(tr("Machine data"), std::move(result.findings));
 }

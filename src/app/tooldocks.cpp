@@ -150,9 +150,9 @@ void ToolDocks::createCharacteristics() {
 }
 
 void ToolDocks::setMachines(const MachineData &machines) {
-  m_characteristics->setFile(QString()); // the pages of the case before are no longer kept
+  m_characteristics->setCase(QString()); // the pages of the case before are no longer kept
   m_characteristics->setMachines(machines);
-  m_characteristics->setFile(m_directory + QStringLiteral("/characteristics.txt"));
+  m_characteristics->setCase(m_directory);
 }
 
 void ToolDocks::refreshMachines() {

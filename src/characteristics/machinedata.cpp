@@ -119,9 +119,14 @@ Findings TurboCompressor::fit() {
     surges.push_back({point.flow, 0.0, point.head});
     heads.push_back({point.flow, point.speed, point.head});
   }
+  published = {head, efficiency, surge, choke};
   take(name, tr("head"), heads, head, headQuality, findings);
   take(name, tr("efficiency"), efficiencies, efficiency, efficiencyQuality, findings);
   take(name, tr("surge line"), surges, surge, surgeQuality, findings);
+  if (published.head)
+    publishedHeadQuality = Fits::compare(heads, *published.head);
+  if (published.efficiency)
+    publishedEfficiencyQuality = Fits::compare(efficiencies, *published.efficiency);
   if (!choke)
     choke = alongLargestFlows(heads);
   if (speedMax <= speedMin && speeds.size() > 1) {
@@ -130,7 +135,38 @@ Findings TurboCompressor::fit() {
   }
   if (!head)
     findings.push_back(warning(name, tr("there are neither coefficients nor enough points for its map")));
+  if (headQuality.ok)
+    fitted.head = head;
+  if (efficiencyQuality.ok)
+    fitted.efficiency = efficiency;
+  if (surgeQuality.ok)
+    fitted.surge = surge;
   return findings;
+}
+
+bool TurboCompressor::hasChoice() const {
+  return (published.head && fitted.head) || (published.efficiency && fitted.efficiency) || (published.surge && fitted.surge);
+}
+
+TurboCompressor TurboCompressor::by(FunctionSource source) const {
+  TurboCompressor machine = *this;
+  const Functions &chosen = source == FunctionSource::Published ? published : fitted;
+  const auto take = [](auto &target, const auto &other) {
+    if (other)
+      target = other;
+  };
+  take(machine.head, chosen.head);
+  take(machine.efficiency, chosen.efficiency);
+  take(machine.surge, chosen.surge);
+  return machine;
+}
+
+bool StationConfiguration::contains(const QString &compressor) const {
+  return std::any_of(stages.begin(), stages.end(), [&compressor](const Stage &stage) {
+    return std::any_of(stage.begin(), stage.end(), [&compressor](const Unit &unit) {
+      return unit.compressor.compare(compressor, Qt::CaseInsensitive) == 0;
+    });
+  });
 }
 
 std::optional<std::pair<double, double>> TurboCompressor::flows(double speed) const {
@@ -167,11 +203,32 @@ Findings Drive::fit() {
   std::vector<FitPoint> rates;
   for (const EnergyPoint &point : energyPoints)
     rates.push_back({point.power, 0.0, point.rate});
+  publishedPower = power;
+  publishedEnergy = energy;
+  if (power)
+    publishedPowerQuality = Fits::compare(powers, *power);
   takePower(name, powers, power, powerQuality, findings);
   take(name, tr("energy rate"), rates, energy, energyQuality, findings);
   if (!power)
     findings.push_back(warning(name, tr("there are neither coefficients nor enough points for its power limit")));
   return findings;
+}
+
+Drive Drive::by(FunctionSource source) const {
+  Drive drive = *this;
+  if (source == FunctionSource::Published && publishedPower)
+    drive.power = publishedPower;
+  if (source == FunctionSource::Published && publishedEnergy)
+    drive.energy = publishedEnergy;
+  return drive;
+}
+
+std::optional<std::pair<double, double>> Drive::speeds() const {
+  const auto ends = std::minmax_element(powerPoints.begin(), powerPoints.end(),
+                                        [](const PowerPoint &a, const PowerPoint &b) { return a.speed < b.speed; });
+  if (powerPoints.empty() || !(ends.second->speed > ends.first->speed))
+    return std::nullopt;
+  return std::make_pair(ends.first->speed, ends.second->speed);
 }
 
 const TurboCompressor *MachineData::turbo(const QString &name) const {

@@ -103,7 +103,7 @@ void MachineXml::readStation() {
     else if (m_xml.name() == QLatin1String("drives"))
       readDrives();
     else if (m_xml.name() == QLatin1String("configurations"))
-      m_xml.skipCurrentElement(); // how machines work together is the solver's
+      readConfigurations();
     else
       skipUnknown();
   }
@@ -322,4 +322,40 @@ void MachineXml::readEnergyPoints(Drive &drive) {
     else if (std::isfinite(*power + *rate))
       drive.energyPoints.push_back({*power, *rate});
   }
+}
+
+void MachineXml::readConfigurations() {
+  while (m_xml.readNextStartElement()) {
+    if (m_xml.name() == QLatin1String("configuration"))
+      readConfiguration();
+    else
+      skipUnknown();
+  }
+}
+
+void MachineXml::readConfiguration() {
+  StationConfiguration configuration;
+  configuration.station = m_station;
+  configuration.name = attribute("confId");
+  while (m_xml.readNextStartElement()) {
+    if (m_xml.name() != QLatin1String("stage")) {
+      skipUnknown();
+      continue;
+    }
+    StationConfiguration::Stage stage;
+    while (m_xml.readNextStartElement()) {
+      if (m_xml.name() == QLatin1String("compressor")) {
+        stage.push_back({attribute("id"), attribute("nominalSpeed").toDouble()});
+        m_xml.skipCurrentElement();
+      } else {
+        skipUnknown();
+      }
+    }
+    if (!stage.empty())
+      configuration.stages.push_back(std::move(stage));
+  }
+  if (configuration.stages.empty())
+    tell(tr("the configuration %1 of %2 names no compressor and is left out").arg(configuration.name, m_station));
+  else
+    m_result.data.configurations.push_back(std::move(configuration));
 }

@@ -21,6 +21,8 @@ private:
   void readPowerPoints(Drive &drive);
   void readPowerPoint(Drive &drive, double temperature);
   void readEnergyPoints(Drive &drive);
+  void readConfigurations();
+  void readConfiguration();
   /// The numbers of a "measurement" by the names of its children.
   MeasuredPoint readPoint(double efficiency);
   void readPoints(std::vector<MeasuredPoint> &points, double efficiency);

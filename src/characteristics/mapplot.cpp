@@ -1,6 +1,7 @@
 #include "shownnumber.h"
 
 #include <base/nivramsg.h>
+#include <base/wholefile.h>
 #include <characteristics/mapplot.h>
 
 #include <QContextMenuEvent>
@@ -11,7 +12,6 @@
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
@@ -27,7 +27,9 @@
 namespace {
 
 constexpr int Steps = 60;
-constexpr int Resolution = 72; // dots an inch of documents: those of a point
+constexpr int TitleSize = 9;    // points
+constexpr int LabelSpacing = 5; // from the end of a line, where a measured point may lie
+constexpr int Resolution = 72;  // dots an inch of documents: those of a point
 const QColor Blue(31, 93, 138);
 const QColor Green(46, 125, 50);
 const QColor Red(178, 34, 34);
@@ -52,6 +54,28 @@ std::vector<double> roundValues(double from, double to) {
     values.push_back(i * step);
   values.push_back(to);
   return values;
+}
+
+/// The working point in a line.
+QString pointText(const std::optional<WorkingPoint> &point) {
+  if (!point)
+    return MapPlot::tr("no working point");
+  if (!point->isCompressing())
+    return point->remarks.value(0);
+  QStringList parts{MapPlot::tr("Q = %1 m³/s").arg(shownNumber(point->flow)),
+                    MapPlot::tr("H = %1 kJ/kg").arg(shownNumber(point->head))};
+  if (point->speed)
+    parts.append(MapPlot::tr("n = %1 1/min").arg(shownNumber(*point->speed)));
+  if (point->efficiency)
+    parts.append(MapPlot::tr("η = %1 %").arg(shownNumber(100.0 * *point->efficiency, 3)));
+  if (point->power)
+    parts.append(MapPlot::tr("P = %1 kW").arg(shownNumber(*point->power)));
+  return parts.join(QStringLiteral(", "));
+}
+
+/// "CS1: T1", or the name alone where it stands in no station.
+QString machineName(const QString &station, const QString &name) {
+  return station.isEmpty() ? name : station + QStringLiteral(": ") + name;
 }
 
 /// Zooms with what stands under the cursor beside it.
@@ -89,8 +113,13 @@ MapPlot::MapPlot(QWidget *parent)
   setMinimumSize(260, 200);
 }
 
-void MapPlot::reset(const QString &x, const QString &y) {
+void MapPlot::reset(const QString &name, const std::optional<WorkingPoint> &point, const QString &x, const QString &y) {
   detachItems();
+  QwtText title(name + QLatin1Char('\n') + pointText(point), QwtText::PlainText);
+  QFont font = title.font();
+  font.setPointSize(TitleSize);
+  title.setFont(font);
+  setTitle(title);
   auto *grid = new QwtPlotGrid;
   grid->setMajorPen(Qt::lightGray, 0.0, Qt::DotLine);
   grid->attach(this);
@@ -116,6 +145,7 @@ void MapPlot::addLine(const QVector<QPointF> &points, const QPen &pen, const QSt
   text.setColor(pen.color());
   marker->setLabel(text);
   marker->setLabelAlignment(alignment);
+  marker->setSpacing(LabelSpacing);
   marker->setValue(points.last());
   marker->attach(this);
 }
@@ -154,6 +184,20 @@ void MapPlot::addWorkingPoint(const QPointF &at, bool isInside) {
   marker->setLineStyle(QwtPlotMarker::Cross);
   marker->setLinePen(color, 1.0, Qt::DotLine);
   marker->setZ(50.0);
+  marker->attach(this);
+}
+
+void MapPlot::addStoredPoint(const QPointF &at) {
+  auto *marker = new QwtPlotMarker;
+  marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, Qt::NoBrush, QPen(Blue, 2.0), QSize(13, 13)));
+  marker->setValue(at);
+  QwtText text(tr("results"));
+  text.setColor(Blue);
+  marker->setLabel(text);
+  marker->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  marker->setSpacing(10);
+  marker->setItemAttribute(QwtPlotItem::AutoScale);
+  marker->setZ(49.0);
   marker->attach(this);
 }
 
@@ -226,13 +270,22 @@ void MapPlot::addLines(const TurboCompressor &machine) {
   addRoom({corner.x() * LabelRoom, corner.y()});
   std::reverse(bottom.begin(), bottom.end());
   addArea(top + choke + bottom + QVector<QPointF>(surge.rbegin(), surge.rend()));
+  for (const QVector<QPointF> &line : {surge, choke}) {
+    if (line.isEmpty())
+      continue;
+    constexpr double Below = 0.1; // of the height of the map: for the label at the lower end
+    const double height = line.first().y() - line.last().y();
+    addRoom({line.last().x(), std::max(0.0, line.last().y() - Below * height)});
+  }
   addLine(surge, QPen(Red, 2.0), machine.surge ? tr("surge") : QString(), Qt::AlignRight | Qt::AlignBottom);
   addLine(choke, QPen(Orange, 2.0), machine.choke ? tr("choke") : QString(), Qt::AlignLeft | Qt::AlignBottom);
   addEfficiencies(machine, corner);
 }
 
-void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point) {
-  reset(tr("volume flow at the inlet [m³/s]"), tr("adiabatic head [kJ/kg]"));
+void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point,
+                   const std::optional<double> &storedHead) {
+  reset(machineName(machine.station, machine.name), point, tr("volume flow at the inlet [m³/s]"),
+        tr("adiabatic head [kJ/kg]"));
   m_readout = [machine](const QPointF &at) {
     QString text = tr("Q = %1 m³/s\nH = %2 kJ/kg").arg(shownNumber(at.x()), shownNumber(at.y()));
     if (!machine.head)
@@ -254,15 +307,19 @@ void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPo
       dots.append(QPointF(measured.flow, measured.head));
   }
   addDots(dots);
-  if (point)
+  if (point && point->isCompressing()) {
     addWorkingPoint({point->flow, point->head}, point->isInside);
+    constexpr double Apart = 0.005; // of the head: nearer ones cover each other
+    if (storedHead && std::abs(*storedHead - point->head) > Apart * point->head)
+      addStoredPoint({point->flow, *storedHead});
+  }
   finish();
 }
 
 void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point,
                    const QVector<QPointF> &limits) {
   constexpr double ShownRatio = 4.0; // of a machine that says no largest
-  reset(tr("volume flow at the inlet [m³/s]"), tr("pressure ratio"));
+  reset(machineName(machine.station, machine.name), point, tr("volume flow at the inlet [m³/s]"), tr("pressure ratio"));
   m_readout = [machine](const QPointF &at) {
     return tr("Q = %1 m³/s\nratio = %2\nn = %3 1/min")
         .arg(shownNumber(at.x()), shownNumber(at.y()), shownNumber(machine.speed(at.x())));
@@ -284,16 +341,68 @@ void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingP
     const double ratio = end == top.end() ? top.last().y() : end->y();
     const bool isEdge = speed == machine.speedMin || speed == machine.speedMax;
     addLine({{flow, 1.0}, {flow, ratio}}, QPen(Blue, isEdge ? 2.0 : 1.0), tr("%1 /min").arg(shownNumber(speed)),
-            (speed == machine.speedMax ? Qt::AlignHCenter : Qt::AlignRight) | Qt::AlignTop);
+            Qt::AlignRight | Qt::AlignTop);
   }
+  constexpr double LabelRoom = 1.1;
+  addRoom({LabelRoom * top.last().x(), top.last().y()});
   addLine(top, QPen(Red, isLimited ? 2.0 : 0.5));
-  if (point)
+  if (point && point->isCompressing())
     addWorkingPoint({point->flow, point->ratio}, point->isInside);
   finish();
 }
 
+/// Where the power of a drive is known: over the speeds that were measured, else up to where it works.
+static std::pair<double, double> speedsOf(const Drive &drive, const std::optional<WorkingPoint> &point) {
+  constexpr double Usual = 10000.0;
+  constexpr double Beyond = 1.2; // of the present speed
+  if (const auto measured = drive.speeds())
+    return *measured;
+  const double largest = point && point->speed ? Beyond * *point->speed : Usual;
+  return {0.0, largest};
+}
+
+/// One line for each temperature; lines that lie on one another are one, with all their temperatures.
+void MapPlot::addPowers(const Drive &drive, const std::pair<double, double> &speeds, double temperature) {
+  std::vector<double> temperatures{-10.0, 30.0};
+  const auto colder = [](const Drive::PowerPoint &a, const Drive::PowerPoint &b) {
+    return a.temperature < b.temperature;
+  };
+  const auto ends = std::minmax_element(drive.powerPoints.begin(), drive.powerPoints.end(), colder);
+  if (!drive.powerPoints.empty())
+    temperatures = {ends.first->temperature, ends.second->temperature};
+  temperatures.push_back(temperature);
+  std::sort(temperatures.begin(), temperatures.end());
+  temperatures.erase(std::unique(temperatures.begin(), temperatures.end()), temperatures.end());
+  constexpr double Near = 0.03; // of the power: labels would cover each other
+  const auto last = [&](double at) {
+    return (*drive.power)(at, speeds.second);
+  };
+  for (std::size_t i = 0; i < temperatures.size();) {
+    std::size_t next = i;
+    QStringList label;
+    bool isPresent = false;
+    for (; next < temperatures.size() &&
+           std::abs(last(temperatures[next]) - last(temperatures[i])) <= Near * std::abs(last(temperatures[i]));
+         ++next) {
+      label.append(shownNumber(temperatures[next], 3));
+      isPresent = isPresent || temperatures[next] == temperature;
+    }
+    QVector<QPointF> line;
+    const double at = isPresent ? temperature : temperatures[i];
+    for (int step = 0; step <= Steps; ++step) {
+      const double speed = speeds.first + (speeds.second - speeds.first) * step / Steps;
+      if (const double limit = (*drive.power)(at, speed); limit > 0.0)
+        line.append(QPointF(speed, limit));
+    }
+    addLine(line, QPen(isPresent ? Blue : QColor(120, 160, 190), isPresent ? 2.0 : 1.2),
+            tr("%1 °C").arg(label.join(QStringLiteral(", "))),
+            Qt::AlignLeft | Qt::AlignTop); // inside, where the line ends at the edge
+    i = std::max(next, i + 1);
+  }
+}
+
 void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature) {
-  reset(tr("speed [1/min]"), tr("largest power [kW]"));
+  reset(drive.name, point, tr("speed [1/min]"), tr("largest power [kW]"));
   const auto power = drive.power;
   m_readout = [power, temperature](const QPointF &at) {
     QString text = tr("n = %1 1/min\nP = %2 kW").arg(shownNumber(at.x()), shownNumber(at.y()));
@@ -301,25 +410,8 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
       text += tr("\nlimit = %1 kW at %2 °C").arg(shownNumber((*power)(temperature, at.x())), shownNumber(temperature, 3));
     return text;
   };
-  double last = point && point->speed ? 1.5 * *point->speed : 0.0;
-  for (const Drive::PowerPoint &measured : drive.powerPoints)
-    last = std::max(last, measured.speed);
-  constexpr double Usual = 10000.0;
-  last = last > 0.0 ? last : Usual;
-  if (drive.power) {
-    for (const double at : {-10.0, 30.0, temperature}) {
-      QVector<QPointF> line;
-      for (int i = 0; i <= Steps; ++i) {
-        const double speed = last * i / Steps;
-        const double limit = (*drive.power)(at, speed);
-        if (limit > 0.0)
-          line.append(QPointF(speed, limit));
-      }
-      addLine(line, QPen(at == temperature ? Blue : QColor(120, 160, 190), at == temperature ? 2.0 : 1.2),
-              tr("%1 °C").arg(shownNumber(at, 3)),
-              Qt::AlignLeft | Qt::AlignTop); // inside, where the line ends at the edge
-    }
-  }
+  if (drive.power)
+    addPowers(drive, speedsOf(drive, point), temperature);
   QVector<QPointF> dots;
   for (const Drive::PowerPoint &measured : drive.powerPoints)
     dots.append(QPointF(measured.speed, measured.power));
@@ -330,7 +422,8 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
 }
 
 void MapPlot::showConsumption(const Drive &drive, const std::optional<WorkingPoint> &point) {
-  reset(tr("power [kW]"), drive.kind == Drive::Kind::ElectricMotor ? tr("current taken [kW]") : tr("fuel taken [kW]"));
+  reset(drive.name, point, tr("power [kW]"),
+        drive.kind == Drive::Kind::ElectricMotor ? tr("current taken [kW]") : tr("fuel taken [kW]"));
   const auto energy = drive.energy;
   m_readout = [energy](const QPointF &at) {
     QString text = tr("P = %1 kW").arg(shownNumber(at.x()));
@@ -364,15 +457,24 @@ void MapPlot::contextMenuEvent(QContextMenuEvent *event) {
   menu.exec(event->globalPos());
 }
 
-bool MapPlot::write(QIODevice &device, const QString &suffix) {
-  constexpr QSize Points(600, 420);
+void MapPlot::paint(QPaintDevice &device, const QSizeF &size) {
+  constexpr double Margin = 0.025; // of the width: numbers at the ends of axes reach beyond them
+  const double margin = Margin * size.width();
   QwtPlotRenderer renderer;
+  renderer.setDiscardFlag(QwtPlotRenderer::DiscardBackground);
+  QPainter painter(&device);
+  renderer.render(this, &painter, QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin));
+}
+
+bool MapPlot::write(QIODevice &device, const QString &suffix, QString *reason) {
+  constexpr QSize Points(600, 420);
+  constexpr int Scale = 3; // pixels a point
   if (suffix == QLatin1String("pdf")) {
     QPdfWriter writer(&device);
     writer.setPageSize(QPageSize(QSizeF(Points), QPageSize::Point));
     writer.setPageMargins(QMarginsF());
     writer.setResolution(Resolution);
-    renderer.renderTo(this, writer);
+    paint(writer, Points);
     return true;
   }
   if (suffix == QLatin1String("svg")) {
@@ -381,18 +483,29 @@ bool MapPlot::write(QIODevice &device, const QString &suffix) {
     generator.setResolution(Resolution);
     generator.setSize(Points);
     generator.setViewBox(QRect(QPoint(), Points));
-    renderer.renderTo(this, generator);
+    paint(generator, Points);
     return true;
   }
-  return grab().save(&device, qPrintable(suffix));
+  QImage image(Points * Scale, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  constexpr double InchesPerMetre = 1000.0 / 25.4;
+  image.setDotsPerMeterX(static_cast<int>(InchesPerMetre * Resolution * Scale));
+  image.setDotsPerMeterY(static_cast<int>(InchesPerMetre * Resolution * Scale));
+  paint(image, image.size());
+  if (image.save(&device, qPrintable(suffix)))
+    return true;
+  *reason = tr("pictures of the kind \"%1\" are not known").arg(suffix);
+  return false;
 }
 
 bool MapPlot::save(const QString &path, QString *reason) {
-  QSaveFile file(path);
-  const bool isSaved = file.open(QIODevice::WriteOnly) && write(file, QFileInfo(path).suffix().toLower()) &&
-                       file.error() == QFile::NoError && file.commit();
+  const QString suffix = QFileInfo(path).suffix().toLower();
+  QString why;
+  const bool isSaved = WholeFile::write(
+      path, FileAccess::Source::Trusted, [&](QIODevice &device, QString *fault) { return write(device, suffix, fault); },
+      &why);
   if (!isSaved && reason != nullptr)
-    *reason = tr("The picture %1 could not be written: %2").arg(path, file.errorString());
+    *reason = why;
   return isSaved;
 }
 

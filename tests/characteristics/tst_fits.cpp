@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+#include <sys/stat.h>
+
 class TestFits : public QObject {
   Q_OBJECT
 
@@ -20,6 +22,7 @@ private slots:
   void faultyTables();
   void faultyXml_data();
   void faultyXml();
+  void specialFilesAreRefused();
 
 private:
   static QString shared(const char *name) {
@@ -224,6 +227,17 @@ void TestFits::faultyXml() {
   const MachineReader::Result result = read(text);
   QVERIFY2(texts(result.findings).contains(message), qPrintable(texts(result.findings)));
   QCOMPARE(int(result.data.turbos.size()), machines);
+}
+
+/// They would never end.
+void TestFits::specialFilesAreRefused() {
+  const QString pipe = m_folder.filePath(QStringLiteral("pipe"));
+  QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+  for (const QString &path : {pipe, QStringLiteral("/dev/zero")}) {
+    const MachineReader::Result result = MachineReader::read(path);
+    QVERIFY(!result.ok && result.data.isEmpty());
+    QVERIFY2(texts(result.findings).contains(path), qPrintable(texts(result.findings)));
+  }
 }
 
 NIVRA_TEST(TestFits);

@@ -17,6 +17,8 @@
 #include <functional>
 #include <utility>
 
+class NivraReader;
+
 /// Brings a chosen file into a NetData: workspace, configuration, network, checks. It knows no widgets; the window and
 /// the command line both drive it, stage by stage.
 class NetworkLoader {
@@ -66,7 +68,7 @@ public:
   QString error() const { return m_error; } ///< why the last step failed, for a person
 
 private:
-  void readMachines();
+  void readMachines(const NivraReader &reader);
   void assembleSubnets(const ReadOptions &options);
   bool computeFormulas(const Progress &progress);
   void notice(const QString &stage, Findings findings);

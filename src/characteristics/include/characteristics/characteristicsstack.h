@@ -6,6 +6,7 @@
 #include <QDockWidget>
 #include <QStringList>
 
+class MachinePage;
 class QTabWidget;
 
 /// The panel "Characteristics": a page for each machine that was opened.
@@ -16,8 +17,9 @@ public:
 
   /// Machines of the scenario; pages that are open are made anew.
   void setMachines(MachineData machines);
-  /// Where the names of the open pages are kept for the next opening of the case; empty for nowhere.
-  void setFile(const QString &path);
+  /// The folder of the case: its open pages are kept among the user's own settings for its next opening, and those of last
+  /// time are opened. Empty for no case.
+  void setCase(const QString &folder);
 
   /// Opens the page of a compressor or drive of the network, or brings it to the front. False when it has none; the reason
   /// is shown.
@@ -30,14 +32,12 @@ public:
   QString summary(const QString &elementName) const;
 
 private:
-  static QString summary(const NetworkMachines::Machine &machine);
-  static QWidget *makeMap(const NetworkMachines::Machine &machine);
-  QWidget *makePage(const QString &elementName) const;
+  MachinePage *makePage(const QString &elementName) const;
   void keep() const;
   void showHint();
 
   const NetData &m_net;
   NetworkMachines m_machines;
-  QString m_path;
+  QString m_path; ///< of the list of open pages, empty for none
   QTabWidget *m_tabs;
 };

@@ -2,6 +2,7 @@
 
 #include <base/finding.h>
 #include <characteristics/fits.h>
+#include <characteristics/gassource.h>
 
 #include <QString>
 #include <QStringList>
@@ -18,7 +19,20 @@ struct MeasuredPoint {
   double efficiency = 0.0; ///< 0 where it was not measured
 };
 
+/// Of two functions for the same thing the one to compute with.
+enum class FunctionSource {
+  Fitted,   ///< our own fit of the measured points, where there is one
+  Published ///< the coefficients that came with the machine, where there are some
+};
+
 struct TurboCompressor {
+  struct Functions {
+    std::optional<Biquadratic> head;       ///< over flow and speed
+    std::optional<Biquadratic> efficiency; ///< over flow and speed
+    std::optional<Quadratic> surge;        ///< head over flow
+    std::optional<Quadratic> choke;        ///< head over flow
+  };
+
   QString name;
   QString station; ///< in which it stands, empty when that is not said
   QString drive;
@@ -33,13 +47,23 @@ struct TurboCompressor {
   std::optional<Quadratic> surge;        ///< head over flow
   std::optional<Quadratic> choke;        ///< head over flow
 
-  /// Of our fits; not ok where coefficients were given, or neither these nor points.
+  Functions published; ///< as they came, kept by fit()
+  Functions fitted;    ///< by us; empty where there are too few points
+
+  /// Of our fits; not ok where there is none.
   Fits::Quality headQuality;
   Fits::Quality efficiencyQuality;
   Fits::Quality surgeQuality;
+  /// How the published coefficients meet the measured points; not ok where either is missing.
+  Fits::Quality publishedHeadQuality;
+  Fits::Quality publishedEfficiencyQuality;
 
-  /// Replaces given coefficients by our own fits where enough points were measured; tells why not otherwise.
+  /// Takes our own fits in place of given coefficients where enough points were measured; tells why not otherwise.
   Findings fit();
+  /// Fitted ones as well as published ones are there.
+  bool hasChoice() const;
+  /// The same machine with the other functions.
+  TurboCompressor by(FunctionSource source) const;
   bool isUsable() const { return head && speedMax > speedMin; }
   /// The flows between surge and choke line at a speed; nothing when the speed line lies in neither.
   std::optional<std::pair<double, double>> flows(double speed) const;
@@ -83,11 +107,33 @@ struct Drive {
   std::vector<EnergyPoint> energyPoints;
   std::optional<Biquadratic> power; ///< largest, over temperature and speed
   std::optional<Quadratic> energy;  ///< rate over power
+  std::optional<Biquadratic> publishedPower;
+  std::optional<Quadratic> publishedEnergy;
   Fits::Quality powerQuality;
   Fits::Quality energyQuality;
+  Fits::Quality publishedPowerQuality; ///< how the published coefficients meet the measured points
 
   Findings fit();
+  bool hasChoice() const { return (publishedPower && powerQuality.ok) || (publishedEnergy && energyQuality.ok); }
+  Drive by(FunctionSource source) const;
   bool isUsable() const { return power.has_value(); }
+  /// The speeds of the measured points; nothing without two different ones.
+  std::optional<std::pair<double, double>> speeds() const;
+};
+
+/// How the machines of a station work together: stages one behind the other, machines of a stage side by side.
+struct StationConfiguration {
+  struct Unit {
+    QString compressor;
+    double nominalSpeed = 0.0; ///< 1/min, 0 when it is not said
+  };
+  using Stage = std::vector<Unit>;
+
+  QString station;
+  QString name;
+  std::vector<Stage> stages;
+
+  bool contains(const QString &compressor) const;
 };
 
 /// The machines of a scenario.
@@ -98,6 +144,8 @@ struct MachineData {
   std::vector<TurboCompressor> turbos;
   std::vector<PistonCompressor> pistons;
   std::vector<Drive> drives;
+  std::vector<StationConfiguration> configurations;
+  ScenarioGas gas;
 
   bool isEmpty() const { return turbos.empty() && pistons.empty() && drives.empty(); }
   /// Regardless of case; null when there is none.

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <model/element.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <memory>
+#include <optional>
+
+/// What the files say of a gas. 0 stands for what they do not say.
+struct GasData {
+  QString name;
+  double normDensity = 0.0;         ///< kg/m3 at 273.15 K and 1.01325 bar
+  double molarMass = 0.0;           ///< kg/kmol
+  double calorificValue = 0.0;      ///< superior, MJ/m3 at norm conditions
+  double criticalPressure = 0.0;    ///< bar
+  double criticalTemperature = 0.0; ///< K
+  std::optional<double> methane;    ///< molar shares, 0 to 1
+  std::optional<double> nitrogen;
+  std::optional<double> carbonDioxide;
+  std::optional<double> hydrogen;
+  /// cp = A + B T + C T^2 of the ideal gas, kJ/(kmol K).
+  std::optional<std::array<double, 3>> heatCapacity;
+
+  /// From the properties "rhon", "molarmass", "hs", "pcrit", "tcrit", "ch4", "n2", "co2", "h2" (percent) and "cpa", "cpb",
+  /// "cpc" of a gas or a node. Numbers that are none or cannot be are told.
+  static GasData of(const element &gas, QStringList *faults = nullptr);
+  /// Whether a law can be made of it.
+  bool isEnough() const { return normDensity > 0.0 || molarMass > 0.0; }
+};
+
+/// How a gas behaves, good for 250 to 450 K and up to 120 bar.
+class GasLaw {
+public:
+  /// What the scenario asks for; the order is that of the names of "ntype_gasLaw".
+  enum class Wanted { Aga, Dc92, Papay };
+
+  /// By the shares that are inferred from density and calorific value, with the equation GERG-2008; by corresponding states
+  /// where only critical values are given. Formulas of z alone (AGA, Papay) are taken within their ranges when the scenario
+  /// asks for them.
+  static std::shared_ptr<const GasLaw> of(const GasData &gas, Wanted wanted = Wanted::Dc92);
+  /// Methane: where nothing says what the gas is.
+  static std::shared_ptr<const GasLaw> assumed();
+
+  virtual ~GasLaw() = default;
+
+  struct State {
+    double density = 0.0;       ///< kg/m3
+    double realGasFactor = 1.0; ///< z
+    double heatCapacity = 0.0;  ///< kJ/(kg K), at constant pressure
+    double exponent = 0.0;      ///< isentropic, -(v/p)(dp/dv)
+    double enthalpy = 0.0;      ///< kJ/kg, from an arbitrary zero
+    double entropy = 0.0;       ///< kJ/(kg K), likewise
+  };
+  /// \param pressure bar \param temperature K
+  virtual State at(double pressure, double temperature) const = 0;
+  virtual double molarMass() const = 0; ///< kg/kmol
+
+  /// The temperature in K that the gas has at a pressure in bar with this entropy or enthalpy; nothing when it is not found
+  /// between 100 and 1000 K.
+  std::optional<double> temperatureByEntropy(double pressure, double entropy) const;
+  std::optional<double> temperatureByEnthalpy(double pressure, double enthalpy) const;
+
+  /// The equation and what it was made of, for a person.
+  QString name() const { return m_name; }
+  /// What is doubtful about it, for a person; empty when nothing is.
+  const QStringList &remarks() const { return m_remarks; }
+  void tell(const QString &remark) { m_remarks.append(remark); }
+
+protected:
+  QString m_name;
+  QStringList m_remarks;
+};
