@@ -101,6 +101,8 @@ void visitDrawing(Settings &s, Visitor &v) {
   v.optional("classMethod", s.classMethod);
   v.optional("classBreaks", s.classBreaks);
   v.optional("bookmarks", s.bookmarks);
+  v.optional("typedBounds", s.typedBounds);
+  v.optional("showGrid", s.showGrid);
 }
 
 template <typename Settings, typename Visitor>

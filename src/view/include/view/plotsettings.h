@@ -73,6 +73,8 @@ struct PlotSettings {
   QString classMethod = equalClasses();
   QString classBreaks; ///< breaks of the user's own in the display unit, ascending, joined by ";"
   QString bookmarks;   ///< views to come back to, see ViewBookmarks
+  QString typedBounds; ///< the bounds of all draw functions as a person typed them, see TypedBounds
+  bool showGrid = false;
 
   /// Takes over the zoom limits of another record, which belong to the network rather than to its drawing.
   void takeZoomLimits(const PlotSettings &other);
