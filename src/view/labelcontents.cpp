@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -158,12 +159,17 @@ namespace {
 
 constexpr int LabelDigits = 4;
 
-/// Units of thousands are spelled out: nobody reads "0.02 1000 m³/h".
+/// Units of thousands are spelled out: nobody reads "0.02 1000 m³/h". Large quantities are rounded, but a number alone may
+/// be a name.
 double spelledOut(double value, QString &unit) {
-  if (!unit.startsWith(QLatin1String("1000 ")))
+  if (unit.isEmpty())
     return value;
-  unit.remove(0, 5);
-  return value * 1000.0;
+  if (unit.startsWith(QLatin1String("1000 "))) {
+    unit.remove(0, 5);
+    value *= 1000.0;
+  }
+  constexpr double Large = 1e4; // smaller ones are rounded when they are written
+  return std::abs(value) < Large ? value : QString::number(value, 'g', LabelDigits).toDouble();
 }
 
 void groupThousands(QString &number) {

@@ -46,6 +46,7 @@ NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
 
 void NetUpdate::setNetData(const NetData *net) {
   m_net = net;
+  m_pixtest.forgetPlacement();
   m_geometry.clear();
   m_values = DrawValues();
   m_edges.clear();
