@@ -27,6 +27,13 @@ const element *mainElement(const NetData &net, const element &subnet) {
   return nullptr;
 }
 
+/// A station without a state works.
+bool saysAtWork(const QString &state) {
+  static const QStringList words{QString(), QStringLiteral("active"), QStringLiteral("on"), QStringLiteral("open"),
+                                 QStringLiteral("1")};
+  return words.contains(state.toLower());
+}
+
 /// What a station at work holds, by its word for it, else by the set points that it has.
 QString controlOf(const element &station) {
   const QString control = station.value(QStringLiteral("control")).trimmed().toLower();
@@ -47,8 +54,7 @@ QString SubnetState::of(const NetData &net, const element &subnet) {
   if (main == nullptr)
     return QString();
   const QString state = main->value(QStringLiteral("state")).trimmed();
-  const bool isAtWork = state.isEmpty() || state.compare(QLatin1String("active"), Qt::CaseInsensitive) == 0;
-  return isAtWork && isStation(*main) ? controlOf(*main) : state;
+  return isStation(*main) && saysAtWork(state) ? controlOf(*main) : state;
 }
 
 void SubnetState::derive(NetData &net) {

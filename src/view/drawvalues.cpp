@@ -100,6 +100,14 @@ void takeFromEnds(const DrawFunction &function, bool absolute, const NetGeometry
   }
 }
 
+enum EdgeColumns { EdgeColor, EdgeWidth, Flow };
+enum NodeColumns { NodeColor, NodeSize, EndsOfColor, EndsOfWidth };
+
+/// Colours of edges and nodes come from one property: it is read once.
+bool isOneColor(const PlotSettings &s) {
+  return s.nodeColorFunc == s.colorFunc && s.absNodeColor == s.absColor;
+}
+
 } // namespace
 
 void DrawValues::read(const NetData &net, const PlotSettings &s, NetGeometry &geometry, bool rebuild) {
@@ -110,22 +118,24 @@ void DrawValues::read(const NetData &net, const PlotSettings &s, NetGeometry &ge
   m_edgeWidth.function = find(s.widthFunc);
   m_nodeColor.function = find(s.nodeColorFunc);
   m_nodeSize.function = find(s.nodeSizeFunc);
-  const DrawFunction &edgeColor = m_edgeColor.function;
-  const DrawFunction &edgeWidth = m_edgeWidth.function;
-  const DrawFunction &nodeColor = m_nodeColor.function;
-  const DrawFunction &nodeSize = m_nodeSize.function;
-  enum { Color, Width, Flow };
-  enum { NodeColor, NodeSize, ColorOfEnds, WidthOfEnds };
-  const bool isOneColor = s.nodeColorFunc == s.colorFunc && s.absNodeColor == s.absColor; // then it is read once
-  const NetGeometry::Request request{
-      {{edgeColor.property, s.absColor}, {edgeWidth.property, s.absWidth}, {PropertyKey::find(s.edgeShowFlow), false}},
-      {{isOneColor ? PropertyKey() : nodeColor.property, s.absNodeColor},
-       {nodeSize.property, s.absNodeSize},
-       {edgeColor.ofEnds, false},
-       {edgeWidth.ofEnds, false}}};
+  const NetGeometry::Request request{{{m_edgeColor.function.property, s.absColor},
+                                      {m_edgeWidth.function.property, s.absWidth},
+                                      {PropertyKey::find(s.edgeShowFlow), false}},
+                                     {{isOneColor(s) ? PropertyKey() : m_nodeColor.function.property, s.absNodeColor},
+                                      {m_nodeSize.function.property, s.absNodeSize},
+                                      {m_edgeColor.function.ofEnds, false},
+                                      {m_edgeWidth.function.ofEnds, false}}};
   NetGeometry::Values values = rebuild ? geometry.build(net, request) : geometry.values(request);
+  compute(geometry, s, values);
+  take(values, s);
+  m_flow = std::move(values.ofEdges[Flow]);
+  m_flowSize = m_flow;
+  for (double &flow : m_flowSize)
+    flow = flow == NetData::NoValue ? flow : std::abs(flow);
+}
 
-  // What the elements carry themselves counts more than what can be computed.
+/// What the elements carry themselves counts more than what can be computed.
+void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, NetGeometry::Values &values) const {
   const auto computeNodes = [&](const DrawFunction &function, std::vector<double> &column) {
     if (function.isOfGraph() && !rangeOf(column).isValid())
       column = ofGraph(function, geometry);
@@ -138,34 +148,33 @@ void DrawValues::read(const NetData &net, const PlotSettings &s, NetGeometry &ge
     values.ofEnds[column] = ofGraph(function, geometry);
     geometry.takeMeans(values.ofEnds[column], values.ofEdges[column]);
   };
-  computeEdges(edgeColor, Color, ColorOfEnds, s.absColor);
-  computeEdges(edgeWidth, Width, WidthOfEnds, s.absWidth);
-  if (isOneColor)
-    values.ofNodes[NodeColor] = values.ofEnds[Color];
+  computeEdges(m_edgeColor.function, EdgeColor, EndsOfColor, s.absColor);
+  computeEdges(m_edgeWidth.function, EdgeWidth, EndsOfWidth, s.absWidth);
+  if (isOneColor(s))
+    values.ofNodes[NodeColor] = values.ofEnds[EdgeColor];
   else
-    computeNodes(nodeColor, values.ofNodes[NodeColor]);
-  computeNodes(nodeSize, values.ofNodes[NodeSize]);
-  for (std::vector<double> *column : {&values.ofNodes[NodeColor], &values.ofNodes[NodeSize], &values.ofEnds[Color]})
+    computeNodes(m_nodeColor.function, values.ofNodes[NodeColor]);
+  computeNodes(m_nodeSize.function, values.ofNodes[NodeSize]);
+  for (std::vector<double> *column : {&values.ofNodes[NodeColor], &values.ofNodes[NodeSize], &values.ofEnds[EdgeColor]})
     forgetDrives(geometry, *column);
+}
 
+void DrawValues::take(NetGeometry::Values &values, const PlotSettings &s) {
   const bool isDiverging = ColorRamp::kindOf(s.colorRamp) == ColorRamp::Kind::Diverging;
-  const auto take = [](Column &column, std::vector<double> &own, const std::vector<double> &rangeFrom, double minimum,
-                       double maximum, bool isCentred) {
+  const auto takeColumn = [](Column &column, std::vector<double> &own, const std::vector<double> &rangeFrom, double minimum,
+                             double maximum, bool isCentred) {
     column.data = rangeOf(rangeFrom);
     column.range = rangeWithin(column, minimum, maximum, isCentred);
     column.ofElements = std::move(own);
   };
   // The nodes' own range, so that nodes and edges coloured by one function share their colours.
-  const auto ofEdges = [&values](const DrawFunction &function, std::size_t column) -> const std::vector<double> & {
-    return function.isOfNodes || function.isOfGraph() ? values.ofEnds[column] : values.ofEdges[column];
+  const auto ofEdges = [&values](const Column &column, std::size_t place) -> const std::vector<double> & {
+    return column.function.isOfNodes || column.function.isOfGraph() ? values.ofEnds[place] : values.ofEdges[place];
   };
-  take(m_edgeColor, values.ofEdges[Color], ofEdges(edgeColor, Color), s.minVal_edgeColor, s.maxVal_edgeColor, isDiverging);
-  take(m_edgeWidth, values.ofEdges[Width], ofEdges(edgeWidth, Width), s.minVal_Width, s.maxVal_Width, false);
-  take(m_nodeColor, values.ofNodes[NodeColor], values.ofNodes[NodeColor], s.minVal_nodeColor, s.maxVal_nodeColor,
-       isDiverging);
-  take(m_nodeSize, values.ofNodes[NodeSize], values.ofNodes[NodeSize], s.minVal_nodeSize, s.maxVal_nodeSize, false);
-  m_flow = std::move(values.ofEdges[Flow]);
-  m_flowSize = m_flow;
-  for (double &flow : m_flowSize)
-    flow = flow == NetData::NoValue ? flow : std::abs(flow);
+  takeColumn(m_edgeColor, values.ofEdges[EdgeColor], ofEdges(m_edgeColor, EdgeColor), s.minVal_edgeColor, s.maxVal_edgeColor,
+             isDiverging);
+  takeColumn(m_edgeWidth, values.ofEdges[EdgeWidth], ofEdges(m_edgeWidth, EdgeWidth), s.minVal_Width, s.maxVal_Width, false);
+  takeColumn(m_nodeColor, values.ofNodes[NodeColor], values.ofNodes[NodeColor], s.minVal_nodeColor, s.maxVal_nodeColor,
+             isDiverging);
+  takeColumn(m_nodeSize, values.ofNodes[NodeSize], values.ofNodes[NodeSize], s.minVal_nodeSize, s.maxVal_nodeSize, false);
 }

@@ -35,6 +35,7 @@ private slots:
   void savesBothFiles();
   void templates();
   void boundsBelongToAFunction();
+  void typedBoundsOfAnybody();
   void listsOfferWhatTheNetworkHas();
   void boundOutsideTheDataIsTold();
   void gridIsShown();
@@ -256,6 +257,29 @@ void TestViewFuncDialog::boundsBelongToAFunction() {
   press(again, "resetMinMax");
   child<QComboBox>(*row(again, 0), "function")->setCurrentText(QStringLiteral("volume flow"));
   QVERIFY(child<QLineEdit>(*row(again, 0), "maximum")->text().isEmpty());
+}
+
+void TestViewFuncDialog::typedBoundsOfAnybody() {
+  const TypedBounds::OfSettings bounds{
+      {QStringLiteral("colorFunc"),
+       {{QStringLiteral("a;b|c%"), {QStringLiteral("1,5"), QString(), QStringLiteral("m³/h")}}}}};
+  const TypedBounds typed =
+      TypedBounds::read(TypedBounds::written(bounds))[QStringLiteral("colorFunc")].value(QStringLiteral("a;b|c%"));
+  QCOMPARE(typed.minimum, QStringLiteral("1,5"));
+  QCOMPARE(typed.unit, QStringLiteral("m³/h"));
+  ViewFixture f;
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.minVal_edgeColor = 30; // what is typed does not say so
+  settings.typedBounds = QStringLiteral("colorFunc|p|many|9|bar;;|;colorFunc|q|1|2|no unit;%zz|") +
+                         QStringLiteral("nodeColorFunc|p|1|2|bar;").repeated(5000);
+  f.plot().setSettings(settings);
+  viewFuncDialog dialog(f.plot());
+  const auto *minimum = child<QLineEdit>(*row(dialog, 0), "minimum");
+  QCOMPARE(minimum->text(), QStringLiteral("30"));
+  QVERIFY(child<QLineEdit>(*row(dialog, 0), "maximum")->text().isEmpty());
+  child<QComboBox>(*row(dialog, 0), "function")->setCurrentText(QStringLiteral("q"));
+  QVERIFY(minimum->text().isEmpty()); // in a unit that does not fit
 }
 
 void TestViewFuncDialog::listsOfferWhatTheNetworkHas() {

@@ -32,6 +32,9 @@ public:
   bool colorsNodes() const { return m_nodeColor.isAny(); }
 
 private:
+  void compute(const NetGeometry &geometry, const PlotSettings &settings, NetGeometry::Values &values) const;
+  void take(NetGeometry::Values &values, const PlotSettings &settings);
+
   Column m_edgeColor;
   Column m_edgeWidth;
   Column m_nodeColor;
