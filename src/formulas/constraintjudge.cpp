@@ -3,6 +3,21 @@
 #include <model/netmetadata.h>
 
 #include <cmath>
+#include <map>
+#include <unordered_map>
+
+namespace {
+
+PropertyKey infoKey() {
+  static const PropertyKey key = PropertyKey::intern("CB_info");
+  return key;
+}
+
+PropertyText asInfo(const QString &violations) {
+  return PropertyText(QLatin1Char('(') + violations + QLatin1Char(')'));
+}
+
+} // namespace
 
 std::optional<double> ConstraintJudge::bound(const Formula *formula, const FormulaRule &rule, const element &e) {
   if (formula == nullptr)
@@ -71,7 +86,6 @@ bool ConstraintJudge::judge(FormulaRule &rule, const std::vector<element *> &ele
 }
 
 void ConstraintJudge::write(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints) {
-  static const PropertyKey key = PropertyKey::intern("CB_info");
   for (element *e : m_judged) {
     QString all;
     for (const int i : constraints) {
@@ -80,8 +94,40 @@ void ConstraintJudge::write(const std::vector<FormulaRule> &rules, const std::ve
         all += text + QLatin1Char(';');
     }
     if (all.isEmpty())
-      e->erase(key);
+      e->erase(infoKey());
     else
-      e->set(key, PropertyText(QLatin1Char('(') + all + QLatin1Char(')')));
+      e->set(infoKey(), asInfo(all));
   }
+  if (!m_net.assembledSubnets().isEmpty())
+    writeSubnets(rules, constraints);
+}
+
+void ConstraintJudge::writeSubnets(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints) {
+  static const PropertyKey inner = PropertyKey::intern("elements");
+  static const PropertyKey nameKey = PropertyKey::intern("name");
+  std::unordered_map<const element *, element *> subnetOf; // a subnet is its own
+  m_net.forEach(NetData::AssembledSubnet, [&](element &subnet) {
+    subnetOf.emplace(&subnet, &subnet);
+    for (const QString &name : subnet.value(inner).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+      if (const element *e = m_net.element(name))
+        subnetOf.emplace(e, &subnet);
+    }
+  });
+  std::map<element *, QString> texts; // of the subnets about which something was asked
+  for (const int i : constraints) {
+    const FormulaRule &rule = rules[static_cast<std::size_t>(i)];
+    for (element *e : rule.elements) {
+      const auto found = subnetOf.find(e);
+      if (found == subnetOf.end())
+        continue;
+      QString &text = texts[found->second];
+      const QString violation = rule.violations.value(e);
+      if (violation.isEmpty())
+        continue;
+      const QString who = e == found->second ? QString() : e->value(nameKey) + QStringLiteral(": ");
+      text += who + violation + QLatin1Char(';');
+    }
+  }
+  for (const auto &[subnet, text] : texts)
+    subnet->set(infoKey(), asInfo(text));
 }

@@ -14,7 +14,9 @@ public:
 
   /// Returns whether it came to the end. \param goesOn told how many elements are done, false stops
   bool judge(FormulaRule &rule, const std::vector<element *> &elements, const std::function<bool(std::size_t)> &goesOn);
-  /// "(first;second;)" to what was judged. \param constraints their places among the rules, in the order of the texts
+  /// "(first;second;)" to what was judged. An assembled subnet is told the violations of its inner elements beside its own,
+  /// and "()" when it or they were judged and nothing is wrong.
+  /// \param constraints their places among the rules, in the order of the texts
   void write(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints);
   /// Of bounds, for those who watch the cost.
   int evaluations() const { return m_evaluations; }
@@ -24,6 +26,7 @@ public:
 private:
   std::optional<double> bound(const Formula *formula, const FormulaRule &rule, const element &e);
   QString violation(const FormulaRule &rule, const element &e);
+  void writeSubnets(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints);
 
   NetData &m_net;
   std::set<element *> m_judged; ///< those with something to be written

@@ -113,6 +113,8 @@ void TableColorMap::setCaps(bool low, bool high) {
 QRgb TableColorMap::rgb(const QwtInterval &interval, double value) const {
   constexpr int Darker = 160;
   const double tolerance = interval.width() * 1e-9;
+  if (!(interval.width() > 0.0))
+    return m_colors[colorIndex(interval, value)]; // one value, with nothing beyond it
   if ((m_hasLowCap && value < interval.minValue() - tolerance) || (m_hasHighCap && value > interval.maxValue() + tolerance))
     return QColor(m_colors[colorIndex(interval, value)]).darker(Darker).rgb();
   return m_colors[colorIndex(interval, value)];

@@ -1,9 +1,11 @@
 #include <model/netmetadata.h>
 #include <view/drawfunctions.h>
 
-#include <QHash>
+#include <QSet>
 
 #include <algorithm>
+#include <array>
+#include <set>
 
 namespace {
 
@@ -40,25 +42,119 @@ QString firstThatVaries(const NetData &net, const elements &collection, std::ini
 
 } // namespace
 
+namespace {
+
+struct NamedFunction {
+  const char *name;
+  const char *property;
+};
+
+constexpr std::array<NamedFunction, 15> NamedFunctions{{{"connectivity", "connectivity"},
+                                                        {"accum. length", "acclength"},
+                                                        {"mass flow", "m"},
+                                                        {"roughness", "roughness"},
+                                                        {"demand", "qset"},
+                                                        {"volume flow", "q"},
+                                                        {"height", "height"},
+                                                        {"input temperature", "tin"},
+                                                        {"temperature", "t"},
+                                                        {"input pressure", "pin"},
+                                                        {"pressure", "p"},
+                                                        {"temperature diff", "dt"},
+                                                        {"pressure diff", "dp"},
+                                                        {"pipe length", "length"},
+                                                        {"pipe diameter", "diameter"}}};
+
+/// How a property that no element carries comes about, and from which property of the end nodes.
+struct ComputedFunction {
+  const char *property;
+  DrawFunction::Computed computed;
+  const char *ofEnds;
+};
+
+constexpr std::array<ComputedFunction, 6> ComputedFunctions{{{"connectivity", DrawFunction::Computed::Connectivity, ""},
+                                                             {"acclength", DrawFunction::Computed::AccumulatedLength, ""},
+                                                             {"pin", DrawFunction::Computed::AtInlet, "p"},
+                                                             {"tin", DrawFunction::Computed::AtInlet, "t"},
+                                                             {"dp", DrawFunction::Computed::Difference, "p"},
+                                                             {"dt", DrawFunction::Computed::Difference, "t"}}};
+
+/// A property of drives alone counts as one of edges: drives are no part of what nodes show.
+bool isOfDrivesOnly(const NetMetaData &metaData, const QString &property) {
+  const auto &rows = metaData.attributes();
+  return std::none_of(rows.begin(), rows.end(), [&](const NetMetaData::Attribute &row) {
+    return row.property.compare(property, Qt::CaseInsensitive) == 0 && row.type != QLatin1String("d") &&
+           (row.type == QLatin1String("*") || metaData.kindOf(row.type) == NetData::Node);
+  });
+}
+
+/// Properties that say what or where an element is, or how it looks, though they may be written as numbers.
+bool isNoQuantity(const NetMetaData &metaData, const QString &property) {
+  static const QSet<QString> categories{QStringLiteral("identity"), QStringLiteral("drawing"), QStringLiteral("position"),
+                                        QStringLiteral("topology"), QStringLiteral("check"),   QStringLiteral("state")};
+  const QString name = property.toLower();
+  if (name.startsWith(QLatin1String("vis.")) || name.startsWith(QLatin1String("figure.")))
+    return true;
+  const NetMetaData::Attribute *row = metaData.anyAttribute(property);
+  return row != nullptr && (row->group == QLatin1String("hidden") || categories.contains(row->category));
+}
+
+/// The properties in which some element of the collection holds a number, unless hundreds before it held none. Drives are
+/// passed over.
+void addNumeric(const elements &collection, std::set<PropertyKey> &numeric) {
+  static const PropertyKey type = PropertyKey::intern("type");
+  constexpr int Patience = 500;
+  std::vector<int> asked; // by spelling: how often in vain, and Patience once it has said a number
+  for (const elements::Entry &entry : collection) {
+    const PropertyText *code = entry.value.find(type);
+    if (code != nullptr && code->utf8() == "d")
+      continue;
+    for (const Property &property : entry.value) {
+      if (property.key.index() >= asked.size())
+        asked.resize(property.key.index() + 1, 0);
+      int &count = asked[property.key.index()];
+      if (count >= Patience || (++count > 0 && NetData::number(&property.value) == NetData::NoValue))
+        continue;
+      count = Patience;
+      numeric.insert(property.key);
+    }
+  }
+}
+
+} // namespace
+
+const QStringList &DrawFunction::fixedNames() {
+  static const QStringList names = [] {
+    QStringList list;
+    for (const NamedFunction &function : NamedFunctions)
+      list.append(QString::fromLatin1(function.name));
+    return list;
+  }();
+  return names;
+}
+
 QString DrawFunction::propertyName(const QString &function) {
-  static const QHash<QString, QString> properties{
-      {QStringLiteral("connectivity"), QStringLiteral("connectivity")},
-      {QStringLiteral("accum. length"), QStringLiteral("acclength")},
-      {QStringLiteral("mass flow"), QStringLiteral("m")},
-      {QStringLiteral("roughness"), QStringLiteral("roughness")},
-      {QStringLiteral("demand"), QStringLiteral("qset")},
-      {QStringLiteral("volume flow"), QStringLiteral("q")},
-      {QStringLiteral("height"), QStringLiteral("height")},
-      {QStringLiteral("input temperature"), QStringLiteral("tin")},
-      {QStringLiteral("temperature"), QStringLiteral("t")},
-      {QStringLiteral("input pressure"), QStringLiteral("pin")},
-      {QStringLiteral("pressure"), QStringLiteral("p")},
-      {QStringLiteral("temperature diff"), QStringLiteral("dt")},
-      {QStringLiteral("pressure diff"), QStringLiteral("dp")},
-      {QStringLiteral("pipe length"), QStringLiteral("length")},
-      {QStringLiteral("pipe diameter"), QStringLiteral("diameter")},
-  };
-  return properties.value(function, function);
+  const auto *found = std::find_if(NamedFunctions.begin(), NamedFunctions.end(), [&function](const NamedFunction &named) {
+    return function == QLatin1String(named.name);
+  });
+  return found == NamedFunctions.end() ? function : QString::fromLatin1(found->property);
+}
+
+QStringList DrawFunction::ofNetwork(const NetData &net, NetData::EleType kind) {
+  std::set<PropertyKey> numeric;
+  addNumeric(net.nodes(), numeric);
+  if (kind == NetData::Edge)
+    addNumeric(net.edges(), numeric);
+  QStringList names;
+  for (const PropertyKey key : numeric) {
+    const QString name = key.name();
+    const bool isFixed = std::any_of(NamedFunctions.begin(), NamedFunctions.end(), [&name](const NamedFunction &named) {
+      return name.compare(QLatin1String(named.property), Qt::CaseInsensitive) == 0;
+    });
+    if (!isFixed && !isNoQuantity(*net.metaData(), name))
+      names.append(name);
+  }
+  return names;
 }
 
 DrawFunction DrawFunction::find(const QString &function, const NetData &net) {
@@ -66,12 +162,14 @@ DrawFunction DrawFunction::find(const QString &function, const NetData &net) {
   DrawFunction found;
   found.property = PropertyKey::find(name);
   found.title = function;
-  if (name.compare(QLatin1String("connectivity"), Qt::CaseInsensitive) == 0)
-    found.computed = Computed::Connectivity;
-  else if (name.compare(QLatin1String("acclength"), Qt::CaseInsensitive) == 0)
-    found.computed = Computed::AccumulatedLength;
+  for (const ComputedFunction &known : ComputedFunctions) {
+    if (name.compare(QLatin1String(known.property), Qt::CaseInsensitive) != 0)
+      continue;
+    found.computed = known.computed;
+    found.ofEnds = PropertyKey::find(known.ofEnds);
+  }
   const NetMetaData *metaData = net.metaData();
-  found.isOfNodes = metaData->nodeFunctions().contains(name, Qt::CaseInsensitive);
+  found.isOfNodes = metaData->nodeFunctions().contains(name, Qt::CaseInsensitive) && !isOfDrivesOnly(*metaData, name);
   const NetMetaData::Attribute *attribute = metaData->anyAttribute(name);
   if (attribute == nullptr)
     return found;
@@ -79,9 +177,9 @@ DrawFunction DrawFunction::find(const QString &function, const NetData &net) {
   const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
   if (conversion)
     found.toDisplay = *conversion;
-  const QString unit = conversion ? attribute->displayUnit : attribute->storedUnit;
-  if (!unit.isEmpty())
-    found.title += QStringLiteral(" [") + Units::written(unit) + QLatin1Char(']');
+  found.unit = conversion ? attribute->displayUnit : attribute->storedUnit;
+  if (!found.unit.isEmpty())
+    found.title += QStringLiteral(" [") + Units::written(found.unit) + QLatin1Char(']');
   return found;
 }
 

@@ -33,7 +33,7 @@ std::vector<EdgeLook> ElementLooks::edges() const {
   const DrawValues::Column &widths = m_values.edgeWidth();
   const std::vector<double> &flow = m_values.flow();
   const auto widthMap = ColorScale::colorMap(m_settings, m_settings.logScaleWidth);
-  const auto table = ColorScale::edgeColors(m_settings, DrawFunction::find(m_settings.colorFunc, m_net), colors);
+  const auto table = ColorScale::edgeColors(m_settings, colors);
 
   std::vector<EdgeLook> looks(m_geometry.edges().size());
   for (std::size_t i = 0; i < looks.size(); ++i) {
@@ -68,19 +68,19 @@ std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
   const DrawValues::Column &colors = m_values.nodeColor();
   const DrawValues::Column &sizes = m_values.nodeSize();
   const auto sizeMap = ColorScale::colorMap(s, s.logScaleNodeSize);
-  const auto table = ColorScale::nodeColors(s, DrawFunction::find(s.nodeColorFunc, m_net), m_values);
-  const bool isColored = byFunction && m_values.colorsNodes() && colors.range.isValid();
+  const auto table = ColorScale::nodeColors(s, m_values);
+  const bool isColored = byFunction && m_values.colorsNodes();
   constexpr double SmallestShare = 0.5; // of the magnification, and the largest four times as large
   constexpr double ShareSpan = 1.5;
 
   std::vector<NodeLook> looks(m_geometry.nodes().size());
   for (std::size_t i = 0; i < looks.size(); ++i) {
     NodeLook &look = looks[i];
-    look.size = s.nodeMag;
+    look.size = m_nodeSize;
     if (sizes.range.isValid()) {
       const double value = sizes.ofElements[i];
       const double fraction = value == NetData::NoValue ? 0.0 : sizeMap->fraction(sizes.range, value);
-      look.size = s.nodeMag * (SmallestShare + ShareSpan * fraction);
+      look.size = m_nodeSize * (SmallestShare + ShareSpan * fraction);
     }
     if (!isColored)
       look.color = PlainNode;
@@ -141,7 +141,7 @@ std::vector<NodeLook> ElementLooks::searchedNodes() const {
   const std::vector<bool> found = searchResults(NetData::Node);
   std::vector<NodeLook> looks(found.size());
   for (std::size_t i = 0; i < looks.size(); ++i)
-    looks[i] = {found[i] ? Found : NotFound, m_settings.nodeMag * (found[i] ? 2.0 : 1.0), false};
+    looks[i] = {found[i] ? Found : NotFound, m_nodeSize * (found[i] ? 2.0 : 1.0), false};
   hide(NetData::Node, looks);
   return looks;
 }

@@ -1,5 +1,6 @@
 #include <base/nivramsg.h>
 #include <formulas/parserfactory.h>
+#include <model/displayformat.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
 #include <view/labelcontents.h>
@@ -13,6 +14,7 @@
 namespace {
 
 constexpr int LongestLine = 200; // characters
+constexpr int MostLines = 20;
 
 struct StyleKeys {
   PropertyKey font = PropertyKey::find("vis.font");
@@ -38,14 +40,19 @@ void takeColor(const QString &name, const QString &alpha, QColor &color) {
   }
   bool isNumber = false;
   const int number = alpha.trimmed().toInt(&isNumber);
-  if (isNumber)
+  if (isNumber && (named.isValid() || color.alpha() > 0)) // no colour has no opacity
     color.setAlpha(qBound(0, number, Opaque));
 }
 
 void takeFont(const QString &text, QFont &font) {
+  constexpr int Largest = 200; // px: letters beyond it are no label, and cost memory
   QFont named;
-  if (!text.trimmed().isEmpty() && named.fromString(text.trimmed()))
-    font = screenFont(named);
+  if (text.trimmed().isEmpty() || !named.fromString(text.trimmed()))
+    return;
+  if (named.pointSizeF() > Largest)
+    named.setPointSize(Largest);
+  font = screenFont(named);
+  font.setPixelSize(std::min(font.pixelSize(), Largest));
 }
 
 /// The name of the property behind an "@" at the position, as long as it goes; it does not end with a dot.
@@ -69,9 +76,15 @@ LabelContents::LabelContents(const LabelTable &table, const PlotSettings &settin
   m_nodeStyle.background = settings.bgrColor;
   m_edgeStyle = m_nodeStyle;
   m_nodeStyle.text = settings.nodeLabelsColor;
+  m_boxStyle = m_nodeStyle;
+  m_boxStyle.background = Qt::transparent;
   m_edgeStyle.text = settings.edgeLabelsColor;
   for (const LabelRow &row : table.types)
     m_types.insert(row[LabelRow::Short].toLower(), typeOf(row));
+}
+
+const LabelStyle &LabelContents::styleOf(NetData::EleType kind) const {
+  return kind == NetData::Edge ? m_edgeStyle : kind == NetData::TextBox ? m_boxStyle : m_nodeStyle;
 }
 
 LabelContents::Type LabelContents::typeOf(const LabelRow &row) const {
@@ -81,10 +94,10 @@ LabelContents::Type LabelContents::typeOf(const LabelRow &row) const {
   QString contents = row[LabelRow::Contents];
   contents.replace(QStringLiteral("&#44;"), QStringLiteral(",")).replace(Break, QStringLiteral("<br />"));
   type.isHtml = contents.contains(Marks);
-  for (const QString &line : contents.split(QStringLiteral("<br />")))
+  for (const QString &line : contents.split(QStringLiteral("<br />")).mid(0, MostLines))
     type.lines.push_back(lineOf(line, row[LabelRow::Short]));
   const ElementType *known = ElementTypes::byCode(row[LabelRow::Short]);
-  type.style = known != nullptr && known->kind == NetData::Edge ? m_edgeStyle : m_nodeStyle;
+  type.style = styleOf(known == nullptr ? NetData::Node : known->kind);
   takeFont(row[LabelRow::Font], type.style.font);
   takeColor(row[LabelRow::Color], QString(), type.style.text);
   takeColor(row[LabelRow::BgrColor], row[LabelRow::BgrAlpha], type.style.background);
@@ -142,45 +155,85 @@ LabelContents::Line LabelContents::lineOf(const QString &text, const QString &ty
   return line;
 }
 
-QString LabelContents::formatted(double value, const QString &unit) {
-  constexpr int Digits = 4;
-  QString shownUnit = unit;
-  if (shownUnit.startsWith(QLatin1String("1000 "))) {
+namespace {
+
+constexpr int LabelDigits = 4;
+
+/// Units of thousands are spelled out: nobody reads "0.02 1000 m³/h". Large quantities are rounded, but a number alone may
+/// be a name.
+double spelledOut(double value, QString &unit) {
+  if (unit.isEmpty())
+    return value;
+  if (unit.startsWith(QLatin1String("1000 "))) {
+    unit.remove(0, 5);
     value *= 1000.0;
-    shownUnit.remove(0, 5);
   }
-  if (!unit.isEmpty() && std::abs(value) >= std::pow(10.0, Digits) && std::isfinite(value)) { // a number alone may be a name
-    const double step = std::pow(10.0, std::floor(std::log10(std::abs(value))) + 1.0 - Digits);
-    value = std::round(value / step) * step;
-  }
-  constexpr double Largest = 1e9;
-  constexpr double Smallest = 1e-4;
-  const double size = std::abs(value);
-  QString number;
-  if (size != 0.0 && (size >= Largest || size < Smallest)) {
-    number = QString::number(value, 'g', Digits);
-  } else {
-    const int before = size < 1.0 ? 1 : static_cast<int>(std::floor(std::log10(size))) + 1;
-    const int decimals = qBound(0, size < 1.0 && size > 0.0 ? Digits - 1 : Digits - before, Digits);
-    number = QString::number(value, 'f', decimals);
-    if (decimals > 0) {
-      while (number.endsWith(QLatin1Char('0')))
-        number.chop(1);
-      if (number.endsWith(QLatin1Char('.')))
-        number.chop(1);
-    }
-    constexpr QChar ThinSpace(0x2009);
-    constexpr int Group = 3;
-    const int whole = number.indexOf(QLatin1Char('.')) < 0 ? number.size() : number.indexOf(QLatin1Char('.'));
-    for (int i = whole - Group; i > (value < 0.0 ? 1 : 0); i -= Group)
-      number.insert(i, ThinSpace);
-  }
-  if (number == QLatin1String("-0"))
-    number = QStringLiteral("0");
+  constexpr double Large = 1e4; // smaller ones are rounded when they are written
+  return std::abs(value) < Large ? value : QString::number(value, 'g', LabelDigits).toDouble();
+}
+
+void groupThousands(QString &number) {
+  constexpr QChar ThinSpace(0x2009);
+  constexpr int Group = 3;
+  const int point = number.indexOf(QLatin1Char('.'));
+  const int first = number.startsWith(QLatin1Char('-')) ? 1 : 0;
+  for (int i = (point < 0 ? number.size() : point) - Group; i > first; i -= Group)
+    number.insert(i, ThinSpace);
+}
+
+bool hasPowerOfTen(const QString &number) {
+  return number.contains(QLatin1Char('e'));
+}
+
+} // namespace
+
+QString LabelContents::formatted(double value, const QString &unit, int decimals) {
+  QString shownUnit = unit;
+  const double shown = spelledOut(value, shownUnit);
+  QString number = DisplayFormat::number(shown, LabelDigits);
+  if (decimals >= 0 && !hasPowerOfTen(number))
+    number = DisplayFormat::fixed(shown, std::min(decimals, DisplayFormat::decimals(shown, LabelDigits)));
+  if (!hasPowerOfTen(number))
+    groupThousands(number);
   return shownUnit.isEmpty() ? number : number + QLatin1Char(' ') + Units::written(shownUnit);
 }
 
-QString LabelContents::shownValue(const Part &part, const element &source) {
+/// As many as the values of the first elements of the type need: then 79.70 stands beside 79.84, and 20 beside 30.
+int LabelContents::decimalsOf(const Part &part, const element &like) const {
+  static const PropertyKey key = PropertyKey::intern("type");
+  constexpr int Enough = 300; // elements with a value
+  constexpr int Most = 5000;  // elements to look at
+  if (part.decimals)
+    return *part.decimals;
+  const PropertyText *type = like.find(key);
+  const ElementType *known = type == nullptr ? nullptr : ElementTypes::byCode(type->toString());
+  const elements &collection = known == nullptr                          ? m_net.nodes()
+                               : known->kind == NetData::Edge            ? m_net.edges()
+                               : known->kind == NetData::AssembledSubnet ? m_net.assembledSubnets()
+                               : known->kind == NetData::TextBox         ? m_net.textBoxes()
+                                                                         : m_net.nodes();
+  int needed = 0;
+  int looked = 0;
+  int found = 0;
+  for (const elements::Entry &entry : collection) {
+    if (++looked > Most || found >= Enough)
+      break;
+    const PropertyText *own = entry.value.find(key);
+    const double value = NetData::number(entry.value.find(part.value));
+    if (value == NetData::NoValue || own == nullptr || type == nullptr || !(*own == *type))
+      continue;
+    ++found;
+    QString unit = part.unit;
+    const QString number = DisplayFormat::number(spelledOut(part.toDisplay(value), unit), LabelDigits);
+    const int point = number.indexOf(QLatin1Char('.'));
+    if (point >= 0 && !hasPowerOfTen(number))
+      needed = std::max(needed, number.size() - point - 1);
+  }
+  part.decimals = needed;
+  return needed;
+}
+
+QString LabelContents::shownValue(const Part &part, const element &source) const {
   if (part.formula != nullptr) {
     try {
       const Formula::Result result = part.formula->evaluate(source);
@@ -197,10 +250,11 @@ QString LabelContents::shownValue(const Part &part, const element &source) {
   if (value == nullptr)
     return QString();
   const double number = NetData::number(value);
-  return number == NetData::NoValue ? value->toString() : formatted(part.toDisplay(number), part.unit);
+  return number == NetData::NoValue ? value->toString()
+                                    : formatted(part.toDisplay(number), part.unit, decimalsOf(part, source));
 }
 
-QString LabelContents::filled(const Line &line, const element &source, bool isHtml) {
+QString LabelContents::filled(const Line &line, const element &source, bool isHtml) const {
   QString text;
   bool hasPlaceHolder = false;
   bool hasValue = false;
@@ -242,9 +296,25 @@ LabelText LabelContents::text(const element &source) const {
   return label;
 }
 
+QStringList LabelContents::textOfBox(const element &box) const {
+  static const PropertyKey text = PropertyKey::intern("text");
+  static const QRegularExpression Mark(QStringLiteral("<[A-Za-z/][^<>]*>"));
+  constexpr int LongestText = 500; // nobody reads more on a drawing
+  QStringList lines;
+  if (const Type *type = find(box)) {
+    for (const Line &line : type->lines) {
+      const QString said = filled(line, box, false).remove(Mark);
+      if (!said.isEmpty())
+        lines.append(said);
+    }
+  }
+  const QString own = box.value(text).simplified().left(LongestText);
+  return lines.isEmpty() && !own.isEmpty() ? QStringList{own} : lines;
+}
+
 LabelStyle LabelContents::style(const element &source, NetData::EleType kind) const {
   const Type *type = find(source);
-  LabelStyle style = type != nullptr ? type->style : kind == NetData::Edge ? m_edgeStyle : m_nodeStyle;
+  LabelStyle style = type != nullptr ? type->style : styleOf(kind);
   if (m_hasOwnStyles) {
     const StyleKeys keys;
     takeFont(source.value(keys.font), style.font);

@@ -1,5 +1,6 @@
 #include <view/labellayer.h>
 
+#include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
 #include <QTextDocument>
 
@@ -82,7 +83,12 @@ void LabelLayer::drawLabel(QPainter &painter, const Label &label, const QPointF 
   if (label.document != nullptr) {
     painter.save();
     painter.translate(box.topLeft());
-    label.document->drawContents(&painter);
+    const QRectF area(QPointF(), box.size());
+    painter.setClipRect(area, Qt::IntersectClip);
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette.setColor(QPalette::Text, label.style.text);
+    context.clip = area;
+    label.document->documentLayout()->draw(&painter, context);
     painter.restore();
   } else {
     drawLines(painter, label, {middle.x(), box.top() + padding().height()});

@@ -6,7 +6,9 @@
 #include <view/textboxlayer.h>
 
 #include <QFontMetricsF>
+#include <QImage>
 #include <QTextDocument>
+#include <QUrl>
 
 #include <algorithm>
 #include <array>
@@ -149,6 +151,39 @@ void LabelPass::collect() {
   std::sort(m_wishes.begin(), m_wishes.end(), isBefore);
 }
 
+namespace {
+
+/// The rich text of a label. What it refers to is not there: a workspace must not make the program open files. An empty
+/// picture stands for each, since the layout would look for a missing one by itself.
+class LabelDocument : public QTextDocument {
+public:
+  explicit LabelDocument(const LabelStyle &style, const QString &html) {
+    setDefaultFont(style.font);
+    setDocumentMargin(LabelLayer::padding().width());
+    setUndoRedoEnabled(false);
+    setHtml(html);
+  }
+
+  /// \return its size, cut to what a label may take
+  QSizeF layOut() {
+    constexpr QSizeF Largest(480.0, 360.0); // px
+    if (idealWidth() > Largest.width())
+      setTextWidth(Largest.width());
+    return size().boundedTo(Largest);
+  }
+
+protected:
+  QVariant loadResource(int type, const QUrl &) override {
+    if (type != QTextDocument::ImageResource)
+      return QByteArray();
+    QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
+    nothing.fill(Qt::transparent);
+    return nothing;
+  }
+};
+
+} // namespace
+
 bool LabelPass::makeLabel(Wish &wish, Label &label, LabelText &text) const {
   const element &source = *m_drawing.geometry.source(wish.candidate.item);
   text = m_contents.text(source);
@@ -157,11 +192,9 @@ bool LabelPass::makeLabel(Wish &wish, Label &label, LabelText &text) const {
   label.style = m_contents.style(source, wish.candidate.item.kind);
   QSizeF size;
   if (!text.html.isEmpty()) {
-    label.document = std::make_shared<QTextDocument>();
-    label.document->setDefaultFont(label.style.font);
-    label.document->setDocumentMargin(LabelLayer::padding().width());
-    label.document->setHtml(text.html);
-    size = label.document->size();
+    auto document = std::make_shared<LabelDocument>(label.style, text.html);
+    size = document->layOut();
+    label.document = std::move(document);
   } else {
     const FontMeasure &measure = FontMeasure::of(label.style.font);
     for (const QString &line : text.lines)

@@ -1,9 +1,9 @@
 #include <base/nivramsg.h>
+#include <base/wholefile.h>
 #include <model/elementtypes.h>
 #include <view/labeltable.h>
 
 #include <QFile>
-#include <QSaveFile>
 #include <QTextStream>
 
 #include <algorithm>
@@ -60,8 +60,8 @@ namespace {
 /// The lines of the file; a null line behind its end.
 class Lines {
 public:
-  explicit Lines(QFile &file)
-      : m_stream(&file) {
+  explicit Lines(const QByteArray &text)
+      : m_stream(text) {
     m_stream.setCodec("UTF-8");
   }
   bool next(QString &line) {
@@ -161,43 +161,43 @@ QString LabelTableFile::version() {
   return QStringLiteral("vfd 1");
 }
 
-bool LabelTableFile::read(const QString &path, LabelTable &table) {
-  QFile file(path);
-  if (!file.exists()) {
+bool LabelTableFile::read(const QString &path, LabelTable &table, FileAccess::Source source) {
+  if (!QFile::exists(path)) {
     NivraMsg::log(QStringLiteral("### Settings file ") + path + QStringLiteral(" not found!"));
     return false;
   }
-  if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+  QString reason;
+  const std::optional<QByteArray> text = FileAccess::readWhole(path, source, FileAccess::LargestConfiguration, &reason);
+  if (!text) {
     NivraMsg::logWarning(QStringLiteral("### Could not open settings file ") + path);
+    NivraMsg::logWarning(reason);
     return false;
   }
   NivraMsg::log(QStringLiteral("... loading settings file ") + path);
-  Lines lines(file);
+  Lines lines(*text);
   readRows(lines, path, table);
   return true;
 }
 
 bool LabelTableFile::write(const QString &path, const LabelTable &table, QString *error) {
-  QSaveFile file(path);
-  bool isDone = file.open(QIODevice::WriteOnly | QIODevice::Text);
-  if (isDone) {
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
-    stream << version() << '\n';
-    for (const QString &header : LabelTable::headers())
-      stream << header << '\n';
-    for (const std::vector<LabelRow> *rows : {&table.types, &table.templates}) {
-      for (const LabelRow &row : *rows) {
-        for (const QString &cell : row.cells)
-          stream << asLine(cell) << '\n';
-        if (rows == &table.templates)
-          stream << asLine(row.icon) << '\n';
-      }
+  QByteArray text;
+  QTextStream stream(&text);
+  stream.setCodec("UTF-8");
+  stream << version() << '\n';
+  for (const QString &header : LabelTable::headers())
+    stream << header << '\n';
+  for (const std::vector<LabelRow> *rows : {&table.types, &table.templates}) {
+    for (const LabelRow &row : *rows) {
+      for (const QString &cell : row.cells)
+        stream << asLine(cell) << '\n';
+      if (rows == &table.templates)
+        stream << asLine(row.icon) << '\n';
     }
-    stream.flush();
-    isDone = file.error() == QFile::NoError && file.commit();
   }
+  stream.flush();
+  QString reason;
+  const bool isDone = WholeFile::write(path, FileAccess::Source::Workspace, text, &reason);
   if (!isDone && error != nullptr)
-    *error = QCoreApplication::translate("LabelTable", "Could not write %1: %2").arg(path, file.errorString());
+    *error = reason;
   return isDone;
 }

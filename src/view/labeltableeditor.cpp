@@ -50,6 +50,8 @@ LabelTableEditor::LabelTableEditor(QTableWidget &widget)
   widget.setHorizontalHeaderLabels(LabelTable::headers());
   widget.setSelectionBehavior(QAbstractItemView::SelectItems);
   widget.setIconSize({IconSize, IconSize});
+  // A double click is answered by edit(), which alone opens the one editor that suits the cell.
+  widget.setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
   connect(&widget, &QTableWidget::cellDoubleClicked, this, &LabelTableEditor::edit);
   connect(&widget, &QTableWidget::itemChanged, this, [this](QTableWidgetItem *cell) { showLook(cell->row()); });
   connect(widget.verticalHeader(), &QHeaderView::sectionDoubleClicked, this, [] {
@@ -153,6 +155,8 @@ void LabelTableEditor::edit(int row, int column) {
     font = QFontDialog::getFont(&isTaken, font, &m_widget);
     if (isTaken)
       cell.setText(font.toString());
+  } else if ((cell.flags() & Qt::ItemIsEditable) != 0) {
+    m_widget.editItem(&cell);
   }
 }
 

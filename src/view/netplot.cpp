@@ -33,11 +33,8 @@ NetPlot::NetPlot(QWidget *parent)
   setUpPlot();
   setUpPanner();
   setUpZoom();
-  m_grid.enableXMin(true);
-  m_grid.enableYMin(true);
   m_grid.setZ(GridZ);
   m_grid.attach(m_plot);
-  m_grid.hide();
   m_legend.setZ(LegendZ);
   m_legend.setRenderHint(QwtPlotItem::RenderAntialiased);
   m_legend.attach(m_plot);
@@ -173,8 +170,14 @@ void NetPlot::applyColors() {
   colors.setColor(QPalette::WindowText, ink);
   colors.setColor(QPalette::Text, ink);
   m_plot->setPalette(colors);
+  // A file that does not name a colour leaves it invalid: such lines are not drawn.
+  m_grid.enableX(m_settings.gridMajorColor.isValid());
+  m_grid.enableY(m_settings.gridMajorColor.isValid());
+  m_grid.enableXMin(m_settings.gridMinorColor.isValid());
+  m_grid.enableYMin(m_settings.gridMinorColor.isValid());
   m_grid.setMajorPen(m_settings.gridMajorColor, 0.0, Qt::DashLine);
   m_grid.setMinorPen(m_settings.gridMinorColor, 0.0, Qt::DotLine);
+  m_grid.setVisible(m_settings.showGrid);
 }
 
 void NetPlot::showNetwork() {
@@ -223,16 +226,13 @@ void NetPlot::showAxes() {
 
 void NetPlot::placeLegend() {
   const int corner = m_settings.legendPos;
-  m_legend.setVisible(corner >= TopLeft && corner <= BottomRight);
+  m_legend.setVisible(corner >= TopLeft && corner <= BottomRight && !m_update->legendText().isEmpty());
   if (!m_legend.isVisible())
     return;
   constexpr int LargerThanLabels = 2; // pt
   constexpr double Inset = 10.0;      // px
   constexpr int BackgroundAlpha = 200;
-  const QString abs = QStringLiteral("abs. ");
-  QwtText text(QStringLiteral("Color: ") + (m_settings.absColor ? abs : QString()) + m_settings.colorFunc +
-                   QStringLiteral("\nWidth: ") + (m_settings.absWidth ? abs : QString()) + m_settings.widthFunc,
-               QwtText::PlainText);
+  QwtText text(m_update->legendText(), QwtText::PlainText);
   text.setFont(QFont(QStringLiteral("Arial"), std::max(m_settings.labelMag + LargerThanLabels, 1), QFont::Bold));
   text.setColor(m_settings.edgeLabelsColor);
   text.setRenderFlags(Qt::AlignLeft | Qt::AlignVCenter);

@@ -40,13 +40,15 @@ NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
        std::initializer_list<QwtPlotItem *>{&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels})
     layer->attach(plot.plot());
   m_symbols.setSubnets(&m_subnets);
-  m_subnets.setFilter(&m_layers);
-  m_textBoxes.setFilter(&m_layers);
+  m_subnets.setFilter(&m_layers, &m_visibility);
+  m_textBoxes.setFilter(&m_layers, &m_visibility);
 }
 
 void NetUpdate::setNetData(const NetData *net) {
   m_net = net;
+  m_pixtest.forgetPlacement();
   m_geometry.clear();
+  m_values = DrawValues();
   m_edges.clear();
   m_nodes.clear();
   m_symbols.clear();
@@ -78,8 +80,7 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
   if (rebuild && m_geometry.unplaced() > 0)
     NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
   m_layers.read(m_geometry);
-  ColorScale::show(*m_plot.plot(), m_settings, DrawFunction::find(m_settings.colorFunc, *m_net), m_values.edgeColor(),
-                   looks().swatches());
+  ColorScale::show(*m_plot.plot(), m_settings, m_values, coloured(), looks().swatches());
   m_plot.placeLegend();
   m_plot.showAxes();
 
@@ -106,43 +107,75 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     NivraMsg::log(QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
   }
   updateSymbols(rebuild);
-  if (relabel)
+  if (relabel && m_hasPlacedLabels)
+    placeLabels(); // those that stand say something else now; nobody may have to wait for that
+  else if (relabel)
     clearLabels();
   m_plot.plot()->replot();
   NivraMsg::log(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
 }
 
 ElementLooks NetUpdate::looks() const {
-  return {*m_net, m_geometry, m_values, m_settings, m_layers};
+  return {m_geometry, m_values, m_settings, m_layers, sizeOf("n", m_settings.nodeMag)};
+}
+
+ColorScale::Subject NetUpdate::coloured() const {
+  switch (m_displayMode) {
+  case DisplayMode::SearchResults:
+    return ColorScale::Subject::SearchResults;
+  case DisplayMode::Edges:
+    return ColorScale::Subject::Edges;
+  case DisplayMode::Functions:
+    break;
+  }
+  return ColorScale::Subject::EdgesAndNodes;
+}
+
+QString NetUpdate::legendText() const {
+  return ColorScale::legendText(m_settings, m_net == nullptr ? nullptr : &m_values, coloured());
+}
+
+double NetUpdate::sizeOf(const char *type, double otherwise) const {
+  constexpr double Largest = 512.0; // px
+  const LabelRow *row = m_labelTable.ofType(QString::fromLatin1(type));
+  bool isNumber = false;
+  const double size = row == nullptr ? 0.0 : (*row)[LabelRow::Size].trimmed().toDouble(&isNumber);
+  return isNumber && size > 0.0 ? std::min(size, Largest) : otherwise;
 }
 
 void NetUpdate::updateSymbols(bool rebuild) {
   constexpr double ArrowPixels = 2.0; // a unit of arrowMag
+  constexpr double LargerBoxes = 1.6; // than symbols
   QHash<QString, double> sizes;
   for (const LabelRow &row : m_labelTable.types) {
-    bool isNumber = false;
-    const double size = row[LabelRow::Size].trimmed().toDouble(&isNumber);
-    if (isNumber && size > 0.0)
+    if (const double size = sizeOf(qPrintable(row[LabelRow::Short]), 0.0); size > 0.0)
       sizes.insert(row[LabelRow::Short], size);
   }
   m_symbols.setSize(m_settings.symMag);
   m_symbols.setSizes(sizes);
   m_edges.setSymbolSize(m_settings.symMag);
   m_edges.setArrowSize(m_settings.arrowMag * ArrowPixels);
-  m_subnets.setLook(m_settings.symMag, m_settings.alphaSubnet);
+  m_subnets.setLook(sizeOf("sub", m_settings.symMag * LargerBoxes), m_settings.alphaSubnet);
   if (rebuild) {
     m_visibility.read(m_geometry, m_labelTable);
     if (isSwitchedOn("build symbols"))
       m_symbols.setStations(m_geometry);
     else
       m_symbols.clear();
-    m_subnets.setSubnets(m_geometry);
   }
+  m_subnets.setSubnets(m_geometry); // what is known of their state may have changed
   m_visibility.setExtent(m_plot.plot()->visibleRect().height());
-  m_symbols.setVisibility(m_visibility, m_layers);
+  showWhatIsVisible();
   m_textBoxes.setBackground(m_settings.bgrColor);
-  m_textBoxes.setTextBoxes(m_geometry, m_settings.nodeLabelsColor,
-                           QFont(QStringLiteral("Arial"), std::max(m_settings.labelMag, 1)));
+  if (m_geometry.textBoxes().empty())
+    m_textBoxes.clear();
+  else
+    m_textBoxes.setTextBoxes(m_geometry, LabelContents(m_labelTable, m_settings, *m_net), sizeOf("t", 0.0));
+}
+
+void NetUpdate::showWhatIsVisible() {
+  m_symbols.setVisibility(m_visibility, m_layers);
+  m_nodes.setVisibility(m_visibility);
 }
 
 Projection NetUpdate::projection() const {
@@ -167,7 +200,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
   const double units = m_plot.plot()->unitsPerPixel().height();
   bool hasChanged = m_visibility.setExtent(m_plot.plot()->visibleRect().height());
   if (hasChanged)
-    m_symbols.setVisibility(m_visibility, m_layers);
+    showWhatIsVisible();
   if (labels == Pixtest::Labels::With) {
     placeLabels();
     hasChanged = true;
@@ -187,6 +220,7 @@ void NetUpdate::placeLabels() {
   constexpr double SameScale = 1e-6;
   const LabelContents contents(m_labelTable, m_settings, *m_net);
   m_unplaced.clear();
+  m_hasPlacedLabels = true;
   if (!isSwitchedOn("build labels") || contents.isOff()) {
     m_labels.clear();
     return;
@@ -208,6 +242,7 @@ void NetUpdate::placeLabels() {
 void NetUpdate::clearLabels() {
   m_labels.clear();
   m_unplaced.clear();
+  m_hasPlacedLabels = false;
 }
 
 void NetUpdate::relabelNow() {
@@ -217,6 +252,7 @@ void NetUpdate::relabelNow() {
   const QString before = general.value(key);
   m_pixtest.setSuspended(false);
   general.setValue(key, QStringLiteral("always"));
+  clearLabels();
   updatePlot(true, Which::EdgesAndNodes, true);
   placeLabelsNow();
   general.setValue(key, before);
@@ -253,9 +289,12 @@ std::vector<NetGeometry::Item> NetUpdate::elementsIn(const QRectF &area) const {
   const auto isInside = [&area](double x, double y) {
     return x >= area.left() && x <= area.right() && y >= area.top() && y <= area.bottom();
   };
+  const auto isDrawn = [this](NetGeometry::Item item) {
+    return !m_layers.isHidden(item) && m_visibility.of(item) != VisibilityRules::State::Off;
+  };
   const auto &nodes = m_geometry.nodes();
   for (std::size_t i = 0; i < nodes.size(); ++i) {
-    if (nodes[i].isPlaced && !m_layers.isHidden({NetData::Node, static_cast<int>(i)}) && isInside(nodes[i].x, nodes[i].y))
+    if (nodes[i].isPlaced && isDrawn({NetData::Node, static_cast<int>(i)}) && isInside(nodes[i].x, nodes[i].y))
       found.push_back({NetData::Node, static_cast<int>(i)});
   }
   for (std::size_t i = 0; i < m_geometry.edges().size(); ++i) {
@@ -268,7 +307,7 @@ std::vector<NetGeometry::Item> NetUpdate::elementsIn(const QRectF &area) const {
   }
   const auto takePlaces = [&](NetData::EleType kind, const std::vector<NetGeometry::Place> &places) {
     for (std::size_t i = 0; i < places.size(); ++i) {
-      if (!m_layers.isHidden({kind, static_cast<int>(i)}) && isInside(places[i].x, places[i].y))
+      if (isDrawn({kind, static_cast<int>(i)}) && isInside(places[i].x, places[i].y))
         found.push_back({kind, static_cast<int>(i)});
     }
   };

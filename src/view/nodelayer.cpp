@@ -41,7 +41,7 @@ void NodeLayer::setNodes(const NetGeometry &geometry) {
     if (!node.isPlaced || node.isDrive)
       continue;
     boxes.push_back({node.x, node.y, node.x, node.y});
-    records.push_back({node.x, node.y, static_cast<int>(i), node.shape, NodeLook()});
+    records.push_back({node.x, node.y, static_cast<int>(i), node.shape, NodeLook(), false});
   }
   const std::vector<int> order = m_index.build(boxes);
   m_records.clear();
@@ -53,6 +53,12 @@ void NodeLayer::setNodes(const NetGeometry &geometry) {
 void NodeLayer::setLooks(const std::vector<NodeLook> &looks) {
   for (Record &record : m_records)
     record.look = looks[static_cast<std::size_t>(record.node)];
+}
+
+void NodeLayer::setVisibility(const VisibilityRules &rules) {
+  const bool isAny = rules.isAny();
+  for (Record &record : m_records)
+    record.isOff = isAny && rules.of({NetData::Node, record.node}) == VisibilityRules::State::Off;
 }
 
 void NodeLayer::clear() {
@@ -70,7 +76,7 @@ void NodeLayer::find(const Projection &projection, const QPointF &point, double 
       const Record &record = m_records[static_cast<std::size_t>(i)];
       const QPointF to = projection.map(record.x, record.y) - point;
       const double distance = std::hypot(to.x(), to.y());
-      if (!record.look.isHidden && distance - sizeOf(record) * 0.5 <= tolerance)
+      if (record.isDrawn() && distance - sizeOf(record) * 0.5 <= tolerance)
         hits.push_back({{NetData::Node, record.node}, distance});
     }
   });
@@ -83,7 +89,7 @@ std::vector<NodeLayer::VisibleNode> NodeLayer::visibleNodes(const Projection &pr
     for (int i = first; i < last; ++i) {
       const Record &record = m_records[static_cast<std::size_t>(i)];
       const QPointF center = projection.map(record.x, record.y);
-      if (!record.look.isHidden && area.contains(center))
+      if (record.isDrawn() && area.contains(center))
         nodes.push_back({center, &record});
     }
   });

@@ -29,7 +29,7 @@ auto bounds(const PlotSettings &s) {
 }
 
 auto drawing(const PlotSettings &s) {
-  return std::tie(s.colorRamp, s.colorClasses, s.classMethod, s.classBreaks);
+  return std::tie(s.colorRamp, s.colorClasses, s.classMethod, s.classBreaks, s.typedBounds, s.showGrid);
 }
 
 auto zoomLimits(const PlotSettings &s) {

@@ -119,6 +119,8 @@ void visitDrawing(Settings &s, Visitor &v) {
   v.optional("colorClasses", s.colorClasses);
   v.optional("classMethod", s.classMethod);
   v.optional("classBreaks", s.classBreaks);
+  v.optional("typedBounds", s.typedBounds);
+  v.optional("showGrid", s.showGrid);
 }
 
 template <typename Settings, typename Visitor>

@@ -87,9 +87,8 @@ void SubnetLayer::setTable(const SymbolTable &table) {
 }
 
 void SubnetLayer::setLook(double size, int alpha) {
-  constexpr double LargerThanSymbols = 1.6;
   constexpr int Opaque = 255;
-  m_size = size * LargerThanSymbols;
+  m_size = size;
   m_alpha = qBound(0, alpha, Opaque);
   m_penWidth = qBound(0.0, setting("subnet pen width").toDouble(), 50.0);
   m_groundMargin = qBound(0.0, setting("subnet background size").toDouble(), 200.0);

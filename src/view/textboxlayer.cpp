@@ -10,17 +10,16 @@ namespace {
 
 constexpr double TextZ = 40.0;
 
-QFont fontOf(const element &box, const QFont &otherwise) {
-  static const PropertyKey key = PropertyKey::intern("vis.font");
-  QFont font;
-  const QString text = box.value(key);
-  return !text.isEmpty() && font.fromString(text) ? font : otherwise;
+QSizeF sizeOf(const QStringList &lines, const QFont &font) {
+  const QFontMetricsF metrics(font);
+  QSizeF size(0.0, metrics.height() * lines.size());
+  for (const QString &line : lines)
+    size.setWidth(std::max(size.width(), metrics.size(Qt::TextSingleLine, line).width()));
+  return size;
 }
 
-QColor colorOf(const element &box, const QColor &otherwise) {
-  static const PropertyKey key = PropertyKey::intern("vis.color");
-  const QColor color(box.value(key));
-  return color.isValid() ? color : otherwise;
+bool hasInk(const QColor &color) {
+  return color.alpha() > 0;
 }
 
 } // namespace
@@ -30,19 +29,25 @@ TextBoxLayer::TextBoxLayer() {
   setZ(TextZ);
 }
 
-void TextBoxLayer::setTextBoxes(const NetGeometry &geometry, const QColor &color, const QFont &font) {
-  static const PropertyKey text = PropertyKey::intern("text");
-  constexpr int LongestText = 500; // nobody reads more on a drawing
+void TextBoxLayer::setTextBoxes(const NetGeometry &geometry, const LabelContents &contents, double size) {
+  static const PropertyKey font = PropertyKey::intern("vis.font");
   m_records.clear();
   for (std::size_t i = 0; i < geometry.textBoxes().size(); ++i) {
     const NetGeometry::Place &box = geometry.textBoxes()[i];
-    const QString shown = box.source->value(text).simplified().left(LongestText);
-    if (shown.isEmpty())
+    const QStringList lines = contents.textOfBox(*box.source);
+    if (lines.isEmpty())
       continue;
-    const QFont own = screenFont(fontOf(*box.source, font));
-    m_records.push_back({box.x, box.y, shown, own, colorOf(*box.source, color), static_cast<int>(i),
-                         QFontMetricsF(own).size(Qt::TextSingleLine, shown)});
+    LabelStyle style = contents.style(*box.source, NetData::TextBox);
+    if (size >= 1.0 && box.source->find(font) == nullptr)
+      style.font.setPixelSize(static_cast<int>(size));
+    m_records.push_back({box.x, box.y, lines, style, static_cast<int>(i), sizeOf(lines, style.font)});
   }
+}
+
+bool TextBoxLayer::isHidden(const Record &record) const {
+  const NetGeometry::Item item{NetData::TextBox, record.textBox};
+  return (m_layers != nullptr && m_layers->isHidden(item)) ||
+         (m_visibility != nullptr && m_visibility->of(item) == VisibilityRules::State::Off);
 }
 
 std::vector<TextBoxLayer::Placed> TextBoxLayer::place(const Projection &projection) const {
@@ -54,8 +59,7 @@ std::vector<TextBoxLayer::Placed> TextBoxLayer::place(const Projection &projecti
   for (const Record &record : m_records) {
     QRectF area(QPointF(), record.size);
     area.moveCenter(projection.map(record.x, record.y));
-    const bool isHidden = m_layers != nullptr && m_layers->isHidden({NetData::TextBox, record.textBox});
-    if (isHidden || !projection.canvas().contains(area.center()))
+    if (isHidden(record) || !projection.canvas().contains(area.center()))
       continue;
     // What would be cut at the side of the canvas is moved in.
     area.moveLeft(std::max(std::min(area.left(), projection.canvas().right() - area.width()), projection.canvas().left()));
@@ -84,16 +88,30 @@ void TextBoxLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtSca
                         const QRectF &canvasRect) const {
   constexpr double HaloWidth = 3.0;
   constexpr int HaloAlpha = 210;
+  constexpr double Padding = 3.0; // px of ground around the text
   QColor halo = m_background;
   halo.setAlpha(HaloAlpha);
   for (const Placed &placed : place(Projection(xMap, yMap, canvasRect))) {
     const Record &record = *placed.record;
-    const QPointF start(placed.area.left(), placed.area.top() + QFontMetricsF(record.font).ascent());
-    QPainterPath outline;
-    outline.addText(start, record.font, record.text);
-    painter->strokePath(outline, QPen(halo, HaloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter->setPen(record.color);
-    painter->setFont(record.font);
-    painter->drawText(start, record.text);
+    const LabelStyle &style = record.style;
+    const bool hasGround = hasInk(style.background);
+    if (hasGround || hasInk(style.border)) {
+      painter->setPen(hasInk(style.border) ? QPen(style.border, 1.0) : QPen(Qt::NoPen));
+      painter->setBrush(hasGround ? QBrush(style.background) : QBrush(Qt::NoBrush));
+      painter->drawRect(placed.area.adjusted(-Padding, -Padding, Padding, Padding));
+    }
+    const QFontMetricsF metrics(style.font);
+    QPointF start(placed.area.left(), placed.area.top() + metrics.ascent());
+    painter->setFont(style.font);
+    for (const QString &line : record.lines) {
+      if (!hasGround) {
+        QPainterPath outline;
+        outline.addText(start, style.font, line);
+        painter->strokePath(outline, QPen(halo, HaloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      }
+      painter->setPen(style.text);
+      painter->drawText(start, line);
+      start.ry() += metrics.height();
+    }
   }
 }

@@ -1,6 +1,7 @@
 #include "ui_viewfuncdialog.h"
 
 #include <base/nivramsg.h>
+#include <model/displayformat.h>
 #include <view/colormap.h>
 #include <view/drawfunctions.h>
 #include <view/drawrange.h>
@@ -21,6 +22,7 @@ namespace {
 using S = PlotSettings;
 
 struct FunctionFields {
+  const char *key; ///< in the file, and of what was typed
   QString S::*function;
   double S::*minimum;
   double S::*maximum;
@@ -30,10 +32,11 @@ struct FunctionFields {
 
 // In the order of viewFuncDialog::Row.
 const std::array<FunctionFields, 4> Functions{{
-    {&S::colorFunc, &S::minVal_edgeColor, &S::maxVal_edgeColor, &S::absColor, &S::logScaleColor},
-    {&S::widthFunc, &S::minVal_Width, &S::maxVal_Width, &S::absWidth, &S::logScaleWidth},
-    {&S::nodeColorFunc, &S::minVal_nodeColor, &S::maxVal_nodeColor, &S::absNodeColor, &S::logScaleNodeColor},
-    {&S::nodeSizeFunc, &S::minVal_nodeSize, &S::maxVal_nodeSize, &S::absNodeSize, &S::logScaleNodeSize},
+    {"colorFunc", &S::colorFunc, &S::minVal_edgeColor, &S::maxVal_edgeColor, &S::absColor, &S::logScaleColor},
+    {"widthFunc", &S::widthFunc, &S::minVal_Width, &S::maxVal_Width, &S::absWidth, &S::logScaleWidth},
+    {"nodeColorFunc", &S::nodeColorFunc, &S::minVal_nodeColor, &S::maxVal_nodeColor, &S::absNodeColor,
+     &S::logScaleNodeColor},
+    {"nodeSizeFunc", &S::nodeSizeFunc, &S::minVal_nodeSize, &S::maxVal_nodeSize, &S::absNodeSize, &S::logScaleNodeSize},
 }};
 
 enum Viewport { IndependentAxes, OriginalRatio, AspectRatio };
@@ -55,33 +58,49 @@ viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
   m_ui->setupUi(this);
   const QStringList titles{tr("Edge colour"), tr("Edge width"), tr("Node colour"), tr("Node size")};
   for (int i = 0; i < Rows; ++i) {
-    QStringList functions = edgeFunctions();
-    if (i == NodeSize)
-      functions.prepend(PlotSettings::fixedSize());
     const QString tip = i == EdgeWidth || i == NodeSize ? tr("if checked:  absolute values used for width")
                                                         : tr("if checked: absolute values are used for color");
-    auto *row = new FunctionRow(titles.at(i), tip, functions, this);
+    auto *row = new FunctionRow(
+        titles.at(i), tip, [this](const QString &function) { return unitOf(function); }, this);
     m_rows[static_cast<std::size_t>(i)] = row;
     m_ui->functionsBox->insertWidget(i, row);
-    connect(row, &FunctionRow::functionChanged, this, [this, i] { showUnit(static_cast<Row>(i)); });
   }
   m_labels = new LabelTableEditor(*m_ui->labelTable);
   fillChoices();
   setUpColors();
+  offerFunctions();
   refresh();
 }
 
 viewFuncDialog::~viewFuncDialog() = default;
 
 QStringList viewFuncDialog::edgeFunctions() {
-  return {QStringLiteral("connectivity"),  QStringLiteral("accum. length"),
-          QStringLiteral("mass flow"),     QStringLiteral("roughness"),
-          QStringLiteral("demand"),        QStringLiteral("volume flow"),
-          QStringLiteral("height"),        QStringLiteral("input temperature"),
-          QStringLiteral("temperature"),   QStringLiteral("input pressure"),
-          QStringLiteral("pressure"),      QStringLiteral("temperature diff"),
-          QStringLiteral("pressure diff"), QStringLiteral("pipe length"),
-          QStringLiteral("pipe diameter")};
+  return DrawFunction::fixedNames();
+}
+
+/// The names that every network may have, and behind them the properties of this one.
+void viewFuncDialog::offerFunctions() {
+  const NetData *net = m_plot.update().netData();
+  const QStringList ofEdges = net == nullptr ? QStringList() : DrawFunction::ofNetwork(*net, NetData::Edge);
+  const QStringList ofNodes = net == nullptr ? QStringList() : DrawFunction::ofNetwork(*net, NetData::Node);
+  for (int i = 0; i < Rows; ++i) {
+    QStringList functions = edgeFunctions();
+    if (i == NodeSize)
+      functions.prepend(PlotSettings::fixedSize());
+    QHash<QString, QString> described;
+    for (const QString &property : i == EdgeColor || i == EdgeWidth ? ofEdges : ofNodes) {
+      functions.append(property);
+      const QString title = DrawFunction::find(property, *net).title;
+      if (title != property)
+        described.insert(property, title);
+    }
+    m_rows[static_cast<std::size_t>(i)]->setChoices(functions, described);
+  }
+}
+
+void viewFuncDialog::showEvent(QShowEvent *event) {
+  offerFunctions(); // formulas may have computed more since
+  QWidget::showEvent(event);
 }
 
 void viewFuncDialog::fillChoices() {
@@ -118,6 +137,8 @@ void viewFuncDialog::setUpColors() {
         QPixmap swatch(16, 16);
         swatch.fill(chosen);
         button->setIcon(swatch);
+        if (button == m_ui->gridMajorColor || button == m_ui->gridMinorColor)
+          m_ui->showGrid->setChecked(true); // nobody chooses a colour for what is not to be seen
       }
     });
   }
@@ -133,21 +154,53 @@ void viewFuncDialog::refresh() {
   m_labels->setTable(m_plot.update().labelTable());
 }
 
-void viewFuncDialog::showUnit(Row row) {
+FunctionRow::Unit viewFuncDialog::unitOf(const QString &function) const {
   const NetData *net = m_plot.update().netData();
   if (net == nullptr)
-    return;
-  const DrawFunction function = DrawFunction::find(m_rows[static_cast<std::size_t>(row)]->values().function, *net);
-  const int bracket = function.title.lastIndexOf(QLatin1Char('['));
-  m_rows[static_cast<std::size_t>(row)]->setUnit(bracket < 0 ? QString() : function.title.mid(bracket), function.toDisplay);
+    return {};
+  const DrawFunction found = DrawFunction::find(function, *net);
+  return {found.unit, found.toDisplay};
+}
+
+/// Where the values of the data lie, and whether any of them lies between the bounds.
+QString viewFuncDialog::noteOn(const DrawValues::Column &values, double minimum, double maximum) {
+  if (!values.data.isValid())
+    return tr("No element has a value.");
+  const Units::Linear &toDisplay = values.function.toDisplay;
+  QString unit;
+  if (!values.function.unit.isEmpty())
+    unit = QLatin1Char(' ') + Units::written(values.function.unit);
+  const QString reach = tr("The data reach from %1 to %2%3.")
+                            .arg(DisplayFormat::number(toDisplay(values.data.minValue())),
+                                 DisplayFormat::number(toDisplay(values.data.maxValue())), unit);
+  const bool hasMinimum = minimum != PlotSettings::OpenMinimum;
+  const bool hasMaximum = maximum != PlotSettings::OpenMaximum;
+  if (hasMinimum && minimum > values.data.maxValue())
+    return tr("The minimum lies above all values.") + QLatin1Char(' ') + reach;
+  if (hasMaximum && maximum < values.data.minValue())
+    return tr("The maximum lies below all values.") + QLatin1Char(' ') + reach;
+  return reach;
+}
+
+void viewFuncDialog::showNotes(const PlotSettings &settings) {
+  const DrawValues &values = m_plot.update().values();
+  const std::array<const DrawValues::Column *, Rows> columns{&values.edgeColor(), &values.edgeWidth(), &values.nodeColor(),
+                                                             &values.nodeSize()};
+  for (std::size_t i = 0; i < Functions.size(); ++i) {
+    const FunctionFields &f = Functions[i];
+    const bool isShown = m_plot.update().netData() != nullptr && settings.*f.function != PlotSettings::fixedSize();
+    m_rows[i]->setNote(isShown ? noteOn(*columns[i], settings.*f.minimum, settings.*f.maximum) : QString());
+  }
 }
 
 void viewFuncDialog::showForm(const PlotSettings &s) {
+  TypedBounds::OfSettings typed = TypedBounds::read(s.typedBounds);
   for (std::size_t i = 0; i < Functions.size(); ++i) {
     const FunctionFields &f = Functions[i];
-    m_rows[i]->setValues({s.*f.function, s.*f.minimum, s.*f.maximum, s.*f.absolute, s.*f.logarithmic});
-    showUnit(static_cast<Row>(i));
+    m_rows[i]->setValues({s.*f.function, s.*f.minimum, s.*f.maximum, s.*f.absolute, s.*f.logarithmic},
+                         typed[QString::fromLatin1(f.key)]);
   }
+  showNotes(s);
   choose(*m_ui->colorRamp, s.colorRamp);
   m_ui->firstColor->setValue(s.firstColor);
   m_ui->lastColor->setValue(s.lastColor);
@@ -173,12 +226,14 @@ void viewFuncDialog::showForm(const PlotSettings &s) {
   m_ui->viewport->setCurrentIndex(s.fixAxesRatio ? AspectRatio : IndependentAxes);
   m_ui->zoomFact->setValue(s.zoomFact);
   m_ui->showXYaxes->setChecked(s.showXYaxes);
+  m_ui->showGrid->setChecked(s.showGrid);
   m_ui->edgeShowFlow->setText(s.edgeShowFlow);
   m_ui->layerProp->setText(s.layerProp);
   for (const ColorButton &color : m_colors) {
+    const QColor &shown = s.*color.color;
     QPixmap swatch(16, 16);
-    swatch.fill(s.*color.color);
-    color.button->setText((s.*color.color).name());
+    swatch.fill(shown.isValid() ? shown : QColor(Qt::transparent));
+    color.button->setText(shown.isValid() ? shown.name() : QString());
     color.button->setIcon(swatch);
   }
 }
@@ -210,6 +265,7 @@ void viewFuncDialog::takeForm(PlotSettings &s) const {
   s.fixAxesRatio = m_ui->viewport->currentIndex() != IndependentAxes;
   s.zoomFact = m_ui->zoomFact->value();
   s.showXYaxes = m_ui->showXYaxes->isChecked();
+  s.showGrid = m_ui->showGrid->isChecked();
   s.edgeShowFlow = m_ui->edgeShowFlow->text().trimmed();
   s.layerProp = m_ui->layerProp->text().trimmed();
   for (const ColorButton &color : m_colors)
@@ -236,6 +292,7 @@ bool viewFuncDialog::takeBounds(const FunctionRow &row, FunctionRow::Values &val
 }
 
 bool viewFuncDialog::takeFunctions(PlotSettings &settings) {
+  TypedBounds::OfSettings typed;
   for (std::size_t i = 0; i < Functions.size(); ++i) {
     const FunctionFields &f = Functions[i];
     FunctionRow::Values values;
@@ -246,7 +303,10 @@ bool viewFuncDialog::takeFunctions(PlotSettings &settings) {
     settings.*f.maximum = values.maximum;
     settings.*f.absolute = values.absolute;
     settings.*f.logarithmic = values.logarithmic;
+    if (const TypedBounds::OfFunctions ofRow = m_rows[i]->typedBounds(); !ofRow.isEmpty())
+      typed[QString::fromLatin1(f.key)] = ofRow;
   }
+  settings.typedBounds = TypedBounds::written(typed);
   return true;
 }
 
@@ -292,7 +352,7 @@ void viewFuncDialog::on_load_clicked() {
   if (path.isEmpty())
     return;
   LabelTable table;
-  if (LabelTableFile::read(path, table))
+  if (LabelTableFile::read(path, table, FileAccess::Source::Trusted))
     m_labels->setTable(table);
 }
 
@@ -300,7 +360,7 @@ void viewFuncDialog::resetMinMaxColorFuncValues() {
   QElapsedTimer timer;
   timer.start();
   for (FunctionRow *row : m_rows)
-    row->takeBoundsFromData();
+    row->forgetBounds();
   apply();
   NivraMsg::log(
       QStringLiteral("resetMinMaxColorFuncValues finished in %1 sec.").arg(static_cast<double>(timer.elapsed()) * 1e-3));

@@ -1,9 +1,12 @@
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
+#include <formulas/networkformulas.h>
+#include <model/subnetstate.h>
 #include <support/nivratest.h>
 #include <view/plotexport.h>
 
+#include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -15,6 +18,10 @@ private slots:
   void cleanup() { GeneralSettings::instance().reset(); }
   void subnetColours_data();
   void subnetColours();
+  void innerViolationsReachTheBox_data();
+  void innerViolationsReachTheBox();
+  void subnetsShowHowTheyAreControlled_data();
+  void subnetsShowHowTheyAreControlled();
   void subnetPins();
   void parallelLinesLieSideBySide();
   void arrowsPointWhereTheGasGoes();
@@ -66,6 +73,72 @@ void TestDrawing::subnetColours() {
   f.net.assembledSubnets().find(QStringLiteral("Station"))->set(QStringLiteral("substate"), QStringLiteral("Flow control"));
   f.show();
   QVERIFY(count(f.picture(), QColor(Qt::yellow)) > 40);
+}
+
+void TestDrawing::innerViolationsReachTheBox_data() {
+  QTest::addColumn<QByteArray>("constraint");
+  QTest::addColumn<QString>("ring"); ///< general setting
+  QTest::newRow("nobody checked") << QByteArray() << QStringLiteral("subnet ring color BV unknown");
+  QTest::newRow("others checked") << QByteArray("p(n) in .. 5") << QStringLiteral("subnet ring color BV unknown");
+  QTest::newRow("kept") << QByteArray("q(p) in .. 10") << QStringLiteral("subnet ring color no BV");
+  QTest::newRow("violated") << QByteArray("q(p) in .. 3 \"too much\"") << QStringLiteral("subnet ring color BV minor");
+  QTest::newRow("gravely") << QByteArray("q(p) in .. 3 \"major\"") << QStringLiteral("subnet ring color BV major");
+}
+
+void TestDrawing::innerViolationsReachTheBox() {
+  QFETCH(QByteArray, constraint);
+  QFETCH(QString, ring);
+  ViewFixture f;
+  element subnet = station();
+  subnet.set(QStringLiteral("elements"), QStringLiteral("AB;gone"));
+  f.net.addElement(subnet);
+  f.show();
+  NetworkFormulas formulas(f.net);
+  QBuffer buffer(&constraint);
+  QVERIFY(buffer.open(QIODevice::ReadOnly));
+  formulas.setDefinitions(FormulaFile::parse(buffer, QStringLiteral("t"), QStringLiteral("results")).definitions);
+  formulas.apply();
+  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false); // as after any change of values
+  QVERIFY(count(f.picture(), QColor(GeneralSettings::instance().value(ring))) > 40);
+  if (constraint.contains("3")) { // what is mended is shown as mended
+    element &pipe = *f.net.element(QStringLiteral("AB"));
+    pipe.set(QStringLiteral("q"), QStringLiteral("1"));
+    formulas.update({{&pipe, PropertyKey::intern("q")}});
+    f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+    const QString none = GeneralSettings::instance().value(QStringLiteral("subnet ring color no BV"));
+    QVERIFY(count(f.picture(), QColor(none)) > 40);
+  }
+}
+
+void TestDrawing::subnetsShowHowTheyAreControlled_data() {
+  QTest::addColumn<QString>("property");
+  QTest::addColumn<QString>("value");
+  QTest::addColumn<QString>("colour"); ///< general setting
+  const auto row = [](const char *name, const char *property, const char *value, const char *colour) {
+    QTest::newRow(name) << QString::fromLatin1(property) << QString::fromLatin1(value) << QString::fromLatin1(colour);
+  };
+  row("pressure", "poutset", "70", "subnet color pressure control");
+  row("flow", "qset", "5", "subnet color flow control");
+  row("unknown aim", "state", "active", "subnet color maybe in control");
+  row("bypass", "state", "bypass", "subnet color bypass");
+  row("off", "state", "off", "subnet color off");
+}
+
+void TestDrawing::subnetsShowHowTheyAreControlled() {
+  QFETCH(QString, property);
+  QFETCH(QString, value);
+  QFETCH(QString, colour);
+  GeneralSettings::instance().setValue(QStringLiteral("show subnet ring colors"), QStringLiteral("SP/SM control"));
+  ViewFixture f;
+  element compressor = makeEdge("Station_C1", "B", "C", "c"); // "main_element" may be a name of the template
+  compressor.set(property, value);
+  f.net.addElement(compressor);
+  element subnet = station();
+  subnet.set(QStringLiteral("main_element"), QStringLiteral("C1"));
+  f.net.addElement(subnet);
+  SubnetState::derive(f.net);
+  f.show();
+  QVERIFY(count(f.picture(), QColor(GeneralSettings::instance().value(colour))) > 40);
 }
 
 void TestDrawing::subnetPins() {

@@ -7,6 +7,8 @@
 #include <view/labelplacement.h>
 #include <view/plotzoom.h>
 
+#include <QTemporaryDir>
+
 #include <random>
 
 class TestLabels : public QObject {
@@ -32,6 +34,12 @@ private slots:
   void visibility_data();
   void visibility();
   void onlySymbolsFollowWhenLabelsAreOff();
+  void numbersBesideEachOtherLookAlike();
+  void richTextTakesTheColourOfTheTable();
+  void richTextOpensNothing();
+  void richTextIsBounded();
+  void everyTypeIsShownAsTheTableSays_data();
+  void everyTypeIsShownAsTheTableSays();
 
 private:
   static LabelCandidate point(const QPointF &place, const QSizeF &size) {
@@ -54,6 +62,13 @@ private:
     for (const Label &label : update.labels())
       boxes.push_back(label.candidate.box(label.spot));
     return boxes;
+  }
+  static int pixels(const QImage &image, const QColor &color) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        count += image.pixelColor(x, y) == color ? 1 : 0;
+    return count;
   }
   static QStringList namesOf(const NetUpdate &update) {
     QStringList names;
@@ -146,7 +161,8 @@ void TestLabels::numbersAsAPersonWritesThem_data() {
   QTest::newRow("thousands in the unit") << 5.2 << QStringLiteral("1000 m3/h") << QStringLiteral("5\u2009200 m³/h");
   QTest::newRow("many digits") << -1234567.8 << QStringLiteral("m") << QStringLiteral("-1\u2009235\u2009000 m");
   QTest::newRow("a number alone may be a name") << 1234567.0 << QString() << QStringLiteral("1\u2009234\u2009567");
-  QTest::newRow("small") << 0.0123456 << QString() << QStringLiteral("0.012");
+  QTest::newRow("small") << 0.0123456 << QString() << QStringLiteral("0.01235");
+  QTest::newRow("smaller") << 0.0003 << QStringLiteral("bar") << QStringLiteral("0.0003 bar");
   QTest::newRow("nothing") << 0.0 << QStringLiteral("bar") << QStringLiteral("0 bar");
   QTest::newRow("nearly nothing") << -1e-12 << QString() << QStringLiteral("-1e-12");
   QTest::newRow("huge") << 1.5e15 << QStringLiteral("W") << QStringLiteral("1.5e+15 W");
@@ -350,6 +366,127 @@ void TestLabels::onlySymbolsFollowWhenLabelsAreOff() {
   f.plot().update().requestPixtest(-1);
   QCOMPARE(f.plot().update().determineVisibleSymbols().size(), std::size_t(1));
   QVERIFY(f.plot().update().labels().empty());
+}
+
+void TestLabels::numbersBesideEachOtherLookAlike() {
+  NetData net;
+  const auto add = [&net](const char *name, const char *p, const char *height) {
+    net.addElement(makeElement({{"name", name}, {"type", "n"}, {"p", p}, {"height", height}}));
+  };
+  add("A", "79.7", "20");
+  add("B", "79.84", "130");
+  add("C", "0.0003", "7");
+  LabelTable table;
+  table.types.front()[LabelRow::Contents] = QStringLiteral("@p<br />@height");
+  const LabelContents contents(table, PlotSettings(), net);
+  const auto lines = [&](const char *name) {
+    return contents.text(*net.element(QString::fromLatin1(name))).lines;
+  };
+  QCOMPARE(lines("A"), QStringList({QStringLiteral("79.70 bar"), QStringLiteral("20 m")}));
+  QCOMPARE(lines("B"), QStringList({QStringLiteral("79.84 bar"), QStringLiteral("130 m")}));
+  QCOMPARE(lines("C"), QStringList({QStringLiteral("0.0003 bar"), QStringLiteral("7 m")}));
+}
+
+void TestLabels::richTextTakesTheColourOfTheTable() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  LabelTable table;
+  const QColor colour(0, 150, 60);
+  table.types.front()[LabelRow::Contents] = QStringLiteral("<b>█████</b>");
+  table.types.front()[LabelRow::Color] = colour.name();
+  f.plot().update().setLabelTable(table);
+  f.plot().update().relabelNow();
+  QVERIFY(pixels(f.picture(), colour) > 100);
+}
+
+void TestLabels::richTextOpensNothing() {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("red.png"));
+  QImage red(60, 60, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  QVERIFY(red.save(path));
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const QStringList attempts{QStringLiteral("<img src=\"%1\"><b>x</b>"), QStringLiteral("<img src=\"file://%1\"><b>x</b>"),
+                             QStringLiteral("<table background=\"%1\"><tr><td>xxxxxxxx</td></tr></table>"),
+                             QStringLiteral("<p style=\"background-image:url(%1)\">xxxxxxxx</p>")};
+  for (const QString &attempt : attempts) {
+    LabelTable table;
+    table.types.front()[LabelRow::Contents] = attempt.arg(path);
+    f.plot().update().setLabelTable(table);
+    f.plot().update().relabelNow();
+    QVERIFY(!f.plot().update().labels().empty());
+    QCOMPARE(pixels(f.picture(), Qt::red), 0);
+    for (const Label &label : f.plot().update().labels())
+      QVERIFY(label.candidate.size.height() < 50);
+  }
+}
+
+void TestLabels::richTextIsBounded() {
+  ViewFixture f;
+  f.plot().resize(1200, 900);
+  f.plot().show();
+  f.show();
+  LabelTable table;
+  const QString lines = QStringLiteral("<b>@name</b><br />").repeated(200);
+  for (const QString &contents : {lines, QStringLiteral("<img src=\"x\" width=\"90000\" height=\"90000\"><b>y</b>"),
+                                  QStringLiteral("<table width=\"90000\"><tr><td>y</td></tr></table>")}) {
+    table.types.front()[LabelRow::Contents] = contents;
+    f.plot().update().setLabelTable(table);
+    f.plot().update().relabelNow();
+    const auto &labels = f.plot().update().labels();
+    const bool isAny =
+        std::any_of(labels.begin(), labels.end(), [](const Label &label) { return label.document != nullptr; });
+    QVERIFY2(isAny, qPrintable(contents.left(60))); // small enough to find a place
+    for (const Label &label : labels)
+      QVERIFY(label.candidate.size.width() <= 500 && label.candidate.size.height() <= 400);
+  }
+}
+
+void TestLabels::everyTypeIsShownAsTheTableSays_data() {
+  QTest::addColumn<QString>("type");
+  QTest::addColumn<QPoint>("place"); ///< plot coordinates, at the middle of what is drawn
+  QTest::newRow("nodes") << QStringLiteral("n") << QPoint(0, 0);
+  QTest::newRow("subnets") << QStringLiteral("sub") << QPoint(60, 70);
+  QTest::newRow("text boxes") << QStringLiteral("t") << QPoint(120, 60);
+  QTest::newRow("compressors") << QStringLiteral("c") << QPoint(200, 50);
+}
+
+void TestLabels::everyTypeIsShownAsTheTableSays() {
+  QFETCH(QString, type);
+  QFETCH(QPoint, place);
+  ViewFixture f;
+  f.add(makeElement({{"name", "S"}, {"type", "sub"}, {"x", "60"}, {"y", "70"}}), {});
+  f.add(makeElement({{"name", "T"}, {"type", "t"}, {"x", "120"}, {"y", "60"}}), {{"text", "██"}});
+  f.net.edges().erase(QStringLiteral("AB")); // no line through the node
+  f.plot().show();
+  const auto ink = [&](const char *show, const char *size) {
+    f.show();
+    LabelTable table;
+    for (LabelRow &row : table.types) {
+      if (row[LabelRow::Short] != type)
+        continue;
+      row[LabelRow::Show] = QString::fromLatin1(show);
+      row[LabelRow::Size] = QString::fromLatin1(size);
+    }
+    f.plot().update().setLabelTable(table);
+    f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
+    const QImage area = f.picture().copy(QRect(f.pixel(place.x(), place.y()) - QPoint(45, 45), QSize(90, 90)));
+    return area.width() * area.height() - pixels(area, Qt::white);
+  };
+  const int shown = ink("on", "");
+  QVERIFY(shown > 10);
+  const int off = ink("off", "");
+  QVERIFY2(off < shown - 10, qPrintable(QStringLiteral("%1 of %2").arg(off).arg(shown)));
+  const QwtFastPlot &area = *f.plot().plot();
+  const QPointF onCanvas(area.transform(QwtPlot::xBottom, place.x()), area.transform(QwtPlot::yLeft, place.y()));
+  for (const Hit &hit : f.plot().update().elementsAt(onCanvas, 1.0)) // what is off is not hit
+    QVERIFY(f.plot().update().geometry().source(hit.item)->value(QStringLiteral("type")) != type ||
+            hit.item.kind == NetData::Edge);
+  const int large = ink("on", "60");
+  QVERIFY2(large > shown + 200, qPrintable(QStringLiteral("%1 after %2").arg(large).arg(shown)));
 }
 
 NIVRA_TEST(TestLabels);

@@ -1,8 +1,11 @@
+#include <support/fulldisk.h>
 #include <support/nivratest.h>
 #include <view/labeltable.h>
 
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 class TestLabelTable : public QObject {
   Q_OBJECT
@@ -12,6 +15,7 @@ private slots:
   void anotherVersionIgnoresMasters();
   void cutAtEveryLine();
   void badFiles();
+  void fullDiskKeepsTheOldFile();
 
 private:
   static LabelTable sample() {
@@ -90,9 +94,29 @@ void TestLabelTable::badFiles() {
   QVERIFY(!LabelTableFile::read(m_folder.path(), read)); // a folder
   QVERIFY(LabelTableFile::read(write(QByteArray(100000, '\xff')), read));
   QVERIFY(read == LabelTable());
+  QCOMPARE(::mkfifo(qPrintable(path("pipe.csv")), 0600), 0);
+  QVERIFY(!LabelTableFile::read(path("pipe.csv"), read)); // nobody writes into it, so it would never end
+  QVERIFY(!LabelTableFile::read(QStringLiteral("/dev/zero"), read));
   QString error;
   QVERIFY(!LabelTableFile::write(QStringLiteral("/nowhere/vfd.csv"), read, &error));
   QVERIFY(error.contains(QStringLiteral("/nowhere/vfd.csv")));
+}
+
+void TestLabelTable::fullDiskKeepsTheOldFile() {
+  const FullDisk disk;
+  if (!disk.isMounted())
+    QSKIP("a small disk cannot be mounted here");
+  const QString file = disk.path(QStringLiteral("vfd.csv"));
+  QVERIFY(LabelTableFile::write(file, sample()));
+  disk.fill();
+  QString error;
+  LabelTable other;
+  other.types.front()[LabelRow::Contents] = QString(5000, QLatin1Char('x'));
+  QVERIFY(!LabelTableFile::write(file, other, &error));
+  QVERIFY(error.contains(file));
+  LabelTable read;
+  QVERIFY(LabelTableFile::read(file, read));
+  QVERIFY(read == sample());
 }
 
 NIVRA_TEST(TestLabelTable);

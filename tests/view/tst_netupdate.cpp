@@ -4,6 +4,9 @@
 #include <view/drawfunctions.h>
 #include <view/networkgraph.h>
 
+#include <QSet>
+#include <qwt_scale_div.h>
+#include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 
 namespace {
@@ -15,6 +18,18 @@ QColor hue(int degrees) {
 bool isNear(const QColor &a, const QColor &b) {
   constexpr int Tolerance = 6;
   return qAbs(a.red() - b.red()) + qAbs(a.green() - b.green()) + qAbs(a.blue() - b.blue()) <= Tolerance;
+}
+
+/// The colours of the bar beside the drawing, from its upper end to its lower, without its frame.
+std::vector<QColor> barColours(ViewFixture &f) {
+  const QwtScaleWidget *scale = f.plot().plot()->axisWidget(QwtPlot::yRight);
+  const QRectF bar = scale->colorBarRect(scale->contentsRect());
+  const QPoint corner = scale->mapTo(&f.plot(), bar.topLeft().toPoint());
+  const QImage picture = f.picture();
+  std::vector<QColor> colours;
+  for (int y = 2; y < static_cast<int>(bar.height()) - 2; ++y)
+    colours.push_back(picture.pixelColor(corner + QPoint(static_cast<int>(bar.width() * 0.5), y)));
+  return colours;
 }
 
 } // namespace
@@ -36,6 +51,13 @@ private slots:
   void textBoxesAreWritten();
   void nothingToDrawIsSaid();
   void firstViewFitsTheMainBody();
+  void constantHasItsOwnColour();
+  void noiseIsOneColour();
+  void ticksTellThemselvesApart();
+  void divergingKeepsFixedBounds();
+  void valuesOfTheEnds();
+  void scalesNameWhatTheyColour();
+  void searchHasNoScale();
   void awkwardPlaces_data();
   void awkwardPlaces();
 };
@@ -138,6 +160,8 @@ void TestNetUpdate::scaleIsInTheDisplayUnit() {
   f.show();
   PlotSettings settings = f.plot().settings();
   settings.colorFunc = QStringLiteral("temperature");
+  settings.nodeColorFunc = settings.colorFunc; // else nodes have a scale of their own on the right
+  settings.absNodeColor = settings.absColor;
   settings.colorScalePos = QwtPlot::xTop;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
@@ -153,6 +177,7 @@ void TestNetUpdate::withoutValuesThereIsNoScale() {
   f.show();
   PlotSettings settings = f.plot().settings();
   settings.colorFunc = QStringLiteral("nobody has this");
+  settings.nodeColorFunc = settings.colorFunc;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
   QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight));
@@ -250,6 +275,160 @@ void TestNetUpdate::firstViewFitsTheMainBody() {
   f.plot().showStragglers();
   QVERIFY(!f.plot().hasStragglers());
   QVERIFY(f.plot().plot()->visibleRect().contains(body) && f.plot().plot()->visibleRect().contains(QPointF(0, 0)));
+}
+
+void TestNetUpdate::constantHasItsOwnColour() {
+  ViewFixture f;
+  for (const char *name : {"A", "B", "C", "D"})
+    f.net.element(QString::fromLatin1(name))->set(QStringLiteral("p"), QStringLiteral("42"));
+  f.plot().show();
+  f.show();
+  PlotSettings settings = f.plot().settings(); // left alone, the program takes what tells elements apart
+  settings.colorFunc = QStringLiteral("p");
+  settings.nodeColorFunc = settings.colorFunc;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  const std::vector<QColor> bar = barColours(f);
+  QVERIFY(bar.size() > 100);
+  for (const QColor &colour : bar)
+    QVERIFY2(isNear(colour, hue(120)), qPrintable(colour.name()));
+  QVERIFY(isNear(f.picture().pixelColor(f.pixel(125, 0)), hue(120)));
+  QCOMPARE(f.plot().plot()->axisScaleDiv(QwtPlot::yRight).ticks(QwtScaleDiv::MajorTick), QList<double>{42.0});
+}
+
+void TestNetUpdate::noiseIsOneColour() {
+  ViewFixture f;
+  const auto press = [&f](const char *a, const char *b, const char *c, const char *d) {
+    const std::pair<const char *, const char *> values[] = {{"A", a}, {"B", b}, {"C", c}, {"D", d}};
+    for (const auto &[name, p] : values)
+      f.net.element(QString::fromLatin1(name))->set(QStringLiteral("p"), QString::fromLatin1(p));
+    f.show();
+    const QImage picture = f.picture();
+    return std::make_pair(picture.pixelColor(f.pixel(25, 0)), picture.pixelColor(f.pixel(125, 0)));
+  };
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("diameter"), QStringLiteral("100")); // AB is broad enough to see
+  auto [ab, bc] = press("69.999993", "69.999995", "70", "69.999999");
+  QCOMPARE(ab, bc);
+  std::tie(ab, bc) = press("69.5", "69.6", "70", "69.9"); // more than a thousandth
+  QVERIFY(ab != bc);
+}
+
+void TestNetUpdate::ticksTellThemselvesApart() {
+  ViewFixture f;
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  const std::pair<double, double> ranges[] = {{69.99, 70.0}, {69.999993, 70.0}, {0.0, 0.0004},
+                                              {-2e-7, 3e-7}, {0, 85},           {1e6, 9e6}};
+  for (const auto &[low, high] : ranges) {
+    settings.minVal_edgeColor = low;
+    settings.maxVal_edgeColor = high;
+    f.plot().setSettings(settings);
+    f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+    const QwtScaleDraw *scale = f.plot().plot()->axisScaleDraw(QwtPlot::yRight);
+    const QList<double> ticks = scale->scaleDiv().ticks(QwtScaleDiv::MajorTick);
+    QVERIFY(ticks.size() > 2);
+    QSet<QString> texts;
+    for (const double tick : ticks) {
+      const QString text = scale->label(tick).text();
+      texts.insert(text);
+      const double step = ticks.at(1) - ticks.at(0);
+      QVERIFY2(qAbs(text.toDouble() - tick) < step * 0.01, qPrintable(text));
+    }
+    QCOMPARE(texts.size(), ticks.size());
+  }
+}
+
+void TestNetUpdate::divergingKeepsFixedBounds() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("diameter"), QStringLiteral("100"));
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.colorRamp = QStringLiteral("diverging");
+  const auto range = [&f, &settings](double low, double high) {
+    settings.minVal_edgeColor = low;
+    settings.maxVal_edgeColor = high;
+    f.plot().setSettings(settings);
+    f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+    return f.plot().plot()->axisInterval(QwtPlot::yRight);
+  };
+  QCOMPARE(range(PlotSettings::OpenMinimum, PlotSettings::OpenMaximum), QwtInterval(-60, 60));
+  QCOMPARE(range(10, 85), QwtInterval(10, 85));
+  const QColor low = f.picture().pixelColor(f.pixel(25, 0)); // 25 bar
+  QVERIFY2(low.blue() > low.red() + 40, qPrintable(low.name()));
+  QCOMPARE(range(PlotSettings::OpenMinimum, 90), QwtInterval(-90, 90));
+}
+
+void TestNetUpdate::valuesOfTheEnds() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("diameter"), QStringLiteral("100")); // AB is broad enough to see
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("q"), QStringLiteral("-5"));         // against its direction
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("pin"), QStringLiteral("41"));       // measured, it counts more
+  for (const auto &[name, t] : {std::make_pair("A", "280"), {"B", "285"}, {"C", "293"}})
+    f.net.element(QString::fromLatin1(name))->set(QStringLiteral("t"), QString::fromLatin1(t));
+  f.show();
+  const auto values = [&f](const char *function) {
+    PlotSettings settings = f.plot().settings();
+    settings.colorFunc = QString::fromLatin1(function);
+    f.plot().setSettings(settings);
+    f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+    return f.plot().update().values().edgeColor().ofElements;
+  };
+  constexpr double None = NetData::NoValue;
+  QCOMPARE(values("input pressure"), (std::vector<double>{20, 40, 41}));
+  QVERIFY(isNear(f.picture().pixelColor(f.pixel(25, 0)), hue(240)));
+  QVERIFY(f.plot().plot()->axisTitle(QwtPlot::yRight).text().contains(QStringLiteral("input pressure [bar]")));
+  QCOMPARE(values("input temperature"), (std::vector<double>{280, 293, 293}));
+  QCOMPARE(values("temperature diff"), (std::vector<double>{-5, -8, None}));
+  QVERIFY(f.plot().plot()->axisEnabled(QwtPlot::yRight));
+}
+
+void TestNetUpdate::scalesNameWhatTheyColour() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  const QwtFastPlot &area = *f.plot().plot();
+  const auto title = [&area](int axis) {
+    return area.axisTitle(axis).text();
+  };
+  QVERIFY(title(QwtPlot::yRight).startsWith(QStringLiteral("edges and nodes: pressure")));
+  QVERIFY(!area.axisEnabled(QwtPlot::xTop));
+
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("height"), QStringLiteral("5"));
+  f.net.element(QStringLiteral("B"))->set(QStringLiteral("height"), QStringLiteral("500"));
+  PlotSettings settings = f.plot().settings();
+  settings.nodeColorFunc = QStringLiteral("height");
+  const auto update = [&f, &settings] {
+    f.plot().setSettings(settings);
+    f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  };
+  update();
+  QVERIFY(title(QwtPlot::yRight).startsWith(QStringLiteral("edges: pressure")));
+  QVERIFY(area.axisEnabled(QwtPlot::xTop) && area.axisWidget(QwtPlot::xTop)->isColorBarEnabled());
+  QVERIFY(title(QwtPlot::xTop).startsWith(QStringLiteral("nodes: height [m]")));
+  QCOMPARE(area.axisInterval(QwtPlot::xTop), QwtInterval(5, 500));
+
+  settings.nodeColorFunc = settings.colorFunc; // bounds of their own: a colour no longer means the same of both
+  settings.maxVal_nodeColor = 30;
+  update();
+  QVERIFY(area.axisEnabled(QwtPlot::xTop) && title(QwtPlot::xTop).startsWith(QStringLiteral("nodes: pressure")));
+
+  f.net.forEach(NetData::Node, [](element &e) { e.erase(QStringLiteral("p")); });
+  settings.legendPos = 1;
+  update();
+  QVERIFY(!area.axisEnabled(QwtPlot::xTop) && !area.axisEnabled(QwtPlot::yRight));
+  QCOMPARE(f.plot().legend().label().text(), QStringLiteral("Width: abs. diameter"));
+}
+
+void TestNetUpdate::searchHasNoScale() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("isSearchResult"), QStringLiteral("1"));
+  f.plot().show();
+  f.show();
+  f.control.setShowsSearchResults(true);
+  QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight));
+  QVERIFY(!f.plot().legend().label().text().contains(QStringLiteral("Color: p")));
+  f.control.setShowsSearchResults(false);
+  QVERIFY(f.plot().plot()->axisEnabled(QwtPlot::yRight));
 }
 
 void TestNetUpdate::awkwardPlaces_data() {

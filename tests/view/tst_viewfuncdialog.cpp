@@ -1,5 +1,6 @@
 #include "viewfixture.h"
 
+#include <base/generalsettings.h>
 #include <support/nivratest.h>
 #include <view/drawrange.h>
 #include <view/labeltableeditor.h>
@@ -9,9 +10,11 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -31,6 +34,14 @@ private slots:
   void invalidRangeAsks();
   void savesBothFiles();
   void templates();
+  void boundsBelongToAFunction();
+  void typedBoundsOfAnybody();
+  void listsOfferWhatTheNetworkHas();
+  void boundOutsideTheDataIsTold();
+  void gridIsShown();
+  void applyingAgainKeepsTheLabels();
+  void oneEditorACell_data();
+  void oneEditorACell();
 
 private:
   template <typename T>
@@ -210,6 +221,198 @@ void TestViewFuncDialog::templates() {
   table->setCurrentCell(types, 0);
   press(dialog, "deleteRow");
   QCOMPARE(table->rowCount(), types);
+}
+
+void TestViewFuncDialog::boundsBelongToAFunction() {
+  const QTemporaryDir folder;
+  ViewFixture f;
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), folder.filePath(QStringLiteral("plotsettings.ini")));
+  auto *function = child<QComboBox>(*row(dialog, 0), "function");
+  auto *minimum = child<QLineEdit>(*row(dialog, 0), "minimum");
+  auto *maximum = child<QLineEdit>(*row(dialog, 0), "maximum");
+  minimum->setText(QStringLiteral("1e1"));
+  maximum->setText(QStringLiteral("85.0"));
+  QVERIFY(
+      child<QLineEdit>(*row(dialog, 2), "minimum")->text().isEmpty()); // node colours also show p, with bounds of their own
+  function->setCurrentText(QStringLiteral("volume flow"));
+  QVERIFY(minimum->text().isEmpty() && maximum->text().isEmpty());
+  press(dialog, "apply");
+  QCOMPARE(f.plot().settings().minVal_edgeColor, PlotSettings::OpenMinimum);
+  QCOMPARE(f.plot().settings().maxVal_edgeColor, PlotSettings::OpenMaximum);
+  maximum->setText(QStringLiteral("3"));
+  press(dialog, "applyAndSave");
+
+  ViewFixture other; // another day
+  other.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
+  viewFuncDialog again(other.plot());
+  QCOMPARE(child<QLineEdit>(*row(again, 0), "maximum")->text(), QStringLiteral("3"));
+  child<QComboBox>(*row(again, 0), "function")->setCurrentText(QStringLiteral("p"));    // by its property
+  QCOMPARE(child<QLineEdit>(*row(again, 0), "minimum")->text(), QStringLiteral("1e1")); // as it was typed
+  QCOMPARE(child<QLineEdit>(*row(again, 0), "maximum")->text(), QStringLiteral("85.0"));
+  press(again, "apply");
+  QCOMPARE(other.plot().settings().minVal_edgeColor, 10.0);
+  QCOMPARE(other.plot().plot()->axisInterval(QwtPlot::yRight), QwtInterval(10, 85));
+  press(again, "resetMinMax");
+  child<QComboBox>(*row(again, 0), "function")->setCurrentText(QStringLiteral("volume flow"));
+  QVERIFY(child<QLineEdit>(*row(again, 0), "maximum")->text().isEmpty());
+}
+
+void TestViewFuncDialog::typedBoundsOfAnybody() {
+  const TypedBounds::OfSettings bounds{
+      {QStringLiteral("colorFunc"),
+       {{QStringLiteral("a;b|c%"), {QStringLiteral("1,5"), QString(), QStringLiteral("m³/h")}}}}};
+  const TypedBounds typed =
+      TypedBounds::read(TypedBounds::written(bounds))[QStringLiteral("colorFunc")].value(QStringLiteral("a;b|c%"));
+  QCOMPARE(typed.minimum, QStringLiteral("1,5"));
+  QCOMPARE(typed.unit, QStringLiteral("m³/h"));
+  ViewFixture f;
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.minVal_edgeColor = 30; // what is typed does not say so
+  settings.typedBounds = QStringLiteral("colorFunc|p|many|9|bar;;|;colorFunc|q|1|2|no unit;%zz|") +
+                         QStringLiteral("nodeColorFunc|p|1|2|bar;").repeated(5000);
+  f.plot().setSettings(settings);
+  viewFuncDialog dialog(f.plot());
+  const auto *minimum = child<QLineEdit>(*row(dialog, 0), "minimum");
+  QCOMPARE(minimum->text(), QStringLiteral("30"));
+  QVERIFY(child<QLineEdit>(*row(dialog, 0), "maximum")->text().isEmpty());
+  child<QComboBox>(*row(dialog, 0), "function")->setCurrentText(QStringLiteral("q"));
+  QVERIFY(minimum->text().isEmpty()); // in a unit that does not fit
+}
+
+void TestViewFuncDialog::listsOfferWhatTheNetworkHas() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("v"), QStringLiteral("2"));
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("v"), QStringLiteral("8"));
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("power"), QStringLiteral("17.5"));
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("reserve"), QStringLiteral("4")); // as by a formula
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("alias"), QStringLiteral("12")); // a name, though of digits
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  dialog.show();
+  const auto offered = [&dialog](int number) {
+    const auto *box = child<QComboBox>(*row(dialog, number), "function");
+    QStringList names;
+    for (int i = number == 3 ? 16 : 15; i < box->count(); ++i)
+      names.append(box->itemText(i));
+    return names;
+  };
+  QCOMPARE(offered(0), QStringList({QStringLiteral("power"), QStringLiteral("reserve"), QStringLiteral("v")}));
+  QCOMPARE(offered(1), offered(0));
+  QCOMPARE(offered(2), QStringList({QStringLiteral("reserve")}));
+  QCOMPARE(offered(3), offered(2));
+  child<QComboBox>(*row(dialog, 0), "function")->setCurrentText(QStringLiteral("v"));
+  press(dialog, "apply");
+  QVERIFY(f.plot().plot()->axisTitle(QwtPlot::yRight).text().contains(QStringLiteral("velocity [m/s]")));
+  const QImage picture = f.picture();
+  QCOMPARE(picture.pixelColor(f.pixel(25, 0)).hsvHue(), 240);
+  QVERIFY(picture.pixelColor(f.pixel(125, 0)).hsvHue() <= 0);
+}
+
+void TestViewFuncDialog::boundOutsideTheDataIsTold() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("diameter"), QStringLiteral("100"));
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  auto *minimum = child<QLineEdit>(*row(dialog, 0), "minimum");
+  minimum->setText(QStringLiteral("100"));
+  press(dialog, "apply");
+  const auto *note = child<QLabel>(*row(dialog, 0), "note");
+  QVERIFY2(note->text().contains(QStringLiteral("above all values")) &&
+               note->text().contains(QStringLiteral("20 to 60 bar")),
+           qPrintable(note->text()));
+  QVERIFY(!note->isHidden());
+  QCOMPARE(minimum->text(), QStringLiteral("100")); // and it holds:
+  QCOMPARE(f.plot().settings().minVal_edgeColor, 100.0);
+  QVERIFY(f.plot().plot()->axisInterval(QwtPlot::yRight).maxValue() > 100);
+  const QColor beyond = QColor::fromHsv(240, 255, 215).darker(160);
+  const QColor drawn = f.picture().pixelColor(f.pixel(25, 0));
+  QVERIFY2(qAbs(drawn.blue() - beyond.blue()) < 8 && drawn.red() < 8, qPrintable(drawn.name()));
+}
+
+void TestViewFuncDialog::gridIsShown() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  const auto count = [&f](const QColor &color) {
+    const QImage picture = f.picture();
+    int pixels = 0;
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x)
+        pixels += picture.pixelColor(x, y) == color ? 1 : 0;
+    return pixels;
+  };
+  const QColor major(1, 120, 3);
+  const QColor minor(200, 4, 180);
+  child<QPushButton>(dialog, "gridMajorColor")->setText(major.name());
+  child<QPushButton>(dialog, "gridMinorColor")->setText(minor.name());
+  press(dialog, "apply");
+  QCOMPARE(count(major) + count(minor), 0);
+  child<QCheckBox>(dialog, "showGrid")->setChecked(true);
+  press(dialog, "apply");
+  QVERIFY(count(major) > 200);
+  QVERIFY(count(minor) > 200);
+}
+
+void TestViewFuncDialog::applyingAgainKeepsTheLabels() {
+  GeneralSettings::instance().setValue(QStringLiteral("perform label placement"), QStringLiteral("always"));
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  QTRY_VERIFY(f.plot().update().labels().size() >= 2); // although the empty window before asked for labels as well
+  const std::size_t before = f.plot().update().labels().size();
+  press(dialog, "apply");
+  press(dialog, "apply");
+  QCOMPARE(f.plot().update().labels().size(), before);
+  child<QComboBox>(dialog, "label_mode")->setCurrentText(QStringLiteral("no label"));
+  press(dialog, "apply");
+  QVERIFY(f.plot().update().labels().empty());
+  child<QComboBox>(dialog, "label_mode")->setCurrentText(QStringLiteral("name only"));
+  press(dialog, "apply");
+  QVERIFY(f.plot().update().labels().size() >= before);
+  GeneralSettings::instance().reset();
+}
+
+void TestViewFuncDialog::oneEditorACell_data() {
+  QTest::addColumn<int>("column");
+  QTest::addColumn<bool>("isDialog");
+  QTest::newRow("size") << int(LabelRow::Size) << false;
+  QTest::newRow("show") << int(LabelRow::Show) << true;
+  QTest::newRow("contents") << int(LabelRow::Contents) << true;
+}
+
+void TestViewFuncDialog::oneEditorACell() {
+  QFETCH(int, column);
+  QFETCH(bool, isDialog);
+  ViewFixture f;
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  dialog.resize(1000, 600);
+  dialog.show();
+  dialog.activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(&dialog));
+  child<QTabWidget>(dialog, "tabs")->setCurrentWidget(child<QWidget>(dialog, "labelsPage"));
+  auto *table = child<QTableWidget>(dialog, "labelTable");
+  table->scrollToItem(table->item(0, column));
+  bool wasDialog = false;
+  QTimer::singleShot(0, [&wasDialog] {
+    if (QWidget *modal = QApplication::activeModalWidget()) {
+      wasDialog = true;
+      modal->close();
+    }
+  });
+  const QPoint place = table->visualItemRect(table->item(0, column)).center();
+  QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  QCOMPARE(wasDialog, isDialog);
+  int editors = 0;
+  for (const QLineEdit *editor : table->viewport()->findChildren<QLineEdit *>())
+    editors += editor->isVisible() ? 1 : 0;
+  QCOMPARE(editors, isDialog ? 0 : 1);
 }
 
 NIVRA_TEST(TestViewFuncDialog);

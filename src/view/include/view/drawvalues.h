@@ -1,5 +1,6 @@
 #pragma once
 
+#include <view/drawfunctions.h>
 #include <view/netgeometry.h>
 #include <view/plotsettings.h>
 
@@ -9,9 +10,13 @@
 class DrawValues {
 public:
   struct Column {
+    DrawFunction function;
     std::vector<double> ofElements; ///< one an element, NetData::NoValue where there is none
     QwtInterval data;               ///< of the values; invalid without any
-    QwtInterval range;              ///< as drawn: fixed bounds where there are some
+    /// As drawn: fixed bounds where there are some. Values that differ by less than 0.1 % are one: then it has no width.
+    QwtInterval range;
+
+    bool isAny() const { return range.isValid(); }
   };
 
   /// Reads the values, and on rebuild the geometry as well.
@@ -23,15 +28,17 @@ public:
   const Column &nodeSize() const { return m_nodeSize; }
   const std::vector<double> &flow() const { return m_flow; } ///< of edges, positive from the first to the second node
   const std::vector<double> &flowSize() const { return m_flowSize; } ///< the same without sign
-  /// The node colour function is one of nodes; otherwise nodes have plain colours.
-  bool colorsNodes() const { return m_colorsNodes; }
+  /// The node colour function says something of nodes; otherwise nodes have plain colours.
+  bool colorsNodes() const { return m_nodeColor.isAny(); }
 
 private:
+  void compute(const NetGeometry &geometry, const PlotSettings &settings, NetGeometry::Values &values) const;
+  void take(NetGeometry::Values &values, const PlotSettings &settings);
+
   Column m_edgeColor;
   Column m_edgeWidth;
   Column m_nodeColor;
   Column m_nodeSize;
   std::vector<double> m_flow;
   std::vector<double> m_flowSize;
-  bool m_colorsNodes = false;
 };

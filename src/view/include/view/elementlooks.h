@@ -11,17 +11,18 @@
 /// use have colours of their own.
 class ElementLooks {
 public:
-  ElementLooks(const NetData &net, const NetGeometry &geometry, const DrawValues &values, const PlotSettings &settings,
-               const LayerFilter &layers)
-      : m_net(net)
-      , m_geometry(geometry)
+  /// \param nodeSize px, of a node that no function makes smaller or larger
+  ElementLooks(const NetGeometry &geometry, const DrawValues &values, const PlotSettings &settings,
+               const LayerFilter &layers, double nodeSize)
+      : m_geometry(geometry)
       , m_values(values)
       , m_settings(settings)
-      , m_layers(layers) {}
+      , m_layers(layers)
+      , m_nodeSize(nodeSize) {}
 
   /// One an edge of the geometry.
   std::vector<EdgeLook> edges() const;
-  /// One a node. \param byFunction in the colours of the node colour function, if it is one of nodes
+  /// One a node. \param byFunction in the colours of the node colour function, if it says something of nodes
   std::vector<NodeLook> nodes(bool byFunction) const;
   /// What a search found ("isSearchResult") stands out from the rest.
   std::vector<EdgeLook> searchedEdges() const;
@@ -34,9 +35,9 @@ private:
   void hide(NetData::EleType kind, std::vector<Look> &looks) const;
   std::vector<bool> searchResults(NetData::EleType kind) const;
 
-  const NetData &m_net;
   const NetGeometry &m_geometry;
   const DrawValues &m_values;
   const PlotSettings &m_settings;
   const LayerFilter &m_layers;
+  double m_nodeSize;
 };

@@ -1,16 +1,19 @@
 #pragma once
 
 #include <model/units.h>
+#include <view/typedbounds.h>
 
 #include <QGroupBox>
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
 class FunctionRow;
 }
 
-/// One draw function in the dialog: which one, its bounds in the display unit, absolute values and logarithmic scale.
+/// One draw function in the dialog: which one, its bounds in the display unit, absolute values and logarithmic scale. Each
+/// function keeps bounds of its own, as they were typed: another function comes with its own or with open ones.
 class FunctionRow : public QGroupBox {
   Q_OBJECT
 public:
@@ -22,28 +25,43 @@ public:
     bool absolute = false;
     bool logarithmic = false;
   };
+  struct Unit {
+    QString name; ///< empty for plain numbers
+    Units::Linear toDisplay;
+  };
+  using UnitOf = std::function<Unit(const QString &function)>;
 
-  FunctionRow(const QString &title, const QString &absoluteTip, const QStringList &functions, QWidget *parent = nullptr);
+  /// \param unitOf tells the unit in which people read a function
+  FunctionRow(const QString &title, const QString &absoluteTip, UnitOf unitOf, QWidget *parent = nullptr);
   ~FunctionRow() override;
 
-  /// Shows the values; the "Reset" buttons come back to them.
-  void setValues(const Values &values);
+  /// The names that are offered. \param described what stands behind those of them that say little by themselves
+  void setChoices(const QStringList &names, const QHash<QString, QString> &described);
+  /// Shows the values; the "Reset" buttons come back to them. \param typed what was typed for the functions of this row
+  void setValues(const Values &values, const TypedBounds::OfFunctions &typed);
   Values values() const;
+  /// What is typed for the functions of this row now.
+  TypedBounds::OfFunctions typedBounds() const;
   void takeBoundsFromData();
-  /// The unit in which the bounds are shown; what is typed stays the same number.
-  void setUnit(const QString &unit, const Units::Linear &toDisplay);
+  /// The same for every function of this row.
+  void forgetBounds();
   /// Says what is wrong with the bounds as they stand, empty when nothing is: a text that is no number.
   QString fault() const;
-
-signals:
-  void functionChanged(const QString &function);
+  /// Something to know about the bounds that are applied; it goes once another function is chosen.
+  void setNote(const QString &text);
 
 private:
-  QString shown(double bound, double open) const;
+  void changeFunction(const QString &function);
+  TypedBounds shownBounds() const;
+  void show(const TypedBounds &bounds);
+  TypedBounds inUnit(const TypedBounds &typed) const;
+  QString written(double bound, double open, const QString &typed) const;
   double stored(const QString &text, double open) const;
-  void showBounds();
 
   std::unique_ptr<Ui::FunctionRow> m_ui;
-  Values m_stored;
-  Units::Linear m_toDisplay;
+  UnitOf m_unitOf;
+  Unit m_unit;                        ///< of the function that is shown
+  QString m_function;                 ///< that is shown, as TypedBounds::key() has it
+  TypedBounds::OfFunctions m_typed;   ///< of the other functions
+  TypedBounds::OfFunctions m_applied; ///< what "Reset" comes back to
 };

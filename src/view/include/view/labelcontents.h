@@ -11,6 +11,7 @@
 #include <QHash>
 
 #include <memory>
+#include <optional>
 
 /// How a label's box looks.
 struct LabelStyle {
@@ -30,7 +31,7 @@ struct LabelText {
 
 /// Makes the texts of labels: the name alone, or what the label table says of the element's type. There, "@property"
 /// stands for a value in the unit in which people read it, and "@{formula}" for what a formula says, in which a bare name is
-/// a property of the element; a line whose place-holders all lack a value is left out.
+/// a property of the element; a line whose place-holders all lack a value is left out. It lives on one thread.
 class LabelContents {
 public:
   LabelContents(const LabelTable &table, const PlotSettings &settings, const NetData &net);
@@ -38,9 +39,13 @@ public:
   bool isOff() const { return m_mode == Mode::None; }
   LabelText text(const element &source) const;
   LabelStyle style(const element &source, NetData::EleType kind) const;
+  /// The lines of a text box, without marks: what the table says, else its "text". Not a matter of the label mode.
+  QStringList textOfBox(const element &box) const;
 
-  /// As a person would write it: about four digits, thousands set apart, "5 200 m³/h" for 5.2 of "1000 m3/h".
-  static QString formatted(double value, const QString &unit);
+  /// As a person would write it: four digits, thousands set apart, "5 200 m³/h" for 5.2 of "1000 m3/h".
+  /// \param decimals to write at most, with their zeros, so that numbers beside each other look alike; negative for as many
+  /// as the value needs
+  static QString formatted(double value, const QString &unit, int decimals = -1);
 
 private:
   enum class Mode { None, Name, Selected };
@@ -51,6 +56,7 @@ private:
     Units::Linear toDisplay;
     QString unit;
     bool isPlaceHolder = false;
+    mutable std::optional<int> decimals; ///< of the values of this network, once asked for
   };
   using Line = std::vector<Part>;
   struct Type {
@@ -63,14 +69,17 @@ private:
   Line lineOf(const QString &text, const QString &type) const;
   Part valueOf(const QString &property, const QString &type) const;
   std::shared_ptr<Formula> formulaOf(const QString &text) const;
-  static QString shownValue(const Part &part, const element &source);
-  static QString filled(const Line &line, const element &source, bool isHtml);
+  QString shownValue(const Part &part, const element &source) const;
+  QString filled(const Line &line, const element &source, bool isHtml) const;
+  int decimalsOf(const Part &part, const element &like) const;
   const Type *find(const element &source) const;
+  const LabelStyle &styleOf(NetData::EleType kind) const;
 
   const NetData &m_net;
   Mode m_mode = Mode::None;
   LabelStyle m_nodeStyle;
   LabelStyle m_edgeStyle;
+  LabelStyle m_boxStyle;        ///< of text boxes, which have no ground of their own
   QHash<QString, Type> m_types; ///< by type code
   bool m_hasOwnStyles = false;  ///< some element of some network says how its label looks
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/fileaccess.h>
+
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
@@ -43,7 +45,7 @@ QString version();
 
 /// Overwrites the rows of the table as far as the file goes; what is wrong with it is logged. False when there is no such
 /// file or it cannot be opened.
-bool read(const QString &path, LabelTable &table);
+bool read(const QString &path, LabelTable &table, FileAccess::Source source = FileAccess::Source::Workspace);
 /// Whole or not at all; false with the reason.
 bool write(const QString &path, const LabelTable &table, QString *error = nullptr);
 

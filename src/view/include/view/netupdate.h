@@ -46,8 +46,10 @@ public:
 
   /// \param rebuild looks up anew which elements there are and where they lie
   /// \param which whose colours, widths and sizes are made anew
-  /// \param relabel asks for new labels
+  /// \param relabel asks for new labels: those that stand are placed anew at once, others with the next pass
   void updatePlot(bool rebuild, Which which, bool relabel);
+  /// What the legend says of the functions as they are drawn.
+  QString legendText() const;
 
   /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
   /// they are negative.
@@ -77,6 +79,10 @@ private:
   void runPixtest(Pixtest::Labels labels);
   void placeLabels();
   ElementLooks looks() const;
+  ColorScale::Subject coloured() const;
+  /// The size that the label table gives a type, px.
+  double sizeOf(const char *type, double otherwise) const;
+  void showWhatIsVisible();
   void updateSymbols(bool rebuild);
 
   NetPlot &m_plot;
@@ -95,5 +101,6 @@ private:
   TextBoxLayer m_textBoxes;
   LabelLayer m_labels;
   std::vector<NetGeometry::Item> m_unplaced;
+  bool m_hasPlacedLabels = false; ///< for this view; those that stand may be none
   Pixtest m_pixtest;
 };

@@ -3,6 +3,7 @@
 #include <view/layergeometry.h>
 #include <view/netgeometry.h>
 #include <view/spatialindex.h>
+#include <view/visibilityrules.h>
 
 #include <qwt_plot_item.h>
 
@@ -23,6 +24,8 @@ public:
   void setNodes(const NetGeometry &geometry);
   /// One look a node of the geometry, in its order.
   void setLooks(const std::vector<NodeLook> &looks);
+  /// Nodes that are off are not drawn.
+  void setVisibility(const VisibilityRules &rules);
   void clear();
 
   int rtti() const override { return Rtti_PlotUserItem + 2; }
@@ -37,7 +40,7 @@ public:
       for (int i = first; i < last; ++i) {
         const Record &record = m_records[static_cast<std::size_t>(i)];
         const QPointF center = projection.map(record.x, record.y);
-        if (!record.look.isHidden && projection.canvas().contains(center))
+        if (record.isDrawn() && projection.canvas().contains(center))
           visit(record.node, center, sizeOf(record));
       }
     });
@@ -50,6 +53,9 @@ private:
     int node = 0; ///< position in the geometry
     NetGeometry::NodeShape shape = NetGeometry::NodeShape::Junction;
     NodeLook look;
+    bool isOff = false;
+
+    bool isDrawn() const { return !look.isHidden && !isOff; }
   };
   struct VisibleNode {
     QPointF center;

@@ -24,6 +24,8 @@ public:
   void requestPixtest(int delay, bool quick);
   void setSuspended(bool suspended) { m_isSuspended = suspended; }
   bool isSuspended() const { return m_isSuspended; }
+  /// Of another network: its labels do not keep those to come waiting.
+  void forgetPlacement() { m_lastPlacement = -1; }
   /// A test is waiting for its time.
   bool isPending() const { return m_withLabels.isActive() || m_withoutLabels.isActive(); }
 

@@ -72,6 +72,8 @@ struct PlotSettings {
   int colorClasses = 0;          ///< number of classes of the edge colours; 0 or 1 for a continuous scale
   QString classMethod = equalClasses();
   QString classBreaks; ///< breaks of the user's own in the display unit, ascending, joined by ";"
+  QString typedBounds; ///< the bounds of all draw functions as a person typed them, see TypedBounds
+  bool showGrid = false;
 
   /// Takes over the zoom limits of another record, which belong to the network rather than to its drawing.
   void takeZoomLimits(const PlotSettings &other);

@@ -4,6 +4,7 @@
 #include <view/layergeometry.h>
 #include <view/netgeometry.h>
 #include <view/stationsymbols.h>
+#include <view/visibilityrules.h>
 
 #include <QColor>
 #include <qwt_plot_item.h>
@@ -16,13 +17,16 @@ public:
 
   void setTable(const SymbolTable &table);
   void setSubnets(const NetGeometry &geometry);
-  /// \param size px, of a box that says nothing of its size
+  /// \param size px, of the box of a subnet that says nothing of its own
   /// \param alpha opacity of the ground, 0 to 255
   void setLook(double size, int alpha);
   void clear() { m_records.clear(); }
 
-  /// What is hidden by its layer is not drawn. It must live as long as this layer.
-  void setFilter(const LayerFilter *layers) { m_layers = layers; }
+  /// What is hidden by its layer, or off, is not drawn. Both must live as long as this layer.
+  void setFilter(const LayerFilter *layers, const VisibilityRules *visibility) {
+    m_layers = layers;
+    m_visibility = visibility;
+  }
 
   int rtti() const override { return Rtti_PlotUserItem + 5; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
@@ -49,7 +53,9 @@ private:
   };
 
   bool isHidden(std::size_t subnet) const {
-    return m_layers != nullptr && m_layers->isHidden({NetData::AssembledSubnet, static_cast<int>(subnet)});
+    const NetGeometry::Item item{NetData::AssembledSubnet, static_cast<int>(subnet)};
+    return (m_layers != nullptr && m_layers->isHidden(item)) ||
+           (m_visibility != nullptr && m_visibility->of(item) == VisibilityRules::State::Off);
   }
   double sizeOf(const Record &record, const Projection &projection) const;
   void drawPins(QPainter &painter, const Record &record, const QRectF &box, const Projection &projection) const;
@@ -57,6 +63,7 @@ private:
   mutable StationSymbols m_symbols; ///< a cache of pixmaps
   std::vector<Record> m_records;    ///< as in the geometry
   const LayerFilter *m_layers = nullptr;
+  const VisibilityRules *m_visibility = nullptr;
   double m_size = 32.0;
   int m_alpha = 100;
   double m_penWidth = 3.0;

@@ -1,25 +1,31 @@
 #pragma once
 
+#include <view/labelcontents.h>
 #include <view/layerfilter.h>
 #include <view/layergeometry.h>
 #include <view/netgeometry.h>
+#include <view/visibilityrules.h>
 
 #include <QColor>
-#include <QFont>
 #include <qwt_plot_item.h>
 
-/// The text boxes of the network as one plot item: their text at their place, with a halo that keeps it readable.
+/// The text boxes of the network as one plot item: their text at their place, on a ground where they have one, else with a
+/// halo that keeps it readable.
 class TextBoxLayer : public QwtPlotItem {
 public:
   TextBoxLayer();
 
-  /// \param color, font for boxes that say nothing of theirs
-  void setTextBoxes(const NetGeometry &geometry, const QColor &color, const QFont &font);
+  /// \param contents what the boxes say and how they look
+  /// \param size px, of the letters of boxes without a font of their own; 0 for that of the contents
+  void setTextBoxes(const NetGeometry &geometry, const LabelContents &contents, double size);
   void setBackground(const QColor &background) { m_background = background; } ///< what the halo is made of
   void clear() { m_records.clear(); }
 
-  /// What is hidden by its layer is not drawn. It must live as long as this layer.
-  void setFilter(const LayerFilter *layers) { m_layers = layers; }
+  /// What is hidden by its layer, or off, is not drawn. Both must live as long as this layer.
+  void setFilter(const LayerFilter *layers, const VisibilityRules *visibility) {
+    m_layers = layers;
+    m_visibility = visibility;
+  }
 
   int rtti() const override { return Rtti_PlotUserItem + 4; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
@@ -33,9 +39,8 @@ private:
   struct Record {
     double x = 0.0;
     double y = 0.0;
-    QString text;
-    QFont font;
-    QColor color;
+    QStringList lines;
+    LabelStyle style;
     int textBox = 0; ///< position in the geometry
     QSizeF size;     ///< px, on a screen
   };
@@ -45,8 +50,10 @@ private:
   };
 
   std::vector<Placed> place(const Projection &projection) const;
+  bool isHidden(const Record &record) const;
 
   const LayerFilter *m_layers = nullptr;
+  const VisibilityRules *m_visibility = nullptr;
   std::vector<Record> m_records;
   QColor m_background = Qt::white;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <view/drawvalues.h>
 #include <view/functionrow.h>
 #include <view/plotsettings.h>
 
@@ -41,6 +42,9 @@ public slots:
   void on_applyTemplate_clicked();
   void on_deleteRow_clicked();
 
+protected:
+  void showEvent(QShowEvent *event) override;
+
 private:
   enum Row { EdgeColor, EdgeWidth, NodeColor, NodeSize, Rows };
   struct ColorButton {
@@ -53,7 +57,10 @@ private:
   bool takeBounds(const FunctionRow &row, FunctionRow::Values &values);
   void takeForm(PlotSettings &settings) const;
   void showForm(const PlotSettings &settings);
-  void showUnit(Row row);
+  FunctionRow::Unit unitOf(const QString &function) const;
+  static QString noteOn(const DrawValues::Column &values, double minimum, double maximum);
+  void showNotes(const PlotSettings &settings);
+  void offerFunctions();
   void fillChoices();
   void setUpColors();
 

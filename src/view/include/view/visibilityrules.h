@@ -20,6 +20,8 @@ public:
   bool setExtent(double extent);
 
   State of(NetGeometry::Item item) const;
+  /// Something may be off, or a symbol alone.
+  bool isAny() const { return !m_items.isEmpty() || !m_types.isEmpty(); }
 
 private:
   struct Rule {

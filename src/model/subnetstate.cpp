@@ -1,0 +1,69 @@
+#include <model/subnetstate.h>
+
+namespace {
+
+bool hasNumber(const element &e, const char *property) {
+  return NetData::number(e.find(PropertyKey::find(property))) != NetData::NoValue;
+}
+
+bool isStation(const element &e) {
+  const QString type = e.value(QStringLiteral("type"));
+  return type == QLatin1String("c") || type == QLatin1String("r");
+}
+
+const element *mainElement(const NetData &net, const element &subnet) {
+  const QString name = subnet.value(QStringLiteral("main_element"));
+  if (!name.isEmpty()) {
+    for (const QString &candidate : {name, subnet.value(QStringLiteral("name")) + QLatin1Char('_') + name}) {
+      if (const element *found = net.element(candidate))
+        return found;
+    }
+  }
+  for (const QString &inner : subnet.value(QStringLiteral("elements")).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+    const element *found = net.element(inner);
+    if (found != nullptr && isStation(*found))
+      return found;
+  }
+  return nullptr;
+}
+
+/// A station without a state works.
+bool saysAtWork(const QString &state) {
+  static const QStringList words{QString(), QStringLiteral("active"), QStringLiteral("on"), QStringLiteral("open"),
+                                 QStringLiteral("1")};
+  return words.contains(state.toLower());
+}
+
+/// What a station at work holds, by its word for it, else by the set points that it has.
+QString controlOf(const element &station) {
+  const QString control = station.value(QStringLiteral("control")).trimmed().toLower();
+  const bool holdsPressure = hasNumber(station, "poutset") || hasNumber(station, "pinset") || hasNumber(station, "pset");
+  const bool holdsFlow = hasNumber(station, "qset") || hasNumber(station, "mset");
+  if (control.startsWith(QLatin1Char('p')) || (control.isEmpty() && holdsPressure && !holdsFlow))
+    return QStringLiteral("pressure control");
+  if (control.startsWith(QLatin1Char('q')) || control.startsWith(QLatin1Char('m')) ||
+      control.contains(QLatin1String("flow")) || (control.isEmpty() && holdsFlow && !holdsPressure))
+    return QStringLiteral("flow control");
+  return QStringLiteral("maybe in control");
+}
+
+} // namespace
+
+QString SubnetState::of(const NetData &net, const element &subnet) {
+  const element *main = mainElement(net, subnet);
+  if (main == nullptr)
+    return QString();
+  const QString state = main->value(QStringLiteral("state")).trimmed();
+  return isStation(*main) && saysAtWork(state) ? controlOf(*main) : state;
+}
+
+void SubnetState::derive(NetData &net) {
+  static const PropertyKey key = PropertyKey::intern("substate");
+  net.forEach(NetData::AssembledSubnet, [&net](element &subnet) {
+    if (subnet.find(key) != nullptr)
+      return;
+    const QString state = of(net, subnet);
+    if (!state.isEmpty())
+      subnet.set(key, PropertyText(state));
+  });
+}
