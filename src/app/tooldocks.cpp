@@ -175,10 +175,7 @@ void ToolDocks::createLayers() {
 }
 
 void ToolDocks::applyLayers() {
-  NetUpdate &update = m_control.plot()->update();
-  update.setHiddenLayers(m_layers->layers().property(), m_layers->layers().hidden());
-  update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
-  update.requestPixtest(0);
+  m_control.setHiddenLayers(m_layers->layers().property(), m_layers->layers().hidden());
 }
 
 void ToolDocks::createCategories() {
@@ -261,6 +258,7 @@ void ToolDocks::createElement() {
   addDock(infoDock, QStringLiteral("elementInformation"), Qt::RightDockWidgetArea);
   m_propViewer = new NivraPropViewer(m_net, &m_window);
   addDock(m_propViewer, QStringLiteral("propertyViewer"), Qt::RightDockWidgetArea);
+  connect(&m_control, &NetVisControl::editPropertiesRequested, this, &ToolDocks::showProperties);
   connect(m_control.picker(), &NetPicker::hovered, this, [this](const QString &name) {
     if (!name.isEmpty() && m_net.selection().isEmpty()) // what was picked stays until something else is
       showElement(name);
@@ -297,6 +295,20 @@ void ToolDocks::showInfo(const QString &name) {
   m_propViewer->show();
   m_propViewer->raise();
   showElement(name);
+}
+
+void ToolDocks::showProperties(const QStringList &names) {
+  if (names.isEmpty())
+    return;
+  if (names.size() > 1) { // the viewer shows one at a time; the others are told by the selection
+    Selection selection;
+    for (const QString &name : names)
+      Topology::select(m_net, name, selection);
+    m_control.picker()->setSelection(selection);
+  }
+  m_propViewer->show();
+  m_propViewer->raise();
+  m_propViewer->showCurrentEleContents(m_net.element(names.first()));
 }
 
 void ToolDocks::createSearch() {

@@ -33,6 +33,7 @@ NetVisControl::~NetVisControl() {
 }
 
 void NetVisControl::clear() {
+  m_picker->reset();
   m_plot->selection().setGeometry(nullptr);
   m_plot->update().setNetData(nullptr);
   m_plot->plot()->replot();
@@ -50,6 +51,7 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   const QString folder = QFileInfo(plotSettingsPath).path();
   LabelTable labels;
   LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels);
+  m_picker->reset();
   m_plot->update().setNetData(&m_net);
   m_plot->update().setFolder(folder, m_subnetIcons);
   m_plot->update().setLabelTable(labels);
@@ -86,6 +88,15 @@ void NetVisControl::setShowsSearchResults(bool shows) {
 
 bool NetVisControl::showsSearchResults() const {
   return m_plot->update().displayMode() == NetUpdate::DisplayMode::SearchResults;
+}
+
+void NetVisControl::setHiddenLayers(const QString &property, const QSet<QString> &hidden) {
+  NetUpdate &update = m_plot->update();
+  if (property == layers().property() && hidden == layers().hidden())
+    return;
+  update.setHiddenLayers(property, hidden);
+  update.requestUpdate();
+  emit layersChanged();
 }
 
 void NetVisControl::refreshSearchResults() {

@@ -46,6 +46,12 @@ QStringList firstOf(const Selection &selection, int most) {
   return QStringList(names.begin(), end);
 }
 
+/// The element's name and what it is.
+QString withType(const element &e) {
+  const ElementType *type = ElementTypes::byCode(e.value(QStringLiteral("type")));
+  return menuText(e.value(QStringLiteral("name")) + QLatin1Char('\t') + (type == nullptr ? QString() : type->longName));
+}
+
 /// Types of elements that have machine data.
 const QRegularExpression &withCharacteristics() {
   static const QRegularExpression types(QStringLiteral("^c$|^d$"));
@@ -75,6 +81,7 @@ void PlotMenu::fill(QMenu &contextMenu) const {
   addSelection(contextMenu);
   addSubnet(contextMenu);
   addCharacteristics(contextMenu);
+  addMachinesHere(contextMenu);
   addTrace(contextMenu);
   contextMenu.addAction(m_control.picker()->selectAllAction());
   contextMenu.addSeparator();
@@ -93,7 +100,7 @@ void PlotMenu::fill(QMenu &contextMenu) const {
 }
 
 void PlotMenu::addCrowd(QMenu &contextMenu) const {
-  const std::vector<NetGeometry::Item> items = m_control.picker()->itemsAt(m_control.plot()->menuPosition());
+  const std::vector<NetGeometry::Item> items = m_control.picker()->pressedItems();
   if (items.size() < 2)
     return;
   QMenu *crowd = contextMenu.addMenu(tr("Select here (%1)").arg(items.size()));
@@ -102,11 +109,8 @@ void PlotMenu::addCrowd(QMenu &contextMenu) const {
   for (const NetGeometry::Item item : items) {
     if (++count > MostEntries)
       break;
-    const element &source = *geometry.source(item);
-    const ElementType *type = ElementTypes::byCode(source.value(QStringLiteral("type")));
-    const QString text = source.value(QStringLiteral("name")) + QStringLiteral("\t") + (type ? type->longName : QString());
     NetPicker *picker = m_control.picker();
-    QObject::connect(crowd->addAction(menuText(text)), &QAction::triggered, picker,
+    QObject::connect(crowd->addAction(withType(*geometry.source(item))), &QAction::triggered, picker,
                      [picker, item] { picker->choose(item); });
   }
 }
@@ -115,7 +119,9 @@ void PlotMenu::addSelection(QMenu &contextMenu) const {
   const QStringList names = firstOf(m_control.net().selection(), MostEntries);
   QMenu *show = contextMenu.addMenu(tr("Show"));
   QMenu *info = contextMenu.addMenu(tr("Show Info"));
+  QMenu *edit = contextMenu.addMenu(tr("Edit Properties of"));
   show->setEnabled(!names.isEmpty());
+  edit->setEnabled(!names.isEmpty() && m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::editPropertiesRequested)));
   info->setEnabled(!names.isEmpty() && m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::elementAction)));
   for (const QString &name : names) {
     NetVisControl *control = &m_control;
@@ -123,6 +129,8 @@ void PlotMenu::addSelection(QMenu &contextMenu) const {
                      [control, name] { control->showElement(name); });
     QObject::connect(info->addAction(menuText(name)), &QAction::triggered, control,
                      [control, name] { emit control->elementAction(name, NetPicker::EleAction::ShowInfo); });
+    QObject::connect(edit->addAction(menuText(name)), &QAction::triggered, control,
+                     [control, name] { emit control->editPropertiesRequested({name}); });
   }
 }
 
@@ -134,8 +142,7 @@ void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
   Selection::Names machines;
   for (const Selection::Names *kind : {&selection.nodes, &selection.edges}) {
     for (const QString &name : *kind) {
-      const element *e = m_control.net().element(name);
-      if (e != nullptr && withCharacteristics().match(e->value(QStringLiteral("type"))).hasMatch())
+      if (isMachine(name))
         machines.insert(name);
     }
   }
@@ -147,6 +154,30 @@ void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
       .addAction(names.size() == 1 ? tr("Open Characteristics") : tr("Open Characteristics (%1)").arg(names.size()), control,
                  [control, names] { emit control->openCharacteristicsRequested(names); })
       ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
+}
+
+bool PlotMenu::isMachine(const QString &name) const {
+  const element *e = m_control.net().element(name);
+  return e != nullptr && withCharacteristics().match(e->value(QStringLiteral("type"))).hasMatch();
+}
+
+/// Whatever is selected, and whatever covers them.
+void PlotMenu::addMachinesHere(QMenu &contextMenu) const {
+  const NetGeometry &geometry = m_control.plot()->update().geometry();
+  NetVisControl *control = &m_control;
+  QMenu *machines = nullptr;
+  for (const NetGeometry::Item item : m_control.picker()->pressedItems()) {
+    const element &source = *geometry.source(item);
+    const QString name = source.value(QStringLiteral("name"));
+    if (!isMachine(name) || (machines != nullptr && machines->actions().size() >= MostEntries))
+      continue;
+    if (machines == nullptr)
+      machines = contextMenu.addMenu(tr("Open Characteristics of"));
+    QObject::connect(machines->addAction(withType(source)), &QAction::triggered, control,
+                     [control, name] { emit control->openCharacteristicsRequested({name}); });
+  }
+  if (machines != nullptr)
+    machines->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
 }
 
 void PlotMenu::addTrace(QMenu &contextMenu) const {
@@ -236,7 +267,7 @@ void PlotMenu::addBookmarks(QMenu &contextMenu) const {
   QMenu *bookmarks = contextMenu.addMenu(tr("Bookmarks"));
   const std::vector<ViewBookmarks::Bookmark> known = ViewBookmarks::parse(plot->settings().bookmarks);
   for (const ViewBookmarks::Bookmark &bookmark : known)
-    bookmarks->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->zoomer()->zoom(view); });
+    bookmarks->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->showArea(view); });
   if (!known.empty())
     bookmarks->addSeparator();
   bookmarks->addAction(tr("Bookmark this view …"), plot, [control, plot, known] {
@@ -249,7 +280,7 @@ void PlotMenu::addBookmarks(QMenu &contextMenu) const {
     std::vector<ViewBookmarks::Bookmark> more = known;
     more.erase(std::remove_if(more.begin(), more.end(), [&name](const auto &bookmark) { return bookmark.name == name; }),
                more.end());
-    more.push_back({name, plot->zoomer()->zoomRect()});
+    more.push_back({name, plot->visibleArea()});
     control->setBookmarks(ViewBookmarks::format(more));
   });
   QMenu *forget = bookmarks->addMenu(tr("Forget"));
