@@ -131,8 +131,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
   m_search->clearResults();
   m_layers->setLayerProperty(m_control.plot()->settings().layerProp);
   m_layers->on_pushButtonReload_clicked();
-  if (!m_layers->layers().hidden().isEmpty())
-    applyLayers(); // layers are known by name, in the next network too
+  applyLayers(); // the case may have another property for them
   m_categories->setFile(workspace.filePath(QStringLiteral("catdef.csv")));
   m_directory = QFileInfo(workspace.filePath(QStringLiteral("catdef.csv"))).path();
   if (m_vectorTable != nullptr) {

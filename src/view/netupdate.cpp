@@ -62,7 +62,7 @@ void NetUpdate::setNetData(const NetData *net) {
   m_textBoxes.clear();
   clearLabels();
   m_visibility.clear();
-  m_layers = LayerFilter();
+  m_layers.forget();
 }
 
 void NetUpdate::setFolder(const QString &folder, const QString &subnetIcons) {

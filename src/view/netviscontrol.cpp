@@ -92,9 +92,10 @@ bool NetVisControl::showsSearchResults() const {
 
 void NetVisControl::setHiddenLayers(const QString &property, const QSet<QString> &hidden) {
   NetUpdate &update = m_plot->update();
-  if (property == layers().property() && hidden == layers().hidden())
-    return;
+  const bool isSame = hidden == layers().hidden() && (hidden.isEmpty() || property == layers().property());
   update.setHiddenLayers(property, hidden);
+  if (isSame)
+    return;
   update.requestUpdate();
   emit layersChanged();
 }

@@ -391,6 +391,8 @@ void TestNetPicker::layersAreDrawnOnceForAllChanges() {
   QCOMPARE(changed.count(), 2);
   QCOMPARE(counter.drawings, before + 1);
   QVERIFY(f.plot().update().elementsAt(middle, 8.0).empty());
+  f.show(); // layers are known by name, in another network too
+  QVERIFY(f.plot().update().elementsAt(middle, 8.0).empty());
   f.control.setHiddenLayers(QStringLiteral("vis.layer"), {});
   QTRY_VERIFY(!f.plot().update().elementsAt(middle, 8.0).empty());
   QVERIFY(f.control.layers().hidden().isEmpty());

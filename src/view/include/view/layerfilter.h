@@ -14,6 +14,8 @@ public:
   void setHidden(const QString &property, const QSet<QString> &layers);
   /// Looks up the layers of the elements.
   void read(const NetGeometry &geometry);
+  /// Forgets the elements. Layers are known by name, in the next network too.
+  void forget() { m_hidden.clear(); }
 
   bool hidesAny() const { return !m_layers.isEmpty(); }
   const QString &property() const { return m_property; }
