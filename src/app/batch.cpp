@@ -5,7 +5,6 @@
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 #include <view/plotexport.h>
-#include <view/plotzoom.h>
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -162,7 +161,7 @@ int Batch::run(const CommandLine &line) {
     if (!applyFunctions(line, *control.plot(), net, reason))
       return failed(reason);
     if (!line.extent.isNull())
-      control.plot()->zoomer()->zoom(line.extent);
+      control.plot()->showArea(line.extent);
     if (!line.labels.isEmpty())
       control.plot()->update().relabelNow();
     if (!exportPlot(*control.plot(), line.picture, line.width > 0 ? line.width : CommandLine::DefaultWidth, &reason))

@@ -146,6 +146,7 @@ void NivraViewer::openWorkspace(const QString &path) {
   setBusy(true);
   const bool done = readWorkspace();
   setBusy(false);
+  m_control->plot()->setFocus(); // the keys are for the network that was asked for
   m_tools->refresh(m_loader.workspace());
   m_tools->setFindings(m_loader.noticed());
   m_tools->setMachines(m_loader.machines());

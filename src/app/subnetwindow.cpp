@@ -24,6 +24,7 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
   setCentralWidget(m_control->plot());
   resize(Size);
   m_control->showNetData(workspace.filePath(QStringLiteral("plotsettings.ini")));
+  m_control->plot()->setFocus();
   m_tools->refresh(workspace);
   fillMenus();
   const QString contents = m_net.isEmpty() ? tr("The subnet has no elements")

@@ -169,16 +169,9 @@ void ToolDocks::openCharacteristics(const QStringList &names) {
 void ToolDocks::createLayers() {
   m_layers = new NivraNetLayersEditor(m_net, &m_window);
   addDock(m_layers, QStringLiteral("layers"), Qt::LeftDockWidgetArea);
-  NetUpdate &update = m_control.plot()->update();
-  connect(m_layers, &NivraNetLayersEditor::hiddenLayersWanted, this,
-          [this, &update](const QString &property, const QSet<QString> &hidden) {
-            update.setHiddenLayers(property, hidden);
-            m_layers->setHiddenLayers(update.hiddenLayers());
-          });
-  connect(m_layers, &NivraNetLayersEditor::layerVisChanged, this, [&update] {
-    update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
-    update.requestPixtest(0);
-  });
+  connect(m_layers, &NivraNetLayersEditor::hiddenLayersWanted, &m_control, &NetVisControl::setHiddenLayers);
+  connect(&m_control, &NetVisControl::layersChanged, m_layers,
+          [this] { m_layers->setHiddenLayers(m_control.layers().hidden()); });
   connect(m_layers, &NivraNetLayersEditor::propertyChanged, this, &ToolDocks::propertyChanged); // which draws
   connect(m_layers, &NivraNetLayersEditor::itemClicked, this, &ToolDocks::elementMarked);
   connect(m_layers, &NivraNetLayersEditor::itemDoubleClicked, &m_control, &NetVisControl::showElement);
@@ -277,6 +270,7 @@ void ToolDocks::createElement() {
     });
   }
   connect(m_propViewer, &NivraPropViewer::characteristicsWanted, &m_control, &NetVisControl::openCharacteristicsRequested);
+  connect(&m_control, &NetVisControl::editPropertiesRequested, this, &ToolDocks::showProperties);
   connect(m_control.picker(), &NetPicker::hovered, this, [this](const QString &name) {
     if (!name.isEmpty() && m_net.selection().isEmpty()) // what was picked stays until something else is
       showContents(name);
@@ -325,6 +319,20 @@ void ToolDocks::showInfo(const QString &name) {
   m_propViewer->show();
   m_propViewer->raise();
   showElement(name);
+}
+
+void ToolDocks::showProperties(const QStringList &names) {
+  if (names.isEmpty())
+    return;
+  if (names.size() > 1) { // the viewer shows one at a time; the others are told by the selection
+    Selection selection;
+    for (const QString &name : names)
+      Topology::select(m_net, name, selection);
+    m_control.picker()->setSelection(selection);
+  }
+  m_propViewer->show();
+  m_propViewer->raise();
+  m_propViewer->showCurrentEleContents(m_net.element(names.first()));
 }
 
 void ToolDocks::createSearch() {

@@ -3,6 +3,7 @@
 #include <view/netgeometry.h>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <numeric>
 #include <tuple>
@@ -70,6 +71,19 @@ std::vector<const element *> sourcesOf(const std::vector<Record> &records) {
   return sources;
 }
 
+/// What to multiply coordinates with for an extent to have between a hundred and a billion units: zooming counts in whole
+/// units and goes down to a pixel each. Eight degrees become eight million units, so that a pixel can be a tenth of a metre.
+double plotUnitsFor(const QRectF &extent) {
+  constexpr double Least = 1e2;
+  constexpr double Most = 1e9;
+  constexpr double Exponent = 6.0;
+  const double side = std::max(extent.width(), extent.height());
+  const bool isNoise = side < std::max(std::abs(extent.center().x()), std::abs(extent.center().y())) * 1e-9;
+  if (!(side > 0.0) || !std::isfinite(side) || isNoise || (side >= Least && side <= Most))
+    return 1.0;
+  return std::pow(10.0, Exponent - std::floor(std::log10(side)));
+}
+
 bool isPlaced(double x, double y) {
   return x != NetData::NoValue && y != NetData::NoValue;
 }
@@ -99,6 +113,7 @@ NetGeometry::Values NetGeometry::build(const NetData &net, const Request &reques
   m_textBoxes = places(net.textBoxes());
   m_subnets = places(net.assembledSubnets());
   findPins(net);
+  takePlotUnits();
   return values;
 }
 
@@ -298,7 +313,28 @@ void NetGeometry::extend(double x, double y) {
                      std::max(m_extent.bottom(), y));
 }
 
-QRectF NetGeometry::mainExtent() const {
+void NetGeometry::takePlotUnits() {
+  m_mainExtent = findMainExtent();
+  m_plotUnits = plotUnitsFor(m_mainExtent);
+  if (m_plotUnits == 1.0)
+    return;
+  for (Node &node : m_nodes) {
+    if (!node.isPlaced)
+      continue;
+    node.x *= m_plotUnits;
+    node.y *= m_plotUnits;
+  }
+  for (std::vector<Place> *places : {&m_textBoxes, &m_subnets}) {
+    for (Place &place : *places) {
+      place.x *= m_plotUnits;
+      place.y *= m_plotUnits;
+    }
+  }
+  m_extent = toPlot(m_extent);
+  m_mainExtent = toPlot(m_mainExtent);
+}
+
+QRectF NetGeometry::findMainExtent() const {
   constexpr std::size_t Few = 20; // of so few each may stand where it likes
   std::vector<double> xs;
   std::vector<double> ys;
@@ -328,7 +364,9 @@ QRectF NetGeometry::mainExtent() const {
   return main.m_hasExtent ? main.m_extent : m_extent;
 }
 
-int NetGeometry::nodesOutside(const QRectF &area) const {
+int NetGeometry::nodesOutside(const QRectF &extent) const {
+  const double rounding = std::max(extent.width(), extent.height()) * 1e-9; // of the way to plot coordinates
+  const QRectF area = extent.adjusted(-rounding, -rounding, rounding, rounding);
   return static_cast<int>(std::count_if(m_nodes.begin(), m_nodes.end(), [&area](const Node &node) {
     return node.isPlaced && (node.x < area.left() || node.x > area.right() || node.y < area.top() || node.y > area.bottom());
   }));

@@ -26,6 +26,21 @@ QString setting(const char *key) {
   return GeneralSettings::instance().value(QString::fromLatin1(key));
 }
 
+/// The set of the selection in which elements of the kind are named; of a constant one too.
+template <typename Chosen>
+auto &namesOf(Chosen &selection, NetData::EleType kind) {
+  switch (kind) {
+  case NetData::Node:
+    return selection.nodes;
+  case NetData::Edge:
+    return selection.edges;
+  case NetData::AssembledSubnet:
+    return selection.subnets;
+  default:
+    return selection.others;
+  }
+}
+
 bool selectsWithShift() {
   return setting("SelectionModifiers") == QLatin1String("ShiftSelect");
 }
@@ -63,32 +78,34 @@ NetPicker::Mode NetPicker::modeFor(Qt::MouseButton button, Qt::KeyboardModifiers
 void NetPicker::widgetMousePressEvent(QMouseEvent *event) {
   m_mode = m_zoomsRectangle ? Mode::None : modeFor(event->button(), event->modifiers());
   m_pressed = event->pos();
+  m_hits = hitsAt(m_pressed); // for the press, the release and the menu
   const bool isRectangle = m_mode == Mode::Rectangle || m_mode == Mode::RectangleMore;
   setMousePattern(MouseSelect1, isRectangle ? Qt::LeftButton : Qt::NoButton, event->modifiers());
-  m_picksOnRelease = GeneralSettings::instance().isOn(QStringLiteral("pick on Release"));
-  const bool isPick = m_mode == Mode::Pick || m_mode == Mode::PickMore;
-  // A press beside everything may begin a zoom rectangle; it takes the selection away only as a click.
-  if (isPick && !m_picksOnRelease && (event->button() == Qt::RightButton || !itemsAt(m_pressed).empty()))
-    pick(m_pressed);
+  // What may become a movement of the view, or a rectangle to zoom to, selects only as a click.
+  m_picksOnRelease = GeneralSettings::instance().isOn(QStringLiteral("pick on Release")) ||
+                     m_plot.pansWith(event->button(), event->modifiers()) ||
+                     (event->button() == Qt::LeftButton && m_hits.empty());
+  if (!m_picksOnRelease)
+    pick(event->button());
   QwtPlotPicker::widgetMousePressEvent(event);
 }
 
 void NetPicker::widgetMouseReleaseEvent(QMouseEvent *event) {
   QwtPlotPicker::widgetMouseReleaseEvent(event);
-  const bool isPick = m_mode == Mode::Pick || m_mode == Mode::PickMore;
   const QPoint way = event->pos() - m_pressed;
-  const bool isClick = way.manhattanLength() < QApplication::startDragDistance();
-  if (isPick && isClick && (m_picksOnRelease || (event->button() == Qt::LeftButton && itemsAt(m_pressed).empty())))
-    pick(event->pos());
+  if (m_picksOnRelease && way.manhattanLength() < QApplication::startDragDistance())
+    pick(event->button());
   m_mode = Mode::None;
+  if (event->button() != Qt::RightButton)
+    m_hits.clear();
   if (m_zoomsRectangle && event->button() == Qt::LeftButton)
     endRectangleZoom();
 }
 
 void NetPicker::widgetMouseDoubleClickEvent(QMouseEvent *event) {
-  const std::vector<NetGeometry::Item> items = itemsAt(event->pos());
-  if (event->button() == Qt::LeftButton && !items.empty())
-    emit activated(nameOf(items.front()));
+  const std::vector<Hit> hits = hitsAt(event->pos());
+  if (event->button() == Qt::LeftButton && !hits.empty())
+    emit activated(nameOf(hits.front().item));
   QwtPlotPicker::widgetMouseDoubleClickEvent(event);
 }
 
@@ -105,8 +122,8 @@ void NetPicker::widgetLeaveEvent(QEvent *event) {
 }
 
 void NetPicker::hover(const QPoint &position) {
-  const std::vector<NetGeometry::Item> items = itemsAt(position);
-  const auto item = items.empty() ? std::nullopt : std::make_optional(items.front());
+  const std::vector<Hit> hits = hitsAt(position);
+  const auto item = hits.empty() ? std::nullopt : std::make_optional(hits.front().item);
   if (!m_plot.selection().setHovered(item))
     return;
   m_plot.plot()->updateOverlay();
@@ -116,11 +133,11 @@ void NetPicker::hover(const QPoint &position) {
 bool NetPicker::eventFilter(QObject *watched, QEvent *event) {
   if (watched == canvas() && event->type() == QEvent::ToolTip) {
     const auto *help = static_cast<QHelpEvent *>(event);
-    const std::vector<NetGeometry::Item> items = itemsAt(help->pos());
-    if (items.empty())
+    const std::vector<Hit> hits = hitsAt(help->pos());
+    if (hits.empty())
       QToolTip::hideText();
     else
-      QToolTip::showText(help->globalPos(), toolTipFor(items.front()), canvas());
+      QToolTip::showText(help->globalPos(), toolTipFor(hits.front().item), canvas());
     return true;
   }
   return QwtPlotPicker::eventFilter(watched, event);
@@ -151,33 +168,85 @@ QString NetPicker::toolTipFor(NetGeometry::Item item) const {
   return text;
 }
 
-std::vector<NetGeometry::Item> NetPicker::itemsAt(const QPoint &position) const {
+std::vector<Hit> NetPicker::hitsAt(const QPoint &position) const {
+  return m_plot.update().elementsAt(position, Tolerance);
+}
+
+std::vector<NetGeometry::Item> NetPicker::pressedItems() const {
   std::vector<NetGeometry::Item> items;
-  for (const Hit &hit : m_plot.update().elementsAt(position, Tolerance))
+  for (const Hit &hit : m_hits)
     items.push_back(hit.item);
   return items;
+}
+
+void NetPicker::reset() {
+  m_hits.clear();
+  m_mode = Mode::None;
+  QwtPlotPicker::reset();
 }
 
 QString NetPicker::nameOf(NetGeometry::Item item) const {
   return m_plot.update().geometry().source(item)->value(QStringLiteral("name"));
 }
 
-void NetPicker::pick(const QPoint &position) {
-  const std::vector<NetGeometry::Item> items = itemsAt(position);
-  Selection &selection = m_net.selection();
-  const Selection before = selection;
-  if (m_mode == Mode::Pick && (items.empty() || before.size() != 1 || !before.names().contains(nameOf(items.front()))))
-    selection.clear();
-  if (!items.empty())
-    add(items.front());
-  if (selection != before) {
-    showSelection();
-    emit selectionChanged();
+std::optional<NetGeometry::Item> NetPicker::target(Qt::MouseButton button) const {
+  if (m_hits.empty())
+    return std::nullopt;
+  const Hit &first = m_hits.front();
+  if (button == Qt::RightButton) { // of what stands behind one symbol, that which was chosen before
+    for (const Hit &hit : m_hits) {
+      if (hit.rank == first.rank && hit.distance == first.distance && isSelected(hit.item))
+        return hit.item;
+    }
   }
-  if (!items.empty())
-    emit picked(nameOf(items.front()));
+  return first.item;
+}
+
+void NetPicker::pick(Qt::MouseButton button) {
+  if (m_mode != Mode::Pick && m_mode != Mode::PickMore)
+    return;
+  const bool isMenu = button == Qt::RightButton;
+  const std::optional<NetGeometry::Item> item = target(button);
+  if (item) {
+    setSelection(selectionWith(*item, isMenu));
+    if (isSelected(*item))
+      emit picked(nameOf(*item));
+  } else if (m_mode == Mode::Pick && !isMenu) {
+    setSelection(Selection());
+  }
   if (GeneralSettings::instance().isOn(QStringLiteral("perform pixtest on click")))
     m_plot.update().requestPixtest(0);
+}
+
+Selection NetPicker::selectionWith(NetGeometry::Item item, bool isMenu) const {
+  Selection selection = m_net.selection();
+  if (isMenu && isSelected(item))
+    return selection; // the menu is for all of it
+  if (m_mode == Mode::Pick)
+    selection.clear();
+  if (m_mode == Mode::PickMore && isSelected(item))
+    deselect(item, selection);
+  else
+    namesOf(selection, item.kind).insert(nameOf(item));
+  return selection;
+}
+
+bool NetPicker::isSelected(NetGeometry::Item item) const {
+  return namesOf(m_net.selection(), item.kind).contains(nameOf(item));
+}
+
+void NetPicker::deselect(NetGeometry::Item item, Selection &selection) const {
+  namesOf(selection, item.kind).remove(nameOf(item));
+  const bool takesNodes = GeneralSettings::instance().isOn(QStringLiteral("subnet deselection to its nodes"));
+  if (item.kind != NetData::AssembledSubnet || !takesNodes)
+    return;
+  const element &subnet = *m_plot.update().geometry().source(item);
+  for (const char *list : {"pins", "elements"}) {
+    for (const QString &name : subnet.value(QString::fromLatin1(list)).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+      if (const element *node = m_net.nodes().find(name.trimmed()))
+        selection.nodes.remove(node->value(QStringLiteral("name")));
+    }
+  }
 }
 
 bool NetPicker::end(bool ok) {
@@ -199,27 +268,9 @@ void NetPicker::select(const std::vector<NetGeometry::Item> &items, bool more) {
   if (!more)
     m_net.selection().clear();
   for (const NetGeometry::Item item : items)
-    add(item);
+    namesOf(m_net.selection(), item.kind).insert(nameOf(item));
   showSelection();
   emit selectionChanged();
-}
-
-void NetPicker::add(NetGeometry::Item item) {
-  Selection &selection = m_net.selection();
-  const QString name = nameOf(item);
-  switch (item.kind) {
-  case NetData::Node:
-    selection.nodes.insert(name);
-    break;
-  case NetData::Edge:
-    selection.edges.insert(name);
-    break;
-  case NetData::AssembledSubnet:
-    selection.subnets.insert(name);
-    break;
-  default:
-    selection.others.insert(name);
-  }
 }
 
 void NetPicker::selectAll() {
@@ -289,8 +340,8 @@ void NetPicker::widgetKeyPressEvent(QKeyEvent *event) {
     clearSelection();
   else if (event->key() == setting("UserKey_RectZoom").toInt())
     startRectangleZoom(event->key());
-  else
-    QwtPlotPicker::widgetKeyPressEvent(event);
+  else if (isActive() && event->key() == Qt::Key_Escape)
+    QwtPlotPicker::widgetKeyPressEvent(event); // gives up the rectangle
 }
 
 void NetPicker::widgetKeyReleaseEvent(QKeyEvent *event) {

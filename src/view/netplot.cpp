@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QVBoxLayout>
+#include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 
 #include <algorithm>
@@ -17,6 +18,17 @@
 namespace {
 
 enum LegendCorner { TopLeft = 1, BottomLeft = 2, TopRight = 3, BottomRight = 4 };
+
+/// Tells the network's own coordinates at the axes.
+class CoordinateScale : public QwtScaleDraw {
+public:
+  explicit CoordinateScale(double plotUnits)
+      : m_plotUnits(plotUnits) {}
+  QwtText label(double value) const override { return QwtScaleDraw::label(value / m_plotUnits); }
+
+private:
+  double m_plotUnits;
+};
 
 } // namespace
 
@@ -48,6 +60,7 @@ NetPlot::NetPlot(QWidget *parent)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(m_plot);
   setMinimumSize(SmallestSide, SmallestSide);
+  setFocusProxy(m_plot->canvas()); // which takes the keys
 }
 
 NetPlot::~NetPlot() = default;
@@ -140,6 +153,13 @@ void NetPlot::readMousePattern() {
     m_panner->setMouseButton(Qt::MiddleButton);
 }
 
+bool NetPlot::pansWith(Qt::MouseButton button, Qt::KeyboardModifiers keys) const {
+  Qt::MouseButton ownButton = Qt::NoButton;
+  Qt::KeyboardModifiers ownKeys = Qt::NoModifier;
+  m_panner->getMouseButton(ownButton, ownKeys);
+  return m_panner->isEnabled() && button == ownButton && keys == ownKeys;
+}
+
 void NetPlot::setSettings(const PlotSettings &settings) {
   const PlotSettings before = m_settings;
   m_settings = settings;
@@ -184,15 +204,29 @@ void NetPlot::showNetwork() {
   m_selection.readSettings();
   m_selection.setGeometry(&m_update->geometry());
   m_update->updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
-  const NetGeometry &geometry = m_update->geometry();
-  const QRectF main = geometry.mainExtent();
-  m_stragglers = geometry.hasExtent() ? geometry.nodesOutside(main) : 0;
-  showHint();
-  if (geometry.hasExtent())
-    m_zoomer->setExtent(main);
-  else
-    m_plot->replot();
   refresh(-1);
+}
+
+void NetPlot::fitNetwork() {
+  const NetGeometry &geometry = m_update->geometry();
+  m_stragglers = geometry.hasExtent() ? geometry.nodesOutside(geometry.mainExtent()) : 0;
+  showHint();
+  for (const QwtPlot::Axis axis : {QwtPlot::xBottom, QwtPlot::yLeft})
+    m_plot->setAxisScaleDraw(axis, new CoordinateScale(geometry.plotUnits()));
+  // Nothing is laid out before a window is shown, and a picture may be made without one.
+  layout()->activate();
+  m_plot->updateAxes();
+  m_plot->updateLayout();
+  if (geometry.hasExtent())
+    m_zoomer->setExtent(geometry.mainExtent());
+}
+
+QRectF NetPlot::visibleArea() const {
+  return m_update->geometry().toOwn(m_zoomer->zoomRect());
+}
+
+void NetPlot::showArea(const QRectF &area) {
+  m_zoomer->zoom(m_update->geometry().toPlot(area));
 }
 
 void NetPlot::showStragglers() {
@@ -285,7 +319,7 @@ bool NetPlot::canvasEvent(QEvent *event) {
     return false;
   case QEvent::MouseButtonRelease:
     if (static_cast<QMouseEvent *>(event)->button() == Qt::RightButton && !m_mouseMoved)
-      showContextMenu(static_cast<QMouseEvent *>(event)->pos());
+      showContextMenu();
     return false;
   case QEvent::Enter:
   case QEvent::Leave:
@@ -295,8 +329,7 @@ bool NetPlot::canvasEvent(QEvent *event) {
   }
 }
 
-void NetPlot::showContextMenu(const QPoint &position) {
-  m_menuPosition = position;
+void NetPlot::showContextMenu() {
   auto *contextMenu = new QMenu(this);
   contextMenu->setAttribute(Qt::WA_DeleteOnClose);
   emit contextMenuRequested(contextMenu);

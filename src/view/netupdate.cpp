@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <future>
+#include <utility>
 
 namespace {
 
@@ -39,6 +40,11 @@ NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
   for (QwtPlotItem *layer :
        std::initializer_list<QwtPlotItem *>{&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels})
     layer->attach(plot.plot());
+  m_asked.setSingleShot(true);
+  QObject::connect(&m_asked, &QTimer::timeout, &m_asked, [this] {
+    updatePlot(false, Which::EdgesAndNodes, false);
+    requestPixtest(-1);
+  });
   m_symbols.setSubnets(&m_subnets);
   m_subnets.setFilter(&m_layers, &m_visibility);
   m_textBoxes.setFilter(&m_layers, &m_visibility);
@@ -47,6 +53,8 @@ NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
 void NetUpdate::setNetData(const NetData *net) {
   m_net = net;
   m_pixtest.forgetPlacement();
+  m_isNew = true;
+  m_asked.stop();
   m_geometry.clear();
   m_values = DrawValues();
   m_edges.clear();
@@ -56,7 +64,7 @@ void NetUpdate::setNetData(const NetData *net) {
   m_textBoxes.clear();
   clearLabels();
   m_visibility.clear();
-  m_layers.read(m_geometry); // nothing is hidden of what is no longer there
+  m_layers.forget();
 }
 
 void NetUpdate::setFolder(const QString &folder, const QString &subnetIcons) {
@@ -76,13 +84,19 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     return;
   QElapsedTimer timer;
   timer.start();
+  const bool isAsked = which == Which::EdgesAndNodes && m_asked.isActive();
+  if (isAsked)
+    m_asked.stop();
+  const double plotUnits = m_geometry.plotUnits();
   m_values.read(*m_net, m_settings, m_geometry, rebuild);
   if (rebuild && m_geometry.unplaced() > 0)
     NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
   m_layers.read(m_geometry);
   ColorScale::show(*m_plot.plot(), m_settings, m_values, coloured(), looks().swatches());
-  m_plot.placeLegend();
   m_plot.showAxes();
+  if (std::exchange(m_isNew, false) || plotUnits != m_geometry.plotUnits())
+    m_plot.fitNetwork(); // before anything is judged by what the view shows
+  m_plot.placeLegend();
 
   const bool isSearch = m_displayMode == DisplayMode::SearchResults;
   std::future<void> nodes; // beside the edges
@@ -113,6 +127,8 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     clearLabels();
   m_plot.plot()->replot();
   NivraMsg::log(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
+  if (isAsked)
+    requestPixtest(-1);
 }
 
 ElementLooks NetUpdate::looks() const {
@@ -164,7 +180,7 @@ void NetUpdate::updateSymbols(bool rebuild) {
       m_symbols.clear();
   }
   m_subnets.setSubnets(m_geometry); // what is known of their state may have changed
-  m_visibility.setExtent(m_plot.plot()->visibleRect().height());
+  m_visibility.setExtent(seenHeight());
   showWhatIsVisible();
   m_textBoxes.setBackground(m_settings.bgrColor);
   if (m_geometry.textBoxes().empty())
@@ -176,6 +192,10 @@ void NetUpdate::updateSymbols(bool rebuild) {
 void NetUpdate::showWhatIsVisible() {
   m_symbols.setVisibility(m_visibility, m_layers);
   m_nodes.setVisibility(m_visibility);
+}
+
+double NetUpdate::seenHeight() const {
+  return m_plot.plot()->visibleRect().height() / m_geometry.plotUnits();
 }
 
 Projection NetUpdate::projection() const {
@@ -198,7 +218,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
   QElapsedTimer timer;
   timer.start();
   const double units = m_plot.plot()->unitsPerPixel().height();
-  bool hasChanged = m_visibility.setExtent(m_plot.plot()->visibleRect().height());
+  bool hasChanged = m_visibility.setExtent(seenHeight());
   if (hasChanged)
     showWhatIsVisible();
   if (labels == Pixtest::Labels::With) {
@@ -262,24 +282,32 @@ void NetUpdate::relabelNow() {
 
 std::vector<Hit> NetUpdate::elementsAt(const QPointF &point, double tolerance) const {
   const Projection view = projection();
-  std::vector<Hit> hits;
   if (!view.isValid())
-    return hits;
-  // Boxes cover what is behind them, and what stands at a place counts more than a line that ends there.
-  std::vector<Hit> places;
-  std::vector<Hit> lines;
-  m_subnets.find(view, point, hits);
-  m_symbols.find(view, point, 0.0, places);
-  m_nodes.find(view, point, tolerance * 0.5, places);
-  m_textBoxes.find(view, point, places);
-  m_edges.find(view, point, tolerance, lines);
-  for (std::vector<Hit> *group : {&hits, &places, &lines})
-    std::sort(group->begin(), group->end(), [](const Hit &a, const Hit &b) { return a.distance < b.distance; });
-  for (const std::vector<Hit> *group : {&places, &lines}) {
-    for (const Hit &hit : *group) {
-      if (std::none_of(hits.begin(), hits.end(), [&hit](const Hit &known) { return known.item == hit.item; }))
-        hits.push_back(hit);
-    }
+    return {};
+  // Boxes cover what is behind them, a symbol stands for its element, and what stands at a place counts more than a line
+  // that ends there.
+  std::vector<Hit> found;
+  const auto rankFrom = [&found](std::size_t first, HitRank rank) {
+    for (std::size_t i = first; i < found.size(); ++i)
+      found[i].rank = rank;
+    return found.size();
+  };
+  m_subnets.find(view, point, found);
+  std::size_t next = rankFrom(0, HitRank::Box);
+  m_symbols.find(view, point, found);
+  next = rankFrom(next, HitRank::Symbol);
+  m_nodes.find(view, point, tolerance * 0.5, found);
+  m_textBoxes.find(view, point, found);
+  next = rankFrom(next, HitRank::Place);
+  m_edges.find(view, point, tolerance, found);
+  rankFrom(next, HitRank::Line);
+  std::stable_sort(found.begin(), found.end(), [](const Hit &a, const Hit &b) {
+    return std::make_pair(a.rank, a.distance) < std::make_pair(b.rank, b.distance);
+  });
+  std::vector<Hit> hits;
+  for (const Hit &hit : found) {
+    if (std::none_of(hits.begin(), hits.end(), [&hit](const Hit &known) { return known.item == hit.item; }))
+      hits.push_back(hit);
   }
   return hits;
 }

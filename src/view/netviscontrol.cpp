@@ -32,6 +32,7 @@ NetVisControl::~NetVisControl() {
 }
 
 void NetVisControl::clear() {
+  m_picker->reset();
   m_plot->selection().setGeometry(nullptr);
   m_plot->update().setNetData(nullptr);
   m_plot->plot()->replot();
@@ -49,6 +50,7 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   const QString folder = QFileInfo(plotSettingsPath).path();
   LabelTable labels;
   LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels);
+  m_picker->reset();
   m_plot->update().setNetData(&m_net);
   m_plot->update().setFolder(folder, m_subnetIcons);
   m_plot->update().setLabelTable(labels);
@@ -85,6 +87,16 @@ void NetVisControl::setShowsSearchResults(bool shows) {
 
 bool NetVisControl::showsSearchResults() const {
   return m_plot->update().displayMode() == NetUpdate::DisplayMode::SearchResults;
+}
+
+void NetVisControl::setHiddenLayers(const QString &property, const QSet<QString> &hidden) {
+  NetUpdate &update = m_plot->update();
+  const bool isSame = hidden == layers().hidden() && (hidden.isEmpty() || property == layers().property());
+  update.setHiddenLayers(property, hidden);
+  if (isSame)
+    return;
+  update.requestUpdate();
+  emit layersChanged();
 }
 
 void NetVisControl::refreshSearchResults() {

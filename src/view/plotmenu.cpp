@@ -47,6 +47,12 @@ QStringList firstOf(const Selection &selection, int most) {
   return QStringList(names.begin(), end);
 }
 
+/// The element's name and what it is.
+QString withType(const element &e) {
+  const ElementType *type = ElementTypes::byCode(e.value(QStringLiteral("type")));
+  return menuText(e.value(QStringLiteral("name")) + QLatin1Char('\t') + (type == nullptr ? QString() : type->longName));
+}
+
 /// Types of elements that have machine data.
 const QRegularExpression &withCharacteristics() {
   static const QRegularExpression types(QStringLiteral("^c$|^d$"));
@@ -71,6 +77,7 @@ void PlotMenu::fill(QMenu &contextMenu) const {
   addSelection(contextMenu);
   addSubnet(contextMenu);
   addCharacteristics(contextMenu);
+  addMachinesHere(contextMenu);
   addTrace(contextMenu);
   contextMenu.addAction(m_control.picker()->selectAllAction());
   contextMenu.addSeparator();
@@ -89,7 +96,7 @@ void PlotMenu::fill(QMenu &contextMenu) const {
 }
 
 void PlotMenu::addCrowd(QMenu &contextMenu) const {
-  const std::vector<NetGeometry::Item> items = m_control.picker()->itemsAt(m_control.plot()->menuPosition());
+  const std::vector<NetGeometry::Item> items = m_control.picker()->pressedItems();
   if (items.size() < 2)
     return;
   QMenu *crowd = contextMenu.addMenu(tr("Select here (%1)").arg(items.size()));
@@ -98,11 +105,8 @@ void PlotMenu::addCrowd(QMenu &contextMenu) const {
   for (const NetGeometry::Item item : items) {
     if (++count > MostEntries)
       break;
-    const element &source = *geometry.source(item);
-    const ElementType *type = ElementTypes::byCode(source.value(QStringLiteral("type")));
-    const QString text = source.value(QStringLiteral("name")) + QStringLiteral("\t") + (type ? type->longName : QString());
     NetPicker *picker = m_control.picker();
-    QObject::connect(crowd->addAction(menuText(text)), &QAction::triggered, picker,
+    QObject::connect(crowd->addAction(withType(*geometry.source(item))), &QAction::triggered, picker,
                      [picker, item] { picker->choose(item); });
   }
 }
@@ -111,7 +115,9 @@ void PlotMenu::addSelection(QMenu &contextMenu) const {
   const QStringList names = firstOf(m_control.net().selection(), MostEntries);
   QMenu *show = contextMenu.addMenu(tr("Show"));
   QMenu *info = contextMenu.addMenu(tr("Show Info"));
+  QMenu *edit = contextMenu.addMenu(tr("Edit Properties of"));
   show->setEnabled(!names.isEmpty());
+  edit->setEnabled(!names.isEmpty() && m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::editPropertiesRequested)));
   info->setEnabled(!names.isEmpty() && m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::elementAction)));
   for (const QString &name : names) {
     NetVisControl *control = &m_control;
@@ -119,6 +125,8 @@ void PlotMenu::addSelection(QMenu &contextMenu) const {
                      [control, name] { control->showElement(name); });
     QObject::connect(info->addAction(menuText(name)), &QAction::triggered, control,
                      [control, name] { emit control->elementAction(name, NetPicker::EleAction::ShowInfo); });
+    QObject::connect(edit->addAction(menuText(name)), &QAction::triggered, control,
+                     [control, name] { emit control->editPropertiesRequested({name}); });
   }
 }
 
@@ -130,8 +138,7 @@ void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
   Selection::Names machines;
   for (const Selection::Names *kind : {&selection.nodes, &selection.edges}) {
     for (const QString &name : *kind) {
-      const element *e = m_control.net().element(name);
-      if (e != nullptr && withCharacteristics().match(e->value(QStringLiteral("type"))).hasMatch())
+      if (isMachine(name))
         machines.insert(name);
     }
   }
@@ -143,6 +150,30 @@ void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
       .addAction(names.size() == 1 ? tr("Open Characteristics") : tr("Open Characteristics (%1)").arg(names.size()), control,
                  [control, names] { emit control->openCharacteristicsRequested(names); })
       ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
+}
+
+bool PlotMenu::isMachine(const QString &name) const {
+  const element *e = m_control.net().element(name);
+  return e != nullptr && withCharacteristics().match(e->value(QStringLiteral("type"))).hasMatch();
+}
+
+/// Whatever is selected, and whatever covers them.
+void PlotMenu::addMachinesHere(QMenu &contextMenu) const {
+  const NetGeometry &geometry = m_control.plot()->update().geometry();
+  NetVisControl *control = &m_control;
+  QMenu *machines = nullptr;
+  for (const NetGeometry::Item item : m_control.picker()->pressedItems()) {
+    const element &source = *geometry.source(item);
+    const QString name = source.value(QStringLiteral("name"));
+    if (!isMachine(name) || (machines != nullptr && machines->actions().size() >= MostEntries))
+      continue;
+    if (machines == nullptr)
+      machines = contextMenu.addMenu(tr("Open Characteristics of"));
+    QObject::connect(machines->addAction(withType(source)), &QAction::triggered, control,
+                     [control, name] { emit control->openCharacteristicsRequested({name}); });
+  }
+  if (machines != nullptr)
+    machines->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
 }
 
 void PlotMenu::addTrace(QMenu &contextMenu) const {
@@ -232,7 +263,7 @@ void PlotMenu::addBookmarks(QMenu &contextMenu) const {
   const std::vector<ViewBookmarks::Bookmark> known = bookmarks.all();
   QMenu *menu = contextMenu.addMenu(tr("Bookmarks"));
   for (const ViewBookmarks::Bookmark &bookmark : known)
-    menu->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->zoomer()->zoom(view); });
+    menu->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->showArea(view); });
   if (!known.empty())
     menu->addSeparator();
   menu->addAction(tr("Bookmark this view …"), plot, [bookmarks, plot, count = known.size()] {
@@ -241,7 +272,7 @@ void PlotMenu::addBookmarks(QMenu &contextMenu) const {
                                                tr("View %1").arg(count + 1), &isTaken)
                              .trimmed();
     QString reason;
-    if (isTaken && !name.isEmpty() && !bookmarks.add({name, plot->zoomer()->zoomRect()}, &reason))
+    if (isTaken && !name.isEmpty() && !bookmarks.add({name, plot->visibleArea()}, &reason))
       NivraMsg::message(NivraMsg::Kind::Warning, reason);
   });
   QMenu *forget = menu->addMenu(tr("Forget"));

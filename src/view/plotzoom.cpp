@@ -3,7 +3,6 @@
 #include <view/qwtfastplot.h>
 
 #include <QKeyEvent>
-#include <QStack>
 #include <QWheelEvent>
 #include <qwt_scale_engine.h>
 
@@ -60,20 +59,18 @@ PlotZoom::PlotZoom(QwtFastPlot &plot, PlotSettings &settings)
 }
 
 void PlotZoom::setExtent(const QRectF &extent) {
-  m_extent = withArea(extent);
-  setZoomLimits(m_extent, QSizeF(m_plot.canvas()->contentsRect().size()));
+  const QRectF area = withArea(extent);
+  setZoomLimits(area, QSizeF(m_plot.canvas()->contentsRect().size()));
+  m_wholeNetwork = about(area.center(), area.width() * Room, area.height() * Room);
   fitBase();
   m_history.clear();
   recordView();
 }
 
 void PlotZoom::resetZoomBase(const QRectF &rect) {
-  m_extent = withArea(zoomBase().united(rect));
-  const QRectF base = inCanvasRatio(m_extent);
-  {
-    const QSignalBlocker blocker(this);
-    setZoomStack(stackOf({base}), 0);
-  }
+  m_wholeNetwork = withArea(zoomBase().united(rect));
+  const QRectF base = inCanvasRatio(m_wholeNetwork);
+  setStack(stackOf({base}), 0);
   m_settings.largestZoomWidth = base.width() * Room;
   m_settings.largestZoomHeight = base.height() * Room;
   rescale();
@@ -180,11 +177,13 @@ void PlotZoom::replaceView(const QRectF &rect) {
   const auto at = static_cast<int>(zoomRectIndex());
   views.resize(at + 1);
   views[at] = rect;
-  {
-    const QSignalBlocker blocker(this);
-    setZoomStack(views, at);
-  }
+  setStack(views, at);
   emit zoomed(rect);
+}
+
+void PlotZoom::setStack(const QStack<QRectF> &views, int index) {
+  const QSignalBlocker blocker(this);
+  setZoomStack(views, index);
 }
 
 QRectF PlotZoom::inCanvasRatio(const QRectF &rect) const {
@@ -200,30 +199,44 @@ void PlotZoom::cutStack() {
   if (zoomRectIndex() < Longest)
     return;
   NivraMsg::debug(QStringLiteral("zoomStack reset"));
-  const QSignalBlocker blocker(this);
-  setZoomStack(stackOf({zoomBase(), zoomRect()}), 1);
+  setStack(stackOf({zoomBase(), zoomRect()}), 1);
 }
 
 void PlotZoom::fitBase() {
-  if (m_extent.isEmpty())
+  if (m_wholeNetwork.isEmpty())
     return;
-  const QRectF base = inCanvasRatio(about(m_extent.center(), m_extent.width() * Room, m_extent.height() * Room));
-  {
-    const QSignalBlocker blocker(this);
-    setZoomStack(stackOf({base}), 0);
-  }
+  setStack(stackOf({inCanvasRatio(m_wholeNetwork)}), 0);
   rescale(); // also when the base is the old one but the canvas is not
-  emit zoomed(base);
+  emit zoomed(zoomBase());
+}
+
+void PlotZoom::fitCanvas() {
+  if (m_wholeNetwork.isEmpty())
+    return;
+  QStack<QRectF> views = zoomStack();
+  const auto at = static_cast<int>(zoomRectIndex());
+  views[0] = inCanvasRatio(m_wholeNetwork);
+  if (at > 0) { // not what an earlier canvas made of it: docks that come and go must not add up
+    if (views[at] != m_fitted)
+      m_chosen = views[at];
+    views[at] = m_chosen;
+  }
+  setStack(views, at);
+  rescale();
+  if (at > 0) {
+    m_fitted = views[at] = m_plot.visibleRect();
+    setStack(views, at);
+  }
+  const bool wasResting = !m_rest.isActive();
+  emit zoomed(zoomRect());
+  if (wasResting)
+    m_rest.stop(); // nobody chose this view
 }
 
 bool PlotZoom::eventFilter(QObject *watched, QEvent *event) {
   const bool result = QwtPlotZoomer::eventFilter(watched, event);
-  if (watched == canvas() && event->type() == QEvent::Resize) {
-    if (zoomRectIndex() == 0)
-      fitBase();
-    else
-      rescale();
-  }
+  if (watched == canvas() && event->type() == QEvent::Resize)
+    fitCanvas();
   return result;
 }
 
@@ -324,8 +337,8 @@ void PlotZoom::widgetKeyPressEvent(QKeyEvent *event) {
   case Qt::Key_Home:
     return fitAll();
   default:
-    if (isActive())
-      QwtPlotZoomer::widgetKeyPressEvent(event); // Escape gives up the rectangle
+    if (isActive() && event->key() == Qt::Key_Escape)
+      QwtPlotZoomer::widgetKeyPressEvent(event); // gives up the rectangle
     return;
   }
   emit refreshRequested(KeyDelay);

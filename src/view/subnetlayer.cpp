@@ -109,7 +109,7 @@ void SubnetLayer::setSubnets(const NetGeometry &geometry) {
     Record record;
     record.center = {subnet.x, subnet.y};
     record.pins = pinsOf(subnet, geometry);
-    record.width = positive(number("width"));
+    record.width = positive(number("width")) * geometry.plotUnits();
     record.visSize = positive(number("vis.size"));
     const int ofKind = m_symbols.find(source.value(QStringLiteral("variant")));
     record.symbol = ofKind >= 0 ? ofKind : m_symbols.find(QStringLiteral("sub"));

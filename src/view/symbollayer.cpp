@@ -105,12 +105,14 @@ void SymbolLayer::setStations(const NetGeometry &geometry) {
 void SymbolLayer::setVisibility(const VisibilityRules &rules, const LayerFilter &layers) {
   for (Record &record : m_records)
     record.isVisible = rules.of(record.item) != VisibilityRules::State::Off && !layers.isHidden(record.item);
+  m_layout.reset(); // also for the boxes of subnets, which follow the same rules
 }
 
 void SymbolLayer::clear() {
   m_records.clear();
   m_index.clear();
   m_figures.clear();
+  m_layout.reset();
 }
 
 QPointF SymbolLayer::centerOf(const Record &r, const Projection &projection) const {
@@ -120,10 +122,17 @@ QPointF SymbolLayer::centerOf(const Record &r, const Projection &projection) con
   return LaneWay(line, static_cast<double>(r.lane) * laneSpacing(true, 0.0, m_size)).middle().center();
 }
 
-std::vector<SymbolLayer::Placed> SymbolLayer::place(const Projection &projection) const {
-  std::vector<Placed> placed;
+const std::vector<SymbolLayer::Placed> &SymbolLayer::place(const Projection &projection) const {
+  if (!m_layout || !(m_layout->projection == projection))
+    m_layout = layOut(projection);
+  return m_layout->placed;
+}
+
+SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
+  Layout layout{projection, {}, {}};
+  std::vector<Placed> &placed = layout.placed;
   if (!projection.isValid() || m_size <= 0.0)
-    return placed;
+    return layout;
   const double margin = m_size * 2.0; // lanes move symbols a little
   const QRectF area = projection.canvas().adjusted(-m_size, -m_size, m_size, m_size);
   std::vector<QRectF> boxes;
@@ -165,6 +174,7 @@ std::vector<SymbolLayer::Placed> SymbolLayer::place(const Projection &projection
     const int number = grid.claim(center, static_cast<int>(placed.size()));
     if (number < static_cast<int>(placed.size())) {
       ++placed[static_cast<std::size_t>(number)].others;
+      layout.behind.emplace_back(number, i);
       continue;
     }
     const Record &r = record(i);
@@ -173,11 +183,11 @@ std::vector<SymbolLayer::Placed> SymbolLayer::place(const Projection &projection
     placed.push_back({r.item, center, qBound(1.0, size * static_cast<double>(r.size), LargestSymbol),
                       std::isfinite(angle) ? angle : 0.0, 0, i});
   }
-  return placed;
+  return layout;
 }
 
 void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
-  const std::vector<Placed> placed = place(Projection(xMap, yMap, canvasRect));
+  const std::vector<Placed> &placed = place(Projection(xMap, yMap, canvasRect));
   for (const Placed &p : placed) {
     const Record &r = m_records[static_cast<std::size_t>(p.record)];
     if (r.figure < 0 || !m_figures.draw(*painter, r.figure, p.center, p.size))
@@ -190,15 +200,19 @@ void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScal
   }
 }
 
-void SymbolLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {
-  const double reach = m_size * 0.5 + tolerance;
-  m_index.query(projection.around(point, reach + m_size * 2.0), [&](int first, int last) {
-    for (int i = first; i < last; ++i) {
-      const Record &record = m_records[static_cast<std::size_t>(i)];
-      const QPointF to = centerOf(record, projection) - point;
-      const double distance = std::hypot(to.x(), to.y());
-      if (record.isVisible && distance <= reach)
-        hits.push_back({record.item, distance});
+void SymbolLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {
+  const std::vector<Placed> &placed = place(projection);
+  for (std::size_t i = 0; i < placed.size(); ++i) {
+    const QPointF to = placed[i].center - point;
+    const double distance = std::hypot(to.x(), to.y());
+    if (distance > placed[i].size * 0.5)
+      continue;
+    hits.push_back({placed[i].item, distance, HitRank::Symbol});
+    if (placed[i].others == 0)
+      continue;
+    for (const auto &[number, record] : m_layout->behind) {
+      if (number == static_cast<int>(i))
+        hits.push_back({m_records[static_cast<std::size_t>(record)].item, distance, HitRank::Symbol});
     }
-  });
+  }
 }

@@ -77,6 +77,13 @@ std::vector<QRectF> TextBoxLayer::places(const Projection &projection) const {
 }
 
 void TextBoxLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {
+  // Only where a text may lie under the point is it worth finding out which of them are drawn.
+  const bool isNear = projection.isValid() && std::any_of(m_records.begin(), m_records.end(), [&](const Record &record) {
+                        const QPointF to = projection.map(record.x, record.y) - point;
+                        return std::abs(to.x()) <= record.size.width() && std::abs(to.y()) <= record.size.height();
+                      });
+  if (!isNear)
+    return;
   for (const Placed &placed : place(projection)) {
     const QPointF to = placed.area.center() - point;
     if (placed.area.contains(point))

@@ -190,10 +190,12 @@ void TestWindow::toolsAndDrawingMeet() {
   layers->setLayerProperty(QStringLiteral("type"));
   layers->on_toolButtonHideAll_clicked();
   const NetUpdate &update = control.plot()->update();
-  const QPointF a = update.projection().map(0, 0);
-  QVERIFY(update.elementsAt(a, 8.0).empty()); // what is not drawn cannot be picked
+  const auto isAThere = [&update] {
+    return !update.elementsAt(update.projection().map(0, 0), 8.0).empty();
+  };
+  QTRY_VERIFY(!isAThere()); // what is not drawn cannot be picked
   layers->on_toolButtonShowAll_clicked();
-  QVERIFY(!update.elementsAt(a, 8.0).empty());
+  QTRY_VERIFY(isAThere());
   viewer.on_actionElement_Table_triggered();
   viewer.on_actionMetadataTable_triggered();
   viewer.open(m_workspace.geometry()); // the tools take the next network

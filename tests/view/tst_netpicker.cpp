@@ -16,15 +16,23 @@ private slots:
   void clickSelectsTheNearest();
   void controlAdds();
   void clickBesideEverythingClears();
+  void controlTakesAwayAgain();
+  void controlDragOnlyMoves();
+  void subnetGoesWithItsNodes_data();
+  void subnetGoesWithItsNodes();
   void rightButtonPicksToo();
+  void rightButtonKeepsTheSelection();
+  void symbolCoversWhatLiesBehind();
   void picksOnReleaseIfAsked();
   void rectangleNeedsItsSetting_data();
   void rectangleNeedsItsSetting();
   void keys();
+  void keysBeginNothingElse();
   void rectangleZoomKey();
   void marksByName();
   void selectionIsDrawnWithoutTheNetwork();
   void hoverMarksAndTells();
+  void layersAreDrawnOnceForAllChanges();
   void crowdIsListed();
   void parallelEdgesArePickedApart();
   void subnetMenu_data();
@@ -102,6 +110,57 @@ void TestNetPicker::controlAdds() {
   QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("A")});
 }
 
+void TestNetPicker::controlTakesAwayAgain() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  click(f, 50, 0);
+  click(f, 150, 0, Qt::ControlModifier);
+  click(f, 50, 0, Qt::ControlModifier);
+  QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("BC")});
+  click(f, 150, 0, Qt::ControlModifier, Qt::RightButton); // its menu is for what is selected
+  QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("BC")});
+}
+
+void TestNetPicker::controlDragOnlyMoves() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  click(f, 0, 0);
+  const QSignalSpy changed(f.control.picker(), &NetPicker::selectionChanged);
+  const double left = f.plot().plot()->visibleRect().left();
+  drag(f, canvasPoint(f, 150, 0), canvasPoint(f, 180, 20), Qt::ControlModifier); // begins on an edge
+  QVERIFY(f.plot().plot()->visibleRect().left() < left - 1.0);
+  QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("A")});
+  QCOMPARE(changed.count(), 0);
+}
+
+void TestNetPicker::subnetGoesWithItsNodes_data() {
+  QTest::addColumn<QString>("setting");
+  QTest::addColumn<QStringList>("left");
+  QTest::newRow("off") << QStringLiteral("off")
+                       << QStringList{QStringLiteral("A"), QStringLiteral("C"), QStringLiteral("D")};
+  QTest::newRow("on") << QStringLiteral("on") << QStringList{QStringLiteral("D")};
+}
+
+void TestNetPicker::subnetGoesWithItsNodes() {
+  QFETCH(QString, setting);
+  QFETCH(QStringList, left);
+  ViewFixture f;
+  f.net.addElement(makeElement({{"name", "Station"}, {"type", "sub"}, {"x", "20"}, {"y", "80"}, {"pins", "A;C"}}));
+  f.plot().show();
+  f.show();
+  set("subnet deselection to its nodes", setting.toLatin1().constData());
+  click(f, 0, 0);
+  for (const QPointF &at : {QPointF(200, 0), QPointF(200, 100), QPointF(20, 80)})
+    click(f, at.x(), at.y(), Qt::ControlModifier);
+  QCOMPARE(f.net.selection().size(), 4);
+  click(f, 20, 80, Qt::ControlModifier);
+  QStringList names = f.net.selection().names().values();
+  names.sort();
+  QCOMPARE(names, left);
+}
+
 void TestNetPicker::clickBesideEverythingClears() {
   ViewFixture f;
   f.plot().show();
@@ -126,6 +185,57 @@ void TestNetPicker::rightButtonPicksToo() {
   QTest::mouseRelease(f.plot().plot()->canvas(), Qt::RightButton, Qt::ShiftModifier, canvasPoint(f, 10, 50));
   if (QWidget *popup = QApplication::activePopupWidget())
     popup->close();
+}
+
+/// Whoever asks for the menu of a selection does not want to lose it.
+void TestNetPicker::rightButtonKeepsTheSelection() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  click(f, 50, 0);
+  click(f, 150, 0, Qt::ControlModifier);
+  const Selection two = f.net.selection();
+  const QSignalSpy picked(f.control.picker(), &NetPicker::picked);
+  click(f, 60, 60, Qt::NoModifier, Qt::RightButton); // beside everything
+  QVERIFY(f.net.selection() == two);
+  QCOMPARE(picked.count(), 0);
+  click(f, 50, 0, Qt::NoModifier, Qt::RightButton); // on one of them, which becomes the current one
+  QVERIFY(f.net.selection() == two);
+  QCOMPARE(picked.last().first().toString(), QStringLiteral("AB"));
+  click(f, 200, 100, Qt::NoModifier, Qt::RightButton);
+  QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("D")});
+}
+
+/// Nodes and drives often lie under the symbol of a compressor.
+void TestNetPicker::symbolCoversWhatLiesBehind() {
+  ViewFixture f;
+  f.addNode("N", "202", "52", "30");
+  f.net.addElement(makeElement({{"name", "Drive"}, {"type", "d"}, {"x", "201"}, {"y", "49"}}));
+  f.plot().show();
+  f.show();
+  for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+    for (const QPointF &at : {QPointF(200, 50), QPointF(202, 52), QPointF(201, 49)}) {
+      click(f, 0, 0);
+      click(f, at.x(), at.y(), Qt::NoModifier, button);
+      QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("CD")});
+    }
+  }
+  // What was chosen among those behind it stays chosen, and the machines are offered one by one.
+  f.control.picker()->choose(*f.plot().update().geometry().find(f.net, QStringLiteral("Drive")));
+  QTest::mouseClick(f.plot().plot()->canvas(), Qt::RightButton, Qt::NoModifier, canvasPoint(f, 200, 50));
+  QCOMPARE(f.net.selection().names(), Selection::Names{QStringLiteral("Drive")});
+  auto *contextMenu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+  QVERIFY(contextMenu != nullptr);
+  const QMenu *machines = subMenu(*contextMenu, QStringLiteral("Open Characteristics of"));
+  QVERIFY(machines != nullptr);
+  const QSignalSpy opened(&f.control, &NetVisControl::openCharacteristicsRequested);
+  for (QAction *entry : machines->actions()) {
+    if (entry->text().startsWith(QStringLiteral("CD")))
+      entry->trigger();
+  }
+  QCOMPARE(opened.count(), 1);
+  QCOMPARE(opened[0][0].toStringList(), QStringList{QStringLiteral("CD")});
+  contextMenu->close();
 }
 
 void TestNetPicker::picksOnReleaseIfAsked() {
@@ -187,6 +297,22 @@ void TestNetPicker::keys() {
   QCOMPARE(f.control.picker()->selectAllAction()->text(), QStringLiteral("Select All (Ctrl+A)"));
 }
 
+/// The toolkit's pickers would begin a rectangle with Return and move the cursor with the arrows.
+void TestNetPicker::keysBeginNothingElse() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  QWidget *canvas = f.plot().plot()->canvas();
+  const QPoint cursor = canvas->mapToGlobal(canvasPoint(f, 50, 50));
+  QCursor::setPos(cursor);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Left, Qt::Key_Down}) {
+    QTest::keyClick(canvas, key);
+    QVERIFY(!f.control.picker()->isActive());
+    QVERIFY(!f.plot().zoomer()->isActive());
+    QCOMPARE(QCursor::pos(), cursor);
+  }
+}
+
 void TestNetPicker::rectangleZoomKey() {
   ViewFixture f;
   f.plot().show();
@@ -237,6 +363,40 @@ void TestNetPicker::hoverMarksAndTells() {
   QMouseEvent beside(QEvent::MouseMove, canvasPoint(f, 60, 60), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
   QApplication::sendEvent(canvas, &beside);
   QVERIFY(!f.plot().selection().hovered().has_value());
+}
+
+void TestNetPicker::layersAreDrawnOnceForAllChanges() {
+  struct Counter : QwtPlotItem {
+    void draw(QPainter * /*painter*/, const QwtScaleMap & /*xMap*/, const QwtScaleMap & /*yMap*/,
+              const QRectF & /*canvas*/) const override {
+      ++drawings;
+    }
+    mutable int drawings = 0;
+  } counter;
+  ViewFixture f;
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("vis.layer"), QStringLiteral("old"));
+  f.plot().show();
+  f.show();
+  QTRY_VERIFY(!f.plot().update().pixtest().isPending());
+  counter.attach(f.plot().plot());
+  QCoreApplication::processEvents();
+  const int before = counter.drawings;
+  const QSignalSpy changed(&f.control, &NetVisControl::layersChanged);
+  const QPointF middle = f.plot().update().projection().map(50, 0);
+  f.control.setHiddenLayers(QStringLiteral("vis.layer"), {QStringLiteral("old")});
+  f.control.setHiddenLayers(QStringLiteral("vis.layer"), {QStringLiteral("old"), QStringLiteral("new")});
+  f.control.setHiddenLayers(QStringLiteral("vis.layer"), {QStringLiteral("new"), QStringLiteral("old")}); // says the same
+  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false); // somebody cannot wait
+  QTest::qWait(50);
+  QCOMPARE(changed.count(), 2);
+  QCOMPARE(counter.drawings, before + 1);
+  QVERIFY(f.plot().update().elementsAt(middle, 8.0).empty());
+  f.show(); // layers are known by name, in another network too
+  QVERIFY(f.plot().update().elementsAt(middle, 8.0).empty());
+  f.control.setHiddenLayers(QStringLiteral("vis.layer"), {});
+  QTRY_VERIFY(!f.plot().update().elementsAt(middle, 8.0).empty());
+  QVERIFY(f.control.layers().hidden().isEmpty());
+  counter.detach();
 }
 
 void TestNetPicker::crowdIsListed() {

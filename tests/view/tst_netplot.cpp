@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QWheelEvent>
+#include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 
 class TestNetPlot : public QObject {
@@ -36,10 +37,24 @@ private slots:
   void viewsBackAndForward();
   void bookmarks();
   void zoomBaseGrows();
+  void coordinatesInDegreesZoomAsOthers_data();
+  void coordinatesInDegreesZoomAsOthers();
+  void peopleReadTheNetworksOwnCoordinates();
+  void thresholdsAreJudgedByTheViewOfTheNetwork_data();
+  void thresholdsAreJudgedByTheViewOfTheNetwork();
+  void thresholdsHoldWithoutAWindowToo();
   void showsAnElement();
   void keysAskForARefresh();
 
 private:
+  /// The fixture's network in other coordinates.
+  static void scale(ViewFixture &f, double factor) {
+    for (const char *name : {"A", "B", "C", "D"}) {
+      element &node = *f.net.element(QString::fromLatin1(name));
+      for (const QString &key : {QStringLiteral("x"), QStringLiteral("y")})
+        node.set(key, QString::number(node.value(key).toDouble() * factor, 'g', 16));
+    }
+  }
   static void turnWheel(NetPlot &plot, const QPoint &place, int eighths) {
     QWheelEvent event(QPointF(place), plot.plot()->canvas()->mapToGlobal(place), QPoint(), QPoint(0, eighths), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -416,6 +431,116 @@ void TestNetPlot::zoomBaseGrows() {
   QCOMPARE(zoomer.zoomRectIndex(), 0U);
   QVERIFY(zoomer.zoomBase().contains(QRectF(0, 0, 1009, 1009)));
   QVERIFY(qAbs(f.plot().settings().largestZoomWidth / zoomer.zoomBase().width() - 1.1) < 1e-9);
+}
+
+void TestNetPlot::coordinatesInDegreesZoomAsOthers_data() {
+  QTest::addColumn<double>("factor");
+  QTest::newRow("degrees") << 0.04; // eight of them across
+  QTest::newRow("fractions") << 1e-9;
+  QTest::newRow("huge") << 1e12;
+}
+
+/// As many steps out as in, and as deep as in a network of metres.
+void TestNetPlot::coordinatesInDegreesZoomAsOthers() {
+  QFETCH(double, factor);
+  const PlainWheel plain;
+  ViewFixture metres;
+  scale(metres, 1e4);
+  ViewFixture other;
+  scale(other, factor);
+  int steps[2] = {0, 0};
+  for (ViewFixture *f : {&metres, &other}) {
+    f->plot().show();
+    f->show();
+    PlotZoom &zoomer = *f->plot().zoomer();
+    const QPointF center = zoomer.zoomRect().center();
+    for (int i = 0; i < 6; ++i)
+      zoomer.zoomIn(center);
+    for (int i = 0; i < 5; ++i) {
+      zoomer.zoomOut(center);
+      QVERIFY(zoomer.zoomRectIndex() != 0U);
+    }
+    QVERIFY(std::abs(zoomer.zoomBase().width() / zoomer.zoomRect().width() - 1.5) < 1e-6);
+    zoomer.fitAll();
+    int &deep = steps[f == &other ? 1 : 0];
+    for (double before = 0.0; before != zoomer.zoomRect().width() && deep < 100; ++deep) {
+      before = zoomer.zoomRect().width();
+      zoomer.zoomIn(center);
+    }
+  }
+  QVERIFY2(steps[1] >= steps[0] - 6, qPrintable(QString::number(steps[1])));
+  QVERIFY2(steps[1] >= 12 && steps[1] < 40, qPrintable(QString::number(steps[1])));
+}
+
+void TestNetPlot::peopleReadTheNetworksOwnCoordinates() {
+  ViewFixture f;
+  scale(f, 0.04); // 8 by 4 degrees
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis"), QStringLiteral("auto"));
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis.zoom"), QStringLiteral("2"));
+  f.plot().show();
+  f.show();
+  QVERIFY(f.plot().visibleArea().contains(QRectF(0, 0, 8, 4)) && f.plot().visibleArea().width() < 12);
+  QVERIFY(f.plot().update().determineVisibleSymbols().empty()); // more than four degrees are in view
+  const QRectF part(7, 1, 1, 1);
+  f.plot().showArea(part);
+  f.plot().update().requestPixtest(-1);
+  QVERIFY((f.plot().visibleArea().center() - part.center()).manhattanLength() < 1e-9);
+  QVERIFY(f.plot().visibleArea().height() < 1.5);
+  QCOMPARE(f.plot().update().determineVisibleSymbols().size(), std::size_t(1));
+  const QwtPlot &area = *f.plot().plot();
+  QVERIFY(!area.axisScaleDiv(QwtPlot::xBottom).ticks(QwtScaleDiv::MajorTick).isEmpty());
+  for (const double tick : area.axisScaleDiv(QwtPlot::xBottom).ticks(QwtScaleDiv::MajorTick)) {
+    const double told = QLocale().toDouble(area.axisScaleDraw(QwtPlot::xBottom)->label(tick).text());
+    QVERIFY(told > 5.0 && told < 10.0);
+  }
+}
+
+void TestNetPlot::thresholdsAreJudgedByTheViewOfTheNetwork_data() {
+  QTest::addColumn<QString>("before");
+  QTest::newRow("nothing") << QString();
+  QTest::newRow("a small network") << QStringLiteral("small");
+  QTest::newRow("a part of it") << QStringLiteral("part");
+}
+
+/// What was shown before must not leave a mark on what is visible now.
+void TestNetPlot::thresholdsAreJudgedByTheViewOfTheNetwork() {
+  QFETCH(QString, before);
+  ViewFixture f;
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis"), QStringLiteral("auto"));
+  f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis.zoom"), QStringLiteral("2000"));
+  f.plot().show();
+  if (before == QLatin1String("small")) {
+    f.show();
+    QCOMPARE(f.plot().update().determineVisibleSymbols().size(), std::size_t(1));
+  }
+  f.plot().update().setNetData(nullptr);
+  scale(f, 100.0);
+  f.show();
+  if (before == QLatin1String("part")) {
+    f.plot().zoomer()->zoom(QRectF(19500, 4500, 1000, 1000));
+    f.plot().update().requestPixtest(-1);
+    QCOMPARE(f.plot().update().determineVisibleSymbols().size(), std::size_t(1));
+    f.show();
+  }
+  QVERIFY(f.plot().plot()->visibleRect().height() > 10000);
+  QVERIFY(f.plot().update().determineVisibleSymbols().empty());
+}
+
+void TestNetPlot::thresholdsHoldWithoutAWindowToo() {
+  for (int threshold = 60; threshold < 200; threshold += 10) {
+    std::size_t seen[2];
+    for (const bool isShown : {false, true}) {
+      ViewFixture f;
+      f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis"), QStringLiteral("auto"));
+      f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis.zoom"), QString::number(threshold));
+      if (isShown)
+        f.plot().show();
+      f.show();
+      f.picture();
+      seen[isShown ? 1 : 0] = f.plot().update().determineVisibleSymbols().size();
+    }
+    QVERIFY2(seen[0] == seen[1], qPrintable(QString::number(threshold)));
+  }
 }
 
 void TestNetPlot::showsAnElement() {

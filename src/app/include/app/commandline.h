@@ -24,7 +24,7 @@ struct CommandLine {
   QString nodeColorBy;
   QString nodeSizeBy;
   QString labels; ///< label mode of the plot settings, empty to leave it; labels are then placed wherever there is room
-  QRectF extent;  ///< what the picture shows, in plot coordinates; null for everything
+  QRectF extent;  ///< what the picture shows, in the network's coordinates; null for everything
   QString text;
 
   static constexpr int DefaultWidth = 1600;

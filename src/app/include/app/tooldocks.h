@@ -56,6 +56,8 @@ public:
   void showElement(const QString &name);
   /// As showElement(), in docks that come to the front.
   void showInfo(const QString &name);
+  /// The property viewer, in front, with the first of the elements.
+  void showProperties(const QStringList &names);
   void showDrawConfiguration();
   /// The maps of compressors and drives, in pages of their own.
   void openCharacteristics(const QStringList &names);

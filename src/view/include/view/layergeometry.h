@@ -28,6 +28,11 @@ public:
   SpatialIndex::Box around(const QPointF &point, double reach) const;
   const QRectF &canvas() const { return m_canvas; }
 
+  friend bool operator==(const Projection &a, const Projection &b) {
+    return a.m_canvas == b.m_canvas && a.m_x0 == b.m_x0 && a.m_y0 == b.m_y0 && a.m_px0 == b.m_px0 && a.m_py0 == b.m_py0 &&
+           a.m_xFactor == b.m_xFactor && a.m_yFactor == b.m_yFactor;
+  }
+
 private:
   SpatialIndex::Box toPlot(const QRectF &area) const;
 
@@ -60,10 +65,14 @@ double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize);
 /// Of a point from a line, both in pixels.
 double distanceToLine(const QPointF &point, const QLineF &line);
 
+/// What of an element was hit; the former covers the latter.
+enum class HitRank { Box, Symbol, Place, Line };
+
 /// Something drawn under the cursor.
 struct Hit {
   NetGeometry::Item item;
   double distance = 0.0; ///< px
+  HitRank rank = HitRank::Line;
 };
 
 /// The font in the size that it has on the screen, whatever it is drawn on.

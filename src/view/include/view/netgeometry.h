@@ -12,6 +12,8 @@
 
 /// What the drawing needs to know of a network apart from colours and sizes: where everything lies and which element it
 /// is. End nodes are looked up once. Points into the network: clear() before the network changes.
+/// Everything here is in plot coordinates. These are the network's own, save where its extent is so small (degrees) or so
+/// large that a zoom in whole units would not work: then they are a power of ten of them.
 class NetGeometry {
 public:
   enum class NodeShape : std::uint8_t { Junction, Supply, Demand, Pressure };
@@ -87,8 +89,13 @@ public:
   const QRectF &extent() const { return m_extent; }
   /// Where most of it lies. Stragglers far away, such as nodes without coordinates that were put to the origin, would
   /// otherwise make a dot of the network.
-  QRectF mainExtent() const;
-  int nodesOutside(const QRectF &area) const;
+  const QRectF &mainExtent() const { return m_mainExtent; }
+  /// Plot units a unit of the network's coordinates.
+  double plotUnits() const { return m_plotUnits; }
+  /// From the network's own coordinates, which a person reads and writes, and back.
+  QRectF toPlot(const QRectF &own) const { return {own.topLeft() * m_plotUnits, own.size() * m_plotUnits}; }
+  QRectF toOwn(const QRectF &plot) const { return {plot.topLeft() / m_plotUnits, plot.size() / m_plotUnits}; }
+  int nodesOutside(const QRectF &extent) const;
   bool hasExtent() const { return m_hasExtent; } ///< something is placed
   bool isPlaced(const Edge &edge) const;
   /// From the first end node to the second; of a placed edge.
@@ -118,12 +125,17 @@ private:
   void findPins(const NetData &net);
   std::vector<Place> places(const elements &collection);
   void extend(double x, double y);
+  QRectF findMainExtent() const;
+  /// Brings the coordinates to a size that suits the zoom.
+  void takePlotUnits();
 
   std::vector<Node> m_nodes;
   std::vector<Edge> m_edges;
   std::vector<Place> m_textBoxes;
   std::vector<Place> m_subnets;
   QRectF m_extent;
+  QRectF m_mainExtent;
+  double m_plotUnits = 1.0;
   bool m_hasExtent = false;
   int m_unplaced = 0;
 };

@@ -34,8 +34,10 @@ public:
   void showSelection();
   /// Selects what the names say, and shows it.
   void setSelection(const Selection &selection);
-  /// What is drawn near the place on the canvas, the nearest first.
-  std::vector<NetGeometry::Item> itemsAt(const QPoint &position) const;
+  /// What lay under the cursor when a button was pressed, the nearest first, for the menu that this asked for.
+  std::vector<NetGeometry::Item> pressedItems() const;
+  /// Forgets what lay under the cursor, for another network.
+  void reset() override;
 
 signals:
   void selectionChanged();
@@ -56,9 +58,15 @@ protected:
 
 private:
   static Mode modeFor(Qt::MouseButton button, Qt::KeyboardModifiers keys);
-  void pick(const QPoint &position);
+  void pick(Qt::MouseButton button);
+  /// The selection after a pick of the hit.
+  Selection selectionWith(NetGeometry::Item item, bool isMenu) const;
+  /// Which of the hits the button means.
+  std::optional<NetGeometry::Item> target(Qt::MouseButton button) const;
+  bool isSelected(NetGeometry::Item item) const;
+  void deselect(NetGeometry::Item item, Selection &selection) const;
+  std::vector<Hit> hitsAt(const QPoint &position) const;
   void pickRectangle(const QRectF &area);
-  void add(NetGeometry::Item item);
   QString nameOf(NetGeometry::Item item) const;
   QString toolTipFor(NetGeometry::Item item) const;
   void hover(const QPoint &position);
@@ -70,6 +78,7 @@ private:
   QAction *m_selectAll;
   Mode m_mode = Mode::None;
   QPoint m_pressed;
+  std::vector<Hit> m_hits; ///< at the place that was pressed
   bool m_picksOnRelease = false;
   bool m_zoomsRectangle = false; ///< with the next drag
 };

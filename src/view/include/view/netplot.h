@@ -42,10 +42,15 @@ public:
 
   /// Takes the general setting "MousePattern_Panning" for the button that moves the view.
   void readMousePattern();
-  /// The place of the last context menu on the canvas.
-  QPoint menuPosition() const { return m_menuPosition; }
+  /// The button with these keys moves the view when it is dragged.
+  bool pansWith(Qt::MouseButton button, Qt::KeyboardModifiers keys) const;
   /// Draws the network anew and fits its main body to the window; a hint tells how many nodes lie far outside.
   void showNetwork();
+  /// Takes the extent of the network that was just read for the whole view.
+  void fitNetwork();
+  /// What the window shows, and what it is to show, in the network's own coordinates.
+  QRectF visibleArea() const;
+  void showArea(const QRectF &area);
   bool hasStragglers() const { return m_stragglers > 0; }
   /// Fits the window to everything, however far it lies.
   void showStragglers();
@@ -74,7 +79,7 @@ private:
   void setUpPanner();
   void applyColors();
   bool canvasEvent(QEvent *event);
-  void showContextMenu(const QPoint &position);
+  void showContextMenu();
 
   QwtFastPlot *m_plot;
   PlotSettings m_settings;
@@ -84,7 +89,6 @@ private:
   SmoothZoom *m_smoothZoom;
   SelectionLayer m_selection;
   bool m_mouseMoved = false; ///< since the last button press
-  QPoint m_menuPosition;
   QwtPlotGrid m_grid;
   QwtPlotMarker m_legend;
   QwtPlotTextLabel m_hint; ///< why there is nothing to see, or what lies outside

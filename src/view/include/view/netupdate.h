@@ -40,7 +40,7 @@ public:
   const LabelTable &labelTable() const { return m_labelTable; }
   /// Layers whose elements are not drawn, by the values of the property; drawn with the next updatePlot().
   void setHiddenLayers(const QString &property, const QSet<QString> &layers) { m_layers.setHidden(property, layers); }
-  const QSet<QString> &hiddenLayers() const { return m_layers.hidden(); }
+  const LayerFilter &layers() const { return m_layers; }
   void setDisplayMode(DisplayMode mode) { m_displayMode = mode; }
   DisplayMode displayMode() const { return m_displayMode; }
 
@@ -50,6 +50,8 @@ public:
   void updatePlot(bool rebuild, Which which, bool relabel);
   /// What the legend says of the functions as they are drawn.
   QString legendText() const;
+  /// Draws with the present layers and values before the event loop turns again, once for all who asked.
+  void requestUpdate() { m_asked.start(); }
 
   /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
   /// they are negative.
@@ -69,7 +71,8 @@ public:
   /// Elements in view whose label found no place in the last pass.
   const std::vector<NetGeometry::Item> &unplacedLabels() const { return m_unplaced; }
 
-  /// What is drawn under the point of the canvas: boxes, then what stands at a place, then lines; each by distance.
+  /// What is drawn under the point of the canvas: boxes, then symbols, then what stands at a place, then lines; each by
+  /// distance.
   std::vector<Hit> elementsAt(const QPointF &point, double tolerance) const;
   /// What lies wholly in the rectangle, in plot coordinates.
   std::vector<NetGeometry::Item> elementsIn(const QRectF &area) const;
@@ -84,10 +87,13 @@ private:
   double sizeOf(const char *type, double otherwise) const;
   void showWhatIsVisible();
   void updateSymbols(bool rebuild);
+  /// The height of the view in the network's own coordinates, in which thresholds are given.
+  double seenHeight() const;
 
   NetPlot &m_plot;
   const PlotSettings &m_settings;
   const NetData *m_net = nullptr;
+  bool m_isNew = false; ///< nothing of the network was drawn yet
   NetGeometry m_geometry;
   DrawValues m_values;
   LabelTable m_labelTable;
@@ -103,4 +109,5 @@ private:
   std::vector<NetGeometry::Item> m_unplaced;
   bool m_hasPlacedLabels = false; ///< for this view; those that stand may be none
   Pixtest m_pixtest;
+  QTimer m_asked; ///< for an update at the end of this turn of the event loop
 };

@@ -18,6 +18,8 @@ private:
   void addSelection(QMenu &contextMenu) const;
   void addSubnet(QMenu &contextMenu) const;
   void addCharacteristics(QMenu &contextMenu) const;
+  void addMachinesHere(QMenu &contextMenu) const;
+  bool isMachine(const QString &name) const;
   void addTrace(QMenu &contextMenu) const;
   void addSubnetEntries(QMenu &parent, const QString &subnet) const;
   void addView(QMenu &contextMenu) const;

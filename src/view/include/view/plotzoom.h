@@ -3,6 +3,7 @@
 #include <view/plotsettings.h>
 #include <view/viewhistory.h>
 
+#include <QStack>
 #include <QTimer>
 #include <qwt_plot_zoomer.h>
 
@@ -15,7 +16,7 @@ class PlotZoom : public QwtPlotZoomer {
 public:
   PlotZoom(QwtFastPlot &plot, PlotSettings &settings);
 
-  /// Makes the extent of a network the zoom base and shows it.
+  /// Makes the extent of a network, with some room around, the zoom base and shows it.
   void setExtent(const QRectF &extent);
   /// Limits that suit an extent. A pixel span (a width and a height in plot units) above 10 allows to zoom in so far.
   void setZoomLimits(const QRectF &extent, const QSizeF &pixelSpan);
@@ -65,6 +66,10 @@ protected:
 
 private:
   void cutStack();
+  /// Gives the base, and the view that was chosen last, the shape of the canvas as it is now.
+  void fitCanvas();
+  /// Puts the views on the stack without a word to anybody.
+  void setStack(const QStack<QRectF> &views, int index);
   void shift(double horizontal, double vertical);
   /// Gives both axes one scale about their centres; false when nothing is to be done.
   bool applyAxesRatio();
@@ -75,7 +80,9 @@ private:
 
   QwtFastPlot &m_plot;
   PlotSettings &m_settings;
-  QRectF m_extent;
+  QRectF m_wholeNetwork; ///< what the base shows on a canvas of any shape
+  QRectF m_chosen;       ///< the view as a person chose it,
+  QRectF m_fitted;       ///< and what a canvas of another shape made of it since
   int m_wheelDegrees = 0;
   ViewHistory m_history;
   QTimer m_rest; ///< until a view counts as one that a person rested at

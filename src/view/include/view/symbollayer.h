@@ -10,6 +10,10 @@
 
 #include <qwt_plot_item.h>
 
+#include <optional>
+#include <utility>
+#include <vector>
+
 class SubnetLayer;
 
 /// The symbols of stations: edges other than pipes and drives, and the figures that elements bring themselves. Those that
@@ -25,7 +29,10 @@ public:
   /// Symbols behind the boxes of subnets are not drawn. It must live as long as this layer.
   void setSubnets(const SubnetLayer *subnets) { m_subnets = subnets; }
   /// The size of the symbols, and of those of single element types (by type code) that have another.
-  void setSize(double pixels) { m_size = pixels; }
+  void setSize(double pixels) {
+    m_size = pixels;
+    m_layout.reset();
+  }
   void setSizes(const QHash<QString, double> &sizes) { m_sizes = sizes; }
   double size() const { return m_size; }
   /// Symbols that are off are not drawn.
@@ -35,8 +42,8 @@ public:
   int rtti() const override { return Rtti_PlotUserItem + 3; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 
-  /// Adds the elements whose symbols lie under the point, those that share a symbol too.
-  void find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const;
+  /// Adds the elements whose symbols lie under the point, behind each those that share it.
+  void find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const;
 
   /// A symbol that is drawn.
   struct Placed {
@@ -47,8 +54,8 @@ public:
     int others = 0;     ///< that stand behind it
     int record = 0;
   };
-  /// What is drawn of it, the more important first.
-  std::vector<Placed> place(const Projection &projection) const;
+  /// What is drawn of it, the more important first. Kept until the symbols, their visibility or the view change.
+  const std::vector<Placed> &place(const Projection &projection) const;
 
 private:
   struct Record {
@@ -65,6 +72,14 @@ private:
     bool isVisible = true;
   };
 
+  /// What is drawn of one view.
+  struct Layout {
+    Projection projection;
+    std::vector<Placed> placed;
+    std::vector<std::pair<int, int>> behind; ///< a symbol, by its position in placed, and a record that stands behind it
+  };
+
+  Layout layOut(const Projection &projection) const;
   std::vector<Record> records(const NetGeometry &geometry);
   int symbolOf(const NetGeometry::Edge &edge);
   QPointF centerOf(const Record &record, const Projection &projection) const;
@@ -76,4 +91,5 @@ private:
   const SubnetLayer *m_subnets = nullptr;
   QHash<QString, double> m_sizes;
   double m_size = 20.0;
+  mutable std::optional<Layout> m_layout; ///< of the view that was asked for last
 };
