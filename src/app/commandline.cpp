@@ -27,6 +27,39 @@ CommandLine print(const QString &text) {
   return line;
 }
 
+/// Options of the toolkit, which the application object takes for itself; it knows them with one or two dashes.
+struct ToolkitOptions {
+  static bool hasValue(const QString &name) {
+    static const QStringList names{QStringLiteral("platform"),        QStringLiteral("platformpluginpath"),
+                                   QStringLiteral("platformtheme"),   QStringLiteral("plugin"),
+                                   QStringLiteral("qwindowgeometry"), QStringLiteral("geometry"),
+                                   QStringLiteral("qwindowtitle"),    QStringLiteral("title"),
+                                   QStringLiteral("qwindowicon"),     QStringLiteral("icon"),
+                                   QStringLiteral("session"),         QStringLiteral("display"),
+                                   QStringLiteral("style"),           QStringLiteral("stylesheet")};
+    return names.contains(name);
+  }
+
+  static bool isSwitch(const QString &name) {
+    static const QStringList names{QStringLiteral("reverse"), QStringLiteral("nograb"), QStringLiteral("dograb"),
+                                   QStringLiteral("testability"), QStringLiteral("widgetcount")};
+    return names.contains(name) || name.startsWith(QLatin1String("style=")) || name.startsWith(QLatin1String("stylesheet="));
+  }
+
+  static QStringList without(const QStringList &arguments) {
+    QStringList left;
+    for (int i = 0; i < arguments.size(); ++i) {
+      const QString &argument = arguments[i];
+      const QString name = argument.mid(argument.startsWith(QLatin1String("--")) ? 2 : 1);
+      if (i == 0 || !argument.startsWith(QLatin1Char('-')) || !(hasValue(name) || isSwitch(name)))
+        left.append(argument);
+      else if (hasValue(name))
+        ++i;
+    }
+    return left;
+  }
+};
+
 /// The options that say what the picture shows.
 struct DrawOptions {
   QCommandLineOption colorBy{QStringLiteral("color-by"), tr("Property by which the edges are coloured."),
@@ -96,7 +129,7 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
   const DrawOptions drawing;
   parser.addOptions(QList<QCommandLineOption>{help, version, info, picture, width} + drawing.all());
   parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
-  if (!parser.parse(arguments))
+  if (!parser.parse(ToolkitOptions::without(arguments)))
     return wrong(parser.errorText());
   if (parser.isSet(help))
     return print(parser.helpText());

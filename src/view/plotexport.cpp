@@ -46,6 +46,26 @@ private:
   QSize m_smallest;
 };
 
+/// The canvas would first paint into a store as large as the picture; where there is no memory for that, it paints nothing
+/// and says nothing.
+class WithoutStore {
+public:
+  explicit WithoutStore(NetPlot &plot)
+      : m_canvas(qobject_cast<QwtPlotCanvas *>(plot.plot()->canvas())) {
+    if (m_canvas != nullptr)
+      m_canvas->setPaintAttribute(QwtPlotCanvas::BackingStore, false);
+  }
+  ~WithoutStore() {
+    if (m_canvas != nullptr)
+      m_canvas->setPaintAttribute(QwtPlotCanvas::BackingStore, true);
+  }
+  WithoutStore(const WithoutStore &) = delete;
+  WithoutStore &operator=(const WithoutStore &) = delete;
+
+private:
+  QwtPlotCanvas *m_canvas;
+};
+
 /// The first rendering brings layout and scales to the new size, so that the next one is as the screen would show it.
 /// Labels that stood before are placed again.
 void layOut(NetPlot &plot, bool hasLabels) {
@@ -178,6 +198,7 @@ bool exportPlot(NetPlot &plot, const QString &path, int width, QString *error) {
       const bool hasLabels = !plot.update().labels().empty();
       plot.selection().setHovered(std::nullopt);
       {
+        const WithoutStore direct(plot);
         const TemporarySize size(plot, width);
         layOut(plot, hasLabels);
         isDone = writeFormat(plot, file, format, reason) && file.error() == QFile::NoError && file.commit();

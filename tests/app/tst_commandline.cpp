@@ -38,6 +38,10 @@ void TestCommandLine::parse_data() {
   row("--export a.png --extent 0,0,nan,10 net.geom", Action::Wrong);
   row("--info --color-by q net.geom", Action::Wrong);
   row("--colour", Action::Wrong);
+  row("-platform offscreen -style fusion -geometry 300x200+0+0 --stylesheet a.qss net.geom", Action::Window);
+  row("-style=windows -reverse", Action::Window);
+  row("--info net.geom -platform minimal", Action::Batch);
+  row("-platforms offscreen", Action::Wrong);
 }
 
 void TestCommandLine::parse() {
@@ -49,6 +53,8 @@ void TestCommandLine::parse() {
   const CommandLine line = CommandLine::parse(list);
   QCOMPARE(static_cast<int>(line.action), action);
   QCOMPARE(line.width, width);
+  if (line.action == CommandLine::Action::Window || line.action == CommandLine::Action::Batch)
+    QCOMPARE(line.file, list.contains(QStringLiteral("net.geom")) ? QStringLiteral("net.geom") : line.file);
   if (line.action == CommandLine::Action::Wrong)
     QVERIFY(!line.text.isEmpty());
 }
