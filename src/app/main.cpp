@@ -42,6 +42,8 @@ int runWindow(int argc, char **argv, const CommandLine &line) {
   const QApplication application(argc, argv);
   CrashGuard::setUp(LogFiles::Run::Window);
   NivraViewer viewer;
+  if (!line.style.isEmpty())
+    QApplication::setStyle(line.style);
   // Inside the event loop, so that a window that is closed while it reads ends the program.
   if (!line.file.isEmpty())
     QTimer::singleShot(0, &viewer, [&] { viewer.open(line.file); });

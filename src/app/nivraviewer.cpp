@@ -72,8 +72,8 @@ NivraViewer::NivraViewer(QWidget *parent)
 
 NivraViewer::~NivraViewer() = default;
 
-// The menu bar has an icon, and for a picture the toolkit asks all its plugins and loads them for that: a third of the
-// start. Out of their sight it reads the icon by itself.
+// The menu bar has an icon. To read a picture the toolkit loads all of its plugins for pictures and asks them, which was a
+// fifth of the start; while it does not see them it reads this one by itself.
 void NivraViewer::setUpForm() {
   const QStringList plugins = QCoreApplication::libraryPaths();
   QCoreApplication::setLibraryPaths({});
@@ -308,10 +308,12 @@ void NivraViewer::closeEvent(QCloseEvent *event) {
 /// Tables and the guide are windows without a parent, which would keep the program alive. False when one of them refuses.
 bool NivraViewer::closeOthers() {
   QList<QPointer<QWidget>> others;
-  for (QWidget *window : QApplication::topLevelWidgets())
-    others.append(window);
+  for (QWidget *window : QApplication::topLevelWidgets()) {
+    if (window != this && window->parentWidget() == nullptr)
+      others.append(window);
+  }
   for (const QPointer<QWidget> &window : qAsConst(others)) {
-    if (window != nullptr && window != this && window->isVisible() && !window->close())
+    if (window != nullptr && window->isVisible() && !window->close())
       return false;
   }
   return true;

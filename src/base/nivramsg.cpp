@@ -71,7 +71,7 @@ void scrollText(QMessageBox &box) {
   area->setReadOnly(true);
   area->setTabChangesFocus(true);
   const QFontMetrics metrics = area->fontMetrics();
-  const QSize available = QGuiApplication::primaryScreen()->availableSize() / 2;
+  const QSize available = box.screen()->availableSize() / 2;
   const int lines = area->document()->blockCount();
   int widest = 0;
   for (QTextBlock block = area->document()->firstBlock(); block.isValid() && widest < available.width();

@@ -8,6 +8,7 @@ class TestCommandLine : public QObject {
 private slots:
   void parse_data();
   void parse();
+  void styleIsKept();
 };
 
 void TestCommandLine::parse_data() {
@@ -57,6 +58,16 @@ void TestCommandLine::parse() {
     QCOMPARE(line.file, list.contains(QStringLiteral("net.geom")) ? QStringLiteral("net.geom") : line.file);
   if (line.action == CommandLine::Action::Wrong)
     QVERIFY(!line.text.isEmpty());
+}
+
+void TestCommandLine::styleIsKept() {
+  const auto style = [](const QStringList &arguments) {
+    return CommandLine::parse(QStringList{QStringLiteral("NivraViewer")} + arguments).style;
+  };
+  QCOMPARE(style({QStringLiteral("-style=windows"), QStringLiteral("a.geom")}), QStringLiteral("windows"));
+  QCOMPARE(style({QStringLiteral("--style"), QStringLiteral("windows")}), QStringLiteral("windows"));
+  QCOMPARE(style({QStringLiteral("-stylesheet"), QStringLiteral("a.qss")}), QString());
+  QCOMPARE(style({QStringLiteral("-style")}), QString());
 }
 
 NIVRA_TEST(TestCommandLine);

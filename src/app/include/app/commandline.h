@@ -15,6 +15,7 @@ struct CommandLine {
 
   Action action = Action::Window;
   QString file;
+  QString style; ///< of the toolkit, where one was asked for
   bool info = false;
   QString picture;
   int width = 0; ///< pixels, 0 for the default
