@@ -4,4 +4,4 @@ set -euo pipefail
 cd "$(dirname "$0")"
 scripts/install-dependencies.sh build
 scripts/build.sh release
-ctest --preset release "$@"
+ctest --preset release --parallel "$(nproc)" "$@"

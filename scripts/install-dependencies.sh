@@ -3,10 +3,10 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config
-  qtbase5-dev qttools5-dev libqt5svg5-dev qt5-image-formats-plugins libqwt-qt5-dev libmuparserx-dev
+  qtbase5-dev qttools5-dev libqt5svg5-dev qt5-image-formats-plugins libqt5opengl5-dev libqwt-qt5-dev libmuparserx-dev
   libudunits2-dev libsimdjson-dev libboost-dev libeigen3-dev libbenchmark-dev
   fonts-liberation xvfb xauth)
-check=(clang-format clang-tidy g++-mingw-w64-x86-64 python3 python3-numpy git)
+check=(clang-format clang-tidy g++-mingw-w64-x86-64 python3 python3-numpy git mmdebstrap)
 
 wanted=()
 for set in "${@:-build}"; do

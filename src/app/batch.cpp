@@ -8,12 +8,17 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 
+#include <algorithm>
 #include <app/batch.h>
 #include <app/networkloader.h>
+#include <cstdio>
+#include <ctime>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -39,6 +44,55 @@ int failed(const QString &reason) {
   writeAll(LogFiles::realStandardError(), reason.toUtf8() + '\n');
   return 1;
 }
+
+/// Seconds since the system started this process, to a hundredth: what loading the libraries took is part of them. 0 where
+/// the system does not tell.
+double processAge() {
+  QFile file(QStringLiteral("/proc/self/stat"));
+  timespec now{};
+  if (!file.open(QIODevice::ReadOnly) || clock_gettime(CLOCK_BOOTTIME, &now) != 0)
+    return 0.0;
+  const QByteArray line = file.readAll();
+  // Behind the name, which may hold blanks, the time of the start is the twentieth field.
+  constexpr int StartField = 19;
+  const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+  const double start = fields.value(StartField).toDouble() / static_cast<double>(sysconf(_SC_CLK_TCK));
+  constexpr double Nano = 1e-9;
+  const double age = static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * Nano - start;
+  return fields.size() > StartField ? std::max(0.0, age) : 0.0;
+}
+
+/// What every stage of the run took, from the start of the process on, so that their sum is the time on the clock.
+class StageTimes {
+public:
+  StageTimes() {
+    add(QStringLiteral("start"), processAge());
+    m_timer.start();
+  }
+
+  /// The stage that now ends began when the one before ended.
+  void end(const QString &stage) { add(stage, static_cast<double>(m_timer.nsecsElapsed()) * Nano - m_sinceStart); }
+  void add(const QString &stage, double seconds) {
+    m_stages.insert(stage, m_stages.value(stage).toDouble() + seconds);
+    m_total += seconds;
+    if (m_timer.isValid())
+      m_sinceStart += seconds;
+  }
+
+  QJsonObject seconds() const {
+    QJsonObject all = m_stages;
+    all.insert(QStringLiteral("total"), m_total);
+    return all;
+  }
+
+private:
+  static constexpr double Nano = 1e-9;
+
+  QElapsedTimer m_timer;
+  QJsonObject m_stages;
+  double m_sinceStart = 0.0; ///< accounted for on the timer
+  double m_total = 0.0;
+};
 
 double peakMemoryMB() {
   rusage usage{};
@@ -66,7 +120,32 @@ Counts count(NetData &net) {
   return counts;
 }
 
-QJsonObject info(NetData &net, const NetworkLoader &loader, double drawSeconds, const NivraMsg::Recorder &recorder) {
+/// Everything that was noticed, then the warnings that say something else.
+void addMessages(QJsonObject &object, const NetworkLoader &loader, const NivraMsg::Recorder &recorder) {
+  QStringList findings;
+  QSet<QString> known;
+  FindingList list;
+  list.set(loader.noticed());
+  for (const FindingList::Group &group : list.shown()) {
+    for (const Finding &finding : group.findings) {
+      findings.append(finding.logText());
+      known << finding.logText() << finding.text;
+    }
+  }
+  QStringList warnings;
+  for (const QString &message : recorder.lines()) {
+    for (const QString &line : message.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+      if (!known.contains(line))
+        warnings.append(line);
+    }
+  }
+  if (recorder.dropped() > 0)
+    warnings.append(tr("... and %1 more, see the log").arg(recorder.dropped()));
+  object.insert(QStringLiteral("findings"), QJsonArray::fromStringList(findings));
+  object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(warnings));
+}
+
+QJsonObject info(NetData &net, const NetworkLoader &loader, StageTimes &times, const NivraMsg::Recorder &recorder) {
   const NivraWorkspace &workspace = loader.workspace();
   QJsonObject object;
   object.insert(QStringLiteral("workspace"), workspace.root());
@@ -81,16 +160,9 @@ QJsonObject info(NetData &net, const NetworkLoader &loader, double drawSeconds, 
   object.insert(QStringLiteral("properties"), counts.properties);
   object.insert(QStringLiteral("removed"), QJsonObject{{QStringLiteral("nodes"), loader.removed().nodes},
                                                        {QStringLiteral("edges"), loader.removed().edges}});
-  object.insert(QStringLiteral("findings"),
-                QJsonArray::fromStringList(loader.checkFindings().split(QLatin1Char('\n'), Qt::SkipEmptyParts)));
-  QStringList warnings = recorder.lines();
-  if (recorder.dropped() > 0)
-    warnings.append(tr("... and %1 more, see the log").arg(recorder.dropped()));
-  object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(warnings));
-  QJsonObject seconds{{QStringLiteral("draw"), drawSeconds}};
-  for (const auto &[stage, time] : loader.seconds())
-    seconds.insert(stage, time);
-  object.insert(QStringLiteral("seconds"), seconds);
+  addMessages(object, loader, recorder);
+  times.end(QStringLiteral("count"));
+  object.insert(QStringLiteral("seconds"), times.seconds());
   object.insert(QStringLiteral("peakMemoryMB"), peakMemoryMB());
   return object;
 }
@@ -130,6 +202,13 @@ bool applyFunctions(const CommandLine &line, NetPlot &plot, const NetData &net, 
   return true;
 }
 
+/// Ends the process with what the system does anyway: giving back a large network piece by piece takes as long as drawing
+/// it.
+[[noreturn]] void leave(int status) {
+  std::fflush(nullptr);
+  _exit(status);
+}
+
 } // namespace
 
 int Batch::run(const CommandLine &line) {
@@ -138,23 +217,24 @@ int Batch::run(const CommandLine &line) {
   NetData net;
   NetVisControl control(net, QString());
   NetworkLoader loader(net);
+  StageTimes times;
   if (!loader.resolve(line.file))
     return failed(loader.error());
   GeneralSettings::instance().load(loader.workspace().root());
   loader.readConfiguration();
+  times.end(QStringLiteral("configuration"));
   if (!loader.readNetwork({}))
     return failed(loader.error());
+  for (const auto &[stage, time] : loader.seconds())
+    times.add(stage, time);
 
-  QElapsedTimer timer;
-  timer.start();
   constexpr int ShownWidth = 1200;
   constexpr int ShownHeight = 900;
   control.plot()->resize(ShownWidth, ShownHeight);
   control.setSubnetIcons(loader.templateFolder());
   control.showNetData(loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
   control.plot()->grab();
-  constexpr double Milli = 1e-3;
-  const double drawSeconds = static_cast<double>(timer.elapsed()) * Milli;
+  times.end(QStringLiteral("draw"));
 
   if (!line.picture.isEmpty()) {
     QString reason;
@@ -166,11 +246,19 @@ int Batch::run(const CommandLine &line) {
       control.plot()->update().relabelNow();
     if (!exportPlot(*control.plot(), line.picture, line.width > 0 ? line.width : CommandLine::DefaultWidth, &reason))
       return failed(reason);
+    times.end(QStringLiteral("export"));
   }
   if (line.info) {
-    const QByteArray json = QJsonDocument(info(net, loader, drawSeconds, recorder)).toJson();
+    const QByteArray json = QJsonDocument(info(net, loader, times, recorder)).toJson();
     if (!writeAll(LogFiles::realStandardOutput(), json))
       return failed(tr("The answer could not be written to the standard output."));
   }
-  return 0;
+  leave(0);
+}
+
+int Batch::outOfMemory() {
+  constexpr char Reason[] = "There is not enough memory for this network and picture.\n";
+  const ssize_t written = ::write(LogFiles::realStandardError(), Reason, sizeof Reason - 1);
+  static_cast<void>(written);
+  return 1;
 }

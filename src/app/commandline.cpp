@@ -27,6 +27,42 @@ CommandLine print(const QString &text) {
   return line;
 }
 
+/// Options of the toolkit, which the application object takes for itself; it knows them with one or two dashes.
+struct ToolkitOptions {
+  static bool hasValue(const QString &name) {
+    static const QStringList names{QStringLiteral("platform"),        QStringLiteral("platformpluginpath"),
+                                   QStringLiteral("platformtheme"),   QStringLiteral("plugin"),
+                                   QStringLiteral("qwindowgeometry"), QStringLiteral("geometry"),
+                                   QStringLiteral("qwindowtitle"),    QStringLiteral("title"),
+                                   QStringLiteral("qwindowicon"),     QStringLiteral("icon"),
+                                   QStringLiteral("session"),         QStringLiteral("display"),
+                                   QStringLiteral("style"),           QStringLiteral("stylesheet")};
+    return names.contains(name);
+  }
+
+  static bool isSwitch(const QString &name) {
+    static const QStringList names{QStringLiteral("reverse"), QStringLiteral("nograb"), QStringLiteral("dograb"),
+                                   QStringLiteral("testability"), QStringLiteral("widgetcount")};
+    return names.contains(name) || name.startsWith(QLatin1String("style=")) || name.startsWith(QLatin1String("stylesheet="));
+  }
+
+  /// Also notes the style, which the window would replace by its own.
+  static QStringList without(const QStringList &arguments, QString &style) {
+    QStringList left;
+    for (int i = 0; i < arguments.size(); ++i) {
+      const QString &argument = arguments[i];
+      const QString name = argument.mid(argument.startsWith(QLatin1String("--")) ? 2 : 1);
+      if (i == 0 || !argument.startsWith(QLatin1Char('-')) || !(hasValue(name) || isSwitch(name)))
+        left.append(argument);
+      else if (name.startsWith(QLatin1String("style=")))
+        style = name.section(QLatin1Char('='), 1);
+      else if (hasValue(name) && ++i < arguments.size() && name == QLatin1String("style"))
+        style = arguments[i];
+    }
+    return left;
+  }
+};
+
 /// The options that say what the picture shows.
 struct DrawOptions {
   QCommandLineOption colorBy{QStringLiteral("color-by"), tr("Property by which the edges are coloured."),
@@ -96,7 +132,8 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
   const DrawOptions drawing;
   parser.addOptions(QList<QCommandLineOption>{help, version, info, picture, width} + drawing.all());
   parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
-  if (!parser.parse(arguments))
+  QString style;
+  if (!parser.parse(ToolkitOptions::without(arguments, style)))
     return wrong(parser.errorText());
   if (parser.isSet(help))
     return print(parser.helpText());
@@ -104,6 +141,7 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
     return print(QStringLiteral("Nivra Reader %1\n").arg(AboutBox::version()));
 
   CommandLine line;
+  line.style = style;
   line.info = parser.isSet(info);
   line.picture = parser.value(picture);
   const QStringList files = parser.positionalArguments();

@@ -8,6 +8,7 @@
 #include <app/commandline.h>
 #include <app/nivraviewer.h>
 #include <cstdio>
+#include <new>
 
 namespace {
 
@@ -27,16 +28,22 @@ int runBatch(int argc, char **argv, const CommandLine &line) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
-  CrashGuard::setUp();
-  return Batch::run(line);
+  CrashGuard::setUp(LogFiles::Run::Batch);
+  try {
+    return Batch::run(line);
+  } catch (const std::bad_alloc &) {
+    return Batch::outOfMemory();
+  }
 }
 
 int runWindow(int argc, char **argv, const CommandLine &line) {
   QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   const QApplication application(argc, argv);
-  CrashGuard::setUp();
+  CrashGuard::setUp(LogFiles::Run::Window);
   NivraViewer viewer;
+  if (!line.style.isEmpty())
+    QApplication::setStyle(line.style);
   // Inside the event loop, so that a window that is closed while it reads ends the program.
   if (!line.file.isEmpty())
     QTimer::singleShot(0, &viewer, [&] { viewer.open(line.file); });

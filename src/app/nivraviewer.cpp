@@ -1,9 +1,9 @@
 #include "ui_nivraviewer.h"
 
+#include <base/fileaccess.h>
 #include <base/generalsettings.h>
 #include <base/logo.h>
 #include <base/nivramsg.h>
-#include <model/units.h>
 #include <tools/nivrasearch.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
@@ -13,11 +13,12 @@
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMimeData>
+#include <QPointer>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QToolButton>
 
@@ -32,10 +33,12 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_ui(std::make_unique<Ui::NivraViewer>())
     , m_control(std::make_unique<NetVisControl>(m_net, QString()))
     , m_loader(m_net) {
-  m_ui->setupUi(this);
+  setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());
-  if (QStyleFactory::keys().contains(QStringLiteral("Fusion")))
+  const QString style = QApplication::style()->objectName(); // setting it again would lay out every widget again
+  if (style.compare(QStringLiteral("Fusion"), Qt::CaseInsensitive) != 0 &&
+      QStyleFactory::keys().contains(QStringLiteral("Fusion")))
     QApplication::setStyle(QStringLiteral("Fusion"));
   const QString ownStyle = GeneralSettings::userDirectory() + QStringLiteral("/stylesheet.qss");
   if (QFileInfo::exists(ownStyle))
@@ -65,10 +68,18 @@ NivraViewer::NivraViewer(QWidget *parent)
   setAcceptDrops(true);
   GeneralSettings::instance().load();
   m_control->clear();
-  Units::initialise();
 }
 
 NivraViewer::~NivraViewer() = default;
+
+// The menu bar has an icon. To read a picture the toolkit loads all of its plugins for pictures and asks them, which was a
+// fifth of the start; while it does not see them it reads this one by itself.
+void NivraViewer::setUpForm() {
+  const QStringList plugins = QCoreApplication::libraryPaths();
+  QCoreApplication::setLibraryPaths({});
+  m_ui->setupUi(this);
+  QCoreApplication::setLibraryPaths(plugins);
+}
 
 QString NivraViewer::openDialogStart(const QString &applicationDir) {
   const QString folder = applicationDir + QStringLiteral("/example");
@@ -119,21 +130,24 @@ void NivraViewer::open(const QString &path) {
 }
 
 void NivraViewer::applyStyleSheet(const QString &path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    NivraMsg::logWarning(tr("Cannot read the style sheet %1: %2").arg(path, file.errorString()));
-    return;
-  }
-  qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
+  QString reason;
+  const auto text = FileAccess::readWhole(path, FileAccess::Source::Trusted, FileAccess::LargestConfiguration, &reason);
+  if (text)
+    qApp->setStyleSheet(QString::fromUtf8(*text));
+  else
+    NivraMsg::logWarning(tr("Cannot read the style sheet %1").arg(reason));
 }
 
 void NivraViewer::openWorkspace(const QString &path) {
   NivraMsg::debug(QStringLiteral("opening file ") + path);
   QElapsedTimer timer;
   timer.start();
+  const qint64 waitedBefore = NivraMsg::waitedForAnswers();
   NetworkLoader loader(m_net);
   if (!loader.resolve(path)) {
     m_ui->statusbar->showMessage(tr("Invalid Workspace"));
+    if (NivraMsg::isInteractive()) // else the log has said it already
+      NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
     return;
   }
   m_loader.takeWorkspace(loader);
@@ -155,7 +169,8 @@ void NivraViewer::openWorkspace(const QString &path) {
   showTitle();
   constexpr int ShownMs = 20000;
   if (done)
-    m_ui->statusbar->showMessage(tr("Startup finished in %1ms").arg(timer.elapsed()), ShownMs);
+    m_ui->statusbar->showMessage(
+        tr("Startup finished in %1ms").arg(timer.elapsed() - (NivraMsg::waitedForAnswers() - waitedBefore)), ShownMs);
   else
     m_ui->statusbar->showMessage(m_loader.error());
 }
@@ -287,4 +302,20 @@ void NivraViewer::closeEvent(QCloseEvent *event) {
   if (m_progress != nullptr)
     m_progress->cancel(); // reading ends at its next step, then the window goes
   QMainWindow::closeEvent(event);
+  if (event->isAccepted() && !closeOthers())
+    event->ignore();
+}
+
+/// Tables and the guide are windows without a parent, which would keep the program alive. False when one of them refuses.
+bool NivraViewer::closeOthers() {
+  QList<QPointer<QWidget>> others;
+  for (QWidget *window : QApplication::topLevelWidgets()) {
+    if (window != this && window->parentWidget() == nullptr)
+      others.append(window);
+  }
+  for (const QPointer<QWidget> &window : qAsConst(others)) {
+    if (window != nullptr && window->isVisible() && !window->close())
+      return false;
+  }
+  return true;
 }

@@ -1,3 +1,4 @@
+#include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
 #include <io/nivraworkspace.h>
 #include <tools/metadatatable.h>
@@ -42,27 +43,43 @@ ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control, Extent extent)
     , m_control(control)
     , m_net(control.net())
     , m_extent(extent) {
+  window.installEventFilter(this);
   connect(&control, &NetVisControl::selectionChanged, this, &ToolDocks::showSelection);
   connect(&control, &NetVisControl::configureDrawRequested, this, &ToolDocks::showDrawConfiguration);
   if (extent == Extent::Network)
     return;
-  m_findings = new NivraFindings(&window);
   m_findingsButton = new QToolButton;
-  addDock(new ConsoleDock(&window), QStringLiteral("messages"), Qt::BottomDockWidgetArea);
+  m_findingsButton->setAutoRaise(true);
+  m_findingsButton->hide();
+  connect(m_findingsButton, &QToolButton::clicked, this, [this] {
+    m_findings->show();
+    m_findings->raise();
+  });
+  connect(&NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
+          [this](const QString &text) { m_messagesBefore.append(text); });
+}
+
+// The first dock makes the toolkit load what reads its icons, which a start without a network need not wait for.
+void ToolDocks::createReports() {
+  if (m_findings != nullptr || m_extent == Extent::Network)
+    return;
+  disconnect(&NivraMsg::NivraLogger::instance(), nullptr, this, nullptr);
+  addDock(new ConsoleDock(m_messagesBefore, &m_window), QStringLiteral("messages"), Qt::BottomDockWidgetArea);
+  m_messagesBefore.clear();
+  m_findings = new NivraFindings(&m_window);
   addDock(m_findings, QStringLiteral("findings"), Qt::BottomDockWidgetArea);
   connect(m_findings, &NivraFindings::elementWanted, this, [this](const QString &name) {
     m_control.showElement(name);
     emit elementMarked(name);
   });
-  m_findingsButton->setAutoRaise(true);
-  m_findingsButton->hide();
-  connect(m_findingsButton, &QToolButton::clicked, m_findings, [this] {
-    m_findings->show();
-    m_findings->raise();
-  });
 }
 
 ToolDocks::~ToolDocks() = default;
+
+// Entries of menus ask for tips in the status bar. They have none, and an empty one would wipe out what stands there.
+bool ToolDocks::eventFilter(QObject *watched, QEvent *event) {
+  return event->type() == QEvent::StatusTip || QObject::eventFilter(watched, event);
+}
 
 QDockWidget *ToolDocks::addDock(QDockWidget *dock, const QString &name, Qt::DockWidgetArea area) {
   dock->setObjectName(name);
@@ -82,7 +99,8 @@ QDockWidget *ToolDocks::addDock(QDockWidget *dock, const QString &name, Qt::Dock
   return dock;
 }
 
-void ToolDocks::fillViewMenu(QMenu &menu) const {
+void ToolDocks::fillViewMenu(QMenu &menu) {
+  createReports();
   menu.clear();
   QList<QAction *> toggles;
   for (const QDockWidget *dock : m_docks)
@@ -114,6 +132,7 @@ void ToolDocks::showSelection() {
 }
 
 void ToolDocks::refresh(const NivraWorkspace &workspace) {
+  createReports();
   if (m_draw == nullptr)
     createDraw();
   if (m_propViewer == nullptr)
@@ -227,9 +246,9 @@ void ToolDocks::showMetaData() {
 }
 
 void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
-  std::size_t count = 0;
-  for (const FindingList::Group &group : groups)
-    count += group.findings.size();
+  FindingList list; // counts what is shown
+  list.set(groups);
+  const int count = list.count();
   m_findings->setFindings(groups);
   m_findingsButton->setText(count == 1 ? tr("1 finding") : tr("%1 findings").arg(count));
   m_findingsButton->setVisible(count > 0);

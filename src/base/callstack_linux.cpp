@@ -85,10 +85,11 @@ int onFrame(void *data, std::uintptr_t address, const char *file, int line, cons
 void CallStack::prepare() {
   if (state == nullptr)
     state = backtrace_create_state(nullptr, 1, ignoreError, nullptr);
-  // Reads the debugging information of the loaded modules now, while the heap is sound.
+  // One step of the unwinder loads what it needs. The debugging information of the modules would take longer to read than
+  // the program needs to start; write() reads it, into memory that the library maps for itself and not from the heap.
   if (state != nullptr)
-    backtrace_full(
-        state, 0, [](void *, std::uintptr_t, const char *, int, const char *) { return 1; }, ignoreError, nullptr);
+    backtrace_simple(
+        state, 0, [](void *, std::uintptr_t) { return 1; }, ignoreError, nullptr);
 }
 
 void CallStack::write(int fileDescriptor, int skip) {

@@ -25,12 +25,16 @@ static void initResources() {
 namespace {
 
 constexpr std::size_t PathCapacity = 4096;
-char markerPath[PathCapacity];
-constexpr std::size_t StackSize = std::size_t(256) * 1024; // the call stack writer reads debugging information on it
+char markerPath[PathCapacity];                              // empty where a crash leaves no marker
+constexpr std::size_t StackSize = std::size_t(1024) * 1024; // the call stack writer reads debugging information on it
 alignas(16) char handlerStack[StackSize];
 
+int personsError = STDERR_FILENO; // where the person who called a command line looks; the log otherwise
+
 void put(const char *text) {
-  const ssize_t written = ::write(STDERR_FILENO, text, std::strlen(text));
+  ssize_t written = ::write(STDERR_FILENO, text, std::strlen(text));
+  if (personsError != STDERR_FILENO)
+    written = ::write(personsError, text, std::strlen(text));
   static_cast<void>(written); // there is nobody left to tell
 }
 
@@ -46,6 +50,8 @@ void putNumber(int number) {
 }
 
 void createMarker() {
+  if (markerPath[0] == '\0')
+    return;
   const int file = ::open(markerPath, O_WRONLY | O_CREAT | O_TRUNC, 0644);
   if (file >= 0)
     ::close(file);
@@ -93,20 +99,23 @@ void showNotice() {
 
 } // namespace
 
-void CrashGuard::setUp() {
+void CrashGuard::setUp(LogFiles::Run run) {
   initResources();
   qputenv("NIVRAHOME", QCoreApplication::applicationDirPath().toUtf8());
-  if (LogFiles::takeCrash())
+  const bool isWindow = run == LogFiles::Run::Window;
+  if (isWindow && LogFiles::takeCrash())
     showNotice();
-  if (!LogFiles::redirectStreams())
+  if (!LogFiles::redirectStreams(run))
     NivraMsg::logWarning(
         QCoreApplication::translate("CrashGuard", "The log file %1 cannot be written; messages go to standard error.")
-            .arg(LogFiles::currentLog()));
-  installHandlers();
+            .arg(LogFiles::logOf(run)));
+  if (!isWindow)
+    personsError = LogFiles::realStandardError();
+  installHandlers(isWindow ? LogFiles::crashMarker() : QString());
 }
 
-void CrashGuard::installHandlers() {
-  const QByteArray path = QFile::encodeName(LogFiles::crashMarker());
+void CrashGuard::installHandlers(const QString &marker) {
+  const QByteArray path = QFile::encodeName(marker);
   qstrncpy(markerPath, path.constData(), PathCapacity);
   CallStack::prepare();
   stack_t stack{};

@@ -38,12 +38,13 @@ NivraMsg::Kind boxKind(const Finding &finding) {
 } // namespace
 
 QString Finding::logText() const {
-  if (file.isEmpty() && line <= 0)
-    return text;
+  QString said = text.isEmpty() ? box : text;
+  if (said.isEmpty() || (file.isEmpty() && line <= 0))
+    return said;
   QString place = file;
   if (line > 0)
     place += (file.isEmpty() ? QStringLiteral("line ") : QStringLiteral(":")) + QString::number(line);
-  return text + QStringLiteral(" (") + place + QLatin1Char(')');
+  return said + QStringLiteral(" (") + place + QLatin1Char(')');
 }
 
 void append(Findings &findings, Findings more) {
@@ -55,12 +56,11 @@ void report(const Findings &findings) {
   const Finding *shown = nullptr;
   int further = 0;
   for (const Finding &finding : findings) {
-    if (!finding.text.isEmpty())
-      logFinding(finding.severity, finding.logText());
+    const QString line = finding.logText();
+    if (!line.isEmpty())
+      logFinding(finding.severity, line);
     if (finding.box.isEmpty())
       continue;
-    if (!interactive && finding.text.isEmpty()) // what no box can say must be in the log, but a line is enough
-      logFinding(finding.severity, finding.box);
     if (shown)
       ++further;
     else

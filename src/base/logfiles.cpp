@@ -39,6 +39,14 @@ QString LogFiles::currentLog() {
   return directory() + QStringLiteral("/NivraViewer.log");
 }
 
+QString LogFiles::batchLog() {
+  return directory() + QStringLiteral("/NivraViewerBatch.log");
+}
+
+QString LogFiles::logOf(Run run) {
+  return run == Run::Window ? currentLog() : batchLog();
+}
+
 QString LogFiles::crashLog() {
   return directory() + QStringLiteral("/NivraViewerCrash.log");
 }
@@ -55,8 +63,8 @@ bool LogFiles::takeCrash() {
   return true;
 }
 
-bool LogFiles::redirectStreams() {
-  const QByteArray path = QFile::encodeName(currentLog());
+bool LogFiles::redirectStreams(Run run) {
+  const QByteArray path = QFile::encodeName(logOf(run));
   // Appending, so that both streams share the end of the file even after somebody truncates it.
   const int file = open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0644);
   if (file < 0)

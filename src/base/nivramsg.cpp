@@ -6,10 +6,17 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDebug>
+#include <QElapsedTimer>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPointer>
+#include <QScreen>
+#include <QTextBlock>
 #include <QThread>
 
+#include <algorithm>
 #include <atomic>
 
 namespace NivraMsg {
@@ -18,8 +25,7 @@ namespace {
 
 std::atomic<bool> interactiveSwitch{true};
 
-/// A box cannot lay out a text of any length; the log takes the rest.
-constexpr int LongestBoxText = 4000;
+std::atomic<qint64> millisecondsInBoxes{0};
 
 QString boxTitle(Kind kind) {
   switch (kind) {
@@ -49,25 +55,62 @@ QMessageBox::Icon boxIcon(Kind kind) {
   return QMessageBox::Question;
 }
 
-QString boxText(const QString &text) {
-  if (text.size() <= LongestBoxText)
-    return text;
-  log(text);
-  return text.left(LongestBoxText) + QStringLiteral(" …\n") +
-         QCoreApplication::translate("NivraMsg", "(The whole message is in the log.)");
+bool isLong(const QString &text) {
+  constexpr int MostLines = 12;
+  constexpr int MostCharacters = 1000;
+  return text.size() > MostCharacters || text.count(QLatin1Char('\n')) >= MostLines;
+}
+
+/// Shows the box's text in an area that scrolls, as large as the text or half of the screen, whichever is smaller.
+void scrollText(QMessageBox &box) {
+  auto *label = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+  auto *grid = qobject_cast<QGridLayout *>(box.layout());
+  if (label == nullptr || grid == nullptr)
+    return;
+  auto *area = new QPlainTextEdit(box.text());
+  area->setReadOnly(true);
+  area->setTabChangesFocus(true);
+  const QFontMetrics metrics = area->fontMetrics();
+  const QSize available = box.screen()->availableSize() / 2;
+  const int lines = area->document()->blockCount();
+  int widest = 0;
+  for (QTextBlock block = area->document()->firstBlock(); block.isValid() && widest < available.width();
+       block = block.next())
+    widest = std::max(widest, metrics.horizontalAdvance(block.text()));
+  constexpr int Smallest = 320; // pixels
+  constexpr int Frame = 40;     // with the scroll bar
+  area->setFixedSize(qBound(Smallest, widest + Frame, std::max(Smallest, available.width())),
+                     qBound(Smallest / 2, (lines + 2) * metrics.lineSpacing(), std::max(Smallest / 2, available.height())));
+  int row = 0;
+  int column = 0;
+  int rows = 0;
+  int columns = 0;
+  grid->getItemPosition(grid->indexOf(label), &row, &column, &rows, &columns);
+  label->hide();
+  grid->addWidget(area, row, column, rows, columns);
 }
 
 int showBox(Kind kind, const QString &text) {
   QWidget *parent = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : QApplication::activeWindow();
+  QElapsedTimer open;
+  open.start();
   // On the heap, because the parent may be deleted while the box is open.
-  const QPointer<QMessageBox> box = new QMessageBox(boxIcon(kind), boxTitle(kind), boxText(text), QMessageBox::Ok, parent);
+  const QPointer<QMessageBox> box = new QMessageBox(parent);
+  box->setTextFormat(Qt::PlainText); // names of a workspace are in it
+  box->setIcon(boxIcon(kind));
+  box->setWindowTitle(boxTitle(kind));
+  box->setText(text);
+  box->setStandardButtons(QMessageBox::Ok);
   box->setWindowIcon(productLogo());
+  if (isLong(text))
+    scrollText(*box);
   if (kind == Kind::Question) {
     box->setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
     box->setDefaultButton(QMessageBox::Cancel);
   }
   const int result = box->exec();
   delete box.data();
+  millisecondsInBoxes += open.elapsed();
   return result;
 }
 
@@ -140,6 +183,10 @@ void logCritical(const QString &text) {
 void debug(const QString &text) {
   MessageHandler::install();
   qDebug().noquote() << text;
+}
+
+qint64 waitedForAnswers() {
+  return millisecondsInBoxes;
 }
 
 void setInteractive(bool interactive) {

@@ -31,11 +31,6 @@ bool isSelected(int kind, int mask) {
   return kind == 0 ? mask == 0 : (mask & kind) == kind;
 }
 
-/// The vocabulary of the program, which nobody owns.
-std::shared_ptr<const NetMetaData> builtIn() {
-  return {std::shared_ptr<void>(), &NetMetaData::instance()};
-}
-
 /// A text with "(" is a time-dependent or formula value and counts as present.
 bool isPositive(const PropertyText &text) {
   return text.utf8().find('(') != std::string_view::npos || text.toDouble().value_or(0.0) > 0.0;
@@ -47,8 +42,7 @@ NetData::NetData()
     : m_nodes(QStringLiteral("nodes"))
     , m_edges(QStringLiteral("edges"))
     , m_tBoxes(QStringLiteral("tBoxes"))
-    , m_assembledSubnets(QStringLiteral("assembledSubnets"))
-    , m_metaData(builtIn()) {
+    , m_assembledSubnets(QStringLiteral("assembledSubnets")) {
   buildTypeMap();
 }
 
@@ -68,7 +62,7 @@ NetData::NetData(NetData &&other) noexcept
     , m_tBoxes(std::move(other.m_tBoxes))
     , m_assembledSubnets(std::move(other.m_assembledSubnets))
     , m_selection(std::move(other.m_selection))
-    , m_metaData(std::exchange(other.m_metaData, builtIn())) {
+    , m_metaData(std::move(other.m_metaData)) {
   buildTypeMap();
 }
 
@@ -85,7 +79,7 @@ NetData &NetData::operator=(NetData &&other) noexcept {
   m_tBoxes = std::move(other.m_tBoxes);
   m_assembledSubnets = std::move(other.m_assembledSubnets);
   m_selection = std::move(other.m_selection);
-  m_metaData = std::exchange(other.m_metaData, builtIn());
+  m_metaData = std::move(other.m_metaData);
   return *this;
 }
 
@@ -104,7 +98,7 @@ NetData::EleType NetData::addElement(::element added) {
   if (name == nullptr || type == nullptr)
     return Unknown;
   const QString typeName = type->toString();
-  const EleType kind = m_metaData->kindOf(typeName);
+  const EleType kind = metaData()->kindOf(typeName);
   const auto collection = m_typeMap.find(kind);
   if (collection == m_typeMap.end()) {
     NivraMsg::logWarning(
@@ -174,7 +168,11 @@ void NetData::clear() {
   for (const auto &entry : m_typeMap)
     entry.second->clear();
   m_selection.clear();
-  m_metaData = builtIn();
+  m_metaData.reset();
+}
+
+const NetMetaData *NetData::metaData() const {
+  return m_metaData ? m_metaData.get() : &NetMetaData::instance();
 }
 
 double NetData::number(const PropertyText *text, bool absolute) {
@@ -213,7 +211,7 @@ QPointF NetData::position(const ::element &element) const {
 }
 
 std::pair<double, double> NetData::range(const QString &property, bool absolute) const {
-  const bool ofNodes = m_metaData->nodeFunctions().contains(property);
+  const bool ofNodes = metaData()->nodeFunctions().contains(property);
   const PropertyKey key = PropertyKey::find(property);
   std::pair<double, double> range(1e30, -1e30);
   for (const elements::Entry &entry : ofNodes ? m_nodes : m_edges) {

@@ -52,6 +52,7 @@ QString spelledOut(const QString &unit) {
 
 class Tables {
 public:
+  /// Read when first asked for: a start without a network needs none.
   static Tables &instance() {
     static Tables tables;
     return tables;
@@ -151,10 +152,6 @@ std::optional<double> perNormFlow(Quantity quantity, const Units::Gas &gas) {
 }
 
 } // namespace
-
-void Units::initialise() {
-  isKnown(QStringLiteral("m"));
-}
 
 QString Units::written(QString unit) {
   return unit.replace(QStringLiteral("degC"), QStringLiteral("°C"))

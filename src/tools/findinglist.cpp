@@ -5,6 +5,19 @@
 #include <algorithm>
 #include <iterator>
 
+void FindingList::set(std::vector<Group> groups) {
+  m_groups = std::move(groups);
+  for (Group &group : m_groups) {
+    for (Finding &finding : group.findings) {
+      if (finding.text.isEmpty())
+        finding.text = finding.box;
+    }
+    Findings &findings = group.findings;
+    findings.erase(std::remove_if(findings.begin(), findings.end(), [](const Finding &f) { return f.text.isEmpty(); }),
+                   findings.end());
+  }
+}
+
 QString FindingList::place(const Finding &finding) {
   const QString file = QFileInfo(finding.file).fileName();
   return finding.line > 0 ? QStringLiteral("%1:%2").arg(file).arg(finding.line) : file;

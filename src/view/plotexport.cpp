@@ -49,6 +49,26 @@ private:
   QSize m_smallest;
 };
 
+/// The canvas would first paint into a store as large as the picture; where there is no memory for that, it paints nothing
+/// and says nothing.
+class WithoutStore {
+public:
+  explicit WithoutStore(NetPlot &plot)
+      : m_canvas(qobject_cast<QwtPlotCanvas *>(plot.plot()->canvas())) {
+    if (m_canvas != nullptr)
+      m_canvas->setPaintAttribute(QwtPlotCanvas::BackingStore, false);
+  }
+  ~WithoutStore() {
+    if (m_canvas != nullptr)
+      m_canvas->setPaintAttribute(QwtPlotCanvas::BackingStore, true);
+  }
+  WithoutStore(const WithoutStore &) = delete;
+  WithoutStore &operator=(const WithoutStore &) = delete;
+
+private:
+  QwtPlotCanvas *m_canvas;
+};
+
 /// The first rendering brings layout and scales to the new size, so that the next one is as the screen would show it.
 /// Labels that stood before are placed again.
 void layOut(NetPlot &plot, bool hasLabels) {
@@ -190,6 +210,7 @@ bool exportPlot(NetPlot &plot, const QString &path, const PictureSize &size, QSt
     const bool hasLabels = !plot.update().labels().empty();
     plot.selection().setHovered(std::nullopt);
     {
+      const WithoutStore direct(plot);
       const TemporarySize temporary(plot, static_cast<int>(std::lround(size.width / size.scale)));
       layOut(plot, hasLabels);
       // The plot lies on whole pixels of its own; the picture has the width that was asked for all the same.

@@ -8,6 +8,7 @@ class TestCommandLine : public QObject {
 private slots:
   void parse_data();
   void parse();
+  void styleIsKept();
 };
 
 void TestCommandLine::parse_data() {
@@ -38,6 +39,10 @@ void TestCommandLine::parse_data() {
   row("--export a.png --extent 0,0,nan,10 net.geom", Action::Wrong);
   row("--info --color-by q net.geom", Action::Wrong);
   row("--colour", Action::Wrong);
+  row("-platform offscreen -style fusion -geometry 300x200+0+0 --stylesheet a.qss net.geom", Action::Window);
+  row("-style=windows -reverse", Action::Window);
+  row("--info net.geom -platform minimal", Action::Batch);
+  row("-platforms offscreen", Action::Wrong);
 }
 
 void TestCommandLine::parse() {
@@ -49,8 +54,20 @@ void TestCommandLine::parse() {
   const CommandLine line = CommandLine::parse(list);
   QCOMPARE(static_cast<int>(line.action), action);
   QCOMPARE(line.width, width);
+  if (line.action == CommandLine::Action::Window || line.action == CommandLine::Action::Batch)
+    QCOMPARE(line.file, list.contains(QStringLiteral("net.geom")) ? QStringLiteral("net.geom") : line.file);
   if (line.action == CommandLine::Action::Wrong)
     QVERIFY(!line.text.isEmpty());
+}
+
+void TestCommandLine::styleIsKept() {
+  const auto style = [](const QStringList &arguments) {
+    return CommandLine::parse(QStringList{QStringLiteral("NivraViewer")} + arguments).style;
+  };
+  QCOMPARE(style({QStringLiteral("-style=windows"), QStringLiteral("a.geom")}), QStringLiteral("windows"));
+  QCOMPARE(style({QStringLiteral("--style"), QStringLiteral("windows")}), QStringLiteral("windows"));
+  QCOMPARE(style({QStringLiteral("-stylesheet"), QStringLiteral("a.qss")}), QString());
+  QCOMPARE(style({QStringLiteral("-style")}), QString());
 }
 
 NIVRA_TEST(TestCommandLine);

@@ -1,5 +1,6 @@
 #include "workspacefixture.h"
 
+#include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
 #include <support/nivratest.h>
 #include <tools/nivrafindings.h>
@@ -7,19 +8,27 @@
 #include <tools/nivranetobjectcats.h>
 #include <tools/nivrapropviewer.h>
 #include <tools/nivrasearch.h>
+#include <tools/nivravectable.h>
 #include <view/netviscontrol.h>
 #include <view/plotzoom.h>
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QDropEvent>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QProgressBar>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QTextBlock>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -44,6 +53,33 @@ void drop(NivraViewer &viewer, const QStringList &paths) {
   QApplication::sendEvent(&viewer, &event);
 }
 
+/// Makes the program show boxes, and answers each after the time that a person takes.
+class BoxCloser : public QObject {
+public:
+  explicit BoxCloser(int afterMs) {
+    qunsetenv("NIVRA_BATCH");
+    connect(&m_timer, &QTimer::timeout, this, [this, afterMs] {
+      auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+      if (box == nullptr || box == m_seen)
+        return;
+      m_seen = box;
+      m_texts.append(box->text());
+      QTimer::singleShot(afterMs, box, &QMessageBox::accept);
+    });
+    m_timer.start(5);
+  }
+  ~BoxCloser() override { qputenv("NIVRA_BATCH", "1"); }
+  BoxCloser(const BoxCloser &) = delete;
+  BoxCloser &operator=(const BoxCloser &) = delete;
+
+  const QStringList &texts() const { return m_texts; }
+
+private:
+  QTimer m_timer;
+  QPointer<QMessageBox> m_seen;
+  QStringList m_texts;
+};
+
 QStringList texts(const QList<QAction *> &actions) {
   QStringList list;
   for (const QAction *action : actions)
@@ -61,6 +97,13 @@ private slots:
   void dropOpensTheFirstFile();
   void geometryAloneHasNoScenario();
   void invalidWorkspaceLeavesWhatIsOpen();
+  void invalidWorkspaceSaysWhy();
+  void statusSurvivesMenus();
+  void openingIsTimedWithoutBoxes();
+  void everyWindowClosesWithTheProgram_data();
+  void everyWindowClosesWithTheProgram();
+  void messagesArePlainText();
+  void findingsOfBoxesAreListed();
   void styleSheetOnlyRestyles();
   void menus();
   void contextMenuLeadsBack();
@@ -111,6 +154,131 @@ void TestWindow::invalidWorkspaceLeavesWhatIsOpen() {
   QCOMPARE(viewer.windowTitle(), title);
   viewer.open(m_workspace.geometry());
   QCOMPARE(viewer.centralWidget(), plot);
+}
+
+void TestWindow::invalidWorkspaceSaysWhy() {
+  NivraViewer viewer;
+  const BoxCloser closer(0);
+  viewer.open(m_workspace.path(QStringLiteral("picture.png")));
+  QCOMPARE(viewer.statusBar()->currentMessage(), QStringLiteral("Invalid Workspace"));
+  QVERIFY2(closer.texts().join(QString()).contains(QStringLiteral("invalid file format")),
+           qPrintable(closer.texts().join(QString())));
+}
+
+void TestWindow::statusSurvivesMenus() {
+  NivraViewer viewer;
+  viewer.open(m_workspace.scenario());
+  const QString status = viewer.statusBar()->currentMessage();
+  QVERIFY(status.startsWith(QStringLiteral("Startup finished in ")));
+  QTest::mouseClick(viewer.menuBar(), Qt::LeftButton, Qt::NoModifier,
+                    viewer.menuBar()->actionGeometry(viewer.menuBar()->actions()[1]).center());
+  auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+  QVERIFY(menu != nullptr);
+  QTest::mouseMove(menu, menu->actionGeometry(menu->actions()[1]).center());
+  QTest::keyClick(menu, Qt::Key_Down);
+  QTest::keyClick(menu, Qt::Key_Escape);
+  QTest::keyClick(menu, Qt::Key_Escape);
+  QCoreApplication::processEvents();
+  QCOMPARE(viewer.statusBar()->currentMessage(), status);
+}
+
+void TestWindow::openingIsTimedWithoutBoxes() {
+  const WorkspaceFixture workspace;
+  workspace.writeGeometry(WorkspaceFixture::soundGeometry().replace("\"q\":5", "\"driven\":\"nobody\""));
+  NivraViewer viewer;
+  constexpr int PersonMs = 1500;
+  const BoxCloser closer(PersonMs);
+  QElapsedTimer timer;
+  timer.start();
+  viewer.open(workspace.geometry());
+  const qint64 elapsed = timer.elapsed();
+  QVERIFY(!closer.texts().isEmpty());
+  static const QRegularExpression number(QStringLiteral("(\\d+)ms$"));
+  const int said = number.match(viewer.statusBar()->currentMessage()).captured(1).toInt();
+  QVERIFY2(said > 0 && said < elapsed - PersonMs + 100, qPrintable(viewer.statusBar()->currentMessage()));
+}
+
+void TestWindow::everyWindowClosesWithTheProgram_data() {
+  QTest::addColumn<bool>("byMenu");
+  QTest::addColumn<bool>("isTableClosed");
+  QTest::newRow("exit") << true << false;
+  QTest::newRow("exit, the table was closed") << true << true;
+  QTest::newRow("the window's button") << false << false;
+}
+
+void TestWindow::everyWindowClosesWithTheProgram() {
+  QFETCH(bool, byMenu);
+  QFETCH(bool, isTableClosed);
+  NivraViewer viewer;
+  viewer.open(m_workspace.scenario());
+  viewer.on_actionElement_Table_triggered();
+  viewer.on_actionMetadataTable_triggered();
+  viewer.on_actionHelp_triggered();
+  int shown = 0;
+  for (QWidget *window : QApplication::topLevelWidgets())
+    shown += window->isVisible() ? 1 : 0;
+  QCOMPARE(shown, 4);
+  if (isTableClosed) {
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+      if (qobject_cast<NivraVecTable *>(window) != nullptr)
+        window->close();
+    }
+  }
+  QTimer::singleShot(0, &viewer, [&] {
+    if (byMenu)
+      viewer.menuBar()->actions()[0]->menu()->actions().last()->trigger();
+    else
+      viewer.close();
+  });
+  constexpr int StillRunning = 77;
+  constexpr int PatienceMs = 5000;
+  QTimer patience;
+  connect(&patience, &QTimer::timeout, qApp, [] { QCoreApplication::exit(StillRunning); });
+  patience.start(PatienceMs);
+  QCOMPARE(QApplication::exec(), 0);
+  for (const QWidget *window : QApplication::topLevelWidgets())
+    QVERIFY2(!window->isVisible(), window->metaObject()->className());
+}
+
+void TestWindow::messagesArePlainText() {
+  NivraMsg::logWarning(QStringLiteral("nobody listens"));
+  NivraViewer viewer;
+  NivraMsg::log(QStringLiteral("<b>early</b>")); // docks come with the first workspace or the menu
+  emit viewer.menuBar()->actions()[2]->menu()->aboutToShow();
+  auto *messages = viewer.findChild<QDockWidget *>(QStringLiteral("messages"));
+  const auto *text = messages->findChild<QPlainTextEdit *>();
+  QVERIFY(text != nullptr && text->isReadOnly());
+  QVERIFY(!text->toPlainText().contains(QStringLiteral("nobody listens")));
+  const int before = text->document()->blockCount();
+  QCOMPARE(text->document()->lastBlock().text(), QStringLiteral("<b>early</b>"));
+  const QString name = QStringLiteral("<a href=\"file:///etc/passwd\"><img src=\"file:///dev/zero\">Pipe</a> p < 5 & q");
+  NivraMsg::logWarning(name);
+  NivraMsg::logTimeStamp(name);
+  NivraMsg::log(QStringLiteral("one<br/>two"));
+  QTRY_COMPARE(text->document()->blockCount(), before + 4);
+  QCOMPARE(text->document()->findBlockByNumber(before).text(), name);
+  const QString timed = text->document()->findBlockByNumber(before + 1).text();
+  QVERIFY2(timed.endsWith(QStringLiteral(": ") + name) && !timed.contains(QStringLiteral("<i>")), qPrintable(timed));
+  QCOMPARE(text->document()->lastBlock().text(), QStringLiteral("two"));
+  for (QTextBlock block = text->document()->begin(); block.isValid(); block = block.next()) {
+    for (auto piece = block.begin(); !piece.atEnd(); ++piece)
+      QVERIFY(!piece.fragment().charFormat().isAnchor() && !piece.fragment().charFormat().isImageFormat());
+  }
+}
+
+void TestWindow::findingsOfBoxesAreListed() {
+  NivraViewer viewer;
+  viewer.open(m_workspace.scenario());
+  Findings findings(3);
+  findings[0].box = QStringLiteral("only a box says this");
+  findings[1].text = QStringLiteral("a line says this");
+  auto *tools = viewer.findChild<ToolDocks *>();
+  tools->setFindings({{QStringLiteral("Reading"), findings}});
+  QCOMPARE(tools->findingsButton()->text(), QStringLiteral("2 findings"));
+  const auto *tree = viewer.findChild<NivraFindings *>()->findChild<QTreeWidget *>();
+  const QTreeWidgetItem *reading = tree->topLevelItem(0);
+  QCOMPARE(reading->childCount(), 2);
+  QCOMPARE(reading->child(0)->text(0), QStringLiteral("only a box says this"));
 }
 
 void TestWindow::styleSheetOnlyRestyles() {

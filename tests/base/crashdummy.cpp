@@ -41,7 +41,7 @@ volatile bool endless = true; // the compiler cannot see that the recursion has 
 int main(int argc, char **argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
-  CrashGuard::setUp();
+  CrashGuard::setUp(LogFiles::Run::Window);
   NivraMsg::log(QStringLiteral("started"));
   const QByteArray how = argc > 1 ? QByteArray(argv[1]) : QByteArray();
   if (how == "access")

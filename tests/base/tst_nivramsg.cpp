@@ -4,7 +4,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QScreen>
 #include <QThread>
 #include <QTimer>
 
@@ -22,6 +25,12 @@ public:
         return;
       title = box->windowTitle();
       text = box->text();
+      size = box->size();
+      if (const auto *area = box->findChild<QPlainTextEdit *>())
+        scrolled = area->toPlainText();
+      if (const auto *label = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label")))
+        isLabelShown = label->isVisible();
+      format = box->textFormat();
       thread = QThread::currentThread();
       box->button(button)->click();
     });
@@ -30,6 +39,10 @@ public:
 
   QString title;
   QString text;
+  QString scrolled; ///< text of the area, null without one
+  QSize size;
+  bool isLabelShown = false;
+  Qt::TextFormat format = Qt::AutoText;
   QThread *thread = nullptr;
 
 private:
@@ -57,6 +70,9 @@ private slots:
   void consoleHearsEveryMessage();
   void recorderIsThreadSafeAndBounded();
   void manyFindingsGiveOneBox();
+  void findingsOfBoxesAloneAreLogged();
+  void longMessagesScroll();
+  void waitingForAnAnswerIsCounted();
 };
 
 void TestNivraMsg::switches() {
@@ -142,6 +158,50 @@ void TestNivraMsg::manyFindingsGiveOneBox() {
   report(findings);
   QVERIFY2(clicker.text.startsWith(QStringLiteral("There is a bad line\n\n(and 2 further")), qPrintable(clicker.text));
   QCOMPARE(recorder.lines().value(2), QStringLiteral("bad line (/a/b.jsn:7)"));
+}
+
+void TestNivraMsg::findingsOfBoxesAloneAreLogged() {
+  const Interactive interactive;
+  Clicker clicker(QMessageBox::Ok);
+  Findings findings(3);
+  findings[0].box = QStringLiteral("first box");
+  findings[1].box = QStringLiteral("second box");
+  findings[1].file = QStringLiteral("/a/b.jsn");
+  findings[2].box = QStringLiteral("third box");
+  findings[2].text = QStringLiteral("third line");
+  NivraMsg::Recorder recorder;
+  report(findings);
+  QVERIFY(clicker.text.startsWith(QStringLiteral("first box\n\n(and 2 further")));
+  const QStringList said = recorder.lines().filter(QRegularExpression(QStringLiteral("box|line"))); // the toolkit warns too
+  QCOMPARE(said, (QStringList{QStringLiteral("first box"), QStringLiteral("second box (/a/b.jsn)"),
+                              QStringLiteral("third line")}));
+}
+
+void TestNivraMsg::longMessagesScroll() {
+  const Interactive interactive;
+  Clicker clicker(QMessageBox::Ok);
+  QString text = QStringLiteral("Check with findings!");
+  for (int i = 0; i < 300; ++i)
+    text += QStringLiteral("\nPipe %1 <img src=\"file:///dev/zero\"> has the same name as another element of the network")
+                .arg(i);
+  QCOMPARE(NivraMsg::message(NivraMsg::Kind::Warning, text), int(QMessageBox::Ok));
+  QCOMPARE(clicker.scrolled, text); // whole
+  QVERIFY(!clicker.isLabelShown);
+  const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+  QVERIFY2(clicker.size.height() < screen.height() && clicker.size.width() < screen.width(),
+           qPrintable(QStringLiteral("%1 x %2").arg(clicker.size.width()).arg(clicker.size.height())));
+  clicker.scrolled = QString();
+  NivraMsg::message(NivraMsg::Kind::Warning, QStringLiteral("<b>short</b>"));
+  QVERIFY(clicker.scrolled.isNull() && clicker.isLabelShown);
+  QCOMPARE(clicker.format, Qt::PlainText);
+}
+
+void TestNivraMsg::waitingForAnAnswerIsCounted() {
+  const Interactive interactive;
+  const qint64 before = NivraMsg::waitedForAnswers();
+  QTimer::singleShot(100, qApp, [] { qobject_cast<QMessageBox *>(QApplication::activeModalWidget())->accept(); });
+  NivraMsg::information(QStringLiteral("wait"));
+  QVERIFY(NivraMsg::waitedForAnswers() - before >= 90);
 }
 
 NIVRA_TEST(TestNivraMsg);

@@ -1,7 +1,9 @@
 #include <support/nivratest.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTextStream>
 
 #include <memory>
@@ -89,6 +91,8 @@ QStringList withOwnReports(QStringList switches, const QString &className) {
 } // namespace
 
 int main(int argc, char **argv) {
+  const QTemporaryDir home; // of this process alone: tests run side by side
+  qputenv("HOME", QFile::encodeName(home.path()));
   QStandardPaths::setTestModeEnabled(true); // never touch the user's own settings and logs
   qputenv("NIVRA_BATCH", "1");              // a message box would wait for nobody
   const auto application = makeApplication(argc, argv);

@@ -15,6 +15,7 @@ struct CommandLine {
 
   Action action = Action::Window;
   QString file;
+  QString style; ///< of the toolkit, where one was asked for
   bool info = false;
   QString picture;
   int width = 0; ///< pixels, 0 for the default
@@ -30,6 +31,7 @@ struct CommandLine {
   static constexpr int DefaultWidth = 1600;
   static constexpr int LargestWidth = 20000;
 
-  /// arguments as main gets them, the program name first. Needs an application object of any kind.
+  /// arguments as main gets them, the program name first; those of the toolkit (-platform, -style ...) are passed over.
+  /// Needs an application object of any kind.
   static CommandLine parse(const QStringList &arguments);
 };

@@ -2,16 +2,17 @@
 
 #include <QDockWidget>
 
-class QTextBrowser;
+class QPlainTextEdit;
 
-/// Shows the message log while the program runs.
+/// Shows the message log while the program runs; as plain text, for a workspace's words are in it.
 class ConsoleDock : public QDockWidget {
   Q_OBJECT
 public:
-  explicit ConsoleDock(QWidget *parent = nullptr);
+  /// before are the messages that came when there was no dock yet.
+  explicit ConsoleDock(const QStringList &before = {}, QWidget *parent = nullptr);
 
 private:
   void append(const QString &text);
 
-  QTextBrowser *m_text;
+  QPlainTextEdit *m_text;
 };

@@ -48,6 +48,7 @@ protected:
   void closeEvent(QCloseEvent *event) override;
 
 private:
+  void setUpForm();
   void applyStyleSheet(const QString &path);
   void openWorkspace(const QString &path);
   bool readWorkspace();
@@ -58,6 +59,7 @@ private:
   void computeAgain(const QStringList &names, const QString &property);
   void showTitle();
   void setBusy(bool busy);
+  bool closeOthers();
 
   std::unique_ptr<Ui::NivraViewer> m_ui;
   NetData m_net;

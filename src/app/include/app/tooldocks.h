@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QStringList>
 
 #include <memory>
 
@@ -42,7 +43,7 @@ public:
   /// Makes what is not there yet and shows the network that was just read.
   void refresh(const NivraWorkspace &workspace);
   /// Shows and hides the docks.
-  void fillViewMenu(QMenu &menu) const;
+  void fillViewMenu(QMenu &menu);
   NivraSearch *search() const { return m_search; } ///< null before the first workspace
 
   /// Before another case: false when a person wants to stay with changes that are not saved.
@@ -74,8 +75,12 @@ signals:
   void elementMarked(const QString &name); ///< in one of the tools
   void propertyChanged(const QStringList &names, const QString &property);
 
+protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
   QDockWidget *addDock(QDockWidget *dock, const QString &name, Qt::DockWidgetArea area);
+  void createReports();
   void createDraw();
   void createElement();
   void createSearch();
@@ -105,6 +110,7 @@ private:
   std::unique_ptr<NivraVecTable> m_vectorTable; ///< windows of their own, made when they are asked for
   std::unique_ptr<MetaDataTable> m_metaData;
   std::unique_ptr<HelpWindow> m_help;
-  QString m_directory; ///< of the case
-  QString m_marked;    ///< last, by whatever tool
+  QString m_directory;          ///< of the case
+  QString m_marked;             ///< last, by whatever tool
+  QStringList m_messagesBefore; ///< those that came before there was a dock for them
 };

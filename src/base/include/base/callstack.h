@@ -4,7 +4,8 @@
 /// debugging information gives them. Plain C++ without the toolkit, safe enough to be called from a signal handler.
 namespace CallStack {
 
-/// Loads what the writer needs (symbol tables, libraries) while the process is still sound.
+/// Loads what the writer needs of libraries while the process is still sound; cheap, as every start pays for it. Symbols and
+/// lines are read by write().
 void prepare();
 
 /// Writes to an open file descriptor; skip leaves out as many innermost frames.

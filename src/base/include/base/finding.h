@@ -12,12 +12,12 @@ struct Finding {
   Severity severity = Severity::Warning;
   QString file;                  ///< path, empty when the finding belongs to no file
   int line = 0;                  ///< 1-based, 0 when it belongs to no line
-  QString text;                  ///< the message as logged
+  QString text;                  ///< the message as logged; empty when the box says it all
   QString box;                   ///< what a message box says; empty when a log line is enough
   bool isForInformation = false; ///< the box is one of information, whatever the severity in the log
   QString element{};             ///< name of the element that it is about, where there is one
 
-  /// "text (file:line)" as far as they are known.
+  /// "text (file:line)" as far as they are known, with the box's text where there is no other.
   QString logText() const;
 };
 
@@ -26,7 +26,8 @@ using Findings = std::vector<Finding>;
 /// Adds further findings behind those that are there.
 void append(Findings &findings, Findings more);
 
-/// Logs every finding at its level; texts for a box are shown: the first as it stands, further ones counted behind it.
+/// Logs every finding at its level, also what a box says; texts for a box are shown: the first as it stands, further ones
+/// counted behind it.
 void report(const Findings &findings);
 
 /// Told how far a step has come (0 to 1); false asks the step to stop.

@@ -26,9 +26,12 @@ private:
 };
 
 /// In interactive mode a modal box, shown by the GUI thread while the caller waits, and the chosen
-/// QMessageBox::StandardButton; otherwise a log line and 0.
+/// QMessageBox::StandardButton; otherwise a log line and 0. Plain text; what is long can be scrolled through.
 int message(Kind kind, const QString &text);
 void information(const QString &text);
+
+/// Milliseconds for which boxes have been open since the start of the process.
+qint64 waitedForAnswers();
 
 void logTimeStamp(const QString &text); ///< information level, with the time on the console
 void log(const QString &text);          ///< information level

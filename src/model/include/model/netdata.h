@@ -56,7 +56,7 @@ public:
   const std::map<EleType, elements *> &typeMap() const { return m_typeMap; }
   const QList<EleType> &types() const { return m_types; }
   /// The vocabulary; another object once derived properties are described.
-  const NetMetaData *metaData() const { return m_metaData.get(); }
+  const NetMetaData *metaData() const;
   /// Takes what is known of its properties in place of what was there, until the network is cleared.
   void setMetaData(std::shared_ptr<const NetMetaData> metaData) { m_metaData = std::move(metaData); }
 
@@ -94,7 +94,7 @@ private:
   elements m_tBoxes;
   elements m_assembledSubnets;
   Selection m_selection;
-  std::shared_ptr<const NetMetaData> m_metaData;
+  std::shared_ptr<const NetMetaData> m_metaData; ///< null for the program's, which is read when somebody asks
   std::map<EleType, elements *> m_typeMap;
   QList<EleType> m_types;
 };

@@ -13,9 +13,6 @@ struct Gas {
   std::optional<double> calorificValue; ///< upper, MJ/m3 at norm conditions
 };
 
-/// Reads the unit tables; called at program start so that the first conversion does not wait. Safe to call again.
-void initialise();
-
 bool isKnown(const QString &unit);
 
 /// As people write it, such as "m³" for "m3": the unit tables know plain ASCII only.

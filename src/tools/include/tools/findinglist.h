@@ -14,7 +14,8 @@ public:
     Findings findings;
   };
 
-  void set(std::vector<Group> groups) { m_groups = std::move(groups); }
+  /// Findings that only a box would tell say its text; what says nothing at all is left out.
+  void set(std::vector<Group> groups);
   /// Only findings that have the text in them, in their element or file, regardless of case.
   void setFilter(const QString &text) { m_filter = text; }
 
