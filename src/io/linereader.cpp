@@ -1,7 +1,5 @@
 #include "linereader.h"
 
-#include <base/fileaccess.h>
-
 #include <QCoreApplication>
 #include <QElapsedTimer>
 
@@ -20,12 +18,13 @@ bool isBlank(char c) {
 
 } // namespace
 
-LineReader::LineReader(const QString &path)
+LineReader::LineReader(const QString &path, FileAccess::Source source)
     : m_path(path)
+    , m_source(source)
     , m_file(path) {}
 
 bool LineReader::open(QString *reason) {
-  if (!FileAccess::openForReading(m_file, FileAccess::Source::Workspace, FileAccess::AnySize, reason))
+  if (!FileAccess::openForReading(m_file, m_source, FileAccess::AnySize, reason))
     return false;
   m_size = m_file.size();
   m_buffer.resize(1 + BlockSize + Padding);

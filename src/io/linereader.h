@@ -1,12 +1,14 @@
 #pragma once
 
+#include <base/fileaccess.h>
+
 #include <QFile>
 #include <QString>
 
 #include <cstddef>
 #include <vector>
 
-/// Hands out the lines of a file of the workspace, block by block, so that a file of any size takes a few megabytes. A file
+/// Hands out the lines of a file, block by block, so that a file of any size takes a few megabytes. A file
 /// that cannot be read to its end counts with the lines before; ask readFault() after the last one.
 class LineReader {
 public:
@@ -21,7 +23,7 @@ public:
     bool tooLong = false;     ///< text is only the beginning
   };
 
-  explicit LineReader(const QString &path);
+  explicit LineReader(const QString &path, FileAccess::Source source = FileAccess::Source::Workspace);
 
   bool open(QString *reason);
   /// False at the end. The line lives until the next call; its bytes, and one before and one behind, may be overwritten.
@@ -38,6 +40,7 @@ private:
   bool fill();
 
   QString m_path;
+  FileAccess::Source m_source;
   QString m_fault;
   QFile m_file;
   std::vector<char> m_buffer; ///< one spare byte in front, padding behind

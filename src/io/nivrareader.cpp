@@ -58,13 +58,11 @@ private:
   int m_lines = 0;
 };
 
-using Numbers = JsonLineParser::Numbers;
-
 /// The same for the rows of the text form.
 template <typename Take>
-NivraReader::Result readRows(const QString &path, Numbers numbers, const NivraReader::Options &options, ReadReport &report,
+NivraReader::Result readRows(const QString &path, const NivraReader::Options &options, ReadReport &report,
                              const Take &take) {
-  TextTableReader reader(path, numbers);
+  TextTableReader reader(path, JsonLineParser::Numbers::AsHeld, options.source);
   QString reason;
   if (!reader.open(&reason))
     return failure(reason);
@@ -90,17 +88,17 @@ NivraReader::Result readRows(const QString &path, Numbers numbers, const NivraRe
 
 /// Runs over the lines of a file whose members are objects and hands each element to take(element, line, fraction).
 template <typename Take>
-NivraReader::Result readObjects(const QString &path, Numbers numbers, const NivraReader::Options &options,
-                                ReadReport &report, const Take &take) {
+NivraReader::Result readObjects(const QString &path, const NivraReader::Options &options, ReadReport &report,
+                                const Take &take) {
   if (!isJsonPath(path))
-    return readRows(path, numbers, options, report, take);
-  JsonLineReader reader(path);
+    return readRows(path, options, report, take);
+  JsonLineReader reader(path, options.source);
   QString reason;
   if (!reader.open(&reason))
     return failure(reason);
   NivraReader::Result result;
   result.ok = true;
-  JsonLineParser parser(numbers);
+  JsonLineParser parser;
   JsonLineReader::Line line;
   std::vector<JsonLineParser::Element> parsed;
   std::size_t count = 0;
@@ -212,7 +210,7 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
     properties += static_cast<qint64>(built.size());
     m_net.addElement(std::move(built));
   };
-  Result result = readObjects(path, Numbers::AsHeld, options, report, take);
+  Result result = readObjects(path, options, report, take);
   if (result.ok && !result.cancelled && m_net.isEmpty())
     report.add("empty", 0, QStringLiteral("The file holds no element"));
   result.properties = properties;
@@ -228,19 +226,18 @@ NivraReader::Result NivraReader::readValues(const QString &path, const Options &
   ReadReport report(path);
   ElementBuilder builder(QString(), options.includeProperties, report);
   qint64 properties = 0;
-  Result result =
-      readObjects(path, Numbers::AsWritten, options, report, [&](JsonLineParser::Element &parsed, int line, double) {
-        element *target = m_net.element(parsed.name);
-        if (target == nullptr) {
-          report.add("unknown name", line,
-                     QStringLiteral("name not found, is no valid node or element: ") + decoded(parsed.name));
-          return;
-        }
-        for (Property &property : builder.properties(parsed, line)) {
-          set(*target, property.key, std::move(property.value));
-          ++properties;
-        }
-      });
+  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line, double) {
+    element *target = m_net.element(parsed.name);
+    if (target == nullptr) {
+      report.add("unknown name", line,
+                 QStringLiteral("name not found, is no valid node or element: ") + decoded(parsed.name));
+      return;
+    }
+    for (Property &property : builder.properties(parsed, line)) {
+      set(*target, property.key, std::move(property.value));
+      ++properties;
+    }
+  });
   result.properties = properties;
   append(result.findings, report.take());
   return result;
@@ -258,10 +255,9 @@ NivraReader::Result NivraReader::readGasJsn(const QString &path) {
   ReadReport report(path);
   ElementBuilder builder(QString(), QString(), report);
   GasTable gases;
-  Result result =
-      readObjects(path, Numbers::AsWritten, Options(), report, [&](JsonLineParser::Element &parsed, int line, double) {
-        gases[decoded(parsed.name)] = element::fromProperties(builder.properties(parsed, line));
-      });
+  Result result = readObjects(path, Options(), report, [&](JsonLineParser::Element &parsed, int line, double) {
+    gases[decoded(parsed.name)] = element::fromProperties(builder.properties(parsed, line));
+  });
   result.ok = result.ok && !gases.empty();
   if (result.ok) {
     m_gases = std::move(gases);

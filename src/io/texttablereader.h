@@ -23,8 +23,9 @@ class TextTableReader {
 public:
   enum class Found { Row, Fault, End };
 
-  explicit TextTableReader(const QString &path, JsonLineParser::Numbers numbers = JsonLineParser::Numbers::AsHeld)
-      : m_lines(path)
+  explicit TextTableReader(const QString &path, JsonLineParser::Numbers numbers = JsonLineParser::Numbers::AsHeld,
+                           FileAccess::Source source = FileAccess::Source::Workspace)
+      : m_lines(path, source)
       , m_parser(numbers) {}
 
   bool open(QString *reason) { return m_lines.open(reason); }

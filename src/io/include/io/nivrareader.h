@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/fileaccess.h>
 #include <base/finding.h>
 #include <io/nivraworkspace.h>
 #include <io/scenariosummary.h>
@@ -17,6 +18,7 @@ public:
     QString includeTypes;      ///< regular expression, matched anywhere in type word or code; empty for all
     QString includeProperties; ///< regular expression, matched anywhere in the name; empty for all
     Progress progress;         ///< told the part of the file that is read
+    FileAccess::Source source = FileAccess::Source::Workspace; ///< Trusted for files of the program's own
   };
   struct Result {
     bool ok = false;           ///< the file could be read; faulty lines do not count
