@@ -171,10 +171,8 @@ void formulaFiles(benchmark::State &state) {
                  .arg(i % 2 == 0 ? QStringLiteral("x") : QStringLiteral("length"))
                  .arg(i % 3 == 0 && i % 20 > 1 ? QStringLiteral("f%1").arg(i % 20 - 2) : QString::number(i))
                  .toUtf8();
-  QBuffer buffer(&lines);
-  buffer.open(QIODevice::ReadOnly);
   const std::vector<FormulaDefinition> definitions =
-      FormulaFile::parse(buffer, QStringLiteral("bench"), QString()).definitions;
+      FormulaFile::parse(lines, QStringLiteral("bench"), QString()).definitions;
   for (auto _ : state) {
     state.PauseTiming();
     NetData net = network();

@@ -94,6 +94,7 @@ private:
         take(row, reader.line());
       }
     }
+    m_report.notUtf8(reader.notUtf8Line());
     *reason = reader.readFault(); // half of a file is none
     return reason->isEmpty();
   }

@@ -6,6 +6,7 @@
 #include <tools/csvfield.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
+#include <tools/vectorrows.h>
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -77,6 +78,7 @@ private slots:
   void numbersAreRoundedForTheEye();
   void saysWhyNothingIsFound_data();
   void saysWhyNothingIsFound();
+  void tableUnderstandsTheSame();
   void typedLikeAPerson();
   void machinesOfferTheirMaps();
 
@@ -423,6 +425,25 @@ void TestNivraSearch::saysWhyNothingIsFound() {
   QVERIFY2(hint->text().contains(said), qPrintable(hint->text()));
   panel.defineSearch({QString(), QString(), QStringLiteral("^p$"), QString()}, false);
   QVERIFY(!hint->isVisible());
+}
+
+/// A search that is taken to the table, or kept as a category, lists what it has found.
+void TestNivraSearch::tableUnderstandsTheSame() {
+  VectorRows::Request request;
+  request.usesProperty = false;
+  request.category.type = QStringLiteral("node");
+  request.category.prop = QStringLiteral("^[pt]$");
+  request.category.value = QStringLiteral("<=20"); // 283.15 K are 10 degrees
+  QStringList rows;
+  for (const VectorRows::Row &row : VectorRows(*m_net).build(request))
+    rows.append(row.name + QLatin1Char('.') + row.property);
+  rows.sort();
+  QCOMPARE(rows, QStringList({QStringLiteral("A.b.t"), QStringLiteral("axB.p")}));
+  SearchParams params;
+  params.type = request.category.type;
+  params.prop = request.category.prop;
+  params.searchString = request.category.value;
+  QCOMPARE(found(params), rows);
 }
 
 /// Ctrl+F, then what one looks for: over the name that was looked for before.

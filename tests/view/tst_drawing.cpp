@@ -94,9 +94,7 @@ void TestDrawing::innerViolationsReachTheBox() {
   f.net.addElement(subnet);
   f.show();
   NetworkFormulas formulas(f.net);
-  QBuffer buffer(&constraint);
-  QVERIFY(buffer.open(QIODevice::ReadOnly));
-  formulas.setDefinitions(FormulaFile::parse(buffer, QStringLiteral("t"), QStringLiteral("results")).definitions);
+  formulas.setDefinitions(FormulaFile::parse(constraint, QStringLiteral("t"), QStringLiteral("results")).definitions);
   formulas.apply();
   f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false); // as after any change of values
   QVERIFY(count(f.picture(), QColor(GeneralSettings::instance().value(ring))) > 40);

@@ -1,12 +1,14 @@
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
+#include <base/nivramsg.h>
 #include <model/netmetadata.h>
 #include <support/nivratest.h>
 #include <view/labelcontents.h>
 #include <view/labelplacement.h>
 #include <view/plotzoom.h>
 
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <random>
@@ -25,6 +27,7 @@ private slots:
   void numbersAsAPersonWritesThem();
   void contentsFollowTheTable_data();
   void contentsFollowTheTable();
+  void costlyFormulasAreGivenUp();
   void styleFollowsElementThenTable();
   void labelsInTheDrawing();
   void labelsStayWherePanned();
@@ -205,6 +208,24 @@ void TestLabels::contentsFollowTheTable() {
   const LabelText text = LabelContents(table, PlotSettings(), net).text(node);
   QCOMPARE(text.lines, lines);
   QCOMPARE(text.html, html);
+}
+
+/// A label must not stop the drawing; who looks for it in vain is told once.
+void TestLabels::costlyFormulasAreGivenUp() {
+  const NetData net;
+  LabelTable table;
+  const QString formula =
+      QStringLiteral("(ones(100,100)") + QStringLiteral("*ones(100,100)").repeated(250) + QStringLiteral(")[0,0]");
+  table.types.front()[LabelRow::Contents] = QStringLiteral("@name<br />@{%1}").arg(formula); // of nodes
+  const LabelContents contents(table, PlotSettings(), net);
+  const NivraMsg::Recorder recorder;
+  QElapsedTimer timer;
+  timer.start();
+  for (int i = 0; i < 1000; ++i)
+    QCOMPARE(contents.text(makeNode("N")).lines, QStringList{QStringLiteral("N")});
+  QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+  QCOMPARE(recorder.lines().size(), 1);
+  QVERIFY2(recorder.lines().first().contains(formula.left(20)), qPrintable(recorder.lines().first()));
 }
 
 void TestLabels::styleFollowsElementThenTable() {
