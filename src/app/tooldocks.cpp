@@ -131,7 +131,8 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
   m_search->clearResults();
   m_layers->setLayerProperty(m_control.plot()->settings().layerProp);
   m_layers->on_pushButtonReload_clicked();
-  applyLayers(); // the case may have another property for them
+  if (!m_layers->layers().hidden().isEmpty())
+    applyLayers(); // layers are known by name, in the next network too
   m_categories->setFile(workspace.filePath(QStringLiteral("catdef.csv")));
   m_directory = QFileInfo(workspace.filePath(QStringLiteral("catdef.csv"))).path();
   if (m_vectorTable != nullptr) {
@@ -174,7 +175,10 @@ void ToolDocks::createLayers() {
 }
 
 void ToolDocks::applyLayers() {
-  m_control.setHiddenLayers(m_layers->layers().property(), m_layers->layers().hidden());
+  NetUpdate &update = m_control.plot()->update();
+  update.setHiddenLayers(m_layers->layers().property(), m_layers->layers().hidden());
+  update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  update.requestPixtest(0);
 }
 
 void ToolDocks::createCategories() {

@@ -40,7 +40,6 @@ public:
   const LabelTable &labelTable() const { return m_labelTable; }
   /// Layers whose elements are not drawn, by the values of the property; drawn with the next updatePlot().
   void setHiddenLayers(const QString &property, const QSet<QString> &layers) { m_layers.setHidden(property, layers); }
-  const LayerFilter &layers() const { return m_layers; }
   void setDisplayMode(DisplayMode mode) { m_displayMode = mode; }
   DisplayMode displayMode() const { return m_displayMode; }
 
@@ -48,8 +47,6 @@ public:
   /// \param which whose colours, widths and sizes are made anew
   /// \param relabel asks for new labels
   void updatePlot(bool rebuild, Which which, bool relabel);
-  /// Draws with the present layers and values before the event loop turns again, once for all who asked.
-  void requestUpdate() { m_asked.start(); }
 
   /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
   /// they are negative.
@@ -102,5 +99,4 @@ private:
   LabelLayer m_labels;
   std::vector<NetGeometry::Item> m_unplaced;
   Pixtest m_pixtest;
-  QTimer m_asked; ///< for an update at the end of this turn of the event loop
 };
