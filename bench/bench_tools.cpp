@@ -11,7 +11,6 @@
 #include <tools/nivravectable.h>
 
 #include <QApplication>
-#include <QBuffer>
 #include <QComboBox>
 #include <QRegularExpression>
 #include <QTableWidget>

@@ -188,9 +188,16 @@ void ToolDocks::openCharacteristics(const QStringList &names) {
 void ToolDocks::createLayers() {
   m_layers = new NivraNetLayersEditor(m_net, &m_window);
   addDock(m_layers, QStringLiteral("layers"), Qt::LeftDockWidgetArea);
-  connect(m_layers, &NivraNetLayersEditor::hiddenLayersWanted, &m_control, &NetVisControl::setHiddenLayers);
-  connect(&m_control, &NetVisControl::layersChanged, m_layers,
-          [this] { m_layers->setHiddenLayers(m_control.layers().hidden()); });
+  NetUpdate &update = m_control.plot()->update();
+  connect(m_layers, &NivraNetLayersEditor::hiddenLayersWanted, this,
+          [this, &update](const QString &property, const QSet<QString> &hidden) {
+            update.setHiddenLayers(property, hidden);
+            m_layers->setHiddenLayers(update.hiddenLayers());
+          });
+  connect(m_layers, &NivraNetLayersEditor::layerVisChanged, this, [&update] {
+    update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+    update.requestPixtest(0);
+  });
   connect(m_layers, &NivraNetLayersEditor::propertyChanged, this, &ToolDocks::propertyChanged); // which draws
   connect(m_layers, &NivraNetLayersEditor::itemClicked, this, &ToolDocks::elementMarked);
   connect(m_layers, &NivraNetLayersEditor::itemDoubleClicked, &m_control, &NetVisControl::showElement);

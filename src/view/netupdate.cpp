@@ -40,11 +40,6 @@ NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
   for (QwtPlotItem *layer :
        std::initializer_list<QwtPlotItem *>{&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels})
     layer->attach(plot.plot());
-  m_asked.setSingleShot(true);
-  QObject::connect(&m_asked, &QTimer::timeout, &m_asked, [this] {
-    updatePlot(false, Which::EdgesAndNodes, false);
-    requestPixtest(-1);
-  });
   m_symbols.setSubnets(&m_subnets);
   m_subnets.setFilter(&m_layers, &m_visibility);
   m_textBoxes.setFilter(&m_layers, &m_visibility);
@@ -54,7 +49,6 @@ void NetUpdate::setNetData(const NetData *net) {
   m_net = net;
   m_pixtest.forgetPlacement();
   m_isNew = true;
-  m_asked.stop();
   m_geometry.clear();
   m_values = DrawValues();
   m_edges.clear();
@@ -64,7 +58,7 @@ void NetUpdate::setNetData(const NetData *net) {
   m_textBoxes.clear();
   clearLabels();
   m_visibility.clear();
-  m_layers.forget();
+  m_layers = LayerFilter();
 }
 
 void NetUpdate::setFolder(const QString &folder, const QString &subnetIcons) {
@@ -84,9 +78,6 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     return;
   QElapsedTimer timer;
   timer.start();
-  const bool isAsked = which == Which::EdgesAndNodes && m_asked.isActive();
-  if (isAsked)
-    m_asked.stop();
   const double plotUnits = m_geometry.plotUnits();
   m_values.read(*m_net, m_settings, m_geometry, rebuild);
   if (rebuild && m_geometry.unplaced() > 0)
@@ -127,8 +118,6 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     clearLabels();
   m_plot.plot()->replot();
   NivraMsg::log(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
-  if (isAsked)
-    requestPixtest(-1);
 }
 
 ElementLooks NetUpdate::looks() const {

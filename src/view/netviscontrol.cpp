@@ -89,16 +89,6 @@ bool NetVisControl::showsSearchResults() const {
   return m_plot->update().displayMode() == NetUpdate::DisplayMode::SearchResults;
 }
 
-void NetVisControl::setHiddenLayers(const QString &property, const QSet<QString> &hidden) {
-  NetUpdate &update = m_plot->update();
-  const bool isSame = hidden == layers().hidden() && (hidden.isEmpty() || property == layers().property());
-  update.setHiddenLayers(property, hidden);
-  if (isSame)
-    return;
-  update.requestUpdate();
-  emit layersChanged();
-}
-
 void NetVisControl::refreshSearchResults() {
   if (showsSearchResults())
     setShowsSearchResults(true);

@@ -358,12 +358,10 @@ void TestWindow::toolsAndDrawingMeet() {
   layers->setLayerProperty(QStringLiteral("type"));
   layers->on_toolButtonHideAll_clicked();
   const NetUpdate &update = control.plot()->update();
-  const auto isAThere = [&update] {
-    return !update.elementsAt(update.projection().map(0, 0), 8.0).empty();
-  };
-  QTRY_VERIFY(!isAThere()); // what is not drawn cannot be picked
+  const QPointF a = update.projection().map(0, 0);
+  QVERIFY(update.elementsAt(a, 8.0).empty()); // what is not drawn cannot be picked
   layers->on_toolButtonShowAll_clicked();
-  QTRY_VERIFY(isAThere());
+  QVERIFY(!update.elementsAt(a, 8.0).empty());
   viewer.on_actionElement_Table_triggered();
   viewer.on_actionMetadataTable_triggered();
   viewer.open(m_workspace.geometry()); // the tools take the next network

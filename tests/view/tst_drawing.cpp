@@ -6,7 +6,6 @@
 #include <support/nivratest.h>
 #include <view/plotexport.h>
 
-#include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
 

@@ -32,7 +32,6 @@ private slots:
   void marksByName();
   void selectionIsDrawnWithoutTheNetwork();
   void hoverMarksAndTells();
-  void layersAreDrawnOnceForAllChanges();
   void crowdIsListed();
   void parallelEdgesArePickedApart();
   void subnetMenu_data();
@@ -363,40 +362,6 @@ void TestNetPicker::hoverMarksAndTells() {
   QMouseEvent beside(QEvent::MouseMove, canvasPoint(f, 60, 60), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
   QApplication::sendEvent(canvas, &beside);
   QVERIFY(!f.plot().selection().hovered().has_value());
-}
-
-void TestNetPicker::layersAreDrawnOnceForAllChanges() {
-  struct Counter : QwtPlotItem {
-    void draw(QPainter * /*painter*/, const QwtScaleMap & /*xMap*/, const QwtScaleMap & /*yMap*/,
-              const QRectF & /*canvas*/) const override {
-      ++drawings;
-    }
-    mutable int drawings = 0;
-  } counter;
-  ViewFixture f;
-  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("vis.layer"), QStringLiteral("old"));
-  f.plot().show();
-  f.show();
-  QTRY_VERIFY(!f.plot().update().pixtest().isPending());
-  counter.attach(f.plot().plot());
-  QCoreApplication::processEvents();
-  const int before = counter.drawings;
-  const QSignalSpy changed(&f.control, &NetVisControl::layersChanged);
-  const QPointF middle = f.plot().update().projection().map(50, 0);
-  f.control.setHiddenLayers(QStringLiteral("vis.layer"), {QStringLiteral("old")});
-  f.control.setHiddenLayers(QStringLiteral("vis.layer"), {QStringLiteral("old"), QStringLiteral("new")});
-  f.control.setHiddenLayers(QStringLiteral("vis.layer"), {QStringLiteral("new"), QStringLiteral("old")}); // says the same
-  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false); // somebody cannot wait
-  QTest::qWait(50);
-  QCOMPARE(changed.count(), 2);
-  QCOMPARE(counter.drawings, before + 1);
-  QVERIFY(f.plot().update().elementsAt(middle, 8.0).empty());
-  f.show(); // layers are known by name, in another network too
-  QVERIFY(f.plot().update().elementsAt(middle, 8.0).empty());
-  f.control.setHiddenLayers(QStringLiteral("vis.layer"), {});
-  QTRY_VERIFY(!f.plot().update().elementsAt(middle, 8.0).empty());
-  QVERIFY(f.control.layers().hidden().isEmpty());
-  counter.detach();
 }
 
 void TestNetPicker::crowdIsListed() {

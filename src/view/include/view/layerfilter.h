@@ -7,19 +7,16 @@
 #include <map>
 #include <vector>
 
-/// Which elements are not drawn because their layer is hidden. The layer is the value of one property. This is the only
-/// place that knows which layers are hidden; editors of layers ask it.
+/// Which elements are not drawn because their layer is hidden. The layer is the value of one property; layers are known by
+/// name, whatever the network.
 class LayerFilter {
 public:
   void setHidden(const QString &property, const QSet<QString> &layers);
+  const QSet<QString> &hidden() const { return m_layers; }
   /// Looks up the layers of the elements.
   void read(const NetGeometry &geometry);
-  /// Forgets the elements. Layers are known by name, in the next network too.
-  void forget() { m_hidden.clear(); }
 
   bool hidesAny() const { return !m_layers.isEmpty(); }
-  const QString &property() const { return m_property; }
-  const QSet<QString> &hidden() const { return m_layers; }
   bool isHidden(NetGeometry::Item item) const {
     const auto kind = m_hidden.find(item.kind);
     return kind != m_hidden.end() && kind->second[static_cast<std::size_t>(item.index)];

@@ -40,7 +40,7 @@ public:
   const LabelTable &labelTable() const { return m_labelTable; }
   /// Layers whose elements are not drawn, by the values of the property; drawn with the next updatePlot().
   void setHiddenLayers(const QString &property, const QSet<QString> &layers) { m_layers.setHidden(property, layers); }
-  const LayerFilter &layers() const { return m_layers; }
+  const QSet<QString> &hiddenLayers() const { return m_layers.hidden(); }
   void setDisplayMode(DisplayMode mode) { m_displayMode = mode; }
   DisplayMode displayMode() const { return m_displayMode; }
 
@@ -50,8 +50,6 @@ public:
   void updatePlot(bool rebuild, Which which, bool relabel);
   /// What the legend says of the functions as they are drawn.
   QString legendText() const;
-  /// Draws with the present layers and values before the event loop turns again, once for all who asked.
-  void requestUpdate() { m_asked.start(); }
 
   /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
   /// they are negative.
@@ -109,5 +107,4 @@ private:
   std::vector<NetGeometry::Item> m_unplaced;
   bool m_hasPlacedLabels = false; ///< for this view; those that stand may be none
   Pixtest m_pixtest;
-  QTimer m_asked; ///< for an update at the end of this turn of the event loop
 };

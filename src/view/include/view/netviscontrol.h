@@ -39,10 +39,6 @@ public:
   /// Colours what the last search marked instead of the draw functions.
   void setShowsSearchResults(bool shows);
   bool showsSearchResults() const;
-  /// Which layers are not drawn. The drawing alone knows it: editors of layers ask here, and follow layersChanged().
-  const LayerFilter &layers() const { return m_plot->update().layers(); }
-  /// Drawn once before the event loop turns again, however many changes there are.
-  void setHiddenLayers(const QString &property, const QSet<QString> &hidden);
   /// After another search.
   void refreshSearchResults();
   /// Selects what lies upstream or downstream of the element along the flow.
@@ -52,7 +48,6 @@ public:
 
 signals:
   void selectionChanged();
-  void layersChanged(); ///< other layers are hidden than before
   void elementAction(const QString &name, NetPicker::EleAction action);
   void editPropertiesRequested(const QStringList &names);
   void openCharacteristicsRequested(const QStringList &names);
