@@ -140,13 +140,16 @@ void NetMetaData::add(const Attribute &row) {
   m_attributes.push_back(row);
   m_index.insert(indexKey(row.type, row.property), position);
   const QString property = row.property.toCaseFolded();
-  if (!m_propertyIndex.contains(property))
+  const bool isNew = !m_propertyIndex.contains(property); // and so in none of the lists, which may be long
+  if (isNew)
     m_propertyIndex.insert(property, position);
   if (row.category != QLatin1String("function"))
     return;
   const bool ofNodes = row.type == everyType() || kindOf(row.type) == NetData::Node;
   // A name that nodes carry is a node function everywhere: an edge takes the mean of its ends.
-  if (ofNodes) {
+  if (isNew) {
+    (ofNodes ? m_nodeFunctions : m_edgeFunctions).append(row.property);
+  } else if (ofNodes) {
     m_edgeFunctions.removeAll(row.property);
     if (!m_nodeFunctions.contains(row.property))
       m_nodeFunctions.append(row.property);
