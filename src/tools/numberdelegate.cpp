@@ -56,6 +56,13 @@ bool NumberDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const
                                const QModelIndex &index) {
   if (event->type() != QEvent::ToolTip)
     return QStyledItemDelegate::helpEvent(event, view, option, index);
-  QToolTip::showText(event->globalPos(), PlainTip::of(index.data().toString()), view->viewport(), view->visualRect(index));
+  constexpr int Margins = 8; // px around a text in its cell
+  const QString exact = index.data().toString();
+  QStyleOptionViewItem shown = option;
+  initStyleOption(&shown, index);
+  const bool isWhole =
+      shown.text == exact && shown.fontMetrics.horizontalAdvance(exact) + Margins <= view->visualRect(index).width();
+  QToolTip::showText(event->globalPos(), isWhole ? QString() : PlainTip::of(exact), view->viewport(),
+                     view->visualRect(index));
   return true;
 }

@@ -2,8 +2,8 @@
 
 #include <QStyledItemDelegate>
 
-/// Shows numbers rounded for the eye. The texts of the items stay exact, for copies, filters, sorting and files, and a
-/// cell's tip is its whole exact text.
+/// Shows numbers rounded for the eye. The texts of the items stay exact, for copies, filters, sorting and files; where not
+/// all of it is seen, a cell's tip is its whole exact text.
 class NumberDelegate : public QStyledItemDelegate {
   Q_OBJECT
 public:
