@@ -257,6 +257,17 @@ void TestPropViewer::numbersAreRoundedForTheEyeOnly() {
                                                    tree->model()->index(tree->indexOfTopLevelItem(row->parent()), 0));
     return tree->itemDelegate()->sizeHint(QStyleOptionViewItem(), index).width();
   };
+  const auto askFor = [&](const char *property) {
+    const QPoint spot(tree->columnViewportPosition(1) + 3, tree->visualItemRect(find(property)).center().y());
+    QHelpEvent help(QEvent::ToolTip, spot, tree->viewport()->mapToGlobal(spot));
+    QApplication::sendEvent(tree->viewport(), &help);
+  };
+  viewer.resize(400, 600);
+  viewer.show();
+  askFor("a");
+  QCOMPARE(QToolTip::text(), QStringLiteral("83.84299999999999"));
+  askFor("b"); // which is all there
+  QTRY_COMPARE(QToolTip::text(), QString());
   QCOMPARE(width("a"), width("b"));
   QVERIFY(width("c") < width("name")); // a name stays what it is
   tree->setCurrentItem(find("a"), 1);
