@@ -6,7 +6,7 @@ from . import hydrogen
 from .scenarios import units_to_m
 
 NOMINAL_SPEED = 8000.0  # 1/min
-SPEEDS = (4000, 5000, 6000, 7000, 8000, 9000)
+SPEEDS = (2800, 4000, 5000, 6000, 7000, 8000, 9000)
 LARGEST_PART = 1.2  # of the nominal flow at a speed; machines choke at 1.3
 PISTONS = {"CS_Rimpar_C1"}  # little head, and a flow that changes much from season to season
 PISTON_SPEEDS = (120, 500)

@@ -21,6 +21,8 @@ constexpr std::array<double, Gerg2008::Components> CalorificValues{890.63, 0.0, 
 /// In K, in the order of the components. Files state the mean of the parts by their molar shares (Kay's rule).
 constexpr std::array<double, Gerg2008::Components> CriticalTemperatures{190.564, 126.192, 304.128, 305.322, 369.825, 33.19};
 
+constexpr std::array<double, Gerg2008::Components> CriticalPressures{45.992, 33.958, 73.773, 48.722, 42.512, 12.964}; // bar
+
 /// What stands for all hydrocarbons heavier than methane: as much ethane as propane. So the real gas
 /// factors of the six gases of ISO 12213-3, annex C, come out within 0.1 % at 60 bar and 0.2 % at 120 bar.
 constexpr double PropaneOfHeavy = 0.5;
@@ -175,8 +177,10 @@ Known knownShares(const GasData &gas, double molarMass, std::size_t equations) {
   return known;
 }
 
-/// By all the values or without the critical temperature; nothing when no gas has these values.
-std::optional<Gerg2008::Composition> infer(const GasData &gas, bool byCriticalTemperature) {
+enum class CriticalValues { None, Temperature, Both };
+
+/// By density, calorific value and some critical values; nothing when no gas has these values.
+std::optional<Gerg2008::Composition> infer(const GasData &gas, CriticalValues critical) {
   Gerg2008::Composition shares{};
   double volume = Gerg2008::GasConstant * NormTemperature / NormPressure; // of the ideal gas, better at each turn
   constexpr int Turns = 4;
@@ -185,8 +189,10 @@ std::optional<Gerg2008::Composition> infer(const GasData &gas, bool byCriticalTe
     std::vector<Target> targets{{Gerg2008::MolarMasses, molarMass}};
     if (gas.calorificValue > 0.0)
       targets.push_back({CalorificValues, gas.calorificValue * volume});
-    if (byCriticalTemperature)
+    if (critical != CriticalValues::None)
       targets.push_back({CriticalTemperatures, gas.criticalTemperature});
+    if (critical == CriticalValues::Both)
+      targets.push_back({CriticalPressures, gas.criticalPressure});
     shares = solve(targets, knownShares(gas, molarMass, targets.size() + 1));
     if (!tidy(shares))
       return std::nullopt;
@@ -204,18 +210,30 @@ std::optional<GasComposition::Inferred> GasComposition::infer(const GasData &gas
   result.basis = gas.calorificValue > 0.0 ? tr("density and calorific value") : tr("density alone");
   if (const auto one = pure(gas)) {
     result.shares = *one;
-    result.isPure = true;
+    result.isTold = true;
     return result;
   }
   const bool needsCarbonDioxide = gas.calorificValue > 0.0 && !gas.carbonDioxide && !gas.nitrogen;
   if (needsCarbonDioxide && gas.criticalTemperature > 0.0) {
-    if (const auto shares = ::infer(gas, true)) {
+    if (const auto shares = ::infer(gas, CriticalValues::Temperature)) {
       result.shares = *shares;
+      result.isTold = true;
       result.basis = tr("density, calorific value and critical temperature");
       return result;
     }
   }
-  const auto shares = ::infer(gas, false);
+  const bool isStated = gas.methane || gas.nitrogen || gas.carbonDioxide || gas.hydrogen;
+  const bool isCritical = gas.criticalTemperature > 0.0 && gas.criticalPressure > 0.0;
+  if (gas.calorificValue == 0.0 && !isStated && isCritical) {
+    if (const auto shares = ::infer(gas, CriticalValues::Both)) {
+      result.shares = *shares;
+      result.isTold = true;
+      result.basis = tr("molar mass and critical values");
+      return result;
+    }
+  }
+  const auto shares = ::infer(gas, CriticalValues::None);
+  result.isTold = gas.calorificValue > 0.0 || isStated;
   if (!shares)
     return std::nullopt;
   result.shares = *shares;

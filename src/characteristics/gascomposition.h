@@ -11,7 +11,7 @@ namespace GasComposition {
 
 struct Inferred {
   Gerg2008::Composition shares{};
-  bool isPure = false; ///< methane or hydrogen with hardly anything else
+  bool isTold = false; ///< by more than the density alone
   QString basis;       ///< what it was inferred from
   QStringList remarks; ///< what does not fit
 };

@@ -208,10 +208,9 @@ GasData GasData::of(const element &gas, QStringList *faults) {
 
 std::shared_ptr<const GasLaw> GasLaw::of(const GasData &gas, Wanted wanted) {
   const auto inferred = GasComposition::infer(gas);
-  const bool isTold = gas.calorificValue > 0.0 || gas.methane || gas.nitrogen || gas.carbonDioxide || gas.hydrogen;
   const bool isCriticalKnown = gas.isEnough() && gas.criticalPressure > 0.0 && gas.criticalTemperature > 0.0;
   std::shared_ptr<const GasLaw> law;
-  if (inferred && (isTold || inferred->isPure || !isCriticalKnown))
+  if (inferred && (inferred->isTold || !isCriticalKnown))
     law = bySharesOf(gas, *inferred);
   else if (isCriticalKnown)
     law = byCriticalValues(gas, inferred);

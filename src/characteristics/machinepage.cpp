@@ -256,7 +256,7 @@ QWidget *MachinePage::makeMap(const NetworkMachines::Machine &machine) const {
   } else if (machine.piston) {
     plot->show(*machine.piston, machine.point, machine.limits);
   } else if (machine.drive) {
-    plot->show(*machine.drive, machine.point, machine.ambientTemperature);
+    plot->show(*machine.drive, machine.point, machine.ambientTemperature, machine.driven);
     if (machine.drive->energy) {
       auto *consumption = new MapPlot;
       column->addWidget(consumption, 1);

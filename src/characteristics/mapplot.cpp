@@ -351,14 +351,17 @@ void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingP
   finish();
 }
 
-/// Where the power of a drive is known: over the speeds that were measured, else up to where it works.
-static std::pair<double, double> speedsOf(const Drive &drive, const std::optional<WorkingPoint> &point) {
+/// Where the power of a drive is known: over the speeds that were measured, else over those of the machine that it drives,
+/// else up to where it works.
+static std::pair<double, double> speedsOf(const Drive &drive, const std::optional<WorkingPoint> &point,
+                                          const std::optional<std::pair<double, double>> &ofMachine) {
   constexpr double Usual = 10000.0;
   constexpr double Beyond = 1.2; // of the present speed
   if (const auto measured = drive.speeds())
     return *measured;
-  const double largest = point && point->speed ? Beyond * *point->speed : Usual;
-  return {0.0, largest};
+  if (ofMachine && ofMachine->second > ofMachine->first)
+    return *ofMachine;
+  return {0.0, point && point->speed ? Beyond * *point->speed : Usual};
 }
 
 /// One line for each temperature; lines that lie on one another are one, with all their temperatures.
@@ -373,7 +376,7 @@ void MapPlot::addPowers(const Drive &drive, const std::pair<double, double> &spe
   temperatures.push_back(temperature);
   std::sort(temperatures.begin(), temperatures.end());
   temperatures.erase(std::unique(temperatures.begin(), temperatures.end()), temperatures.end());
-  constexpr double Near = 0.03; // of the power: labels would cover each other
+  constexpr double Near = 0.05; // of the power: labels would cover each other
   const auto last = [&](double at) {
     return (*drive.power)(at, speeds.second);
   };
@@ -395,13 +398,13 @@ void MapPlot::addPowers(const Drive &drive, const std::pair<double, double> &spe
         line.append(QPointF(speed, limit));
     }
     addLine(line, QPen(isPresent ? Blue : QColor(120, 160, 190), isPresent ? 2.0 : 1.2),
-            tr("%1 °C").arg(label.join(QStringLiteral(", "))),
-            Qt::AlignLeft | Qt::AlignTop); // inside, where the line ends at the edge
+            tr("%1 °C").arg(label.join(QStringLiteral(", "))), Qt::AlignRight | Qt::AlignVCenter);
     i = std::max(next, i + 1);
   }
 }
 
-void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature) {
+void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature,
+                   const std::optional<std::pair<double, double>> &machineSpeeds) {
   reset(drive.name, point, tr("speed [1/min]"), tr("largest power [kW]"));
   const auto power = drive.power;
   m_readout = [power, temperature](const QPointF &at) {
@@ -410,8 +413,12 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
       text += tr("\nlimit = %1 kW at %2 °C").arg(shownNumber((*power)(temperature, at.x())), shownNumber(temperature, 3));
     return text;
   };
-  if (drive.power)
-    addPowers(drive, speedsOf(drive, point), temperature);
+  if (drive.power) {
+    const std::pair<double, double> speeds = speedsOf(drive, point, machineSpeeds);
+    addPowers(drive, speeds, temperature);
+    constexpr double LabelRoom = 0.12; // of the width
+    addRoom({speeds.second + LabelRoom * (speeds.second - speeds.first), (*drive.power)(temperature, speeds.second)});
+  }
   QVector<QPointF> dots;
   for (const Drive::PowerPoint &measured : drive.powerPoints)
     dots.append(QPointF(measured.speed, measured.power));

@@ -239,6 +239,10 @@ NetworkMachines::Machine NetworkMachines::machine(const element &e, const QStrin
     found.limits = limitsOf(*found.piston, drive, own, found.ambientTemperature);
   }
   if (found.drive) {
+    if (const TurboCompressor *turbo = m_data.turbo(working))
+      found.driven = {turbo->speedMin, turbo->speedMax};
+    else if (const PistonCompressor *piston = m_data.piston(working))
+      found.driven = {piston->speedMin, piston->speedMax};
     found.comparisons.clear();
     const double stored = m_net.value(e, PropertyKey::find("power"));
     constexpr double Mega = 1000.0;

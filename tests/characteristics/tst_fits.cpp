@@ -4,7 +4,6 @@
 #include <QTemporaryDir>
 
 #include <cmath>
-
 #include <sys/stat.h>
 
 class TestFits : public QObject {

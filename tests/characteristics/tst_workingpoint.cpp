@@ -677,9 +677,13 @@ void TestWorkingPoint::drivesShowWhatWasMeasured() {
   QCOMPARE(lines(), 1);
   const QRectF covered = plot.itemList(QwtPlotItem::Rtti_PlotCurve).front()->boundingRect();
   QVERIFY(covered.left() >= 3000.0 && covered.right() <= 6000.0);
-  drive.power = Biquadratic{{0, 2, 0, -50}};
+  drive.power = Biquadratic{{0, 2, 0, -100}};
   plot.show(drive, std::nullopt, 10.0);
   QCOMPARE(lines(), 3);
+  drive.powerPoints.clear(); // then over the speeds of the machine that it drives
+  plot.show(drive, std::nullopt, 10.0, std::make_pair(2000.0, 2500.0));
+  const QRectF ofMachine = plot.itemList(QwtPlotItem::Rtti_PlotCurve).front()->boundingRect();
+  QVERIFY(ofMachine.left() >= 2000.0 && ofMachine.right() <= 2500.0);
 }
 
 NIVRA_TEST(TestWorkingPoint);

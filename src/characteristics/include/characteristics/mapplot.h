@@ -22,7 +22,9 @@ public:
   /// \param limits the largest pressure ratio over the speed in 1/min; empty when only the machine's own limit is known
   void show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point, const QVector<QPointF> &limits = {});
   /// \param point power and speed of it are shown; \param temperature ambient, degC
-  void show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature);
+  /// \param machineSpeeds of the machine that it drives, 1/min, for drives without measured points
+  void show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature,
+            const std::optional<std::pair<double, double>> &machineSpeeds = std::nullopt);
   /// What the drive takes over its power.
   void showConsumption(const Drive &drive, const std::optional<WorkingPoint> &point);
 

@@ -39,11 +39,12 @@ public:
     std::optional<Drive> drive;
     double ambientTemperature = MachineData::UsualTemperature; ///< degC
     std::optional<WorkingPoint> point;
-    QVector<QPointF> limits; ///< of a piston compressor: the largest ratio over the speed
-    QString gas;             ///< the law that was taken, and whose gas it is
-    QStringList remarks;     ///< what is doubtful about gas and station
-    QString configuration;   ///< of its station, empty when it has one machine only
-    QString split;           ///< what the configuration makes of flow and ratio
+    QVector<QPointF> limits;                         ///< of a piston compressor: the largest ratio over the speed
+    std::optional<std::pair<double, double>> driven; ///< of a drive: smallest and largest speed of its machine, 1/min
+    QString gas;                                     ///< the law that was taken, and whose gas it is
+    QStringList remarks;                             ///< what is doubtful about gas and station
+    QString configuration;                           ///< of its station, empty when it has one machine only
+    QString split;                                   ///< what the configuration makes of flow and ratio
     std::vector<Comparison> comparisons;
 
     bool isThere() const { return turbo || piston || drive; }
