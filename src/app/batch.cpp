@@ -244,7 +244,8 @@ int Batch::run(const CommandLine &line) {
       control.plot()->showArea(line.extent);
     if (!line.labels.isEmpty())
       control.plot()->update().relabelNow();
-    if (!exportPlot(*control.plot(), line.picture, line.width > 0 ? line.width : CommandLine::DefaultWidth, &reason))
+    const PictureSize size(line.width > 0 ? line.width : CommandLine::DefaultWidth, line.scale);
+    if (!exportPlot(*control.plot(), line.picture, size, &reason))
       return failed(reason);
     times.end(QStringLiteral("export"));
   }

@@ -129,8 +129,11 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
   const QCommandLineOption width(QStringLiteral("width"),
                                  tr("Width of the picture in pixels, %1 by default.").arg(DefaultWidth),
                                  QStringLiteral("PIXELS"));
+  const QCommandLineOption scale(QStringLiteral("scale"),
+                                 tr("Size of texts, lines and symbols in the picture against those on the screen, 1 by default."),
+                                 QStringLiteral("FACTOR"));
   const DrawOptions drawing;
-  parser.addOptions(QList<QCommandLineOption>{help, version, info, picture, width} + drawing.all());
+  parser.addOptions(QList<QCommandLineOption>{help, version, info, picture, width, scale} + drawing.all());
   parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
   QString style;
   if (!parser.parse(ToolkitOptions::without(arguments, style)))
@@ -159,6 +162,12 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
     if (!isNumber || line.width < 1 || !parser.isSet(picture))
       return wrong(tr("--width takes a positive number of pixels and goes with --export."));
     line.width = qMin(line.width, LargestWidth);
+  }
+  if (parser.isSet(scale)) {
+    bool isNumber = false;
+    line.scale = parser.value(scale).toDouble(&isNumber);
+    if (!isNumber || !(line.scale >= SmallestScale && line.scale <= LargestScale) || !parser.isSet(picture))
+      return wrong(tr("--scale takes a number from %1 to %2 and goes with --export.").arg(SmallestScale).arg(LargestScale));
   }
   const QString reason = drawing.take(parser, line);
   return reason.isEmpty() ? line : wrong(reason);

@@ -58,7 +58,7 @@ void NetUpdate::setNetData(const NetData *net) {
   m_textBoxes.clear();
   clearLabels();
   m_visibility.clear();
-  m_layers = LayerFilter();
+  m_layers.read(m_geometry); // nothing is hidden of what is no longer there
 }
 
 void NetUpdate::setFolder(const QString &folder, const QString &subnetIcons) {

@@ -30,6 +30,10 @@ void TestCommandLine::parse_data() {
   row("--export a.png --info net.geom", Action::Batch);
   row("--export a.png --width 99999 net.geom", Action::Batch, CommandLine::LargestWidth);
   row("--export a.png --width 0 net.geom", Action::Wrong);
+  row("--export a.png --width 300 --scale 2.5 net.geom", Action::Batch, 300);
+  row("--export a.png --scale nan net.geom", Action::Wrong);
+  row("--export a.png --scale 0 net.geom", Action::Wrong);
+  row("--info --scale 2 net.geom", Action::Wrong);
   row("--export a.png --width wide net.geom", Action::Wrong);
   row("--width 300 --info net.geom", Action::Wrong);
   row("--export", Action::Wrong);

@@ -18,7 +18,8 @@ struct CommandLine {
   QString style; ///< of the toolkit, where one was asked for
   bool info = false;
   QString picture;
-  int width = 0; ///< pixels, 0 for the default
+  int width = 0;      ///< pixels, 0 for the default
+  double scale = 1.0; ///< of texts, lines and symbols against those on the screen
   /// Draw functions in place of those of the plot settings, empty to leave them.
   QString colorBy;
   QString widthBy;
@@ -30,6 +31,8 @@ struct CommandLine {
 
   static constexpr int DefaultWidth = 1600;
   static constexpr int LargestWidth = 20000;
+  static constexpr double SmallestScale = 0.1;
+  static constexpr double LargestScale = 20.0;
 
   /// arguments as main gets them, the program name first; those of the toolkit (-platform, -style ...) are passed over.
   /// Needs an application object of any kind.
