@@ -320,9 +320,12 @@ void TestConvert::flowsOfNominations() {
   NetData made;
   QVERIFY(open(path(QStringLiteral("f/f/f.scen.jsn")), made));
   const auto flows = [&made](const char *node) {
-    const element *e = made.element(QLatin1String(node));
-    return e->value(QStringLiteral("qset")) + QLatin1Char(',') + e->value(QStringLiteral("qmin")) + QLatin1Char(',') +
-           e->value(QStringLiteral("qmax"));
+    QStringList numbers; // numbers keep their digits: 160.00 says no more than 160
+    for (const char *property : {"qset", "qmin", "qmax"}) {
+      const QString text = made.element(QLatin1String(node))->value(QLatin1String(property));
+      numbers << (text.isEmpty() ? text : QString::number(text.toDouble()));
+    }
+    return numbers.join(QLatin1Char(','));
   };
   QCOMPARE(flows("in"), entry);
   QCOMPARE(flows("out"), exit);
