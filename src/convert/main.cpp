@@ -28,12 +28,13 @@ int tell(bool ok, const Findings &findings, const QString &done, const Conversio
 int importNetwork(const GasLibImport::Request &request) {
   const GasLibImport::Result result = GasLibImport::import(request);
   return tell(result.ok, result.findings,
-              QStringLiteral("%1 nodes, %2 drives, %3 edges, %4 set points of %5 scenarios written: %6")
+              QStringLiteral("%1 nodes, %2 drives, %3 edges, %4 set points, %5 written: %6")
                   .arg(result.nodes)
                   .arg(result.drives)
                   .arg(result.edges)
                   .arg(result.setPoints)
-                  .arg(result.scenarios.size())
+                  .arg(result.scenarios.size() == 1 ? QStringLiteral("1 scenario")
+                                                    : QStringLiteral("%1 scenarios").arg(result.scenarios.size()))
                   .arg(result.scenarios.join(QStringLiteral(", "))),
               result.report);
 }
