@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -162,7 +163,8 @@ void GasLibNomination::readBound(Bounds &bounds, const char *unit, bool isNegate
 
 void GasLibNomination::set(Scenario &scenario, const QString &node, const char *property, const GasLibUnits::Number &number,
                            const char *unit) {
-  scenario.setPoints.push_back({node, {PropertyKey::intern(property), number.text, true}, QString::fromLatin1(unit)});
+  NetworkFileConverter::Value value{PropertyKey::intern(property), number.text, true};
+  scenario.setPoints.push_back({node, std::move(value), QString::fromLatin1(unit)});
 }
 
 /// Bounds that meet are a set value.
