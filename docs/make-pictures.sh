@@ -62,7 +62,7 @@ walk_window 2 "$search $(dock 102)"'xdotool mousemove 134 552 click 1; sleep 0.5
 walk_window 3 "$search $table"
 walk_window 4 "$search $table"'xdotool mousemove 143 16 click 1; sleep 1'
 walk_window 5 "$(dock 177)"'xdotool mousemove 36 184 click 1; sleep 0.3; xdotool mousemove 36 247 click 1; sleep 1'
-walk_window 6 'xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool type "N_Görlitz"; xdotool key Return; sleep 1; xdotool mousemove 60 235 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 789 443; sleep 0.5; xdotool click 3; sleep 0.5; xdotool mousemove 860 530 click 1; sleep 0.5; xdotool mousemove 840 300 key Home; sleep 1.5'
+walk_window 6 'xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool type "N_Görlitz"; xdotool key Return; sleep 1; xdotool mousemove 60 235 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 789 443; sleep 0.5; xdotool click 3; sleep 0.5; xdotool mousemove 880 555 click 1; sleep 0.5; xdotool mousemove 840 300 key Home; sleep 1.5'
 
 station='xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5;'
 window "$walk/DE_H2/S5/S5.scen.jsn" "$images/subnet.png" "$station"' xdotool type "CS_Werne"; xdotool key Escape; xdotool mousemove 150 94 click 1 type "sub"; xdotool key Return; sleep 1; xdotool mousemove 60 233 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 765 440; sleep 0.5; xdotool click 3; sleep 1; xdotool mousemove 820 527 click 1; sleep 0.7; xdotool mousemove 600 527; sleep 0.3; xdotool click 1; sleep 2; sub=$(xdotool search --onlyvisible --name Subassembly | head -n 1); xdotool windowsize $sub 1200 900; sleep 0.5; xdotool windowfocus $sub; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool type "_V"; xdotool key Escape; xdotool key Return; sleep 1; xdotool mousemove 200 185 click 1; sleep 1'
@@ -84,4 +84,4 @@ montage -label png "$formats/drawing.png" -label jpg "$formats/drawing.jpg" -lab
 rm -rf "$formats"
 
 # Drawings have few colours: a table of 255 of them makes the files a third as large, and nobody sees it.
-mogrify +dither -colors 255 -define png:compression-level=9 -strip "$images"/*.png
+mogrify -depth 8 +dither -colors 255 -define png:compression-level=9 -strip "$images"/*.png
