@@ -145,12 +145,45 @@ void addMessages(QJsonObject &object, const NetworkLoader &loader, const NivraMs
   object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(warnings));
 }
 
+/// The settings by section, in the order in which the window shows them, and the gases; all as the files write them.
+QJsonObject settings(const ScenarioSummary &summary) {
+  const auto sourceOf = [](const QString &file) {
+    return file.isEmpty() ? QStringLiteral("default") : file;
+  };
+  QJsonArray sections;
+  QJsonArray rows;
+  for (std::size_t i = 0; i < summary.rows.size(); ++i) {
+    const ScenarioSummary::Row &row = summary.rows[i];
+    QJsonObject entry{{QStringLiteral("name"), row.name},
+                      {QStringLiteral("value"), row.value},
+                      {QStringLiteral("source"), sourceOf(row.source)}};
+    if (!row.comment.isEmpty())
+      entry.insert(QStringLiteral("comment"), row.comment);
+    rows.append(entry);
+    if (i + 1 < summary.rows.size() && summary.rows[i + 1].section == row.section)
+      continue;
+    sections.append(QJsonObject{{QStringLiteral("name"), row.section}, {QStringLiteral("rows"), rows}});
+    rows = QJsonArray();
+  }
+  QJsonObject gases;
+  for (const auto &[name, gas] : summary.gases) {
+    QJsonObject properties;
+    for (const Property &property : gas)
+      properties.insert(property.key.name(), property.value.toString());
+    gases.insert(name, properties);
+  }
+  return {{QStringLiteral("sections"), sections},
+          {QStringLiteral("gases"), gases},
+          {QStringLiteral("gasFile"), summary.gasFile}};
+}
+
 QJsonObject info(NetData &net, const NetworkLoader &loader, StageTimes &times, const NivraMsg::Recorder &recorder) {
   const NivraWorkspace &workspace = loader.workspace();
   QJsonObject object;
   object.insert(QStringLiteral("workspace"), workspace.root());
   object.insert(QStringLiteral("case"), workspace.currentCase()->name);
   object.insert(QStringLiteral("scenario"), workspace.hasScenario() ? workspace.currentScenario()->workDir : QString());
+  object.insert(QStringLiteral("scenarioSettings"), settings(loader.scenarioSummary()));
   object.insert(QStringLiteral("nodes"), static_cast<double>(net.nodes().size()));
   object.insert(QStringLiteral("edges"), static_cast<double>(net.edges().size()));
   object.insert(QStringLiteral("assembledSubnets"), static_cast<double>(net.assembledSubnets().size()));

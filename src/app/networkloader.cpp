@@ -89,7 +89,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   if (!result.configuration.isEmpty())
     m_workspace.takeConfiguration(result.configuration, m_gasParams, result.configurationFile);
   m_gases = reader.gases();
-  m_gasFile = reader.gasFile();
+  m_files = {reader.networkPath(m_workspace.geometryPath()), reader.gasFile()};
   report(result.findings);
   notice(tr("Reading"), result.findings);
   m_cancelled = result.cancelled;
@@ -127,7 +127,7 @@ void NetworkLoader::notice(const QString &stage, Findings findings) {
 }
 
 ScenarioSummary NetworkLoader::scenarioSummary() const {
-  return ScenarioSummary::of(m_workspace, m_gasParams, m_gases, m_gasFile);
+  return ScenarioSummary::of(m_workspace, m_gasParams, m_gases, m_files);
 }
 
 void NetworkLoader::readMachines(const NivraReader &reader) {

@@ -23,8 +23,10 @@
 #include <QToolButton>
 
 #include <app/aboutbox.h>
+#include <app/lastscenario.h>
 #include <app/loadprogress.h>
 #include <app/nivraviewer.h>
+#include <app/outcomestyle.h>
 #include <app/subnetwindow.h>
 #include <app/tooldocks.h>
 
@@ -144,7 +146,9 @@ void NivraViewer::openWorkspace(const QString &path) {
   timer.start();
   const qint64 waitedBefore = NivraMsg::waitedForAnswers();
   NetworkLoader loader(m_net);
+  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::None));
   if (!loader.resolve(path)) {
+    m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::Failed));
     m_ui->statusbar->showMessage(tr("Invalid Workspace"));
     if (NivraMsg::isInteractive()) // else the log has said it already
       NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
@@ -155,6 +159,8 @@ void NivraViewer::openWorkspace(const QString &path) {
     setCentralWidget(m_control->plot());
   QCoreApplication::processEvents();
   GeneralSettings::instance().load(m_loader.workspace().root());
+  if (GeneralSettings::instance().isOn(QStringLiteral("start with last scenario")))
+    takeLastScenario();
   m_control->clear();
   m_loader.readConfiguration();
   setBusy(true);
@@ -163,16 +169,46 @@ void NivraViewer::openWorkspace(const QString &path) {
   m_control->plot()->setFocus(); // the keys are for the network that was asked for
   m_tools->refresh(m_loader.workspace());
   m_tools->setFindings(m_loader.noticed());
+  m_tools->setScenario(m_loader.scenarioSummary());
   m_tools->setMachines(m_loader.machines());
   for (QAction *action : {m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
     action->setEnabled(true);
   showTitle();
+  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(outcome(done)));
+  if (done && m_loader.workspace().hasScenario())
+    LastScenario::remember(m_loader.workspace().caseDirectory(), m_loader.workspace().chosenPath());
   constexpr int ShownMs = 20000;
   if (done)
     m_ui->statusbar->showMessage(
         tr("Startup finished in %1ms").arg(timer.elapsed() - (NivraMsg::waitedForAnswers() - waitedBefore)), ShownMs);
   else
     m_ui->statusbar->showMessage(m_loader.error());
+}
+
+/// In place of a case alone the scenario of it that was opened last, where it still belongs to the chosen geometry.
+void NivraViewer::takeLastScenario() {
+  const NivraWorkspace &workspace = m_loader.workspace();
+  if (workspace.hasScenario())
+    return;
+  const QString last = LastScenario::of(workspace.caseDirectory());
+  NetworkLoader loader(m_net);
+  if (last.isEmpty() || !loader.resolve(last) || !loader.workspace().hasScenario() ||
+      loader.workspace().geometryPath() != workspace.geometryPath() || loader.workspace().isJson() != workspace.isJson())
+    return;
+  NivraMsg::log(tr("Opening the scenario %1, which was opened last").arg(last));
+  m_loader.takeWorkspace(loader);
+}
+
+OutcomeStyle::Outcome NivraViewer::outcome(bool isDone) const {
+  if (!isDone)
+    return m_loader.wasCancelled() ? OutcomeStyle::Outcome::Stopped : OutcomeStyle::Outcome::Failed;
+  for (const FindingList::Group &group : m_loader.noticed()) {
+    for (const Finding &finding : group.findings) {
+      if (finding.severity != Finding::Severity::Information)
+        return OutcomeStyle::Outcome::Acceptable;
+    }
+  }
+  return OutcomeStyle::Outcome::Successful;
 }
 
 bool NivraViewer::readWorkspace() {

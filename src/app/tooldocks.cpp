@@ -26,6 +26,7 @@
 #include <algorithm>
 #include <app/consoledock.h>
 #include <app/helpwindow.h>
+#include <app/scenariodock.h>
 #include <app/tooldocks.h>
 
 namespace {
@@ -72,6 +73,8 @@ void ToolDocks::createReports() {
     m_control.showElement(name);
     emit elementMarked(name);
   });
+  m_scenario = new ScenarioDock(&m_window);
+  addDock(m_scenario, QStringLiteral("scenario"), Qt::BottomDockWidgetArea);
 }
 
 ToolDocks::~ToolDocks() = default;
@@ -259,6 +262,10 @@ void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
   m_findings->setFindings(groups);
   m_findingsButton->setText(count == 1 ? tr("1 finding") : tr("%1 findings").arg(count));
   m_findingsButton->setVisible(count > 0);
+}
+
+void ToolDocks::setScenario(const ScenarioSummary &summary) {
+  m_scenario->setScenario(summary, *m_net.metaData());
 }
 
 void ToolDocks::showHelp(const QString &page) {

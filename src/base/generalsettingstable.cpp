@@ -35,7 +35,6 @@ const GeneralSettingsTable::Row Rows[] = {
     {"subnet selection pen alpha", "127", "string", "selection", ""},
     {"subnet selection size factor", "0.8", "string", "selection", ""},
     {"show subnet ring colors", "BV status", "list", "subnets", "BV status,SP/SM control,search results,off"},
-    {"perform subnet label placement ratio", "0.05", "string", "subnets", ""},
     {"subnet background z", "1000.0", "string", "subnets", ""},
     {"subnet background size", "15", "string", "subnets", ""},
     {"subnet pen width", "3.0", "string", "subnets", ""},
@@ -52,11 +51,9 @@ const GeneralSettingsTable::Row Rows[] = {
     {"subnet color off", "red", "string", "subnets", ""},
     {"draw subassembly pin lines", "on", "list", "subnets", "on,off"},
     {"subassembly size", "take vis.size", "list", "subnets", "take vis.size,width,vis.size and width,fixed"},
-    {"show major BVs in net", "search only", "list", "report", "search and visualize,search only,no"},
     {"UserKey_RectZoom", "16777248", "string", "mouse and keys", ""},
     {"MousePattern_Panning", "Left_Ctrl", "list", "mouse and keys", "Left_Ctrl,MidButton,RightButton"},
     {"SelectionModifiers", "DirectSelect", "list", "mouse and keys", "DirectSelect,ShiftSelect"},
-    {"show minor BVs", "summary only", "list", "report", "true,summary only"},
     {"PELKA mode", "off", "list", "special", "on,off"},
     {"status bar style sheet failed", "background: #F7BE81", "string", "status bar", ""},
     {"status bar style sheet stopped", "background: #F9ECAD", "string", "status bar", ""},
@@ -65,11 +62,15 @@ const GeneralSettingsTable::Row Rows[] = {
     {"ask for include lists", "0", "bool", "general", ""},
     {"pick on Release", "0", "bool", "mouse and keys", ""},
     // Kept for the tools that prepare networks on the same workspaces: the viewer's own check adds no properties, knows no
-    // subnets and asks for no property by its name; subnets are always updated in one way.
+    // subnets and asks for no property by its name; subnets are always updated in one way and their windows place labels
+    // whatever is seen of them; every bound that is violated is told, searched and shown by the rings of subnets.
     {"subnet update routine", "build version", "list", "subnets", "old version,new version,build version"},
     {"check net and add missing properties", "off", "list", "general", "after reading,off"},
     {"ignore subnets while checking net", "on", "list", "general", "on,off"},
     {"properties to be ignored while checking net", "^sm|^sp", "string", "general", ""},
+    {"perform subnet label placement ratio", "0.05", "string", "subnets", ""},
+    {"show major BVs in net", "search only", "list", "report", "search and visualize,search only,no"},
+    {"show minor BVs", "summary only", "list", "report", "true,summary only"},
     // What the solving tools and reports on the same workspaces use; the viewer keeps it.
     {"overwrite atan_fact", "", "string", "special", ""},
     {"QP: enforce POWSET bounds at supplies", "off", "list", "special", "on,on if needed,guess,off"},

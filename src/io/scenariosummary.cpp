@@ -21,11 +21,11 @@ QString textOf(const QJsonValue &value) {
 
 class Builder {
 public:
-  void addCase(const NivraWorkspace &workspace) {
+  void addCase(const NivraWorkspace &workspace, const QString &geometryFile) {
     const NivraWorkspace::Case &opened = *workspace.currentCase();
     m_section = tr("Case");
     const QString source = opened.isConfigured ? workspace.filePath(opened.configFile) : QString();
-    add(QStringLiteral("geometry"), opened.geometryFile, workspace.geometryPath());
+    add(QStringLiteral("geometry"), opened.geometryFile, geometryFile);
     add(QStringLiteral("flag"), opened.flag ? QStringLiteral("1") : QStringLiteral("0"), source);
     for (auto property = opened.properties.begin(); property != opened.properties.end(); ++property)
       add(property.key(), textOf(property.value()), source);
@@ -55,14 +55,6 @@ public:
     }
   }
 
-  void addGases(const GasTable &gases, const QString &file) {
-    for (const auto &[name, gas] : gases) {
-      m_section = tr("Gas %1").arg(name);
-      for (const Property &property : gas)
-        add(property.key.name(), property.value.toString(), file);
-    }
-  }
-
   ScenarioSummary summary;
 
 private:
@@ -76,14 +68,17 @@ private:
 } // namespace
 
 ScenarioSummary ScenarioSummary::of(const NivraWorkspace &workspace, const NivraGasParams &params, const GasTable &gases,
-                                    const QString &gasFile) {
+                                    const Files &files) {
   Builder builder;
   if (workspace.isValid())
-    builder.addCase(workspace);
+    builder.addCase(workspace, files.geometry);
+  builder.summary.root = workspace.root();
+  builder.summary.hasScenario = workspace.hasScenario();
   if (workspace.hasScenario()) {
     builder.addScenario(*workspace.currentScenario());
     builder.addParams(params);
-    builder.addGases(gases, gasFile);
+    builder.summary.gases = gases;
+    builder.summary.gasFile = files.gases;
   }
   return std::move(builder.summary);
 }

@@ -45,6 +45,7 @@ class TestProgram : public QObject {
 private slots:
   void answersWithoutAWorkspace();
   void infoCounts();
+  void infoTellsTheScenario();
   void formulasAreComputed();
   void findingsAreSaidOnce();
   void secondsAddUp();
@@ -88,6 +89,31 @@ void TestProgram::infoCounts() {
   for (const char *stage : {"read", "check", "formulas", "draw"})
     QVERIFY2(info[QStringLiteral("seconds")].toObject().contains(QLatin1String(stage)), stage);
   QVERIFY(info[QStringLiteral("peakMemoryMB")].toDouble() > 1.0);
+}
+
+void TestProgram::infoTellsTheScenario() {
+  const WorkspaceFixture workspace;
+  workspace.write(QStringLiteral("CASE/S1/S1.gas.jsn"), "{\n\"Hydrogen\":{\"obj_type\":\"gas\",\"hs\":12.7}\n}\n");
+  workspace.write(QStringLiteral("CASE/S1/solverconfig.jsn"), "{\"tsoil\":280,\"comment\":{\"tsoil\":\"in May\"}}");
+  const QJsonObject told = run({QStringLiteral("--info"), workspace.scenario()}, m_data.path())
+                               .info()[QStringLiteral("scenarioSettings")]
+                               .toObject();
+  QCOMPARE(told[QStringLiteral("gases")].toObject()[QStringLiteral("Hydrogen")].toObject()[QStringLiteral("hs")].toString(),
+           QStringLiteral("12.7"));
+  QVERIFY(told[QStringLiteral("gasFile")].toString().endsWith(QStringLiteral("CASE/S1/S1.gas.jsn")));
+  QStringList rows;
+  for (const QJsonValue &section : told[QStringLiteral("sections")].toArray()) {
+    for (const QJsonValue &row : section[QStringLiteral("rows")].toArray())
+      rows.append(QStringList{section[QStringLiteral("name")].toString(), row[QStringLiteral("name")].toString(),
+                              row[QStringLiteral("value")].toString(),
+                              row[QStringLiteral("source")].toString().section(QLatin1Char('/'), -1),
+                              row[QStringLiteral("comment")].toString()}
+                      .join(QLatin1Char('|')));
+  }
+  for (const char *expected :
+       {"Case|geometry|CASE.geom|CASE.geom.jsn|", "Scenario|workDir|S1|scenconfig.jsn|",
+        "Gas law and solver|tsoil|280|solverconfig.jsn|in May", "Gas law and solver|tamb|285.15|default|"})
+    QVERIFY2(rows.contains(QLatin1String(expected)), qPrintable(rows.join(QLatin1Char('\n'))));
 }
 
 void TestProgram::formulasAreComputed() {

@@ -1,5 +1,6 @@
 #include "workspacefixture.h"
 
+#include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
 #include <support/nivratest.h>
@@ -99,6 +100,9 @@ private slots:
   void invalidWorkspaceLeavesWhatIsOpen();
   void invalidWorkspaceSaysWhy();
   void statusSurvivesMenus();
+  void statusBarShowsTheOutcome();
+  void statusBarTakesColoursOnly();
+  void lastScenarioIsOpened();
   void openingIsTimedWithoutBoxes();
   void everyWindowClosesWithTheProgram_data();
   void everyWindowClosesWithTheProgram();
@@ -163,6 +167,80 @@ void TestWindow::invalidWorkspaceSaysWhy() {
   QCOMPARE(viewer.statusBar()->currentMessage(), QStringLiteral("Invalid Workspace"));
   QVERIFY2(closer.texts().join(QString()).contains(QStringLiteral("invalid file format")),
            qPrintable(closer.texts().join(QString())));
+}
+
+/// The colour of the status bar where nothing stands on it.
+static QColor barColour(NivraViewer &viewer) {
+  QApplication::processEvents();
+  const QImage picture = viewer.statusBar()->grab().toImage();
+  return picture.pixelColor(picture.width() / 2, picture.height() / 2);
+}
+
+void TestWindow::statusBarShowsTheOutcome() {
+  const WorkspaceFixture workspace;
+  workspace.write(QStringLiteral("CASE/S1/S1.gas.jsn"), "{\n\"H\":{\"obj_type\":\"gas\",\"rhon\":0.09}\n}\n");
+  NivraViewer viewer;
+  const QColor before = barColour(viewer);
+  viewer.open(workspace.scenario());
+  QCOMPARE(barColour(viewer), QColor("lightGreen"));
+  workspace.write(QStringLiteral("CASE/a.constraints"), "p(n) in .. 1\n");
+  viewer.open(workspace.scenario());
+  QCOMPARE(barColour(viewer), QColor("lightBlue"));
+  viewer.open(workspace.path(QStringLiteral("none.geom.jsn")));
+  QCOMPARE(barColour(viewer), QColor("#F7BE81"));
+  workspace.write(QStringLiteral("generalsettings_") + GeneralSettings::userName() + QStringLiteral(".csv"),
+                  "status bar style sheet acceptable;status bar;string;background: #123456;;\n");
+  viewer.open(workspace.scenario());
+  QCOMPARE(barColour(viewer), QColor("#123456"));
+  QVERIFY(before != QColor("#123456"));
+}
+
+// The settings of a workspace may come from anybody.
+void TestWindow::statusBarTakesColoursOnly() {
+  const WorkspaceFixture workspace;
+  workspace.write(QStringLiteral("CASE/S1/S1.gas.jsn"), "{\n\"H\":{\"obj_type\":\"gas\",\"rhon\":0.09}\n}\n");
+  QImage stranger(8, 8, QImage::Format_RGB32);
+  stranger.fill(Qt::red);
+  const QString picture = workspace.path(QStringLiteral("picture.png"));
+  QVERIFY(stranger.save(picture));
+  workspace.write(QStringLiteral("generalsettings_") + GeneralSettings::userName() + QStringLiteral(".csv"),
+                  "status bar style sheet successful;status bar;string;background: #123456$SEMI$ min-height: 900px$SEMI$ "
+                  "background: url(" +
+                      picture.toUtf8() + ")$SEMI$ } * { color: red;;\n");
+  NivraViewer viewer;
+  viewer.open(workspace.scenario());
+  QCOMPARE(barColour(viewer), QColor("#123456"));
+  QVERIFY(viewer.statusBar()->height() < 100);
+  QVERIFY(!viewer.statusBar()->styleSheet().contains(QLatin1String("url")));
+  QVERIFY(!viewer.statusBar()->styleSheet().contains(QLatin1String("* {")));
+}
+
+void TestWindow::lastScenarioIsOpened() {
+  const WorkspaceFixture workspace;
+  QDir(workspace.root()).mkpath(QStringLiteral("CASE/S2"));
+  workspace.write(QStringLiteral("CASE/S2/S2.scen.jsn"), "{\n}\n");
+  workspace.write(QStringLiteral("CASE/S2/scenconfig.jsn"), "{\"workDir\":\"S2\",\"scenFile\":\"S2.scen\"}");
+  const QString settings = QStringLiteral("generalsettings_") + GeneralSettings::userName() + QStringLiteral(".csv");
+  const auto opened = [](NivraViewer &viewer, const QString &path) {
+    viewer.open(path);
+    return viewer.windowTitle().section(QStringLiteral("CASE: "), 1);
+  };
+  NivraViewer viewer;
+  QCOMPARE(opened(viewer, workspace.path(QStringLiteral("CASE/S2/S2.scen.jsn"))), QStringLiteral("CASE  |  SCEN: S2"));
+  QCOMPARE(opened(viewer, workspace.geometry()), QStringLiteral("CASE")); // off by default
+  workspace.write(settings, "start with last scenario;general;list;on;on,off;\n");
+  const QStringList before = QDir(workspace.root()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+  QCOMPARE(opened(viewer, workspace.geometry()), QStringLiteral("CASE  |  SCEN: S2"));
+  QCOMPARE(opened(viewer, workspace.scenario()), QStringLiteral("CASE  |  SCEN: S1"));
+  NivraViewer later; // the program started anew
+  QCOMPARE(opened(later, workspace.geometry()), QStringLiteral("CASE  |  SCEN: S1"));
+  QCOMPARE(QDir(workspace.root()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
+  QVERIFY(QDir(workspace.path(QStringLiteral("CASE/S1"))).removeRecursively());
+  QCOMPARE(opened(later, workspace.geometry()), QStringLiteral("CASE"));
+
+  const WorkspaceFixture another;
+  another.write(settings, "start with last scenario;general;list;on;on,off;\n");
+  QCOMPARE(opened(later, another.geometry()), QStringLiteral("CASE")); // never opened with one
 }
 
 void TestWindow::statusSurvivesMenus() {

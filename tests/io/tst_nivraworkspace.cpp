@@ -291,7 +291,7 @@ void TestNivraWorkspace::summaryTellsValuesAndTheirFiles() {
   element hydrogen;
   hydrogen.set(QStringLiteral("rhon"), QStringLiteral("0.09"));
   const ScenarioSummary summary =
-      ScenarioSummary::of(workspace, gas, {{QStringLiteral("Hydrogen"), hydrogen}}, QStringLiteral("/gas"));
+      ScenarioSummary::of(workspace, gas, {{QStringLiteral("Hydrogen"), hydrogen}}, {workspace.geometryPath(), QStringLiteral("/gas")});
   const auto row = [&summary](const char *name) {
     QStringList told;
     for (const ScenarioSummary::Row &candidate : summary.rows) {
@@ -310,7 +310,10 @@ void TestNivraWorkspace::summaryTellsValuesAndTheirFiles() {
   QCOMPARE(row("tsoil"), QStringLiteral("Gas law and solver|281.5|solverconfig.jsn|measured; in May"));
   QCOMPARE(row("tamb"), QStringLiteral("Gas law and solver|285.15||"));
   QCOMPARE(row("field21"), QStringLiteral("Further fields|1 (on)||"));
-  QCOMPARE(row("rhon"), QStringLiteral("Gas Hydrogen|0.09|gas|"));
+  QCOMPARE(summary.gases.at(QStringLiteral("Hydrogen")).value(QStringLiteral("rhon")), QStringLiteral("0.09"));
+  QCOMPARE(summary.gasFile, QStringLiteral("/gas"));
+  QVERIFY(summary.hasScenario);
+  QCOMPARE(summary.root, workspace.root());
 }
 
 void TestNivraWorkspace::specialFilesAreRefused_data() {

@@ -79,7 +79,7 @@ private:
   NivraWorkspace m_workspace;
   NivraGasParams m_gasParams;
   GasTable m_gases;
-  QString m_gasFile;
+  ScenarioSummary::Files m_files;
   MachineData m_machines;
   QString m_templateFolder;
   QString m_checkFindings;

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 #include <app/networkloader.h>
+#include <app/outcomestyle.h>
 #include <memory>
 
 class LoadProgress;
@@ -51,6 +52,8 @@ private:
   void setUpForm();
   void applyStyleSheet(const QString &path);
   void openWorkspace(const QString &path);
+  void takeLastScenario();
+  OutcomeStyle::Outcome outcome(bool isDone) const;
   bool readWorkspace();
   bool askForIncludeLists(NetworkLoader::ReadOptions &options);
   void setCurrentElement(const QString &name);

@@ -22,6 +22,8 @@ class NivraPropViewer;
 class NivraSearch;
 class NivraVecTable;
 class NivraWorkspace;
+class ScenarioDock;
+struct ScenarioSummary;
 class QDockWidget;
 class QMainWindow;
 class QMenu;
@@ -34,7 +36,7 @@ class ToolDocks : public QObject {
 public:
   enum class Extent {
     Program, ///< all of them
-    Network  ///< without messages, findings and machines, of which there is one for all windows
+    Network  ///< without messages, findings, scenario and machines, of which there is one for all windows
   };
 
   ToolDocks(QMainWindow &window, NetVisControl &control, Extent extent = Extent::Program);
@@ -67,6 +69,8 @@ public:
   void refreshMachines();
   /// The page of the guide about a tool.
   void showHelp(const QString &page);
+  /// What case and scenario say beside the network.
+  void setScenario(const ScenarioSummary &summary);
   void setFindings(const std::vector<FindingList::Group> &groups);
   /// Says how many there are, and brings them; hidden while there are none.
   QToolButton *findingsButton() const { return m_findingsButton; }
@@ -103,6 +107,7 @@ private:
   NivraPropViewer *m_propViewer = nullptr;
   CharacteristicsStack *m_characteristics = nullptr;
   NivraFindings *m_findings = nullptr;
+  ScenarioDock *m_scenario = nullptr;
   QToolButton *m_findingsButton = nullptr;
   NivraSearch *m_search = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;

@@ -56,6 +56,8 @@ public:
 
   const GasTable &gases() const { return m_gases; }
   const QString &gasFile() const { return m_gasFile; } ///< that the gases were read from; empty without one
+  /// The file that is read for this path without its JSON suffix, in the form of the workspace that was read.
+  QString networkPath(const QString &textPath) const;
 
 private:
   Result readNetwork(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
@@ -89,7 +91,6 @@ private:
   void readCompanion(const Companion &companion, const QString &base, const Options &options, Result &result);
   void readConfiguration(const QString &base, Result &result);
   void readGas(const QString &base, const NivraScenario &scenario, Result &result);
-  QString networkPath(const QString &textPath) const;
 
   NetData &m_net;
   GasTable m_gases;

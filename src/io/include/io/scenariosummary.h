@@ -24,8 +24,16 @@ struct ScenarioSummary {
     QString comment; ///< of the file, where it has one
   };
   std::vector<Row> rows;
+  GasTable gases;           ///< of the scenario
+  QString gasFile;          ///< path of the file that they come from
+  QString root;             ///< of the workspace; empty when none is open
+  bool hasScenario = false; ///< otherwise only the case has rows
 
-  /// \param gasFile where the gases come from
+  /// Paths of what was read.
+  struct Files {
+    QString geometry;
+    QString gases;
+  };
   static ScenarioSummary of(const NivraWorkspace &workspace, const NivraGasParams &params, const GasTable &gases,
-                            const QString &gasFile);
+                            const Files &files);
 };

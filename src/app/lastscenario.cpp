@@ -1,0 +1,57 @@
+#include <base/fileaccess.h>
+#include <base/logfiles.h>
+#include <base/nivramsg.h>
+#include <base/wholefile.h>
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <app/lastscenario.h>
+
+namespace {
+
+constexpr int MostCases = 200;
+
+QString file() {
+  return LogFiles::directory() + QStringLiteral("/lastscenarios.json");
+}
+
+/// Pairs of case folder and scenario file as seen from it, the latest first.
+QJsonArray known() {
+  QString reason; // mostly that there is none yet
+  const auto text = FileAccess::readWhole(file(), FileAccess::Source::Trusted, FileAccess::LargestConfiguration, &reason);
+  return text ? QJsonDocument::fromJson(*text).array() : QJsonArray();
+}
+
+QString key(const QString &caseDirectory) {
+  return QDir(caseDirectory).canonicalPath();
+}
+
+} // namespace
+
+QString LastScenario::of(const QString &caseDirectory) {
+  for (const QJsonValue &entry : known()) {
+    if (entry[0].toString() != key(caseDirectory))
+      continue;
+    const QString path = QDir(caseDirectory).filePath(entry[1].toString());
+    return QFileInfo(path).isFile() ? path : QString();
+  }
+  return QString();
+}
+
+void LastScenario::remember(const QString &caseDirectory, const QString &scenarioFile) {
+  const QString inCase = QDir(caseDirectory).relativeFilePath(scenarioFile);
+  if (inCase.startsWith(QStringLiteral("..")))
+    return;
+  const QJsonArray before = known();
+  QJsonArray entries;
+  entries.append(QJsonArray{key(caseDirectory), inCase});
+  for (const QJsonValue &entry : before) {
+    if (entry[0].toString() != key(caseDirectory) && entries.size() < MostCases)
+      entries.append(entry);
+  }
+  QString reason;
+  if (entries != before && !WholeFile::write(file(), FileAccess::Source::Trusted, QJsonDocument(entries).toJson(), &reason))
+    NivraMsg::logWarning(reason);
+}
