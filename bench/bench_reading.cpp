@@ -149,6 +149,6 @@ void otherNames(benchmark::State &state) {
   for (std::size_t i = 0; i < names.size(); ++i)
     state.counters[names[i]] = ofOther[i] / ofPlain[i];
 }
-BENCHMARK(otherNames)->Arg(3 * Hundred)->Unit(benchmark::kMillisecond)->Iterations(5);
+BENCHMARK(otherNames)->Arg(3L * Hundred)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 } // namespace

@@ -47,7 +47,7 @@ QString Measure::network(int elements) {
 QString Measure::networkOfOtherNames(int elements) {
   const QString from = network(elements);
   const QString folder = QFileInfo(from).path() + QStringLiteral("/other");
-  const QString to = folder + QStringLiteral("/other.geom.jsn");
+  QString to = folder + QStringLiteral("/other.geom.jsn");
   if (QFile::exists(to))
     return to;
   QDir().mkpath(folder);

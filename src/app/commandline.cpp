@@ -129,9 +129,10 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
   const QCommandLineOption width(QStringLiteral("width"),
                                  tr("Width of the picture in pixels, %1 by default.").arg(DefaultWidth),
                                  QStringLiteral("PIXELS"));
-  const QCommandLineOption scale(QStringLiteral("scale"),
-                                 tr("Size of texts, lines and symbols in the picture against those on the screen, 1 by default."),
-                                 QStringLiteral("FACTOR"));
+  const QCommandLineOption scale(
+      QStringLiteral("scale"),
+      tr("Size of texts, lines and symbols in the picture against those on the screen, 1 by default."),
+      QStringLiteral("FACTOR"));
   const DrawOptions drawing;
   parser.addOptions(QList<QCommandLineOption>{help, version, info, picture, width, scale} + drawing.all());
   parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));

@@ -98,7 +98,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
     return false;
   }
   Findings checked;
-  m_checkFindings = ConsistencyCheck::checkNetData(m_net, &checked);
+  ConsistencyCheck::checkNetData(m_net, &checked);
   m_removed = ConsistencyCheck::prune(m_net);
   append(checked, m_removed.findings);
   notice(tr("Checking"), std::move(checked));

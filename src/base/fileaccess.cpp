@@ -37,7 +37,7 @@ QString confiningFolder() {
 /// The path with every link followed, as far as it exists; empty when it cannot be told where it leads.
 QString reachedPath(const QString &path) {
   QString existing = QDir().absoluteFilePath(path); // not cleaned: dots behind a link lead elsewhere than they seem
-  QString rest; // what would still have to be made
+  QString rest;                                     // what would still have to be made
   for (int steps = 0; steps < 1000; ++steps) {
     const QFileInfo info(existing);
     if (info.exists())
@@ -116,7 +116,8 @@ bool openForReading(QFile &file, Source source, qint64 largest, QString *reason)
     why = QCoreApplication::translate("FileAccess", "is larger than %1").arg(QLocale().formattedDataSize(largest));
     file.close();
   }
-  *reason = file.fileName() + QStringLiteral(": ") + why;
+  if (reason != nullptr)
+    *reason = file.fileName() + QStringLiteral(": ") + why;
   return false;
 }
 
@@ -128,7 +129,8 @@ std::optional<QByteArray> readWhole(const QString &path, Source source, qint64 l
   QByteArray content = file.read(file.size());
   if (file.error() == QFile::NoError)
     return content;
-  *reason = path + QStringLiteral(": ") + file.errorString();
+  if (reason != nullptr)
+    *reason = path + QStringLiteral(": ") + file.errorString();
   return std::nullopt;
 }
 

@@ -26,7 +26,8 @@ bool write(const QString &path, FileAccess::Source source, const Writer &writer,
   }
   if (why.isEmpty())
     why = file.errorString();
-  *reason = QCoreApplication::translate("WholeFile", "Cannot write %1: %2").arg(path, why);
+  if (reason != nullptr)
+    *reason = QCoreApplication::translate("WholeFile", "Cannot write %1: %2").arg(path, why);
   return false;
 }
 

@@ -85,7 +85,11 @@ GasSource::Gas GasSource::findScenario() const {
     if (data.isEnough())
       return made(data, tr("%1 of the scenario").arg(name));
   }
+  const PropertyKey density = PropertyKey::find("rhon");
+  const PropertyKey mass = PropertyKey::find("molarmass");
   for (const elements::Entry &entry : m_net.nodes()) {
+    if (entry.value.find(density) == nullptr && entry.value.find(mass) == nullptr) // as in nearly all of a million
+      continue;
     const GasData data = GasData::of(entry.value);
     if (data.isEnough())
       return made(data, tr("of the node %1, the first that states one").arg(entry.value.value(QStringLiteral("name"))));

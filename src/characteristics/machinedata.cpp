@@ -59,6 +59,7 @@ void takePower(const QString &drive, const std::vector<FitPoint> &points, std::o
     return;
   }
   std::vector<FitPoint> bySpeed;
+  bySpeed.reserve(points.size());
   for (const FitPoint &point : points)
     bySpeed.push_back({point.y, 0.0, point.z});
   std::optional<Quadratic> overSpeed;

@@ -1,25 +1,6 @@
 #include "shownnumber.h"
 
-#include <base/nivramsg.h>
-#include <base/wholefile.h>
 #include <characteristics/mapplot.h>
-
-#include <QContextMenuEvent>
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QMenu>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QSvgGenerator>
-#include <qwt_plot_curve.h>
-#include <qwt_plot_grid.h>
-#include <qwt_plot_marker.h>
-#include <qwt_plot_renderer.h>
-#include <qwt_plot_shapeitem.h>
-#include <qwt_plot_zoomer.h>
-#include <qwt_symbol.h>
 
 #include <algorithm>
 #include <cmath>
@@ -27,13 +8,6 @@
 namespace {
 
 constexpr int Steps = 60;
-constexpr int TitleSize = 9;    // points
-constexpr int LabelSpacing = 5; // from the end of a line, where a measured point may lie
-constexpr int Resolution = 72;  // dots an inch of documents: those of a point
-const QColor Blue(31, 93, 138);
-const QColor Green(46, 125, 50);
-const QColor Red(178, 34, 34);
-const QColor Orange(196, 98, 16);
 
 /// Both ends of a range and round numbers between them, about half a dozen.
 std::vector<double> roundValues(double from, double to) {
@@ -47,6 +21,9 @@ std::vector<double> roundValues(double from, double to) {
     if (factor * power >= smallest * (1.0 - 1e-9))
       step = factor * power;
   }
+  constexpr double MostSteps = 1e6; // from 0; a range that narrow at so large numbers holds no round ones
+  if (!(std::max(std::abs(from), std::abs(to)) < MostSteps * step))
+    return {from, to};
   constexpr double Apart = 0.4; // of a step from the ends
   std::vector<double> values{from};
   const auto last = static_cast<int>(std::floor(to / step - Apart));
@@ -73,141 +50,16 @@ QString pointText(const std::optional<WorkingPoint> &point) {
   return parts.join(QStringLiteral(", "));
 }
 
+QString heading(const QString &name, const std::optional<WorkingPoint> &point) {
+  return name + QLatin1Char('\n') + pointText(point);
+}
+
 /// "CS1: T1", or the name alone where it stands in no station.
 QString machineName(const QString &station, const QString &name) {
   return station.isEmpty() ? name : station + QStringLiteral(": ") + name;
 }
 
-/// Zooms with what stands under the cursor beside it.
-class ReadingZoomer : public QwtPlotZoomer {
-public:
-  explicit ReadingZoomer(MapPlot &plot)
-      : QwtPlotZoomer(plot.canvas())
-      , m_plot(plot) {
-    setTrackerMode(QwtPicker::AlwaysOn);
-    setRubberBandPen(QPen(Blue, 1.0, Qt::DashLine));
-    setTrackerPen(QColor(40, 40, 40));
-    setMousePattern(QwtEventPattern::MouseSelect2, Qt::MiddleButton, Qt::ControlModifier); // the right one has a menu
-    setMousePattern(QwtEventPattern::MouseSelect3, Qt::MiddleButton);
-  }
-
-protected:
-  QwtText trackerTextF(const QPointF &position) const override {
-    QwtText text(m_plot.readout(position));
-    text.setBackgroundBrush(QColor(255, 255, 255, 220));
-    text.setRenderFlags(Qt::AlignLeft);
-    return text;
-  }
-
-private:
-  MapPlot &m_plot;
-};
-
 } // namespace
-
-MapPlot::MapPlot(QWidget *parent)
-    : QwtPlot(parent)
-    , m_zoomer(nullptr) {
-  setCanvasBackground(Qt::white);
-  m_zoomer = new ReadingZoomer(*this);
-  setMinimumSize(260, 200);
-}
-
-void MapPlot::reset(const QString &name, const std::optional<WorkingPoint> &point, const QString &x, const QString &y) {
-  detachItems();
-  QwtText title(name + QLatin1Char('\n') + pointText(point), QwtText::PlainText);
-  QFont font = title.font();
-  font.setPointSize(TitleSize);
-  title.setFont(font);
-  setTitle(title);
-  auto *grid = new QwtPlotGrid;
-  grid->setMajorPen(Qt::lightGray, 0.0, Qt::DotLine);
-  grid->attach(this);
-  setAxisTitle(xBottom, x);
-  setAxisTitle(yLeft, y);
-}
-
-void MapPlot::addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label, Qt::Alignment alignment) {
-  if (points.size() < 2)
-    return;
-  auto *curve = new QwtPlotCurve;
-  curve->setSamples(points);
-  curve->setPen(pen);
-  curve->setRenderHint(QwtPlotItem::RenderAntialiased);
-  curve->attach(this);
-  if (label.isEmpty())
-    return;
-  auto *marker = new QwtPlotMarker;
-  QwtText text(label);
-  QFont font = text.font();
-  font.setPointSize(8);
-  text.setFont(font);
-  text.setColor(pen.color());
-  marker->setLabel(text);
-  marker->setLabelAlignment(alignment);
-  marker->setSpacing(LabelSpacing);
-  marker->setValue(points.last());
-  marker->attach(this);
-}
-
-void MapPlot::addRoom(const QPointF &to) {
-  auto *marker = new QwtPlotMarker;
-  marker->setValue(to);
-  marker->setItemAttribute(QwtPlotItem::AutoScale);
-  marker->attach(this);
-}
-
-void MapPlot::addArea(const QVector<QPointF> &outline) {
-  auto *area = new QwtPlotShapeItem;
-  area->setPolygon(QPolygonF(outline));
-  area->setPen(QPen(Qt::NoPen));
-  area->setBrush(QColor(31, 93, 138, 26));
-  area->attach(this);
-}
-
-void MapPlot::addDots(const QVector<QPointF> &points) {
-  if (points.isEmpty())
-    return;
-  auto *dots = new QwtPlotCurve;
-  dots->setStyle(QwtPlotCurve::NoCurve);
-  dots->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, Qt::white, QPen(Orange, 1.2), QSize(5, 5)));
-  dots->setSamples(points);
-  dots->setRenderHint(QwtPlotItem::RenderAntialiased);
-  dots->attach(this);
-}
-
-void MapPlot::addWorkingPoint(const QPointF &at, bool isInside) {
-  auto *marker = new QwtPlotMarker;
-  const QColor color = isInside ? Green : Red;
-  marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, color, QPen(Qt::white, 1.5), QSize(13, 13)));
-  marker->setValue(at);
-  marker->setLineStyle(QwtPlotMarker::Cross);
-  marker->setLinePen(color, 1.0, Qt::DotLine);
-  marker->setZ(50.0);
-  marker->attach(this);
-}
-
-void MapPlot::addStoredPoint(const QPointF &at) {
-  auto *marker = new QwtPlotMarker;
-  marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, Qt::NoBrush, QPen(Blue, 2.0), QSize(13, 13)));
-  marker->setValue(at);
-  QwtText text(tr("results"));
-  text.setColor(Blue);
-  marker->setLabel(text);
-  marker->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  marker->setSpacing(10);
-  marker->setItemAttribute(QwtPlotItem::AutoScale);
-  marker->setZ(49.0);
-  marker->attach(this);
-}
-
-void MapPlot::finish() {
-  setAxisAutoScale(xBottom);
-  setAxisAutoScale(yLeft);
-  updateAxes();
-  replot();
-  m_zoomer->setZoomBase();
-}
 
 /// Points of equal efficiency, speed by speed: the efficiency is quadratic in the flow, so each speed has two of them.
 void MapPlot::addEfficiencies(const TurboCompressor &machine, const QPointF &corner) {
@@ -284,9 +136,9 @@ void MapPlot::addLines(const TurboCompressor &machine) {
 
 void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point,
                    const std::optional<double> &storedHead) {
-  reset(machineName(machine.station, machine.name), point, tr("volume flow at the inlet [m³/s]"),
+  reset(heading(machineName(machine.station, machine.name), point), tr("volume flow at the inlet [m³/s]"),
         tr("adiabatic head [kJ/kg]"));
-  m_readout = [machine](const QPointF &at) {
+  setReadout([machine](const QPointF &at) {
     QString text = tr("Q = %1 m³/s\nH = %2 kJ/kg").arg(shownNumber(at.x()), shownNumber(at.y()));
     if (!machine.head)
       return text;
@@ -298,7 +150,7 @@ void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPo
         text += tr("\nη = %1 %").arg(shownNumber(100.0 * (*machine.efficiency)(at.x(), speed), 3));
     }
     return text;
-  };
+  });
   if (machine.isUsable())
     addLines(machine);
   QVector<QPointF> dots;
@@ -319,11 +171,12 @@ void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPo
 void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point,
                    const QVector<QPointF> &limits) {
   constexpr double ShownRatio = 4.0; // of a machine that says no largest
-  reset(machineName(machine.station, machine.name), point, tr("volume flow at the inlet [m³/s]"), tr("pressure ratio"));
-  m_readout = [machine](const QPointF &at) {
+  reset(heading(machineName(machine.station, machine.name), point), tr("volume flow at the inlet [m³/s]"),
+        tr("pressure ratio"));
+  setReadout([machine](const QPointF &at) {
     return tr("Q = %1 m³/s\nratio = %2\nn = %3 1/min")
         .arg(shownNumber(at.x()), shownNumber(at.y()), shownNumber(machine.speed(at.x())));
-  };
+  });
   QVector<QPointF> top; // from the smallest speed to the largest
   for (const QPointF &limit : limits)
     top.append(QPointF(machine.flow(limit.x()), std::max(1.0, limit.y())));
@@ -405,14 +258,14 @@ void MapPlot::addPowers(const Drive &drive, const std::pair<double, double> &spe
 
 void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature,
                    const std::optional<std::pair<double, double>> &machineSpeeds) {
-  reset(drive.name, point, tr("speed [1/min]"), tr("largest power [kW]"));
+  reset(heading(drive.name, point), tr("speed [1/min]"), tr("largest power [kW]"));
   const auto power = drive.power;
-  m_readout = [power, temperature](const QPointF &at) {
+  setReadout([power, temperature](const QPointF &at) {
     QString text = tr("n = %1 1/min\nP = %2 kW").arg(shownNumber(at.x()), shownNumber(at.y()));
     if (power)
       text += tr("\nlimit = %1 kW at %2 °C").arg(shownNumber((*power)(temperature, at.x())), shownNumber(temperature, 3));
     return text;
-  };
+  });
   if (drive.power) {
     const std::pair<double, double> speeds = speedsOf(drive, point, machineSpeeds);
     addPowers(drive, speeds, temperature);
@@ -429,15 +282,15 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
 }
 
 void MapPlot::showConsumption(const Drive &drive, const std::optional<WorkingPoint> &point) {
-  reset(drive.name, point, tr("power [kW]"),
+  reset(heading(drive.name, point), tr("power [kW]"),
         drive.kind == Drive::Kind::ElectricMotor ? tr("current taken [kW]") : tr("fuel taken [kW]"));
   const auto energy = drive.energy;
-  m_readout = [energy](const QPointF &at) {
+  setReadout([energy](const QPointF &at) {
     QString text = tr("P = %1 kW").arg(shownNumber(at.x()));
     if (energy)
       text += tr("\ntakes %1 kW").arg(shownNumber((*energy)(at.x())));
     return text;
-  };
+  });
   double last = point && point->power ? 1.3 * *point->power : 0.0;
   for (const Drive::EnergyPoint &measured : drive.energyPoints)
     last = std::max(last, measured.power);
@@ -454,82 +307,4 @@ void MapPlot::showConsumption(const Drive &drive, const std::optional<WorkingPoi
   if (point && point->power && point->energyRate)
     addWorkingPoint({*point->power, *point->energyRate}, true);
   finish();
-}
-
-void MapPlot::contextMenuEvent(QContextMenuEvent *event) {
-  QMenu menu(this);
-  menu.addAction(tr("Show everything"), m_zoomer, [this] { m_zoomer->zoom(0); });
-  menu.addAction(tr("Save picture …"), this, &MapPlot::saveAs);
-  menu.addAction(tr("Print …"), this, &MapPlot::print);
-  menu.exec(event->globalPos());
-}
-
-void MapPlot::paint(QPaintDevice &device, const QSizeF &size) {
-  constexpr double Margin = 0.025; // of the width: numbers at the ends of axes reach beyond them
-  const double margin = Margin * size.width();
-  QwtPlotRenderer renderer;
-  renderer.setDiscardFlag(QwtPlotRenderer::DiscardBackground);
-  QPainter painter(&device);
-  renderer.render(this, &painter, QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin));
-}
-
-bool MapPlot::write(QIODevice &device, const QString &suffix, QString *reason) {
-  constexpr QSize Points(600, 420);
-  constexpr int Scale = 3; // pixels a point
-  if (suffix == QLatin1String("pdf")) {
-    QPdfWriter writer(&device);
-    writer.setPageSize(QPageSize(QSizeF(Points), QPageSize::Point));
-    writer.setPageMargins(QMarginsF());
-    writer.setResolution(Resolution);
-    paint(writer, Points);
-    return true;
-  }
-  if (suffix == QLatin1String("svg")) {
-    QSvgGenerator generator;
-    generator.setOutputDevice(&device);
-    generator.setResolution(Resolution);
-    generator.setSize(Points);
-    generator.setViewBox(QRect(QPoint(), Points));
-    paint(generator, Points);
-    return true;
-  }
-  QImage image(Points * Scale, QImage::Format_RGB32);
-  image.fill(Qt::white);
-  constexpr double InchesPerMetre = 1000.0 / 25.4;
-  image.setDotsPerMeterX(static_cast<int>(InchesPerMetre * Resolution * Scale));
-  image.setDotsPerMeterY(static_cast<int>(InchesPerMetre * Resolution * Scale));
-  paint(image, image.size());
-  if (image.save(&device, qPrintable(suffix)))
-    return true;
-  *reason = tr("pictures of the kind \"%1\" are not known").arg(suffix);
-  return false;
-}
-
-bool MapPlot::save(const QString &path, QString *reason) {
-  const QString suffix = QFileInfo(path).suffix().toLower();
-  QString why;
-  const bool isSaved = WholeFile::write(
-      path, FileAccess::Source::Trusted, [&](QIODevice &device, QString *fault) { return write(device, suffix, fault); },
-      &why);
-  if (!isSaved && reason != nullptr)
-    *reason = why;
-  return isSaved;
-}
-
-void MapPlot::saveAs() {
-  const QString path = QFileDialog::getSaveFileName(this, tr("Save picture"), QStringLiteral("map.png"),
-                                                    tr("Pictures (*.png *.jpg *.pdf *.svg)"));
-  QString reason;
-  if (!path.isEmpty() && !save(path, &reason))
-    NivraMsg::message(NivraMsg::Kind::Warning, reason);
-}
-
-void MapPlot::print() {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setPageOrientation(QPageLayout::Landscape);
-  QPrintDialog dialog(&printer, this);
-  if (dialog.exec() != QDialog::Accepted)
-    return;
-  QwtPlotRenderer renderer;
-  renderer.renderTo(this, printer);
 }

@@ -1,6 +1,7 @@
 #include "gaslibstations.h"
 
 #include <QCoreApplication>
+#include <QSet>
 
 namespace {
 
@@ -24,6 +25,7 @@ bool GasLibStations::read() {
 
 void GasLibStations::readStation() {
   Station station{attribute("id"), QString(), {}, static_cast<int>(m_xml.lineNumber())};
+  QSet<QString> named; // drives and compressors may be named alike
   while (m_xml.readNextStartElement()) {
     const bool areDrives = m_xml.name() == QLatin1String("drives");
     if (!areDrives && m_xml.name() != QLatin1String("compressors")) {
@@ -33,11 +35,14 @@ void GasLibStations::readStation() {
     while (m_xml.readNextStartElement()) {
       const QString name = attribute("id");
       const QString kind = m_xml.name().toString();
-      if (name.isEmpty()) {
-        tell(tr("A %1 without id is left out").arg(kind));
-        drop(tr("without id"));
+      const QString key = (areDrives ? QLatin1Char('d') : QLatin1Char('c')) + name.toLower();
+      if (name.isEmpty() || named.contains(key)) {
+        tell(name.isEmpty() ? tr("A %1 without id is left out").arg(kind)
+                            : tr("%1 is named again in %2; what follows is left out").arg(name, station.name));
+        drop(tr("named twice or not at all"));
         continue;
       }
+      named.insert(key);
       report.take(kind);
       if (areDrives)
         station.drives.push_back({name, kind});

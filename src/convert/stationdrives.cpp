@@ -21,6 +21,23 @@ QString valueOf(const Record &record, const char *property) {
   return found == record.values.end() ? QString() : found->text.toString();
 }
 
+/// Names, which are one regardless of case, with a number behind those that are taken.
+class FreeNames {
+public:
+  QString take(const QString &wanted) {
+    QString name = wanted;
+    int &last = m_last[wanted.toLower()]; // so that each costs a step, however many are alike
+    while (m_taken.contains(name.toLower()))
+      name = wanted + QLatin1Char('_') + QString::number(++last + 1);
+    m_taken.insert(name.toLower());
+    return name;
+  }
+
+private:
+  QSet<QString> m_taken;
+  QHash<QString, int> m_last;
+};
+
 /// A drive as an element. It takes its gas where the station says, else at its inlet, and stands on its line.
 /// \param fuel node that feeds it \param share of the way between the ends of the station at which it stands
 Record driveOf(const GasLibStations::Station::Drive &source, const Record &station, const QString &fuel, const Record &from,
@@ -46,10 +63,10 @@ Record driveOf(const GasLibStations::Station::Drive &source, const Record &stati
 
 std::vector<Record> StationDrives::make(GasLibNetwork &net, GasLibStations &machines) {
   QHash<QString, const Record *> nodes;
-  QSet<QString> names; // that are taken
+  FreeNames names;
   for (const Record &node : net.nodes) {
     nodes.insert(node.name, &node);
-    names.insert(node.name.toLower());
+    names.take(node.name);
   }
   QHash<QString, Record *> edges;
   for (Record &edge : net.edges)
@@ -77,10 +94,7 @@ std::vector<Record> StationDrives::make(GasLibNetwork &net, GasLibStations &mach
     for (const GasLibStations::Station::Drive &drive : station.drives) {
       drives.push_back(
           driveOf(drive, *edge, fuel, *nodes.value(valueOf(*edge, "node1")), *nodes.value(valueOf(*edge, "node2")), share));
-      QString &name = drives.back().name;
-      while (names.contains(name.toLower()))
-        name += QLatin1Char('_');
-      names.insert(name.toLower());
+      drives.back().name = names.take(drives.back().name);
       share += step;
     }
     if (!station.compressor.isEmpty())

@@ -1,5 +1,4 @@
-#include "xmlbounds.h"
-
+#include <base/xmlbounds.h>
 #include <io/gaslibxml.h>
 
 #include <QCoreApplication>
@@ -55,7 +54,7 @@ bool GasLibXml::load() {
     tell(tr("The file is not written in UTF-8, nor in what it says: nothing is read."), 0);
     return false;
   }
-  if (const XmlBounds::Fault fault = XmlBounds::check(*text); !fault.reason.isEmpty()) {
+  if (const XmlBounds::Fault fault = XmlBounds::check(*text, XmlBounds::Limits()); !fault.reason.isEmpty()) {
     tell(fault.reason + tr(": nothing is read."), fault.line);
     return false;
   }

@@ -4,6 +4,10 @@
 
 #include <QJsonDocument>
 
+bool isJsonPath(const QString &path) {
+  return path.endsWith(QStringLiteral(".jsn")) || path.endsWith(QStringLiteral(".json"));
+}
+
 std::optional<QJsonObject> readJsonObject(const QString &path, QString *reason) {
   const auto failed = [&](const QString &why) {
     *reason = path + QStringLiteral(": ") + why;

@@ -1,3 +1,4 @@
+#include "jsonfile.h"
 #include "jsonlineparser.h"
 #include "networkfilewriter.h"
 #include "readreport.h"
@@ -24,10 +25,6 @@ QRegularExpressionMatch parts(const QString &name) {
   return pattern.match(name);
 }
 
-bool isJson(const QString &name) {
-  return !parts(name).captured(2).isEmpty();
-}
-
 bool holdsSetPoints(const QString &name) {
   const QString kind = parts(name).captured(1);
   return kind == QLatin1String("scen") || kind == QLatin1String("fix");
@@ -40,11 +37,12 @@ public:
       : m_path(path)
       , m_writer(writer)
       , m_report(path)
-      , m_result(result) {}
+      , m_result(result)
+      , m_holdsSetPoints(holdsSetPoints(path)) {}
 
   /// False when the file cannot be read.
   bool run(QString *reason) {
-    const bool isRead = isJson(m_path) ? feedJson(reason) : feedText(reason);
+    const bool isRead = isJsonPath(m_path) ? feedJson(reason) : feedText(reason);
     m_result.findings = m_report.take();
     return isRead;
   }
@@ -60,9 +58,9 @@ private:
     std::vector<JsonLineParser::SetPoints> setPoints;
     std::size_t count = 0;
     while (reader.next(line)) {
-      const char *fault = line.tooLong             ? "the line is longer than 64 MB"
-                          : holdsSetPoints(m_path) ? parser.parse(line, setPoints)
-                                                   : parser.parse(line, elements, count);
+      const char *fault = line.tooLong       ? "the line is longer than 64 MB"
+                          : m_holdsSetPoints ? parser.parse(line, setPoints)
+                                             : parser.parse(line, elements, count);
       if (fault != nullptr) {
         m_report.badLine(line, fault);
         m_result.report.drop(tr("line"), QString::fromUtf8(fault));
@@ -88,7 +86,7 @@ private:
       if (found == TextTableReader::Found::Fault) {
         m_report.badRow(reader.line(), reader.quote(), reader.fault());
         m_result.report.drop(tr("line"), reader.fault());
-      } else if (holdsSetPoints(m_path)) {
+      } else if (m_holdsSetPoints) {
         take(row.name, TextTableReader::setPoint(row), reader.line());
       } else {
         take(row, reader.line());
@@ -138,10 +136,11 @@ private:
   NetworkFileWriter &m_writer;
   ReadReport m_report;
   NetworkFileConverter::Result &m_result;
+  bool m_holdsSetPoints;
 };
 
 std::unique_ptr<NetworkFileWriter> writerFor(const QString &path, QIODevice &device) {
-  if (isJson(path))
+  if (isJsonPath(path))
     return std::make_unique<JsonFileWriter>(device);
   return std::make_unique<TextFileWriter>(device);
 }

@@ -17,10 +17,6 @@ QString decoded(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
-bool isJsonPath(const QString &path) {
-  return path.endsWith(QStringLiteral(".jsn")) || path.endsWith(QStringLiteral(".json"));
-}
-
 QString jsonPath(const QString &textPath) {
   const QString path = textPath + QStringLiteral(".jsn");
   const QString longer = textPath + QStringLiteral(".json");

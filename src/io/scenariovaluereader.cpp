@@ -1,6 +1,7 @@
 // The reader of scenario values: two threads take the lines of one queue and parse them; what they parsed is applied in the
 // order of the lines afterwards, because NetData is changed by one thread at a time.
 
+#include "jsonfile.h"
 #include "jsonlineparser.h"
 #include "readreport.h"
 #include "setpointunits.h"
@@ -372,8 +373,7 @@ NivraReader::Result NivraReader::readLines(const QString &path, const Options &o
 }
 
 NivraReader::Result NivraReader::readSetPoints(const QString &path, const Options &options) {
-  const bool isJson = path.endsWith(QStringLiteral(".jsn")) || path.endsWith(QStringLiteral(".json"));
-  return isJson ? readLines<JsonLines>(path, options) : readLines<TextLines>(path, options);
+  return isJsonPath(path) ? readLines<JsonLines>(path, options) : readLines<TextLines>(path, options);
 }
 
 NivraReader::Result NivraReader::readScenariofileJsn(const QString &path, const Options &options) {

@@ -24,10 +24,10 @@ std::string fromWindows1252(const std::string &text) {
 
 bool TextTableReader::nextLine() {
   if (!m_pending.empty()) {
-    m_number = m_pending.front().first;
-    m_line.swap(m_pending.front().second);
+    m_number = m_pending.front().number;
+    m_isTooLong = m_pending.front().isTooLong;
+    m_line.swap(m_pending.front().text);
     m_pending.pop_front();
-    m_isTooLong = false;
     return true;
   }
   LineReader::Line line;
@@ -66,12 +66,14 @@ bool TextTableReader::continueLine() {
   constexpr int MostLines = 200;
   const std::string first = m_line;
   const int number = m_number;
-  std::deque<std::pair<int, std::string>> taken;
+  std::deque<PendingLine> taken;
   while (taken.size() < MostLines) {
     std::string whole = std::move(m_line);
     if (!nextLine())
       break;
-    taken.emplace_back(m_number, m_line);
+    taken.push_back({m_number, m_line, m_isTooLong});
+    if (m_isTooLong || whole.size() + m_line.size() > LineReader::LongestLine)
+      break;
     m_line = whole + '\n' + m_line;
     if (m_parser.split(m_line, m_table->separator)) {
       m_number = number;

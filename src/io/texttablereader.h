@@ -55,8 +55,13 @@ private:
   Found fail(const QString &reason);
 
   LineReader m_lines;
-  std::deque<std::pair<int, std::string>> m_pending; ///< lines that were read ahead in vain
-  std::string m_line;                                ///< being worked on
+  struct PendingLine {
+    int number;
+    std::string text;
+    bool isTooLong;
+  };
+  std::deque<PendingLine> m_pending; ///< lines that were read ahead in vain
+  std::string m_line;                ///< being worked on
   int m_number = 0;
   int m_notUtf8Line = 0;
   bool m_isTooLong = false;

@@ -54,16 +54,17 @@ void put(std::string &text, uint character) {
   }
 }
 
-/// Two texts that QString::compare calls equal regardless of case fold to the same bytes, and bytes compare as it does: each
-/// UTF-16 unit is written by itself. (Character by character: the full folding of a text would also equate sharp s with ss,
-/// which the comparison does not.)
+/// Two texts that QString::compare calls equal regardless of case fold to the same bytes but for the case of ASCII letters,
+/// and bytes compare as it does: each UTF-16 unit is written by itself. (Character by character: the full folding of a text
+/// would also equate sharp s with ss, which the comparison does not.)
 void fold(std::string_view utf8, std::string &result) {
   result.clear();
   const char *const end = utf8.data() + utf8.size();
   for (const char *at = utf8.data(); at < end;) {
-    if (static_cast<unsigned char>(*at) < 0x80)
-      result += lower(*at++);
-    else
+    const char *const other = std::find_if(at, end, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+    result.append(at, other);
+    at = other;
+    if (at < end)
       put(result, QChar::toCaseFolded(nextCharacter(at, end)));
   }
 }

@@ -10,10 +10,7 @@ struct Keys {
   PropertyKey active = PropertyKey::intern("active");
 };
 
-const Keys &keys() {
-  static const Keys instance;
-  return instance;
-}
+const Keys TheKeys; // made at once: who asks may be one of several threads, which may make no keys
 
 std::string_view trimmed(std::string_view text) noexcept {
   while (!text.empty() && text.front() == ' ')
@@ -45,7 +42,7 @@ bool ElementState::saysBypass(const PropertyText *text) noexcept {
 }
 
 bool ElementState::isOutOfUse(const element &e) noexcept {
-  return isOutOfUse(e.find(keys().state), e.find(keys().active));
+  return isOutOfUse(e.find(TheKeys.state), e.find(TheKeys.active));
 }
 
 bool ElementState::isOutOfUse(const PropertyText *state, const PropertyText *active) noexcept {

@@ -2,6 +2,8 @@
 
 #include "picturebounds.h"
 
+#include <base/xmlbounds.h>
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QImageReader>
@@ -12,7 +14,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
-#include <utility>
 
 namespace {
 
@@ -20,45 +21,21 @@ QString tr(const char *text) {
   return QCoreApplication::translate("SvgGuard", text);
 }
 
+constexpr XmlBounds::Limits Bounds{100, 100, 50, true};
+
+/// Whether marks are ASCII in it, as the first look at the text takes for granted.
+bool isPlainEncoding(const QStringRef &encoding) {
+  static const QStringList plain{QString(),
+                                 QStringLiteral("utf-8"),
+                                 QStringLiteral("us-ascii"),
+                                 QStringLiteral("ascii"),
+                                 QStringLiteral("iso-8859-1"),
+                                 QStringLiteral("windows-1252")};
+  return plain.contains(encoding.toString(), Qt::CaseInsensitive);
+}
+
 bool isGap(char c) {
   return c == ' ' || c == '\n' || c == '\t' || c == '\r';
-}
-
-/// Behind the comment or the literal text that begins here; the same place when neither does.
-int behindLiteral(const QByteArray &svg, int at) {
-  const std::pair<QByteArray, QByteArray> Literals[] = {{"<!--", "-->"}, {"<![CDATA[", "]]>"}};
-  for (const auto &[begin, end] : Literals) {
-    if (qstrncmp(svg.constData() + at, begin.constData(), static_cast<uint>(begin.size())) != 0)
-      continue;
-    const int found = svg.indexOf(end, at + begin.size());
-    return found < 0 ? svg.size() : found + end.size();
-  }
-  return at;
-}
-
-/// The parser compares every attribute of an element with all others, so they are counted before it is asked.
-bool hasElementOfTooManyAttributes(const QByteArray &svg) {
-  constexpr int Most = 100;
-  int inElement = -1; // attributes so far; -1 outside
-  char quote = 0;
-  for (int at = 0; at < svg.size(); ++at) {
-    const char c = svg.at(at);
-    if (quote != 0) {
-      if (c == quote)
-        quote = 0;
-    } else if (c == '<') {
-      const int behind = behindLiteral(svg, at);
-      inElement = behind == at ? 0 : inElement;
-      at = std::max(at, behind - 1);
-    } else if (c == '>') {
-      inElement = -1;
-    } else if (inElement >= 0 && (c == '"' || c == '\'')) {
-      quote = c;
-      if (++inElement > Most)
-        return true;
-    }
-  }
-  return false;
 }
 
 /// Only pixels in formats whose reader does not read SVG in turn, and not too many.
@@ -138,14 +115,13 @@ public:
 
 private:
   QString judge(QXmlStreamReader::TokenType token) {
-    constexpr int DeepestNesting = 100;
     switch (token) {
+    case QXmlStreamReader::StartDocument:
+      return isPlainEncoding(m_reader.documentEncoding()) ? QString() : tr("it is not written in UTF-8");
     case QXmlStreamReader::DTD:
       return m_reader.entityDeclarations().isEmpty() ? QString() : tr("it declares entities");
     case QXmlStreamReader::StartElement:
       m_holders.push_back(m_reader.attributes().value(QLatin1String("id")).toString());
-      if (m_holders.size() > DeepestNesting)
-        return tr("it is nested too deeply");
       return attributesFault();
     case QXmlStreamReader::EndElement:
       m_holders.removeLast();
@@ -242,9 +218,10 @@ private:
 
 QString SvgGuard::fault(const QByteArray &svg) {
   const auto begin = std::find_if_not(svg.begin(), svg.end(), isGap);
-  if (begin == svg.end() || (*begin != '<' && !svg.startsWith("\xEF\xBB\xBF")))
+  if (begin == svg.end() || svg.contains('\0') || (*begin != '<' && !svg.startsWith("\xEF\xBB\xBF")))
     return tr("it is no SVG text"); // among others a compressed one, which may be any size once it is unpacked
-  if (hasElementOfTooManyAttributes(svg))
-    return tr("an element has too many attributes");
+  // Marks are plain ASCII in the encodings that the reader takes.
+  if (const QString fault = XmlBounds::check(QString::fromLatin1(svg), Bounds).reason; !fault.isEmpty())
+    return fault;
   return Walk(svg).fault();
 }

@@ -22,6 +22,7 @@ private slots:
   void casesThereAndBack();
   void casesThatFail();
   void everyKindAndUnit();
+  void drivesOfOneName();
   void nodesWithoutPlaces();
   void oddNames();
   void namesWithDots();
@@ -223,6 +224,23 @@ void TestConvert::everyKindAndUnit() {
                         value(name, property)));
   QVERIFY(contents(path(QStringLiteral("public/Net P/Net P.geom.jsn"))).contains("\"height\":10396.223600000001"));
   QVERIFY(ConsistencyCheck::prune(net2).findings.empty());
+}
+
+/// A drive gets a name that nobody else has; one that a station names again and again costs no more than its line.
+void TestConvert::drivesOfOneName() {
+  const QString net =
+      write(QStringLiteral("d.net"), network("<source id=\"a\" x=\"1\" y=\"2\"/><sink id=\"D_c_g\" x=\"3\" y=\"4\"/>",
+                                             "<compressorStation id=\"c\" from=\"a\" to=\"D_c_g\"/>"));
+  write(QStringLiteral("d.cs"),
+        stations("<compressorStation id=\"c\"><drives>" + QByteArray("<gasTurbine id=\"g\"/>").repeated(100000) +
+                 "</drives></compressorStation>"));
+  QElapsedTimer timer;
+  timer.start();
+  const GasLibImport::Result result = GasLibImport::import(request(net, QStringLiteral("d")));
+  QVERIFY2(result.ok && result.drives == 1, qPrintable(texts(result.findings).left(1000)));
+  QCOMPARE(result.report.of(QStringLiteral("gasTurbine")).dropped, 99999);
+  QVERIFY(contents(path(QStringLiteral("d/d.geom.jsn"))).contains("\"D_c_g_2\""));
+  QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void TestConvert::nodesWithoutPlaces() {
@@ -531,6 +549,8 @@ void TestConvert::hostileFiles_data() {
   for (int i = 0; i < 3000; ++i)
     spaces += "<x xmlns:a" + QByteArray::number(i) + "=\"u\"/>";
   QTest::newRow("attributes") << "\n<source" + attributes + "/>" << QStringLiteral("An element has 190000 attributes");
+  QTest::newRow("attributes behind a comment")
+      << "<!--><x \"-->\n<source" + attributes + "/>" << QStringLiteral("An element has 190000 attributes");
   QTest::newRow("nesting") << QByteArray("<x>").repeated(1000000) << QStringLiteral("nested more than");
   QTest::newRow("namespaces") << spaces << QStringLiteral("more than 50 namespaces");
   QTest::newRow("size") << QByteArray(65 << 20, ' ') << QStringLiteral("is larger than");

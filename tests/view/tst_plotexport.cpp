@@ -93,7 +93,7 @@ void TestPlotExport::scaleMakesMarksLarger() {
     if (suffix == QLatin1String("svg")) // which says its size in millimetres
       reader.setScaledSize(QSize(1200, 800));
     const QImage picture = reader.read();
-    int ink = 0;                // of the drawing, beside the colour scale
+    int ink = 0; // of the drawing, beside the colour scale
     for (int y = 0; y < picture.height(); ++y)
       for (int x = 0; x < picture.width() * 3 / 4; ++x)
         ink += picture.pixelColor(x, y).alpha() > 0 && picture.pixelColor(x, y).lightness() < 250 ? 1 : 0;

@@ -143,6 +143,14 @@ void TestSymbols::badSvg_data() {
     attributes += " a" + QByteArray::number(i) + "=''";
   QTest::newRow("many attributes") << head + "<rect" + attributes + "/></svg>";
   QTest::newRow("many attributes behind a comment") << head + "<!-- don't -->" + "<rect" + attributes + "/></svg>";
+  QTest::newRow("many attributes behind an odd comment") << head + "<!--><x \"--><rect" + attributes + "/></svg>";
+  QTest::newRow("many attributes behind a document type")
+      << QByteArray("<!DOCTYPE svg SYSTEM '<!--'>") + head + "<rect" + attributes + "/></svg>";
+  const QString wide = QString::fromLatin1(head).insert(0, QStringLiteral("<!-- ' -->")) + QStringLiteral("<rect") +
+                       QString::fromLatin1(attributes) + QStringLiteral("/></svg>");
+  QTest::newRow("many attributes in UTF-16")
+      << QByteArray(reinterpret_cast<const char *>(wide.utf16()), wide.size() * int(sizeof(ushort)));
+  QTest::newRow("another encoding") << QByteArray("<?xml version='1.0' encoding='UTF-7'?>") + head + "</svg>";
   QByteArray repeats;
   for (int i = 1; i < 20; ++i)
     repeats += "<g id='a" + QByteArray::number(i) + "'>" +

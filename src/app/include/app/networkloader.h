@@ -52,7 +52,6 @@ public:
   const GasTable &gases() const { return m_gases; } ///< of the scenario
   /// What case and scenario carry beside the network, each with the file that says so.
   ScenarioSummary scenarioSummary() const;
-  const QString &checkFindings() const { return m_checkFindings; }
   const ConsistencyCheck::PruneResult &removed() const { return m_removed; }
   /// Everything that the stages noticed, in their order.
   const std::vector<FindingList::Group> &noticed() const { return m_noticed; }
@@ -82,7 +81,6 @@ private:
   ScenarioSummary::Files m_files;
   MachineData m_machines;
   QString m_templateFolder;
-  QString m_checkFindings;
   ConsistencyCheck::PruneResult m_removed;
   std::vector<FormulaDefinition> m_templateDefinitions; ///< of the assembled subnets
   std::vector<FindingList::Group> m_noticed;

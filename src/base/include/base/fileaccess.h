@@ -29,7 +29,7 @@ void confineTo(const QString &folder);
 /// then the nearest folder that does decides.
 QString confinementFault(const QString &path);
 
-/// Opens the file (whose name is set) in binary mode; false with "path: why".
+/// Opens the file (whose name is set) in binary mode; false with "path: why", here and below for whom it interests.
 bool openForReading(QFile &file, Source source, qint64 largest, QString *reason);
 
 /// The whole file; nothing with "path: why" when it cannot be opened or read to its end.

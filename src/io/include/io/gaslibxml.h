@@ -7,14 +7,10 @@
 
 /// What the readers of public gas network instances have in common: the way into a file, and what is told of it. Document
 /// types are refused, so that no entity is expanded or loaded. The work that a file can cause is bounded before the parser
-/// sees it: its size, and the attributes, the nesting and the namespaces of its elements, since the parser compares every
-/// attribute with every other.
+/// sees it: by its size, and by XmlBounds.
 class GasLibXml {
 public:
   static constexpr qint64 LargestFile = qint64(64) << 20;
-  static constexpr int MostAttributes = 100; ///< of an element
-  static constexpr int DeepestNesting = 50;
-  static constexpr int MostNamespaces = 50; ///< declared in a file
 
   explicit GasLibXml(QString path, FileAccess::Source source)
       : m_path(std::move(path))

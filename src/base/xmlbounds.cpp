@@ -1,6 +1,4 @@
-#include "xmlbounds.h"
-
-#include <io/gaslibxml.h>
+#include <base/xmlbounds.h>
 
 #include <QCoreApplication>
 
@@ -13,19 +11,20 @@ QString tr(const char *text) {
 /// Walks over the marks of a text.
 class Walk {
 public:
-  explicit Walk(const QString &text)
-      : m_text(text) {}
+  Walk(const QString &text, const XmlBounds::Limits &limits)
+      : m_text(text)
+      , m_limits(limits) {}
 
   XmlBounds::Fault run() {
     while (m_fault.isEmpty() && (m_at = m_text.indexOf(QLatin1Char('<'), m_at)) >= 0) {
       if (begins("<!--"))
-        skipBehind("-->");
+        skip("<!--", "-->");
       else if (begins("<![CDATA["))
-        skipBehind("]]>");
+        skip("<![CDATA[", "]]>");
       else if (begins("<?"))
-        skipBehind("?>");
+        skip("<?", "?>");
       else if (begins("<!"))
-        m_fault = tr("The file has a document type, which is not allowed");
+        takeDeclaration();
       else
         takeTag();
     }
@@ -37,9 +36,24 @@ public:
 private:
   bool begins(const char *mark) const { return m_text.midRef(m_at).startsWith(QLatin1String(mark)); }
 
-  void skipBehind(const char *mark) {
-    const int end = m_text.indexOf(QLatin1String(mark), m_at + 2);
-    m_at = end < 0 ? m_text.size() : end + 1;
+  void skip(const char *begin, const char *end) {
+    const int found = m_text.indexOf(QLatin1String(end), m_at + static_cast<int>(qstrlen(begin)));
+    m_at = found < 0 ? m_text.size() : found + 1;
+  }
+
+  void takeDeclaration() {
+    if (!m_limits.hasDocumentType)
+      m_fault = tr("The file has a document type, which is not allowed");
+    QChar quote; // marks in quotes are none; what is declared in brackets is looked at like the rest
+    for (++m_at; m_at < m_text.size(); ++m_at) {
+      const QChar c = m_text.at(m_at);
+      if (!quote.isNull())
+        quote = c == quote ? QChar() : quote;
+      else if (c == QLatin1Char('"') || c == QLatin1Char('\''))
+        quote = c;
+      else if (c == QLatin1Char('>') || c == QLatin1Char('[') || c == QLatin1Char('<'))
+        break;
+    }
   }
 
   void takeTag() {
@@ -70,15 +84,16 @@ private:
   }
 
   void judge(int attributes) {
-    if (attributes > GasLibXml::MostAttributes)
-      m_fault = tr("An element has %1 attributes, more than %2").arg(attributes).arg(GasLibXml::MostAttributes);
-    else if (m_depth > GasLibXml::DeepestNesting)
-      m_fault = tr("Elements are nested more than %1 deep").arg(GasLibXml::DeepestNesting);
-    else if (m_namespaces > GasLibXml::MostNamespaces)
-      m_fault = tr("There are more than %1 namespaces").arg(GasLibXml::MostNamespaces);
+    if (attributes > m_limits.attributes)
+      m_fault = tr("An element has %1 attributes, more than %2").arg(attributes).arg(m_limits.attributes);
+    else if (m_depth > m_limits.nesting)
+      m_fault = tr("Elements are nested more than %1 deep").arg(m_limits.nesting);
+    else if (m_namespaces > m_limits.namespaces)
+      m_fault = tr("There are more than %1 namespaces").arg(m_limits.namespaces);
   }
 
   const QString &m_text;
+  const XmlBounds::Limits &m_limits;
   QString m_fault;
   int m_at = 0;
   int m_begin = -1; ///< of the tag that was looked at last
@@ -88,6 +103,6 @@ private:
 
 } // namespace
 
-XmlBounds::Fault XmlBounds::check(const QString &text) {
-  return Walk(text).run();
+XmlBounds::Fault XmlBounds::check(const QString &text, const Limits &limits) {
+  return Walk(text, limits).run();
 }

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QColor>
+#include <QPen>
+#include <QVector>
+#include <qwt_plot.h>
+
+#include <functional>
+
+/// A diagram with a heading: what maps of machines are drawn of, and what a person can do with them. Dragging zooms, a right
+/// click zooms out and offers to save and to print.
+class MapCanvas : public QwtPlot {
+  Q_OBJECT
+public:
+  explicit MapCanvas(QWidget *parent = nullptr);
+
+  static inline const QColor Blue{31, 93, 138};
+  static inline const QColor Green{46, 125, 50};
+  static inline const QColor Red{178, 34, 34};
+  static inline const QColor Orange{196, 98, 16};
+
+  /// What stands under the cursor, for the plot's coordinates.
+  QString readout(const QPointF &position) const { return m_readout ? m_readout(position) : QString(); }
+  /// The format by the suffix: PDF, SVG or a picture. False with the reason.
+  bool save(const QString &path, QString *reason = nullptr);
+
+protected:
+  void contextMenuEvent(QContextMenuEvent *event) override;
+
+  /// Takes everything out. \param heading plain text
+  void reset(const QString &heading, const QString &x, const QString &y);
+  void setReadout(std::function<QString(const QPointF &)> readout) { m_readout = std::move(readout); }
+  void addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label = QString(),
+               Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter);
+  /// Has the axes reach to a place, so that a label there is not cut.
+  void addRoom(const QPointF &to);
+  void addArea(const QVector<QPointF> &outline);
+  void addDots(const QVector<QPointF> &points); ///< that were measured
+  void addWorkingPoint(const QPointF &at, bool isInside);
+  void addStoredPoint(const QPointF &at); ///< that the results state
+  /// Shows what was added, whole.
+  void finish();
+
+private:
+  void paint(QPaintDevice &device, const QSizeF &size);
+  bool write(QIODevice &device, const QString &suffix, QString *reason);
+  void saveAs();
+  void print();
+
+  std::function<QString(const QPointF &)> m_readout;
+  class QwtPlotZoomer *m_zoomer;
+};
