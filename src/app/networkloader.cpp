@@ -30,11 +30,12 @@ QString firstCritical(const Findings &findings) {
   return QString();
 }
 
-/// The formula and constraint files of a folder, by name.
+/// The formula and constraint files of a folder, by name. What is no file but named as one is told when it is opened.
 std::vector<FormulaDefinition> definitionsIn(const QString &directory, const QString &category, Findings &findings) {
   std::vector<FormulaDefinition> definitions;
   const QStringList patterns{QStringLiteral("*.formulas"), QStringLiteral("*.constraints")};
-  for (const QFileInfo &file : QDir(directory).entryInfoList(patterns, QDir::Files, QDir::Name)) {
+  const QDir::Filters anything = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
+  for (const QFileInfo &file : QDir(directory).entryInfoList(patterns, anything, QDir::Name)) {
     FormulaFile::Contents contents = FormulaFile::read(file.filePath(), category);
     std::move(contents.definitions.begin(), contents.definitions.end(), std::back_inserter(definitions));
     append(findings, std::move(contents.findings));

@@ -18,9 +18,12 @@ bool write(const QString &path, FileAccess::Source source, const Writer &writer,
     if (isWritten && file.commit())
       return true;
     if (!isWritten) {
-      // Before the cancelling becomes the error; a writer of a format only knows that it failed.
-      if (why.isEmpty() || file.error() != QFileDevice::NoError)
+      // Before the cancelling becomes the error; a writer of a format only knows that it failed. Of a block that was
+      // written in part the system names no error.
+      if (file.error() != QFileDevice::NoError)
         why = file.errorString();
+      else if (why.isEmpty())
+        why = QCoreApplication::translate("WholeFile", "not everything could be written; is the disk full?");
       file.cancelWriting();
     }
   }

@@ -30,6 +30,14 @@ bool holdsSetPoints(const QString &name) {
   return kind == QLatin1String("scen") || kind == QLatin1String("fix");
 }
 
+/// Kinds of one shape can stand for one another; others would lose what only the one can say.
+QString shape(const QString &name) {
+  const QString kind = parts(name).captured(1);
+  if (kind == QLatin1String("fix"))
+    return QStringLiteral("scen");
+  return kind == QLatin1String("gaspar") || kind == QLatin1String("res.sub") ? QStringLiteral("res") : kind;
+}
+
 /// Hands on what the lines of a file hold, in either form.
 class Feeder {
 public:
@@ -200,6 +208,8 @@ NetworkFileConverter::Result NetworkFileConverter::convert(const QString &from, 
     if (!isNetworkFile(path))
       return fail(tr("%1 is not named as a network file is").arg(path));
   }
+  if (shape(from) != shape(to))
+    return fail(tr("%1 and %2 are named as files of different kinds").arg(from, to));
   QString reason;
   result.ok = writeFile(
       to,

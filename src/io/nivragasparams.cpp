@@ -3,6 +3,7 @@
 #include <base/nivramsg.h>
 #include <io/nivragasparams.h>
 
+#include <QFileInfo>
 #include <QHash>
 
 #include <cmath>
@@ -71,7 +72,11 @@ bool NivraGasParams::readFromFile(const QString &directory) {
   QString reason;
   const std::optional<QJsonObject> object = readJsonObject(path, &reason);
   if (!object) {
-    NivraMsg::debug(QStringLiteral("NivraGasParams::readFromFile: cannot open file ") + reason);
+    const QString text = QStringLiteral("NivraGasParams::readFromFile: cannot open file ") + reason;
+    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink()) // without it the text form is meant
+      NivraMsg::logWarning(text);
+    else
+      NivraMsg::debug(text);
     return false;
   }
   fromJson(*object, path);

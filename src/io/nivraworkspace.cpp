@@ -94,7 +94,8 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   const QString caseDirectory = isScenario ? upwards(directory) : directory;
   const QString root = upwards(caseDirectory);
   if (!file.isFile()) {
-    NivraMsg::logCritical(QStringLiteral("NivraWorkspace::fromFile(): File does not exist ") + path);
+    NivraMsg::logCritical(file.exists() ? QStringLiteral("NivraWorkspace::fromFile(): not a regular file ") + path
+                                        : QStringLiteral("NivraWorkspace::fromFile(): File does not exist ") + path);
     return {};
   }
   if (!QFileInfo(root).isDir()) {
@@ -137,6 +138,10 @@ void NivraWorkspace::findCaseFiles() {
       current.baseName = baseNameOf(files.fileInfo(), QStringLiteral(".geom"), match.captured(1));
       current.geometryFile = current.baseName + QStringLiteral(".geom");
     }
+  }
+  if (current.geometryFile.isEmpty()) { // messages then name what should be there
+    current.baseName = current.name;
+    current.geometryFile = current.name + QStringLiteral(".geom");
   }
   if (current.configFile.isEmpty())
     current.configFile = current.geometryFile + QStringLiteral(".cfg");

@@ -1,6 +1,7 @@
 #include "workspacefixture.h"
 
 #include <base/fileaccess.h>
+#include <base/nivramsg.h>
 #include <support/nivratest.h>
 
 #include <app/networkloader.h>
@@ -11,6 +12,8 @@ class TestNetworkLoader : public QObject {
 private slots:
   void everythingReadIsReachable();
   void nothingOutsideTheWorkspaceIsRead();
+  void whatIsNoFileIsNamed_data();
+  void whatIsNoFileIsNamed();
 };
 
 void TestNetworkLoader::everythingReadIsReachable() {
@@ -51,6 +54,31 @@ void TestNetworkLoader::nothingOutsideTheWorkspaceIsRead() {
   QVERIFY2(told.contains(QStringLiteral("leads out of the workspace")), qPrintable(told));
   QVERIFY(!FileAccess::confinementFault(stranger.scenario()).isEmpty());
   QVERIFY(FileAccess::confinementFault(workspace.geometry()).isEmpty());
+}
+
+void TestNetworkLoader::whatIsNoFileIsNamed_data() {
+  QTest::addColumn<QString>("name");
+  for (const char *name : {"CASE/CASE.geom.jsn", "CASE/own.formulas", "CASE/S1/own.constraints", "CASE/S1/solverconfig.jsn"})
+    QTest::addRow("%s", name) << QString::fromLatin1(name);
+}
+
+void TestNetworkLoader::whatIsNoFileIsNamed() {
+  QFETCH(QString, name);
+  const WorkspaceFixture workspace;
+  QFile::remove(workspace.path(name));
+  QVERIFY(QDir(workspace.root()).mkpath(name));
+  NetData net;
+  NetworkLoader loader(net);
+  const NivraMsg::Recorder recorder;
+  QVERIFY(loader.resolve(workspace.scenario()));
+  loader.readConfiguration();
+  loader.readNetwork({});
+  QString told = recorder.lines().join(QLatin1Char('\n')) + loader.error();
+  for (const FindingList::Group &group : loader.noticed()) {
+    for (const Finding &finding : group.findings)
+      told += finding.logText();
+  }
+  QVERIFY2(told.contains(workspace.path(name) + QStringLiteral(": is a directory")), qPrintable(told));
 }
 
 NIVRA_TEST(TestNetworkLoader);

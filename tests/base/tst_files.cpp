@@ -17,6 +17,7 @@ private slots:
   void nothingLeadsOutOfTheWorkspace();
   void whatTheUserChoseMayLieAnywhere();
   void fullDisksLeaveTheOldFile();
+  void nearlyFullDisksAreNamed();
   void failedWritersLeaveTheOldFile();
   void specialFilesAreNotReplaced();
 
@@ -114,6 +115,18 @@ void TestFiles::fullDisksLeaveTheOldFile() {
   disk.free();
   QVERIFY(WholeFile::write(path, FileAccess::Source::Trusted, QByteArray("new"), &reason));
   QCOMPARE(QDir(QFileInfo(path).path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("file")});
+}
+
+// The system takes a part of a large block and names no error.
+void TestFiles::nearlyFullDisksAreNamed() {
+  const FullDisk disk;
+  if (!disk.isMounted())
+    QSKIP("a small disk cannot be mounted here");
+  const QString target = disk.path(QStringLiteral("large"));
+  QString reason;
+  QVERIFY(!WholeFile::write(target, FileAccess::Source::Trusted, QByteArray(1 << 20, 'x'), &reason));
+  QVERIFY2(reason.contains(QLatin1String("disk full")) || reason.contains(QLatin1String("No space")), qPrintable(reason));
+  QVERIFY(!QFile::exists(target));
 }
 
 void TestFiles::failedWritersLeaveTheOldFile() {

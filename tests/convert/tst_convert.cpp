@@ -129,6 +129,10 @@ void TestConvert::casesThereAndBack() {
 }
 
 void TestConvert::casesThatFail() {
+  // A geometry has more to say than a file of results can.
+  const QString geometry = write(QStringLiteral("kind.geom"), "[node]\nname;x\nA;1\n");
+  QVERIFY(!NetworkFileConverter::convert(geometry, path(QStringLiteral("kind.res.jsn"))).ok);
+  QVERIFY(!QFile::exists(path(QStringLiteral("kind.res.jsn"))));
   QVERIFY(!CaseConverter::convert(path(QStringLiteral("none")), path(QStringLiteral("x"))).ok);
   const QString folder = path(QStringLiteral("own"));
   QDir().mkpath(folder);
