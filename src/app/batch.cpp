@@ -1,3 +1,5 @@
+#include "stagetimes.h"
+
 #include <base/generalsettings.h>
 #include <base/logfiles.h>
 #include <base/nivramsg.h>
@@ -7,18 +9,14 @@
 #include <view/plotexport.h>
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
 
-#include <algorithm>
 #include <app/batch.h>
 #include <app/networkloader.h>
 #include <cstdio>
-#include <ctime>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -44,55 +42,6 @@ int failed(const QString &reason) {
   writeAll(LogFiles::realStandardError(), reason.toUtf8() + '\n');
   return 1;
 }
-
-/// Seconds since the system started this process, to a hundredth: what loading the libraries took is part of them. 0 where
-/// the system does not tell.
-double processAge() {
-  QFile file(QStringLiteral("/proc/self/stat"));
-  timespec now{};
-  if (!file.open(QIODevice::ReadOnly) || clock_gettime(CLOCK_BOOTTIME, &now) != 0)
-    return 0.0;
-  const QByteArray line = file.readAll();
-  // Behind the name, which may hold blanks, the time of the start is the twentieth field.
-  constexpr int StartField = 19;
-  const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-  const double start = fields.value(StartField).toDouble() / static_cast<double>(sysconf(_SC_CLK_TCK));
-  constexpr double Nano = 1e-9;
-  const double age = static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * Nano - start;
-  return fields.size() > StartField ? std::max(0.0, age) : 0.0;
-}
-
-/// What every stage of the run took, from the start of the process on, so that their sum is the time on the clock.
-class StageTimes {
-public:
-  StageTimes() {
-    add(QStringLiteral("start"), processAge());
-    m_timer.start();
-  }
-
-  /// The stage that now ends began when the one before ended.
-  void end(const QString &stage) { add(stage, static_cast<double>(m_timer.nsecsElapsed()) * Nano - m_sinceStart); }
-  void add(const QString &stage, double seconds) {
-    m_stages.insert(stage, m_stages.value(stage).toDouble() + seconds);
-    m_total += seconds;
-    if (m_timer.isValid())
-      m_sinceStart += seconds;
-  }
-
-  QJsonObject seconds() const {
-    QJsonObject all = m_stages;
-    all.insert(QStringLiteral("total"), m_total);
-    return all;
-  }
-
-private:
-  static constexpr double Nano = 1e-9;
-
-  QElapsedTimer m_timer;
-  QJsonObject m_stages;
-  double m_sinceStart = 0.0; ///< accounted for on the timer
-  double m_total = 0.0;
-};
 
 double peakMemoryMB() {
   rusage usage{};

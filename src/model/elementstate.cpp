@@ -1,7 +1,7 @@
 #include <model/elementstate.h>
 
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 
 namespace {
 
@@ -26,19 +26,27 @@ bool isWord(std::string_view text, std::string_view lower) noexcept {
          });
 }
 
+bool isOneOf(std::string_view text, std::initializer_list<std::string_view> lower) noexcept {
+  return std::any_of(lower.begin(), lower.end(), [text](std::string_view word) { return isWord(text, word); });
+}
+
+std::string_view said(const PropertyText *text) noexcept {
+  return text == nullptr ? std::string_view() : trimmed(text->utf8());
+}
+
 } // namespace
 
 bool ElementState::saysOff(const PropertyText *text) noexcept {
-  const std::string_view said = text == nullptr ? std::string_view() : trimmed(text->utf8());
-  if (said.empty())
-    return false;
-  constexpr std::array<std::string_view, 5> Words{"off", "closed", "inactive", "false", "no"};
-  return std::any_of(Words.begin(), Words.end(), [said](std::string_view word) { return isWord(said, word); }) ||
-         text->toDouble() == 0.0;
+  const std::string_view word = said(text);
+  return !word.empty() && (isOneOf(word, {"off", "closed", "inactive", "false", "no"}) || text->toDouble() == 0.0);
+}
+
+bool ElementState::saysAtWork(const PropertyText *text) noexcept {
+  return isOneOf(said(text), {"active", "on", "open", "1"});
 }
 
 bool ElementState::saysBypass(const PropertyText *text) noexcept {
-  return text != nullptr && isWord(trimmed(text->utf8()), "bypass");
+  return isWord(said(text), "bypass");
 }
 
 bool ElementState::isOutOfUse(const element &e) noexcept {

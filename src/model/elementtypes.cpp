@@ -43,6 +43,10 @@ const ElementType *ElementTypes::byCode(const QString &code) {
   return found == rows.end() ? nullptr : &*found;
 }
 
+bool ElementTypes::hasCharacteristics(const QString &code) {
+  return code == QLatin1String("c") || code == QLatin1String("d");
+}
+
 QString ElementTypes::pluralised(const QString &typeName) {
   QString name = typeName;
   if (name.endsWith(QLatin1Char('y'))) {

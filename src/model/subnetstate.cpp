@@ -1,3 +1,4 @@
+#include <model/elementstate.h>
 #include <model/subnetstate.h>
 
 namespace {
@@ -27,13 +28,6 @@ const element *mainElement(const NetData &net, const element &subnet) {
   return nullptr;
 }
 
-/// A station without a state works.
-bool saysAtWork(const QString &state) {
-  static const QStringList words{QString(), QStringLiteral("active"), QStringLiteral("on"), QStringLiteral("open"),
-                                 QStringLiteral("1")};
-  return words.contains(state.toLower());
-}
-
 /// What a station at work holds, by its word for it, else by the set points that it has.
 QString controlOf(const element &station) {
   const QString control = station.value(QStringLiteral("control")).trimmed().toLower();
@@ -53,8 +47,10 @@ QString SubnetState::of(const NetData &net, const element &subnet) {
   const element *main = mainElement(net, subnet);
   if (main == nullptr)
     return QString();
-  const QString state = main->value(QStringLiteral("state")).trimmed();
-  return isStation(*main) && saysAtWork(state) ? controlOf(*main) : state;
+  const PropertyText *said = main->find(PropertyKey::find("state"));
+  const QString state = said == nullptr ? QString() : said->toString().trimmed();
+  const bool isAtWork = state.isEmpty() || ElementState::saysAtWork(said); // a station without a state works
+  return isStation(*main) && isAtWork ? controlOf(*main) : state;
 }
 
 void SubnetState::derive(NetData &net) {

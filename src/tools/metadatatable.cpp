@@ -5,6 +5,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 MetaDataTable::MetaDataTable(const NetData &net, QWidget *parent)
     : QTreeWidget(parent)
     , m_net(net) {
@@ -34,6 +36,7 @@ void MetaDataTable::fill() {
   addGroup(QStringLiteral("ResultParms"), properties(QStringLiteral("results")));
   addGroup(QStringLiteral("GasParms"), properties(QStringLiteral("gas")));
   addGroup(QStringLiteral("VisParms"), properties(QString()));
+  setColumnWidth(0, std::max(columnWidth(0), sizeHintForColumn(0))); // of a large font
 }
 
 void MetaDataTable::addGroup(const QString &name, const std::vector<Entry> &entries) {

@@ -1,9 +1,9 @@
 #include "ui_nivrapropviewer.h"
 
+#include <model/elementtypes.h>
 #include <tools/nivrapropviewer.h>
 #include <tools/numberdelegate.h>
 #include <tools/propertylist.h>
-#include <tools/tablemenu.h>
 
 #include <QAction>
 #include <QApplication>
@@ -39,7 +39,7 @@ void NivraPropViewer::showCurrentEleContents(const element *ele) {
   QTreeWidget *tree = m_ui->treeWidget;
   tree->clear();
   m_ui->actionOpenCharacteristics->setVisible(ele != nullptr &&
-                                              TableMenu::hasCharacteristics(ele->value(QStringLiteral("type"))));
+                                              ElementTypes::hasCharacteristics(ele->value(QStringLiteral("type"))));
   if (ele == nullptr) {
     m_elementName.clear();
     setWindowTitle(tr("Property Viewer (Hover Over Element First!)"));

@@ -6,8 +6,8 @@
 #include <tools/nameaid.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
-#include <tools/numberdelegate.h>
 #include <tools/searchhint.h>
+#include <tools/searchresults.h>
 #include <tools/searchtable.h>
 #include <tools/tablemenu.h>
 
@@ -27,42 +27,7 @@ static void initialiseResources() {
 
 namespace {
 
-enum Column { NameColumn, TypeColumn, PropertyColumn, ValueColumn, UnitColumn, ColumnCount };
-
 constexpr double Milli = 1e-3;
-
-/// A row that is sorted by plain comparison: asking the locale for each pair of 100,000 names takes seconds.
-class ResultItem : public QTreeWidgetItem {
-public:
-  explicit ResultItem(const SearchRow &row)
-      : QTreeWidgetItem({row.name, row.type, row.property, row.value, row.unit}, UserType)
-      , m_name(row.name) {}
-  bool operator<(const QTreeWidgetItem &other) const override {
-    const int column = treeWidget() == nullptr ? int(NameColumn) : treeWidget()->sortColumn();
-    if (column == NameColumn) // mostly
-      return QString::compare(m_name, static_cast<const ResultItem &>(other).m_name, Qt::CaseInsensitive) < 0;
-    if (column == ValueColumn) { // numbers by size
-      bool isNumber = false;
-      bool isOther = false;
-      const double mine = text(column).toDouble(&isNumber);
-      const double others = other.text(column).toDouble(&isOther);
-      if (isNumber && isOther)
-        return mine < others;
-    }
-    return QString::compare(text(column), other.text(column), Qt::CaseInsensitive) < 0;
-  }
-
-private:
-  QString m_name; ///< at hand for sorting
-};
-
-QList<QTreeWidgetItem *> itemsOf(const std::vector<SearchRow> &rows) {
-  QList<QTreeWidgetItem *> items;
-  items.reserve(static_cast<int>(rows.size()));
-  for (const SearchRow &row : rows)
-    items.append(new ResultItem(row));
-  return items;
-}
 
 } // namespace
 
@@ -96,31 +61,16 @@ NivraSearch::~NivraSearch() = default;
 
 void NivraSearch::setUpResults() {
   QTreeWidget *tree = m_ui->treeWidget_searchResults;
-  tree->setHeaderLabels(SearchTable::headers());
-  constexpr int Widths[] = {120, 40, 120, 120, 100};
-  for (int column = 0; column < ColumnCount; ++column)
-    tree->setColumnWidth(column, Widths[column]);
-  tree->sortByColumn(NameColumn, Qt::AscendingOrder);
-  tree->setItemDelegateForColumn(ValueColumn, new NumberDelegate(PropertyColumn, tree));
+  m_results = std::make_unique<SearchResults>(*tree);
   new TableMenu(*tree);
   auto *characteristics = new QAction(tr("Open Characteristics"), this);
   characteristics->setObjectName(QStringLiteral("actionOpenCharacteristics"));
   characteristics->setVisible(false);
   tree->addAction(characteristics);
   connect(tree, &QTreeWidget::itemSelectionChanged, characteristics,
-          [this, characteristics] { characteristics->setVisible(!selectedMachines().isEmpty()); });
-  connect(characteristics, &QAction::triggered, this, [this] { emit characteristicsWanted(selectedMachines()); });
+          [this, characteristics] { characteristics->setVisible(!m_results->selectedMachines().isEmpty()); });
+  connect(characteristics, &QAction::triggered, this, [this] { emit characteristicsWanted(m_results->selectedMachines()); });
   showHint(QString());
-}
-
-QStringList NivraSearch::selectedMachines() const {
-  QStringList names;
-  for (const QTreeWidgetItem *item : m_ui->treeWidget_searchResults->selectedItems()) {
-    const QString type = item->text(TypeColumn);
-    if (type == QLatin1String("c") || type == QLatin1String("d"))
-      names.append(item->text(NameColumn));
-  }
-  return names;
 }
 
 void NivraSearch::showHint(const QString &text) {
@@ -222,22 +172,14 @@ void NivraSearch::searchWithFormula() {
     m_reportedFormula = m_formula;
     m_searchString.clear();
   }
-  QTreeWidget *tree = m_ui->treeWidget_searchResults;
-  tree->setSortingEnabled(false);
-  tree->clear();
+  m_ui->treeWidget_searchResults->clear();
   QElapsedTimer timer;
   timer.start();
   NetworkSearch search(m_net, searchParams());
   NivraMsg::debug(QStringLiteral("NivraSearch prep time: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
   const NetworkSearch::Result result = search.run();
   NivraMsg::debug(QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
-  tree->addTopLevelItems(itemsOf(result.rows));
-  constexpr int Looked = 1000; // rows that a column's width is taken from
-  tree->header()->setResizeContentsPrecision(Looked);
-  for (const int column : {NameColumn, TypeColumn, PropertyColumn, UnitColumn})
-    tree->resizeColumnToContents(column);
-  tree->header()->setSortIndicator(NameColumn, Qt::AscendingOrder);
-  tree->setSortingEnabled(true); // sorts by what the header shows
+  m_results->show(result.rows);
   showCount();
   showHint(result.isStopped ? result.error : SearchHint::of(m_net, searchParams(), result.rows.size()));
   if (result.isStopped) {
@@ -261,20 +203,16 @@ void NivraSearch::clearResults() {
 void NivraSearch::updateSearchItems(element &changed, const QString &oldName) {
   QElapsedTimer timer;
   timer.start();
-  QTreeWidget *tree = m_ui->treeWidget_searchResults;
-  const QSignalBlocker blocker(tree);
-  const QString name = oldName.isEmpty() ? changed.value(QStringLiteral("name")) : oldName;
-  tree->setSortingEnabled(false);
-  qDeleteAll(tree->findItems(name, Qt::MatchFixedString, NameColumn));
+  std::vector<SearchRow> rows;
   try {
-    std::vector<SearchRow> rows;
     NetworkSearch(m_net, searchParams()).search(changed, rows);
-    tree->addTopLevelItems(itemsOf(rows));
   } catch (const FormulaError &error) {
     NivraMsg::logWarning(error.text());
   }
-  tree->setCurrentItem(nullptr);
-  tree->setSortingEnabled(true);
+  {
+    const QSignalBlocker blocker(m_ui->treeWidget_searchResults);
+    m_results->replace(oldName.isEmpty() ? changed.value(QStringLiteral("name")) : oldName, rows);
+  }
   showCount();
   NivraMsg::debug(QStringLiteral("updateSearchItem: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
 }
@@ -282,10 +220,10 @@ void NivraSearch::updateSearchItems(element &changed, const QString &oldName) {
 bool NivraSearch::select(const QString &elementName) {
   QTreeWidget *tree = m_ui->treeWidget_searchResults;
   const QTreeWidgetItem *current = tree->currentItem();
-  if (current != nullptr && current->text(NameColumn).compare(elementName, Qt::CaseInsensitive) == 0)
+  if (current != nullptr && current->text(SearchResults::NameColumn).compare(elementName, Qt::CaseInsensitive) == 0)
     return true;
   const QSignalBlocker blocker(tree);
-  const QList<QTreeWidgetItem *> found = tree->findItems(elementName, Qt::MatchFixedString, NameColumn);
+  const QList<QTreeWidgetItem *> found = tree->findItems(elementName, Qt::MatchFixedString, SearchResults::NameColumn);
   tree->setCurrentItem(found.value(0));
   return !found.isEmpty();
 }
@@ -385,21 +323,12 @@ void NivraSearch::on_pushButton_save_clicked() {
 
 bool NivraSearch::save(const QString &path, QString *reason) const {
   QString unasked;
-  std::vector<QStringList> rows;
-  const QTreeWidget *tree = m_ui->treeWidget_searchResults;
-  rows.reserve(static_cast<std::size_t>(tree->topLevelItemCount()));
-  for (int i = 0; i < tree->topLevelItemCount(); ++i) {
-    QStringList row;
-    for (int column = 0; column < ColumnCount; ++column)
-      row.append(tree->topLevelItem(i)->text(column));
-    rows.push_back(row);
-  }
   SearchParams params = searchParams();
   params.formula = m_reportedFormula;
   const bool useComma = GeneralSettings::instance().isOn(QStringLiteral("use comma"));
   return WholeFile::write(
       path, FileAccess::Source::Trusted,
-      [&](QIODevice &device, QString *) { return SearchTable::write(device, params, rows, useComma); },
+      [&](QIODevice &device, QString *) { return SearchTable::write(device, params, m_results->rows(), useComma); },
       reason == nullptr ? &unasked : reason);
 }
 
@@ -425,11 +354,11 @@ void NivraSearch::on_treeWidget_searchResults_itemDoubleClicked(QTreeWidgetItem 
 
 void NivraSearch::on_treeWidget_searchResults_currentItemChanged(QTreeWidgetItem *current, QTreeWidgetItem *previous) {
   const auto nameOf = [](const QTreeWidgetItem *item) {
-    return item == nullptr ? QStringLiteral("null") : item->text(NameColumn);
+    return item == nullptr ? QStringLiteral("null") : item->text(SearchResults::NameColumn);
   };
   NivraMsg::debug(QStringLiteral("Search item changed from %1 to %2").arg(nameOf(previous), nameOf(current)));
   if (current != nullptr)
-    emit elementMarked(current->text(NameColumn));
+    emit elementMarked(current->text(SearchResults::NameColumn));
 }
 
 void NivraSearch::updateLastSearchesMenu() {

@@ -3,6 +3,7 @@
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
+#include <model/elementtypes.h>
 #include <tools/naturalorder.h>
 #include <tools/nivravectable.h>
 #include <tools/numberdelegate.h>
@@ -17,7 +18,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <set>
 
@@ -25,8 +25,7 @@ namespace {
 
 enum Column { NameColumn, TypeColumn, PropertyColumn, ValueColumn, UnitColumn, ResultColumn, NumsortColumn, ColumnCount };
 
-/// Numbers are sorted by size and stand before texts, which follow in natural order. What that takes is found out once, and
-/// only for the columns by which somebody sorts.
+/// What sorting takes is found out once, and only for the columns by which somebody sorts.
 class Cell : public QTableWidgetItem {
 public:
   explicit Cell(const QString &text)
@@ -34,34 +33,17 @@ public:
       , m_text(text) {
     setFlags(Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsEnabled);
   }
-  bool operator<(const QTableWidgetItem &other) const override {
-    const Rank &mine = rank();
-    const Rank &others = static_cast<const Cell &>(other).rank();
-    if (mine.isNumber && others.isNumber)
-      return mine.number < others.number;
-    return mine.isNumber == others.isNumber ? mine.key->compare(*others.key) < 0 : mine.isNumber;
-  }
+  bool operator<(const QTableWidgetItem &other) const override { return rank() < static_cast<const Cell &>(other).rank(); }
 
 private:
-  struct Rank {
-    bool isNumber = false;
-    double number = 0.0;
-    std::optional<QCollatorSortKey> key; ///< of a text
-  };
-
-  const Rank &rank() const {
-    if (!m_rank) {
-      m_rank.emplace();
-      m_rank->number = m_text.toDouble(&m_rank->isNumber);
-      m_rank->isNumber = m_rank->isNumber && !std::isnan(m_rank->number);
-      if (!m_rank->isNumber)
-        m_rank->key = NaturalOrder::key(m_text);
-    }
+  const NaturalOrder::Rank &rank() const {
+    if (!m_rank)
+      m_rank.emplace(m_text);
     return *m_rank;
   }
 
   QString m_text; ///< at hand: asking each item of 100,000 for a variant takes most of a second
-  mutable std::optional<Rank> m_rank;
+  mutable std::optional<NaturalOrder::Rank> m_rank;
 };
 
 } // namespace
@@ -221,7 +203,7 @@ QStringList NivraVecTable::selectedMachines() const {
   for (const QModelIndex &cell : table.selectionModel()->selectedIndexes()) {
     const QString name = table.item(cell.row(), NameColumn)->text();
     if (!table.isRowHidden(cell.row()) && !names.contains(name) &&
-        TableMenu::hasCharacteristics(table.item(cell.row(), TypeColumn)->text()))
+        ElementTypes::hasCharacteristics(table.item(cell.row(), TypeColumn)->text()))
       names.append(name);
   }
   return names;

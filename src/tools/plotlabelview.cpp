@@ -1,26 +1,8 @@
+#include <base/closeddocument.h>
 #include <tools/plotlabelview.h>
 
 #include <QAbstractTextDocumentLayout>
-#include <QImage>
 #include <QPainter>
-#include <QTextDocument>
-#include <QUrl>
-
-namespace {
-
-/// Has an answer to everything that markup asks for, for what it gets none of it looks for itself.
-class ClosedDocument : public QTextDocument {
-protected:
-  QVariant loadResource(int type, const QUrl &) override {
-    if (type != ImageResource)
-      return QByteArray("");
-    QImage nothing(1, 1, QImage::Format_ARGB32);
-    nothing.fill(Qt::transparent);
-    return nothing;
-  }
-};
-
-} // namespace
 
 PlotLabelView::PlotLabelView(QWidget *parent)
     : QFrame(parent)

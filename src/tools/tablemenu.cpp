@@ -168,10 +168,6 @@ QString TableMenu::filterSummary() const {
   return parts.join(QStringLiteral(", "));
 }
 
-bool TableMenu::hasCharacteristics(const QString &type) {
-  return type == QLatin1String("c") || type == QLatin1String("d");
-}
-
 /// A filtered column shows it, so that nobody misses rows without knowing why.
 void TableMenu::markHeader(int column) {
   QAbstractItemModel *model = m_view.model();

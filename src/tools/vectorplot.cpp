@@ -86,33 +86,45 @@ void VectorPlot::show(const QString &title, const std::vector<std::pair<int, dou
     curve->setPen(Blue, 1.5);
     curve->setRenderHint(QwtPlotItem::RenderAntialiased, points.size() < 10000);
     curve->attach(m_rows);
-    auto *histogram = new QwtPlotHistogram;
-    QVector<QwtIntervalSample> samples;
-    for (const ValueStatistics::Bin &bin : statistics.bins) {
-      const bool isPoint = bin.to <= bin.from; // one number only: a bar that can be seen
-      samples.append(QwtIntervalSample(bin.count, isPoint ? bin.from - 0.5 : bin.from, isPoint ? bin.to + 0.5 : bin.to));
-    }
-    histogram->setSamples(samples);
-    histogram->setBrush(PaleBlue);
-    histogram->setPen(Blue, 1.0);
-    histogram->attach(m_histogram);
-    if (statistics.maximum > statistics.minimum) {
-      mark(*m_histogram, statistics.quantile(0.05), tr("5 %"), Blue, Qt::DashLine, Qt::AlignRight | Qt::AlignTop);
-      mark(*m_histogram, statistics.quantile(0.95), tr("95 %"), Blue, Qt::DashLine, Qt::AlignRight | Qt::AlignTop);
-      mark(*m_histogram, statistics.quantile(0.5), tr("median"), Blue, Qt::SolidLine, Qt::AlignLeft | Qt::AlignVCenter);
-      mark(*m_histogram, statistics.mean, tr("mean"), Orange, Qt::SolidLine, Qt::AlignRight | Qt::AlignVCenter);
-    }
-    m_summary->setText(
-        tr("%1 numbers of %2: minimum %3, maximum %4, mean %5, standard deviation %6, "
-           "quantiles 5 % %7, 25 % %8, 50 % %9, ")
-            .arg(statistics.count)
-            .arg(ofWhat, DisplayFormat::number(statistics.minimum), DisplayFormat::number(statistics.maximum),
-                 DisplayFormat::number(statistics.mean), DisplayFormat::number(statistics.standardDeviation),
-                 DisplayFormat::number(statistics.quantile(0.05)), DisplayFormat::number(statistics.quantile(0.25)),
-                 DisplayFormat::number(statistics.quantile(0.5))) +
-        tr("75 % %1, 95 % %2")
-            .arg(DisplayFormat::number(statistics.quantile(0.75)), DisplayFormat::number(statistics.quantile(0.95))));
+    drawHistogram(statistics);
+    m_summary->setText(summaryOf(statistics, ofWhat));
   }
   m_rows->replot();
   m_histogram->replot();
+}
+
+void VectorPlot::drawHistogram(const ValueStatistics &statistics) {
+  auto *histogram = new QwtPlotHistogram;
+  QVector<QwtIntervalSample> samples;
+  for (const ValueStatistics::Bin &bin : statistics.bins) {
+    const bool isPoint = bin.to <= bin.from; // one number only: a bar that can be seen
+    samples.append(QwtIntervalSample(bin.count, isPoint ? bin.from - 0.5 : bin.from, isPoint ? bin.to + 0.5 : bin.to));
+  }
+  histogram->setSamples(samples);
+  histogram->setBrush(PaleBlue);
+  histogram->setPen(Blue, 1.0);
+  histogram->attach(m_histogram);
+  if (statistics.maximum <= statistics.minimum)
+    return;
+  // Each text stands on the side of its line that is away from the other's, and the two pairs at different heights.
+  const double median = statistics.quantile(0.5);
+  const bool isMeanFirst = statistics.mean < median;
+  const Qt::Alignment ofMean = isMeanFirst ? Qt::AlignLeft : Qt::AlignRight;
+  const Qt::Alignment ofMedian = isMeanFirst ? Qt::AlignRight : Qt::AlignLeft;
+  mark(*m_histogram, statistics.quantile(0.05), tr("5 %"), Blue, Qt::DashLine, Qt::AlignRight | Qt::AlignTop);
+  mark(*m_histogram, statistics.quantile(0.95), tr("95 %"), Blue, Qt::DashLine, Qt::AlignRight | Qt::AlignTop);
+  mark(*m_histogram, median, tr("median"), Blue, Qt::SolidLine, ofMedian | Qt::AlignVCenter);
+  mark(*m_histogram, statistics.mean, tr("mean"), Orange, Qt::SolidLine, ofMean | Qt::AlignVCenter);
+}
+
+QString VectorPlot::summaryOf(const ValueStatistics &statistics, const QString &ofWhat) {
+  return tr("%1 numbers of %2: minimum %3, maximum %4, mean %5, standard deviation %6, "
+            "quantiles 5 % %7, 25 % %8, 50 % %9, ")
+             .arg(statistics.count)
+             .arg(ofWhat, DisplayFormat::number(statistics.minimum), DisplayFormat::number(statistics.maximum),
+                  DisplayFormat::number(statistics.mean), DisplayFormat::number(statistics.standardDeviation),
+                  DisplayFormat::number(statistics.quantile(0.05)), DisplayFormat::number(statistics.quantile(0.25)),
+                  DisplayFormat::number(statistics.quantile(0.5))) +
+         tr("75 % %1, 95 % %2")
+             .arg(DisplayFormat::number(statistics.quantile(0.75)), DisplayFormat::number(statistics.quantile(0.95)));
 }

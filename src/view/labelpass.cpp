@@ -1,3 +1,4 @@
+#include <base/closeddocument.h>
 #include <view/edgelayer.h>
 #include <view/labelpass.h>
 #include <view/nodelayer.h>
@@ -6,9 +7,6 @@
 #include <view/textboxlayer.h>
 
 #include <QFontMetricsF>
-#include <QImage>
-#include <QTextDocument>
-#include <QUrl>
 
 #include <algorithm>
 #include <array>
@@ -153,9 +151,8 @@ void LabelPass::collect() {
 
 namespace {
 
-/// The rich text of a label. What it refers to is not there: a workspace must not make the program open files. An empty
-/// picture stands for each, since the layout would look for a missing one by itself.
-class LabelDocument : public QTextDocument {
+/// The rich text of a label.
+class LabelDocument : public ClosedDocument {
 public:
   explicit LabelDocument(const LabelStyle &style, const QString &html) {
     setDefaultFont(style.font);
@@ -170,15 +167,6 @@ public:
     if (idealWidth() > Largest.width())
       setTextWidth(Largest.width());
     return size().boundedTo(Largest);
-  }
-
-protected:
-  QVariant loadResource(int type, const QUrl &) override {
-    if (type != QTextDocument::ImageResource)
-      return QByteArray();
-    QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
-    nothing.fill(Qt::transparent);
-    return nothing;
   }
 };
 

@@ -11,7 +11,6 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMetaMethod>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -53,10 +52,9 @@ QString withType(const element &e) {
   return menuText(e.value(QStringLiteral("name")) + QLatin1Char('\t') + (type == nullptr ? QString() : type->longName));
 }
 
-/// Types of elements that have machine data.
-const QRegularExpression &withCharacteristics() {
-  static const QRegularExpression types(QStringLiteral("^c$|^d$"));
-  return types;
+/// Types whose elements a subnet offers by name: its machines and what controls or measures beside them.
+bool isOfStation(const QString &type) {
+  return ElementTypes::hasCharacteristics(type) || type == QLatin1String("r") || type == QLatin1String("m");
 }
 
 /// What belongs to the subnet: the elements that its property "elements" lists.
@@ -154,7 +152,7 @@ void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
 
 bool PlotMenu::isMachine(const QString &name) const {
   const element *e = m_control.net().element(name);
-  return e != nullptr && withCharacteristics().match(e->value(QStringLiteral("type"))).hasMatch();
+  return e != nullptr && ElementTypes::hasCharacteristics(e->value(QStringLiteral("type")));
 }
 
 /// Whatever is selected, and whatever covers them.
@@ -210,15 +208,14 @@ void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name) const {
       entries->addAction(tr("<Could not find subnet>!"));
     return;
   }
-  static const QRegularExpression Machines(QStringLiteral("^c$|^d$|^r$|^m$"));
   NetVisControl *control = &m_control;
-  const auto addEntries = [control, subnet](QMenu &entries, const QRegularExpression &types, auto signal,
+  const auto addEntries = [control, subnet](QMenu &entries, bool (*isOffered)(const QString &type), auto signal,
                                             const QString &otherwise) {
     QStringList all;
     QStringList active;
     for (const QString &elementName : elementsOf(*subnet)) {
       const element *e = control->net().element(elementName);
-      if (e == nullptr || !types.match(e->value(QStringLiteral("type"))).hasMatch())
+      if (e == nullptr || !isOffered(e->value(QStringLiteral("type"))))
         continue;
       all.append(elementName);
       if (!ElementState::isOutOfUse(*e))
@@ -238,8 +235,8 @@ void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name) const {
     for (const QString &elementName : all.mid(0, MostEntries))
       add(elementName, {elementName});
   };
-  addEntries(*edit, Machines, &NetVisControl::editPropertiesRequested, tr("<empty element list>!"));
-  addEntries(*open, withCharacteristics(), &NetVisControl::openCharacteristicsRequested,
+  addEntries(*edit, isOfStation, &NetVisControl::editPropertiesRequested, tr("<empty element list>!"));
+  addEntries(*open, ElementTypes::hasCharacteristics, &NetVisControl::openCharacteristicsRequested,
              tr("<empty characteristics list>!"));
   edit->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::editPropertiesRequested)));
   open->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));

@@ -81,6 +81,7 @@ private slots:
   void tableUnderstandsTheSame();
   void typedLikeAPerson();
   void machinesOfferTheirMaps();
+  void sortsAsTheTableDoes();
 
 private:
   QStringList found(const SearchParams &params) {
@@ -463,7 +464,7 @@ void TestNivraSearch::typedLikeAPerson() {
 void TestNivraSearch::machinesOfferTheirMaps() {
   m_net->addElement(makeEdge("CS", "A.b", "axB", "c"));
   NivraSearch panel(*m_net);
-  panel.searchWithFormula();
+  panel.defineSearch({QString(), QString(), QString(), QString()}, false); // several rows of each
   const QSignalSpy wanted(&panel, &NivraSearch::characteristicsWanted);
   auto *open = panel.findChild<QAction *>(QStringLiteral("actionOpenCharacteristics"));
   QVERIFY(tree(panel)->actions().contains(open) && tree(panel)->contextMenuPolicy() == Qt::ActionsContextMenu);
@@ -475,6 +476,29 @@ void TestNivraSearch::machinesOfferTheirMaps() {
   QVERIFY(open->isVisible());
   open->trigger();
   QCOMPARE(wanted.value(0).value(0).toStringList(), QStringList{QStringLiteral("CS")});
+}
+
+/// Also where numbers and texts stand in one column: an order that contradicts itself would lose or mix rows.
+void TestNivraSearch::sortsAsTheTableDoes() {
+  for (const auto &[name, own] : std::initializer_list<std::pair<const char *, const char *>>{
+           {"S_10", "10"}, {"S_9", "9"}, {"s_1", "5x"}, {"S_2", "-1e3"}, {"S_11", "open"}}) {
+    element node = makeNode(name);
+    node.set(QStringLiteral("own"), QString::fromLatin1(own));
+    m_net->addElement(node);
+  }
+  NivraSearch panel(*m_net);
+  const auto texts = [&panel](int column) {
+    QStringList cells;
+    for (int row = 0; row < tree(panel)->topLevelItemCount(); ++row)
+      cells.append(tree(panel)->topLevelItem(row)->text(column));
+    return cells.join(QLatin1Char(' '));
+  };
+  panel.defineSearch({QString(), QString(), QStringLiteral("^own$"), QString()}, false);
+  QCOMPARE(texts(0), QStringLiteral("s_1 S_2 S_9 S_10 S_11"));
+  tree(panel)->sortByColumn(3, Qt::AscendingOrder);
+  QCOMPARE(texts(3), QStringLiteral("-1e3 9 10 5x open"));
+  tree(panel)->sortByColumn(0, Qt::DescendingOrder);
+  QCOMPARE(texts(0), QStringLiteral("S_11 S_10 S_9 S_2 s_1"));
 }
 
 NIVRA_TEST(TestNivraSearch);

@@ -9,6 +9,8 @@ namespace ElementState {
 /// Whether a text says that something is switched off: "off", "closed", "inactive", "false", "no" or the number 0, in any
 /// case. No text says nothing.
 bool saysOff(const PropertyText *text) noexcept;
+/// Whether a text says that something works: "active", "on", "open" or "1", in any case. No text says nothing.
+bool saysAtWork(const PropertyText *text) noexcept;
 /// Whether the text is the state "bypass".
 bool saysBypass(const PropertyText *text) noexcept;
 

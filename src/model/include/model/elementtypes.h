@@ -23,6 +23,8 @@ const std::vector<ElementType> &all();
 /// Null when there is no such row. Words and codes are compared exactly.
 const ElementType *byWord(const QString &word);
 const ElementType *byCode(const QString &code);
+/// Whether elements of the type are machines, for which there may be characteristics: compressors and drives.
+bool hasCharacteristics(const QString &code);
 
 /// English plural as the type lists show it: "supply" gives "supplies", "tBox" "tBoxes", "pipe" "pipes".
 QString pluralised(const QString &typeName);

@@ -12,6 +12,7 @@
 class QLineEdit;
 class QMenu;
 class QTreeWidgetItem;
+class SearchResults;
 
 namespace Ui {
 class NivraSearch;
@@ -93,10 +94,10 @@ private:
   void showCount();
   /// Below the rows; nothing for an empty text.
   void showHint(const QString &text);
-  QStringList selectedMachines() const;
   QStringList definition() const;
 
   std::unique_ptr<Ui::NivraSearch> m_ui;
+  std::unique_ptr<SearchResults> m_results;
   NetData &m_net;
   SearchHistory m_history;
   QString m_name;

@@ -45,9 +45,6 @@ public:
   /// Ctrl+C, unless the view has an action for it.
   static void offerCopy(QAbstractItemView &view);
 
-  /// Whether elements of the type are machines whose maps can be opened.
-  static bool hasCharacteristics(const QString &type);
-
 signals:
   void filtered(); ///< other rows are shown
 

@@ -8,6 +8,7 @@
 
 class QLabel;
 class QwtPlot;
+struct ValueStatistics;
 
 /// Numbers of a table as pictures: in the order of its rows, and as a histogram with what is typical of them.
 class VectorPlot : public QWidget {
@@ -21,6 +22,9 @@ public:
   void show(const QString &title, const std::vector<std::pair<int, double>> &values, const QString &ofWhat);
 
 private:
+  void drawHistogram(const ValueStatistics &statistics);
+  static QString summaryOf(const ValueStatistics &statistics, const QString &ofWhat);
+
   QwtPlot *m_rows;
   QwtPlot *m_histogram;
   QLabel *m_summary;
