@@ -54,18 +54,42 @@ void put(std::string &text, uint character) {
   }
 }
 
-/// Two texts that QString::compare calls equal regardless of case fold to the same bytes but for the case of ASCII letters,
-/// and bytes compare as it does: each UTF-16 unit is written by itself. (Character by character: the full folding of a text
-/// would also equate sharp s with ss, which the comparison does not.)
-void fold(std::string_view utf8, std::string &result) {
-  result.clear();
+/// Folds what stands from a place on, character by character, and puts it behind what is folded already.
+void foldFrom(std::string_view utf8, std::size_t place, std::string &result) {
+  result.resize(place);
   const char *const end = utf8.data() + utf8.size();
-  for (const char *at = utf8.data(); at < end;) {
+  for (const char *at = utf8.data() + place; at < end;) {
     const char *const other = std::find_if(at, end, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
     result.append(at, other);
     at = other;
     if (at < end)
       put(result, QChar::toCaseFolded(nextCharacter(at, end)));
+  }
+}
+
+/// Two texts that QString::compare calls equal regardless of case fold to the same bytes but for the case of ASCII letters,
+/// and bytes compare as it does: each UTF-16 unit is written by itself. (Character by character: the full folding of a text
+/// would also equate sharp s with ss, which the comparison does not.)
+void fold(std::string_view utf8, std::string &result) {
+  // Western letters (U+00C0 to U+00FF, of which most names outside of ASCII are made) keep their place: their capitals lie
+  // 0x20 before the small ones, save for the multiplication sign and the sharp s, which fold to themselves.
+  constexpr char WesternLead = '\xc3';
+  const auto foldedWestern = [](char second) {
+    const auto byte = static_cast<unsigned char>(second);
+    return byte <= 0x9e && byte != 0x97 ? static_cast<char>(byte + 0x20U) : second;
+  };
+  result.assign(utf8);
+  for (std::size_t i = 0; i < result.size(); ++i) {
+    if (static_cast<unsigned char>(result[i]) < 0x80)
+      continue;
+    const bool isWestern =
+        result[i] == WesternLead && i + 1 < result.size() && (static_cast<unsigned char>(result[i + 1]) & 0xc0U) == 0x80;
+    if (!isWestern) {
+      foldFrom(utf8, i, result);
+      return;
+    }
+    ++i;
+    result[i] = foldedWestern(result[i]);
   }
 }
 
