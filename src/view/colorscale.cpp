@@ -70,10 +70,11 @@ public:
 QwtText titleText(const QString &text, const std::vector<ColorScale::Swatch> &swatches) {
   if (swatches.empty())
     return QwtText(text, QwtText::PlainText);
+  const QString noBreak = QStringLiteral("&nbsp;");
   QString marked = text.toHtmlEscaped();
   for (const ColorScale::Swatch &swatch : swatches)
     marked += QStringLiteral("&nbsp;&nbsp; <span style=\"color:%1\">\u25A0</span>&nbsp;<small>%2</small>")
-                  .arg(QColor(swatch.color).name(), swatch.text.toHtmlEscaped());
+                  .arg(QColor(swatch.color).name(), swatch.text.toHtmlEscaped().replace(QLatin1Char(' '), noBreak));
   return QwtText(marked, QwtText::RichText);
 }
 
@@ -106,6 +107,7 @@ void showOn(QwtPlot &plot, int axis, Shown shown) {
   widget->setMargin(Margin);
   shown.title.setFont(plot.axisFont(axis));
   shown.title.setColor(plot.palette().color(QPalette::WindowText));
+  shown.title.setRenderFlags(Qt::AlignHCenter | Qt::TextWordWrap); // a short scale has it in lines
   plot.setAxisTitle(axis, shown.title);
   plot.setAxisScaleDraw(axis, new TickLabels); // NOLINT(cppcoreguidelines-owning-memory): the plot owns it
   plot.setAxisMaxMajor(axis, MostTicks);

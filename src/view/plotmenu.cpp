@@ -52,7 +52,7 @@ QString withType(const element &e) {
   return menuText(e.value(QStringLiteral("name")) + QLatin1Char('\t') + (type == nullptr ? QString() : type->longName));
 }
 
-/// Types whose elements a subnet offers by name: its machines and what controls or measures beside them.
+/// Types whose elements a subnet offers by name: machines, regulators and whatever a network calls "m".
 bool isOfStation(const QString &type) {
   return ElementTypes::hasCharacteristics(type) || type == QLatin1String("r") || type == QLatin1String("m");
 }

@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <qwt_scale_widget.h>
 
 /// What belongs to more than one layer: subnets, parallel lines, flow, search results.
 class TestDrawing : public QObject {
@@ -206,7 +207,7 @@ void TestDrawing::colourScaleNamesOtherColours() {
   ViewFixture f;
   f.show();
   const auto title = [&f] {
-    return f.plot().plot()->axisTitle(QwtPlot::yRight).text();
+    return f.plot().plot()->axisTitle(QwtPlot::yRight).text().replace(QStringLiteral("&nbsp;"), QStringLiteral(" "));
   };
   QVERIFY(!title().contains(QStringLiteral("no value")));
   f.net.element(QStringLiteral("AB"))->set(QStringLiteral("state"), QStringLiteral("off"));
@@ -216,6 +217,13 @@ void TestDrawing::colourScaleNamesOtherColours() {
   f.show();
   for (const char *name : {"no value", "no flow", "off"})
     QVERIFY2(title().contains(QString::fromLatin1(name)), name);
+  // Beside a low drawing it stands in lines instead of losing its ends.
+  const QwtScaleWidget &scale = *f.plot().plot()->axisWidget(QwtPlot::yRight);
+  f.plot().resize(600, 200);
+  f.picture();
+  QVERIFY(scale.height() < scale.title().textSize(scale.font()).width());
+  QVERIFY(scale.width() >= scale.dimForLength(scale.height(), scale.font()));
+  QVERIFY(scale.dimForLength(scale.height(), scale.font()) > scale.dimForLength(2000, scale.font()) + 8);
 }
 
 void TestDrawing::picturesHoldVectors() {

@@ -142,8 +142,8 @@ void TestNetUpdate::fixedBounds() {
   settings.maxVal_edgeColor = 9e6;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
-  const QWidget *scale = f.plot().plot()->axisWidget(QwtPlot::yRight);
-  QVERIFY(scale->width() >= scale->minimumSizeHint().width());
+  const QwtScaleWidget *scale = f.plot().plot()->axisWidget(QwtPlot::yRight);
+  QVERIFY(scale->width() >= scale->dimForLength(scale->height(), scale->font()));
   for (const auto &[low, high] : {std::make_pair(50.0, 45.0), {qInf(), qInf()}, {qQNaN(), qQNaN()}}) {
     settings.minVal_edgeColor = low; // upside down or no numbers: the range of the data
     settings.maxVal_edgeColor = high;
