@@ -99,8 +99,12 @@ void VectorPlot::show(const QString &title, const std::vector<std::pair<int, dou
     if (statistics.maximum > statistics.minimum) {
       mark(*m_histogram, statistics.quantile(0.05), tr("5 %"), Blue, Qt::DashLine, Qt::AlignRight | Qt::AlignTop);
       mark(*m_histogram, statistics.quantile(0.95), tr("95 %"), Blue, Qt::DashLine, Qt::AlignRight | Qt::AlignTop);
-      mark(*m_histogram, statistics.quantile(0.5), tr("median"), Blue, Qt::SolidLine, Qt::AlignLeft | Qt::AlignVCenter);
-      mark(*m_histogram, statistics.mean, tr("mean"), Orange, Qt::SolidLine, Qt::AlignRight | Qt::AlignVCenter);
+      const double median = statistics.quantile(0.5);
+      const bool isMedianLeft = median <= statistics.mean; // their names turn away from one another
+      mark(*m_histogram, median, tr("median"), Blue, Qt::SolidLine,
+           (isMedianLeft ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+      mark(*m_histogram, statistics.mean, tr("mean"), Orange, Qt::SolidLine,
+           (isMedianLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     }
     m_summary->setText(
         tr("%1 numbers of %2: minimum %3, maximum %4, mean %5, standard deviation %6, "
