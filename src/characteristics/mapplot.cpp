@@ -62,15 +62,15 @@ QString pointText(const std::optional<WorkingPoint> &point) {
     return MapPlot::tr("no working point");
   if (!point->isCompressing())
     return point->remarks.value(0);
-  QStringList parts{MapPlot::tr("Q = %1 m³/s").arg(shownNumber(point->flow)),
-                    MapPlot::tr("H = %1 kJ/kg").arg(shownNumber(point->head))};
+  const QString place = MapPlot::tr("Q = %1 m³/s, H = %2 kJ/kg").arg(shownNumber(point->flow), shownNumber(point->head));
+  QStringList parts;
   if (point->speed)
     parts.append(MapPlot::tr("n = %1 1/min").arg(shownNumber(*point->speed)));
   if (point->efficiency)
     parts.append(MapPlot::tr("η = %1 %").arg(shownNumber(100.0 * *point->efficiency, 3)));
   if (point->power)
     parts.append(MapPlot::tr("P = %1 kW").arg(shownNumber(*point->power)));
-  return parts.join(QStringLiteral(", "));
+  return place + QLatin1Char('\n') + parts.join(QStringLiteral(", ")); // a dock is narrower than all in one line
 }
 
 /// "CS1: T1", or the name alone where it stands in no station.
@@ -119,6 +119,7 @@ void MapPlot::reset(const QString &name, const std::optional<WorkingPoint> &poin
   QFont font = title.font();
   font.setPointSize(TitleSize);
   title.setFont(font);
+  title.setRenderFlags(Qt::AlignHCenter | Qt::TextWordWrap);
   setTitle(title);
   auto *grid = new QwtPlotGrid;
   grid->setMajorPen(Qt::lightGray, 0.0, Qt::DotLine);
