@@ -341,6 +341,7 @@ void ToolDocks::showContents(const QString &name) {
     m_propViewer->showCurrentEleContents(e);
   if (!m_info->isVisible())
     return;
+  m_info->reset();
   m_info->showEleLabel(e);
   m_info->showSubLabel(m_net.assembledSubnets().find(name));
 }

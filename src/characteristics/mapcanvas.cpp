@@ -65,6 +65,7 @@ void MapCanvas::reset(const QString &heading, const QString &x, const QString &y
   QwtText title(heading, QwtText::PlainText);
   QFont font = title.font();
   font.setPointSize(TitleSize);
+  title.setRenderFlags(Qt::AlignHCenter | Qt::TextWordWrap);
   title.setFont(font);
   setTitle(title);
   auto *grid = new QwtPlotGrid;

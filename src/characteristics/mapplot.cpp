@@ -33,21 +33,21 @@ std::vector<double> roundValues(double from, double to) {
   return values;
 }
 
-/// The working point in a line.
+/// The working point in two lines.
 QString pointText(const std::optional<WorkingPoint> &point) {
   if (!point)
     return MapPlot::tr("no working point");
   if (!point->isCompressing())
     return point->remarks.value(0);
-  QStringList parts{MapPlot::tr("Q = %1 m³/s").arg(shownNumber(point->flow)),
-                    MapPlot::tr("H = %1 kJ/kg").arg(shownNumber(point->head))};
+  const QString place = MapPlot::tr("Q = %1 m³/s, H = %2 kJ/kg").arg(shownNumber(point->flow), shownNumber(point->head));
+  QStringList parts;
   if (point->speed)
     parts.append(MapPlot::tr("n = %1 1/min").arg(shownNumber(*point->speed)));
   if (point->efficiency)
     parts.append(MapPlot::tr("η = %1 %").arg(shownNumber(100.0 * *point->efficiency, 3)));
   if (point->power)
     parts.append(MapPlot::tr("P = %1 kW").arg(shownNumber(*point->power)));
-  return parts.join(QStringLiteral(", "));
+  return place + QLatin1Char('\n') + parts.join(QStringLiteral(", ")); // a dock is narrower than all in one line
 }
 
 QString heading(const QString &name, const std::optional<WorkingPoint> &point) {

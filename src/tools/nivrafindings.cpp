@@ -87,7 +87,7 @@ void NivraFindings::fill() {
   }
   m_tree->resizeColumnToContents(ElementColumn);
   m_tree->resizeColumnToContents(PlaceColumn);
-  m_count->setText(shown == m_list.count() ? tr("%1 findings").arg(shown)
+  m_count->setText(shown == m_list.count() ? (shown == 1 ? tr("1 finding") : tr("%1 findings").arg(shown))
                                            : tr("%1 of %2 findings").arg(shown).arg(m_list.count()));
 }
 

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEvent>
+#include <QHeaderView>
 #include <QMap>
 
 namespace {
@@ -55,7 +56,7 @@ void NivraPropViewer::showCurrentEleContents(const element *ele) {
     for (const PropertyList::Row &row : group.rows) {
       auto *item = new QTreeWidgetItem(parent, {row.property, row.value, row.unit});
       if (row.isLong)
-        item->setSizeHint(ValueColumn, tree->headerItem()->sizeHint(ValueColumn));
+        item->setSizeHint(ValueColumn, QSize(tree->header()->sectionSizeHint(ValueColumn), 0));
     }
   }
   tree->expandAll();

@@ -1,4 +1,5 @@
 #include <tools/networksearch.h>
+#include <tools/numberdelegate.h>
 #include <tools/propertylist.h>
 
 #include <QRegularExpression>
@@ -45,7 +46,7 @@ PropertyList::Row PropertyList::rowOf(const QString &type, const Property &prope
   const bool isRaw = isText || name.contains(QLatin1String(".transient"), Qt::CaseInsensitive);
   const DisplayValue::Shown shown = m_display.of(type, property.key, property.value);
   Row row{name, isRaw ? property.value.toString() : shown.value, shown.unit, false};
-  row.isLong = isText || row.value.size() > LongestText;
+  row.isLong = isText || NumberDelegate::forTheEye(row.value).size() > LongestText;
   return row;
 }
 

@@ -175,6 +175,8 @@ void TableMenu::markHeader(int column) {
   model->setHeaderData(column, Qt::Horizontal, text.isEmpty() ? QVariant() : funnel(), Qt::DecorationRole);
   model->setHeaderData(column, Qt::Horizontal, PlainTip::of(text.isEmpty() ? QString() : tr("Filter: %1").arg(text)),
                        Qt::ToolTipRole);
+  if (!m_header->isSectionHidden(column)) // the funnel needs room beside the title
+    m_header->resizeSection(column, std::max(m_header->sectionSize(column), m_header->sectionSizeHint(column)));
 }
 
 void TableMenu::apply() {

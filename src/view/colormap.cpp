@@ -10,13 +10,14 @@ namespace {
 constexpr double Last = TableColorMap::Colors - 1;
 
 // Samples at equal steps. Viridis and cividis: S. van der Walt and N. Smith (2015), J. Nunez, C. Anderton and R. Renslow
-// (2018). Blue to red: the scheme RdBu of C. Brewer, turned round.
+// (2018). Blue to red: the scheme RdBu of C. Brewer, turned round, with a grey middle: thin lines of its white would be
+// lost on white paper.
 constexpr std::array<QRgb, 11> Viridis{0xff440154, 0xff482475, 0xff414487, 0xff355f8d, 0xff2a788e, 0xff21918c,
                                        0xff22a884, 0xff44bf70, 0xff7ad151, 0xffbddf26, 0xfffde725};
 constexpr std::array<QRgb, 11> Cividis{0xff00224e, 0xff0f306b, 0xff35426c, 0xff4e576c, 0xff666970, 0xff7d7c78,
                                        0xff958f78, 0xffada373, 0xffc8b866, 0xffe4cf5b, 0xfffee838};
-constexpr std::array<QRgb, 11> BlueWhiteRed{0xff053061, 0xff2166ac, 0xff4393c3, 0xff92c5de, 0xffd1e5f0, 0xfff7f7f7,
-                                            0xfffddbc7, 0xfff4a582, 0xffd6604d, 0xffb2182b, 0xff67001f};
+constexpr std::array<QRgb, 11> BlueGreyRed{0xff053061, 0xff2166ac, 0xff4393c3, 0xff92c5de, 0xffacc9da, 0xffc8c8c8,
+                                           0xffe4b8a2, 0xfff4a582, 0xffd6604d, 0xffb2182b, 0xff67001f};
 
 template <std::size_t Count>
 QRgb between(const std::array<QRgb, Count> &samples, double fraction) {
@@ -58,7 +59,7 @@ QRgb ColorRamp::color(double fraction) const {
   case Kind::Cividis:
     return between(Cividis, fraction);
   case Kind::Diverging:
-    return between(BlueWhiteRed, fraction);
+    return between(BlueGreyRed, fraction);
   case Kind::Hue:
     break;
   }

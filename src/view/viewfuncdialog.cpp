@@ -107,7 +107,7 @@ void viewFuncDialog::fillChoices() {
   m_ui->colorRamp->addItem(tr("hues of your choice"), ColorRamp::names().at(0));
   m_ui->colorRamp->addItem(tr("viridis (even steps)"), ColorRamp::names().at(1));
   m_ui->colorRamp->addItem(tr("cividis (also for colour-blind eyes)"), ColorRamp::names().at(2));
-  m_ui->colorRamp->addItem(tr("blue, white, red about zero"), ColorRamp::names().at(3));
+  m_ui->colorRamp->addItem(tr("blue, grey, red about zero"), ColorRamp::names().at(3));
   m_ui->classMethod->addItem(tr("none, a smooth scale"), QString());
   m_ui->classMethod->addItem(tr("equal intervals"), PlotSettings::equalClasses());
   m_ui->classMethod->addItem(tr("as many elements in each"), PlotSettings::quantileClasses());

@@ -116,6 +116,9 @@ void TestToolsInWindow::panelsShowWhatIsMarkedWhenTheyOpen() {
   properties.hide();
   properties.show();
   QVERIFY(properties.elementName().isEmpty()); // nothing is marked
+  information.hide();
+  information.show();
+  QTRY_COMPARE(element->text().trimmed(), QStringLiteral("No element marked!"));
 }
 
 void TestToolsInWindow::drawingStandsStillUnderTheMouse() {

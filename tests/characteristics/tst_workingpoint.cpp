@@ -15,6 +15,7 @@
 #include <QTemporaryFile>
 #include <qwt_plot_marker.h>
 #include <qwt_scale_div.h>
+#include <qwt_text_label.h>
 
 #include <cmath>
 
@@ -630,6 +631,8 @@ void TestWorkingPoint::exportedMapsAreLargeAndWhole() {
   QwtPlot &base = plot;
   base.show();
   QVERIFY(QTest::qWaitForWindowExposed(&plot));
+  QVERIFY2(plot.titleLabel()->heightForWidth(plot.titleLabel()->width()) > 2 * plot.titleLabel()->fontMetrics().height(),
+           "a line that is too long for the width goes on in the next");
   const auto save = [&](const char *name) {
     const QString path = folder.filePath(QString::fromLatin1(name));
     return plot.save(path) ? QImage(path) : QImage();

@@ -230,6 +230,8 @@ void TestPropViewer::longNamesNeedNoRoom() {
   QCOMPARE(viewer.minimumSizeHint().width(), panel.width());
   QCOMPARE(info.minimumSizeHint().width(), information.width());
   QCOMPARE(viewer.toggleViewAction()->text(), action);
+  const auto *tree = viewer.findChild<QTreeWidget *>();
+  QVERIFY2(tree->columnWidth(1) < 200, qPrintable(QString::number(tree->columnWidth(1)))); // the unit stays in sight
   window.removeDockWidget(&viewer);
   viewer.setParent(nullptr);
 }

@@ -4,6 +4,7 @@
 #include <tools/csvfield.h>
 #include <tools/nivravectable.h>
 #include <tools/tablemenu.h>
+#include <tools/vectorplot.h>
 
 #include <QAction>
 #include <QApplication>
@@ -18,6 +19,9 @@
 #include <QTemporaryDir>
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
+#include <qwt_plot_marker.h>
+
+#include <map>
 
 class TestVectorTable : public QObject {
   Q_OBJECT
@@ -33,6 +37,8 @@ private slots:
   void cellsAreNoFormulas();
   void sortsAsPeopleCount();
   void copySaveAndPlotHoldWhatIsShown();
+  void meanAndMedianStandApart_data();
+  void meanAndMedianStandApart();
   void filtersEndWithTheList();
   void machinesOpenTheirMaps();
   void tableFollowsItsChoices();
@@ -227,6 +233,31 @@ void TestVectorTable::copySaveAndPlotHoldWhatIsShown() {
   QCOMPARE(plotted(), std::size_t(2)); // of the selection, which spans the hidden row
   table->clearSelection();
   QCOMPARE(plotted(), std::size_t(2));
+}
+
+void TestVectorTable::meanAndMedianStandApart_data() {
+  QTest::addColumn<double>("last"); // of 1, 5 and this number
+  QTest::newRow("median on the left") << 30.0;
+  QTest::newRow("median on the right") << 5.5;
+}
+
+/// Each name stands on the side of its line that is turned away from the other line.
+void TestVectorTable::meanAndMedianStandApart() {
+  QFETCH(double, last);
+  VectorPlot plot;
+  plot.show(QStringLiteral("p"), {{1, 1.0}, {2, 5.0}, {3, last}}, QStringLiteral("all rows"));
+  std::map<QString, const QwtPlotMarker *> markers;
+  for (const QwtPlot *each : plot.findChildren<QwtPlot *>())
+    for (const QwtPlotItem *item : each->itemList(QwtPlotItem::Rtti_PlotMarker)) {
+      const auto *marker = static_cast<const QwtPlotMarker *>(item);
+      markers[marker->label().text()] = marker;
+    }
+  const QwtPlotMarker *mean = markers[QStringLiteral("mean")];
+  const QwtPlotMarker *median = markers[QStringLiteral("median")];
+  QVERIFY(mean != nullptr && median != nullptr);
+  const bool isMeanLeft = mean->xValue() < median->xValue();
+  QCOMPARE(mean->labelAlignment().testFlag(Qt::AlignLeft), isMeanLeft);
+  QCOMPARE(median->labelAlignment().testFlag(Qt::AlignLeft), !isMeanLeft);
 }
 
 void TestVectorTable::filtersEndWithTheList() {
