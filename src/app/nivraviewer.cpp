@@ -171,8 +171,6 @@ void NivraViewer::openWorkspace(const QString &path) {
   m_tools->setFindings(m_loader.noticed());
   m_tools->setScenario(m_loader.scenarioSummary());
   m_tools->setMachines(m_loader.machines());
-  for (QAction *action : {m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
-    action->setEnabled(true);
   showTitle();
   m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(outcome(done)));
   if (done && m_loader.workspace().hasScenario())
@@ -290,10 +288,20 @@ void NivraViewer::showTitle() {
   setWindowTitle(title);
 }
 
+/// While a network is read the program answers "Cancel" and the frames of its windows alone: tools would show half of it,
+/// and change it under the reader's hands.
 void NivraViewer::setBusy(bool busy) {
-  m_ui->menubar->setEnabled(!busy);
-  m_ui->actionOpen->setEnabled(!busy);
-  m_control->plot()->setEnabled(!busy);
+  for (QAction *action : {m_ui->actionOpen, m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
+    action->setEnabled(!busy);
+  QWidgetList widgets{m_ui->menubar, m_control->plot()};
+  for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
+    widgets.append(dock);
+  for (QWidget *window : QApplication::topLevelWidgets()) {
+    if (window != this && window->parentWidget() == nullptr)
+      widgets.append(window);
+  }
+  for (QWidget *widget : qAsConst(widgets))
+    widget->setEnabled(!busy);
 }
 
 void NivraViewer::elementAction(const QString &eleName, NetPicker::EleAction eleAction) {

@@ -94,8 +94,8 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   const QString caseDirectory = isScenario ? upwards(directory) : directory;
   const QString root = upwards(caseDirectory);
   if (!file.isFile()) {
-    NivraMsg::logCritical(file.exists() ? QStringLiteral("NivraWorkspace::fromFile(): not a regular file ") + path
-                                        : QStringLiteral("NivraWorkspace::fromFile(): File does not exist ") + path);
+    NivraMsg::logCritical(QStringLiteral("NivraWorkspace::fromFile(): File does not exist ") + path +
+                          (file.exists() ? QStringLiteral(" (there is something else of that name)") : QString()));
     return {};
   }
   if (!QFileInfo(root).isDir()) {

@@ -197,8 +197,12 @@ private:
   QString faultOfTheWhole() const {
     constexpr int MostUses = 1000;
     constexpr double MostDashes = 1e6;
+    // A line from side to side for every two of them takes a third of a millisecond a number.
+    constexpr int MostNumbers = 20000;
     if (m_uses > MostUses || m_used.intersects(m_using))
       return tr("it repeats parts within parts");
+    if (m_count > MostNumbers)
+      return tr("it has more than %1 numbers").arg(MostNumbers);
     if (m_count * m_largest > MostDashes * m_shortestDash)
       return tr("its lines have too many dashes");
     return QString();

@@ -137,6 +137,8 @@ void TestSymbols::badSvg_data() {
       << head + "<polygon points='0,0 1e308,0 1e308,1e308' stroke='red' stroke-dasharray='0 1'/></svg>";
   QTest::newRow("lines of very short dashes")
       << head + "<polygon points='0,0 900000,0 900000,900000' stroke='red' style='stroke-dasharray:1e-4,1e-4'/></svg>";
+  QTest::newRow("lines to and fro") << head + "<polyline stroke='red' points='" + QByteArray("0,0 9,9 ").repeated(50000) +
+                                           "'/></svg>";
   QTest::newRow("endless number") << head + "<rect width='" + QByteArray(400, '9') + "' height='1'/></svg>";
   QByteArray attributes;
   for (int i = 0; i < 60000; ++i)
