@@ -30,7 +30,8 @@ void TestNetworkLoader::everythingReadIsReachable() {
   for (const ScenarioSummary::Row &row : loader.scenarioSummary().rows)
     told.append(QStringLiteral("%1=%2 %3").arg(row.name, row.value, QFileInfo(row.source).fileName()));
   QCOMPARE(QFileInfo(loader.scenarioSummary().gasFile).fileName(), QStringLiteral("S1.gas.jsn"));
-  for (const char *expected : {"tsoil=280 S1.scen.cfg.jsn", "mode=fast S1.scen.cfg.jsn", "workDir=S1 scenconfig.jsn", "tamb=285.15 ", "scenFile=S1.scen S1.scen.jsn"})
+  for (const char *expected : {"tsoil=280 S1.scen.cfg.jsn", "mode=fast S1.scen.cfg.jsn", "workDir=S1 scenconfig.jsn",
+                               "tamb=285.15 ", "scenFile=S1.scen S1.scen.jsn"})
     QVERIFY2(told.contains(QLatin1String(expected)), qPrintable(told.join(QLatin1Char('\n'))));
 }
 

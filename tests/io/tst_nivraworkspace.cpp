@@ -290,8 +290,8 @@ void TestNivraWorkspace::summaryTellsValuesAndTheirFiles() {
   workspace.readScenarioConfiguration(gas, findings);
   element hydrogen;
   hydrogen.set(QStringLiteral("rhon"), QStringLiteral("0.09"));
-  const ScenarioSummary summary =
-      ScenarioSummary::of(workspace, gas, {{QStringLiteral("Hydrogen"), hydrogen}}, {workspace.geometryPath(), QStringLiteral("/gas")});
+  const ScenarioSummary summary = ScenarioSummary::of(workspace, gas, {{QStringLiteral("Hydrogen"), hydrogen}},
+                                                      {workspace.geometryPath(), QStringLiteral("/gas")});
   const auto row = [&summary](const char *name) {
     QStringList told;
     for (const ScenarioSummary::Row &candidate : summary.rows) {
