@@ -55,9 +55,10 @@ QString Measure::networkOfOtherNames(int elements) {
   QFile target(to);
   if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
     qFatal("no network can be written");
-  // "NAME":{ and what names an element, such as "node1":"NAME"
+  // "NAME":{ and what names an element, such as "node1":"NAME". Behind the first letter, so that the names keep their order
+  // and the elements are walked as before.
   static const QRegularExpression name(
-      QStringLiteral("^(,?\")[A-Za-z]|(\"(?:node1|node2|gasnode|driven|drive)\":\")[A-Za-z]"));
+      QStringLiteral("^(,?\"[A-Za-z])|(\"(?:node1|node2|gasnode|driven|drive)\":\"[A-Za-z])"));
   while (!source.atEnd()) {
     QString line = QString::fromUtf8(source.readLine());
     target.write(line.replace(name, QStringLiteral("\\1\\2\u00e4")).toUtf8());

@@ -43,7 +43,7 @@ int decimals(double largestMagnitude, int digits) {
 }
 
 QString fixed(double value, int decimals) {
-  const QString text = QString::number(value, 'f', decimals);
+  QString text = QString::number(value, 'f', decimals);
   const bool showsNoDigit =
       std::none_of(text.begin(), text.end(), [](QChar c) { return c >= QLatin1Char('1') && c <= QLatin1Char('9'); });
   if (!showsNoDigit)
