@@ -195,7 +195,7 @@ void ToolDocks::createLayers() {
   connect(m_layers, &NivraNetLayersEditor::hiddenLayersWanted, this,
           [this, &update](const QString &property, const QSet<QString> &hidden) {
             update.setHiddenLayers(property, hidden);
-            m_layers->setHiddenLayers(update.hiddenLayers());
+            m_layers->setHiddenLayers(update.layers().hidden());
           });
   connect(m_layers, &NivraNetLayersEditor::layerVisChanged, this, [&update] {
     update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);

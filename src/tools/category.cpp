@@ -48,7 +48,7 @@ QString meant(const QString &field) {
 /// Files written elsewhere may be in the encoding of old.
 QString decoded(const QByteArray &content, const QString &path) {
   QTextCodec::ConverterState state;
-  const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(content.constData(), content.size(), &state);
+  QString text = QTextCodec::codecForName("UTF-8")->toUnicode(content.constData(), content.size(), &state);
   if (state.invalidChars == 0)
     return text;
   NivraMsg::logWarning(QStringLiteral("%1 is not UTF-8 and is read as Latin-1").arg(path));

@@ -176,6 +176,7 @@ void NivraVecTable::on_pushButtonTryNumSort_clicked() {
   const auto text = [&table](int row, int column) {
     return table.item(row, column)->text();
   };
+  rows.reserve(static_cast<std::size_t>(table.rowCount()));
   for (int row = 0; row < table.rowCount(); ++row)
     rows.push_back({text(row, NameColumn), text(row, TypeColumn), text(row, PropertyColumn), text(row, ValueColumn),
                     text(row, UnitColumn), text(row, ResultColumn), text(row, NumsortColumn)});

@@ -53,6 +53,7 @@ NetPlot::NetPlot(QWidget *parent)
   m_legend.hide();
   m_hint.attach(m_plot);
   m_hint.hide();
+  m_selection.setFilter(&m_update->layers());
   m_selection.attach(m_plot);
   m_plot->setOverlayItem(&m_selection);
   applyColors();

@@ -122,6 +122,8 @@ void SelectionLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtS
     return;
   PixelGrid grid(canvasRect, Cell);
   for (const NetGeometry::Item item : m_items) {
+    if (m_layers != nullptr && m_layers->isHidden(item))
+      continue;
     if (m_items.size() > Many) {
       const std::optional<QPointF> center = m_geometry->center(item);
       if (!center || !grid.take(projection.map(center->x(), center->y())))

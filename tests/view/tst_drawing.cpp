@@ -27,6 +27,7 @@ private slots:
   void arrowsPointWhereTheGasGoes();
   void searchResultsStandOut();
   void colourScaleNamesOtherColours();
+  void hiddenElementsHaveNoMarks();
   void picturesHoldVectors();
   void likeTheKeptPictures_data();
   void likeTheKeptPictures();
@@ -224,6 +225,20 @@ void TestDrawing::colourScaleNamesOtherColours() {
   QVERIFY(scale.height() < scale.title().textSize(scale.font()).width());
   QVERIFY(scale.width() >= scale.dimForLength(scale.height(), scale.font()));
   QVERIFY(scale.dimForLength(scale.height(), scale.font()) > scale.dimForLength(2000, scale.font()) + 8);
+}
+
+void TestDrawing::hiddenElementsHaveNoMarks() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("vis.layer"), QStringLiteral("exits"));
+  f.show();
+  const QImage plain = f.picture();
+  f.control.picker()->markElement(QStringLiteral("A"));
+  QVERIFY(f.picture() != plain);
+  f.plot().update().setHiddenLayers(QStringLiteral("vis.layer"), {QStringLiteral("exits")});
+  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  const QImage hidden = f.picture();
+  f.control.picker()->setSelection(Selection());
+  QCOMPARE(hidden, f.picture());
 }
 
 void TestDrawing::picturesHoldVectors() {

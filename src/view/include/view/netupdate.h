@@ -40,7 +40,7 @@ public:
   const LabelTable &labelTable() const { return m_labelTable; }
   /// Layers whose elements are not drawn, by the values of the property; drawn with the next updatePlot().
   void setHiddenLayers(const QString &property, const QSet<QString> &layers) { m_layers.setHidden(property, layers); }
-  const QSet<QString> &hiddenLayers() const { return m_layers.hidden(); }
+  const LayerFilter &layers() const { return m_layers; }
   void setDisplayMode(DisplayMode mode) { m_displayMode = mode; }
   DisplayMode displayMode() const { return m_displayMode; }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <view/layerfilter.h>
 #include <view/layergeometry.h>
 #include <view/netgeometry.h>
 
@@ -15,6 +16,8 @@ public:
 
   /// Nothing of another geometry stays marked.
   void setGeometry(const NetGeometry *geometry);
+  /// Whose hidden elements have no marks either. The filter is not owned.
+  void setFilter(const LayerFilter *layers) { m_layers = layers; }
   void setItems(std::vector<NetGeometry::Item> items) { m_items = std::move(items); }
   const std::vector<NetGeometry::Item> &items() const { return m_items; }
   /// False when it was under the cursor before.
@@ -41,6 +44,7 @@ private:
   double reachOf(NetGeometry::Item item) const;
 
   const NetGeometry *m_geometry = nullptr;
+  const LayerFilter *m_layers = nullptr;
   std::vector<NetGeometry::Item> m_items;
   std::optional<NetGeometry::Item> m_hovered;
   Style m_element;
