@@ -31,7 +31,8 @@ QString key(const QString &caseDirectory) {
 } // namespace
 
 QString LastScenario::of(const QString &caseDirectory) {
-  for (const QJsonValue &entry : known()) {
+  const QJsonArray entries = known();
+  for (const QJsonValue &entry : entries) {
     if (entry[0].toString() != key(caseDirectory))
       continue;
     const QString path = QDir(caseDirectory).filePath(entry[1].toString());

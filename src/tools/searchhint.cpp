@@ -43,6 +43,13 @@ Asked askedOf(NetData &net, const SearchParams &params) {
   return asked;
 }
 
+/// A person who types "pipe" into the field that has the cursor means the type.
+bool isTypeWord(NetData &net, const QString &text) {
+  SearchParams ofType;
+  ofType.type = text;
+  return QRegularExpression(text).isValid() && askedOf(net, ofType).hasType;
+}
+
 } // namespace
 
 QString SearchHint::of(NetData &net, const SearchParams &params, std::size_t found) {
@@ -59,6 +66,11 @@ QString SearchHint::of(NetData &net, const SearchParams &params, std::size_t fou
     return tr("There is no such property: \"%1\".").arg(params.prop);
   if (found == 0 && !params.searchString.isEmpty() && params.prop == QLatin1String("^name$"))
     return tr("Only names are searched. For other values write the property into Prop, or nothing for all of them.");
+  const bool isNameAlone = params.type.isEmpty() && params.searchString.isEmpty() && params.formula.isEmpty();
+  if (found == 0 && !params.name.isEmpty() && isNameAlone)
+    return isTypeWord(net, params.name)
+               ? tr("No name fits \"%1\". To find elements of this type write it into Type.").arg(params.name)
+               : tr("No name fits \"%1\".").arg(params.name);
   if (asked.properties.size() > 1 && asked.properties.contains(params.prop.toCaseFolded()))
     return tr("\"%1\" is a pattern and finds %2 properties with it in their names; \"^%1$\" finds %1 alone.")
         .arg(params.prop)

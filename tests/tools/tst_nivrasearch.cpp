@@ -410,6 +410,8 @@ void TestNivraSearch::saysWhyNothingIsFound_data() {
   row("a pattern", {QString(), QString(), QStringLiteral("p"), QString()}, "finds 2 properties");
   row("only names", {QString(), QString(), QStringLiteral("^name$"), QStringLiteral(">10")}, "Only names are searched");
   row("nothing to say", {QStringLiteral("zzz"), QStringLiteral("node"), QStringLiteral("^p$"), QString()}, "");
+  row("no such name", {QStringLiteral("zzz"), QString(), QStringLiteral("^name$"), QString()}, "No name fits \"zzz\".");
+  row("a type as a name", {QStringLiteral("node"), QString(), QStringLiteral("^name$"), QString()}, "write it into Type");
   row("no pattern", {QString(), QString(), QStringLiteral("("), QString()}, "");
 }
 
