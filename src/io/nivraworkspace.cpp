@@ -63,7 +63,7 @@ private:
 /// The name of a file without its kind (".geom" or ".scen") and the suffix of the JSON form. It ends at the first dot, as
 /// the other files of the case are named; a file that is not named so counts with its whole name.
 QString baseNameOf(const QFileInfo &file, const QString &kind, const QString &jsonSuffix) {
-  const QString shortest = file.fileName().section(QLatin1Char('.'), 0, 0);
+  QString shortest = file.fileName().section(QLatin1Char('.'), 0, 0);
   if (QFileInfo::exists(file.path() + QLatin1Char('/') + shortest + kind + jsonSuffix))
     return shortest;
   return file.fileName().chopped(kind.size() + jsonSuffix.size());
