@@ -17,7 +17,7 @@ bool isShown() {
 } // namespace
 
 // A timer of no time fires when all other events are done; before the event loop runs there is none to end.
-QObject *QuitWhenShown::create(const QString & /*name*/, const QString & /*specification*/) {
+QObject *QuitWhenShown::create(const QString & /*name*/, const QString & /*arguments*/) {
   auto *timer = new QTimer(this);
   connect(timer, &QTimer::timeout, this, [] {
     if (QThread::currentThread()->loopLevel() > 0 && isShown())

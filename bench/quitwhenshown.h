@@ -9,5 +9,5 @@ class QuitWhenShown : public QGenericPlugin {
   Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "quitwhenshown.json")
 
 public:
-  QObject *create(const QString &name, const QString &specification) override;
+  QObject *create(const QString &name, const QString &arguments) override;
 };

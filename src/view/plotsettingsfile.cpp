@@ -32,15 +32,15 @@ QColor storedColor(const QString &object) {
   const QByteArray bytes = object.toLatin1();
   if (!bytes.startsWith(Begin) || bytes.size() != Begin.size() + ColorBytes + 1 || !bytes.endsWith(')'))
     return QColor();
-  const char spec = bytes.at(Begin.size());
-  if (spec != QColor::Rgb && spec != QColor::Hsv)
+  const char model = bytes.at(Begin.size());
+  if (model != QColor::Rgb && model != QColor::Hsv)
     return QColor();
   QDataStream stream(bytes.mid(Begin.size(), ColorBytes));
   stream.setVersion(QDataStream::Qt_4_0);
   QColor color;
   stream >> color;
   constexpr int FullCircle = 359;
-  return spec == QColor::Hsv && color.hue() > FullCircle ? QColor() : color.toRgb();
+  return model == QColor::Hsv && color.hue() > FullCircle ? QColor() : color.toRgb();
 }
 
 /// Visits every stored field with its key, so that reading and writing cannot drift apart. A visitor takes plain fields
