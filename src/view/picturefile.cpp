@@ -49,9 +49,9 @@ QImage drawn(const QByteArray &svg, QString *error) {
 
 QImage pixels(QByteArray data, QString *error) {
   QBuffer buffer(&data);
-  const QByteArray format = PictureBounds::format(buffer);
-  const QString fault = PictureBounds::fault(buffer);
-  if (!fault.isEmpty()) {
+  QString fault;
+  const QByteArray format = PictureBounds::format(buffer, &fault);
+  if (format.isEmpty()) {
     fail(error, fault);
     return QImage();
   }

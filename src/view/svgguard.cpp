@@ -45,7 +45,8 @@ bool isBoundedPixels(const QStringRef &url) {
                            ? QByteArray()
                            : QByteArray::fromBase64(url.mid(comma + 1).toLatin1());
   QBuffer buffer(&content);
-  return PictureBounds::fault(buffer).isEmpty();
+  QString unasked;
+  return !PictureBounds::format(buffer, &unasked).isEmpty();
 }
 
 bool isInside(const QStringRef &reference) {
