@@ -105,7 +105,7 @@ public:
 
   QString fault() {
     while (!m_reader.atEnd()) {
-      const QString found = judge(m_reader.readNext());
+      QString found = judge(m_reader.readNext());
       if (!found.isEmpty())
         return found;
     }
@@ -153,7 +153,7 @@ private:
       }
       if (namesOutside(value))
         return tr("it refers to %1").arg(value.left(100).toString());
-      const QString found = numbersFault(attribute);
+      QString found = numbersFault(attribute);
       if (!found.isEmpty())
         return found;
     }
