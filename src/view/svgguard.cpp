@@ -226,7 +226,7 @@ QString SvgGuard::fault(const QByteArray &svg) {
   if (begin == svg.end() || svg.contains('\0') || (*begin != '<' && !svg.startsWith("\xEF\xBB\xBF")))
     return tr("it is no SVG text"); // among others a compressed one, which may be any size once it is unpacked
   // Marks are plain ASCII in the encodings that the reader takes.
-  if (const QString fault = XmlBounds::check(QString::fromLatin1(svg), Bounds).reason; !fault.isEmpty())
+  if (QString fault = XmlBounds::check(QString::fromLatin1(svg), Bounds).reason; !fault.isEmpty())
     return fault;
   return Walk(svg).fault();
 }
