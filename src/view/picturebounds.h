@@ -4,7 +4,8 @@
 #include <QIODevice>
 #include <QString>
 
-/// What pictures of pixels may ask for: formats whose readers are their own and not those of a document, and a bearable size.
+/// What pictures of pixels may ask for: formats whose readers are their own and not those of a document, and a bearable
+/// size.
 namespace PictureBounds {
 
 /// The picture's format as QImageReader names it, told by its content and not by a name; empty, with the reason for a person
