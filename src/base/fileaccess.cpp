@@ -109,7 +109,8 @@ QString confinementFault(const QString &path) {
 }
 
 bool openForReading(QFile &file, Source source, qint64 largest, QString *reason) {
-  QString why = source == Source::Workspace ? confinementFault(file.fileName()) : QString();
+  const QString path = file.fileName(); // which a file that is opened by its descriptor forgets
+  QString why = source == Source::Workspace ? confinementFault(path) : QString();
   if (why.isEmpty() && openRegular(file, &why)) {
     if (largest == AnySize || file.size() <= largest)
       return true;
@@ -117,7 +118,7 @@ bool openForReading(QFile &file, Source source, qint64 largest, QString *reason)
     file.close();
   }
   if (reason != nullptr)
-    *reason = file.fileName() + QStringLiteral(": ") + why;
+    *reason = path + QStringLiteral(": ") + why;
   return false;
 }
 
@@ -126,11 +127,14 @@ std::optional<QByteArray> readWhole(const QString &path, Source source, qint64 l
   if (!openForReading(file, source, largest, reason))
     return std::nullopt;
   // A file that grows while it is read counts with the size that was judged.
-  QByteArray content = file.read(file.size());
-  if (file.error() == QFile::NoError)
+  const qint64 size = file.size();
+  QByteArray content = file.read(size);
+  if (file.error() == QFile::NoError && content.size() == size)
     return content;
   if (reason != nullptr)
-    *reason = path + QStringLiteral(": ") + file.errorString();
+    *reason = path + QStringLiteral(": ") +
+              (file.error() != QFile::NoError ? file.errorString()
+                                              : QCoreApplication::translate("FileAccess", "cannot be read to its end"));
   return std::nullopt;
 }
 

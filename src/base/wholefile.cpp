@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
+
 namespace WholeFile {
 
 bool write(const QString &path, FileAccess::Source source, const Writer &writer, QString *reason) {
@@ -19,10 +21,11 @@ bool write(const QString &path, FileAccess::Source source, const Writer &writer,
       return true;
     if (!isWritten) {
       // Before the cancelling becomes the error; a writer of a format only knows that it failed. Of a block that was
-      // written in part the system names no error.
-      if (file.error() != QFileDevice::NoError)
+      // written in part nobody names the error.
+      const bool isFailed = file.error() != QFileDevice::NoError;
+      if (isFailed && file.errorString() != QCoreApplication::translate("QIODevice", "Unknown error"))
         why = file.errorString();
-      else if (why.isEmpty())
+      else if (isFailed || why.isEmpty())
         why = QCoreApplication::translate("WholeFile", "not everything could be written; is the disk full?");
       file.cancelWriting();
     }
@@ -40,8 +43,25 @@ bool write(const QString &path, FileAccess::Source source, const QByteArray &con
 }
 
 bool copy(const QString &from, const QString &to, QString *reason) {
-  const auto content = FileAccess::readWhole(from, FileAccess::Source::Workspace, FileAccess::AnySize, reason);
-  return content && write(to, FileAccess::Source::Trusted, *content, reason);
+  QFile source(from);
+  if (!FileAccess::openForReading(source, FileAccess::Source::Workspace, FileAccess::AnySize, reason))
+    return false;
+  const auto blocks = [&source, &from](QIODevice &device, QString *why) {
+    constexpr qint64 Block = qint64(1) << 20;
+    qint64 left = source.size();
+    while (left > 0) {
+      const QByteArray block = source.read(std::min(left, Block));
+      if (block.isEmpty()) {
+        *why = QCoreApplication::translate("WholeFile", "%1 cannot be read to its end").arg(from);
+        return false;
+      }
+      if (device.write(block) != block.size())
+        return false;
+      left -= block.size();
+    }
+    return true;
+  };
+  return write(to, FileAccess::Source::Trusted, blocks, reason);
 }
 
 } // namespace WholeFile

@@ -138,11 +138,14 @@ std::shared_ptr<const GasLaw> byCriticalValues(const GasData &gas, const std::op
       std::move(equation), tr("corresponding states by its critical values (methane of GERG-2008)"), QStringList());
 }
 
-/// Newton's method with a bisection behind it: the function grows with the temperature.
+/// Newton's method with a bisection behind it: the function grows with the temperature. Nothing beyond 100 to 1000 K.
 template <typename Value>
 std::optional<double> temperatureFor(double wanted, double start, const Value &value) {
-  double low = 100.0;
-  double high = 1000.0;
+  constexpr double Coldest = 100.0; // K
+  constexpr double Warmest = 1000.0;
+  constexpr double Beside = 1e-3; // of an end: nothing lies between the ends
+  double low = Coldest;
+  double high = Warmest;
   double temperature = start;
   constexpr int Turns = 80;
   for (int i = 0; i < Turns; ++i) {
@@ -156,7 +159,7 @@ std::optional<double> temperatureFor(double wanted, double start, const Value &v
     if (!(next > low && next < high))
       next = 0.5 * (low + high);
     if (std::abs(next - temperature) < 1e-9 * temperature)
-      return next;
+      return next - Coldest > Beside && Warmest - next > Beside ? std::optional<double>(next) : std::nullopt;
     temperature = next;
   }
   return std::nullopt;

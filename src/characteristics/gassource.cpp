@@ -64,8 +64,7 @@ GasSource::Gas GasSource::at(const element &node) const {
   const GasData own = GasData::of(node);
   if (own.isEnough())
     return made(own, tr("of the node %1").arg(node.value(QStringLiteral("name"))));
-  const auto named = m_scenario.gases.find(node.value(QStringLiteral("gas")));
-  if (named != m_scenario.gases.end()) {
+  if (const auto *named = gasNamed(m_scenario.gases, node.value(QStringLiteral("gas")))) {
     const GasData data = GasData::of(named->second);
     if (data.isEnough())
       return made(data, tr("%1, which the node names").arg(named->first));

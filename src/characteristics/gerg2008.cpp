@@ -2,6 +2,7 @@
 
 #include "gergcoefficients.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 

@@ -162,14 +162,6 @@ TurboCompressor TurboCompressor::by(FunctionSource source) const {
   return machine;
 }
 
-bool StationConfiguration::contains(const QString &compressor) const {
-  return std::any_of(stages.begin(), stages.end(), [&compressor](const Stage &stage) {
-    return std::any_of(stage.begin(), stage.end(), [&compressor](const Unit &unit) {
-      return unit.compressor.compare(compressor, Qt::CaseInsensitive) == 0;
-    });
-  });
-}
-
 std::optional<std::pair<double, double>> TurboCompressor::flows(double speed) const {
   if (!head)
     return std::nullopt;

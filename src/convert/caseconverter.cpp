@@ -36,9 +36,12 @@ public:
   }
 
   void run() {
-    const auto filter = QDir::Files | QDir::System; // pipes, devices and broken links are told of
+    // Pipes, devices and links that lead nowhere or to folders are told of.
+    const auto filter = QDir::Files | QDir::AllDirs | QDir::NoDotAndDotDot | QDir::System | QDir::Hidden;
     for (QDirIterator files(m_source.absolutePath(), filter, QDirIterator::Subdirectories); files.hasNext();) {
       const QString path = files.next();
+      if (files.fileInfo().isDir() && !files.fileInfo().isSymLink())
+        continue;
       const QString name = m_source.relativeFilePath(path);
       const QString why = QFileInfo(path).isFile() ? FileAccess::confinementFault(path) : tr("is not a regular file");
       if (!why.isEmpty()) {

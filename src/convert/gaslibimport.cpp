@@ -145,9 +145,13 @@ private:
     GasLibStations stations(m_machines);
     bool isRead = stations.read();
     if (isRead) {
-      const std::size_t all = stations.stations.size();
+      const int all = static_cast<int>(stations.stations.size());
+      const auto dropped = [&stations] {
+        return stations.report.of(QStringLiteral("compressorStation")).dropped;
+      };
+      const int before = dropped(); // those that are described twice
       m_drives = StationDrives::make(m_net, stations);
-      isRead = all == 0 || stations.report.of(QStringLiteral("compressorStation")).dropped < static_cast<int>(all);
+      isRead = all == 0 || dropped() - before < all;
     }
     m_result.report.take(tr("drive"), static_cast<int>(m_drives.size()));
     return take(stations, isRead, m_machines, tr("compressor stations of this network"));

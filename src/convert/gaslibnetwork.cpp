@@ -148,6 +148,8 @@ void GasLibNetwork::readNodes() {
          {std::make_pair("x", "x"), {"y", "y"}, {"lat", "geoWGS84Lat"}, {"lon", "geoWGS84Long"}}) {
       if (const auto at = GasLibUnits::read(attribute(name)))
         add(record, property, *at);
+      else if (!attribute(name).isEmpty())
+        tell(tr("The %1 of %2 is no number: %3").arg(QLatin1String(name), record.name, attribute(name)));
     }
     add(record, "kind", kind);
     add(record, "vis.layer", layerOf(kind));
@@ -156,6 +158,7 @@ void GasLibNetwork::readNodes() {
     report.take(kind);
     m_boundaryNodes += isSource || isSink ? 1 : 0;
     m_kinds.insert(record.name, kind);
+    noteGas(record);
     nodes.push_back(std::move(record));
   }
 }
@@ -204,11 +207,12 @@ void GasLibNetwork::readConnections() {
 
 /// Connections without both ends cannot be drawn, nor can anyone say where they lie.
 void GasLibNetwork::leaveOutLooseEnds() {
+  static const PropertyKey node1 = PropertyKey::intern("node1");
+  static const PropertyKey node2 = PropertyKey::intern("node2");
   std::vector<Record> kept;
   for (std::size_t i = 0; i < edges.size(); ++i) {
-    // The ends are the first two values of an edge.
-    const QString from = edges[i].values[0].text.toString();
-    const QString to = edges[i].values[1].text.toString();
+    const QString from = edges[i].find(node1)->text.toString();
+    const QString to = edges[i].find(node2)->text.toString();
     const auto &[kind, line] = m_edgeOrigins[i];
     if (m_kinds.contains(from) && m_kinds.contains(to)) {
       report.take(kind);
@@ -224,9 +228,35 @@ void GasLibNetwork::leaveOutLooseEnds() {
 
 /// The diagram has its own coordinates; where it lacks them, those of the neighbours or of the map serve.
 void GasLibNetwork::placeNodes() {
-  const NodePlaces::Result result = NodePlaces::complete(nodes, edges);
-  if (!result.note.isEmpty())
-    tell(result.note, 0);
+  const QString note = NodePlaces::complete(nodes, edges);
+  if (!note.isEmpty())
+    tell(note, 0);
+}
+
+Units::Gas GasLibNetwork::conversionGas(const QString &node) const {
+  const Units::Gas first = m_gases.value(QString());
+  Units::Gas gas = m_gases.value(node);
+  if (!gas.normDensity)
+    gas.normDensity = first.normDensity;
+  if (!gas.calorificValue)
+    gas.calorificValue = first.calorificValue;
+  return gas;
+}
+
+/// Nodes without any are not kept; the first that states one stands for all under no name.
+void GasLibNetwork::noteGas(const Record &node) {
+  static const PropertyKey density = PropertyKey::intern("rhon");
+  static const PropertyKey calorific = PropertyKey::intern("hs");
+  Units::Gas gas;
+  if (const auto *value = node.find(density))
+    gas.normDensity = value->text.toDouble();
+  if (const auto *value = node.find(calorific))
+    gas.calorificValue = value->text.toDouble();
+  if (!gas.normDensity && !gas.calorificValue)
+    return;
+  m_gases.insert(node.name, gas);
+  if (!m_gases.contains(QString()))
+    m_gases.insert(QString(), gas);
 }
 
 GasLibReader::Record GasLibNetwork::gas() const {

@@ -23,6 +23,8 @@ public:
   int boundaryNodes() const { return m_boundaryNodes; }
   /// Of the first supply, which stands for all.
   Record gas() const;
+  /// What conversions between volume, mass and energy need: what the node states, else what the first supply does.
+  Units::Gas conversionGas(const QString &node) const;
 
   std::vector<Record> nodes;
   std::vector<Record> edges;
@@ -42,6 +44,7 @@ private:
 
   void readInformation();
   void readNodes();
+  void noteGas(const Record &node);
   void readConnections();
   bool isUsable(const QString &kind, bool isKnown, QHash<QString, int> &names);
   void readAttributes(Record &record, const std::vector<Attribute> &known);
@@ -51,6 +54,7 @@ private:
 
   QHash<QString, QString> m_kinds;                    ///< of nodes, by name
   QHash<QString, QString> m_connections;              ///< their kinds, by name
+  QHash<QString, Units::Gas> m_gases;                 ///< of the nodes that state one, by name; the first supply's without
   std::vector<std::pair<QString, int>> m_edgeOrigins; ///< kind in the XML, and line
   int m_boundaryNodes = 0;
 };

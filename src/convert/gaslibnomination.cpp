@@ -13,24 +13,11 @@ QString tr(const char *text) {
   return QCoreApplication::translate("GasLibNomination", text);
 }
 
-/// What conversions between volume, mass and energy need.
-Units::Gas conversionGas(const NetworkFileConverter::Record &gas) {
-  Units::Gas found;
-  for (const NetworkFileConverter::Value &value : gas.values) {
-    if (value.key == PropertyKey::intern("rhon"))
-      found.normDensity = value.text.toDouble();
-    else if (value.key == PropertyKey::intern("hs"))
-      found.calorificValue = value.text.toDouble();
-  }
-  return found;
-}
-
 } // namespace
 
 GasLibNomination::GasLibNomination(const QString &path, const GasLibNetwork &network)
     : GasLibReader(path)
-    , m_network(network)
-    , m_gas(conversionGas(network.gas())) {}
+    , m_network(network) {}
 
 bool GasLibNomination::read() {
   if (!start(QStringLiteral("boundaryValue"), QStringLiteral("Gas")))
@@ -110,11 +97,12 @@ void GasLibNomination::readNode(Scenario &scenario) {
   report.take(QStringLiteral("node"));
   Bounds flow;
   Bounds pressure;
+  const Units::Gas gas = m_network.conversionGas(node);
   while (m_xml.readNextStartElement()) {
     if (m_xml.name() == QLatin1String("flow"))
-      readBound(flow, "1000 m3/h", isEntry); // what leaves the network counts
+      readBound(flow, "1000 m3/h", gas, isEntry); // what leaves the network counts
     else if (m_xml.name() == QLatin1String("pressure"))
-      readBound(pressure, "bar", false);
+      readBound(pressure, "bar", gas, false);
     else
       readQuality(scenario, node);
   }
@@ -143,7 +131,7 @@ void GasLibNomination::readQuality(Scenario &scenario, const QString &node) {
     set(scenario, node, found->property, *value, found->unit);
 }
 
-void GasLibNomination::readBound(Bounds &bounds, const char *unit, bool isNegated) {
+void GasLibNomination::readBound(Bounds &bounds, const char *unit, const Units::Gas &gas, bool isNegated) {
   const QString bound = attribute("bound");
   const bool isBoth = bound == QLatin1String("both") || bound.isEmpty();
   const bool isLower = bound == QLatin1String("lower");
@@ -152,7 +140,7 @@ void GasLibNomination::readBound(Bounds &bounds, const char *unit, bool isNegate
     drop(tr("the bound \"%1\"").arg(bound));
     return;
   }
-  const std::optional<GasLibUnits::Number> value = number(unit, m_gas, isNegated);
+  const std::optional<GasLibUnits::Number> value = number(unit, gas, isNegated);
   if (!value)
     return;
   if (isBoth || isLower)

@@ -31,14 +31,13 @@ private:
   void readNode(Scenario &scenario);
   void readPipe(Scenario &scenario);
   void readQuality(Scenario &scenario, const QString &node);
-  void readBound(Bounds &bounds, const char *unit, bool isNegated);
+  void readBound(Bounds &bounds, const char *unit, const Units::Gas &gas, bool isNegated);
   void set(Scenario &scenario, const QString &node, const char *property, const GasLibUnits::Number &number,
            const char *unit);
   void set(Scenario &scenario, const QString &node, char quantity, const Bounds &bounds, const char *unit);
   bool belongsToNetwork();
 
   const GasLibNetwork &m_network;
-  Units::Gas m_gas;
   int m_nodes = 0;     ///< that were named
   int m_unknown = 0;   ///< of these, those that the network lacks
   int m_otherwise = 0; ///< of these, those that are entries here and exits there

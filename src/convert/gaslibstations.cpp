@@ -25,6 +25,12 @@ bool GasLibStations::read() {
 
 void GasLibStations::readStation() {
   Station station{attribute("id"), QString(), {}, static_cast<int>(m_xml.lineNumber())};
+  if (m_stations.contains(station.name.toLower())) {
+    tell(tr("%1 is described again; what follows is left out").arg(station.name));
+    drop(tr("named twice or not at all"));
+    return;
+  }
+  m_stations.insert(station.name.toLower());
   QSet<QString> named; // drives and compressors may be named alike
   while (m_xml.readNextStartElement()) {
     const bool areDrives = m_xml.name() == QLatin1String("drives");

@@ -2,6 +2,8 @@
 
 #include "gaslibreader.h"
 
+#include <QSet>
+
 #include <vector>
 
 /// Reads of which machines the compressor stations of a public instance (".cs") consist. The data of the machines are read
@@ -28,4 +30,6 @@ public:
 
 private:
   void readStation();
+
+  QSet<QString> m_stations; ///< folded names of those that were read
 };

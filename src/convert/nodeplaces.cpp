@@ -20,16 +20,9 @@ struct Place {
   double y = 0.0;
 };
 
-const NetworkFileConverter::Value *find(const Record &record, const char *property) {
-  const PropertyKey key = PropertyKey::intern(property);
-  const auto found = std::find_if(record.values.begin(), record.values.end(),
-                                  [key](const NetworkFileConverter::Value &value) { return value.key == key; });
-  return found == record.values.end() ? nullptr : &*found;
-}
-
 std::optional<Place> placeOf(const Record &node, const char *x, const char *y) {
-  const NetworkFileConverter::Value *atX = find(node, x);
-  const NetworkFileConverter::Value *atY = find(node, y);
+  const NetworkFileConverter::Value *atX = node.find(PropertyKey::intern(x));
+  const NetworkFileConverter::Value *atY = node.find(PropertyKey::intern(y));
   if (atX == nullptr || atY == nullptr)
     return std::nullopt;
   return Place{atX->text.toDouble().value_or(0.0), atY->text.toDouble().value_or(0.0)};
@@ -54,9 +47,11 @@ public:
     QHash<QString, std::size_t> numbers;
     for (std::size_t i = 0; i < nodes.size(); ++i)
       numbers.insert(nodes[i].name, i);
+    static const PropertyKey node1 = PropertyKey::intern("node1");
+    static const PropertyKey node2 = PropertyKey::intern("node2");
     for (const Record &edge : edges) {
-      const std::size_t from = numbers.value(find(edge, "node1")->text.toString());
-      const std::size_t to = numbers.value(find(edge, "node2")->text.toString());
+      const std::size_t from = numbers.value(edge.find(node1)->text.toString());
+      const std::size_t to = numbers.value(edge.find(node2)->text.toString());
       m_neighbours[from].push_back(to);
       m_neighbours[to].push_back(from);
     }
@@ -108,7 +103,7 @@ private:
 
 } // namespace
 
-NodePlaces::Result NodePlaces::complete(std::vector<Record> &nodes, const std::vector<Record> &edges) {
+QString NodePlaces::complete(std::vector<Record> &nodes, const std::vector<Record> &edges) {
   std::vector<std::optional<Place>> places;
   const auto look = [&](const char *x, const char *y) {
     places.clear();
@@ -133,5 +128,5 @@ NodePlaces::Result NodePlaces::complete(std::vector<Record> &nodes, const std::v
   }
   const QString how = isByMap ? tr("their longitude and latitude serve, or they are put between their neighbours")
                               : tr("they are put between their neighbours, or on a circle");
-  return {static_cast<int>(missing), tr("%1 nodes have no coordinates: %2").arg(missing).arg(how)};
+  return tr("%1 nodes have no coordinates: %2").arg(missing).arg(how);
 }

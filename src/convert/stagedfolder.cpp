@@ -18,11 +18,21 @@ QString within(const QString &folder, const QString &name) {
 }
 
 bool isSame(const QString &one, const QString &other) {
-  QString reason;
-  const auto read = [&reason](const QString &path) {
-    return FileAccess::readWhole(path, FileAccess::Source::Trusted, FileAccess::AnySize, &reason);
-  };
-  return QFileInfo(one).size() == QFileInfo(other).size() && read(one) == read(other);
+  QFile first(one);
+  QFile second(other);
+  for (QFile *file : {&first, &second}) {
+    if (!FileAccess::openForReading(*file, FileAccess::Source::Trusted, FileAccess::AnySize, nullptr))
+      return false;
+  }
+  if (first.size() != second.size())
+    return false;
+  constexpr qint64 Block = qint64(1) << 20;
+  for (qint64 left = first.size(); left > 0; left -= Block) {
+    const QByteArray block = first.read(Block);
+    if (block.isEmpty() || block != second.read(Block))
+      return false;
+  }
+  return true;
 }
 
 } // namespace
@@ -57,7 +67,8 @@ QString StagedFolder::path(const QString &name) const {
 }
 
 bool StagedFolder::isThere(const QString &name) const {
-  return QFileInfo::exists(within(m_target, name));
+  const QFileInfo target(within(m_target, name));
+  return target.exists() || target.isSymLink(); // one that leads nowhere is somebody's too
 }
 
 QStringList StagedFolder::files() const {
@@ -109,7 +120,7 @@ bool StagedFolder::moveAll(const QStringList &names, QString *reason) const {
   for (const QString &name : names) {
     const QString target = within(m_target, name);
     const QString old = within(m_room->filePath(QStringLiteral("old")), name);
-    Move move{name, QFileInfo(target).exists() || QFileInfo(target).isSymLink()};
+    Move move{name, isThere(name)};
     const bool isPlace = QDir().mkpath(QFileInfo(target).path()) && QDir().mkpath(QFileInfo(old).path());
     const bool isFree = isPlace && (!move.replaces || QFile::rename(target, old));
     if (isFree && QFile::rename(path(name), target)) {
@@ -118,19 +129,28 @@ bool StagedFolder::moveAll(const QStringList &names, QString *reason) const {
     }
     *reason = tr("Cannot write %1").arg(target);
     if (isFree && move.replaces)
-      QFile::rename(old, target);
-    takeBack(done);
+      putBack(name, reason);
+    takeBack(done, reason);
     return false;
   }
   return true;
 }
 
-void StagedFolder::takeBack(const QList<Move> &moves) const {
+/// What cannot be put back must not go with the room.
+void StagedFolder::putBack(const QString &name, QString *reason) const {
+  const QString old = within(m_room->filePath(QStringLiteral("old")), name);
+  if (QFile::rename(old, within(m_target, name)))
+    return;
+  m_room->setAutoRemove(false);
+  *reason += tr("; the former %1 is kept as %2").arg(name, old);
+}
+
+void StagedFolder::takeBack(const QList<Move> &moves, QString *reason) const {
   for (const Move &move : moves) {
     const QString target = within(m_target, move.name);
     QFile::remove(target);
     if (move.replaces)
-      QFile::rename(within(m_room->filePath(QStringLiteral("old")), move.name), target);
+      putBack(move.name, reason);
     else
       QDir().rmdir(QFileInfo(target).path()); // which succeeds where nothing else is in it
   }

@@ -30,7 +30,8 @@ private:
   QStringList files() const;
   bool moveWhole(QString *reason) const;
   bool moveAll(const QStringList &names, QString *reason) const;
-  void takeBack(const QList<Move> &moves) const;
+  void takeBack(const QList<Move> &moves, QString *reason) const;
+  void putBack(const QString &name, QString *reason) const;
 
   QString m_target;                      ///< absolute, links followed where it is there
   std::unique_ptr<QTemporaryDir> m_room; ///< on the disk of the target

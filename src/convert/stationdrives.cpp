@@ -15,10 +15,8 @@ QString tr(const char *text) {
 }
 
 QString valueOf(const Record &record, const char *property) {
-  const PropertyKey key = PropertyKey::intern(property);
-  const auto found = std::find_if(record.values.begin(), record.values.end(),
-                                  [key](const NetworkFileConverter::Value &value) { return value.key == key; });
-  return found == record.values.end() ? QString() : found->text.toString();
+  const NetworkFileConverter::Value *found = record.find(PropertyKey::intern(property));
+  return found == nullptr ? QString() : found->text.toString();
 }
 
 /// Names, which are one regardless of case, with a number behind those that are taken.

@@ -82,16 +82,7 @@ std::vector<Property> &ElementBuilder::properties(JsonLineParser::Element &parse
     if (known.included && value.key != TypeMember)
       m_properties.push_back({known.key, std::move(value.text)});
   }
-  for (const JsonLineParser::Dropped &dropped : parsed.dropped)
-    m_report.add("dropped property", line,
-                 QStringLiteral("Property %1 of element %2 is left out: %3")
-                     .arg(QString::fromStdString(dropped.key), decoded(parsed.name), QString::fromUtf8(dropped.reason)),
-                 QString(), decoded(parsed.name));
-  for (const JsonLineParser::Doubt &doubt : parsed.doubtful)
-    m_report.add("doubtful value", line,
-                 QStringLiteral("Property %1 of element %2 %3")
-                     .arg(QString::fromStdString(doubt.key), decoded(parsed.name), QString::fromUtf8(doubt.reason)),
-                 QString(), decoded(parsed.name));
+  m_report.values(parsed, line);
   return m_properties;
 }
 

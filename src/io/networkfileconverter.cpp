@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -106,15 +107,17 @@ private:
   }
 
   void take(std::string_view name, const JsonLineParser::SetPoint &point, int line) {
+    const QString element = QString::fromUtf8(name.data(), static_cast<int>(name.size()));
     if (point.isComplete) {
+      if (point.doubt != nullptr)
+        m_report.doubt(QString::fromStdString(point.property), element, point.doubt, line);
       m_writer.writeSetPoint(name, {PropertyKey::intern(std::string_view(point.property)), point.value, point.isNumber},
                              point.unit);
       m_result.report.take(QString::fromStdString(point.property));
       ++m_result.records;
     } else {
       m_report.add("incomplete value", line,
-                   tr("A value of element %1 is left out: it needs \"property\" and \"value\"")
-                       .arg(QString::fromUtf8(name.data(), static_cast<int>(name.size()))));
+                   tr("A value of element %1 is left out: it needs \"property\" and \"value\"").arg(element));
       m_result.report.drop(tr("value"), tr("incomplete"));
     }
   }
@@ -128,13 +131,9 @@ private:
       else
         values.push_back({PropertyKey::intern(value.key), std::move(value.text), value.isNumber});
     }
-    for (const JsonLineParser::Dropped &dropped : parsed.dropped) {
-      m_report.add("dropped property", line,
-                   tr("Property %1 of element %2 is left out: %3")
-                       .arg(QString::fromStdString(dropped.key), QString::fromStdString(std::string(parsed.name)),
-                            QString::fromUtf8(dropped.reason)));
+    m_report.values(parsed, line);
+    for (const JsonLineParser::Dropped &dropped : parsed.dropped)
       m_result.report.drop(QString::fromStdString(dropped.key), QString::fromUtf8(dropped.reason));
-    }
     m_writer.write(parsed.name, type, std::move(values));
     m_result.report.take(type.empty() ? tr("element with values") : QString::fromStdString(type));
     ++m_result.records;
@@ -166,6 +165,11 @@ bool writeFile(const QString &path, const Fill &fill, QString *reason) {
 }
 
 } // namespace
+
+const NetworkFileConverter::Value *NetworkFileConverter::Record::find(PropertyKey key) const {
+  const auto found = std::find_if(values.begin(), values.end(), [key](const Value &value) { return value.key == key; });
+  return found == values.end() ? nullptr : &*found;
+}
 
 bool NetworkFileConverter::write(const QString &path, const std::vector<Record> &records, QString *reason) {
   return writeFile(

@@ -166,14 +166,10 @@ void TextFileWriter::putValue(const Value &value) {
 
 /// The first cell of a row, which must not look like a comment, a type or column names.
 void TextFileWriter::putName(std::string_view text) {
-  const bool isOdd = !text.empty() && (text.front() == '#' || text.front() == '[' || isName(text));
-  if (isOdd && text.find('"') == std::string_view::npos) {
-    NetworkFileWriter::put("\"");
-    NetworkFileWriter::put(text);
-    NetworkFileWriter::put("\"");
-  } else {
+  if (!text.empty() && (text.front() == '#' || text.front() == '[' || isName(text)))
+    putQuoted(text);
+  else
     putCell(text);
-  }
 }
 
 void TextFileWriter::write(std::string_view name, std::string_view type, std::vector<Value> values) {

@@ -111,7 +111,11 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   workspace.m_cases.append(opened);
   workspace.findCaseFiles();
   workspace.m_chosen = file.absoluteFilePath();
-  const QString base = baseNameOf(file, QLatin1Char('.') + match.captured(1), match.captured(2));
+  const QString kind = QLatin1Char('.') + match.captured(1);
+  const QString base = baseNameOf(file, kind, match.captured(2));
+  if (base + kind + match.captured(2) != file.fileName())
+    NivraMsg::logWarning(QStringLiteral("%1 was chosen; the files of a case are named up to the first dot, and %2 is read")
+                             .arg(file.fileName(), base + kind + match.captured(2)));
   if (isScenario) {
     workspace.addScenario(QFileInfo(directory).fileName());
     NivraScenario &scenario = workspace.m_cases.last().scenarios.last();

@@ -26,6 +26,24 @@ void ReadReport::badRow(int line, const QString &quote, const QString &reason) {
     m_findings.back().isForInformation = true;
 }
 
+void ReadReport::values(const JsonLineParser::Element &element, int line) {
+  if (element.dropped.empty() && element.doubtful.empty())
+    return;
+  const QString name = QString::fromUtf8(element.name.data(), static_cast<int>(element.name.size()));
+  for (const JsonLineParser::Dropped &dropped : element.dropped)
+    add("dropped property", line,
+        QStringLiteral("Property %1 of element %2 is left out: %3")
+            .arg(QString::fromStdString(dropped.key), name, QString::fromUtf8(dropped.reason)),
+        QString(), name);
+  for (const JsonLineParser::Doubt &doubtful : element.doubtful)
+    doubt(QString::fromStdString(doubtful.key), name, doubtful.reason, line);
+}
+
+void ReadReport::doubt(const QString &property, const QString &element, const char *reason, int line) {
+  add("doubtful value", line,
+      QStringLiteral("Property %1 of element %2 %3").arg(property, element, QString::fromUtf8(reason)), QString(), element);
+}
+
 void ReadReport::badLine(const LineReader::Line &line, const char *reason) {
   const QString quote = quoted(line);
   const std::size_t before = m_findings.size();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "jsonlineparser.h"
 #include "linereader.h"
 
 #include <base/finding.h>
@@ -19,6 +20,9 @@ public:
   void badLine(const LineReader::Line &line, const char *reason);
   /// Likewise for the text form.
   void badRow(int line, const QString &quote, const QString &reason);
+  /// The values of an element that are left out, and those that may not be what was meant.
+  void values(const JsonLineParser::Element &element, int line);
+  void doubt(const QString &property, const QString &element, const char *reason, int line);
   /// The file could not be read to its end; with a box, since what is shown is not the whole.
   void readFault(const QString &reason);
   /// A text file is not in UTF-8. \param line the first such; nothing is told for 0

@@ -5,6 +5,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace {
 
 QString tr(const char *text) {
@@ -66,6 +68,13 @@ private:
 };
 
 } // namespace
+
+const GasTable::value_type *gasNamed(const GasTable &gases, const QString &name) {
+  const auto found = std::find_if(gases.begin(), gases.end(), [&name](const GasTable::value_type &gas) {
+    return gas.first.compare(name, Qt::CaseInsensitive) == 0;
+  });
+  return name.isEmpty() || found == gases.end() ? nullptr : &*found;
+}
 
 ScenarioSummary ScenarioSummary::of(const NivraWorkspace &workspace, const NivraGasParams &params, const GasTable &gases,
                                     const Files &files) {

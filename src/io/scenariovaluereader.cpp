@@ -262,9 +262,7 @@ private:
       return;
     }
     if (point.doubt != nullptr)
-      report.add("doubtful value", line,
-                 QStringLiteral("Property %1 of element %2 %3").arg(property, name, QString::fromUtf8(point.doubt)),
-                 QString(), name);
+      report.doubt(property, name, point.doubt, line);
     const PropertyKey key = PropertyKey::intern(std::string_view(point.property));
     ++m_properties;
     if (!toStoredUnit(target, name, key, point, line))

@@ -32,11 +32,8 @@ void learn(Units::Gas &gas, const element &from) {
 
 void learnFromNode(Units::Gas &gas, const element &node, const GasTable &gases) {
   learn(gas, node);
-  const QString name = node.value(QStringLiteral("gas"));
-  for (auto entry = gases.begin(); !name.isEmpty() && entry != gases.end(); ++entry) {
-    if (entry->first.compare(name, Qt::CaseInsensitive) == 0)
-      learn(gas, entry->second);
-  }
+  if (const auto *named = gasNamed(gases, node.value(QStringLiteral("gas"))))
+    learn(gas, named->second);
 }
 
 } // namespace

@@ -76,6 +76,8 @@ bool TextTableReader::continueLine() {
       break;
     m_line = whole + '\n' + m_line;
     if (m_parser.split(m_line, m_table->separator)) {
+      if (m_parser.cells().empty())
+        break; // something stands behind the quote, which therefore opens another cell
       m_number = number;
       return true;
     }

@@ -22,6 +22,7 @@ private slots:
   void casesThereAndBack();
   void casesThatFail();
   void everyKindAndUnit();
+  void flowsByTheGasOfTheirNode();
   void drivesOfOneName();
   void nodesWithoutPlaces();
   void oddNames();
@@ -143,10 +144,13 @@ void TestConvert::casesThatFail() {
   write(QStringLiteral("secret"), "of somebody else");
   QCOMPARE(mkfifo(QFile::encodeName(folder + QStringLiteral("/pipe.ini")).constData(), 0600), 0);
   QVERIFY(QFile::link(path(QStringLiteral("secret")), folder + QStringLiteral("/notes.txt")));
+  write(QStringLiteral("own/.hidden"), "mine");
+  QVERIFY(QFile::link(m_folder->path(), folder + QStringLiteral("/S2")));
   const CaseConverter::Result result = CaseConverter::convert(folder, path(QStringLiteral("other")));
-  QVERIFY2(result.ok && result.findings.size() == 2, qPrintable(texts(result.findings)));
-  QCOMPARE(result.report.of(QStringLiteral("file")).dropped, 2);
-  QCOMPARE(QDir(path(QStringLiteral("other"))).entryList(QDir::Files), QStringList{QStringLiteral("own.geom.jsn")});
+  QVERIFY2(result.ok && result.findings.size() == 3, qPrintable(texts(result.findings)));
+  QCOMPARE(result.report.of(QStringLiteral("file")).dropped, 3);
+  QCOMPARE(QDir(path(QStringLiteral("other"))).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+           (QStringList{QStringLiteral(".hidden"), QStringLiteral("own.geom.jsn")}));
 }
 
 void TestConvert::everyKindAndUnit() {
@@ -231,18 +235,40 @@ void TestConvert::everyKindAndUnit() {
 }
 
 /// A drive gets a name that nobody else has; one that a station names again and again costs no more than its line.
+void TestConvert::flowsByTheGasOfTheirNode() {
+  const QString net =
+      write(QStringLiteral("g.net"),
+            network("<source id=\"a\" x=\"1\" y=\"2\"><normDensity value=\"0.8\" unit=\"kg_per_m_cube\"/></source>"
+                    "<source id=\"b\" x=\"1\" y=\"3\"><normDensity value=\"1\" unit=\"kg_per_m_cube\"/></source>" +
+                    m_ends));
+  QByteArray nodes;
+  for (const char *name : {"a", "b", "in"})
+    nodes +=
+        QByteArray("<node type=\"entry\" id=\"") + name + "\"><flow bound=\"both\" value=\"36\" unit=\"kg_per_s\"/></node>";
+  write(QStringLiteral("g.scn"), nomination(nodes));
+  QVERIFY(GasLibImport::import(request(net, QStringLiteral("g"))).ok);
+  NetData opened;
+  QVERIFY(open(path(QStringLiteral("g/g/g.scen.jsn")), opened));
+  const auto flow = [&opened](const char *name) {
+    return opened.element(QLatin1String(name))->value(QStringLiteral("qset")).toDouble();
+  };
+  QVERIFY(qFuzzyCompare(flow("a"), -36.0 * 3.6 / 0.8) && qFuzzyCompare(flow("b"), -36.0 * 3.6));
+  QVERIFY(qFuzzyCompare(flow("in"), flow("a"))); // which says nothing of its gas
+}
+
 void TestConvert::drivesOfOneName() {
   const QString net =
       write(QStringLiteral("d.net"), network("<source id=\"a\" x=\"1\" y=\"2\"/><sink id=\"D_c_g\" x=\"3\" y=\"4\"/>",
                                              "<compressorStation id=\"c\" from=\"a\" to=\"D_c_g\"/>"));
   write(QStringLiteral("d.cs"),
         stations("<compressorStation id=\"c\"><drives>" + QByteArray("<gasTurbine id=\"g\"/>").repeated(100000) +
-                 "</drives></compressorStation>"));
+                 "</drives></compressorStation><compressorStation id=\"C\"/>"));
   QElapsedTimer timer;
   timer.start();
   const GasLibImport::Result result = GasLibImport::import(request(net, QStringLiteral("d")));
   QVERIFY2(result.ok && result.drives == 1, qPrintable(texts(result.findings).left(1000)));
   QCOMPARE(result.report.of(QStringLiteral("gasTurbine")).dropped, 99999);
+  QCOMPARE(result.report.of(QStringLiteral("compressorStation")).dropped, 1); // described again
   QVERIFY(contents(path(QStringLiteral("d/d.geom.jsn"))).contains("\"D_c_g_2\""));
   QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
 }
@@ -384,6 +410,8 @@ void TestConvert::faultyNetworks_data() {
   QTest::newRow("text for a number")
       << head + "<sink id=\"a\" x=\"1\" y=\"2\"><height value=\"high\"/></sink></nodes></network>"
       << QStringLiteral("height is no number: \"high\"") << true;
+  QTest::newRow("text for a place") << head + "<sink id=\"a\" x=\"left\" y=\"2\"/></nodes></network>"
+                                    << QStringLiteral("The x of a is no number: left") << true;
   QTest::newRow("without ends") << head + node + "</nodes><connections><pipe id=\"p\" from=\"a\"/></connections></network>"
                                 << QStringLiteral("p is left out: it leads from \"a\" to \"\"") << true;
   QTest::newRow("loose end") << head + node +
@@ -523,7 +551,9 @@ void TestConvert::whatIsThereStays() {
   // Another case, and a scenario that somebody made.
   write(QStringLiteral("other/other_one.geom"), "[node]\nname\n");
   write(QStringLiteral("made/a/mine.scen"), "name;property;value\n");
-  for (const char *taken : {"other", "made"}) {
+  QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("linked/a")));
+  QVERIFY(QFile::link(path(QStringLiteral("gone")), path(QStringLiteral("linked/a/a.scen.jsn"))));
+  for (const char *taken : {"other", "made", "linked"}) {
     GasLibImport::Request third = first;
     third.to = path(QLatin1String(taken));
     third.overwrites = false;

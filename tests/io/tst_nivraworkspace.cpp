@@ -41,6 +41,7 @@ private slots:
   void theChosenFileIsRead();
   void refuses_data();
   void refuses();
+  void tellsWhenAnotherFileIsRead();
   void caseConfiguration_data();
   void caseConfiguration();
   void oneLineScenarioConfiguration();
@@ -138,6 +139,16 @@ void TestNivraWorkspace::refuses() {
   QVERIFY(!NivraWorkspace::fromFile(path(file)).isValid());
   QCOMPARE(recorder.lines().size(), 1);
   QVERIFY2(recorder.lines().first().startsWith(message), qPrintable(recorder.lines().first()));
+}
+
+void TestNivraWorkspace::tellsWhenAnotherFileIsRead() {
+  for (const char *name : {"CASE/net.geom", "CASE/net.old.geom"})
+    write(path(QLatin1String(name)), "[node]\nname\n");
+  const NivraMsg::Recorder recorder;
+  const NivraWorkspace workspace = NivraWorkspace::fromFile(path(QStringLiteral("CASE/net.old.geom")));
+  QCOMPARE(QFileInfo(workspace.geometryPath()).fileName(), QStringLiteral("net.geom"));
+  QVERIFY2(recorder.lines().join(QString()).contains(QStringLiteral("net.old.geom was chosen")),
+           qPrintable(recorder.lines().join(QString())));
 }
 
 void TestNivraWorkspace::caseConfiguration_data() {

@@ -142,6 +142,9 @@ void TestTextForms::openQuoteCostsOneLine() {
   QCOMPARE(result.findings.size(), std::size_t(1));
   QCOMPARE(result.findings[0].line, 3);
   QCOMPARE(net.nodes().size(), std::size_t(501));
+  NetData rest; // a later quote closes nothing
+  QCOMPARE(read(rest, text + "Y;1;\"closed\"\n").findings.size(), std::size_t(1));
+  QCOMPARE(rest.nodes().size(), std::size_t(501));
 }
 
 void TestTextForms::reportsAsJsonDoes() {
@@ -170,6 +173,11 @@ void TestTextForms::decimalCommas() {
       NivraReader(net).readScenariofileJsn(write(QStringLiteral("c.scen"), "name;property;value\nB;pset;50,5\n"), {});
   QCOMPARE(values.findings.size(), std::size_t(1));
   QCOMPARE(values.findings[0].line, 2);
+  for (const auto &[from, to] : {std::make_pair("a.geom", "d.geom.jsn"), {"c.scen", "d.scen.jsn"}}) {
+    const auto told =
+        NetworkFileConverter::convert(m_folder.filePath(QLatin1String(from)), m_folder.filePath(QLatin1String(to)));
+    QVERIFY(told.ok && told.findings.size() == 1 && told.findings[0].text.contains(QStringLiteral("decimal point")));
+  }
 }
 
 void TestTextForms::otherEncodings() {

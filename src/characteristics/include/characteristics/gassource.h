@@ -2,6 +2,7 @@
 
 #include <base/finding.h>
 #include <characteristics/gaslaw.h>
+#include <io/scenariosummary.h>
 #include <model/netdata.h>
 
 #include <QString>
@@ -11,7 +12,7 @@
 
 /// What a scenario says of its gases, beside what stands at the nodes.
 struct ScenarioGas {
-  std::map<QString, element> gases;          ///< of the gas file, by name
+  GasTable gases;                            ///< of the gas file
   GasLaw::Wanted law = GasLaw::Wanted::Dc92; ///< "ntype_gasLaw"
   double temperature = 283.15;               ///< K, of gas at nodes without one: that of the soil
 };

@@ -132,8 +132,6 @@ struct StationConfiguration {
   QString station;
   QString name;
   std::vector<Stage> stages;
-
-  bool contains(const QString &compressor) const;
 };
 
 /// The machines of a scenario.

@@ -21,7 +21,6 @@ public:
   void add(const ConversionReport &other);
 
   Counts of(const QString &kind) const { return m_counts.value(kind); }
-  bool isEmpty() const { return m_counts.isEmpty(); }
   /// Three lines, such as "converted: 39 length (km to m), 3 flowMin (supplies are negative)".
   QString text() const;
 

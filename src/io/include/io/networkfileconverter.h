@@ -38,6 +38,8 @@ struct Record {
   QString name;
   QString type; ///< word, empty for values of elements that are described elsewhere
   std::vector<Value> values;
+
+  const Value *find(PropertyKey key) const; ///< the first of it, null when there is none
 };
 struct SetPoint {
   QString name;

@@ -13,6 +13,9 @@ class NivraWorkspace;
 /// Gas name to the properties of the gas.
 using GasTable = std::map<QString, element>;
 
+/// The gas of that name, regardless of case like all names; null when there is none.
+const GasTable::value_type *gasNamed(const GasTable &gases, const QString &name);
+
 /// All that the opened case and scenario carry beside the network, for a person to look at: files, versions, solver
 /// settings, gases.
 struct ScenarioSummary {
