@@ -4,6 +4,7 @@
 #include <base/generalsettings.h>
 #include <base/logo.h>
 #include <base/nivramsg.h>
+#include <tools/categorylist.h>
 #include <tools/nivrasearch.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
@@ -34,7 +35,8 @@ NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::NivraViewer>())
     , m_control(std::make_unique<NetVisControl>(m_net, QString()))
-    , m_loader(m_net) {
+    , m_loader(m_net)
+    , m_categories(std::make_shared<CategoryList>()) {
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());
@@ -45,7 +47,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   const QString ownStyle = GeneralSettings::userDirectory() + QStringLiteral("/stylesheet.qss");
   if (QFileInfo::exists(ownStyle))
     applyStyleSheet(ownStyle);
-  m_tools = new ToolDocks(*this, *m_control);
+  m_tools = new ToolDocks(*this, *m_control, m_categories);
   m_ui->statusbar->showMessage(tr("No Workspace loaded"));
   show();
   QCoreApplication::processEvents();
@@ -254,7 +256,7 @@ void NivraViewer::openSubnet(const QString &name) {
     window->activateWindow();
     return;
   }
-  auto *window = new SubnetWindow(m_net, name, m_loader.workspace(), this);
+  auto *window = new SubnetWindow(m_net, name, m_loader.workspace(), m_categories, this);
   connect(window, &SubnetWindow::elementMarked, this,
           [this](const QString &picked) { elementAction(picked, NetPicker::EleAction::Mark); });
   connect(window, &SubnetWindow::propertyChanged, this, [this](const QStringList &names, const QString &property) {
@@ -345,6 +347,10 @@ void NivraViewer::dropEvent(QDropEvent *event) {
 void NivraViewer::closeEvent(QCloseEvent *event) {
   if (m_progress != nullptr)
     m_progress->cancel(); // reading ends at its next step, then the window goes
+  else if (!m_tools->settleChanges()) {
+    event->ignore();
+    return;
+  }
   QMainWindow::closeEvent(event);
   if (event->isAccepted() && !closeOthers())
     event->ignore();

@@ -449,11 +449,7 @@ void TestWindow::toolsAndDrawingMeet() {
 
 void TestWindow::subnetsHaveWindowsOfTheirOwn() {
   const WorkspaceFixture workspace;
-  workspace.writeGeometry(
-      "{\n\"A\":{\"obj_type\":\"node\",\"x\":0,\"y\":0}\n,\"B\":{\"obj_type\":\"node\",\"x\":9,\"y\":0}\n"
-      ",\"C\":{\"obj_type\":\"node\",\"x\":20,\"y\":0}\n"
-      ",\"P\":{\"obj_type\":\"pipe\",\"node1\":\"B\",\"node2\":\"C\"}\n"
-      ",\"M\":{\"obj_type\":\"subnet\",\"variant\":\"metering_station\",\"pins\":\"A;B\"}\n}\n");
+  workspace.writeGeometry(WorkspaceFixture::geometryWithSubnet());
   NivraViewer viewer;
   viewer.open(workspace.geometry());
   emit viewer.visControl()->subnetWanted(QStringLiteral("M"));

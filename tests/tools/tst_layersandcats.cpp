@@ -10,7 +10,6 @@
 
 #include <QFile>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
@@ -244,14 +243,13 @@ void TestLayersAndCats::categoryFileThatIsNone() {
 
 /// Nothing that somebody has typed goes without a question.
 void TestLayersAndCats::changedCategoriesAreAskedAbout() {
-  QMainWindow window;
-  auto *panel = new NivraNetObjectCats(&window);
-  window.addDockWidget(Qt::BottomDockWidgetArea, panel);
-  panel->setFile(write("one;;p;^v$;v@ELE>10\n"));
-  panel->updateTempCategory({QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"), QString()});
-  auto *table = panel->findChild<QTableWidget *>();
-  auto *reload = panel->findChild<QPushButton *>(QStringLiteral("pushButtonReload"));
-  window.show();
+  const auto list = std::make_shared<CategoryList>();
+  NivraNetObjectCats panel(list);
+  list->setFile(write("one;;p;^v$;v@ELE>10\n"));
+  panel.updateTempCategory({QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"), QString()});
+  auto *table = panel.findChild<QTableWidget *>();
+  auto *reload = panel.findChild<QPushButton *>(QStringLiteral("pushButtonReload"));
+  panel.show();
   {
     const Answers none({});
     reload->click(); // nothing has changed
@@ -263,26 +261,27 @@ void TestLayersAndCats::changedCategoriesAreAskedAbout() {
     const Answers answers({QMessageBox::Cancel, QMessageBox::Cancel});
     reload->click();
     QCOMPARE(table->item(1, 1)->text(), QStringLiteral("typed"));
-    QVERIFY(!window.close());
+    QVERIFY(!panel.settleChanges());
     QVERIFY(answers.areGiven());
   }
   {
     const Answers answers({QMessageBox::Save});
-    QVERIFY(window.close());
+    QVERIFY(panel.settleChanges());
     QVERIFY(answers.areGiven());
   }
   QCOMPARE(CategoryFile::read(m_folder.filePath(QStringLiteral("catdef.csv"))).at(0).name, QStringLiteral("typed"));
-  window.show();
+  panel.show();
   table->item(1, 1)->setText(QStringLiteral("again"));
   const Answers discard({QMessageBox::Discard});
   reload->click();
   QCOMPARE(table->item(1, 1)->text(), QStringLiteral("typed"));
-  QVERIFY(window.close());
+  QVERIFY(panel.settleChanges());
 }
 
 void TestLayersAndCats::panelTellsCategories() {
-  NivraNetObjectCats panel;
-  panel.setFile(write("one;;p;^v$;v@ELE>10\n"));
+  const auto list = std::make_shared<CategoryList>();
+  NivraNetObjectCats panel(list);
+  list->setFile(write("one;;p;^v$;v@ELE>10\n"));
   auto *table = panel.findChild<QTableWidget *>();
   QCOMPARE(table->rowCount(), 2);
   QCOMPARE(table->item(0, 0)->text(), QStringLiteral("fromSearch"));

@@ -9,6 +9,7 @@
 #include <app/outcomestyle.h>
 #include <memory>
 
+class CategoryList;
 class LoadProgress;
 class NetVisControl;
 class SubnetWindow;
@@ -68,6 +69,7 @@ private:
   NetData m_net;
   std::unique_ptr<NetVisControl> m_control;
   NetworkLoader m_loader;
+  std::shared_ptr<CategoryList> m_categories;
   ToolDocks *m_tools = nullptr;
   QString m_currentElement;
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read
