@@ -4,6 +4,7 @@
 #include <characteristics/networkmachines.h>
 #include <io/nivrareader.h>
 #include <model/subnetstate.h>
+#include <model/units.h>
 #include <subassembly/subassembler.h>
 
 #include <QCoreApplication>
@@ -79,6 +80,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   QElapsedTimer timer;
   timer.start();
   m_noticed.clear();
+  m_machines = MachineData();
   m_formulas.setDefinitions({}); // which speak of the network before
   NivraReader reader(m_net);
   NivraReader::Options readerOptions;
@@ -94,8 +96,10 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   report(result.findings);
   notice(tr("Reading"), result.findings);
   m_cancelled = result.cancelled;
-  if (!result.ok || result.cancelled) {
-    m_error = result.cancelled ? tr("Reading was cancelled.") : firstCritical(result.findings);
+  if (result.cancelled)
+    return stop();
+  if (!result.ok) {
+    m_error = firstCritical(result.findings);
     return false;
   }
   Findings checked;
@@ -105,21 +109,28 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   notice(tr("Checking"), std::move(checked));
   m_seconds.append({QStringLiteral("check"), static_cast<double>(timer.restart()) * Milli});
   assembleSubnets(options);
+  if (m_cancelled)
+    return stop();
   const NivraReader::Result subResults = reader.readSubResults(m_workspace, readerOptions);
   report(subResults.findings);
   notice(tr("Reading"), subResults.findings);
+  m_cancelled = subResults.cancelled;
+  if (m_cancelled)
+    return stop();
   m_seconds.append({QStringLiteral("subnets"), static_cast<double>(timer.restart()) * Milli});
   readMachines(reader);
   m_seconds.append({QStringLiteral("machines"), static_cast<double>(timer.restart()) * Milli});
-  m_cancelled = m_cancelled || subResults.cancelled;
   SubnetState::derive(m_net);
-  const bool isComputed = !m_cancelled && computeFormulas(options.progress);
-  if (!isComputed) {
-    m_error = tr("Reading was cancelled.");
-    m_formulas.setDefinitions({}); // of elements that nobody will see
-  }
+  computeFormulas(options.progress);
   m_seconds.append({QStringLiteral("formulas"), static_cast<double>(timer.restart()) * Milli});
-  return isComputed;
+  return !m_cancelled || stop();
+}
+
+/// Always false: reading was cancelled.
+bool NetworkLoader::stop() {
+  m_error = tr("Reading was cancelled.");
+  m_formulas.setDefinitions({}); // of elements that nobody will see
+  return false;
 }
 
 void NetworkLoader::notice(const QString &stage, Findings findings) {
@@ -132,7 +143,6 @@ ScenarioSummary NetworkLoader::scenarioSummary() const {
 }
 
 void NetworkLoader::readMachines(const NivraReader &reader) {
-  m_machines = MachineData();
   if (!m_workspace.hasScenario() || m_workspace.currentScenario()->comprDatabase.isEmpty())
     return;
   const QString &database = m_workspace.currentScenario()->comprDatabase;
@@ -141,8 +151,7 @@ void NetworkLoader::readMachines(const NivraReader &reader) {
     return; // nobody named it
   MachineReader::Result result = MachineReader::read(path);
   m_machines = std::move(result.data);
-  constexpr double FreezingPoint = 273.15; // K
-  m_machines.ambientTemperature = m_gasParams.tamb - FreezingPoint;
+  m_machines.ambientTemperature = m_gasParams.tamb - Units::ZeroCelsius;
   m_machines.gas = {reader.gases(), static_cast<GasLaw::Wanted>(m_gasParams.ntype_gasLaw), m_gasParams.tsoil};
   append(result.findings, NetworkMachines(m_net, m_machines).findings());
   report(result.findings);
@@ -163,12 +172,13 @@ void NetworkLoader::assembleSubnets(const ReadOptions &options) {
         m_cancelled = options.progress && !options.progress(static_cast<double>(done) / count);
         return !m_cancelled;
       });
-  m_templateDefinitions = assembler.definitions(result.findings);
+  if (!m_cancelled)
+    m_templateDefinitions = assembler.definitions(result.findings);
   report(result.findings);
   notice(tr("Subnets"), std::move(result.findings));
 }
 
-bool NetworkLoader::computeFormulas(const Progress &progress) {
+void NetworkLoader::computeFormulas(const Progress &progress) {
   Findings findings;
   std::vector<FormulaDefinition> definitions = std::move(m_templateDefinitions); // those of the case come after and count
   std::vector<FormulaDefinition> own = definitionsIn(m_workspace.caseDirectory(), QStringLiteral("geometry"), findings);
@@ -193,7 +203,6 @@ bool NetworkLoader::computeFormulas(const Progress &progress) {
   report(findings);
   notice(tr("Formulas"), std::move(findings));
   noticeViolations();
-  return !m_cancelled;
 }
 
 void NetworkLoader::noticeViolations() {

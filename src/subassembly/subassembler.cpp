@@ -160,8 +160,8 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
   findFreePrefixes(subnets);
   const auto count = static_cast<int>(subnets.size());
   NivraMsg::debug(QStringLiteral("     before rebuild %1 sec.\n").arg(static_cast<double>(timer.elapsed()) * Milli));
-  if (told)
-    told(QStringLiteral("Creating Subnets"), 0, count);
+  if (told && !told(QStringLiteral("Creating Subnets"), 0, count))
+    return m_result;
   for (int i = 0; i < count; ++i) {
     if (told && !told(QStringLiteral("Creating Subnets (%1/%2)").arg(i + 1).arg(count), i, count))
       return m_result;

@@ -48,7 +48,6 @@ public:
   bool readNetwork(const ReadOptions &options);
 
   const NivraWorkspace &workspace() const { return m_workspace; }
-  const NivraGasParams &gasParams() const { return m_gasParams; }
   const GasTable &gases() const { return m_gases; } ///< of the scenario
   /// What case and scenario carry beside the network, each with the file that says so.
   ScenarioSummary scenarioSummary() const;
@@ -59,7 +58,6 @@ public:
   const QString &templateFolder() const { return m_templateFolder; }
   /// Of the scenario's compressor database; empty without one.
   const MachineData &machines() const { return m_machines; }
-  const NetworkFormulas &formulas() const { return m_formulas; }
   /// After a property of elements has changed: what depends on it.
   void computeAgain(const QStringList &names, const QString &property);
   const Seconds &seconds() const { return m_seconds; }
@@ -67,9 +65,10 @@ public:
   QString error() const { return m_error; } ///< why the last step failed, for a person
 
 private:
+  bool stop();
   void readMachines(const NivraReader &reader);
   void assembleSubnets(const ReadOptions &options);
-  bool computeFormulas(const Progress &progress);
+  void computeFormulas(const Progress &progress);
   void notice(const QString &stage, Findings findings);
   void noticeViolations();
 
