@@ -237,8 +237,9 @@ void TestLayersAndCats::categoryFileThatIsNone() {
   QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
   QVERIFY(CategoryFile::read(QFile::decodeName(pipe)).empty()); // and does not wait for the other end
   QVERIFY(CategoryFile::read(m_folder.path()).empty());
-  const std::vector<Category> old = CategoryFile::read(write("M\xfcnster;;;;\n"));
+  const std::vector<Category> old = CategoryFile::read(write("M\xfcnster;\x80;;;\n"));
   QCOMPARE(old.at(0).category, QString::fromUtf8("Münster"));
+  QCOMPARE(old.at(0).name, QString::fromUtf8("€")); // as in the tables of networks
 }
 
 /// Nothing that somebody has typed goes without a question.
