@@ -75,15 +75,13 @@ NivraVecTable::~NivraVecTable() {
 }
 
 void NivraVecTable::refresh() {
-  std::set<QString> names;
-  m_net.forEach(NetData::AllTypes, [&names](const element &e) {
-    for (const Property &property : e)
-      names.insert(property.key.name());
-  });
+  QStringList names;
+  for (const PropertyKey key : m_net.propertyKeys())
+    names.append(key.name());
+  names.sort();
   m_isUpdating = true;
   m_ui->comboBoxProp->clear();
-  for (const QString &name : names)
-    m_ui->comboBoxProp->addItem(name);
+  m_ui->comboBoxProp->addItems(names);
   const int before = m_ui->comboBoxProp->findText(m_chosenProperty.isEmpty() ? QStringLiteral("p") : m_chosenProperty);
   m_ui->comboBoxProp->setCurrentIndex(std::max(0, before));
   m_chosenProperty = m_ui->comboBoxProp->currentText();
