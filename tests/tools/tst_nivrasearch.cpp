@@ -201,6 +201,12 @@ void TestNivraSearch::formulaStopsTheSearch() {
         NetworkSearch(*m_net, {QString(), QString(), QString(), QString(), false, QString::fromLatin1(formula)}).run();
     QVERIFY2(faulty.isStopped && faulty.rows.empty() && !faulty.error.isEmpty(), formula);
   }
+  for (const char *formula : {"p@ELE>", "nosuch(p@ELE)"}) { // also where no element is asked
+    const NetworkSearch::Result faulty = NetworkSearch(*m_net, {QStringLiteral("nobody"), QString(), QString(), QString(),
+                                                                false, QString::fromLatin1(formula)})
+                                             .run();
+    QVERIFY2(faulty.isStopped && !faulty.error.isEmpty(), formula);
+  }
 }
 
 /// The formula of the panel's own tool tip, on a network whose drives have no pressure.
