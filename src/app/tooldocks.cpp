@@ -258,10 +258,8 @@ void ToolDocks::showMetaData() {
 }
 
 void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
-  FindingList list; // counts what is shown
-  list.set(groups);
-  const int count = list.count();
   m_findings->setFindings(groups);
+  const int count = m_findings->count();
   m_findingsButton->setText(count == 1 ? tr("1 finding") : tr("%1 findings").arg(count));
   m_findingsButton->setVisible(count > 0);
 }

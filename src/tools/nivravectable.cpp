@@ -57,9 +57,8 @@ NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
   m_ui->setupUi(this);
   m_ui->tableWidget->addActions({m_ui->actionCopy_selectedItems, m_ui->actionOpenCharacteristics});
   m_ui->tableWidget->setItemDelegate(new NumberDelegate(PropertyColumn, this));
-  m_ui->actionOpenCharacteristics->setVisible(false);
-  connect(m_ui->tableWidget, &QTableWidget::itemSelectionChanged, this,
-          [this] { m_ui->actionOpenCharacteristics->setVisible(!selectedMachines().isEmpty()); });
+  TableMenu::offerActions(*m_ui->tableWidget,
+                          [this] { m_ui->actionOpenCharacteristics->setVisible(!selectedMachines().isEmpty()); });
   connect(m_ui->actionOpenCharacteristics, &QAction::triggered, this,
           [this] { emit characteristicsWanted(selectedMachines()); });
   m_menu = new TableMenu(*m_ui->tableWidget);
@@ -200,11 +199,10 @@ QStringList NivraVecTable::selectedMachines() const {
   QStringList names;
   const QTableWidget &table = *m_ui->tableWidget;
   for (const QModelIndex &cell : table.selectionModel()->selectedIndexes()) {
-    const QString name = table.item(cell.row(), NameColumn)->text();
-    if (!table.isRowHidden(cell.row()) && !names.contains(name) &&
-        ElementTypes::hasCharacteristics(table.item(cell.row(), TypeColumn)->text()))
-      names.append(name);
+    if (!table.isRowHidden(cell.row()) && ElementTypes::hasCharacteristics(table.item(cell.row(), TypeColumn)->text()))
+      names.append(table.item(cell.row(), NameColumn)->text());
   }
+  names.removeDuplicates();
   return names;
 }
 

@@ -1,5 +1,6 @@
 #include <base/generalsettings.h>
 #include <model/elementtypes.h>
+#include <support/contextmenu.h>
 #include <support/fulldisk.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
@@ -326,7 +327,8 @@ void TestNivraSearch::exportsTheRows() {
   m_net->element(QStringLiteral("axB"))->set(QStringLiteral("p"), QStringLiteral("say \"20\""));
   NivraSearch panel(*m_net);
   panel.defineSearch({QString(), QString(), QStringLiteral("^p$"), QString()}, false);
-  QVERIFY(panel.save(path));
+  QString reason;
+  QVERIFY2(panel.save(path, &reason), qPrintable(reason));
   QFile file(path);
   QVERIFY(file.open(QIODevice::ReadOnly));
   QCOMPARE(file.readAll(), QByteArray("SearchString:;\"\";\n"
@@ -339,7 +341,6 @@ void TestNivraSearch::exportsTheRows() {
                                       "\"A.b\";\"n\";\"p\";\"50,5\";\"bar\";\n"
                                       "\"axB\";\"n\";\"p\";\"say \"\"20\"\"\";\"bar\";\n"
                                       "\"N-1.2\";\"p\";\"p\";\"1,5\";\"\";\n"));
-  QVERIFY(!panel.save(QStringLiteral("/nowhere/searchresults.csv")));
 }
 
 void TestNivraSearch::exportThatFailsIsTold() {
@@ -365,7 +366,8 @@ void TestNivraSearch::exportedTextsAreNoFormulas() {
   const QTemporaryDir folder;
   NivraSearch panel(*m_net);
   panel.defineSearch({QString(), QString(), QStringLiteral("^p$"), QString()}, false);
-  QVERIFY(panel.save(folder.filePath(QStringLiteral("r.csv"))));
+  QString reason;
+  QVERIFY2(panel.save(folder.filePath(QStringLiteral("r.csv")), &reason), qPrintable(reason));
   QFile file(folder.filePath(QStringLiteral("r.csv")));
   QVERIFY(file.open(QIODevice::ReadOnly));
   const QByteArray text = file.readAll();
@@ -475,13 +477,15 @@ void TestNivraSearch::machinesOfferTheirMaps() {
   panel.defineSearch({QString(), QString(), QString(), QString()}, false); // several rows of each
   const QSignalSpy wanted(&panel, &NivraSearch::characteristicsWanted);
   auto *open = panel.findChild<QAction *>(QStringLiteral("actionOpenCharacteristics"));
-  QVERIFY(tree(panel)->actions().contains(open) && tree(panel)->contextMenuPolicy() == Qt::ActionsContextMenu);
+  const auto isOffered = [&panel, open] {
+    return ContextMenu::texts(*tree(panel)).contains(open->text());
+  };
   QVERIFY(panel.select(QStringLiteral("axB")));
-  QVERIFY(!open->isVisible());
+  QVERIFY(!isOffered());
   QVERIFY(panel.select(QStringLiteral("CS")));
   tree(panel)->setCurrentItem(nullptr);
   tree(panel)->setCurrentItem(tree(panel)->findItems(QStringLiteral("CS"), Qt::MatchExactly).value(0));
-  QVERIFY(open->isVisible());
+  QVERIFY(isOffered());
   open->trigger();
   QCOMPARE(wanted.value(0).value(0).toStringList(), QStringList{QStringLiteral("CS")});
 }
