@@ -18,7 +18,6 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMimeData>
-#include <QPointer>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QToolButton>
@@ -148,7 +147,7 @@ void NivraViewer::openWorkspace(const QString &path) {
   timer.start();
   const qint64 waitedBefore = NivraMsg::waitedForAnswers();
   NetworkLoader loader(m_net);
-  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::None));
+  m_ui->statusbar->setStyleSheet(QString());
   if (!loader.resolve(path)) {
     m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::Failed));
     m_ui->statusbar->showMessage(tr("Invalid Workspace"));
@@ -298,10 +297,8 @@ void NivraViewer::setBusy(bool busy) {
   QWidgetList widgets{m_ui->menubar, m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
     widgets.append(dock);
-  for (QWidget *window : QApplication::topLevelWidgets()) {
-    if (window != this && window->parentWidget() == nullptr)
-      widgets.append(window);
-  }
+  for (const QPointer<QWidget> &window : otherWindows())
+    widgets.append(window);
   for (QWidget *widget : qAsConst(widgets))
     widget->setEnabled(!busy);
 }
@@ -356,14 +353,19 @@ void NivraViewer::closeEvent(QCloseEvent *event) {
     event->ignore();
 }
 
-/// Tables and the guide are windows without a parent, which would keep the program alive. False when one of them refuses.
-bool NivraViewer::closeOthers() {
+/// Tables and the guide, which are windows without a parent.
+QList<QPointer<QWidget>> NivraViewer::otherWindows() const {
   QList<QPointer<QWidget>> others;
   for (QWidget *window : QApplication::topLevelWidgets()) {
     if (window != this && window->parentWidget() == nullptr)
       others.append(window);
   }
-  for (const QPointer<QWidget> &window : qAsConst(others)) {
+  return others;
+}
+
+/// Windows without a parent would keep the program alive. False when one of them refuses.
+bool NivraViewer::closeOthers() {
+  for (const QPointer<QWidget> &window : otherWindows()) {
     if (window != nullptr && window->isVisible() && !window->close())
       return false;
   }

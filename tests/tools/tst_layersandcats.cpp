@@ -80,7 +80,7 @@ void TestLayersAndCats::layersChangeElements() {
   QVERIFY(!layers.all().contains(QStringLiteral("p")));
   layers.add({QStringLiteral("A"), QStringLiteral("nowhere")}, QStringLiteral("pipes"));
   QCOMPARE(layers.all().value(QStringLiteral("pipes")).size(), 3);
-  layers.remove(QStringLiteral("pipes"));
+  QCOMPARE(layers.remove({QStringLiteral("pipes")}).size(), 3);
   QVERIFY(!m_net->element(QStringLiteral("A"))->contains(QStringLiteral("vis.layer")));
   QCOMPARE(layers.all().size(), 1);
 }

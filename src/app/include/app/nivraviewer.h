@@ -4,6 +4,7 @@
 #include <view/netpicker.h>
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <app/networkloader.h>
 #include <app/outcomestyle.h>
@@ -63,6 +64,7 @@ private:
   void computeAgain(const QStringList &names, const QString &property);
   void showTitle();
   void setBusy(bool busy);
+  QList<QPointer<QWidget>> otherWindows() const;
   bool closeOthers();
 
   std::unique_ptr<Ui::NivraViewer> m_ui;
