@@ -2,7 +2,6 @@
 #include <base/nivramsg.h>
 #include <characteristics/machinereader.h>
 #include <characteristics/networkmachines.h>
-#include <io/nivrareader.h>
 #include <model/subnetstate.h>
 #include <model/units.h>
 #include <subassembly/subassembler.h>
@@ -79,6 +78,9 @@ void NetworkLoader::readConfiguration() {
 bool NetworkLoader::readNetwork(const ReadOptions &options) {
   QElapsedTimer timer;
   timer.start();
+  const auto note = [&](const QString &stage) {
+    m_seconds.append({stage, static_cast<double>(timer.restart()) * Milli});
+  };
   m_noticed.clear();
   m_machines = MachineData();
   m_formulas.setDefinitions({}); // which speak of the network before
@@ -87,8 +89,25 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   readerOptions.includeTypes = options.includeTypes;
   readerOptions.includeProperties = options.includeProperties;
   readerOptions.progress = options.progress;
-  const NivraReader::Result result = reader.readTopoAndScen(m_workspace, readerOptions);
-  m_seconds.append({QStringLiteral("read"), static_cast<double>(timer.restart()) * Milli});
+  const bool isRead = readFiles(reader, readerOptions);
+  note(QStringLiteral("read"));
+  if (!isRead)
+    return false;
+  check();
+  note(QStringLiteral("check"));
+  if (!assembleSubnets(options) || !readSubResults(reader, readerOptions))
+    return stop();
+  note(QStringLiteral("subnets"));
+  readMachines(reader);
+  note(QStringLiteral("machines"));
+  SubnetState::derive(m_net);
+  const bool isComputed = computeFormulas(options.progress);
+  note(QStringLiteral("formulas"));
+  return isComputed || stop();
+}
+
+bool NetworkLoader::readFiles(NivraReader &reader, const NivraReader::Options &options) {
+  const NivraReader::Result result = reader.readTopoAndScen(m_workspace, options);
   if (!result.configuration.isEmpty())
     m_workspace.takeConfiguration(result.configuration, m_gasParams, result.configurationFile);
   m_gases = reader.gases();
@@ -96,34 +115,26 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   report(result.findings);
   notice(tr("Reading"), result.findings);
   m_cancelled = result.cancelled;
-  if (result.cancelled)
+  if (m_cancelled)
     return stop();
-  if (!result.ok) {
-    m_error = firstCritical(result.findings);
-    return false;
-  }
-  Findings checked;
-  ConsistencyCheck::checkNetData(m_net, &checked);
+  m_error = result.ok ? QString() : firstCritical(result.findings);
+  return result.ok;
+}
+
+void NetworkLoader::check() {
+  Findings findings;
+  ConsistencyCheck::checkNetData(m_net, &findings);
   m_removed = ConsistencyCheck::prune(m_net);
-  append(checked, m_removed.findings);
-  notice(tr("Checking"), std::move(checked));
-  m_seconds.append({QStringLiteral("check"), static_cast<double>(timer.restart()) * Milli});
-  assembleSubnets(options);
-  if (m_cancelled)
-    return stop();
-  const NivraReader::Result subResults = reader.readSubResults(m_workspace, readerOptions);
-  report(subResults.findings);
-  notice(tr("Reading"), subResults.findings);
-  m_cancelled = subResults.cancelled;
-  if (m_cancelled)
-    return stop();
-  m_seconds.append({QStringLiteral("subnets"), static_cast<double>(timer.restart()) * Milli});
-  readMachines(reader);
-  m_seconds.append({QStringLiteral("machines"), static_cast<double>(timer.restart()) * Milli});
-  SubnetState::derive(m_net);
-  computeFormulas(options.progress);
-  m_seconds.append({QStringLiteral("formulas"), static_cast<double>(timer.restart()) * Milli});
-  return !m_cancelled || stop();
+  append(findings, m_removed.findings);
+  notice(tr("Checking"), std::move(findings));
+}
+
+bool NetworkLoader::readSubResults(NivraReader &reader, const NivraReader::Options &options) {
+  const NivraReader::Result result = reader.readSubResults(m_workspace, options);
+  report(result.findings);
+  notice(tr("Reading"), result.findings);
+  m_cancelled = result.cancelled;
+  return !m_cancelled;
 }
 
 /// Always false: reading was cancelled.
@@ -158,11 +169,11 @@ void NetworkLoader::readMachines(const NivraReader &reader) {
   notice(tr("Machine data"), std::move(result.findings));
 }
 
-void NetworkLoader::assembleSubnets(const ReadOptions &options) {
+bool NetworkLoader::assembleSubnets(const ReadOptions &options) {
   m_templateDefinitions.clear();
   m_templateFolder.clear();
   if (m_net.assembledSubnets().isEmpty())
-    return;
+    return true;
   m_templateFolder = SubAssembler::findFolder(QCoreApplication::applicationDirPath());
   SubAssembler assembler(m_net, m_templateFolder);
   SubAssembler::Result result =
@@ -176,9 +187,10 @@ void NetworkLoader::assembleSubnets(const ReadOptions &options) {
     m_templateDefinitions = assembler.definitions(result.findings);
   report(result.findings);
   notice(tr("Subnets"), std::move(result.findings));
+  return !m_cancelled;
 }
 
-void NetworkLoader::computeFormulas(const Progress &progress) {
+bool NetworkLoader::computeFormulas(const Progress &progress) {
   Findings findings;
   std::vector<FormulaDefinition> definitions = std::move(m_templateDefinitions); // those of the case come after and count
   std::vector<FormulaDefinition> own = definitionsIn(m_workspace.caseDirectory(), QStringLiteral("geometry"), findings);
@@ -203,6 +215,7 @@ void NetworkLoader::computeFormulas(const Progress &progress) {
   report(findings);
   notice(tr("Formulas"), std::move(findings));
   noticeViolations();
+  return !m_cancelled;
 }
 
 void NetworkLoader::noticeViolations() {

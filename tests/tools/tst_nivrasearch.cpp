@@ -469,6 +469,7 @@ void TestNivraSearch::typedLikeAPerson() {
   QCOMPARE(panel.searchParams().name, QStringLiteral("axb"));
   QCOMPARE(tree(panel)->topLevelItemCount(), 1);
   QVERIFY(!field(panel, "lineEdit_prop")->toolTip().isEmpty());
+  QVERIFY(field(panel, "lineEdit_prop")->isClearButtonEnabled());
 }
 
 void TestNivraSearch::machinesOfferTheirMaps() {

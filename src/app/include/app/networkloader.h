@@ -4,6 +4,7 @@
 #include <characteristics/machinedata.h>
 #include <formulas/networkformulas.h>
 #include <io/nivragasparams.h>
+#include <io/nivrareader.h>
 #include <io/nivraworkspace.h>
 #include <io/scenariosummary.h>
 #include <model/consistencycheck.h>
@@ -16,8 +17,6 @@
 
 #include <functional>
 #include <utility>
-
-class NivraReader;
 
 /// Brings a chosen file into a NetData: workspace, configuration, network, checks. It knows no widgets; the window and
 /// the command line both drive it, stage by stage.
@@ -65,10 +64,14 @@ public:
   QString error() const { return m_error; } ///< why the last step failed, for a person
 
 private:
-  bool stop();
+  // The stages; those that return something return whether the next one may begin.
+  bool readFiles(NivraReader &reader, const NivraReader::Options &options);
+  void check();
+  bool assembleSubnets(const ReadOptions &options);
+  bool readSubResults(NivraReader &reader, const NivraReader::Options &options);
   void readMachines(const NivraReader &reader);
-  void assembleSubnets(const ReadOptions &options);
-  void computeFormulas(const Progress &progress);
+  bool computeFormulas(const Progress &progress);
+  bool stop();
   void notice(const QString &stage, Findings findings);
   void noticeViolations();
 
