@@ -31,9 +31,10 @@ QString key(const QString &caseDirectory) {
 } // namespace
 
 QString LastScenario::of(const QString &caseDirectory) {
+  const QString sought = key(caseDirectory);
   const QJsonArray entries = known();
   for (const QJsonValue &entry : entries) {
-    if (entry[0].toString() != key(caseDirectory))
+    if (entry[0].toString() != sought)
       continue;
     const QString path = QDir(caseDirectory).filePath(entry[1].toString());
     return QFileInfo(path).isFile() ? path : QString();
@@ -45,11 +46,12 @@ void LastScenario::remember(const QString &caseDirectory, const QString &scenari
   const QString inCase = QDir(caseDirectory).relativeFilePath(scenarioFile);
   if (inCase.startsWith(QStringLiteral("..")))
     return;
+  const QString own = key(caseDirectory);
   const QJsonArray before = known();
   QJsonArray entries;
-  entries.append(QJsonArray{key(caseDirectory), inCase});
+  entries.append(QJsonArray{own, inCase});
   for (const QJsonValue &entry : before) {
-    if (entry[0].toString() != key(caseDirectory) && entries.size() < MostCases)
+    if (entry[0].toString() != own && entries.size() < MostCases)
       entries.append(entry);
   }
   QString reason;

@@ -2,8 +2,8 @@
 #include <base/nivramsg.h>
 #include <characteristics/machinereader.h>
 #include <characteristics/networkmachines.h>
-#include <io/nivrareader.h>
 #include <model/subnetstate.h>
+#include <model/units.h>
 #include <subassembly/subassembler.h>
 
 #include <QCoreApplication>
@@ -78,15 +78,36 @@ void NetworkLoader::readConfiguration() {
 bool NetworkLoader::readNetwork(const ReadOptions &options) {
   QElapsedTimer timer;
   timer.start();
+  const auto note = [&](const QString &stage) {
+    m_seconds.append({stage, static_cast<double>(timer.restart()) * Milli});
+  };
   m_noticed.clear();
+  m_machines = MachineData();
   m_formulas.setDefinitions({}); // which speak of the network before
   NivraReader reader(m_net);
   NivraReader::Options readerOptions;
   readerOptions.includeTypes = options.includeTypes;
   readerOptions.includeProperties = options.includeProperties;
   readerOptions.progress = options.progress;
-  const NivraReader::Result result = reader.readTopoAndScen(m_workspace, readerOptions);
-  m_seconds.append({QStringLiteral("read"), static_cast<double>(timer.restart()) * Milli});
+  const bool isRead = readFiles(reader, readerOptions);
+  note(QStringLiteral("read"));
+  if (!isRead)
+    return false;
+  check();
+  note(QStringLiteral("check"));
+  if (!assembleSubnets(options) || !readSubResults(reader, readerOptions))
+    return stop();
+  note(QStringLiteral("subnets"));
+  readMachines(reader);
+  note(QStringLiteral("machines"));
+  SubnetState::derive(m_net);
+  const bool isComputed = computeFormulas(options.progress);
+  note(QStringLiteral("formulas"));
+  return isComputed || stop();
+}
+
+bool NetworkLoader::readFiles(NivraReader &reader, const NivraReader::Options &options) {
+  const NivraReader::Result result = reader.readTopoAndScen(m_workspace, options);
   if (!result.configuration.isEmpty())
     m_workspace.takeConfiguration(result.configuration, m_gasParams, result.configurationFile);
   m_gases = reader.gases();
@@ -94,32 +115,33 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   report(result.findings);
   notice(tr("Reading"), result.findings);
   m_cancelled = result.cancelled;
-  if (!result.ok || result.cancelled) {
-    m_error = result.cancelled ? tr("Reading was cancelled.") : firstCritical(result.findings);
-    return false;
-  }
-  Findings checked;
-  ConsistencyCheck::checkNetData(m_net, &checked);
+  if (m_cancelled)
+    return stop();
+  m_error = result.ok ? QString() : firstCritical(result.findings);
+  return result.ok;
+}
+
+void NetworkLoader::check() {
+  Findings findings;
+  ConsistencyCheck::checkNetData(m_net, &findings);
   m_removed = ConsistencyCheck::prune(m_net);
-  append(checked, m_removed.findings);
-  notice(tr("Checking"), std::move(checked));
-  m_seconds.append({QStringLiteral("check"), static_cast<double>(timer.restart()) * Milli});
-  assembleSubnets(options);
-  const NivraReader::Result subResults = reader.readSubResults(m_workspace, readerOptions);
-  report(subResults.findings);
-  notice(tr("Reading"), subResults.findings);
-  m_seconds.append({QStringLiteral("subnets"), static_cast<double>(timer.restart()) * Milli});
-  readMachines(reader);
-  m_seconds.append({QStringLiteral("machines"), static_cast<double>(timer.restart()) * Milli});
-  m_cancelled = m_cancelled || subResults.cancelled;
-  SubnetState::derive(m_net);
-  const bool isComputed = !m_cancelled && computeFormulas(options.progress);
-  if (!isComputed) {
-    m_error = tr("Reading was cancelled.");
-    m_formulas.setDefinitions({}); // of elements that nobody will see
-  }
-  m_seconds.append({QStringLiteral("formulas"), static_cast<double>(timer.restart()) * Milli});
-  return isComputed;
+  append(findings, m_removed.findings);
+  notice(tr("Checking"), std::move(findings));
+}
+
+bool NetworkLoader::readSubResults(NivraReader &reader, const NivraReader::Options &options) {
+  const NivraReader::Result result = reader.readSubResults(m_workspace, options);
+  report(result.findings);
+  notice(tr("Reading"), result.findings);
+  m_cancelled = result.cancelled;
+  return !m_cancelled;
+}
+
+/// Always false: reading was cancelled.
+bool NetworkLoader::stop() {
+  m_error = tr("Reading was cancelled.");
+  m_formulas.setDefinitions({}); // of elements that nobody will see
+  return false;
 }
 
 void NetworkLoader::notice(const QString &stage, Findings findings) {
@@ -132,7 +154,6 @@ ScenarioSummary NetworkLoader::scenarioSummary() const {
 }
 
 void NetworkLoader::readMachines(const NivraReader &reader) {
-  m_machines = MachineData();
   if (!m_workspace.hasScenario() || m_workspace.currentScenario()->comprDatabase.isEmpty())
     return;
   const QString &database = m_workspace.currentScenario()->comprDatabase;
@@ -141,19 +162,18 @@ void NetworkLoader::readMachines(const NivraReader &reader) {
     return; // nobody named it
   MachineReader::Result result = MachineReader::read(path);
   m_machines = std::move(result.data);
-  constexpr double FreezingPoint = 273.15; // K
-  m_machines.ambientTemperature = m_gasParams.tamb - FreezingPoint;
+  m_machines.ambientTemperature = m_gasParams.tamb - Units::ZeroCelsius;
   m_machines.gas = {reader.gases(), static_cast<GasLaw::Wanted>(m_gasParams.ntype_gasLaw), m_gasParams.tsoil};
   append(result.findings, NetworkMachines(m_net, m_machines).findings());
   report(result.findings);
   notice(tr("Machine data"), std::move(result.findings));
 }
 
-void NetworkLoader::assembleSubnets(const ReadOptions &options) {
+bool NetworkLoader::assembleSubnets(const ReadOptions &options) {
   m_templateDefinitions.clear();
   m_templateFolder.clear();
   if (m_net.assembledSubnets().isEmpty())
-    return;
+    return true;
   m_templateFolder = SubAssembler::findFolder(QCoreApplication::applicationDirPath());
   SubAssembler assembler(m_net, m_templateFolder);
   SubAssembler::Result result =
@@ -163,9 +183,11 @@ void NetworkLoader::assembleSubnets(const ReadOptions &options) {
         m_cancelled = options.progress && !options.progress(static_cast<double>(done) / count);
         return !m_cancelled;
       });
-  m_templateDefinitions = assembler.definitions(result.findings);
+  if (!m_cancelled)
+    m_templateDefinitions = assembler.definitions(result.findings);
   report(result.findings);
   notice(tr("Subnets"), std::move(result.findings));
+  return !m_cancelled;
 }
 
 bool NetworkLoader::computeFormulas(const Progress &progress) {

@@ -4,6 +4,7 @@
 #include <base/generalsettings.h>
 #include <base/logo.h>
 #include <base/nivramsg.h>
+#include <tools/categorylist.h>
 #include <tools/nivrasearch.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
@@ -17,7 +18,6 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMimeData>
-#include <QPointer>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QToolButton>
@@ -34,7 +34,8 @@ NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::NivraViewer>())
     , m_control(std::make_unique<NetVisControl>(m_net, QString()))
-    , m_loader(m_net) {
+    , m_loader(m_net)
+    , m_categories(std::make_shared<CategoryList>()) {
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());
@@ -45,7 +46,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   const QString ownStyle = GeneralSettings::userDirectory() + QStringLiteral("/stylesheet.qss");
   if (QFileInfo::exists(ownStyle))
     applyStyleSheet(ownStyle);
-  m_tools = new ToolDocks(*this, *m_control);
+  m_tools = new ToolDocks(*this, *m_control, m_categories);
   m_ui->statusbar->showMessage(tr("No Workspace loaded"));
   show();
   QCoreApplication::processEvents();
@@ -146,7 +147,7 @@ void NivraViewer::openWorkspace(const QString &path) {
   timer.start();
   const qint64 waitedBefore = NivraMsg::waitedForAnswers();
   NetworkLoader loader(m_net);
-  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::None));
+  m_ui->statusbar->setStyleSheet(QString());
   if (!loader.resolve(path)) {
     m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::Failed));
     m_ui->statusbar->showMessage(tr("Invalid Workspace"));
@@ -254,7 +255,7 @@ void NivraViewer::openSubnet(const QString &name) {
     window->activateWindow();
     return;
   }
-  auto *window = new SubnetWindow(m_net, name, m_loader.workspace(), this);
+  auto *window = new SubnetWindow(m_net, name, m_loader.workspace(), m_categories, this);
   connect(window, &SubnetWindow::elementMarked, this,
           [this](const QString &picked) { elementAction(picked, NetPicker::EleAction::Mark); });
   connect(window, &SubnetWindow::propertyChanged, this, [this](const QStringList &names, const QString &property) {
@@ -296,10 +297,8 @@ void NivraViewer::setBusy(bool busy) {
   QWidgetList widgets{m_ui->menubar, m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
     widgets.append(dock);
-  for (QWidget *window : QApplication::topLevelWidgets()) {
-    if (window != this && window->parentWidget() == nullptr)
-      widgets.append(window);
-  }
+  for (const QPointer<QWidget> &window : otherWindows())
+    widgets.append(window);
   for (QWidget *widget : qAsConst(widgets))
     widget->setEnabled(!busy);
 }
@@ -345,19 +344,28 @@ void NivraViewer::dropEvent(QDropEvent *event) {
 void NivraViewer::closeEvent(QCloseEvent *event) {
   if (m_progress != nullptr)
     m_progress->cancel(); // reading ends at its next step, then the window goes
+  else if (!m_tools->settleChanges()) {
+    event->ignore();
+    return;
+  }
   QMainWindow::closeEvent(event);
   if (event->isAccepted() && !closeOthers())
     event->ignore();
 }
 
-/// Tables and the guide are windows without a parent, which would keep the program alive. False when one of them refuses.
-bool NivraViewer::closeOthers() {
+/// Tables and the guide, which are windows without a parent.
+QList<QPointer<QWidget>> NivraViewer::otherWindows() const {
   QList<QPointer<QWidget>> others;
   for (QWidget *window : QApplication::topLevelWidgets()) {
     if (window != this && window->parentWidget() == nullptr)
       others.append(window);
   }
-  for (const QPointer<QWidget> &window : qAsConst(others)) {
+  return others;
+}
+
+/// Windows without a parent would keep the program alive. False when one of them refuses.
+bool NivraViewer::closeOthers() {
+  for (const QPointer<QWidget> &window : otherWindows()) {
     if (window != nullptr && window->isVisible() && !window->close())
       return false;
   }

@@ -19,8 +19,6 @@ QString key(OutcomeStyle::Outcome outcome) {
     return QStringLiteral("status bar style sheet acceptable");
   case OutcomeStyle::Outcome::Successful:
     return QStringLiteral("status bar style sheet successful");
-  case OutcomeStyle::Outcome::None:
-    break;
   }
   return QString();
 }

@@ -1,8 +1,8 @@
 #include <tools/elidedlabel.h>
+#include <tools/filterfield.h>
 #include <tools/tablemenu.h>
 
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTableView>
@@ -33,7 +33,7 @@ ScenarioDock::ScenarioDock(QWidget *parent)
     , m_gases(new GasModel(this))
     , m_shownSettings(filterOf(*m_settings, ScenarioModel::FilterRole))
     , m_shownGases(filterOf(*m_gases, GasModel::FilterRole))
-    , m_filter(new QLineEdit)
+    , m_filter(new FilterField)
     , m_tree(new QTreeView)
     , m_gasTable(new QTableView)
     , m_hint(new ElidedLabel)
@@ -101,10 +101,4 @@ void ScenarioDock::showHint() {
   const bool isAllHidden = m_settings->rowCount() > 0 && m_shownSettings->rowCount() == 0 && m_shownGases->rowCount() == 0;
   m_hint->setText(isAllHidden ? tr("Nothing has the text of the filter.") : m_missing);
   m_hint->setVisible(!m_hint->text().isEmpty());
-}
-
-// Only now: the button fades in, which nobody would see before and which outlives a field that goes at once.
-void ScenarioDock::showEvent(QShowEvent *event) {
-  m_filter->setClearButtonEnabled(true);
-  QDockWidget::showEvent(event);
 }

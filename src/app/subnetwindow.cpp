@@ -11,13 +11,14 @@
 #include <app/subnetwindow.h>
 #include <app/tooldocks.h>
 
-SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorkspace &workspace, QWidget *parent)
+SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorkspace &workspace,
+                           std::shared_ptr<CategoryList> categories, QWidget *parent)
     : QMainWindow(parent)
     , m_whole(net)
     , m_subnet(subnet)
     , m_net(part(net, subnet))
     , m_control(std::make_unique<NetVisControl>(m_net, subnet))
-    , m_tools(new ToolDocks(*this, *m_control, ToolDocks::Extent::Network)) {
+    , m_tools(new ToolDocks(*this, *m_control, std::move(categories), ToolDocks::Extent::Network)) {
   constexpr QSize Size(800, 600);
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(tr("Subassembly %1").arg(subnet)); // by which labels know that they are wanted at once

@@ -38,11 +38,12 @@ QList<QAction *> sortedByText(QList<QAction *> actions) {
 
 } // namespace
 
-ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control, Extent extent)
+ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control, std::shared_ptr<CategoryList> categories, Extent extent)
     : QObject(&window)
     , m_window(window)
     , m_control(control)
     , m_net(control.net())
+    , m_categoryList(std::move(categories))
     , m_extent(extent) {
   window.installEventFilter(this);
   connect(&control, &NetVisControl::selectionChanged, this, &ToolDocks::showSelection);
@@ -156,7 +157,8 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
   m_search->clearResults();
   m_layers->setLayerProperty(m_control.plot()->settings().layerProp);
   m_layers->on_pushButtonReload_clicked();
-  m_categories->setFile(workspace.filePath(QStringLiteral("catdef.csv")));
+  if (m_extent == Extent::Program)
+    m_categoryList->setFile(workspace.filePath(QStringLiteral("catdef.csv")));
   m_directory = QFileInfo(workspace.filePath(QStringLiteral("catdef.csv"))).path();
   if (m_vectorTable != nullptr) {
     m_vectorTable->setDirectory(m_directory);
@@ -207,7 +209,7 @@ void ToolDocks::createLayers() {
 }
 
 void ToolDocks::createCategories() {
-  m_categories = new NivraNetObjectCats(&m_window);
+  m_categories = new NivraNetObjectCats(m_categoryList, &m_window);
   addDock(m_categories, QStringLiteral("categories"), Qt::BottomDockWidgetArea);
   connect(m_categories, &NivraNetObjectCats::showInTable, this,
           [this](const QString &category) { vectorTable()->on_showCat(category); });
@@ -256,10 +258,8 @@ void ToolDocks::showMetaData() {
 }
 
 void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
-  FindingList list; // counts what is shown
-  list.set(groups);
-  const int count = list.count();
   m_findings->setFindings(groups);
+  const int count = m_findings->count();
   m_findingsButton->setText(count == 1 ? tr("1 finding") : tr("%1 findings").arg(count));
   m_findingsButton->setVisible(count > 0);
 }

@@ -1,5 +1,7 @@
 #include "gascomposition.h"
 
+#include <model/units.h>
+
 #include <QCoreApplication>
 
 #include <Eigen/Dense>
@@ -12,8 +14,8 @@ QString tr(const char *text) {
   return QCoreApplication::translate("GasComposition", text);
 }
 
-constexpr double NormTemperature = 273.15; // K
-constexpr double NormPressure = 101.325;   // kPa
+using Units::NormTemperature;
+constexpr double NormPressure = 101.325; // kPa
 
 /// Superior molar calorific values at 25 degC in kJ/mol, ISO 6976:1995 table 3, in the order of the components.
 constexpr std::array<double, Gerg2008::Components> CalorificValues{890.63, 0.0, 0.0, 1560.69, 2219.17, 285.83};

@@ -1,4 +1,5 @@
 #include <characteristics/gassource.h>
+#include <model/units.h>
 
 #include <QCoreApplication>
 
@@ -51,8 +52,7 @@ GasSource::Gas GasSource::made(const GasData &data, const QString &origin) const
     Gas gas;
     gas.law = GasLaw::of(data, m_scenario.law);
     constexpr double NormPressure = 1.01325;
-    constexpr double NormTemperature = 273.15;
-    gas.normDensity = data.normDensity > 0.0 ? data.normDensity : gas.law->at(NormPressure, NormTemperature).density;
+    gas.normDensity = data.normDensity > 0.0 ? data.normDensity : gas.law->at(NormPressure, Units::NormTemperature).density;
     found = m_made.emplace(key, gas).first;
   }
   Gas gas = found->second;

@@ -4,6 +4,7 @@
 
 #include <characteristics/mapplot.h>
 #include <model/displayformat.h>
+#include <model/units.h>
 
 #include <QComboBox>
 #include <QLabel>
@@ -16,7 +17,6 @@ namespace {
 
 using Comparison = NetworkMachines::Comparison;
 
-constexpr double FreezingPoint = 273.15; // K
 constexpr const char *Warning = "#b22222";
 
 QString cell(const QString &text) {
@@ -92,7 +92,7 @@ QString pointTable(const WorkingPoint &point, const std::vector<Comparison> &com
   if (point.energyRate)
     table.add("", Page::tr("fuel or current"), *point.energyRate, QStringLiteral("kW"));
   if (point.outletTemperature)
-    table.add("", Page::tr("outlet temperature"), *point.outletTemperature - FreezingPoint, QStringLiteral("°C"));
+    table.add("", Page::tr("outlet temperature"), *point.outletTemperature - Units::ZeroCelsius, QStringLiteral("°C"));
   table.add("", Page::tr("real gas factor z"), point.realGasFactor, QString());
   if (point.isCompressing())
     table.add("", Page::tr("isentropic exponent"), point.exponent, QString());

@@ -1,5 +1,7 @@
 #include "machinexml.h"
 
+#include <model/units.h>
+
 #include <QCoreApplication>
 
 #include <cmath>
@@ -9,8 +11,6 @@ namespace {
 QString tr(const char *text) {
   return QCoreApplication::translate("MachineXml", text);
 }
-
-constexpr double Freezing = 273.15; // K
 
 /// To the units of machine data; 0 for a unit that is not known.
 double factorOf(const QString &unit) {
@@ -55,7 +55,7 @@ double MachineXml::numberHere() {
   if (const double factor = factorOf(unit); factor != 0.0)
     return value * factor;
   if (unit == QLatin1String("K"))
-    return value - Freezing;
+    return value - Units::ZeroCelsius;
   if (!std::isnan(value))
     tell(tr("the unit \"%1\" of %2 is not known, the value is left out").arg(unit, m_xml.name().toString()));
   return std::nan("");

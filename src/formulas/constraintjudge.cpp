@@ -1,10 +1,9 @@
 #include "constraintjudge.h"
 
+#include <model/displayformat.h>
 #include <model/netmetadata.h>
 
 #include <cmath>
-#include <map>
-#include <unordered_map>
 
 namespace {
 
@@ -55,9 +54,8 @@ QString ConstraintJudge::violation(const FormulaRule &rule, const element &e) {
     toDisplay = conversion.value_or(Units::Linear());
     unit = conversion ? attribute->displayUnit : attribute->storedUnit;
   }
-  constexpr int Digits = 6;
   const auto shown = [&toDisplay](double number) {
-    return QString::fromStdString(formatNumber(toDisplay(number), Digits));
+    return DisplayFormat::number(toDisplay(number));
   };
   QString text = QStringLiteral("%1 = %2 %3 %4")
                      .arg(rule.definition.property, shown(value), isLow ? QStringLiteral("<") : QStringLiteral(">"),
@@ -86,26 +84,36 @@ bool ConstraintJudge::judge(FormulaRule &rule, const std::vector<element *> &ele
 }
 
 void ConstraintJudge::write(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints) {
-  for (element *e : m_judged) {
-    QString all;
-    for (const int i : constraints) {
-      const QString text = rules[static_cast<std::size_t>(i)].violations.value(e);
-      if (!text.isEmpty())
-        all += text + QLatin1Char(';');
+  if (constraints.empty())
+    return;
+  std::unordered_map<element *, QString> own; // of what was judged
+  for (element *e : m_judged)
+    own.emplace(e, QString());
+  const SubnetOf subnetOf = subnetsByElement();
+  std::map<element *, QString> ofSubnets; // about which something was asked
+  for (const int i : constraints) {
+    const FormulaRule &rule = rules[static_cast<std::size_t>(i)];
+    for (auto it = rule.violations.cbegin(); it != rule.violations.cend(); ++it) {
+      if (const auto found = own.find(it.key()); found != own.end())
+        found->second += it.value() + QLatin1Char(';');
     }
-    if (all.isEmpty())
+    if (!subnetOf.empty())
+      addToSubnets(rule, subnetOf, ofSubnets);
+  }
+  for (const auto &[e, text] : own) {
+    if (text.isEmpty())
       e->erase(infoKey());
     else
-      e->set(infoKey(), asInfo(all));
+      e->set(infoKey(), asInfo(text));
   }
-  if (!m_net.assembledSubnets().isEmpty())
-    writeSubnets(rules, constraints);
+  for (const auto &[subnet, text] : ofSubnets)
+    subnet->set(infoKey(), asInfo(text));
 }
 
-void ConstraintJudge::writeSubnets(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints) {
+/// A subnet is its own.
+ConstraintJudge::SubnetOf ConstraintJudge::subnetsByElement() const {
   static const PropertyKey inner = PropertyKey::intern("elements");
-  static const PropertyKey nameKey = PropertyKey::intern("name");
-  std::unordered_map<const element *, element *> subnetOf; // a subnet is its own
+  SubnetOf subnetOf;
   m_net.forEach(NetData::AssembledSubnet, [&](element &subnet) {
     subnetOf.emplace(&subnet, &subnet);
     for (const QString &name : subnet.value(inner).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
@@ -113,21 +121,21 @@ void ConstraintJudge::writeSubnets(const std::vector<FormulaRule> &rules, const 
         subnetOf.emplace(e, &subnet);
     }
   });
-  std::map<element *, QString> texts; // of the subnets about which something was asked
-  for (const int i : constraints) {
-    const FormulaRule &rule = rules[static_cast<std::size_t>(i)];
-    for (element *e : rule.elements) {
-      const auto found = subnetOf.find(e);
-      if (found == subnetOf.end())
-        continue;
-      QString &text = texts[found->second];
-      const QString violation = rule.violations.value(e);
-      if (violation.isEmpty())
-        continue;
-      const QString who = e == found->second ? QString() : e->value(nameKey) + QStringLiteral(": ");
-      text += who + violation + QLatin1Char(';');
-    }
+  return subnetOf;
+}
+
+void ConstraintJudge::addToSubnets(const FormulaRule &rule, const SubnetOf &subnetOf,
+                                   std::map<element *, QString> &texts) const {
+  static const PropertyKey nameKey = PropertyKey::intern("name");
+  for (element *e : rule.elements) {
+    const auto found = subnetOf.find(e);
+    if (found == subnetOf.end())
+      continue;
+    QString &text = texts[found->second];
+    const auto violation = rule.violations.constFind(e);
+    if (violation == rule.violations.constEnd())
+      continue;
+    const QString who = e == found->second ? QString() : e->value(nameKey) + QStringLiteral(": ");
+    text += who + *violation + QLatin1Char(';');
   }
-  for (const auto &[subnet, text] : texts)
-    subnet->set(infoKey(), asInfo(text));
 }

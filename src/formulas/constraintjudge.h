@@ -3,8 +3,10 @@
 #include "formularule.h"
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <set>
+#include <unordered_map>
 
 /// Holds elements against constraints and writes down what is wrong with each, in its property "CB_info".
 class ConstraintJudge {
@@ -26,7 +28,9 @@ public:
 private:
   std::optional<double> bound(const Formula *formula, const FormulaRule &rule, const element &e);
   QString violation(const FormulaRule &rule, const element &e);
-  void writeSubnets(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints);
+  using SubnetOf = std::unordered_map<const element *, element *>;
+  SubnetOf subnetsByElement() const;
+  void addToSubnets(const FormulaRule &rule, const SubnetOf &subnetOf, std::map<element *, QString> &texts) const;
 
   NetData &m_net;
   std::set<element *> m_judged; ///< those with something to be written

@@ -157,18 +157,8 @@ void NetworkFormulas::Computing::order() {
 }
 
 void NetworkFormulas::Computing::reportUnknown() {
-  std::vector<bool> isKnown; // by spelling, so that most properties cost no look-up
-  std::set<PropertyKey> known;
-  net.forEach(NetData::AllTypes, [&](const element &e) {
-    for (const Property &property : e) {
-      if (property.key.index() >= isKnown.size())
-        isKnown.resize(property.key.index() + 1);
-      if (isKnown[property.key.index()])
-        continue;
-      isKnown[property.key.index()] = true;
-      known.insert(property.key);
-    }
-  });
+  const std::vector<PropertyKey> keys = net.propertyKeys();
+  std::set<PropertyKey> known(keys.begin(), keys.end());
   for (const FormulaRule &rule : rules)
     known.insert(rule.target);
   for (const FormulaRule &rule : rules) {

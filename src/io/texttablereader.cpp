@@ -2,7 +2,7 @@
 
 #include "readreport.h"
 
-#include <QTextCodec>
+#include <base/textdecoding.h>
 
 #include <algorithm>
 
@@ -11,13 +11,6 @@ namespace {
 bool isName(std::string_view text) {
   constexpr std::string_view Name = "name";
   return std::equal(text.begin(), text.end(), Name.begin(), Name.end(), [](char a, char b) { return (a | 0x20) == b; });
-}
-
-/// What is not UTF-8 mostly comes from a spreadsheet of a Western machine.
-std::string fromWindows1252(const std::string &text) {
-  const auto size = static_cast<int>(text.size());
-  const QTextCodec *codec = QTextCodec::codecForName("windows-1252");
-  return (codec != nullptr ? codec->toUnicode(text.data(), size) : QString::fromLatin1(text.data(), size)).toStdString();
 }
 
 } // namespace
@@ -37,7 +30,7 @@ bool TextTableReader::nextLine() {
   m_isTooLong = line.tooLong;
   m_line.assign(line.text, line.size);
   if (!simdjson::validate_utf8(m_line)) {
-    m_line = fromWindows1252(m_line);
+    m_line = TextDecoding::fromWindows1252(QByteArray::fromStdString(m_line)).toStdString();
     if (m_notUtf8Line == 0)
       m_notUtf8Line = m_number;
   }

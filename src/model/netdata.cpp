@@ -144,6 +144,25 @@ std::pair<NetData::EleType, ::element *> NetData::findElement(const QString &nam
   return nullptr;
 }
 
+std::vector<PropertyKey> NetData::propertyKeys() const {
+  std::vector<PropertyKey> keys;
+  std::vector<bool> isKnown; // by spelling, so that most properties cost no look-up
+  for (const elements *collection : {&m_nodes, &m_edges, &m_assembledSubnets, &m_tBoxes}) {
+    for (const elements::Entry &entry : *collection) {
+      for (const Property &property : entry.value) {
+        const std::size_t index = property.key.index();
+        if (index >= isKnown.size())
+          isKnown.resize(index + 1);
+        if (!isKnown[index])
+          keys.push_back(property.key);
+        isKnown[index] = true;
+      }
+    }
+  }
+  std::sort(keys.begin(), keys.end());
+  return keys;
+}
+
 QList<elements *> NetData::collections(int mask) {
   QList<elements *> selected;
   for (const EleType kind : m_types) {

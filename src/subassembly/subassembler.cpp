@@ -1,9 +1,8 @@
+#include "templatedefinitions.h"
 #include "templateplacement.h"
 #include "templateplan.h"
 
 #include <base/nivramsg.h>
-#include <base/pattern.h>
-#include <formulas/formula.h>
 #include <io/nivrareader.h>
 #include <subassembly/subassembler.h>
 
@@ -13,7 +12,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
 
 namespace {
 
@@ -160,8 +158,8 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
   findFreePrefixes(subnets);
   const auto count = static_cast<int>(subnets.size());
   NivraMsg::debug(QStringLiteral("     before rebuild %1 sec.\n").arg(static_cast<double>(timer.elapsed()) * Milli));
-  if (told)
-    told(QStringLiteral("Creating Subnets"), 0, count);
+  if (told && !told(QStringLiteral("Creating Subnets"), 0, count))
+    return m_result;
   for (int i = 0; i < count; ++i) {
     if (told && !told(QStringLiteral("Creating Subnets (%1/%2)").arg(i + 1).arg(count), i, count))
       return m_result;
@@ -378,49 +376,18 @@ void SubAssembler::findFreePrefixes(const std::vector<const elements::Entry *> &
     m_freePrefixes.erase(QString::fromStdString(prefix));
 }
 
-/// A template's definition as that of the elements that were made for one subnet.
-FormulaDefinition SubAssembler::ownDefinition(const FormulaDefinition &definition, const Assembled &assembled,
-                                              const std::shared_ptr<const FormulaNames> &names) {
-  FormulaDefinition own = definition;
-  own.names = names;
-  const std::vector<std::string> &parts = assembled.variant->plan->parts();
-  const Pattern pattern(definition.namePattern);
-  for (std::size_t i = 0; i < parts.size(); ++i) {
-    if (pattern.matches(parts[i]))
-      own.elements.append(assembled.names[i].toString());
-  }
-  if (own.types.contains(QStringLiteral("sub")))
-    own.elements.append(assembled.subnet);
-  own.namePattern.clear();
-  return own;
-}
-
 std::vector<FormulaDefinition> SubAssembler::definitions(Findings &findings) const {
-  const auto read = [](const QString &path) {
-    return FormulaFile::read(path, QStringLiteral("geometry"), FileAccess::Source::Trusted); // of the program
-  };
-  std::set<QString> told;
   std::vector<FormulaDefinition> definitions;
+  std::map<const Variant *, TemplateDefinitions> ofVariants;
   for (const Assembled &assembled : m_assembled) {
     const Variant &variant = *assembled.variant;
-    const auto names = std::make_shared<FormulaNames>(); // of the template to those of the network
-    for (int i = 0; i < assembled.pins.size(); ++i)
-      names->add(variant.plan->pinNames().at(i), assembled.pins.at(i));
-    for (std::size_t i = 0; i < assembled.names.size(); ++i)
-      names->add(QString::fromStdString(variant.plan->parts()[i]), assembled.names[i].toString());
-    for (const auto &[path, cache] :
-         {std::make_pair(&variant.constraints, &m_templates->constraints), {&variant.formulas, &m_templates->formulas}}) {
-      if (path->isEmpty())
-        continue;
-      const FormulaFile::Contents &contents = cache->get(*path, read);
-      if (told.insert(*path).second)
-        append(findings, contents.findings);
-      for (const FormulaDefinition &definition : contents.definitions) {
-        FormulaDefinition own = ownDefinition(definition, assembled, names);
-        if (!own.elements.isEmpty())
-          definitions.push_back(std::move(own));
-      }
+    auto known = ofVariants.find(&variant);
+    if (known == ofVariants.end()) {
+      known = ofVariants.emplace(&variant, variant.plan).first;
+      known->second.read(variant.constraints, m_templates->constraints, findings);
+      known->second.read(variant.formulas, m_templates->formulas, findings);
     }
+    known->second.addFor(assembled.subnet, assembled.pins, assembled.names, definitions);
   }
   return definitions;
 }

@@ -1,12 +1,12 @@
 #include <base/fileaccess.h>
 #include <base/nivramsg.h>
+#include <base/textdecoding.h>
 #include <base/wholefile.h>
 #include <tools/category.h>
 
 #include <QFileInfo>
 #include <QMap>
 #include <QRegularExpression>
-#include <QTextCodec>
 
 namespace {
 
@@ -47,12 +47,10 @@ QString meant(const QString &field) {
 
 /// Files written elsewhere may be in the encoding of old.
 QString decoded(const QByteArray &content, const QString &path) {
-  QTextCodec::ConverterState state;
-  QString text = QTextCodec::codecForName("UTF-8")->toUnicode(content.constData(), content.size(), &state);
-  if (state.invalidChars == 0)
-    return text;
-  NivraMsg::logWarning(QStringLiteral("%1 is not UTF-8 and is read as Latin-1").arg(path));
-  return QString::fromLatin1(content);
+  if (std::optional<QString> text = TextDecoding::fromUtf8(content))
+    return *text;
+  NivraMsg::logWarning(QStringLiteral("%1 is not UTF-8 and is read as Windows-1252 (Latin-1)").arg(path));
+  return TextDecoding::fromWindows1252(content);
 }
 
 } // namespace

@@ -37,12 +37,16 @@ void Layers::rename(const QString &layer, const QString &newName) {
   add(m_layers.value(layer), newName);
 }
 
-void Layers::remove(const QString &layer) {
-  for (const QString &name : m_layers.value(layer)) {
+QStringList Layers::remove(const QSet<QString> &layers) {
+  QStringList names;
+  for (const QString &layer : layers)
+    names += m_layers.value(layer);
+  for (const QString &name : qAsConst(names)) {
     if (element *e = m_net.element(name))
       e->erase(m_property);
   }
   rebuild();
+  return names;
 }
 
 bool Layers::isAllowed(const QString &name) {

@@ -70,9 +70,28 @@ NetworkSearch::Part NetworkSearch::searchPart(const std::vector<element *> &cand
   return part;
 }
 
+/// Before other threads begin: to parse a formula makes keys of properties, which must be there while these are read.
+QString NetworkSearch::parseFormula() {
+  try {
+    if (!m_params.formula.isEmpty())
+      m_formula.emplace(m_params.formula, m_net);
+  } catch (const FormulaError &error) {
+    return error.text();
+  }
+  return QString();
+}
+
 NetworkSearch::Result NetworkSearch::run() {
+  Result result;
   std::vector<element *> candidates;
   m_net.forEach(NetData::AllTypes, [&candidates](element &e) { candidates.push_back(&e); });
+  result.error = parseFormula();
+  result.isStopped = !result.error.isEmpty();
+  if (result.isStopped) {
+    for (element *candidate : candidates)
+      candidate->erase(resultKey()); // marks of the search before
+    return result;
+  }
   std::map<std::size_t, Part> parts; // by the place of their first element
   std::mutex mutex;
   std::atomic<std::size_t> stoppedAt = candidates.size(); // the first chunk that was, what follows is not searched
@@ -85,7 +104,6 @@ NetworkSearch::Result NetworkSearch::run() {
     const std::lock_guard lock(mutex);
     parts.emplace(first, std::move(part));
   });
-  Result result;
   std::size_t searched = 0;
   for (auto &[first, part] : parts) {
     std::move(part.rows.begin(), part.rows.end(), std::back_inserter(result.rows));

@@ -1,3 +1,4 @@
+#include <tools/filterfield.h>
 #include <tools/nivrafindings.h>
 #include <tools/plaintip.h>
 #include <tools/tablemenu.h>
@@ -5,7 +6,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -18,7 +18,7 @@ enum Column { TextColumn, ElementColumn, PlaceColumn };
 
 NivraFindings::NivraFindings(QWidget *parent)
     : QDockWidget(tr("Findings"), parent)
-    , m_filter(new QLineEdit)
+    , m_filter(new FilterField)
     , m_tree(new QTreeWidget)
     , m_count(new QLabel) {
   auto *contents = new QWidget;
@@ -109,10 +109,4 @@ void NivraFindings::showNext() {
   m_tree->setCurrentItem(item);
   m_tree->scrollToItem(item);
   goTo(item);
-}
-
-// Only now: the button fades in, which nobody would see before and which outlives a field that goes at once.
-void NivraFindings::showEvent(QShowEvent *event) {
-  m_filter->setClearButtonEnabled(true);
-  QDockWidget::showEvent(event);
 }

@@ -233,11 +233,7 @@ void NivraNetLayersEditor::on_toolButtonDel_clicked() {
       tr("This will erase the \"%1\" property from all elements in the selected layers. Continue?").arg(m_layers.property());
   if (!confirms(tr("Delete Layers"), question))
     return;
-  QStringList names;
-  for (const QString &layer : qAsConst(chosen)) {
-    names += m_layers.all().value(layer);
-    m_layers.remove(layer);
-  }
+  const QStringList names = m_layers.remove(chosen);
   emit hiddenLayersWanted(m_layers.property(), QSet<QString>(m_hidden).subtract(chosen));
   fill();
   emit propertyChanged(names, m_layers.property());

@@ -4,10 +4,12 @@
 #include <tools/nivranetobjectcats.h>
 #include <tools/tablemenu.h>
 
-#include <QEvent>
+#include <QApplication>
 #include <QMessageBox>
 
 namespace {
+
+constexpr int SearchRow = 0;
 
 enum Column { CategoryColumn, NameColumn, TypeColumn, PropertyColumn, ValueColumn };
 
@@ -17,47 +19,36 @@ QIcon actionIcon(const char *name) {
 
 } // namespace
 
-NivraNetObjectCats::NivraNetObjectCats(QWidget *parent)
+NivraNetObjectCats::NivraNetObjectCats(std::shared_ptr<CategoryList> list, QWidget *parent)
     : QDockWidget(parent)
-    , m_ui(std::make_unique<Ui::NivraNetObjectCats>()) {
+    , m_ui(std::make_unique<Ui::NivraNetObjectCats>())
+    , m_list(std::move(list)) {
   qRegisterMetaType<CatMap>("CatMap");
   m_ui->setupUi(this);
   m_ui->tableWidget->setHorizontalHeaderLabels({tr("category"), tr("name"), tr("type"), tr("property"), tr("value")});
   m_ui->tableWidget->horizontalHeader()->setStretchLastSection(true);
   TableMenu::offerCopy(*m_ui->tableWidget);
-  connect(m_ui->tableWidget, &QTableWidget::cellChanged, this, &NivraNetObjectCats::setChanged);
-  appendRow({QStringLiteral("fromSearch"), QString(), QString(), QStringLiteral("^name$"), QString(), false});
-  if (parent != nullptr)
-    parent->installEventFilter(this);
+  connect(m_ui->tableWidget, &QTableWidget::cellChanged, this, [this](int row) { setCategory(row, rowAt(row)); });
+  connect(m_list.get(), &CategoryList::edited, this, [this] {
+    showList();
+    informOnNecessaryUpdate();
+  });
+  connect(m_list.get(), &CategoryList::hasRead, this, &NivraNetObjectCats::showNewList);
+  showRow(SearchRow, {QStringLiteral("fromSearch"), QString(), QString(), QStringLiteral("^name$"), QString(), false});
+  showNewList();
 }
 
 NivraNetObjectCats::~NivraNetObjectCats() = default;
 
-void NivraNetObjectCats::setFile(const QString &path) {
-  m_path = path;
-  readFile();
-}
-
 void NivraNetObjectCats::on_pushButtonReload_clicked() {
   if (settleChanges())
-    readFile();
-}
-
-void NivraNetObjectCats::readFile() {
-  const QSignalBlocker blocker(m_ui->tableWidget);
-  m_ui->tableWidget->setSortingEnabled(false);
-  m_ui->tableWidget->setRowCount(1); // that of the search
-  if (!m_path.isEmpty()) {
-    for (const Category &category : CategoryFile::read(m_path))
-      appendRow(category);
-  }
-  m_isChanged = false;
-  m_ui->tableWidget->resizeColumnsToContents();
-  on_pushButtonUse_clicked();
+    m_list->read();
 }
 
 bool NivraNetObjectCats::settleChanges() {
-  if (!m_isChanged || !NivraMsg::isInteractive())
+  if (QWidget *typedInto = QApplication::focusWidget())
+    typedInto->clearFocus(); // what is just being typed is a change
+  if (!m_list->isChanged() || !NivraMsg::isInteractive())
     return true;
   const auto answer =
       QMessageBox::question(this, tr("Element Categories"), tr("The categories have changes that are not saved. Save them?"),
@@ -65,40 +56,45 @@ bool NivraNetObjectCats::settleChanges() {
   return answer == QMessageBox::Save ? save() : answer == QMessageBox::Discard;
 }
 
-bool NivraNetObjectCats::eventFilter(QObject *watched, QEvent *event) {
-  if (event->type() == QEvent::Close && watched == parent() && !settleChanges()) {
-    event->ignore();
-    return true;
-  }
-  return QDockWidget::eventFilter(watched, event);
+void NivraNetObjectCats::showNewList() {
+  showList();
+  m_ui->tableWidget->resizeColumnsToContents();
+  on_pushButtonUse_clicked();
 }
 
-void NivraNetObjectCats::setChanged() {
-  m_isChanged = true;
-  informOnNecessaryUpdate();
-}
-
-void NivraNetObjectCats::appendRow(const Category &category) {
+void NivraNetObjectCats::showList() {
+  int row = SearchRow;
+  for (const Category &category : m_list->categories())
+    showRow(++row, category);
   const QSignalBlocker blocker(m_ui->tableWidget);
-  const int row = m_ui->tableWidget->rowCount();
-  m_ui->tableWidget->insertRow(row);
+  m_ui->tableWidget->setRowCount(row + 1);
+}
+
+void NivraNetObjectCats::showRow(int row, const Category &category) {
+  const QSignalBlocker blocker(m_ui->tableWidget);
+  if (row == m_ui->tableWidget->rowCount())
+    insertRow(row);
   const QStringList texts{category.category, category.name, category.type, category.prop, category.value};
+  for (int column = CategoryColumn; column <= ValueColumn; ++column)
+    m_ui->tableWidget->item(row, column)->setText(texts.at(column));
+  m_ui->tableWidget->item(row, CategoryColumn)->setCheckState(category.isChecked ? Qt::Checked : Qt::Unchecked);
+}
+
+void NivraNetObjectCats::insertRow(int row) {
+  m_ui->tableWidget->insertRow(row);
   for (int column = CategoryColumn; column <= ValueColumn; ++column) {
-    auto *cell = new QTableWidgetItem(texts.at(column));
-    if (row == 0)
+    auto *cell = new QTableWidgetItem;
+    if (row == SearchRow)
       cell->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled); // it follows the search
-    if (column == CategoryColumn) {
-      cell->setCheckState(category.isChecked ? Qt::Checked : Qt::Unchecked);
+    if (column == CategoryColumn)
       cell->setToolTip(tr("check for report"));
-    }
     m_ui->tableWidget->setItem(row, column, cell);
   }
 }
 
 Category NivraNetObjectCats::rowAt(int row) const {
   const auto text = [&](int column) {
-    const QTableWidgetItem *cell = m_ui->tableWidget->item(row, column);
-    return cell == nullptr ? QString() : cell->text().trimmed();
+    return m_ui->tableWidget->item(row, column)->text().trimmed();
   };
   return {text(CategoryColumn), text(NameColumn),
           text(TypeColumn),     text(PropertyColumn),
@@ -106,40 +102,40 @@ Category NivraNetObjectCats::rowAt(int row) const {
 }
 
 std::vector<Category> NivraNetObjectCats::categories() const {
-  std::vector<Category> all;
-  all.reserve(static_cast<std::size_t>(m_ui->tableWidget->rowCount()));
-  for (int row = 0; row < m_ui->tableWidget->rowCount(); ++row)
-    all.push_back(rowAt(row));
+  std::vector<Category> all{rowAt(SearchRow)};
+  all.insert(all.end(), m_list->categories().begin(), m_list->categories().end());
   return all;
 }
 
-void NivraNetObjectCats::setTexts(int row, const QStringList &strList) {
-  const QSignalBlocker blocker(m_ui->tableWidget);
-  for (int column = NameColumn; column <= ValueColumn; ++column)
-    m_ui->tableWidget->item(row, column)->setText(strList.value(column - NameColumn));
+/// Not of the search.
+void NivraNetObjectCats::setCategory(int row, const Category &category) {
+  if (row > SearchRow)
+    m_list->set(static_cast<std::size_t>(row - 1), category);
+}
+
+Category NivraNetObjectCats::defined(const Category &named, const QStringList &strList) {
+  return {named.category, strList.value(0), strList.value(1), strList.value(2), strList.value(3), named.isChecked};
 }
 
 void NivraNetObjectCats::updateTempCategory(const QStringList &strList) {
-  setTexts(0, strList);
+  showRow(SearchRow, defined(rowAt(SearchRow), strList));
   on_pushButtonUse_clicked();
 }
 
 void NivraNetObjectCats::addCategory(const QStringList &strList, const QString &catName) {
   const int row = m_ui->tableWidget->rowCount();
-  appendRow(
-      {catName.isEmpty() ? QStringLiteral("Cat%1").arg(row) : catName, QString(), QString(), QString(), QString(), false});
-  setTexts(row, strList);
+  Category named;
+  named.category = catName.isEmpty() ? QStringLiteral("Cat%1").arg(row) : catName;
+  m_list->append(defined(named, strList));
   m_ui->tableWidget->setCurrentCell(row, CategoryColumn);
   show();
   raise();
-  setChanged();
 }
 
 void NivraNetObjectCats::addToCurrentCategory(const QStringList &strList) {
-  if (m_ui->tableWidget->currentRow() <= 0)
-    return;
-  setTexts(m_ui->tableWidget->currentRow(), strList);
-  setChanged();
+  const int row = m_ui->tableWidget->currentRow();
+  if (row > SearchRow)
+    setCategory(row, defined(rowAt(row), strList));
 }
 
 void NivraNetObjectCats::on_toolButtonAdd_clicked() {
@@ -147,10 +143,9 @@ void NivraNetObjectCats::on_toolButtonAdd_clicked() {
 }
 
 void NivraNetObjectCats::on_toolButtonRemove_clicked() {
-  if (m_ui->tableWidget->currentRow() <= 0)
-    return; // that of the search stays
-  m_ui->tableWidget->removeRow(m_ui->tableWidget->currentRow());
-  setChanged();
+  const int row = m_ui->tableWidget->currentRow();
+  if (row > SearchRow) // which stays
+    m_list->remove(static_cast<std::size_t>(row - 1));
 }
 
 void NivraNetObjectCats::on_pushButtonOK_clicked() {
@@ -158,15 +153,11 @@ void NivraNetObjectCats::on_pushButtonOK_clicked() {
 }
 
 bool NivraNetObjectCats::save() {
-  std::vector<Category> kept = categories();
-  kept.erase(kept.begin());
   QString error;
-  if (!CategoryFile::write(m_path, kept, &error)) {
-    NivraMsg::message(NivraMsg::Kind::Warning, error);
-    return false;
-  }
-  m_isChanged = false;
-  return true;
+  if (m_list->save(&error))
+    return true;
+  NivraMsg::message(NivraMsg::Kind::Warning, error);
+  return false;
 }
 
 void NivraNetObjectCats::on_pushButtonUse_clicked() {

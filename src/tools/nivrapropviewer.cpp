@@ -105,9 +105,3 @@ void NivraPropViewer::changeEvent(QEvent *event) {
   else
     QDockWidget::changeEvent(event);
 }
-
-// Only now: the buttons fade in, which nobody would see before and which outlives a field that goes at once.
-void NivraPropViewer::showEvent(QShowEvent *event) {
-  m_ui->lineEdit_filter->setClearButtonEnabled(true);
-  QDockWidget::showEvent(event);
-}

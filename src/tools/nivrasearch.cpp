@@ -65,10 +65,9 @@ void NivraSearch::setUpResults() {
   new TableMenu(*tree);
   auto *characteristics = new QAction(tr("Open Characteristics"), this);
   characteristics->setObjectName(QStringLiteral("actionOpenCharacteristics"));
-  characteristics->setVisible(false);
   tree->addAction(characteristics);
-  connect(tree, &QTreeWidget::itemSelectionChanged, characteristics,
-          [this, characteristics] { characteristics->setVisible(!m_results->selectedMachines().isEmpty()); });
+  TableMenu::offerActions(
+      *tree, [this, characteristics] { characteristics->setVisible(!m_results->selectedMachines().isEmpty()); });
   connect(characteristics, &QAction::triggered, this, [this] { emit characteristicsWanted(m_results->selectedMachines()); });
   showHint(QString());
 }
@@ -322,14 +321,12 @@ void NivraSearch::on_pushButton_save_clicked() {
 }
 
 bool NivraSearch::save(const QString &path, QString *reason) const {
-  QString unasked;
   SearchParams params = searchParams();
   params.formula = m_reportedFormula;
   const bool useComma = GeneralSettings::instance().isOn(QStringLiteral("use comma"));
   return WholeFile::write(
       path, FileAccess::Source::Trusted,
-      [&](QIODevice &device, QString *) { return SearchTable::write(device, params, m_results->rows(), useComma); },
-      reason == nullptr ? &unasked : reason);
+      [&](QIODevice &device, QString *) { return SearchTable::write(device, params, m_results->rows(), useComma); }, reason);
 }
 
 void NivraSearch::on_pushButton_addCat_clicked() {
@@ -411,11 +408,4 @@ void NivraSearch::searchNames(const QString &names) {
   m_ui->pushButton_regex->setChecked(true);
   clearFormulas();
   searchWithFormula();
-}
-
-// Only now: the buttons fade in, which nobody would see before and which outlives a field that goes at once.
-void NivraSearch::showEvent(QShowEvent *event) {
-  for (QLineEdit *field : findChildren<QLineEdit *>())
-    field->setClearButtonEnabled(true);
-  QDockWidget::showEvent(event);
 }

@@ -57,9 +57,8 @@ NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
   m_ui->setupUi(this);
   m_ui->tableWidget->addActions({m_ui->actionCopy_selectedItems, m_ui->actionOpenCharacteristics});
   m_ui->tableWidget->setItemDelegate(new NumberDelegate(PropertyColumn, this));
-  m_ui->actionOpenCharacteristics->setVisible(false);
-  connect(m_ui->tableWidget, &QTableWidget::itemSelectionChanged, this,
-          [this] { m_ui->actionOpenCharacteristics->setVisible(!selectedMachines().isEmpty()); });
+  TableMenu::offerActions(*m_ui->tableWidget,
+                          [this] { m_ui->actionOpenCharacteristics->setVisible(!selectedMachines().isEmpty()); });
   connect(m_ui->actionOpenCharacteristics, &QAction::triggered, this,
           [this] { emit characteristicsWanted(selectedMachines()); });
   m_menu = new TableMenu(*m_ui->tableWidget);
@@ -75,15 +74,13 @@ NivraVecTable::~NivraVecTable() {
 }
 
 void NivraVecTable::refresh() {
-  std::set<QString> names;
-  m_net.forEach(NetData::AllTypes, [&names](const element &e) {
-    for (const Property &property : e)
-      names.insert(property.key.name());
-  });
+  QStringList names;
+  for (const PropertyKey key : m_net.propertyKeys())
+    names.append(key.name());
+  names.sort();
   m_isUpdating = true;
   m_ui->comboBoxProp->clear();
-  for (const QString &name : names)
-    m_ui->comboBoxProp->addItem(name);
+  m_ui->comboBoxProp->addItems(names);
   const int before = m_ui->comboBoxProp->findText(m_chosenProperty.isEmpty() ? QStringLiteral("p") : m_chosenProperty);
   m_ui->comboBoxProp->setCurrentIndex(std::max(0, before));
   m_chosenProperty = m_ui->comboBoxProp->currentText();
@@ -202,11 +199,10 @@ QStringList NivraVecTable::selectedMachines() const {
   QStringList names;
   const QTableWidget &table = *m_ui->tableWidget;
   for (const QModelIndex &cell : table.selectionModel()->selectedIndexes()) {
-    const QString name = table.item(cell.row(), NameColumn)->text();
-    if (!table.isRowHidden(cell.row()) && !names.contains(name) &&
-        ElementTypes::hasCharacteristics(table.item(cell.row(), TypeColumn)->text()))
-      names.append(name);
+    if (!table.isRowHidden(cell.row()) && ElementTypes::hasCharacteristics(table.item(cell.row(), TypeColumn)->text()))
+      names.append(table.item(cell.row(), NameColumn)->text());
   }
+  names.removeDuplicates();
   return names;
 }
 

@@ -48,8 +48,9 @@ QString NumberDelegate::forTheEye(const QString &text) {
 
 void NumberDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const {
   QStyledItemDelegate::initStyleOption(option, index);
-  if (!isOfTexts(index.sibling(index.row(), m_propertyColumn).data().toString()))
-    option->text = forTheEye(option->text);
+  const QString shown = forTheEye(option->text);
+  if (shown != option->text && !isOfTexts(index.sibling(index.row(), m_propertyColumn).data().toString()))
+    option->text = shown;
 }
 
 bool NumberDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,

@@ -22,7 +22,6 @@ Asked askedOf(NetData &net, const SearchParams &params) {
   SearchedProperties properties(params.prop);
   const SearchedTypes types(params.type);
   Asked asked;
-  std::vector<bool> isSeen; // by spelling
   QSet<QString> seenTypes;
   net.forEach(NetData::AllTypes, [&](const element &e) {
     const QString type = e.value(typeKey);
@@ -30,16 +29,11 @@ Asked askedOf(NetData &net, const SearchParams &params) {
       seenTypes.insert(type);
       asked.hasType = types.matches(type);
     }
-    for (const Property &property : e) {
-      if (property.key.index() >= isSeen.size())
-        isSeen.resize(property.key.index() + 1);
-      if (isSeen[property.key.index()])
-        continue;
-      isSeen[property.key.index()] = true;
-      if (properties.contains(property.key))
-        asked.properties.insert(property.key.name().toCaseFolded());
-    }
   });
+  for (const PropertyKey key : net.propertyKeys()) {
+    if (properties.contains(key))
+      asked.properties.insert(key.name().toCaseFolded());
+  }
   return asked;
 }
 

@@ -97,9 +97,9 @@ std::vector<QStringList> SearchResults::rows() const {
 QStringList SearchResults::selectedMachines() const {
   QStringList names;
   for (const QTreeWidgetItem *item : m_tree.selectedItems()) {
-    const QString name = item->text(NameColumn);
-    if (!item->isHidden() && ElementTypes::hasCharacteristics(item->text(TypeColumn)) && !names.contains(name))
-      names.append(name);
+    if (!item->isHidden() && ElementTypes::hasCharacteristics(item->text(TypeColumn)))
+      names.append(item->text(NameColumn));
   }
+  names.removeDuplicates();
   return names;
 }

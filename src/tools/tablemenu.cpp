@@ -91,6 +91,17 @@ void TableMenu::offerCopy(QAbstractItemView &view) {
     view.setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
+void TableMenu::offerActions(QAbstractItemView &view, std::function<void()> fit) {
+  view.setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(&view, &QWidget::customContextMenuRequested, &view, [&view, fit = std::move(fit)](const QPoint &position) {
+    fit();
+    auto *menu = new QMenu(&view);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(view.actions());
+    menu->popup(view.viewport()->mapToGlobal(position));
+  });
+}
+
 QString TableMenu::cellTexts(const QAbstractItemView &view) {
   QModelIndexList cells = view.selectionModel()->selectedIndexes();
   const QHeaderView *columns = header(view);

@@ -14,6 +14,7 @@ private slots:
   void nothingOutsideTheWorkspaceIsRead();
   void whatIsNoFileIsNamed_data();
   void whatIsNoFileIsNamed();
+  void assemblingCanBeCancelled();
 };
 
 void TestNetworkLoader::everythingReadIsReachable() {
@@ -80,6 +81,31 @@ void TestNetworkLoader::whatIsNoFileIsNamed() {
       told += finding.logText();
   }
   QVERIFY2(told.contains(workspace.path(name) + QStringLiteral(": is a directory")), qPrintable(told));
+}
+
+void TestNetworkLoader::assemblingCanBeCancelled() {
+  const WorkspaceFixture workspace;
+  workspace.writeGeometry(WorkspaceFixture::geometryWithSubnet());
+  NetData net;
+  NetworkLoader loader(net);
+  QVERIFY(loader.resolve(workspace.scenario()));
+  loader.readConfiguration();
+  bool isAssembling = false;
+  int asked = 0; // since the assembling began
+  NetworkLoader::ReadOptions options;
+  options.told = [&](const QString &text) {
+    isAssembling = isAssembling || text.contains(QStringLiteral("Creating Subnets"));
+  };
+  options.progress = [&](double) {
+    asked += isAssembling ? 1 : 0;
+    return asked != 1; // who asks again gets another answer
+  };
+  QVERIFY(!loader.readNetwork(options));
+  QVERIFY(loader.wasCancelled());
+  QCOMPARE(loader.error(), QStringLiteral("Reading was cancelled."));
+  QCOMPARE(asked, 1);
+  QCOMPARE(loader.seconds().last().first, QStringLiteral("check")); // nothing came after it
+  QVERIFY(!net.element(QStringLiteral("M"))->contains(QStringLiteral("elements")));
 }
 
 NIVRA_TEST(TestNetworkLoader);

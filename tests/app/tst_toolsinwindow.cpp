@@ -1,9 +1,11 @@
 #include "workspacefixture.h"
 
+#include <base/fileaccess.h>
 #include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
 #include <support/answers.h>
 #include <support/nivratest.h>
+#include <tools/category.h>
 #include <tools/nivranetlayerseditor.h>
 #include <tools/nivranetobjectcats.h>
 #include <tools/nivrapropviewer.h>
@@ -17,12 +19,14 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTableWidget>
 #include <QTreeWidget>
 
 #include <app/nivraviewer.h>
+#include <app/subnetwindow.h>
 
 namespace {
 
@@ -86,6 +90,8 @@ private slots:
   void publicNamesStandAsPeopleCount();
   void hiddenLayersStayHiddenUnderAnotherName();
   void editsAreAskedAboutBeforeAnotherCase();
+  void windowsShareTheirCategories();
+  void whatIsBeingTypedIsNotLost();
 
 private:
   WorkspaceFixture m_workspace;
@@ -286,6 +292,85 @@ void TestToolsInWindow::editsAreAskedAboutBeforeAnotherCase() {
   QVERIFY(!QFile::exists(m_workspace.path(QStringLiteral("CASE/catdef.csv"))));
   QCOMPARE(categories.categories().size(), std::size_t(1));
   QVERIFY(viewer.close());
+}
+
+static QStringList categoryNames(const std::vector<Category> &categories) {
+  QStringList names;
+  for (const Category &category : categories)
+    names.append(category.category);
+  return names;
+}
+
+/// With the button and a text in the new row.
+static void addCategory(NivraNetObjectCats &panel, const QString &name) {
+  panel.findChild<QAbstractButton *>(QStringLiteral("toolButtonAdd"))->click();
+  auto *table = panel.findChild<QTableWidget *>();
+  table->item(table->rowCount() - 1, 0)->setText(name);
+}
+
+void TestToolsInWindow::windowsShareTheirCategories() {
+  const WorkspaceFixture workspace;
+  const QString file = workspace.path(QStringLiteral("CASE/catdef.csv"));
+  workspace.writeGeometry(WorkspaceFixture::geometryWithSubnet());
+  workspace.write(QStringLiteral("CASE/catdef.csv"), "pipes;;^p$;^name$;\n");
+  NivraViewer viewer;
+  viewer.open(workspace.geometry());
+  auto &whole = panelOf<NivraNetObjectCats>(viewer);
+  addCategory(whole, QStringLiteral("before"));
+  emit viewer.visControl()->subnetWanted(QStringLiteral("M"));
+  QPointer<SubnetWindow> window = viewer.findChild<SubnetWindow *>();
+  QVERIFY(window != nullptr);
+  auto &part = *window->findChild<NivraNetObjectCats *>();
+  addCategory(part, QStringLiteral("in the subnet"));
+  addCategory(whole, QStringLiteral("after"));
+  const QStringList all{QStringLiteral("fromSearch"), QStringLiteral("pipes"), QStringLiteral("before"),
+                        QStringLiteral("in the subnet"), QStringLiteral("after")};
+  QCOMPARE(categoryNames(whole.categories()), all);
+  QCOMPARE(categoryNames(part.categories()), all);
+  whole.updateTempCategory({QStringLiteral("own"), QString(), QString(), QString()});
+  QVERIFY(part.categories().front().name.isEmpty()); // each window has its own search
+  {
+    const Answers cancel({QMessageBox::Cancel, QMessageBox::Cancel});
+    viewer.open(m_workspace.scenario());
+    QVERIFY(window != nullptr);
+    QVERIFY(!viewer.close());
+    QVERIFY(cancel.areGiven());
+  }
+  part.findChild<QAbstractButton *>(QStringLiteral("pushButtonOK"))->click();
+  whole.findChild<QAbstractButton *>(QStringLiteral("pushButtonOK"))->click(); // overwrites nothing
+  QCOMPARE(categoryNames(CategoryFile::read(file)), all.mid(1));
+  part.findChild<QTableWidget *>()->setCurrentCell(1, 0);
+  part.findChild<QAbstractButton *>(QStringLiteral("toolButtonRemove"))->click();
+  {
+    const Answers none({});
+    QVERIFY(window->close()); // its changes are the program's
+    QVERIFY(none.areGiven());
+  }
+  const Answers save({QMessageBox::Save});
+  viewer.open(m_workspace.scenario());
+  QVERIFY(save.areGiven());
+  FileAccess::confineTo(workspace.root()); // again, to look at its file
+  QCOMPARE(categoryNames(CategoryFile::read(file)), all.mid(2));
+  QCOMPARE(whole.categories().size(), std::size_t(1));
+}
+
+void TestToolsInWindow::whatIsBeingTypedIsNotLost() {
+  const WorkspaceFixture workspace;
+  workspace.write(QStringLiteral("CASE/catdef.csv"), "pipes;;^p$;^name$;\n");
+  NivraViewer viewer;
+  viewer.open(workspace.geometry());
+  auto &categories = panelOf<NivraNetObjectCats>(viewer);
+  categories.show();
+  QVERIFY(QTest::qWaitForWindowActive(&viewer));
+  auto *table = categories.findChild<QTableWidget *>();
+  table->setFocus();
+  table->setCurrentCell(1, 1);
+  table->editItem(table->item(1, 1));
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("typed"));
+  const Answers save({QMessageBox::Save});
+  QVERIFY(viewer.close());
+  QVERIFY(save.areGiven());
+  QCOMPARE(CategoryFile::read(workspace.path(QStringLiteral("CASE/catdef.csv"))).at(0).name, QStringLiteral("typed"));
 }
 
 NIVRA_TEST(TestToolsInWindow);

@@ -3,6 +3,7 @@
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
+#include <support/answers.h>
 #include <support/nivratest.h>
 #include <tools/nivrafindings.h>
 #include <tools/nivranetlayerseditor.h>
@@ -20,7 +21,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -53,33 +53,6 @@ void drop(NivraViewer &viewer, const QStringList &paths) {
   QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&viewer, &event);
 }
-
-/// Makes the program show boxes, and answers each after the time that a person takes.
-class BoxCloser : public QObject {
-public:
-  explicit BoxCloser(int afterMs) {
-    qunsetenv("NIVRA_BATCH");
-    connect(&m_timer, &QTimer::timeout, this, [this, afterMs] {
-      auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-      if (box == nullptr || box == m_seen)
-        return;
-      m_seen = box;
-      m_texts.append(box->text());
-      QTimer::singleShot(afterMs, box, &QMessageBox::accept);
-    });
-    m_timer.start(5);
-  }
-  ~BoxCloser() override { qputenv("NIVRA_BATCH", "1"); }
-  BoxCloser(const BoxCloser &) = delete;
-  BoxCloser &operator=(const BoxCloser &) = delete;
-
-  const QStringList &texts() const { return m_texts; }
-
-private:
-  QTimer m_timer;
-  QPointer<QMessageBox> m_seen;
-  QStringList m_texts;
-};
 
 QStringList texts(const QList<QAction *> &actions) {
   QStringList list;
@@ -163,11 +136,11 @@ void TestWindow::invalidWorkspaceLeavesWhatIsOpen() {
 
 void TestWindow::invalidWorkspaceSaysWhy() {
   NivraViewer viewer;
-  const BoxCloser closer(0);
+  const Answers answers({QMessageBox::Ok});
   viewer.open(m_workspace.path(QStringLiteral("picture.png")));
   QCOMPARE(viewer.statusBar()->currentMessage(), QStringLiteral("Invalid Workspace"));
-  QVERIFY2(closer.texts().join(QString()).contains(QStringLiteral("invalid file format")),
-           qPrintable(closer.texts().join(QString())));
+  QVERIFY2(answers.texts().join(QString()).contains(QStringLiteral("invalid file format")),
+           qPrintable(answers.texts().join(QString())));
 }
 
 /// The colour of the status bar where nothing stands on it.
@@ -266,12 +239,12 @@ void TestWindow::openingIsTimedWithoutBoxes() {
   workspace.writeGeometry(WorkspaceFixture::soundGeometry().replace("\"q\":5", "\"driven\":\"nobody\""));
   NivraViewer viewer;
   constexpr int PersonMs = 1500;
-  const BoxCloser closer(PersonMs);
+  const Answers answers({QMessageBox::Ok}, PersonMs);
   QElapsedTimer timer;
   timer.start();
   viewer.open(workspace.geometry());
   const qint64 elapsed = timer.elapsed();
-  QVERIFY(!closer.texts().isEmpty());
+  QVERIFY(!answers.texts().isEmpty());
   static const QRegularExpression number(QStringLiteral("(\\d+)ms$"));
   const int said = number.match(viewer.statusBar()->currentMessage()).captured(1).toInt();
   QVERIFY2(said > 0 && said < elapsed - PersonMs + 100, qPrintable(viewer.statusBar()->currentMessage()));
@@ -449,11 +422,7 @@ void TestWindow::toolsAndDrawingMeet() {
 
 void TestWindow::subnetsHaveWindowsOfTheirOwn() {
   const WorkspaceFixture workspace;
-  workspace.writeGeometry(
-      "{\n\"A\":{\"obj_type\":\"node\",\"x\":0,\"y\":0}\n,\"B\":{\"obj_type\":\"node\",\"x\":9,\"y\":0}\n"
-      ",\"C\":{\"obj_type\":\"node\",\"x\":20,\"y\":0}\n"
-      ",\"P\":{\"obj_type\":\"pipe\",\"node1\":\"B\",\"node2\":\"C\"}\n"
-      ",\"M\":{\"obj_type\":\"subnet\",\"variant\":\"metering_station\",\"pins\":\"A;B\"}\n}\n");
+  workspace.writeGeometry(WorkspaceFixture::geometryWithSubnet());
   NivraViewer viewer;
   viewer.open(workspace.geometry());
   emit viewer.visControl()->subnetWanted(QStringLiteral("M"));

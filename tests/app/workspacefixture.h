@@ -26,6 +26,17 @@ public:
            "}\n";
   }
 
+  /// Nodes A, B and C, a pipe and between A and B the subnet M.
+  static QByteArray geometryWithSubnet() {
+    return "{\n"
+           "\"A\":{\"obj_type\":\"node\",\"x\":0,\"y\":0}\n"
+           ",\"B\":{\"obj_type\":\"node\",\"x\":9,\"y\":0}\n"
+           ",\"C\":{\"obj_type\":\"node\",\"x\":20,\"y\":0}\n"
+           ",\"P\":{\"obj_type\":\"pipe\",\"node1\":\"B\",\"node2\":\"C\"}\n"
+           ",\"M\":{\"obj_type\":\"subnet\",\"variant\":\"metering_station\",\"pins\":\"A;B\"}\n"
+           "}\n";
+  }
+
   QString root() const { return m_root.path(); }
   QString geometry() const { return path(QStringLiteral("CASE/CASE.geom.jsn")); }
   QString scenario() const { return path(QStringLiteral("CASE/S1/S1.scen.jsn")); }

@@ -11,6 +11,7 @@ private slots:
   void lastOfANameWins();
   void namesOfAnyScriptFoldAsTextsCompare();
   void masksSelectKinds();
+  void everyPropertyIsListedOnce();
   void numericAccess_data();
   void numericAccess();
   void edgeTakesTheMeanOfItsEnds();
@@ -44,6 +45,21 @@ void TestNetData::lastOfANameWins() {
   QCOMPARE(net.edges().size(), std::size_t(1));
   QCOMPARE(net.element(QStringLiteral("pipe1"))->value(QStringLiteral("node1")), QStringLiteral("C"));
   QCOMPARE(net.edges().begin()->name(), QStringLiteral("PIPE1"));
+}
+
+void TestNetData::everyPropertyIsListedOnce() {
+  NetData net;
+  net.addElement(makeElement({{"name", "A"}, {"type", "n"}, {"zeta", "1"}, {"Alpha", ""}}));
+  net.addElement(makeElement({{"name", "B"}, {"type", "n"}, {"zeta", "1"}, {"ALPHA", "2"}}));
+  net.addElement(makeElement({{"name", "P"}, {"type", "p"}, {"node1", "A"}, {"node2", "B"}, {"mid", "3"}}));
+  QStringList names;
+  for (const PropertyKey key : net.propertyKeys())
+    names.append(key.name());
+  QCOMPARE(names.size(), 8);
+  QCOMPARE(names.removeDuplicates(), 0); // spellings are told apart
+  QVERIFY(names.mid(0, 2).contains(QStringLiteral("Alpha")) && names.mid(0, 2).contains(QStringLiteral("ALPHA")));
+  QCOMPARE(names.mid(2), (QStringList{QStringLiteral("mid"), QStringLiteral("name"), QStringLiteral("node1"),
+                                      QStringLiteral("node2"), QStringLiteral("type"), QStringLiteral("zeta")}));
 }
 
 void TestNetData::masksSelectKinds() {

@@ -10,7 +10,6 @@
 
 #include <QFile>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
@@ -81,7 +80,7 @@ void TestLayersAndCats::layersChangeElements() {
   QVERIFY(!layers.all().contains(QStringLiteral("p")));
   layers.add({QStringLiteral("A"), QStringLiteral("nowhere")}, QStringLiteral("pipes"));
   QCOMPARE(layers.all().value(QStringLiteral("pipes")).size(), 3);
-  layers.remove(QStringLiteral("pipes"));
+  QCOMPARE(layers.remove({QStringLiteral("pipes")}).size(), 3);
   QVERIFY(!m_net->element(QStringLiteral("A"))->contains(QStringLiteral("vis.layer")));
   QCOMPARE(layers.all().size(), 1);
 }
@@ -238,20 +237,20 @@ void TestLayersAndCats::categoryFileThatIsNone() {
   QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
   QVERIFY(CategoryFile::read(QFile::decodeName(pipe)).empty()); // and does not wait for the other end
   QVERIFY(CategoryFile::read(m_folder.path()).empty());
-  const std::vector<Category> old = CategoryFile::read(write("M\xfcnster;;;;\n"));
+  const std::vector<Category> old = CategoryFile::read(write("M\xfcnster;\x80;;;\n"));
   QCOMPARE(old.at(0).category, QString::fromUtf8("Münster"));
+  QCOMPARE(old.at(0).name, QString::fromUtf8("€")); // as in the tables of networks
 }
 
 /// Nothing that somebody has typed goes without a question.
 void TestLayersAndCats::changedCategoriesAreAskedAbout() {
-  QMainWindow window;
-  auto *panel = new NivraNetObjectCats(&window);
-  window.addDockWidget(Qt::BottomDockWidgetArea, panel);
-  panel->setFile(write("one;;p;^v$;v@ELE>10\n"));
-  panel->updateTempCategory({QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"), QString()});
-  auto *table = panel->findChild<QTableWidget *>();
-  auto *reload = panel->findChild<QPushButton *>(QStringLiteral("pushButtonReload"));
-  window.show();
+  const auto list = std::make_shared<CategoryList>();
+  NivraNetObjectCats panel(list);
+  list->setFile(write("one;;p;^v$;v@ELE>10\n"));
+  panel.updateTempCategory({QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"), QString()});
+  auto *table = panel.findChild<QTableWidget *>();
+  auto *reload = panel.findChild<QPushButton *>(QStringLiteral("pushButtonReload"));
+  panel.show();
   {
     const Answers none({});
     reload->click(); // nothing has changed
@@ -263,26 +262,27 @@ void TestLayersAndCats::changedCategoriesAreAskedAbout() {
     const Answers answers({QMessageBox::Cancel, QMessageBox::Cancel});
     reload->click();
     QCOMPARE(table->item(1, 1)->text(), QStringLiteral("typed"));
-    QVERIFY(!window.close());
+    QVERIFY(!panel.settleChanges());
     QVERIFY(answers.areGiven());
   }
   {
     const Answers answers({QMessageBox::Save});
-    QVERIFY(window.close());
+    QVERIFY(panel.settleChanges());
     QVERIFY(answers.areGiven());
   }
   QCOMPARE(CategoryFile::read(m_folder.filePath(QStringLiteral("catdef.csv"))).at(0).name, QStringLiteral("typed"));
-  window.show();
+  panel.show();
   table->item(1, 1)->setText(QStringLiteral("again"));
   const Answers discard({QMessageBox::Discard});
   reload->click();
   QCOMPARE(table->item(1, 1)->text(), QStringLiteral("typed"));
-  QVERIFY(window.close());
+  QVERIFY(panel.settleChanges());
 }
 
 void TestLayersAndCats::panelTellsCategories() {
-  NivraNetObjectCats panel;
-  panel.setFile(write("one;;p;^v$;v@ELE>10\n"));
+  const auto list = std::make_shared<CategoryList>();
+  NivraNetObjectCats panel(list);
+  list->setFile(write("one;;p;^v$;v@ELE>10\n"));
   auto *table = panel.findChild<QTableWidget *>();
   QCOMPARE(table->rowCount(), 2);
   QCOMPARE(table->item(0, 0)->text(), QStringLiteral("fromSearch"));

@@ -4,6 +4,7 @@
 #include <characteristics/machinedata.h>
 #include <formulas/networkformulas.h>
 #include <io/nivragasparams.h>
+#include <io/nivrareader.h>
 #include <io/nivraworkspace.h>
 #include <io/scenariosummary.h>
 #include <model/consistencycheck.h>
@@ -16,8 +17,6 @@
 
 #include <functional>
 #include <utility>
-
-class NivraReader;
 
 /// Brings a chosen file into a NetData: workspace, configuration, network, checks. It knows no widgets; the window and
 /// the command line both drive it, stage by stage.
@@ -48,7 +47,6 @@ public:
   bool readNetwork(const ReadOptions &options);
 
   const NivraWorkspace &workspace() const { return m_workspace; }
-  const NivraGasParams &gasParams() const { return m_gasParams; }
   const GasTable &gases() const { return m_gases; } ///< of the scenario
   /// What case and scenario carry beside the network, each with the file that says so.
   ScenarioSummary scenarioSummary() const;
@@ -59,7 +57,6 @@ public:
   const QString &templateFolder() const { return m_templateFolder; }
   /// Of the scenario's compressor database; empty without one.
   const MachineData &machines() const { return m_machines; }
-  const NetworkFormulas &formulas() const { return m_formulas; }
   /// After a property of elements has changed: what depends on it.
   void computeAgain(const QStringList &names, const QString &property);
   const Seconds &seconds() const { return m_seconds; }
@@ -67,9 +64,14 @@ public:
   QString error() const { return m_error; } ///< why the last step failed, for a person
 
 private:
+  // The stages; those that return something return whether the next one may begin.
+  bool readFiles(NivraReader &reader, const NivraReader::Options &options);
+  void check();
+  bool assembleSubnets(const ReadOptions &options);
+  bool readSubResults(NivraReader &reader, const NivraReader::Options &options);
   void readMachines(const NivraReader &reader);
-  void assembleSubnets(const ReadOptions &options);
   bool computeFormulas(const Progress &progress);
+  bool stop();
   void notice(const QString &stage, Findings findings);
   void noticeViolations();
 

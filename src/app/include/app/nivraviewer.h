@@ -4,11 +4,13 @@
 #include <view/netpicker.h>
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <app/networkloader.h>
 #include <app/outcomestyle.h>
 #include <memory>
 
+class CategoryList;
 class LoadProgress;
 class NetVisControl;
 class SubnetWindow;
@@ -62,12 +64,14 @@ private:
   void computeAgain(const QStringList &names, const QString &property);
   void showTitle();
   void setBusy(bool busy);
+  QList<QPointer<QWidget>> otherWindows() const;
   bool closeOthers();
 
   std::unique_ptr<Ui::NivraViewer> m_ui;
   NetData m_net;
   std::unique_ptr<NetVisControl> m_control;
   NetworkLoader m_loader;
+  std::shared_ptr<CategoryList> m_categories;
   ToolDocks *m_tools = nullptr;
   QString m_currentElement;
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read

@@ -6,7 +6,6 @@
 namespace OutcomeStyle {
 
 enum class Outcome {
-  None,       ///< nothing was opened yet
   Failed,     ///< nothing could be read
   Stopped,    ///< by the user
   Acceptable, ///< with warnings

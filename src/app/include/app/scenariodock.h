@@ -21,9 +21,6 @@ public:
   /// \param metaData says names and units of the gases' properties
   void setScenario(const ScenarioSummary &summary, const NetMetaData &metaData);
 
-protected:
-  void showEvent(QShowEvent *event) override;
-
 private:
   void filter(const QString &text);
   void showHint();

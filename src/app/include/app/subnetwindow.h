@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class CategoryList;
 class NetVisControl;
 class NivraWorkspace;
 class ToolDocks;
@@ -17,7 +18,9 @@ class SubnetWindow : public QMainWindow {
 public:
   /// \param net outlives the window
   /// \param workspace whose settings the drawing and the tools take
-  SubnetWindow(NetData &net, const QString &subnet, const NivraWorkspace &workspace, QWidget *parent = nullptr);
+  /// \param categories of all windows
+  SubnetWindow(NetData &net, const QString &subnet, const NivraWorkspace &workspace,
+               std::shared_ptr<CategoryList> categories, QWidget *parent = nullptr);
   ~SubnetWindow() override;
 
   const QString &subnet() const { return m_subnet; }

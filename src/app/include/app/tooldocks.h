@@ -10,6 +10,7 @@
 
 #include <memory>
 
+class CategoryList;
 class CharacteristicsStack;
 class HelpWindow;
 struct MachineData;
@@ -39,7 +40,9 @@ public:
     Network  ///< without messages, findings, scenario and machines, of which there is one for all windows
   };
 
-  ToolDocks(QMainWindow &window, NetVisControl &control, Extent extent = Extent::Program);
+  /// \param categories of all windows; the docks of the program read them
+  ToolDocks(QMainWindow &window, NetVisControl &control, std::shared_ptr<CategoryList> categories,
+            Extent extent = Extent::Program);
   ~ToolDocks() override;
 
   /// Makes what is not there yet and shows the network that was just read.
@@ -100,6 +103,7 @@ private:
   QMainWindow &m_window;
   NetVisControl &m_control;
   NetData &m_net;
+  std::shared_ptr<CategoryList> m_categoryList;
   Extent m_extent;
   QList<QDockWidget *> m_docks; ///< in the order in which they were made
   viewFuncDialog *m_draw = nullptr;

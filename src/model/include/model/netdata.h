@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 #include <utility>
+#include <vector>
 
 class NetMetaData;
 
@@ -41,6 +42,9 @@ public:
   /// Searches nodes, edges, assembled subnets, text boxes in this order; null when there is no such element.
   ::element *element(const QString &name) const;
   ::element *element(std::string_view utf8) const;
+
+  /// Those that any element has, each spelling once, regardless of case in alphabetical order.
+  std::vector<PropertyKey> propertyKeys() const;
 
   QList<elements *> collections(int mask);
   void forEach(int mask, const std::function<void(::element &)> &visit);

@@ -7,9 +7,12 @@
 /// Conversion of values between units, by UDUNITS-2 and a few names of the gas field that it does not know.
 namespace Units {
 
+constexpr double ZeroCelsius = 273.15;          ///< K
+constexpr double NormTemperature = ZeroCelsius; ///< K, of norm conditions
+
 /// What a gas-dependent conversion needs; absent values are NaN-free optionals.
 struct Gas {
-  std::optional<double> normDensity;    ///< kg/m3 at norm conditions (273.15 K, 1.01325 bar)
+  std::optional<double> normDensity;    ///< kg/m3 at norm conditions (NormTemperature, 1.01325 bar)
   std::optional<double> calorificValue; ///< upper, MJ/m3 at norm conditions
 };
 

@@ -81,8 +81,6 @@ private:
   /// Gives the subnet its place between its pins; where these are not there it keeps its own.
   Place placeSubnet(element &subnet, const std::vector<Pin> &pins);
   void createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins, const Place &place);
-  static FormulaDefinition ownDefinition(const FormulaDefinition &definition, const Assembled &assembled,
-                                         const std::shared_ptr<const FormulaNames> &names);
   void reserve(const std::vector<const elements::Entry *> &subnets);
   void findFreePrefixes(const std::vector<const elements::Entry *> &subnets);
   void createPin(const element &source, const QString &name, const QPointF &at);

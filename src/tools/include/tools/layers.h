@@ -3,6 +3,7 @@
 #include <model/netdata.h>
 
 #include <QMap>
+#include <QSet>
 #include <QStringList>
 
 /// Elements grouped by the value of one property. Which layers are hidden is the drawing's affair.
@@ -22,8 +23,8 @@ public:
   /// Gives elements to a layer; names that the network does not have are passed over.
   void add(const QStringList &names, const QString &layer);
   void rename(const QString &layer, const QString &newName);
-  /// Takes the property away from all elements of the layer.
-  void remove(const QString &layer);
+  /// Takes the property away from all elements of the layers, and returns which these are.
+  QStringList remove(const QSet<QString> &layers);
 
   /// Whether a layer may have the name: no line breaks, semicolons or quotes.
   static bool isAllowed(const QString &name);

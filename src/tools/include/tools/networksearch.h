@@ -52,6 +52,7 @@ private:
   bool matchesName(const QString &name) const;
   const Type &type(std::string_view utf8);
   bool addRows(const element &candidate, std::vector<SearchRow> &rows);
+  QString parseFormula();
   bool satisfiesFormula(const element &candidate);
 
   NetData &m_net;

@@ -16,6 +16,7 @@ public:
   explicit NivraFindings(QWidget *parent = nullptr);
 
   void setFindings(std::vector<FindingList::Group> groups);
+  int count() const { return m_list.count(); } ///< of all, whatever the filter
 
 signals:
   void elementWanted(const QString &name);
@@ -23,9 +24,6 @@ signals:
 public slots:
   /// Goes to the finding below the current one, from the last to the first.
   void showNext();
-
-protected:
-  void showEvent(QShowEvent *event) override;
 
 private:
   void fill();

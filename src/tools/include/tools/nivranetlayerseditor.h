@@ -26,7 +26,6 @@ public:
   explicit NivraNetLayersEditor(NetData &net, QWidget *parent = nullptr);
   ~NivraNetLayersEditor() override;
 
-  const Layers &layers() const { return m_layers; }
   void setLayerProperty(const QString &property);
   /// By the drawing, after each change.
   void setHiddenLayers(const QSet<QString> &hidden);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tools/category.h>
+#include <tools/categorylist.h>
 
 #include <QDockWidget>
 
@@ -10,16 +10,14 @@ namespace Ui {
 class NivraNetObjectCats;
 }
 
-/// The panel "Element Categories". Its first row follows the search and is never saved. Changes of the others live in the
-/// panel until they are saved; nothing drops them unasked, so its window does not close over them either.
+/// The panel "Element Categories" of a window. Its first row follows the window's search and is never saved; the others are
+/// those of all windows.
 class NivraNetObjectCats : public QDockWidget {
   Q_OBJECT
 public:
-  explicit NivraNetObjectCats(QWidget *parent = nullptr);
+  explicit NivraNetObjectCats(std::shared_ptr<CategoryList> list, QWidget *parent = nullptr);
   ~NivraNetObjectCats() override;
 
-  /// Reads the categories of a case and tells them.
-  void setFile(const QString &path);
   /// All rows, that of the search first.
   std::vector<Category> categories() const;
   /// Before another file or the end of the program: asks whether changes are to be saved. False when the person wants to
@@ -45,18 +43,17 @@ public slots:
   void informOnNecessaryUpdate();
   void informOnPerformedUpdate();
 
-protected:
-  bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
-  void readFile();
   bool save();
-  void setChanged();
-  void appendRow(const Category &category);
+  void showNewList();
+  void showList();
+  void showRow(int row, const Category &category);
+  void insertRow(int row);
   Category rowAt(int row) const;
-  void setTexts(int row, const QStringList &strList);
+  void setCategory(int row, const Category &category);
+  /// With the texts of a search.
+  static Category defined(const Category &named, const QStringList &strList);
 
   std::unique_ptr<Ui::NivraNetObjectCats> m_ui;
-  QString m_path;
-  bool m_isChanged = false; ///< against the file
+  std::shared_ptr<CategoryList> m_list;
 };

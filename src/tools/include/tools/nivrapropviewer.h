@@ -33,7 +33,6 @@ public slots:
 
 protected:
   void changeEvent(QEvent *event) override;
-  void showEvent(QShowEvent *event) override;
 
 private:
   std::unique_ptr<Ui::NivraPropViewer> m_ui;

@@ -39,7 +39,7 @@ public:
   /// Searches for exactly these names, joined by ";".
   void searchNames(const QString &names);
   /// Writes the rows to a file, whole or not at all; false with the reason when it cannot be written.
-  bool save(const QString &path, QString *reason = nullptr) const;
+  bool save(const QString &path, QString *reason) const;
 
 signals:
   void elementMarked(const QString &elName);
@@ -79,7 +79,6 @@ public slots:
 protected:
   /// Buttons for other tools are there once these are.
   void connectNotify(const QMetaMethod &signal) override;
-  void showEvent(QShowEvent *event) override;
   void dragEnterEvent(QDragEnterEvent *event) override;
   void dropEvent(QDropEvent *event) override;
 

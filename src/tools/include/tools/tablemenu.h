@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
+
 class QAbstractItemView;
 class QHeaderView;
 
@@ -41,6 +43,9 @@ public:
   /// The selected cells that are shown, as a spreadsheet takes them: tabulators between columns, line breaks between rows;
   /// texts with either or with quotes stand in quotes.
   static QString cellTexts(const QAbstractItemView &view);
+
+  /// The view's actions by right click. \param fit makes them fit what is selected, which for many rows takes a while
+  static void offerActions(QAbstractItemView &view, std::function<void()> fit);
 
   /// Ctrl+C, unless the view has an action for it.
   static void offerCopy(QAbstractItemView &view);

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+/// Texts from elsewhere: mostly UTF-8, else from a spreadsheet of a Western machine.
+namespace TextDecoding {
+
+/// Nothing when the bytes are no UTF-8.
+std::optional<QString> fromUtf8(const QByteArray &bytes);
+/// Takes any bytes.
+QString fromWindows1252(const QByteArray &bytes);
+
+} // namespace TextDecoding

@@ -1,0 +1,16 @@
+#include <base/textdecoding.h>
+
+#include <QTextCodec>
+
+std::optional<QString> TextDecoding::fromUtf8(const QByteArray &bytes) {
+  QTextCodec::ConverterState state;
+  QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+  if (state.invalidChars > 0 || state.remainingChars > 0)
+    return std::nullopt;
+  return text;
+}
+
+QString TextDecoding::fromWindows1252(const QByteArray &bytes) {
+  const QTextCodec *codec = QTextCodec::codecForName("windows-1252");
+  return codec != nullptr ? codec->toUnicode(bytes) : QString::fromLatin1(bytes);
+}

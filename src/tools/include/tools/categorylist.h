@@ -1,0 +1,36 @@
+#pragma once
+
+#include <tools/category.h>
+
+#include <QObject>
+
+/// The categories of the case that is open, and their file. All windows show and change this one list, so that none saves
+/// over what another one has changed.
+class CategoryList : public QObject {
+  Q_OBJECT
+public:
+  /// Reads the categories of a case, in place of those before.
+  void setFile(const QString &path);
+  /// Reads the file again; what was not saved is dropped.
+  void read();
+  /// Writes the file whole or not at all; false with the reason.
+  bool save(QString *error);
+
+  const std::vector<Category> &categories() const { return m_categories; }
+  bool isChanged() const { return m_isChanged; } ///< against the file
+
+  void append(const Category &category);
+  void set(std::size_t index, const Category &category);
+  void remove(std::size_t index);
+
+signals:
+  void edited();
+  void hasRead();
+
+private:
+  void setChanged();
+
+  QString m_path; ///< empty without a case
+  std::vector<Category> m_categories;
+  bool m_isChanged = false;
+};
