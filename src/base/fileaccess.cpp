@@ -109,7 +109,8 @@ QString confinementFault(const QString &path) {
 }
 
 bool openForReading(QFile &file, Source source, qint64 largest, QString *reason) {
-  QString why = source == Source::Workspace ? confinementFault(file.fileName()) : QString();
+  const QString name = file.fileName(); // an open one may have none
+  QString why = source == Source::Workspace ? confinementFault(name) : QString();
   if (why.isEmpty() && openRegular(file, &why)) {
     if (largest == AnySize || file.size() <= largest)
       return true;
@@ -117,7 +118,7 @@ bool openForReading(QFile &file, Source source, qint64 largest, QString *reason)
     file.close();
   }
   if (reason != nullptr)
-    *reason = file.fileName() + QStringLiteral(": ") + why;
+    *reason = name + QStringLiteral(": ") + why;
   return false;
 }
 
