@@ -3,7 +3,6 @@
 #include <characteristics/machinereader.h>
 #include <characteristics/networkmachines.h>
 #include <io/nivrareader.h>
-#include <model/subnetstate.h>
 #include <subassembly/subassembler.h>
 
 #include <QCoreApplication>
@@ -112,7 +111,6 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   readMachines(reader);
   m_seconds.append({QStringLiteral("machines"), static_cast<double>(timer.restart()) * Milli});
   m_cancelled = m_cancelled || subResults.cancelled;
-  SubnetState::derive(m_net);
   const bool isComputed = !m_cancelled && computeFormulas(options.progress);
   if (!isComputed) {
     m_error = tr("Reading was cancelled.");
