@@ -135,6 +135,10 @@ private:
       return isPlainEncoding(m_reader.documentEncoding()) ? QString() : tr("it is not written in UTF-8");
     case QXmlStreamReader::DTD:
       return m_reader.entityDeclarations().isEmpty() ? QString() : tr("it declares entities");
+    case QXmlStreamReader::ProcessingInstruction: // the renderer reads the style sheet from wherever it lies
+      return m_reader.processingInstructionTarget().contains(QLatin1String("stylesheet"), Qt::CaseInsensitive)
+                 ? tr("its style refers to other files")
+                 : QString();
     case QXmlStreamReader::StartElement:
       m_holders.push_back(m_reader.attributes().value(QLatin1String("id")).toString());
       m_isStyleSheet = m_isStyleSheet || m_reader.name() == QLatin1String("style");

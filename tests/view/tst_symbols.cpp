@@ -122,6 +122,8 @@ void TestSymbols::badSvg_data() {
   QTest::newRow("another file") << head + "<image xlink:href='/etc/hostname' width='8' height='8'/></svg>";
   QTest::newRow("the network") << head + "<image href='http://example.org/a.png' width='8' height='8'/></svg>";
   QTest::newRow("style from elsewhere") << head + "<style>@import url(http://example.org/a.css);</style></svg>";
+  QTest::newRow("style sheet from elsewhere")
+      << QByteArray("<?xml-stylesheet type=\"text/css\" href=\"/etc/hostname\"?>") + head + "</svg>";
   QTest::newRow("fill from elsewhere") << head + "<rect fill='url(other.svg#a)' width='8' height='8'/></svg>";
   QTest::newRow("entities") << QByteArray("<!DOCTYPE svg [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]>") + head +
                                    "<text>&b;</text></svg>";
