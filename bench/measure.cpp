@@ -55,8 +55,7 @@ QString Measure::networkOfOtherNames(int elements) {
   QFile target(to);
   if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
     qFatal("no network can be written");
-  // "NAME":{ and what names an element, such as "node1":"NAME". Behind the first letter, so that the names keep their order
-  // and the elements are walked as before.
+  // "NAME":{ and what names an element, such as "node1":"NAME".
   static const QRegularExpression name(
       QStringLiteral("^(,?\"[A-Za-z])|(\"(?:node1|node2|gasnode|driven|drive)\":\"[A-Za-z])"));
   while (!source.atEnd()) {

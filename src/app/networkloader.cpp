@@ -2,7 +2,6 @@
 #include <base/nivramsg.h>
 #include <characteristics/machinereader.h>
 #include <characteristics/networkmachines.h>
-#include <model/subnetstate.h>
 #include <model/units.h>
 #include <subassembly/subassembler.h>
 
@@ -100,7 +99,6 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   note(QStringLiteral("subnets"));
   readMachines(reader);
   note(QStringLiteral("machines"));
-  SubnetState::derive(m_net);
   const bool isComputed = computeFormulas(options.progress);
   note(QStringLiteral("formulas"));
   return isComputed || stop();

@@ -311,10 +311,11 @@ void ToolDocks::createElement() {
 }
 
 NivraEleInfoWidget::PlotLabel ToolDocks::plotLabel(const element &e) const {
-  const NetUpdate &update = m_control.plot()->update();
-  const LabelContents contents(update.labelTable(), m_control.plot()->settings(), m_net);
-  const LabelText text = contents.text(e);
-  const LabelStyle style = contents.style(e, m_net.findElement(e.value(QStringLiteral("name")), NetData::AllTypes).first);
+  const LabelContents *contents = m_control.plot()->update().labelContents();
+  if (contents == nullptr)
+    return {};
+  const LabelText text = contents->text(e);
+  const LabelStyle style = contents->style(e, m_net.findElement(e.value(QStringLiteral("name")), NetData::AllTypes).first);
   QStringList lines;
   for (const QString &line : text.lines)
     lines.append(line.toHtmlEscaped());

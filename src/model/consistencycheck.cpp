@@ -4,7 +4,6 @@
 
 #include <QRegularExpression>
 
-#include <cctype>
 #include <vector>
 
 namespace {
@@ -30,13 +29,12 @@ std::string_view textOf(const element &e, PropertyKey key) {
   return text == nullptr ? std::string_view() : text->utf8();
 }
 
-bool isTypeCode(const PropertyText *text, char code) {
-  const std::string_view type = text == nullptr ? std::string_view() : text->utf8();
-  return type.size() == 1 && std::tolower(static_cast<unsigned char>(type.front())) == code;
+bool isTypeCode(const PropertyText *text, std::string_view code) {
+  return text != nullptr && sameWord(text->utf8(), code);
 }
 
 bool isDrive(const element &e) {
-  return isTypeCode(e.find(keys().type), 'd');
+  return isTypeCode(e.find(keys().type), "d");
 }
 
 /// The names of the properties whose value names another element: "drive", "driven", "entry", "exit".
@@ -165,11 +163,11 @@ public:
     m_result.nodes = erase(m_net.nodes(), "node", [this](const elements::Entry &e) { return nodePasses(e); });
     const int drives = erase(m_net.nodes(), "drive",
                              [this](const elements::Entry &e) { return !isDrive(e.value) || drivePasses(e.value); });
-    static_cast<void>(m_net.nodes().begin()); // places as they are now
-    m_passed.assign(m_net.nodes().size(), true);
-    if (drives > 0) // no edge may end at one of them
+    if (drives > 0) { // no edge may end at one of them
+      m_passed.assign(m_net.nodes().size(), true);
       m_result.edges += erase(m_net.edges(), "edge", [this](const elements::Entry &e) { return edgePasses(e.value); });
-    m_result.nodes += drives;
+      m_result.nodes += drives;
+    }
     if (m_result.nodes > 0 || m_result.edges > 0)
       add(Finding::Severity::Critical, QString(),
           QStringLiteral("CRITICAL - %1 nodes and %2 edges had to be removed!").arg(m_result.nodes).arg(m_result.edges));
@@ -219,7 +217,7 @@ private:
     m_ofNode.read(node);
     if (!hasName(node, m_ofNode[NodeName], "node"))
       return false;
-    if (isTypeCode(m_ofNode[NodeType], 'd'))
+    if (isTypeCode(m_ofNode[NodeType], "d"))
       return true; // the drive test gives it its coordinates
     const bool hasX = m_ofNode[NodeX] != nullptr;
     const bool hasY = m_ofNode[NodeY] != nullptr;
@@ -291,7 +289,7 @@ private:
       place(drive, m_net.position(*gasNode) + QPointF(0.0, 50.0));
       return true;
     }
-    if (!isTypeCode(driven->find(keys().type), 'c'))
+    if (!isTypeCode(driven->find(keys().type), "c"))
       return driveFails(drive, QStringLiteral("DRIVEN ") + drivenName->toString() +
                                    QStringLiteral(" is not of type compressor. Drive is excluded!"));
     if (gasNode == nullptr)

@@ -20,14 +20,8 @@ std::string_view trimmed(std::string_view text) noexcept {
   return text;
 }
 
-bool isWord(std::string_view text, std::string_view lower) noexcept {
-  return text.size() == lower.size() && std::equal(text.begin(), text.end(), lower.begin(), [](char a, char b) {
-           return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
-         });
-}
-
 bool isOneOf(std::string_view text, std::initializer_list<std::string_view> lower) noexcept {
-  return std::any_of(lower.begin(), lower.end(), [text](std::string_view word) { return isWord(text, word); });
+  return std::any_of(lower.begin(), lower.end(), [text](std::string_view word) { return sameWord(text, word); });
 }
 
 std::string_view said(const PropertyText *text) noexcept {
@@ -46,7 +40,7 @@ bool ElementState::saysAtWork(const PropertyText *text) noexcept {
 }
 
 bool ElementState::saysBypass(const PropertyText *text) noexcept {
-  return isWord(said(text), "bypass");
+  return sameWord(said(text), "bypass");
 }
 
 bool ElementState::isOutOfUse(const element &e) noexcept {

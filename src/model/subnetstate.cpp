@@ -1,5 +1,6 @@
 #include <model/elementstate.h>
 #include <model/subnetstate.h>
+#include <model/topology.h>
 
 namespace {
 
@@ -20,7 +21,7 @@ const element *mainElement(const NetData &net, const element &subnet) {
         return found;
     }
   }
-  for (const QString &inner : subnet.value(QStringLiteral("elements")).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+  for (const QString &inner : Topology::listed(subnet, PropertyKey::find("elements"))) {
     const element *found = net.element(inner);
     if (found != nullptr && isStation(*found))
       return found;
@@ -41,9 +42,8 @@ QString controlOf(const element &station) {
   return QStringLiteral("maybe in control");
 }
 
-} // namespace
-
-QString SubnetState::of(const NetData &net, const element &subnet) {
+/// What the main element says.
+QString derived(const NetData &net, const element &subnet) {
   const element *main = mainElement(net, subnet);
   if (main == nullptr)
     return QString();
@@ -53,13 +53,14 @@ QString SubnetState::of(const NetData &net, const element &subnet) {
   return isStation(*main) && isAtWork ? controlOf(*main) : state;
 }
 
-void SubnetState::derive(NetData &net) {
+} // namespace
+
+PropertyKey SubnetState::key() {
   static const PropertyKey key = PropertyKey::intern("substate");
-  net.forEach(NetData::AssembledSubnet, [&net](element &subnet) {
-    if (subnet.find(key) != nullptr)
-      return;
-    const QString state = of(net, subnet);
-    if (!state.isEmpty())
-      subnet.set(key, PropertyText(state));
-  });
+  return key;
+}
+
+QString SubnetState::of(const NetData &net, const element &subnet) {
+  const PropertyText *own = subnet.find(key());
+  return own == nullptr ? derived(net, subnet) : own->toString();
 }

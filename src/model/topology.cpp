@@ -73,6 +73,15 @@ private:
 
 } // namespace
 
+QStringList Topology::listed(const element &subnet, PropertyKey list) {
+  QStringList names;
+  for (const QString &part : subnet.value(list).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+    if (const QString name = part.trimmed(); !name.isEmpty())
+      names.append(name);
+  }
+  return names;
+}
+
 bool Topology::select(const NetData &net, const QString &name, Selection &selection) {
   const std::string utf8 = name.toStdString();
   const std::pair<const elements &, Selection::Names &> kinds[] = {{net.nodes(), selection.nodes},

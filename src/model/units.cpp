@@ -129,7 +129,7 @@ std::optional<Units::Linear> plain(const ut_unit *from, const ut_unit *to) {
   const double zero = cv_convert_double(converter.get(), 0.0);
   const double one = cv_convert_double(converter.get(), 1.0);
   const double two = cv_convert_double(converter.get(), 2.0);
-  const Units::Linear line{one - zero, zero};
+  const Units::Linear line{meant(one - zero), meant(zero)};
   constexpr double Tolerance = 1e-9;
   if (!std::isfinite(zero) || !std::isfinite(one) || std::abs(line(2.0) - two) > Tolerance * (1.0 + std::abs(two)))
     return std::nullopt;
@@ -186,12 +186,11 @@ std::optional<Units::Linear> Units::conversion(const QString &from, const QStrin
   const std::optional<Linear> out = plain(tables.base(targetQuantity), target);
   if (!in || !out)
     return std::nullopt;
-  return Linear{in->factor * *targetFactor / *sourceFactor * out->factor, 0.0};
+  const long double perGas = static_cast<long double>(*targetFactor) / static_cast<long double>(*sourceFactor);
+  return Linear{in->factor * perGas * out->factor, 0.0L};
 }
 
 std::optional<double> Units::convert(double value, const QString &from, const QString &to, const Gas &gas) {
   const std::optional<Linear> line = conversion(from, to, gas);
-  if (!line)
-    return std::nullopt;
-  return static_cast<double>(meant(line->factor) * static_cast<long double>(value) + meant(line->offset));
+  return line ? std::make_optional((*line)(value)) : std::nullopt;
 }

@@ -26,7 +26,7 @@ std::vector<double> breaksOf(const PlotSettings &settings, const DrawValues::Col
       bool isNumber = false;
       const double shown = text.trimmed().toDouble(&isNumber);
       if (isNumber && std::isfinite(shown) && static_cast<int>(breaks.size()) < MostClasses)
-        breaks.push_back((shown - values.function.toDisplay.offset) / values.function.toDisplay.factor);
+        breaks.push_back(values.function.toDisplay.inverse(shown));
     }
     std::sort(breaks.begin(), breaks.end());
     return breaks;

@@ -113,12 +113,29 @@ void addNumeric(const elements &collection, std::set<PropertyKey> &numeric) {
       if (property.key.index() >= asked.size())
         asked.resize(property.key.index() + 1, 0);
       int &count = asked[property.key.index()];
-      if (count >= Patience || (++count > 0 && NetData::number(&property.value) == NetData::NoValue))
+      if (count >= Patience)
+        continue;
+      ++count;
+      if (NetData::number(&property.value) == NetData::NoValue)
         continue;
       count = Patience;
       numeric.insert(property.key);
     }
   }
+}
+
+/// Their names, without those that have a fixed name and those that are no quantities.
+QStringList namesOf(const std::set<PropertyKey> &properties, const NetMetaData &metaData) {
+  QStringList names;
+  for (const PropertyKey key : properties) {
+    const QString name = key.name();
+    const bool isFixed = std::any_of(NamedFunctions.begin(), NamedFunctions.end(), [&name](const NamedFunction &named) {
+      return name.compare(QLatin1String(named.property), Qt::CaseInsensitive) == 0;
+    });
+    if (!isFixed && !isNoQuantity(metaData, name))
+      names.append(name);
+  }
+  return names;
 }
 
 } // namespace
@@ -140,21 +157,14 @@ QString DrawFunction::propertyName(const QString &function) {
   return found == NamedFunctions.end() ? function : QString::fromLatin1(found->property);
 }
 
-QStringList DrawFunction::ofNetwork(const NetData &net, NetData::EleType kind) {
+DrawFunction::OfNetwork DrawFunction::ofNetwork(const NetData &net) {
+  OfNetwork found;
   std::set<PropertyKey> numeric;
   addNumeric(net.nodes(), numeric);
-  if (kind == NetData::Edge)
-    addNumeric(net.edges(), numeric);
-  QStringList names;
-  for (const PropertyKey key : numeric) {
-    const QString name = key.name();
-    const bool isFixed = std::any_of(NamedFunctions.begin(), NamedFunctions.end(), [&name](const NamedFunction &named) {
-      return name.compare(QLatin1String(named.property), Qt::CaseInsensitive) == 0;
-    });
-    if (!isFixed && !isNoQuantity(*net.metaData(), name))
-      names.append(name);
-  }
-  return names;
+  found.ofNodes = namesOf(numeric, *net.metaData());
+  addNumeric(net.edges(), numeric);
+  found.ofEdges = namesOf(numeric, *net.metaData());
+  return found;
 }
 
 DrawFunction DrawFunction::find(const QString &function, const NetData &net) {

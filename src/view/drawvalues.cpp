@@ -155,7 +155,8 @@ void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, Net
   else
     computeNodes(m_nodeColor.function, values.ofNodes[NodeColor]);
   computeNodes(m_nodeSize.function, values.ofNodes[NodeSize]);
-  for (std::vector<double> *column : {&values.ofNodes[NodeColor], &values.ofNodes[NodeSize], &values.ofEnds[EdgeColor]})
+  for (std::vector<double> *column :
+       {&values.ofNodes[NodeColor], &values.ofNodes[NodeSize], &values.ofEnds[EdgeColor], &values.ofEnds[EdgeWidth]})
     forgetDrives(geometry, *column);
 }
 

@@ -248,7 +248,7 @@ void EdgeLayer::find(const Projection &projection, const QPointF &point, double 
                     distanceToLine(point, {line.second, line.end})});
       const double halfWidth = m_pens[static_cast<std::size_t>(record.pen)].widthF() * 0.5;
       if (distance - halfWidth <= tolerance)
-        hits.push_back({{NetData::Edge, record.edge}, distance});
+        hits.push_back({{NetData::Edge, record.edge}, distance, HitRank::Line});
     }
   });
 }

@@ -168,5 +168,5 @@ QString FunctionRow::written(double bound, double open, const QString &typed) co
 double FunctionRow::stored(const QString &text, double open) const {
   bool isOne = false;
   const double number = text.trimmed().toDouble(&isOne);
-  return isOne ? (number - m_unit.toDisplay.offset) / m_unit.toDisplay.factor : open;
+  return isOne ? m_unit.toDisplay.inverse(number) : open;
 }

@@ -3,6 +3,7 @@
 #include <model/displayformat.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
+#include <model/subnetstate.h>
 #include <view/labelcontents.h>
 #include <view/layergeometry.h>
 
@@ -205,22 +206,21 @@ int LabelContents::decimalsOf(const Part &part, const element &like) const {
   constexpr int Most = 5000;  // elements to look at
   if (part.decimals)
     return *part.decimals;
-  const PropertyText *type = like.find(key);
-  const ElementType *known = type == nullptr ? nullptr : ElementTypes::byCode(type->toString());
-  const elements &collection = known == nullptr                          ? m_net.nodes()
-                               : known->kind == NetData::Edge            ? m_net.edges()
-                               : known->kind == NetData::AssembledSubnet ? m_net.assembledSubnets()
-                               : known->kind == NetData::TextBox         ? m_net.textBoxes()
-                                                                         : m_net.nodes();
+  part.decimals = 0;
+  const QString type = like.value(key);
+  const auto collection = m_net.typeMap().find(m_net.metaData()->kindOf(type));
+  if (collection == m_net.typeMap().end())
+    return 0;
+  const std::string word = type.toLower().toStdString(); // as the rows are found
   int needed = 0;
   int looked = 0;
   int found = 0;
-  for (const elements::Entry &entry : collection) {
+  for (const elements::Entry &entry : *collection->second) {
     if (++looked > Most || found >= Enough)
       break;
     const PropertyText *own = entry.value.find(key);
     const double value = NetData::number(entry.value.find(part.value));
-    if (value == NetData::NoValue || own == nullptr || type == nullptr || !(*own == *type))
+    if (value == NetData::NoValue || own == nullptr || !sameWord(own->utf8(), word))
       continue;
     ++found;
     QString unit = part.unit;
@@ -248,7 +248,7 @@ QString LabelContents::shownValue(const Part &part, const element &source) const
   }
   const PropertyText *value = source.find(part.value);
   if (value == nullptr)
-    return QString();
+    return part.value == SubnetState::key() ? SubnetState::of(m_net, source) : QString();
   const double number = NetData::number(value);
   return number == NetData::NoValue ? value->toString()
                                     : formatted(part.toDisplay(number), part.unit, decimalsOf(part, source));

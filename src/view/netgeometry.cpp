@@ -1,5 +1,6 @@
 #include <model/elementstate.h>
 #include <model/propertycolumns.h>
+#include <model/topology.h>
 #include <view/netgeometry.h>
 
 #include <algorithm>
@@ -30,12 +31,6 @@ PropertyColumns columnsOf(std::initializer_list<const char *> names, const std::
   return PropertyColumns(std::move(keys));
 }
 
-bool equals(std::string_view text, std::string_view lower) {
-  return text.size() == lower.size() && std::equal(text.begin(), text.end(), lower.begin(), [](char a, char b) {
-           return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
-         });
-}
-
 /// "kind" tells a station of supply or demand even when the scenario sets no flow; a held pressure is shown as such.
 NetGeometry::NodeShape shapeOf(const NetData &net, const element &node, const PropertyColumns &read) {
   using Shape = NetGeometry::NodeShape;
@@ -49,9 +44,9 @@ NetGeometry::NodeShape shapeOf(const NetData &net, const element &node, const Pr
       return Shape::Demand;
   }
   const PropertyText *kind = read[NodeKind];
-  if (kind != nullptr && equals(kind->utf8(), "source"))
+  if (kind != nullptr && sameWord(kind->utf8(), "source"))
     return Shape::Supply;
-  return kind != nullptr && equals(kind->utf8(), "sink") ? Shape::Demand : Shape::Junction;
+  return kind != nullptr && sameWord(kind->utf8(), "sink") ? Shape::Demand : Shape::Junction;
 }
 
 std::vector<const element *> sourcesOf(const elements &collection) {
@@ -186,8 +181,8 @@ void NetGeometry::addEdges(const NetData &net, const Request &request, Values &v
 void NetGeometry::findPins(const NetData &net) {
   static const PropertyKey key = PropertyKey::intern("pins");
   for (Place &subnet : m_subnets) {
-    for (const QString &name : subnet.source->value(key).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-      if (const elements::Entry *node = net.nodes().findEntry(name.trimmed().toStdString()))
+    for (const QString &name : Topology::listed(*subnet.source, key)) {
+      if (const elements::Entry *node = net.nodes().findEntry(name.toStdString()))
         subnet.pins.push_back(node->place);
     }
   }

@@ -2,6 +2,7 @@
 #include <base/nivramsg.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
+#include <model/topology.h>
 #include <view/drawfunctions.h>
 #include <view/labelcontents.h>
 #include <view/netpicker.h>
@@ -195,7 +196,7 @@ std::optional<NetGeometry::Item> NetPicker::target(Qt::MouseButton button) const
   const Hit &first = m_hits.front();
   if (button == Qt::RightButton) { // of what stands behind one symbol, that which was chosen before
     for (const Hit &hit : m_hits) {
-      if (hit.rank == first.rank && hit.distance == first.distance && isSelected(hit.item))
+      if (!first.comesBefore(hit) && isSelected(hit.item))
         return hit.item;
     }
   }
@@ -241,9 +242,9 @@ void NetPicker::deselect(NetGeometry::Item item, Selection &selection) const {
   if (item.kind != NetData::AssembledSubnet || !takesNodes)
     return;
   const element &subnet = *m_plot.update().geometry().source(item);
-  for (const char *list : {"pins", "elements"}) {
-    for (const QString &name : subnet.value(QString::fromLatin1(list)).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-      if (const element *node = m_net.nodes().find(name.trimmed()))
+  for (const PropertyKey list : {PropertyKey::find("pins"), PropertyKey::find("elements")}) {
+    for (const QString &name : Topology::listed(subnet, list)) {
+      if (const element *node = m_net.nodes().find(name))
         selection.nodes.remove(node->value(QStringLiteral("name")));
     }
   }

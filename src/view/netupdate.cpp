@@ -47,6 +47,7 @@ NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
 
 void NetUpdate::setNetData(const NetData *net) {
   m_net = net;
+  m_contents.reset();
   m_pixtest.forgetPlacement();
   m_isNew = true;
   m_geometry.clear();
@@ -59,6 +60,17 @@ void NetUpdate::setNetData(const NetData *net) {
   clearLabels();
   m_visibility.clear();
   m_layers.read(m_geometry); // nothing is hidden of what is no longer there
+}
+
+void NetUpdate::setLabelTable(const LabelTable &table) {
+  m_labelTable = table;
+  m_contents.reset();
+}
+
+const LabelContents *NetUpdate::labelContents() const {
+  if (m_contents == nullptr && m_net != nullptr)
+    m_contents = std::make_unique<LabelContents>(m_labelTable, m_settings, *m_net);
+  return m_contents.get();
 }
 
 void NetUpdate::setFolder(const QString &folder, const QString &subnetIcons) {
@@ -78,6 +90,7 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     return;
   QElapsedTimer timer;
   timer.start();
+  m_contents.reset(); // the settings or the values may be others
   const double plotUnits = m_geometry.plotUnits();
   m_values.read(*m_net, m_settings, m_geometry, rebuild);
   if (rebuild && m_geometry.unplaced() > 0)
@@ -121,7 +134,7 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
 }
 
 ElementLooks NetUpdate::looks() const {
-  return {m_geometry, m_values, m_settings, m_layers, sizeOf("n", m_settings.nodeMag)};
+  return {m_geometry, m_values, m_settings, m_layers, sizeOf(QStringLiteral("n"), m_settings.nodeMag)};
 }
 
 ColorScale::Subject NetUpdate::coloured() const {
@@ -140,9 +153,9 @@ QString NetUpdate::legendText() const {
   return ColorScale::legendText(m_settings, m_net == nullptr ? nullptr : &m_values, coloured());
 }
 
-double NetUpdate::sizeOf(const char *type, double otherwise) const {
+double NetUpdate::sizeOf(const QString &type, double otherwise) const {
   constexpr double Largest = 512.0; // px
-  const LabelRow *row = m_labelTable.ofType(QString::fromLatin1(type));
+  const LabelRow *row = m_labelTable.ofType(type);
   bool isNumber = false;
   const double size = row == nullptr ? 0.0 : (*row)[LabelRow::Size].trimmed().toDouble(&isNumber);
   return isNumber && size > 0.0 ? std::min(size, Largest) : otherwise;
@@ -153,14 +166,14 @@ void NetUpdate::updateSymbols(bool rebuild) {
   constexpr double LargerBoxes = 1.6; // than symbols
   QHash<QString, double> sizes;
   for (const LabelRow &row : m_labelTable.types) {
-    if (const double size = sizeOf(qPrintable(row[LabelRow::Short]), 0.0); size > 0.0)
+    if (const double size = sizeOf(row[LabelRow::Short], 0.0); size > 0.0)
       sizes.insert(row[LabelRow::Short], size);
   }
   m_symbols.setSize(m_settings.symMag);
   m_symbols.setSizes(sizes);
   m_edges.setSymbolSize(m_settings.symMag);
   m_edges.setArrowSize(m_settings.arrowMag * ArrowPixels);
-  m_subnets.setLook(sizeOf("sub", m_settings.symMag * LargerBoxes), m_settings.alphaSubnet);
+  m_subnets.setLook(sizeOf(QStringLiteral("sub"), m_settings.symMag * LargerBoxes), m_settings.alphaSubnet);
   if (rebuild) {
     m_visibility.read(m_geometry, m_labelTable);
     if (isSwitchedOn("build symbols"))
@@ -168,14 +181,14 @@ void NetUpdate::updateSymbols(bool rebuild) {
     else
       m_symbols.clear();
   }
-  m_subnets.setSubnets(m_geometry); // what is known of their state may have changed
+  m_subnets.setSubnets(*m_net, m_geometry); // what is known of their state may have changed
   m_visibility.setExtent(seenHeight());
   showWhatIsVisible();
   m_textBoxes.setBackground(m_settings.bgrColor);
   if (m_geometry.textBoxes().empty())
     m_textBoxes.clear();
   else
-    m_textBoxes.setTextBoxes(m_geometry, LabelContents(m_labelTable, m_settings, *m_net), sizeOf("t", 0.0));
+    m_textBoxes.setTextBoxes(m_geometry, *labelContents(), sizeOf(QStringLiteral("t"), 0.0));
 }
 
 void NetUpdate::showWhatIsVisible() {
@@ -227,7 +240,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
 
 void NetUpdate::placeLabels() {
   constexpr double SameScale = 1e-6;
-  const LabelContents contents(m_labelTable, m_settings, *m_net);
+  const LabelContents &contents = *labelContents();
   m_unplaced.clear();
   m_hasPlacedLabels = true;
   if (!isSwitchedOn("build labels") || contents.isOff()) {
@@ -273,26 +286,13 @@ std::vector<Hit> NetUpdate::elementsAt(const QPointF &point, double tolerance) c
   const Projection view = projection();
   if (!view.isValid())
     return {};
-  // Boxes cover what is behind them, a symbol stands for its element, and what stands at a place counts more than a line
-  // that ends there.
   std::vector<Hit> found;
-  const auto rankFrom = [&found](std::size_t first, HitRank rank) {
-    for (std::size_t i = first; i < found.size(); ++i)
-      found[i].rank = rank;
-    return found.size();
-  };
   m_subnets.find(view, point, found);
-  std::size_t next = rankFrom(0, HitRank::Box);
   m_symbols.find(view, point, found);
-  next = rankFrom(next, HitRank::Symbol);
   m_nodes.find(view, point, tolerance * 0.5, found);
   m_textBoxes.find(view, point, found);
-  next = rankFrom(next, HitRank::Place);
   m_edges.find(view, point, tolerance, found);
-  rankFrom(next, HitRank::Line);
-  std::stable_sort(found.begin(), found.end(), [](const Hit &a, const Hit &b) {
-    return std::make_pair(a.rank, a.distance) < std::make_pair(b.rank, b.distance);
-  });
+  std::stable_sort(found.begin(), found.end(), [](const Hit &a, const Hit &b) { return a.comesBefore(b); });
   std::vector<Hit> hits;
   for (const Hit &hit : found) {
     if (std::none_of(hits.begin(), hits.end(), [&hit](const Hit &known) { return known.item == hit.item; }))

@@ -77,7 +77,7 @@ void NodeLayer::find(const Projection &projection, const QPointF &point, double 
       const QPointF to = projection.map(record.x, record.y) - point;
       const double distance = std::hypot(to.x(), to.y());
       if (record.isDrawn() && distance - sizeOf(record) * 0.5 <= tolerance)
-        hits.push_back({{NetData::Node, record.node}, distance});
+        hits.push_back({{NetData::Node, record.node}, distance, HitRank::Place});
     }
   });
 }

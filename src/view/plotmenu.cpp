@@ -1,6 +1,7 @@
 #include <base/nivramsg.h>
 #include <model/elementstate.h>
 #include <model/elementtypes.h>
+#include <model/topology.h>
 #include <view/netviscontrol.h>
 #include <view/plotmenu.h>
 #include <view/plotsaver.h>
@@ -57,12 +58,9 @@ bool isOfStation(const QString &type) {
   return ElementTypes::hasCharacteristics(type) || type == QLatin1String("r") || type == QLatin1String("m");
 }
 
-/// What belongs to the subnet: the elements that its property "elements" lists.
+/// What belongs to the subnet.
 QStringList elementsOf(const element &subnet) {
-  QStringList names;
-  for (const QString &name : subnet.value(QStringLiteral("elements")).split(QLatin1Char(';'), Qt::SkipEmptyParts))
-    names.append(name.trimmed());
-  return names;
+  return Topology::listed(subnet, PropertyKey::find("elements"));
 }
 
 } // namespace

@@ -25,22 +25,26 @@ bool fail(QString *error, const QString &reason) {
 }
 
 /// A colour as the toolkit's settings class stores it: "@Variant(", the type number of colours, the colour, ")". Any other
-/// object is refused, for reading it would make whatever the file names. The invalid colour when it is none.
-QColor storedColor(const QString &object) {
+/// object is refused, for reading it would make whatever the file names. Nothing when it is none.
+std::optional<QColor> storedColor(const QString &object) {
   static const QByteArray Begin = QByteArrayLiteral("@Variant(") + QByteArray("\0\0\0\x43", 4);
   constexpr int ColorBytes = 11;
   const QByteArray bytes = object.toLatin1();
   if (!bytes.startsWith(Begin) || bytes.size() != Begin.size() + ColorBytes + 1 || !bytes.endsWith(')'))
-    return QColor();
+    return std::nullopt;
   const char model = bytes.at(Begin.size());
+  if (model == QColor::Invalid)
+    return QColor(); // which is stored too
   if (model != QColor::Rgb && model != QColor::Hsv)
-    return QColor();
+    return std::nullopt;
   QDataStream stream(bytes.mid(Begin.size(), ColorBytes));
   stream.setVersion(QDataStream::Qt_4_0);
   QColor color;
   stream >> color;
   constexpr int FullCircle = 359;
-  return model == QColor::Hsv && color.hue() > FullCircle ? QColor() : color.toRgb();
+  if (model == QColor::Hsv && color.hue() > FullCircle)
+    return std::nullopt;
+  return color.toRgb();
 }
 
 /// Visits every stored field with its key, so that reading and writing cannot drift apart. A visitor takes plain fields
@@ -181,8 +185,11 @@ private:
       return true;
     }
     if constexpr (std::is_same_v<T, QColor>) {
-      field = storedColor(*value);
-      return true;
+      const std::optional<QColor> color = storedColor(*value);
+      if (color) {
+        field = *color;
+        return true;
+      }
     }
     refused << QLatin1String(key);
     return false;
@@ -227,6 +234,8 @@ bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, QString
 bool PlotSettingsFile::write(const QString &path, const PlotSettings &settings, QString *error) {
   QString reason;
   const QTemporaryDir folder;
+  if (!folder.isValid())
+    return fail(error, tr("The plot settings could not be written to %1: %2").arg(path, folder.errorString()));
   const QString draft = folder.filePath(QStringLiteral("plotsettings.ini"));
   {
     QSettings store(draft, QSettings::IniFormat);

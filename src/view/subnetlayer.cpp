@@ -1,5 +1,6 @@
 #include <base/generalsettings.h>
 #include <model/elementstate.h>
+#include <model/subnetstate.h>
 #include <view/subnetlayer.h>
 
 #include <algorithm>
@@ -20,13 +21,13 @@ bool isSearchResult(const element &subnet) {
   return text != nullptr && text->isOn();
 }
 
-/// How the subnet is controlled, by its "substate".
-QColor controlColor(const element &subnet) {
-  const QString state = subnet.value(QStringLiteral("substate")).toLower();
+QColor controlColor(const NetData &net, const element &subnet) {
+  const PropertyText control(SubnetState::of(net, subnet));
+  const QString state = control.toString().toLower();
   const auto says = [&state](const char *word) {
     return state.contains(QLatin1String(word));
   };
-  if (ElementState::saysOff(subnet.find(QStringLiteral("substate"))) || ElementState::isOutOfUse(subnet))
+  if (ElementState::saysOff(&control) || ElementState::isOutOfUse(subnet))
     return colorSetting("subnet color off");
   if (says("bypass"))
     return colorSetting("subnet color bypass");
@@ -51,12 +52,12 @@ QColor boundsColor(const element &subnet) {
                                                                                  : "subnet ring color BV minor");
 }
 
-QColor ringColor(const element &subnet) {
+QColor ringColor(const NetData &net, const element &subnet) {
   const QString mode = setting("show subnet ring colors");
   if (mode == QLatin1String("BV status"))
     return boundsColor(subnet);
   if (mode == QLatin1String("SP/SM control"))
-    return controlColor(subnet);
+    return controlColor(net, subnet);
   if (mode == QLatin1String("search results") && isSearchResult(subnet))
     return colorSetting("subnet ring color search result");
   return colorSetting("subnet color unknown");
@@ -99,7 +100,7 @@ void SubnetLayer::setLook(double size, int alpha) {
   setZ(setting("subnet background z").toDouble());
 }
 
-void SubnetLayer::setSubnets(const NetGeometry &geometry) {
+void SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry) {
   m_records.clear();
   for (const NetGeometry::Place &subnet : geometry.subnets()) {
     const element &source = *subnet.source;
@@ -113,8 +114,8 @@ void SubnetLayer::setSubnets(const NetGeometry &geometry) {
     record.visSize = positive(number("vis.size"));
     const int ofKind = m_symbols.find(source.value(QStringLiteral("variant")));
     record.symbol = ofKind >= 0 ? ofKind : m_symbols.find(QStringLiteral("sub"));
-    record.ring = ringColor(source);
-    record.ground = controlColor(source);
+    record.ring = ringColor(net, source);
+    record.ground = controlColor(net, source);
     m_records.push_back(record);
   }
 }
@@ -204,6 +205,6 @@ void SubnetLayer::find(const Projection &projection, const QPointF &point, std::
     const QPointF to = projection.map(record.center.x(), record.center.y()) - point;
     const double half = sizeOf(record, projection) * 0.5;
     if (!isHidden(i) && std::abs(to.x()) <= half && std::abs(to.y()) <= half)
-      hits.push_back({{NetData::AssembledSubnet, static_cast<int>(i)}, std::hypot(to.x(), to.y())});
+      hits.push_back({{NetData::AssembledSubnet, static_cast<int>(i)}, std::hypot(to.x(), to.y()), HitRank::Box});
   }
 }

@@ -6,13 +6,11 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QImageReader>
 #include <QSet>
 #include <QXmlStreamReader>
 
 #include <algorithm>
-#include <cmath>
-#include <cstdlib>
+#include <charconv>
 #include <limits>
 
 namespace {
@@ -73,28 +71,44 @@ struct Numbers {
   double sum = 0.0;
 };
 
-Numbers numbersIn(const QStringRef &text) {
+bool isOfName(char c) {
+  return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '-' || c == '_' || c == '.';
+}
+
+/// Digits behind a "#" are those of a colour or of another element's name. A path has neither: its reader passes over the
+/// "#" and draws what follows.
+Numbers numbersIn(const QStringRef &text, bool isPath = false) {
   Numbers numbers;
   const QByteArray bytes = text.toLatin1();
   const char *at = bytes.constData();
   const char *end = at + bytes.size();
   while (at < end) {
-    if ((*at < '0' || *at > '9') && *at != '.') {
+    if (*at == '#' && !isPath) {
+      at = std::find_if_not(at + 1, end, isOfName);
+      continue;
+    }
+    double number = 0.0;
+    const bool mayBegin = (*at >= '0' && *at <= '9') || *at == '.'; // signs do not matter, and "inf" is a word
+    const auto [behind, error] = std::from_chars(mayBegin ? at : end, end, number);
+    if (!mayBegin || behind == at) {
       ++at;
       continue;
     }
-    char *behind = nullptr;
-    const double number = std::abs(std::strtod(at, &behind)); // one that no double holds is infinite
-    if (behind == at) {
-      ++at;
-      continue;
-    }
+    if (error == std::errc::result_out_of_range)
+      number = std::numeric_limits<double>::infinity();
     at = behind;
     ++numbers.count;
     numbers.largest = std::max(numbers.largest, number);
     numbers.sum += number;
   }
   return numbers;
+}
+
+/// The numbers of a dash pattern as far as its reader goes: to the first that is neither a number nor a gap between two.
+QStringRef dashesOf(const QStringRef &pattern) {
+  static const QString Known = QStringLiteral("0123456789.+-eE, \t\r\n");
+  const auto end = std::find_if_not(pattern.begin(), pattern.end(), [](QChar c) { return Known.contains(c); });
+  return pattern.left(static_cast<int>(end - pattern.begin()));
 }
 
 /// Walks through the document once and adds up what drawing it would ask for.
@@ -121,15 +135,23 @@ private:
       return isPlainEncoding(m_reader.documentEncoding()) ? QString() : tr("it is not written in UTF-8");
     case QXmlStreamReader::DTD:
       return m_reader.entityDeclarations().isEmpty() ? QString() : tr("it declares entities");
+    case QXmlStreamReader::ProcessingInstruction: // the renderer reads the style sheet from wherever it lies
+      return m_reader.processingInstructionTarget().contains(QLatin1String("stylesheet"), Qt::CaseInsensitive)
+                 ? tr("its style refers to other files")
+                 : QString();
     case QXmlStreamReader::StartElement:
       m_holders.push_back(m_reader.attributes().value(QLatin1String("id")).toString());
+      m_isStyleSheet = m_isStyleSheet || m_reader.name() == QLatin1String("style");
       return attributesFault();
     case QXmlStreamReader::EndElement:
       m_holders.removeLast();
+      m_isStyleSheet = m_isStyleSheet && m_reader.name() != QLatin1String("style");
       return QString();
     case QXmlStreamReader::Characters:
       if (m_reader.text().contains(QLatin1String("stroke-dasharray")))
         return tr("its style sheet has dashed lines");
+      if (m_reader.text().contains(QLatin1Char('\\')) && m_isStyleSheet)
+        return hidden();
       return namesOutside(m_reader.text()) ? tr("its style refers to other files") : QString();
     default:
       return QString();
@@ -165,24 +187,35 @@ private:
     const QStringRef name = attribute.name();
     if (name == QLatin1String("id") || name == QLatin1String("class") || !attribute.namespaceUri().isEmpty())
       return QString();
-    const Numbers numbers = numbersIn(attribute.value());
-    const bool isColor = attribute.value().contains(QLatin1Char('#'));
-    if (!isColor && numbers.largest > Largest)
+    const Numbers numbers = numbersIn(attribute.value(), name == QLatin1String("d"));
+    if (numbers.largest > Largest)
       return tr("it has a number beyond %1: %2").arg(Largest).arg(attribute.value().left(100).toString());
     m_count += numbers.count;
-    if (!isColor)
-      m_largest = std::max(m_largest, numbers.largest);
+    m_largest = std::max(m_largest, numbers.largest);
     if (name == QLatin1String("stroke-dasharray"))
       noteDashes(attribute.value());
     else if (name == QLatin1String("style"))
-      for (const QStringRef &rule : attribute.value().split(QLatin1Char(';')))
-        if (rule.trimmed().startsWith(QLatin1String("stroke-dasharray")))
-          noteDashes(rule.mid(rule.indexOf(QLatin1Char(':')) + 1));
+      return styleFault(attribute.value());
     return QString();
   }
 
+  QString styleFault(const QStringRef &style) {
+    static const QString Dashes = QStringLiteral("stroke-dasharray");
+    if (style.contains(QLatin1Char('\\')) || style.contains(QLatin1String("/*")))
+      return hidden();
+    for (const QStringRef &rule : style.split(QLatin1Char(';'))) {
+      const int at = rule.indexOf(Dashes);
+      if (at >= 0)
+        noteDashes(rule.mid(rule.indexOf(QLatin1Char(':'), at) + 1));
+    }
+    return QString();
+  }
+
+  /// Escapes and comments hide from a search what a style says.
+  static QString hidden() { return tr("its style has escapes or comments"); }
+
   void noteDashes(const QStringRef &pattern) {
-    const Numbers numbers = numbersIn(pattern);
+    const Numbers numbers = numbersIn(dashesOf(pattern.trimmed()));
     if (numbers.count > 0)
       m_shortestDash = std::min(m_shortestDash, numbers.sum / numbers.count);
   }
@@ -210,9 +243,10 @@ private:
   }
 
   QXmlStreamReader m_reader;
-  QStringList m_holders; ///< ids of the elements around the present one, it included
-  QSet<QString> m_used;  ///< ids that somebody repeats
-  QSet<QString> m_using; ///< ids of what repeats something itself
+  QStringList m_holders;       ///< ids of the elements around the present one, it included
+  bool m_isStyleSheet = false; ///< the text is one
+  QSet<QString> m_used;        ///< ids that somebody repeats
+  QSet<QString> m_using;       ///< ids of what repeats something itself
   int m_uses = 0;
   double m_count = 0.0; ///< numbers in all
   double m_largest = 0.0;

@@ -87,7 +87,7 @@ void TextBoxLayer::find(const Projection &projection, const QPointF &point, std:
   for (const Placed &placed : place(projection)) {
     const QPointF to = placed.area.center() - point;
     if (placed.area.contains(point))
-      hits.push_back({{NetData::TextBox, placed.record->textBox}, std::hypot(to.x(), to.y())});
+      hits.push_back({{NetData::TextBox, placed.record->textBox}, std::hypot(to.x(), to.y()), HitRank::Place});
   }
 }
 

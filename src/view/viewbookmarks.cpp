@@ -6,61 +6,78 @@
 #include <QStringList>
 #include <QUrl>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
 
-std::vector<ViewBookmarks::Bookmark> without(std::vector<ViewBookmarks::Bookmark> bookmarks, const QString &name) {
-  bookmarks.erase(std::remove_if(bookmarks.begin(), bookmarks.end(),
-                                 [&name](const ViewBookmarks::Bookmark &bookmark) { return bookmark.name == name; }),
-                  bookmarks.end());
-  return bookmarks;
+std::optional<ViewBookmarks::Bookmark> bookmarkOf(const QByteArray &line) {
+  constexpr int Parts = 5;
+  const QList<QByteArray> parts = line.trimmed().split(';');
+  if (parts.size() != Parts)
+    return std::nullopt;
+  const QRectF view(parts.at(1).toDouble(), parts.at(2).toDouble(), parts.at(3).toDouble(), parts.at(4).toDouble());
+  if (!(view.width() > 0.0) || !(view.height() > 0.0) || !std::isfinite(view.x() + view.y() + view.right() + view.bottom()))
+    return std::nullopt;
+  return ViewBookmarks::Bookmark{QUrl::fromPercentEncoding(parts.first()), view};
+}
+
+QByteArray lineOf(const ViewBookmarks::Bookmark &bookmark) {
+  constexpr int Digits = 17; // so that a number read again is the same
+  QByteArray line = QUrl::toPercentEncoding(bookmark.name, " ");
+  for (const double number : {bookmark.view.x(), bookmark.view.y(), bookmark.view.width(), bookmark.view.height()})
+    line += ';' + QByteArray::number(number, 'g', Digits);
+  return line;
 }
 
 } // namespace
 
-std::vector<ViewBookmarks::Bookmark> ViewBookmarks::all() const {
+std::optional<std::vector<ViewBookmarks::Line>> ViewBookmarks::read(QString *reason) const {
   constexpr qint64 Largest = qint64(1) << 20;
-  constexpr int Parts = 5;
-  std::vector<Bookmark> bookmarks;
+  std::vector<Line> lines;
   if (!QFileInfo::exists(m_path))
-    return bookmarks;
+    return lines;
+  const auto content = FileAccess::readWhole(m_path, FileAccess::Source::Workspace, Largest, reason);
+  if (!content)
+    return std::nullopt;
+  QList<QByteArray> texts = content->split('\n');
+  if (texts.last().isEmpty())
+    texts.removeLast();
+  for (const QByteArray &text : qAsConst(texts))
+    lines.push_back({text, bookmarkOf(text)});
+  return lines;
+}
+
+std::vector<ViewBookmarks::Bookmark> ViewBookmarks::all() const {
+  std::vector<Bookmark> bookmarks;
   QString reason;
-  const auto content = FileAccess::readWhole(m_path, FileAccess::Source::Workspace, Largest, &reason);
-  if (!content) {
+  const std::optional<std::vector<Line>> lines = read(&reason);
+  if (!lines) {
     NivraMsg::logWarning(reason);
     return bookmarks;
   }
-  for (const QByteArray &line : content->split('\n')) {
-    const QList<QByteArray> parts = line.trimmed().split(';');
-    if (parts.size() != Parts)
-      continue;
-    const QRectF view(parts.at(1).toDouble(), parts.at(2).toDouble(), parts.at(3).toDouble(), parts.at(4).toDouble());
-    if (view.width() > 0.0 && view.height() > 0.0 && std::isfinite(view.x() + view.y() + view.right() + view.bottom()))
-      bookmarks.push_back({QUrl::fromPercentEncoding(parts.first()), view});
+  for (const Line &line : *lines) {
+    if (line.bookmark)
+      bookmarks.push_back(*line.bookmark);
   }
   return bookmarks;
 }
 
 bool ViewBookmarks::add(const Bookmark &bookmark, QString *reason) const {
-  std::vector<Bookmark> bookmarks = without(all(), bookmark.name);
-  bookmarks.push_back(bookmark);
-  return write(bookmarks, reason);
+  return replace(bookmark.name, lineOf(bookmark) + '\n', reason);
 }
 
 bool ViewBookmarks::forget(const QString &name, QString *reason) const {
-  return write(without(all(), name), reason);
+  return replace(name, QByteArray(), reason);
 }
 
-bool ViewBookmarks::write(const std::vector<Bookmark> &bookmarks, QString *reason) const {
-  constexpr int Digits = 17; // so that a number read again is the same
+bool ViewBookmarks::replace(const QString &name, const QByteArray &added, QString *reason) const {
+  const std::optional<std::vector<Line>> lines = read(reason);
+  if (!lines)
+    return false;
   QByteArray text;
-  for (const Bookmark &bookmark : bookmarks) {
-    text += QUrl::toPercentEncoding(bookmark.name, " ");
-    for (const double number : {bookmark.view.x(), bookmark.view.y(), bookmark.view.width(), bookmark.view.height()})
-      text += ';' + QByteArray::number(number, 'g', Digits);
-    text += '\n';
+  for (const Line &line : *lines) {
+    if (!line.bookmark || line.bookmark->name != name)
+      text += line.text + '\n';
   }
-  return WholeFile::write(m_path, FileAccess::Source::Workspace, text, reason);
+  return WholeFile::write(m_path, FileAccess::Source::Workspace, text + added, reason);
 }

@@ -74,21 +74,16 @@ viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
 
 viewFuncDialog::~viewFuncDialog() = default;
 
-QStringList viewFuncDialog::edgeFunctions() {
-  return DrawFunction::fixedNames();
-}
-
 /// The names that every network may have, and behind them the properties of this one.
 void viewFuncDialog::offerFunctions() {
   const NetData *net = m_plot.update().netData();
-  const QStringList ofEdges = net == nullptr ? QStringList() : DrawFunction::ofNetwork(*net, NetData::Edge);
-  const QStringList ofNodes = net == nullptr ? QStringList() : DrawFunction::ofNetwork(*net, NetData::Node);
+  const DrawFunction::OfNetwork own = net == nullptr ? DrawFunction::OfNetwork() : DrawFunction::ofNetwork(*net);
   for (int i = 0; i < Rows; ++i) {
-    QStringList functions = edgeFunctions();
+    QStringList functions = DrawFunction::fixedNames();
     if (i == NodeSize)
       functions.prepend(PlotSettings::fixedSize());
     QHash<QString, QString> described;
-    for (const QString &property : i == EdgeColor || i == EdgeWidth ? ofEdges : ofNodes) {
+    for (const QString &property : i == EdgeColor || i == EdgeWidth ? own.ofEdges : own.ofNodes) {
       functions.append(property);
       const QString title = DrawFunction::find(property, *net).title;
       if (title != property)

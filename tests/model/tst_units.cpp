@@ -9,6 +9,7 @@ class TestUnits : public QObject {
 private slots:
   void conversions_data();
   void conversions();
+  void conversionsAddNoDigits();
   void gasDependentConversions();
   void absurdNamesAreUnknown_data();
   void absurdNamesAreUnknown();
@@ -46,6 +47,26 @@ void TestUnits::conversions() {
   QVERIFY(there.has_value());
   QVERIFY2(std::abs(*there - expected) < 1e-9 * (1.0 + std::abs(expected)), qPrintable(QString::number(*there, 'g', 16)));
   QVERIFY(std::abs(*Units::convert(*there, to, from) - value) < 1e-9 * (1.0 + std::abs(value)));
+}
+
+/// Numbers of few digits stay such, whether one of them is converted or a column.
+void TestUnits::conversionsAddNoDigits() {
+  const auto units = [](const char *name) {
+    return QString::fromUtf8(name);
+  };
+  for (const auto &[from, to, value, expected] : {std::make_tuple("m3/h", "1000 m3/h", 5000.0, 5.0),
+                                                  {"m3/h", "1000 m3/h", 4700.0, 4.7},
+                                                  {"Pa", "bar", 123000.0, 1.23},
+                                                  {"m", "mm", 0.1, 100.0},
+                                                  {"K", "degC", 300.0, 26.85},
+                                                  {"bar", "barg", 71.01325, 70.0},
+                                                  {"kg/s", "t/h", 0.7, 2.52}}) {
+    const std::optional<Units::Linear> line = Units::conversion(units(from), units(to));
+    QVERIFY(line.has_value());
+    QCOMPARE(QString::number((*line)(value), 'g', 17), QString::number(expected, 'g', 17));
+    QCOMPARE(*Units::convert(value, units(from), units(to)), (*line)(value));
+    QVERIFY(std::abs(line->inverse(expected) - value) <= 1e-15 * value);
+  }
 }
 
 void TestUnits::gasDependentConversions() {

@@ -2,7 +2,6 @@
 
 #include <base/generalsettings.h>
 #include <formulas/networkformulas.h>
-#include <model/subnetstate.h>
 #include <support/nivratest.h>
 #include <view/plotexport.h>
 
@@ -135,9 +134,19 @@ void TestDrawing::subnetsShowHowTheyAreControlled() {
   element subnet = station();
   subnet.set(QStringLiteral("main_element"), QStringLiteral("C1"));
   f.net.addElement(subnet);
-  SubnetState::derive(f.net);
   f.show();
   QVERIFY(count(f.picture(), QColor(GeneralSettings::instance().value(colour))) > 40);
+  // What changes is shown as it is now, by the box and by its label.
+  f.net.element(QStringLiteral("Station_C1"))->set(QStringLiteral("state"), QStringLiteral("bypass"));
+  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  const QString bypass = GeneralSettings::instance().value(QStringLiteral("subnet color bypass"));
+  QVERIFY(count(f.picture(), QColor(bypass)) > 40);
+  element &shown = *f.net.assembledSubnets().find(QStringLiteral("Station"));
+  const QStringList label = f.plot().update().labelContents()->text(shown).lines;
+  QCOMPARE(label, (QStringList{QStringLiteral("Station"), QStringLiteral("C1 bypass")}));
+  shown.erase(QStringLiteral("main_element"));
+  shown.set(QStringLiteral("elements"), QStringLiteral("AB ; Station_C1"));
+  QCOMPARE(f.plot().update().labelContents()->text(shown).lines.last(), QStringLiteral("bypass"));
 }
 
 void TestDrawing::subnetPins() {

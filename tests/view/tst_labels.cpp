@@ -29,6 +29,7 @@ private slots:
   void contentsFollowTheTable();
   void costlyFormulasAreGivenUp();
   void styleFollowsElementThenTable();
+  void contentsAreMadeOnce();
   void labelsInTheDrawing();
   void labelsStayWherePanned();
   void importantOnesComeFirst();
@@ -250,6 +251,36 @@ void TestLabels::styleFollowsElementThenTable() {
   QCOMPARE(style.text, QColor(Qt::blue));
   QCOMPARE(style.background.alpha(), 10);
   QVERIFY(style.font.bold() && style.font.pixelSize() > 20);
+}
+
+/// The contents are made once, and never those of before.
+void TestLabels::contentsAreMadeOnce() {
+  ViewFixture f;
+  NetUpdate &update = f.plot().update();
+  QVERIFY(update.labelContents() == nullptr);
+  f.show();
+  const LabelContents *contents = update.labelContents();
+  QVERIFY(contents != nullptr);
+  update.placeLabelsNow();
+  QVERIFY(contents == update.labelContents()); // whoever asks, be it for every movement of the mouse
+  const auto says = [&] {
+    return update.labelContents()->text(*f.net.element(QStringLiteral("A"))).lines.join(QLatin1Char('|'));
+  };
+  QCOMPARE(says(), QStringLiteral("A|20 bar"));
+  LabelTable table;
+  table.types.front()[LabelRow::Contents] = QStringLiteral("Node @name: @p");
+  update.setLabelTable(table);
+  QCOMPARE(says(), QStringLiteral("Node A: 20 bar"));
+  f.net.element(QStringLiteral("B"))->set(QStringLiteral("p"), QStringLiteral("30.25"));
+  PlotSettings settings = f.plot().settings();
+  update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  QCOMPARE(says(), QStringLiteral("Node A: 20.00 bar")); // beside the other's digits
+  settings.label_mode = QStringLiteral("name only");
+  f.plot().setSettings(settings);
+  update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  QCOMPARE(says(), QStringLiteral("A"));
+  f.control.clear();
+  QVERIFY(update.labelContents() == nullptr);
 }
 
 void TestLabels::labelsInTheDrawing() {

@@ -419,6 +419,24 @@ void TestNetPlot::bookmarks() {
   file.write("a;1;2;3\nb;1;2;0;4\nc;x;inf;3;4\n\n;\n");
   file.close();
   QVERIFY(window.bookmarks().all().empty());
+
+  // What the program does not understand it does not take away.
+  QVERIFY(window.bookmarks().add({QStringLiteral("d"), QRectF(0, 0, 1, 1)}, &reason));
+  QVERIFY(window.bookmarks().forget(QStringLiteral("d"), &reason));
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  QCOMPARE(file.readAll(), QByteArray("a;1;2;3\nb;1;2;0;4\nc;x;inf;3;4\n\n;\n"));
+  file.close();
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  const QByteArray large = "e;1;2;3;4\n" + QByteArray(1 << 20, '#'); // more than is read
+  file.write(large);
+  file.close();
+  for (const bool adds : {true, false}) {
+    reason.clear();
+    QVERIFY(!(adds ? window.bookmarks().add(odd, &reason) : window.bookmarks().forget(odd.name, &reason)));
+    QVERIFY2(reason.contains(QStringLiteral("viewbookmarks.csv")), qPrintable(reason));
+  }
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  QVERIFY(file.readAll() == large);
 }
 
 void TestNetPlot::zoomBaseGrows() {

@@ -56,6 +56,7 @@ private slots:
   void ticksTellThemselvesApart();
   void divergingKeepsFixedBounds();
   void valuesOfTheEnds();
+  void drivesStretchNoScale();
   void scalesNameWhatTheyColour();
   void searchHasNoScale();
   void awkwardPlaces_data();
@@ -380,6 +381,20 @@ void TestNetUpdate::valuesOfTheEnds() {
   QCOMPARE(values("input temperature"), (std::vector<double>{280, 293, 293}));
   QCOMPARE(values("temperature diff"), (std::vector<double>{-5, -8, None}));
   QVERIFY(f.plot().plot()->axisEnabled(QwtPlot::yRight));
+}
+
+void TestNetUpdate::drivesStretchNoScale() {
+  ViewFixture f;
+  f.add(makeNode("Drive", "10", "10"), {{"type", "d"}, {"p", "900"}});
+  PlotSettings settings;
+  settings.colorFunc = settings.widthFunc = settings.nodeColorFunc = settings.nodeSizeFunc = QStringLiteral("pressure");
+  f.show();
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
+  const DrawValues &values = f.plot().update().values();
+  for (const DrawValues::Column *column :
+       {&values.edgeColor(), &values.edgeWidth(), &values.nodeColor(), &values.nodeSize()})
+    QCOMPARE(column->data, QwtInterval(20, 60));
 }
 
 void TestNetUpdate::scalesNameWhatTheyColour() {

@@ -122,6 +122,8 @@ void TestSymbols::badSvg_data() {
   QTest::newRow("another file") << head + "<image xlink:href='/etc/hostname' width='8' height='8'/></svg>";
   QTest::newRow("the network") << head + "<image href='http://example.org/a.png' width='8' height='8'/></svg>";
   QTest::newRow("style from elsewhere") << head + "<style>@import url(http://example.org/a.css);</style></svg>";
+  QTest::newRow("style sheet from elsewhere")
+      << QByteArray("<?xml-stylesheet type=\"text/css\" href=\"/etc/hostname\"?>") + head + "</svg>";
   QTest::newRow("fill from elsewhere") << head + "<rect fill='url(other.svg#a)' width='8' height='8'/></svg>";
   QTest::newRow("entities") << QByteArray("<!DOCTYPE svg [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]>") + head +
                                    "<text>&b;</text></svg>";
@@ -137,6 +139,19 @@ void TestSymbols::badSvg_data() {
       << head + "<polygon points='0,0 1e308,0 1e308,1e308' stroke='red' stroke-dasharray='0 1'/></svg>";
   QTest::newRow("lines of very short dashes")
       << head + "<polygon points='0,0 900000,0 900000,900000' stroke='red' style='stroke-dasharray:1e-4,1e-4'/></svg>";
+  const auto line = [&head](const char *more) {
+    return head + "<path d='M0 0L900000 0 900000 900000' stroke='red' " + more + "/></svg>";
+  };
+  QTest::newRow("endless dashes beside a colour")
+      << head + "<polygon points='0,0 1e308,0 1e308,1e308 #' stroke='red' stroke-dasharray='0 1'/></svg>";
+  QTest::newRow("endless dashes of a path with a name")
+      << head + "<path d='#M0.0#L1e308' stroke='red' stroke-dasharray='0 1'/></svg>";
+  QTest::newRow("short dashes behind a colour") << line("style='stroke:#f00;stroke-dasharray:1e-4,1e-4'");
+  QTest::newRow("short dashes behind a comment") << line("style='/**/stroke-dasharray:1e-4,1e-4'");
+  QTest::newRow("short dashes in escapes") << line("style='stroke-dasharra\\79:1e-4,1e-4'");
+  QTest::newRow("short dashes before what is not read") << line("stroke-dasharray='1e-4 x 900000'");
+  QTest::newRow("a style sheet with escapes")
+      << head + "<style><g/>path { stroke-dasharra\\79: 1e-4,1e-4 }</style><path d='M0 0L900000 0'/></svg>";
   QTest::newRow("lines to and fro") << head + "<polyline stroke='red' points='" + QByteArray("0,0 9,9 ").repeated(50000) +
                                            "'/></svg>";
   QTest::newRow("endless number") << head + "<rect width='" + QByteArray(400, '9') + "' height='1'/></svg>";
@@ -180,8 +195,9 @@ void TestSymbols::ordinarySvgIsDrawn() {
   write(QStringLiteral("good.svg"),
         "<?xml version='1.0'?><!-- it's drawn by hand --><svg xmlns='http://www.w3.org/2000/svg' "
         "xmlns:xlink='http://www.w3.org/1999/xlink' width='80' height='80' viewBox='0 0 80 80'>"
-        "<defs><linearGradient id='g'><stop offset='0' stop-color='#123456'/></linearGradient>"
-        "<path id='p' d='M0 0L40.5,30.25 1e1-3z'/></defs><use xlink:href='#p' fill='url(#g)'/>"
+        "<style>/* by hand */ .a { fill: red }</style><title>C:\\a</title>"
+        "<defs><linearGradient id='g9000000'><stop offset='0' stop-color='#99999999'/></linearGradient>"
+        "<path id='p' d='M0 0L40.5,30.25 1e1-3z'/></defs><use xlink:href='#p' fill='url(#g9000000)'/>"
         "<path d='M0 60H80' stroke='#00f' style='stroke-width:2;stroke-dasharray:4,2'/>"
         "<image xlink:href='data:image/png;base64," +
             png.toBase64() + "' width='8' height='8'/></svg>");

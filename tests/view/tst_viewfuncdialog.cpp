@@ -2,6 +2,7 @@
 
 #include <base/generalsettings.h>
 #include <support/nivratest.h>
+#include <view/drawfunctions.h>
 #include <view/drawrange.h>
 #include <view/labeltableeditor.h>
 #include <view/plotzoom.h>
@@ -102,7 +103,7 @@ void TestViewFuncDialog::choicesOfThePart() {
   QCOMPARE(texts("label_mode").join(QLatin1Char('|')), QStringLiteral("no label|name only|selected properties"));
   QCOMPARE(texts("viewport").join(QLatin1Char('|')), QStringLiteral("independent axes|original ratio|aspect ratio"));
   QCOMPARE(texts("legendPos").size(), 5);
-  QCOMPARE(viewFuncDialog::edgeFunctions().size(), 15);
+  QCOMPARE(DrawFunction::fixedNames().size(), 15);
   QCOMPARE(child<QDoubleSpinBox>(dialog, "logFactor")->minimum(), -15.0);
   QVERIFY(!LabelTableEditor::visibilityValues().isEmpty());
 }

@@ -71,6 +71,17 @@ private:
 
 static_assert(sizeof(PropertyText) == 16, "a property value must stay this small: a network has millions of them");
 
+/// Whether the text is the word, regardless of the case of ASCII letters. The word is given in lower case.
+constexpr bool sameWord(std::string_view text, std::string_view lower) noexcept {
+  if (text.size() != lower.size())
+    return false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if ((c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c) != lower[i])
+      return false;
+  }
+  return true;
+}
 /// toDouble() for a text that is no property value.
 std::optional<double> parseNumber(std::string_view utf8) noexcept;
 /// The number as text, 16 significant digits, shortest general notation ("0.1", "1e+20").

@@ -8,6 +8,10 @@ namespace Topology {
 /// Adds the end nodes of the selected edges, and then the edges whose both ends are selected.
 void close(const NetData &net, Selection &selection);
 
+/// The names that a property of a subnet lists, such as "elements" or "pins": set apart by semicolons, blanks around them
+/// do not count.
+QStringList listed(const element &subnet, PropertyKey list);
+
 /// Adds a name to the set of its kind; false when the network has no such element.
 bool select(const NetData &net, const QString &name, Selection &selection);
 

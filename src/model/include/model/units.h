@@ -25,11 +25,13 @@ QString written(QString unit);
 /// and to energy flow when the calorific value is known. Nothing when the units are unknown or do not fit.
 std::optional<double> convert(double value, const QString &from, const QString &to, const Gas &gas = Gas());
 
-/// convert() as a linear function y = factor * x + offset, for whole columns.
+/// convert() as a linear function y = factor * x + offset, for whole columns. Finer than the values, so that a factor such
+/// as 1/3600 adds no digits of its own to them.
 struct Linear {
-  double factor = 1.0;
-  double offset = 0.0;
-  double operator()(double x) const { return factor * x + offset; }
+  long double factor = 1.0L;
+  long double offset = 0.0L;
+  double operator()(double x) const { return static_cast<double>(factor * static_cast<long double>(x) + offset); }
+  double inverse(double y) const { return static_cast<double>((static_cast<long double>(y) - offset) / factor); }
 };
 std::optional<Linear> conversion(const QString &from, const QString &to, const Gas &gas = Gas());
 

@@ -34,9 +34,13 @@ struct DrawFunction {
   static QString propertyName(const QString &function);
   /// The names by which a person chooses functions that every network may have.
   static const QStringList &fixedNames();
-  /// Properties of this network that hold numbers, other than those of the fixed names and those that say how or where
-  /// something is drawn; in the order of their names. \param kind Edge: those of edges and of their end nodes
-  static QStringList ofNetwork(const NetData &net, NetData::EleType kind);
+  /// Properties of a network that hold numbers, other than those of the fixed names and those that say how or where
+  /// something is drawn; in the order of their names.
+  struct OfNetwork {
+    QStringList ofNodes;
+    QStringList ofEdges; ///< those of edges and of their end nodes
+  };
+  static OfNetwork ofNetwork(const NetData &net);
 };
 
 /// Functions that show this network at first sight: pressure where it is known, diameter for width. The rest of the

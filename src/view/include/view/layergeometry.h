@@ -65,14 +65,18 @@ double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize);
 /// Of a point from a line, both in pixels.
 double distanceToLine(const QPointF &point, const QLineF &line);
 
-/// What of an element was hit; the former covers the latter.
+/// What of an element was hit; the former covers the latter: boxes cover what is behind them, a symbol stands for its
+/// element, and what stands at a place counts more than a line that ends there.
 enum class HitRank { Box, Symbol, Place, Line };
 
 /// Something drawn under the cursor.
 struct Hit {
   NetGeometry::Item item;
-  double distance = 0.0; ///< px
-  HitRank rank = HitRank::Line;
+  double distance; ///< px
+  HitRank rank;
+
+  /// Whether this is rather what was meant than the other.
+  bool comesBefore(const Hit &other) const { return rank != other.rank ? rank < other.rank : distance < other.distance; }
 };
 
 /// The font in the size that it has on the screen, whatever it is drawn on.

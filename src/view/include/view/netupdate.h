@@ -4,6 +4,7 @@
 #include <view/drawvalues.h>
 #include <view/edgelayer.h>
 #include <view/elementlooks.h>
+#include <view/labelcontents.h>
 #include <view/labellayer.h>
 #include <view/labeltable.h>
 #include <view/layerfilter.h>
@@ -36,8 +37,10 @@ public:
   /// updatePlot() that rebuilds, as is the following.
   /// \param subnetIcons folder with an icon for each kind of subnet, empty for none
   void setFolder(const QString &folder, const QString &subnetIcons = QString());
-  void setLabelTable(const LabelTable &table) { m_labelTable = table; }
+  void setLabelTable(const LabelTable &table);
   const LabelTable &labelTable() const { return m_labelTable; }
+  /// What labels say; null without a network. Valid until the network, the label table or the drawing changes.
+  const LabelContents *labelContents() const;
   /// Layers whose elements are not drawn, by the values of the property; drawn with the next updatePlot().
   void setHiddenLayers(const QString &property, const QSet<QString> &layers) { m_layers.setHidden(property, layers); }
   const LayerFilter &layers() const { return m_layers; }
@@ -82,7 +85,7 @@ private:
   ElementLooks looks() const;
   ColorScale::Subject coloured() const;
   /// The size that the label table gives a type, px.
-  double sizeOf(const char *type, double otherwise) const;
+  double sizeOf(const QString &type, double otherwise) const;
   void showWhatIsVisible();
   void updateSymbols(bool rebuild);
   /// The height of the view in the network's own coordinates, in which thresholds are given.
@@ -95,6 +98,7 @@ private:
   NetGeometry m_geometry;
   DrawValues m_values;
   LabelTable m_labelTable;
+  mutable std::unique_ptr<LabelContents> m_contents; ///< made when somebody asks
   VisibilityRules m_visibility;
   LayerFilter m_layers;
   DisplayMode m_displayMode = DisplayMode::Functions;

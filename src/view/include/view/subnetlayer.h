@@ -16,7 +16,7 @@ public:
   SubnetLayer();
 
   void setTable(const SymbolTable &table);
-  void setSubnets(const NetGeometry &geometry);
+  void setSubnets(const NetData &net, const NetGeometry &geometry);
   /// \param size px, of the box of a subnet that says nothing of its own
   /// \param alpha opacity of the ground, 0 to 255
   void setLook(double size, int alpha);

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QByteArray>
 #include <QRectF>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 /// Views with names, kept with the case in a file of their own: "viewbookmarks.csv", a line each,
@@ -21,12 +23,20 @@ public:
 
   /// In the order in which they were made; what is no bookmark is left out, a file that cannot be read is logged.
   std::vector<Bookmark> all() const;
-  /// In place of one of the same name. False with the reason when the file cannot be written.
+  /// In place of one of the same name; lines that are no bookmarks stay. False with the reason when the file cannot be
+  /// written, or cannot be read and holds nobody knows what.
   bool add(const Bookmark &bookmark, QString *reason) const;
   bool forget(const QString &name, QString *reason) const;
 
 private:
-  bool write(const std::vector<Bookmark> &bookmarks, QString *reason) const;
+  struct Line {
+    QByteArray text;
+    std::optional<Bookmark> bookmark; ///< nothing when it is none
+  };
+
+  /// Nothing, with the reason, when the file cannot be read.
+  std::optional<std::vector<Line>> read(QString *reason) const;
+  bool replace(const QString &name, const QByteArray &added, QString *reason) const;
 
   QString m_path;
 };

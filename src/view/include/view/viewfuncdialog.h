@@ -31,8 +31,6 @@ public:
   /// Takes all bounds of the draw functions from the data.
   void resetMinMaxColorFuncValues();
 
-  static QStringList edgeFunctions();
-
 public slots:
   void on_apply_clicked();
   void on_applyAndSave_clicked();
