@@ -1,5 +1,6 @@
-# What every target of the project has in common: warnings, sanitizers, and the rule that a folder is one library with an
-# include root of its own, so that #include <model/netdata.h> resolves only where nivra_model is linked.
+# What every target of the project has in common: warnings, sanitizers, and the rule that a library has an include root of
+# its own with the headers that others need, so that #include <model/netdata.h> resolves only where nivra_model is linked.
+# The other headers lie beside their sources, in the rooms of the library: #include "search/searchtable.h".
 
 add_library(nivra_options INTERFACE)
 target_compile_definitions(nivra_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
@@ -18,16 +19,22 @@ endif()
 function(nivra_library folder)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE" ${ARGN})
   add_library(nivra_${folder} STATIC ${ARG_SOURCES})
-  target_include_directories(nivra_${folder} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}/include")
+  target_include_directories(nivra_${folder} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}/include"
+                                             PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
   target_link_libraries(nivra_${folder} PUBLIC ${ARG_LINK} PRIVATE nivra_options ${ARG_PRIVATE})
 endfunction()
 
-# nivra_test(<folder> SOURCES <files> LINK <targets>): one executable a folder, every tst_*.cpp of which registers its classes.
+# nivra_test(<folder> SOURCES <files> LINK <targets> INSIDE <targets>): one executable a folder, every tst_*.cpp of which
+# registers its classes. Of the libraries that it looks inside it sees all headers.
 # Each class is an entry of CTest, <folder>.<class>, and writes its own report beside the executable's build files.
 function(nivra_test folder)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK;INSIDE" ${ARGN})
   add_executable(tst_${folder} ${ARG_SOURCES})
   target_link_libraries(tst_${folder} PRIVATE nivra_testsupport ${ARG_LINK} nivra_options)
+  foreach(library IN LISTS ARG_INSIDE)
+    get_target_property(inside ${library} SOURCE_DIR)
+    target_include_directories(tst_${folder} PRIVATE "${inside}")
+  endforeach()
   target_compile_definitions(tst_${folder} PRIVATE NIVRA_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data/${folder}"
                                                    NIVRA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   set(entries "${CMAKE_CURRENT_BINARY_DIR}/entries.cmake")

@@ -7,7 +7,7 @@ command -v "$compiler" >/dev/null || { echo "$compiler is missing (Debian: g++-m
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
-"$compiler" -std=c++17 -gdwarf-4 -O1 -Wall -Wextra -Wpedantic -Wshadow -Werror -static -Isrc/base/include \
+"$compiler" -std=c++17 -gdwarf-4 -O1 -Wall -Wextra -Wpedantic -Wshadow -Werror -static -Isrc/base \
   src/base/callstack_windows.cpp tests/base/callstack_windows_demo.cpp -o "$folder/demo.exe"
 echo "The Windows call stack writer compiles"
 

@@ -1,3 +1,5 @@
+#include "aboutbox.h"
+
 #include "buildinfo.h"
 
 #include <base/logo.h>
@@ -9,7 +11,6 @@
 #include <QMessageBox>
 #include <qwt_global.h>
 
-#include <app/aboutbox.h>
 #include <mpParser.h>
 
 namespace {

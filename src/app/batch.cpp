@@ -1,9 +1,11 @@
+#include "batch.h"
+
+#include "networkloader.h"
 #include "stagetimes.h"
 
 #include <base/generalsettings.h>
 #include <base/logfiles.h>
 #include <base/nivramsg.h>
-#include <view/drawfunctions.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 #include <view/plotexport.h>
@@ -14,9 +16,8 @@
 #include <QJsonObject>
 #include <QSet>
 
-#include <app/batch.h>
-#include <app/networkloader.h>
 #include <cstdio>
+#include <drawing/drawfunctions.h>
 #include <sys/resource.h>
 #include <unistd.h>
 

@@ -1,10 +1,12 @@
+#include "commandline.h"
+
+#include "aboutbox.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QHash>
 #include <QVector>
 
-#include <app/aboutbox.h>
-#include <app/commandline.h>
 #include <cmath>
 
 namespace {

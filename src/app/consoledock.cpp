@@ -1,11 +1,11 @@
+#include "consoledock.h"
+
 #include <base/nivramsg.h>
 
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextCursor>
-
-#include <app/consoledock.h>
 
 ConsoleDock::ConsoleDock(const QStringList &before, QWidget *parent)
     : QDockWidget(tr("Messages"), parent)

@@ -1,8 +1,9 @@
+#include "gasmodel.h"
+
+#include "scenariomodel.h"
+
 #include <tools/displayvalue.h>
 #include <tools/plaintip.h>
-
-#include <app/gasmodel.h>
-#include <app/scenariomodel.h>
 
 namespace {
 

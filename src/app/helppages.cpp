@@ -1,7 +1,7 @@
+#include "helppages.h"
+
 #include <QFile>
 #include <QRegularExpression>
-
-#include <app/helppages.h>
 
 static void initialiseResources() {
   Q_INIT_RESOURCE(app); // a static library's resources are dropped by the linker unless somebody asks for them

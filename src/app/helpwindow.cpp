@@ -1,3 +1,5 @@
+#include "helpwindow.h"
+
 #include <base/logo.h>
 
 #include <QCoreApplication>
@@ -8,7 +10,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <app/helpwindow.h>
 
 namespace {
 

@@ -1,3 +1,5 @@
+#include "lastscenario.h"
+
 #include <base/fileaccess.h>
 #include <base/logfiles.h>
 #include <base/nivramsg.h>
@@ -6,8 +8,6 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
-
-#include <app/lastscenario.h>
 
 namespace {
 

@@ -1,9 +1,9 @@
+#include "loadprogress.h"
+
 #include <QCoreApplication>
 #include <QProgressBar>
 #include <QStatusBar>
 #include <QToolButton>
-
-#include <app/loadprogress.h>
 
 LoadProgress::LoadProgress(QStatusBar *bar)
     : m_bar(bar) {

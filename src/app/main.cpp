@@ -1,12 +1,13 @@
+#include "batch.h"
+#include "commandline.h"
+#include "nivraviewer.h"
+
 #include <base/crashguard.h>
 #include <base/nivramsg.h>
 
 #include <QApplication>
 #include <QTimer>
 
-#include <app/batch.h>
-#include <app/commandline.h>
-#include <app/nivraviewer.h>
 #include <cstdio>
 #include <new>
 

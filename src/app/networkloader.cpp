@@ -1,7 +1,7 @@
+#include "networkloader.h"
+
 #include <base/fileaccess.h>
 #include <base/nivramsg.h>
-#include <characteristics/machinereader.h>
-#include <characteristics/networkmachines.h>
 #include <model/units.h>
 #include <subassembly/subassembler.h>
 
@@ -10,8 +10,9 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
-#include <app/networkloader.h>
 #include <iterator>
+#include <machines/machinereader.h>
+#include <machines/networkmachines.h>
 
 namespace {
 

@@ -1,3 +1,11 @@
+#include "nivraviewer.h"
+
+#include "aboutbox.h"
+#include "lastscenario.h"
+#include "loadprogress.h"
+#include "outcomestyle.h"
+#include "subnetwindow.h"
+#include "tooldocks.h"
 #include "ui_nivraviewer.h"
 
 #include <base/fileaccess.h>
@@ -21,14 +29,6 @@
 #include <QStyle>
 #include <QStyleFactory>
 #include <QToolButton>
-
-#include <app/aboutbox.h>
-#include <app/lastscenario.h>
-#include <app/loadprogress.h>
-#include <app/nivraviewer.h>
-#include <app/outcomestyle.h>
-#include <app/subnetwindow.h>
-#include <app/tooldocks.h>
 
 NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)

@@ -1,11 +1,11 @@
+#include "outcomestyle.h"
+
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 
 #include <QCoreApplication>
 #include <QRegularExpression>
 #include <QStringList>
-
-#include <app/outcomestyle.h>
 
 namespace {
 

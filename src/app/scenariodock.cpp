@@ -1,3 +1,8 @@
+#include "scenariodock.h"
+
+#include "gasmodel.h"
+#include "scenariomodel.h"
+
 #include <tools/elidedlabel.h>
 #include <tools/filterfield.h>
 #include <tools/tablemenu.h>
@@ -10,9 +15,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <app/gasmodel.h>
-#include <app/scenariodock.h>
-#include <app/scenariomodel.h>
 
 namespace {
 

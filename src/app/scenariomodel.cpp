@@ -1,9 +1,9 @@
+#include "scenariomodel.h"
+
 #include <tools/plaintip.h>
 
 #include <QDir>
 #include <QFont>
-
-#include <app/scenariomodel.h>
 
 namespace {
 

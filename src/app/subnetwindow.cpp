@@ -1,3 +1,7 @@
+#include "subnetwindow.h"
+
+#include "tooldocks.h"
+
 #include <io/nivraworkspace.h>
 #include <model/netmetadata.h>
 #include <tools/nivrasearch.h>
@@ -7,9 +11,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QStatusBar>
-
-#include <app/subnetwindow.h>
-#include <app/tooldocks.h>
 
 SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorkspace &workspace,
                            std::shared_ptr<CategoryList> categories, QWidget *parent)

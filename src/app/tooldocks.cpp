@@ -1,3 +1,9 @@
+#include "tooldocks.h"
+
+#include "consoledock.h"
+#include "helpwindow.h"
+#include "scenariodock.h"
+
 #include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
 #include <io/nivraworkspace.h>
@@ -8,7 +14,6 @@
 #include <tools/nivrapropviewer.h>
 #include <tools/nivrasearch.h>
 #include <tools/nivravectable.h>
-#include <view/labelcontents.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 #include <view/viewfuncdialog.h>
@@ -24,10 +29,7 @@
 #include <QTreeWidgetItem>
 
 #include <algorithm>
-#include <app/consoledock.h>
-#include <app/helpwindow.h>
-#include <app/scenariodock.h>
-#include <app/tooldocks.h>
+#include <drawing/labelcontents.h>
 
 namespace {
 

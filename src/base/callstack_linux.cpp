@@ -1,4 +1,4 @@
-#include <base/callstack.h>
+#include "callstack.h"
 
 #include <backtrace.h>
 #include <cstdint>

@@ -1,4 +1,5 @@
-#include <base/callstack.h>
+#include "callstack.h"
+
 #include <base/crashguard.h>
 #include <base/logfiles.h>
 #include <base/nivramsg.h>

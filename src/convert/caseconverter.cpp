@@ -1,3 +1,5 @@
+#include "caseconverter.h"
+
 #include "stagedfolder.h"
 
 #include <base/fileaccess.h>
@@ -8,8 +10,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
-
-#include <convert/caseconverter.h>
 
 namespace {
 

@@ -1,3 +1,5 @@
+#include "gaslibimport.h"
+
 #include "gaslibnomination.h"
 #include "stagedfolder.h"
 #include "stationdrives.h"
@@ -8,8 +10,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
-
-#include <convert/gaslibimport.h>
 
 namespace {
 

@@ -1,3 +1,6 @@
+#include "caseconverter.h"
+#include "gaslibimport.h"
+
 #include <base/nivramsg.h>
 #include <io/networkfileconverter.h>
 
@@ -5,8 +8,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-#include <convert/caseconverter.h>
-#include <convert/gaslibimport.h>
 #include <cstdio>
 
 namespace {

@@ -1,5 +1,6 @@
+#include "elementexceptions.h"
+
 #include <model/element.h>
-#include <model/elementexceptions.h>
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
+#include "elementexceptions.h"
+
 #include <base/nivramsg.h>
 #include <model/element.h>
-#include <model/elementexceptions.h>
 
 namespace {
 

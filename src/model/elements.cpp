@@ -1,4 +1,5 @@
-#include <model/elementexceptions.h>
+#include "elementexceptions.h"
+
 #include <model/elements.h>
 
 #include <algorithm>

@@ -1,5 +1,6 @@
+#include "elementexceptions.h"
+
 #include <base/nivramsg.h>
-#include <model/elementexceptions.h>
 #include <model/netdata.h>
 #include <model/netmetadata.h>
 

@@ -1,11 +1,13 @@
-#include <view/drawfunctions.h>
+#include "interaction/plotmenu.h"
+
 #include <view/netviscontrol.h>
-#include <view/plotmenu.h>
 #include <view/plotzoom.h>
 #include <view/qwtfastplot.h>
 
 #include <QFileInfo>
 #include <QMenu>
+
+#include <drawing/drawfunctions.h>
 
 NetVisControl::NetVisControl(NetData &net, const QString &name, QObject *parent)
     : QObject(parent)

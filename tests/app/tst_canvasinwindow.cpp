@@ -1,3 +1,4 @@
+#include "nivraviewer.h"
 #include "workspacefixture.h"
 
 #include <support/nivratest.h>
@@ -11,7 +12,6 @@
 #include <QMenu>
 
 #include <algorithm>
-#include <app/nivraviewer.h>
 #include <cmath>
 
 /// The drawing in the real window, with docks that come and go, by mouse and keys.

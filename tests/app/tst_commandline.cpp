@@ -1,6 +1,6 @@
-#include <support/nivratest.h>
+#include "commandline.h"
 
-#include <app/commandline.h>
+#include <support/nivratest.h>
 
 class TestCommandLine : public QObject {
   Q_OBJECT

@@ -1,9 +1,9 @@
+#include "helppages.h"
+
 #include <support/nivratest.h>
 
 #include <QFile>
 #include <QRegularExpression>
-
-#include <app/helppages.h>
 
 class TestHelp : public QObject {
   Q_OBJECT

@@ -1,10 +1,9 @@
+#include "networkloader.h"
 #include "workspacefixture.h"
 
 #include <base/fileaccess.h>
 #include <base/nivramsg.h>
 #include <support/nivratest.h>
-
-#include <app/networkloader.h>
 
 class TestNetworkLoader : public QObject {
   Q_OBJECT

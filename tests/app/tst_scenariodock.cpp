@@ -1,3 +1,6 @@
+#include "gasmodel.h"
+#include "nivraviewer.h"
+#include "scenariomodel.h"
 #include "workspacefixture.h"
 
 #include <support/nivratest.h>
@@ -14,10 +17,6 @@
 #include <QMenuBar>
 #include <QTableView>
 #include <QTreeView>
-
-#include <app/gasmodel.h>
-#include <app/nivraviewer.h>
-#include <app/scenariomodel.h>
 
 namespace {
 

@@ -1,3 +1,5 @@
+#include "nivraviewer.h"
+#include "subnetwindow.h"
 #include "workspacefixture.h"
 
 #include <base/fileaccess.h>
@@ -24,9 +26,6 @@
 #include <QTabBar>
 #include <QTableWidget>
 #include <QTreeWidget>
-
-#include <app/nivraviewer.h>
-#include <app/subnetwindow.h>
 
 namespace {
 

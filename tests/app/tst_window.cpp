@@ -1,3 +1,8 @@
+#include "loadprogress.h"
+#include "networkloader.h"
+#include "nivraviewer.h"
+#include "subnetwindow.h"
+#include "tooldocks.h"
 #include "workspacefixture.h"
 
 #include <base/generalsettings.h>
@@ -32,12 +37,6 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
-
-#include <app/loadprogress.h>
-#include <app/networkloader.h>
-#include <app/nivraviewer.h>
-#include <app/subnetwindow.h>
-#include <app/tooldocks.h>
 
 namespace {
 

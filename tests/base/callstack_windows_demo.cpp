@@ -1,6 +1,6 @@
 // Writes its own call stack from nested functions and looks at what was written: 0 when the stack names something.
 
-#include <base/callstack.h>
+#include "callstack.h"
 
 #include <cstdio>
 #include <fcntl.h>

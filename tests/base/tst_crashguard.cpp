@@ -1,4 +1,5 @@
-#include <base/callstack.h>
+#include "callstack.h"
+
 #include <support/nivratest.h>
 
 #include <QDirIterator>

@@ -1,9 +1,9 @@
-#include <characteristics/machinereader.h>
 #include <support/nivratest.h>
 
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <machines/machinereader.h>
 #include <sys/stat.h>
 
 class TestFits : public QObject {

@@ -1,9 +1,9 @@
-#include <characteristics/compression.h>
-#include <characteristics/gaslaw.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 
 #include <cmath>
+#include <machines/compression.h>
+#include <machines/gaslaw.h>
 
 /// Laws against numbers that others published, none of them made by this program:
 /// - hydrogen at 100 bar: Hydrogen Analysis Resource Center, compressibility of hydrogen by NIST REFPROP 8.0;

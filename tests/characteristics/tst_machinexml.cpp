@@ -1,10 +1,10 @@
-#include <characteristics/machinereader.h>
 #include <support/nivratest.h>
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <machines/machinereader.h>
 
 /// Reads drives in the shapes in which they are published.
 class TestMachineXml : public QObject {

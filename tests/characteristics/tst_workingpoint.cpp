@@ -1,7 +1,6 @@
+#include "mapplot.h"
+
 #include <characteristics/characteristicsstack.h>
-#include <characteristics/machinereader.h>
-#include <characteristics/mapplot.h>
-#include <characteristics/workingpoint.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 
@@ -18,6 +17,8 @@
 #include <qwt_text_label.h>
 
 #include <cmath>
+#include <machines/machinereader.h>
+#include <machines/workingpoint.h>
 
 class TestWorkingPoint : public QObject {
   Q_OBJECT

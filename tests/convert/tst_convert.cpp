@@ -1,3 +1,6 @@
+#include "caseconverter.h"
+#include "gaslibimport.h"
+
 #include <io/networkfileconverter.h>
 #include <io/nivrareader.h>
 #include <model/consistencycheck.h>
@@ -10,8 +13,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <convert/caseconverter.h>
-#include <convert/gaslibimport.h>
 #include <sys/stat.h>
 
 class TestConvert : public QObject {

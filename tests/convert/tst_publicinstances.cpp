@@ -1,3 +1,4 @@
+#include "gaslibimport.h"
 #include "xmltree.h"
 
 #include <io/nivrareader.h>
@@ -7,8 +8,6 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-
-#include <convert/gaslibimport.h>
 
 /// Converts public instances and compares what the program then opens with a walk of its own over the XML.
 class TestPublicInstances : public QObject {

@@ -1,5 +1,6 @@
+#include "elementexceptions.h"
+
 #include <model/element.h>
-#include <model/elementexceptions.h>
 #include <model/elements.h>
 #include <model/propertycolumns.h>
 #include <support/nivratest.h>

@@ -1,5 +1,6 @@
+#include "elementexceptions.h"
+
 #include <base/nivramsg.h>
-#include <model/elementexceptions.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 

@@ -1,10 +1,11 @@
+#include "shared/csvfield.h"
+
 #include <base/generalsettings.h>
 #include <model/elementtypes.h>
 #include <support/contextmenu.h>
 #include <support/fulldisk.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
-#include <tools/csvfield.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
 #include <tools/vectorrows.h>

@@ -1,9 +1,10 @@
+#include "properties/plotlabelview.h"
+#include "shared/numberdelegate.h"
+
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 #include <tools/nivraeleinfowidget.h>
 #include <tools/nivrapropviewer.h>
-#include <tools/numberdelegate.h>
-#include <tools/plotlabelview.h>
 
 #include <QAction>
 #include <QApplication>

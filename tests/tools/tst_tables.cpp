@@ -1,9 +1,10 @@
+#include "shared/nameaid.h"
+#include "table/valuestatistics.h"
+
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
-#include <tools/nameaid.h>
 #include <tools/nivrafindings.h>
 #include <tools/tablemenu.h>
-#include <tools/valuestatistics.h>
 
 #include <QAction>
 #include <QApplication>

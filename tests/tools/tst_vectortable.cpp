@@ -1,11 +1,12 @@
+#include "shared/csvfield.h"
+#include "table/vectorplot.h"
+
 #include <base/generalsettings.h>
 #include <support/contextmenu.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
-#include <tools/csvfield.h>
 #include <tools/nivravectable.h>
 #include <tools/tablemenu.h>
-#include <tools/vectorplot.h>
 
 #include <QAction>
 #include <QApplication>

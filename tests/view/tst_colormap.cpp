@@ -1,9 +1,9 @@
 #include <support/nivratest.h>
-#include <view/colormap.h>
 
 #include <QColor>
 
 #include <cmath>
+#include <drawing/colormap.h>
 
 class TestColorMap : public QObject {
   Q_OBJECT

@@ -4,13 +4,13 @@
 #include <base/nivramsg.h>
 #include <model/netmetadata.h>
 #include <support/nivratest.h>
-#include <view/labelcontents.h>
-#include <view/labelplacement.h>
 #include <view/plotzoom.h>
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 
+#include <drawing/labelcontents.h>
+#include <drawing/labelplacement.h>
 #include <random>
 
 class TestLabels : public QObject {

@@ -1,7 +1,7 @@
 #include <support/nivratest.h>
-#include <view/layergeometry.h>
-#include <view/spatialindex.h>
 
+#include <drawing/layergeometry.h>
+#include <drawing/spatialindex.h>
 #include <random>
 #include <set>
 

@@ -1,13 +1,14 @@
+#include "geometry/networkgraph.h"
 #include "viewfixture.h"
 
 #include <support/nivratest.h>
-#include <view/drawfunctions.h>
-#include <view/networkgraph.h>
 
 #include <QSet>
 #include <qwt_scale_div.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
+
+#include <drawing/drawfunctions.h>
 
 namespace {
 

@@ -1,10 +1,10 @@
+#include "export/plotsaver.h"
 #include "viewfixture.h"
 
 #include <base/wholefile.h>
 #include <support/fulldisk.h>
 #include <support/nivratest.h>
 #include <view/plotexport.h>
-#include <view/plotsaver.h>
 
 #include <QDir>
 #include <QFileDialog>

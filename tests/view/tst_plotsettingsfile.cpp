@@ -1,7 +1,8 @@
+#include "configure/plotsettingsfile.h"
+
 #include <support/fulldisk.h>
 #include <support/nivratest.h>
 #include <view/netplot.h>
-#include <view/plotsettingsfile.h>
 
 #include <QFile>
 #include <QSettings>

@@ -1,8 +1,7 @@
+#include "symbols/picturefile.h"
 #include "viewfixture.h"
 
 #include <support/nivratest.h>
-#include <view/picturefile.h>
-#include <view/stationsymbols.h>
 
 #include <QBuffer>
 #include <QDir>
@@ -10,6 +9,7 @@
 #include <QPainter>
 #include <QTemporaryDir>
 
+#include <drawing/stationsymbols.h>
 #include <sys/stat.h>
 
 class TestSymbols : public QObject {

@@ -1,10 +1,8 @@
+#include "configure/labeltableeditor.h"
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
 #include <support/nivratest.h>
-#include <view/drawfunctions.h>
-#include <view/drawrange.h>
-#include <view/labeltableeditor.h>
 #include <view/plotzoom.h>
 #include <view/viewfuncdialog.h>
 
@@ -19,6 +17,9 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
+
+#include <drawing/drawfunctions.h>
+#include <drawing/drawrange.h>
 
 class TestViewFuncDialog : public QObject {
   Q_OBJECT

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <model/units.h>
-#include <view/typedbounds.h>
 
 #include <QGroupBox>
 
+#include <drawing/typedbounds.h>
 #include <functional>
 #include <memory>
 

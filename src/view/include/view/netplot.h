@@ -1,14 +1,14 @@
 #pragma once
 
 #include <view/netupdate.h>
-#include <view/plotsettings.h>
-#include <view/selectionlayer.h>
 
 #include <QWidget>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_marker.h>
 #include <qwt_plot_textlabel.h>
 
+#include <drawing/plotsettings.h>
+#include <drawing/selectionlayer.h>
 #include <memory>
 
 class PlotPanner;

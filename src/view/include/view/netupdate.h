@@ -1,21 +1,22 @@
 #pragma once
 
 #include <model/netdata.h>
-#include <view/drawvalues.h>
-#include <view/edgelayer.h>
-#include <view/elementlooks.h>
-#include <view/labelcontents.h>
-#include <view/labellayer.h>
-#include <view/labeltable.h>
-#include <view/layerfilter.h>
-#include <view/netgeometry.h>
-#include <view/nodelayer.h>
 #include <view/pixtest.h>
-#include <view/plotsettings.h>
-#include <view/subnetlayer.h>
-#include <view/symbollayer.h>
-#include <view/textboxlayer.h>
-#include <view/visibilityrules.h>
+
+#include <drawing/drawvalues.h>
+#include <drawing/edgelayer.h>
+#include <drawing/elementlooks.h>
+#include <drawing/labelcontents.h>
+#include <drawing/labellayer.h>
+#include <drawing/labeltable.h>
+#include <drawing/layerfilter.h>
+#include <drawing/netgeometry.h>
+#include <drawing/nodelayer.h>
+#include <drawing/plotsettings.h>
+#include <drawing/subnetlayer.h>
+#include <drawing/symbollayer.h>
+#include <drawing/textboxlayer.h>
+#include <drawing/visibilityrules.h>
 
 class NetPlot;
 

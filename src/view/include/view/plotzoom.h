@@ -1,11 +1,12 @@
 #pragma once
 
-#include <view/plotsettings.h>
 #include <view/viewhistory.h>
 
 #include <QStack>
 #include <QTimer>
 #include <qwt_plot_zoomer.h>
+
+#include <drawing/plotsettings.h>
 
 class QwtFastPlot;
 

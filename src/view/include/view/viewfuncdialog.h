@@ -1,12 +1,12 @@
 #pragma once
 
-#include <view/drawvalues.h>
 #include <view/functionrow.h>
-#include <view/plotsettings.h>
 
 #include <QWidget>
 
 #include <array>
+#include <drawing/drawvalues.h>
+#include <drawing/plotsettings.h>
 #include <memory>
 
 class LabelTableEditor;

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <base/finding.h>
+#include <formulas/networkformulas.h>
+#include <io/nivragasparams.h>
+#include <io/nivrareader.h>
+#include <io/nivraworkspace.h>
+#include <io/scenariosummary.h>
+#include <model/consistencycheck.h>
+#include <model/netdata.h>
+#include <tools/findinglist.h>
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+#include <machines/machinedata.h>
+#include <utility>
+
+/// Brings a chosen file into a NetData: workspace, configuration, network, checks. It knows no widgets; the window and
+/// the command line both drive it, stage by stage.
+class NetworkLoader {
+public:
+  /// Seconds by stage, in the order of the stages.
+  using Seconds = QVector<std::pair<QString, double>>;
+
+  explicit NetworkLoader(NetData &net)
+      : m_net(net)
+      , m_formulas(net) {}
+
+  /// False when the path yields no usable workspace; the reasons are logged and kept for error().
+  bool resolve(const QString &path);
+  /// Makes the workspace that another loader resolved the current one.
+  void takeWorkspace(const NetworkLoader &other);
+  /// Case configuration and, where there is a scenario, scenario configuration with gas and solver parameters.
+  void readConfiguration();
+
+  struct ReadOptions {
+    QString includeTypes;      ///< regular expression, empty for all
+    QString includeProperties; ///< regular expression, empty for all
+    Progress progress;
+    std::function<void(const QString &text)> told; ///< what is being done, for a person
+  };
+  /// Fills the NetData, which must be empty, checks it, assembles its subnets and computes its formulas. False when nothing
+  /// could be read or reading was cancelled.
+  bool readNetwork(const ReadOptions &options);
+
+  const NivraWorkspace &workspace() const { return m_workspace; }
+  const GasTable &gases() const { return m_gases; } ///< of the scenario
+  /// What case and scenario carry beside the network, each with the file that says so.
+  ScenarioSummary scenarioSummary() const;
+  const ConsistencyCheck::PruneResult &removed() const { return m_removed; }
+  /// Everything that the stages noticed, in their order.
+  const std::vector<FindingList::Group> &noticed() const { return m_noticed; }
+  /// Where the templates of subnets are; empty when the network has no subnets or there are none.
+  const QString &templateFolder() const { return m_templateFolder; }
+  /// Of the scenario's compressor database; empty without one.
+  const MachineData &machines() const { return m_machines; }
+  /// After a property of elements has changed: what depends on it.
+  void computeAgain(const QStringList &names, const QString &property);
+  const Seconds &seconds() const { return m_seconds; }
+  bool wasCancelled() const { return m_cancelled; }
+  QString error() const { return m_error; } ///< why the last step failed, for a person
+
+private:
+  // The stages; those that return something return whether the next one may begin.
+  bool readFiles(NivraReader &reader, const NivraReader::Options &options);
+  void check();
+  bool assembleSubnets(const ReadOptions &options);
+  bool readSubResults(NivraReader &reader, const NivraReader::Options &options);
+  void readMachines(const NivraReader &reader);
+  bool computeFormulas(const Progress &progress);
+  bool stop();
+  void notice(const QString &stage, Findings findings);
+  void noticeViolations();
+
+  NetData &m_net;
+  NetworkFormulas m_formulas;
+  NivraWorkspace m_workspace;
+  NivraGasParams m_gasParams;
+  GasTable m_gases;
+  ScenarioSummary::Files m_files;
+  MachineData m_machines;
+  QString m_templateFolder;
+  ConsistencyCheck::PruneResult m_removed;
+  std::vector<FormulaDefinition> m_templateDefinitions; ///< of the assembled subnets
+  std::vector<FindingList::Group> m_noticed;
+  Seconds m_seconds;
+  QString m_error;
+  bool m_cancelled = false;
+};

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "networkloader.h"
+#include "outcomestyle.h"
+
+#include <model/netdata.h>
+#include <view/netpicker.h>
+
+#include <QMainWindow>
+#include <QPointer>
+
+#include <memory>
+
+class CategoryList;
+class LoadProgress;
+class NetVisControl;
+class SubnetWindow;
+class ToolDocks;
+
+namespace Ui {
+class NivraViewer;
+}
+
+/// The window: opens workspaces and connects what shows them.
+class NivraViewer : public QMainWindow {
+  Q_OBJECT
+public:
+  explicit NivraViewer(QWidget *parent = nullptr);
+  ~NivraViewer() override;
+
+  /// A ".qss" file restyles the program; anything else is resolved as a workspace and opened.
+  void open(const QString &path);
+
+  NetVisControl *visControl() const { return m_control.get(); }
+  static QString openDialogStart(const QString &applicationDir);
+
+signals:
+  void currentEleChanged(const QString &element);
+
+public slots:
+  void elementAction(const QString &eleName, NetPicker::EleAction eleAction);
+  void on_actionAboutNivra_triggered();
+  void on_actionElement_Table_triggered();
+  void on_actionExit_triggered();
+  void on_actionHelp_triggered();
+  void on_actionMetadataTable_triggered();
+  void on_actionOpen_triggered();
+
+protected:
+  void dragEnterEvent(QDragEnterEvent *event) override;
+  void dropEvent(QDropEvent *event) override;
+  void closeEvent(QCloseEvent *event) override;
+
+private:
+  void setUpForm();
+  void applyStyleSheet(const QString &path);
+  void openWorkspace(const QString &path);
+  void takeLastScenario();
+  OutcomeStyle::Outcome outcome(bool isDone) const;
+  bool readWorkspace();
+  bool askForIncludeLists(NetworkLoader::ReadOptions &options);
+  void setCurrentElement(const QString &name);
+  void openSubnet(const QString &name);
+  QList<SubnetWindow *> subnetWindows() const;
+  void computeAgain(const QStringList &names, const QString &property);
+  void showTitle();
+  void setBusy(bool busy);
+  QList<QPointer<QWidget>> otherWindows() const;
+  bool closeOthers();
+
+  std::unique_ptr<Ui::NivraViewer> m_ui;
+  NetData m_net;
+  std::unique_ptr<NetVisControl> m_control;
+  NetworkLoader m_loader;
+  std::shared_ptr<CategoryList> m_categories;
+  ToolDocks *m_tools = nullptr;
+  QString m_currentElement;
+  LoadProgress *m_progress = nullptr; ///< while a workspace is being read
+};

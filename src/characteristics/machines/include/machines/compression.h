@@ -1,0 +1,39 @@
+#pragma once
+
+#include <model/netdata.h>
+
+#include <QStringList>
+
+#include <machines/gassource.h>
+#include <memory>
+#include <optional>
+
+/// What a compression is like, from the values of the network.
+struct Compression {
+  double massFlow = 0.0;            ///< kg/s, positive
+  bool isReversed = false;          ///< the flow goes from the outlet to the inlet
+  double inletPressure = 0.0;       ///< bar, at the machine: behind the losses of its station
+  double outletPressure = 0.0;      ///< bar, at the machine: before the losses of its station
+  double inletTemperature = 288.15; ///< K
+  double inletDensity = 0.0;        ///< kg/m3, as the network states it; 0 when it is to be computed
+  std::shared_ptr<const GasLaw> gas = GasLaw::assumed();
+  QString gasOrigin;   ///< for a person
+  QStringList remarks; ///< what is doubtful about these values
+
+  /// Of an edge with flow, between its end nodes. Nothing without flow and pressures.
+  static std::optional<Compression> of(const NetData &net, const element &compressor, const GasSource &gases);
+
+  double ratio() const { return outletPressure / inletPressure; }
+  double realGasFactor() const; ///< at the inlet
+  double density() const;       ///< kg/m3 at the inlet
+  double volumeFlow() const;    ///< m3/s at the inlet
+  /// Isentropic, the mean of the way from inlet to outlet: with it the head below is the enthalpy that the real gas takes up
+  /// at constant entropy.
+  double exponent() const;
+  /// kJ/kg, p/rho k/(k-1) (ratio^((k-1)/k) - 1) with the mean exponent.
+  double adiabaticHead() const;
+  /// The ratio to which a head in kJ/kg compresses.
+  double ratioOf(double head) const;
+  /// K behind a compression with an efficiency (0 to 1): the real gas has the enthalpy of the inlet and head/efficiency.
+  std::optional<double> outletTemperature(double efficiency) const;
+};

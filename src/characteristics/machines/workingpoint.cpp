@@ -1,0 +1,163 @@
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <machines/workingpoint.h>
+
+namespace {
+
+constexpr double SecondsPerMinute = 60.0;
+constexpr double Pi = 3.14159265358979323846;
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("WorkingPoint", text);
+}
+
+QString speedRemark(bool isBelow) {
+  return isBelow ? tr("The speed is below the smallest.") : tr("The speed is above the largest.");
+}
+
+/// Of the speeds that give the head those at which it grows with the speed, and of these the one nearest to the range of the
+/// machine; none where that is far beyond it, since the function was made for the range.
+std::optional<double> speedFor(const TurboCompressor &machine, double flow, double head) {
+  constexpr double Farthest = 2.0; // largest speeds
+  const Quadratic heads = machine.head->inY(flow);
+  const auto distance = [&machine](double speed) {
+    return std::max({0.0, machine.speedMin - speed, speed - machine.speedMax});
+  };
+  std::optional<double> best;
+  for (const double speed : Fits::solve(heads, head)) {
+    const bool isPossible =
+        speed > 0.0 && speed <= Farthest * machine.speedMax && heads.c[1] + 2.0 * heads.c[2] * speed > 0.0;
+    if (isPossible && (!best || distance(speed) < distance(*best)))
+      best = speed;
+  }
+  return best;
+}
+
+} // namespace
+
+std::optional<double> WorkingPoint::largestRatio(const PistonCompressor &machine, double speed, const Drive *drive,
+                                                 const Compression &compression, double ambientTemperature) {
+  std::optional<double> largest;
+  const auto take = [&largest](double ratio) {
+    largest = largest ? std::min(*largest, ratio) : ratio;
+  };
+  if (machine.maximalRatio > 0.0)
+    take(machine.maximalRatio);
+  const double massPerTurn = compression.density() * machine.displacement; // kg
+  if (machine.efficiency > 0.0 && machine.maximalTorque > 0.0)
+    take(compression.ratioOf(machine.maximalTorque * 2.0 * Pi * machine.efficiency / massPerTurn));
+  if (machine.efficiency > 0.0 && drive != nullptr && drive->power && speed > 0.0) {
+    const double power = std::max(0.0, (*drive->power)(ambientTemperature, speed));
+    take(compression.ratioOf(power * machine.efficiency / (massPerTurn * speed / SecondsPerMinute)));
+  }
+  return largest;
+}
+
+WorkingPoint::WorkingPoint(const Compression &compression)
+    : flow(compression.volumeFlow())
+    , head(compression.adiabaticHead())
+    , ratio(compression.ratio())
+    , realGasFactor(compression.realGasFactor())
+    , exponent(compression.exponent())
+    , massFlow(compression.massFlow) {
+  judgeMode(compression);
+}
+
+void WorkingPoint::judgeMode(const Compression &compression) {
+  constexpr double LossOfBypass = 0.01; // of the pressure
+  if (!std::isfinite(flow) || !std::isfinite(head)) {
+    flow = head = 0.0;
+    mode = Mode::NotCompressing;
+    remarks.append(tr("The gas law does not hold at these pressures and this temperature."));
+  } else if (compression.isReversed) {
+    mode = Mode::Backwards;
+    remarks.append(tr("The gas flows backwards through the machine: it does not compress."));
+  } else if (ratio <= 1.0 && ratio >= 1.0 - LossOfBypass) {
+    mode = Mode::Bypass;
+    remarks.append(tr("Bypass: the gas passes without being compressed."));
+  } else if (ratio < 1.0) {
+    mode = Mode::NotCompressing;
+    remarks.append(tr("Not compressing: the pressure at the outlet is below that at the inlet."));
+  }
+}
+
+void WorkingPoint::exceed(const QString &remark) {
+  isInside = false;
+  remarks.append(remark);
+}
+
+void WorkingPoint::takeDrive(const Drive *drive, const Compression &compression, double ambientTemperature) {
+  if (efficiency && *efficiency > 0.0) {
+    power = massFlow * head / *efficiency;
+    outletTemperature = compression.outletTemperature(*efficiency);
+  }
+  if (drive == nullptr || !power)
+    return;
+  if (drive->energy)
+    energyRate = (*drive->energy)(*power);
+  if (drive->power && speed)
+    powerLimit = (*drive->power)(ambientTemperature, *speed);
+  if (powerLimit && *power > *powerLimit)
+    exceed(tr("The drive cannot give this power."));
+}
+
+void WorkingPoint::judgeMap(const TurboCompressor &machine) {
+  isInside = true;
+  if (*speed < machine.speedMin || *speed > machine.speedMax)
+    exceed(speedRemark(*speed < machine.speedMin));
+  const auto flows = machine.flows(*speed);
+  if (flows && flow < flows->first)
+    exceed(tr("The point lies beyond the surge line."));
+  else if (!flows || flow > flows->second)
+    exceed(tr("The point lies beyond the choke line."));
+}
+
+WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive, const Compression &compression,
+                              double ambientTemperature) {
+  WorkingPoint point(compression);
+  if (!point.isCompressing())
+    return point;
+  if (!machine.head) {
+    point.remarks.append(tr("The machine has no map."));
+    return point;
+  }
+  point.speed = speedFor(machine, point.flow, point.head);
+  if (!point.speed) {
+    point.remarks.append(tr("No speed gives this head at this flow."));
+    return point;
+  }
+  point.judgeMap(machine);
+  const double efficiency = machine.efficiency ? (*machine.efficiency)(point.flow, *point.speed) : 0.0;
+  if (efficiency > 0.0 && efficiency <= 1.0) // far from the map the function says anything
+    point.efficiency = efficiency;
+  else if (machine.efficiency)
+    point.remarks.append(tr("The map tells no efficiency here."));
+  point.takeDrive(drive, compression, ambientTemperature);
+  return point;
+}
+
+WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *drive, const Compression &compression,
+                              double ambientTemperature) {
+  WorkingPoint point(compression);
+  if (!point.isCompressing())
+    return point;
+  if (!machine.isUsable()) {
+    point.remarks.append(tr("The machine has no displacement."));
+    return point;
+  }
+  point.isInside = true;
+  point.speed = machine.speed(point.flow);
+  if (*point.speed < machine.speedMin || *point.speed > machine.speedMax)
+    point.exceed(speedRemark(*point.speed < machine.speedMin));
+  if (machine.maximalRatio > 0.0 && point.ratio > machine.maximalRatio)
+    point.exceed(tr("The pressure ratio is above the largest."));
+  if (machine.efficiency > 0.0)
+    point.efficiency = machine.efficiency;
+  point.takeDrive(drive, compression, ambientTemperature);
+  const double torque = point.power ? *point.power / (2.0 * Pi * *point.speed / SecondsPerMinute) : 0.0; // kNm
+  if (machine.maximalTorque > 0.0 && torque > machine.maximalTorque)
+    point.exceed(tr("The torque is above the largest."));
+  return point;
+}

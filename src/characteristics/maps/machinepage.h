@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QWidget>
+
+#include <machines/networkmachines.h>
+
+class QComboBox;
+class QLabel;
+class QVBoxLayout;
+
+/// The page of a compressor or drive: its map with what is said of its working point, and what can be chosen: the machine
+/// of a station, how the station's machines work together, whose functions the map is made of.
+class MachinePage : public QWidget {
+  Q_OBJECT
+public:
+  MachinePage(const NetData &net, const NetworkMachines &machines, const QString &elementName, QWidget *parent = nullptr);
+
+  /// After properties have changed: makes the map anew when there is something else to say.
+  void refresh();
+
+  /// What stands beside the map, as rich text.
+  static QString text(const NetworkMachines::Machine &machine);
+
+private:
+  QComboBox *addChoice(const QString &name, const QString &tip);
+  MachineChoice choice() const;
+  void offerFunctions(const NetworkMachines::Machine &machine);
+  QWidget *makeMap(const NetworkMachines::Machine &machine) const;
+
+  const NetData &m_net;
+  const NetworkMachines &m_machines;
+  QComboBox *m_machine;
+  QComboBox *m_configuration;
+  QComboBox *m_functions;
+  QVBoxLayout *m_column;
+  QWidget *m_map = nullptr;
+  QLabel *m_text;
+};

@@ -1,0 +1,233 @@
+#include "mapcanvas.h"
+
+#include <base/nivramsg.h>
+#include <base/wholefile.h>
+
+#include <QContextMenuEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSvgGenerator>
+#include <qwt_plot_curve.h>
+#include <qwt_plot_grid.h>
+#include <qwt_plot_marker.h>
+#include <qwt_plot_renderer.h>
+#include <qwt_plot_shapeitem.h>
+#include <qwt_plot_zoomer.h>
+#include <qwt_symbol.h>
+
+namespace {
+
+constexpr int TitleSize = 9;    // points
+constexpr int LabelSpacing = 5; // from the end of a line, where a measured point may lie
+constexpr int Resolution = 72;  // dots an inch of documents: those of a point
+
+/// Zooms with what stands under the cursor beside it.
+class ReadingZoomer : public QwtPlotZoomer {
+public:
+  explicit ReadingZoomer(MapCanvas &plot)
+      : QwtPlotZoomer(plot.canvas())
+      , m_plot(plot) {
+    setTrackerMode(QwtPicker::AlwaysOn);
+    setRubberBandPen(QPen(MapCanvas::Blue, 1.0, Qt::DashLine));
+    setTrackerPen(QColor(40, 40, 40));
+    setMousePattern(QwtEventPattern::MouseSelect2, Qt::MiddleButton, Qt::ControlModifier); // the right one has a menu
+    setMousePattern(QwtEventPattern::MouseSelect3, Qt::MiddleButton);
+  }
+
+protected:
+  QwtText trackerTextF(const QPointF &position) const override {
+    QwtText text(m_plot.readout(position));
+    text.setBackgroundBrush(QColor(255, 255, 255, 220));
+    text.setRenderFlags(Qt::AlignLeft);
+    return text;
+  }
+
+private:
+  MapCanvas &m_plot;
+};
+
+} // namespace
+
+MapCanvas::MapCanvas(QWidget *parent)
+    : QwtPlot(parent)
+    , m_zoomer(nullptr) {
+  setCanvasBackground(Qt::white);
+  m_zoomer = new ReadingZoomer(*this);
+  setMinimumSize(260, 200);
+}
+
+void MapCanvas::reset(const QString &heading, const QString &x, const QString &y) {
+  detachItems();
+  QwtText title(heading, QwtText::PlainText);
+  QFont font = title.font();
+  font.setPointSize(TitleSize);
+  title.setRenderFlags(Qt::AlignHCenter | Qt::TextWordWrap);
+  title.setFont(font);
+  setTitle(title);
+  auto *grid = new QwtPlotGrid;
+  grid->setMajorPen(Qt::lightGray, 0.0, Qt::DotLine);
+  grid->attach(this);
+  setAxisTitle(xBottom, x);
+  setAxisTitle(yLeft, y);
+}
+
+void MapCanvas::addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label, Qt::Alignment alignment) {
+  if (points.size() < 2)
+    return;
+  auto *curve = new QwtPlotCurve;
+  curve->setSamples(points);
+  curve->setPen(pen);
+  curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+  curve->attach(this);
+  if (label.isEmpty())
+    return;
+  auto *marker = new QwtPlotMarker;
+  QwtText text(label);
+  QFont font = text.font();
+  font.setPointSize(8);
+  text.setFont(font);
+  text.setColor(pen.color());
+  marker->setLabel(text);
+  marker->setLabelAlignment(alignment);
+  marker->setSpacing(LabelSpacing);
+  marker->setValue(points.last());
+  marker->attach(this);
+}
+
+void MapCanvas::addRoom(const QPointF &to) {
+  auto *marker = new QwtPlotMarker;
+  marker->setValue(to);
+  marker->setItemAttribute(QwtPlotItem::AutoScale);
+  marker->attach(this);
+}
+
+void MapCanvas::addArea(const QVector<QPointF> &outline) {
+  auto *area = new QwtPlotShapeItem;
+  area->setPolygon(QPolygonF(outline));
+  area->setPen(QPen(Qt::NoPen));
+  area->setBrush(QColor(31, 93, 138, 26));
+  area->attach(this);
+}
+
+void MapCanvas::addDots(const QVector<QPointF> &points) {
+  if (points.isEmpty())
+    return;
+  auto *dots = new QwtPlotCurve;
+  dots->setStyle(QwtPlotCurve::NoCurve);
+  dots->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, Qt::white, QPen(Orange, 1.2), QSize(5, 5)));
+  dots->setSamples(points);
+  dots->setRenderHint(QwtPlotItem::RenderAntialiased);
+  dots->attach(this);
+}
+
+void MapCanvas::addWorkingPoint(const QPointF &at, bool isInside) {
+  auto *marker = new QwtPlotMarker;
+  const QColor color = isInside ? Green : Red;
+  marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, color, QPen(Qt::white, 1.5), QSize(13, 13)));
+  marker->setValue(at);
+  marker->setLineStyle(QwtPlotMarker::Cross);
+  marker->setLinePen(color, 1.0, Qt::DotLine);
+  marker->setZ(50.0);
+  marker->attach(this);
+}
+
+void MapCanvas::addStoredPoint(const QPointF &at) {
+  auto *marker = new QwtPlotMarker;
+  marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, Qt::NoBrush, QPen(Blue, 2.0), QSize(13, 13)));
+  marker->setValue(at);
+  QwtText text(tr("results"));
+  text.setColor(Blue);
+  marker->setLabel(text);
+  marker->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  marker->setSpacing(10);
+  marker->setItemAttribute(QwtPlotItem::AutoScale);
+  marker->setZ(49.0);
+  marker->attach(this);
+}
+
+void MapCanvas::finish() {
+  setAxisAutoScale(xBottom);
+  setAxisAutoScale(yLeft);
+  updateAxes();
+  replot();
+  m_zoomer->setZoomBase();
+}
+
+void MapCanvas::contextMenuEvent(QContextMenuEvent *event) {
+  QMenu menu(this);
+  menu.addAction(tr("Show everything"), m_zoomer, [this] { m_zoomer->zoom(0); });
+  menu.addAction(tr("Save picture …"), this, &MapCanvas::saveAs);
+  menu.addAction(tr("Print …"), this, &MapCanvas::print);
+  menu.exec(event->globalPos());
+}
+
+void MapCanvas::paint(QPaintDevice &device, const QSizeF &size) {
+  constexpr double Margin = 0.025; // of the width: numbers at the ends of axes reach beyond them
+  const double margin = Margin * size.width();
+  QwtPlotRenderer renderer;
+  renderer.setDiscardFlag(QwtPlotRenderer::DiscardBackground);
+  QPainter painter(&device);
+  renderer.render(this, &painter, QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin));
+}
+
+bool MapCanvas::write(QIODevice &device, const QString &suffix, QString *reason) {
+  constexpr QSize Points(600, 420);
+  constexpr int Scale = 3; // pixels a point
+  if (suffix == QLatin1String("pdf")) {
+    QPdfWriter writer(&device);
+    writer.setPageSize(QPageSize(QSizeF(Points), QPageSize::Point));
+    writer.setPageMargins(QMarginsF());
+    writer.setResolution(Resolution);
+    paint(writer, Points);
+    return true;
+  }
+  if (suffix == QLatin1String("svg")) {
+    QSvgGenerator generator;
+    generator.setOutputDevice(&device);
+    generator.setResolution(Resolution);
+    generator.setSize(Points);
+    generator.setViewBox(QRect(QPoint(), Points));
+    paint(generator, Points);
+    return true;
+  }
+  QImage image(Points * Scale, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  constexpr double InchesPerMetre = 1000.0 / 25.4;
+  image.setDotsPerMeterX(static_cast<int>(InchesPerMetre * Resolution * Scale));
+  image.setDotsPerMeterY(static_cast<int>(InchesPerMetre * Resolution * Scale));
+  paint(image, image.size());
+  if (image.save(&device, qPrintable(suffix)))
+    return true;
+  *reason = tr("pictures of the kind \"%1\" are not known").arg(suffix);
+  return false;
+}
+
+bool MapCanvas::save(const QString &path, QString *reason) {
+  const QString suffix = QFileInfo(path).suffix().toLower();
+  return WholeFile::write(
+      path, FileAccess::Source::Trusted, [&](QIODevice &device, QString *fault) { return write(device, suffix, fault); },
+      reason);
+}
+
+void MapCanvas::saveAs() {
+  const QString path = QFileDialog::getSaveFileName(this, tr("Save picture"), QStringLiteral("map.png"),
+                                                    tr("Pictures (*.png *.jpg *.pdf *.svg)"));
+  QString reason;
+  if (!path.isEmpty() && !save(path, &reason))
+    NivraMsg::message(NivraMsg::Kind::Warning, reason);
+}
+
+void MapCanvas::print() {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPageOrientation(QPageLayout::Landscape);
+  QPrintDialog dialog(&printer, this);
+  if (dialog.exec() != QDialog::Accepted)
+    return;
+  QwtPlotRenderer renderer;
+  renderer.renderTo(this, printer);
+}

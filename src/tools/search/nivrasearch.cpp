@@ -1,0 +1,411 @@
+#include "search/searchhint.h"
+#include "search/searchresults.h"
+#include "search/searchtable.h"
+#include "shared/nameaid.h"
+#include "ui_nivrasearch.h"
+
+#include <base/generalsettings.h>
+#include <base/nivramsg.h>
+#include <base/wholefile.h>
+#include <tools/networksearch.h>
+#include <tools/nivrasearch.h>
+#include <tools/tablemenu.h>
+
+#include <QActionGroup>
+#include <QDragEnterEvent>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMenu>
+#include <QMetaMethod>
+#include <QMimeData>
+#include <QRegularExpression>
+
+static void initialiseResources() {
+  Q_INIT_RESOURCE(tools); // a static library's resources are dropped by the linker unless somebody asks for them
+}
+
+namespace {
+
+constexpr double Milli = 1e-3;
+
+} // namespace
+
+NivraSearch::NivraSearch(NetData &net, QWidget *parent)
+    : QDockWidget(parent)
+    , m_ui(std::make_unique<Ui::NivraSearch>())
+    , m_net(net)
+    , m_lastField(nullptr)
+    , m_formulaSearch(new QAction(tr("Formula Search"), this))
+    , m_add(nullptr)
+    , m_historyMenu(new QMenu(this)) {
+  initialiseResources();
+  m_ui->setupUi(this);
+  setUpResults();
+  m_ui->toolButton_history->setMenu(m_historyMenu);
+  m_ui->toolButton_history->setPopupMode(QToolButton::InstantPopup);
+  connect(m_historyMenu, &QMenu::triggered, this, &NivraSearch::resetToSavedSearch);
+  m_ui->pushButton_toTable->setEnabled(false);
+  m_ui->pushButton_addCat->setEnabled(false);
+  setUpSelect();
+  setUpFormulaMode();
+  m_ui->lineEdit_prop->setText(QStringLiteral("^name$"));
+  NameAid::attach(*m_ui->lineEdit_name,
+                  [this](const QString &beginning, int most) { return NameAid::elementNames(m_net, beginning, most); });
+  NameAid::attach(*m_ui->lineEdit_prop,
+                  [this](const QString &beginning, int most) { return NameAid::propertyNames(m_net, beginning, most); });
+  m_lastField = m_ui->lineEdit_name;
+}
+
+NivraSearch::~NivraSearch() = default;
+
+void NivraSearch::setUpResults() {
+  QTreeWidget *tree = m_ui->treeWidget_searchResults;
+  m_results = std::make_unique<SearchResults>(*tree);
+  new TableMenu(*tree);
+  auto *characteristics = new QAction(tr("Open Characteristics"), this);
+  characteristics->setObjectName(QStringLiteral("actionOpenCharacteristics"));
+  tree->addAction(characteristics);
+  TableMenu::offerActions(
+      *tree, [this, characteristics] { characteristics->setVisible(!m_results->selectedMachines().isEmpty()); });
+  connect(characteristics, &QAction::triggered, this, [this] { emit characteristicsWanted(m_results->selectedMachines()); });
+  showHint(QString());
+}
+
+void NivraSearch::showHint(const QString &text) {
+  m_ui->label_hint->setText(text);
+  m_ui->label_hint->setVisible(!text.isEmpty());
+}
+
+void NivraSearch::setUpSelect() {
+  auto *selectMenu = new QMenu(this);
+  QAction *plain = selectMenu->addAction(tr("Select"));
+  QAction *closure = selectMenu->addAction(tr("Select+Closure"));
+  auto *modeMenu = new QMenu(this);
+  auto *group = new QActionGroup(this);
+  m_add = modeMenu->addAction(tr("add"));
+  QAction *replace = modeMenu->addAction(tr("replace"));
+  for (QAction *action : {m_add, replace}) {
+    action->setCheckable(true);
+    group->addAction(action);
+  }
+  replace->setChecked(true);
+  // Each button shows the action that was chosen last.
+  const auto setUp = [this](QToolButton *button, QMenu *choices, QAction *first) {
+    button->setMenu(choices);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+    button->setDefaultAction(first);
+    connect(choices, &QMenu::triggered, button, &QToolButton::setDefaultAction);
+  };
+  setUp(m_ui->toolButton_select, selectMenu, plain);
+  setUp(m_ui->toolButton_mode, modeMenu, replace);
+  connect(plain, &QAction::triggered, this, [this] { emit markSearchResults(false, m_add->isChecked()); });
+  connect(closure, &QAction::triggered, this, [this] { emit markSearchResults(true, m_add->isChecked()); });
+}
+
+void NivraSearch::setUpFormulaMode() {
+  m_plainPalette = m_ui->lineEdit_searchString->palette();
+  m_formulaSearch->setCheckable(true);
+  m_formulaSearch->setIcon(QIcon(QStringLiteral(":/iconsToolBar/crystal_project_icons/32x32/actions/funct.png")));
+  m_formulaSearch->setToolTip(tr("Formula Search\nUse ELE to refer to current element, e.g. p@ELE>0.1"));
+  m_ui->toolButton_formulaMode->setDefaultAction(m_formulaSearch);
+  connect(m_formulaSearch, &QAction::toggled, this, &NivraSearch::setFormulaMode);
+}
+
+bool NivraSearch::isFormulaMode() const {
+  return m_formulaSearch->isChecked();
+}
+
+void NivraSearch::setFormulaMode(bool on) {
+  QLineEdit *field = m_ui->lineEdit_searchString;
+  if (on) {
+    QPalette green = m_plainPalette;
+    green.setColor(QPalette::Base, QColor(173, 255, 173));
+    field->setPalette(green);
+    field->setPlaceholderText(tr("Formula"));
+    return;
+  }
+  field->setPalette(m_plainPalette);
+  field->setPlaceholderText(QString());
+  m_searchString = field->text();
+  clearFormulas();
+}
+
+void NivraSearch::clearFormulas() {
+  m_formula.clear();
+  m_reportedFormula.clear();
+}
+
+SearchParams NivraSearch::searchParams() const {
+  return {m_name, m_searchString, m_type, m_prop, m_ui->pushButton_regex->isChecked(), m_formula};
+}
+
+QStringList NivraSearch::definition() const {
+  return {m_name, m_type, m_prop, m_formula.isEmpty() ? m_searchString : m_formula};
+}
+
+void NivraSearch::defineSearch(const QStringList &searchDef, bool regex) {
+  constexpr int Least = 4;
+  if (searchDef.size() < Least)
+    return;
+  m_ui->lineEdit_name->setText(searchDef.at(0));
+  m_ui->lineEdit_type->setText(searchDef.at(1));
+  m_ui->lineEdit_prop->setText(searchDef.at(2));
+  m_ui->lineEdit_searchString->setText(searchDef.at(3));
+  m_lastField = m_ui->lineEdit_name; // nobody has edited the others
+  m_ui->pushButton_regex->setChecked(regex);
+  clearFormulas();
+  searchWithFormula();
+}
+
+void NivraSearch::enterLastField() {
+  show();
+  raise();
+  m_lastField->setFocus();
+  m_lastField->selectAll();
+}
+
+void NivraSearch::searchWithFormula() {
+  if (isFormulaMode()) {
+    m_formula = m_ui->lineEdit_searchString->text().trimmed();
+    m_reportedFormula = m_formula;
+    m_searchString.clear();
+  }
+  m_ui->treeWidget_searchResults->clear();
+  QElapsedTimer timer;
+  timer.start();
+  NetworkSearch search(m_net, searchParams());
+  NivraMsg::debug(QStringLiteral("NivraSearch prep time: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+  const NetworkSearch::Result result = search.run();
+  NivraMsg::debug(QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+  m_results->show(result.rows);
+  showCount();
+  showHint(result.isStopped ? result.error : SearchHint::of(m_net, searchParams(), result.rows.size()));
+  if (result.isStopped) {
+    NivraMsg::logWarning(result.error);
+    NivraMsg::message(NivraMsg::Kind::Warning, tr("Formula not ok! Search stopped (incomplete)!"));
+  }
+  updateLastSearchesMenu();
+  emit searchCompleted();
+}
+
+void NivraSearch::showCount() {
+  m_ui->label_found->setText(tr("Found: %1").arg(m_ui->treeWidget_searchResults->topLevelItemCount()));
+}
+
+void NivraSearch::clearResults() {
+  m_ui->treeWidget_searchResults->clear();
+  showHint(QString());
+  m_ui->label_found->setText(tr("Found:"));
+}
+
+void NivraSearch::updateSearchItems(element &changed, const QString &oldName) {
+  QElapsedTimer timer;
+  timer.start();
+  std::vector<SearchRow> rows;
+  try {
+    NetworkSearch(m_net, searchParams()).search(changed, rows);
+  } catch (const FormulaError &error) {
+    NivraMsg::logWarning(error.text());
+  }
+  {
+    const QSignalBlocker blocker(m_ui->treeWidget_searchResults);
+    m_results->replace(oldName.isEmpty() ? changed.value(QStringLiteral("name")) : oldName, rows);
+  }
+  showCount();
+  NivraMsg::debug(QStringLiteral("updateSearchItem: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+}
+
+bool NivraSearch::select(const QString &elementName) {
+  QTreeWidget *tree = m_ui->treeWidget_searchResults;
+  const QTreeWidgetItem *current = tree->currentItem();
+  if (current != nullptr && current->text(SearchResults::NameColumn).compare(elementName, Qt::CaseInsensitive) == 0)
+    return true;
+  const QSignalBlocker blocker(tree);
+  const QList<QTreeWidgetItem *> found = tree->findItems(elementName, Qt::MatchFixedString, SearchResults::NameColumn);
+  tree->setCurrentItem(found.value(0));
+  return !found.isEmpty();
+}
+
+void NivraSearch::searchFrom(QLineEdit *field) {
+  m_lastField = field;
+  clearFormulas();
+  searchWithFormula();
+}
+
+void NivraSearch::on_pushButton_search_clicked() {
+  clearFormulas();
+  searchWithFormula();
+}
+
+void NivraSearch::on_pushButton_regex_clicked() {
+  clearFormulas();
+  searchWithFormula();
+}
+
+void NivraSearch::on_lineEdit_name_returnPressed() {
+  searchFrom(m_ui->lineEdit_name);
+}
+
+void NivraSearch::on_lineEdit_searchString_returnPressed() {
+  searchFrom(m_ui->lineEdit_searchString);
+}
+
+void NivraSearch::on_lineEdit_type_returnPressed() {
+  searchFrom(m_ui->lineEdit_type);
+}
+
+void NivraSearch::on_lineEdit_prop_returnPressed() {
+  searchFrom(m_ui->lineEdit_prop);
+}
+
+void NivraSearch::on_lineEdit_name_textChanged(const QString &arg1) {
+  m_lastField = m_ui->lineEdit_name;
+  m_name = arg1;
+}
+
+void NivraSearch::on_lineEdit_searchString_textChanged(const QString &arg1) {
+  m_lastField = m_ui->lineEdit_searchString;
+  m_searchString = arg1;
+  m_formulaSearch->setChecked(arg1.contains(QStringLiteral("@ELE")));
+}
+
+void NivraSearch::on_lineEdit_type_textChanged(const QString &arg1) {
+  m_lastField = m_ui->lineEdit_type;
+  m_type = arg1;
+}
+
+void NivraSearch::on_lineEdit_prop_textChanged(const QString &arg1) {
+  m_lastField = m_ui->lineEdit_prop;
+  m_prop = arg1;
+}
+
+void NivraSearch::on_pushButton_formula_clicked() {
+  bool isTaken = false;
+  const QString entered = QInputDialog::getMultiLineText(this, tr("Enter formula"),
+                                                         tr("Formula:") + QStringLiteral("\n\n") +
+                                                             tr("Use ELE to refer to current element,\ne.g. p@ELE>0.1 !"),
+                                                         m_formula, &isTaken)
+                              .trimmed();
+  if (!isTaken)
+    return;
+  m_formula = entered;
+  m_reportedFormula = entered;
+  if (entered.isEmpty())
+    return;
+  if (isFormulaMode()) {
+    m_ui->lineEdit_searchString->setText(entered);
+    m_formulaSearch->setChecked(true); // also for a formula that names no current element
+  }
+  searchWithFormula();
+}
+
+void NivraSearch::on_toolButton_clear_clicked() {
+  for (QLineEdit *field : {m_ui->lineEdit_name, m_ui->lineEdit_type, m_ui->lineEdit_prop, m_ui->lineEdit_searchString})
+    field->clear();
+  m_lastField = m_ui->lineEdit_name;
+}
+
+void NivraSearch::on_pushButton_regex_toggled(bool checked) {
+  m_ui->lineEdit_name->setPlaceholderText(checked ? tr("RegEx") : QString());
+}
+
+void NivraSearch::on_pushButton_save_clicked() {
+  const QString path = QFileDialog::getSaveFileName(this, tr("Choose File"), QStringLiteral("searchresults.csv"),
+                                                    tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
+  if (path.isEmpty())
+    return;
+  QString reason;
+  save(path, &reason);
+  showHint(reason);
+}
+
+bool NivraSearch::save(const QString &path, QString *reason) const {
+  SearchParams params = searchParams();
+  params.formula = m_reportedFormula;
+  const bool useComma = GeneralSettings::instance().isOn(QStringLiteral("use comma"));
+  return WholeFile::write(
+      path, FileAccess::Source::Trusted,
+      [&](QIODevice &device, QString *) { return SearchTable::write(device, params, m_results->rows(), useComma); }, reason);
+}
+
+void NivraSearch::on_pushButton_addCat_clicked() {
+  emit categoryWanted(definition());
+}
+
+void NivraSearch::on_pushButton_toTable_clicked() {
+  emit showInTable();
+}
+
+void NivraSearch::on_pushButton_select_clicked() {
+  emit markSearchResults(false, false);
+}
+
+void NivraSearch::on_pushButton_select_and_closure_clicked() {
+  emit markSearchResults(true, false);
+}
+
+void NivraSearch::on_treeWidget_searchResults_itemDoubleClicked(QTreeWidgetItem *item, int) {
+  emit itemDoubleClicked(item, 0);
+}
+
+void NivraSearch::on_treeWidget_searchResults_currentItemChanged(QTreeWidgetItem *current, QTreeWidgetItem *previous) {
+  const auto nameOf = [](const QTreeWidgetItem *item) {
+    return item == nullptr ? QStringLiteral("null") : item->text(SearchResults::NameColumn);
+  };
+  NivraMsg::debug(QStringLiteral("Search item changed from %1 to %2").arg(nameOf(previous), nameOf(current)));
+  if (current != nullptr)
+    emit elementMarked(current->text(SearchResults::NameColumn));
+}
+
+void NivraSearch::updateLastSearchesMenu() {
+  emit definitionChanged(definition());
+  SearchParams params = searchParams();
+  params.formula = m_reportedFormula;
+  if (!m_history.add(params))
+    return;
+  m_historyMenu->clear();
+  for (const QString &entry : m_history.entries())
+    m_historyMenu->addAction(entry);
+}
+
+void NivraSearch::resetToSavedSearch(QAction *action) {
+  defineSearch(SearchHistory::parts(action->text()), false);
+}
+
+void NivraSearch::connectNotify(const QMetaMethod &signal) {
+  if (signal == QMetaMethod::fromSignal(&NivraSearch::showInTable))
+    m_ui->pushButton_toTable->setEnabled(true);
+  else if (signal == QMetaMethod::fromSignal(&NivraSearch::categoryWanted))
+    m_ui->pushButton_addCat->setEnabled(true);
+}
+
+void NivraSearch::dragEnterEvent(QDragEnterEvent *event) {
+  if (event->mimeData()->hasText())
+    event->acceptProposedAction();
+}
+
+void NivraSearch::dropEvent(QDropEvent *event) {
+  const QObject *source = event->source();
+  for (; source != nullptr; source = source->parent()) {
+    if (source == this) { // from one place of the panel to another
+      event->setDropAction(Qt::MoveAction);
+      event->accept();
+      return;
+    }
+  }
+  event->acceptProposedAction();
+  searchNames(event->mimeData()->text());
+}
+
+void NivraSearch::searchNames(const QString &names) {
+  QStringList parts;
+  for (const QString &name : names.split(QLatin1Char(';'), Qt::SkipEmptyParts))
+    parts.append(QLatin1Char('^') + QRegularExpression::escape(name) + QLatin1Char('$'));
+  if (parts.isEmpty())
+    return;
+  m_ui->lineEdit_name->setText(parts.join(QLatin1Char('|')));
+  m_ui->pushButton_regex->setChecked(true);
+  clearFormulas();
+  searchWithFormula();
+}

@@ -1,0 +1,378 @@
+#include "shared/naturalorder.h"
+#include "shared/numberdelegate.h"
+#include "table/vectorplot.h"
+#include "ui_nivravectable.h"
+
+#include <base/generalsettings.h>
+#include <base/nivramsg.h>
+#include <base/wholefile.h>
+#include <model/elementtypes.h>
+#include <tools/nivravectable.h>
+#include <tools/tablemenu.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QHideEvent>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+#include <set>
+
+namespace {
+
+enum Column { NameColumn, TypeColumn, PropertyColumn, ValueColumn, UnitColumn, ResultColumn, NumsortColumn, ColumnCount };
+
+/// What sorting takes is found out once, and only for the columns by which somebody sorts.
+class Cell : public QTableWidgetItem {
+public:
+  explicit Cell(const QString &text)
+      : QTableWidgetItem(text, UserType)
+      , m_text(text) {
+    setFlags(Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsEnabled);
+  }
+  bool operator<(const QTableWidgetItem &other) const override { return rank() < static_cast<const Cell &>(other).rank(); }
+
+private:
+  const NaturalOrder::Rank &rank() const {
+    if (!m_rank)
+      m_rank.emplace(m_text);
+    return *m_rank;
+  }
+
+  QString m_text; ///< at hand: asking each item of 100,000 for a variant takes most of a second
+  mutable std::optional<NaturalOrder::Rank> m_rank;
+};
+
+} // namespace
+
+NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
+    : QTabWidget(parent)
+    , m_ui(std::make_unique<Ui::NivraVecTable>())
+    , m_net(net)
+    , m_rows(net)
+    , m_plot(new VectorPlot) {
+  m_ui->setupUi(this);
+  m_ui->tableWidget->addActions({m_ui->actionCopy_selectedItems, m_ui->actionOpenCharacteristics});
+  m_ui->tableWidget->setItemDelegate(new NumberDelegate(PropertyColumn, this));
+  TableMenu::offerActions(*m_ui->tableWidget,
+                          [this] { m_ui->actionOpenCharacteristics->setVisible(!selectedMachines().isEmpty()); });
+  connect(m_ui->actionOpenCharacteristics, &QAction::triggered, this,
+          [this] { emit characteristicsWanted(selectedMachines()); });
+  m_menu = new TableMenu(*m_ui->tableWidget);
+  addAction(m_ui->actionHelp);
+  m_ui->plotLayout->insertWidget(0, m_plot);
+  connect(m_menu, &TableMenu::filtered, this, &NivraVecTable::showCount);
+  connect(m_ui->pushButtonHelp, &QPushButton::clicked, m_ui->actionHelp, &QAction::trigger);
+  refresh();
+}
+
+NivraVecTable::~NivraVecTable() {
+  NivraMsg::debug(QStringLiteral("Vector Table deleted."));
+}
+
+void NivraVecTable::refresh() {
+  QStringList names;
+  for (const PropertyKey key : m_net.propertyKeys())
+    names.append(key.name());
+  names.sort();
+  m_isUpdating = true;
+  m_ui->comboBoxProp->clear();
+  m_ui->comboBoxProp->addItems(names);
+  const int before = m_ui->comboBoxProp->findText(m_chosenProperty.isEmpty() ? QStringLiteral("p") : m_chosenProperty);
+  m_ui->comboBoxProp->setCurrentIndex(std::max(0, before));
+  m_chosenProperty = m_ui->comboBoxProp->currentText();
+  m_isUpdating = false;
+}
+
+bool NivraVecTable::isPropertyMode() const {
+  return m_ui->checkBoxProp->isChecked();
+}
+
+QStringList NivraVecTable::headers() const {
+  QStringList texts{QStringLiteral("name"), QStringLiteral("type"),   QStringLiteral("property"), QStringLiteral("value"),
+                    QStringLiteral("unit"), QStringLiteral("result"), QStringLiteral("numsort")};
+  const CategoryRecord category = m_categories.value(m_chosenCategory);
+  if (!isPropertyMode()) {
+    texts[NameColumn] += QStringLiteral("\n(%1)").arg(category.name);
+    texts[TypeColumn] += QStringLiteral("\n(%1)").arg(category.type);
+    texts[PropertyColumn] += QStringLiteral("\n(%1)").arg(category.prop);
+  }
+  texts[ResultColumn] += QStringLiteral("\n(%1)").arg(isPropertyMode()             ? m_chosenProperty
+                                                      : category.formula.isEmpty() ? category.value
+                                                                                   : category.formula);
+  return texts;
+}
+
+/// Rows that the filters of the list before would hide look as if something were wrong.
+void NivraVecTable::listSomethingElse() {
+  m_menu->clearFilters();
+  on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::on_pushButtonUpdate_clicked() {
+  m_isStale = false;
+  NivraMsg::debug(QStringLiteral("update vectable started  ..."));
+  VectorRows::Request request;
+  request.usesProperty = isPropertyMode();
+  request.property = m_chosenProperty;
+  request.category = m_categories.value(m_chosenCategory);
+  request.onlyNonZero = m_ui->checkBoxNonZero->isChecked();
+  request.onlySelection = m_ui->checkBoxUseSel->isChecked();
+  std::vector<VectorRows::Row> rows = m_rows.build(request);
+  if (m_rows.allHaveUnits()) {
+    VectorRows::sortByName(rows); // for equal numbers
+    sortNumerically(rows);
+  } else {
+    showRows(rows, NameColumn);
+  }
+  m_ui->tableWidget->resizeColumnsToContents();
+  showCount();
+  if (currentWidget() == m_ui->plotPage)
+    showPlot();
+  NivraMsg::debug(QStringLiteral("... update finished."));
+}
+
+void NivraVecTable::showCount() {
+  const int all = m_ui->tableWidget->rowCount();
+  const int shown = m_menu->shownRows();
+  m_ui->labelCount->setText(m_menu->filterSummary().isEmpty()
+                                ? tr("%1 rows").arg(all)
+                                : tr("%1 of %2 rows, filter: %3").arg(shown).arg(all).arg(m_menu->filterSummary()));
+}
+
+/// \param sortedBy the column by which the rows are put in order
+void NivraVecTable::showRows(const std::vector<VectorRows::Row> &rows, int sortedBy) {
+  constexpr int RowMargin = 8; // px around the text
+  QTableWidget *table = m_ui->tableWidget;
+  table->setSortingEnabled(false);
+  table->setRowCount(0);
+  table->setHorizontalHeaderLabels(headers());
+  table->verticalHeader()->setDefaultSectionSize(QFontInfo(font()).pixelSize() + RowMargin);
+  table->setRowCount(static_cast<int>(rows.size()));
+  for (int i = 0; i < table->rowCount(); ++i) {
+    const VectorRows::Row &row = rows[static_cast<std::size_t>(i)];
+    const QString *cells[] = {&row.name, &row.type, &row.property, &row.value, &row.unit, &row.result, &row.numsort};
+    for (int column = 0; column < ColumnCount; ++column) {
+      auto *cell = new Cell(*cells[column]);
+      if (column == NumsortColumn)
+        cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      table->setItem(i, column, cell);
+    }
+  }
+  table->horizontalHeader()->setSortIndicator(sortedBy, Qt::AscendingOrder);
+  table->setSortingEnabled(true);
+  m_menu->apply();
+}
+
+void NivraVecTable::on_pushButtonTryNumSort_clicked() {
+  std::vector<VectorRows::Row> rows;
+  const QTableWidget &table = *m_ui->tableWidget;
+  const auto text = [&table](int row, int column) {
+    return table.item(row, column)->text();
+  };
+  rows.reserve(static_cast<std::size_t>(table.rowCount()));
+  for (int row = 0; row < table.rowCount(); ++row)
+    rows.push_back({text(row, NameColumn), text(row, TypeColumn), text(row, PropertyColumn), text(row, ValueColumn),
+                    text(row, UnitColumn), text(row, ResultColumn), text(row, NumsortColumn)});
+  sortNumerically(rows);
+}
+
+void NivraVecTable::sortNumerically(std::vector<VectorRows::Row> &rows) {
+  NivraMsg::debug(QStringLiteral("    numsort started ..."));
+  VectorRows::sortNumerically(rows);
+  showRows(rows, NumsortColumn);
+}
+
+std::vector<int> NivraVecTable::shownRows() const {
+  std::vector<int> rows;
+  for (int row = 0; row < m_ui->tableWidget->rowCount(); ++row) {
+    if (!m_ui->tableWidget->isRowHidden(row))
+      rows.push_back(row);
+  }
+  return rows;
+}
+
+QStringList NivraVecTable::selectedMachines() const {
+  QStringList names;
+  const QTableWidget &table = *m_ui->tableWidget;
+  for (const QModelIndex &cell : table.selectionModel()->selectedIndexes()) {
+    if (!table.isRowHidden(cell.row()) && ElementTypes::hasCharacteristics(table.item(cell.row(), TypeColumn)->text()))
+      names.append(table.item(cell.row(), NameColumn)->text());
+  }
+  names.removeDuplicates();
+  return names;
+}
+
+void NivraVecTable::on_updateCats(const CatMap &catDataInput) {
+  NivraMsg::debug(QStringLiteral("vectable updatecats"));
+  const bool isAnother = !(m_categories.value(m_chosenCategory) == catDataInput.value(m_chosenCategory));
+  m_categories = catDataInput;
+  m_isUpdating = true;
+  m_ui->comboBoxCat->clear();
+  m_ui->comboBoxCat->addItems(m_categories.keys());
+  if (!m_categories.contains(m_chosenCategory))
+    m_chosenCategory = m_categories.isEmpty() ? QString() : m_categories.firstKey();
+  m_ui->comboBoxCat->setCurrentText(m_chosenCategory);
+  m_ui->comboBoxCat->setEnabled(!m_categories.isEmpty());
+  m_isUpdating = false;
+  if (isPropertyMode())
+    return;
+  if (!isVisible())
+    m_isStale = true;
+  else if (isAnother)
+    listSomethingElse();
+  else
+    on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::showEvent(QShowEvent *event) {
+  if (m_isStale)
+    on_pushButtonUpdate_clicked();
+  QTabWidget::showEvent(event);
+}
+
+void NivraVecTable::hideEvent(QHideEvent *event) {
+  if (!event->spontaneous()) // not only minimised
+    m_menu->clearFilters();
+  QTabWidget::hideEvent(event);
+}
+
+void NivraVecTable::on_useSearchConfig() {
+  on_showCat(QStringLiteral("fromSearch"));
+}
+
+void NivraVecTable::on_showCat(const QString &catToShow) {
+  m_chosenCategory = catToShow;
+  m_isUpdating = true;
+  m_ui->comboBoxCat->setCurrentText(catToShow);
+  m_ui->checkBoxProp->setChecked(false);
+  m_isUpdating = false;
+  m_isStale = false; // it is asked for below
+  show();
+  raise();
+  activateWindow();
+  listSomethingElse();
+}
+
+void NivraVecTable::on_comboBoxCat_currentIndexChanged(const QString &qstr) {
+  if (m_isUpdating)
+    return;
+  m_chosenCategory = qstr;
+  listSomethingElse();
+}
+
+void NivraVecTable::on_comboBoxProp_currentIndexChanged(const QString &qstr) {
+  if (m_isUpdating)
+    return;
+  m_chosenProperty = qstr;
+  listSomethingElse();
+}
+
+void NivraVecTable::on_checkBoxProp_toggled(bool) {
+  if (!m_isUpdating)
+    listSomethingElse();
+}
+
+void NivraVecTable::on_checkBoxNonZero_toggled(bool) {
+  on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::on_checkBoxUseSel_toggled(bool) {
+  on_pushButtonUpdate_clicked();
+}
+
+void NivraVecTable::on_tableWidget_itemClicked(QTableWidgetItem *item) {
+  static const QRegularExpression NamesElement(QStringLiteral("^name$|^node1$|^node2$|^gasnode$|^driven$"));
+  if (item->text().isEmpty())
+    return;
+  const QString property = m_ui->tableWidget->item(item->row(), PropertyColumn)->text();
+  if (item->column() == NameColumn || (item->column() == ValueColumn && NamesElement.match(property).hasMatch()))
+    emit elementMarked(item->text());
+}
+
+void NivraVecTable::on_actionCopy_selectedItems_triggered() {
+  QApplication::clipboard()->setText(TableMenu::cellTexts(*m_ui->tableWidget));
+}
+
+void NivraVecTable::on_actionHelp_triggered() {
+  emit helpWanted(QStringLiteral("tab_cat_search.html"));
+}
+
+void NivraVecTable::on_pushButtonSave_clicked() {
+  const QString proposed = m_directory + QStringLiteral("/table_") +
+                           (isPropertyMode() ? m_chosenProperty : m_chosenCategory) + QStringLiteral(".csv");
+  const QString path =
+      QFileDialog::getSaveFileName(this, tr("Choose File"), proposed, tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
+  QString reason;
+  if (!path.isEmpty() && !save(path, &reason))
+    NivraMsg::message(NivraMsg::Kind::Warning, reason);
+}
+
+bool NivraVecTable::save(const QString &path, QString *reason) const {
+  const QTableWidget &table = *m_ui->tableWidget;
+  VectorRows::Exported exported;
+  std::vector<int> columns; // as they are shown
+  for (int i = 0; i < ColumnCount; ++i) {
+    const int column = table.horizontalHeader()->logicalIndex(i);
+    if (table.isColumnHidden(column))
+      continue;
+    if (column == ValueColumn || column == ResultColumn)
+      exported.valueColumns.append(static_cast<int>(columns.size()));
+    columns.push_back(column);
+    exported.headers.append(headers().at(column));
+  }
+  for (const int row : shownRows()) {
+    QStringList texts;
+    for (const int column : columns) {
+      const QString text = table.item(row, column)->text();
+      texts.append(column == NumsortColumn ? text.trimmed() : text); // blanks would make a text of the number
+    }
+    exported.rows.push_back(texts);
+  }
+  const bool useComma = GeneralSettings::instance().isOn(QStringLiteral("use comma"));
+  return WholeFile::write(
+      path, FileAccess::Source::Trusted,
+      [&](QIODevice &device, QString *) { return VectorRows::write(device, exported, useComma); }, reason);
+}
+
+void NivraVecTable::on_pushButtonClose_clicked() {
+  hide();
+}
+
+void NivraVecTable::on_closePlotButton_clicked() {
+  setCurrentIndex(0);
+}
+
+void NivraVecTable::on_NivraVecTable_currentChanged(int) {
+  if (currentWidget() == m_ui->plotPage)
+    showPlot();
+}
+
+void NivraVecTable::showPlot() {
+  const QTableWidget &table = *m_ui->tableWidget;
+  std::vector<int> rows = shownRows();
+  std::set<int> selected;
+  for (const QModelIndex &cell : table.selectionModel()->selectedIndexes()) {
+    if (!table.isRowHidden(cell.row()))
+      selected.insert(cell.row());
+  }
+  // One row is what was clicked last; several were chosen.
+  const bool usesSelection = selected.size() > 1;
+  if (usesSelection)
+    rows.assign(selected.begin(), selected.end());
+  std::vector<std::pair<int, double>> values;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    bool isNumber = false;
+    const double number = table.item(rows[i], ResultColumn)->text().toDouble(&isNumber);
+    if (isNumber)
+      values.emplace_back(static_cast<int>(i) + 1, number);
+  }
+  QString title = headers().at(ResultColumn).section(QLatin1Char('\n'), 1).mid(1).chopped(1);
+  const NetMetaData::Attribute *attribute = isPropertyMode() ? m_net.metaData()->anyAttribute(m_chosenProperty) : nullptr;
+  if (attribute != nullptr && !attribute->storedUnit.isEmpty())
+    title += QStringLiteral(" [%1]").arg(Units::written(attribute->storedUnit));
+  m_plot->show(title, values, usesSelection ? tr("the selected rows") : tr("the shown rows"));
+}

@@ -1,0 +1,342 @@
+#include "canvas/plotpanner.h"
+#include "configure/plotsettingsfile.h"
+#include "interaction/smoothzoom.h"
+
+#include <base/generalsettings.h>
+#include <base/nivramsg.h>
+#include <view/netplot.h>
+#include <view/plotzoom.h>
+#include <view/qwtfastplot.h>
+
+#include <QMenu>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+#include <qwt_scale_draw.h>
+#include <qwt_scale_widget.h>
+
+#include <algorithm>
+
+namespace {
+
+enum LegendCorner { TopLeft = 1, BottomLeft = 2, TopRight = 3, BottomRight = 4 };
+
+/// Tells the network's own coordinates at the axes.
+class CoordinateScale : public QwtScaleDraw {
+public:
+  explicit CoordinateScale(double plotUnits)
+      : m_plotUnits(plotUnits) {}
+  QwtText label(double value) const override { return QwtScaleDraw::label(value / m_plotUnits); }
+
+private:
+  double m_plotUnits;
+};
+
+} // namespace
+
+NetPlot::NetPlot(QWidget *parent)
+    : QWidget(parent)
+    , m_plot(new QwtFastPlot(this))
+    , m_zoomer(new PlotZoom(*m_plot, m_settings))
+    , m_panner(new PlotPanner(*m_plot))
+    , m_update(std::make_unique<NetUpdate>(*this, m_settings))
+    , m_smoothZoom(new SmoothZoom(*this)) {
+  constexpr int SmallestSide = 200;
+  constexpr double GridZ = 1.0;
+  constexpr double LegendZ = 100.0;
+  setUpPlot();
+  setUpPanner();
+  setUpZoom();
+  m_grid.setZ(GridZ);
+  m_grid.attach(m_plot);
+  m_legend.setZ(LegendZ);
+  m_legend.setRenderHint(QwtPlotItem::RenderAntialiased);
+  m_legend.attach(m_plot);
+  m_legend.hide();
+  m_hint.attach(m_plot);
+  m_hint.hide();
+  m_selection.setFilter(&m_update->layers());
+  m_selection.attach(m_plot);
+  m_plot->setOverlayItem(&m_selection);
+  applyColors();
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(m_plot);
+  setMinimumSize(SmallestSide, SmallestSide);
+  setFocusProxy(m_plot->canvas()); // which takes the keys
+}
+
+NetPlot::~NetPlot() = default;
+
+void NetPlot::setUpPlot() {
+  showAxes();
+  m_plot->canvas()->installEventFilter(this);
+  m_plot->axisWidget(QwtPlot::xTop)->installEventFilter(this);
+  m_plot->axisWidget(QwtPlot::yRight)->installEventFilter(this);
+  for (QWidget *widget : {static_cast<QWidget *>(this), static_cast<QWidget *>(m_plot), m_plot->canvas()})
+    widget->setMouseTracking(true);
+  m_plot->canvas()->setAcceptDrops(true);
+}
+
+void NetPlot::setUpPanner() {
+  // The scales beside the drawing show colours, not places.
+  m_panner->setAxisEnabled(QwtPlot::xTop, false);
+  m_panner->setAxisEnabled(QwtPlot::yRight, false);
+  connect(m_panner, &QwtPanner::panned, m_zoomer, &PlotZoom::takeView);
+  readMousePattern();
+}
+
+void NetPlot::setUpZoom() {
+  connect(m_zoomer, &QwtPlotZoomer::zoomed, this, [this] {
+    placeLegend();
+    if (!m_smoothZoom->isRunning())
+      refresh(GeneralSettings::instance().value(QStringLiteral("pixtest delay")).toInt());
+  });
+  connect(m_zoomer, &PlotZoom::refreshRequested, this, &NetPlot::refresh);
+  connect(m_zoomer, &PlotZoom::wheelTurned, this, &NetPlot::zoomByWheel);
+}
+
+void NetPlot::refresh(int delay) {
+  m_update->requestPixtest(delay);
+}
+
+void NetPlot::zoomByWheel(int steps, QPointF anchor) {
+  const GeneralSettings &general = GeneralSettings::instance();
+  const bool isToElement = general.isOn(QStringLiteral("zoom to element"));
+  if (isToElement) {
+    constexpr double Tolerance = 20.0; // px
+    const QPointF place(m_plot->transform(QwtPlot::xBottom, anchor.x()), m_plot->transform(QwtPlot::yLeft, anchor.y()));
+    const std::vector<Hit> hits = m_update->elementsAt(place, Tolerance);
+    if (!hits.empty())
+      anchor = m_update->geometry().center(hits.front().item).value_or(anchor);
+  }
+  if (general.isOn(QStringLiteral("smooth zoom"))) {
+    m_smoothZoom->setAnchor(isToElement ? std::make_optional(anchor) : std::nullopt);
+    m_smoothZoom->zoom(steps);
+    return;
+  }
+  for (int i = 0; i < std::abs(steps); ++i) {
+    if (steps > 0)
+      m_zoomer->zoomIn(anchor);
+    else
+      m_zoomer->zoomOut(anchor);
+  }
+  refresh(general.value(QStringLiteral("pixtest delay")).toInt());
+}
+
+bool NetPlot::isZooming() const {
+  return m_smoothZoom->isRunning();
+}
+
+void NetPlot::zoomToElement(NetGeometry::Item item) {
+  const NetGeometry &geometry = m_update->geometry();
+  const std::optional<QPointF> center = geometry.center(item);
+  if (!center)
+    return;
+  constexpr double Smallest = 1.0;
+  constexpr double Largest = 1000.0;
+  const double wanted = GeneralSettings::instance().value(QStringLiteral("zoom to element: factor")).toDouble();
+  const double factor = qBound(Smallest, wanted, Largest);
+  QSizeF size(m_settings.smallestZoomWidth, m_settings.smallestZoomHeight);
+  if (item.kind == NetData::Edge) {
+    const QLineF line = geometry.line(geometry.edges()[static_cast<std::size_t>(item.index)]);
+    size = size.expandedTo({std::abs(line.dx()), std::abs(line.dy())});
+  }
+  size = (size * factor).boundedTo(m_zoomer->zoomBase().size());
+  m_zoomer->zoom(QRectF(center->x() - size.width() * 0.5, center->y() - size.height() * 0.5, size.width(), size.height()));
+}
+
+void NetPlot::readMousePattern() {
+  const QString pattern = GeneralSettings::instance().value(QStringLiteral("MousePattern_Panning"));
+  if (pattern == QLatin1String("Left_Ctrl"))
+    m_panner->setMouseButton(Qt::LeftButton, Qt::ControlModifier);
+  else if (pattern == QLatin1String("RightButton"))
+    m_panner->setMouseButton(Qt::RightButton);
+  else
+    m_panner->setMouseButton(Qt::MiddleButton);
+}
+
+bool NetPlot::pansWith(Qt::MouseButton button, Qt::KeyboardModifiers keys) const {
+  Qt::MouseButton ownButton = Qt::NoButton;
+  Qt::KeyboardModifiers ownKeys = Qt::NoModifier;
+  m_panner->getMouseButton(ownButton, ownKeys);
+  return m_panner->isEnabled() && button == ownButton && keys == ownKeys;
+}
+
+void NetPlot::setSettings(const PlotSettings &settings) {
+  const PlotSettings before = m_settings;
+  m_settings = settings;
+  m_settings.takeZoomLimits(before);
+  m_selection.setSizes(m_settings.nodeMag, m_settings.symMag);
+  applyColors();
+}
+
+bool NetPlot::readPlotSettings(const QString &path) {
+  PlotSettings settings = m_settings;
+  const bool found = PlotSettingsFile::read(path, settings);
+  if (found)
+    setSettings(settings);
+  return found;
+}
+
+bool NetPlot::writePlotSettings(const QString &path, QString *error) const {
+  return PlotSettingsFile::write(path, m_settings, error);
+}
+
+void NetPlot::applyColors() {
+  constexpr int Dark = 128;
+  m_plot->setCanvasBackground(m_settings.bgrColor);
+  // The scales stand on the colour of the drawing, without a frame between them.
+  QPalette colors = m_plot->palette();
+  const QColor ink = m_settings.bgrColor.lightness() < Dark ? Qt::white : Qt::black;
+  colors.setColor(QPalette::Window, m_settings.bgrColor);
+  colors.setColor(QPalette::WindowText, ink);
+  colors.setColor(QPalette::Text, ink);
+  m_plot->setPalette(colors);
+  // A file that does not name a colour leaves it invalid: such lines are not drawn.
+  m_grid.enableX(m_settings.gridMajorColor.isValid());
+  m_grid.enableY(m_settings.gridMajorColor.isValid());
+  m_grid.enableXMin(m_settings.gridMinorColor.isValid());
+  m_grid.enableYMin(m_settings.gridMinorColor.isValid());
+  m_grid.setMajorPen(m_settings.gridMajorColor, 0.0, Qt::DashLine);
+  m_grid.setMinorPen(m_settings.gridMinorColor, 0.0, Qt::DotLine);
+  m_grid.setVisible(m_settings.showGrid);
+}
+
+void NetPlot::showNetwork() {
+  m_selection.readSettings();
+  m_selection.setGeometry(&m_update->geometry());
+  m_update->updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
+  refresh(-1);
+}
+
+void NetPlot::fitNetwork() {
+  const NetGeometry &geometry = m_update->geometry();
+  m_stragglers = geometry.hasExtent() ? geometry.nodesOutside(geometry.mainExtent()) : 0;
+  showHint();
+  for (const QwtPlot::Axis axis : {QwtPlot::xBottom, QwtPlot::yLeft})
+    m_plot->setAxisScaleDraw(axis, new CoordinateScale(geometry.plotUnits()));
+  // Nothing is laid out before a window is shown, and a picture may be made without one.
+  layout()->activate();
+  m_plot->updateAxes();
+  m_plot->updateLayout();
+  if (geometry.hasExtent())
+    m_zoomer->setExtent(geometry.mainExtent());
+}
+
+QRectF NetPlot::visibleArea() const {
+  return m_update->geometry().toOwn(m_zoomer->zoomRect());
+}
+
+void NetPlot::showArea(const QRectF &area) {
+  m_zoomer->zoom(m_update->geometry().toPlot(area));
+}
+
+void NetPlot::showStragglers() {
+  m_stragglers = 0;
+  showHint();
+  m_zoomer->resetZoomBase(m_update->geometry().extent());
+}
+
+void NetPlot::showHint() {
+  const NetGeometry &geometry = m_update->geometry();
+  QString text;
+  if (m_stragglers == 1)
+    text = tr("1 node lies far outside this view (right-click to see it)");
+  else if (m_stragglers > 1)
+    text = tr("%1 nodes lie far outside this view (right-click to see them)").arg(m_stragglers);
+  else if (!geometry.hasExtent())
+    text = geometry.unplaced() > 0 ? tr("Nothing to draw: no element of this network has coordinates.")
+                                   : tr("Nothing to draw: the network is empty.");
+  QwtText hint(text);
+  hint.setColor(Qt::darkGray);
+  hint.setBackgroundBrush(QColor(255, 255, 255, 220));
+  hint.setRenderFlags(geometry.hasExtent() ? Qt::AlignTop | Qt::AlignHCenter : Qt::AlignCenter);
+  m_hint.setText(hint);
+  m_hint.setVisible(!text.isEmpty());
+}
+
+void NetPlot::showAxes() {
+  m_plot->enableAxis(QwtPlot::xBottom, m_settings.showXYaxes);
+  m_plot->enableAxis(QwtPlot::yLeft, m_settings.showXYaxes);
+}
+
+void NetPlot::placeLegend() {
+  const int corner = m_settings.legendPos;
+  m_legend.setVisible(corner >= TopLeft && corner <= BottomRight && !m_update->legendText().isEmpty());
+  if (!m_legend.isVisible())
+    return;
+  constexpr int LargerThanLabels = 2; // pt
+  constexpr double Inset = 10.0;      // px
+  constexpr int BackgroundAlpha = 200;
+  QwtText text(m_update->legendText(), QwtText::PlainText);
+  text.setFont(QFont(QStringLiteral("Arial"), std::max(m_settings.labelMag + LargerThanLabels, 1), QFont::Bold));
+  text.setColor(m_settings.edgeLabelsColor);
+  text.setRenderFlags(Qt::AlignLeft | Qt::AlignVCenter);
+  QColor background = m_settings.bgrColor;
+  background.setAlpha(BackgroundAlpha);
+  text.setBackgroundBrush(background);
+  m_legend.setLabel(text);
+
+  const QSizeF size = text.textSize();
+  const QSizeF unit = m_plot->unitsPerPixel();
+  const QRectF shown = m_plot->visibleRect();
+  const double fromSide = (size.width() * 0.5 + Inset) * unit.width();
+  const double fromEnd = (size.height() * 0.5 + Inset) * unit.height();
+  const bool isRight = corner == TopRight || corner == BottomRight;
+  const bool isTop = corner == TopLeft || corner == TopRight;
+  // Plot coordinates grow upwards: the lower edge of the view is the top of its rectangle.
+  m_legend.setValue(isRight ? shown.right() - fromSide : shown.left() + fromSide,
+                    isTop ? shown.bottom() - fromEnd : shown.top() + fromEnd);
+  m_plot->replot();
+}
+
+QRectF NetPlot::legendArea() const {
+  if (!m_legend.isVisible())
+    return QRectF();
+  QRectF area(QPointF(), m_legend.label().textSize());
+  area.moveCenter(
+      {m_plot->transform(QwtPlot::xBottom, m_legend.value().x()), m_plot->transform(QwtPlot::yLeft, m_legend.value().y())});
+  return area;
+}
+
+bool NetPlot::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == m_plot->canvas())
+    return canvasEvent(event) || QWidget::eventFilter(watched, event);
+  const bool isScale = m_settings.colorScalePos >= 0 && m_settings.colorScalePos < QwtPlot::axisCnt &&
+                       watched == m_plot->axisWidget(m_settings.colorScalePos);
+  if (isScale && event->type() == QEvent::MouseButtonDblClick) {
+    emit drawConfigurationRequested();
+    return true;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+bool NetPlot::canvasEvent(QEvent *event) {
+  switch (event->type()) {
+  case QEvent::MouseButtonPress:
+    m_mouseMoved = false;
+    return false;
+  case QEvent::MouseMove:
+    m_mouseMoved = true;
+    return false;
+  case QEvent::MouseButtonRelease:
+    if (static_cast<QMouseEvent *>(event)->button() == Qt::RightButton && !m_mouseMoved)
+      showContextMenu();
+    return false;
+  case QEvent::Enter:
+  case QEvent::Leave:
+    return true;
+  default:
+    return false;
+  }
+}
+
+void NetPlot::showContextMenu() {
+  auto *contextMenu = new QMenu(this);
+  contextMenu->setAttribute(Qt::WA_DeleteOnClose);
+  emit contextMenuRequested(contextMenu);
+  if (contextMenu->isEmpty())
+    delete contextMenu;
+  else
+    contextMenu->popup(QCursor::pos());
+}

@@ -1,0 +1,334 @@
+#include <base/generalsettings.h>
+#include <base/nivramsg.h>
+#include <view/netplot.h>
+#include <view/netupdate.h>
+#include <view/qwtfastplot.h>
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <cmath>
+#include <drawing/colorscale.h>
+#include <drawing/elementlooks.h>
+#include <drawing/labelpass.h>
+#include <future>
+#include <utility>
+
+namespace {
+
+QString seconds(const QElapsedTimer &timer) {
+  constexpr double Milli = 1e-3;
+  return QString::number(static_cast<double>(timer.elapsed()) * Milli);
+}
+
+bool isSwitchedOn(const char *setting) {
+  return GeneralSettings::instance().isOn(QString::fromLatin1(setting));
+}
+
+} // namespace
+
+NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
+    : m_plot(plot)
+    , m_settings(settings)
+    , m_pixtest([this](Pixtest::Labels labels) { runPixtest(labels); },
+                [this] {
+                  const QRectF seen = m_plot.plot()->visibleRect();
+                  return Pixtest::View{
+                      std::max(seen.height() / m_settings.largestZoomHeight, seen.width() / m_settings.largestZoomWidth),
+                      m_plot.window()->windowTitle().startsWith(QStringLiteral("Subassembly "))};
+                }) {
+  for (QwtPlotItem *layer :
+       std::initializer_list<QwtPlotItem *>{&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels})
+    layer->attach(plot.plot());
+  m_symbols.setSubnets(&m_subnets);
+  m_subnets.setFilter(&m_layers, &m_visibility);
+  m_textBoxes.setFilter(&m_layers, &m_visibility);
+}
+
+void NetUpdate::setNetData(const NetData *net) {
+  m_net = net;
+  m_contents.reset();
+  m_pixtest.forgetPlacement();
+  m_isNew = true;
+  m_geometry.clear();
+  m_values = DrawValues();
+  m_edges.clear();
+  m_nodes.clear();
+  m_symbols.clear();
+  m_subnets.clear();
+  m_textBoxes.clear();
+  clearLabels();
+  m_visibility.clear();
+  m_layers.read(m_geometry); // nothing is hidden of what is no longer there
+}
+
+void NetUpdate::setLabelTable(const LabelTable &table) {
+  m_labelTable = table;
+  m_contents.reset();
+}
+
+const LabelContents *NetUpdate::labelContents() const {
+  if (m_contents == nullptr && m_net != nullptr)
+    m_contents = std::make_unique<LabelContents>(m_labelTable, m_settings, *m_net);
+  return m_contents.get();
+}
+
+void NetUpdate::setFolder(const QString &folder, const QString &subnetIcons) {
+  SymbolTable table(folder + QStringLiteral("/symbols"));
+  m_symbols.setTable(table);
+  m_symbols.setFigureFolder(folder);
+  table.setFurtherDirectory(subnetIcons);
+  m_subnets.setTable(table);
+}
+
+void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
+  NivraMsg::log(QStringLiteral("Updating plot - rebuild: %2, which: %3, relabel: %4 ...")
+                    .arg(int(rebuild))
+                    .arg(static_cast<int>(which))
+                    .arg(int(relabel)));
+  if (m_net == nullptr)
+    return;
+  QElapsedTimer timer;
+  timer.start();
+  m_contents.reset(); // the settings or the values may be others
+  const double plotUnits = m_geometry.plotUnits();
+  m_values.read(*m_net, m_settings, m_geometry, rebuild);
+  if (rebuild && m_geometry.unplaced() > 0)
+    NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
+  m_layers.read(m_geometry);
+  ColorScale::show(*m_plot.plot(), m_settings, m_values, coloured(), looks().swatches());
+  m_plot.showAxes();
+  if (std::exchange(m_isNew, false) || plotUnits != m_geometry.plotUnits())
+    m_plot.fitNetwork(); // before anything is judged by what the view shows
+  m_plot.placeLegend();
+
+  const bool isSearch = m_displayMode == DisplayMode::SearchResults;
+  std::future<void> nodes; // beside the edges
+  if (which != Which::Edges)
+    nodes = std::async(std::launch::async, [this, rebuild, isSearch] {
+      if (rebuild)
+        m_nodes.setNodes(m_geometry);
+      m_nodes.setLooks(isSearch ? looks().searchedNodes() : looks().nodes(m_displayMode == DisplayMode::Functions));
+    });
+  if (which != Which::Nodes) {
+    if (rebuild) {
+      m_edges.setEdges(m_geometry);
+      NivraMsg::log(QStringLiteral("   after rebuild edges: %1 sec.").arg(seconds(timer)));
+    }
+    m_edges.setLooks(isSearch ? looks().searchedEdges() : looks().edges());
+    NivraMsg::log((isSearch ? QStringLiteral("   after update edges: %1 sec.")
+                            : QStringLiteral("   after update edge curves: %1 sec."))
+                      .arg(seconds(timer)));
+  }
+  if (nodes.valid()) {
+    nodes.get();
+    NivraMsg::log(QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
+  }
+  updateSymbols(rebuild);
+  if (relabel && m_hasPlacedLabels)
+    placeLabels(); // those that stand say something else now; nobody may have to wait for that
+  else if (relabel)
+    clearLabels();
+  m_plot.plot()->replot();
+  NivraMsg::log(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
+}
+
+ElementLooks NetUpdate::looks() const {
+  return {m_geometry, m_values, m_settings, m_layers, sizeOf(QStringLiteral("n"), m_settings.nodeMag)};
+}
+
+ColorScale::Subject NetUpdate::coloured() const {
+  switch (m_displayMode) {
+  case DisplayMode::SearchResults:
+    return ColorScale::Subject::SearchResults;
+  case DisplayMode::Edges:
+    return ColorScale::Subject::Edges;
+  case DisplayMode::Functions:
+    break;
+  }
+  return ColorScale::Subject::EdgesAndNodes;
+}
+
+QString NetUpdate::legendText() const {
+  return ColorScale::legendText(m_settings, m_net == nullptr ? nullptr : &m_values, coloured());
+}
+
+double NetUpdate::sizeOf(const QString &type, double otherwise) const {
+  constexpr double Largest = 512.0; // px
+  const LabelRow *row = m_labelTable.ofType(type);
+  bool isNumber = false;
+  const double size = row == nullptr ? 0.0 : (*row)[LabelRow::Size].trimmed().toDouble(&isNumber);
+  return isNumber && size > 0.0 ? std::min(size, Largest) : otherwise;
+}
+
+void NetUpdate::updateSymbols(bool rebuild) {
+  constexpr double ArrowPixels = 2.0; // a unit of arrowMag
+  constexpr double LargerBoxes = 1.6; // than symbols
+  QHash<QString, double> sizes;
+  for (const LabelRow &row : m_labelTable.types) {
+    if (const double size = sizeOf(row[LabelRow::Short], 0.0); size > 0.0)
+      sizes.insert(row[LabelRow::Short], size);
+  }
+  m_symbols.setSize(m_settings.symMag);
+  m_symbols.setSizes(sizes);
+  m_edges.setSymbolSize(m_settings.symMag);
+  m_edges.setArrowSize(m_settings.arrowMag * ArrowPixels);
+  m_subnets.setLook(sizeOf(QStringLiteral("sub"), m_settings.symMag * LargerBoxes), m_settings.alphaSubnet);
+  if (rebuild) {
+    m_visibility.read(m_geometry, m_labelTable);
+    if (isSwitchedOn("build symbols"))
+      m_symbols.setStations(m_geometry);
+    else
+      m_symbols.clear();
+  }
+  m_subnets.setSubnets(*m_net, m_geometry); // what is known of their state may have changed
+  m_visibility.setExtent(seenHeight());
+  showWhatIsVisible();
+  m_textBoxes.setBackground(m_settings.bgrColor);
+  if (m_geometry.textBoxes().empty())
+    m_textBoxes.clear();
+  else
+    m_textBoxes.setTextBoxes(m_geometry, *labelContents(), sizeOf(QStringLiteral("t"), 0.0));
+}
+
+void NetUpdate::showWhatIsVisible() {
+  m_symbols.setVisibility(m_visibility, m_layers);
+  m_nodes.setVisibility(m_visibility);
+}
+
+double NetUpdate::seenHeight() const {
+  return m_plot.plot()->visibleRect().height() / m_geometry.plotUnits();
+}
+
+Projection NetUpdate::projection() const {
+  const QwtFastPlot &plot = *m_plot.plot();
+  return {plot.canvasMap(QwtPlot::xBottom), plot.canvasMap(QwtPlot::yLeft), plot.canvas()->contentsRect()};
+}
+
+std::vector<SymbolLayer::Placed> NetUpdate::determineVisibleSymbols() const {
+  QElapsedTimer timer;
+  timer.start();
+  std::vector<SymbolLayer::Placed> symbols = m_symbols.place(projection());
+  NivraMsg::debug(QStringLiteral("determineVisibleSymbols() took %1 sec.").arg(seconds(timer)));
+  return symbols;
+}
+
+void NetUpdate::runPixtest(Pixtest::Labels labels) {
+  if (m_net == nullptr)
+    return;
+  constexpr double SameScale = 0.01;
+  QElapsedTimer timer;
+  timer.start();
+  const double units = m_plot.plot()->unitsPerPixel().height();
+  bool hasChanged = m_visibility.setExtent(seenHeight());
+  if (hasChanged)
+    showWhatIsVisible();
+  if (labels == Pixtest::Labels::With) {
+    placeLabels();
+    hasChanged = true;
+  } else if (!m_labels.labels().empty() && !m_pixtest.isPending() &&
+             std::abs(units - m_labels.unitsPerPixel()) > SameScale * units) {
+    clearLabels(); // none is to be placed for this view
+    hasChanged = true;
+  }
+  if (hasChanged)
+    m_plot.plot()->replot();
+  NivraMsg::debug((labels == Pixtest::Labels::With ? QStringLiteral("Pixtest (incl. last update_subnets): %1 sec.")
+                                                   : QStringLiteral("Pixtest_noLabels (incl. last update_subnets): %1 sec."))
+                      .arg(seconds(timer)));
+}
+
+void NetUpdate::placeLabels() {
+  constexpr double SameScale = 1e-6;
+  const LabelContents &contents = *labelContents();
+  m_unplaced.clear();
+  m_hasPlacedLabels = true;
+  if (!isSwitchedOn("build labels") || contents.isOff()) {
+    m_labels.clear();
+    return;
+  }
+  const Projection view = projection();
+  if (!view.isValid())
+    return;
+  const double units = m_plot.plot()->unitsPerPixel().height();
+  const LabelPass::Drawing drawing{m_geometry,  m_edges,      m_nodes,  m_symbols,          m_subnets,
+                                   m_textBoxes, m_visibility, m_layers, m_values.flowSize()};
+  LabelPass pass(drawing, contents, view, m_settings.labelMargin);
+  pass.addObstacle(m_plot.legendArea());
+  const bool isSameScale = std::abs(units - m_labels.unitsPerPixel()) <= SameScale * units;
+  LabelPass::Result result = pass.run(isSameScale ? m_labels.labels() : std::vector<Label>());
+  m_labels.setLabels(std::move(result.labels), units);
+  m_unplaced = std::move(result.unplaced);
+}
+
+void NetUpdate::clearLabels() {
+  m_labels.clear();
+  m_unplaced.clear();
+  m_hasPlacedLabels = false;
+}
+
+void NetUpdate::relabelNow() {
+  const QString key = QStringLiteral("perform label placement");
+  GeneralSettings &general = GeneralSettings::instance();
+  const bool wasSuspended = m_pixtest.isSuspended();
+  const QString before = general.value(key);
+  m_pixtest.setSuspended(false);
+  general.setValue(key, QStringLiteral("always"));
+  clearLabels();
+  updatePlot(true, Which::EdgesAndNodes, true);
+  placeLabelsNow();
+  general.setValue(key, before);
+  m_pixtest.setSuspended(wasSuspended);
+  requestPixtest(-1);
+}
+
+std::vector<Hit> NetUpdate::elementsAt(const QPointF &point, double tolerance) const {
+  const Projection view = projection();
+  if (!view.isValid())
+    return {};
+  std::vector<Hit> found;
+  m_subnets.find(view, point, found);
+  m_symbols.find(view, point, found);
+  m_nodes.find(view, point, tolerance * 0.5, found);
+  m_textBoxes.find(view, point, found);
+  m_edges.find(view, point, tolerance, found);
+  std::stable_sort(found.begin(), found.end(), [](const Hit &a, const Hit &b) { return a.comesBefore(b); });
+  std::vector<Hit> hits;
+  for (const Hit &hit : found) {
+    if (std::none_of(hits.begin(), hits.end(), [&hit](const Hit &known) { return known.item == hit.item; }))
+      hits.push_back(hit);
+  }
+  return hits;
+}
+
+std::vector<NetGeometry::Item> NetUpdate::elementsIn(const QRectF &area) const {
+  std::vector<NetGeometry::Item> found;
+  const auto isInside = [&area](double x, double y) {
+    return x >= area.left() && x <= area.right() && y >= area.top() && y <= area.bottom();
+  };
+  const auto isDrawn = [this](NetGeometry::Item item) {
+    return !m_layers.isHidden(item) && m_visibility.of(item) != VisibilityRules::State::Off;
+  };
+  const auto &nodes = m_geometry.nodes();
+  for (std::size_t i = 0; i < nodes.size(); ++i) {
+    if (nodes[i].isPlaced && isDrawn({NetData::Node, static_cast<int>(i)}) && isInside(nodes[i].x, nodes[i].y))
+      found.push_back({NetData::Node, static_cast<int>(i)});
+  }
+  for (std::size_t i = 0; i < m_geometry.edges().size(); ++i) {
+    const NetGeometry::Edge &edge = m_geometry.edges()[i];
+    if (!m_geometry.isPlaced(edge) || m_layers.isHidden({NetData::Edge, static_cast<int>(i)}))
+      continue;
+    const QLineF line = m_geometry.line(edge);
+    if (isInside(line.x1(), line.y1()) && isInside(line.x2(), line.y2()))
+      found.push_back({NetData::Edge, static_cast<int>(i)});
+  }
+  const auto takePlaces = [&](NetData::EleType kind, const std::vector<NetGeometry::Place> &places) {
+    for (std::size_t i = 0; i < places.size(); ++i) {
+      if (isDrawn({kind, static_cast<int>(i)}) && isInside(places[i].x, places[i].y))
+        found.push_back({kind, static_cast<int>(i)});
+    }
+  };
+  takePlaces(NetData::AssembledSubnet, m_geometry.subnets());
+  takePlaces(NetData::TextBox, m_geometry.textBoxes());
+  return found;
+}

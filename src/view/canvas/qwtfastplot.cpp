@@ -1,0 +1,89 @@
+#include "canvas/canvasoverlay.h"
+
+#include <view/qwtfastplot.h>
+
+#include <QElapsedTimer>
+#include <qwt_plot_layout.h>
+#include <qwt_scale_map.h>
+
+QwtFastPlot::QwtFastPlot(QWidget *parent)
+    : QwtPlot(parent)
+    , m_overlay(nullptr) {
+  constexpr int Margin = 6; // px
+  setAutoReplot(false);
+  setAutoFillBackground(true);
+  setContentsMargins(Margin, Margin, Margin, Margin);
+  auto *area = new QwtPlotCanvas(this);
+  area->setFrameStyle(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::WheelFocus);
+  area->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
+  setCanvas(area);
+  // The drawing reaches the edge of the canvas; the scales need not leave room for their last label.
+  plotLayout()->setAlignCanvasToScales(true);
+  m_overlay = new CanvasOverlay(*this);
+}
+
+QwtFastPlot::~QwtFastPlot() = default;
+
+QRectF QwtFastPlot::visibleRect() const {
+  const QwtInterval x = axisInterval(xBottom);
+  const QwtInterval y = axisInterval(yLeft);
+  return {QPointF(x.minValue(), y.minValue()), QPointF(x.maxValue(), y.maxValue())};
+}
+
+QSizeF QwtFastPlot::unitsPerPixel() const {
+  const QRectF visible = visibleRect();
+  const QRect area = canvas()->contentsRect();
+  return {visible.width() / qMax(area.width(), 1), visible.height() / qMax(area.height(), 1)};
+}
+
+QPointF QwtFastPlot::toPlot(const QPoint &canvasPosition) const {
+  return {invTransform(xBottom, canvasPosition.x()), invTransform(yLeft, canvasPosition.y())};
+}
+
+void QwtFastPlot::setOverlayItem(const QwtPlotItem *item) {
+  m_overlay->setItem(item);
+}
+
+void QwtFastPlot::updateOverlay() {
+  m_overlay->update();
+}
+
+void QwtFastPlot::freeze() {
+  constexpr double QuickEnough = 8.0; // ms, half of what a fluid movement leaves for a frame
+  if (isFrozen() || m_frameTime < QuickEnough)
+    return;
+  m_overlay->hide(); // what lies on it follows the view by itself
+  m_picture = canvas()->grab();
+  m_pictureView = visibleRect();
+  m_overlay->show();
+}
+
+void QwtFastPlot::thaw() {
+  if (!isFrozen())
+    return;
+  m_picture = QPixmap();
+  replot();
+}
+
+QRectF QwtFastPlot::pictureArea() const {
+  const QPointF topLeft(transform(xBottom, m_pictureView.left()), transform(yLeft, m_pictureView.bottom()));
+  const QPointF bottomRight(transform(xBottom, m_pictureView.right()), transform(yLeft, m_pictureView.top()));
+  return {topLeft, bottomRight};
+}
+
+void QwtFastPlot::replot() {
+  if (isFrozen())
+    updateAxes();
+  else
+    QwtPlot::replot();
+  updateOverlay();
+}
+
+void QwtFastPlot::drawCanvas(QPainter *painter) {
+  constexpr double Nano = 1e-6; // in milliseconds
+  QElapsedTimer timer;
+  timer.start();
+  QwtPlot::drawCanvas(painter);
+  m_frameTime = static_cast<double>(timer.nsecsElapsed()) * Nano;
+}

@@ -1,0 +1,172 @@
+#include "ui_functionrow.h"
+
+#include <view/functionrow.h>
+
+#include <QSignalBlocker>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+#include <cmath>
+#include <drawing/plotsettings.h>
+
+namespace {
+
+constexpr int DescriptionRole = Qt::UserRole;
+
+bool isNumber(const QString &text) {
+  bool isOne = false;
+  text.trimmed().toDouble(&isOne);
+  return isOne || text.trimmed().isEmpty();
+}
+
+/// Shows in the list what stands behind a short name; the field itself keeps to the name.
+class DescribedNames : public QStyledItemDelegate {
+public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+  void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const QString description = index.data(DescriptionRole).toString();
+    if (!description.isEmpty())
+      option->text += QStringLiteral("  –  ") + description;
+  }
+};
+
+} // namespace
+
+FunctionRow::FunctionRow(const QString &title, const QString &absoluteTip, UnitOf unitOf, QWidget *parent)
+    : QGroupBox(parent)
+    , m_ui(std::make_unique<Ui::FunctionRow>())
+    , m_unitOf(std::move(unitOf)) {
+  m_ui->setupUi(this);
+  setTitle(title);
+  m_ui->note->hide();
+  m_ui->absolute->setToolTip(absoluteTip);
+  m_ui->function->setMinimumContentsLength(10);
+  m_ui->function->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  m_ui->function->setItemDelegate(new DescribedNames(m_ui->function));
+  connect(m_ui->resetMinimum, &QPushButton::clicked, this,
+          [this] { m_ui->minimum->setText(inUnit(m_applied.value(m_function)).minimum); });
+  connect(m_ui->resetMaximum, &QPushButton::clicked, this,
+          [this] { m_ui->maximum->setText(inUnit(m_applied.value(m_function)).maximum); });
+  connect(m_ui->fromData, &QPushButton::clicked, this, &FunctionRow::takeBoundsFromData);
+  connect(m_ui->function, &QComboBox::currentTextChanged, this, &FunctionRow::changeFunction);
+}
+
+FunctionRow::~FunctionRow() = default;
+
+void FunctionRow::setChoices(const QStringList &names, const QHash<QString, QString> &described) {
+  const QSignalBlocker blocker(m_ui->function);
+  const QString chosen = m_ui->function->currentText();
+  m_ui->function->clear();
+  for (const QString &name : names)
+    m_ui->function->addItem(name, described.value(name));
+  m_ui->function->setCurrentText(chosen);
+}
+
+void FunctionRow::setValues(const Values &values, const TypedBounds::OfFunctions &typed) {
+  const QSignalBlocker blocker(m_ui->function);
+  m_ui->function->setCurrentText(values.function);
+  m_ui->absolute->setChecked(values.absolute);
+  m_ui->logarithmic->setChecked(values.logarithmic);
+  m_function = TypedBounds::key(values.function);
+  m_unit = m_unitOf(values.function);
+  m_typed = typed;
+  TypedBounds bounds = inUnit(m_typed.value(m_function));
+  bounds = {written(values.minimum, PlotSettings::OpenMinimum, bounds.minimum),
+            written(values.maximum, PlotSettings::OpenMaximum, bounds.maximum), m_unit.name};
+  show(bounds);
+  m_applied = typedBounds();
+}
+
+void FunctionRow::changeFunction(const QString &function) {
+  m_typed = typedBounds();
+  m_function = TypedBounds::key(function);
+  m_unit = m_unitOf(function.trimmed());
+  show(inUnit(m_typed.value(m_function)));
+  setNote(QString());
+}
+
+FunctionRow::Values FunctionRow::values() const {
+  return {m_ui->function->currentText().trimmed(), stored(m_ui->minimum->text(), PlotSettings::OpenMinimum),
+          stored(m_ui->maximum->text(), PlotSettings::OpenMaximum), m_ui->absolute->isChecked(),
+          m_ui->logarithmic->isChecked()};
+}
+
+TypedBounds::OfFunctions FunctionRow::typedBounds() const {
+  TypedBounds::OfFunctions typed = m_typed;
+  const TypedBounds shown = shownBounds();
+  if (shown.isOpen())
+    typed.remove(m_function);
+  else
+    typed.insert(m_function, shown);
+  return typed;
+}
+
+void FunctionRow::takeBoundsFromData() {
+  m_ui->minimum->clear();
+  m_ui->maximum->clear();
+}
+
+void FunctionRow::forgetBounds() {
+  takeBoundsFromData();
+  m_typed.clear();
+}
+
+QString FunctionRow::fault() const {
+  for (const QLineEdit *field : {m_ui->minimum, m_ui->maximum}) {
+    if (!isNumber(field->text()))
+      return tr("%1: \"%2\" is no number.").arg(title(), field->text());
+  }
+  return QString();
+}
+
+void FunctionRow::setNote(const QString &text) {
+  m_ui->note->setText(text);
+  m_ui->note->setVisible(!text.isEmpty());
+}
+
+TypedBounds FunctionRow::shownBounds() const {
+  return {m_ui->minimum->text().trimmed(), m_ui->maximum->text().trimmed(), m_unit.name};
+}
+
+void FunctionRow::show(const TypedBounds &bounds) {
+  m_ui->unit->setText(m_unit.name.isEmpty() ? QString() : QLatin1Char('[') + Units::written(m_unit.name) + QLatin1Char(']'));
+  m_ui->minimum->setText(bounds.minimum);
+  m_ui->maximum->setText(bounds.maximum);
+}
+
+/// What was typed in another unit, as since the table of properties changed, is the same value in this one.
+TypedBounds FunctionRow::inUnit(const TypedBounds &typed) const {
+  if (typed.unit == m_unit.name || typed.isOpen())
+    return typed;
+  const auto conversion = Units::conversion(typed.unit, m_unit.name);
+  if (!conversion)
+    return {};
+  const auto converted = [&conversion](const QString &text) {
+    constexpr int Digits = 10;
+    bool isOne = false;
+    const double number = text.toDouble(&isOne);
+    return isOne ? QString::number((*conversion)(number), 'g', Digits) : QString();
+  };
+  return {converted(typed.minimum), converted(typed.maximum), m_unit.name};
+}
+
+/// As it was typed, as long as that is still what the bound says.
+QString FunctionRow::written(double bound, double open, const QString &typed) const {
+  constexpr int Digits = 10;
+  constexpr double Rounding = 1e-9;
+  if (bound == open)
+    return QString();
+  const double meant = stored(typed, open);
+  if (meant != open && std::abs(meant - bound) <= Rounding * std::max(std::abs(bound), std::abs(meant)))
+    return typed;
+  return QString::number(m_unit.toDisplay(bound), 'g', Digits);
+}
+
+double FunctionRow::stored(const QString &text, double open) const {
+  bool isOne = false;
+  const double number = text.trimmed().toDouble(&isOne);
+  return isOne ? m_unit.toDisplay.inverse(number) : open;
+}

@@ -1,0 +1,261 @@
+#include "configure/plotsettingsfile.h"
+
+#include "configure/initext.h"
+
+#include <base/nivramsg.h>
+#include <base/wholefile.h>
+
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTemporaryDir>
+
+namespace {
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("PlotSettingsFile", text);
+}
+
+constexpr qint64 LargestFile = qint64(4) << 20;
+
+bool fail(QString *error, const QString &reason) {
+  if (error != nullptr)
+    *error = reason;
+  return false;
+}
+
+/// A colour as the toolkit's settings class stores it: "@Variant(", the type number of colours, the colour, ")". Any other
+/// object is refused, for reading it would make whatever the file names. Nothing when it is none.
+std::optional<QColor> storedColor(const QString &object) {
+  static const QByteArray Begin = QByteArrayLiteral("@Variant(") + QByteArray("\0\0\0\x43", 4);
+  constexpr int ColorBytes = 11;
+  const QByteArray bytes = object.toLatin1();
+  if (!bytes.startsWith(Begin) || bytes.size() != Begin.size() + ColorBytes + 1 || !bytes.endsWith(')'))
+    return std::nullopt;
+  const char model = bytes.at(Begin.size());
+  if (model == QColor::Invalid)
+    return QColor(); // which is stored too
+  if (model != QColor::Rgb && model != QColor::Hsv)
+    return std::nullopt;
+  QDataStream stream(bytes.mid(Begin.size(), ColorBytes));
+  stream.setVersion(QDataStream::Qt_4_0);
+  QColor color;
+  stream >> color;
+  constexpr int FullCircle = 359;
+  if (model == QColor::Hsv && color.hue() > FullCircle)
+    return std::nullopt;
+  return color.toRgb();
+}
+
+/// Visits every stored field with its key, so that reading and writing cannot drift apart. A visitor takes plain fields
+/// with the value a missing key stands for, magnitudes that keep their present value, and fields read only if present.
+template <typename Settings, typename Visitor>
+void visitFunctions(Settings &s, Visitor &v) {
+  v.field("colorFunc", s.colorFunc, QStringLiteral("x"));
+  v.field("widthFunc", s.widthFunc, QStringLiteral("y"));
+  v.field("nodeColorFunc", s.nodeColorFunc, QStringLiteral("y"));
+  v.field("nodeSizeFunc", s.nodeSizeFunc, PlotSettings::fixedSize());
+  v.field("colorScalePos", s.colorScalePos, 1);
+  v.field("legendPos", s.legendPos, 0);
+}
+
+template <typename Settings, typename Visitor>
+void visitMagnitudes(Settings &s, Visitor &v) {
+  v.field("nodeMag", s.nodeMag, s.nodeMag);
+  v.field("edgeMag", s.edgeMag, s.edgeMag);
+  v.field("edgeConst", s.edgeConst, s.edgeConst);
+  v.field("labelMargin", s.labelMargin, s.labelMargin);
+  v.field("labelMag", s.labelMag, s.labelMag);
+  v.field("arrowMag", s.arrowMag, s.arrowMag);
+  v.field("symMag", s.symMag, s.symMag);
+}
+
+template <typename Settings, typename Visitor>
+void visitColorOptions(Settings &s, Visitor &v) {
+  v.optional("saturation", s.saturation);
+  v.optional("nodeLabelsColor", s.nodeLabelsColor);
+  v.optional("lightness", s.lightness);
+  v.optional("edgeLabelsColor", s.edgeLabelsColor);
+  v.optional("firstColor", s.firstColor);
+  v.optional("bgrColor", s.bgrColor);
+  v.optional("lastColor", s.lastColor);
+  v.optional("edgeColorInactive", s.edgeColorInactive);
+  v.optional("edgeShowFlow", s.edgeShowFlow);
+  v.optional("edgeColorNoFlow", s.edgeColorNoFlow);
+}
+
+template <typename Settings, typename Visitor>
+void visitScales(Settings &s, Visitor &v) {
+  v.field("gridMajorColor", s.gridMajorColor, QColor());
+  v.field("gridMinorColor", s.gridMinorColor, QColor());
+  v.field("absColor", s.absColor, false);
+  v.field("absWidth", s.absWidth, true);
+  v.field("absNodeColor", s.absNodeColor, true);
+  v.field("absNodeSize", s.absNodeSize, true);
+  v.field("logScaleColor", s.logScaleColor, false);
+  v.field("logScaleWidth", s.logScaleWidth, false);
+  v.field("logScaleNodeColor", s.logScaleNodeColor, false);
+  v.field("logScaleNodeSize", s.logScaleNodeSize, false);
+  v.field("logFactor", s.logFactor, 7.8);
+}
+
+template <typename Settings, typename Visitor>
+void visitBounds(Settings &s, Visitor &v) {
+  v.field("minVal_edgeColor", s.minVal_edgeColor, PlotSettings::OpenMinimum);
+  v.field("maxVal_edgeColor", s.maxVal_edgeColor, PlotSettings::OpenMaximum);
+  v.field("minVal_nodeColor", s.minVal_nodeColor, PlotSettings::OpenMinimum);
+  v.field("maxVal_nodeColor", s.maxVal_nodeColor, PlotSettings::OpenMaximum);
+  v.field("minVal_Width", s.minVal_Width, PlotSettings::OpenMinimum);
+  v.field("maxVal_Width", s.maxVal_Width, PlotSettings::OpenMaximum);
+  v.field("minVal_nodeSize", s.minVal_nodeSize, PlotSettings::OpenMinimum);
+  v.field("maxVal_nodeSize", s.maxVal_nodeSize, PlotSettings::OpenMaximum);
+  v.field("label_mode", s.label_mode, QStringLiteral("selected properties"));
+  v.field("fixAxesRatio", s.fixAxesRatio, true);
+  v.field("showXYaxes", s.showXYaxes, false);
+  v.field("zoomFact", s.zoomFact, 1.5);
+  v.field("alphaSubnet", s.alphaSubnet, 100);
+  v.field("layerProp", s.layerProp, QStringLiteral("vis.layer"));
+}
+
+template <typename Settings, typename Visitor>
+void visitDrawing(Settings &s, Visitor &v) {
+  v.optional("colorRamp", s.colorRamp);
+  v.optional("colorClasses", s.colorClasses);
+  v.optional("classMethod", s.classMethod);
+  v.optional("classBreaks", s.classBreaks);
+  v.optional("typedBounds", s.typedBounds);
+  v.optional("showGrid", s.showGrid);
+}
+
+template <typename Settings, typename Visitor>
+void visitAll(Settings &s, Visitor &v) {
+  visitFunctions(s, v);
+  v.store.beginGroup(QStringLiteral("magnitudes"));
+  visitMagnitudes(s, v);
+  v.store.endGroup();
+  v.store.beginGroup(QStringLiteral("color_options"));
+  visitColorOptions(s, v);
+  v.store.endGroup();
+  visitScales(s, v);
+  visitBounds(s, v);
+  v.store.beginGroup(QStringLiteral("drawing"));
+  visitDrawing(s, v);
+  v.store.endGroup();
+}
+
+/// What the visitor knows of groups, for the reader as the settings class has it for the writer.
+struct GroupedText {
+  const IniText &text;
+  QByteArray group{};
+
+  void beginGroup(const QString &name) { group = name.toLatin1(); }
+  void endGroup() { group.clear(); }
+};
+
+struct Reader {
+  GroupedText store;
+  QStringList refused{}; ///< keys whose values are objects that no setting has
+
+  static void assign(QString &field, const QString &value) { field = value; }
+  static void assign(int &field, const QString &value) { field = QVariant(value).toInt(); }
+  static void assign(double &field, const QString &value) { field = QVariant(value).toDouble(); }
+  static void assign(bool &field, const QString &value) { field = QVariant(value).toBool(); }
+  static void assign(QColor &field, const QString &value) { field = QColor(value); }
+
+  template <typename T>
+  void field(const char *key, T &field, const T &missing) {
+    if (!take(key, field))
+      field = missing;
+  }
+  template <typename T>
+  void optional(const char *key, T &field) {
+    take(key, field);
+  }
+
+private:
+  /// False when the file says nothing that can be taken.
+  template <typename T>
+  bool take(const char *key, T &field) {
+    bool isObject = false;
+    const std::optional<QString> value = store.text.value(store.group, key, &isObject);
+    if (!value)
+      return false;
+    if (!isObject) {
+      assign(field, *value);
+      return true;
+    }
+    if constexpr (std::is_same_v<T, QColor>) {
+      const std::optional<QColor> color = storedColor(*value);
+      if (color) {
+        field = *color;
+        return true;
+      }
+    }
+    refused << QLatin1String(key);
+    return false;
+  }
+};
+
+struct Writer {
+  QSettings &store;
+
+  template <typename T>
+  void field(const char *key, const T &field, const T &) {
+    store.setValue(QLatin1String(key), QVariant(field));
+  }
+  template <typename T>
+  void optional(const char *key, const T &field) {
+    store.setValue(QLatin1String(key), QVariant(field));
+  }
+};
+
+} // namespace
+
+bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, QString *error) {
+  if (!QFileInfo::exists(path)) {
+    NivraMsg::debug(QStringLiteral("### Plot Settings file ") + path + QStringLiteral(" not found!"));
+    return fail(error, tr("There is no file %1.").arg(path));
+  }
+  QString reason;
+  const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, LargestFile, &reason);
+  if (!content) {
+    NivraMsg::logWarning(reason);
+    return fail(error, reason);
+  }
+  const IniText text(*content);
+  Reader reader{{text}};
+  visitAll(settings, reader);
+  if (!reader.refused.isEmpty())
+    NivraMsg::logWarning(tr("%1: values that are no text, number or colour are left out: %2")
+                             .arg(path, reader.refused.join(QStringLiteral(", "))));
+  return true;
+}
+
+bool PlotSettingsFile::write(const QString &path, const PlotSettings &settings, QString *error) {
+  QString reason;
+  const QTemporaryDir folder;
+  if (!folder.isValid())
+    return fail(error, tr("The plot settings could not be written to %1: %2").arg(path, folder.errorString()));
+  const QString draft = folder.filePath(QStringLiteral("plotsettings.ini"));
+  {
+    QSettings store(draft, QSettings::IniFormat);
+    Writer writer{store};
+    visitAll(settings, writer);
+    store.sync();
+    if (store.status() != QSettings::NoError)
+      return fail(error, tr("The plot settings could not be written to %1.").arg(draft));
+  }
+  const auto own = FileAccess::readWhole(draft, FileAccess::Source::Trusted, LargestFile, &reason);
+  if (!own)
+    return fail(error, reason);
+  IniText text; // with what is there already: other programs keep groups of their own in the file
+  if (QFileInfo::exists(path)) {
+    const auto present = FileAccess::readWhole(path, FileAccess::Source::Workspace, LargestFile, &reason);
+    if (!present)
+      return fail(error, reason);
+    text = IniText(*present);
+  }
+  text.merge(IniText(*own));
+  return WholeFile::write(path, FileAccess::Source::Workspace, text.toText(), &reason) || fail(error, reason);
+}

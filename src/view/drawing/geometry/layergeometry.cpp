@@ -1,0 +1,204 @@
+#include <QFontInfo>
+#include <QPaintEngine>
+
+#include <algorithm>
+#include <drawing/layergeometry.h>
+
+namespace {
+
+int cellsOf(double pixels, double cell) {
+  constexpr double MostCells = 4000.0;
+  return static_cast<int>(qBound(1.0, std::ceil(pixels / cell), MostCells));
+}
+
+} // namespace
+
+Projection::Projection(const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvas)
+    : m_canvas(canvas)
+    , m_x0(xMap.s1())
+    , m_y0(yMap.s1())
+    , m_px0(xMap.p1())
+    , m_py0(yMap.p1()) {
+  const double width = xMap.s2() - xMap.s1();
+  const double height = yMap.s2() - yMap.s1();
+  if (width == 0.0 || height == 0.0)
+    return;
+  m_xFactor = (xMap.p2() - xMap.p1()) / width;
+  m_yFactor = (yMap.p2() - yMap.p1()) / height;
+  m_valid = std::isnormal(m_xFactor) && std::isnormal(m_yFactor);
+}
+
+SpatialIndex::Box Projection::visible(double margin) const {
+  return toPlot(m_canvas.adjusted(-margin, -margin, margin, margin));
+}
+
+SpatialIndex::Box Projection::around(const QPointF &point, double reach) const {
+  return toPlot({point.x() - reach, point.y() - reach, reach * 2.0, reach * 2.0});
+}
+
+SpatialIndex::Box Projection::toPlot(const QRectF &r) const {
+  const auto x = std::minmax({(r.left() - m_px0) / m_xFactor + m_x0, (r.right() - m_px0) / m_xFactor + m_x0});
+  const auto y = std::minmax({(r.top() - m_py0) / m_yFactor + m_y0, (r.bottom() - m_py0) / m_yFactor + m_y0});
+  return {x.first, y.first, x.second, y.second};
+}
+
+// Liang and Barsky (1984): each side of the rectangle cuts the parameter interval of the line.
+bool clipLine(QLineF &line, const QRectF &rect) {
+  const double dx = line.dx();
+  const double dy = line.dy();
+  const double p[4] = {-dx, dx, -dy, dy};
+  const double q[4] = {line.x1() - rect.left(), rect.right() - line.x1(), line.y1() - rect.top(), rect.bottom() - line.y1()};
+  double enter = 0.0;
+  double leave = 1.0;
+  for (int side = 0; side < 4; ++side) {
+    if (p[side] == 0.0) {
+      if (q[side] < 0.0)
+        return false;
+      continue;
+    }
+    const double t = q[side] / p[side];
+    if (p[side] < 0.0)
+      enter = std::max(enter, t);
+    else
+      leave = std::min(leave, t);
+  }
+  if (!(enter <= leave))
+    return false;
+  const QPointF start = line.p1();
+  if (leave < 1.0)
+    line.setP2(start + QPointF(dx * leave, dy * leave));
+  if (enter > 0.0)
+    line.setP1(start + QPointF(dx * enter, dy * enter));
+  return std::isfinite(line.x1() + line.y1() + line.x2() + line.y2());
+}
+
+LaneWay::LaneWay(const QLineF &line, double offset)
+    : start(line.p1())
+    , first(line.p1())
+    , second(line.p2())
+    , end(line.p2()) {
+  constexpr double LargestShare = 0.25; // of the line's length
+  const double length = line.length();
+  if (offset == 0.0 || !(length > 0.0))
+    return;
+  const QPointF along = QPointF(line.dx(), line.dy()) / length;
+  const QPointF right(-along.y(), along.x()); // pixels count downwards
+  const double most = length * LargestShare;
+  const double moved = qBound(-most, offset, most);
+  first += along * std::abs(moved) + right * moved;
+  second += right * moved - along * std::abs(moved);
+}
+
+double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize) {
+  constexpr double Gap = 2.0;
+  return (hasSymbol ? std::max(symbolSize, lineWidth) : lineWidth) + Gap;
+}
+
+double distanceToLine(const QPointF &point, const QLineF &line) {
+  const QPointF along(line.dx(), line.dy());
+  const QPointF to = point - line.p1();
+  const double square = QPointF::dotProduct(along, along);
+  const double t = square > 0.0 ? qBound(0.0, QPointF::dotProduct(to, along) / square, 1.0) : 0.0;
+  const QPointF between = to - along * t;
+  return std::hypot(between.x(), between.y());
+}
+
+QFont screenFont(QFont font) {
+  font.setPixelSize(std::max(1, QFontInfo(font).pixelSize()));
+  return font;
+}
+
+bool isVectorTarget(const QPainter &painter) {
+  const QPaintEngine *engine = painter.paintEngine();
+  if (engine == nullptr)
+    return false;
+  switch (engine->type()) {
+  case QPaintEngine::SVG:
+  case QPaintEngine::Pdf:
+  case QPaintEngine::PostScript:
+  case QPaintEngine::Picture:
+  case QPaintEngine::Windows:
+  case QPaintEngine::MacPrinter:
+    return true;
+  default:
+    return false;
+  }
+}
+
+double pixelRatio(const QPainter &painter) {
+  constexpr double Smallest = 0.25;
+  constexpr double Largest = 16.0;
+  constexpr double Steps = 4.0; // a cache entry a quarter: enough to be sharp
+  const QTransform &transform = painter.deviceTransform();
+  const double scale = std::hypot(transform.m11(), transform.m12());
+  return std::isfinite(scale) ? qBound(Smallest, std::ceil(scale * Steps) / Steps, Largest) : 1.0;
+}
+
+PixelGrid::PixelGrid(const QRectF &canvas, double cell)
+    : m_origin(canvas.topLeft())
+    , m_cell(std::max(cell, 1.0)) {
+  m_columns = cellsOf(canvas.width(), m_cell);
+  m_rows = cellsOf(canvas.height(), m_cell);
+  m_taken.resize(static_cast<std::size_t>(m_columns + 2) * static_cast<std::size_t>(m_rows + 2));
+}
+
+int PixelGrid::index(const QPointF &point) const {
+  const double column = std::floor((point.x() - m_origin.x()) / m_cell);
+  const double row = std::floor((point.y() - m_origin.y()) / m_cell);
+  if (!(column >= 0.0 && column < m_columns && row >= 0.0 && row < m_rows))
+    return -1;
+  return (static_cast<int>(row) + 1) * (m_columns + 2) + static_cast<int>(column) + 1;
+}
+
+bool PixelGrid::take(const QPointF &point) {
+  const int i = index(point);
+  if (i < 0 || m_taken[static_cast<std::size_t>(i)])
+    return false;
+  m_taken[static_cast<std::size_t>(i)] = true;
+  return true;
+}
+
+bool PixelGrid::takeArea(const QRectF &area) {
+  const auto cell = [this](double pixels, double origin, int cells) {
+    return static_cast<int>(qBound(0.0, std::floor((pixels - origin) / m_cell), cells - 1.0));
+  };
+  const int left = cell(area.left(), m_origin.x(), m_columns);
+  const int right = cell(area.right(), m_origin.x(), m_columns);
+  const int top = cell(area.top(), m_origin.y(), m_rows);
+  const int bottom = cell(area.bottom(), m_origin.y(), m_rows);
+  const auto forEachCell = [&](const auto &visit) {
+    for (int row = top; row <= bottom; ++row) {
+      for (int column = left; column <= right; ++column) {
+        const int i = (row + 1) * (m_columns + 2) + column + 1;
+        visit(static_cast<std::size_t>(i));
+      }
+    }
+  };
+  bool isFree = true;
+  forEachCell([&](std::size_t i) { isFree = isFree && !m_taken[i]; });
+  if (isFree)
+    forEachCell([&](std::size_t i) { m_taken[i] = true; });
+  return isFree;
+}
+
+ClusterGrid::ClusterGrid(const QRectF &canvas, double cell)
+    : m_origin(canvas.topLeft())
+    , m_cell(std::max(cell, 1.0))
+    , m_columns(cellsOf(canvas.width(), m_cell))
+    , m_rows(cellsOf(canvas.height(), m_cell))
+    , m_numbers(static_cast<std::size_t>(m_columns + 2) * static_cast<std::size_t>(m_rows + 2), -1) {}
+
+int ClusterGrid::claim(const QPointF &point, int number) {
+  const auto cell = [this](double pixels, int cells) {
+    return static_cast<int>(qBound(0.0, std::floor(pixels / m_cell), cells - 1.0)) + 1;
+  };
+  const int row = m_columns + 2;
+  const int i = cell(point.y() - m_origin.y(), m_rows) * row + cell(point.x() - m_origin.x(), m_columns);
+  for (const int around : {0, -row - 1, -row, -row + 1, -1, 1, row - 1, row, row + 1}) {
+    const int neighbour = i + around;
+    if (m_numbers[static_cast<std::size_t>(neighbour)] >= 0)
+      return m_numbers[static_cast<std::size_t>(neighbour)];
+  }
+  m_numbers[static_cast<std::size_t>(i)] = number;
+  return number;
+}

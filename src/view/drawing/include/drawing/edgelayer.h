@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QPen>
+#include <qwt_plot_item.h>
+
+#include <drawing/layergeometry.h>
+#include <drawing/netgeometry.h>
+#include <drawing/spatialindex.h>
+
+/// How one edge is drawn.
+struct EdgeLook {
+  QRgb color = 0;
+  double width = 1.0;        ///< px
+  bool isBackground = false; ///< drawn below the others: carries no value, no flow or is out of use
+  bool isHidden = false;     ///< not drawn at all
+  int flow = 0;              ///< 1 from the first to the second node, -1 against it, 0 none or unknown
+};
+
+/// All edges as one plot item: lines in batches of one pen, of which only the visible ones are touched; parallel edges
+/// side by side; arrows where gas flows.
+class EdgeLayer : public QwtPlotItem {
+public:
+  EdgeLayer();
+
+  /// Takes over where the edges lie; those without coordinates are left out. They are drawn once they have looks.
+  void setEdges(const NetGeometry &geometry);
+  /// One look an edge of the geometry, in its order.
+  void setLooks(const std::vector<EdgeLook> &looks);
+  void setArrowSize(double pixels) { m_arrowSize = pixels; }   ///< 0 for none
+  void setSymbolSize(double pixels) { m_symbolSize = pixels; } ///< parallel stations keep so far apart
+  void clear();
+
+  int rtti() const override { return Rtti_PlotUserItem + 1; }
+  void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
+
+  /// Adds the edges that are drawn within so many pixels of the point.
+  void find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const;
+  /// Calls visit(edge, line, width) for every edge that touches the canvas, with the straight part of its line and its
+  /// width, both in pixels.
+  template <typename Visitor>
+  void forEachVisible(const Projection &projection, const Visitor &visit) const {
+    m_index.query(projection.visible(0.0), [&](int first, int last) {
+      for (int i = first; i < last; ++i) {
+        const Record &record = m_records[static_cast<std::size_t>(i)];
+        if (record.pen < 0)
+          continue;
+        const QLineF line = way(record, projection).middle();
+        QLineF seen = line;
+        if (clipLine(seen, projection.canvas()))
+          visit(record.edge, line, m_pens[static_cast<std::size_t>(record.pen)].widthF());
+      }
+    });
+  }
+
+private:
+  struct Record {
+    double x1 = 0.0;
+    double y1 = 0.0;
+    double x2 = 0.0;
+    double y2 = 0.0;
+    int edge = 0;      ///< position in the geometry
+    int pen = -1;      ///< position in m_pens, -1 not drawn
+    float lane = 0.0F; ///< to the right of the way from the first to the second node
+    bool hasSymbol = false;
+    signed char flow = 0;
+  };
+  struct VisibleLine {
+    QLineF line;
+    int pen;
+  };
+  struct Arrow {
+    QPointF tip;
+    QPointF along; ///< of length 1
+    int pen;
+  };
+
+  LaneWay way(const Record &record, const Projection &projection) const;
+  void addLines(const Record &record, const Projection &projection, const QRectF &area, std::vector<VisibleLine> &lines,
+                std::vector<Arrow> &arrows) const;
+  void addArrows(const Record &record, const QLineF &line, const QRectF &area, std::vector<Arrow> &arrows) const;
+  /// Where lines crowd they are drawn narrower, so that one can still be told from the next.
+  double widthFactor(const std::vector<VisibleLine> &lines, const QRectF &canvas) const;
+  void drawArrows(QPainter &painter, const std::vector<Arrow> &arrows) const;
+
+  std::vector<Record> m_records; ///< in the order of the index
+  SpatialIndex m_index;
+  std::vector<QPen> m_pens; ///< in drawing order
+  double m_widest = 0.0;
+  double m_arrowSize = 0.0;
+  double m_symbolSize = 0.0;
+};

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QHash>
+#include <QImage>
+#include <QPainter>
+
+#include <drawing/netgeometry.h>
+#include <map>
+
+/// Pictures and characters that elements bring to be drawn in place of their symbol: their properties "figure.file",
+/// "figure.char", "figure.width" and "figure.height".
+class Figures {
+public:
+  /// Where relative file names begin.
+  void setFolder(const QString &folder) { m_folder = folder; }
+  /// Looks up which elements have figures. A file that cannot be read is logged; the character, if there is one, or the
+  /// symbol takes its place.
+  void read(const NetGeometry &geometry);
+  void clear();
+
+  /// Number of the item's figure, -1 when it has none.
+  int find(NetGeometry::Item item) const;
+  /// The items with figures among which the records have none.
+  template <typename Records>
+  std::vector<NetGeometry::Item> itemsBesides(const Records &records) const {
+    std::map<Key, NetGeometry::Item> rest;
+    for (const auto &[key, number] : m_numbers)
+      rest.emplace(key, NetGeometry::Item{static_cast<NetData::EleType>(key.first), key.second});
+    for (const auto &record : records)
+      rest.erase(Key(record.item.kind, record.item.index));
+    std::vector<NetGeometry::Item> items;
+    items.reserve(rest.size());
+    for (const auto &[key, item] : rest)
+      items.push_back(item);
+    return items;
+  }
+
+  /// False when there is nothing to draw.
+  /// \param size px, where the figure does not say its own
+  bool draw(QPainter &painter, int number, const QPointF &center, double size) const;
+
+private:
+  using Key = std::pair<int, int>; ///< kind and index
+  struct Figure {
+    QImage picture;
+    QString character;
+    double width = 0.0; ///< px, 0 when it says nothing
+    double height = 0.0;
+  };
+
+  void add(NetGeometry::Item item, const element &source);
+  QImage load(const QString &file);
+
+  QString m_folder;
+  std::vector<Figure> m_figures;
+  std::map<Key, int> m_numbers;
+  QHash<QString, QImage> m_pictures; ///< by path
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QHash>
+#include <QPainter>
+#include <QPixmap>
+#include <QString>
+
+#include <drawing/symboltable.h>
+#include <memory>
+
+class QSvgRenderer;
+
+/// The SVG symbols of element types and kinds of subnets, kept as pixmaps by size and angle.
+class StationSymbols {
+public:
+  StationSymbols();
+  ~StationSymbols();
+
+  /// Symbols of the user's own; numbers found before are no longer valid.
+  void setTable(const SymbolTable &table);
+  /// Number of the symbol for a type code ("c") or a kind of subnet ("compressor_station"); -1 when there is none.
+  int find(const QString &key);
+
+  /// Draws the symbol about the centre. Screens get a prepared pixmap, documents the vectors.
+  /// \param size px, across
+  /// \param angle degrees, clockwise; screens round it to 5 degrees
+  void draw(QPainter &painter, int symbol, const QPointF &center, double size, double angle);
+
+  /// A badge with the number of those that share a symbol.
+  void drawCount(QPainter &painter, const QPointF &center, int count);
+
+private:
+  std::unique_ptr<QSvgRenderer> load(const QString &key) const;
+  QPixmap pixmap(int symbol, int pixels, int angle);
+
+  SymbolTable m_table;
+  QHash<QString, int> m_numbers;
+  std::vector<std::unique_ptr<QSvgRenderer>> m_renderers;
+  QHash<quint64, QPixmap> m_pixmaps;
+  QHash<QPair<int, int>, QPixmap> m_badges; ///< by number and hundredths of a pixel ratio
+};

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QColor>
+#include <qwt_plot_item.h>
+
+#include <drawing/layerfilter.h>
+#include <drawing/layergeometry.h>
+#include <drawing/netgeometry.h>
+#include <drawing/stationsymbols.h>
+#include <drawing/visibilityrules.h>
+
+/// Assembled subnets as boxes: the symbol of their kind on a ground that tells how they are controlled, in a ring that
+/// tells what was found of them, joined to their pins. Colours and sizes are general settings of category "subnets".
+class SubnetLayer : public QwtPlotItem {
+public:
+  SubnetLayer();
+
+  void setTable(const SymbolTable &table);
+  void setSubnets(const NetData &net, const NetGeometry &geometry);
+  /// \param size px, of the box of a subnet that says nothing of its own
+  /// \param alpha opacity of the ground, 0 to 255
+  void setLook(double size, int alpha);
+  void clear() { m_records.clear(); }
+
+  /// What is hidden by its layer, or off, is not drawn. Both must live as long as this layer.
+  void setFilter(const LayerFilter *layers, const VisibilityRules *visibility) {
+    m_layers = layers;
+    m_visibility = visibility;
+  }
+
+  int rtti() const override { return Rtti_PlotUserItem + 5; }
+  void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
+
+  struct Placed {
+    int subnet = 0; ///< position in the geometry
+    QRectF box;     ///< px
+    int others = 0; ///< that stand behind it
+  };
+  /// What is drawn on this canvas; boxes that would overlap share one.
+  std::vector<Placed> place(const Projection &projection) const;
+  /// Adds the subnets whose box lies under the point.
+  void find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const;
+
+private:
+  struct Record {
+    QPointF center; ///< plot coordinates, as the following
+    std::vector<QPointF> pins;
+    double width = 0.0;
+    double visSize = 0.0; ///< px, 0 when it says nothing
+    int symbol = -1;
+    QColor ring;
+    QColor ground;
+  };
+
+  bool isHidden(std::size_t subnet) const {
+    const NetGeometry::Item item{NetData::AssembledSubnet, static_cast<int>(subnet)};
+    return (m_layers != nullptr && m_layers->isHidden(item)) ||
+           (m_visibility != nullptr && m_visibility->of(item) == VisibilityRules::State::Off);
+  }
+  double sizeOf(const Record &record, const Projection &projection) const;
+  void drawPins(QPainter &painter, const Record &record, const QRectF &box, const Projection &projection) const;
+
+  mutable StationSymbols m_symbols; ///< a cache of pixmaps
+  std::vector<Record> m_records;    ///< as in the geometry
+  const LayerFilter *m_layers = nullptr;
+  const VisibilityRules *m_visibility = nullptr;
+  double m_size = 32.0;
+  int m_alpha = 100;
+  double m_penWidth = 3.0;
+  double m_groundMargin = 15.0; ///< px of ground around the box
+  bool m_drawsPinLines = true;
+  bool m_takesWidth = false;
+  bool m_takesVisSize = true;
+};

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <qwt_plot_item.h>
+
+#include <drawing/figures.h>
+#include <drawing/layerfilter.h>
+#include <drawing/layergeometry.h>
+#include <drawing/netgeometry.h>
+#include <drawing/spatialindex.h>
+#include <drawing/stationsymbols.h>
+#include <drawing/visibilityrules.h>
+#include <optional>
+#include <utility>
+#include <vector>
+
+class SubnetLayer;
+
+/// The symbols of stations: edges other than pipes and drives, and the figures that elements bring themselves. Those that
+/// would overlap share one symbol, that of the most important, with their number.
+class SymbolLayer : public QwtPlotItem {
+public:
+  SymbolLayer();
+
+  /// Symbols of the user's own, for the stations that are set afterwards.
+  void setTable(const SymbolTable &table);
+  void setFigureFolder(const QString &folder) { m_figures.setFolder(folder); }
+  void setStations(const NetGeometry &geometry);
+  /// Symbols behind the boxes of subnets are not drawn. It must live as long as this layer.
+  void setSubnets(const SubnetLayer *subnets) { m_subnets = subnets; }
+  /// The size of the symbols, and of those of single element types (by type code) that have another.
+  void setSize(double pixels) {
+    m_size = pixels;
+    m_layout.reset();
+  }
+  void setSizes(const QHash<QString, double> &sizes) { m_sizes = sizes; }
+  double size() const { return m_size; }
+  /// Symbols that are off are not drawn.
+  void setVisibility(const VisibilityRules &rules, const LayerFilter &layers);
+  void clear();
+
+  int rtti() const override { return Rtti_PlotUserItem + 3; }
+  void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
+
+  /// Adds the elements whose symbols lie under the point, behind each those that share it.
+  void find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const;
+
+  /// A symbol that is drawn.
+  struct Placed {
+    NetGeometry::Item item;
+    QPointF center; ///< px
+    double size = 0.0;
+    double angle = 0.0; ///< degrees, clockwise
+    int others = 0;     ///< that stand behind it
+    int record = 0;
+  };
+  /// What is drawn of it, the more important first. Kept until the symbols, their visibility or the view change.
+  const std::vector<Placed> &place(const Projection &projection) const;
+
+private:
+  struct Record {
+    double x = 0.0;
+    double y = 0.0;
+    double dx = 0.0; ///< direction in plot units; none for what stands at a point
+    double dy = 0.0;
+    NetGeometry::Item item;
+    int symbol = -1;  ///< of m_symbols
+    int figure = -1;  ///< of m_figures, in place of the symbol
+    int priority = 0; ///< lower is more important
+    float lane = 0.0F;
+    float size = 1.0F; ///< share of the common size
+    bool isVisible = true;
+  };
+
+  /// What is drawn of one view.
+  struct Layout {
+    Projection projection;
+    std::vector<Placed> placed;
+    std::vector<std::pair<int, int>> behind; ///< a symbol, by its position in placed, and a record that stands behind it
+  };
+
+  Layout layOut(const Projection &projection) const;
+  std::vector<Record> records(const NetGeometry &geometry);
+  int symbolOf(const NetGeometry::Edge &edge);
+  QPointF centerOf(const Record &record, const Projection &projection) const;
+
+  mutable StationSymbols m_symbols; ///< a cache of pixmaps
+  Figures m_figures;
+  std::vector<Record> m_records; ///< in the order of the index
+  SpatialIndex m_index;
+  const SubnetLayer *m_subnets = nullptr;
+  QHash<QString, double> m_sizes;
+  double m_size = 20.0;
+  mutable std::optional<Layout> m_layout; ///< of the view that was asked for last
+};

@@ -1,0 +1,326 @@
+#include <base/nivramsg.h>
+#include <formulas/parserfactory.h>
+#include <model/displayformat.h>
+#include <model/elementtypes.h>
+#include <model/netmetadata.h>
+#include <model/subnetstate.h>
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+#include <drawing/labelcontents.h>
+#include <drawing/layergeometry.h>
+
+namespace {
+
+constexpr int LongestLine = 200; // characters
+constexpr int MostLines = 20;
+
+struct StyleKeys {
+  PropertyKey font = PropertyKey::find("vis.font");
+  PropertyKey color = PropertyKey::find("vis.color");
+  PropertyKey background = PropertyKey::find("vis.bgr-color");
+  PropertyKey backgroundAlpha = PropertyKey::find("vis.bgr-alpha");
+  PropertyKey border = PropertyKey::find("vis.bord-color");
+  PropertyKey borderAlpha = PropertyKey::find("vis.bord-alpha");
+
+  bool areUsed() const {
+    return !(font.isNull() && color.isNull() && background.isNull() && backgroundAlpha.isNull() && border.isNull() &&
+             borderAlpha.isNull());
+  }
+};
+
+void takeColor(const QString &name, const QString &alpha, QColor &color) {
+  constexpr int Opaque = 255;
+  const QColor named(name.trimmed());
+  if (named.isValid()) {
+    const int before = color.alpha();
+    color = named;
+    color.setAlpha(before > 0 ? before : Opaque);
+  }
+  bool isNumber = false;
+  const int number = alpha.trimmed().toInt(&isNumber);
+  if (isNumber && (named.isValid() || color.alpha() > 0)) // no colour has no opacity
+    color.setAlpha(qBound(0, number, Opaque));
+}
+
+void takeFont(const QString &text, QFont &font) {
+  constexpr int Largest = 200; // px: letters beyond it are no label, and cost memory
+  QFont named;
+  if (text.trimmed().isEmpty() || !named.fromString(text.trimmed()))
+    return;
+  if (named.pointSizeF() > Largest)
+    named.setPointSize(Largest);
+  font = screenFont(named);
+  font.setPixelSize(std::min(font.pixelSize(), Largest));
+}
+
+/// The name of the property behind an "@" at the position, as long as it goes; it does not end with a dot.
+QString propertyAt(const QString &text, int position) {
+  static const QRegularExpression Name(QStringLiteral("[A-Za-z_][A-Za-z0-9_]*(?:[.\\-][A-Za-z0-9_]+)*"));
+  const QRegularExpressionMatch match =
+      Name.match(text, position, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
+  return match.captured();
+}
+
+} // namespace
+
+LabelContents::LabelContents(const LabelTable &table, const PlotSettings &settings, const NetData &net)
+    : m_net(net)
+    , m_hasOwnStyles(StyleKeys().areUsed()) {
+  if (settings.label_mode == QLatin1String("name only"))
+    m_mode = Mode::Name;
+  else if (settings.label_mode == QLatin1String("selected properties"))
+    m_mode = Mode::Selected;
+  m_nodeStyle.font = screenFont(QFont(QStringLiteral("Arial"), std::max(settings.labelMag, 1)));
+  m_nodeStyle.background = settings.bgrColor;
+  m_edgeStyle = m_nodeStyle;
+  m_nodeStyle.text = settings.nodeLabelsColor;
+  m_boxStyle = m_nodeStyle;
+  m_boxStyle.background = Qt::transparent;
+  m_edgeStyle.text = settings.edgeLabelsColor;
+  for (const LabelRow &row : table.types)
+    m_types.insert(row[LabelRow::Short].toLower(), typeOf(row));
+}
+
+const LabelStyle &LabelContents::styleOf(NetData::EleType kind) const {
+  return kind == NetData::Edge ? m_edgeStyle : kind == NetData::TextBox ? m_boxStyle : m_nodeStyle;
+}
+
+LabelContents::Type LabelContents::typeOf(const LabelRow &row) const {
+  static const QRegularExpression Break(QStringLiteral("<br\\s?/>"));
+  static const QRegularExpression Marks(QStringLiteral("<(?!br />)[A-Za-z/]"));
+  Type type;
+  QString contents = row[LabelRow::Contents];
+  contents.replace(QStringLiteral("&#44;"), QStringLiteral(",")).replace(Break, QStringLiteral("<br />"));
+  type.isHtml = contents.contains(Marks);
+  for (const QString &line : contents.split(QStringLiteral("<br />")).mid(0, MostLines))
+    type.lines.push_back(lineOf(line, row[LabelRow::Short]));
+  const ElementType *known = ElementTypes::byCode(row[LabelRow::Short]);
+  type.style = styleOf(known == nullptr ? NetData::Node : known->kind);
+  takeFont(row[LabelRow::Font], type.style.font);
+  takeColor(row[LabelRow::Color], QString(), type.style.text);
+  takeColor(row[LabelRow::BgrColor], row[LabelRow::BgrAlpha], type.style.background);
+  takeColor(row[LabelRow::BordColor], row[LabelRow::BordAlpha], type.style.border);
+  return type;
+}
+
+LabelContents::Part LabelContents::valueOf(const QString &property, const QString &type) const {
+  Part part;
+  part.value = PropertyKey::intern(property);
+  if (const NetMetaData::Attribute *attribute = m_net.metaData()->attribute(type, property)) {
+    const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
+    part.unit = conversion ? attribute->displayUnit : attribute->storedUnit;
+    if (conversion)
+      part.toDisplay = *conversion;
+  }
+  return part;
+}
+
+std::shared_ptr<Formula> LabelContents::formulaOf(const QString &text) const {
+  try {
+    return std::make_shared<Formula>(text, m_net, Formula::Bare::OfCurrent);
+  } catch (const FormulaError &error) {
+    NivraMsg::logWarning(QStringLiteral("The label formula \"%1\" cannot be used: %2").arg(text, error.text()));
+    return nullptr;
+  }
+}
+
+LabelContents::Line LabelContents::lineOf(const QString &text, const QString &type) const {
+  Line line;
+  QString before;
+  for (int i = 0; i < text.size(); ++i) {
+    const bool isMark = text.at(i) == QLatin1Char('@');
+    const int end = isMark && text.midRef(i + 1, 1) == QLatin1String("{") ? text.indexOf(QLatin1Char('}'), i) : -1;
+    const QString name = isMark && end < 0 ? propertyAt(text, i + 1) : QString();
+    if (end < 0 && name.isEmpty()) {
+      before += text.at(i);
+      continue;
+    }
+    Part part;
+    if (end < 0)
+      part = valueOf(name, type);
+    else
+      part.formula = formulaOf(text.mid(i + 2, end - i - 2));
+    part.isPlaceHolder = true;
+    part.text = std::exchange(before, QString());
+    line.push_back(part);
+    i = end < 0 ? i + name.size() : end;
+  }
+  if (!before.isEmpty()) {
+    Part rest;
+    rest.text = before;
+    line.push_back(rest);
+  }
+  return line;
+}
+
+namespace {
+
+constexpr int LabelDigits = 4;
+
+/// Units of thousands are spelled out: nobody reads "0.02 1000 m³/h". Large quantities are rounded, but a number alone may
+/// be a name.
+double spelledOut(double value, QString &unit) {
+  if (unit.isEmpty())
+    return value;
+  if (unit.startsWith(QLatin1String("1000 "))) {
+    unit.remove(0, 5);
+    value *= 1000.0;
+  }
+  constexpr double Large = 1e4; // smaller ones are rounded when they are written
+  return std::abs(value) < Large ? value : QString::number(value, 'g', LabelDigits).toDouble();
+}
+
+void groupThousands(QString &number) {
+  constexpr QChar ThinSpace(0x2009);
+  constexpr int Group = 3;
+  const int point = number.indexOf(QLatin1Char('.'));
+  const int first = number.startsWith(QLatin1Char('-')) ? 1 : 0;
+  for (int i = (point < 0 ? number.size() : point) - Group; i > first; i -= Group)
+    number.insert(i, ThinSpace);
+}
+
+bool hasPowerOfTen(const QString &number) {
+  return number.contains(QLatin1Char('e'));
+}
+
+} // namespace
+
+QString LabelContents::formatted(double value, const QString &unit, int decimals) {
+  QString shownUnit = unit;
+  const double shown = spelledOut(value, shownUnit);
+  QString number = DisplayFormat::number(shown, LabelDigits);
+  if (decimals >= 0 && !hasPowerOfTen(number))
+    number = DisplayFormat::fixed(shown, std::min(decimals, DisplayFormat::decimals(shown, LabelDigits)));
+  if (!hasPowerOfTen(number))
+    groupThousands(number);
+  return shownUnit.isEmpty() ? number : number + QLatin1Char(' ') + Units::written(shownUnit);
+}
+
+/// As many as the values of the first elements of the type need: then 79.70 stands beside 79.84, and 20 beside 30.
+int LabelContents::decimalsOf(const Part &part, const element &like) const {
+  static const PropertyKey key = PropertyKey::intern("type");
+  constexpr int Enough = 300; // elements with a value
+  constexpr int Most = 5000;  // elements to look at
+  if (part.decimals)
+    return *part.decimals;
+  part.decimals = 0;
+  const QString type = like.value(key);
+  const auto collection = m_net.typeMap().find(m_net.metaData()->kindOf(type));
+  if (collection == m_net.typeMap().end())
+    return 0;
+  const std::string word = type.toLower().toStdString(); // as the rows are found
+  int needed = 0;
+  int looked = 0;
+  int found = 0;
+  for (const elements::Entry &entry : *collection->second) {
+    if (++looked > Most || found >= Enough)
+      break;
+    const PropertyText *own = entry.value.find(key);
+    const double value = NetData::number(entry.value.find(part.value));
+    if (value == NetData::NoValue || own == nullptr || !sameWord(own->utf8(), word))
+      continue;
+    ++found;
+    QString unit = part.unit;
+    const QString number = DisplayFormat::number(spelledOut(part.toDisplay(value), unit), LabelDigits);
+    const int point = number.indexOf(QLatin1Char('.'));
+    if (point >= 0 && !hasPowerOfTen(number))
+      needed = std::max(needed, number.size() - point - 1);
+  }
+  part.decimals = needed;
+  return needed;
+}
+
+QString LabelContents::shownValue(const Part &part, const element &source) const {
+  if (part.formula != nullptr) {
+    try {
+      const Formula::Result result = part.formula->evaluate(source);
+      if (result.number != NetData::NoValue)
+        return formatted(result.number, QString());
+      return result.text.toStdString() == ParserFactory::nullText() ? QString() : result.text;
+    } catch (const FormulaError &error) {
+      if (error.kind() == FormulaError::Kind::TooCostly)
+        NivraMsg::logWarning(error.text()); // once: from now on it is not evaluated
+      return QString();                     // of this element it says nothing
+    }
+  }
+  const PropertyText *value = source.find(part.value);
+  if (value == nullptr)
+    return part.value == SubnetState::key() ? SubnetState::of(m_net, source) : QString();
+  const double number = NetData::number(value);
+  return number == NetData::NoValue ? value->toString()
+                                    : formatted(part.toDisplay(number), part.unit, decimalsOf(part, source));
+}
+
+QString LabelContents::filled(const Line &line, const element &source, bool isHtml) const {
+  QString text;
+  bool hasPlaceHolder = false;
+  bool hasValue = false;
+  for (const Part &part : line) {
+    text += part.text;
+    if (!part.isPlaceHolder)
+      continue;
+    hasPlaceHolder = true;
+    const QString shown = shownValue(part, source);
+    hasValue = hasValue || !shown.isEmpty();
+    text += isHtml ? shown.toHtmlEscaped() : shown;
+  }
+  return hasPlaceHolder && !hasValue ? QString() : text.simplified().left(LongestLine);
+}
+
+const LabelContents::Type *LabelContents::find(const element &source) const {
+  static const PropertyKey key = PropertyKey::intern("type");
+  const auto found = m_types.constFind(source.value(key).toLower());
+  return found == m_types.constEnd() ? nullptr : &*found;
+}
+
+LabelText LabelContents::text(const element &source) const {
+  static const PropertyKey name = PropertyKey::intern("name");
+  LabelText label;
+  if (m_mode == Mode::Name)
+    label.lines.append(source.value(name).left(LongestLine));
+  const Type *type = m_mode == Mode::Selected ? find(source) : nullptr;
+  if (type == nullptr)
+    return label;
+  for (const Line &line : type->lines) {
+    const QString text = filled(line, source, type->isHtml);
+    if (!text.isEmpty())
+      label.lines.append(text);
+  }
+  if (type->isHtml && !label.lines.isEmpty()) {
+    label.html = label.lines.join(QStringLiteral("<br />"));
+    label.lines.clear();
+  }
+  return label;
+}
+
+QStringList LabelContents::textOfBox(const element &box) const {
+  static const PropertyKey text = PropertyKey::intern("text");
+  static const QRegularExpression Mark(QStringLiteral("<[A-Za-z/][^<>]*>"));
+  constexpr int LongestText = 500; // nobody reads more on a drawing
+  QStringList lines;
+  if (const Type *type = find(box)) {
+    for (const Line &line : type->lines) {
+      const QString said = filled(line, box, false).remove(Mark);
+      if (!said.isEmpty())
+        lines.append(said);
+    }
+  }
+  const QString own = box.value(text).simplified().left(LongestText);
+  return lines.isEmpty() && !own.isEmpty() ? QStringList{own} : lines;
+}
+
+LabelStyle LabelContents::style(const element &source, NetData::EleType kind) const {
+  const Type *type = find(source);
+  LabelStyle style = type != nullptr ? type->style : styleOf(kind);
+  if (m_hasOwnStyles) {
+    const StyleKeys keys;
+    takeFont(source.value(keys.font), style.font);
+    takeColor(source.value(keys.color), QString(), style.text);
+    takeColor(source.value(keys.background), source.value(keys.backgroundAlpha), style.background);
+    takeColor(source.value(keys.border), source.value(keys.borderAlpha), style.border);
+  }
+  return style;
+}

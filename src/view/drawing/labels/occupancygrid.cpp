@@ -1,0 +1,133 @@
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+#include <drawing/occupancygrid.h>
+
+namespace {
+
+constexpr double Cell = 2.0; // px
+constexpr int WordBits = 64;
+constexpr double Largest = 30000.0; // px
+
+} // namespace
+
+namespace {
+
+QPointF direction(double angle) {
+  if (angle == 0.0)
+    return {1.0, 0.0};
+  return {std::cos(qDegreesToRadians(angle)), std::sin(qDegreesToRadians(angle))};
+}
+
+QPointF turnedRight(const QPointF &direction) {
+  return {-direction.y(), direction.x()};
+}
+
+} // namespace
+
+TurnedBox::TurnedBox(const QPointF &center, const QSizeF &size, double angle)
+    : TurnedBox(center, direction(angle) * (size.width() * 0.5), turnedRight(direction(angle)) * (size.height() * 0.5)) {}
+
+TurnedBox::TurnedBox(const QPointF &center, const QPointF &across, const QPointF &down)
+    : m_center(center)
+    , m_across(across)
+    , m_down(down)
+    , m_corners{center - across - down, center + across - down, center + across + down, center - across + down} {}
+
+TurnedBox TurnedBox::grown(double margin) const {
+  const auto longer = [margin](const QPointF &half) {
+    const double length = std::hypot(half.x(), half.y());
+    return length > 0.0 ? half * ((length + margin) / length) : half;
+  };
+  return {m_center, longer(m_across), longer(m_down)};
+}
+
+QRectF TurnedBox::bounds() const {
+  const double x = std::abs(m_across.x()) + std::abs(m_down.x());
+  const double y = std::abs(m_across.y()) + std::abs(m_down.y());
+  return {m_center.x() - x, m_center.y() - y, x * 2.0, y * 2.0};
+}
+
+// Separating axes: two convex shapes are apart if and only if a side of one of them parts them.
+bool TurnedBox::overlaps(const TurnedBox &other) const {
+  for (const QPointF &axis : {m_across, m_down, other.m_across, other.m_down}) {
+    const auto reach = [&axis](const TurnedBox &box) {
+      return std::abs(QPointF::dotProduct(box.m_across, axis)) + std::abs(QPointF::dotProduct(box.m_down, axis));
+    };
+    if (std::abs(QPointF::dotProduct(other.m_center - m_center, axis)) >= reach(*this) + reach(other))
+      return false;
+  }
+  return true;
+}
+
+OccupancyGrid::OccupancyGrid(const QRectF &canvas)
+    : m_origin(canvas.topLeft())
+    , m_rows(static_cast<int>(std::ceil(qBound(1.0, canvas.height(), Largest) / Cell)))
+    , m_words(static_cast<int>(std::ceil(qBound(1.0, canvas.width(), Largest) / Cell / WordBits)))
+    , m_cells(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_words), 0) {}
+
+namespace {
+
+/// How far the box reaches within a row of cells; left lies behind right where it does not reach.
+void reachInRow(const TurnedBox &box, const QPointF &origin, double top, double &left, double &right) {
+  const double bottom = top + Cell;
+  std::swap(left, right);
+  for (std::size_t i = 0; i < box.corners().size(); ++i) {
+    QPointF a = box.corners()[i] - origin;
+    QPointF b = box.corners()[(i + 1) % box.corners().size()] - origin;
+    if (a.y() > b.y())
+      std::swap(a, b);
+    if (a.y() > bottom || b.y() < top)
+      continue;
+    const double slope = b.y() > a.y() ? (b.x() - a.x()) / (b.y() - a.y()) : 0.0;
+    const double x1 = a.y() < top ? a.x() + (top - a.y()) * slope : a.x();
+    const double x2 = b.y() > bottom ? a.x() + (bottom - a.y()) * slope : b.x();
+    left = std::min({left, x1, x2});
+    right = std::max({right, x1, x2});
+  }
+}
+
+} // namespace
+
+template <typename Visitor>
+bool OccupancyGrid::forEachWord(const TurnedBox &box, const Visitor &visit) const {
+  const QRectF bounds = box.bounds().translated(-m_origin);
+  const int firstRow = static_cast<int>(std::clamp(std::floor(bounds.top() / Cell), 0.0, double(m_rows)));
+  const int lastRow = static_cast<int>(std::clamp(std::floor(bounds.bottom() / Cell), -1.0, m_rows - 1.0));
+  const double lastColumn = double(m_words) * WordBits - 1.0;
+  for (int row = firstRow; row <= lastRow; ++row) {
+    double left = bounds.left();
+    double right = bounds.right();
+    if (!box.isUpright())
+      reachInRow(box, m_origin, row * Cell, left, right);
+    if (left > right || right < 0.0)
+      continue;
+    const double from = std::floor(left / Cell);
+    if (from > lastColumn)
+      continue;
+    const int first = static_cast<int>(std::max(0.0, from));
+    const int last = static_cast<int>(std::min(lastColumn, std::floor(right / Cell)));
+    for (int word = first / WordBits; word <= last / WordBits; ++word) {
+      std::uint64_t mask = ~std::uint64_t(0);
+      if (word == first / WordBits)
+        mask &= ~std::uint64_t(0) << (first % WordBits);
+      if (word == last / WordBits)
+        mask &= ~std::uint64_t(0) >> (WordBits - 1 - last % WordBits);
+      if (!visit(static_cast<std::size_t>(row) * static_cast<std::size_t>(m_words) + static_cast<std::size_t>(word), mask))
+        return false;
+    }
+  }
+  return true;
+}
+
+bool OccupancyGrid::isFree(const TurnedBox &box) const {
+  return forEachWord(box, [this](std::size_t word, std::uint64_t mask) { return (m_cells[word] & mask) == 0; });
+}
+
+void OccupancyGrid::take(const TurnedBox &box) {
+  forEachWord(box, [this](std::size_t word, std::uint64_t mask) {
+    m_cells[word] |= mask;
+    return true;
+  });
+}

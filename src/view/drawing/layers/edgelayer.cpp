@@ -1,0 +1,253 @@
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <drawing/edgelayer.h>
+#include <drawing/layergeometry.h>
+#include <unordered_map>
+
+namespace {
+
+constexpr double EdgeZ = 10.0;
+constexpr double WidthStep = 0.25; // px: widths are rounded so that many edges share a pen
+
+constexpr unsigned WidthShift = 32;
+constexpr unsigned RankShift = 48;
+
+/// A number a pen, ascending in drawing order: what says nothing lies below, narrow lines below broad ones.
+std::uint64_t penKey(const EdgeLook &look) {
+  constexpr double Broadest = 200.0;
+  const auto width = static_cast<std::uint64_t>(std::lround(qBound(0.0, look.width, Broadest) / WidthStep));
+  return (std::uint64_t(!look.isBackground) << RankShift) | (width << WidthShift) | look.color;
+}
+
+QPen penOf(std::uint64_t key) {
+  constexpr std::uint64_t WidthMask = 0xffff;
+  const double width = static_cast<double>((key >> WidthShift) & WidthMask) * WidthStep;
+  return {QColor(static_cast<QRgb>(key)), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+} // namespace
+
+EdgeLayer::EdgeLayer() {
+  setRenderHint(RenderAntialiased);
+  setZ(EdgeZ);
+}
+
+void EdgeLayer::setEdges(const NetGeometry &geometry) {
+  std::vector<SpatialIndex::Box> boxes;
+  std::vector<int> positions;
+  boxes.reserve(geometry.edges().size());
+  positions.reserve(geometry.edges().size());
+  for (std::size_t i = 0; i < geometry.edges().size(); ++i) {
+    const NetGeometry::Edge &edge = geometry.edges()[i];
+    if (!geometry.isPlaced(edge))
+      continue;
+    const QLineF line = geometry.line(edge);
+    const auto [x1, x2] = std::minmax({line.x1(), line.x2()});
+    const auto [y1, y2] = std::minmax({line.y1(), line.y2()});
+    boxes.push_back({x1, y1, x2, y2});
+    positions.push_back(static_cast<int>(i));
+  }
+  const std::vector<int> order = m_index.build(boxes);
+  m_records.clear();
+  m_records.reserve(order.size());
+  for (const int box : order) {
+    Record record;
+    record.edge = positions[static_cast<std::size_t>(box)];
+    const NetGeometry::Edge &edge = geometry.edges()[static_cast<std::size_t>(record.edge)];
+    const QLineF line = geometry.line(edge);
+    record.x1 = line.x1();
+    record.y1 = line.y1();
+    record.x2 = line.x2();
+    record.y2 = line.y2();
+    record.lane = edge.lane;
+    record.hasSymbol = edge.type != 'p';
+    m_records.push_back(record);
+  }
+}
+
+void EdgeLayer::setLooks(const std::vector<EdgeLook> &looks) {
+  // Number the pens as they come, then put them into drawing order.
+  std::unordered_map<std::uint64_t, int> numbers;
+  std::vector<std::uint64_t> keys;
+  for (Record &record : m_records) {
+    const EdgeLook &look = looks[static_cast<std::size_t>(record.edge)];
+    if (look.isHidden) {
+      record.pen = -1;
+      continue;
+    }
+    const std::uint64_t key = penKey(look);
+    record.flow = static_cast<signed char>(look.flow);
+    const auto [known, isNew] = numbers.try_emplace(key, static_cast<int>(keys.size()));
+    if (isNew)
+      keys.push_back(key);
+    record.pen = known->second;
+  }
+  std::vector<std::uint64_t> sorted = keys;
+  std::sort(sorted.begin(), sorted.end());
+  std::vector<int> places;
+  places.reserve(keys.size());
+  for (const std::uint64_t key : keys)
+    places.push_back(static_cast<int>(std::lower_bound(sorted.begin(), sorted.end(), key) - sorted.begin()));
+  for (Record &record : m_records)
+    record.pen = record.pen < 0 ? record.pen : places[static_cast<std::size_t>(record.pen)];
+
+  m_pens.clear();
+  m_widest = 0.0;
+  for (const std::uint64_t key : sorted) {
+    m_pens.push_back(penOf(key));
+    m_widest = std::max(m_widest, m_pens.back().widthF());
+  }
+}
+
+void EdgeLayer::clear() {
+  m_records.clear();
+  m_index.clear();
+  m_pens.clear();
+}
+
+LaneWay EdgeLayer::way(const Record &record, const Projection &projection) const {
+  const QLineF line(projection.map(record.x1, record.y1), projection.map(record.x2, record.y2));
+  if (record.lane == 0.0F)
+    return {line, 0.0};
+  const double width = m_pens[static_cast<std::size_t>(record.pen)].widthF();
+  return {line, static_cast<double>(record.lane) * laneSpacing(record.hasSymbol, width, m_symbolSize)};
+}
+
+void EdgeLayer::addLines(const Record &record, const Projection &projection, const QRectF &area,
+                         std::vector<VisibleLine> &lines, std::vector<Arrow> &arrows) const {
+  QLineF line(projection.map(record.x1, record.y1), projection.map(record.x2, record.y2));
+  if (record.lane != 0.0F) {
+    const LaneWay beside = way(record, projection);
+    for (QLineF end : {QLineF(beside.start, beside.first), QLineF(beside.second, beside.end)}) {
+      if (clipLine(end, area))
+        lines.push_back({end, record.pen});
+    }
+    line = beside.middle();
+  }
+  const QLineF whole = line;
+  if (!clipLine(line, area))
+    return;
+  lines.push_back({line, record.pen});
+  if (record.flow != 0)
+    addArrows(record, whole, area, arrows);
+}
+
+void EdgeLayer::addArrows(const Record &record, const QLineF &line, const QRectF &area, std::vector<Arrow> &arrows) const {
+  constexpr double ShortestLine = 3.5; // arrows
+  constexpr double Spacing = 14.0;     // arrows
+  const double dx = line.dx();
+  const double dy = line.dy();
+  const double square = dx * dx + dy * dy;
+  const double shortest = m_arrowSize * ShortestLine + (record.hasSymbol ? m_symbolSize : 0.0);
+  if (!(square >= shortest * shortest) || m_arrowSize <= 0.0)
+    return;
+  const double length = std::sqrt(square);
+  double count = std::max(1.0, std::floor(length / (m_arrowSize * Spacing)));
+  if (record.hasSymbol)
+    count += std::fmod(count, 2.0); // none in the middle, where the symbol stands
+  QLineF visible = line;
+  if (!clipLine(visible, area))
+    return;
+  const auto place = [&](const QPointF &p) {
+    return ((p.x() - line.x1()) * dx + (p.y() - line.y1()) * dy) / square * count - 0.5;
+  };
+  const QPointF along = QPointF(dx, dy) / length * static_cast<double>(record.flow);
+  constexpr double Half = 0.5;
+  const double last = std::floor(place(visible.p2()));
+  for (double i = std::max(0.0, std::ceil(place(visible.p1()))); i <= last && i < count; i += 1.0)
+    arrows.push_back({line.pointAt((i + Half) / count) + along * m_arrowSize * Half, along, record.pen});
+}
+
+void EdgeLayer::drawArrows(QPainter &painter, const std::vector<Arrow> &arrows) const {
+  constexpr double WidthShare = 0.38; // to each side of the line
+  constexpr double Notch = 0.75;      // how deep the back is cut
+  constexpr int Darker = 150;
+  constexpr std::size_t Many = 500; // too many to look at each
+  const QColor halo(255, 255, 255, 200);
+  if (arrows.size() > Many)
+    painter.setPen(Qt::NoPen);
+  else
+    painter.setPen(QPen(halo, 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  for (const Arrow &arrow : arrows) {
+    const QPen &pen = m_pens[static_cast<std::size_t>(arrow.pen)];
+    const double size = m_arrowSize + pen.widthF();
+    const QPointF back = arrow.tip - arrow.along * size;
+    const QPointF side = QPointF(-arrow.along.y(), arrow.along.x()) * size * WidthShare;
+    painter.setBrush(pen.color().darker(Darker));
+    painter.drawPolygon(
+        QPolygonF(QVector<QPointF>{arrow.tip, back + side, arrow.tip - arrow.along * size * Notch, back - side}));
+  }
+}
+
+double EdgeLayer::widthFactor(const std::vector<VisibleLine> &lines, const QRectF &canvas) const {
+  double length = 1.0;
+  for (const VisibleLine &line : lines)
+    length += std::sqrt(line.line.dx() * line.line.dx() + line.line.dy() * line.line.dy());
+  constexpr double Share = 0.6; // of the way between two lines, if they were spread evenly
+  const double room = Share * canvas.width() * canvas.height() / length;
+  return m_widest > room ? room / m_widest : 1.0;
+}
+
+void EdgeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
+  constexpr std::size_t ManyLines = 20000; // beyond it nobody sees the caps, but they cost half the frame
+  const Projection projection(xMap, yMap, canvasRect);
+  if (!projection.isValid())
+    return;
+  const double margin = m_widest + 1.0;
+  const QRectF area = canvasRect.adjusted(-margin, -margin, margin, margin);
+  std::vector<VisibleLine> visible;
+  std::vector<Arrow> arrows;
+  m_index.query(projection.visible(margin), [&](int first, int last) {
+    for (int i = first; i < last; ++i) {
+      const Record &record = m_records[static_cast<std::size_t>(i)];
+      if (record.pen >= 0)
+        addLines(record, projection, area, visible, arrows);
+    }
+  });
+
+  // Counting sort by pen: starts[pen] is where the lines of the pen begin.
+  std::vector<std::size_t> starts(m_pens.size() + 1, 0);
+  for (const VisibleLine &line : visible)
+    ++starts[static_cast<std::size_t>(line.pen) + 1];
+  for (std::size_t pen = 1; pen < starts.size(); ++pen)
+    starts[pen] += starts[pen - 1];
+  std::vector<QLineF> sorted(visible.size());
+  std::vector<std::size_t> next = starts;
+  for (const VisibleLine &line : visible)
+    sorted[next[static_cast<std::size_t>(line.pen)]++] = line.line;
+
+  constexpr double NextWidth = 1.4; // px: below it a line looks like one of a pixel, which is drawn much quicker
+  const double factor = widthFactor(visible, canvasRect);
+  for (std::size_t i = 0; i < m_pens.size(); ++i) {
+    const std::size_t count = starts[i + 1] - starts[i];
+    if (count == 0)
+      continue;
+    QPen pen = m_pens[i];
+    const double width = pen.widthF() * factor;
+    pen.setWidthF(factor < 1.0 && width < NextWidth ? std::min(pen.widthF(), 1.0) : width);
+    if (visible.size() > ManyLines)
+      pen.setCapStyle(Qt::FlatCap);
+    painter->setPen(pen);
+    painter->drawLines(&sorted[starts[i]], static_cast<int>(count));
+  }
+  drawArrows(*painter, arrows);
+}
+
+void EdgeLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {
+  const double reach = tolerance + m_widest;
+  m_index.query(projection.around(point, reach + m_symbolSize), [&](int first, int last) {
+    for (int i = first; i < last; ++i) {
+      const Record &record = m_records[static_cast<std::size_t>(i)];
+      if (record.pen < 0)
+        continue;
+      const LaneWay line = way(record, projection);
+      const double distance =
+          std::min({distanceToLine(point, line.middle()), distanceToLine(point, {line.start, line.first}),
+                    distanceToLine(point, {line.second, line.end})});
+      const double halfWidth = m_pens[static_cast<std::size_t>(record.pen)].widthF() * 0.5;
+      if (distance - halfWidth <= tolerance)
+        hits.push_back({{NetData::Edge, record.edge}, distance, HitRank::Line});
+    }
+  });
+}

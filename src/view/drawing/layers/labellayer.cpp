@@ -1,0 +1,97 @@
+#include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
+#include <QTextDocument>
+
+#include <cmath>
+#include <drawing/labellayer.h>
+
+namespace {
+
+constexpr double LabelZ = 2000.0; // above the boxes of subnets
+
+} // namespace
+
+LabelLayer::LabelLayer() {
+  setRenderHint(RenderAntialiased);
+  setZ(LabelZ);
+}
+
+void LabelLayer::setLabels(std::vector<Label> labels, double unitsPerPixel) {
+  m_labels = std::move(labels);
+  m_unitsPerPixel = unitsPerPixel;
+}
+
+void LabelLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
+  constexpr double SameScale = 0.01;
+  const Projection projection(xMap, yMap, canvasRect);
+  if (!projection.isValid() || m_labels.empty())
+    return;
+  const double units = std::abs(xMap.sDist() / xMap.pDist());
+  const bool isSameScale = std::abs(units - m_unitsPerPixel) <= SameScale * units;
+  OccupancyGrid grid(canvasRect);
+  for (const Label &label : m_labels) {
+    const QPointF anchor = projection.map(label.place.p1().x(), label.place.p1().y());
+    const QPointF end = projection.map(label.place.p2().x(), label.place.p2().y());
+    LabelCandidate candidate = label.candidate;
+    candidate.line = {anchor, end};
+    const TurnedBox box = candidate.box(label.spot);
+    if (!canvasRect.intersects(box.bounds()))
+      continue;
+    if (!isSameScale) { // until they are placed anew, those that came too near stand back
+      if (!grid.isFree(box))
+        continue;
+      grid.take(box);
+    }
+    drawLabel(*painter, label, candidate.anchor(label.spot.along) + label.spot.offset);
+  }
+}
+
+void LabelLayer::drawLines(QPainter &painter, const Label &label, QPointF top) {
+  const bool isVector = isVectorTarget(painter);
+  const double ascent = isVector ? QFontMetricsF(label.style.font).ascent() : 0.0;
+  painter.setFont(label.style.font);
+  for (const QStaticText &line : label.lines) {
+    QPointF corner = top - QPointF(line.size().width() * 0.5, 0.0);
+    if (isVector) { // prepared text would be written as outlines
+      painter.drawText(corner + QPointF(0.0, ascent), line.text());
+    } else {
+      if (label.spot.angle == 0.0) // upright text stands on whole pixels, where it is sharpest
+        corner = {std::round(corner.x()), std::round(corner.y())};
+      painter.drawStaticText(corner, line);
+    }
+    top.ry() += line.size().height();
+  }
+}
+
+void LabelLayer::drawLabel(QPainter &painter, const Label &label, const QPointF &center) {
+  const QSizeF size = label.candidate.size;
+  const bool isTurned = label.spot.angle != 0.0;
+  if (isTurned) {
+    painter.save();
+    painter.translate(center);
+    painter.rotate(label.spot.angle);
+  }
+  const QPointF middle = isTurned ? QPointF() : center;
+  const QRectF box(middle - QPointF(size.width() * 0.5, size.height() * 0.5), size);
+  if (label.style.background.alpha() > 0 || label.style.border.alpha() > 0) {
+    painter.setPen(label.style.border.alpha() > 0 ? QPen(label.style.border, 1.0) : QPen(Qt::NoPen));
+    painter.setBrush(label.style.background.alpha() > 0 ? QBrush(label.style.background) : QBrush(Qt::NoBrush));
+    painter.drawRect(box);
+  }
+  painter.setPen(label.style.text);
+  if (label.document != nullptr) {
+    painter.save();
+    painter.translate(box.topLeft());
+    const QRectF area(QPointF(), box.size());
+    painter.setClipRect(area, Qt::IntersectClip);
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette.setColor(QPalette::Text, label.style.text);
+    context.clip = area;
+    label.document->documentLayout()->draw(&painter, context);
+    painter.restore();
+  } else {
+    drawLines(painter, label, {middle.x(), box.top() + padding().height()});
+  }
+  if (isTurned)
+    painter.restore();
+}

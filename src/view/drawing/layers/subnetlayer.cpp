@@ -1,0 +1,210 @@
+#include <base/generalsettings.h>
+#include <model/elementstate.h>
+#include <model/subnetstate.h>
+
+#include <algorithm>
+#include <drawing/subnetlayer.h>
+
+namespace {
+
+QString setting(const char *key) {
+  return GeneralSettings::instance().value(QString::fromLatin1(key));
+}
+
+QColor colorSetting(const char *key) {
+  const QColor color(setting(key));
+  return color.isValid() ? color : QColor(Qt::gray);
+}
+
+bool isSearchResult(const element &subnet) {
+  const PropertyText *text = subnet.find(QStringLiteral("isSearchResult"));
+  return text != nullptr && text->isOn();
+}
+
+QColor controlColor(const NetData &net, const element &subnet) {
+  const PropertyText control(SubnetState::of(net, subnet));
+  const QString state = control.toString().toLower();
+  const auto says = [&state](const char *word) {
+    return state.contains(QLatin1String(word));
+  };
+  if (ElementState::saysOff(&control) || ElementState::isOutOfUse(subnet))
+    return colorSetting("subnet color off");
+  if (says("bypass"))
+    return colorSetting("subnet color bypass");
+  if (says("maybe"))
+    return colorSetting("subnet color maybe in control");
+  if (says("pressure"))
+    return colorSetting("subnet color pressure control");
+  if (says("flow"))
+    return colorSetting("subnet color flow control");
+  return colorSetting(says("control") ? "subnet color maybe in control" : "subnet color unknown");
+}
+
+/// Which bounds it violates, by its "CB_info": absent when nobody has checked, empty when there are none.
+QColor boundsColor(const element &subnet) {
+  const PropertyText *info = subnet.find(QStringLiteral("CB_info"));
+  if (info == nullptr)
+    return colorSetting("subnet ring color BV unknown");
+  const QString text = info->toString().remove(QLatin1Char('(')).remove(QLatin1Char(')')).remove(QLatin1Char(';')).trimmed();
+  if (text.isEmpty())
+    return colorSetting("subnet ring color no BV");
+  return colorSetting(text.contains(QLatin1String("major"), Qt::CaseInsensitive) ? "subnet ring color BV major"
+                                                                                 : "subnet ring color BV minor");
+}
+
+QColor ringColor(const NetData &net, const element &subnet) {
+  const QString mode = setting("show subnet ring colors");
+  if (mode == QLatin1String("BV status"))
+    return boundsColor(subnet);
+  if (mode == QLatin1String("SP/SM control"))
+    return controlColor(net, subnet);
+  if (mode == QLatin1String("search results") && isSearchResult(subnet))
+    return colorSetting("subnet ring color search result");
+  return colorSetting("subnet color unknown");
+}
+
+std::vector<QPointF> pinsOf(const NetGeometry::Place &subnet, const NetGeometry &geometry) {
+  std::vector<QPointF> pins;
+  for (const int node : subnet.pins) {
+    if (const std::optional<QPointF> place = geometry.center({NetData::Node, node}))
+      pins.push_back(*place);
+  }
+  return pins;
+}
+
+double positive(double number) {
+  return number > 0.0 ? number : 0.0; // NetData::NoValue is negative
+}
+
+} // namespace
+
+SubnetLayer::SubnetLayer() {
+  setRenderHint(RenderAntialiased);
+}
+
+void SubnetLayer::setTable(const SymbolTable &table) {
+  clear(); // the records hold numbers of the old symbols
+  m_symbols.setTable(table);
+}
+
+void SubnetLayer::setLook(double size, int alpha) {
+  constexpr int Opaque = 255;
+  m_size = size;
+  m_alpha = qBound(0, alpha, Opaque);
+  m_penWidth = qBound(0.0, setting("subnet pen width").toDouble(), 50.0);
+  m_groundMargin = qBound(0.0, setting("subnet background size").toDouble(), 200.0);
+  m_drawsPinLines = GeneralSettings::instance().isOn(QStringLiteral("draw subassembly pin lines"));
+  const QString mode = setting("subassembly size");
+  m_takesWidth = mode.contains(QLatin1String("width"));
+  m_takesVisSize = mode.contains(QLatin1String("vis.size"));
+  setZ(setting("subnet background z").toDouble());
+}
+
+void SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry) {
+  m_records.clear();
+  for (const NetGeometry::Place &subnet : geometry.subnets()) {
+    const element &source = *subnet.source;
+    const auto number = [&source](const char *key) {
+      return NetData::number(source.find(PropertyKey::find(key)));
+    };
+    Record record;
+    record.center = {subnet.x, subnet.y};
+    record.pins = pinsOf(subnet, geometry);
+    record.width = positive(number("width")) * geometry.plotUnits();
+    record.visSize = positive(number("vis.size"));
+    const int ofKind = m_symbols.find(source.value(QStringLiteral("variant")));
+    record.symbol = ofKind >= 0 ? ofKind : m_symbols.find(QStringLiteral("sub"));
+    record.ring = ringColor(net, source);
+    record.ground = controlColor(net, source);
+    m_records.push_back(record);
+  }
+}
+
+double SubnetLayer::sizeOf(const Record &record, const Projection &projection) const {
+  constexpr double WidthShare = 0.5; // the pins stay outside of the box
+  constexpr double Largest = 400.0;
+  double size = m_takesVisSize && record.visSize > 0.0 ? record.visSize : m_size;
+  if (m_takesWidth) {
+    const QPointF across = projection.map(record.center.x() + record.width, record.center.y()) -
+                           projection.map(record.center.x(), record.center.y());
+    size = std::max(m_takesVisSize ? size : m_size, std::abs(across.x()) * WidthShare);
+  }
+  return std::min(size, Largest);
+}
+
+std::vector<SubnetLayer::Placed> SubnetLayer::place(const Projection &projection) const {
+  std::vector<Placed> placed;
+  if (!projection.isValid())
+    return placed;
+  ClusterGrid grid(projection.canvas(), std::max(m_size, 1.0) * 0.55);
+  for (std::size_t i = 0; i < m_records.size(); ++i) {
+    const Record &record = m_records[i];
+    const QPointF center = projection.map(record.center.x(), record.center.y());
+    const double size = sizeOf(record, projection);
+    QRectF box(0.0, 0.0, size, size);
+    box.moveCenter(center);
+    if (isHidden(i) || !box.intersects(projection.canvas()))
+      continue;
+    const int number = grid.claim(center, static_cast<int>(placed.size()));
+    if (number < static_cast<int>(placed.size()))
+      ++placed[static_cast<std::size_t>(number)].others;
+    else
+      placed.push_back({static_cast<int>(i), box, 0});
+  }
+  return placed;
+}
+
+void SubnetLayer::drawPins(QPainter &painter, const Record &record, const QRectF &box, const Projection &projection) const {
+  constexpr double PinSize = 5.0;
+  const QRectF area = projection.canvas().adjusted(-PinSize, -PinSize, PinSize, PinSize);
+  const QColor ink(60, 70, 80);
+  for (const QPointF &pin : record.pins) {
+    QLineF line(box.center(), projection.map(pin.x(), pin.y()));
+    if (m_drawsPinLines && clipLine(line, area)) {
+      painter.setPen(QPen(ink, 1.2, Qt::DotLine));
+      painter.drawLine(line);
+    }
+    const QPointF end = projection.map(pin.x(), pin.y());
+    if (!area.contains(end))
+      continue;
+    painter.setPen(QPen(ink, 1.0));
+    painter.setBrush(Qt::white);
+    painter.drawRect(QRectF(end - QPointF(PinSize, PinSize) * 0.5, QSizeF(PinSize, PinSize)));
+  }
+}
+
+void SubnetLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
+  const Projection projection(xMap, yMap, canvasRect);
+  const std::vector<Placed> placed = place(projection);
+  for (const Placed &p : placed)
+    drawPins(*painter, m_records[static_cast<std::size_t>(p.subnet)], p.box, projection);
+  for (const Placed &p : placed) {
+    constexpr double Rounding = 0.18;
+    constexpr double SymbolShare = 0.8;
+    const Record &record = m_records[static_cast<std::size_t>(p.subnet)];
+    const double size = p.box.width();
+    QColor ground = record.ground;
+    ground.setAlpha(m_alpha);
+    const double margin = std::min(m_groundMargin, size) * 0.5;
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(ground);
+    painter->drawRoundedRect(p.box.adjusted(-margin, -margin, margin, margin), size * Rounding, size * Rounding);
+    painter->setPen(m_penWidth > 0.0 ? QPen(record.ring, m_penWidth) : QPen(Qt::NoPen));
+    painter->setBrush(Qt::white);
+    painter->drawRoundedRect(p.box, size * Rounding, size * Rounding);
+    if (record.symbol >= 0)
+      m_symbols.draw(*painter, record.symbol, p.box.center(), size * SymbolShare, 0.0);
+    if (p.others > 0)
+      m_symbols.drawCount(*painter, p.box.topRight(), p.others + 1);
+  }
+}
+
+void SubnetLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {
+  for (std::size_t i = 0; i < m_records.size(); ++i) {
+    const Record &record = m_records[i];
+    const QPointF to = projection.map(record.center.x(), record.center.y()) - point;
+    const double half = sizeOf(record, projection) * 0.5;
+    if (!isHidden(i) && std::abs(to.x()) <= half && std::abs(to.y()) <= half)
+      hits.push_back({{NetData::AssembledSubnet, static_cast<int>(i)}, std::hypot(to.x(), to.y()), HitRank::Box});
+  }
+}

@@ -1,0 +1,217 @@
+#include <algorithm>
+#include <drawing/subnetlayer.h>
+#include <drawing/symbollayer.h>
+
+namespace {
+
+constexpr double SymbolZ = 30.0;
+constexpr double LargestSymbol = 512.0; // px
+
+/// Place in this order is the priority; pipes have no symbol.
+int priorityOf(char type) {
+  constexpr std::string_view Order = "crgwkfvsd";
+  const std::size_t place = Order.find(type);
+  return static_cast<int>(place == std::string_view::npos ? Order.size() : place);
+}
+
+} // namespace
+
+SymbolLayer::SymbolLayer() {
+  setRenderHint(RenderAntialiased);
+  setZ(SymbolZ);
+}
+
+void SymbolLayer::setTable(const SymbolTable &table) {
+  clear(); // the records hold numbers of the old symbols
+  m_symbols.setTable(table);
+}
+
+int SymbolLayer::symbolOf(const NetGeometry::Edge &edge) {
+  const QString type(QLatin1Char(edge.type));
+  const PropertyKey own = PropertyKey::find("vis.symbol");
+  int symbol = own.isNull() ? -1 : m_symbols.find(edge.source->value(own).trimmed());
+  if (symbol >= 0)
+    return symbol;
+  if (edge.isInactive)
+    symbol = m_symbols.find(type + QStringLiteral("_off"));
+  else if (edge.isBypass)
+    symbol = m_symbols.find(type + QStringLiteral("_bypass"));
+  return symbol >= 0 ? symbol : m_symbols.find(type);
+}
+
+std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometry) {
+  std::vector<Record> found;
+  const auto shareOf = [this](const QString &type) {
+    return static_cast<float>(m_sizes.contains(type) && m_size > 0.0 ? m_sizes.value(type) / m_size : 1.0);
+  };
+  for (std::size_t i = 0; i < geometry.edges().size(); ++i) {
+    const NetGeometry::Edge &edge = geometry.edges()[i];
+    if (edge.type == 'p' || !geometry.isPlaced(edge))
+      continue;
+    const QLineF line = geometry.line(edge);
+    Record record;
+    record.x = line.center().x();
+    record.y = line.center().y();
+    record.dx = line.dx();
+    record.dy = line.dy();
+    record.item = {NetData::Edge, static_cast<int>(i)};
+    record.symbol = symbolOf(edge);
+    record.priority = priorityOf(edge.type);
+    record.lane = edge.lane;
+    record.size = m_sizes.isEmpty() ? 1.0F : shareOf(QString(QLatin1Char(edge.type)));
+    found.push_back(record);
+  }
+  for (std::size_t i = 0; i < geometry.nodes().size(); ++i) {
+    const NetGeometry::Node &node = geometry.nodes()[i];
+    if (!node.isDrive || !node.isPlaced)
+      continue;
+    Record record;
+    record.x = node.x;
+    record.y = node.y;
+    record.item = {NetData::Node, static_cast<int>(i)};
+    record.symbol = m_symbols.find(QStringLiteral("d"));
+    record.priority = priorityOf('d');
+    record.size = shareOf(QStringLiteral("d"));
+    found.push_back(record);
+  }
+  found.erase(std::remove_if(found.begin(), found.end(), [](const Record &r) { return r.symbol < 0; }), found.end());
+  return found;
+}
+
+void SymbolLayer::setStations(const NetGeometry &geometry) {
+  clear();
+  std::vector<Record> found = records(geometry);
+  m_figures.read(geometry);
+  for (Record &record : found)
+    record.figure = m_figures.find(record.item);
+  for (const NetGeometry::Item item : m_figures.itemsBesides(found)) {
+    Record record;
+    record.x = geometry.center(item)->x();
+    record.y = geometry.center(item)->y();
+    record.item = item;
+    record.figure = m_figures.find(item);
+    found.push_back(record);
+  }
+  std::vector<SpatialIndex::Box> boxes;
+  boxes.reserve(found.size());
+  for (const Record &r : found)
+    boxes.push_back({r.x, r.y, r.x, r.y});
+  m_records.reserve(found.size());
+  for (const int i : m_index.build(boxes))
+    m_records.push_back(found[static_cast<std::size_t>(i)]);
+}
+
+void SymbolLayer::setVisibility(const VisibilityRules &rules, const LayerFilter &layers) {
+  for (Record &record : m_records)
+    record.isVisible = rules.of(record.item) != VisibilityRules::State::Off && !layers.isHidden(record.item);
+  m_layout.reset(); // also for the boxes of subnets, which follow the same rules
+}
+
+void SymbolLayer::clear() {
+  m_records.clear();
+  m_index.clear();
+  m_figures.clear();
+  m_layout.reset();
+}
+
+QPointF SymbolLayer::centerOf(const Record &r, const Projection &projection) const {
+  if (r.lane == 0.0F)
+    return projection.map(r.x, r.y);
+  const QLineF line(projection.map(r.x - r.dx * 0.5, r.y - r.dy * 0.5), projection.map(r.x + r.dx * 0.5, r.y + r.dy * 0.5));
+  return LaneWay(line, static_cast<double>(r.lane) * laneSpacing(true, 0.0, m_size)).middle().center();
+}
+
+const std::vector<SymbolLayer::Placed> &SymbolLayer::place(const Projection &projection) const {
+  if (!m_layout || !(m_layout->projection == projection))
+    m_layout = layOut(projection);
+  return m_layout->placed;
+}
+
+SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
+  Layout layout{projection, {}, {}};
+  std::vector<Placed> &placed = layout.placed;
+  if (!projection.isValid() || m_size <= 0.0)
+    return layout;
+  const double margin = m_size * 2.0; // lanes move symbols a little
+  const QRectF area = projection.canvas().adjusted(-m_size, -m_size, m_size, m_size);
+  std::vector<QRectF> boxes;
+  if (m_subnets != nullptr)
+    for (const SubnetLayer::Placed &subnet : m_subnets->place(projection))
+      boxes.push_back(subnet.box);
+  const auto isBehindBox = [&boxes](const QPointF &center) {
+    return std::any_of(boxes.begin(), boxes.end(), [&center](const QRectF &box) { return box.contains(center); });
+  };
+  std::vector<std::pair<int, QPointF>> visible; // record and place
+  m_index.query(projection.visible(margin), [&](int first, int last) {
+    for (int i = first; i < last; ++i) {
+      const Record &record = m_records[static_cast<std::size_t>(i)];
+      if (!record.isVisible)
+        continue;
+      const QPointF center = centerOf(record, projection);
+      if (area.contains(center) && !isBehindBox(center))
+        visible.emplace_back(i, center);
+    }
+  });
+  const auto record = [this](int i) -> const Record & {
+    return m_records[static_cast<std::size_t>(i)];
+  };
+  std::sort(visible.begin(), visible.end(), [&](const auto &a, const auto &b) {
+    return std::make_pair(record(a.first).priority, a.first) < std::make_pair(record(b.first).priority, b.first);
+  });
+
+  // Symbols shrink where they are many, but stay legible; those that then overlap stand behind one of them.
+  constexpr double Share = 0.6;
+  constexpr double Legible = 12.0;
+  constexpr double Apart = 0.55; // cells of this share of a symbol, one free cell between two symbols
+  constexpr double Degrees = 180.0 / M_PI;
+  const QRectF &canvas = projection.canvas();
+  const double room =
+      std::sqrt(canvas.width() * canvas.height() / static_cast<double>(std::max<std::size_t>(visible.size(), 1)));
+  const double size = std::min(m_size, std::max(Legible, room * Share));
+  ClusterGrid grid(area, size * Apart);
+  for (const auto &[i, center] : visible) {
+    const int number = grid.claim(center, static_cast<int>(placed.size()));
+    if (number < static_cast<int>(placed.size())) {
+      ++placed[static_cast<std::size_t>(number)].others;
+      layout.behind.emplace_back(number, i);
+      continue;
+    }
+    const Record &r = record(i);
+    const QPointF ahead = projection.map(r.x + r.dx, r.y + r.dy) - projection.map(r.x, r.y);
+    const double angle = ahead.isNull() ? 0.0 : std::atan2(ahead.y(), ahead.x()) * Degrees;
+    placed.push_back({r.item, center, qBound(1.0, size * static_cast<double>(r.size), LargestSymbol),
+                      std::isfinite(angle) ? angle : 0.0, 0, i});
+  }
+  return layout;
+}
+
+void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
+  const std::vector<Placed> &placed = place(Projection(xMap, yMap, canvasRect));
+  for (const Placed &p : placed) {
+    const Record &r = m_records[static_cast<std::size_t>(p.record)];
+    if (r.figure < 0 || !m_figures.draw(*painter, r.figure, p.center, p.size))
+      if (r.symbol >= 0)
+        m_symbols.draw(*painter, r.symbol, p.center, p.size, p.angle);
+  }
+  for (const Placed &p : placed) {
+    if (p.others > 0)
+      m_symbols.drawCount(*painter, p.center + QPointF(p.size, -p.size) * 0.5, p.others + 1);
+  }
+}
+
+void SymbolLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {
+  const std::vector<Placed> &placed = place(projection);
+  for (std::size_t i = 0; i < placed.size(); ++i) {
+    const QPointF to = placed[i].center - point;
+    const double distance = std::hypot(to.x(), to.y());
+    if (distance > placed[i].size * 0.5)
+      continue;
+    hits.push_back({placed[i].item, distance, HitRank::Symbol});
+    if (placed[i].others == 0)
+      continue;
+    for (const auto &[number, record] : m_layout->behind) {
+      if (number == static_cast<int>(i))
+        hits.push_back({m_records[static_cast<std::size_t>(record)].item, distance, HitRank::Symbol});
+    }
+  }
+}

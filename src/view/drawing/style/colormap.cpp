@@ -1,0 +1,158 @@
+#include <QColor>
+
+#include <algorithm>
+#include <cmath>
+#include <drawing/colormap.h>
+
+namespace {
+
+constexpr double Last = TableColorMap::Colors - 1;
+
+// Samples at equal steps. Viridis and cividis: S. van der Walt and N. Smith (2015), J. Nunez, C. Anderton and R. Renslow
+// (2018). Blue to red: the scheme RdBu of C. Brewer, turned round, with a grey middle: thin lines of its white would be
+// lost on white paper.
+constexpr std::array<QRgb, 11> Viridis{0xff440154, 0xff482475, 0xff414487, 0xff355f8d, 0xff2a788e, 0xff21918c,
+                                       0xff22a884, 0xff44bf70, 0xff7ad151, 0xffbddf26, 0xfffde725};
+constexpr std::array<QRgb, 11> Cividis{0xff00224e, 0xff0f306b, 0xff35426c, 0xff4e576c, 0xff666970, 0xff7d7c78,
+                                       0xff958f78, 0xffada373, 0xffc8b866, 0xffe4cf5b, 0xfffee838};
+constexpr std::array<QRgb, 11> BlueGreyRed{0xff053061, 0xff2166ac, 0xff4393c3, 0xff92c5de, 0xffacc9da, 0xffc8c8c8,
+                                           0xffe4b8a2, 0xfff4a582, 0xffd6604d, 0xffb2182b, 0xff67001f};
+
+template <std::size_t Count>
+QRgb between(const std::array<QRgb, Count> &samples, double fraction) {
+  const double place = qBound(0.0, fraction, 1.0) * (Count - 1);
+  const auto first = std::min(static_cast<std::size_t>(place), Count - 2);
+  const double share = place - static_cast<double>(first);
+  const auto mix = [share](int a, int b) {
+    return static_cast<int>(std::lround(a + (b - a) * share));
+  };
+  const QRgb a = samples[first];
+  const QRgb b = samples[first + 1];
+  return qRgb(mix(qRed(a), qRed(b)), mix(qGreen(a), qGreen(b)), mix(qBlue(a), qBlue(b)));
+}
+
+double linear(const QwtInterval &interval, double value) {
+  constexpr double Middle = 0.5;
+  const double width = interval.maxValue() - interval.minValue();
+  if (!(width > 0.0) || std::isnan(value))
+    return Middle;
+  return qBound(0.0, (value - interval.minValue()) / width, 1.0);
+}
+
+} // namespace
+
+const QStringList &ColorRamp::names() {
+  static const QStringList known{QStringLiteral("hue"), QStringLiteral("viridis"), QStringLiteral("cividis"),
+                                 QStringLiteral("diverging")};
+  return known;
+}
+
+ColorRamp::Kind ColorRamp::kindOf(const QString &name) {
+  return static_cast<Kind>(std::max(0, names().indexOf(name)));
+}
+
+QRgb ColorRamp::color(double fraction) const {
+  switch (kind) {
+  case Kind::Viridis:
+    return between(Viridis, fraction);
+  case Kind::Cividis:
+    return between(Cividis, fraction);
+  case Kind::Diverging:
+    return between(BlueGreyRed, fraction);
+  case Kind::Hue:
+    break;
+  }
+  constexpr double Circle = 360.0;
+  constexpr int Full = 255;
+  double turned = std::fmod(firstHue + fraction * (double(lastHue) - firstHue), Circle);
+  if (turned < 0.0)
+    turned += Circle;
+  const double h = qBound(0.0, turned / Circle, 1.0);
+  return QColor::fromHsvF(h, qBound(0, saturation, Full) / double(Full), qBound(0, lightness, Full) / double(Full)).rgb();
+}
+
+QRgb HueColorMap::rgb(const QwtInterval &interval, double value) const {
+  return m_ramp.color(fraction(interval, value));
+}
+
+unsigned char HueColorMap::colorIndex(const QwtInterval &interval, double value) const {
+  return static_cast<unsigned char>(std::lround(fraction(interval, value) * Last));
+}
+
+double HueColorMap::fraction(const QwtInterval &interval, double value) const {
+  return linear(interval, value);
+}
+
+double LogarithmicColorMap::fraction(const QwtInterval &interval, double value) const {
+  constexpr double Scale = 100.0;
+  double c = Scale / std::exp2(std::abs(m_logFactor));
+  if (c == 0.0)
+    c = 1.0 / std::log(10.0);
+  const auto bend = [c](double x) {
+    return std::copysign(std::log10(std::abs(x / c) + 1.0), x);
+  };
+  const double lo = interval.minValue();
+  const double hi = interval.maxValue();
+  const double whole = bend(hi - lo);
+  const double bent = m_logFactor >= 0.0 ? bend(value - lo) / whole : 1.0 - bend(hi - value) / whole;
+  if (!(hi > lo) || !std::isfinite(bent))
+    return linear(interval, value);
+  return qBound(0.0, bent, 1.0);
+}
+
+TableColorMap::TableColorMap(const QwtColorMap &map, const QwtInterval &interval) {
+  for (std::size_t i = 0; i < m_colors.size(); ++i)
+    m_colors[i] = map.rgb(interval, interval.minValue() + interval.width() * (static_cast<double>(i) / Last));
+}
+
+void TableColorMap::setCaps(bool low, bool high) {
+  m_hasLowCap = low;
+  m_hasHighCap = high;
+}
+
+QRgb TableColorMap::rgb(const QwtInterval &interval, double value) const {
+  constexpr int Darker = 160;
+  const double tolerance = interval.width() * 1e-9;
+  if (!(interval.width() > 0.0))
+    return m_colors[colorIndex(interval, value)]; // one value, with nothing beyond it
+  if ((m_hasLowCap && value < interval.minValue() - tolerance) || (m_hasHighCap && value > interval.maxValue() + tolerance))
+    return QColor(m_colors[colorIndex(interval, value)]).darker(Darker).rgb();
+  return m_colors[colorIndex(interval, value)];
+}
+
+unsigned char TableColorMap::colorIndex(const QwtInterval &interval, double value) const {
+  return static_cast<unsigned char>(std::lround(linear(interval, value) * Last));
+}
+
+ClassColorMap::ClassColorMap(std::vector<double> breaks, const HueColorMap &map)
+    : m_breaks(std::move(breaks)) {
+  const auto steps = static_cast<double>(std::max<std::size_t>(m_breaks.size(), 1));
+  for (std::size_t i = 0; i <= m_breaks.size(); ++i)
+    m_colors.push_back(map.ramp().color(static_cast<double>(i) / steps));
+}
+
+QRgb ClassColorMap::rgb(const QwtInterval &interval, double value) const {
+  return m_colors[colorIndex(interval, value)];
+}
+
+unsigned char ClassColorMap::colorIndex(const QwtInterval &, double value) const {
+  return static_cast<unsigned char>(std::upper_bound(m_breaks.begin(), m_breaks.end(), value) - m_breaks.begin());
+}
+
+std::vector<double> ClassColorMap::equalBreaks(const QwtInterval &range, int classes) {
+  std::vector<double> breaks;
+  for (int i = 1; i < classes && range.width() > 0.0; ++i)
+    breaks.push_back(range.minValue() + range.width() * i / classes);
+  return breaks;
+}
+
+std::vector<double> ClassColorMap::quantileBreaks(std::vector<double> values, int classes) {
+  std::vector<double> breaks;
+  std::sort(values.begin(), values.end());
+  for (int i = 1; i < classes && !values.empty(); ++i) {
+    const double value = values[values.size() * static_cast<std::size_t>(i) / static_cast<std::size_t>(classes)];
+    if (value > values.front() && (breaks.empty() || value > breaks.back()))
+      breaks.push_back(value);
+  }
+  return breaks;
+}

@@ -1,0 +1,213 @@
+#include <model/netmetadata.h>
+
+#include <QSet>
+
+#include <algorithm>
+#include <array>
+#include <drawing/drawfunctions.h>
+#include <set>
+
+namespace {
+
+/// Whether the property tells elements of the collection apart, judged by the first ones that have it.
+bool varies(const NetData &net, const elements &collection, const QString &property) {
+  constexpr int Enough = 2000;
+  const PropertyKey key = PropertyKey::find(property);
+  if (key.isNull())
+    return false;
+  double first = NetData::NoValue;
+  int asked = 0;
+  for (const elements::Entry &entry : collection) {
+    const double value = net.value(entry.value, key);
+    if (value == NetData::NoValue)
+      continue;
+    if (first == NetData::NoValue)
+      first = value;
+    else if (value != first)
+      return true;
+    if (++asked > Enough)
+      break;
+  }
+  return false;
+}
+
+QString firstThatVaries(const NetData &net, const elements &collection, std::initializer_list<const char *> properties) {
+  for (const char *property : properties) {
+    QString name = QString::fromLatin1(property);
+    if (varies(net, collection, name))
+      return name;
+  }
+  return QString();
+}
+
+} // namespace
+
+namespace {
+
+struct NamedFunction {
+  const char *name;
+  const char *property;
+};
+
+constexpr std::array<NamedFunction, 15> NamedFunctions{{{"connectivity", "connectivity"},
+                                                        {"accum. length", "acclength"},
+                                                        {"mass flow", "m"},
+                                                        {"roughness", "roughness"},
+                                                        {"demand", "qset"},
+                                                        {"volume flow", "q"},
+                                                        {"height", "height"},
+                                                        {"input temperature", "tin"},
+                                                        {"temperature", "t"},
+                                                        {"input pressure", "pin"},
+                                                        {"pressure", "p"},
+                                                        {"temperature diff", "dt"},
+                                                        {"pressure diff", "dp"},
+                                                        {"pipe length", "length"},
+                                                        {"pipe diameter", "diameter"}}};
+
+/// How a property that no element carries comes about, and from which property of the end nodes.
+struct ComputedFunction {
+  const char *property;
+  DrawFunction::Computed computed;
+  const char *ofEnds;
+};
+
+constexpr std::array<ComputedFunction, 6> ComputedFunctions{{{"connectivity", DrawFunction::Computed::Connectivity, ""},
+                                                             {"acclength", DrawFunction::Computed::AccumulatedLength, ""},
+                                                             {"pin", DrawFunction::Computed::AtInlet, "p"},
+                                                             {"tin", DrawFunction::Computed::AtInlet, "t"},
+                                                             {"dp", DrawFunction::Computed::Difference, "p"},
+                                                             {"dt", DrawFunction::Computed::Difference, "t"}}};
+
+/// A property of drives alone counts as one of edges: drives are no part of what nodes show.
+bool isOfDrivesOnly(const NetMetaData &metaData, const QString &property) {
+  const auto &rows = metaData.attributes();
+  return std::none_of(rows.begin(), rows.end(), [&](const NetMetaData::Attribute &row) {
+    return row.property.compare(property, Qt::CaseInsensitive) == 0 && row.type != QLatin1String("d") &&
+           (row.type == QLatin1String("*") || metaData.kindOf(row.type) == NetData::Node);
+  });
+}
+
+/// Properties that say what or where an element is, or how it looks, though they may be written as numbers.
+bool isNoQuantity(const NetMetaData &metaData, const QString &property) {
+  static const QSet<QString> categories{QStringLiteral("identity"), QStringLiteral("drawing"), QStringLiteral("position"),
+                                        QStringLiteral("topology"), QStringLiteral("check"),   QStringLiteral("state")};
+  const QString name = property.toLower();
+  if (name.startsWith(QLatin1String("vis.")) || name.startsWith(QLatin1String("figure.")))
+    return true;
+  const NetMetaData::Attribute *row = metaData.anyAttribute(property);
+  return row != nullptr && (row->group == QLatin1String("hidden") || categories.contains(row->category));
+}
+
+/// The properties in which some element of the collection holds a number, unless hundreds before it held none. Drives are
+/// passed over.
+void addNumeric(const elements &collection, std::set<PropertyKey> &numeric) {
+  static const PropertyKey type = PropertyKey::intern("type");
+  constexpr int Patience = 500;
+  std::vector<int> asked; // by spelling: how often in vain, and Patience once it has said a number
+  for (const elements::Entry &entry : collection) {
+    const PropertyText *code = entry.value.find(type);
+    if (code != nullptr && code->utf8() == "d")
+      continue;
+    for (const Property &property : entry.value) {
+      if (property.key.index() >= asked.size())
+        asked.resize(property.key.index() + 1, 0);
+      int &count = asked[property.key.index()];
+      if (count >= Patience)
+        continue;
+      ++count;
+      if (NetData::number(&property.value) == NetData::NoValue)
+        continue;
+      count = Patience;
+      numeric.insert(property.key);
+    }
+  }
+}
+
+/// Their names, without those that have a fixed name and those that are no quantities.
+QStringList namesOf(const std::set<PropertyKey> &properties, const NetMetaData &metaData) {
+  QStringList names;
+  for (const PropertyKey key : properties) {
+    const QString name = key.name();
+    const bool isFixed = std::any_of(NamedFunctions.begin(), NamedFunctions.end(), [&name](const NamedFunction &named) {
+      return name.compare(QLatin1String(named.property), Qt::CaseInsensitive) == 0;
+    });
+    if (!isFixed && !isNoQuantity(metaData, name))
+      names.append(name);
+  }
+  return names;
+}
+
+} // namespace
+
+const QStringList &DrawFunction::fixedNames() {
+  static const QStringList names = [] {
+    QStringList list;
+    for (const NamedFunction &function : NamedFunctions)
+      list.append(QString::fromLatin1(function.name));
+    return list;
+  }();
+  return names;
+}
+
+QString DrawFunction::propertyName(const QString &function) {
+  const auto *found = std::find_if(NamedFunctions.begin(), NamedFunctions.end(), [&function](const NamedFunction &named) {
+    return function == QLatin1String(named.name);
+  });
+  return found == NamedFunctions.end() ? function : QString::fromLatin1(found->property);
+}
+
+DrawFunction::OfNetwork DrawFunction::ofNetwork(const NetData &net) {
+  OfNetwork found;
+  std::set<PropertyKey> numeric;
+  addNumeric(net.nodes(), numeric);
+  found.ofNodes = namesOf(numeric, *net.metaData());
+  addNumeric(net.edges(), numeric);
+  found.ofEdges = namesOf(numeric, *net.metaData());
+  return found;
+}
+
+DrawFunction DrawFunction::find(const QString &function, const NetData &net) {
+  const QString name = propertyName(function);
+  DrawFunction found;
+  found.property = PropertyKey::find(name);
+  found.title = function;
+  for (const ComputedFunction &known : ComputedFunctions) {
+    if (name.compare(QLatin1String(known.property), Qt::CaseInsensitive) != 0)
+      continue;
+    found.computed = known.computed;
+    found.ofEnds = PropertyKey::find(known.ofEnds);
+  }
+  const NetMetaData *metaData = net.metaData();
+  found.isOfNodes = metaData->nodeFunctions().contains(name, Qt::CaseInsensitive) && !isOfDrivesOnly(*metaData, name);
+  const NetMetaData::Attribute *attribute = metaData->anyAttribute(name);
+  if (attribute == nullptr)
+    return found;
+  found.title = attribute->longName;
+  const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
+  if (conversion)
+    found.toDisplay = *conversion;
+  found.unit = conversion ? attribute->displayUnit : attribute->storedUnit;
+  if (!found.unit.isEmpty())
+    found.title += QStringLiteral(" [") + Units::written(found.unit) + QLatin1Char(']');
+  return found;
+}
+
+void chooseDefaults(PlotSettings &settings, const NetData &net) {
+  const QString ofNodes = firstThatVaries(net, net.nodes(), {"p", "height"});
+  const QString ofEdges = firstThatVaries(net, net.edges(), {"q", "m", "diameter", "length"});
+  const QString width = firstThatVaries(net, net.edges(), {"diameter", "q", "m"});
+  settings.colorFunc = ofNodes == QLatin1String("p") || ofEdges.isEmpty() ? ofNodes : ofEdges;
+  settings.nodeColorFunc = ofNodes;
+  settings.widthFunc = width;
+  constexpr int BottomLeft = 2;
+  settings.legendPos = settings.colorFunc.isEmpty() ? 0 : BottomLeft;
+  // High values warm, as people expect of pressures; a darker ramp keeps yellow and cyan readable on white.
+  constexpr int Blue = 240;
+  constexpr int Darker = 215;
+  settings.firstColor = Blue;
+  settings.lastColor = 0;
+  settings.lightness = Darker;
+  constexpr int Dense = 4; // px: people want to see many labels, and these have a ground of their own
+  settings.labelMargin = Dense;
+}

@@ -1,0 +1,146 @@
+#include <QObject>
+
+#include <cmath>
+#include <drawing/elementlooks.h>
+
+namespace {
+
+constexpr QRgb NoValueColor = 0xffc4c8cc; ///< the element lacks the value that the others are coloured by
+constexpr QRgb PlainEdge = 0xff2f5d8a;    ///< there is nothing to colour by
+constexpr QRgb PlainNode = 0xff5b6b7b;
+constexpr QRgb NotFound = 0xffd0d4d8; ///< behind the results of a search
+constexpr QRgb Found = 0xffe8112d;
+constexpr double NoFlow = 1e-10; // in whatever unit the flow is stored
+
+bool hasFlow(double flow) {
+  return flow != NetData::NoValue && std::abs(flow) >= NoFlow;
+}
+
+} // namespace
+
+template <typename Look>
+void ElementLooks::hide(NetData::EleType kind, std::vector<Look> &looks) const {
+  if (!m_layers.hidesAny())
+    return;
+  for (std::size_t i = 0; i < looks.size(); ++i)
+    looks[i].isHidden = m_layers.isHidden({kind, static_cast<int>(i)});
+}
+
+std::vector<EdgeLook> ElementLooks::edges() const {
+  constexpr double WidthSpan = 4.0; // px that the width function adds at most, at magnification 1
+  const DrawValues::Column &colors = m_values.edgeColor();
+  const DrawValues::Column &widths = m_values.edgeWidth();
+  const std::vector<double> &flow = m_values.flow();
+  const auto widthMap = ColorScale::colorMap(m_settings, m_settings.logScaleWidth);
+  const auto table = ColorScale::edgeColors(m_settings, colors);
+
+  std::vector<EdgeLook> looks(m_geometry.edges().size());
+  for (std::size_t i = 0; i < looks.size(); ++i) {
+    EdgeLook &look = looks[i];
+    look.width = m_settings.edgeConst + m_settings.edgeMag;
+    if (widths.range.isValid()) {
+      const double value = widths.ofElements[i];
+      const double fraction = value == NetData::NoValue ? 0.0 : widthMap->fraction(widths.range, value);
+      look.width = m_settings.edgeConst + m_settings.edgeMag * WidthSpan * fraction;
+    }
+    look.isBackground = true;
+    if (m_geometry.edges()[i].isInactive) {
+      look.color = m_settings.edgeColorInactive.rgb();
+      continue;
+    }
+    look.flow = !hasFlow(flow[i]) ? 0 : flow[i] > 0.0 ? 1 : -1;
+    if (flow[i] != NetData::NoValue && look.flow == 0) {
+      look.color = m_settings.edgeColorNoFlow.rgb();
+    } else if (colors.range.isValid() && colors.ofElements[i] == NetData::NoValue) {
+      look.color = NoValueColor;
+    } else {
+      look.isBackground = false;
+      look.color = colors.range.isValid() ? table->rgb(colors.range, colors.ofElements[i]) : PlainEdge;
+    }
+  }
+  hide(NetData::Edge, looks);
+  return looks;
+}
+
+std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
+  const PlotSettings &s = m_settings;
+  const DrawValues::Column &colors = m_values.nodeColor();
+  const DrawValues::Column &sizes = m_values.nodeSize();
+  const auto sizeMap = ColorScale::colorMap(s, s.logScaleNodeSize);
+  const auto table = ColorScale::nodeColors(s, m_values);
+  const bool isColored = byFunction && m_values.colorsNodes();
+  constexpr double SmallestShare = 0.5; // of the magnification, and the largest four times as large
+  constexpr double ShareSpan = 1.5;
+
+  std::vector<NodeLook> looks(m_geometry.nodes().size());
+  for (std::size_t i = 0; i < looks.size(); ++i) {
+    NodeLook &look = looks[i];
+    look.size = m_nodeSize;
+    if (sizes.range.isValid()) {
+      const double value = sizes.ofElements[i];
+      const double fraction = value == NetData::NoValue ? 0.0 : sizeMap->fraction(sizes.range, value);
+      look.size = m_nodeSize * (SmallestShare + ShareSpan * fraction);
+    }
+    if (!isColored)
+      look.color = PlainNode;
+    else if (colors.ofElements[i] == NetData::NoValue)
+      look.color = NoValueColor;
+    else
+      look.color = table->rgb(colors.range, colors.ofElements[i]);
+  }
+  hide(NetData::Node, looks);
+  return looks;
+}
+
+std::vector<ColorScale::Swatch> ElementLooks::swatches() const {
+  const std::vector<double> &values = m_values.edgeColor().ofElements;
+  const std::vector<double> &flow = m_values.flow();
+  bool lacksValue = false;
+  bool lacksFlow = false;
+  bool isInactive = false;
+  for (std::size_t i = 0; i < m_geometry.edges().size(); ++i) {
+    const bool isOff = m_geometry.edges()[i].isInactive;
+    const bool isStill = !isOff && flow[i] != NetData::NoValue && !hasFlow(flow[i]);
+    isInactive = isInactive || isOff;
+    lacksFlow = lacksFlow || isStill;
+    lacksValue = lacksValue || (!isOff && !isStill && values[i] == NetData::NoValue);
+  }
+  std::vector<ColorScale::Swatch> swatches;
+  if (lacksValue)
+    swatches.push_back({NoValueColor, QObject::tr("no value")});
+  if (lacksFlow)
+    swatches.push_back({m_settings.edgeColorNoFlow.rgb(), QObject::tr("no flow")});
+  if (isInactive)
+    swatches.push_back({m_settings.edgeColorInactive.rgb(), QObject::tr("off")});
+  return swatches;
+}
+
+std::vector<bool> ElementLooks::searchResults(NetData::EleType kind) const {
+  static const PropertyKey key = PropertyKey::intern("isSearchResult");
+  const std::size_t count = kind == NetData::Edge ? m_geometry.edges().size() : m_geometry.nodes().size();
+  std::vector<bool> found(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    const PropertyText *text = m_geometry.source({kind, static_cast<int>(i)})->find(key);
+    found[i] = text != nullptr && text->isOn();
+  }
+  return found;
+}
+
+std::vector<EdgeLook> ElementLooks::searchedEdges() const {
+  constexpr double WidthOfResults = 3.0; // px
+  const std::vector<bool> found = searchResults(NetData::Edge);
+  std::vector<EdgeLook> looks(found.size());
+  for (std::size_t i = 0; i < looks.size(); ++i)
+    looks[i] = {found[i] ? Found : NotFound, found[i] ? WidthOfResults : 1.0, !found[i], false, 0};
+  hide(NetData::Edge, looks);
+  return looks;
+}
+
+std::vector<NodeLook> ElementLooks::searchedNodes() const {
+  const std::vector<bool> found = searchResults(NetData::Node);
+  std::vector<NodeLook> looks(found.size());
+  for (std::size_t i = 0; i < looks.size(); ++i)
+    looks[i] = {found[i] ? Found : NotFound, m_nodeSize * (found[i] ? 2.0 : 1.0), false};
+  hide(NetData::Node, looks);
+  return looks;
+}

@@ -1,0 +1,203 @@
+#include <base/nivramsg.h>
+#include <base/wholefile.h>
+#include <model/elementtypes.h>
+
+#include <QFile>
+#include <QTextStream>
+
+#include <algorithm>
+#include <drawing/labeltable.h>
+
+namespace {
+
+QString contentsOf(const ElementType &type) {
+  switch (type.kind) {
+  case NetData::Node:
+    return type.code == QLatin1String("d") ? QStringLiteral("@name") : QStringLiteral("@name<br />@p");
+  case NetData::Edge:
+    return QStringLiteral("@name<br />@q");
+  case NetData::AssembledSubnet:
+    return QStringLiteral("@name<br />@main_element @substate");
+  default:
+    return QString(); // a text box is its own label
+  }
+}
+
+} // namespace
+
+LabelTable::LabelTable() {
+  for (const ElementType &type : ElementTypes::all()) {
+    if (type.word.isEmpty())
+      continue; // another spelling of a type
+    LabelRow row;
+    row[LabelRow::LongName] = type.longName;
+    row[LabelRow::Short] = type.code;
+    row[LabelRow::Show] = QStringLiteral("on");
+    row[LabelRow::Contents] = contentsOf(type);
+    row[LabelRow::BgrAlpha] = QStringLiteral("200");
+    row[LabelRow::BordAlpha] = QStringLiteral("0");
+    types.push_back(row);
+  }
+}
+
+const LabelRow *LabelTable::ofType(const QString &code) const {
+  const auto found = std::find_if(types.begin(), types.end(), [&code](const LabelRow &row) {
+    return row[LabelRow::Short].compare(code, Qt::CaseInsensitive) == 0; // SUB is a sub
+  });
+  return found == types.end() ? nullptr : &*found;
+}
+
+const QStringList &LabelTable::headers() {
+  static const QStringList texts{QStringLiteral("long name"),  QStringLiteral("short"),     QStringLiteral("size"),
+                                 QStringLiteral("show"),       QStringLiteral("contents"),  QStringLiteral("color"),
+                                 QStringLiteral("bgr-color"),  QStringLiteral("bgr-alpha"), QStringLiteral("bord-color"),
+                                 QStringLiteral("bord-alpha"), QStringLiteral("font")};
+  return texts;
+}
+
+namespace {
+
+/// The lines of the file; a null line behind its end.
+class Lines {
+public:
+  explicit Lines(const QByteArray &text)
+      : m_stream(text) {
+    m_stream.setCodec("UTF-8");
+  }
+  bool next(QString &line) {
+    constexpr qint64 Longest = 1 << 16;
+    line = m_stream.readLine(Longest);
+    return !line.isNull();
+  }
+
+private:
+  QTextStream m_stream;
+};
+
+bool readCells(Lines &lines, LabelRow &row, int first = 0) {
+  for (int column = first; column < LabelRow::Columns; ++column) {
+    QString cell;
+    if (!lines.next(cell))
+      return false;
+    if (column != LabelRow::LongName && column != LabelRow::Short)
+      row.cells[static_cast<std::size_t>(column)] = cell;
+  }
+  return true;
+}
+
+bool skip(Lines &lines, int count) {
+  QString line;
+  for (int i = 0; i < count; ++i) {
+    if (!lines.next(line))
+      return false;
+  }
+  return true;
+}
+
+/// The first line of a row; those of masters are passed over when they are ignored.
+bool readFirst(Lines &lines, bool ignoresMasters, QString &first) {
+  while (lines.next(first)) {
+    if (!ignoresMasters || !first.startsWith(QLatin1String("master")))
+      return true;
+    if (!skip(lines, LabelRow::Columns - 1))
+      return false;
+  }
+  return false;
+}
+
+void stopped(const QString &what, const QString &path) {
+  NivraMsg::logWarning(QStringLiteral("EOF while reading %1 in file ").arg(what) + path + QStringLiteral("! Stopped!"));
+}
+
+void readTemplates(Lines &lines, const QString &path, LabelTable &table) {
+  constexpr std::size_t Most = 1000;
+  table.templates.clear();
+  QString first;
+  while (table.templates.size() < Most && lines.next(first)) {
+    LabelRow row;
+    row[LabelRow::LongName] = first;
+    QString shortName;
+    if (!lines.next(shortName) || !readCells(lines, row, LabelRow::Size))
+      return stopped(QStringLiteral("template"), path);
+    row[LabelRow::Short] = shortName;
+    if (!lines.next(row.icon))
+      return stopped(QStringLiteral("template icon data"), path);
+    table.templates.push_back(row);
+  }
+  NivraMsg::log(QStringLiteral("Number of eleSymLabel-templates: %1").arg(table.templates.size()));
+}
+
+void readRows(Lines &lines, const QString &path, LabelTable &table) {
+  QString version;
+  if (!lines.next(version)) {
+    NivraMsg::logWarning(QStringLiteral("EOF while reading version (first line) in file ") + path +
+                         QStringLiteral("! Stopped!"));
+    return;
+  }
+  const bool ignoresMasters = version != LabelTableFile::version();
+  if (ignoresMasters)
+    NivraMsg::log(QStringLiteral("Version of vfd file: ") + version +
+                  QStringLiteral(", entries for masters are ignored.\nPlease perform apply and save"));
+  if (!skip(lines, LabelRow::Columns))
+    return stopped(QStringLiteral("header"), path);
+  for (LabelRow &type : table.types) {
+    QString first;
+    LabelRow row = type; // half a row counts for nothing
+    if (!readFirst(lines, ignoresMasters, first) || !readCells(lines, row, LabelRow::Short))
+      return stopped(QStringLiteral("type data"), path);
+    type = row;
+  }
+  readTemplates(lines, path, table);
+}
+
+/// A cell is a line: what would end it becomes a blank.
+QString asLine(QString text) {
+  return text.replace(QLatin1Char('\n'), QLatin1Char(' ')).replace(QLatin1Char('\r'), QLatin1Char(' '));
+}
+
+} // namespace
+
+QString LabelTableFile::version() {
+  return QStringLiteral("vfd 1");
+}
+
+bool LabelTableFile::read(const QString &path, LabelTable &table, FileAccess::Source source) {
+  if (!QFile::exists(path)) {
+    NivraMsg::log(QStringLiteral("### Settings file ") + path + QStringLiteral(" not found!"));
+    return false;
+  }
+  QString reason;
+  const std::optional<QByteArray> text = FileAccess::readWhole(path, source, FileAccess::LargestConfiguration, &reason);
+  if (!text) {
+    NivraMsg::logWarning(QStringLiteral("### Could not open settings file ") + path);
+    NivraMsg::logWarning(reason);
+    return false;
+  }
+  NivraMsg::log(QStringLiteral("... loading settings file ") + path);
+  Lines lines(*text);
+  readRows(lines, path, table);
+  return true;
+}
+
+bool LabelTableFile::write(const QString &path, const LabelTable &table, QString *error) {
+  QByteArray text;
+  QTextStream stream(&text);
+  stream.setCodec("UTF-8");
+  stream << version() << '\n';
+  for (const QString &header : LabelTable::headers())
+    stream << header << '\n';
+  for (const std::vector<LabelRow> *rows : {&table.types, &table.templates}) {
+    for (const LabelRow &row : *rows) {
+      for (const QString &cell : row.cells)
+        stream << asLine(cell) << '\n';
+      if (rows == &table.templates)
+        stream << asLine(row.icon) << '\n';
+    }
+  }
+  stream.flush();
+  QString reason;
+  const bool isDone = WholeFile::write(path, FileAccess::Source::Workspace, text, &reason);
+  if (!isDone && error != nullptr)
+    *error = reason;
+  return isDone;
+}

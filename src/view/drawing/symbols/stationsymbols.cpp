@@ -1,0 +1,147 @@
+#include "symbols/picturefile.h"
+
+#include <base/nivramsg.h>
+
+#include <QFile>
+#include <QFontMetricsF>
+#include <QSvgRenderer>
+
+#include <algorithm>
+#include <cmath>
+#include <drawing/layergeometry.h>
+#include <drawing/stationsymbols.h>
+
+static void initialiseResources() {
+  Q_INIT_RESOURCE(view); // a static library's resources are dropped by the linker unless somebody asks for them
+}
+
+StationSymbols::StationSymbols() {
+  initialiseResources();
+}
+
+StationSymbols::~StationSymbols() = default;
+
+void StationSymbols::setTable(const SymbolTable &table) {
+  m_table = table;
+  m_numbers.clear();
+  m_renderers.clear();
+  m_pixmaps.clear();
+  m_badges.clear();
+}
+
+std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) const {
+  const SymbolTable::File own = m_table.file(key);
+  if (!own.path.isEmpty()) {
+    QString error;
+    const QByteArray text = PictureFile::readSvg(own.path, own.source, &error);
+    auto renderer = std::make_unique<QSvgRenderer>(text);
+    if (!text.isEmpty() && renderer->isValid())
+      return renderer;
+    NivraMsg::logWarning(
+        QStringLiteral("The symbol %1 for \"%2\" cannot be read; the built-in one is taken. %3").arg(own.path, key, error));
+  }
+  const QString path = QStringLiteral(":/iconsNetSymbols/svg TALU/network_symbols/") + key + QStringLiteral(".svg");
+  return QFile::exists(path) ? std::make_unique<QSvgRenderer>(path) : nullptr;
+}
+
+int StationSymbols::find(const QString &key) {
+  if (key.isEmpty() || key.contains(QLatin1Char('/')))
+    return -1; // no key, but perhaps a way out of the resources
+  const auto known = m_numbers.constFind(key);
+  if (known != m_numbers.constEnd())
+    return *known;
+  std::unique_ptr<QSvgRenderer> renderer = load(key);
+  const int number = renderer == nullptr ? -1 : static_cast<int>(m_renderers.size());
+  if (renderer != nullptr)
+    m_renderers.push_back(std::move(renderer));
+  m_numbers.insert(key, number);
+  return number;
+}
+
+void StationSymbols::draw(QPainter &painter, int symbol, const QPointF &center, double size, double angle) {
+  if (isVectorTarget(painter)) {
+    painter.save();
+    painter.translate(center);
+    painter.rotate(angle);
+    m_renderers[static_cast<std::size_t>(symbol)]->render(&painter, QRectF(-size * 0.5, -size * 0.5, size, size));
+    painter.restore();
+    return;
+  }
+  constexpr int Step = 5;
+  constexpr int Circle = 360;
+  const double ratio = pixelRatio(painter);
+  const int rounded = ((static_cast<int>(std::lround(angle / Step)) * Step) % Circle + Circle) % Circle;
+  QPixmap picture = pixmap(symbol, static_cast<int>(std::lround(size * ratio)), rounded);
+  const QSizeF extent = QSizeF(picture.size()) / ratio;
+  painter.drawPixmap(QRectF(center - QPointF(extent.width() * 0.5, extent.height() * 0.5), extent), picture, picture.rect());
+}
+
+namespace {
+
+constexpr double BadgeHeight = 11.0; // px
+
+void paintBadge(QPainter &painter, const QRectF &badge, const QString &text, const QFont &font) {
+  painter.setPen(QPen(Qt::white, 1.0));
+  painter.setBrush(QColor(31, 45, 61));
+  painter.drawRoundedRect(badge, BadgeHeight * 0.5, BadgeHeight * 0.5);
+  painter.setPen(Qt::white);
+  painter.setFont(font);
+  painter.drawText(badge, Qt::AlignCenter, text);
+}
+
+} // namespace
+
+void StationSymbols::drawCount(QPainter &painter, const QPointF &center, int count) {
+  constexpr int Most = 999;
+  constexpr int FontPixels = 9;
+  constexpr double Padding = 6.0;
+  const int shown = std::min(count, Most + 1);
+  const QString text = count > Most ? QString::number(Most) + QLatin1Char('+') : QString::number(count);
+  QFont font(QStringLiteral("Arial"));
+  font.setPixelSize(FontPixels);
+  font.setBold(true);
+  const auto areaOf = [&font, &text] {
+    const double width = std::max(BadgeHeight, QFontMetricsF(font).horizontalAdvance(text) + Padding);
+    return QRectF(-width * 0.5, -BadgeHeight * 0.5, width, BadgeHeight);
+  };
+  if (isVectorTarget(painter)) {
+    paintBadge(painter, areaOf().translated(center), text, font);
+    return;
+  }
+  const double ratio = pixelRatio(painter);
+  QPixmap &badge = m_badges[{shown, static_cast<int>(std::lround(ratio * 100.0))}];
+  if (badge.isNull()) {
+    const QRectF area = areaOf().adjusted(-1.0, -1.0, 1.0, 1.0);
+    badge = QPixmap((area.size() * ratio).toSize());
+    badge.fill(Qt::transparent);
+    QPainter prepared(&badge);
+    prepared.setRenderHint(QPainter::Antialiasing);
+    prepared.scale(ratio, ratio);
+    paintBadge(prepared, areaOf().translated(-area.topLeft()), text, font);
+  }
+  const QSizeF extent = QSizeF(badge.size()) / ratio;
+  painter.drawPixmap(QRectF(center - QPointF(extent.width() * 0.5, extent.height() * 0.5), extent), badge, badge.rect());
+}
+
+QPixmap StationSymbols::pixmap(int symbol, int pixels, int angle) {
+  constexpr int MostKept = 4000;
+  const quint64 key =
+      (static_cast<quint64>(symbol) << 40U) | (static_cast<quint64>(pixels) << 16U) | static_cast<quint64>(angle);
+  const auto known = m_pixmaps.constFind(key);
+  if (known != m_pixmaps.constEnd())
+    return *known;
+  if (m_pixmaps.size() >= MostKept)
+    m_pixmaps.clear();
+  // Room for the symbol's corners, whichever way it is turned.
+  const int side = static_cast<int>(std::ceil(pixels * std::sqrt(2.0)));
+  QPixmap picture(side, side);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(side * 0.5, side * 0.5);
+  painter.rotate(angle);
+  m_renderers[static_cast<std::size_t>(symbol)]->render(&painter, QRectF(-pixels * 0.5, -pixels * 0.5, pixels, pixels));
+  painter.end();
+  m_pixmaps.insert(key, picture);
+  return picture;
+}

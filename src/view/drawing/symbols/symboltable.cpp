@@ -1,0 +1,41 @@
+#include <base/nivramsg.h>
+
+#include <QDir>
+#include <QFile>
+
+#include <drawing/symboltable.h>
+
+SymbolTable::SymbolTable(const QString &directory)
+    : m_directory(directory) {
+  constexpr qint64 Largest = qint64(1) << 20;
+  const QString path = directory + QStringLiteral("/svg_symbols.csv");
+  if (!QFile::exists(path)) {
+    NivraMsg::log(QStringLiteral("SVG symbols file ") + path + QStringLiteral(" not found! Using built-in defaults!"));
+    return;
+  }
+  QString reason;
+  const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, Largest, &reason);
+  if (!content)
+    NivraMsg::logWarning(reason);
+  for (const QByteArray &bytes : content.value_or(QByteArray()).split('\n')) {
+    const QString line = QString::fromUtf8(bytes);
+    if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+      continue;
+    const QStringList parts = line.split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    if (parts.size() < 2)
+      continue;
+    const QString name = parts.at(1).trimmed();
+    if (name.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive))
+      m_files[parts.at(0).trimmed()] = name;
+  }
+}
+
+SymbolTable::File SymbolTable::file(const QString &key) const {
+  const auto found = m_files.find(key);
+  if (found != m_files.end())
+    return {QDir(m_directory).filePath(found->second)};
+  const QString further = m_furtherDirectory + QLatin1Char('/') + key + QStringLiteral(".svg");
+  if (m_furtherDirectory.isEmpty() || !QFile::exists(further))
+    return {};
+  return {further, FileAccess::Source::Trusted};
+}

@@ -1,0 +1,309 @@
+#include "interaction/plotmenu.h"
+
+#include "export/plotsaver.h"
+
+#include <base/nivramsg.h>
+#include <model/elementstate.h>
+#include <model/elementtypes.h>
+#include <model/topology.h>
+#include <view/netviscontrol.h>
+#include <view/plotzoom.h>
+
+#include <QDialog>
+#include <QInputDialog>
+#include <QListWidget>
+#include <QMenu>
+#include <QMetaMethod>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int MostEntries = 30; // a menu longer than the screen helps nobody
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("PlotMenu", text);
+}
+
+/// In a menu an ampersand would mark a key.
+QString menuText(QString text) {
+  return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+QStringList sorted(const Selection::Names &names) {
+  QStringList list = names.values();
+  list.sort(Qt::CaseInsensitive);
+  return list;
+}
+
+/// The first names of what is selected, which may be a whole network: not all of it is sorted for a few entries.
+QStringList firstOf(const Selection &selection, int most) {
+  std::vector<QString> names;
+  names.reserve(static_cast<std::size_t>(selection.size()));
+  for (const Selection::Names *kind : {&selection.nodes, &selection.edges, &selection.subnets, &selection.others})
+    names.insert(names.end(), kind->begin(), kind->end());
+  const auto end = names.begin() + std::min<std::ptrdiff_t>(most, static_cast<std::ptrdiff_t>(names.size()));
+  std::partial_sort(names.begin(), end, names.end(),
+                    [](const QString &a, const QString &b) { return QString::compare(a, b, Qt::CaseInsensitive) < 0; });
+  return QStringList(names.begin(), end);
+}
+
+/// The element's name and what it is.
+QString withType(const element &e) {
+  const ElementType *type = ElementTypes::byCode(e.value(QStringLiteral("type")));
+  return menuText(e.value(QStringLiteral("name")) + QLatin1Char('\t') + (type == nullptr ? QString() : type->longName));
+}
+
+/// Types whose elements a subnet offers by name: machines, regulators and whatever a network calls "m".
+bool isOfStation(const QString &type) {
+  return ElementTypes::hasCharacteristics(type) || type == QLatin1String("r") || type == QLatin1String("m");
+}
+
+/// What belongs to the subnet.
+QStringList elementsOf(const element &subnet) {
+  return Topology::listed(subnet, PropertyKey::find("elements"));
+}
+
+} // namespace
+
+PlotMenu::PlotMenu(NetVisControl &control)
+    : m_control(control) {}
+
+void PlotMenu::fill(QMenu &contextMenu) const {
+  addCrowd(contextMenu);
+  addSelection(contextMenu);
+  addSubnet(contextMenu);
+  addCharacteristics(contextMenu);
+  addMachinesHere(contextMenu);
+  addTrace(contextMenu);
+  contextMenu.addAction(m_control.picker()->selectAllAction());
+  contextMenu.addSeparator();
+  addView(contextMenu);
+  addBookmarks(contextMenu);
+  addLabels(contextMenu);
+  contextMenu.addSeparator();
+  contextMenu.addAction(tr("Configure drawing …"), &m_control, &NetVisControl::configureDrawRequested)
+      ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::configureDrawRequested)));
+  QAction *results = contextMenu.addAction(tr("Show search results"), &m_control, &NetVisControl::setShowsSearchResults);
+  results->setCheckable(true);
+  results->setChecked(m_control.showsSearchResults());
+  NetPlot *plot = m_control.plot();
+  contextMenu.addAction(tr("Save picture …"), plot, [plot] { PlotSaver(*plot).savePlot(QString(), QString(), true); });
+  contextMenu.addAction(tr("Save picture with width …"), plot, [plot] { PlotSaver(*plot).saveWithWidth(); });
+}
+
+void PlotMenu::addCrowd(QMenu &contextMenu) const {
+  const std::vector<NetGeometry::Item> items = m_control.picker()->pressedItems();
+  if (items.size() < 2)
+    return;
+  QMenu *crowd = contextMenu.addMenu(tr("Select here (%1)").arg(items.size()));
+  const NetGeometry &geometry = m_control.plot()->update().geometry();
+  int count = 0;
+  for (const NetGeometry::Item item : items) {
+    if (++count > MostEntries)
+      break;
+    NetPicker *picker = m_control.picker();
+    QObject::connect(crowd->addAction(withType(*geometry.source(item))), &QAction::triggered, picker,
+                     [picker, item] { picker->choose(item); });
+  }
+}
+
+void PlotMenu::addSelection(QMenu &contextMenu) const {
+  const QStringList names = firstOf(m_control.net().selection(), MostEntries);
+  QMenu *show = contextMenu.addMenu(tr("Show"));
+  QMenu *info = contextMenu.addMenu(tr("Show Info"));
+  QMenu *edit = contextMenu.addMenu(tr("Edit Properties of"));
+  show->setEnabled(!names.isEmpty());
+  edit->setEnabled(!names.isEmpty() && m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::editPropertiesRequested)));
+  info->setEnabled(!names.isEmpty() && m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::elementAction)));
+  for (const QString &name : names) {
+    NetVisControl *control = &m_control;
+    QObject::connect(show->addAction(menuText(name)), &QAction::triggered, control,
+                     [control, name] { control->showElement(name); });
+    QObject::connect(info->addAction(menuText(name)), &QAction::triggered, control,
+                     [control, name] { emit control->elementAction(name, NetPicker::EleAction::ShowInfo); });
+    QObject::connect(edit->addAction(menuText(name)), &QAction::triggered, control,
+                     [control, name] { emit control->editPropertiesRequested({name}); });
+  }
+}
+
+void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
+  constexpr int Most = 10000; // whoever selects more is not after machines
+  const Selection &selection = m_control.net().selection();
+  if (selection.nodes.size() + selection.edges.size() > Most)
+    return;
+  Selection::Names machines;
+  for (const Selection::Names *kind : {&selection.nodes, &selection.edges}) {
+    for (const QString &name : *kind) {
+      if (isMachine(name))
+        machines.insert(name);
+    }
+  }
+  const QStringList names = sorted(machines);
+  if (names.isEmpty() || names.size() > MostEntries)
+    return;
+  NetVisControl *control = &m_control;
+  contextMenu
+      .addAction(names.size() == 1 ? tr("Open Characteristics") : tr("Open Characteristics (%1)").arg(names.size()), control,
+                 [control, names] { emit control->openCharacteristicsRequested(names); })
+      ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
+}
+
+bool PlotMenu::isMachine(const QString &name) const {
+  const element *e = m_control.net().element(name);
+  return e != nullptr && ElementTypes::hasCharacteristics(e->value(QStringLiteral("type")));
+}
+
+/// Whatever is selected, and whatever covers them.
+void PlotMenu::addMachinesHere(QMenu &contextMenu) const {
+  const NetGeometry &geometry = m_control.plot()->update().geometry();
+  NetVisControl *control = &m_control;
+  QMenu *machines = nullptr;
+  for (const NetGeometry::Item item : m_control.picker()->pressedItems()) {
+    const element &source = *geometry.source(item);
+    const QString name = source.value(QStringLiteral("name"));
+    if (!isMachine(name) || (machines != nullptr && machines->actions().size() >= MostEntries))
+      continue;
+    if (machines == nullptr)
+      machines = contextMenu.addMenu(tr("Open Characteristics of"));
+    QObject::connect(machines->addAction(withType(source)), &QAction::triggered, control,
+                     [control, name] { emit control->openCharacteristicsRequested({name}); });
+  }
+  if (machines != nullptr)
+    machines->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
+}
+
+void PlotMenu::addTrace(QMenu &contextMenu) const {
+  if (m_control.net().selection().size() != 1)
+    return;
+  const QStringList names = firstOf(m_control.net().selection(), 1);
+  NetVisControl *control = &m_control;
+  using Direction = Topology::Direction;
+  contextMenu.addAction(tr("Select upstream"), control,
+                        [control, name = names.first()] { control->trace(name, Direction::Upstream); });
+  contextMenu.addAction(tr("Select downstream"), control,
+                        [control, name = names.first()] { control->trace(name, Direction::Downstream); });
+}
+
+void PlotMenu::addSubnet(QMenu &contextMenu) const {
+  const QStringList subnets = sorted(m_control.net().selection().subnets);
+  if (subnets.isEmpty())
+    return;
+  NivraMsg::debug(QStringLiteral("sel has sub"));
+  QMenu *menu = contextMenu.addMenu(tr("Subnet"));
+  NetVisControl *control = &m_control;
+  QAction *open = menu->addAction(tr("Open in a window of its own"), control,
+                                  [control, name = subnets.first()] { emit control->subnetWanted(name); });
+  open->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::subnetWanted)));
+  addSubnetEntries(*menu, subnets.first());
+}
+
+void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name) const {
+  QMenu *edit = parent.addMenu(tr("Edit Properties of"));
+  QMenu *open = parent.addMenu(tr("Open Characteristics of"));
+  const element *subnet = m_control.net().assembledSubnets().find(name);
+  if (subnet == nullptr) {
+    for (QMenu *entries : {edit, open})
+      entries->addAction(tr("<Could not find subnet>!"));
+    return;
+  }
+  NetVisControl *control = &m_control;
+  const auto addEntries = [control, subnet](QMenu &entries, bool (*isOffered)(const QString &type), auto signal,
+                                            const QString &otherwise) {
+    QStringList all;
+    QStringList active;
+    for (const QString &elementName : elementsOf(*subnet)) {
+      const element *e = control->net().element(elementName);
+      if (e == nullptr || !isOffered(e->value(QStringLiteral("type"))))
+        continue;
+      all.append(elementName);
+      if (!ElementState::isOutOfUse(*e))
+        active.append(elementName);
+    }
+    const auto add = [&](const QString &text, const QStringList &names) {
+      QObject::connect(entries.addAction(menuText(text)), &QAction::triggered, control,
+                       [control, signal, names] { emit(control->*signal)(names); });
+    };
+    if (all.isEmpty()) {
+      entries.addAction(otherwise);
+      return;
+    }
+    add(tr("ALL of") + QLatin1Char(' ') + subnet->value(QStringLiteral("name")), all);
+    add(tr("ALL active of") + QLatin1Char(' ') + subnet->value(QStringLiteral("name")), active);
+    entries.addSeparator();
+    for (const QString &elementName : all.mid(0, MostEntries))
+      add(elementName, {elementName});
+  };
+  addEntries(*edit, isOfStation, &NetVisControl::editPropertiesRequested, tr("<empty element list>!"));
+  addEntries(*open, ElementTypes::hasCharacteristics, &NetVisControl::openCharacteristicsRequested,
+             tr("<empty characteristics list>!"));
+  edit->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::editPropertiesRequested)));
+  open->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
+}
+
+void PlotMenu::addView(QMenu &contextMenu) const {
+  NetPlot *plot = m_control.plot();
+  PlotZoom *zoomer = plot->zoomer();
+  // The canvas takes the keys; the entries name them.
+  contextMenu.addAction(tr("Show whole network\tHome"), zoomer, &PlotZoom::fitAll);
+  contextMenu.addAction(tr("Back to the last view\tAlt+Left"), zoomer, &PlotZoom::goBack)->setEnabled(zoomer->canGoBack());
+  contextMenu.addAction(tr("Forward to the next view\tAlt+Right"), zoomer, &PlotZoom::goForward)
+      ->setEnabled(zoomer->canGoForward());
+  if (plot->hasStragglers())
+    contextMenu.addAction(tr("Show what lies far outside"), plot, &NetPlot::showStragglers);
+}
+
+void PlotMenu::addBookmarks(QMenu &contextMenu) const {
+  NetPlot *plot = m_control.plot();
+  const ViewBookmarks bookmarks = m_control.bookmarks();
+  const std::vector<ViewBookmarks::Bookmark> known = bookmarks.all();
+  QMenu *menu = contextMenu.addMenu(tr("Bookmarks"));
+  for (const ViewBookmarks::Bookmark &bookmark : known)
+    menu->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->showArea(view); });
+  if (!known.empty())
+    menu->addSeparator();
+  menu->addAction(tr("Bookmark this view …"), plot, [bookmarks, plot, count = known.size()] {
+    bool isTaken = false;
+    const QString name = QInputDialog::getText(plot, tr("Bookmark"), tr("Name of this view:"), QLineEdit::Normal,
+                                               tr("View %1").arg(count + 1), &isTaken)
+                             .trimmed();
+    QString reason;
+    if (isTaken && !name.isEmpty() && !bookmarks.add({name, plot->visibleArea()}, &reason))
+      NivraMsg::message(NivraMsg::Kind::Warning, reason);
+  });
+  QMenu *forget = menu->addMenu(tr("Forget"));
+  forget->setEnabled(!known.empty());
+  for (const ViewBookmarks::Bookmark &bookmark : known)
+    forget->addAction(menuText(bookmark.name), plot, [bookmarks, name = bookmark.name] {
+      QString reason;
+      if (!bookmarks.forget(name, &reason))
+        NivraMsg::message(NivraMsg::Kind::Warning, reason);
+    });
+}
+
+void PlotMenu::addLabels(QMenu &contextMenu) const {
+  NetPlot *plot = m_control.plot();
+  NetUpdate &update = plot->update();
+  contextMenu.addAction(tr("Place labels now"), plot, [&update] { update.relabelNow(); });
+  const std::vector<NetGeometry::Item> &unplaced = update.unplacedLabels();
+  if (unplaced.empty())
+    return;
+  NetVisControl *control = &m_control;
+  contextMenu.addAction(
+      unplaced.size() == 1 ? tr("1 label found no place …") : tr("%1 labels found no place …").arg(unplaced.size()), plot,
+      [control, plot, unplaced] {
+        QDialog dialog(plot);
+        dialog.setWindowTitle(tr("Labels without a place"));
+        auto *list = new QListWidget(&dialog);
+        for (const NetGeometry::Item item : unplaced)
+          list->addItem(plot->update().geometry().source(item)->value(QStringLiteral("name")));
+        auto *layout = new QVBoxLayout(&dialog);
+        layout->addWidget(list);
+        QObject::connect(list, &QListWidget::itemActivated, &dialog, [control, &dialog](const QListWidgetItem *entry) {
+          control->showElement(entry->text());
+          dialog.accept();
+        });
+        dialog.exec();
+      });
+}

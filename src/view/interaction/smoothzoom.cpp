@@ -1,0 +1,78 @@
+#include "interaction/smoothzoom.h"
+
+#include <base/generalsettings.h>
+#include <view/netplot.h>
+#include <view/plotzoom.h>
+#include <view/qwtfastplot.h>
+
+#include <algorithm>
+
+namespace {
+
+int number(const char *setting, int least) {
+  return std::max(least, GeneralSettings::instance().value(QString::fromLatin1(setting)).toInt());
+}
+
+} // namespace
+
+SmoothZoom::SmoothZoom(NetPlot &plot)
+    : QObject(&plot)
+    , m_plot(plot) {}
+
+void SmoothZoom::zoom(int steps) {
+  constexpr int StartDelay = 1000;
+  if (steps == 0)
+    return;
+  if (m_pending != 0 && (steps > 0) != (m_pending > 0)) {
+    m_pending = steps;
+    stop();
+  } else {
+    m_pending += steps;
+  }
+  const int duration = number("smooth zoom duration", 1);
+  auto *line = new QTimeLine(duration, this);
+  line->setUpdateInterval(std::max(1, duration / number("smooth zoom steps", 1)));
+  connect(line, &QTimeLine::valueChanged, this, &SmoothZoom::step);
+  connect(line, &QTimeLine::finished, this, [this, line] { finish(line); });
+  if (m_running.empty())
+    m_plot.zoomer()->beginMove();
+  m_running.push_back({line, steps});
+  m_plot.update().requestPixtest(StartDelay, false);
+  line->start();
+}
+
+void SmoothZoom::stop() {
+  for (const Animation &animation : m_running) {
+    animation.line->disconnect(this);
+    animation.line->stop();
+    animation.line->deleteLater();
+  }
+  m_running.clear();
+}
+
+void SmoothZoom::step() {
+  constexpr double StepsToDouble = 50.0;
+  constexpr double Smallest = 0.1; // however fast the wheel is turned back
+  const double factor = std::max(Smallest, m_pending / StepsToDouble + 1.0);
+  PlotZoom &zoomer = *m_plot.zoomer();
+  const QPointF anchor = m_anchor.value_or(zoomer.cursor());
+  if (factor > 1.0)
+    zoomer.zoomIn(anchor, factor);
+  else if (factor < 1.0)
+    zoomer.zoomOut(anchor, 1.0 / factor);
+}
+
+void SmoothZoom::finish(QTimeLine *line) {
+  const auto ended = std::find_if(m_running.begin(), m_running.end(),
+                                  [line](const Animation &animation) { return animation.line == line; });
+  if (ended == m_running.end())
+    return;
+  m_pending -= ended->steps;
+  line->deleteLater();
+  m_running.erase(ended);
+  if (!m_running.empty())
+    return;
+  m_pending = 0;
+  m_plot.zoomer()->endMove();
+  m_plot.update().requestPixtest(number("smooth zoom pixtest delay", 0), true);
+}
