@@ -1,31 +1,44 @@
 #!/usr/bin/env bash
-# clang-tidy over the project's own sources: lint.sh BUILD_FOLDER [FILE...]. A file that passed before, with the same headers,
-# rules and packages, is passed over.
+# clang-tidy over the project's own sources: lint.sh BUILD_FOLDER [FILE...]; what was changed last comes first. A file that
+# passed before, with the same compile command, headers, rules and packages, is passed over.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+top=$PWD
 folder=$1
 shift
-if [ $# -gt 0 ]; then files=("$@"); else mapfile -t files < <(git ls-files 'src/*.cpp' 'bench/*.cpp' | grep -v callstack_windows); fi
-# The compiler's own switches that clang does not know are taken out of a copy of the compile commands.
+if [ $# -gt 0 ]; then
+  files=("$@")
+else
+  mapfile -t files < <({ git log -n 100 --format= --name-only; git ls-files; } | awk '!seen[$0]++' |
+    grep -E '^(src|bench)/.*\.cpp$' | grep -v callstack_windows | while read -r file; do [ ! -e "$file" ] || echo "$file"; done)
+fi
 commands=$(mktemp -d)
 trap 'rm -rf "$commands"' EXIT
+# The compiler's own switches that clang does not know are taken out of a copy of the compile commands.
 sed -e 's/-fno-sanitize-recover=undefined//g' "$folder/compile_commands.json" >"$commands/compile_commands.json"
+# What each source was compiled from, without the system's headers: "source header header...".
+ninja -C "$folder" -t deps | awk -v top="$top/" '
+  /#deps/ { if (line != "") print line; line = ""; next }
+  /^ / && $1 !~ /^\/usr\// { sub(/^(\.\.\/)+/, "", $1); sub(top, "", $1); line = line == "" ? $1 : line " " $1 }
+  END { if (line != "") print line }' | grep -v '_autogen/mocs_compilation' >"$commands/sources" || true
 
 passed=${XDG_CACHE_HOME:-$HOME/.cache}/nivra-reader/lint
 mkdir -p "$passed"
 find "$passed" -type f -mtime +30 -delete
-surroundings=$({
-  clang-tidy --version
-  dpkg-query -W
-  git ls-files -z '*.h' '*.ui' '*CMakeLists.txt' '*.cmake' CMakePresets.json .clang-tidy | xargs -0 cat
-} | sha256sum)
+surroundings=$({ clang-tidy --version; dpkg-query -W; cat .clang-tidy; } | sha256sum)
 
 lint() {
-  local key
-  key=$({ echo "$surroundings" "$1"; cat "$1"; } | sha256sum | cut -d' ' -f1)
-  [ -e "$passed/$key" ] || { clang-tidy --quiet -p "$commands" "$1" && : >"$passed/$key"; }
+  local key sources
+  # Files that were not compiled here count with all headers.
+  sources=$(grep -m 1 "^$1\( \|$\)" "$commands/sources" || { echo "$1"; git ls-files '*.h'; })
+  key=$({
+    echo "$surroundings" "$1"
+    grep -F "\"command\"" "$commands/compile_commands.json" | grep -F "/$1\"" | sed "s|$top||g"
+    for source in $sources; do [ ! -e "$source" ] || cat "$source"; done
+  } | sha256sum | cut -d' ' -f1)
+  [ -e "$passed/$key" ] || { clang-tidy --quiet -p "$commands" "$1" && touch "$passed/$key"; }
 }
 export -f lint
-export surroundings passed commands
+export surroundings passed commands top
 printf '%s\0' "${files[@]}" | xargs -0 -P "$(nproc)" -n 1 bash -c 'lint "$0"' \
   2> >(grep -vE 'warnings? (generated|treated)|Suppressed|^Use -header' >&2)
