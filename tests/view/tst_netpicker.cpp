@@ -286,11 +286,16 @@ void TestNetPicker::keys() {
   ViewFixture f;
   f.net.addElement(makeElement({{"name", "T"}, {"type", "t"}, {"x", "50"}, {"y", "50"}, {"text", "text"}}));
   f.plot().show();
+  f.net.addElement(makeElement({{"name", "Nowhere"}, {"type", "t"}, {"text", "no place"}}));
+  f.net.addElement(makeElement({{"name", "Station"}, {"type", "sub"}, {"pins", "A;C"}}));
+  f.net.addElement(makeElement({{"name", "N"}, {"type", "n"}}));
   f.show();
   QTest::keyClick(f.plot().plot()->canvas(), Qt::Key_A, Qt::ControlModifier);
-  QCOMPARE(f.net.selection().nodes.size(), 4);
+  QCOMPARE(f.net.selection().nodes.size(), 5); // wherever they stand, and those that stand nowhere
   QCOMPARE(f.net.selection().edges.size(), 3);
-  QCOMPARE(f.net.selection().others.size(), 1);
+  QCOMPARE(f.net.selection().others, (Selection::Names{QStringLiteral("Nowhere"), QStringLiteral("T")}));
+  QCOMPARE(f.net.selection().subnets, Selection::Names{QStringLiteral("Station")});
+  f.picture(); // marks what has a place
   QTest::keyClick(f.plot().plot()->canvas(), Qt::Key_Escape);
   QVERIFY(f.net.selection().isEmpty());
   QCOMPARE(f.control.picker()->selectAllAction()->text(), QStringLiteral("Select All (Ctrl+A)"));
