@@ -2,6 +2,7 @@
 
 #include <view/netgeometry.h>
 
+#include <QFont>
 #include <QHash>
 #include <QImage>
 #include <QPainter>
@@ -36,9 +37,12 @@ public:
     return items;
   }
 
-  /// False when there is nothing to draw.
+  /// What the figure covers about its middle, px.
   /// \param size px, where the figure does not say its own
-  bool draw(QPainter &painter, int number, const QPointF &center, double size) const;
+  QSizeF extent(int number, double size) const;
+  /// The longest side of all figures that say their own size, px.
+  double longest() const { return m_longest; }
+  void draw(QPainter &painter, int number, const QPointF &center, double size) const;
 
 private:
   using Key = std::pair<int, int>; ///< kind and index
@@ -47,6 +51,9 @@ private:
     QString character;
     double width = 0.0; ///< px, 0 when it says nothing
     double height = 0.0;
+
+    bool hasOwnSize() const { return width > 0.0 || height > 0.0; }
+    QFont font(double size) const; ///< of the character
   };
 
   void add(NetGeometry::Item item, const element &source);
@@ -56,4 +63,5 @@ private:
   std::vector<Figure> m_figures;
   std::map<Key, int> m_numbers;
   QHash<QString, QImage> m_pictures; ///< by path
+  double m_longest = 0.0;
 };

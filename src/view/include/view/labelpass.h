@@ -6,6 +6,8 @@
 #include <view/netgeometry.h>
 #include <view/visibilityrules.h>
 
+#include <set>
+
 class EdgeLayer;
 class NodeLayer;
 class SubnetLayer;
@@ -61,4 +63,5 @@ private:
   const Projection &m_projection;
   LabelPlacement m_placement;
   std::vector<Wish> m_wishes;
+  std::set<int> m_nodesWithSymbol;
 };
