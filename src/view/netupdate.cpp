@@ -223,6 +223,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
   bool hasChanged = m_visibility.setExtent(seenHeight());
   if (hasChanged)
     showWhatIsVisible();
+  determineVisibleSymbols(); // for the labels and the drawing
   if (labels == Pixtest::Labels::With) {
     placeLabels();
     hasChanged = true;
