@@ -48,12 +48,16 @@ private:
   struct ColorButton {
     QPushButton *button;
     QColor PlotSettings::*color;
+    QColor chosen{};
+
+    void show(const QColor &shown);
   };
 
   bool apply();
-  bool takeFunctions(PlotSettings &settings);
-  bool takeBounds(const FunctionRow &row, FunctionRow::Values &values);
-  void takeForm(PlotSettings &settings) const;
+  bool checkBounds(PlotSettings &form) const;
+  PlotSettings form() const;
+  void readFunctions(PlotSettings &form) const;
+  void readSizes(PlotSettings &form) const;
   void showForm(const PlotSettings &settings);
   FunctionRow::Unit unitOf(const QString &function) const;
   static QString noteOn(const DrawValues::Column &values, double minimum, double maximum);
@@ -66,6 +70,7 @@ private:
   std::unique_ptr<Ui::viewFuncDialog> m_ui;
   std::array<FunctionRow *, Rows> m_rows{};
   std::vector<ColorButton> m_colors;
+  PlotSettings m_shown; ///< what the fields said before anybody touched them
   LabelTableEditor *m_labels;
   QString m_labelTablePath;
   QString m_plotSettingsPath;
