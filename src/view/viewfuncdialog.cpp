@@ -13,6 +13,7 @@
 #include <QColorDialog>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 
 namespace {
@@ -114,6 +115,7 @@ void viewFuncDialog::offerFunctions() {
 
 void viewFuncDialog::showEvent(QShowEvent *event) {
   offerFunctions(); // formulas may have computed more since
+  offerSavedSettings();
   QWidget::showEvent(event);
 }
 
@@ -166,11 +168,17 @@ void viewFuncDialog::ColorButton::show(const QColor &shown) {
 void viewFuncDialog::setFiles(const QString &labelTable, const QString &plotSettings) {
   m_labelTablePath = labelTable;
   m_plotSettingsPath = plotSettings;
+  offerSavedSettings();
+}
+
+void viewFuncDialog::offerSavedSettings() {
+  m_ui->savedSettings->setEnabled(QFileInfo::exists(m_plotSettingsPath) || QFileInfo::exists(m_labelTablePath));
 }
 
 void viewFuncDialog::refresh() {
   showForm(m_plot.settings());
   m_labels->setTable(m_plot.update().labelTable());
+  offerSavedSettings();
 }
 
 FunctionRow::Unit viewFuncDialog::unitOf(const QString &function) const {
@@ -343,17 +351,21 @@ bool viewFuncDialog::apply() {
     NivraMsg::log(QStringLiteral("logScaleColor set to %1").arg(int(settings.logScaleColor)));
   if (settings.logScaleNodeColor != before.logScaleNodeColor)
     NivraMsg::log(QStringLiteral("logScaleNodeColor set to %1").arg(int(settings.logScaleNodeColor)));
-  const LabelTable table = m_labels->table();
-  const bool rebuilds = table != m_plot.update().labelTable();
   m_plot.setSettings(settings);
-  m_plot.update().setLabelTable(table);
+  draw(before, m_labels->table());
+  return true;
+}
+
+/// Draws with the settings that the plot has now.
+void viewFuncDialog::draw(const PlotSettings &before, const LabelTable &labels) {
+  const bool rebuilds = labels != m_plot.update().labelTable();
+  m_plot.update().setLabelTable(labels);
   m_plot.update().updatePlot(rebuilds, NetUpdate::Which::EdgesAndNodes, true);
   // The original ratio is that of the whole network; the aspect ratio keeps to what is seen.
-  if (settings.fixAxesRatio != before.fixAxesRatio || m_ui->viewport->currentIndex() == OriginalRatio)
+  if (m_plot.settings().fixAxesRatio != before.fixAxesRatio || m_ui->viewport->currentIndex() == OriginalRatio)
     m_plot.zoomer()->fitBase();
   m_plot.update().requestPixtest(-1);
   refresh();
-  return true;
 }
 
 void viewFuncDialog::on_apply_clicked() {
@@ -367,6 +379,19 @@ void viewFuncDialog::on_applyAndSave_clicked() {
   if (!m_plot.writePlotSettings(m_plotSettingsPath, &error) ||
       !LabelTableFile::write(m_labelTablePath, m_plot.update().labelTable(), &error))
     NivraMsg::message(NivraMsg::Kind::Critical, error);
+  offerSavedSettings();
+}
+
+/// As when the case was opened: what the files do not say is as in the beginning.
+void viewFuncDialog::on_savedSettings_clicked() {
+  const PlotSettings before = m_plot.settings();
+  m_plot.setSettings(PlotSettings());
+  if (!m_plot.readPlotSettings(m_plotSettingsPath))
+    m_plot.setSettings(before);
+  LabelTable labels;
+  if (!LabelTableFile::read(m_labelTablePath, labels))
+    labels = m_plot.update().labelTable();
+  draw(before, labels);
 }
 
 void viewFuncDialog::on_load_clicked() {

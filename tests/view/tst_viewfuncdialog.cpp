@@ -36,6 +36,7 @@ private slots:
   void invalidRangeAsks_data();
   void invalidRangeAsks();
   void savesBothFiles();
+  void savedSettingsComeBack();
   void untouchedFieldsStay();
   void touchedFieldsAreTaken();
   void templates();
@@ -215,6 +216,53 @@ void TestViewFuncDialog::savesBothFiles() {
   answer(QMessageBox::Ok, text);
   press(dialog, "applyAndSave");
   QVERIFY2(text.contains(QStringLiteral("/nowhere/")), qPrintable(text));
+}
+
+void TestViewFuncDialog::savedSettingsComeBack() {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("plotsettings.ini"));
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  const auto *saved = child<QPushButton>(dialog, "savedSettings");
+  QVERIFY(!saved->isEnabled());
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), path);
+  QVERIFY(!saved->isEnabled()); // there is nothing yet
+  child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
+  choose(dialog, "bgrColor", QColor(10, 60, 90));
+  auto *table = child<QTableWidget>(dialog, "labelTable");
+  table->item(0, LabelRow::Contents)->setText(QStringLiteral("kept"));
+  press(dialog, "applyAndSave");
+  QVERIFY(saved->isEnabled());
+  const QColor ground = f.picture().pixelColor(f.pixel(50, 80));
+  QCOMPARE(ground, QColor(10, 60, 90));
+  const PlotSettings kept = f.plot().settings();
+  const LabelTable labels = f.plot().update().labelTable();
+
+  child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(7.0);
+  choose(dialog, "bgrColor", Qt::yellow);
+  child<QComboBox>(dialog, "viewport")->setCurrentIndex(0);
+  table->item(0, LabelRow::Contents)->setText(QStringLiteral("tried"));
+  press(dialog, "apply");
+  QVERIFY(f.picture().pixelColor(f.pixel(50, 80)) == QColor(Qt::yellow));
+  table->item(0, LabelRow::Contents)->setText(QStringLiteral("half typed"));
+  press(dialog, "savedSettings");
+  QCOMPARE(f.picture().pixelColor(f.pixel(50, 80)), ground);
+  QVERIFY(f.plot().update().labelTable() == labels);
+  PlotSettings now = f.plot().settings();
+  now.takeZoomLimits(kept);
+  QVERIFY(now == kept);
+  QCOMPARE(child<QDoubleSpinBox>(dialog, "edgeMag")->value(), 2.5);
+  QCOMPARE(table->item(0, LabelRow::Contents)->text(), QStringLiteral("kept"));
+
+  QVERIFY(QFile::remove(path)); // meanwhile
+  press(dialog, "savedSettings");
+  QCOMPARE(f.plot().settings().edgeMag, 2.5);
+  QVERIFY(QFile::remove(folder.filePath(QStringLiteral("vfd.csv"))));
+  press(dialog, "savedSettings");
+  QVERIFY(!saved->isEnabled());
+  QCOMPARE(f.plot().settings().edgeMag, 2.5);
 }
 
 /// What the fields cannot show, be it digits, opacity or values beyond their limits, is not theirs to change.

@@ -24,7 +24,7 @@ public:
   explicit viewFuncDialog(NetPlot &plot, QWidget *parent = nullptr);
   ~viewFuncDialog() override;
 
-  /// Where "Apply and Save" writes to.
+  /// Where "Apply and Save" writes to, and "Saved settings" reads from.
   void setFiles(const QString &labelTable, const QString &plotSettings);
   /// Shows how the plot is drawn now.
   void refresh();
@@ -35,6 +35,7 @@ public slots:
   void on_apply_clicked();
   void on_applyAndSave_clicked();
   void on_load_clicked();
+  void on_savedSettings_clicked();
   void on_resetMinMax_clicked() { resetMinMaxColorFuncValues(); }
   void on_addTemplate_clicked();
   void on_applyTemplate_clicked();
@@ -54,6 +55,8 @@ private:
   };
 
   bool apply();
+  void draw(const PlotSettings &before, const LabelTable &labels);
+  void offerSavedSettings();
   bool checkBounds(PlotSettings &form) const;
   PlotSettings form() const;
   void readFunctions(PlotSettings &form) const;
