@@ -1,6 +1,9 @@
+#include "viewfixture.h"
+
 #include <support/nivratest.h>
 
 #include <QColor>
+#include <qwt_scale_widget.h>
 
 #include <cmath>
 #include <drawing/colormap.h>
@@ -14,7 +17,9 @@ private slots:
   void linearFraction();
   void logarithmicFollowsItsFormula_data();
   void logarithmicFollowsItsFormula();
-  void tableKeepsTheMap();
+  void logarithmicColoursSpreadTheLowEnd_data();
+  void logarithmicColoursSpreadTheLowEnd();
+  void barOfAnotherUnit();
   void rampsKeepTheirOrder_data();
   void rampsKeepTheirOrder();
   void capsAreDarker();
@@ -77,12 +82,86 @@ void TestColorMap::logarithmicFollowsItsFormula() {
   }
 }
 
-void TestColorMap::tableKeepsTheMap() {
-  const LogarithmicColorMap map(ColorRamp(), 5.0);
-  const QwtInterval stored(0.0, 255.0);
-  const TableColorMap table(map, stored);
-  for (int i = 0; i < TableColorMap::Colors; ++i) // in a display unit of a tenth
-    QCOMPARE(table.rgb(QwtInterval(0.0, 25.5), i * 0.1), map.rgb(stored, i));
+void TestColorMap::logarithmicColoursSpreadTheLowEnd_data() {
+  QTest::addColumn<double>("factor");
+  QTest::addColumn<double>("value");
+  QTest::addColumn<int>("hue"); // of 0 to 240 degrees over 0 to 1000
+  QTest::newRow("7.8, 0.5") << 7.8 << 0.5 << 23;
+  QTest::newRow("7.8, 1") << 7.8 << 1.0 << 36;
+  QTest::newRow("7.8, 1.9") << 7.8 << 1.9 << 52;
+  QTest::newRow("15, 0.5") << 15.0 << 0.5 << 96;
+  QTest::newRow("15, 1") << 15.0 << 1.0 << 110;
+  QTest::newRow("15, 1.9") << 15.0 << 1.9 << 122;
+  QTest::newRow("-15, 999") << -15.0 << 999.0 << 130;
+}
+
+void TestColorMap::logarithmicColoursSpreadTheLowEnd() {
+  QFETCH(double, factor);
+  QFETCH(double, value);
+  QFETCH(int, hue);
+  ViewFixture f;
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("grade"), QString::number(value));
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("grade"), QStringLiteral("1000"));
+  for (const char *node : {"A", "B"})
+    f.net.element(QString::fromLatin1(node))->set(QStringLiteral("rank"), QString::number(value));
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.colorFunc = QStringLiteral("grade");
+  settings.nodeColorFunc = QStringLiteral("rank");
+  settings.minVal_edgeColor = settings.minVal_nodeColor = 0.0;
+  settings.maxVal_edgeColor = settings.maxVal_nodeColor = 1000.0;
+  settings.logScaleColor = settings.logScaleNodeColor = true;
+  settings.logFactor = factor;
+  settings.firstColor = 0;
+  settings.lastColor = 240;
+  settings.nodeMag = 12;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
+  const QImage picture = f.picture();
+  const auto near = [](int a, int b) {
+    return std::abs(a - b) <= 1;
+  };
+  const int ofEdge = picture.pixelColor(f.pixel(25, 0)).hsvHue();
+  const int ofNode = picture.pixelColor(f.pixel(100, 0)).hsvHue();
+  QVERIFY2(near(ofEdge, hue), qPrintable(QString::number(ofEdge)));
+  QVERIFY2(near(ofNode, hue), qPrintable(QString::number(ofNode)));
+  for (const int axis : {QwtPlot::yRight, QwtPlot::xTop}) {
+    const QwtScaleWidget *scale = f.plot().plot()->axisWidget(axis);
+    QVERIFY(scale->isColorBarEnabled());
+    const int onBar = QColor(scale->colorMap()->rgb(scale->colorBarInterval(), value)).hsvHue();
+    QVERIFY2(near(onBar, hue), qPrintable(QString::number(onBar)));
+  }
+}
+
+/// Stored in K and read in degrees Celsius: the same colours, each beside its value.
+void TestColorMap::barOfAnotherUnit() {
+  ViewFixture f;
+  f.plot().show();
+  for (const char *node : {"A", "B", "C", "D"})
+    f.net.element(QString::fromLatin1(node))->set(QStringLiteral("t"), QStringLiteral("300"));
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.colorFunc = settings.nodeColorFunc = QStringLiteral("temperature");
+  settings.minVal_edgeColor = settings.minVal_nodeColor = 273.15;
+  settings.maxVal_edgeColor = settings.maxVal_nodeColor = 373.15;
+  settings.logScaleColor = settings.logScaleNodeColor = true;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
+  const QImage picture = f.picture();
+  QwtScaleWidget *scale = f.plot().plot()->axisWidget(QwtPlot::yRight);
+  QVERIFY(std::abs(scale->colorBarInterval().minValue()) < 1e-9);
+  QVERIFY(std::abs(scale->colorBarInterval().maxValue() - 100.0) < 1e-9);
+  const QRectF bar = scale->colorBarRect(scale->contentsRect());
+  const LogarithmicColorMap map(ColorRamp{settings.firstColor, settings.lastColor, settings.saturation, settings.lightness},
+                                settings.logFactor);
+  for (const double celsius : {2.0, 10.0, 50.0, 98.0}) {
+    const QPoint place(static_cast<int>(bar.center().x()),
+                       static_cast<int>(scale->scaleDraw()->scaleMap().transform(celsius)));
+    const int drawn = picture.pixelColor(scale->mapTo(&f.plot(), place)).hsvHue();
+    const int meant = QColor(map.rgb({0.0, 100.0}, celsius)).hsvHue();
+    QVERIFY2(std::abs(drawn - meant) <= (celsius < 5.0 ? 8 : 3),
+             qPrintable(QStringLiteral("%1: %2 %3").arg(celsius).arg(drawn).arg(meant)));
+  }
 }
 
 void TestColorMap::rampsKeepTheirOrder_data() {
@@ -114,7 +193,7 @@ void TestColorMap::rampsKeepTheirOrder() {
 
 void TestColorMap::capsAreDarker() {
   const QwtInterval interval(0.0, 10.0);
-  TableColorMap table(HueColorMap({}), interval);
+  TableColorMap table(std::make_unique<HueColorMap>(ColorRamp()));
   QCOMPARE(table.rgb(interval, 11.0), table.rgb(interval, 10.0));
   table.setCaps(false, true);
   QVERIFY(QColor(table.rgb(interval, 11.0)).value() < QColor(table.rgb(interval, 10.0)).value());

@@ -40,6 +40,7 @@ private slots:
   void onlySymbolsFollowWhenLabelsAreOff();
   void numbersBesideEachOtherLookAlike();
   void richTextTakesTheColourOfTheTable();
+  void entitiesAreCharacters();
   void richTextOpensNothing();
   void richTextIsBounded();
   void everyTypeIsShownAsTheTableSays_data();
@@ -193,6 +194,12 @@ void TestLabels::contentsFollowTheTable_data() {
   QTest::newRow("dots end a name") << QStringLiteral("(@p.)") << QStringList{QStringLiteral("(20 bar.)")} << QString();
   QTest::newRow("marks") << QStringLiteral("<b>@name</b><br />@p") << QStringList()
                          << QStringLiteral("<b>A &amp; B</b><br />20 bar");
+  QTest::newRow("entities without a mark")
+      << QStringLiteral("&Delta;p&nbsp;&#60;5&#x3e;&#44; @name<br />R&D @p") << QStringList()
+      << QStringLiteral("&Delta;p&nbsp;&#60;5&#x3e;, A &amp; B<br />R&D 20 bar");
+  QTest::newRow("no entity") << QStringLiteral("R&D; of &@name") << QStringList() << QStringLiteral("R&D; of &A &amp; B");
+  QTest::newRow("lonely signs") << QStringLiteral("R&D &#; @p &;") << QStringList{QStringLiteral("R&D &#; 20 bar &;")}
+                                << QString();
   QTest::newRow("formula") << QStringLiteral("@{p*2+pow(2,3)} and @{rho}<br />@{p +}")
                            << QStringList{QStringLiteral("48 and")} << QString();
   QTest::newRow("nothing") << QString() << QStringList() << QString();
@@ -452,6 +459,33 @@ void TestLabels::richTextTakesTheColourOfTheTable() {
   QVERIFY(pixels(f.picture(), colour) > 100);
 }
 
+void TestLabels::entitiesAreCharacters() {
+  ViewFixture f;
+  f.net.addElement(makeElement({{"name", "T"}, {"type", "t"}, {"x", "0"}, {"y", "100"}, {"text", "own"}}));
+  f.plot().show();
+  f.show();
+  const auto widest = [&f](const QString &contents) {
+    LabelTable table;
+    table.types.front()[LabelRow::Contents] = contents;
+    f.plot().update().setLabelTable(table);
+    f.plot().update().relabelNow();
+    double width = 0.0;
+    for (const Label &label : f.plot().update().labels())
+      width = std::max(width, label.candidate.size.width());
+    return width;
+  };
+  const double written = widest(QStringLiteral("<b></b>█████"));
+  QVERIFY(written > 0.0);
+  QCOMPARE(
+      widest(QStringLiteral("&#9608;&#9608;&block;&#x2588;&#9608;").replace(QStringLiteral("&block;"), QStringLiteral("█"))),
+      written);
+  LabelTable table; // and in boxes, where marks are left out
+  table.types.back()[LabelRow::Contents] = QStringLiteral("<b>&Delta;p</b>&nbsp;&lt;5&gt; @name");
+  const element box = makeElement({{"name", "<i>A</i>&amp;"}, {"type", "t"}});
+  const NetData net;
+  QCOMPARE(LabelContents(table, PlotSettings(), net).textOfBox(box), QStringList{QStringLiteral("Δp <5> <i>A</i>&amp;")});
+}
+
 void TestLabels::richTextOpensNothing() {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("red.png"));
@@ -463,7 +497,8 @@ void TestLabels::richTextOpensNothing() {
   f.show();
   const QStringList attempts{QStringLiteral("<img src=\"%1\"><b>x</b>"), QStringLiteral("<img src=\"file://%1\"><b>x</b>"),
                              QStringLiteral("<table background=\"%1\"><tr><td>xxxxxxxx</td></tr></table>"),
-                             QStringLiteral("<p style=\"background-image:url(%1)\">xxxxxxxx</p>")};
+                             QStringLiteral("<p style=\"background-image:url(%1)\">xxxxxxxx</p>"),
+                             QStringLiteral("&lt;img src=&quot;%1&quot;&gt;&#60;b>x")};
   for (const QString &attempt : attempts) {
     LabelTable table;
     table.types.front()[LabelRow::Contents] = attempt.arg(path);

@@ -12,6 +12,7 @@ class TestLabelTable : public QObject {
 
 private slots:
   void comesBackAsWritten();
+  void anotherVersionIgnoresMasters_data();
   void anotherVersionIgnoresMasters();
   void cutAtEveryLine();
   void badFiles();
@@ -58,14 +59,42 @@ void TestLabelTable::comesBackAsWritten() {
   QCOMPARE(read.templates.size(), std::size_t(2));
 }
 
+void TestLabelTable::anotherVersionIgnoresMasters_data() {
+  QTest::addColumn<int>("row"); // of the table, that the master stands for or before
+  QTest::addColumn<QByteArray>("code");
+  QTest::addColumn<bool>("isInPlace"); // of the type's own row
+  QTest::newRow("before the others") << 0 << QByteArray("7") << false;
+  QTest::newRow("amid the others") << 3 << QByteArray("m") << false;
+  QTest::newRow("in a type's place") << 2 << QByteArray("p") << true;
+  QTest::newRow("in the last type's place") << 12 << QByteArray("t") << true;
+  QTest::newRow("beside a type's own row") << 2 << QByteArray("p") << false;
+}
+
 void TestLabelTable::anotherVersionIgnoresMasters() {
-  QList<QByteArray> lines = sampleText().split('\n');
+  QFETCH(int, row);
+  QFETCH(QByteArray, code);
+  QFETCH(bool, isInPlace);
+  LabelTable expected = sample();
+  for (LabelRow &type : expected.types)
+    type[LabelRow::Size] = type[LabelRow::Short];
+  QVERIFY(LabelTableFile::write(path("sample.csv"), expected));
+  QFile file(path("sample.csv"));
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  QList<QByteArray> lines = file.readAll().split('\n');
   lines[0] = "vfd 0";
+  const int first = 1 + LabelRow::Columns * (1 + row);
+  for (int column = 0; column < LabelRow::Columns; ++column) {
+    if (isInPlace)
+      lines.removeAt(first);
+  }
   for (int column = 0; column < LabelRow::Columns; ++column)
-    lines.insert(1 + LabelRow::Columns + column, column == 0 ? "master compressor" : "7");
+    lines.insert(first + column, column == 0 ? "master something" : column == 1 ? code : "7");
+  if (isInPlace)
+    expected.types.at(static_cast<std::size_t>(row)) = LabelTable().types.at(static_cast<std::size_t>(row));
   LabelTable read;
   QVERIFY(LabelTableFile::read(write(lines.join('\n')), read));
-  QVERIFY(read == sample());
+  QVERIFY(read.types == expected.types);
+  QVERIFY(read.templates == expected.templates);
 }
 
 void TestLabelTable::cutAtEveryLine() {

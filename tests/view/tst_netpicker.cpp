@@ -36,6 +36,8 @@ private slots:
   void parallelEdgesArePickedApart();
   void subnetMenu_data();
   void subnetMenu();
+  void subnetMenuKeepsKindsApart();
+  void eachSubnetHasItsMenu();
   void selectionMenu();
   void selectionOfAnotherNetworkIsGone();
 
@@ -286,11 +288,16 @@ void TestNetPicker::keys() {
   ViewFixture f;
   f.net.addElement(makeElement({{"name", "T"}, {"type", "t"}, {"x", "50"}, {"y", "50"}, {"text", "text"}}));
   f.plot().show();
+  f.net.addElement(makeElement({{"name", "Nowhere"}, {"type", "t"}, {"text", "no place"}}));
+  f.net.addElement(makeElement({{"name", "Station"}, {"type", "sub"}, {"pins", "A;C"}}));
+  f.net.addElement(makeElement({{"name", "N"}, {"type", "n"}}));
   f.show();
   QTest::keyClick(f.plot().plot()->canvas(), Qt::Key_A, Qt::ControlModifier);
-  QCOMPARE(f.net.selection().nodes.size(), 4);
+  QCOMPARE(f.net.selection().nodes.size(), 5); // wherever they stand, and those that stand nowhere
   QCOMPARE(f.net.selection().edges.size(), 3);
-  QCOMPARE(f.net.selection().others.size(), 1);
+  QCOMPARE(f.net.selection().others, (Selection::Names{QStringLiteral("Nowhere"), QStringLiteral("T")}));
+  QCOMPARE(f.net.selection().subnets, Selection::Names{QStringLiteral("Station")});
+  f.picture(); // marks what has a place
   QTest::keyClick(f.plot().plot()->canvas(), Qt::Key_Escape);
   QVERIFY(f.net.selection().isEmpty());
   QCOMPARE(f.control.picker()->selectAllAction()->text(), QStringLiteral("Select All (Ctrl+A)"));
@@ -402,16 +409,21 @@ void TestNetPicker::subnetMenu_data() {
   QTest::addColumn<QStringList>("edit");
   QTest::addColumn<QStringList>("open");
   const QStringList lost{QStringLiteral("<Could not find subnet>!")};
-  const QString all = QStringLiteral("ALL of Station");
-  const QString active = QStringLiteral("ALL active of Station");
+  const QString compressors = QStringLiteral("compressors");
+  const QString regulators = QStringLiteral("regulators");
+  const QString all = QStringLiteral("ALL of ");
+  const QString active = QStringLiteral("ALL active of ");
   QTest::newRow("removed") << QStringLiteral("CD") << false << lost << lost;
   QTest::newRow("empty") << QString() << true << QStringList{QStringLiteral("<empty element list>!")}
                          << QStringList{QStringLiteral("<empty characteristics list>!")};
-  QTest::newRow("regulator") << QStringLiteral("R;AB") << true << QStringList{all, active, QString(), QStringLiteral("R")}
+  QTest::newRow("regulator") << QStringLiteral("R;AB") << true
+                             << QStringList{all + regulators, active + regulators, QString(), QStringLiteral("R")}
                              << QStringList{QStringLiteral("<empty characteristics list>!")};
-  QTest::newRow("compressor") << QStringLiteral("CD;R") << true
-                              << QStringList{all, active, QString(), QStringLiteral("CD"), QStringLiteral("R")}
-                              << QStringList{all, active, QString(), QStringLiteral("CD")};
+  QTest::newRow("compressor") << QStringLiteral("CD;R") << true << QStringList{all + compressors,  active + compressors,
+                                                                               all + regulators,   active + regulators,
+                                                                               QString(),          QStringLiteral("CD"),
+                                                                               QStringLiteral("R")}
+                              << QStringList{all + compressors, active + compressors, QString(), QStringLiteral("CD")};
 }
 
 void TestNetPicker::subnetMenu() {
@@ -440,6 +452,73 @@ void TestNetPicker::subnetMenu() {
   QCOMPARE(texts(*characteristics), open);
   characteristics->actions().first()->trigger();
   QCOMPARE(opened.count(), open.size() > 1 ? 1 : 0);
+}
+
+/// What acts on all acts on all of a kind: nobody means compressors and regulators together.
+void TestNetPicker::subnetMenuKeepsKindsApart() {
+  ViewFixture f;
+  QStringList inside{QStringLiteral("CD"), QStringLiteral("M"), QStringLiteral("Drive"), QStringLiteral("gone")};
+  f.net.addElement(makeElement({{"name", "Drive"}, {"type", "d"}, {"x", "201"}, {"y", "49"}, {"active", "0"}}));
+  for (int i = 0; i < 40; ++i) {
+    inside.append(QStringLiteral("R%1").arg(i, 2, 10, QLatin1Char('0')));
+    f.add(makeEdge(qPrintable(inside.last()), "A", "C", "r"), {{"state", i % 2 == 0 ? "closed" : "open"}});
+  }
+  element station = makeElement({{"name", "Station"}, {"type", "sub"}, {"x", "20"}, {"y", "80"}, {"pins", "A;C"}});
+  station.set(QStringLiteral("elements"), inside.join(QLatin1Char(';')));
+  f.net.addElement(station);
+  f.plot().show();
+  f.show();
+  QVERIFY(f.control.picker()->markElement(QStringLiteral("Station")));
+  const QSignalSpy edited(&f.control, &NetVisControl::editPropertiesRequested);
+  const QSignalSpy opened(&f.control, &NetVisControl::openCharacteristicsRequested);
+  QMenu contextMenu;
+  emit f.plot().contextMenuRequested(&contextMenu);
+  const QMenu &subnet = *subMenu(contextMenu, QStringLiteral("Subnet"));
+  const QMenu &edit = *subMenu(subnet, QStringLiteral("Edit Properties of"));
+  const QMenu &open = *subMenu(subnet, QStringLiteral("Open Characteristics of"));
+  const auto entry = [](const QMenu &of, const QString &text) -> QAction * {
+    for (QAction *action : of.actions()) {
+      if (action->text() == text)
+        return action;
+    }
+    return nullptr;
+  };
+  QVERIFY(entry(edit, QStringLiteral("ALL of regulators")) != nullptr);
+  entry(edit, QStringLiteral("ALL of regulators"))->trigger();
+  entry(edit, QStringLiteral("ALL active of regulators"))->trigger();
+  entry(edit, QStringLiteral("ALL of compressors"))->trigger();
+  entry(open, QStringLiteral("ALL of drives"))->trigger();
+  QCOMPARE(edited.count(), 3);
+  QCOMPARE(edited[0][0].toStringList(), inside.mid(4));
+  QCOMPARE(edited[1][0].toStringList().size(), 20);
+  QCOMPARE(edited[2][0].toStringList(), QStringList{QStringLiteral("CD")});
+  QCOMPARE(opened[0][0].toStringList(), QStringList{QStringLiteral("Drive")});
+  QVERIFY(!entry(open, QStringLiteral("ALL active of drives"))->isEnabled()); // there are none
+  QVERIFY(entry(open, QStringLiteral("ALL active of compressors"))->isEnabled());
+  QVERIFY(entry(open, QStringLiteral("ALL of regulators")) == nullptr);
+  QCOMPARE(edit.actions().last()->text(), QStringLiteral("… and 12 more")); // of 42 that are there
+  QVERIFY(!edit.actions().last()->isEnabled());
+}
+
+void TestNetPicker::eachSubnetHasItsMenu() {
+  ViewFixture f;
+  f.add(makeEdge("R", "A", "C", "r"), {});
+  f.add(makeElement({{"name", "East & Co"}, {"type", "sub"}, {"x", "20"}, {"y", "80"}, {"pins", "A"}}),
+        {{"elements", "CD"}});
+  f.add(makeElement({{"name", "West"}, {"type", "sub"}, {"x", "120"}, {"y", "80"}, {"pins", "C"}}), {{"elements", "R"}});
+  f.plot().show();
+  f.show();
+  f.control.picker()->selectAll();
+  const QSignalSpy wanted(&f.control, &NetVisControl::subnetWanted);
+  QMenu contextMenu;
+  emit f.plot().contextMenuRequested(&contextMenu);
+  const QMenu &subnets = *subMenu(contextMenu, QStringLiteral("Subnet"));
+  QCOMPARE(texts(subnets), (QStringList{QStringLiteral("East && Co"), QStringLiteral("West")}));
+  const QMenu &west = *subMenu(subnets, QStringLiteral("West"));
+  QVERIFY(texts(*subMenu(west, QStringLiteral("Edit Properties of"))).contains(QStringLiteral("R")));
+  west.actions().first()->trigger();
+  QCOMPARE(wanted.count(), 1);
+  QCOMPARE(wanted[0][0].toString(), QStringLiteral("West"));
 }
 
 /// The entries for what is selected, of which there may be far more than a menu holds.
@@ -472,9 +551,10 @@ void TestNetPicker::selectionMenu() {
   const QStringList many = fill(ofMany);
   QVERIFY(many.contains(characteristics) && !many.contains(QStringLiteral("Select upstream")));
   const QStringList shown = texts(*subMenu(ofMany, QStringLiteral("Show")));
-  QCOMPARE(shown.size(), 30);
+  QCOMPARE(shown.size(), 31);
   QCOMPARE(shown.first(), QStringLiteral("CD")); // regardless of case
-  QCOMPARE(shown.last(), QStringLiteral("n028"));
+  QCOMPARE(shown.at(29), QStringLiteral("n028"));
+  QCOMPARE(shown.last(), QStringLiteral("… and 171 more"));
 }
 
 void TestNetPicker::selectionOfAnotherNetworkIsGone() {

@@ -4,6 +4,7 @@
 #include <support/nivratest.h>
 #include <view/plotzoom.h>
 
+#include <QElapsedTimer>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -44,7 +45,7 @@ private slots:
   void thresholdsAreJudgedByTheViewOfTheNetwork();
   void thresholdsHoldWithoutAWindowToo();
   void showsAnElement();
-  void keysAskForARefresh();
+  void labelsWaitForWhoeverZooms();
 
 private:
   /// The fixture's network in other coordinates.
@@ -573,15 +574,38 @@ void TestNetPlot::showsAnElement() {
   QVERIFY(!f.control.showElement(QStringLiteral("nowhere")));
 }
 
-void TestNetPlot::keysAskForARefresh() {
+/// Whoever zooms says when labels are wanted: no request of the single step comes before and takes its place.
+void TestNetPlot::labelsWaitForWhoeverZooms() {
+  constexpr int PastThrottle = 150; // ms
+  GeneralSettings &general = GeneralSettings::instance();
+  general.setValue(QStringLiteral("perform label placement"), QStringLiteral("always"));
+  general.setValue(QStringLiteral("perform label placement msec"), QStringLiteral("100"));
   ViewFixture f;
   f.plot().show();
   f.show();
-  const QSignalSpy asked(f.plot().zoomer(), &PlotZoom::refreshRequested);
-  QTest::keyClick(f.plot().plot()->canvas(), Qt::Key_Plus);
-  QCOMPARE(asked.count(), 2);
-  QCOMPARE(asked.at(0).first().toInt(), 2000);
-  QCOMPARE(asked.at(1).first().toInt(), 250);
+  const auto hasLabels = [&f] {
+    return !f.plot().update().labels().empty();
+  };
+  QVERIFY(hasLabels()); // those of a new network stand at once
+  QWidget *canvas = f.plot().plot()->canvas();
+  QCursor::setPos(canvas->mapToGlobal(canvas->mapFrom(&f.plot(), f.pixel(100, 0))));
+  QTest::qWait(PastThrottle);
+  QElapsedTimer timer;
+  timer.start();
+  QTest::keyPress(canvas, Qt::Key_Plus);
+  QVERIFY(!hasLabels()); // those of another scale are gone
+  QTRY_VERIFY_WITH_TIMEOUT(hasLabels(), 4000);
+  QVERIFY2(timer.elapsed() > 1900, qPrintable(QString::number(timer.elapsed())));
+  QTest::keyPress(canvas, Qt::Key_Plus);
+  QTest::qWait(PastThrottle);
+  timer.start();
+  QTest::keyRelease(canvas, Qt::Key_Plus);
+  QTRY_VERIFY(hasLabels());
+  QVERIFY2(timer.elapsed() > 200 && timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
+  QTest::qWait(PastThrottle);
+  f.plot().zoomer()->resetZoomBase(QRectF(-20, -20, 300, 200));
+  QVERIFY(hasLabels()); // asked for at once
+  general.reset();
 }
 
 NIVRA_TEST(TestNetPlot);

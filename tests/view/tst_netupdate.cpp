@@ -1,9 +1,11 @@
 #include "geometry/networkgraph.h"
 #include "viewfixture.h"
 
+#include <base/nivramsg.h>
 #include <support/nivratest.h>
 
 #include <QSet>
+#include <QSignalSpy>
 #include <qwt_scale_div.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
@@ -62,6 +64,7 @@ private slots:
   void searchHasNoScale();
   void awkwardPlaces_data();
   void awkwardPlaces();
+  void timesGoToTheLogFileAlone();
 };
 
 void TestNetUpdate::functionNames_data() {
@@ -475,6 +478,22 @@ void TestNetUpdate::awkwardPlaces() {
   const QRectF shown = f.plot().plot()->visibleRect();
   QVERIFY(shown.width() > 0.0 && std::isfinite(shown.width()));
   QVERIFY(shown.contains(QPointF(100, 0)));
+}
+
+/// Each redraw takes its time; that is for whoever reads the log file, not for the dock of messages.
+void TestNetUpdate::timesGoToTheLogFileAlone() {
+  ViewFixture f;
+  f.plot().show();
+  QSignalSpy told(&NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole);
+  for (const char *line : {"after rebuild edges:", "after update edge curves:", "after update nodes:", "Plot update:",
+                           "determineVisibleSymbols\\(\\) took", "Pixtest_noLabels \\(incl\\. last update_subnets\\):"})
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("^ *%1 [0-9.e-]+ sec\\.$").arg(QLatin1String(line))));
+  f.show();
+  QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("after update edges: [0-9.e-]+ sec\\.$")));
+  f.control.setShowsSearchResults(true);
+  for (const QList<QVariant> &text : told)
+    QVERIFY2(!text.first().toString().contains(QStringLiteral(" sec.")), qPrintable(text.first().toString()));
+  QVERIFY(!told.isEmpty()); // that it is drawn is told
 }
 
 NIVRA_TEST(TestNetUpdate);

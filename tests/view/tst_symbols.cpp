@@ -2,6 +2,7 @@
 #include "viewfixture.h"
 
 #include <support/nivratest.h>
+#include <view/plotzoom.h>
 
 #include <QBuffer>
 #include <QDir>
@@ -9,6 +10,7 @@
 #include <QPainter>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <drawing/stationsymbols.h>
 #include <sys/stat.h>
 
@@ -27,6 +29,9 @@ private slots:
   void badFigures_data();
   void badFigures();
   void figuresTakeThePlaceOfSymbols();
+  void charactersHaveTheSizeThatIsAskedFor_data();
+  void charactersHaveTheSizeThatIsAskedFor();
+  void figuresTakeTheirRoom();
   void crowdedStationsShareASymbol();
   void edgeOfNoLengthShowsAtItsNode();
 
@@ -254,6 +259,102 @@ void TestSymbols::figuresTakeThePlaceOfSymbols() {
   QCOMPARE(picture.pixelColor(a + QPoint(13, 4)), QColor(Qt::red));
   QVERIFY(picture.pixelColor(a + QPoint(17, 4)) != QColor(Qt::red));
   QVERIFY(picture.pixelColor(a + QPoint(4, 8)) != QColor(Qt::red));
+}
+
+void TestSymbols::charactersHaveTheSizeThatIsAskedFor_data() {
+  QTest::addColumn<QString>("width");
+  QTest::addColumn<QString>("height");
+  QTest::addColumn<int>("pixels");
+  QTest::newRow("of symbols") << QString() << QString() << 20;
+  QTest::newRow("width") << QStringLiteral("60") << QString() << 60;
+  QTest::newRow("height") << QString() << QStringLiteral("60") << 60;
+  QTest::newRow("low") << QStringLiteral("80") << QStringLiteral("40") << 40;
+  QTest::newRow("narrow") << QStringLiteral("40") << QStringLiteral("80") << 40;
+}
+
+void TestSymbols::charactersHaveTheSizeThatIsAskedFor() {
+  QFETCH(QString, width);
+  QFETCH(QString, height);
+  QFETCH(int, pixels);
+  ViewFixture f;
+  f.addNode("N", "100", "50", "30");
+  element &node = *f.net.element(QStringLiteral("N"));
+  node.set(QStringLiteral("figure.char"), QStringLiteral("M"));
+  node.set(QStringLiteral("figure.width"), width);
+  node.set(QStringLiteral("figure.height"), height);
+  f.show();
+  const QImage picture = f.picture();
+  QRect ink;
+  for (int y = -50; y < 50; ++y) {
+    for (int x = -50; x < 50; ++x) {
+      if (picture.pixelColor(f.pixel(100, 50) + QPoint(x, y)).value() < 60)
+        ink = ink.united(QRect(x, y, 1, 1));
+    }
+  }
+  const QString said = QStringLiteral("%1 x %2").arg(ink.width()).arg(ink.height());
+  QVERIFY2(ink.height() > pixels * 0.6 && ink.height() < pixels, qPrintable(said)); // a capital letter of such a font
+  QVERIFY2(qAbs(ink.center().x()) < 3 && qAbs(ink.center().y()) < pixels * 0.1 + 2, qPrintable(said));
+}
+
+/// What is drawn is what is clicked on and what labels keep away from.
+void TestSymbols::figuresTakeTheirRoom() {
+  QImage red(40, 10, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  QVERIFY(red.save(m_folder.filePath(QStringLiteral("red.png"))));
+  for (const char *property : {"figure.char", "figure.file"}) {
+    ViewFixture f;
+    f.addNode("N", "100", "50", "30");
+    element &node = *f.net.element(QStringLiteral("N"));
+    node.set(QString::fromLatin1(property), QStringLiteral("red.png"));
+    const bool isPicture = qstrcmp(property, "figure.file") == 0;
+    if (!isPicture)
+      node.set(QStringLiteral("figure.char"), QStringLiteral("M"));
+    node.set(QStringLiteral("figure.width"), QStringLiteral("120"));
+    f.plot().show();
+    f.control.showNetData(m_folder.filePath(QStringLiteral("plotsettings.ini")));
+    QWidget *canvas = f.plot().plot()->canvas();
+    const QPoint center = canvas->mapFrom(&f.plot(), f.pixel(100, 50));
+    const auto isHit = [&](const QPoint &aside) {
+      f.control.picker()->clearSelection();
+      QTest::mouseClick(canvas, Qt::LeftButton, Qt::NoModifier, center + aside);
+      return f.net.selection().names().contains(QStringLiteral("N"));
+    };
+    QVERIFY(isHit({54, 12}) && isHit({-54, -12}));
+    QVERIFY(!isHit({80, 0}));
+    QCOMPARE(isHit({0, -40}), !isPicture); // 30 px high
+
+    f.plot().update().relabelNow();
+    QRectF figure(0, 0, 120, isPicture ? 30 : 120);
+    figure.moveCenter(center);
+    const auto labelsOfNode = [&f, &node] {
+      const std::vector<Label> &labels = f.plot().update().labels();
+      return std::count_if(labels.begin(), labels.end(), [&](const Label &label) {
+        return f.plot().update().geometry().source(label.candidate.item) == &node;
+      });
+    };
+    for (const Label &label : f.plot().update().labels())
+      QVERIFY(!label.candidate.box(label.spot).bounds().intersects(figure));
+    QCOMPARE(labelsOfNode(), 1);
+    node.set(QStringLiteral("figure.width"), QStringLiteral("16")); // room for two
+    f.plot().update().relabelNow();
+    QCOMPARE(labelsOfNode(), 1);
+    node.set(QStringLiteral("figure.width"), QStringLiteral("120"));
+    f.plot().update().relabelNow();
+
+    // Its middle 30 px beyond the side of the canvas, the rest still shows.
+    PlotZoom &zoomer = *f.plot().zoomer();
+    const QSizeF unit = f.plot().plot()->unitsPerPixel();
+    zoomer.zoom(zoomer.zoomRect().translated((center.x() + 30) * unit.width(), 0));
+    const QImage picture = canvas->grab().toImage();
+    bool isDrawn = false;
+    for (int y = -30; y < 30; ++y) {
+      for (int x = 0; x < 12; ++x) {
+        const QColor pixel = picture.pixelColor(x, center.y() + y);
+        isDrawn = isDrawn || pixel == QColor(isPicture ? Qt::red : Qt::black);
+      }
+    }
+    QVERIFY(isDrawn);
+  }
 }
 
 void TestSymbols::crowdedStationsShareASymbol() {

@@ -1,4 +1,5 @@
 #include "configure/labeltableeditor.h"
+#include "configure/plotsettingsfile.h"
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
@@ -7,6 +8,7 @@
 #include <view/viewfuncdialog.h>
 
 #include <QCheckBox>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
@@ -35,6 +37,9 @@ private slots:
   void invalidRangeAsks_data();
   void invalidRangeAsks();
   void savesBothFiles();
+  void savedSettingsComeBack();
+  void untouchedFieldsStay();
+  void touchedFieldsAreTaken();
   void templates();
   void boundsBelongToAFunction();
   void typedBoundsOfAnybody();
@@ -52,6 +57,17 @@ private:
   }
   static FunctionRow *row(viewFuncDialog &dialog, int number) { return dialog.findChildren<FunctionRow *>().at(number); }
   static void press(viewFuncDialog &dialog, const char *button) { child<QPushButton>(dialog, button)->click(); }
+  /// Chooses a colour in the dialog that the button opens.
+  static void choose(viewFuncDialog &dialog, const char *button, const QColor &color) {
+    QTimer::singleShot(0, [&color] {
+      auto *chooser = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+      if (chooser == nullptr)
+        return;
+      chooser->setCurrentColor(color);
+      chooser->accept();
+    });
+    press(dialog, button);
+  }
   /// Answers the next message box and keeps its text.
   static void answer(QMessageBox::StandardButton button, QString &text) {
     QTimer::singleShot(0, [button, &text] {
@@ -203,6 +219,134 @@ void TestViewFuncDialog::savesBothFiles() {
   QVERIFY2(text.contains(QStringLiteral("/nowhere/")), qPrintable(text));
 }
 
+void TestViewFuncDialog::savedSettingsComeBack() {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("plotsettings.ini"));
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  const auto *saved = child<QPushButton>(dialog, "savedSettings");
+  QVERIFY(!saved->isEnabled());
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), path);
+  QVERIFY(!saved->isEnabled()); // there is nothing yet
+  child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
+  choose(dialog, "bgrColor", QColor(10, 60, 90));
+  auto *table = child<QTableWidget>(dialog, "labelTable");
+  table->item(0, LabelRow::Contents)->setText(QStringLiteral("kept"));
+  press(dialog, "applyAndSave");
+  QVERIFY(saved->isEnabled());
+  const QColor ground = f.picture().pixelColor(f.pixel(50, 80));
+  QCOMPARE(ground, QColor(10, 60, 90));
+  const PlotSettings kept = f.plot().settings();
+  const LabelTable labels = f.plot().update().labelTable();
+
+  child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(7.0);
+  choose(dialog, "bgrColor", Qt::yellow);
+  child<QComboBox>(dialog, "viewport")->setCurrentIndex(0);
+  table->item(0, LabelRow::Contents)->setText(QStringLiteral("tried"));
+  press(dialog, "apply");
+  QVERIFY(f.picture().pixelColor(f.pixel(50, 80)) == QColor(Qt::yellow));
+  table->item(0, LabelRow::Contents)->setText(QStringLiteral("half typed"));
+  press(dialog, "savedSettings");
+  QCOMPARE(f.picture().pixelColor(f.pixel(50, 80)), ground);
+  QVERIFY(f.plot().update().labelTable() == labels);
+  PlotSettings now = f.plot().settings();
+  now.takeZoomLimits(kept);
+  QVERIFY(now == kept);
+  QCOMPARE(child<QDoubleSpinBox>(dialog, "edgeMag")->value(), 2.5);
+  QCOMPARE(table->item(0, LabelRow::Contents)->text(), QStringLiteral("kept"));
+
+  QVERIFY(QFile::remove(path)); // meanwhile
+  press(dialog, "savedSettings");
+  QCOMPARE(f.plot().settings().edgeMag, 2.5);
+  QVERIFY(QFile::remove(folder.filePath(QStringLiteral("vfd.csv"))));
+  press(dialog, "savedSettings");
+  QVERIFY(!saved->isEnabled());
+  QCOMPARE(f.plot().settings().edgeMag, 2.5);
+}
+
+/// What the fields cannot show, be it digits, opacity or values beyond their limits, is not theirs to change.
+void TestViewFuncDialog::untouchedFieldsStay() {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("plotsettings.ini"));
+  PlotSettings stored;
+  stored.colorFunc = QStringLiteral("pressure");
+  stored.legendPos = 5;
+  stored.colorScalePos = 2;
+  stored.lastColor = 400;
+  stored.saturation = 300;
+  stored.lightness = -3;
+  stored.logFactor = 7.83;
+  stored.edgeConst = 1.125;
+  stored.edgeMag = 250.0;
+  stored.zoomFact = 1.005;
+  stored.labelMag = 100;
+  stored.alphaSubnet = 256;
+  stored.edgeColorInactive = QColor(0xa0, 0xa0, 0xa4, 0x80);
+  stored.gridMinorColor = QColor();
+  stored.minVal_edgeColor = 12.345678901234567;
+  stored.maxVal_edgeColor = 85.000000000000014;
+  stored.minVal_nodeColor = 1.0 / 3.0;
+  stored.nodeColorFunc = QStringLiteral("temperature"); // in K, and shown in another unit
+  stored.maxVal_nodeColor = 300.1;
+  stored.label_mode = QStringLiteral("of another program");
+  stored.colorRamp = QStringLiteral("unknown");
+  stored.colorClasses = 1;
+  stored.classMethod = PlotSettings::quantileClasses();
+  stored.edgeShowFlow = QStringLiteral(" q");
+  QVERIFY(PlotSettingsFile::write(path, stored));
+  PlotSettings before;
+  QVERIFY(PlotSettingsFile::read(path, before));
+  QVERIFY(before == stored);
+
+  ViewFixture f;
+  f.control.showNetData(path);
+  viewFuncDialog dialog(f.plot());
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), path);
+  QCOMPARE(child<QComboBox>(dialog, "legendPos")->currentText(), QStringLiteral("not shown"));
+  QCOMPARE(child<QLineEdit>(*row(dialog, 0), "minimum")->text().toDouble(), 12.345678901234567);
+  press(dialog, "applyAndSave");
+  press(dialog, "applyAndSave");
+  PlotSettings after;
+  QVERIFY(PlotSettingsFile::read(path, after));
+  QVERIFY(after == before);
+  auto *color = child<QComboBox>(*row(dialog, 0), "function"); // there and back
+  color->setCurrentText(QStringLiteral("volume flow"));
+  color->setCurrentText(QStringLiteral("pressure"));
+  press(dialog, "apply");
+  QCOMPARE(f.plot().settings().minVal_edgeColor, stored.minVal_edgeColor);
+  QCOMPARE(f.plot().settings().maxVal_nodeColor, stored.maxVal_nodeColor);
+}
+
+void TestViewFuncDialog::touchedFieldsAreTaken() {
+  ViewFixture f;
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.classMethod = PlotSettings::quantileClasses();
+  settings.legendPos = 5;
+  settings.edgeConst = 1.125;
+  f.plot().setSettings(settings);
+  viewFuncDialog dialog(f.plot());
+  child<QComboBox>(dialog, "classMethod")->setCurrentIndex(1);
+  child<QComboBox>(dialog, "legendPos")->setCurrentIndex(3);
+  child<QDoubleSpinBox>(dialog, "edgeConst")->setValue(2.25);
+  child<QCheckBox>(*row(dialog, 1), "logarithmic")->setChecked(true);
+  choose(dialog, "edgeColorNoFlow", QColor(1, 2, 3));
+  press(dialog, "apply");
+  const PlotSettings &taken = f.plot().settings();
+  QCOMPARE(taken.classMethod, PlotSettings::equalClasses());
+  QCOMPARE(taken.colorClasses, 5);
+  QCOMPARE(taken.legendPos, 3);
+  QCOMPARE(taken.edgeConst, 2.25);
+  QVERIFY(taken.logScaleWidth);
+  QCOMPARE(taken.edgeColorNoFlow, QColor(1, 2, 3));
+  child<QComboBox>(dialog, "classMethod")->setCurrentIndex(0);
+  press(dialog, "apply");
+  QVERIFY(taken.colorClasses < 2);
+  QCOMPARE(taken.classMethod, PlotSettings::equalClasses()); // for the next time
+}
+
 void TestViewFuncDialog::templates() {
   ViewFixture f;
   f.show();
@@ -349,8 +493,9 @@ void TestViewFuncDialog::gridIsShown() {
   };
   const QColor major(1, 120, 3);
   const QColor minor(200, 4, 180);
-  child<QPushButton>(dialog, "gridMajorColor")->setText(major.name());
-  child<QPushButton>(dialog, "gridMinorColor")->setText(minor.name());
+  choose(dialog, "gridMajorColor", major);
+  choose(dialog, "gridMinorColor", minor);
+  child<QCheckBox>(dialog, "showGrid")->setChecked(false); // which comes with a colour of its own
   press(dialog, "apply");
   QCOMPARE(count(major) + count(minor), 0);
   child<QCheckBox>(dialog, "showGrid")->setChecked(true);

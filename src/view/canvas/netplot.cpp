@@ -86,11 +86,7 @@ void NetPlot::setUpPanner() {
 }
 
 void NetPlot::setUpZoom() {
-  connect(m_zoomer, &QwtPlotZoomer::zoomed, this, [this] {
-    placeLegend();
-    if (!m_smoothZoom->isRunning())
-      refresh(GeneralSettings::instance().value(QStringLiteral("pixtest delay")).toInt());
-  });
+  connect(m_zoomer, &QwtPlotZoomer::zoomed, this, &NetPlot::placeLegend);
   connect(m_zoomer, &PlotZoom::refreshRequested, this, &NetPlot::refresh);
   connect(m_zoomer, &PlotZoom::wheelTurned, this, &NetPlot::zoomByWheel);
 }
@@ -114,13 +110,7 @@ void NetPlot::zoomByWheel(int steps, QPointF anchor) {
     m_smoothZoom->zoom(steps);
     return;
   }
-  for (int i = 0; i < std::abs(steps); ++i) {
-    if (steps > 0)
-      m_zoomer->zoomIn(anchor);
-    else
-      m_zoomer->zoomOut(anchor);
-  }
-  refresh(general.value(QStringLiteral("pixtest delay")).toInt());
+  m_zoomer->zoomSteps(steps, anchor);
 }
 
 bool NetPlot::isZooming() const {
@@ -205,7 +195,10 @@ void NetPlot::applyColors() {
 void NetPlot::showNetwork() {
   m_selection.readSettings();
   m_selection.setGeometry(&m_update->geometry());
-  m_update->updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
+  {
+    const PlotZoom::OwnRequest own(*m_zoomer);
+    m_update->updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
+  }
   refresh(-1);
 }
 

@@ -113,16 +113,16 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
   if (which != Which::Nodes) {
     if (rebuild) {
       m_edges.setEdges(m_geometry);
-      NivraMsg::log(QStringLiteral("   after rebuild edges: %1 sec.").arg(seconds(timer)));
+      NivraMsg::debug(QStringLiteral("   after rebuild edges: %1 sec.").arg(seconds(timer)));
     }
     m_edges.setLooks(isSearch ? looks().searchedEdges() : looks().edges());
-    NivraMsg::log((isSearch ? QStringLiteral("   after update edges: %1 sec.")
-                            : QStringLiteral("   after update edge curves: %1 sec."))
-                      .arg(seconds(timer)));
+    NivraMsg::debug((isSearch ? QStringLiteral("   after update edges: %1 sec.")
+                              : QStringLiteral("   after update edge curves: %1 sec."))
+                        .arg(seconds(timer)));
   }
   if (nodes.valid()) {
     nodes.get();
-    NivraMsg::log(QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
+    NivraMsg::debug(QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
   }
   updateSymbols(rebuild);
   if (relabel && m_hasPlacedLabels)
@@ -130,7 +130,7 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
   else if (relabel)
     clearLabels();
   m_plot.plot()->replot();
-  NivraMsg::log(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
+  NivraMsg::debug(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
 }
 
 ElementLooks NetUpdate::looks() const {
@@ -223,6 +223,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
   bool hasChanged = m_visibility.setExtent(seenHeight());
   if (hasChanged)
     showWhatIsVisible();
+  determineVisibleSymbols(); // for the labels and the drawing
   if (labels == Pixtest::Labels::With) {
     placeLabels();
     hasChanged = true;

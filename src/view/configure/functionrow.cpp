@@ -19,6 +19,20 @@ bool isNumber(const QString &text) {
   return isOne || text.trimmed().isEmpty();
 }
 
+/// With as many digits as it takes to mean the same again.
+template <typename Means>
+QString shortest(double number, Means meansTheSame) {
+  constexpr int Fewest = 10;
+  constexpr int Most = 17; // that a number has
+  QString text;
+  for (int digits = Fewest; digits <= Most; ++digits) {
+    text = QString::number(number, 'g', digits);
+    if (meansTheSame(text.toDouble()))
+      break;
+  }
+  return text;
+}
+
 /// Shows in the list what stands behind a short name; the field itself keeps to the name.
 class DescribedNames : public QStyledItemDelegate {
 public:
@@ -145,24 +159,23 @@ TypedBounds FunctionRow::inUnit(const TypedBounds &typed) const {
   if (!conversion)
     return {};
   const auto converted = [&conversion](const QString &text) {
-    constexpr int Digits = 10;
     bool isOne = false;
     const double number = text.toDouble(&isOne);
-    return isOne ? QString::number((*conversion)(number), 'g', Digits) : QString();
+    return isOne ? shortest((*conversion)(number), [&](double shown) { return conversion->inverse(shown) == number; })
+                 : QString();
   };
   return {converted(typed.minimum), converted(typed.maximum), m_unit.name};
 }
 
 /// As it was typed, as long as that is still what the bound says.
 QString FunctionRow::written(double bound, double open, const QString &typed) const {
-  constexpr int Digits = 10;
-  constexpr double Rounding = 1e-9;
   if (bound == open)
     return QString();
   const double meant = stored(typed, open);
+  constexpr double Rounding = 1e-15; // of the conversion between units
   if (meant != open && std::abs(meant - bound) <= Rounding * std::max(std::abs(bound), std::abs(meant)))
     return typed;
-  return QString::number(m_unit.toDisplay(bound), 'g', Digits);
+  return shortest(m_unit.toDisplay(bound), [&](double shown) { return m_unit.toDisplay.inverse(shown) == bound; });
 }
 
 double FunctionRow::stored(const QString &text, double open) const {

@@ -7,6 +7,7 @@
 #include <QFontDialog>
 #include <QHeaderView>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QTableWidget>
 
@@ -35,6 +36,25 @@ bool isColumn(int column, LabelRow::Column wanted) {
   return column == static_cast<int>(wanted);
 }
 
+/// What such a cell may hold is chosen rather than typed.
+bool hasDialog(int column) {
+  switch (column) {
+  case LabelRow::Show:
+  case LabelRow::Contents:
+  case LabelRow::Color:
+  case LabelRow::BgrColor:
+  case LabelRow::BordColor:
+  case LabelRow::Font:
+    return true;
+  default:
+    return false;
+  }
+}
+
+QString comma() {
+  return QStringLiteral("&#44;");
+}
+
 QColor withAlpha(QColor color, const QString &alpha) {
   constexpr int Opaque = 255;
   bool isNumber = false;
@@ -52,8 +72,9 @@ LabelTableEditor::LabelTableEditor(QTableWidget &widget)
   widget.setHorizontalHeaderLabels(LabelTable::headers());
   widget.setSelectionBehavior(QAbstractItemView::SelectItems);
   widget.setIconSize({IconSize, IconSize});
-  // A double click is answered by edit(), which alone opens the one editor that suits the cell.
-  widget.setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+  // A double click, F2 and Return are answered by edit(), which alone opens the one editor that suits the cell.
+  widget.setEditTriggers(QAbstractItemView::AnyKeyPressed);
+  widget.installEventFilter(this);
   connect(&widget, &QTableWidget::cellDoubleClicked, this, &LabelTableEditor::edit);
   connect(&widget, &QTableWidget::itemChanged, this, [this](QTableWidgetItem *cell) { showLook(cell->row()); });
   connect(widget.verticalHeader(), &QHeaderView::sectionDoubleClicked, this, [] {
@@ -78,7 +99,7 @@ void LabelTableEditor::showRow(int row, const LabelRow &cells, bool isTemplate) 
   for (int column = 0; column < LabelRow::Columns; ++column) {
     auto *cell = new QTableWidgetItem(cells.cells[static_cast<std::size_t>(column)]);
     const bool isFixed = !isTemplate && (isColumn(column, LabelRow::LongName) || isColumn(column, LabelRow::Short));
-    if (isFixed)
+    if (isFixed || hasDialog(column))
       cell->setFlags(cell->flags() & ~Qt::ItemIsEditable);
     m_widget.setItem(row, column, cell);
   }
@@ -114,6 +135,7 @@ LabelRow LabelTableEditor::rowAt(int row) const {
     const QTableWidgetItem *cell = m_widget.item(row, column);
     cells.cells[static_cast<std::size_t>(column)] = cell == nullptr ? QString() : cell->text();
   }
+  cells[LabelRow::Contents].replace(QLatin1Char(','), comma());
   if (row >= m_types)
     cells.icon = m_widget.verticalHeaderItem(row)->data(IconRole).toString();
   return cells;
@@ -133,6 +155,28 @@ QStringList LabelTableEditor::visibilityValues() {
     return vis->values;
   NivraMsg::message(NivraMsg::Kind::Warning, tr("Error - allowed values for property vis missing! Defaults used!"));
   return {QStringLiteral("on"), QStringLiteral("symbol"), QStringLiteral("off"), QStringLiteral("auto")};
+}
+
+bool LabelTableEditor::eventFilter(QObject *watched, QEvent *event) {
+  const QTableWidgetItem *cell = m_widget.currentItem();
+  const bool isKey = watched == &m_widget && event->type() == QEvent::KeyPress;
+  if (!isKey || cell == nullptr || !m_widget.hasFocus()) // without it, an editor is open and passes on what ends it
+    return QObject::eventFilter(watched, event);
+  switch (static_cast<QKeyEvent *>(event)->key()) {
+  case Qt::Key_F2:
+  case Qt::Key_Return:
+  case Qt::Key_Enter:
+    edit(cell->row(), cell->column());
+    return true;
+  case Qt::Key_Delete:
+  case Qt::Key_Backspace:
+    if (!hasDialog(cell->column()) || isColumn(cell->column(), LabelRow::Show))
+      return false;
+    m_widget.item(cell->row(), cell->column())->setText(QString()); // which no dialog of colours or fonts offers
+    return true;
+  default:
+    return false;
+  }
 }
 
 void LabelTableEditor::edit(int row, int column) {
@@ -164,16 +208,17 @@ void LabelTableEditor::edit(int row, int column) {
 
 void LabelTableEditor::editContents(QTableWidgetItem &cell) {
   bool isTaken = false;
-  const QString comma = QStringLiteral("&#44;");
-  const QString text = QInputDialog::getMultiLineText(
-      &m_widget, tr("Label Contents"), tr("Enter description of label contents:"),
-      QString(cell.text()).replace(comma, QStringLiteral(",")).replace(QStringLiteral("<br />"), QStringLiteral("<br />\n")),
-      &isTaken);
+  const QString text =
+      QInputDialog::getMultiLineText(&m_widget, tr("Label Contents"), tr("Enter description of label contents:"),
+                                     QString(cell.text())
+                                         .replace(comma(), QStringLiteral(","))
+                                         .replace(QStringLiteral("<br />"), QStringLiteral("<br />\n")),
+                                     &isTaken);
   if (isTaken)
     cell.setText(QString(text)
                      .replace(QStringLiteral("<br />\n"), QStringLiteral("<br />"))
                      .replace(QLatin1Char('\n'), QStringLiteral("<br />"))
-                     .replace(QLatin1Char(','), comma));
+                     .replace(QLatin1Char(','), comma()));
 }
 
 void LabelTableEditor::addTemplate() {

@@ -7,7 +7,8 @@
 class QTableWidget;
 class QTableWidgetItem;
 
-/// Shows the label table in a table widget and edits it there.
+/// Shows the label table in a table widget and edits it there: a cell that has a dialog of its own in that alone, whether
+/// the mouse or a key asks for it.
 class LabelTableEditor : public QObject {
   Q_OBJECT
 public:
@@ -22,6 +23,9 @@ public:
 
   /// What "vis" may be; the built-in values with a message when the property data do not say it.
   static QStringList visibilityValues();
+
+protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
   void showRow(int row, const LabelRow &cells, bool isTemplate);

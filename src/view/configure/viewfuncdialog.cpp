@@ -10,6 +10,7 @@
 #include <QColorDialog>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 
 #include <drawing/colormap.h>
@@ -47,6 +48,27 @@ constexpr int RightAxis = 1;
 void choose(QComboBox &box, const QString &data) {
   const int place = box.findData(data);
   box.setCurrentIndex(place < 0 ? 0 : place);
+}
+
+/// Takes over what was typed: a field shows fewer digits, and has narrower limits, than the setting behind it may have.
+void takeTouched(const S &shown, const S &typed, S &settings) {
+  const auto take = [&](auto... fields) {
+    const auto takeOne = [&](auto field) {
+      if (typed.*field != shown.*field)
+        settings.*field = typed.*field;
+    };
+    (takeOne(fields), ...);
+  };
+  for (const FunctionFields &f : Functions)
+    take(f.function, f.minimum, f.maximum, f.absolute, f.logarithmic);
+  take(&S::typedBounds, &S::colorRamp, &S::firstColor, &S::lastColor, &S::saturation, &S::lightness, &S::logFactor);
+  take(&S::colorClasses, &S::classBreaks, &S::colorScalePos, &S::legendPos, &S::label_mode, &S::alphaSubnet);
+  take(&S::edgeConst, &S::edgeMag, &S::nodeMag, &S::symMag, &S::arrowMag, &S::labelMag, &S::labelMargin);
+  take(&S::fixAxesRatio, &S::zoomFact, &S::showXYaxes, &S::showGrid, &S::edgeShowFlow, &S::layerProp);
+  take(&S::bgrColor, &S::edgeLabelsColor, &S::nodeLabelsColor, &S::edgeColorInactive, &S::edgeColorNoFlow,
+       &S::gridMajorColor, &S::gridMinorColor);
+  if (!typed.classMethod.isEmpty()) // without classes the method stays for the next time
+    take(&S::classMethod);
 }
 
 } // namespace
@@ -95,6 +117,7 @@ void viewFuncDialog::offerFunctions() {
 
 void viewFuncDialog::showEvent(QShowEvent *event) {
   offerFunctions(); // formulas may have computed more since
+  offerSavedSettings();
   QWidget::showEvent(event);
 }
 
@@ -124,29 +147,40 @@ void viewFuncDialog::setUpColors() {
               {m_ui->edgeColorNoFlow, &S::edgeColorNoFlow},
               {m_ui->gridMajorColor, &S::gridMajorColor},
               {m_ui->gridMinorColor, &S::gridMinorColor}};
-  for (const ColorButton &color : m_colors) {
-    connect(color.button, &QPushButton::clicked, this, [this, button = color.button] {
-      const QColor chosen = QColorDialog::getColor(QColor(button->text()), this);
-      if (chosen.isValid()) {
-        button->setText(chosen.name());
-        QPixmap swatch(16, 16);
-        swatch.fill(chosen);
-        button->setIcon(swatch);
-        if (button == m_ui->gridMajorColor || button == m_ui->gridMinorColor)
-          m_ui->showGrid->setChecked(true); // nobody chooses a colour for what is not to be seen
-      }
+  for (ColorButton &color : m_colors) { // which stays where it is
+    connect(color.button, &QPushButton::clicked, this, [this, &color] {
+      const QColor chosen = QColorDialog::getColor(color.chosen, this);
+      if (!chosen.isValid())
+        return;
+      color.show(chosen);
+      if (color.button == m_ui->gridMajorColor || color.button == m_ui->gridMinorColor)
+        m_ui->showGrid->setChecked(true); // nobody chooses a colour for what is not to be seen
     });
   }
+}
+
+void viewFuncDialog::ColorButton::show(const QColor &shown) {
+  chosen = shown;
+  QPixmap swatch(16, 16);
+  swatch.fill(shown.isValid() ? shown : QColor(Qt::transparent));
+  button->setText(shown.isValid() ? shown.name() : QString());
+  button->setIcon(swatch);
 }
 
 void viewFuncDialog::setFiles(const QString &labelTable, const QString &plotSettings) {
   m_labelTablePath = labelTable;
   m_plotSettingsPath = plotSettings;
+  offerSavedSettings();
+}
+
+void viewFuncDialog::offerSavedSettings() {
+  m_ui->savedSettings->setEnabled(QFileInfo::exists(m_plotSettingsPath) || QFileInfo::exists(m_labelTablePath));
 }
 
 void viewFuncDialog::refresh() {
   showForm(m_plot.settings());
   m_labels->setTable(m_plot.update().labelTable());
+  offerSavedSettings();
 }
 
 FunctionRow::Unit viewFuncDialog::unitOf(const QString &function) const {
@@ -208,7 +242,7 @@ void viewFuncDialog::showForm(const PlotSettings &s) {
   m_ui->colorScalePos->setCurrentIndex(s.colorScalePos == TopAxis     ? AtTheTop
                                        : s.colorScalePos == RightAxis ? OnTheRight
                                                                       : NotShown);
-  m_ui->legendPos->setCurrentIndex(qBound(0, s.legendPos, m_ui->legendPos->count() - 1));
+  m_ui->legendPos->setCurrentIndex(s.legendPos > 0 && s.legendPos < m_ui->legendPos->count() ? s.legendPos : 0);
   m_ui->edgeConst->setValue(s.edgeConst);
   m_ui->edgeMag->setValue(s.edgeMag);
   m_ui->nodeMag->setValue(s.nodeMag);
@@ -224,108 +258,116 @@ void viewFuncDialog::showForm(const PlotSettings &s) {
   m_ui->showGrid->setChecked(s.showGrid);
   m_ui->edgeShowFlow->setText(s.edgeShowFlow);
   m_ui->layerProp->setText(s.layerProp);
-  for (const ColorButton &color : m_colors) {
-    const QColor &shown = s.*color.color;
-    QPixmap swatch(16, 16);
-    swatch.fill(shown.isValid() ? shown : QColor(Qt::transparent));
-    color.button->setText(shown.isValid() ? shown.name() : QString());
-    color.button->setIcon(swatch);
-  }
+  for (ColorButton &color : m_colors)
+    color.show(s.*color.color);
+  m_shown = form();
 }
 
-void viewFuncDialog::takeForm(PlotSettings &s) const {
-  s.colorRamp = m_ui->colorRamp->currentData().toString();
-  s.firstColor = m_ui->firstColor->value();
-  s.lastColor = m_ui->lastColor->value();
-  s.saturation = m_ui->saturation->value();
-  s.lightness = m_ui->lightness->value();
-  s.logFactor = m_ui->logFactor->value();
-  const QString method = m_ui->classMethod->currentData().toString();
-  s.colorClasses = method.isEmpty() ? 0 : m_ui->colorClasses->value();
-  if (!method.isEmpty())
-    s.classMethod = method;
-  s.classBreaks = m_ui->classBreaks->text().trimmed();
-  constexpr std::array<int, 3> Axes{0, TopAxis, RightAxis};
-  s.colorScalePos = Axes[static_cast<std::size_t>(m_ui->colorScalePos->currentIndex())];
-  s.legendPos = m_ui->legendPos->currentIndex();
-  s.edgeConst = m_ui->edgeConst->value();
-  s.edgeMag = m_ui->edgeMag->value();
-  s.nodeMag = m_ui->nodeMag->value();
-  s.symMag = m_ui->symMag->value();
-  s.arrowMag = m_ui->arrowMag->value();
-  s.labelMag = m_ui->labelMag->value();
-  s.labelMargin = m_ui->labelMargin->value();
-  s.label_mode = m_ui->label_mode->currentData().toString();
-  s.alphaSubnet = m_ui->alphaSubnet->value();
-  s.fixAxesRatio = m_ui->viewport->currentIndex() != IndependentAxes;
-  s.zoomFact = m_ui->zoomFact->value();
-  s.showXYaxes = m_ui->showXYaxes->isChecked();
-  s.showGrid = m_ui->showGrid->isChecked();
-  s.edgeShowFlow = m_ui->edgeShowFlow->text().trimmed();
-  s.layerProp = m_ui->layerProp->text().trimmed();
-  for (const ColorButton &color : m_colors)
-    s.*color.color = QColor(color.button->text());
-}
-
-bool viewFuncDialog::takeBounds(const FunctionRow &row, FunctionRow::Values &values) {
-  values = row.values();
-  if (const QString fault = row.fault(); !fault.isEmpty()) {
-    NivraMsg::message(NivraMsg::Kind::Warning, fault);
-    return false;
-  }
-  const DrawRange::State state = DrawRange::check(values.minimum, values.maximum);
-  if (state == DrawRange::State::Sound)
-    return true;
-  const QString question =
-      tr("You specified an invalid range (min>max or difference too tiny)!") +
-      (state == DrawRange::State::Inverted ? tr("\nProceed with a default/corrected scala? (No-answer will skip action)?")
-                                           : tr("\nProceed with a default tiny scala? (No-answer will skip action)?"));
-  if (NivraMsg::message(NivraMsg::Kind::Question, question) != QMessageBox::Yes)
-    return false;
-  DrawRange::correct(values.minimum, values.maximum);
-  return true;
-}
-
-bool viewFuncDialog::takeFunctions(PlotSettings &settings) {
+void viewFuncDialog::readFunctions(PlotSettings &form) const {
   TypedBounds::OfSettings typed;
   for (std::size_t i = 0; i < Functions.size(); ++i) {
     const FunctionFields &f = Functions[i];
-    FunctionRow::Values values;
-    if (!takeBounds(*m_rows[i], values))
-      return false;
-    settings.*f.function = values.function;
-    settings.*f.minimum = values.minimum;
-    settings.*f.maximum = values.maximum;
-    settings.*f.absolute = values.absolute;
-    settings.*f.logarithmic = values.logarithmic;
+    const FunctionRow::Values values = m_rows[i]->values();
+    form.*f.function = values.function;
+    form.*f.minimum = values.minimum;
+    form.*f.maximum = values.maximum;
+    form.*f.absolute = values.absolute;
+    form.*f.logarithmic = values.logarithmic;
     if (const TypedBounds::OfFunctions ofRow = m_rows[i]->typedBounds(); !ofRow.isEmpty())
       typed[QString::fromLatin1(f.key)] = ofRow;
   }
-  settings.typedBounds = TypedBounds::written(typed);
+  form.typedBounds = TypedBounds::written(typed);
+}
+
+void viewFuncDialog::readSizes(PlotSettings &form) const {
+  form.edgeConst = m_ui->edgeConst->value();
+  form.edgeMag = m_ui->edgeMag->value();
+  form.nodeMag = m_ui->nodeMag->value();
+  form.symMag = m_ui->symMag->value();
+  form.arrowMag = m_ui->arrowMag->value();
+  form.labelMag = m_ui->labelMag->value();
+  form.labelMargin = m_ui->labelMargin->value();
+}
+
+/// What the fields say now.
+PlotSettings viewFuncDialog::form() const {
+  PlotSettings form;
+  readFunctions(form);
+  readSizes(form);
+  form.colorRamp = m_ui->colorRamp->currentData().toString();
+  form.firstColor = m_ui->firstColor->value();
+  form.lastColor = m_ui->lastColor->value();
+  form.saturation = m_ui->saturation->value();
+  form.lightness = m_ui->lightness->value();
+  form.logFactor = m_ui->logFactor->value();
+  form.classMethod = m_ui->classMethod->currentData().toString();
+  form.colorClasses = form.classMethod.isEmpty() ? 0 : m_ui->colorClasses->value();
+  form.classBreaks = m_ui->classBreaks->text().trimmed();
+  constexpr std::array<int, 3> Axes{0, TopAxis, RightAxis};
+  form.colorScalePos = Axes[static_cast<std::size_t>(m_ui->colorScalePos->currentIndex())];
+  form.legendPos = m_ui->legendPos->currentIndex();
+  form.label_mode = m_ui->label_mode->currentData().toString();
+  form.alphaSubnet = m_ui->alphaSubnet->value();
+  form.fixAxesRatio = m_ui->viewport->currentIndex() != IndependentAxes;
+  form.zoomFact = m_ui->zoomFact->value();
+  form.showXYaxes = m_ui->showXYaxes->isChecked();
+  form.showGrid = m_ui->showGrid->isChecked();
+  form.edgeShowFlow = m_ui->edgeShowFlow->text().trimmed();
+  form.layerProp = m_ui->layerProp->text().trimmed();
+  for (const ColorButton &color : m_colors)
+    form.*color.color = color.chosen;
+  return form;
+}
+
+/// Asks what to do about bounds that make no range. False: nothing is to be applied.
+bool viewFuncDialog::checkBounds(PlotSettings &form) const {
+  for (std::size_t i = 0; i < Functions.size(); ++i) {
+    if (const QString fault = m_rows[i]->fault(); !fault.isEmpty()) {
+      NivraMsg::message(NivraMsg::Kind::Warning, fault);
+      return false;
+    }
+    double &minimum = form.*Functions[i].minimum;
+    double &maximum = form.*Functions[i].maximum;
+    const DrawRange::State state = DrawRange::check(minimum, maximum);
+    if (state == DrawRange::State::Sound)
+      continue;
+    const QString question =
+        tr("You specified an invalid range (min>max or difference too tiny)!") +
+        (state == DrawRange::State::Inverted ? tr("\nProceed with a default/corrected scala? (No-answer will skip action)?")
+                                             : tr("\nProceed with a default tiny scala? (No-answer will skip action)?"));
+    if (NivraMsg::message(NivraMsg::Kind::Question, question) != QMessageBox::Yes)
+      return false;
+    DrawRange::correct(minimum, maximum);
+  }
   return true;
 }
 
 bool viewFuncDialog::apply() {
   const PlotSettings before = m_plot.settings();
-  PlotSettings settings = before;
-  if (!takeFunctions(settings))
+  PlotSettings typed = form();
+  if (!checkBounds(typed))
     return false;
-  takeForm(settings);
+  PlotSettings settings = before;
+  takeTouched(m_shown, typed, settings);
   if (settings.logScaleColor != before.logScaleColor)
     NivraMsg::log(QStringLiteral("logScaleColor set to %1").arg(int(settings.logScaleColor)));
   if (settings.logScaleNodeColor != before.logScaleNodeColor)
     NivraMsg::log(QStringLiteral("logScaleNodeColor set to %1").arg(int(settings.logScaleNodeColor)));
-  const LabelTable table = m_labels->table();
-  const bool rebuilds = table != m_plot.update().labelTable();
   m_plot.setSettings(settings);
-  m_plot.update().setLabelTable(table);
+  draw(before, m_labels->table());
+  return true;
+}
+
+/// Draws with the settings that the plot has now.
+void viewFuncDialog::draw(const PlotSettings &before, const LabelTable &labels) {
+  const bool rebuilds = labels != m_plot.update().labelTable();
+  m_plot.update().setLabelTable(labels);
   m_plot.update().updatePlot(rebuilds, NetUpdate::Which::EdgesAndNodes, true);
   // The original ratio is that of the whole network; the aspect ratio keeps to what is seen.
-  if (settings.fixAxesRatio != before.fixAxesRatio || m_ui->viewport->currentIndex() == OriginalRatio)
+  if (m_plot.settings().fixAxesRatio != before.fixAxesRatio || m_ui->viewport->currentIndex() == OriginalRatio)
     m_plot.zoomer()->fitBase();
   m_plot.update().requestPixtest(-1);
   refresh();
-  return true;
 }
 
 void viewFuncDialog::on_apply_clicked() {
@@ -339,6 +381,19 @@ void viewFuncDialog::on_applyAndSave_clicked() {
   if (!m_plot.writePlotSettings(m_plotSettingsPath, &error) ||
       !LabelTableFile::write(m_labelTablePath, m_plot.update().labelTable(), &error))
     NivraMsg::message(NivraMsg::Kind::Critical, error);
+  offerSavedSettings();
+}
+
+/// As when the case was opened: what the files do not say is as in the beginning.
+void viewFuncDialog::on_savedSettings_clicked() {
+  const PlotSettings before = m_plot.settings();
+  m_plot.setSettings(PlotSettings());
+  if (!m_plot.readPlotSettings(m_plotSettingsPath))
+    m_plot.setSettings(before);
+  LabelTable labels;
+  if (!LabelTableFile::read(m_labelTablePath, labels))
+    labels = m_plot.update().labelTable();
+  draw(before, labels);
 }
 
 void viewFuncDialog::on_load_clicked() {

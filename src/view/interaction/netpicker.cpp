@@ -275,17 +275,15 @@ void NetPicker::select(const std::vector<NetGeometry::Item> &items, bool more) {
 }
 
 void NetPicker::selectAll() {
-  const NetGeometry &geometry = m_plot.update().geometry();
-  std::vector<NetGeometry::Item> items;
-  const auto take = [&items](NetData::EleType kind, std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i)
-      items.push_back({kind, static_cast<int>(i)});
-  };
-  take(NetData::Node, geometry.nodes().size());
-  take(NetData::Edge, geometry.edges().size());
-  take(NetData::AssembledSubnet, geometry.subnets().size());
-  take(NetData::TextBox, geometry.textBoxes().size());
-  select(items, false);
+  static const PropertyKey name = PropertyKey::intern("name");
+  Selection all; // what has no place in the drawing too
+  for (const auto &[kind, collection] : m_net.typeMap()) {
+    Selection::Names &names = namesOf(all, kind);
+    names.reserve(static_cast<int>(collection->size()));
+    for (const elements::Entry &entry : *collection)
+      names.insert(entry.value.value(name));
+  }
+  setSelection(all);
   m_plot.update().requestPixtest(0);
 }
 

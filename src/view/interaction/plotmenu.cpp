@@ -60,9 +60,15 @@ bool isOfStation(const QString &type) {
   return ElementTypes::hasCharacteristics(type) || type == QLatin1String("r") || type == QLatin1String("m");
 }
 
-/// What belongs to the subnet.
-QStringList elementsOf(const element &subnet) {
-  return Topology::listed(subnet, PropertyKey::find("elements"));
+/// An entry that only tells something.
+void addNote(QMenu &entries, const QString &text) {
+  entries.addAction(text)->setEnabled(false);
+}
+
+/// How many of so many names found no room.
+void addRest(QMenu &entries, int count) {
+  if (count > MostEntries)
+    addNote(entries, tr("… and %1 more").arg(count - MostEntries));
 }
 
 } // namespace
@@ -107,6 +113,7 @@ void PlotMenu::addCrowd(QMenu &contextMenu) const {
     QObject::connect(crowd->addAction(withType(*geometry.source(item))), &QAction::triggered, picker,
                      [picker, item] { picker->choose(item); });
   }
+  addRest(*crowd, static_cast<int>(items.size()));
 }
 
 void PlotMenu::addSelection(QMenu &contextMenu) const {
@@ -126,6 +133,8 @@ void PlotMenu::addSelection(QMenu &contextMenu) const {
     QObject::connect(edit->addAction(menuText(name)), &QAction::triggered, control,
                      [control, name] { emit control->editPropertiesRequested({name}); });
   }
+  for (QMenu *entries : {show, info, edit})
+    addRest(*entries, m_control.net().selection().size());
 }
 
 void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
@@ -160,18 +169,21 @@ void PlotMenu::addMachinesHere(QMenu &contextMenu) const {
   const NetGeometry &geometry = m_control.plot()->update().geometry();
   NetVisControl *control = &m_control;
   QMenu *machines = nullptr;
+  int count = 0;
   for (const NetGeometry::Item item : m_control.picker()->pressedItems()) {
     const element &source = *geometry.source(item);
     const QString name = source.value(QStringLiteral("name"));
-    if (!isMachine(name) || (machines != nullptr && machines->actions().size() >= MostEntries))
+    if (!isMachine(name) || ++count > MostEntries)
       continue;
     if (machines == nullptr)
       machines = contextMenu.addMenu(tr("Open Characteristics of"));
     QObject::connect(machines->addAction(withType(source)), &QAction::triggered, control,
                      [control, name] { emit control->openCharacteristicsRequested({name}); });
   }
-  if (machines != nullptr)
-    machines->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
+  if (machines == nullptr)
+    return;
+  addRest(*machines, count);
+  machines->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
 }
 
 void PlotMenu::addTrace(QMenu &contextMenu) const {
@@ -192,54 +204,65 @@ void PlotMenu::addSubnet(QMenu &contextMenu) const {
     return;
   NivraMsg::debug(QStringLiteral("sel has sub"));
   QMenu *menu = contextMenu.addMenu(tr("Subnet"));
-  NetVisControl *control = &m_control;
-  QAction *open = menu->addAction(tr("Open in a window of its own"), control,
-                                  [control, name = subnets.first()] { emit control->subnetWanted(name); });
-  open->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::subnetWanted)));
-  addSubnetEntries(*menu, subnets.first());
+  if (subnets.size() == 1)
+    return addSubnetEntries(*menu, subnets.first());
+  for (const QString &name : subnets.mid(0, MostEntries))
+    addSubnetEntries(*menu->addMenu(menuText(name)), name);
+  addRest(*menu, subnets.size());
 }
 
 void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name) const {
+  NetVisControl *control = &m_control;
+  parent.addAction(tr("Open in a window of its own"), control, [control, name] { emit control->subnetWanted(name); })
+      ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::subnetWanted)));
   QMenu *edit = parent.addMenu(tr("Edit Properties of"));
   QMenu *open = parent.addMenu(tr("Open Characteristics of"));
   const element *subnet = m_control.net().assembledSubnets().find(name);
   if (subnet == nullptr) {
     for (QMenu *entries : {edit, open})
-      entries->addAction(tr("<Could not find subnet>!"));
+      addNote(*entries, tr("<Could not find subnet>!"));
     return;
   }
+  addOffer(*edit, offerOf(*subnet, isOfStation), &NetVisControl::editPropertiesRequested, tr("<empty element list>!"));
+  addOffer(*open, offerOf(*subnet, ElementTypes::hasCharacteristics), &NetVisControl::openCharacteristicsRequested,
+           tr("<empty characteristics list>!"));
+}
+
+PlotMenu::Offer PlotMenu::offerOf(const element &subnet, bool (*isOffered)(const QString &type)) const {
+  Offer offer;
+  for (const QString &name : Topology::listed(subnet, PropertyKey::find("elements"))) {
+    const element *e = m_control.net().element(name);
+    const QString type = e == nullptr ? QString() : e->value(QStringLiteral("type"));
+    if (e == nullptr || !isOffered(type))
+      continue;
+    offer.names.append(name);
+    Offer::Kind &kind = offer.kinds[type];
+    kind.all.append(name);
+    if (!ElementState::isOutOfUse(*e))
+      kind.active.append(name);
+  }
+  return offer;
+}
+
+void PlotMenu::addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, const QString &otherwise) const {
   NetVisControl *control = &m_control;
-  const auto addEntries = [control, subnet](QMenu &entries, bool (*isOffered)(const QString &type), auto signal,
-                                            const QString &otherwise) {
-    QStringList all;
-    QStringList active;
-    for (const QString &elementName : elementsOf(*subnet)) {
-      const element *e = control->net().element(elementName);
-      if (e == nullptr || !isOffered(e->value(QStringLiteral("type"))))
-        continue;
-      all.append(elementName);
-      if (!ElementState::isOutOfUse(*e))
-        active.append(elementName);
-    }
-    const auto add = [&](const QString &text, const QStringList &names) {
-      QObject::connect(entries.addAction(menuText(text)), &QAction::triggered, control,
-                       [control, signal, names] { emit(control->*signal)(names); });
-    };
-    if (all.isEmpty()) {
-      entries.addAction(otherwise);
-      return;
-    }
-    add(tr("ALL of") + QLatin1Char(' ') + subnet->value(QStringLiteral("name")), all);
-    add(tr("ALL active of") + QLatin1Char(' ') + subnet->value(QStringLiteral("name")), active);
-    entries.addSeparator();
-    for (const QString &elementName : all.mid(0, MostEntries))
-      add(elementName, {elementName});
+  const auto add = [&entries, control, signal](const QString &text, const QStringList &names) {
+    QAction *entry = entries.addAction(menuText(text), control, [control, signal, names] { emit(control->*signal)(names); });
+    entry->setEnabled(!names.isEmpty());
   };
-  addEntries(*edit, isOfStation, &NetVisControl::editPropertiesRequested, tr("<empty element list>!"));
-  addEntries(*open, ElementTypes::hasCharacteristics, &NetVisControl::openCharacteristicsRequested,
-             tr("<empty characteristics list>!"));
-  edit->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::editPropertiesRequested)));
-  open->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
+  entries.setEnabled(m_control.isWanted(QMetaMethod::fromSignal(signal)));
+  if (offer.names.isEmpty())
+    return addNote(entries, otherwise);
+  for (const auto &[type, kind] : offer.kinds) {
+    const ElementType *known = ElementTypes::byCode(type);
+    const QString plural = known == nullptr ? type : known->plural;
+    add(tr("ALL of") + QLatin1Char(' ') + plural, kind.all);
+    add(tr("ALL active of") + QLatin1Char(' ') + plural, kind.active);
+  }
+  entries.addSeparator();
+  for (const QString &name : offer.names.mid(0, MostEntries))
+    add(name, {name});
+  addRest(entries, offer.names.size());
 }
 
 void PlotMenu::addView(QMenu &contextMenu) const {

@@ -2,6 +2,8 @@
 
 #include <view/netpicker.h>
 
+#include <map>
+
 class NetVisControl;
 class QMenu;
 
@@ -14,6 +16,17 @@ public:
   void fill(QMenu &contextMenu) const;
 
 private:
+  /// Elements of a subnet that something can be done with.
+  struct Offer {
+    struct Kind {
+      QStringList all;
+      QStringList active;
+    };
+    QStringList names;             ///< in the order of the subnet
+    std::map<QString, Kind> kinds; ///< by type code
+  };
+  using NamesSignal = void (NetVisControl::*)(const QStringList &names);
+
   void addCrowd(QMenu &contextMenu) const;
   void addSelection(QMenu &contextMenu) const;
   void addSubnet(QMenu &contextMenu) const;
@@ -22,6 +35,9 @@ private:
   bool isMachine(const QString &name) const;
   void addTrace(QMenu &contextMenu) const;
   void addSubnetEntries(QMenu &parent, const QString &subnet) const;
+  Offer offerOf(const element &subnet, bool (*isOffered)(const QString &type)) const;
+  /// One by one and all of a kind; \param otherwise says that there is nothing
+  void addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, const QString &otherwise) const;
   void addView(QMenu &contextMenu) const;
   void addBookmarks(QMenu &contextMenu) const;
   void addLabels(QMenu &contextMenu) const;

@@ -1,3 +1,4 @@
+#include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <view/plotzoom.h>
 #include <view/qwtfastplot.h>
@@ -55,6 +56,7 @@ PlotZoom::PlotZoom(QwtFastPlot &plot, PlotSettings &settings)
   m_rest.setSingleShot(true);
   m_rest.setInterval(RestMs);
   connect(this, &QwtPlotZoomer::zoomed, this, [this] { m_rest.start(); });
+  connect(this, &QwtPlotZoomer::zoomed, this, &PlotZoom::requestRefresh);
   connect(&m_rest, &QTimer::timeout, this, &PlotZoom::recordView);
 }
 
@@ -67,6 +69,11 @@ void PlotZoom::setExtent(const QRectF &extent) {
   recordView();
 }
 
+void PlotZoom::requestRefresh() {
+  if (m_ownRequests == 0 && m_move == Move::None)
+    emit refreshRequested(GeneralSettings::instance().value(QStringLiteral("pixtest delay")).toInt());
+}
+
 void PlotZoom::resetZoomBase(const QRectF &rect) {
   m_wholeNetwork = withArea(zoomBase().united(rect));
   const QRectF base = inCanvasRatio(m_wholeNetwork);
@@ -74,7 +81,10 @@ void PlotZoom::resetZoomBase(const QRectF &rect) {
   m_settings.largestZoomWidth = base.width() * Room;
   m_settings.largestZoomHeight = base.height() * Room;
   rescale();
-  emit zoomed(base);
+  {
+    const OwnRequest own(*this);
+    emit zoomed(base);
+  }
   emit refreshRequested(-1);
 }
 
@@ -145,6 +155,19 @@ void PlotZoom::zoomOut(const QPointF &point, double factor) {
     return;
   }
   zoomAbout(point, {std::min(base.width(), r.width() * factor), std::min(base.height(), r.height() * factor)});
+}
+
+void PlotZoom::zoomSteps(int steps, const QPointF &point) {
+  {
+    const OwnRequest own(*this); // one for all steps
+    for (int i = 0; i < std::abs(steps); ++i) {
+      if (steps > 0)
+        zoomIn(point);
+      else
+        zoomOut(point);
+    }
+  }
+  requestRefresh();
 }
 
 void PlotZoom::zoomAbout(const QPointF &point, const QSizeF &size) {
@@ -309,39 +332,44 @@ void PlotZoom::widgetKeyReleaseEvent(QKeyEvent *event) {
 }
 
 void PlotZoom::widgetKeyPressEvent(QKeyEvent *event) {
-  const double part = (m_settings.zoomFact - 1.0) * 0.5;
   const bool isAlt = event->modifiers().testFlag(Qt::AltModifier);
-  switch (event->key()) {
+  if (isAlt && event->key() == Qt::Key_Left)
+    goBack();
+  else if (isAlt && event->key() == Qt::Key_Right)
+    goForward();
+  else if (event->key() == Qt::Key_Home)
+    fitAll();
+  else if (moveBy(event->key()))
+    emit refreshRequested(KeyDelay);
+  else if (isActive() && event->key() == Qt::Key_Escape)
+    QwtPlotZoomer::widgetKeyPressEvent(event); // gives up the rectangle
+}
+
+bool PlotZoom::moveBy(int key) {
+  const OwnRequest own(*this);
+  const double part = (m_settings.zoomFact - 1.0) * 0.5;
+  switch (key) {
   case Qt::Key_Plus:
     zoomIn(cursor());
-    break;
+    return true;
   case Qt::Key_Minus:
     zoomOut(cursor());
-    break;
+    return true;
   case Qt::Key_Left:
-    if (isAlt)
-      return goBack();
     shift(-part, 0.0);
-    break;
+    return true;
   case Qt::Key_Right:
-    if (isAlt)
-      return goForward();
     shift(part, 0.0);
-    break;
+    return true;
   case Qt::Key_Up:
     shift(0.0, part);
-    break;
+    return true;
   case Qt::Key_Down:
     shift(0.0, -part);
-    break;
-  case Qt::Key_Home:
-    return fitAll();
+    return true;
   default:
-    if (isActive() && event->key() == Qt::Key_Escape)
-      QwtPlotZoomer::widgetKeyPressEvent(event); // gives up the rectangle
-    return;
+    return false;
   }
-  emit refreshRequested(KeyDelay);
 }
 
 void PlotZoom::shift(double horizontal, double vertical) {

@@ -6,6 +6,7 @@
 #include <model/subnetstate.h>
 
 #include <QRegularExpression>
+#include <QTextDocumentFragment>
 
 #include <algorithm>
 #include <cmath>
@@ -90,7 +91,8 @@ const LabelStyle &LabelContents::styleOf(NetData::EleType kind) const {
 
 LabelContents::Type LabelContents::typeOf(const LabelRow &row) const {
   static const QRegularExpression Break(QStringLiteral("<br\\s?/>"));
-  static const QRegularExpression Marks(QStringLiteral("<(?!br />)[A-Za-z/]"));
+  static const QRegularExpression Marks(
+      QStringLiteral("<(?!br />)[A-Za-z/]|&(?:#\\d+|#x[0-9a-fA-F]+|[A-Za-z][A-Za-z0-9]*);"));
   Type type;
   QString contents = row[LabelRow::Contents];
   contents.replace(QStringLiteral("&#44;"), QStringLiteral(",")).replace(Break, QStringLiteral("<br />"));
@@ -303,7 +305,9 @@ QStringList LabelContents::textOfBox(const element &box) const {
   QStringList lines;
   if (const Type *type = find(box)) {
     for (const Line &line : type->lines) {
-      const QString said = filled(line, box, false).remove(Mark);
+      QString said = filled(line, box, type->isHtml).remove(Mark);
+      if (type->isHtml) // what is left of it are entities
+        said = QTextDocumentFragment::fromHtml(said).toPlainText().simplified();
       if (!said.isEmpty())
         lines.append(said);
     }

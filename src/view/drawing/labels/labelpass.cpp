@@ -78,15 +78,14 @@ void LabelPass::collectSubnets() {
 
 void LabelPass::collectSymbols() {
   for (const SymbolLayer::Placed &placed : m_drawing.symbols.place(m_projection)) {
-    constexpr double Drawn = 0.9; // symbols do not fill their corners
-    QRectF area(0.0, 0.0, placed.size * Drawn, placed.size * Drawn);
-    area.moveCenter(placed.center);
-    m_placement.addObstacle(area);
+    m_placement.addObstacle(placed.obstacle());
     const QPointF center = *m_drawing.geometry.center(placed.item);
     const QPointF aside = placed.center - m_projection.map(center.x(), center.y());
     const double flow =
         placed.item.kind == NetData::Edge ? m_drawing.flow[static_cast<std::size_t>(placed.item.index)] : 0.0;
-    add(placed.item, {center, center}, false, placed.size * 0.5 + std::hypot(aside.x(), aside.y()), StationRank, flow);
+    add(placed.item, {center, center}, false, placed.reach() + std::hypot(aside.x(), aside.y()), StationRank, flow);
+    if (placed.item.kind == NetData::Node)
+      m_nodesWithSymbol.insert(placed.item.index);
   }
 }
 
@@ -98,7 +97,8 @@ void LabelPass::collectNodes() {
     const bool isJunction = record.shape == NetGeometry::NodeShape::Junction;
     const QPointF place(record.x, record.y);
     dots.emplace_back(center - QPointF(size, size) * 0.5, QSizeF(size, size));
-    add({NetData::Node, node}, {place, place}, false, size * 0.5, isJunction ? JunctionRank : SetPointRank, 0.0);
+    if (m_nodesWithSymbol.count(node) == 0) // labelled there
+      add({NetData::Node, node}, {place, place}, false, size * 0.5, isJunction ? JunctionRank : SetPointRank, 0.0);
   });
   if (dots.size() <= Many) {
     for (const QRectF &dot : dots)

@@ -132,8 +132,9 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
   std::vector<Placed> &placed = layout.placed;
   if (!projection.isValid() || m_size <= 0.0)
     return layout;
-  const double margin = m_size * 2.0; // lanes move symbols a little
-  const QRectF area = projection.canvas().adjusted(-m_size, -m_size, m_size, m_size);
+  const double reach = std::max(m_size, m_figures.longest() * 0.5);
+  const double margin = reach + m_size; // lanes move symbols a little
+  const QRectF area = projection.canvas().adjusted(-reach, -reach, reach, reach);
   std::vector<QRectF> boxes;
   if (m_subnets != nullptr)
     for (const SubnetLayer::Placed &subnet : m_subnets->place(projection))
@@ -163,7 +164,6 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
   constexpr double Share = 0.6;
   constexpr double Legible = 12.0;
   constexpr double Apart = 0.55; // cells of this share of a symbol, one free cell between two symbols
-  constexpr double Degrees = 180.0 / M_PI;
   const QRectF &canvas = projection.canvas();
   const double room =
       std::sqrt(canvas.width() * canvas.height() / static_cast<double>(std::max<std::size_t>(visible.size(), 1)));
@@ -176,36 +176,62 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
       layout.behind.emplace_back(number, i);
       continue;
     }
-    const Record &r = record(i);
-    const QPointF ahead = projection.map(r.x + r.dx, r.y + r.dy) - projection.map(r.x, r.y);
-    const double angle = ahead.isNull() ? 0.0 : std::atan2(ahead.y(), ahead.x()) * Degrees;
-    placed.push_back({r.item, center, qBound(1.0, size * static_cast<double>(r.size), LargestSymbol),
-                      std::isfinite(angle) ? angle : 0.0, 0, i});
+    placed.push_back(this->placed(i, center, size, projection));
   }
   return layout;
+}
+
+SymbolLayer::Placed SymbolLayer::placed(int record, const QPointF &center, double size, const Projection &projection) const {
+  constexpr double Degrees = 180.0 / M_PI;
+  const Record &r = m_records[static_cast<std::size_t>(record)];
+  Placed placed;
+  placed.item = r.item;
+  placed.center = center;
+  placed.record = record;
+  placed.size = qBound(1.0, size * static_cast<double>(r.size), LargestSymbol);
+  placed.isFigure = r.figure >= 0;
+  placed.extent = placed.isFigure ? m_figures.extent(r.figure, placed.size) : QSizeF(placed.size, placed.size);
+  const QPointF ahead = projection.map(r.x + r.dx, r.y + r.dy) - projection.map(r.x, r.y);
+  const double angle = ahead.isNull() ? 0.0 : std::atan2(ahead.y(), ahead.x()) * Degrees;
+  placed.angle = std::isfinite(angle) ? angle : 0.0;
+  return placed;
+}
+
+bool SymbolLayer::Placed::covers(const QPointF &point) const {
+  const QPointF to = center - point;
+  if (isFigure)
+    return std::abs(to.x()) <= extent.width() * 0.5 && std::abs(to.y()) <= extent.height() * 0.5;
+  return std::hypot(to.x(), to.y()) <= size * 0.5;
+}
+
+QRectF SymbolLayer::Placed::obstacle() const {
+  constexpr double Drawn = 0.9; // symbols do not fill their corners
+  QRectF area(QPointF(), extent * (isFigure ? 1.0 : Drawn));
+  area.moveCenter(center);
+  return area;
 }
 
 void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
   const std::vector<Placed> &placed = place(Projection(xMap, yMap, canvasRect));
   for (const Placed &p : placed) {
     const Record &r = m_records[static_cast<std::size_t>(p.record)];
-    if (r.figure < 0 || !m_figures.draw(*painter, r.figure, p.center, p.size))
-      if (r.symbol >= 0)
-        m_symbols.draw(*painter, r.symbol, p.center, p.size, p.angle);
+    if (p.isFigure)
+      m_figures.draw(*painter, r.figure, p.center, p.size);
+    else
+      m_symbols.draw(*painter, r.symbol, p.center, p.size, p.angle);
   }
   for (const Placed &p : placed) {
     if (p.others > 0)
-      m_symbols.drawCount(*painter, p.center + QPointF(p.size, -p.size) * 0.5, p.others + 1);
+      m_symbols.drawCount(*painter, p.center + QPointF(p.extent.width(), -p.extent.height()) * 0.5, p.others + 1);
   }
 }
 
 void SymbolLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {
   const std::vector<Placed> &placed = place(projection);
   for (std::size_t i = 0; i < placed.size(); ++i) {
-    const QPointF to = placed[i].center - point;
-    const double distance = std::hypot(to.x(), to.y());
-    if (distance > placed[i].size * 0.5)
+    if (!placed[i].covers(point))
       continue;
+    const double distance = QLineF(placed[i].center, point).length();
     hits.push_back({placed[i].item, distance, HitRank::Symbol});
     if (placed[i].others == 0)
       continue;

@@ -100,9 +100,10 @@ double LogarithmicColorMap::fraction(const QwtInterval &interval, double value) 
   return qBound(0.0, bent, 1.0);
 }
 
-TableColorMap::TableColorMap(const QwtColorMap &map, const QwtInterval &interval) {
+TableColorMap::TableColorMap(std::unique_ptr<HueColorMap> map)
+    : m_map(std::move(map)) {
   for (std::size_t i = 0; i < m_colors.size(); ++i)
-    m_colors[i] = map.rgb(interval, interval.minValue() + interval.width() * (static_cast<double>(i) / Last));
+    m_colors[i] = m_map->ramp().color(static_cast<double>(i) / Last);
 }
 
 void TableColorMap::setCaps(bool low, bool high) {
@@ -121,7 +122,7 @@ QRgb TableColorMap::rgb(const QwtInterval &interval, double value) const {
 }
 
 unsigned char TableColorMap::colorIndex(const QwtInterval &interval, double value) const {
-  return static_cast<unsigned char>(std::lround(linear(interval, value) * Last));
+  return m_map->colorIndex(interval, value);
 }
 
 ClassColorMap::ClassColorMap(std::vector<double> breaks, const HueColorMap &map)

@@ -78,6 +78,25 @@ QwtText titleText(const QString &text, const std::vector<ColorScale::Swatch> &sw
   return QwtText(marked, QwtText::RichText);
 }
 
+/// The colours of an axis in the display unit, found by the stored values that they belong to.
+class ShownColorMap : public QwtColorMap {
+public:
+  ShownColorMap(std::unique_ptr<QwtColorMap> map, const QwtInterval &stored, const Units::Linear &toDisplay)
+      : m_map(std::move(map))
+      , m_stored(stored)
+      , m_toDisplay(toDisplay) {}
+
+  QRgb rgb(const QwtInterval &, double value) const override { return m_map->rgb(m_stored, m_toDisplay.inverse(value)); }
+  unsigned char colorIndex(const QwtInterval &, double value) const override {
+    return m_map->colorIndex(m_stored, m_toDisplay.inverse(value));
+  }
+
+private:
+  std::unique_ptr<QwtColorMap> m_map;
+  QwtInterval m_stored;
+  Units::Linear m_toDisplay;
+};
+
 /// One scale on one axis.
 struct Shown {
   const DrawValues::Column &values;
@@ -94,16 +113,11 @@ void showOn(QwtPlot &plot, int axis, Shown shown) {
   const QwtInterval &data = shown.values.data;
   const Units::Linear &toDisplay = shown.values.function.toDisplay;
   const QwtInterval interval = QwtInterval(toDisplay(range.minValue()), toDisplay(range.maxValue())).normalized();
-  if (auto *classes = dynamic_cast<ClassColorMap *>(shown.map.get())) {
-    std::vector<double> breaks = classes->breaks();
-    for (double &value : breaks)
-      value = toDisplay(value);
-    classes->setBreaks(std::move(breaks));
-  }
+  auto map = std::make_unique<ShownColorMap>(std::move(shown.map), range, toDisplay);
   QwtScaleWidget *widget = plot.axisWidget(axis);
   widget->setColorBarEnabled(true);
   widget->setColorBarWidth(BarWidth);
-  widget->setColorMap(interval, shown.map.release()); // the widget owns it
+  widget->setColorMap(interval, map.release()); // the widget owns it
   widget->setMargin(Margin);
   shown.title.setFont(plot.axisFont(axis));
   shown.title.setColor(plot.palette().color(QPalette::WindowText));
@@ -134,11 +148,11 @@ std::unique_ptr<HueColorMap> ColorScale::colorMap(const PlotSettings &settings, 
 }
 
 std::unique_ptr<QwtColorMap> ColorScale::edgeColors(const PlotSettings &settings, const DrawValues::Column &values) {
-  const std::unique_ptr<HueColorMap> map = colorMap(settings, settings.logScaleColor);
+  std::unique_ptr<HueColorMap> map = colorMap(settings, settings.logScaleColor);
   std::vector<double> breaks = breaksOf(settings, values);
   if (!breaks.empty())
     return std::make_unique<ClassColorMap>(std::move(breaks), *map);
-  auto table = std::make_unique<TableColorMap>(*map, values.range);
+  auto table = std::make_unique<TableColorMap>(std::move(map));
   table->setCaps(true, true);
   return table;
 }
@@ -154,7 +168,7 @@ bool ColorScale::isShared(const PlotSettings &settings, const DrawValues &values
 std::unique_ptr<QwtColorMap> ColorScale::nodeColors(const PlotSettings &settings, const DrawValues &values) {
   if (isShared(settings, values))
     return edgeColors(settings, values.edgeColor());
-  auto table = std::make_unique<TableColorMap>(*colorMap(settings, settings.logScaleNodeColor), values.nodeColor().range);
+  auto table = std::make_unique<TableColorMap>(colorMap(settings, settings.logScaleNodeColor));
   table->setCaps(true, true);
   return table;
 }

@@ -65,13 +65,24 @@ public:
     m_stream.setCodec("UTF-8");
   }
   bool next(QString &line) {
-    constexpr qint64 Longest = 1 << 16;
-    line = m_stream.readLine(Longest);
+    line = m_ahead.isEmpty() ? read() : m_ahead.takeFirst();
     return !line.isNull();
+  }
+  /// A line that is still to come, 0 for the next one.
+  QString ahead(int place) {
+    while (m_ahead.size() <= place)
+      m_ahead.append(read());
+    return m_ahead.at(place);
   }
 
 private:
+  QString read() {
+    constexpr qint64 Longest = 1 << 16;
+    return m_stream.readLine(Longest);
+  }
+
   QTextStream m_stream;
+  QStringList m_ahead; ///< looked at, and not taken yet
 };
 
 bool readCells(Lines &lines, LabelRow &row, int first = 0) {
@@ -94,15 +105,23 @@ bool skip(Lines &lines, int count) {
   return true;
 }
 
-/// The first line of a row; those of masters are passed over when they are ignored.
-bool readFirst(Lines &lines, bool ignoresMasters, QString &first) {
-  while (lines.next(first)) {
-    if (!ignoresMasters || !first.startsWith(QLatin1String("master")))
-      return true;
-    if (!skip(lines, LabelRow::Columns - 1))
+/// Whether the row that comes next stands for the type. \param place of its first line among those to come
+bool isOfType(Lines &lines, int place, const LabelRow &type) {
+  return lines.ahead(place + LabelRow::Short).compare(type[LabelRow::Short], Qt::CaseInsensitive) == 0;
+}
+
+/// Passes over masters in front of a row. False when one of them stands in the row's place, which then has no other: it has
+/// the row's code, and the row itself does not follow.
+bool skipMasters(Lines &lines, const LabelRow &type) {
+  while (lines.ahead(LabelRow::LongName).startsWith(QLatin1String("master"))) {
+    const bool isInPlace = isOfType(lines, 0, type);
+    const bool isBeside =
+        isOfType(lines, LabelRow::Columns, type) && lines.ahead(LabelRow::Columns) == type[LabelRow::LongName];
+    skip(lines, LabelRow::Columns);
+    if (isInPlace && !isBeside)
       return false;
   }
-  return false;
+  return true;
 }
 
 void stopped(const QString &what, const QString &path) {
@@ -141,9 +160,10 @@ void readRows(Lines &lines, const QString &path, LabelTable &table) {
   if (!skip(lines, LabelRow::Columns))
     return stopped(QStringLiteral("header"), path);
   for (LabelRow &type : table.types) {
-    QString first;
+    if (ignoresMasters && !skipMasters(lines, type))
+      continue;
     LabelRow row = type; // half a row counts for nothing
-    if (!readFirst(lines, ignoresMasters, first) || !readCells(lines, row, LabelRow::Short))
+    if (!readCells(lines, row))
       return stopped(QStringLiteral("type data"), path);
     type = row;
   }

@@ -3,6 +3,7 @@
 #include <base/nivramsg.h>
 
 #include <QDir>
+#include <QFontMetricsF>
 
 #include <algorithm>
 #include <cmath>
@@ -19,9 +20,10 @@ struct Keys {
   bool areUsed() const { return !file.isNull() || !character.isNull(); }
 };
 
+constexpr double Longest = 4000.0; // px
+
 /// Of pixels, 0 when there is none of a bearable size.
 double lengthOf(const element &source, PropertyKey key) {
-  constexpr double Longest = 4000.0;
   const double length = NetData::number(source.find(key));
   return length > 0.0 ? std::min(length, Longest) : 0.0;
 }
@@ -60,6 +62,10 @@ void Figures::add(NetGeometry::Item item, const element &source) {
     return;
   m_numbers[Key(item.kind, item.index)] = static_cast<int>(m_figures.size());
   m_figures.push_back(figure);
+  if (figure.hasOwnSize()) {
+    const QSizeF own = extent(static_cast<int>(m_figures.size()) - 1, 0.0);
+    m_longest = std::max({m_longest, own.width(), own.height()});
+  }
 }
 
 QImage Figures::load(const QString &file) {
@@ -79,6 +85,7 @@ void Figures::clear() {
   m_figures.clear();
   m_numbers.clear();
   m_pictures.clear();
+  m_longest = 0.0;
 }
 
 int Figures::find(NetGeometry::Item item) const {
@@ -86,27 +93,45 @@ int Figures::find(NetGeometry::Item item) const {
   return found == m_numbers.end() ? -1 : found->second;
 }
 
-bool Figures::draw(QPainter &painter, int number, const QPointF &center, double size) const {
-  const Figure &figure = m_figures[static_cast<std::size_t>(number)];
-  if (!figure.picture.isNull()) {
-    QSizeF extent = QSizeF(figure.picture.size()).scaled(size, size, Qt::KeepAspectRatio);
-    if (figure.width > 0.0)
-      extent = {figure.width, figure.height > 0.0 ? figure.height : extent.height() * figure.width / extent.width()};
-    else if (figure.height > 0.0)
-      extent = {extent.width() * figure.height / extent.height(), figure.height};
-    painter.save();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF(center - QPointF(extent.width() * 0.5, extent.height() * 0.5), extent), figure.picture);
-    painter.restore();
-    return true;
-  }
-  if (figure.character.isEmpty())
-    return false;
+QFont Figures::Figure::font(double size) const {
+  double pixels = size;
+  if (width > 0.0 && height > 0.0)
+    pixels = std::min(width, height);
+  else if (hasOwnSize())
+    pixels = std::max(width, height);
   QFont font(QStringLiteral("Arial"));
-  font.setPixelSize(std::max(1, static_cast<int>(std::lround(figure.height > 0.0 ? figure.height : size))));
-  painter.setFont(font);
-  painter.setPen(Qt::black);
-  const double side = std::max(size, figure.height) * 2.0;
-  painter.drawText(QRectF(center.x() - side, center.y() - side, side * 2.0, side * 2.0), Qt::AlignCenter, figure.character);
-  return true;
+  font.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
+  return font;
+}
+
+QSizeF Figures::extent(int number, double size) const {
+  const Figure &figure = m_figures[static_cast<std::size_t>(number)];
+  if (figure.picture.isNull()) {
+    const QFont font = figure.font(size);
+    return QFontMetricsF(font)
+        .size(Qt::TextSingleLine, figure.character)
+        .expandedTo(QSizeF(font.pixelSize(), font.pixelSize()));
+  }
+  if (figure.width > 0.0 && figure.height > 0.0)
+    return {figure.width, figure.height};
+  QSizeF room(size, size);
+  if (figure.hasOwnSize())
+    room = {figure.width > 0.0 ? figure.width : Longest, figure.height > 0.0 ? figure.height : Longest};
+  return QSizeF(figure.picture.size()).scaled(room, Qt::KeepAspectRatio);
+}
+
+void Figures::draw(QPainter &painter, int number, const QPointF &center, double size) const {
+  const Figure &figure = m_figures[static_cast<std::size_t>(number)];
+  QRectF area(QPointF(), extent(number, size));
+  area.moveCenter(center);
+  painter.save();
+  if (figure.picture.isNull()) {
+    painter.setFont(figure.font(size));
+    painter.setPen(Qt::black);
+    painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, figure.character);
+  } else {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(area, figure.picture);
+  }
+  painter.restore();
 }

@@ -27,6 +27,8 @@ public:
   void zoomOut(const QPointF &point) { zoomOut(point, m_settings.zoomFact); }
   void zoomIn(const QPointF &point, double factor);
   void zoomOut(const QPointF &point, double factor);
+  /// As many steps about the point, positive to zoom in.
+  void zoomSteps(int steps, const QPointF &point);
   void fitAll() { zoom(0); }
   /// Fits the whole network to the canvas as it is now and forgets the stack.
   void fitBase();
@@ -38,9 +40,26 @@ public:
   bool canGoBack() const { return m_rest.isActive() || m_history.canGoBack(); }
   bool canGoForward() const { return m_history.canGoForward(); }
 
-  /// Between them zooming is one movement: one entry of the stack, and slow drawings are moved as a picture.
+  /// Between them zooming is one movement: one entry of the stack, slow drawings are moved as a picture, and no refresh is
+  /// asked for.
   void beginMove();
   void endMove();
+
+  /// Every zoom asks for a refresh after the general setting "pixtest delay". While one of these lives it does not:
+  /// whoever holds it asks when it is done, with a delay of its own.
+  class OwnRequest {
+  public:
+    explicit OwnRequest(PlotZoom &zoom)
+        : m_zoom(zoom) {
+      ++m_zoom.m_ownRequests;
+    }
+    ~OwnRequest() { --m_zoom.m_ownRequests; }
+    OwnRequest(const OwnRequest &) = delete;
+    OwnRequest &operator=(const OwnRequest &) = delete;
+
+  private:
+    PlotZoom &m_zoom;
+  };
 
   /// In plot coordinates.
   QPointF cursor() const;
@@ -72,6 +91,9 @@ private:
   /// Puts the views on the stack without a word to anybody.
   void setStack(const QStack<QRectF> &views, int index);
   void shift(double horizontal, double vertical);
+  void requestRefresh();
+  /// Zooms or moves by the key; false when it means nothing of the kind.
+  bool moveBy(int key);
   /// Gives both axes one scale about their centres; false when nothing is to be done.
   bool applyAxesRatio();
   QRectF inCanvasRatio(const QRectF &rect) const;
@@ -85,6 +107,7 @@ private:
   QRectF m_chosen;       ///< the view as a person chose it,
   QRectF m_fitted;       ///< and what a canvas of another shape made of it since
   int m_wheelDegrees = 0;
+  int m_ownRequests = 0;
   ViewHistory m_history;
   QTimer m_rest; ///< until a view counts as one that a person rested at
   enum class Move { None, Begun, Running } m_move = Move::None;

@@ -24,7 +24,7 @@ public:
   explicit viewFuncDialog(NetPlot &plot, QWidget *parent = nullptr);
   ~viewFuncDialog() override;
 
-  /// Where "Apply and Save" writes to.
+  /// Where "Apply and Save" writes to, and "Saved settings" reads from.
   void setFiles(const QString &labelTable, const QString &plotSettings);
   /// Shows how the plot is drawn now.
   void refresh();
@@ -35,6 +35,7 @@ public slots:
   void on_apply_clicked();
   void on_applyAndSave_clicked();
   void on_load_clicked();
+  void on_savedSettings_clicked();
   void on_resetMinMax_clicked() { resetMinMaxColorFuncValues(); }
   void on_addTemplate_clicked();
   void on_applyTemplate_clicked();
@@ -48,12 +49,18 @@ private:
   struct ColorButton {
     QPushButton *button;
     QColor PlotSettings::*color;
+    QColor chosen{};
+
+    void show(const QColor &shown);
   };
 
   bool apply();
-  bool takeFunctions(PlotSettings &settings);
-  bool takeBounds(const FunctionRow &row, FunctionRow::Values &values);
-  void takeForm(PlotSettings &settings) const;
+  void draw(const PlotSettings &before, const LabelTable &labels);
+  void offerSavedSettings();
+  bool checkBounds(PlotSettings &form) const;
+  PlotSettings form() const;
+  void readFunctions(PlotSettings &form) const;
+  void readSizes(PlotSettings &form) const;
   void showForm(const PlotSettings &settings);
   FunctionRow::Unit unitOf(const QString &function) const;
   static QString noteOn(const DrawValues::Column &values, double minimum, double maximum);
@@ -66,6 +73,7 @@ private:
   std::unique_ptr<Ui::viewFuncDialog> m_ui;
   std::array<FunctionRow *, Rows> m_rows{};
   std::vector<ColorButton> m_colors;
+  PlotSettings m_shown; ///< what the fields said before anybody touched them
   LabelTableEditor *m_labels;
   QString m_labelTablePath;
   QString m_plotSettingsPath;

@@ -5,6 +5,7 @@
 #include <qwt_color_map.h>
 
 #include <array>
+#include <memory>
 #include <vector>
 
 /// What shapes a colour scale: hues of the user's choice, or one of the ramps that keep equal steps equally visible and
@@ -57,12 +58,13 @@ private:
   double m_logFactor;
 };
 
-/// The 256 colours with which a map is drawn, whatever the unit of the axis beside it.
+/// The 256 colours with which a map is drawn, at equal steps of its ramp: however a map bends the values, those that it
+/// keeps apart have colours of their own.
 class TableColorMap : public QwtColorMap {
 public:
   static constexpr int Colors = 256;
 
-  TableColorMap(const QwtColorMap &map, const QwtInterval &interval);
+  explicit TableColorMap(std::unique_ptr<HueColorMap> map);
 
   /// Marks by a darker shade what lies outside of the interval, as on the end caps of a scale.
   void setCaps(bool low, bool high);
@@ -71,6 +73,7 @@ public:
   unsigned char colorIndex(const QwtInterval &interval, double value) const override;
 
 private:
+  std::unique_ptr<HueColorMap> m_map;
   std::array<QRgb, Colors> m_colors{};
   bool m_hasLowCap = false;
   bool m_hasHighCap = false;
@@ -85,9 +88,6 @@ public:
 
   QRgb rgb(const QwtInterval &interval, double value) const override;
   unsigned char colorIndex(const QwtInterval &interval, double value) const override;
-  /// The same classes for another unit of the values.
-  void setBreaks(std::vector<double> breaks) { m_breaks = std::move(breaks); }
-  const std::vector<double> &breaks() const { return m_breaks; }
 
   static std::vector<double> equalBreaks(const QwtInterval &range, int classes);
   /// Breaks that put about as many of the values into each class; equal ones are taken once.

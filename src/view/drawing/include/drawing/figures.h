@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QHash>
 #include <QImage>
 #include <QPainter>
@@ -35,9 +36,12 @@ public:
     return items;
   }
 
-  /// False when there is nothing to draw.
+  /// What the figure covers about its middle, px.
   /// \param size px, where the figure does not say its own
-  bool draw(QPainter &painter, int number, const QPointF &center, double size) const;
+  QSizeF extent(int number, double size) const;
+  /// The longest side of all figures that say their own size, px.
+  double longest() const { return m_longest; }
+  void draw(QPainter &painter, int number, const QPointF &center, double size) const;
 
 private:
   using Key = std::pair<int, int>; ///< kind and index
@@ -46,6 +50,9 @@ private:
     QString character;
     double width = 0.0; ///< px, 0 when it says nothing
     double height = 0.0;
+
+    bool hasOwnSize() const { return width > 0.0 || height > 0.0; }
+    QFont font(double size) const; ///< of the character
   };
 
   void add(NetGeometry::Item item, const element &source);
@@ -55,4 +62,5 @@ private:
   std::vector<Figure> m_figures;
   std::map<Key, int> m_numbers;
   QHash<QString, QImage> m_pictures; ///< by path
+  double m_longest = 0.0;
 };

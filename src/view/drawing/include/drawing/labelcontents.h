@@ -24,7 +24,7 @@ struct LabelStyle {
 /// What a label says.
 struct LabelText {
   QStringList lines; ///< plain text
-  QString html;      ///< in place of the lines where the text has marks other than line breaks
+  QString html;      ///< in place of the lines where the text has entities, or marks other than line breaks
 
   bool isEmpty() const { return lines.isEmpty() && html.isEmpty(); }
 };

@@ -5,6 +5,7 @@
 #include <drawing/layerfilter.h>
 #include <drawing/netgeometry.h>
 #include <drawing/visibilityrules.h>
+#include <set>
 
 class EdgeLayer;
 class NodeLayer;
@@ -61,4 +62,5 @@ private:
   const Projection &m_projection;
   LabelPlacement m_placement;
   std::vector<Wish> m_wishes;
+  std::set<int> m_nodesWithSymbol;
 };

@@ -2,6 +2,7 @@
 
 #include <qwt_plot_item.h>
 
+#include <algorithm>
 #include <drawing/figures.h>
 #include <drawing/layerfilter.h>
 #include <drawing/layergeometry.h>
@@ -49,9 +50,17 @@ public:
     NetGeometry::Item item;
     QPointF center; ///< px
     double size = 0.0;
+    QSizeF extent;      ///< px, what the symbol or the figure covers
     double angle = 0.0; ///< degrees, clockwise
     int others = 0;     ///< that stand behind it
     int record = 0;
+    bool isFigure = false;
+
+    /// Whether the point lies on it: in the circle of a symbol, in the rectangle of a figure.
+    bool covers(const QPointF &point) const;
+    /// What labels keep away from, px.
+    QRectF obstacle() const;
+    double reach() const { return std::max(extent.width(), extent.height()) * 0.5; }
   };
   /// What is drawn of it, the more important first. Kept until the symbols, their visibility or the view change.
   const std::vector<Placed> &place(const Projection &projection) const;
@@ -79,6 +88,7 @@ private:
   };
 
   Layout layOut(const Projection &projection) const;
+  Placed placed(int record, const QPointF &center, double size, const Projection &projection) const;
   std::vector<Record> records(const NetGeometry &geometry);
   int symbolOf(const NetGeometry::Edge &edge);
   QPointF centerOf(const Record &record, const Projection &projection) const;
