@@ -33,7 +33,7 @@ bool write(const QString &path, FileAccess::Source source, const Writer &writer,
   if (why.isEmpty())
     why = file.errorString();
   if (reason != nullptr)
-    *reason = QCoreApplication::translate("WholeFile", "Cannot write %1: %2").arg(path, why);
+    *reason = QCoreApplication::translate("WholeFile", "Could not write %1: %2").arg(path, why);
   return false;
 }
 

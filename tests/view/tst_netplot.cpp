@@ -21,6 +21,10 @@ private slots:
   void wheelZoomsAboutTheCursor();
   void wheelCollectsSmallTurns();
   void zoomStopsAtItsLimits();
+  void theDeepestViewStays_data();
+  void theDeepestViewStays();
+  void zoomsBesideScalesOfAnyWidth_data();
+  void zoomsBesideScalesOfAnyWidth();
   void stackIsCutBack();
   void keysMoveAndFit();
   void rectangleZoomKeepsItsWholeRectangle();
@@ -67,6 +71,21 @@ private:
     QApplication::sendEvent(canvas, &move);
     QMouseEvent release(QEvent::MouseButtonRelease, to, button, Qt::NoButton, keys);
     QApplication::sendEvent(canvas, &release);
+  }
+  /// The fixture's network, far higher than wide, in a plot with scales.
+  static void showTallBesideScales(ViewFixture &f) {
+    for (const char *name : {"B", "C", "D"})
+      f.net.element(QString::fromLatin1(name))->set(QStringLiteral("x"), QStringLiteral("100"));
+    f.net.element(QStringLiteral("C"))->set(QStringLiteral("y"), QStringLiteral("500"));
+    f.net.element(QStringLiteral("D"))->set(QStringLiteral("y"), QStringLiteral("1000"));
+    f.plot().show();
+    f.show();
+    PlotSettings settings = f.plot().settings();
+    settings.showXYaxes = true;
+    settings.colorScalePos = 0; // nothing at the right leaves room for the last number of the lower scale
+    f.plot().setSettings(settings);
+    f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, true);
+    f.picture();
   }
   /// For as long as it lives, a wheel step is done at once.
   struct PlainWheel {
@@ -156,6 +175,90 @@ void TestNetPlot::zoomStopsAtItsLimits() {
   QCOMPARE(zoomer.zoomRectIndex(), 0U);
   zoomer.zoomOut({100, 50});
   QCOMPARE(zoomer.zoomRect(), zoomer.zoomBase());
+}
+
+void TestNetPlot::theDeepestViewStays_data() {
+  QTest::addColumn<QSize>("size");
+  QTest::addColumn<bool>("oneScale");
+  QTest::newRow("wide plot") << QSize(900, 300) << true;
+  QTest::newRow("high plot") << QSize(300, 900) << true;
+  QTest::newRow("two scales") << QSize(900, 300) << false;
+}
+
+// However the canvas and the network are shaped, what lies under the cursor stays there, also in the step that reaches the
+// limit and in those that go no further.
+void TestNetPlot::theDeepestViewStays() {
+  QFETCH(QSize, size);
+  QFETCH(bool, oneScale);
+  ViewFixture f;
+  f.plot().resize(size);
+  f.plot().show();
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.fixAxesRatio = oneScale;
+  f.plot().setSettings(settings);
+  f.plot().zoomer()->fitBase();
+  f.picture();
+  const QwtFastPlot &area = *f.plot().plot();
+  const QPoint place(area.canvas()->width() / 4, area.canvas()->height() / 5);
+  const QPointF anchor = area.toPlot(place);
+  for (int i = 0; i < 25; ++i) {
+    const QRectF before = area.visibleRect();
+    f.plot().zoomer()->zoomIn(anchor);
+    const double pixel = qMax(area.unitsPerPixel().width(), area.unitsPerPixel().height());
+    QVERIFY2((area.toPlot(place) - anchor).manhattanLength() < 1e-3 * pixel, QByteArray::number(i));
+    QVERIFY(area.visibleRect().width() <= before.width());
+  }
+  const QRectF deepest = area.visibleRect();
+  QVERIFY(deepest.width() >= f.plot().settings().smallestZoomWidth * (1.0 - 1e-6));
+  QVERIFY(deepest.height() >= f.plot().settings().smallestZoomHeight * (1.0 - 1e-6));
+  const uint views = f.plot().zoomer()->zoomRectIndex();
+  f.plot().zoomer()->zoomIn(anchor);
+  QCOMPARE(area.visibleRect(), deepest);
+  QCOMPARE(f.plot().zoomer()->zoomRectIndex(), views);
+}
+
+void TestNetPlot::zoomsBesideScalesOfAnyWidth_data() {
+  QTest::addColumn<double>("factor"); // 0 for the wheel
+  QTest::addColumn<int>("steps");
+  QTest::newRow("small steps") << 1.05 << 60;
+  QTest::newRow("large steps") << 1.5 << 20;
+  QTest::newRow("smooth wheel") << 0.0 << 20;
+}
+
+// Other numbers at the scales leave the canvas another size, which asks for another view, which has other numbers.
+void TestNetPlot::zoomsBesideScalesOfAnyWidth() {
+  QFETCH(double, factor);
+  QFETCH(int, steps);
+  const bool isWheel = factor == 0.0;
+  ViewFixture f;
+  showTallBesideScales(f);
+  const QwtFastPlot &area = *f.plot().plot();
+  GeneralSettings::instance().setValue(QStringLiteral("smooth zoom duration"), QStringLiteral("20"));
+  for (int width = isWheel ? 640 : 300; width <= 700; width += isWheel ? 30 : 10) {
+    f.plot().resize(width, 400 + width % 37);
+    f.plot().zoomer()->fitAll();
+    f.picture();
+    QVERIFY(area.visibleRect().contains(QRectF(0, 0, 100, 1000)));
+    const QPoint place(area.canvas()->width() / 2 + 40, area.canvas()->height() / 2 - 30);
+    const QPointF anchor = area.toPlot(place);
+    for (int i = 0; i < steps; ++i) {
+      if (isWheel) {
+        QCursor::setPos(area.canvas()->mapToGlobal(place));
+        turnWheel(f.plot(), place, 240);
+        QTRY_VERIFY(!f.plot().isZooming());
+      } else {
+        f.plot().zoomer()->zoomIn(anchor, factor);
+      }
+      if (i == steps / 2)
+        f.plot().resize(width + 7, 500);
+      f.picture();
+      QVERIFY2(qAbs(unitsRatio(f.plot()) - 1.0) < 1e-6 && (isWheel || area.visibleRect().contains(anchor)),
+               qPrintable(QStringLiteral("%1 %2 %3").arg(width).arg(i).arg(unitsRatio(f.plot()), 0, 'g', 10)));
+    }
+    QVERIFY(area.visibleRect().height() < (isWheel ? 900.0 : 200.0));
+  }
+  GeneralSettings::instance().reset();
 }
 
 void TestNetPlot::stackIsCutBack() {

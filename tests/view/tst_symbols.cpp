@@ -1,6 +1,7 @@
 #include "symbols/picturefile.h"
 #include "viewfixture.h"
 
+#include <base/nivramsg.h>
 #include <support/nivratest.h>
 #include <view/plotzoom.h>
 
@@ -19,10 +20,14 @@ class TestSymbols : public QObject {
 
 private slots:
   void tableLines();
+  void unreadableTables_data();
+  void unreadableTables();
   void everyTypeHasAReadableSymbol();
   void symbolsPointAlongTheirEdge();
   void statesHaveTheirSymbols();
   void ownSymbolTakesThePlaceOfTheBuiltIn();
+  void ownSymbolStandsForAllStates();
+  void drivesOutOfUse();
   void badSvg_data();
   void badSvg();
   void ordinarySvgIsDrawn();
@@ -68,6 +73,28 @@ void TestSymbols::tableLines() {
   QVERIFY(SymbolTable(QStringLiteral("/nowhere")).files().empty());
 }
 
+void TestSymbols::unreadableTables_data() {
+  QTest::addColumn<bool>("isThere");
+  QTest::newRow("nothing there") << false;
+  QTest::newRow("a folder in its place") << true;
+}
+
+void TestSymbols::unreadableTables() {
+  QFETCH(bool, isThere);
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("svg_symbols.csv"));
+  QVERIFY(!isThere || QDir().mkpath(path));
+  QStringList lines;
+  connect(&NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
+          [&lines](const QString &line) { lines.append(line); });
+  QVERIFY(SymbolTable(folder.path()).files().empty());
+  QCoreApplication::processEvents();
+  disconnect(&NivraMsg::NivraLogger::instance(), nullptr, this, nullptr);
+  QCOMPARE(lines.size(), isThere ? 2 : 1); // why, and what is done about it
+  QVERIFY2(lines.last().contains(QStringLiteral("SVG symbols file %1 not found! Using built-in defaults!").arg(path)),
+           qPrintable(lines.last()));
+}
+
 void TestSymbols::everyTypeHasAReadableSymbol() {
   StationSymbols symbols;
   for (const char *key : {"c", "r", "v", "f", "s", "g", "k", "w", "d", "n", "p", "t", "sub", "compressor_station"}) {
@@ -98,6 +125,46 @@ void TestSymbols::ownSymbolTakesThePlaceOfTheBuiltIn() {
   QCOMPARE(f.picture().pixelColor(f.pixel(200, 50)), QColor(Qt::red));
   f.show(); // another case has no symbols of its own
   QVERIFY(f.picture().pixelColor(f.pixel(200, 50)) != QColor(Qt::red));
+}
+
+// Who draws a valve and no closed one sees his own also where it is closed; a key for the state goes before.
+void TestSymbols::ownSymbolStandsForAllStates() {
+  const auto square = [](const char *color) {
+    return QByteArray("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 8 8'><rect width='8' height='8' fill='") +
+           color + "'/></svg>";
+  };
+  QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("symbols")));
+  write(QStringLiteral("symbols/own.svg"), square("#ff0000"));
+  write(QStringLiteral("symbols/state.svg"), square("#0000ff"));
+  const auto drawnAs = [this](const char *type, const char *state, const QByteArray &table) {
+    write(QStringLiteral("symbols/svg_symbols.csv"), table);
+    ViewFixture f;
+    f.net.element(QStringLiteral("CD"))->set(QStringLiteral("type"), QString::fromLatin1(type));
+    f.net.element(QStringLiteral("CD"))->set(QStringLiteral("state"), QString::fromLatin1(state));
+    f.control.showNetData(m_folder.filePath(QStringLiteral("plotsettings.ini")));
+    return f.picture().pixelColor(f.pixel(200, 50));
+  };
+  QCOMPARE(drawnAs("v", "closed", "v;own.svg\n"), QColor(Qt::red));
+  QCOMPARE(drawnAs("c", "bypass", "c;own.svg\n"), QColor(Qt::red));
+  QCOMPARE(drawnAs("v", "closed", "v;own.svg\nv_off;state.svg\n"), QColor(Qt::blue));
+  QCOMPARE(drawnAs("c", "bypass", "c_bypass;state.svg\n"), QColor(Qt::blue));
+  QVERIFY(drawnAs("c", "active", "c_bypass;state.svg\n") != QColor(Qt::blue));
+}
+
+void TestSymbols::drivesOutOfUse() {
+  ViewFixture f;
+  element drive = makeNode("DR", "100", "100");
+  drive.set(QStringLiteral("type"), QStringLiteral("d"));
+  f.add(std::move(drive), {});
+  f.show();
+  f.picture(); // lays out
+  const QPoint body = f.pixel(100, 100) + QPoint(-3, 3);
+  const QColor atWork = f.picture().pixelColor(body);
+  QVERIFY2(atWork.saturation() > 15, qPrintable(atWork.name())); // green
+  f.net.element(QStringLiteral("DR"))->set(QStringLiteral("active"), QStringLiteral("0"));
+  f.show();
+  const QColor off = f.picture().pixelColor(body);
+  QVERIFY2(off.saturation() < 10 && off.lightness() > 200, qPrintable(off.name())); // grey
 }
 
 void TestSymbols::statesHaveTheirSymbols() {

@@ -4,7 +4,9 @@
 
 #include <QElapsedTimer>
 #include <qwt_plot_layout.h>
+#include <qwt_scale_draw.h>
 #include <qwt_scale_map.h>
+#include <qwt_scale_widget.h>
 
 QwtFastPlot::QwtFastPlot(QWidget *parent)
     : QwtPlot(parent)
@@ -77,7 +79,25 @@ void QwtFastPlot::replot() {
     updateAxes();
   else
     QwtPlot::replot();
+  keepScaleRoom();
   updateOverlay();
+}
+
+void QwtFastPlot::keepScaleRoom() {
+  for (const int axis : {int(xBottom), int(yLeft)}) {
+    QwtScaleWidget &scale = *axisWidget(axis);
+    if (!axisEnabled(axis))
+      continue;
+    scale.setMinBorderDist(scale.startBorderDist(), scale.endBorderDist()); // which are no less than the minima so far
+    scale.scaleDraw()->setMinimumExtent(scale.scaleDraw()->extent(scale.font()));
+  }
+}
+
+void QwtFastPlot::forgetScaleRoom() {
+  for (const int axis : {int(xBottom), int(yLeft)}) {
+    axisWidget(axis)->setMinBorderDist(0, 0);
+    axisWidget(axis)->scaleDraw()->setMinimumExtent(0.0);
+  }
 }
 
 void QwtFastPlot::drawCanvas(QPainter *painter) {

@@ -28,11 +28,13 @@ QString tr(const char *text) {
 /// Gives the plot another size for as long as it lives.
 class TemporarySize {
 public:
-  TemporarySize(NetPlot &plot, int width)
+  TemporarySize(NetPlot &plot, const PictureSize &size)
       : m_plot(plot)
       , m_before(plot.geometry())
       , m_smallest(plot.minimumSize()) {
-    const int height = static_cast<int>(qint64(m_before.height()) * width / qMax(m_before.width(), 1));
+    const int width = static_cast<int>(std::lround(size.width / size.scale));
+    const int height = size.height > 0 ? static_cast<int>(std::lround(size.height / size.scale))
+                                       : static_cast<int>(qint64(m_before.height()) * width / qMax(m_before.width(), 1));
     m_plot.setMinimumSize(0, 0); // a picture may be smaller than the widget
     m_plot.setGeometry(m_before.x(), m_before.y(), width, qMax(height, 1));
   }
@@ -189,10 +191,11 @@ bool writeFormat(NetPlot &plot, double scale, QIODevice &device, const QByteArra
 
 /// Why there can be no such picture; empty when there can.
 QString faultOf(const QByteArray &format, const PictureSize &size) {
-  static const QList<QByteArray> Formats{"png", "jpg", "jpeg", "bmp", "tif", "tiff", "svg", "pdf", "ps"};
-  if (!Formats.contains(format))
-    return tr("\"%1\" is no format of pictures; there are png, jpg, bmp, tif, svg, pdf and ps")
-        .arg(QString::fromLatin1(format));
+  static const QList<QByteArray> Documents{"svg", "pdf", "ps"};
+  if (const QList<QByteArray> pixels = QImageWriter::supportedImageFormats();
+      !Documents.contains(format) && !pixels.contains(format))
+    return tr("\"%1\" is no format of pictures; there are %2")
+        .arg(QString::fromLatin1(format), QString::fromLatin1((Documents + pixels).join(", ")));
   if (size.width <= 0)
     return tr("a picture needs a width");
   if (!(size.scale > 0.0 && size.scale <= PictureSize::LargestScale && size.width / size.scale >= 1.0))
@@ -211,7 +214,7 @@ bool exportPlot(NetPlot &plot, const QString &path, const PictureSize &size, QSt
     plot.selection().setHovered(std::nullopt);
     {
       const WithoutStore direct(plot);
-      const TemporarySize temporary(plot, static_cast<int>(std::lround(size.width / size.scale)));
+      const TemporarySize temporary(plot, size);
       layOut(plot, hasLabels);
       // The plot lies on whole pixels of its own; the picture has the width that was asked for all the same.
       const double scale = static_cast<double>(size.width) / plot.width();

@@ -59,12 +59,16 @@ void PlotSaver::saveWithWidth(PictureSize size) {
 }
 
 void PlotSaver::savePlot(const QString &path, const QString &reducedPath, bool asksForFile) {
-  constexpr double Reduced = 0.3;
+  constexpr int Percent = 30;
   const QString chosen = asksForFile ? askForFile(&m_plot) : path.trimmed();
-  if (chosen.isEmpty() || !mayBeLarge(chosen) || !save(chosen, m_plot.width()))
+  if (chosen.isEmpty() || !mayBeLarge(chosen))
     return;
-  if (!reducedPath.trimmed().isEmpty())
-    save(reducedPath.trimmed(), static_cast<int>(m_plot.width() * Reduced));
+  save(chosen, m_plot.width());
+  if (reducedPath.trimmed().isEmpty())
+    return;
+  PictureSize reduced(m_plot.width() * Percent / 100);
+  reduced.height = m_plot.height() * Percent / 100;
+  save(reducedPath.trimmed(), reduced);
 }
 
 QString PlotSaver::askForFile(QWidget *parent) {

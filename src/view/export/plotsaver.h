@@ -23,7 +23,7 @@ public:
   void saveWithWidth(PictureSize size);
   /// At the present width. Blank names do nothing.
   /// \param path empty when a dialog asks for it
-  /// \param reducedPath a second picture of 30 % of the size, none when empty
+  /// \param reducedPath a second picture of 30 % of width and height, none when empty; written whatever became of the first
   void savePlot(const QString &path, const QString &reducedPath, bool asksForFile);
 
 private:

@@ -4,11 +4,13 @@
 #include <view/qwtfastplot.h>
 
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QWheelEvent>
 #include <qwt_scale_engine.h>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -34,8 +36,8 @@ QStack<QRectF> stackOf(std::initializer_list<QRectF> views) {
   return stack;
 }
 
-QRectF about(const QPointF &center, double width, double height) {
-  return {center.x() - width * 0.5, center.y() - height * 0.5, width, height};
+QRectF about(const QPointF &center, const QSizeF &size) {
+  return {center.x() - size.width() * 0.5, center.y() - size.height() * 0.5, size.width(), size.height()};
 }
 
 } // namespace
@@ -63,7 +65,7 @@ PlotZoom::PlotZoom(QwtFastPlot &plot, PlotSettings &settings)
 void PlotZoom::setExtent(const QRectF &extent) {
   const QRectF area = withArea(extent);
   setZoomLimits(area, QSizeF(m_plot.canvas()->contentsRect().size()));
-  m_wholeNetwork = about(area.center(), area.width() * Room, area.height() * Room);
+  m_wholeNetwork = about(area.center(), area.size() * Room);
   fitBase();
   m_history.clear();
   recordView();
@@ -138,10 +140,11 @@ void PlotZoom::setZoomLimits(const QRectF &extent, const QSizeF &pixelSpan) {
 
 void PlotZoom::zoomIn(const QPointF &point, double factor) {
   const QRectF r = zoomRect();
-  if (m_settings.smallestZoomWidth >= r.width() && m_settings.smallestZoomHeight >= r.height())
-    return;
-  zoomAbout(point, {std::max(m_settings.smallestZoomWidth, r.width() / factor),
-                    std::max(m_settings.smallestZoomHeight, r.height() / factor)});
+  const QSizeF next = inCanvasRatio(QSizeF(std::max(m_settings.smallestZoomWidth, r.width() / factor),
+                                           std::max(m_settings.smallestZoomHeight, r.height() / factor)));
+  constexpr double AsLarge = 1.0 - 1e-9;
+  if (next.width() < r.width() * AsLarge || next.height() < r.height() * AsLarge)
+    zoomAbout(point, next);
 }
 
 void PlotZoom::zoomOut(const QPointF &point, double factor) {
@@ -154,7 +157,8 @@ void PlotZoom::zoomOut(const QPointF &point, double factor) {
     }
     return;
   }
-  zoomAbout(point, {std::min(base.width(), r.width() * factor), std::min(base.height(), r.height() * factor)});
+  zoomAbout(point,
+            inCanvasRatio(QSizeF(std::min(base.width(), r.width() * factor), std::min(base.height(), r.height() * factor))));
 }
 
 void PlotZoom::zoomSteps(int steps, const QPointF &point) {
@@ -209,12 +213,16 @@ void PlotZoom::setStack(const QStack<QRectF> &views, int index) {
   setZoomStack(views, index);
 }
 
-QRectF PlotZoom::inCanvasRatio(const QRectF &rect) const {
+QSizeF PlotZoom::inCanvasRatio(const QSizeF &size) const {
   const QRect area = m_plot.canvas()->contentsRect();
   if (!m_settings.fixAxesRatio || area.width() < 2 || area.height() < 2)
-    return rect;
-  const double units = std::max(rect.width() / area.width(), rect.height() / area.height());
-  return about(rect.center(), units * area.width(), units * area.height());
+    return size;
+  const double units = std::max(size.width() / area.width(), size.height() / area.height());
+  return {units * area.width(), units * area.height()};
+}
+
+QRectF PlotZoom::inCanvasRatio(const QRectF &rect) const {
+  return about(rect.center(), inCanvasRatio(rect.size()));
 }
 
 void PlotZoom::cutStack() {
@@ -228,6 +236,7 @@ void PlotZoom::cutStack() {
 void PlotZoom::fitBase() {
   if (m_wholeNetwork.isEmpty())
     return;
+  m_plot.forgetScaleRoom();
   setStack(stackOf({inCanvasRatio(m_wholeNetwork)}), 0);
   rescale(); // also when the base is the old one but the canvas is not
   emit zoomed(zoomBase());
@@ -236,6 +245,21 @@ void PlotZoom::fitBase() {
 void PlotZoom::fitCanvas() {
   if (m_wholeNetwork.isEmpty())
     return;
+  constexpr int MostPasses = 4; // the scales keep the room that they took, so the second pass is the last as a rule
+  const bool wasResting = !m_rest.isActive();
+  {
+    const QScopedValueRollback<bool> fitting(m_isFitting, true);
+    m_isCanvasOther = true;
+    for (int pass = 0; pass < MostPasses && std::exchange(m_isCanvasOther, false); ++pass)
+      fitViews();
+  }
+  m_isCanvasOther = false;
+  emit zoomed(zoomRect());
+  if (wasResting)
+    m_rest.stop(); // nobody chose this view
+}
+
+void PlotZoom::fitViews() {
   QStack<QRectF> views = zoomStack();
   const auto at = static_cast<int>(zoomRectIndex());
   views[0] = inCanvasRatio(m_wholeNetwork);
@@ -250,26 +274,30 @@ void PlotZoom::fitCanvas() {
     m_fitted = views[at] = m_plot.visibleRect();
     setStack(views, at);
   }
-  const bool wasResting = !m_rest.isActive();
-  emit zoomed(zoomRect());
-  if (wasResting)
-    m_rest.stop(); // nobody chose this view
 }
 
 bool PlotZoom::eventFilter(QObject *watched, QEvent *event) {
   const bool result = QwtPlotZoomer::eventFilter(watched, event);
-  if (watched == canvas() && event->type() == QEvent::Resize)
-    fitCanvas();
+  if (watched == canvas() && event->type() == QEvent::Resize) {
+    m_isCanvasOther = true;
+    if (!m_isRescaling)
+      fitCanvas();
+  }
   return result;
 }
 
 void PlotZoom::rescale() {
-  const QRectF rect = zoomRect();
-  m_plot.setAxisScale(QwtPlot::xBottom, rect.left(), rect.right());
-  m_plot.setAxisScale(QwtPlot::yLeft, rect.top(), rect.bottom());
-  m_plot.updateAxes();
-  if (!applyAxesRatio())
-    m_plot.replot();
+  {
+    const QScopedValueRollback<bool> rescaling(m_isRescaling, true);
+    const QRectF rect = zoomRect();
+    m_plot.setAxisScale(QwtPlot::xBottom, rect.left(), rect.right());
+    m_plot.setAxisScale(QwtPlot::yLeft, rect.top(), rect.bottom());
+    m_plot.updateAxes();
+    if (!applyAxesRatio())
+      m_plot.replot();
+  }
+  if (m_isCanvasOther && !m_isFitting)
+    fitCanvas();
 }
 
 bool PlotZoom::applyAxesRatio() {
@@ -290,7 +318,7 @@ bool PlotZoom::applyAxesRatio() {
     height = width * k;
   const double step = std::max(QwtScaleArithmetic::divideInterval(width, m_plot.axisMaxMajor(QwtPlot::xBottom), Decimal),
                                QwtScaleArithmetic::divideInterval(height, m_plot.axisMaxMajor(QwtPlot::yLeft), Decimal));
-  const QRectF equal = about(shown.center(), width, height);
+  const QRectF equal = about(shown.center(), {width, height});
   m_plot.setAxisScale(QwtPlot::xBottom, equal.left(), equal.right(), step);
   m_plot.setAxisScale(QwtPlot::yLeft, equal.top(), equal.bottom(), step);
   m_plot.replot();

@@ -15,7 +15,7 @@ namespace WholeFile {
 /// Writes into the device; false when it cannot, with its reason where the device's own error does not say it.
 using Writer = std::function<bool(QIODevice &device, QString *reason)>;
 
-/// False with "Cannot write path: why". A file of the workspace is written inside the workspace only
+/// False with "Could not write path: why". A file of the workspace is written inside the workspace only
 /// (FileAccess::confineTo); a trusted path is one that the user chose for this very file.
 bool write(const QString &path, FileAccess::Source source, const Writer &writer, QString *reason);
 bool write(const QString &path, FileAccess::Source source, const QByteArray &content, QString *reason);

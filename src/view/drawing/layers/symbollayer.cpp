@@ -1,3 +1,5 @@
+#include <model/elementstate.h>
+
 #include <algorithm>
 #include <drawing/subnetlayer.h>
 #include <drawing/symbollayer.h>
@@ -29,14 +31,12 @@ void SymbolLayer::setTable(const SymbolTable &table) {
 int SymbolLayer::symbolOf(const NetGeometry::Edge &edge) {
   const QString type(QLatin1Char(edge.type));
   const PropertyKey own = PropertyKey::find("vis.symbol");
-  int symbol = own.isNull() ? -1 : m_symbols.find(edge.source->value(own).trimmed());
+  const int symbol = own.isNull() ? -1 : m_symbols.find(edge.source->value(own).trimmed());
   if (symbol >= 0)
     return symbol;
   if (edge.isInactive)
-    symbol = m_symbols.find(type + QStringLiteral("_off"));
-  else if (edge.isBypass)
-    symbol = m_symbols.find(type + QStringLiteral("_bypass"));
-  return symbol >= 0 ? symbol : m_symbols.find(type);
+    return m_symbols.find(type, QStringLiteral("_off"));
+  return edge.isBypass ? m_symbols.find(type, QStringLiteral("_bypass")) : m_symbols.find(type);
 }
 
 std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometry) {
@@ -69,9 +69,11 @@ std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometr
     record.x = node.x;
     record.y = node.y;
     record.item = {NetData::Node, static_cast<int>(i)};
-    record.symbol = m_symbols.find(QStringLiteral("d"));
+    const QString type = QStringLiteral("d");
+    record.symbol =
+        ElementState::isOutOfUse(*node.source) ? m_symbols.find(type, QStringLiteral("_off")) : m_symbols.find(type);
     record.priority = priorityOf('d');
-    record.size = shareOf(QStringLiteral("d"));
+    record.size = shareOf(type);
     found.push_back(record);
   }
   found.erase(std::remove_if(found.begin(), found.end(), [](const Record &r) { return r.symbol < 0; }), found.end());

@@ -58,6 +58,13 @@ int StationSymbols::find(const QString &key) {
   return number;
 }
 
+int StationSymbols::find(const QString &type, const QString &state) {
+  const QString both = type + state;
+  const bool isOwn = m_table.file(both).path.isEmpty() && !m_table.file(type).path.isEmpty();
+  const int symbol = isOwn ? -1 : find(both);
+  return symbol >= 0 ? symbol : find(type);
+}
+
 void StationSymbols::draw(QPainter &painter, int symbol, const QPointF &center, double size, double angle) {
   if (isVectorTarget(painter)) {
     painter.save();

@@ -9,15 +9,15 @@ SymbolTable::SymbolTable(const QString &directory)
     : m_directory(directory) {
   constexpr qint64 Largest = qint64(1) << 20;
   const QString path = directory + QStringLiteral("/svg_symbols.csv");
-  if (!QFile::exists(path)) {
+  QString reason;
+  const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, Largest, &reason);
+  if (!content) {
+    if (QFile::exists(path))
+      NivraMsg::logWarning(reason);
     NivraMsg::log(QStringLiteral("SVG symbols file ") + path + QStringLiteral(" not found! Using built-in defaults!"));
     return;
   }
-  QString reason;
-  const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, Largest, &reason);
-  if (!content)
-    NivraMsg::logWarning(reason);
-  for (const QByteArray &bytes : content.value_or(QByteArray()).split('\n')) {
+  for (const QByteArray &bytes : content->split('\n')) {
     const QString line = QString::fromUtf8(bytes);
     if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
       continue;

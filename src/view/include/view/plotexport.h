@@ -13,11 +13,13 @@ struct PictureSize {
       : width(widthOfPicture)
       , scale(scaleOfMarks) {}
 
-  int width;    ///< px; the height follows the shape of the plot
-  double scale; ///< of texts, lines and symbols against those on the screen: 2 for a picture that is printed half as large
+  int width;      ///< px
+  int height = 0; ///< px; 0 to follow the shape of the plot
+  double scale;   ///< of texts, lines and symbols against those on the screen: 2 for a picture that is printed half as large
 };
 
-/// Writes the drawing with its colour scale and legend; the suffix gives the format: png, jpg, bmp and tif as pixels, svg,
-/// pdf and ps as documents (ps by a tool for it that is installed). The plot is brought to the size for the picture and back
-/// afterwards. The file is written whole or stays as it was; false with the reason when it could not be written.
+/// Writes the drawing with its colour scale and legend; the suffix gives the format: png, jpg, bmp, tif and what else
+/// the toolkit writes as pixels, svg, pdf and ps as documents (ps by a tool for it that is installed). The plot is brought
+/// to the size for the picture and back afterwards. The file is written whole or stays as it was; false with the reason when
+/// it could not be written.
 bool exportPlot(NetPlot &plot, const QString &path, const PictureSize &size, QString *error = nullptr);

@@ -86,8 +86,10 @@ protected:
 
 private:
   void cutStack();
-  /// Gives the base, and the view that was chosen last, the shape of the canvas as it is now.
+  /// Gives the base, and the view that was chosen last, the shape of the canvas as it is now. Other numbers at the scales
+  /// may leave the canvas another size, and that size another view: it is done again until they agree, a few times at most.
   void fitCanvas();
+  void fitViews();
   /// Puts the views on the stack without a word to anybody.
   void setStack(const QStack<QRectF> &views, int index);
   void shift(double horizontal, double vertical);
@@ -96,6 +98,8 @@ private:
   bool moveBy(int key);
   /// Gives both axes one scale about their centres; false when nothing is to be done.
   bool applyAxesRatio();
+  /// So much larger that one scale for both axes fills the canvas; as it was where each axis has a scale of its own.
+  QSizeF inCanvasRatio(const QSizeF &size) const;
   QRectF inCanvasRatio(const QRectF &rect) const;
   void zoomAbout(const QPointF &point, const QSizeF &size);
   void recordView();
@@ -106,6 +110,9 @@ private:
   QRectF m_wholeNetwork; ///< what the base shows on a canvas of any shape
   QRectF m_chosen;       ///< the view as a person chose it,
   QRectF m_fitted;       ///< and what a canvas of another shape made of it since
+  bool m_isRescaling = false;
+  bool m_isFitting = false;
+  bool m_isCanvasOther = false; ///< than when the view was given its shape
   int m_wheelDegrees = 0;
   int m_ownRequests = 0;
   ViewHistory m_history;

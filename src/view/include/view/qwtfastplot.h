@@ -23,6 +23,9 @@ public:
   /// From a place on the canvas to plot coordinates.
   QPointF toPlot(const QPoint &canvasPosition) const;
 
+  /// The scales below and at the left keep the room that their numbers once took, lest the canvas jump while the view moves.
+  void forgetScaleRoom();
+
   /// An item to paint over the canvas, whether it is visible or not; it must outlive the plot's painting.
   void setOverlayItem(const QwtPlotItem *item);
   void updateOverlay();
@@ -45,6 +48,8 @@ protected:
   void drawCanvas(QPainter *painter) override;
 
 private:
+  void keepScaleRoom();
+
   CanvasOverlay *m_overlay;
   QPixmap m_picture;
   QRectF m_pictureView; ///< in plot coordinates

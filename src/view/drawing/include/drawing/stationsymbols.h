@@ -20,6 +20,9 @@ public:
   void setTable(const SymbolTable &table);
   /// Number of the symbol for a type code ("c") or a kind of subnet ("compressor_station"); -1 when there is none.
   int find(const QString &key);
+  /// The symbol of a type in a state ("_off"): that of both together, else the type's. A symbol of the user's own for the
+  /// type goes before a built-in one for the state.
+  int find(const QString &type, const QString &state);
 
   /// Draws the symbol about the centre. Screens get a prepared pixmap, documents the vectors.
   /// \param size px, across

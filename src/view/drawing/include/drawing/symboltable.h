@@ -11,7 +11,8 @@
 class SymbolTable {
 public:
   SymbolTable() = default;
-  /// Reads directory + "/svg_symbols.csv"; a missing file is logged and yields an empty table.
+  /// Reads directory + "/svg_symbols.csv"; a file that is missing or cannot be read is logged and
+  /// yields an empty table.
   explicit SymbolTable(const QString &directory);
 
   /// File name as the table gives it, by key.
