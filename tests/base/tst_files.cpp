@@ -109,7 +109,8 @@ void TestFiles::fullDisksLeaveTheOldFile() {
   for (const int size : {1, 1000, 16384, 16385, 200000}) {
     reason.clear();
     QVERIFY2(!WholeFile::write(path, FileAccess::Source::Trusted, QByteArray(size, 'x'), &reason), QByteArray::number(size));
-    QVERIFY2(reason.contains(QLatin1String("Could not write ")) && reason.contains(QLatin1String("space")), qPrintable(reason));
+    QVERIFY2(reason.contains(QLatin1String("Could not write ")) && reason.contains(QLatin1String("space")),
+             qPrintable(reason));
     QCOMPARE(contentOf(path), QByteArray("old"));
   }
   disk.free();
