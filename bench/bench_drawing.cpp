@@ -1,11 +1,11 @@
 // Drawing, against the bare painter.
 
+#include "canvas/qwtfastplot.h"
+#include "interaction/plotzoom.h"
 #include "measure.h"
 
 #include <io/nivrareader.h>
 #include <view/netviscontrol.h>
-#include <view/plotzoom.h>
-#include <view/qwtfastplot.h>
 
 #include <QApplication>
 #include <QImage>

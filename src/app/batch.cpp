@@ -152,7 +152,7 @@ QJsonObject info(NetData &net, const NetworkLoader &loader, StageTimes &times, c
 
 /// Puts the functions of the command line in place of those of the settings, with open bounds. False with the reason when
 /// there is nothing to see of one.
-bool applyFunctions(const CommandLine &line, NetPlot &plot, const NetData &net, QString &reason) {
+bool applyFunctions(const CommandLine &line, NetVisControl &control, QString &reason) {
   using S = PlotSettings;
   struct Function {
     const QString &chosen;
@@ -164,11 +164,12 @@ bool applyFunctions(const CommandLine &line, NetPlot &plot, const NetData &net, 
                                 {line.widthBy, &S::widthFunc, &S::minVal_Width, &S::maxVal_Width},
                                 {line.nodeColorBy, &S::nodeColorFunc, &S::minVal_nodeColor, &S::maxVal_nodeColor},
                                 {line.nodeSizeBy, &S::nodeSizeFunc, &S::minVal_nodeSize, &S::maxVal_nodeSize}};
+  NetPlot &plot = *control.plot();
   PlotSettings settings = plot.settings();
   for (const Function &f : functions) {
     if (f.chosen.isEmpty())
       continue;
-    if (f.chosen != PlotSettings::fixedSize() && !DrawFunction::find(f.chosen, net).isKnown()) {
+    if (f.chosen != PlotSettings::fixedSize() && !DrawFunction::find(f.chosen, control.net()).isKnown()) {
       reason = tr("No element has the property \"%1\".").arg(f.chosen);
       return false;
     }
@@ -181,7 +182,7 @@ bool applyFunctions(const CommandLine &line, NetPlot &plot, const NetData &net, 
   if (settings == plot.settings())
     return true;
   plot.setSettings(settings);
-  plot.update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  control.redraw();
   return true;
 }
 
@@ -221,12 +222,12 @@ int Batch::run(const CommandLine &line) {
 
   if (!line.picture.isEmpty()) {
     QString reason;
-    if (!applyFunctions(line, *control.plot(), net, reason))
+    if (!applyFunctions(line, control, reason))
       return failed(reason);
     if (!line.extent.isNull())
       control.plot()->showArea(line.extent);
     if (!line.labels.isEmpty())
-      control.plot()->update().relabelNow();
+      control.relabelNow();
     const PictureSize size(line.width > 0 ? line.width : CommandLine::DefaultWidth, line.scale);
     if (!exportPlot(*control.plot(), line.picture, size, &reason))
       return failed(reason);

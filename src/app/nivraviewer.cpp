@@ -275,7 +275,7 @@ void NivraViewer::computeAgain(const QStringList &names, const QString &property
   m_tools->setFindings(m_loader.noticed());
   m_tools->showElement(m_currentElement);
   m_tools->refreshMachines();
-  m_control->plot()->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  m_control->redraw();
   for (SubnetWindow *window : subnetWindows())
     window->takeProperties();
 }

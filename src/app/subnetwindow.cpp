@@ -22,7 +22,7 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
     , m_tools(new ToolDocks(*this, *m_control, std::move(categories), ToolDocks::Extent::Network)) {
   constexpr QSize Size(800, 600);
   setAttribute(Qt::WA_DeleteOnClose);
-  setWindowTitle(tr("Subassembly %1").arg(subnet)); // by which labels know that they are wanted at once
+  setWindowTitle(tr("Subassembly %1").arg(subnet));
   setCentralWidget(m_control->plot());
   resize(Size);
   m_control->showNetData(workspace.filePath(QStringLiteral("plotsettings.ini")));
@@ -92,7 +92,7 @@ void SubnetWindow::takeProperties() {
       taken.erase(searched);
     here = std::move(taken);
   });
-  m_control->plot()->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  m_control->redraw();
   m_tools->reload();
 }
 

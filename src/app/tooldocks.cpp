@@ -195,16 +195,12 @@ void ToolDocks::openCharacteristics(const QStringList &names) {
 void ToolDocks::createLayers() {
   m_layers = new NivraNetLayersEditor(m_net, &m_window);
   addDock(m_layers, QStringLiteral("layers"), Qt::LeftDockWidgetArea);
-  NetUpdate &update = m_control.plot()->update();
   connect(m_layers, &NivraNetLayersEditor::hiddenLayersWanted, this,
-          [this, &update](const QString &property, const QSet<QString> &hidden) {
-            update.setHiddenLayers(property, hidden);
-            m_layers->setHiddenLayers(update.layers().hidden());
+          [this](const QString &property, const QSet<QString> &hidden) {
+            m_control.setHiddenLayers(property, hidden);
+            m_layers->setHiddenLayers(m_control.hiddenLayers());
           });
-  connect(m_layers, &NivraNetLayersEditor::layerVisChanged, this, [&update] {
-    update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
-    update.requestPixtest(0);
-  });
+  connect(m_layers, &NivraNetLayersEditor::layerVisChanged, &m_control, &NetVisControl::redrawLayers);
   connect(m_layers, &NivraNetLayersEditor::propertyChanged, this, &ToolDocks::propertyChanged); // which draws
   connect(m_layers, &NivraNetLayersEditor::itemClicked, this, &ToolDocks::elementMarked);
   connect(m_layers, &NivraNetLayersEditor::itemDoubleClicked, &m_control, &NetVisControl::showElement);
@@ -313,7 +309,7 @@ void ToolDocks::createElement() {
 }
 
 NivraEleInfoWidget::PlotLabel ToolDocks::plotLabel(const element &e) const {
-  const LabelContents *contents = m_control.plot()->update().labelContents();
+  const LabelContents *contents = m_control.labelContents();
   if (contents == nullptr)
     return {};
   const LabelText text = contents->text(e);

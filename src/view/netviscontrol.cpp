@@ -1,11 +1,12 @@
+#include "canvas/qwtfastplot.h"
 #include "interaction/plotmenu.h"
+#include "interaction/plotzoom.h"
 
 #include <view/netviscontrol.h>
-#include <view/plotzoom.h>
-#include <view/qwtfastplot.h>
 
 #include <QFileInfo>
 #include <QMenu>
+#include <QMetaMethod>
 
 #include <drawing/drawfunctions.h>
 
@@ -15,14 +16,38 @@ NetVisControl::NetVisControl(NetData &net, const QString &name, QObject *parent)
     , m_name(name)
     , m_plot(new NetPlot)
     , m_picker(new NetPicker(*m_plot, net))
-    , m_menu(std::make_unique<PlotMenu>(*this)) {
+    , m_menu(std::make_unique<PlotMenu>(*m_plot, *m_picker, net)) {
+  m_plot->setShowsSubnet(!name.isEmpty());
   connect(m_picker, &NetPicker::selectionChanged, this, &NetVisControl::selectionChanged);
   connect(m_picker, &NetPicker::picked, this,
           [this](const QString &picked) { emit elementAction(picked, NetPicker::EleAction::Mark); });
   connect(m_picker, &NetPicker::activated, this,
           [this](const QString &activated) { emit elementAction(activated, NetPicker::EleAction::ShowInfo); });
-  connect(m_plot, &NetPlot::contextMenuRequested, this, [this](QMenu *contextMenu) { m_menu->fill(*contextMenu); });
+  connect(m_plot, &NetPlot::contextMenuRequested, this, [this](QMenu *contextMenu) { fillMenu(*contextMenu); });
+  connect(m_menu.get(), &PlotMenu::showRequested, this, &NetVisControl::showElement);
+  connect(m_menu.get(), &PlotMenu::infoRequested, this,
+          [this](const QString &wanted) { emit elementAction(wanted, NetPicker::EleAction::ShowInfo); });
+  connect(m_menu.get(), &PlotMenu::editPropertiesRequested, this, &NetVisControl::editPropertiesRequested);
+  connect(m_menu.get(), &PlotMenu::openCharacteristicsRequested, this, &NetVisControl::openCharacteristicsRequested);
+  connect(m_menu.get(), &PlotMenu::subnetRequested, this, &NetVisControl::subnetWanted);
+  connect(m_menu.get(), &PlotMenu::traceRequested, this, &NetVisControl::trace);
+  connect(m_menu.get(), &PlotMenu::configureDrawRequested, this, &NetVisControl::configureDrawRequested);
+  connect(m_menu.get(), &PlotMenu::searchResultsRequested, this, &NetVisControl::setShowsSearchResults);
   connect(m_plot, &NetPlot::drawConfigurationRequested, this, &NetVisControl::configureDrawRequested);
+}
+
+void NetVisControl::fillMenu(QMenu &contextMenu) {
+  const auto isAnswered = [this](auto signal) {
+    return isSignalConnected(QMetaMethod::fromSignal(signal));
+  };
+  PlotMenu::State state{isAnswered(&NetVisControl::elementAction),
+                        isAnswered(&NetVisControl::editPropertiesRequested),
+                        isAnswered(&NetVisControl::openCharacteristicsRequested),
+                        isAnswered(&NetVisControl::subnetWanted),
+                        isAnswered(&NetVisControl::configureDrawRequested),
+                        showsSearchResults(),
+                        bookmarks()};
+  m_menu->fill(contextMenu, state);
 }
 
 NetVisControl::~NetVisControl() {
@@ -59,6 +84,31 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   m_plot->showNetwork();
 }
 
+void NetVisControl::redraw() {
+  m_plot->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+}
+
+void NetVisControl::setHiddenLayers(const QString &property, const QSet<QString> &layers) {
+  m_plot->update().setHiddenLayers(property, layers);
+}
+
+const QSet<QString> &NetVisControl::hiddenLayers() const {
+  return m_plot->update().layers().hidden();
+}
+
+void NetVisControl::redrawLayers() {
+  redraw();
+  m_plot->update().requestPixtest(0);
+}
+
+void NetVisControl::relabelNow() {
+  m_plot->update().relabelNow();
+}
+
+const LabelContents *NetVisControl::labelContents() const {
+  return m_plot->update().labelContents();
+}
+
 bool NetVisControl::showElement(const QString &name) {
   const std::optional<NetGeometry::Item> item = m_plot->update().geometry().find(m_net, name);
   if (!item)
@@ -84,7 +134,7 @@ void NetVisControl::selectSearchResults(bool topoClosure, bool additive) {
 void NetVisControl::setShowsSearchResults(bool shows) {
   using Mode = NetUpdate::DisplayMode;
   m_plot->update().setDisplayMode(shows ? Mode::SearchResults : Mode::Functions);
-  m_plot->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  redraw();
 }
 
 bool NetVisControl::showsSearchResults() const {

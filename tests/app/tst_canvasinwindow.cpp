@@ -1,11 +1,11 @@
+#include "canvas/qwtfastplot.h"
+#include "interaction/plotzoom.h"
 #include "nivraviewer.h"
 #include "workspacefixture.h"
 
 #include <support/nivratest.h>
 #include <tools/nivrapropviewer.h>
 #include <view/netviscontrol.h>
-#include <view/plotzoom.h>
-#include <view/qwtfastplot.h>
 
 #include <QApplication>
 #include <QDockWidget>

@@ -1,3 +1,4 @@
+#include "canvas/qwtfastplot.h"
 #include "nivraviewer.h"
 #include "subnetwindow.h"
 #include "workspacefixture.h"
@@ -14,7 +15,6 @@
 #include <tools/nivrasearch.h>
 #include <tools/nivravectable.h>
 #include <view/netviscontrol.h>
-#include <view/qwtfastplot.h>
 
 #include <QAction>
 #include <QApplication>

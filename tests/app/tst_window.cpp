@@ -1,3 +1,4 @@
+#include "interaction/plotzoom.h"
 #include "loadprogress.h"
 #include "networkloader.h"
 #include "nivraviewer.h"
@@ -17,7 +18,6 @@
 #include <tools/nivrasearch.h>
 #include <tools/nivravectable.h>
 #include <view/netviscontrol.h>
-#include <view/plotzoom.h>
 
 #include <QApplication>
 #include <QDockWidget>

@@ -1,10 +1,10 @@
+#include "interaction/plotzoom.h"
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <model/netmetadata.h>
 #include <support/nivratest.h>
-#include <view/plotzoom.h>
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>

@@ -1,9 +1,9 @@
+#include "interaction/plotzoom.h"
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
 #include <support/nivratest.h>
 #include <view/netpicker.h>
-#include <view/plotzoom.h>
 
 #include <QMenu>
 #include <QSignalSpy>

@@ -1,8 +1,8 @@
+#include "interaction/plotzoom.h"
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
 #include <support/nivratest.h>
-#include <view/plotzoom.h>
 
 #include <QElapsedTimer>
 #include <QMenu>

@@ -1,6 +1,7 @@
 #include <base/generalsettings.h>
 #include <support/nivratest.h>
-#include <view/pixtest.h>
+
+#include <drawing/pixtest.h>
 
 class TestPixtest : public QObject {
   Q_OBJECT

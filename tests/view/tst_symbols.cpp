@@ -1,9 +1,9 @@
+#include "interaction/plotzoom.h"
 #include "symbols/picturefile.h"
 #include "viewfixture.h"
 
 #include <base/nivramsg.h>
 #include <support/nivratest.h>
-#include <view/plotzoom.h>
 
 #include <QBuffer>
 #include <QDir>

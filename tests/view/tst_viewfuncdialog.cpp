@@ -1,10 +1,10 @@
 #include "configure/labeltableeditor.h"
 #include "configure/plotsettingsfile.h"
+#include "interaction/plotzoom.h"
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
 #include <support/nivratest.h>
-#include <view/plotzoom.h>
 #include <view/viewfuncdialog.h>
 
 #include <QCheckBox>

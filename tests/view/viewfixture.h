@@ -1,8 +1,9 @@
 #pragma once
 
+#include "canvas/qwtfastplot.h"
+
 #include <support/modelfixture.h>
 #include <view/netviscontrol.h>
-#include <view/qwtfastplot.h>
 
 #include <QApplication>
 #include <QImage>

@@ -1,6 +1,6 @@
 #include "canvas/canvasoverlay.h"
 
-#include <view/qwtfastplot.h>
+#include "canvas/qwtfastplot.h"
 
 #include <QPainter>
 #include <qwt_plot_item.h>

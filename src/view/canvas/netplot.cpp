@@ -1,12 +1,12 @@
 #include "canvas/plotpanner.h"
+#include "canvas/qwtfastplot.h"
 #include "configure/plotsettingsfile.h"
+#include "interaction/plotzoom.h"
 #include "interaction/smoothzoom.h"
 
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <view/netplot.h>
-#include <view/plotzoom.h>
-#include <view/qwtfastplot.h>
 
 #include <QMenu>
 #include <QMouseEvent>
@@ -38,12 +38,13 @@ NetPlot::NetPlot(QWidget *parent)
     , m_plot(new QwtFastPlot(this))
     , m_zoomer(new PlotZoom(*m_plot, m_settings))
     , m_panner(new PlotPanner(*m_plot))
-    , m_update(std::make_unique<NetUpdate>(*this, m_settings))
-    , m_smoothZoom(new SmoothZoom(*this)) {
+    , m_update(std::make_unique<NetUpdate>(m_settings, [this] { return view(); }))
+    , m_smoothZoom(new SmoothZoom(*m_zoomer)) {
   constexpr int SmallestSide = 200;
   constexpr double GridZ = 1.0;
   constexpr double LegendZ = 100.0;
   setUpPlot();
+  setUpUpdate();
   setUpPanner();
   setUpZoom();
   m_grid.setZ(GridZ);
@@ -77,6 +78,25 @@ void NetPlot::setUpPlot() {
   m_plot->canvas()->setAcceptDrops(true);
 }
 
+void NetPlot::setUpUpdate() {
+  for (QwtPlotItem *item : m_update->items())
+    item->attach(m_plot);
+  connect(m_update.get(), &NetUpdate::scalesChanged, this, [this] {
+    ColorScale::show(*m_plot, m_settings, m_update->values(), m_update->coloured(), m_update->swatches());
+    showAxes();
+  });
+  connect(m_update.get(), &NetUpdate::extentChanged, this, &NetPlot::fitNetwork);
+  connect(m_update.get(), &NetUpdate::legendChanged, this, &NetPlot::placeLegend);
+  connect(m_update.get(), &NetUpdate::changed, m_plot, &QwtFastPlot::replot);
+}
+
+NetUpdate::View NetPlot::view() const {
+  return {
+      m_plot->visibleRect(), m_plot->unitsPerPixel(),
+      Projection(m_plot->canvasMap(QwtPlot::xBottom), m_plot->canvasMap(QwtPlot::yLeft), m_plot->canvas()->contentsRect()),
+      legendArea(), m_showsSubnet};
+}
+
 void NetPlot::setUpPanner() {
   // The scales beside the drawing show colours, not places.
   m_panner->setAxisEnabled(QwtPlot::xTop, false);
@@ -88,6 +108,8 @@ void NetPlot::setUpPanner() {
 void NetPlot::setUpZoom() {
   connect(m_zoomer, &QwtPlotZoomer::zoomed, this, &NetPlot::placeLegend);
   connect(m_zoomer, &PlotZoom::refreshRequested, this, &NetPlot::refresh);
+  connect(m_smoothZoom, &SmoothZoom::refreshRequested, this,
+          [this](int delay, bool quick) { m_update->requestPixtest(delay, quick); });
   connect(m_zoomer, &PlotZoom::wheelTurned, this, &NetPlot::zoomByWheel);
 }
 
@@ -270,11 +292,11 @@ void NetPlot::placeLegend() {
   text.setBackgroundBrush(background);
   m_legend.setLabel(text);
 
-  const QSizeF size = text.textSize();
+  m_legendSize = text.textSize();
   const QSizeF unit = m_plot->unitsPerPixel();
   const QRectF shown = m_plot->visibleRect();
-  const double fromSide = (size.width() * 0.5 + Inset) * unit.width();
-  const double fromEnd = (size.height() * 0.5 + Inset) * unit.height();
+  const double fromSide = (m_legendSize.width() * 0.5 + Inset) * unit.width();
+  const double fromEnd = (m_legendSize.height() * 0.5 + Inset) * unit.height();
   const bool isRight = corner == TopRight || corner == BottomRight;
   const bool isTop = corner == TopLeft || corner == TopRight;
   // Plot coordinates grow upwards: the lower edge of the view is the top of its rectangle.
@@ -286,7 +308,7 @@ void NetPlot::placeLegend() {
 QRectF NetPlot::legendArea() const {
   if (!m_legend.isVisible())
     return QRectF();
-  QRectF area(QPointF(), m_legend.label().textSize());
+  QRectF area(QPointF(), m_legendSize);
   area.moveCenter(
       {m_plot->transform(QwtPlot::xBottom, m_legend.value().x()), m_plot->transform(QwtPlot::yLeft, m_legend.value().y())});
   return area;

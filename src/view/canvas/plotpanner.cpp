@@ -1,6 +1,6 @@
 #include "canvas/plotpanner.h"
 
-#include <view/qwtfastplot.h>
+#include "canvas/qwtfastplot.h"
 
 PlotPanner::PlotPanner(QwtFastPlot &plot)
     : QwtPlotPanner(plot.canvas())

@@ -1,6 +1,6 @@
-#include "canvas/canvasoverlay.h"
+#include "canvas/qwtfastplot.h"
 
-#include <view/qwtfastplot.h>
+#include "canvas/canvasoverlay.h"
 
 #include <QElapsedTimer>
 #include <qwt_plot_layout.h>

@@ -1,10 +1,10 @@
 #include "configure/labeltableeditor.h"
+#include "interaction/plotzoom.h"
 #include "ui_viewfuncdialog.h"
 
 #include <base/nivramsg.h>
 #include <model/displayformat.h>
 #include <view/netplot.h>
-#include <view/plotzoom.h>
 #include <view/viewfuncdialog.h>
 
 #include <QColorDialog>

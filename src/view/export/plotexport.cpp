@@ -1,9 +1,9 @@
+#include "canvas/qwtfastplot.h"
 #include "export/documentrenderer.h"
 
 #include <base/wholefile.h>
 #include <view/netplot.h>
 #include <view/plotexport.h>
-#include <view/qwtfastplot.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,11 +1,12 @@
+#include "canvas/qwtfastplot.h"
+#include "interaction/plotzoom.h"
+
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
 #include <model/topology.h>
 #include <view/netpicker.h>
-#include <view/plotzoom.h>
-#include <view/qwtfastplot.h>
 
 #include <QAction>
 #include <QApplication>

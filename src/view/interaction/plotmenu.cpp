@@ -1,19 +1,17 @@
 #include "interaction/plotmenu.h"
 
 #include "export/plotsaver.h"
+#include "interaction/plotzoom.h"
 
 #include <base/nivramsg.h>
 #include <model/elementstate.h>
 #include <model/elementtypes.h>
 #include <model/topology.h>
-#include <view/netviscontrol.h>
-#include <view/plotzoom.h>
 
 #include <QDialog>
 #include <QInputDialog>
 #include <QListWidget>
 #include <QMenu>
-#include <QMetaMethod>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -21,10 +19,6 @@
 namespace {
 
 constexpr int MostEntries = 30; // a menu longer than the screen helps nobody
-
-QString tr(const char *text) {
-  return QCoreApplication::translate("PlotMenu", text);
-}
 
 /// In a menu an ampersand would mark a key.
 QString menuText(QString text) {
@@ -68,78 +62,77 @@ void addNote(QMenu &entries, const QString &text) {
 /// How many of so many names found no room.
 void addRest(QMenu &entries, int count) {
   if (count > MostEntries)
-    addNote(entries, tr("… and %1 more").arg(count - MostEntries));
+    addNote(entries, PlotMenu::tr("… and %1 more").arg(count - MostEntries));
 }
 
 } // namespace
 
-PlotMenu::PlotMenu(NetVisControl &control)
-    : m_control(control) {}
+PlotMenu::PlotMenu(NetPlot &plot, NetPicker &picker, const NetData &net)
+    : m_plot(plot)
+    , m_picker(picker)
+    , m_net(net) {}
 
-void PlotMenu::fill(QMenu &contextMenu) const {
+void PlotMenu::fill(QMenu &contextMenu, const State &state) {
   addCrowd(contextMenu);
-  addSelection(contextMenu);
-  addSubnet(contextMenu);
-  addCharacteristics(contextMenu);
-  addMachinesHere(contextMenu);
+  addSelection(contextMenu, state);
+  addSubnet(contextMenu, state);
+  addCharacteristics(contextMenu, state);
+  addMachinesHere(contextMenu, state);
   addTrace(contextMenu);
-  contextMenu.addAction(m_control.picker()->selectAllAction());
+  contextMenu.addAction(m_picker.selectAllAction());
   contextMenu.addSeparator();
   addView(contextMenu);
-  addBookmarks(contextMenu);
+  addBookmarks(contextMenu, state.bookmarks);
   addLabels(contextMenu);
   contextMenu.addSeparator();
-  contextMenu.addAction(tr("Configure drawing …"), &m_control, &NetVisControl::configureDrawRequested)
-      ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::configureDrawRequested)));
-  QAction *results = contextMenu.addAction(tr("Show search results"), &m_control, &NetVisControl::setShowsSearchResults);
+  contextMenu.addAction(tr("Configure drawing …"), this, &PlotMenu::configureDrawRequested)
+      ->setEnabled(state.hasConfiguration);
+  QAction *results = contextMenu.addAction(tr("Show search results"), this, &PlotMenu::searchResultsRequested);
   results->setCheckable(true);
-  results->setChecked(m_control.showsSearchResults());
-  NetPlot *plot = m_control.plot();
+  results->setChecked(state.showsSearchResults);
+  NetPlot *plot = &m_plot;
   contextMenu.addAction(tr("Save picture …"), plot, [plot] { PlotSaver(*plot).savePlot(QString(), QString(), true); });
   contextMenu.addAction(tr("Save picture with width …"), plot, [plot] { PlotSaver(*plot).saveWithWidth(); });
 }
 
-void PlotMenu::addCrowd(QMenu &contextMenu) const {
-  const std::vector<NetGeometry::Item> items = m_control.picker()->pressedItems();
+void PlotMenu::addCrowd(QMenu &contextMenu) {
+  const std::vector<NetGeometry::Item> items = m_picker.pressedItems();
   if (items.size() < 2)
     return;
   QMenu *crowd = contextMenu.addMenu(tr("Select here (%1)").arg(items.size()));
-  const NetGeometry &geometry = m_control.plot()->update().geometry();
+  const NetGeometry &geometry = m_plot.update().geometry();
   int count = 0;
   for (const NetGeometry::Item item : items) {
     if (++count > MostEntries)
       break;
-    NetPicker *picker = m_control.picker();
+    NetPicker *picker = &m_picker;
     QObject::connect(crowd->addAction(withType(*geometry.source(item))), &QAction::triggered, picker,
                      [picker, item] { picker->choose(item); });
   }
   addRest(*crowd, static_cast<int>(items.size()));
 }
 
-void PlotMenu::addSelection(QMenu &contextMenu) const {
-  const QStringList names = firstOf(m_control.net().selection(), MostEntries);
+void PlotMenu::addSelection(QMenu &contextMenu, const State &state) {
+  const QStringList names = firstOf(m_net.selection(), MostEntries);
   QMenu *show = contextMenu.addMenu(tr("Show"));
   QMenu *info = contextMenu.addMenu(tr("Show Info"));
   QMenu *edit = contextMenu.addMenu(tr("Edit Properties of"));
   show->setEnabled(!names.isEmpty());
-  edit->setEnabled(!names.isEmpty() && m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::editPropertiesRequested)));
-  info->setEnabled(!names.isEmpty() && m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::elementAction)));
+  edit->setEnabled(!names.isEmpty() && state.hasProperties);
+  info->setEnabled(!names.isEmpty() && state.hasInfo);
   for (const QString &name : names) {
-    NetVisControl *control = &m_control;
-    QObject::connect(show->addAction(menuText(name)), &QAction::triggered, control,
-                     [control, name] { control->showElement(name); });
-    QObject::connect(info->addAction(menuText(name)), &QAction::triggered, control,
-                     [control, name] { emit control->elementAction(name, NetPicker::EleAction::ShowInfo); });
-    QObject::connect(edit->addAction(menuText(name)), &QAction::triggered, control,
-                     [control, name] { emit control->editPropertiesRequested({name}); });
+    QObject::connect(show->addAction(menuText(name)), &QAction::triggered, this, [this, name] { emit showRequested(name); });
+    QObject::connect(info->addAction(menuText(name)), &QAction::triggered, this, [this, name] { emit infoRequested(name); });
+    QObject::connect(edit->addAction(menuText(name)), &QAction::triggered, this,
+                     [this, name] { emit editPropertiesRequested({name}); });
   }
   for (QMenu *entries : {show, info, edit})
-    addRest(*entries, m_control.net().selection().size());
+    addRest(*entries, m_net.selection().size());
 }
 
-void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
+void PlotMenu::addCharacteristics(QMenu &contextMenu, const State &state) {
   constexpr int Most = 10000; // whoever selects more is not after machines
-  const Selection &selection = m_control.net().selection();
+  const Selection &selection = m_net.selection();
   if (selection.nodes.size() + selection.edges.size() > Most)
     return;
   Selection::Names machines;
@@ -152,86 +145,84 @@ void PlotMenu::addCharacteristics(QMenu &contextMenu) const {
   const QStringList names = sorted(machines);
   if (names.isEmpty() || names.size() > MostEntries)
     return;
-  NetVisControl *control = &m_control;
   contextMenu
-      .addAction(names.size() == 1 ? tr("Open Characteristics") : tr("Open Characteristics (%1)").arg(names.size()), control,
-                 [control, names] { emit control->openCharacteristicsRequested(names); })
-      ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
+      .addAction(names.size() == 1 ? tr("Open Characteristics") : tr("Open Characteristics (%1)").arg(names.size()), this,
+                 [this, names] { emit openCharacteristicsRequested(names); })
+      ->setEnabled(state.hasCharacteristics);
 }
 
 bool PlotMenu::isMachine(const QString &name) const {
-  const element *e = m_control.net().element(name);
+  const element *e = m_net.element(name);
   return e != nullptr && ElementTypes::hasCharacteristics(e->value(QStringLiteral("type")));
 }
 
 /// Whatever is selected, and whatever covers them.
-void PlotMenu::addMachinesHere(QMenu &contextMenu) const {
-  const NetGeometry &geometry = m_control.plot()->update().geometry();
-  NetVisControl *control = &m_control;
+void PlotMenu::addMachinesHere(QMenu &contextMenu, const State &state) {
+  const NetGeometry &geometry = m_plot.update().geometry();
   QMenu *machines = nullptr;
   int count = 0;
-  for (const NetGeometry::Item item : m_control.picker()->pressedItems()) {
+  for (const NetGeometry::Item item : m_picker.pressedItems()) {
     const element &source = *geometry.source(item);
     const QString name = source.value(QStringLiteral("name"));
     if (!isMachine(name) || ++count > MostEntries)
       continue;
     if (machines == nullptr)
       machines = contextMenu.addMenu(tr("Open Characteristics of"));
-    QObject::connect(machines->addAction(withType(source)), &QAction::triggered, control,
-                     [control, name] { emit control->openCharacteristicsRequested({name}); });
+    QObject::connect(machines->addAction(withType(source)), &QAction::triggered, this,
+                     [this, name] { emit openCharacteristicsRequested({name}); });
   }
   if (machines == nullptr)
     return;
   addRest(*machines, count);
-  machines->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::openCharacteristicsRequested)));
+  machines->setEnabled(state.hasCharacteristics);
 }
 
-void PlotMenu::addTrace(QMenu &contextMenu) const {
-  if (m_control.net().selection().size() != 1)
+void PlotMenu::addTrace(QMenu &contextMenu) {
+  if (m_net.selection().size() != 1)
     return;
-  const QStringList names = firstOf(m_control.net().selection(), 1);
-  NetVisControl *control = &m_control;
+  const QStringList names = firstOf(m_net.selection(), 1);
   using Direction = Topology::Direction;
-  contextMenu.addAction(tr("Select upstream"), control,
-                        [control, name = names.first()] { control->trace(name, Direction::Upstream); });
-  contextMenu.addAction(tr("Select downstream"), control,
-                        [control, name = names.first()] { control->trace(name, Direction::Downstream); });
+  contextMenu.addAction(tr("Select upstream"), this,
+                        [this, name = names.first()] { emit traceRequested(name, Direction::Upstream); });
+  contextMenu.addAction(tr("Select downstream"), this,
+                        [this, name = names.first()] { emit traceRequested(name, Direction::Downstream); });
 }
 
-void PlotMenu::addSubnet(QMenu &contextMenu) const {
-  const QStringList subnets = sorted(m_control.net().selection().subnets);
+void PlotMenu::addSubnet(QMenu &contextMenu, const State &state) {
+  const QStringList subnets = sorted(m_net.selection().subnets);
   if (subnets.isEmpty())
     return;
   NivraMsg::debug(QStringLiteral("sel has sub"));
   QMenu *menu = contextMenu.addMenu(tr("Subnet"));
   if (subnets.size() == 1)
-    return addSubnetEntries(*menu, subnets.first());
+    return addSubnetEntries(*menu, subnets.first(), state);
   for (const QString &name : subnets.mid(0, MostEntries))
-    addSubnetEntries(*menu->addMenu(menuText(name)), name);
+    addSubnetEntries(*menu->addMenu(menuText(name)), name, state);
   addRest(*menu, subnets.size());
 }
 
-void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name) const {
-  NetVisControl *control = &m_control;
-  parent.addAction(tr("Open in a window of its own"), control, [control, name] { emit control->subnetWanted(name); })
-      ->setEnabled(m_control.isWanted(QMetaMethod::fromSignal(&NetVisControl::subnetWanted)));
+void PlotMenu::addSubnetEntries(QMenu &parent, const QString &name, const State &state) {
+  parent.addAction(tr("Open in a window of its own"), this, [this, name] { emit subnetRequested(name); })
+      ->setEnabled(state.hasSubnetWindows);
   QMenu *edit = parent.addMenu(tr("Edit Properties of"));
   QMenu *open = parent.addMenu(tr("Open Characteristics of"));
-  const element *subnet = m_control.net().assembledSubnets().find(name);
+  const element *subnet = m_net.assembledSubnets().find(name);
   if (subnet == nullptr) {
     for (QMenu *entries : {edit, open})
       addNote(*entries, tr("<Could not find subnet>!"));
     return;
   }
-  addOffer(*edit, offerOf(*subnet, isOfStation), &NetVisControl::editPropertiesRequested, tr("<empty element list>!"));
-  addOffer(*open, offerOf(*subnet, ElementTypes::hasCharacteristics), &NetVisControl::openCharacteristicsRequested,
+  edit->setEnabled(state.hasProperties);
+  open->setEnabled(state.hasCharacteristics);
+  addOffer(*edit, offerOf(*subnet, isOfStation), &PlotMenu::editPropertiesRequested, tr("<empty element list>!"));
+  addOffer(*open, offerOf(*subnet, ElementTypes::hasCharacteristics), &PlotMenu::openCharacteristicsRequested,
            tr("<empty characteristics list>!"));
 }
 
 PlotMenu::Offer PlotMenu::offerOf(const element &subnet, bool (*isOffered)(const QString &type)) const {
   Offer offer;
   for (const QString &name : Topology::listed(subnet, PropertyKey::find("elements"))) {
-    const element *e = m_control.net().element(name);
+    const element *e = m_net.element(name);
     const QString type = e == nullptr ? QString() : e->value(QStringLiteral("type"));
     if (e == nullptr || !isOffered(type))
       continue;
@@ -244,13 +235,11 @@ PlotMenu::Offer PlotMenu::offerOf(const element &subnet, bool (*isOffered)(const
   return offer;
 }
 
-void PlotMenu::addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, const QString &otherwise) const {
-  NetVisControl *control = &m_control;
-  const auto add = [&entries, control, signal](const QString &text, const QStringList &names) {
-    QAction *entry = entries.addAction(menuText(text), control, [control, signal, names] { emit(control->*signal)(names); });
+void PlotMenu::addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, const QString &otherwise) {
+  const auto add = [this, &entries, signal](const QString &text, const QStringList &names) {
+    QAction *entry = entries.addAction(menuText(text), this, [this, signal, names] { emit(this->*signal)(names); });
     entry->setEnabled(!names.isEmpty());
   };
-  entries.setEnabled(m_control.isWanted(QMetaMethod::fromSignal(signal)));
   if (offer.names.isEmpty())
     return addNote(entries, otherwise);
   for (const auto &[type, kind] : offer.kinds) {
@@ -265,8 +254,8 @@ void PlotMenu::addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, 
   addRest(entries, offer.names.size());
 }
 
-void PlotMenu::addView(QMenu &contextMenu) const {
-  NetPlot *plot = m_control.plot();
+void PlotMenu::addView(QMenu &contextMenu) {
+  NetPlot *plot = &m_plot;
   PlotZoom *zoomer = plot->zoomer();
   // The canvas takes the keys; the entries name them.
   contextMenu.addAction(tr("Show whole network\tHome"), zoomer, &PlotZoom::fitAll);
@@ -277,9 +266,8 @@ void PlotMenu::addView(QMenu &contextMenu) const {
     contextMenu.addAction(tr("Show what lies far outside"), plot, &NetPlot::showStragglers);
 }
 
-void PlotMenu::addBookmarks(QMenu &contextMenu) const {
-  NetPlot *plot = m_control.plot();
-  const ViewBookmarks bookmarks = m_control.bookmarks();
+void PlotMenu::addBookmarks(QMenu &contextMenu, const ViewBookmarks &bookmarks) {
+  NetPlot *plot = &m_plot;
   const std::vector<ViewBookmarks::Bookmark> known = bookmarks.all();
   QMenu *menu = contextMenu.addMenu(tr("Bookmarks"));
   for (const ViewBookmarks::Bookmark &bookmark : known)
@@ -305,17 +293,16 @@ void PlotMenu::addBookmarks(QMenu &contextMenu) const {
     });
 }
 
-void PlotMenu::addLabels(QMenu &contextMenu) const {
-  NetPlot *plot = m_control.plot();
+void PlotMenu::addLabels(QMenu &contextMenu) {
+  NetPlot *plot = &m_plot;
   NetUpdate &update = plot->update();
   contextMenu.addAction(tr("Place labels now"), plot, [&update] { update.relabelNow(); });
   const std::vector<NetGeometry::Item> &unplaced = update.unplacedLabels();
   if (unplaced.empty())
     return;
-  NetVisControl *control = &m_control;
   contextMenu.addAction(
       unplaced.size() == 1 ? tr("1 label found no place …") : tr("%1 labels found no place …").arg(unplaced.size()), plot,
-      [control, plot, unplaced] {
+      [this, plot, unplaced] {
         QDialog dialog(plot);
         dialog.setWindowTitle(tr("Labels without a place"));
         auto *list = new QListWidget(&dialog);
@@ -323,8 +310,8 @@ void PlotMenu::addLabels(QMenu &contextMenu) const {
           list->addItem(plot->update().geometry().source(item)->value(QStringLiteral("name")));
         auto *layout = new QVBoxLayout(&dialog);
         layout->addWidget(list);
-        QObject::connect(list, &QListWidget::itemActivated, &dialog, [control, &dialog](const QListWidgetItem *entry) {
-          control->showElement(entry->text());
+        QObject::connect(list, &QListWidget::itemActivated, &dialog, [this, &dialog](const QListWidgetItem *entry) {
+          emit showRequested(entry->text());
           dialog.accept();
         });
         dialog.exec();

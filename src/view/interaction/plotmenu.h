@@ -1,19 +1,42 @@
 #pragma once
 
+#include <model/topology.h>
 #include <view/netpicker.h>
+#include <view/viewbookmarks.h>
 
 #include <map>
 
-class NetVisControl;
 class QMenu;
 
 /// The entries of the context menu of the plot: what can be done with the selection, with what lies under the cursor, and
 /// with the view.
-class PlotMenu {
+class PlotMenu : public QObject {
+  Q_OBJECT
 public:
-  explicit PlotMenu(NetVisControl &control);
+  /// What the entries say besides the network; those that nobody would answer are greyed.
+  struct State {
+    bool hasInfo = false;
+    bool hasProperties = false;
+    bool hasCharacteristics = false;
+    bool hasSubnetWindows = false;
+    bool hasConfiguration = false;
+    bool showsSearchResults = false;
+    ViewBookmarks bookmarks;
+  };
 
-  void fill(QMenu &contextMenu) const;
+  PlotMenu(NetPlot &plot, NetPicker &picker, const NetData &net);
+
+  void fill(QMenu &contextMenu, const State &state);
+
+signals:
+  void showRequested(const QString &name);
+  void infoRequested(const QString &name);
+  void editPropertiesRequested(const QStringList &names);
+  void openCharacteristicsRequested(const QStringList &names);
+  void subnetRequested(const QString &name); ///< in a window of its own
+  void traceRequested(const QString &name, Topology::Direction direction);
+  void configureDrawRequested();
+  void searchResultsRequested(bool shown);
 
 private:
   /// Elements of a subnet that something can be done with.
@@ -25,22 +48,24 @@ private:
     QStringList names;             ///< in the order of the subnet
     std::map<QString, Kind> kinds; ///< by type code
   };
-  using NamesSignal = void (NetVisControl::*)(const QStringList &names);
+  using NamesSignal = void (PlotMenu::*)(const QStringList &names);
 
-  void addCrowd(QMenu &contextMenu) const;
-  void addSelection(QMenu &contextMenu) const;
-  void addSubnet(QMenu &contextMenu) const;
-  void addCharacteristics(QMenu &contextMenu) const;
-  void addMachinesHere(QMenu &contextMenu) const;
+  void addCrowd(QMenu &contextMenu);
+  void addSelection(QMenu &contextMenu, const State &state);
+  void addSubnet(QMenu &contextMenu, const State &state);
+  void addCharacteristics(QMenu &contextMenu, const State &state);
+  void addMachinesHere(QMenu &contextMenu, const State &state);
   bool isMachine(const QString &name) const;
-  void addTrace(QMenu &contextMenu) const;
-  void addSubnetEntries(QMenu &parent, const QString &subnet) const;
+  void addTrace(QMenu &contextMenu);
+  void addSubnetEntries(QMenu &parent, const QString &subnet, const State &state);
   Offer offerOf(const element &subnet, bool (*isOffered)(const QString &type)) const;
   /// One by one and all of a kind; \param otherwise says that there is nothing
-  void addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, const QString &otherwise) const;
-  void addView(QMenu &contextMenu) const;
-  void addBookmarks(QMenu &contextMenu) const;
-  void addLabels(QMenu &contextMenu) const;
+  void addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, const QString &otherwise);
+  void addView(QMenu &contextMenu);
+  void addBookmarks(QMenu &contextMenu, const ViewBookmarks &bookmarks);
+  void addLabels(QMenu &contextMenu);
 
-  NetVisControl &m_control;
+  NetPlot &m_plot;
+  NetPicker &m_picker;
+  const NetData &m_net;
 };

@@ -1,7 +1,9 @@
+#include "interaction/plotzoom.h"
+
+#include "canvas/qwtfastplot.h"
+
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
-#include <view/plotzoom.h>
-#include <view/qwtfastplot.h>
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>

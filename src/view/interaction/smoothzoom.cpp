@@ -1,9 +1,8 @@
 #include "interaction/smoothzoom.h"
 
+#include "interaction/plotzoom.h"
+
 #include <base/generalsettings.h>
-#include <view/netplot.h>
-#include <view/plotzoom.h>
-#include <view/qwtfastplot.h>
 
 #include <algorithm>
 
@@ -15,9 +14,9 @@ int number(const char *setting, int least) {
 
 } // namespace
 
-SmoothZoom::SmoothZoom(NetPlot &plot)
-    : QObject(&plot)
-    , m_plot(plot) {}
+SmoothZoom::SmoothZoom(PlotZoom &zoom)
+    : QObject(&zoom)
+    , m_zoom(zoom) {}
 
 void SmoothZoom::zoom(int steps) {
   constexpr int StartDelay = 1000;
@@ -35,9 +34,9 @@ void SmoothZoom::zoom(int steps) {
   connect(line, &QTimeLine::valueChanged, this, &SmoothZoom::step);
   connect(line, &QTimeLine::finished, this, [this, line] { finish(line); });
   if (m_running.empty())
-    m_plot.zoomer()->beginMove();
+    m_zoom.beginMove();
   m_running.push_back({line, steps});
-  m_plot.update().requestPixtest(StartDelay, false);
+  emit refreshRequested(StartDelay, false);
   line->start();
 }
 
@@ -54,12 +53,11 @@ void SmoothZoom::step() {
   constexpr double StepsToDouble = 50.0;
   constexpr double Smallest = 0.1; // however fast the wheel is turned back
   const double factor = std::max(Smallest, m_pending / StepsToDouble + 1.0);
-  PlotZoom &zoomer = *m_plot.zoomer();
-  const QPointF anchor = m_anchor.value_or(zoomer.cursor());
+  const QPointF anchor = m_anchor.value_or(m_zoom.cursor());
   if (factor > 1.0)
-    zoomer.zoomIn(anchor, factor);
+    m_zoom.zoomIn(anchor, factor);
   else if (factor < 1.0)
-    zoomer.zoomOut(anchor, 1.0 / factor);
+    m_zoom.zoomOut(anchor, 1.0 / factor);
 }
 
 void SmoothZoom::finish(QTimeLine *line) {
@@ -73,6 +71,6 @@ void SmoothZoom::finish(QTimeLine *line) {
   if (!m_running.empty())
     return;
   m_pending = 0;
-  m_plot.zoomer()->endMove();
-  m_plot.update().requestPixtest(number("smooth zoom pixtest delay", 0), true);
+  m_zoom.endMove();
+  emit refreshRequested(number("smooth zoom pixtest delay", 0), true);
 }

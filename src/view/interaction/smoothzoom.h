@@ -7,20 +7,23 @@
 #include <deque>
 #include <optional>
 
-class NetPlot;
+class PlotZoom;
 
 /// Zooms a plot in many small steps instead of one. Wheel steps that come while it runs add to it; steps the other way
 /// stop what runs.
 class SmoothZoom : public QObject {
   Q_OBJECT
 public:
-  explicit SmoothZoom(NetPlot &plot);
+  explicit SmoothZoom(PlotZoom &zoom);
 
   /// \param steps of the wheel, positive to zoom in
   void zoom(int steps);
   /// The point in plot coordinates about which to zoom; without one it is the cursor, wherever it is at each small step.
   void setAnchor(std::optional<QPointF> anchor) { m_anchor = anchor; }
   bool isRunning() const { return !m_running.empty(); }
+
+signals:
+  void refreshRequested(int delay, bool quick); ///< after so many milliseconds; quick: at once what is quickly done
 
 private:
   struct Animation {
@@ -32,7 +35,7 @@ private:
   void step();
   void finish(QTimeLine *line);
 
-  NetPlot &m_plot;
+  PlotZoom &m_zoom;
   int m_pending = 0; ///< wheel steps of all animations that run
   std::deque<Animation> m_running;
   std::optional<QPointF> m_anchor;

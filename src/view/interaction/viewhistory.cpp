@@ -1,4 +1,4 @@
-#include <view/viewhistory.h>
+#include "interaction/viewhistory.h"
 
 #include <cmath>
 

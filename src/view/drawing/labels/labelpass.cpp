@@ -1,3 +1,5 @@
+#include "labels/labelpass.h"
+
 #include <base/closeddocument.h>
 
 #include <QFontMetricsF>
@@ -5,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <drawing/edgelayer.h>
-#include <drawing/labelpass.h>
 #include <drawing/nodelayer.h>
 #include <drawing/subnetlayer.h>
 #include <drawing/symbollayer.h>

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <view/netupdate.h>
-
 #include <QWidget>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_marker.h>
 #include <qwt_plot_textlabel.h>
 
+#include <drawing/netupdate.h>
 #include <drawing/plotsettings.h>
 #include <drawing/selectionlayer.h>
 #include <memory>
@@ -51,6 +50,10 @@ public:
   /// What the window shows, and what it is to show, in the network's own coordinates.
   QRectF visibleArea() const;
   void showArea(const QRectF &area);
+  /// What the legend covers of the canvas, px; empty when it is hidden.
+  QRectF legendArea() const;
+  /// A plot of its own for one subnet places labels without waiting.
+  void setShowsSubnet(bool shows) { m_showsSubnet = shows; }
   bool hasStragglers() const { return m_stragglers > 0; }
   /// Fits the window to everything, however far it lies.
   void showStragglers();
@@ -58,10 +61,6 @@ public:
   bool isZooming() const;
   /// Brings the element into the middle, as large as the general setting "zoom to element: factor" allows.
   void zoomToElement(NetGeometry::Item item);
-  void placeLegend();
-  /// What the legend covers of the canvas, px; empty when it is hidden.
-  QRectF legendArea() const;
-  void showAxes();
 
 signals:
   void drawConfigurationRequested();             ///< the colour scale was double-clicked
@@ -72,6 +71,10 @@ protected:
 
 private:
   void showHint();
+  void setUpUpdate();
+  NetUpdate::View view() const;
+  void placeLegend();
+  void showAxes();
   void setUpZoom();
   void zoomByWheel(int steps, QPointF anchor);
   void refresh(int delay);
@@ -91,6 +94,8 @@ private:
   bool m_mouseMoved = false; ///< since the last button press
   QwtPlotGrid m_grid;
   QwtPlotMarker m_legend;
+  QSizeF m_legendSize;     ///< px
   QwtPlotTextLabel m_hint; ///< why there is nothing to see, or what lies outside
-  int m_stragglers = 0;    ///< nodes far outside of the zoom base
+  bool m_showsSubnet = false;
+  int m_stragglers = 0; ///< nodes far outside of the zoom base
 };

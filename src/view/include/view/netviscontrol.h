@@ -10,6 +10,7 @@
 
 class NetData;
 class PlotMenu;
+class QMenu;
 
 /// Brings a network and its plot together.
 class NetVisControl : public QObject {
@@ -32,6 +33,17 @@ public:
   /// Draws the network with the settings of the file or, where there is none, with settings that suit the network. Beside
   /// the file may stand the label table "vfd.csv" and the folder "symbols" with symbols of the user's own.
   void showNetData(const QString &plotSettingsPath);
+  /// Draws values that have changed; elements, places and labels stay as they are.
+  void redraw();
+  /// Layers whose elements are not drawn, by the values of the property; shown with the next redrawLayers().
+  void setHiddenLayers(const QString &property, const QSet<QString> &layers);
+  const QSet<QString> &hiddenLayers() const;
+  /// Draws other layers than before, with the labels that belong to them.
+  void redrawLayers();
+  /// Places labels at once, whatever the settings say.
+  void relabelNow();
+  /// What labels say; null without a network. Valid until something is drawn anew.
+  const LabelContents *labelContents() const;
   /// Brings an element into the middle of the view; false when it is not drawn.
   bool showElement(const QString &name);
   /// Selects the elements that the last search marked. \param topoClosure with end nodes and the edges between nodes
@@ -55,9 +67,7 @@ signals:
   void subnetWanted(const QString &name); ///< in a window of its own
 
 private:
-  friend class PlotMenu;
-  /// Whether anybody listens to the signal; entries that would do nothing are greyed.
-  bool isWanted(const QMetaMethod &signal) const { return isSignalConnected(signal); }
+  void fillMenu(QMenu &contextMenu);
 
   NetData &m_net;
   QString m_name;

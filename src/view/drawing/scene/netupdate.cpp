@@ -1,8 +1,7 @@
+#include "labels/labelpass.h"
+
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
-#include <view/netplot.h>
-#include <view/netupdate.h>
-#include <view/qwtfastplot.h>
 
 #include <QElapsedTimer>
 
@@ -10,7 +9,7 @@
 #include <cmath>
 #include <drawing/colorscale.h>
 #include <drawing/elementlooks.h>
-#include <drawing/labelpass.h>
+#include <drawing/netupdate.h>
 #include <future>
 #include <utility>
 
@@ -27,22 +26,23 @@ bool isSwitchedOn(const char *setting) {
 
 } // namespace
 
-NetUpdate::NetUpdate(NetPlot &plot, const PlotSettings &settings)
-    : m_plot(plot)
-    , m_settings(settings)
+NetUpdate::NetUpdate(const PlotSettings &settings, std::function<View()> view)
+    : m_settings(settings)
+    , m_view(std::move(view))
     , m_pixtest([this](Pixtest::Labels labels) { runPixtest(labels); },
                 [this] {
-                  const QRectF seen = m_plot.plot()->visibleRect();
-                  return Pixtest::View{
-                      std::max(seen.height() / m_settings.largestZoomHeight, seen.width() / m_settings.largestZoomWidth),
-                      m_plot.window()->windowTitle().startsWith(QStringLiteral("Subassembly "))};
+                  const View seen = m_view();
+                  return Pixtest::View{std::max(seen.visible.height() / m_settings.largestZoomHeight,
+                                                seen.visible.width() / m_settings.largestZoomWidth),
+                                       seen.isOfSubnet};
                 }) {
-  for (QwtPlotItem *layer :
-       std::initializer_list<QwtPlotItem *>{&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels})
-    layer->attach(plot.plot());
   m_symbols.setSubnets(&m_subnets);
   m_subnets.setFilter(&m_layers, &m_visibility);
   m_textBoxes.setFilter(&m_layers, &m_visibility);
+}
+
+std::vector<QwtPlotItem *> NetUpdate::items() {
+  return {&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels};
 }
 
 void NetUpdate::setNetData(const NetData *net) {
@@ -96,11 +96,10 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
   if (rebuild && m_geometry.unplaced() > 0)
     NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
   m_layers.read(m_geometry);
-  ColorScale::show(*m_plot.plot(), m_settings, m_values, coloured(), looks().swatches());
-  m_plot.showAxes();
+  emit scalesChanged();
   if (std::exchange(m_isNew, false) || plotUnits != m_geometry.plotUnits())
-    m_plot.fitNetwork(); // before anything is judged by what the view shows
-  m_plot.placeLegend();
+    emit extentChanged(); // before anything is judged by what the view shows
+  emit legendChanged();
 
   const bool isSearch = m_displayMode == DisplayMode::SearchResults;
   std::future<void> nodes; // beside the edges
@@ -129,7 +128,7 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     placeLabels(); // those that stand say something else now; nobody may have to wait for that
   else if (relabel)
     clearLabels();
-  m_plot.plot()->replot();
+  emit changed();
   NivraMsg::debug(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
 }
 
@@ -197,12 +196,7 @@ void NetUpdate::showWhatIsVisible() {
 }
 
 double NetUpdate::seenHeight() const {
-  return m_plot.plot()->visibleRect().height() / m_geometry.plotUnits();
-}
-
-Projection NetUpdate::projection() const {
-  const QwtFastPlot &plot = *m_plot.plot();
-  return {plot.canvasMap(QwtPlot::xBottom), plot.canvasMap(QwtPlot::yLeft), plot.canvas()->contentsRect()};
+  return m_view().visible.height() / m_geometry.plotUnits();
 }
 
 std::vector<SymbolLayer::Placed> NetUpdate::determineVisibleSymbols() const {
@@ -219,7 +213,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
   constexpr double SameScale = 0.01;
   QElapsedTimer timer;
   timer.start();
-  const double units = m_plot.plot()->unitsPerPixel().height();
+  const double units = m_view().unitsPerPixel.height();
   bool hasChanged = m_visibility.setExtent(seenHeight());
   if (hasChanged)
     showWhatIsVisible();
@@ -233,7 +227,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
     hasChanged = true;
   }
   if (hasChanged)
-    m_plot.plot()->replot();
+    emit changed();
   NivraMsg::debug((labels == Pixtest::Labels::With ? QStringLiteral("Pixtest (incl. last update_subnets): %1 sec.")
                                                    : QStringLiteral("Pixtest_noLabels (incl. last update_subnets): %1 sec."))
                       .arg(seconds(timer)));
@@ -248,14 +242,14 @@ void NetUpdate::placeLabels() {
     m_labels.clear();
     return;
   }
-  const Projection view = projection();
-  if (!view.isValid())
+  const View view = m_view();
+  if (!view.projection.isValid())
     return;
-  const double units = m_plot.plot()->unitsPerPixel().height();
+  const double units = view.unitsPerPixel.height();
   const LabelPass::Drawing drawing{m_geometry,  m_edges,      m_nodes,  m_symbols,          m_subnets,
                                    m_textBoxes, m_visibility, m_layers, m_values.flowSize()};
-  LabelPass pass(drawing, contents, view, m_settings.labelMargin);
-  pass.addObstacle(m_plot.legendArea());
+  LabelPass pass(drawing, contents, view.projection, m_settings.labelMargin);
+  pass.addObstacle(view.legend);
   const bool isSameScale = std::abs(units - m_labels.unitsPerPixel()) <= SameScale * units;
   LabelPass::Result result = pass.run(isSameScale ? m_labels.labels() : std::vector<Label>());
   m_labels.setLabels(std::move(result.labels), units);
@@ -269,17 +263,9 @@ void NetUpdate::clearLabels() {
 }
 
 void NetUpdate::relabelNow() {
-  const QString key = QStringLiteral("perform label placement");
-  GeneralSettings &general = GeneralSettings::instance();
-  const bool wasSuspended = m_pixtest.isSuspended();
-  const QString before = general.value(key);
-  m_pixtest.setSuspended(false);
-  general.setValue(key, QStringLiteral("always"));
   clearLabels();
   updatePlot(true, Which::EdgesAndNodes, true);
-  placeLabelsNow();
-  general.setValue(key, before);
-  m_pixtest.setSuspended(wasSuspended);
+  placeLabelsNow(); // asks neither the settings nor whether passes are suspended
   requestPixtest(-1);
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <model/netdata.h>
-#include <view/pixtest.h>
 
+#include <QObject>
+
+#include <drawing/colorscale.h>
 #include <drawing/drawvalues.h>
 #include <drawing/edgelayer.h>
 #include <drawing/elementlooks.h>
@@ -12,23 +14,37 @@
 #include <drawing/layerfilter.h>
 #include <drawing/netgeometry.h>
 #include <drawing/nodelayer.h>
+#include <drawing/pixtest.h>
 #include <drawing/plotsettings.h>
 #include <drawing/subnetlayer.h>
 #include <drawing/symbollayer.h>
 #include <drawing/textboxlayer.h>
 #include <drawing/visibilityrules.h>
-
-class NetPlot;
+#include <functional>
 
 /// Turns the network and the plot settings into what the plot shows.
-class NetUpdate {
+class NetUpdate : public QObject {
+  Q_OBJECT
 public:
   enum class Which { EdgesAndNodes = 1, Edges = 2, Nodes = 3 };
   /// How elements are coloured: edges by their function and nodes plainly, both by their functions, or what the search
   /// found in front of the rest.
   enum class DisplayMode { Edges = 0, Functions = 1, SearchResults = 2 };
 
-  NetUpdate(NetPlot &plot, const PlotSettings &settings);
+  /// What the plot shows now.
+  struct View {
+    QRectF visible;       ///< in plot coordinates
+    QSizeF unitsPerPixel; ///< horizontally and vertically
+    Projection projection;
+    QRectF legend;           ///< what it covers of the canvas, px; no labels are placed there
+    bool isOfSubnet = false; ///< a plot of its own for one subnet
+  };
+
+  /// \param view asked whenever something depends on it
+  NetUpdate(const PlotSettings &settings, std::function<View()> view);
+
+  /// What is to be painted, from the bottom to the top.
+  std::vector<QwtPlotItem *> items();
 
   /// The network to show, null for none. It must outlive the drawing or be taken away before; what was drawn of another
   /// network is forgotten. Shown with the next updatePlot() that rebuilds.
@@ -54,11 +70,14 @@ public:
   void updatePlot(bool rebuild, Which which, bool relabel);
   /// What the legend says of the functions as they are drawn.
   QString legendText() const;
+  /// What is in colour now, and the colours that stand for no value.
+  ColorScale::Subject coloured() const;
+  std::vector<ColorScale::Swatch> swatches() const { return looks().swatches(); }
 
   /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
   /// they are negative.
   void requestPixtest(int delay, bool quick = true) { m_pixtest.requestPixtest(delay, quick); }
-  Pixtest &pixtest() { return m_pixtest; }
+  const Pixtest &pixtest() const { return m_pixtest; }
   /// Places labels for the view as it is; stored ones stay where they are.
   void placeLabelsNow() { runPixtest(Pixtest::Labels::With); }
   void clearLabels();
@@ -78,13 +97,19 @@ public:
   std::vector<Hit> elementsAt(const QPointF &point, double tolerance) const;
   /// What lies wholly in the rectangle, in plot coordinates.
   std::vector<NetGeometry::Item> elementsIn(const QRectF &area) const;
-  Projection projection() const;
+  Projection projection() const { return m_view().projection; }
+
+signals:
+  // In this order while the plot is updated; who shows it has to be done when the signal returns.
+  void scalesChanged(); ///< of colours
+  void extentChanged(); ///< of another network, or its coordinates count in other units
+  void legendChanged();
+  void changed(); ///< something is to be painted anew
 
 private:
   void runPixtest(Pixtest::Labels labels);
   void placeLabels();
   ElementLooks looks() const;
-  ColorScale::Subject coloured() const;
   /// The size that the label table gives a type, px.
   double sizeOf(const QString &type, double otherwise) const;
   void showWhatIsVisible();
@@ -92,8 +117,8 @@ private:
   /// The height of the view in the network's own coordinates, in which thresholds are given.
   double seenHeight() const;
 
-  NetPlot &m_plot;
   const PlotSettings &m_settings;
+  std::function<View()> m_view;
   const NetData *m_net = nullptr;
   bool m_isNew = false; ///< nothing of the network was drawn yet
   NetGeometry m_geometry;

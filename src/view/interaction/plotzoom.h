@@ -1,6 +1,6 @@
 #pragma once
 
-#include <view/viewhistory.h>
+#include "interaction/viewhistory.h"
 
 #include <QStack>
 #include <QTimer>

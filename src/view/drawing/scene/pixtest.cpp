@@ -1,9 +1,9 @@
 #include <base/generalsettings.h>
-#include <view/pixtest.h>
 
 #include <QTime>
 
 #include <algorithm>
+#include <drawing/pixtest.h>
 
 namespace {
 
