@@ -3,6 +3,7 @@
 #include "aboutbox.h"
 #include "lastscenario.h"
 #include "loadprogress.h"
+#include "logo.h"
 #include "outcomestyle.h"
 #include "subnetwindow.h"
 #include "tooldocks.h"
@@ -10,7 +11,6 @@
 
 #include <base/fileaccess.h>
 #include <base/generalsettings.h>
-#include <base/logo.h>
 #include <base/nivramsg.h>
 #include <tools/categorylist.h>
 #include <tools/nivrasearch.h>
@@ -151,7 +151,7 @@ void NivraViewer::openWorkspace(const QString &path) {
   if (!loader.resolve(path)) {
     m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::Failed));
     m_ui->statusbar->showMessage(tr("Invalid Workspace"));
-    if (NivraMsg::isInteractive()) // else the log has said it already
+    if (NivraMsg::showsBoxes()) // else the log has said it already
       NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
     return;
   }

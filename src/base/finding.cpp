@@ -52,7 +52,6 @@ void append(Findings &findings, Findings more) {
 }
 
 void report(const Findings &findings) {
-  const bool interactive = NivraMsg::isInteractive();
   const Finding *shown = nullptr;
   int further = 0;
   for (const Finding &finding : findings) {
@@ -66,7 +65,7 @@ void report(const Findings &findings) {
     else
       shown = &finding;
   }
-  if (!interactive || !shown)
+  if (!shown || !NivraMsg::showsBoxes())
     return;
   QString text = shown->box;
   if (further > 0)

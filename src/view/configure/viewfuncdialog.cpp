@@ -10,7 +10,6 @@
 #include <QColorDialog>
 #include <QElapsedTimer>
 #include <QFileDialog>
-#include <QMessageBox>
 
 #include <drawing/colormap.h>
 #include <drawing/drawfunctions.h>
@@ -280,7 +279,7 @@ bool viewFuncDialog::takeBounds(const FunctionRow &row, FunctionRow::Values &val
       tr("You specified an invalid range (min>max or difference too tiny)!") +
       (state == DrawRange::State::Inverted ? tr("\nProceed with a default/corrected scala? (No-answer will skip action)?")
                                            : tr("\nProceed with a default tiny scala? (No-answer will skip action)?"));
-  if (NivraMsg::message(NivraMsg::Kind::Question, question) != QMessageBox::Yes)
+  if (NivraMsg::message(NivraMsg::Kind::Question, question) != NivraMsg::Answer::Yes)
     return false;
   DrawRange::correct(values.minimum, values.maximum);
   return true;
