@@ -10,8 +10,8 @@
 #include "ui_nivraviewer.h"
 
 #include <base/fileaccess.h>
-#include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 #include <tools/categorylist.h>
 #include <tools/nivrasearch.h>
 #include <view/netplot.h>
@@ -69,7 +69,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   connect(m_tools, &ToolDocks::propertyChanged, this, &NivraViewer::computeAgain);
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
   setAcceptDrops(true);
-  GeneralSettings::instance().load();
+  GeneralSettings::instance().load(QString(), logFinding);
   m_control->clear();
 }
 
@@ -159,8 +159,8 @@ void NivraViewer::openWorkspace(const QString &path) {
   if (centralWidget() != m_control->plot())
     setCentralWidget(m_control->plot());
   QCoreApplication::processEvents();
-  GeneralSettings::instance().load(m_loader.workspace().root());
-  if (GeneralSettings::instance().isOn(QStringLiteral("start with last scenario")))
+  GeneralSettings::instance().load(m_loader.workspace().root(), logFinding);
+  if (Settings::StartWithLastScenario.value())
     takeLastScenario();
   m_control->clear();
   m_loader.readConfiguration();
@@ -218,7 +218,7 @@ bool NivraViewer::readWorkspace() {
   LoadProgress progress(m_ui->statusbar);
   m_progress = &progress;
   NetworkLoader::ReadOptions options;
-  if (GeneralSettings::instance().isOn(QStringLiteral("ask for include lists")))
+  if (Settings::AskForIncludeLists.value())
     askForIncludeLists(options);
   options.progress = [&progress](double fraction) {
     return progress.update(fraction);

@@ -2,8 +2,8 @@
 #include "scenariofields.h"
 
 #include <base/fileaccess.h>
-#include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 #include <io/nivraworkspace.h>
 
 #include <QDir>
@@ -14,14 +14,8 @@
 
 namespace {
 
-bool mismatchesAreShown() {
-  return GeneralSettings::instance()
-             .value(QStringLiteral("PELKA mode"))
-             .compare(QStringLiteral("off"), Qt::CaseInsensitive) == 0;
-}
-
 Finding mismatch(Finding::Severity severity, const QString &file, const QString &text) {
-  return {severity, file, 0, text, mismatchesAreShown() ? text : QString()};
+  return {severity, file, 0, text, Settings::PelkaMode.value() ? QString() : text};
 }
 
 /// The lines of a text configuration.
