@@ -1,8 +1,7 @@
 #include "aboutbox.h"
 
 #include "buildinfo.h"
-
-#include <base/logo.h>
+#include "logo.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -197,14 +197,14 @@ bool applyFunctions(const CommandLine &line, NetVisControl &control, QString &re
 
 int Batch::run(const CommandLine &line) {
   const NivraMsg::Recorder recorder;
-  GeneralSettings::instance().load();
+  GeneralSettings::instance().load(QString(), logFinding);
   NetData net;
   NetVisControl control(net, QString());
   NetworkLoader loader(net);
   StageTimes times;
   if (!loader.resolve(line.file))
     return failed(loader.error());
-  GeneralSettings::instance().load(loader.workspace().root());
+  GeneralSettings::instance().load(loader.workspace().root(), logFinding);
   loader.readConfiguration();
   times.end(QStringLiteral("configuration"));
   if (!loader.readNetwork({}))

@@ -1,6 +1,6 @@
 #include "helpwindow.h"
 
-#include <base/logo.h>
+#include "logo.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>

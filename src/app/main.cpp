@@ -1,12 +1,15 @@
 #include "batch.h"
 #include "commandline.h"
+#include "messagebox.h"
 #include "nivraviewer.h"
 
 #include <base/crashguard.h>
 #include <base/nivramsg.h>
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QTimer>
+#include <QUrl>
 
 #include <cstdio>
 #include <new>
@@ -41,7 +44,9 @@ int runWindow(int argc, char **argv, const CommandLine &line) {
   QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   const QApplication application(argc, argv);
-  CrashGuard::setUp(LogFiles::Run::Window);
+  NivraMsg::setBoxSink(MessageBox::show);
+  CrashGuard::setUp(LogFiles::Run::Window,
+                    [](const QString &path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
   NivraViewer viewer;
   if (!line.style.isEmpty())
     QApplication::setStyle(line.style);

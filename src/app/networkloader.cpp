@@ -2,6 +2,7 @@
 
 #include <base/fileaccess.h>
 #include <base/nivramsg.h>
+#include <model/netmetadata.h>
 #include <model/units.h>
 #include <subassembly/subassembler.h>
 
@@ -13,6 +14,7 @@
 #include <iterator>
 #include <machines/machinereader.h>
 #include <machines/networkmachines.h>
+#include <mutex>
 
 namespace {
 
@@ -28,6 +30,25 @@ QString firstCritical(const Findings &findings) {
       return finding.logText();
   }
   return QString();
+}
+
+/// The vocabulary is read once for all networks.
+void tellOfVocabulary() {
+  static std::once_flag isTold;
+  std::call_once(isTold, [] { report(NetMetaData::instance().findings()); });
+}
+
+/// What the check found, in a box and as one text in the log.
+void warnOf(const Findings &findings) {
+  QString text;
+  for (const Finding &finding : findings)
+    text += finding.text + QLatin1Char('\n');
+  if (!text.isEmpty()) {
+    NivraMsg::message(NivraMsg::Kind::Warning, QStringLiteral("Check with findings! See log! Beginning:\n") +
+                                                   text.section(QStringLiteral("..."), 0, 200));
+    NivraMsg::log(text.replace(QLatin1Char('\n'), QStringLiteral("<br/>")));
+  }
+  NivraMsg::debug(QStringLiteral("after checkNetData"));
 }
 
 /// The formula and constraint files of a folder, by name. What is no file but named as one is told when it is opened.
@@ -48,14 +69,13 @@ std::vector<FormulaDefinition> definitionsIn(const QString &directory, const QSt
 bool NetworkLoader::resolve(const QString &path) {
   m_seconds.clear();
   m_cancelled = false;
-  const NivraMsg::Recorder recorder;
   m_workspace = NivraWorkspace::fromFile(path);
+  report(m_workspace.findings());
   if (m_workspace.isValid()) {
     FileAccess::confineTo(m_workspace.root()); // before anything in it is opened
     return true;
   }
-  const QString reasons = recorder.lines().join(QStringLiteral("; "));
-  m_error = tr("%1 is no usable workspace: %2").arg(path, reasons);
+  m_error = tr("%1 is no usable workspace: %2").arg(path, firstCritical(m_workspace.findings()));
   return false;
 }
 
@@ -76,6 +96,7 @@ void NetworkLoader::readConfiguration() {
 }
 
 bool NetworkLoader::readNetwork(const ReadOptions &options) {
+  tellOfVocabulary();
   QElapsedTimer timer;
   timer.start();
   const auto note = [&](const QString &stage) {
@@ -84,7 +105,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   m_noticed.clear();
   m_machines = MachineData();
   m_formulas.setDefinitions({}); // which speak of the network before
-  NivraReader reader(m_net);
+  NivraReader reader(m_net, logFinding);
   NivraReader::Options readerOptions;
   readerOptions.includeTypes = options.includeTypes;
   readerOptions.includeProperties = options.includeProperties;
@@ -108,7 +129,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
 bool NetworkLoader::readFiles(NivraReader &reader, const NivraReader::Options &options) {
   const NivraReader::Result result = reader.readTopoAndScen(m_workspace, options);
   if (!result.configuration.isEmpty())
-    m_workspace.takeConfiguration(result.configuration, m_gasParams, result.configurationFile);
+    report(m_workspace.takeConfiguration(result.configuration, m_gasParams, result.configurationFile));
   m_gases = reader.gases();
   m_files = {reader.networkPath(m_workspace.geometryPath()), reader.gasFile()};
   report(result.findings);
@@ -121,9 +142,9 @@ bool NetworkLoader::readFiles(NivraReader &reader, const NivraReader::Options &o
 }
 
 void NetworkLoader::check() {
-  Findings findings;
-  ConsistencyCheck::checkNetData(m_net, &findings);
-  m_removed = ConsistencyCheck::prune(m_net);
+  Findings findings = ConsistencyCheck::checkNetData(m_net);
+  warnOf(findings);
+  m_removed = ConsistencyCheck::prune(m_net, logFinding);
   append(findings, m_removed.findings);
   notice(tr("Checking"), std::move(findings));
 }

@@ -29,7 +29,7 @@ public:
       : m_net(net)
       , m_formulas(net) {}
 
-  /// False when the path yields no usable workspace; the reasons are logged and kept for error().
+  /// False when the path yields no usable workspace; the reason is logged and kept for error().
   bool resolve(const QString &path);
   /// Makes the workspace that another loader resolved the current one.
   void takeWorkspace(const NetworkLoader &other);

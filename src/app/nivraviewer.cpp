@@ -3,15 +3,15 @@
 #include "aboutbox.h"
 #include "lastscenario.h"
 #include "loadprogress.h"
+#include "logo.h"
 #include "outcomestyle.h"
 #include "subnetwindow.h"
 #include "tooldocks.h"
 #include "ui_nivraviewer.h"
 
 #include <base/fileaccess.h>
-#include <base/generalsettings.h>
-#include <base/logo.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 #include <tools/categorylist.h>
 #include <tools/nivrasearch.h>
 #include <view/netplot.h>
@@ -69,7 +69,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   connect(m_tools, &ToolDocks::propertyChanged, this, &NivraViewer::computeAgain);
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
   setAcceptDrops(true);
-  GeneralSettings::instance().load();
+  GeneralSettings::instance().load(QString(), logFinding);
   m_control->clear();
 }
 
@@ -151,7 +151,7 @@ void NivraViewer::openWorkspace(const QString &path) {
   if (!loader.resolve(path)) {
     m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::Failed));
     m_ui->statusbar->showMessage(tr("Invalid Workspace"));
-    if (NivraMsg::isInteractive()) // else the log has said it already
+    if (NivraMsg::showsBoxes()) // else the log has said it already
       NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
     return;
   }
@@ -159,8 +159,8 @@ void NivraViewer::openWorkspace(const QString &path) {
   if (centralWidget() != m_control->plot())
     setCentralWidget(m_control->plot());
   QCoreApplication::processEvents();
-  GeneralSettings::instance().load(m_loader.workspace().root());
-  if (GeneralSettings::instance().isOn(QStringLiteral("start with last scenario")))
+  GeneralSettings::instance().load(m_loader.workspace().root(), logFinding);
+  if (Settings::StartWithLastScenario.value())
     takeLastScenario();
   m_control->clear();
   m_loader.readConfiguration();
@@ -218,7 +218,7 @@ bool NivraViewer::readWorkspace() {
   LoadProgress progress(m_ui->statusbar);
   m_progress = &progress;
   NetworkLoader::ReadOptions options;
-  if (GeneralSettings::instance().isOn(QStringLiteral("ask for include lists")))
+  if (Settings::AskForIncludeLists.value())
     askForIncludeLists(options);
   options.progress = [&progress](double fraction) {
     return progress.update(fraction);

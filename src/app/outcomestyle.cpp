@@ -1,7 +1,7 @@
 #include "outcomestyle.h"
 
-#include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -9,18 +9,18 @@
 
 namespace {
 
-QString key(OutcomeStyle::Outcome outcome) {
+const Setting<QString> &setting(OutcomeStyle::Outcome outcome) {
   switch (outcome) {
   case OutcomeStyle::Outcome::Failed:
-    return QStringLiteral("status bar style sheet failed");
+    return Settings::StatusBarFailed;
   case OutcomeStyle::Outcome::Stopped:
-    return QStringLiteral("status bar style sheet stopped");
+    return Settings::StatusBarStopped;
   case OutcomeStyle::Outcome::Acceptable:
-    return QStringLiteral("status bar style sheet acceptable");
+    return Settings::StatusBarAcceptable;
   case OutcomeStyle::Outcome::Successful:
-    return QStringLiteral("status bar style sheet successful");
+    break;
   }
-  return QString();
+  return Settings::StatusBarSuccessful;
 }
 
 /// A name that colours letters or their background, and words, numbers and colours as its value.
@@ -36,13 +36,13 @@ bool isHarmless(const QString &declaration) {
 
 QString OutcomeStyle::sheet(Outcome outcome) {
   QStringList taken{QStringLiteral("color: black")}; // the usual backgrounds are light, whatever the desktop's colours
-  for (const QString &declaration : GeneralSettings::instance().value(key(outcome)).split(QLatin1Char(';'))) {
+  for (const QString &declaration : setting(outcome).value().split(QLatin1Char(';'))) {
     if (isHarmless(declaration))
       taken.append(declaration.trimmed());
     else if (!declaration.trimmed().isEmpty())
       NivraMsg::logWarning(
           QCoreApplication::translate("OutcomeStyle", "\"%1\" of the setting \"%2\" is left out: it is no colour or weight.")
-              .arg(declaration.trimmed(), key(outcome)));
+              .arg(declaration.trimmed(), setting(outcome).key()));
   }
   if (taken.size() == 1)
     return QString();

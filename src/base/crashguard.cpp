@@ -1,14 +1,10 @@
-#include "callstack.h"
-
 #include <base/crashguard.h>
 #include <base/logfiles.h>
 #include <base/nivramsg.h>
+#include <callstack/callstack.h>
 
-#include <QApplication>
-#include <QDesktopServices>
+#include <QCoreApplication>
 #include <QFile>
-#include <QMessageBox>
-#include <QUrl>
 
 #include <csignal>
 #include <cstdlib>
@@ -17,11 +13,6 @@
 #include <fcntl.h>
 #include <typeinfo>
 #include <unistd.h>
-
-// A static library's resources register only when something asks for them; outside a namespace, as the macro wants.
-static void initResources() {
-  Q_INIT_RESOURCE(base);
-}
 
 namespace {
 
@@ -86,26 +77,23 @@ extern "C" void signalHandler(int number) {
   std::abort();
 }
 
-void showNotice() {
+void showNotice(const CrashGuard::Viewer &viewer) {
   const QString text = QCoreApplication::translate("CrashGuard", "It seems that the application crashed last time. Please "
                                                                  "report the logfile to the developers:\n") +
                        LogFiles::crashLog();
-  if (!NivraMsg::isInteractive()) {
-    NivraMsg::log(text);
-    return;
-  }
-  QMessageBox::information(nullptr, QCoreApplication::translate("CrashGuard", "Crash detected"), text, QMessageBox::Ok);
-  QDesktopServices::openUrl(QUrl::fromLocalFile(LogFiles::crashLog()));
+  const bool isShown = NivraMsg::showsBoxes();
+  NivraMsg::show({NivraMsg::Kind::Information, text, QCoreApplication::translate("CrashGuard", "Crash detected")});
+  if (isShown && viewer)
+    viewer(LogFiles::crashLog());
 }
 
 } // namespace
 
-void CrashGuard::setUp(LogFiles::Run run) {
-  initResources();
+void CrashGuard::setUp(LogFiles::Run run, const Viewer &viewer) {
   qputenv("NIVRAHOME", QCoreApplication::applicationDirPath().toUtf8());
   const bool isWindow = run == LogFiles::Run::Window;
   if (isWindow && LogFiles::takeCrash())
-    showNotice();
+    showNotice(viewer);
   if (!LogFiles::redirectStreams(run))
     NivraMsg::logWarning(
         QCoreApplication::translate("CrashGuard", "The log file %1 cannot be written; messages go to standard error.")

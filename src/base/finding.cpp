@@ -7,20 +7,6 @@
 
 namespace {
 
-void logFinding(Finding::Severity severity, const QString &text) {
-  switch (severity) {
-  case Finding::Severity::Information:
-    NivraMsg::log(text);
-    break;
-  case Finding::Severity::Warning:
-    NivraMsg::logWarning(text);
-    break;
-  case Finding::Severity::Critical:
-    NivraMsg::logCritical(text);
-    break;
-  }
-}
-
 NivraMsg::Kind boxKind(const Finding &finding) {
   if (finding.isForInformation)
     return NivraMsg::Kind::Information;
@@ -51,14 +37,33 @@ void append(Findings &findings, Findings more) {
   std::move(more.begin(), more.end(), std::back_inserter(findings));
 }
 
+void tell(const Told &told, Finding::Severity severity, const QString &text) {
+  if (told)
+    told({severity, QString(), 0, text, QString()});
+}
+
+void logFinding(const Finding &finding) {
+  const QString text = finding.logText();
+  if (text.isEmpty())
+    return;
+  switch (finding.severity) {
+  case Finding::Severity::Information:
+    NivraMsg::log(text);
+    break;
+  case Finding::Severity::Warning:
+    NivraMsg::logWarning(text);
+    break;
+  case Finding::Severity::Critical:
+    NivraMsg::logCritical(text);
+    break;
+  }
+}
+
 void report(const Findings &findings) {
-  const bool interactive = NivraMsg::isInteractive();
   const Finding *shown = nullptr;
   int further = 0;
   for (const Finding &finding : findings) {
-    const QString line = finding.logText();
-    if (!line.isEmpty())
-      logFinding(finding.severity, line);
+    logFinding(finding);
     if (finding.box.isEmpty())
       continue;
     if (shown)
@@ -66,7 +71,7 @@ void report(const Findings &findings) {
     else
       shown = &finding;
   }
-  if (!interactive || !shown)
+  if (!shown || !NivraMsg::showsBoxes())
     return;
   QString text = shown->box;
   if (further > 0)

@@ -1,7 +1,6 @@
-#include "generalsettingstable.h"
-
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/settingstable.h>
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -48,11 +47,10 @@ GeneralSettings::GeneralSettings() {
 
 void GeneralSettings::reset() {
   m_entries.clear();
-  const auto [first, last] = GeneralSettingsTable::rows();
-  for (const auto *row = first; row != last; ++row)
-    m_entries[QString::fromLatin1(row->key)] = {QString::fromLatin1(row->value), QString::fromLatin1(row->type),
-                                                QString::fromLatin1(row->category), QString::fromLatin1(row->options),
-                                                QString()};
+  for (const SettingsTable::Row &row : SettingsTable::Rows)
+    m_entries[QString::fromLatin1(row.key)] = {QString::fromLatin1(row.value), QString::fromLatin1(row.type),
+                                               QString::fromLatin1(row.category), QString::fromLatin1(row.options),
+                                               QString()};
 }
 
 QString GeneralSettings::value(const QString &key) const {
@@ -88,22 +86,25 @@ QString GeneralSettings::settingsFile(const QString &workspaceDir) {
   return workspaceDir + QStringLiteral("/generalsettings_") + userName() + QStringLiteral(".csv");
 }
 
-int GeneralSettings::load(const QString &workspaceDir) {
+int GeneralSettings::load(const QString &workspaceDir, const Told &told) {
   return loadFile(settingsFile(workspaceDir),
-                  workspaceDir.isEmpty() ? FileAccess::Source::Trusted : FileAccess::Source::Workspace);
+                  workspaceDir.isEmpty() ? FileAccess::Source::Trusted : FileAccess::Source::Workspace, told);
 }
 
-int GeneralSettings::loadFile(const QString &path, FileAccess::Source source) {
+int GeneralSettings::loadFile(const QString &path, FileAccess::Source source, const Told &told) {
+  const auto log = [&told](const QString &text) {
+    tell(told, Finding::Severity::Information, text);
+  };
   reset();
-  NivraMsg::log(QStringLiteral("Trying to (re)load general settings file ") + path + QStringLiteral(" ..."));
+  log(QStringLiteral("Trying to (re)load general settings file ") + path + QStringLiteral(" ..."));
   if (!QFileInfo::exists(path)) {
-    NivraMsg::log(QStringLiteral("General settings file ") + path + QStringLiteral(" not found!"));
+    log(QStringLiteral("General settings file ") + path + QStringLiteral(" not found!"));
     return 0;
   }
   QString reason;
   std::optional<QByteArray> content = FileAccess::readWhole(path, source, FileAccess::LargestConfiguration, &reason);
   if (!content) {
-    NivraMsg::logWarning(QStringLiteral("Cannot open General settings file ") + reason);
+    tell(told, Finding::Severity::Warning, QStringLiteral("Cannot open General settings file ") + reason);
     return 0;
   }
   QBuffer file(&*content);
@@ -117,22 +118,22 @@ int GeneralSettings::loadFile(const QString &path, FileAccess::Source source) {
     if (number == 1 && line.startsWith(QChar(QChar::ByteOrderMark)))
       line.remove(0, 1);
     if (cut && !continued)
-      NivraMsg::logWarning(QStringLiteral("Line is too long! (%1:%2)").arg(path).arg(number));
-    if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')) && takeLine(line, number, path))
+      tell(told, Finding::Severity::Warning, QStringLiteral("Line is too long! (%1:%2)").arg(path).arg(number));
+    if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')) && takeLine(line, number, path, told))
       ++taken;
     continued = cut;
     if (!cut)
       ++number;
   }
-  NivraMsg::log(QStringLiteral("Loaded %1 settings from general settings file.").arg(taken));
+  log(QStringLiteral("Loaded %1 settings from general settings file.").arg(taken));
   return taken;
 }
 
-bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QString &path) {
+bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QString &path, const Told &told) {
   const QString place = QStringLiteral(" (%1:%2)").arg(path).arg(lineNumber);
   QStringList fields = line.split(QLatin1Char(';'));
   if (fields.size() < FieldCount) {
-    NivraMsg::logWarning(QStringLiteral("Line contains less than 6 entries!") + place);
+    tell(told, Finding::Severity::Warning, QStringLiteral("Line contains less than 6 entries!") + place);
     return false;
   }
   for (QString &field : fields)
@@ -159,9 +160,10 @@ bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QStrin
   entry.type = builtIn.type;
   entry.options = builtIn.options;
   if (!fits(entry.value, builtIn, key)) {
-    NivraMsg::logWarning(
+    tell(
+        told, Finding::Severity::Warning,
         QStringLiteral("Value \"%1\" does not suit the setting \"%2\"; \"%3\" stays.").arg(entry.value, key, builtIn.value) +
-        place);
+            place);
     return false;
   }
   known->second = entry;

@@ -1,23 +1,15 @@
 #include "messagehandler.h"
 
-#include <base/logo.h>
 #include <base/nivramsg.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDebug>
 #include <QElapsedTimer>
-#include <QGridLayout>
-#include <QLabel>
-#include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QScreen>
-#include <QTextBlock>
 #include <QThread>
 
-#include <algorithm>
 #include <atomic>
+#include <utility>
 
 namespace NivraMsg {
 
@@ -27,94 +19,20 @@ std::atomic<bool> interactiveSwitch{true};
 
 std::atomic<qint64> millisecondsInBoxes{0};
 
-QString boxTitle(Kind kind) {
-  switch (kind) {
-  case Kind::Information:
-    return QCoreApplication::translate("NivraMsg", "Information");
-  case Kind::Warning:
-    return QCoreApplication::translate("NivraMsg", "Warning");
-  case Kind::Critical:
-    return QCoreApplication::translate("NivraMsg", "Critical");
-  case Kind::Question:
-    break;
-  }
-  return QCoreApplication::translate("NivraMsg", "Question");
+BoxSink &boxSink() {
+  static auto *sink = new BoxSink; // never destroyed: static objects may log while they are
+  return *sink;
 }
 
-QMessageBox::Icon boxIcon(Kind kind) {
-  switch (kind) {
-  case Kind::Information:
-    return QMessageBox::Information;
-  case Kind::Warning:
-    return QMessageBox::Warning;
-  case Kind::Critical:
-    return QMessageBox::Critical;
-  case Kind::Question:
-    break;
-  }
-  return QMessageBox::Question;
-}
-
-bool isLong(const QString &text) {
-  constexpr int MostLines = 12;
-  constexpr int MostCharacters = 1000;
-  return text.size() > MostCharacters || text.count(QLatin1Char('\n')) >= MostLines;
-}
-
-/// Shows the box's text in an area that scrolls, as large as the text or half of the screen, whichever is smaller.
-void scrollText(QMessageBox &box) {
-  auto *label = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
-  auto *grid = qobject_cast<QGridLayout *>(box.layout());
-  if (label == nullptr || grid == nullptr)
-    return;
-  auto *area = new QPlainTextEdit(box.text());
-  area->setReadOnly(true);
-  area->setTabChangesFocus(true);
-  const QFontMetrics metrics = area->fontMetrics();
-  const QSize available = box.screen()->availableSize() / 2;
-  const int lines = area->document()->blockCount();
-  int widest = 0;
-  for (QTextBlock block = area->document()->firstBlock(); block.isValid() && widest < available.width();
-       block = block.next())
-    widest = std::max(widest, metrics.horizontalAdvance(block.text()));
-  constexpr int Smallest = 320; // pixels
-  constexpr int Frame = 40;     // with the scroll bar
-  area->setFixedSize(qBound(Smallest, widest + Frame, std::max(Smallest, available.width())),
-                     qBound(Smallest / 2, (lines + 2) * metrics.lineSpacing(), std::max(Smallest / 2, available.height())));
-  int row = 0;
-  int column = 0;
-  int rows = 0;
-  int columns = 0;
-  grid->getItemPosition(grid->indexOf(label), &row, &column, &rows, &columns);
-  label->hide();
-  grid->addWidget(area, row, column, rows, columns);
-}
-
-int showBox(Kind kind, const QString &text) {
-  QWidget *parent = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : QApplication::activeWindow();
+Answer waitFor(const Box &box) {
   QElapsedTimer open;
   open.start();
-  // On the heap, because the parent may be deleted while the box is open.
-  const QPointer<QMessageBox> box = new QMessageBox(parent);
-  box->setTextFormat(Qt::PlainText); // names of a workspace are in it
-  box->setIcon(boxIcon(kind));
-  box->setWindowTitle(boxTitle(kind));
-  box->setText(text);
-  box->setStandardButtons(QMessageBox::Ok);
-  box->setWindowIcon(productLogo());
-  if (isLong(text))
-    scrollText(*box);
-  if (kind == Kind::Question) {
-    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-    box->setDefaultButton(QMessageBox::Cancel);
-  }
-  const int result = box->exec();
-  delete box.data();
+  const Answer answer = boxSink()(box);
   millisecondsInBoxes += open.elapsed();
-  return result;
+  return answer;
 }
 
-int logInstead(Kind kind, const QString &text) {
+Answer logInstead(Kind kind, const QString &text) {
   MessageHandler::install();
   if (kind == Kind::Information)
     qInfo().noquote() << text;
@@ -124,7 +42,7 @@ int logInstead(Kind kind, const QString &text) {
     MessageHandler::writeLine(text);
   if (kind == Kind::Warning) // written without the message handler, which would have told the recorders
     MessageHandler::record(text);
-  return 0;
+  return Answer::None;
 }
 
 } // namespace
@@ -139,16 +57,30 @@ NivraLogger &NivraLogger::instance() {
   return *logger;
 }
 
-int message(Kind kind, const QString &text) {
-  auto *application = qobject_cast<QApplication *>(QCoreApplication::instance());
-  if (!application || !isInteractive())
-    return logInstead(kind, text);
+void setBoxSink(BoxSink sink) {
+  boxSink() = std::move(sink);
+}
+
+bool showsBoxes() {
+  return QCoreApplication::instance() != nullptr && boxSink() && isInteractive();
+}
+
+Answer show(const Box &box) {
+  if (!showsBoxes())
+    return logInstead(box.kind, box.text);
+  QCoreApplication *application = QCoreApplication::instance();
   if (QThread::currentThread() == application->thread())
-    return showBox(kind, text);
-  int result = 0;
+    return waitFor(box);
+  Answer answer = Answer::None;
   QMetaObject::invokeMethod(
-      application, [&]() { result = showBox(kind, text); }, Qt::BlockingQueuedConnection);
-  return result;
+      application, [&]() { answer = waitFor(box); }, Qt::BlockingQueuedConnection);
+  return answer;
+}
+
+Answer message(Kind kind, const QString &text) {
+  if (kind == Kind::Question)
+    return show({kind, text, {}, {Answer::Yes, Answer::No, Answer::Cancel}, Answer::Cancel});
+  return show({kind, text});
 }
 
 void information(const QString &text) {

@@ -67,14 +67,14 @@ void readTexts(const QJsonValue &value, QMap<QString, QString> &texts) {
 
 } // namespace
 
-bool NivraGasParams::readFromFile(const QString &directory) {
+bool NivraGasParams::readFromFile(const QString &directory, Findings &findings) {
   const QString path = directory + QStringLiteral("/solverconfig.jsn");
   QString reason;
   const std::optional<QJsonObject> object = readJsonObject(path, &reason);
   if (!object) {
     const QString text = QStringLiteral("NivraGasParams::readFromFile: cannot open file ") + reason;
     if (QFileInfo::exists(path) || QFileInfo(path).isSymLink()) // without it the text form is meant
-      NivraMsg::logWarning(text);
+      findings.push_back({Finding::Severity::Warning, QString(), 0, text, QString()});
     else
       NivraMsg::debug(text);
     return false;

@@ -162,7 +162,7 @@ NivraReader::Result NivraReader::readTopoAndScenJsn(const QString &geometryPath,
 NivraReader::Result NivraReader::readNetwork(const QString &geometryPath, const QString &scenarioPath,
                                              const NivraScenario &scenario, const Options &options) {
   if (m_isJson)
-    NivraMsg::log(QStringLiteral("starting  readTopoAndScenJsn with ") + geometryPath + QLatin1Char(' ') + scenarioPath);
+    log(QStringLiteral("starting  readTopoAndScenJsn with ") + geometryPath + QLatin1Char(' ') + scenarioPath);
   Result result = readGeomJsn(networkPath(geometryPath), options);
   if (!result.ok) {
     for (Finding &finding : result.findings)
@@ -204,7 +204,7 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
     if (m_net.nodes().size() + m_net.edges().size() == Sample)
       makeRoom(m_net, fraction);
     properties += static_cast<qint64>(built.size());
-    m_net.addElement(std::move(built));
+    m_net.addElement(std::move(built), m_told);
   };
   Result result = readObjects(path, options, report, take);
   if (result.ok && !result.cancelled && m_net.isEmpty())
@@ -213,8 +213,8 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
   append(result.findings, report.take());
   const QString file = isJsonPath(path) ? QStringLiteral("geom.jsn") : QStringLiteral("geom");
   NivraMsg::debug(QStringLiteral("### To read elements of %1 file took %2s").arg(file).arg(result.readingSeconds));
-  NivraMsg::log(QStringLiteral("### To read elements of geom buffer took %1s")
-                    .arg(static_cast<double>(timer.nsecsElapsed()) * Nano - result.readingSeconds));
+  log(QStringLiteral("### To read elements of geom buffer took %1s")
+          .arg(static_cast<double>(timer.nsecsElapsed()) * Nano - result.readingSeconds));
   return result;
 }
 
@@ -272,7 +272,7 @@ NivraReader::Result NivraReader::readScenarioJsn(const QString &scenarioPath, co
 NivraReader::Result NivraReader::readScenario(const QString &scenarioPath, const NivraScenario &scenario,
                                               const Options &options) {
   if (m_isJson)
-    NivraMsg::log(QStringLiteral("starting readScenarioJsn with ") + scenarioPath);
+    log(QStringLiteral("starting readScenarioJsn with ") + scenarioPath);
   m_waiting.clear();
   Result result = readSetPoints(networkPath(scenarioPath), options);
   if (!result.ok) {
@@ -308,15 +308,14 @@ void NivraReader::readGas(const QString &base, const NivraScenario &scenario, Re
       path = path.section(QLatin1Char('.'), 0, -2);
     Result text = readGasJsn(path);
     if (text.ok) {
-      NivraMsg::logWarning(
-          QStringLiteral("readScen: cannot find or read JSON gas file, but could read via readGas-function"));
+      warn(QStringLiteral("readScen: cannot find or read JSON gas file, but could read via readGas-function"));
       if (QFileInfo::exists(first))
         append(result.findings, asWarnings(std::move(gas.findings)));
       gas = std::move(text);
     }
   }
   if (!gas.ok) {
-    NivraMsg::logWarning(QStringLiteral("readScen: cannot find or read a gas file"));
+    warn(QStringLiteral("readScen: cannot find or read a gas file"));
     gas.findings = asWarnings(std::move(gas.findings));
   }
   append(result, std::move(gas));
@@ -347,14 +346,14 @@ void NivraReader::readCompanion(const Companion &companion, const QString &base,
   };
   if (!QFileInfo::exists(path)) {
     for (const QString &line : text(companion.absent).split(QLatin1Char('\n')))
-      NivraMsg::log(line);
+      log(line);
     return;
   }
   Result part = (this->*companion.read)(path, options);
   if (part.ok) {
-    NivraMsg::log(QLatin1String(companion.success));
+    log(QLatin1String(companion.success));
   } else {
-    NivraMsg::logWarning(text(companion.failed));
+    warn(text(companion.failed));
     for (Finding &finding : part.findings) {
       finding.severity = Finding::Severity::Warning;
       finding.box.clear();

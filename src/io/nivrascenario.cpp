@@ -1,4 +1,3 @@
-#include <base/nivramsg.h>
 #include <io/nivrascenario.h>
 
 #include <QJsonValue>
@@ -22,8 +21,10 @@ const Named Texts[] = {{"workDir", &S::workDir},
                        {"statusFile", &S::statusFile},
                        {"NivraVersion_used", &S::version}};
 
-void logMissing(const char *key) {
-  NivraMsg::log(QStringLiteral("NivraScenario::fromJson: key ") + QLatin1String(key) + QStringLiteral(" does not exist"));
+Finding missing(const char *key) {
+  return {Finding::Severity::Information, QString(), 0,
+          QStringLiteral("NivraScenario::fromJson: key ") + QLatin1String(key) + QStringLiteral(" does not exist"),
+          QString()};
 }
 
 } // namespace
@@ -32,11 +33,12 @@ bool NivraScenario::isAbsent() const {
   return workDir.isEmpty() || workDir == QLatin1String("EMPTY") || workDir == QLatin1String(".");
 }
 
-void NivraScenario::fromJson(const QJsonObject &object, const QString &file) {
+Findings NivraScenario::fromJson(const QJsonObject &object, const QString &file) {
+  Findings findings;
   for (const auto &[key, field] : Texts) {
     const auto member = object.constFind(QLatin1String(key));
     if (member == object.constEnd()) {
-      logMissing(key);
+      findings.push_back(missing(key));
     } else if (member->isString()) {
       this->*field = member->toString();
       origin.insert(QLatin1String(key), file);
@@ -44,14 +46,15 @@ void NivraScenario::fromJson(const QJsonObject &object, const QString &file) {
   }
   const auto general = object.constFind(QLatin1String("GeneralProps"));
   if (general == object.constEnd()) {
-    logMissing("GeneralProps");
-    return;
+    findings.push_back(missing("GeneralProps"));
+    return findings;
   }
   const QJsonObject properties = general->toObject();
   for (auto property = properties.begin(); property != properties.end(); ++property) {
     generalProps.insert(property.key(), property.value().toVariant().toString());
     origin.insert(QStringLiteral("GeneralProps/") + property.key(), file);
   }
+  return findings;
 }
 
 QVector<QPair<QString, QString>> NivraScenario::entries() const {

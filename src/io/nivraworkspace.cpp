@@ -2,8 +2,8 @@
 #include "scenariofields.h"
 
 #include <base/fileaccess.h>
-#include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 #include <io/nivraworkspace.h>
 
 #include <QDir>
@@ -14,14 +14,8 @@
 
 namespace {
 
-bool mismatchesAreShown() {
-  return GeneralSettings::instance()
-             .value(QStringLiteral("PELKA mode"))
-             .compare(QStringLiteral("off"), Qt::CaseInsensitive) == 0;
-}
-
 Finding mismatch(Finding::Severity severity, const QString &file, const QString &text) {
-  return {severity, file, 0, text, mismatchesAreShown() ? text : QString()};
+  return {severity, file, 0, text, Settings::PelkaMode.value() ? QString() : text};
 }
 
 /// The lines of a text configuration.
@@ -83,10 +77,14 @@ void NivraWorkspace::Case::setFilesFromBaseName(const QString &base) {
 
 NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   static const QRegularExpression pattern(QStringLiteral("\\.(geom|scen)(\\.jso?n)?$"));
+  NivraWorkspace workspace;
+  const auto told = [&workspace](Finding::Severity severity, const QString &text) {
+    workspace.m_findings.push_back({severity, QString(), 0, text, QString()});
+  };
   const QRegularExpressionMatch match = pattern.match(path);
   if (!match.hasMatch()) {
-    NivraMsg::logCritical(QStringLiteral("NivraWorkspace::fromScenFile(): invalid file format ") + path);
-    return {};
+    told(Finding::Severity::Critical, QStringLiteral("NivraWorkspace::fromScenFile(): invalid file format ") + path);
+    return workspace;
   }
   const QFileInfo file(QString(path).replace(QLatin1Char('\\'), QLatin1Char('/')));
   const bool isScenario = match.captured(1) == QLatin1String("scen");
@@ -94,18 +92,18 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   const QString caseDirectory = isScenario ? upwards(directory) : directory;
   const QString root = upwards(caseDirectory);
   if (!file.isFile()) {
-    NivraMsg::logCritical(QStringLiteral("NivraWorkspace::fromFile(): File does not exist ") + path +
-                          (file.exists() ? QStringLiteral(" (there is something else of that name)") : QString()));
-    return {};
+    told(Finding::Severity::Critical,
+         QStringLiteral("NivraWorkspace::fromFile(): File does not exist ") + path +
+             (file.exists() ? QStringLiteral(" (there is something else of that name)") : QString()));
+    return workspace;
   }
   if (!QFileInfo(root).isDir()) {
-    NivraMsg::logCritical(QStringLiteral("NivraWorkspace::fromFile(): workspace root not found ") + root);
-    return {};
+    told(Finding::Severity::Critical, QStringLiteral("NivraWorkspace::fromFile(): workspace root not found ") + root);
+    return workspace;
   }
-  NivraWorkspace workspace;
   workspace.m_root = root;
   workspace.m_json = !match.captured(2).isEmpty();
-  NivraMsg::log(QStringLiteral("NivraWorkspace set to ") + root);
+  told(Finding::Severity::Information, QStringLiteral("NivraWorkspace set to ") + root);
   Case opened;
   opened.name = QFileInfo(caseDirectory).fileName();
   workspace.m_cases.append(opened);
@@ -114,8 +112,9 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   const QString kind = QLatin1Char('.') + match.captured(1);
   const QString base = baseNameOf(file, kind, match.captured(2));
   if (base + kind + match.captured(2) != file.fileName())
-    NivraMsg::logWarning(QStringLiteral("%1 was chosen; the files of a case are named up to the first dot, and %2 is read")
-                             .arg(file.fileName(), base + kind + match.captured(2)));
+    told(Finding::Severity::Warning,
+         QStringLiteral("%1 was chosen; the files of a case are named up to the first dot, and %2 is read")
+             .arg(file.fileName(), base + kind + match.captured(2)));
   if (isScenario) {
     workspace.addScenario(QFileInfo(directory).fileName());
     NivraScenario &scenario = workspace.m_cases.last().scenarios.last();
@@ -239,8 +238,8 @@ void NivraWorkspace::readScenarioConfiguration(NivraGasParams &gas, Findings &fi
   const QString actualName = scenario.workDir;
   const QString directory = filePath(actualName);
   const NivraScenario opened = scenario;
-  if (gas.readFromFile(directory))
-    readUnifiedConfiguration(directory);
+  if (gas.readFromFile(directory, findings))
+    readUnifiedConfiguration(directory, findings);
   else
     readTextConfiguration(directory + QLatin1Char('/') + scenario.configFile, gas, findings);
   // The opened file is the one to read, whatever the configuration calls it.
@@ -254,27 +253,29 @@ void NivraWorkspace::readScenarioConfiguration(NivraGasParams &gas, Findings &fi
     checkScenarioDirectory(actualName, findings);
 }
 
-void NivraWorkspace::takeConfiguration(const QJsonObject &object, NivraGasParams &gas, const QString &file) {
+Findings NivraWorkspace::takeConfiguration(const QJsonObject &object, NivraGasParams &gas, const QString &file) {
   if (currentScenario() == nullptr)
-    return;
+    return {};
   NivraScenario &scenario = m_cases.last().scenarios.last();
   const NivraScenario before = scenario;
   gas.fromJson(object, file);
-  scenario.fromJson(object, file);
+  Findings findings = scenario.fromJson(object, file);
   for (const char *key : {"workDir", "scenFile"})
     scenario.origin.insert(QLatin1String(key), before.origin.value(QLatin1String(key)));
   scenario.workDir = before.workDir;
   scenario.scenFile = before.scenFile;
+  return findings;
 }
 
-void NivraWorkspace::readUnifiedConfiguration(const QString &directory) {
+void NivraWorkspace::readUnifiedConfiguration(const QString &directory, Findings &findings) {
   QString reason;
   const QString path = directory + QStringLiteral("/scenconfig.jsn");
   const std::optional<QJsonObject> object = readJsonObject(path, &reason);
   if (object)
-    m_cases.last().scenarios.last().fromJson(*object, path);
+    append(findings, m_cases.last().scenarios.last().fromJson(*object, path));
   else
-    NivraMsg::logWarning(QStringLiteral("readUnifiedScenConfig: cannot open file ") + reason);
+    findings.push_back({Finding::Severity::Warning, QString(), 0,
+                        QStringLiteral("readUnifiedScenConfig: cannot open file ") + reason, QString()});
 }
 
 void NivraWorkspace::readTextConfiguration(const QString &path, NivraGasParams &gas, Findings &findings) {

@@ -7,7 +7,6 @@
 #include "setpointunits.h"
 #include "texttablereader.h"
 
-#include <base/nivramsg.h>
 #include <io/nivrareader.h>
 #include <model/netmetadata.h>
 
@@ -189,14 +188,14 @@ private:
 };
 
 template <typename Lines>
-std::vector<ParsedLine> parseAll(LineQueue<Lines> &queue) {
+std::vector<ParsedLine> parseAll(LineQueue<Lines> &queue, const Told &told) {
   std::vector<ParsedLine> lines;
   std::exception_ptr trouble;
-#pragma omp parallel num_threads(Threads) default(none) shared(queue, lines, trouble)
+#pragma omp parallel num_threads(Threads) default(none) shared(queue, lines, trouble, told)
   {
 #pragma omp single
-    NivraMsg::log(
-        QStringLiteral("NivraReader::%1 [%2 threads]").arg(QLatin1String(Lines::Function)).arg(omp_get_num_threads()));
+    tell(told, Finding::Severity::Information,
+         QStringLiteral("NivraReader::%1 [%2 threads]").arg(QLatin1String(Lines::Function)).arg(omp_get_num_threads()));
     std::vector<ParsedLine> own;
     try {
       typename Lines::Parser parser;
@@ -347,12 +346,11 @@ NivraReader::Result NivraReader::readLines(const QString &path, const Options &o
   QElapsedTimer timer;
   timer.start();
   LineQueue<Lines> queue(source, options.progress);
-  std::vector<ParsedLine> lines = parseAll(queue);
+  std::vector<ParsedLine> lines = parseAll(queue, m_told);
   result.ok = true;
   result.cancelled = queue.wasCancelled();
   result.readingSeconds = source.reader.readingSeconds();
-  NivraMsg::log(
-      QStringLiteral("### To read elements of %1 file took %2s").arg(QLatin1String(Lines::Form)).arg(result.readingSeconds));
+  log(QStringLiteral("### To read elements of %1 file took %2s").arg(QLatin1String(Lines::Form)).arg(result.readingSeconds));
   SetPointApplier applier(*this, path, options.includeProperties);
   for (ParsedLine &line : lines) {
     if (line.fault.isEmpty())
@@ -362,10 +360,10 @@ NivraReader::Result NivraReader::readLines(const QString &path, const Options &o
   }
   source.tellOfFile(applier.report);
   result.properties = applier.properties();
-  NivraMsg::log(QStringLiteral("### To read elements of %1 buffer took %2 [sec] for %3 properties")
-                    .arg(QLatin1String(Lines::Form))
-                    .arg(static_cast<double>(timer.nsecsElapsed()) * Nano - result.readingSeconds)
-                    .arg(result.properties));
+  log(QStringLiteral("### To read elements of %1 buffer took %2 [sec] for %3 properties")
+          .arg(QLatin1String(Lines::Form))
+          .arg(static_cast<double>(timer.nsecsElapsed()) * Nano - result.readingSeconds)
+          .arg(result.properties));
   result.findings = applier.report.take();
   return result;
 }

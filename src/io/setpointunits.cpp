@@ -1,6 +1,6 @@
 #include "setpointunits.h"
 
-#include <base/generalsettings.h>
+#include <base/settings.h>
 
 #include <cmath>
 
@@ -39,7 +39,7 @@ void learnFromNode(Units::Gas &gas, const element &node, const GasTable &gases) 
 } // namespace
 
 SetPointUnits::SetPointUnits()
-    : m_tiny(GeneralSettings::instance().value(QStringLiteral("tiny conversion tolerance")).toDouble()) {}
+    : m_tiny(Settings::TinyConversionTolerance.value()) {}
 
 SetPointUnits::Outcome SetPointUnits::convert(PropertyText &value, const QString &unit, const QString &storedUnit,
                                               const Units::Gas &gas) const {

@@ -1,4 +1,3 @@
-#include <base/nivramsg.h>
 #include <model/consistencycheck.h>
 #include <model/propertycolumns.h>
 
@@ -151,8 +150,9 @@ private:
 
 class PruningPass {
 public:
-  explicit PruningPass(NetData &net)
+  PruningPass(NetData &net, const Told &told)
       : m_net(net)
+      , m_told(told)
       , m_ofNode({keys().name, keys().type, keys().x, keys().y})
       , m_ofEdge({keys().name, keys().node1, keys().node2}) {}
 
@@ -175,18 +175,18 @@ public:
   }
 
 private:
-  /// Logged at once; what a person should look at is kept besides.
+  /// Told at once; what a person should look at is kept besides.
   void add(Finding::Severity severity, const QString &name, const QString &text) {
     m_result.findings.push_back({severity, QString(), 0, text, QString(), false, name});
-    report({m_result.findings.back()});
+    tell(m_told, severity, text);
   }
 
   template <typename Test>
-  static int erase(elements &collection, const char *word, const Test &passes) {
+  int erase(elements &collection, const char *word, const Test &passes) const {
     return static_cast<int>(collection.eraseIf([&](const elements::Entry &entry) {
       if (passes(entry))
         return false;
-      NivraMsg::log(QStringLiteral("... %1 was: ").arg(QLatin1String(word)) + entry.name());
+      tell(m_told, Finding::Severity::Information, QStringLiteral("... %1 was: ").arg(QLatin1String(word)) + entry.name());
       entry.value.clear();
       return true;
     }));
@@ -201,8 +201,8 @@ private:
     const QString kind = QLatin1String(word);
     add(Finding::Severity::Warning, QString(), QStringLiteral("Error for %1: ").arg(kind) + properties);
     const QString what = kind.at(0).toUpper() + kind.mid(1);
-    NivraMsg::logWarning(
-        QStringLiteral("ERROR for current %1: Could not find property name! %2 will be erased!").arg(kind, what));
+    tell(m_told, Finding::Severity::Warning,
+         QStringLiteral("ERROR for current %1: Could not find property name! %2 will be erased!").arg(kind, what));
     return false;
   }
 
@@ -311,20 +311,22 @@ private:
     place(drive, 0.3 * m_net.position(inlet) + 0.7 * m_net.position(outlet));
   }
 
-  static void place(element &drive, const QPointF &at) {
+  void place(element &drive, const QPointF &at) const {
     constexpr int Digits = 8;
     const QString xText = QString::number(at.x(), 'g', Digits);
     const QString yText = QString::number(at.y(), 'g', Digits);
     drive.set(keys().x, xText);
     drive.set(keys().y, yText);
-    NivraMsg::log(QStringLiteral("Drive ") + drive.value(keys().name) +
-                  QStringLiteral(" did not possess x- or y-value. Set to (%1,%2).").arg(xText, yText));
+    tell(m_told, Finding::Severity::Information,
+         QStringLiteral("Drive ") + drive.value(keys().name) +
+             QStringLiteral(" did not possess x- or y-value. Set to (%1,%2).").arg(xText, yText));
   }
 
   enum NodeColumn { NodeName, NodeType, NodeX, NodeY };
   enum EdgeColumn { EdgeName, EdgeNode1, EdgeNode2 };
 
   NetData &m_net;
+  const Told &m_told;
   PropertyColumns m_ofNode;
   PropertyColumns m_ofEdge;
   ConsistencyCheck::PruneResult m_result;
@@ -333,26 +335,10 @@ private:
 
 } // namespace
 
-Findings ConsistencyCheck::problems(NetData &net) {
+Findings ConsistencyCheck::checkNetData(NetData &net) {
   return FindingsPass(net).run();
 }
 
-QString ConsistencyCheck::checkNetData(NetData &net, Findings *list) {
-  Findings found = problems(net);
-  QString text;
-  for (const Finding &finding : found)
-    text += finding.text + QLatin1Char('\n');
-  if (!text.isEmpty()) {
-    NivraMsg::message(NivraMsg::Kind::Warning, QStringLiteral("Check with findings! See log! Beginning:\n") +
-                                                   text.section(QStringLiteral("..."), 0, 200));
-    NivraMsg::log(QString(text).replace(QLatin1Char('\n'), QStringLiteral("<br/>")));
-  }
-  NivraMsg::debug(QStringLiteral("after checkNetData"));
-  if (list != nullptr)
-    append(*list, found);
-  return text;
-}
-
-ConsistencyCheck::PruneResult ConsistencyCheck::prune(NetData &net) {
-  return PruningPass(net).run();
+ConsistencyCheck::PruneResult ConsistencyCheck::prune(NetData &net, const Told &told) {
+  return PruningPass(net, told).run();
 }

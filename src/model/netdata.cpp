@@ -1,6 +1,5 @@
 #include "elementexceptions.h"
 
-#include <base/nivramsg.h>
 #include <model/netdata.h>
 #include <model/netmetadata.h>
 
@@ -93,7 +92,7 @@ void NetData::buildTypeMap() {
     m_types.append(entry.first);
 }
 
-NetData::EleType NetData::addElement(::element added) {
+NetData::EleType NetData::addElement(::element added, const Told &told) {
   const PropertyText *name = added.find(keys().name);
   const PropertyText *type = added.find(keys().type);
   if (name == nullptr || type == nullptr)
@@ -102,15 +101,15 @@ NetData::EleType NetData::addElement(::element added) {
   const EleType kind = metaData()->kindOf(typeName);
   const auto collection = m_typeMap.find(kind);
   if (collection == m_typeMap.end()) {
-    NivraMsg::logWarning(
-        QStringLiteral("NetData::addElement failed for %1 with unknown type %2!").arg(name->toString(), typeName));
+    tell(told, Finding::Severity::Warning,
+         QStringLiteral("NetData::addElement failed for %1 with unknown type %2!").arg(name->toString(), typeName));
     return kind;
   }
   const PropertyText id = *name;
   elements &target = *collection->second;
   // Asked rather than caught: the exception would print both elements for every duplicate of a large file.
   if (target.tryInsert(id, std::move(added)) == nullptr) {
-    NivraMsg::logWarning(QStringLiteral("Overwriting existing element ") + id.toString());
+    tell(told, Finding::Severity::Warning, QStringLiteral("Overwriting existing element ") + id.toString());
     target.erase(id.toString());
     target.tryInsert(id, std::move(added)); // NOLINT(bugprone-use-after-move): untouched so far
   }

@@ -1,4 +1,3 @@
-#include <base/nivramsg.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
 #include <model/units.h>
@@ -66,9 +65,10 @@ const NetMetaData &NetMetaData::instance() {
     const QString own = QCoreApplication::applicationDirPath() + QStringLiteral("/Attribute.csv");
     QFile file(QFile::exists(own) ? own : QStringLiteral(":/model/Attribute.csv"));
     if (file.open(QIODevice::ReadOnly))
-      report(data.read(file, file.fileName()));
+      data.m_findings = data.read(file, file.fileName());
     else
-      NivraMsg::logWarning(QStringLiteral("Cannot read %1: %2").arg(file.fileName(), file.errorString()));
+      data.m_findings.push_back({Finding::Severity::Warning, QString(), 0,
+                                 QStringLiteral("Cannot read %1: %2").arg(file.fileName(), file.errorString()), QString()});
     return data;
   }();
   return metaData;

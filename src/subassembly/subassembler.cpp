@@ -61,7 +61,7 @@ TemplateGeometry readTemplate(const QString &file) {
   auto net = std::make_shared<NetData>();
   NivraReader::Options options;
   options.source = FileAccess::Source::Trusted; // the templates belong to the program
-  NivraReader::Result result = NivraReader(*net).readGeomJsn(file, options);
+  NivraReader::Result result = NivraReader(*net, logFinding).readGeomJsn(file, options);
   content.findings = std::move(result.findings);
   if (!result.ok) {
     content.error = QStringLiteral("Cannot read ") + file;
@@ -305,7 +305,7 @@ void SubAssembler::createPin(const element &source, const QString &name, const Q
   pin.set(QStringLiteral("doSave"), QStringLiteral("false"));
   pin.set(QStringLiteral("vis"), QStringLiteral("AUTO"));
   log(QStringLiteral("This pin is new and needs saving: ") + name, name);
-  m_net.addElement(std::move(pin));
+  m_net.addElement(std::move(pin), logFinding);
   m_freePrefixes.clear();
   m_result.newPins = true;
 }

@@ -247,7 +247,7 @@ void TestToolsInWindow::hiddenLayersStayHiddenUnderAnotherName() {
   field->selectAll();
   QTest::keyClicks(field, QStringLiteral("abroad"));
   {
-    const Answers yes({QMessageBox::Yes});
+    const Answers yes({NivraMsg::Answer::Yes});
     QTest::keyClick(field, Qt::Key_Return);
     QCoreApplication::processEvents(); // the field is read after the key
     QVERIFY(yes.areGiven());
@@ -277,13 +277,13 @@ void TestToolsInWindow::editsAreAskedAboutBeforeAnotherCase() {
   QCOMPARE(categories.categories().size(), std::size_t(2));
   const QString title = viewer.windowTitle();
   {
-    const Answers cancel({QMessageBox::Cancel, QMessageBox::Cancel});
+    const Answers cancel({NivraMsg::Answer::Cancel, NivraMsg::Answer::Cancel});
     viewer.open(m_workspace.scenario());
     QCOMPARE(viewer.windowTitle(), title);
     QVERIFY(!viewer.close());
     QVERIFY(cancel.areGiven());
   }
-  const Answers save({QMessageBox::Save});
+  const Answers save({NivraMsg::Answer::Save});
   viewer.open(m_workspace.scenario());
   QVERIFY(save.areGiven());
   QVERIFY(viewer.windowTitle() != title);
@@ -329,7 +329,7 @@ void TestToolsInWindow::windowsShareTheirCategories() {
   whole.updateTempCategory({QStringLiteral("own"), QString(), QString(), QString()});
   QVERIFY(part.categories().front().name.isEmpty()); // each window has its own search
   {
-    const Answers cancel({QMessageBox::Cancel, QMessageBox::Cancel});
+    const Answers cancel({NivraMsg::Answer::Cancel, NivraMsg::Answer::Cancel});
     viewer.open(m_workspace.scenario());
     QVERIFY(window != nullptr);
     QVERIFY(!viewer.close());
@@ -345,7 +345,7 @@ void TestToolsInWindow::windowsShareTheirCategories() {
     QVERIFY(window->close()); // its changes are the program's
     QVERIFY(none.areGiven());
   }
-  const Answers save({QMessageBox::Save});
+  const Answers save({NivraMsg::Answer::Save});
   viewer.open(m_workspace.scenario());
   QVERIFY(save.areGiven());
   FileAccess::confineTo(workspace.root()); // again, to look at its file
@@ -366,7 +366,7 @@ void TestToolsInWindow::whatIsBeingTypedIsNotLost() {
   table->setCurrentCell(1, 1);
   table->editItem(table->item(1, 1));
   QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("typed"));
-  const Answers save({QMessageBox::Save});
+  const Answers save({NivraMsg::Answer::Save});
   QVERIFY(viewer.close());
   QVERIFY(save.areGiven());
   QCOMPARE(CategoryFile::read(workspace.path(QStringLiteral("CASE/catdef.csv"))).at(0).name, QStringLiteral("typed"));

@@ -135,7 +135,7 @@ void TestWindow::invalidWorkspaceLeavesWhatIsOpen() {
 
 void TestWindow::invalidWorkspaceSaysWhy() {
   NivraViewer viewer;
-  const Answers answers({QMessageBox::Ok});
+  const Answers answers({NivraMsg::Answer::Ok});
   viewer.open(m_workspace.path(QStringLiteral("picture.png")));
   QCOMPARE(viewer.statusBar()->currentMessage(), QStringLiteral("Invalid Workspace"));
   QVERIFY2(answers.texts().join(QString()).contains(QStringLiteral("invalid file format")),
@@ -238,7 +238,7 @@ void TestWindow::openingIsTimedWithoutBoxes() {
   workspace.writeGeometry(WorkspaceFixture::soundGeometry().replace("\"q\":5", "\"driven\":\"nobody\""));
   NivraViewer viewer;
   constexpr int PersonMs = 1500;
-  const Answers answers({QMessageBox::Ok}, PersonMs);
+  const Answers answers({NivraMsg::Answer::Ok}, PersonMs);
   QElapsedTimer timer;
   timer.start();
   viewer.open(workspace.geometry());

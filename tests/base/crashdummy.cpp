@@ -3,7 +3,7 @@
 #include <base/crashguard.h>
 #include <base/nivramsg.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 
 #include <csignal>
 #include <cstdio>
@@ -39,8 +39,7 @@ volatile bool endless = true; // the compiler cannot see that the recursion has 
 } // namespace
 
 int main(int argc, char **argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
+  const QCoreApplication application(argc, argv);
   CrashGuard::setUp(LogFiles::Run::Window);
   NivraMsg::log(QStringLiteral("started"));
   const QByteArray how = argc > 1 ? QByteArray(argv[1]) : QByteArray();

@@ -1,5 +1,4 @@
-#include "callstack.h"
-
+#include <callstack/callstack.h>
 #include <support/nivratest.h>
 
 #include <QDirIterator>

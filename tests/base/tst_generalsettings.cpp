@@ -1,7 +1,7 @@
-#include <base/generalsettings.h>
-#include <base/nivramsg.h>
+#include <base/settings.h>
 #include <support/nivratest.h>
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 class TestGeneralSettings : public QObject {
@@ -14,8 +14,11 @@ private slots:
   void oddFiles_data();
   void oddFiles();
   void workspaceFileHasTheUsersName();
+  void typedValues();
+  void guideTellsWhatHasNoEffect();
 
 private:
+  static constexpr auto Trusted = FileAccess::Source::Trusted;
   QTemporaryDir m_folder;
   QString write(const QByteArray &text) {
     QFile file(m_folder.filePath(QStringLiteral("generalsettings.csv")));
@@ -27,7 +30,7 @@ private:
 
 void TestGeneralSettings::builtInTable() {
   GeneralSettings settings;
-  QCOMPARE(settings.loadFile(m_folder.filePath(QStringLiteral("none.csv"))), 0);
+  QCOMPARE(settings.loadFile(m_folder.filePath(QStringLiteral("none.csv")), Trusted, {}), 0);
   QCOMPARE(settings.value(QStringLiteral("perform label placement")), QStringLiteral("proximity"));
   QCOMPARE(settings.value(QStringLiteral("SelectionModifiers")), QStringLiteral("DirectSelect"));
   QCOMPARE(settings.value(QStringLiteral("PELKA MODE")), QString()); // keys are exact
@@ -73,7 +76,7 @@ void TestGeneralSettings::lines() {
   QFETCH(QString, key);
   QFETCH(QString, value);
   GeneralSettings settings;
-  QCOMPARE(settings.loadFile(write(line + '\n')), taken);
+  QCOMPARE(settings.loadFile(write(line + '\n'), Trusted, {}), taken);
   QCOMPARE(settings.value(key), value);
   if (settings.entries().count(QStringLiteral("smooth zoom")) != 0)
     QCOMPARE(settings.entries().at(QStringLiteral("smooth zoom")).category, QStringLiteral("zooming"));
@@ -94,10 +97,19 @@ void TestGeneralSettings::oddFiles() {
   QFETCH(QByteArray, text);
   QFETCH(int, taken);
   GeneralSettings settings;
-  QCOMPARE(settings.loadFile(write(text)), taken);
-  NivraMsg::Recorder recorder;
-  QCOMPARE(settings.loadFile(m_folder.path()), 0); // a folder in the place of the file
-  QVERIFY(recorder.lines().value(0).startsWith(QStringLiteral("Cannot open General settings file")));
+  QCOMPARE(settings.loadFile(write(text), Trusted, {}), taken);
+  Findings told;
+  const auto hear = [&told](const Finding &finding) {
+    told.push_back(finding);
+  };
+  QCOMPARE(settings.loadFile(m_folder.path(), Trusted, hear), 0); // a folder in the place of the file
+  QCOMPARE(told.back().severity, Finding::Severity::Warning);
+  QVERIFY(told.back().text.startsWith(QStringLiteral("Cannot open General settings file")));
+  told.clear();
+  settings.loadFile(write("smooth zoom;zooming;bool;0;\n"), Trusted, hear);
+  QVERIFY(told.front().text.startsWith(QStringLiteral("Trying to (re)load general settings file ")));
+  QVERIFY(told.at(1).text.startsWith(QStringLiteral("Line contains less than 6 entries!")));
+  QCOMPARE(told.back().text, QStringLiteral("Loaded 0 settings from general settings file."));
 }
 
 void TestGeneralSettings::workspaceFileHasTheUsersName() {
@@ -105,6 +117,39 @@ void TestGeneralSettings::workspaceFileHasTheUsersName() {
   qputenv("USERNAME", "anna");
   QCOMPARE(GeneralSettings::settingsFile(QStringLiteral("/w")), QStringLiteral("/w/generalsettings_anna.csv"));
   before.isNull() ? qunsetenv("USERNAME") : qputenv("USERNAME", before);
+}
+
+void TestGeneralSettings::typedValues() {
+  GeneralSettings &settings = GeneralSettings::instance();
+  QVERIFY(Settings::UseComma.value() && !Settings::PelkaMode.value());
+  QCOMPARE(Settings::PixtestDelay.value(), 100);
+  QCOMPARE(Settings::LabelPlacementRatio.value(), 0.4);
+  QCOMPARE(Settings::SubnetSelection.brushStyle.value(), 5);
+  QVERIFY(settings.setValue(Settings::PelkaMode.key(), QStringLiteral("on")));
+  QVERIFY(settings.setValue(Settings::MousePatternPanning.key(), QStringLiteral("MidButton")));
+  QVERIFY(Settings::PelkaMode.value());
+  QCOMPARE(Settings::MousePatternPanning.value(), QStringLiteral("MidButton"));
+  settings.reset();
+}
+
+void TestGeneralSettings::guideTellsWhatHasNoEffect() {
+  QFile guide(QStringLiteral(NIVRA_SOURCE_DIR "/docs/file-formats.md"));
+  QVERIFY(guide.open(QIODevice::ReadOnly));
+  const QString text = QString::fromUtf8(guide.readAll()).simplified();
+  const QString kept =
+      text.section(QStringLiteral("without effect here:"), 1).section(QStringLiteral("Lines that begin"), 0, 0);
+  static const QRegularExpression quoted(QStringLiteral("`([^`]+)`"));
+  int named = 0;
+  for (auto matches = quoted.globalMatch(kept); matches.hasNext(); ++named) {
+    const QByteArray key = matches.next().captured(1).toLatin1();
+    QVERIFY2(SettingsTable::row(key.constData()).effect == SettingsTable::Kept, key.constData());
+  }
+  QVERIFY(named > 0);
+  const QString beginning = text.section(QStringLiteral("## General settings"), 1).section(QStringLiteral("Kept for"), 0, 0);
+  for (const char *key : {"ask for include lists", "pick on Release", "start with last scenario"}) {
+    QVERIFY(beginning.contains(QLatin1String(key)));
+    QCOMPARE(SettingsTable::row(key).effect, SettingsTable::Acts);
+  }
 }
 
 NIVRA_TEST(TestGeneralSettings);

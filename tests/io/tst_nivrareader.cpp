@@ -1,5 +1,4 @@
 #include <base/fileaccess.h>
-#include <base/nivramsg.h>
 #include <io/nivrareader.h>
 #include <support/nivratest.h>
 
@@ -329,14 +328,13 @@ void TestNivraReader::gasInTheOtherForm() {
   NetData net;
   write(QStringLiteral("t.scen.jsn"), "{\n}\n");
   write(QStringLiteral("t.gas"), "[gas]\nname;rhon\nHydrogen;0.0899\n");
-  NivraReader reader(net);
-  const NivraMsg::Recorder recorder;
+  QStringList log;
+  NivraReader reader(net, [&log](const Finding &told) { log.append(told.text); });
   const auto result = reader.readScenarioJsn(m_folder.filePath(QStringLiteral("t.scen")), NivraScenario(), {});
   QVERIFY(result.findings.empty());
   QCOMPARE(reader.gases().size(), std::size_t(1));
   QVERIFY(reader.gasFile().endsWith(QStringLiteral("t.gas")));
-  QVERIFY(recorder.lines().contains(
-      QStringLiteral("readScen: cannot find or read JSON gas file, but could read via readGas-function")));
+  QVERIFY(log.contains(QStringLiteral("readScen: cannot find or read JSON gas file, but could read via readGas-function")));
 }
 
 void TestNivraReader::logLines_data() {
@@ -373,11 +371,8 @@ void TestNivraReader::logLines() {
             isJson ? "{\n\"A\":[{\"property\":\"pset\",\"value\":1}]\n}\n" : "name;property;value\nA;pset;1\n");
   NetData net;
   QStringList lines;
-  const auto connection = connect(
-      &NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
-      [&](const QString &text) { lines.append(text); }, Qt::DirectConnection);
-  NivraReader(net).readTopoAndScen(NivraWorkspace::fromFile(scenario), {});
-  disconnect(connection);
+  NivraReader reader(net, [&lines](const Finding &told) { lines.append(told.text); });
+  reader.readTopoAndScen(NivraWorkspace::fromFile(scenario), {});
   int at = 0;
   for (const QString &pattern : expected) {
     at = lines.indexOf(QRegularExpression(pattern), at) + 1;
@@ -472,7 +467,6 @@ void TestNivraReader::readErrorsEndAndAreTold() {
   read(net, R"("A":{"obj_type":"node"})");
   NivraReader reader(net);
   const bool isGeometry = name.contains(QStringLiteral("geom"));
-  const NivraMsg::Recorder recorder; // a thousand times the same element
   const auto result = isGeometry ? reader.readGeomJsn(path, options) : reader.readScenariofileJsn(path, options);
   QVERIFY(isBroken);
   QVERIFY(result.ok); // what was read is shown
@@ -499,13 +493,9 @@ void TestNivraReader::companionFiles() {
   write(QStringLiteral("run.scen.cfg.jsn"), R"({"tsoil":270.5,"comprDatabase":"own.txt","workDir":"elsewhere"})");
   NivraScenario scenario;
   scenario.gasFile = QStringLiteral("own.gas");
-  NivraReader reader(net);
   QStringList log;
-  const auto connection = connect(
-      &NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
-      [&](const QString &text) { log.append(text); }, Qt::DirectConnection);
+  NivraReader reader(net, [&log](const Finding &told) { log.append(told.text); });
   const auto result = reader.readScenarioJsn(base + QStringLiteral(".scen"), scenario, {});
-  disconnect(connection);
   const element &node = *net.element(QStringLiteral("A"));
   QCOMPARE(node.value(QStringLiteral("pset")), QStringLiteral("2"));
   QCOMPARE(node.value(QStringLiteral("p")), QStringLiteral("50.5"));

@@ -1,6 +1,5 @@
 #include <base/fileaccess.h>
 #include <base/generalsettings.h>
-#include <base/nivramsg.h>
 #include <io/nivraworkspace.h>
 #include <io/scenariosummary.h>
 #include <support/nivratest.h>
@@ -135,20 +134,23 @@ void TestNivraWorkspace::refuses() {
   QFETCH(QString, file);
   QFETCH(QString, message);
   QDir().mkpath(path(QStringLiteral("FOLDER.geom")));
-  const NivraMsg::Recorder recorder;
-  QVERIFY(!NivraWorkspace::fromFile(path(file)).isValid());
-  QCOMPARE(recorder.lines().size(), 1);
-  QVERIFY2(recorder.lines().first().startsWith(message), qPrintable(recorder.lines().first()));
+  const NivraWorkspace workspace = NivraWorkspace::fromFile(path(file));
+  QVERIFY(!workspace.isValid());
+  QCOMPARE(workspace.findings().size(), std::size_t(1));
+  const Finding &why = workspace.findings().front();
+  QCOMPARE(why.severity, Finding::Severity::Critical);
+  QVERIFY2(why.text.startsWith(message), qPrintable(why.text));
 }
 
 void TestNivraWorkspace::tellsWhenAnotherFileIsRead() {
   for (const char *name : {"CASE/net.geom", "CASE/net.old.geom"})
     write(path(QLatin1String(name)), "[node]\nname\n");
-  const NivraMsg::Recorder recorder;
   const NivraWorkspace workspace = NivraWorkspace::fromFile(path(QStringLiteral("CASE/net.old.geom")));
   QCOMPARE(QFileInfo(workspace.geometryPath()).fileName(), QStringLiteral("net.geom"));
-  QVERIFY2(recorder.lines().join(QString()).contains(QStringLiteral("net.old.geom was chosen")),
-           qPrintable(recorder.lines().join(QString())));
+  QCOMPARE(workspace.findings().front().text, QStringLiteral("NivraWorkspace set to ") + workspace.root());
+  const Finding &other = workspace.findings().back();
+  QCOMPARE(other.severity, Finding::Severity::Warning);
+  QVERIFY2(other.text.contains(QStringLiteral("net.old.geom was chosen")), qPrintable(other.text));
 }
 
 void TestNivraWorkspace::caseConfiguration_data() {
@@ -241,7 +243,10 @@ void TestNivraWorkspace::unifiedScenarioConfiguration() {
   NivraGasParams gas;
   Findings findings;
   workspace.readScenarioConfiguration(gas, findings);
-  QVERIFY(findings.empty());
+  QVERIFY(boxes(findings).isEmpty());
+  QCOMPARE(findings.size(), std::size_t(7)); // for each key that the file lacks
+  QCOMPARE(findings.front().text, QStringLiteral("NivraScenario::fromJson: key scenFile does not exist"));
+  QCOMPARE(findings.front().severity, Finding::Severity::Information);
   QCOMPARE(gas.ntype_gasLaw, 2);
   QVERIFY(!gas.ntype_transient); // a number is no truth value
   QCOMPARE(gas.source.value(QStringLiteral("tamb")), QStringLiteral("file"));
@@ -250,7 +255,7 @@ void TestNivraWorkspace::unifiedScenarioConfiguration() {
   QCOMPARE(read.logFile, QStringLiteral("nivra_run.log"));
   QCOMPARE(read.scenFile, QStringLiteral("run.scen"));
   NivraScenario copy;
-  copy.fromJson(read.toJson());
+  QVERIFY(copy.fromJson(read.toJson()).empty());
   QCOMPARE(copy.toJson(), read.toJson());
 }
 
@@ -354,11 +359,10 @@ void TestNivraWorkspace::specialFilesAreRefused() {
   NivraWorkspace workspace = scenario();
   NivraGasParams gas;
   Findings findings;
-  const NivraMsg::Recorder recorder;
   workspace.readCaseConfiguration(findings);
   workspace.readScenarioConfiguration(gas, findings);
   FileAccess::confineTo(QString());
-  QString told = recorder.lines().join(QLatin1Char('\n'));
+  QString told;
   for (const Finding &finding : findings)
     told += finding.text;
   QCOMPARE(gas.tsoil, NivraGasParams().tsoil);

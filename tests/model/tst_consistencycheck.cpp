@@ -1,19 +1,23 @@
-#include <base/nivramsg.h>
 #include <model/consistencycheck.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 
 namespace {
 
-/// What the message log says during its lifetime.
-class Console : public QObject {
-public:
-  Console() {
-    connect(&NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
-            [this](const QString &text) { lines.append(text); });
-  }
+/// What is told of the pruning.
+struct Console {
   QStringList lines;
+  Told told = [this](const Finding &finding) {
+    lines.append(finding.text);
+  };
 };
+
+QString texts(const Findings &findings) {
+  QString all;
+  for (const Finding &finding : findings)
+    all += finding.text + QLatin1Char('\n');
+  return all;
+}
 
 QString coordinates(const NetData &net, const char *name) {
   const element *e = net.element(QLatin1String(name));
@@ -66,7 +70,7 @@ void TestConsistencyCheck::findings() {
   net.addElement(makeNode("A"));
   net.addElement(makeEdge("P1", "A", "A"));
   net.element(QStringLiteral("P1"))->set(property, value);
-  QCOMPARE(ConsistencyCheck::checkNetData(net), expected);
+  QCOMPARE(texts(ConsistencyCheck::checkNetData(net)), expected);
   QVERIFY(!net.element(QStringLiteral("P1"))->contains(QStringLiteral("   ")));
 }
 
@@ -76,8 +80,8 @@ void TestConsistencyCheck::soundNetworkIsLeftAlone() {
   net.addElement(makeNode("B"));
   net.addElement(makeEdge("P1", "a", "B"));
   Console console;
-  QCOMPARE(ConsistencyCheck::checkNetData(net), QString());
-  const ConsistencyCheck::PruneResult removed = ConsistencyCheck::prune(net);
+  QVERIFY(ConsistencyCheck::checkNetData(net).empty());
+  const ConsistencyCheck::PruneResult removed = ConsistencyCheck::prune(net, console.told);
   QCOMPARE(removed.nodes + removed.edges, 0);
   QVERIFY(console.lines.isEmpty());
 }
@@ -107,7 +111,7 @@ void TestConsistencyCheck::edgesWithoutEndsAreRemoved() {
   edge.set(QStringLiteral("node2"), node2);
   edge.erase(erased);
   Console console;
-  const ConsistencyCheck::PruneResult removed = ConsistencyCheck::prune(net);
+  const ConsistencyCheck::PruneResult removed = ConsistencyCheck::prune(net, console.told);
   QCOMPARE(removed.edges, 1);
   QVERIFY(net.edges().isEmpty());
   QVERIFY2(console.lines.contains(message), qPrintable(console.lines.join(QLatin1Char('\n'))));
@@ -119,7 +123,7 @@ void TestConsistencyCheck::missingCoordinatesGetDefaults() {
   NetData net;
   net.addElement(makeElement({{"name", "A"}, {"type", "n"}}));
   Console console;
-  ConsistencyCheck::prune(net);
+  ConsistencyCheck::prune(net, console.told);
   QCOMPARE(coordinates(net, "A"), QStringLiteral("0,0"));
   QCOMPARE(console.lines, (QStringList{QStringLiteral("Node A did not possess x-value. Set to 0."),
                                        QStringLiteral("Node A did not possess y-value. Set to 0.")}));
@@ -164,7 +168,7 @@ void TestConsistencyCheck::drives() {
     drive.set(QStringLiteral("driven"), driven);
   net.addElement(drive);
   Console console;
-  const ConsistencyCheck::PruneResult removed = ConsistencyCheck::prune(net);
+  const ConsistencyCheck::PruneResult removed = ConsistencyCheck::prune(net, console.told);
   QCOMPARE(coordinates(net, "D1"), place);
   QCOMPARE(removed.nodes, place == QLatin1String("gone") ? 1 : 0);
   QVERIFY2(console.lines.contains(message), qPrintable(console.lines.join(QLatin1Char('\n'))));
@@ -179,7 +183,7 @@ void TestConsistencyCheck::excludedDrivesServeNobody() {
   net.addElement(makeEdge("P1", "A", "D1"));
   net.addElement(makeEdge("P2", "A", "D3"));
   Console console;
-  const ConsistencyCheck::PruneResult removed = ConsistencyCheck::prune(net);
+  const ConsistencyCheck::PruneResult removed = ConsistencyCheck::prune(net, console.told);
   QVERIFY2(console.lines.contains(
                QStringLiteral("Drive D2: Neither GASNODE D1 nor DRIVEN C9 could be found. Drive is excluded!")),
            qPrintable(console.lines.join(QLatin1Char('\n'))));

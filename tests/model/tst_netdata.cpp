@@ -1,6 +1,5 @@
 #include "elementexceptions.h"
 
-#include <base/nivramsg.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 
@@ -31,18 +30,21 @@ void TestNetData::elementsFindTheirKind() {
   QCOMPARE(net.addElement(makeElement({{"name", "S2"}, {"type", "SUB"}})), NetData::AssembledSubnet);
   QCOMPARE(net.addElement(makeElement({{"name", "T1"}, {"type", "t"}})), NetData::TextBox);
   QCOMPARE(net.addElement(makeElement({{"type", "n"}})), NetData::Unknown);
-  NivraMsg::Recorder recorder;
-  QCOMPARE(net.addElement(makeElement({{"name", "U1"}, {"type", "P"}})), NetData::Unknown); // type codes are exact
-  QCOMPARE(recorder.lines(), QStringList{QStringLiteral("NetData::addElement failed for U1 with unknown type P!")});
+  QStringList log;
+  const auto told = [&log](const Finding &finding) {
+    log.append(finding.text);
+  };
+  QCOMPARE(net.addElement(makeElement({{"name", "U1"}, {"type", "P"}}), told), NetData::Unknown); // type codes are exact
+  QCOMPARE(log, QStringList{QStringLiteral("NetData::addElement failed for U1 with unknown type P!")});
   QCOMPARE(net.nodes().size() + net.edges().size() + net.assembledSubnets().size() + net.textBoxes().size(), std::size_t(6));
 }
 
 void TestNetData::lastOfANameWins() {
   NetData net;
   net.addElement(makeEdge("Pipe1", "A", "B"));
-  NivraMsg::Recorder recorder;
-  net.addElement(makeEdge("PIPE1", "C", "D"));
-  QCOMPARE(recorder.lines(), QStringList{QStringLiteral("Overwriting existing element PIPE1")});
+  QStringList log;
+  net.addElement(makeEdge("PIPE1", "C", "D"), [&log](const Finding &told) { log.append(told.text); });
+  QCOMPARE(log, QStringList{QStringLiteral("Overwriting existing element PIPE1")});
   QCOMPARE(net.edges().size(), std::size_t(1));
   QCOMPARE(net.element(QStringLiteral("pipe1"))->value(QStringLiteral("node1")), QStringLiteral("C"));
   QCOMPARE(net.edges().begin()->name(), QStringLiteral("PIPE1"));

@@ -160,7 +160,7 @@ void TestLayersAndCats::renamingKeepsWhatIsHidden() {
   const QSignalSpy visibility(&editor, &NivraNetLayersEditor::layerVisChanged);
   const QSignalSpy changed(&editor, &NivraNetLayersEditor::propertyChanged);
   {
-    const Answers answers({QMessageBox::Yes});
+    const Answers answers({NivraMsg::Answer::Yes});
     rename(1, "a pipe");
     QVERIFY(answers.areGiven());
   }
@@ -170,14 +170,14 @@ void TestLayersAndCats::renamingKeepsWhatIsHidden() {
   QCOMPARE(table->currentRow(), 0);
   QCOMPARE(visibility.count() + changed.count(), 1); // each of which draws
   {
-    const Answers no({QMessageBox::No}); // a layer of that name is there
+    const Answers no({NivraMsg::Answer::No}); // a layer of that name is there
     rename(0, "c");
     QVERIFY(no.areGiven() && no.texts().first().contains(QStringLiteral("layer already exists! Use?")));
   }
   QCOMPARE(table->rowCount(), 2);
   QCOMPARE(table->item(table->currentRow(), 1)->text(), QStringLiteral("a pipe"));
   {
-    const Answers both({QMessageBox::Yes, QMessageBox::Yes});
+    const Answers both({NivraMsg::Answer::Yes, NivraMsg::Answer::Yes});
     rename(0, "c");
     QVERIFY(both.areGiven());
   }
@@ -259,21 +259,21 @@ void TestLayersAndCats::changedCategoriesAreAskedAbout() {
   QCOMPARE(table->item(0, 1)->text(), QStringLiteral("x")); // which still follows the search
   table->item(1, 1)->setText(QStringLiteral("typed"));
   {
-    const Answers answers({QMessageBox::Cancel, QMessageBox::Cancel});
+    const Answers answers({NivraMsg::Answer::Cancel, NivraMsg::Answer::Cancel});
     reload->click();
     QCOMPARE(table->item(1, 1)->text(), QStringLiteral("typed"));
     QVERIFY(!panel.settleChanges());
     QVERIFY(answers.areGiven());
   }
   {
-    const Answers answers({QMessageBox::Save});
+    const Answers answers({NivraMsg::Answer::Save});
     QVERIFY(panel.settleChanges());
     QVERIFY(answers.areGiven());
   }
   QCOMPARE(CategoryFile::read(m_folder.filePath(QStringLiteral("catdef.csv"))).at(0).name, QStringLiteral("typed"));
   panel.show();
   table->item(1, 1)->setText(QStringLiteral("again"));
-  const Answers discard({QMessageBox::Discard});
+  const Answers discard({NivraMsg::Answer::Discard});
   reload->click();
   QCOMPARE(table->item(1, 1)->text(), QStringLiteral("typed"));
   QVERIFY(panel.settleChanges());

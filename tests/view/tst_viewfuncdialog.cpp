@@ -4,6 +4,7 @@
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
+#include <support/answers.h>
 #include <support/nivratest.h>
 #include <view/viewfuncdialog.h>
 
@@ -13,7 +14,6 @@
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -27,8 +27,6 @@ class TestViewFuncDialog : public QObject {
   Q_OBJECT
 
 private slots:
-  void init() { qunsetenv("NIVRA_BATCH"); }
-  void cleanup() { qputenv("NIVRA_BATCH", "1"); }
   void ranges_data();
   void ranges();
   void choicesOfThePart();
@@ -67,19 +65,6 @@ private:
       chooser->accept();
     });
     press(dialog, button);
-  }
-  /// Answers the next message box and keeps its text.
-  static void answer(QMessageBox::StandardButton button, QString &text) {
-    QTimer::singleShot(0, [button, &text] {
-      auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-      if (box == nullptr)
-        return;
-      text = box->text();
-      if (QAbstractButton *chosen = box->button(button))
-        chosen->click();
-      else
-        box->close();
-    });
   }
 };
 
@@ -172,12 +157,12 @@ void TestViewFuncDialog::invalidRangeAsks_data() {
   QTest::addColumn<QString>("says");
   QTest::addColumn<bool>("applied");
   const QString corrected = QStringLiteral("Proceed with a default/corrected scala?");
-  QTest::newRow("inverted, yes") << QStringLiteral("10") << int(QMessageBox::Yes) << corrected << true;
-  QTest::newRow("inverted, no") << QStringLiteral("10") << int(QMessageBox::No) << corrected << false;
-  QTest::newRow("equal, yes") << QStringLiteral("20") << int(QMessageBox::Yes)
+  QTest::newRow("inverted, yes") << QStringLiteral("10") << int(NivraMsg::Answer::Yes) << corrected << true;
+  QTest::newRow("inverted, no") << QStringLiteral("10") << int(NivraMsg::Answer::No) << corrected << false;
+  QTest::newRow("equal, yes") << QStringLiteral("20") << int(NivraMsg::Answer::Yes)
                               << QStringLiteral("Proceed with a default tiny scala?") << true;
-  QTest::newRow("no number") << QStringLiteral("many") << int(QMessageBox::Ok) << QStringLiteral("\"many\" is no number")
-                             << false;
+  QTest::newRow("no number") << QStringLiteral("many") << int(NivraMsg::Answer::Ok)
+                             << QStringLiteral("\"many\" is no number") << false;
 }
 
 void TestViewFuncDialog::invalidRangeAsks() {
@@ -190,9 +175,9 @@ void TestViewFuncDialog::invalidRangeAsks() {
   viewFuncDialog dialog(f.plot());
   child<QLineEdit>(*row(dialog, 0), "minimum")->setText(QStringLiteral("20"));
   child<QLineEdit>(*row(dialog, 0), "maximum")->setText(high);
-  QString text;
-  answer(static_cast<QMessageBox::StandardButton>(button), text);
+  const Answers answers({static_cast<NivraMsg::Answer>(button)});
   press(dialog, "apply");
+  const QString text = answers.texts().value(0);
   QVERIFY2(text.contains(says), qPrintable(text));
   const PlotSettings &settings = f.plot().settings();
   QCOMPARE(settings.minVal_edgeColor != PlotSettings::OpenMinimum, applied);
@@ -213,9 +198,9 @@ void TestViewFuncDialog::savesBothFiles() {
   QCOMPARE(f.plot().settings().edgeMag, 2.5);
   QCOMPARE(f.plot().update().labelTable().types.front()[LabelRow::Contents], QStringLiteral("@p"));
   dialog.setFiles(QStringLiteral("/nowhere/vfd.csv"), QStringLiteral("/nowhere/plotsettings.ini"));
-  QString text;
-  answer(QMessageBox::Ok, text);
+  const Answers answers({NivraMsg::Answer::Ok});
   press(dialog, "applyAndSave");
+  const QString text = answers.texts().value(0);
   QVERIFY2(text.contains(QStringLiteral("/nowhere/")), qPrintable(text));
 }
 
@@ -355,10 +340,9 @@ void TestViewFuncDialog::templates() {
   const int types = table->rowCount();
   QVERIFY(!(table->item(2, LabelRow::LongName)->flags() & Qt::ItemIsEditable));
   table->setCurrentCell(2, 0);
-  QString text;
-  answer(QMessageBox::Ok, text);
+  const Answers answers({NivraMsg::Answer::Ok});
   press(dialog, "deleteRow");
-  QCOMPARE(text, QStringLiteral("Deleting this row is not allowed!"));
+  QCOMPARE(answers.texts().value(0), QStringLiteral("Deleting this row is not allowed!"));
   press(dialog, "addTemplate");
   QCOMPARE(table->rowCount(), types + 1);
   press(dialog, "apply");

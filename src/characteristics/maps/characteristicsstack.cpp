@@ -1,8 +1,8 @@
 #include "machinepage.h"
 
 #include <base/fileaccess.h>
-#include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 #include <base/wholefile.h>
 #include <characteristics/characteristicsstack.h>
 
@@ -16,7 +16,7 @@
 namespace {
 
 bool isKept() {
-  return GeneralSettings::instance().isOn(QStringLiteral("auto-save PE and CHAR widget list"));
+  return Settings::KeepCharacteristicsList.value();
 }
 
 /// Among the user's own settings, not in the case: nothing is written into a workspace unasked.

@@ -5,7 +5,6 @@
 #include <tools/tablemenu.h>
 
 #include <QApplication>
-#include <QMessageBox>
 
 namespace {
 
@@ -48,12 +47,15 @@ void NivraNetObjectCats::on_pushButtonReload_clicked() {
 bool NivraNetObjectCats::settleChanges() {
   if (QWidget *typedInto = QApplication::focusWidget())
     typedInto->clearFocus(); // what is just being typed is a change
-  if (!m_list->isChanged() || !NivraMsg::isInteractive())
+  if (!m_list->isChanged() || !NivraMsg::showsBoxes())
     return true;
-  const auto answer =
-      QMessageBox::question(this, tr("Element Categories"), tr("The categories have changes that are not saved. Save them?"),
-                            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
-  return answer == QMessageBox::Save ? save() : answer == QMessageBox::Discard;
+  using NivraMsg::Answer;
+  const Answer answer = NivraMsg::show({NivraMsg::Kind::Question,
+                                        tr("The categories have changes that are not saved. Save them?"),
+                                        tr("Element Categories"),
+                                        {Answer::Save, Answer::Discard, Answer::Cancel},
+                                        Answer::Save});
+  return answer == Answer::Save ? save() : answer == Answer::Discard;
 }
 
 void NivraNetObjectCats::showNewList() {

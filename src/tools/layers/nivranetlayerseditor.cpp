@@ -5,7 +5,6 @@
 #include <tools/tablemenu.h>
 
 #include <QInputDialog>
-#include <QMessageBox>
 
 #include <algorithm>
 
@@ -178,9 +177,8 @@ bool NivraNetLayersEditor::mayBecome(const QString &name) {
 }
 
 bool NivraNetLayersEditor::confirms(const QString &title, const QString &question) {
-  QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No, this);
-  box.setTextFormat(Qt::PlainText); // names of layers come from the workspace
-  return box.exec() == QMessageBox::Yes;
+  using NivraMsg::Answer;
+  return NivraMsg::show({NivraMsg::Kind::Question, question, title, {Answer::Yes, Answer::No}}) == Answer::Yes;
 }
 
 QString NivraNetLayersEditor::askForLayer() {
@@ -196,7 +194,8 @@ QString NivraNetLayersEditor::askForLayer() {
       return QString();
     if (Layers::isAllowed(layer))
       break;
-    QMessageBox::warning(this, tr("layer name not allowed"), tr("layer name contains forbidden characters! Try again!"));
+    NivraMsg::show(
+        {NivraMsg::Kind::Warning, tr("layer name contains forbidden characters! Try again!"), tr("layer name not allowed")});
   }
   if (m_layers.all().contains(layer) && !confirms(tr("Choose layer"), tr("layer already exists! Use?")))
     return QString();

@@ -1,6 +1,6 @@
 #include "properties/plotlabelview.h"
 
-#include <base/closeddocument.h>
+#include <markup/closeddocument.h>
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>

@@ -11,7 +11,6 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 
 #include <drawing/colormap.h>
 #include <drawing/drawfunctions.h>
@@ -335,7 +334,7 @@ bool viewFuncDialog::checkBounds(PlotSettings &form) const {
         tr("You specified an invalid range (min>max or difference too tiny)!") +
         (state == DrawRange::State::Inverted ? tr("\nProceed with a default/corrected scala? (No-answer will skip action)?")
                                              : tr("\nProceed with a default tiny scala? (No-answer will skip action)?"));
-    if (NivraMsg::message(NivraMsg::Kind::Question, question) != QMessageBox::Yes)
+    if (NivraMsg::message(NivraMsg::Kind::Question, question) != NivraMsg::Answer::Yes)
       return false;
     DrawRange::correct(minimum, maximum);
   }

@@ -9,7 +9,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
-#include <QMessageBox>
 #include <QSpinBox>
 
 namespace {
@@ -90,9 +89,9 @@ bool PlotSaver::mayBeLarge(const QString &path) {
   const QString suffix = QFileInfo(path).suffix().toLower();
   if (suffix != QLatin1String("ps") && suffix != QLatin1String("bmp") && suffix != QLatin1String("tif"))
     return true;
-  return !NivraMsg::isInteractive() ||
+  return !NivraMsg::showsBoxes() ||
          NivraMsg::message(NivraMsg::Kind::Question, tr("BMP/TIFF might get large, PS might get huge! Continue?")) ==
-             QMessageBox::Yes;
+             NivraMsg::Answer::Yes;
 }
 
 bool PlotSaver::save(const QString &path, const PictureSize &size) {

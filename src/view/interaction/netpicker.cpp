@@ -1,8 +1,8 @@
 #include "canvas/qwtfastplot.h"
 #include "interaction/plotzoom.h"
 
-#include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
 #include <model/topology.h>
@@ -24,10 +24,6 @@ namespace {
 
 constexpr double Tolerance = 8.0; // px beside an element at which a click still means it
 
-QString setting(const char *key) {
-  return GeneralSettings::instance().value(QString::fromLatin1(key));
-}
-
 /// The set of the selection in which elements of the kind are named; of a constant one too.
 template <typename Chosen>
 auto &namesOf(Chosen &selection, NetData::EleType kind) {
@@ -44,7 +40,7 @@ auto &namesOf(Chosen &selection, NetData::EleType kind) {
 }
 
 bool selectsWithShift() {
-  return setting("SelectionModifiers") == QLatin1String("ShiftSelect");
+  return Settings::SelectionModifiers.value() == QLatin1String("ShiftSelect");
 }
 
 } // namespace
@@ -84,8 +80,7 @@ void NetPicker::widgetMousePressEvent(QMouseEvent *event) {
   const bool isRectangle = m_mode == Mode::Rectangle || m_mode == Mode::RectangleMore;
   setMousePattern(MouseSelect1, isRectangle ? Qt::LeftButton : Qt::NoButton, event->modifiers());
   // What may become a movement of the view, or a rectangle to zoom to, selects only as a click.
-  m_picksOnRelease = GeneralSettings::instance().isOn(QStringLiteral("pick on Release")) ||
-                     m_plot.pansWith(event->button(), event->modifiers()) ||
+  m_picksOnRelease = Settings::PickOnRelease.value() || m_plot.pansWith(event->button(), event->modifiers()) ||
                      (event->button() == Qt::LeftButton && m_hits.empty());
   if (!m_picksOnRelease)
     pick(event->button());
@@ -216,7 +211,7 @@ void NetPicker::pick(Qt::MouseButton button) {
   } else if (m_mode == Mode::Pick && !isMenu) {
     setSelection(Selection());
   }
-  if (GeneralSettings::instance().isOn(QStringLiteral("perform pixtest on click")))
+  if (Settings::PerformPixtestOnClick.value())
     m_plot.update().requestPixtest(0);
 }
 
@@ -239,7 +234,7 @@ bool NetPicker::isSelected(NetGeometry::Item item) const {
 
 void NetPicker::deselect(NetGeometry::Item item, Selection &selection) const {
   namesOf(selection, item.kind).remove(nameOf(item));
-  const bool takesNodes = GeneralSettings::instance().isOn(QStringLiteral("subnet deselection to its nodes"));
+  const bool takesNodes = Settings::SubnetDeselectionToItsNodes.value();
   if (item.kind != NetData::AssembledSubnet || !takesNodes)
     return;
   const element &subnet = *m_plot.update().geometry().source(item);
@@ -338,7 +333,7 @@ void NetPicker::widgetKeyPressEvent(QKeyEvent *event) {
     selectAll();
   else if (event->key() == Qt::Key_Escape && !isActive() && !m_net.selection().isEmpty())
     clearSelection();
-  else if (event->key() == setting("UserKey_RectZoom").toInt())
+  else if (event->key() == Settings::UserKeyRectZoom.value())
     startRectangleZoom(event->key());
   else if (isActive() && event->key() == Qt::Key_Escape)
     QwtPlotPicker::widgetKeyPressEvent(event); // gives up the rectangle
@@ -346,7 +341,7 @@ void NetPicker::widgetKeyPressEvent(QKeyEvent *event) {
 
 void NetPicker::widgetKeyReleaseEvent(QKeyEvent *event) {
   const bool isDragging = QApplication::mouseButtons() != Qt::NoButton;
-  if (m_zoomsRectangle && !isDragging && event->key() == setting("UserKey_RectZoom").toInt() && !event->isAutoRepeat())
+  if (m_zoomsRectangle && !isDragging && event->key() == Settings::UserKeyRectZoom.value() && !event->isAutoRepeat())
     endRectangleZoom();
   QwtPlotPicker::widgetKeyReleaseEvent(event);
 }

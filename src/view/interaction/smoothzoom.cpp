@@ -2,17 +2,9 @@
 
 #include "interaction/plotzoom.h"
 
-#include <base/generalsettings.h>
+#include <base/settings.h>
 
 #include <algorithm>
-
-namespace {
-
-int number(const char *setting, int least) {
-  return std::max(least, GeneralSettings::instance().value(QString::fromLatin1(setting)).toInt());
-}
-
-} // namespace
 
 SmoothZoom::SmoothZoom(PlotZoom &zoom)
     : QObject(&zoom)
@@ -28,9 +20,9 @@ void SmoothZoom::zoom(int steps) {
   } else {
     m_pending += steps;
   }
-  const int duration = number("smooth zoom duration", 1);
+  const int duration = std::max(1, Settings::SmoothZoomDuration.value());
   auto *line = new QTimeLine(duration, this);
-  line->setUpdateInterval(std::max(1, duration / number("smooth zoom steps", 1)));
+  line->setUpdateInterval(std::max(1, duration / std::max(1, Settings::SmoothZoomSteps.value())));
   connect(line, &QTimeLine::valueChanged, this, &SmoothZoom::step);
   connect(line, &QTimeLine::finished, this, [this, line] { finish(line); });
   if (m_running.empty())
@@ -72,5 +64,5 @@ void SmoothZoom::finish(QTimeLine *line) {
     return;
   m_pending = 0;
   m_zoom.endMove();
-  emit refreshRequested(number("smooth zoom pixtest delay", 0), true);
+  emit refreshRequested(std::max(0, Settings::SmoothZoomPixtestDelay.value()), true);
 }

@@ -26,6 +26,12 @@ using Findings = std::vector<Finding>;
 /// Adds further findings behind those that are there.
 void append(Findings &findings, Findings more);
 
+/// Told what a step has to say for the log alone, at once and from any thread; may be empty.
+using Told = std::function<void(const Finding &finding)>;
+void tell(const Told &told, Finding::Severity severity, const QString &text);
+
+/// Logs a finding at its level, and leaves its box alone. As a Told it makes log lines of what it is told.
+void logFinding(const Finding &finding);
 /// Logs every finding at its level, also what a box says; texts for a box are shown: the first as it stands, further ones
 /// counted behind it.
 void report(const Findings &findings);

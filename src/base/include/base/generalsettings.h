@@ -1,13 +1,15 @@
 #pragma once
 
 #include <base/fileaccess.h>
+#include <base/finding.h>
 
 #include <QString>
 #include <QStringList>
 
 #include <map>
 
-/// The process-wide named settings: a built-in table, overlaid from a settings file. Keys are compared exactly.
+/// The process-wide named settings: a built-in table, overlaid from a settings file. Keys are compared exactly. What the
+/// viewer acts on is asked for through base/settings.h.
 class GeneralSettings {
 public:
   struct Entry {
@@ -34,15 +36,15 @@ public:
   void reset(); ///< back to the built-in table
   /// Resets, then overlays the settings file: workspaceDir + "/generalsettings_" + user + ".csv", or
   /// "generalsettings.csv" in userDirectory() when workspaceDir is empty. Returns the number of lines taken.
-  int load(const QString &workspaceDir = QString());
-  int loadFile(const QString &path, FileAccess::Source source = FileAccess::Source::Trusted);
+  int load(const QString &workspaceDir, const Told &told);
+  int loadFile(const QString &path, FileAccess::Source source, const Told &told);
 
   static QString settingsFile(const QString &workspaceDir);
   static QString userDirectory(); ///< where "generalsettings.csv" and "stylesheet.qss" are looked for
   static QString userName();      ///< USERNAME, else USER
 
 private:
-  bool takeLine(const QString &line, int lineNumber, const QString &path);
+  bool takeLine(const QString &line, int lineNumber, const QString &path, const Told &told);
 
   std::map<QString, Entry> m_entries;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/finding.h>
+
 #include <QJsonObject>
 #include <QMap>
 #include <QString>
@@ -66,8 +68,8 @@ struct NivraGasParams {
   QMap<QString, QString> origin; ///< per key, the file that set it; without one the default stands
 
   void reset() { *this = NivraGasParams(); }
-  /// Reads directory + "/solverconfig.jsn"; true on success.
-  bool readFromFile(const QString &directory);
+  /// Reads directory + "/solverconfig.jsn"; true on success. A file that is there but cannot be read is a finding.
+  bool readFromFile(const QString &directory, Findings &findings);
   /// A key that is absent or of another type leaves its field as it was.
   /// \param file path, for origin
   void fromJson(const QJsonObject &object, const QString &file = QString());

@@ -10,8 +10,9 @@
 #include <QString>
 
 #include <map>
+#include <utility>
 
-/// Fills a NetData from the files of a workspace. It knows no widgets: what it notices is returned, timings go to the log.
+/// Fills a NetData from the files of a workspace. It returns what it notices.
 class NivraReader {
 public:
   struct Options {
@@ -30,8 +31,10 @@ public:
     Findings findings;
   };
 
-  explicit NivraReader(NetData &net)
-      : m_net(net) {}
+  /// \param told what it is doing, how long that took, and what the network says of an element that it takes
+  explicit NivraReader(NetData &net, Told told = {})
+      : m_net(net)
+      , m_told(std::move(told)) {}
 
   /// Geometry, then the scenario with its companion files where there is one.
   Result readTopoAndScen(const NivraWorkspace &workspace, const Options &options);
@@ -76,6 +79,8 @@ private:
     QString file;
     int line = 0;
   };
+  void log(const QString &text) const { tell(m_told, Finding::Severity::Information, text); }
+  void warn(const QString &text) const { tell(m_told, Finding::Severity::Warning, text); }
   using SetPointPlace = std::pair<const element *, PropertyKey>;
   void set(element &target, PropertyKey key, PropertyText value);
   void convertWaiting(Findings &findings);
@@ -93,6 +98,7 @@ private:
   void readGas(const QString &base, const NivraScenario &scenario, Result &result);
 
   NetData &m_net;
+  Told m_told;
   GasTable m_gases;
   QString m_gasFile;
   std::map<SetPointPlace, WaitingSetPoint> m_waiting;

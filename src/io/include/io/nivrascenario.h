@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/finding.h>
+
 #include <QJsonObject>
 #include <QMap>
 #include <QPair>
@@ -31,8 +33,9 @@ struct NivraScenario {
 
   /// A work directory "EMPTY", "." or empty stands for no scenario.
   bool isAbsent() const;
-  /// A key that is absent or of another type leaves its field and is logged. \param file path, for origin
-  void fromJson(const QJsonObject &object, const QString &file = QString());
+  /// A key that is absent or of another type leaves its field; those that are absent are returned, for the log.
+  /// \param file path, for origin
+  Findings fromJson(const QJsonObject &object, const QString &file = QString());
   /// Key and value of the fields that name files and the version.
   QVector<QPair<QString, QString>> entries() const;
   QJsonObject toJson() const;

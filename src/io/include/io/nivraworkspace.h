@@ -26,10 +26,11 @@ public:
     void setFilesFromBaseName(const QString &base);
   };
 
-  /// Without a case when the path yields no workspace; the reason is logged.
+  /// Without a case when the path yields no workspace; findings() says why.
   static NivraWorkspace fromFile(const QString &path);
 
   bool isValid() const { return !m_cases.isEmpty(); }
+  const Findings &findings() const { return m_findings; } ///< of fromFile(), for the log
   const QString &root() const { return m_root; }
   bool isJson() const { return m_json; }
   const QVector<Case> &cases() const { return m_cases; }
@@ -56,13 +57,13 @@ public:
   void readScenarioConfiguration(NivraGasParams &gas, Findings &findings, bool skipWorkDirCheck = false);
 
   /// Lays what a ".scen.cfg.jsn" file holds over the current scenario and its gas parameters; the directory and the opened
-  /// file stay.
-  void takeConfiguration(const QJsonObject &object, NivraGasParams &gas, const QString &file = QString());
+  /// file stay. Returns what the log should say.
+  Findings takeConfiguration(const QJsonObject &object, NivraGasParams &gas, const QString &file = QString());
 
 private:
   void findCaseFiles();
   void takeChosenGeometry(const QString &base);
-  void readUnifiedConfiguration(const QString &directory);
+  void readUnifiedConfiguration(const QString &directory, Findings &findings);
   void readTextConfiguration(const QString &path, NivraGasParams &gas, Findings &findings);
   void checkScenarioDirectory(const QString &actualName, Findings &findings);
 
@@ -70,4 +71,5 @@ private:
   QString m_chosen;
   bool m_json = false;
   QVector<Case> m_cases;
+  Findings m_findings;
 };

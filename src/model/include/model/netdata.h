@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/finding.h>
 #include <model/elements.h>
 #include <model/selection.h>
 
@@ -34,8 +35,8 @@ public:
   virtual ~NetData();
 
   /// Inserts the element into the collection of its kind and returns the kind; an element of the same name is
-  /// overwritten with a warning. Unknown (0) when "name" or "type" is missing or the type is not known.
-  EleType addElement(element added);
+  /// overwritten, which is told. Unknown (0) when "name" or "type" is missing or the type is not known; the latter is told.
+  EleType addElement(element added, const Told &told = {});
 
   /// The first kind of the mask, ascending, whose collection holds the name; (Unknown, null) when none does.
   std::pair<EleType, ::element *> findElement(const QString &name, int mask) const;

@@ -28,6 +28,8 @@ public:
   };
 
   static const NetMetaData &instance();
+  /// Of reading the instance's "Attribute.csv".
+  const Findings &findings() const { return m_findings; }
 
   NetMetaData(); ///< the built-in type names and no attributes
   /// Reads "Attribute.csv" from the device; faulty lines are returned and left out.
@@ -60,6 +62,7 @@ private:
   QStringList m_nodeFunctions;
   QStringList m_edgeFunctions;
   std::vector<Attribute> m_attributes;
+  Findings m_findings;
   QHash<QString, int> m_index;         ///< folded type + "\n" + folded property -> position
   QHash<QString, int> m_propertyIndex; ///< folded property -> first position
 };

@@ -1,6 +1,6 @@
 #include "labels/labelpass.h"
 
-#include <base/closeddocument.h>
+#include <markup/closeddocument.h>
 
 #include <QFontMetricsF>
 

@@ -1,4 +1,4 @@
-#include <base/generalsettings.h>
+#include <base/settings.h>
 
 #include <algorithm>
 #include <drawing/selectionlayer.h>
@@ -8,16 +8,12 @@ namespace {
 constexpr double SelectionZ = 3000.0; // above everything
 constexpr double LineMargin = 8.0;    // px that the mark of a line is broader than a thin one
 
-QString setting(const QString &key) {
-  return GeneralSettings::instance().value(key);
-}
-
-QColor colorSetting(const QString &name) {
+QColor colorOf(const Setting<QString> &name, const Setting<int> &alpha) {
   constexpr int Opaque = 255;
-  QColor color(setting(name + QStringLiteral(" color")));
+  QColor color(name.value());
   if (!color.isValid())
     color = Qt::red;
-  color.setAlpha(qBound(0, setting(name + QStringLiteral(" alpha")).toInt(), Opaque));
+  color.setAlpha(qBound(0, alpha.value(), Opaque));
   return color;
 }
 
@@ -43,19 +39,18 @@ bool SelectionLayer::setHovered(std::optional<NetGeometry::Item> item) {
   return true;
 }
 
-SelectionLayer::Style SelectionLayer::styleOf(const QString &kind) {
-  const int style = setting(kind + QStringLiteral(" selection brush style")).toInt();
+SelectionLayer::Style SelectionLayer::styleOf(const Settings::SelectionMark &mark) {
   Style found;
-  found.brush = QBrush(colorSetting(kind + QStringLiteral(" selection brush")),
-                       static_cast<Qt::BrushStyle>(qBound(0, style, int(Qt::Dense7Pattern))));
-  found.pen = QPen(colorSetting(kind + QStringLiteral(" selection pen")), 1.5);
+  found.brush = QBrush(colorOf(mark.brushColor, mark.brushAlpha),
+                       static_cast<Qt::BrushStyle>(qBound(0, mark.brushStyle.value(), int(Qt::Dense7Pattern))));
+  found.pen = QPen(colorOf(mark.penColor, mark.penAlpha), 1.5);
   return found;
 }
 
 void SelectionLayer::readSettings() {
-  m_element = styleOf(QStringLiteral("element"));
-  m_subnet = styleOf(QStringLiteral("subnet"));
-  m_subnetFactor = qBound(0.0, setting(QStringLiteral("subnet selection size factor")).toDouble(), 10.0);
+  m_element = styleOf(Settings::ElementSelection);
+  m_subnet = styleOf(Settings::SubnetSelection);
+  m_subnetFactor = qBound(0.0, Settings::SubnetSelectionSizeFactor.value(), 10.0);
 }
 
 std::optional<QLineF> SelectionLayer::lineOf(NetGeometry::Item item, const Projection &projection) const {

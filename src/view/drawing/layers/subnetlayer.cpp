@@ -1,4 +1,4 @@
-#include <base/generalsettings.h>
+#include <base/settings.h>
 #include <model/elementstate.h>
 #include <model/subnetstate.h>
 
@@ -7,12 +7,8 @@
 
 namespace {
 
-QString setting(const char *key) {
-  return GeneralSettings::instance().value(QString::fromLatin1(key));
-}
-
-QColor colorSetting(const char *key) {
-  const QColor color(setting(key));
+QColor colorOf(const Setting<QString> &setting) {
+  const QColor color(setting.value());
   return color.isValid() ? color : QColor(Qt::gray);
 }
 
@@ -28,39 +24,39 @@ QColor controlColor(const NetData &net, const element &subnet) {
     return state.contains(QLatin1String(word));
   };
   if (ElementState::saysOff(&control) || ElementState::isOutOfUse(subnet))
-    return colorSetting("subnet color off");
+    return colorOf(Settings::SubnetColorOff);
   if (says("bypass"))
-    return colorSetting("subnet color bypass");
+    return colorOf(Settings::SubnetColorBypass);
   if (says("maybe"))
-    return colorSetting("subnet color maybe in control");
+    return colorOf(Settings::SubnetColorMaybeInControl);
   if (says("pressure"))
-    return colorSetting("subnet color pressure control");
+    return colorOf(Settings::SubnetColorPressureControl);
   if (says("flow"))
-    return colorSetting("subnet color flow control");
-  return colorSetting(says("control") ? "subnet color maybe in control" : "subnet color unknown");
+    return colorOf(Settings::SubnetColorFlowControl);
+  return colorOf(says("control") ? Settings::SubnetColorMaybeInControl : Settings::SubnetColorUnknown);
 }
 
 /// Which bounds it violates, by its "CB_info": absent when nobody has checked, empty when there are none.
 QColor boundsColor(const element &subnet) {
   const PropertyText *info = subnet.find(QStringLiteral("CB_info"));
   if (info == nullptr)
-    return colorSetting("subnet ring color BV unknown");
+    return colorOf(Settings::RingColorUnknown);
   const QString text = info->toString().remove(QLatin1Char('(')).remove(QLatin1Char(')')).remove(QLatin1Char(';')).trimmed();
   if (text.isEmpty())
-    return colorSetting("subnet ring color no BV");
-  return colorSetting(text.contains(QLatin1String("major"), Qt::CaseInsensitive) ? "subnet ring color BV major"
-                                                                                 : "subnet ring color BV minor");
+    return colorOf(Settings::RingColorNone);
+  return colorOf(text.contains(QLatin1String("major"), Qt::CaseInsensitive) ? Settings::RingColorMajor
+                                                                            : Settings::RingColorMinor);
 }
 
 QColor ringColor(const NetData &net, const element &subnet) {
-  const QString mode = setting("show subnet ring colors");
+  const QString mode = Settings::SubnetRingColors.value();
   if (mode == QLatin1String("BV status"))
     return boundsColor(subnet);
   if (mode == QLatin1String("SP/SM control"))
     return controlColor(net, subnet);
   if (mode == QLatin1String("search results") && isSearchResult(subnet))
-    return colorSetting("subnet ring color search result");
-  return colorSetting("subnet color unknown");
+    return colorOf(Settings::RingColorSearchResult);
+  return colorOf(Settings::SubnetColorUnknown);
 }
 
 std::vector<QPointF> pinsOf(const NetGeometry::Place &subnet, const NetGeometry &geometry) {
@@ -91,13 +87,13 @@ void SubnetLayer::setLook(double size, int alpha) {
   constexpr int Opaque = 255;
   m_size = size;
   m_alpha = qBound(0, alpha, Opaque);
-  m_penWidth = qBound(0.0, setting("subnet pen width").toDouble(), 50.0);
-  m_groundMargin = qBound(0.0, setting("subnet background size").toDouble(), 200.0);
-  m_drawsPinLines = GeneralSettings::instance().isOn(QStringLiteral("draw subassembly pin lines"));
-  const QString mode = setting("subassembly size");
+  m_penWidth = qBound(0.0, Settings::SubnetPenWidth.value(), 50.0);
+  m_groundMargin = qBound(0.0, Settings::SubnetBackgroundSize.value(), 200.0);
+  m_drawsPinLines = Settings::DrawSubassemblyPinLines.value();
+  const QString mode = Settings::SubassemblySize.value();
   m_takesWidth = mode.contains(QLatin1String("width"));
   m_takesVisSize = mode.contains(QLatin1String("vis.size"));
-  setZ(setting("subnet background z").toDouble());
+  setZ(Settings::SubnetBackgroundZ.value());
 }
 
 void SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry) {

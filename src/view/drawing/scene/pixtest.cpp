@@ -1,4 +1,4 @@
-#include <base/generalsettings.h>
+#include <base/settings.h>
 
 #include <QTime>
 
@@ -6,10 +6,6 @@
 #include <drawing/pixtest.h>
 
 namespace {
-
-QString setting(const char *key) {
-  return GeneralSettings::instance().value(QString::fromLatin1(key));
-}
 
 int timeOfDay() {
   return QTime::currentTime().msecsSinceStartOfDay();
@@ -27,16 +23,16 @@ Pixtest::Pixtest(std::function<void(Labels)> run, std::function<View()> view)
 }
 
 void Pixtest::requestPixtest(int delay, bool quick) {
-  if (m_isSuspended || setting("perform pixtest") == QLatin1String("0"))
+  if (m_isSuspended || !Settings::PerformPixtest.value())
     return;
-  const QString placement = setting("perform label placement");
+  const QString placement = Settings::LabelPlacement.value();
   if (placement == QLatin1String("never")) {
     m_run(Labels::Without);
     return;
   }
   if (placement == QLatin1String("proximity")) {
     const View view = m_view();
-    if (view.isSubassembly || view.ratio <= setting("perform label placement ratio").toDouble())
+    if (view.isSubassembly || view.ratio <= Settings::LabelPlacementRatio.value())
       schedule(delay, quick);
     else
       scheduleWithoutLabels(delay);
@@ -55,7 +51,7 @@ void Pixtest::requestPixtest(int delay, bool quick) {
 
 int Pixtest::patience() const {
   constexpr int Least = 100;
-  const int apart = std::max(Least, setting("perform label placement msec").toInt());
+  const int apart = std::max(Least, Settings::LabelPlacementMsec.value());
   const int passed = timeOfDay() - m_lastPlacement;
   return m_lastPlacement < 0 || passed < 0 || passed >= apart ? 0 : apart - passed; // less than 0 after midnight
 }

@@ -1,53 +1,48 @@
 #pragma once
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QMessageBox>
-#include <QPointer>
-#include <QTimer>
+#include <base/nivramsg.h>
+
+#include <QStringList>
+#include <QThread>
 
 #include <vector>
 
-/// Makes the program show message boxes and answers those that open during its lifetime, one after the other, each after the
-/// time that a person takes. One too many is cancelled, so that no test waits for a person.
+/// Stands for the person: the program is interactive during its lifetime, and the boxes that it wants to show are answered
+/// one after the other, each after the time that a person takes. One too many is cancelled. Only one at a time.
 class Answers {
 public:
-  explicit Answers(std::vector<QMessageBox::StandardButton> buttons, int afterMs = 0)
-      : m_buttons(std::move(buttons))
+  explicit Answers(std::vector<NivraMsg::Answer> answers, unsigned long afterMs = 0)
+      : m_answers(std::move(answers))
       , m_afterMs(afterMs) {
     qunsetenv("NIVRA_BATCH"); // which stands for all tests
-    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { lookForBox(); });
-    constexpr int Soon = 10; // ms
-    m_timer.start(Soon);
+    NivraMsg::setBoxSink([this](const NivraMsg::Box &box) { return answerTo(box); });
   }
-  ~Answers() { qputenv("NIVRA_BATCH", "1"); }
+  ~Answers() {
+    NivraMsg::setBoxSink({});
+    qputenv("NIVRA_BATCH", "1");
+  }
   Answers(const Answers &) = delete;
   Answers &operator=(const Answers &) = delete;
 
-  /// As many boxes have opened as answers were ready.
-  bool areGiven() const { return m_texts.size() == static_cast<int>(m_buttons.size()); }
-  const QStringList &texts() const { return m_texts; }
-
-private:
-  void lookForBox() {
-    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-    if (box == nullptr || box == m_seen)
-      return;
-    m_seen = box;
-    const auto next = static_cast<std::size_t>(m_texts.size());
-    m_texts.append(box->text());
-    const auto answer = next < m_buttons.size() ? m_buttons[next] : QMessageBox::NoButton;
-    QTimer::singleShot(m_afterMs, box, [box, answer] {
-      if (QAbstractButton *button = box->button(answer))
-        button->click();
-      else
-        box->reject();
-    });
+  /// As many boxes have been shown as answers were ready.
+  bool areGiven() const { return m_boxes.size() == m_answers.size(); }
+  const std::vector<NivraMsg::Box> &boxes() const { return m_boxes; }
+  QStringList texts() const {
+    QStringList texts;
+    for (const NivraMsg::Box &box : m_boxes)
+      texts.append(box.text);
+    return texts;
   }
 
-  std::vector<QMessageBox::StandardButton> m_buttons;
-  int m_afterMs;
-  QPointer<QMessageBox> m_seen;
-  QStringList m_texts;
-  QTimer m_timer;
+private:
+  NivraMsg::Answer answerTo(const NivraMsg::Box &box) {
+    QThread::msleep(m_afterMs);
+    const std::size_t next = m_boxes.size();
+    m_boxes.push_back(box);
+    return next < m_answers.size() ? m_answers[next] : NivraMsg::Answer::Cancel;
+  }
+
+  std::vector<NivraMsg::Answer> m_answers;
+  unsigned long m_afterMs;
+  std::vector<NivraMsg::Box> m_boxes;
 };

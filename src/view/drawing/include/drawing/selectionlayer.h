@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/settings.h>
+
 #include <qwt_plot_item.h>
 
 #include <drawing/layerfilter.h>
@@ -37,7 +39,7 @@ private:
     QBrush brush;
     QPen pen;
   };
-  static Style styleOf(const QString &kind);
+  static Style styleOf(const Settings::SelectionMark &mark);
   void drawItem(QPainter &painter, const Projection &projection, NetGeometry::Item item, const Style &style) const;
   std::optional<QLineF> lineOf(NetGeometry::Item item, const Projection &projection) const;
   double reachOf(NetGeometry::Item item) const;

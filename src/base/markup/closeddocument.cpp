@@ -1,4 +1,4 @@
-#include <base/closeddocument.h>
+#include <markup/closeddocument.h>
 
 #include <QImage>
 #include <QUrl>

@@ -1,4 +1,4 @@
-#include "callstack.h"
+#include <callstack/callstack.h>
 
 #include <backtrace.h>
 #include <cstdint>

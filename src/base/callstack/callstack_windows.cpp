@@ -1,7 +1,7 @@
 // The debugging support library and the module functions are loaded at run time: a system may lack any of them, and the
 // program must start all the same.
 
-#include "callstack.h"
+#include <callstack/callstack.h>
 
 #include <cstdarg>
 #include <cstdio>

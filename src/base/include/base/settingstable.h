@@ -1,0 +1,173 @@
+#pragma once
+
+#include <stdexcept>
+#include <string_view>
+
+/// The one table of the general settings: what there is, its default, and whether the viewer acts on it.
+namespace SettingsTable {
+
+enum class Effect {
+  Acts, ///< the viewer acts on it, through a constant of base/settings.h
+  Kept  ///< the viewer keeps it for the tools that work on the same workspaces
+};
+
+struct Row {
+  const char *key;
+  const char *value;
+  const char *type; ///< "bool" (value "1" or "0"), "string" or "list"
+  const char *category;
+  const char *options; ///< of a "list", joined by ","
+  Effect effect;
+};
+
+constexpr Effect Acts = Effect::Acts;
+constexpr Effect Kept = Effect::Kept;
+
+inline constexpr Row Rows[] = {
+    {"start with last scenario", "off", "list", "general", "on,off", Acts},
+    {"auto-save PE and CHAR widget list", "on", "list", "general", "on,off", Acts},
+    {"use comma", "1", "bool", "general", "", Acts},
+    {"zoom to element", "0", "bool", "zooming", "", Acts},
+    {"perform pixtest", "1", "bool", "zooming", "", Acts},
+    {"pixtest delay", "100", "string", "zooming", "", Acts},
+    {"smooth zoom", "1", "bool", "zooming", "", Acts},
+    {"smooth zoom pixtest delay", "200", "string", "zooming", "", Acts},
+    {"smooth zoom duration", "150", "string", "zooming", "", Acts},
+    {"smooth zoom steps", "10", "string", "zooming", "", Acts},
+    {"perform pixtest on click", "0", "bool", "zooming", "", Acts},
+    {"build labels", "on", "list", "general", "on,off", Acts},
+    {"build symbols", "on", "list", "general", "on,off", Acts},
+    {"perform label placement", "proximity", "list", "zooming", "always,proximity,wait,never", Acts},
+    {"perform label placement ratio", "0.4", "string", "zooming", "", Acts},
+    {"perform label placement msec", "3000", "string", "zooming", "", Acts},
+    {"zoom to element: factor", "4.0", "string", "zooming", "", Acts},
+    {"tiny conversion tolerance", "1e-10", "string", "general", "", Acts},
+    {"element selection brush color", "#D0A9F5", "string", "selection", "", Acts},
+    {"element selection brush alpha", "127", "string", "selection", "", Acts},
+    {"element selection brush style", "3", "list", "selection", "0,1,2,3,4,5,6,7", Acts},
+    {"element selection pen color", "red", "string", "selection", "", Acts},
+    {"element selection pen alpha", "127", "string", "selection", "", Acts},
+    {"subnet deselection to its nodes", "off", "list", "selection", "on,off", Acts},
+    {"subnet selection brush color", "#58ACFA", "string", "selection", "", Acts},
+    {"subnet selection brush alpha", "127", "string", "selection", "", Acts},
+    {"subnet selection brush style", "5", "list", "selection", "0,1,2,3,4,5,6,7", Acts},
+    {"subnet selection pen color", "red", "string", "selection", "", Acts},
+    {"subnet selection pen alpha", "127", "string", "selection", "", Acts},
+    {"subnet selection size factor", "0.8", "string", "selection", "", Acts},
+    {"show subnet ring colors", "BV status", "list", "subnets", "BV status,SP/SM control,search results,off", Acts},
+    {"subnet background z", "1000.0", "string", "subnets", "", Acts},
+    {"subnet background size", "15", "string", "subnets", "", Acts},
+    {"subnet pen width", "3.0", "string", "subnets", "", Acts},
+    {"subnet ring color BV major", "#FF00FF", "string", "subnets", "", Acts},
+    {"subnet ring color BV minor", "#B45F04", "string", "subnets", "", Acts},
+    {"subnet ring color no BV", "#088A08", "string", "subnets", "", Acts},
+    {"subnet ring color BV unknown", "#A4A4A4", "string", "subnets", "", Acts},
+    {"subnet ring color search result", "#FF0000", "string", "subnets", "", Acts},
+    {"subnet color flow control", "yellow", "string", "subnets", "", Acts},
+    {"subnet color pressure control", "#FA7501", "string", "subnets", "", Acts},
+    {"subnet color maybe in control", "#65DF9E", "string", "subnets", "", Acts},
+    {"subnet color bypass", "blue", "string", "subnets", "", Acts},
+    {"subnet color unknown", "#A4A4A4", "string", "subnets", "", Acts},
+    {"subnet color off", "red", "string", "subnets", "", Acts},
+    {"draw subassembly pin lines", "on", "list", "subnets", "on,off", Acts},
+    {"subassembly size", "take vis.size", "list", "subnets", "take vis.size,width,vis.size and width,fixed", Acts},
+    {"UserKey_RectZoom", "16777248", "string", "mouse and keys", "", Acts},
+    {"MousePattern_Panning", "Left_Ctrl", "list", "mouse and keys", "Left_Ctrl,MidButton,RightButton", Acts},
+    {"SelectionModifiers", "DirectSelect", "list", "mouse and keys", "DirectSelect,ShiftSelect", Acts},
+    {"PELKA mode", "off", "list", "special", "on,off", Acts},
+    {"status bar style sheet failed", "background: #F7BE81", "string", "status bar", "", Acts},
+    {"status bar style sheet stopped", "background: #F9ECAD", "string", "status bar", "", Acts},
+    {"status bar style sheet acceptable", "background: lightBlue", "string", "status bar", "", Acts},
+    {"status bar style sheet successful", "background: lightGreen", "string", "status bar", "", Acts},
+    {"ask for include lists", "0", "bool", "general", "", Acts},
+    {"pick on Release", "0", "bool", "mouse and keys", "", Acts},
+    // Kept for the tools that prepare networks on the same workspaces: the viewer's own check adds no properties, knows no
+    // subnets and asks for no property by its name; subnets are always updated in one way and their windows place labels
+    // whatever is seen of them; every bound that is violated is told, searched and shown by the rings of subnets.
+    {"subnet update routine", "build version", "list", "subnets", "old version,new version,build version", Kept},
+    {"check net and add missing properties", "off", "list", "general", "after reading,off", Kept},
+    {"ignore subnets while checking net", "on", "list", "general", "on,off", Kept},
+    {"properties to be ignored while checking net", "^sm|^sp", "string", "general", "", Kept},
+    {"perform subnet label placement ratio", "0.05", "string", "subnets", "", Kept},
+    {"show major BVs in net", "search only", "list", "report", "search and visualize,search only,no", Kept},
+    {"show minor BVs", "summary only", "list", "report", "true,summary only", Kept},
+    // What the solving tools and reports on the same workspaces use; the viewer keeps it.
+    {"overwrite atan_fact", "", "string", "special", "", Kept},
+    {"QP: enforce POWSET bounds at supplies", "off", "list", "special", "on,on if needed,guess,off", Kept},
+    {"QP: mset tolerance (init)", "1000", "string", "special", "", Kept},
+    {"QP: mset tolerance (advanced)", "50", "string", "special", "", Kept},
+    {"regularization eps2", "0", "string", "special", "", Kept},
+    {"regularization eps2 score", "1e-5", "string", "special", "", Kept},
+    {"erase tset at special supplies", "", "string", "special", "", Kept},
+    {"use_reg_mmax", "", "string", "special", "", Kept},
+    {"pseudo-timestep value", "1e5", "string", "special", "", Kept},
+    {"start optimization after", "initialization", "string", "special", "", Kept},
+    {"after optimize step", "mix", "string", "special", "", Kept},
+    {"extra initialization steps", "1", "string", "special", "", Kept},
+    {"conv problems in init", "goto check", "string", "special", "", Kept},
+    {"extra free compressor steps", "1", "string", "special", "", Kept},
+    {"conv problems in free", "goto check", "string", "special", "", Kept},
+    {"conv problems in advanced", "goto check", "string", "special", "", Kept},
+    {"advanced phase", "standard", "string", "special", "", Kept},
+    {"keep old utrans output folders", "", "string", "special", "", Kept},
+    {"aggregate over shortcuts", "", "string", "special", "", Kept},
+    {"redistribute over shortcuts", "", "string", "special", "", Kept},
+    {"save results of sub-elements", "", "string", "special", "", Kept},
+    {"load results of sub-elements", "", "string", "special", "", Kept},
+    {"molar gas constant", "8.3144621", "string", "special", "", Kept},
+    {"norm pressure", "1.01325", "string", "special", "", Kept},
+    {"norm temperature", "273.15", "string", "special", "", Kept},
+    {"use gas law correction", "DC92", "list", "special", "DC92,GERG2008", Kept},
+    {"enforce gas law correction", "", "string", "special", "", Kept},
+    {"basic_gases file", "basic_gases_def.csv", "string", "special", "", Kept},
+    {"HTML h1", "", "string", "report", "", Kept},
+    {"HTML h2", "", "string", "report", "", Kept},
+    {"HTML h3", "", "string", "report", "", Kept},
+    {"HTML p", "", "string", "report", "", Kept},
+    {"HTML table", "", "string", "report", "", Kept},
+    {"visualize plots", "P,Q,T,CV", "string", "report", "", Kept},
+    {"visualize diff-plots", "diff_P,diff_Q,diff_T,diff_CV", "string", "report", "", Kept},
+    {"status bar progressbar for solver", "", "string", "status bar", "", Kept},
+    {"exclude files from archive", "*.zip", "string", "general", "", Kept},
+    {"unzip created archive after copy", "", "string", "general", "", Kept},
+    {"remove created archive after copy", "", "string", "general", "", Kept},
+    {"scan for ensemble scenarios", "", "string", "general", "", Kept},
+    {"prefix for variants", "", "list", "general", ",var", Kept},
+    {"variant mode", "", "string", "general", "", Kept},
+    {"correct height differences", "", "string", "special", "", Kept},
+    {"strategy for stalled regulators (analyze)", "", "string", "special", "", Kept},
+    {"change states of stalled regulators", "", "string", "special", "", Kept},
+    {"change states of stalled compressors", "", "string", "special", "", Kept},
+    {"change states of stalled regulators after", "", "string", "special", "", Kept},
+    {"overwrite REG_PAR_stalled tol.", "", "string", "special", "", Kept},
+    {"check states of stalled reg. tol.", "", "string", "special", "", Kept},
+    {"change states of stalled reg. tol. pdiff", "", "string", "special", "", Kept},
+    {"change states of stalled reg. tol. simple", "", "string", "special", "", Kept},
+    {"change states of stalled reg. tol.", "", "string", "special", "", Kept},
+    {"change states of stalled reg. neg. tol.", "", "string", "special", "", Kept},
+    {"mmax: lower bound for c,r", "-1e4", "string", "special", "", Kept},
+    {"WT correction", "restore", "string", "special", "", Kept},
+    {"WT correction Tmin [C]", "-10", "string", "special", "", Kept},
+    {"WT correction Wmin", "7500", "string", "special", "", Kept},
+    {"WT correction Tmax [C]", "", "string", "special", "", Kept},
+    {"WT correction Wmax", "10500", "string", "special", "", Kept},
+    {"change source values", "", "string", "special", "", Kept},
+    {"allow touching non-preset props", "", "string", "special", "", Kept},
+    {"allow touching extra props", "", "string", "special", "", Kept},
+    {"prefix for REST actions", "", "string", "special", "", Kept},
+    {"POST needs LOCK of scenario", "", "string", "special", "", Kept},
+    {"unlock all with scenario", "", "string", "special", "", Kept},
+    {"get all variants", "manually", "string", "special", "", Kept},
+    {"notify waiting for lock or unlock", "", "string", "special", "", Kept},
+};
+
+/// Throws for a key that the table does not know, which while compiling is an error.
+constexpr const Row &row(std::string_view key) {
+  for (const Row &row : Rows) {
+    if (key == row.key)
+      return row;
+  }
+  throw std::invalid_argument("there is no such setting");
+}
+
+} // namespace SettingsTable
