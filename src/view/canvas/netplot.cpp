@@ -1,11 +1,12 @@
+#include "canvas/colorbars.h"
 #include "canvas/plotpanner.h"
 #include "canvas/qwtfastplot.h"
 #include "configure/plotsettingsfile.h"
 #include "interaction/plotzoom.h"
 #include "interaction/smoothzoom.h"
 
-#include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 #include <view/netplot.h>
 
 #include <QMenu>
@@ -82,7 +83,7 @@ void NetPlot::setUpUpdate() {
   for (QwtPlotItem *item : m_update->items())
     item->attach(m_plot);
   connect(m_update.get(), &NetUpdate::scalesChanged, this, [this] {
-    ColorScale::show(*m_plot, m_settings, m_update->values(), m_update->coloured(), m_update->swatches());
+    ColorBars::show(*m_plot, m_settings, m_update->values(), m_update->coloured(), m_update->swatches());
     showAxes();
   });
   connect(m_update.get(), &NetUpdate::extentChanged, this, &NetPlot::fitNetwork);
@@ -118,8 +119,7 @@ void NetPlot::refresh(int delay) {
 }
 
 void NetPlot::zoomByWheel(int steps, QPointF anchor) {
-  const GeneralSettings &general = GeneralSettings::instance();
-  const bool isToElement = general.isOn(QStringLiteral("zoom to element"));
+  const bool isToElement = Settings::ZoomToElement.value();
   if (isToElement) {
     constexpr double Tolerance = 20.0; // px
     const QPointF place(m_plot->transform(QwtPlot::xBottom, anchor.x()), m_plot->transform(QwtPlot::yLeft, anchor.y()));
@@ -127,7 +127,7 @@ void NetPlot::zoomByWheel(int steps, QPointF anchor) {
     if (!hits.empty())
       anchor = m_update->geometry().center(hits.front().item).value_or(anchor);
   }
-  if (general.isOn(QStringLiteral("smooth zoom"))) {
+  if (Settings::SmoothZoom.value()) {
     m_smoothZoom->setAnchor(isToElement ? std::make_optional(anchor) : std::nullopt);
     m_smoothZoom->zoom(steps);
     return;
@@ -146,7 +146,7 @@ void NetPlot::zoomToElement(NetGeometry::Item item) {
     return;
   constexpr double Smallest = 1.0;
   constexpr double Largest = 1000.0;
-  const double wanted = GeneralSettings::instance().value(QStringLiteral("zoom to element: factor")).toDouble();
+  const double wanted = Settings::ZoomToElementFactor.value();
   const double factor = qBound(Smallest, wanted, Largest);
   QSizeF size(m_settings.smallestZoomWidth, m_settings.smallestZoomHeight);
   if (item.kind == NetData::Edge) {
@@ -158,7 +158,7 @@ void NetPlot::zoomToElement(NetGeometry::Item item) {
 }
 
 void NetPlot::readMousePattern() {
-  const QString pattern = GeneralSettings::instance().value(QStringLiteral("MousePattern_Panning"));
+  const QString pattern = Settings::MousePatternPanning.value();
   if (pattern == QLatin1String("Left_Ctrl"))
     m_panner->setMouseButton(Qt::LeftButton, Qt::ControlModifier);
   else if (pattern == QLatin1String("RightButton"))

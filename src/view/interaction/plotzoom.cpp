@@ -2,8 +2,8 @@
 
 #include "canvas/qwtfastplot.h"
 
-#include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -75,7 +75,7 @@ void PlotZoom::setExtent(const QRectF &extent) {
 
 void PlotZoom::requestRefresh() {
   if (m_ownRequests == 0 && m_move == Move::None)
-    emit refreshRequested(GeneralSettings::instance().value(QStringLiteral("pixtest delay")).toInt());
+    emit refreshRequested(Settings::PixtestDelay.value());
 }
 
 void PlotZoom::resetZoomBase(const QRectF &rect) {

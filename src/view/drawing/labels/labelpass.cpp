@@ -6,16 +6,9 @@
 
 #include <algorithm>
 #include <array>
-#include <drawing/edgelayer.h>
-#include <drawing/nodelayer.h>
-#include <drawing/subnetlayer.h>
-#include <drawing/symbollayer.h>
-#include <drawing/textboxlayer.h>
 #include <map>
 
 namespace {
-
-enum Rank { SubnetRank, StationRank, SetPointRank, PipeRank, JunctionRank };
 
 /// Widths of texts from those of their letters, which is close enough for a box and much quicker than laying them out.
 class FontMeasure {
@@ -48,108 +41,6 @@ private:
 
 } // namespace
 
-LabelPass::LabelPass(const Drawing &drawing, const LabelContents &contents, const Projection &projection, double margin)
-    : m_drawing(drawing)
-    , m_contents(contents)
-    , m_projection(projection)
-    , m_placement(projection.canvas(), margin) {}
-
-void LabelPass::add(NetGeometry::Item item, const QLineF &place, bool isLine, double clearance, int rank, double weight) {
-  if (m_drawing.visibility.of(item) != VisibilityRules::State::On || m_drawing.layers.isHidden(item))
-    return;
-  Wish wish;
-  wish.candidate.item = item;
-  wish.candidate.isLine = isLine;
-  wish.candidate.line = {m_projection.map(place.x1(), place.y1()), m_projection.map(place.x2(), place.y2())};
-  wish.candidate.clearance = clearance;
-  wish.place = place;
-  wish.rank = rank;
-  wish.weight = weight;
-  m_wishes.push_back(wish);
-}
-
-void LabelPass::collectSubnets() {
-  for (const SubnetLayer::Placed &placed : m_drawing.subnets.place(m_projection)) {
-    m_placement.addObstacle(placed.box);
-    const NetGeometry::Item item{NetData::AssembledSubnet, placed.subnet};
-    const QPointF center = *m_drawing.geometry.center(item);
-    add(item, {center, center}, false, placed.box.width() * 0.5, SubnetRank, 0.0);
-  }
-}
-
-void LabelPass::collectSymbols() {
-  for (const SymbolLayer::Placed &placed : m_drawing.symbols.place(m_projection)) {
-    m_placement.addObstacle(placed.obstacle());
-    const QPointF center = *m_drawing.geometry.center(placed.item);
-    const QPointF aside = placed.center - m_projection.map(center.x(), center.y());
-    const double flow =
-        placed.item.kind == NetData::Edge ? m_drawing.flow[static_cast<std::size_t>(placed.item.index)] : 0.0;
-    add(placed.item, {center, center}, false, placed.reach() + std::hypot(aside.x(), aside.y()), StationRank, flow);
-    if (placed.item.kind == NetData::Node)
-      m_nodesWithSymbol.insert(placed.item.index);
-  }
-}
-
-void LabelPass::collectNodes() {
-  constexpr std::size_t Many = 3000; // so many dots would leave no room for labels
-  std::vector<QRectF> dots;
-  m_drawing.nodes.forEachVisible(m_projection, [&](int node, const QPointF &center, double size) {
-    const NetGeometry::Node &record = m_drawing.geometry.nodes()[static_cast<std::size_t>(node)];
-    const bool isJunction = record.shape == NetGeometry::NodeShape::Junction;
-    const QPointF place(record.x, record.y);
-    dots.emplace_back(center - QPointF(size, size) * 0.5, QSizeF(size, size));
-    if (m_nodesWithSymbol.count(node) == 0) // labelled there
-      add({NetData::Node, node}, {place, place}, false, size * 0.5, isJunction ? JunctionRank : SetPointRank, 0.0);
-  });
-  if (dots.size() <= Many) {
-    for (const QRectF &dot : dots)
-      m_placement.addObstacle(dot);
-  }
-}
-
-void LabelPass::collectPipes() {
-  const NetGeometry &geometry = m_drawing.geometry;
-  constexpr std::size_t Many = 3000; // among so many lines there is no room without one
-  std::vector<std::pair<QLineF, double>> lines;
-  m_drawing.edges.forEachVisible(m_projection, [&](int edge, const QLineF &drawn, double width) {
-    const NetGeometry::Edge &record = geometry.edges()[static_cast<std::size_t>(edge)];
-    if (lines.size() <= Many)
-      lines.emplace_back(drawn, width);
-    if (record.type != 'p')
-      return; // labelled at its symbol
-    const QLineF straight = geometry.line(record);
-    const double aside = record.lane == 0.0F ? 0.0 : distanceToLine(drawn.center(), m_projection.map(straight));
-    add({NetData::Edge, edge}, straight, true, width * 0.5 + aside, PipeRank,
-        m_drawing.flow[static_cast<std::size_t>(edge)]);
-  });
-  if (lines.size() > Many)
-    return;
-  for (const auto &[line, width] : lines)
-    m_placement.addLine(line, width);
-}
-
-void LabelPass::collect() {
-  constexpr std::size_t Most = 20000; // more than would ever fit
-  collectSubnets();
-  collectSymbols();
-  for (const QRectF &area : m_drawing.textBoxes.places(m_projection))
-    m_placement.addObstacle(area);
-  collectNodes();
-  collectPipes();
-  const auto isBefore = [](const Wish &a, const Wish &b) {
-    if (a.rank != b.rank)
-      return a.rank < b.rank;
-    if (a.weight != b.weight)
-      return a.weight > b.weight;
-    return a.candidate.item.index < b.candidate.item.index;
-  };
-  if (m_wishes.size() > Most) {
-    std::nth_element(m_wishes.begin(), m_wishes.begin() + Most, m_wishes.end(), isBefore);
-    m_wishes.resize(Most);
-  }
-  std::sort(m_wishes.begin(), m_wishes.end(), isBefore);
-}
-
 namespace {
 
 /// The rich text of a label.
@@ -157,7 +48,7 @@ class LabelDocument : public ClosedDocument {
 public:
   explicit LabelDocument(const LabelStyle &style, const QString &html) {
     setDefaultFont(style.font);
-    setDocumentMargin(LabelLayer::padding().width());
+    setDocumentMargin(Label::padding().width());
     setUndoRedoEnabled(false);
     setHtml(html);
   }
@@ -171,10 +62,32 @@ public:
   }
 };
 
+/// The more important first; of very many only these.
+void putInOrder(std::vector<LabelWish> &wishes) {
+  constexpr std::size_t Most = 20000; // more than would ever fit
+  const auto isBefore = [](const LabelWish &a, const LabelWish &b) {
+    if (a.rank != b.rank)
+      return a.rank < b.rank;
+    if (a.weight != b.weight)
+      return a.weight > b.weight;
+    return a.candidate.item.index < b.candidate.item.index;
+  };
+  if (wishes.size() > Most) {
+    std::nth_element(wishes.begin(), wishes.begin() + Most, wishes.end(), isBefore);
+    wishes.resize(Most);
+  }
+  std::sort(wishes.begin(), wishes.end(), isBefore);
+}
+
 } // namespace
 
-bool LabelPass::makeLabel(Wish &wish, Label &label, LabelText &text) const {
-  const element &source = *m_drawing.geometry.source(wish.candidate.item);
+LabelPass::LabelPass(const NetGeometry &geometry, const LabelContents &contents, const QRectF &canvas, double margin)
+    : m_geometry(geometry)
+    , m_contents(contents)
+    , m_placement(canvas, margin) {}
+
+bool LabelPass::makeLabel(LabelWish &wish, Label &label, LabelText &text) const {
+  const element &source = *m_geometry.source(wish.candidate.item);
   text = m_contents.text(source);
   if (text.isEmpty())
     return false;
@@ -189,7 +102,7 @@ bool LabelPass::makeLabel(Wish &wish, Label &label, LabelText &text) const {
     for (const QString &line : text.lines)
       size.setWidth(std::max(size.width(), measure.width(line)));
     size.setHeight(measure.height() * text.lines.size());
-    size += LabelLayer::padding() * 2.0;
+    size += Label::padding() * 2.0;
   }
   wish.candidate.size = size;
   return true;
@@ -205,17 +118,17 @@ void LabelPass::layOut(Label &label, const LabelText &text) {
   }
 }
 
-LabelPass::Result LabelPass::run(const std::vector<Label> &before) {
+LabelPass::Result LabelPass::run(std::vector<LabelWish> wishes, const std::vector<Label> &before) {
   Result result;
-  collect();
+  putInOrder(wishes);
   std::map<std::pair<int, int>, const LabelSpot *> known;
   for (const Label &label : before)
     known[{label.candidate.item.kind, label.candidate.item.index}] = &label.spot;
-  const auto spotBefore = [&known](const Wish &wish) -> const LabelSpot * {
+  const auto spotBefore = [&known](const LabelWish &wish) -> const LabelSpot * {
     const auto found = known.find({wish.candidate.item.kind, wish.candidate.item.index});
     return found == known.end() ? nullptr : found->second;
   };
-  const auto take = [&](Wish &wish, bool keeps) {
+  const auto take = [&](LabelWish &wish, bool keeps) {
     Label label;
     LabelText text;
     if (!makeLabel(wish, label, text))
@@ -235,7 +148,7 @@ LabelPass::Result LabelPass::run(const std::vector<Label> &before) {
     result.labels.push_back(std::move(label));
   };
   for (const bool keeps : {true, false}) { // first come those that stood there before
-    for (Wish &wish : m_wishes) {
+    for (LabelWish &wish : wishes) {
       if ((spotBefore(wish) != nullptr) == keeps)
         take(wish, keeps);
     }

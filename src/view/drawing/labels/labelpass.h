@@ -1,66 +1,40 @@
 #pragma once
 
-#include <drawing/labelcontents.h>
-#include <drawing/labellayer.h>
-#include <drawing/layerfilter.h>
+#include <drawing/label.h>
 #include <drawing/netgeometry.h>
-#include <drawing/visibilityrules.h>
-#include <set>
 
-class EdgeLayer;
-class NodeLayer;
-class SubnetLayer;
-class SymbolLayer;
-class TextBoxLayer;
+/// Something that wants a label.
+struct LabelWish {
+  LabelCandidate candidate;
+  QLineF place;        ///< plot coordinates
+  int rank = 0;        ///< lower is more important
+  double weight = 0.0; ///< larger is more important among those of one rank
+};
 
-/// One placement of the labels of everything that is seen: stations and set points come before pipes, larger flow before
-/// smaller, and a label that stood somewhere stays there while the scale is the same.
+/// One placement of labels: the more important come before others, and a label that stood somewhere stays there while the
+/// scale is the same.
 class LabelPass {
 public:
-  struct Drawing {
-    const NetGeometry &geometry;
-    const EdgeLayer &edges;
-    const NodeLayer &nodes;
-    const SymbolLayer &symbols;
-    const SubnetLayer &subnets;
-    const TextBoxLayer &textBoxes;
-    const VisibilityRules &visibility;
-    const LayerFilter &layers;
-    const std::vector<double> &flow; ///< of edges; NetData::NoValue is less than any
-  };
   struct Result {
     std::vector<Label> labels;
     std::vector<NetGeometry::Item> unplaced; ///< what found no place
   };
 
-  LabelPass(const Drawing &drawing, const LabelContents &contents, const Projection &projection, double margin);
+  /// \param canvas px
+  /// \param margin between labels, px
+  LabelPass(const NetGeometry &geometry, const LabelContents &contents, const QRectF &canvas, double margin);
 
   /// \param before the labels that stand, empty when the scale is another
-  Result run(const std::vector<Label> &before);
-  /// The corner of a legend and the like, px.
+  Result run(std::vector<LabelWish> wishes, const std::vector<Label> &before);
+  /// What labels keep clear of, px.
   void addObstacle(const QRectF &area) { m_placement.addObstacle(area); }
+  void addLine(const QLineF &line, double width) { m_placement.addLine(line, width); }
 
 private:
-  struct Wish {
-    LabelCandidate candidate;
-    QLineF place; ///< plot coordinates
-    int rank = 0; ///< lower is more important
-    double weight = 0.0;
-  };
-
-  void collect();
-  void collectSubnets();
-  void collectSymbols();
-  void collectNodes();
-  void collectPipes();
-  void add(NetGeometry::Item item, const QLineF &place, bool isLine, double clearance, int rank, double weight);
-  bool makeLabel(Wish &wish, Label &label, LabelText &text) const;
+  bool makeLabel(LabelWish &wish, Label &label, LabelText &text) const;
   static void layOut(Label &label, const LabelText &text);
 
-  const Drawing &m_drawing;
+  const NetGeometry &m_geometry;
   const LabelContents &m_contents;
-  const Projection &m_projection;
   LabelPlacement m_placement;
-  std::vector<Wish> m_wishes;
-  std::set<int> m_nodesWithSymbol;
 };

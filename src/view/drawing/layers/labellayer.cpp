@@ -90,7 +90,7 @@ void LabelLayer::drawLabel(QPainter &painter, const Label &label, const QPointF 
     label.document->documentLayout()->draw(&painter, context);
     painter.restore();
   } else {
-    drawLines(painter, label, {middle.x(), box.top() + padding().height()});
+    drawLines(painter, label, {middle.x(), box.top() + Label::padding().height()});
   }
   if (isTurned)
     painter.restore();

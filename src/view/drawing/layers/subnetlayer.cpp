@@ -150,6 +150,13 @@ std::vector<SubnetLayer::Placed> SubnetLayer::place(const Projection &projection
   return placed;
 }
 
+std::vector<QRectF> SubnetLayer::boxes(const Projection &projection) const {
+  std::vector<QRectF> boxes;
+  for (const Placed &placed : place(projection))
+    boxes.push_back(placed.box);
+  return boxes;
+}
+
 void SubnetLayer::drawPins(QPainter &painter, const Record &record, const QRectF &box, const Projection &projection) const {
   constexpr double PinSize = 5.0;
   const QRectF area = projection.canvas().adjusted(-PinSize, -PinSize, PinSize, PinSize);

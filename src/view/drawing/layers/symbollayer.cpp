@@ -1,7 +1,6 @@
 #include <model/elementstate.h>
 
 #include <algorithm>
-#include <drawing/subnetlayer.h>
 #include <drawing/symbollayer.h>
 
 namespace {
@@ -137,10 +136,7 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
   const double reach = std::max(m_size, m_figures.longest() * 0.5);
   const double margin = reach + m_size; // lanes move symbols a little
   const QRectF area = projection.canvas().adjusted(-reach, -reach, reach, reach);
-  std::vector<QRectF> boxes;
-  if (m_subnets != nullptr)
-    for (const SubnetLayer::Placed &subnet : m_subnets->place(projection))
-      boxes.push_back(subnet.box);
+  const std::vector<QRectF> boxes = m_covers ? m_covers(projection) : std::vector<QRectF>();
   const auto isBehindBox = [&boxes](const QPointF &center) {
     return std::any_of(boxes.begin(), boxes.end(), [&center](const QRectF &box) { return box.contains(center); });
   };

@@ -1,7 +1,7 @@
-#include "labels/labelpass.h"
+#include "scene/labelwishes.h"
 
-#include <base/generalsettings.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 
 #include <QElapsedTimer>
 
@@ -20,10 +20,6 @@ QString seconds(const QElapsedTimer &timer) {
   return QString::number(static_cast<double>(timer.elapsed()) * Milli);
 }
 
-bool isSwitchedOn(const char *setting) {
-  return GeneralSettings::instance().isOn(QString::fromLatin1(setting));
-}
-
 } // namespace
 
 NetUpdate::NetUpdate(const PlotSettings &settings, std::function<View()> view)
@@ -36,7 +32,7 @@ NetUpdate::NetUpdate(const PlotSettings &settings, std::function<View()> view)
                                                 seen.visible.width() / m_settings.largestZoomWidth),
                                        seen.isOfSubnet};
                 }) {
-  m_symbols.setSubnets(&m_subnets);
+  m_symbols.setCovers([this](const Projection &projection) { return m_subnets.boxes(projection); });
   m_subnets.setFilter(&m_layers, &m_visibility);
   m_textBoxes.setFilter(&m_layers, &m_visibility);
 }
@@ -175,7 +171,7 @@ void NetUpdate::updateSymbols(bool rebuild) {
   m_subnets.setLook(sizeOf(QStringLiteral("sub"), m_settings.symMag * LargerBoxes), m_settings.alphaSubnet);
   if (rebuild) {
     m_visibility.read(m_geometry, m_labelTable);
-    if (isSwitchedOn("build symbols"))
+    if (Settings::BuildSymbols.value())
       m_symbols.setStations(m_geometry);
     else
       m_symbols.clear();
@@ -238,7 +234,7 @@ void NetUpdate::placeLabels() {
   const LabelContents &contents = *labelContents();
   m_unplaced.clear();
   m_hasPlacedLabels = true;
-  if (!isSwitchedOn("build labels") || contents.isOff()) {
+  if (!Settings::BuildLabels.value() || contents.isOff()) {
     m_labels.clear();
     return;
   }
@@ -246,12 +242,17 @@ void NetUpdate::placeLabels() {
   if (!view.projection.isValid())
     return;
   const double units = view.unitsPerPixel.height();
-  const LabelPass::Drawing drawing{m_geometry,  m_edges,      m_nodes,  m_symbols,          m_subnets,
-                                   m_textBoxes, m_visibility, m_layers, m_values.flowSize()};
-  LabelPass pass(drawing, contents, view.projection, m_settings.labelMargin);
+  const LabelWishes::Drawing drawing{m_geometry,  m_edges,      m_nodes,  m_symbols,          m_subnets,
+                                     m_textBoxes, m_visibility, m_layers, m_values.flowSize()};
+  LabelWishes found(drawing, view.projection);
+  LabelPass pass(m_geometry, contents, view.projection.canvas(), m_settings.labelMargin);
   pass.addObstacle(view.legend);
+  for (const QRectF &area : found.areas)
+    pass.addObstacle(area);
+  for (const auto &[line, width] : found.lines)
+    pass.addLine(line, width);
   const bool isSameScale = std::abs(units - m_labels.unitsPerPixel()) <= SameScale * units;
-  LabelPass::Result result = pass.run(isSameScale ? m_labels.labels() : std::vector<Label>());
+  LabelPass::Result result = pass.run(std::move(found.wishes), isSameScale ? m_labels.labels() : std::vector<Label>());
   m_labels.setLabels(std::move(result.labels), units);
   m_unplaced = std::move(result.unplaced);
 }

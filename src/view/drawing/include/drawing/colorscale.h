@@ -1,13 +1,16 @@
 #pragma once
 
-#include <qwt_plot.h>
+#include <QColor>
+#include <QString>
+#include <qwt_color_map.h>
 
 #include <drawing/colormap.h>
 #include <drawing/drawvalues.h>
 #include <drawing/plotsettings.h>
 #include <memory>
+#include <vector>
 
-/// The colour scales beside the drawing, and the maps that belong to them.
+/// The colours of the draw functions, and what the legend says of them.
 namespace ColorScale {
 
 /// A colour that says something else than a value.
@@ -28,11 +31,6 @@ std::unique_ptr<QwtColorMap> edgeColors(const PlotSettings &settings, const Draw
 std::unique_ptr<QwtColorMap> nodeColors(const PlotSettings &settings, const DrawValues &values);
 /// A colour means the same of an edge and of a node.
 bool isShared(const PlotSettings &settings, const DrawValues &values);
-
-/// Shows the scale of the edge colours on the axis of the settings, in the display unit, and names the other colours. Nodes
-/// have a scale of their own on the other axis unless they share it. What has no values has no scale.
-void show(QwtPlot &plot, const PlotSettings &settings, const DrawValues &values, Subject subject,
-          const std::vector<Swatch> &swatches);
 
 /// What the legend says of the functions of edges. Of a network those are left out that nothing in it has a value of; a
 /// function that is not there would promise what nobody sees. \param values null while no network is shown

@@ -4,17 +4,9 @@
 #include <qwt_plot_item.h>
 
 #include <drawing/layergeometry.h>
+#include <drawing/looks.h>
 #include <drawing/netgeometry.h>
 #include <drawing/spatialindex.h>
-
-/// How one edge is drawn.
-struct EdgeLook {
-  QRgb color = 0;
-  double width = 1.0;        ///< px
-  bool isBackground = false; ///< drawn below the others: carries no value, no flow or is out of use
-  bool isHidden = false;     ///< not drawn at all
-  int flow = 0;              ///< 1 from the first to the second node, -1 against it, 0 none or unknown
-};
 
 /// All edges as one plot item: lines in batches of one pen, of which only the visible ones are touched; parallel edges
 /// side by side; arrows where gas flows.

@@ -2,10 +2,9 @@
 
 #include <drawing/colorscale.h>
 #include <drawing/drawvalues.h>
-#include <drawing/edgelayer.h>
 #include <drawing/layerfilter.h>
+#include <drawing/looks.h>
 #include <drawing/netgeometry.h>
-#include <drawing/nodelayer.h>
 
 /// How the elements are drawn, after what the draw functions say of them. Elements without a value, without flow and out of
 /// use have colours of their own.

@@ -1,24 +1,9 @@
 #pragma once
 
-#include <QStaticText>
 #include <qwt_plot_item.h>
 
-#include <drawing/labelcontents.h>
-#include <drawing/labelplacement.h>
-#include <memory>
+#include <drawing/label.h>
 #include <vector>
-
-class QTextDocument;
-
-/// A label as it is drawn: what it says and where it stands.
-struct Label {
-  LabelCandidate candidate; ///< as of the view in which it was placed
-  LabelSpot spot;
-  QLineF place; ///< of the element, in plot coordinates
-  LabelStyle style;
-  std::vector<QStaticText> lines;
-  std::shared_ptr<QTextDocument> document; ///< in place of the lines
-};
 
 /// The labels that found a place, as one plot item. While the view moves they keep beside their elements.
 class LabelLayer : public QwtPlotItem {
@@ -33,9 +18,6 @@ public:
 
   int rtti() const override { return Rtti_PlotUserItem + 6; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
-
-  /// Space within a label's box around its text, px.
-  static QSizeF padding() { return {2.0, 1.0}; }
 
 private:
   /// \param top middle of the upper edge of the text

@@ -3,16 +3,10 @@
 #include <qwt_plot_item.h>
 
 #include <drawing/layergeometry.h>
+#include <drawing/looks.h>
 #include <drawing/netgeometry.h>
 #include <drawing/spatialindex.h>
 #include <drawing/visibilityrules.h>
-
-/// How one node is drawn.
-struct NodeLook {
-  QRgb color = 0;
-  double size = 4.0;     ///< px, across
-  bool isHidden = false; ///< not drawn at all
-};
 
 /// All nodes as one plot item: discs for junctions, triangles for supplies and demands, squares for held pressures.
 /// Where nodes crowd they shrink and thin out, stations last, so that the lines stay visible.

@@ -38,6 +38,8 @@ public:
   };
   /// What is drawn on this canvas; boxes that would overlap share one.
   std::vector<Placed> place(const Projection &projection) const;
+  /// The boxes alone.
+  std::vector<QRectF> boxes(const Projection &projection) const;
   /// Adds the subnets whose box lies under the point.
   void find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const;
 

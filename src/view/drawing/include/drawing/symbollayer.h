@@ -10,11 +10,10 @@
 #include <drawing/spatialindex.h>
 #include <drawing/stationsymbols.h>
 #include <drawing/visibilityrules.h>
+#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
-
-class SubnetLayer;
 
 /// The symbols of stations: edges other than pipes and drives, and the figures that elements bring themselves. Those that
 /// would overlap share one symbol, that of the most important, with their number.
@@ -26,8 +25,8 @@ public:
   void setTable(const SymbolTable &table);
   void setFigureFolder(const QString &folder) { m_figures.setFolder(folder); }
   void setStations(const NetGeometry &geometry);
-  /// Symbols behind the boxes of subnets are not drawn. It must live as long as this layer.
-  void setSubnets(const SubnetLayer *subnets) { m_subnets = subnets; }
+  /// Symbols behind these areas (px) are not drawn; asked for each view that is laid out.
+  void setCovers(std::function<std::vector<QRectF>(const Projection &)> covers) { m_covers = std::move(covers); }
   /// The size of the symbols, and of those of single element types (by type code) that have another.
   void setSize(double pixels) {
     m_size = pixels;
@@ -97,7 +96,7 @@ private:
   Figures m_figures;
   std::vector<Record> m_records; ///< in the order of the index
   SpatialIndex m_index;
-  const SubnetLayer *m_subnets = nullptr;
+  std::function<std::vector<QRectF>(const Projection &)> m_covers;
   QHash<QString, double> m_sizes;
   double m_size = 20.0;
   mutable std::optional<Layout> m_layout; ///< of the view that was asked for last

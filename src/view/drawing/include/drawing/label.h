@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QStaticText>
+
+#include <drawing/labelcontents.h>
+#include <drawing/labelplacement.h>
+#include <memory>
+#include <vector>
+
+class QTextDocument;
+
+/// A label as it is drawn: what it says and where it stands.
+struct Label {
+  LabelCandidate candidate; ///< as of the view in which it was placed
+  LabelSpot spot;
+  QLineF place; ///< of the element, in plot coordinates
+  LabelStyle style;
+  std::vector<QStaticText> lines;
+  std::shared_ptr<QTextDocument> document; ///< in place of the lines
+
+  /// Space within a label's box around its text, px.
+  static QSizeF padding() { return {2.0, 1.0}; }
+};
