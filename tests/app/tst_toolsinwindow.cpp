@@ -25,7 +25,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTableWidget>
-#include <QTreeWidget>
+#include <QTreeView>
 
 namespace {
 
@@ -106,7 +106,7 @@ void TestToolsInWindow::panelsShowWhatIsMarkedWhenTheyOpen() {
   properties.toggleViewAction()->trigger();
   QVERIFY(properties.isVisible());
   QCOMPARE(properties.elementName(), QStringLiteral("A"));
-  QVERIFY(properties.findChild<QTreeWidget *>()->topLevelItemCount() > 0);
+  QVERIFY(properties.findChild<QTreeView *>()->model()->rowCount() > 0);
   auto &information = static_cast<QDockWidget &>(dockOf(viewer, "elementInformation"));
   information.toggleViewAction()->trigger();
   QTRY_VERIFY(element->isVisible());
