@@ -14,7 +14,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QFile>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
