@@ -76,7 +76,7 @@ void addMessages(QJsonObject &object, const NetworkLoader &loader, const NivraMs
   QSet<QString> known;
   FindingList list;
   list.set(loader.noticed());
-  for (const FindingList::Group &group : list.shown()) {
+  for (const FindingList::Group &group : list.groups()) {
     for (const Finding &finding : group.findings) {
       findings.append(finding.logText());
       known << finding.logText() << finding.text;

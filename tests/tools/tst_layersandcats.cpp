@@ -1,3 +1,7 @@
+#include "categories/categorymodel.h"
+#include "layers/layermodel.h"
+#include "metadata/metadatamodel.h"
+
 #include <model/topology.h>
 #include <support/answers.h>
 #include <support/fulldisk.h>
@@ -8,11 +12,13 @@
 #include <tools/nivranetlayerseditor.h>
 #include <tools/nivranetobjectcats.h>
 
+#include <QAbstractItemModelTester>
 #include <QFile>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTableWidget>
+#include <QTableView>
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
@@ -27,6 +33,8 @@ private slots:
   void layerNames_data();
   void layerNames();
   void editorShowsAndHides();
+  void layersAreSorted();
+  void elementsOfALayerAreListed();
   void renamingKeepsWhatIsHidden();
   void categoryFile();
   void categoriesComeBack();
@@ -115,27 +123,105 @@ struct Drawing {
   QSet<QString> hidden;
 };
 
+/// The cell of a table as it is shown.
+QModelIndex cell(const QTableView &table, int row, int column) {
+  return table.model()->index(row, column);
+}
+
+QString text(const QTableView &table, int row, int column) {
+  return cell(table, row, column).data().toString();
+}
+
+Qt::CheckState check(const QTableView &table, int row) {
+  return cell(table, row, 0).data(Qt::CheckStateRole).value<Qt::CheckState>();
+}
+
+/// With the mouse, in the box of the first column.
+void clickBox(QTableView &table, int row) {
+  const QRect place = table.visualRect(cell(table, row, 0));
+  QStyleOptionViewItem option;
+  option.initFrom(&table);
+  option.rect = place;
+  option.features = QStyleOptionViewItem::HasCheckIndicator;
+  const QRect box = table.style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, &table);
+  QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::NoModifier, box.center());
+}
+
 } // namespace
 
 void TestLayersAndCats::editorShowsAndHides() {
   NivraNetLayersEditor editor(*m_net);
   const Drawing drawing(editor);
   editor.on_pushButtonReload_clicked();
-  auto *table = editor.findChild<QTableWidget *>();
-  QCOMPARE(table->rowCount(), 2);
-  QCOMPARE(table->item(1, 2)->text(), QStringLiteral("2"));
+  editor.show();
+  auto *table = editor.findChild<QTableView *>();
+  const QAbstractItemModelTester model(editor.findChild<LayerModel *>());
+  const QAbstractItemModelTester sorted(table->model());
+  QCOMPARE(table->model()->rowCount(), 2);
+  QCOMPARE(text(*table, 1, LayerModel::CountColumn), QStringLiteral("2"));
+  const QSignalSpy wanted(&editor, &NivraNetLayersEditor::hiddenLayersWanted);
   const QSignalSpy changed(&editor, &NivraNetLayersEditor::layerVisChanged);
-  table->item(1, 0)->setCheckState(Qt::Unchecked);
+  clickBox(*table, 1);
   QCOMPARE(changed.count(), 1);
   QCOMPARE(drawing.hidden, QSet<QString>{QStringLiteral("p")});
   editor.on_toolButtonInvert_clicked();
   QCOMPARE(drawing.hidden, QSet<QString>{QStringLiteral("c")});
-  QCOMPARE(table->item(0, 0)->checkState(), Qt::Unchecked);
-  QCOMPARE(table->item(1, 0)->checkState(), Qt::Checked);
+  QCOMPARE(check(*table, 0), Qt::Unchecked);
+  QCOMPARE(check(*table, 1), Qt::Checked);
   editor.on_pushButtonReload_clicked(); // kept by name
-  QCOMPARE(table->item(0, 0)->checkState(), Qt::Unchecked);
+  QCOMPARE(check(*table, 0), Qt::Unchecked);
+  editor.on_toolButtonHideAll_clicked();
+  editor.on_toolButtonHideAll_clicked(); // as they are already
+  QCOMPARE(changed.count(), 3);
+  QCOMPARE(wanted.count(), 3);
+  QVERIFY(cell(*table, 0, LayerModel::LayerColumn).flags() & Qt::ItemIsEditable);
   editor.changeEditMode(NivraNetLayersEditor::EditMode::VisibilityOnly);
-  QVERIFY(!(table->item(0, 1)->flags() & Qt::ItemIsEditable));
+  QVERIFY(!(cell(*table, 0, LayerModel::LayerColumn).flags() & Qt::ItemIsEditable));
+}
+
+void TestLayersAndCats::layersAreSorted() {
+  for (int i = 0; i < 10; ++i) {
+    const QByteArray name = "many" + QByteArray::number(i);
+    m_net->addElement(makeNode(name.constData()));
+    m_net->element(QString::fromLatin1(name))->set(QStringLiteral("vis.layer"), QStringLiteral("x"));
+  }
+  NivraNetLayersEditor editor(*m_net);
+  editor.on_pushButtonReload_clicked();
+  auto *table = editor.findChild<QTableView *>();
+  table->sortByColumn(LayerModel::CountColumn, Qt::DescendingOrder);
+  QCOMPARE(text(*table, 0, LayerModel::CountColumn), QStringLiteral("10")); // before 2
+  QCOMPARE(text(*table, 2, LayerModel::LayerColumn), QStringLiteral("c"));
+  QCOMPARE(table->model()->headerData(0, Qt::Vertical).toInt(), 1); // rows are numbered as they are shown
+  table->setCurrentIndex(cell(*table, 0, LayerModel::LayerColumn));
+  editor.on_pushButtonReload_clicked();
+  QCOMPARE(table->currentIndex(), cell(*table, 0, LayerModel::LayerColumn)); // the same layer
+  table->sortByColumn(LayerModel::LayerColumn, Qt::AscendingOrder);
+  QCOMPARE(table->currentIndex(), cell(*table, 2, LayerModel::LayerColumn));
+}
+
+void TestLayersAndCats::elementsOfALayerAreListed() {
+  NivraNetLayersEditor editor(*m_net);
+  editor.on_pushButtonReload_clicked();
+  editor.show();
+  auto *table = editor.findChild<QTableView *>();
+  auto *list = editor.findChild<QListView *>();
+  const auto click = [](QAbstractItemView &view, const QModelIndex &index) {
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(index).center());
+  };
+  click(*table, cell(*table, 1, LayerModel::CountColumn)); // asks for nothing
+  QCOMPARE(list->model()->rowCount(), 0);
+  click(*table, cell(*table, 1, LayerModel::LayerColumn));
+  QCOMPARE(list->model()->rowCount(), 2);
+  const QSignalSpy clicked(&editor, &NivraNetLayersEditor::itemClicked);
+  const QSignalSpy doubleClicked(&editor, &NivraNetLayersEditor::itemDoubleClicked);
+  const QModelIndex second = list->model()->index(1, 0);
+  click(*list, second);
+  QCOMPARE(clicked.value(0).value(0).toString(), QStringLiteral("CB"));
+  QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualRect(second).center());
+  QCOMPARE(doubleClicked.value(0).value(0).toString(), QStringLiteral("CB"));
+  QVERIFY(list->findChild<QLineEdit *>() == nullptr); // names are not edited here
+  editor.on_pushButtonReload_clicked();
+  QCOMPARE(list->model()->rowCount(), 0);
 }
 
 /// With mouse and keys, as a person renames.
@@ -144,10 +230,10 @@ void TestLayersAndCats::renamingKeepsWhatIsHidden() {
   const Drawing drawing(editor);
   editor.on_pushButtonReload_clicked();
   editor.show();
-  auto *table = editor.findChild<QTableWidget *>();
+  auto *table = editor.findChild<QTableView *>();
   const auto rename = [table](int row, const char *name) {
-    table->setCurrentCell(row, 1);
-    table->editItem(table->item(row, 1));
+    table->setCurrentIndex(cell(*table, row, LayerModel::LayerColumn));
+    table->edit(table->currentIndex());
     auto *field = table->findChild<QLineEdit *>();
     QVERIFY(field != nullptr);
     field->selectAll();
@@ -156,32 +242,33 @@ void TestLayersAndCats::renamingKeepsWhatIsHidden() {
     QCoreApplication::processEvents(); // the field is read after the key
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   };
-  table->item(1, 0)->setCheckState(Qt::Unchecked);
+  clickBox(*table, 1);
   const QSignalSpy visibility(&editor, &NivraNetLayersEditor::layerVisChanged);
   const QSignalSpy changed(&editor, &NivraNetLayersEditor::propertyChanged);
   {
     const Answers answers({NivraMsg::Answer::Yes});
     rename(1, "a pipe");
-    QVERIFY(answers.areGiven());
+    QTRY_VERIFY(answers.areGiven()); // after the field is closed
   }
   QCOMPARE(drawing.hidden, QSet<QString>{QStringLiteral("a pipe")});
-  QCOMPARE(table->item(0, 1)->text(), QStringLiteral("a pipe")); // where sorting puts it
-  QCOMPARE(table->item(0, 0)->checkState(), Qt::Unchecked);
-  QCOMPARE(table->currentRow(), 0);
+  QCOMPARE(text(*table, 0, LayerModel::LayerColumn), QStringLiteral("a pipe")); // where sorting puts it
+  QCOMPARE(check(*table, 0), Qt::Unchecked);
+  QCOMPARE(table->currentIndex().row(), 0);
   QCOMPARE(visibility.count() + changed.count(), 1); // each of which draws
   {
     const Answers no({NivraMsg::Answer::No}); // a layer of that name is there
     rename(0, "c");
-    QVERIFY(no.areGiven() && no.texts().first().contains(QStringLiteral("layer already exists! Use?")));
+    QTRY_VERIFY(no.areGiven());
+    QVERIFY(no.texts().first().contains(QStringLiteral("layer already exists! Use?")));
   }
-  QCOMPARE(table->rowCount(), 2);
-  QCOMPARE(table->item(table->currentRow(), 1)->text(), QStringLiteral("a pipe"));
+  QCOMPARE(table->model()->rowCount(), 2);
+  QCOMPARE(table->currentIndex().data().toString(), QStringLiteral("a pipe"));
   {
     const Answers both({NivraMsg::Answer::Yes, NivraMsg::Answer::Yes});
     rename(0, "c");
-    QVERIFY(both.areGiven());
+    QTRY_VERIFY(both.areGiven());
   }
-  QCOMPARE(table->rowCount(), 1);
+  QCOMPARE(table->model()->rowCount(), 1);
   QVERIFY(drawing.hidden.isEmpty()); // it joined a layer that is seen
 }
 
@@ -248,7 +335,7 @@ void TestLayersAndCats::changedCategoriesAreAskedAbout() {
   NivraNetObjectCats panel(list);
   list->setFile(write("one;;p;^v$;v@ELE>10\n"));
   panel.updateTempCategory({QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"), QString()});
-  auto *table = panel.findChild<QTableWidget *>();
+  auto *table = panel.findChild<QTableView *>();
   auto *reload = panel.findChild<QPushButton *>(QStringLiteral("pushButtonReload"));
   panel.show();
   {
@@ -256,12 +343,12 @@ void TestLayersAndCats::changedCategoriesAreAskedAbout() {
     reload->click(); // nothing has changed
     QVERIFY(none.areGiven());
   }
-  QCOMPARE(table->item(0, 1)->text(), QStringLiteral("x")); // which still follows the search
-  table->item(1, 1)->setText(QStringLiteral("typed"));
+  QCOMPARE(text(*table, 0, 1), QStringLiteral("x")); // which still follows the search
+  table->model()->setData(cell(*table, 1, 1), QStringLiteral(" typed "));
   {
     const Answers answers({NivraMsg::Answer::Cancel, NivraMsg::Answer::Cancel});
     reload->click();
-    QCOMPARE(table->item(1, 1)->text(), QStringLiteral("typed"));
+    QCOMPARE(text(*table, 1, 1), QStringLiteral("typed"));
     QVERIFY(!panel.settleChanges());
     QVERIFY(answers.areGiven());
   }
@@ -272,10 +359,10 @@ void TestLayersAndCats::changedCategoriesAreAskedAbout() {
   }
   QCOMPARE(CategoryFile::read(m_folder.filePath(QStringLiteral("catdef.csv"))).at(0).name, QStringLiteral("typed"));
   panel.show();
-  table->item(1, 1)->setText(QStringLiteral("again"));
+  table->model()->setData(cell(*table, 1, 1), QStringLiteral("again"));
   const Answers discard({NivraMsg::Answer::Discard});
   reload->click();
-  QCOMPARE(table->item(1, 1)->text(), QStringLiteral("typed"));
+  QCOMPARE(text(*table, 1, 1), QStringLiteral("typed"));
   QVERIFY(panel.settleChanges());
 }
 
@@ -283,16 +370,17 @@ void TestLayersAndCats::panelTellsCategories() {
   const auto list = std::make_shared<CategoryList>();
   NivraNetObjectCats panel(list);
   list->setFile(write("one;;p;^v$;v@ELE>10\n"));
-  auto *table = panel.findChild<QTableWidget *>();
-  QCOMPARE(table->rowCount(), 2);
-  QCOMPARE(table->item(0, 0)->text(), QStringLiteral("fromSearch"));
-  QCOMPARE(table->item(0, 3)->text(), QStringLiteral("^name$"));
-  QVERIFY(!(table->item(0, 1)->flags() & Qt::ItemIsEditable));
+  auto *table = panel.findChild<QTableView *>();
+  const QAbstractItemModelTester model(table->model());
+  QCOMPARE(table->model()->rowCount(), 2);
+  QCOMPARE(text(*table, 0, 0), QStringLiteral("fromSearch"));
+  QCOMPARE(text(*table, 0, 3), QStringLiteral("^name$"));
+  QVERIFY(!(cell(*table, 0, 1).flags() & Qt::ItemIsEditable));
   const QSignalSpy told(&panel, &NivraNetObjectCats::catChanged);
   panel.updateTempCategory({QStringLiteral("x"), QString(), QString(), QString()});
   QCOMPARE(told.last().first().value<CatMap>().value(QStringLiteral("fromSearch")).name, QStringLiteral("x"));
   panel.addCategory({QStringLiteral("n"), QStringLiteral("t"), QStringLiteral("p"), QStringLiteral("v")});
-  QCOMPARE(table->item(2, 0)->text(), QStringLiteral("Cat2"));
+  QCOMPARE(text(*table, 2, 0), QStringLiteral("Cat2"));
   const QSignalSpy search(&panel, &NivraNetObjectCats::toSearch);
   panel.on_toolButtonToSearch_clicked();
   QCOMPARE(search.first().first().toStringList().join(QLatin1Char(' ')), QStringLiteral("n t p v"));
@@ -301,27 +389,48 @@ void TestLayersAndCats::panelTellsCategories() {
   QVERIFY(file.open(QIODevice::ReadOnly));
   QCOMPARE(file.readAll(), QByteArray("# format (besides comment lines) per LINE:\n# category;name;type;prop;value/formula\n"
                                       "one;;p;^v$;v@ELE>10\nCat2;n;t;p;v\n"));
-  table->setCurrentCell(0, 0);
+  table->setCurrentIndex(cell(*table, 0, 0));
   panel.on_toolButtonRemove_clicked(); // that of the search stays
-  QCOMPARE(table->rowCount(), 3);
+  QCOMPARE(table->model()->rowCount(), 3);
+  panel.show();
+  clickBox(*table, 1);
+  QVERIFY(list->categories().at(0).isChecked);
+  clickBox(*table, 0); // shows that it is not checked, and stays so
+  QCOMPARE(check(*table, 0), Qt::Unchecked);
+  table->setCurrentIndex(cell(*table, 2, 3));
+  panel.addToCurrentCategory({QString(), QStringLiteral("v"), QString(), QString()});
+  QCOMPARE(text(*table, 2, CategoryModel::TypeColumn), QStringLiteral("v"));
+  NivraNetObjectCats other(list); // of another window
+  other.on_toolButtonAdd_clicked();
+  other.findChild<QTableView *>()->setCurrentIndex(other.findChild<QTableView *>()->model()->index(1, 0));
+  other.on_toolButtonRemove_clicked();
+  QCOMPARE(text(*table, 1, 0) + text(*table, 2, 0), QStringLiteral("Cat2Cat3"));
+  QCOMPARE(table->currentIndex(), cell(*table, 1, 3)); // the same category
 }
 
 void TestLayersAndCats::metaDataGroups() {
   const NetData net;
   const MetaDataTable table(net);
+  const QAbstractItemModel &model = *table.model();
+  const QAbstractItemModelTester tester(table.model());
   QStringList groups;
-  for (int i = 0; i < table.topLevelItemCount(); ++i) {
-    const QTreeWidgetItem *group = table.topLevelItem(i);
-    groups.append(group->text(0).section(QLatin1Char(' '), 0, 0));
-    QVERIFY(group->text(0).endsWith(QStringLiteral("(%1)").arg(group->childCount())));
-    QVERIFY(group->childCount() > 0);
+  for (int i = 0; i < model.rowCount(); ++i) {
+    const QModelIndex group = model.index(i, 0);
+    groups.append(group.data().toString().section(QLatin1Char(' '), 0, 0));
+    QVERIFY(group.data().toString().endsWith(QStringLiteral("(%1)").arg(model.rowCount(group))));
+    QVERIFY(model.rowCount(group) > 0);
   }
   QCOMPARE(groups.join(QLatin1Char(' ')),
            QStringLiteral("ElementTypes NodeFunctions EdgeFunctions GeomParms ScenParms ResultParms GasParms VisParms"));
+  const QModelIndex pipe = model
+                               .match(model.index(0, MetaDataModel::ShortNameColumn, model.index(0, 0)), Qt::DisplayRole,
+                                      QStringLiteral("p"), 1, Qt::MatchExactly)
+                               .value(0);
+  QCOMPARE(pipe.siblingAtColumn(MetaDataModel::LongNameColumn).data().toString(), QStringLiteral("pipe"));
   NetData bare;
   bare.setMetaData(std::make_shared<NetMetaData>());
   const MetaDataTable empty(bare);
-  QCOMPARE(empty.topLevelItem(6)->text(0), QStringLiteral("GasParms (0)"));
+  QCOMPARE(empty.model()->index(6, 0).data().toString(), QStringLiteral("GasParms (0)"));
 }
 
 void TestLayersAndCats::closureAndTrace() {

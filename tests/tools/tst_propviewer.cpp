@@ -1,4 +1,5 @@
 #include "properties/plotlabelview.h"
+#include "properties/propertymodel.h"
 #include "shared/numberdelegate.h"
 
 #include <support/modelfixture.h>
@@ -6,6 +7,7 @@
 #include <tools/nivraeleinfowidget.h>
 #include <tools/nivrapropviewer.h>
 
+#include <QAbstractItemModelTester>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -16,7 +18,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QToolTip>
-#include <QTreeWidget>
+#include <QTreeView>
 
 class TestPropViewer : public QObject {
   Q_OBJECT
@@ -37,17 +39,27 @@ private slots:
   void bounds();
 
 private:
-  static QStringList rows(const QTreeWidget &tree) {
+  /// As they are shown.
+  static QStringList rows(const NivraPropViewer &viewer) {
+    const QAbstractItemModel &model = *viewer.findChild<QTreeView *>()->model();
     QStringList list;
-    for (int i = 0; i < tree.topLevelItemCount(); ++i) {
-      const QTreeWidgetItem *group = tree.topLevelItem(i);
-      list.append(QLatin1Char('[') + group->text(0) + QLatin1Char(']'));
-      for (int k = 0; k < group->childCount(); ++k)
+    for (int i = 0; i < model.rowCount(); ++i) {
+      const QModelIndex group = model.index(i, 0);
+      list.append(QLatin1Char('[') + group.data().toString() + QLatin1Char(']'));
+      for (int k = 0; k < model.rowCount(group); ++k)
         list.append(QStringLiteral("%1=%2 %3")
-                        .arg(group->child(k)->text(0), group->child(k)->text(1), group->child(k)->text(2))
+                        .arg(model.index(k, 0, group).data().toString(), model.index(k, 1, group).data().toString(),
+                             model.index(k, 2, group).data().toString())
                         .trimmed());
     }
     return list;
+  }
+  /// The cell of the first column, of a group or a property.
+  static QModelIndex find(const QTreeView &tree, const char *text) {
+    return tree.model()
+        ->match(tree.model()->index(0, 0), Qt::DisplayRole, QString::fromLatin1(text), 1,
+                Qt::MatchExactly | Qt::MatchRecursive)
+        .value(0);
   }
   static element node() {
     return makeElement({{"name", "A"},
@@ -70,7 +82,7 @@ void TestPropViewer::groupsAndUnits() {
   const element shown = node();
   viewer.showCurrentEleContents(&shown);
   QCOMPARE(viewer.windowTitle(), QStringLiteral("Properties of A of type n"));
-  const QStringList list = rows(*viewer.findChild<QTreeWidget *>());
+  const QStringList list = rows(viewer);
   QCOMPARE(list.filter(QStringLiteral("[")),
            (QStringList{QStringLiteral("[favorites]"), QStringLiteral("[scenario]"), QStringLiteral("[geometry]"),
                         QStringLiteral("[results]"), QStringLiteral("[extra]")}));
@@ -92,10 +104,9 @@ void TestPropViewer::subnetsHaveTheirOwnGroups() {
                                      {"subassemblies", "x"},
                                      {"isSearchResult", "1"}});
   viewer.showCurrentEleContents(&shown);
-  QCOMPARE(rows(*viewer.findChild<QTreeWidget *>()),
-           (QStringList{QStringLiteral("[scenario]"), QStringLiteral("[geometry]"), QStringLiteral("[results]"),
-                        QStringLiteral("a=1"), QStringLiteral("[extra]"), QStringLiteral("b=2"), QStringLiteral("name=S"),
-                        QStringLiteral("type=sub")}));
+  QCOMPARE(rows(viewer), (QStringList{QStringLiteral("[scenario]"), QStringLiteral("[geometry]"),
+                                      QStringLiteral("[results]"), QStringLiteral("a=1"), QStringLiteral("[extra]"),
+                                      QStringLiteral("b=2"), QStringLiteral("name=S"), QStringLiteral("type=sub")}));
 }
 
 void TestPropViewer::hiddenAndNothing() {
@@ -104,7 +115,7 @@ void TestPropViewer::hiddenAndNothing() {
   const element shown = node();
   viewer.setShowsHidden(true);
   viewer.showCurrentEleContents(&shown);
-  QVERIFY(rows(*viewer.findChild<QTreeWidget *>()).contains(QStringLiteral("pLabel=x")));
+  QVERIFY(rows(viewer).contains(QStringLiteral("pLabel=x")));
   viewer.setActive(false);
   viewer.showCurrentEleContents(nullptr);
   QCOMPARE(viewer.elementName(), QStringLiteral("A"));
@@ -115,13 +126,12 @@ void TestPropViewer::copiesCells() {
   NivraPropViewer viewer(net);
   const element shown = makeElement({{"name", "A"}, {"type", "n"}, {"p", "50"}, {"t", "283.15"}});
   viewer.showCurrentEleContents(&shown);
-  auto *tree = viewer.findChild<QTreeWidget *>();
-  QTreeWidgetItem *results = tree->findItems(QStringLiteral("results"), Qt::MatchExactly).first();
+  auto *tree = viewer.findChild<QTreeView *>();
+  const QModelIndex results = find(*tree, "results");
   QItemSelectionModel *cells = tree->selectionModel();
   for (const int row : {0, 1})
-    for (const int column : {1, 2})
-      cells->select(tree->model()->index(row, column, tree->model()->index(tree->indexOfTopLevelItem(results), 0)),
-                    QItemSelectionModel::Select);
+    for (const int column : {PropertyModel::ValueColumn, PropertyModel::UnitColumn})
+      cells->select(tree->model()->index(row, column, results), QItemSelectionModel::Select);
   cells->select(tree->model()->index(0, 0), QItemSelectionModel::Select); // a group row does not count
   viewer.on_actionCopy_triggered();
   QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("50\tbar\n10\tdegC\n"));
@@ -130,13 +140,26 @@ void TestPropViewer::copiesCells() {
 void TestPropViewer::filters() {
   const NetData net;
   NivraPropViewer viewer(net);
+  auto *tree = viewer.findChild<QTreeView *>();
+  const QAbstractItemModelTester source(viewer.findChild<PropertyModel *>());
+  const QAbstractItemModelTester filtered(tree->model());
   const element shown = node();
   viewer.showCurrentEleContents(&shown);
-  viewer.findChild<QLineEdit *>()->setText(QStringLiteral("OWN"));
-  int visible = 0;
-  for (QTreeWidgetItemIterator item(viewer.findChild<QTreeWidget *>()); *item != nullptr; ++item)
-    visible += (*item)->parent() != nullptr && !(*item)->isHidden() ? 1 : 0;
-  QCOMPARE(visible, 1);
+  const int all = rows(viewer).size();
+  auto *filter = viewer.findChild<QLineEdit *>();
+  const auto propertiesShown = [&viewer] {
+    return rows(viewer).filter(QStringLiteral("="));
+  };
+  filter->setText(QStringLiteral("OWN"));
+  QCOMPARE(propertiesShown(), QStringList{QStringLiteral("own=7")});
+  QCOMPARE(rows(viewer).size(), 6); // every group stays
+  viewer.showCurrentEleContents(&shown);
+  QCOMPARE(propertiesShown().size(), 1);
+  filter->setText(QStringLiteral("a text"));
+  QCOMPARE(propertiesShown().size(), 1); // of a value
+  filter->clear();
+  QCOMPARE(rows(viewer).size(), all);
+  QVERIFY(tree->isExpanded(find(*tree, "extra")));
 }
 
 void TestPropViewer::elementInformation() {
@@ -202,11 +225,10 @@ void TestPropViewer::markupOfAWorkspaceLoadsNothing() {
   shown.set(QStringLiteral("name"), markup);
   viewer.showCurrentEleContents(&shown);
   viewer.show();
-  auto *tree = viewer.findChild<QTreeWidget *>();
-  QTreeWidgetItem *row = tree->findItems(QStringLiteral("name"), Qt::MatchExactly | Qt::MatchRecursive).value(0);
-  QVERIFY(row != nullptr);
-  const QPoint spot = tree->visualItemRect(row).center();
-  const QPoint inValue(tree->columnViewportPosition(1) + 3, spot.y());
+  auto *tree = viewer.findChild<QTreeView *>();
+  const QModelIndex row = find(*tree, "name");
+  QVERIFY(row.isValid());
+  const QPoint inValue(tree->columnViewportPosition(1) + 3, tree->visualRect(row).center().y());
   QHelpEvent help(QEvent::ToolTip, inValue, tree->viewport()->mapToGlobal(inValue));
   QApplication::sendEvent(tree->viewport(), &help);
   QVERIFY(QToolTip::text().contains(QStringLiteral("&lt;img src=")));
@@ -231,7 +253,7 @@ void TestPropViewer::longNamesNeedNoRoom() {
   QCOMPARE(viewer.minimumSizeHint().width(), panel.width());
   QCOMPARE(info.minimumSizeHint().width(), information.width());
   QCOMPARE(viewer.toggleViewAction()->text(), action);
-  const auto *tree = viewer.findChild<QTreeWidget *>();
+  const auto *tree = viewer.findChild<QTreeView *>();
   QVERIFY2(tree->columnWidth(1) < 200, qPrintable(QString::number(tree->columnWidth(1)))); // the unit stays in sight
   window.removeDockWidget(&viewer);
   viewer.setParent(nullptr);
@@ -250,18 +272,13 @@ void TestPropViewer::numbersAreRoundedForTheEyeOnly() {
   const element shown = makeElement(
       {{"name", "1.23456789012"}, {"type", "n"}, {"a", "83.84299999999999"}, {"b", "83.843"}, {"c", "1.23456789012"}});
   viewer.showCurrentEleContents(&shown);
-  auto *tree = viewer.findChild<QTreeWidget *>();
-  const auto find = [tree](const char *property) {
-    return tree->findItems(QString::fromLatin1(property), Qt::MatchExactly | Qt::MatchRecursive).value(0);
-  };
+  auto *tree = viewer.findChild<QTreeView *>();
   const auto width = [&](const char *property) {
-    const QTreeWidgetItem *row = find(property);
-    const QModelIndex index = tree->model()->index(row->parent()->indexOfChild(const_cast<QTreeWidgetItem *>(row)), 1,
-                                                   tree->model()->index(tree->indexOfTopLevelItem(row->parent()), 0));
-    return tree->itemDelegate()->sizeHint(QStyleOptionViewItem(), index).width();
+    const QModelIndex value = find(*tree, property).siblingAtColumn(PropertyModel::ValueColumn);
+    return tree->itemDelegate()->sizeHint(QStyleOptionViewItem(), value).width();
   };
   const auto askFor = [&](const char *property) {
-    const QPoint spot(tree->columnViewportPosition(1) + 3, tree->visualItemRect(find(property)).center().y());
+    const QPoint spot(tree->columnViewportPosition(1) + 3, tree->visualRect(find(*tree, property)).center().y());
     QHelpEvent help(QEvent::ToolTip, spot, tree->viewport()->mapToGlobal(spot));
     QApplication::sendEvent(tree->viewport(), &help);
   };
@@ -273,7 +290,7 @@ void TestPropViewer::numbersAreRoundedForTheEyeOnly() {
   QTRY_COMPARE(QToolTip::text(), QString());
   QCOMPARE(width("a"), width("b"));
   QVERIFY(width("c") < width("name")); // a name stays what it is
-  tree->setCurrentItem(find("a"), 1);
+  tree->setCurrentIndex(find(*tree, "a").siblingAtColumn(PropertyModel::ValueColumn));
   viewer.on_actionCopy_triggered();
   QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("83.84299999999999\n"));
 }
@@ -282,7 +299,7 @@ void TestPropViewer::machinesOpenTheirMaps() {
   const NetData net;
   NivraPropViewer viewer(net);
   auto *open = viewer.findChild<QAction *>(QStringLiteral("actionOpenCharacteristics"));
-  QVERIFY(viewer.findChild<QTreeWidget *>()->actions().contains(open));
+  QVERIFY(viewer.findChild<QTreeView *>()->actions().contains(open));
   const element pipe = makeEdge("P", "A", "B");
   viewer.showCurrentEleContents(&pipe);
   QVERIFY(!open->isVisible());

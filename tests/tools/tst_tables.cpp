@@ -1,3 +1,4 @@
+#include "findings/findingmodel.h"
 #include "shared/nameaid.h"
 #include "table/valuestatistics.h"
 
@@ -6,6 +7,7 @@
 #include <tools/nivrafindings.h>
 #include <tools/tablemenu.h>
 
+#include <QAbstractItemModelTester>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -15,7 +17,7 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTableWidget>
-#include <QTreeWidget>
+#include <QTreeView>
 
 #include <algorithm>
 #include <cmath>
@@ -174,8 +176,23 @@ void TestTables::statisticsOfOddColumns() {
 
 void TestTables::findings() {
   NivraFindings panel;
-  auto *tree = panel.findChild<QTreeWidget *>();
-  QCOMPARE(tree->topLevelItem(0)->text(0), QStringLiteral("Nothing was found to be wrong."));
+  const QAbstractItemModelTester source(panel.findChild<FindingModel *>());
+  auto *tree = panel.findChild<QTreeView *>();
+  const QAbstractItemModel &model = *tree->model();
+  const QAbstractItemModelTester shown(tree->model());
+  const auto group = [&model](int row) {
+    return model.index(row, FindingModel::TextColumn);
+  };
+  const auto cell = [&](int groupRow, int row, int column) {
+    return model.index(row, column, group(groupRow));
+  };
+  const auto says = [&panel](const char *text) {
+    const QList<QLabel *> labels = panel.findChildren<QLabel *>();
+    return std::any_of(labels.cbegin(), labels.cend(), [&](const QLabel *label) {
+      return label->isVisibleTo(&panel) && label->text() == QString::fromLatin1(text);
+    });
+  };
+  QVERIFY(says("Nothing was found to be wrong."));
   Finding about;
   about.text = QStringLiteral("too fast");
   about.element = QStringLiteral("P1");
@@ -184,36 +201,41 @@ void TestTables::findings() {
   inFile.file = QStringLiteral("/x/net.geom.jsn");
   inFile.line = 12;
   inFile.text += QStringLiteral(" <b>x</b>");
-  panel.setFindings({{QStringLiteral("Bounds"), {about}}});
-  const QList<QLabel *> labels = panel.findChildren<QLabel *>();
-  QVERIFY(std::any_of(labels.cbegin(), labels.cend(),
-                      [](const QLabel *label) { return label->text() == QStringLiteral("1 finding"); }));
+  panel.setFindings({{QStringLiteral("Empty"), {}}, {QStringLiteral("Bounds"), {about}}});
+  QVERIFY(says("1 finding") && !says("Nothing was found to be wrong."));
   panel.setFindings({{QStringLiteral("Reading"), {inFile, inFile}}, {QStringLiteral("Bounds"), {about}}});
-  QCOMPARE(tree->topLevelItem(0)->text(0), QStringLiteral("Reading (2)"));
-  QCOMPARE(tree->topLevelItem(0)->child(0)->text(2), QStringLiteral("net.geom.jsn:12"));
-  QCOMPARE(tree->topLevelItem(0)->child(0)->toolTip(0), QStringLiteral("<qt>bad line &lt;b&gt;x&lt;/b&gt;</qt>"));
-  QCOMPARE(tree->topLevelItem(1)->child(0)->toolTip(0), QStringLiteral("too fast"));
+  QCOMPARE(group(0).data().toString(), QStringLiteral("Reading (2)"));
+  QVERIFY(tree->isExpanded(group(0)) && tree->isFirstColumnSpanned(1, QModelIndex()));
+  QCOMPARE(cell(0, 0, FindingModel::PlaceColumn).data().toString(), QStringLiteral("net.geom.jsn:12"));
+  QCOMPARE(cell(0, 0, FindingModel::TextColumn).data(Qt::ToolTipRole).toString(),
+           QStringLiteral("<qt>bad line &lt;b&gt;x&lt;/b&gt;</qt>"));
+  QCOMPARE(cell(1, 0, FindingModel::TextColumn).data(Qt::ToolTipRole).toString(), QStringLiteral("too fast"));
 
   const QSignalSpy wanted(&panel, &NivraFindings::elementWanted);
   for (int i = 0; i < 3; ++i)
     panel.showNext();
-  QCOMPARE(tree->currentItem()->text(1), QStringLiteral("P1"));
+  QCOMPARE(tree->currentIndex(), cell(1, 0, FindingModel::TextColumn));
   QCOMPARE(wanted.count(), 1);
   panel.showNext(); // from the last to the first
-  QCOMPARE(tree->currentItem()->text(0), QStringLiteral("bad line <b>x</b>"));
+  QCOMPARE(tree->currentIndex(), cell(0, 0, FindingModel::TextColumn));
+  panel.show();
+  QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier,
+                    tree->visualRect(cell(1, 0, FindingModel::PlaceColumn)).center());
+  QCOMPARE(wanted.count(), 2);
 
   auto *filter = panel.findChild<QLineEdit *>();
   filter->setText(QStringLiteral("JSN:12"));
-  QCOMPARE(tree->topLevelItemCount(), 1);
+  QCOMPARE(model.rowCount(), 1);
+  QVERIFY(says("2 of 3 findings") && tree->isExpanded(group(0)));
   filter->setText(QStringLiteral("nowhere"));
-  QCOMPARE(tree->topLevelItem(0)->text(0), QStringLiteral("No finding has the text of the filter."));
+  QCOMPARE(model.rowCount(), 0);
+  QVERIFY(says("No finding has the text of the filter."));
   panel.showNext(); // goes nowhere
-  QCOMPARE(wanted.count(), 1);
-
-  panel.setFindings({{QStringLiteral("Checking"), Findings(20000, about)}});
-  filter->clear();
-  QCOMPARE(tree->topLevelItem(0)->text(0), QStringLiteral("Checking (20000)"));
-  QVERIFY(tree->topLevelItem(0)->childCount() < 6000);
+  QCOMPARE(wanted.count(), 2);
+  inFile.element = QStringLiteral("P2");
+  panel.setFindings({{QStringLiteral("Reading"), {inFile, about}}});
+  filter->setText(QStringLiteral("p2")); // of the elements
+  QCOMPARE(group(0).data().toString(), QStringLiteral("Reading (1)"));
 }
 
 NIVRA_TEST(TestTables);

@@ -1,14 +1,21 @@
 #include <tools/categorylist.h>
 
+template <typename Action>
+void CategoryList::perform(Change change, std::size_t index, Action action) {
+  emit changing(change, static_cast<int>(index));
+  action();
+  m_isChanged = change != Change::Read;
+  emit changed(change, static_cast<int>(index));
+}
+
 void CategoryList::setFile(const QString &path) {
   m_path = path;
   read();
 }
 
 void CategoryList::read() {
-  m_categories = m_path.isEmpty() ? std::vector<Category>() : CategoryFile::read(m_path);
-  m_isChanged = false;
-  emit hasRead();
+  std::vector<Category> read = m_path.isEmpty() ? std::vector<Category>() : CategoryFile::read(m_path);
+  perform(Change::Read, 0, [&] { m_categories = std::move(read); });
 }
 
 bool CategoryList::save(QString *error) {
@@ -19,23 +26,14 @@ bool CategoryList::save(QString *error) {
 }
 
 void CategoryList::append(const Category &category) {
-  m_categories.push_back(category);
-  setChanged();
+  perform(Change::Added, m_categories.size(), [&] { m_categories.push_back(category); });
 }
 
 void CategoryList::set(std::size_t index, const Category &category) {
-  if (m_categories[index] == category)
-    return;
-  m_categories[index] = category;
-  setChanged();
+  if (!(m_categories[index] == category))
+    perform(Change::Edited, index, [&] { m_categories[index] = category; });
 }
 
 void CategoryList::remove(std::size_t index) {
-  m_categories.erase(m_categories.begin() + static_cast<std::ptrdiff_t>(index));
-  setChanged();
-}
-
-void CategoryList::setChanged() {
-  m_isChanged = true;
-  emit edited();
+  perform(Change::Removed, index, [&] { m_categories.erase(m_categories.begin() + static_cast<std::ptrdiff_t>(index)); });
 }

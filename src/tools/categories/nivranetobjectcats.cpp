@@ -1,3 +1,4 @@
+#include "categories/categorymodel.h"
 #include "ui_nivranetobjectcats.h"
 
 #include <base/nivramsg.h>
@@ -8,10 +9,6 @@
 
 namespace {
 
-constexpr int SearchRow = 0;
-
-enum Column { CategoryColumn, NameColumn, TypeColumn, PropertyColumn, ValueColumn };
-
 QIcon actionIcon(const char *name) {
   return QIcon(QStringLiteral(":/iconsToolBar/crystal_project_icons/32x32/actions/%1").arg(QLatin1String(name)));
 }
@@ -21,19 +18,19 @@ QIcon actionIcon(const char *name) {
 NivraNetObjectCats::NivraNetObjectCats(std::shared_ptr<CategoryList> list, QWidget *parent)
     : QDockWidget(parent)
     , m_ui(std::make_unique<Ui::NivraNetObjectCats>())
-    , m_list(std::move(list)) {
+    , m_list(std::move(list))
+    , m_model(new CategoryModel(m_list, this)) {
   qRegisterMetaType<CatMap>("CatMap");
   m_ui->setupUi(this);
-  m_ui->tableWidget->setHorizontalHeaderLabels({tr("category"), tr("name"), tr("type"), tr("property"), tr("value")});
-  m_ui->tableWidget->horizontalHeader()->setStretchLastSection(true);
-  TableMenu::offerCopy(*m_ui->tableWidget);
-  connect(m_ui->tableWidget, &QTableWidget::cellChanged, this, [this](int row) { setCategory(row, rowAt(row)); });
-  connect(m_list.get(), &CategoryList::edited, this, [this] {
-    showList();
-    informOnNecessaryUpdate();
+  m_ui->table->setModel(m_model);
+  m_ui->table->horizontalHeader()->setStretchLastSection(true);
+  TableMenu::offerCopy(*m_ui->table);
+  connect(m_list.get(), &CategoryList::changed, this, [this](CategoryList::Change change) {
+    if (change == CategoryList::Change::Read)
+      showNewList();
+    else
+      informOnNecessaryUpdate();
   });
-  connect(m_list.get(), &CategoryList::hasRead, this, &NivraNetObjectCats::showNewList);
-  showRow(SearchRow, {QStringLiteral("fromSearch"), QString(), QString(), QStringLiteral("^name$"), QString(), false});
   showNewList();
 }
 
@@ -59,60 +56,18 @@ bool NivraNetObjectCats::settleChanges() {
 }
 
 void NivraNetObjectCats::showNewList() {
-  showList();
-  m_ui->tableWidget->resizeColumnsToContents();
+  m_ui->table->resizeColumnsToContents();
   on_pushButtonUse_clicked();
 }
 
-void NivraNetObjectCats::showList() {
-  int row = SearchRow;
-  for (const Category &category : m_list->categories())
-    showRow(++row, category);
-  const QSignalBlocker blocker(m_ui->tableWidget);
-  m_ui->tableWidget->setRowCount(row + 1);
-}
-
-void NivraNetObjectCats::showRow(int row, const Category &category) {
-  const QSignalBlocker blocker(m_ui->tableWidget);
-  if (row == m_ui->tableWidget->rowCount())
-    insertRow(row);
-  const QStringList texts{category.category, category.name, category.type, category.prop, category.value};
-  for (int column = CategoryColumn; column <= ValueColumn; ++column)
-    m_ui->tableWidget->item(row, column)->setText(texts.at(column));
-  m_ui->tableWidget->item(row, CategoryColumn)->setCheckState(category.isChecked ? Qt::Checked : Qt::Unchecked);
-}
-
-void NivraNetObjectCats::insertRow(int row) {
-  m_ui->tableWidget->insertRow(row);
-  for (int column = CategoryColumn; column <= ValueColumn; ++column) {
-    auto *cell = new QTableWidgetItem;
-    if (row == SearchRow)
-      cell->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled); // it follows the search
-    if (column == CategoryColumn)
-      cell->setToolTip(tr("check for report"));
-    m_ui->tableWidget->setItem(row, column, cell);
-  }
-}
-
-Category NivraNetObjectCats::rowAt(int row) const {
-  const auto text = [&](int column) {
-    return m_ui->tableWidget->item(row, column)->text().trimmed();
-  };
-  return {text(CategoryColumn), text(NameColumn),
-          text(TypeColumn),     text(PropertyColumn),
-          text(ValueColumn),    m_ui->tableWidget->item(row, CategoryColumn)->checkState() == Qt::Checked};
-}
-
 std::vector<Category> NivraNetObjectCats::categories() const {
-  std::vector<Category> all{rowAt(SearchRow)};
+  std::vector<Category> all{m_model->category(CategoryModel::SearchRow)};
   all.insert(all.end(), m_list->categories().begin(), m_list->categories().end());
   return all;
 }
 
-/// Not of the search.
-void NivraNetObjectCats::setCategory(int row, const Category &category) {
-  if (row > SearchRow)
-    m_list->set(static_cast<std::size_t>(row - 1), category);
+int NivraNetObjectCats::currentRow() const {
+  return m_ui->table->currentIndex().row();
 }
 
 Category NivraNetObjectCats::defined(const Category &named, const QStringList &strList) {
@@ -120,24 +75,24 @@ Category NivraNetObjectCats::defined(const Category &named, const QStringList &s
 }
 
 void NivraNetObjectCats::updateTempCategory(const QStringList &strList) {
-  showRow(SearchRow, defined(rowAt(SearchRow), strList));
+  m_model->setSearch(defined(m_model->category(CategoryModel::SearchRow), strList));
   on_pushButtonUse_clicked();
 }
 
 void NivraNetObjectCats::addCategory(const QStringList &strList, const QString &catName) {
-  const int row = m_ui->tableWidget->rowCount();
+  const int row = m_model->rowCount();
   Category named;
   named.category = catName.isEmpty() ? QStringLiteral("Cat%1").arg(row) : catName;
   m_list->append(defined(named, strList));
-  m_ui->tableWidget->setCurrentCell(row, CategoryColumn);
+  m_ui->table->setCurrentIndex(m_model->index(row, CategoryModel::CategoryColumn));
   show();
   raise();
 }
 
 void NivraNetObjectCats::addToCurrentCategory(const QStringList &strList) {
-  const int row = m_ui->tableWidget->currentRow();
-  if (row > SearchRow)
-    setCategory(row, defined(rowAt(row), strList));
+  const int row = currentRow();
+  if (row > CategoryModel::SearchRow)
+    m_list->set(static_cast<std::size_t>(CategoryModel::indexOf(row)), defined(m_model->category(row), strList));
 }
 
 void NivraNetObjectCats::on_toolButtonAdd_clicked() {
@@ -145,9 +100,9 @@ void NivraNetObjectCats::on_toolButtonAdd_clicked() {
 }
 
 void NivraNetObjectCats::on_toolButtonRemove_clicked() {
-  const int row = m_ui->tableWidget->currentRow();
-  if (row > SearchRow) // which stays
-    m_list->remove(static_cast<std::size_t>(row - 1));
+  const int row = currentRow();
+  if (row > CategoryModel::SearchRow) // which stays
+    m_list->remove(static_cast<std::size_t>(CategoryModel::indexOf(row)));
 }
 
 void NivraNetObjectCats::on_pushButtonOK_clicked() {
@@ -168,21 +123,21 @@ void NivraNetObjectCats::on_pushButtonUse_clicked() {
 }
 
 void NivraNetObjectCats::on_toolButtonToSearch_clicked() {
-  const int row = m_ui->tableWidget->currentRow();
+  const int row = currentRow();
   if (row < 0)
     return;
-  const Category category = rowAt(row);
+  const Category &category = m_model->category(row);
   emit toSearch({category.name, category.type, category.prop, category.value}, true);
 }
 
 void NivraNetObjectCats::on_toolButtonShowInTable_clicked() {
-  const int row = m_ui->tableWidget->currentRow();
+  const int row = currentRow();
   if (row < 0) {
     NivraMsg::message(NivraMsg::Kind::Warning, tr("Mark a row first!"));
     return;
   }
   on_pushButtonUse_clicked();
-  emit showInTable(rowAt(row).category);
+  emit showInTable(m_model->category(row).category);
 }
 
 void NivraNetObjectCats::informOnNecessaryUpdate() {

@@ -1,9 +1,6 @@
 #include <tools/findinglist.h>
 
-#include <QFileInfo>
-
 #include <algorithm>
-#include <iterator>
 
 void FindingList::set(std::vector<Group> groups) {
   m_groups = std::move(groups);
@@ -16,28 +13,18 @@ void FindingList::set(std::vector<Group> groups) {
     findings.erase(std::remove_if(findings.begin(), findings.end(), [](const Finding &f) { return f.text.isEmpty(); }),
                    findings.end());
   }
+  m_groups.erase(std::remove_if(m_groups.begin(), m_groups.end(), [](const Group &group) { return group.findings.empty(); }),
+                 m_groups.end());
 }
 
 QString FindingList::place(const Finding &finding) {
-  const QString file = QFileInfo(finding.file).fileName();
+  const QString file = finding.file.mid(finding.file.lastIndexOf(QLatin1Char('/')) + 1);
   return finding.line > 0 ? QStringLiteral("%1:%2").arg(file).arg(finding.line) : file;
 }
 
-bool FindingList::passes(const Finding &finding) const {
-  return m_filter.isEmpty() || finding.text.contains(m_filter, Qt::CaseInsensitive) ||
-         finding.element.contains(m_filter, Qt::CaseInsensitive) || place(finding).contains(m_filter, Qt::CaseInsensitive);
-}
-
-std::vector<FindingList::Group> FindingList::shown() const {
-  std::vector<Group> groups;
-  for (const Group &group : m_groups) {
-    Findings found;
-    std::copy_if(group.findings.begin(), group.findings.end(), std::back_inserter(found),
-                 [this](const Finding &finding) { return passes(finding); });
-    if (!found.empty())
-      groups.push_back({group.name, std::move(found)});
-  }
-  return groups;
+bool FindingList::says(const Finding &finding, const QString &text) {
+  return finding.text.contains(text, Qt::CaseInsensitive) || finding.element.contains(text, Qt::CaseInsensitive) ||
+         place(finding).contains(text, Qt::CaseInsensitive);
 }
 
 int FindingList::count() const {

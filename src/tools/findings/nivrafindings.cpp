@@ -1,25 +1,24 @@
+#include "findings/findingfilter.h"
+#include "findings/findingmodel.h"
+
 #include <tools/filterfield.h>
 #include <tools/nivrafindings.h>
-#include <tools/plaintip.h>
 #include <tools/tablemenu.h>
 
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <QVBoxLayout>
-
-namespace {
-
-enum Column { TextColumn, ElementColumn, PlaceColumn };
-
-} // namespace
 
 NivraFindings::NivraFindings(QWidget *parent)
     : QDockWidget(tr("Findings"), parent)
+    , m_findings(new FindingModel(this))
+    , m_shown(new FindingFilter(*m_findings, this))
     , m_filter(new FilterField)
-    , m_tree(new QTreeWidget)
+    , m_tree(new QTreeView)
+    , m_nothing(new QLabel)
     , m_count(new QLabel) {
   auto *contents = new QWidget;
   auto *column = new QVBoxLayout(contents);
@@ -34,79 +33,67 @@ NivraFindings::NivraFindings(QWidget *parent)
   column->addLayout(row);
   column->addWidget(m_tree, 1);
   setWidget(contents);
-  m_tree->setHeaderLabels({tr("finding"), tr("element"), tr("file")});
+  m_tree->setModel(m_shown);
   m_tree->setUniformRowHeights(true);
   m_tree->setAlternatingRowColors(true);
   m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
   m_tree->header()->setStretchLastSection(false);
-  m_tree->header()->setSectionResizeMode(TextColumn, QHeaderView::Stretch);
+  m_tree->header()->setSectionResizeMode(FindingModel::TextColumn, QHeaderView::Stretch);
+  auto *inTree = new QVBoxLayout(m_tree->viewport());
+  inTree->setContentsMargins(m_tree->indentation(), 0, 0, 0);
+  inTree->addWidget(m_nothing, 0, Qt::AlignTop);
+  m_nothing->setEnabled(false);
   TableMenu::offerCopy(*m_tree);
-  connect(m_filter, &QLineEdit::textChanged, this, [this](const QString &text) {
-    m_list.setFilter(text);
-    fill();
-  });
+  connect(m_filter, &QLineEdit::textChanged, m_shown, &FindingFilter::setText);
+  connect(m_shown, &QAbstractItemModel::modelReset, this, &NivraFindings::showFiltered);
+  connect(m_shown, &QAbstractItemModel::layoutChanged, this, &NivraFindings::showFiltered);
   connect(next, &QPushButton::clicked, this, &NivraFindings::showNext);
-  connect(m_tree, &QTreeWidget::itemClicked, this, &NivraFindings::goTo);
-  connect(m_tree, &QTreeWidget::itemActivated, this, &NivraFindings::goTo);
-  fill();
+  connect(m_tree, &QTreeView::clicked, this, &NivraFindings::goTo);
+  connect(m_tree, &QTreeView::activated, this, &NivraFindings::goTo);
+  showFiltered();
 }
 
 void NivraFindings::setFindings(std::vector<FindingList::Group> groups) {
-  m_list.set(std::move(groups));
-  fill();
+  m_findings->set(std::move(groups));
 }
 
-void NivraFindings::fill() {
-  constexpr std::size_t Most = 5000; // rows of a group; nobody looks through more, and the filter finds the others
-  m_tree->clear();
-  int shown = 0;
-  for (const FindingList::Group &group : m_list.shown()) {
-    auto *parent = new QTreeWidgetItem(m_tree, {tr("%1 (%2)").arg(group.name).arg(group.findings.size())});
-    parent->setFirstColumnSpanned(true);
-    QFont bold = m_tree->font();
-    bold.setBold(true);
-    parent->setFont(TextColumn, bold);
-    QList<QTreeWidgetItem *> rows;
-    for (std::size_t i = 0; i < std::min(group.findings.size(), Most); ++i) {
-      const Finding &finding = group.findings[i];
-      auto *row = new QTreeWidgetItem({finding.text, finding.element, FindingList::place(finding)});
-      row->setToolTip(TextColumn, PlainTip::of(finding.text));
-      row->setToolTip(PlaceColumn, PlainTip::of(finding.logText()));
-      rows.append(row);
-    }
-    if (group.findings.size() > Most)
-      rows.append(new QTreeWidgetItem({tr("… and %1 more, which the filter finds").arg(group.findings.size() - Most)}));
-    parent->addChildren(rows);
-    parent->setExpanded(true);
-    shown += static_cast<int>(group.findings.size());
-  }
-  if (m_tree->topLevelItemCount() == 0) {
-    auto *none = new QTreeWidgetItem(
-        m_tree, {m_list.count() == 0 ? tr("Nothing was found to be wrong.") : tr("No finding has the text of the filter.")});
-    none->setFlags(Qt::NoItemFlags);
-  }
-  m_tree->resizeColumnToContents(ElementColumn);
-  m_tree->resizeColumnToContents(PlaceColumn);
-  m_count->setText(shown == m_list.count() ? (shown == 1 ? tr("1 finding") : tr("%1 findings").arg(shown))
-                                           : tr("%1 of %2 findings").arg(shown).arg(m_list.count()));
+int NivraFindings::count() const {
+  return m_findings->list().count();
 }
 
-void NivraFindings::goTo(QTreeWidgetItem *item) {
-  if (item != nullptr && !item->text(ElementColumn).isEmpty())
-    emit elementWanted(item->text(ElementColumn));
+void NivraFindings::showFiltered() {
+  for (int group = 0; group < m_shown->rowCount(); ++group) {
+    m_tree->setFirstColumnSpanned(group, QModelIndex(), true);
+    m_tree->expand(m_shown->index(group, FindingModel::TextColumn));
+  }
+  m_tree->resizeColumnToContents(FindingModel::ElementColumn);
+  m_tree->resizeColumnToContents(FindingModel::PlaceColumn);
+  const int all = count();
+  const int shown = m_shown->count();
+  m_nothing->setText(all == 0 ? tr("Nothing was found to be wrong.") : tr("No finding has the text of the filter."));
+  m_nothing->setVisible(shown == 0);
+  m_count->setText(shown == all ? (shown == 1 ? tr("1 finding") : tr("%1 findings").arg(shown))
+                                : tr("%1 of %2 findings").arg(shown).arg(all));
+}
+
+void NivraFindings::goTo(const QModelIndex &index) {
+  const QString element = index.siblingAtColumn(FindingModel::ElementColumn).data().toString();
+  if (!element.isEmpty())
+    emit elementWanted(element);
 }
 
 void NivraFindings::showNext() {
-  QTreeWidgetItem *item = m_tree->currentItem();
+  QModelIndex index = m_tree->currentIndex();
   for (int i = 0; i < 2; ++i) { // a group, then its first finding
-    item = item == nullptr ? nullptr : m_tree->itemBelow(item);
-    if (item == nullptr)
-      item = m_tree->topLevelItem(0);
-    if (item->parent() != nullptr)
+    index = index.isValid() ? m_tree->indexBelow(index) : index;
+    if (!index.isValid())
+      index = m_shown->index(0, 0);
+    if (index.parent().isValid())
       break;
-    item->setExpanded(true);
+    m_tree->expand(index);
   }
-  m_tree->setCurrentItem(item);
-  m_tree->scrollToItem(item);
-  goTo(item);
+  index = index.siblingAtColumn(FindingModel::TextColumn);
+  m_tree->setCurrentIndex(index);
+  m_tree->scrollTo(index);
+  goTo(index);
 }

@@ -1,3 +1,5 @@
+#include "layers/layermodel.h"
+#include "shared/sortedrows.h"
 #include "ui_nivranetlayerseditor.h"
 
 #include <base/nivramsg.h>
@@ -5,44 +7,38 @@
 #include <tools/tablemenu.h>
 
 #include <QInputDialog>
-
-#include <algorithm>
-
-namespace {
-
-enum Column { VisibleColumn, LayerColumn, CountColumn };
-constexpr int LayerRole = Qt::UserRole; ///< the name as it is in the network, while the cell is being edited
-
-/// A number that is sorted as one.
-class CountItem : public QTableWidgetItem {
-public:
-  explicit CountItem(int count)
-      : QTableWidgetItem(QString::number(count)) {
-    setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-  }
-  bool operator<(const QTableWidgetItem &other) const override { return text().toInt() < other.text().toInt(); }
-};
-
-} // namespace
+#include <QStringListModel>
 
 NivraNetLayersEditor::NivraNetLayersEditor(NetData &net, QWidget *parent)
     : QDockWidget(parent)
     , m_ui(std::make_unique<Ui::NivraNetLayersEditor>())
     , m_net(net)
-    , m_layers(net) {
+    , m_layers(net)
+    , m_model(new LayerModel(m_layers, this))
+    , m_rows(new SortedRows(this))
+    , m_names(new QStringListModel(this)) {
   m_ui->setupUi(this);
-  m_ui->tableWidget->setHorizontalHeaderLabels({QStringLiteral(" "), tr("Layer"), tr("count")});
+  m_rows->setSortRole(LayerModel::SortRole);
+  m_rows->setSourceModel(m_model);
+  m_ui->table->setModel(m_rows);
+  m_ui->table->setSortingEnabled(true);
+  m_ui->list->setModel(m_names);
+  connect(m_ui->table, &QTableView::clicked, this, &NivraNetLayersEditor::on_tableWidget_itemClicked);
+  connect(m_ui->table, &QTableView::doubleClicked, this, &NivraNetLayersEditor::on_tableWidget_itemDoubleClicked);
+  connect(m_model, &LayerModel::cellEdited, this, &NivraNetLayersEditor::on_tableWidget_cellChanged);
+  connect(m_ui->list, &QListView::doubleClicked, this, &NivraNetLayersEditor::on_listWidget_itemDoubleClicked);
+  connect(m_ui->list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          &NivraNetLayersEditor::on_listWidget_currentItemChanged);
   m_ui->lineEditProperty->setText(m_layers.property());
   const std::pair<QAction *, void (NivraNetLayersEditor::*)()> actions[] = {
       {m_ui->actionShowAll, &NivraNetLayersEditor::on_toolButtonShowAll_clicked},
       {m_ui->actionHideAll, &NivraNetLayersEditor::on_toolButtonHideAll_clicked},
       {m_ui->actionInvert, &NivraNetLayersEditor::on_toolButtonInvert_clicked}};
   for (const auto &[action, slot] : actions) {
-    m_ui->tableWidget->addAction(action);
+    m_ui->table->addAction(action);
     connect(action, &QAction::triggered, this, slot);
   }
-  TableMenu::offerCopy(*m_ui->tableWidget);
+  TableMenu::offerCopy(*m_ui->table);
 }
 
 NivraNetLayersEditor::~NivraNetLayersEditor() = default;
@@ -62,13 +58,12 @@ void NivraNetLayersEditor::on_lineEditProperty_editingFinished() {
 }
 
 void NivraNetLayersEditor::setHiddenLayers(const QSet<QString> &hidden) {
-  m_hidden = hidden;
-  const QSignalBlocker blocker(m_ui->tableWidget);
-  for (int row = 0; row < m_ui->tableWidget->rowCount(); ++row)
-    m_ui->tableWidget->item(row, VisibleColumn)->setCheckState(hidden.contains(layerAt(row)) ? Qt::Unchecked : Qt::Checked);
+  m_model->setHidden(hidden);
 }
 
 void NivraNetLayersEditor::showWithout(const QSet<QString> &hidden) {
+  if (hidden == m_model->hidden())
+    return;
   emit hiddenLayersWanted(m_layers.property(), hidden);
   emit layerVisChanged();
 }
@@ -79,79 +74,58 @@ void NivraNetLayersEditor::on_pushButtonReload_clicked() {
 }
 
 void NivraNetLayersEditor::fill(const QString &marked) {
-  QTableWidget *table = m_ui->tableWidget;
-  const QSignalBlocker blocker(table);
-  const QString current = !marked.isEmpty() || table->currentRow() < 0 ? marked : layerAt(table->currentRow());
-  table->setSortingEnabled(false);
-  table->setRowCount(m_layers.all().size());
-  int row = 0;
-  for (auto layer = m_layers.all().cbegin(); layer != m_layers.all().cend(); ++layer, ++row) {
-    auto *visible = new QTableWidgetItem;
-    visible->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
-    visible->setCheckState(m_hidden.contains(layer.key()) ? Qt::Unchecked : Qt::Checked);
-    auto *name = new QTableWidgetItem(layer.key());
-    name->setData(LayerRole, layer.key());
-    if (m_mode == EditMode::VisibilityOnly || layer.key() == Layers::newLayer())
-      name->setFlags(name->flags() & ~Qt::ItemIsEditable);
-    table->setItem(row, VisibleColumn, visible);
-    table->setItem(row, LayerColumn, name);
-    table->setItem(row, CountColumn, new CountItem(layer->size()));
-  }
-  table->setSortingEnabled(true);
-  table->resizeColumnsToContents();
-  table->setCurrentItem(nullptr);
-  for (int i = 0; i < table->rowCount(); ++i) { // wherever sorting has put it
-    if (layerAt(i) == current)
-      table->setCurrentCell(i, LayerColumn);
-  }
-  m_ui->listWidget->clear();
+  const QModelIndex before = m_ui->table->currentIndex();
+  const QString current = marked.isEmpty() && before.isValid() ? layerAt(before) : marked;
+  m_model->refresh();
+  m_ui->table->resizeColumnsToContents();
+  const int row = m_model->row(current);
+  if (row >= 0)
+    m_ui->table->setCurrentIndex(m_rows->mapFromSource(m_model->index(row, LayerModel::LayerColumn)));
+  m_names->setStringList({});
 }
 
-QString NivraNetLayersEditor::layerAt(int row) const {
-  return m_ui->tableWidget->item(row, LayerColumn)->data(LayerRole).toString();
+/// \param index of the sorted rows
+QString NivraNetLayersEditor::layerAt(const QModelIndex &index) const {
+  return m_model->layer(m_rows->mapToSource(index).row());
 }
 
-void NivraNetLayersEditor::on_tableWidget_itemClicked(QTableWidgetItem *item) {
-  if (item->column() == LayerColumn)
-    showList(layerAt(item->row()));
+void NivraNetLayersEditor::on_tableWidget_itemClicked(const QModelIndex &item) {
+  if (item.column() == LayerModel::LayerColumn)
+    showList(layerAt(item));
 }
 
-void NivraNetLayersEditor::on_tableWidget_itemDoubleClicked(QTableWidgetItem *item) {
-  showList(layerAt(item->row()));
+void NivraNetLayersEditor::on_tableWidget_itemDoubleClicked(const QModelIndex &item) {
+  showList(layerAt(item));
 }
 
 void NivraNetLayersEditor::on_toolButtonList_clicked() {
-  if (m_ui->tableWidget->currentRow() >= 0)
-    showList(layerAt(m_ui->tableWidget->currentRow()));
+  if (m_ui->table->currentIndex().isValid())
+    showList(layerAt(m_ui->table->currentIndex()));
 }
 
 void NivraNetLayersEditor::showList(const QString &layer) {
-  const QSignalBlocker blocker(m_ui->listWidget);
-  m_ui->listWidget->clear();
-  m_ui->listWidget->addItems(m_layers.all().value(layer));
+  m_names->setStringList(m_layers.all().value(layer));
 }
 
-void NivraNetLayersEditor::on_tableWidget_cellChanged(int row, int column) {
-  const QString layer = layerAt(row);
-  const QTableWidgetItem *cell = m_ui->tableWidget->item(row, column);
-  if (column == VisibleColumn) {
-    QSet<QString> hidden = m_hidden;
-    if (cell->checkState() == Qt::Checked)
-      hidden.remove(layer);
-    else
-      hidden.insert(layer);
-    showWithout(hidden);
-  } else if (column == LayerColumn && cell->text() != layer) {
-    rename(layer, cell->text());
+void NivraNetLayersEditor::on_tableWidget_cellChanged(int row, int column, const QVariant &value) {
+  const QString layer = m_model->layer(row);
+  if (column == LayerModel::LayerColumn) { // once the field in the cell is closed, for the rows are made anew
+    QMetaObject::invokeMethod(
+        this, [this, layer, name = value.toString()] { rename(layer, name); }, Qt::QueuedConnection);
+    return;
   }
+  QSet<QString> hidden = m_model->hidden();
+  if (value.toInt() == Qt::Checked)
+    hidden.remove(layer);
+  else
+    hidden.insert(layer);
+  showWithout(hidden);
 }
 
 void NivraNetLayersEditor::rename(const QString &layer, const QString &name) {
-  if (!mayBecome(name)) {
-    fill(layer);
+  if (!m_layers.all().contains(layer) || !mayBecome(name))
     return;
-  }
-  QSet<QString> hidden = m_hidden;
+  QSet<QString> hidden = m_model->hidden();
   const bool joinsAnother = m_layers.all().contains(name); // which stays as it is
   if (hidden.remove(layer) && !joinsAnother)
     hidden.insert(name);
@@ -224,8 +198,8 @@ void NivraNetLayersEditor::on_toolButtonAdd_clicked() {
 
 void NivraNetLayersEditor::on_toolButtonDel_clicked() {
   QSet<QString> chosen;
-  for (const QTableWidgetItem *cell : m_ui->tableWidget->selectedItems())
-    chosen.insert(layerAt(cell->row()));
+  for (const QModelIndex &cell : m_ui->table->selectionModel()->selectedIndexes())
+    chosen.insert(layerAt(cell));
   if (chosen.isEmpty() || m_mode == EditMode::VisibilityOnly)
     return;
   const QString question =
@@ -233,7 +207,7 @@ void NivraNetLayersEditor::on_toolButtonDel_clicked() {
   if (!confirms(tr("Delete Layers"), question))
     return;
   const QStringList names = m_layers.remove(chosen);
-  emit hiddenLayersWanted(m_layers.property(), QSet<QString>(m_hidden).subtract(chosen));
+  emit hiddenLayersWanted(m_layers.property(), QSet<QString>(m_model->hidden()).subtract(chosen));
   fill();
   emit propertyChanged(names, m_layers.property());
 }
@@ -249,21 +223,22 @@ void NivraNetLayersEditor::on_toolButtonHideAll_clicked() {
 
 void NivraNetLayersEditor::on_toolButtonInvert_clicked() {
   const QStringList all = m_layers.all().keys();
-  showWithout(QSet<QString>(all.begin(), all.end()).subtract(m_hidden));
+  showWithout(QSet<QString>(all.begin(), all.end()).subtract(m_model->hidden()));
 }
 
-void NivraNetLayersEditor::on_listWidget_itemDoubleClicked(QListWidgetItem *item) {
-  emit itemDoubleClicked(item->text());
+void NivraNetLayersEditor::on_listWidget_itemDoubleClicked(const QModelIndex &item) {
+  emit itemDoubleClicked(item.data().toString());
 }
 
-void NivraNetLayersEditor::on_listWidget_currentItemChanged(QListWidgetItem *current, QListWidgetItem *) {
-  if (current != nullptr)
-    emit itemClicked(current->text());
+void NivraNetLayersEditor::on_listWidget_currentItemChanged(const QModelIndex &current, const QModelIndex & /*previous*/) {
+  if (current.isValid())
+    emit itemClicked(current.data().toString());
   emit selectionChanged();
 }
 
 void NivraNetLayersEditor::changeEditMode(EditMode mode) {
   m_mode = mode;
+  m_model->setRenamable(mode == EditMode::Layers);
   m_ui->toolButtonAdd->setEnabled(mode == EditMode::Layers);
   m_ui->toolButtonDel->setEnabled(mode == EditMode::Layers);
   fill();

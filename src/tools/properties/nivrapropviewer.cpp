@@ -1,4 +1,6 @@
+#include "properties/propertyfilter.h"
 #include "properties/propertylist.h"
+#include "properties/propertymodel.h"
 #include "shared/numberdelegate.h"
 #include "ui_nivrapropviewer.h"
 
@@ -9,23 +11,19 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEvent>
-#include <QHeaderView>
 #include <QMap>
-
-namespace {
-
-enum Column { PropertyColumn, ValueColumn, UnitColumn };
-
-} // namespace
 
 NivraPropViewer::NivraPropViewer(const NetData &net, QWidget *parent)
     : QDockWidget(parent)
     , m_ui(std::make_unique<Ui::NivraPropViewer>())
-    , m_net(net) {
+    , m_net(net)
+    , m_properties(new PropertyModel(this))
+    , m_shown(new PropertyFilter(this)) {
   m_ui->setupUi(this);
-  m_ui->treeWidget->setHeaderLabels({QStringLiteral("prop"), QStringLiteral("value"), QStringLiteral("unit")});
-  m_ui->treeWidget->setItemDelegate(new NumberDelegate(PropertyColumn, this));
-  m_ui->treeWidget->addActions({m_ui->actionCopy, m_ui->actionOpenCharacteristics});
+  m_shown->setSourceModel(m_properties);
+  m_ui->tree->setModel(m_shown);
+  m_ui->tree->setItemDelegate(new NumberDelegate(PropertyModel::PropertyColumn, this));
+  m_ui->tree->addActions({m_ui->actionCopy, m_ui->actionOpenCharacteristics});
   m_ui->actionOpenCharacteristics->setVisible(false);
   connect(m_ui->actionOpenCharacteristics, &QAction::triggered, this,
           [this] { emit characteristicsWanted({m_elementName}); });
@@ -37,61 +35,41 @@ NivraPropViewer::~NivraPropViewer() = default;
 void NivraPropViewer::showCurrentEleContents(const element *ele) {
   if (!m_isActive)
     return;
-  QTreeWidget *tree = m_ui->treeWidget;
-  tree->clear();
   m_ui->actionOpenCharacteristics->setVisible(ele != nullptr &&
                                               ElementTypes::hasCharacteristics(ele->value(QStringLiteral("type"))));
   if (ele == nullptr) {
     m_elementName.clear();
+    m_properties->set({});
     setWindowTitle(tr("Property Viewer (Hover Over Element First!)"));
     return;
   }
   m_elementName = ele->value(QStringLiteral("name"));
   setWindowTitle(tr("Properties of ") + m_elementName + tr(" of type ") + ele->value(QStringLiteral("type")));
-  for (const PropertyList::Group &group : PropertyList(*m_net.metaData(), m_showsHidden).of(*ele)) {
-    auto *parent = new QTreeWidgetItem(tree, {group.name});
-    QFont bold = parent->font(PropertyColumn);
-    bold.setWeight(QFont::Bold);
-    parent->setFont(PropertyColumn, bold);
-    for (const PropertyList::Row &row : group.rows) {
-      auto *item = new QTreeWidgetItem(parent, {row.property, row.value, row.unit});
-      if (row.isLong)
-        item->setSizeHint(ValueColumn, QSize(tree->header()->sectionSizeHint(ValueColumn), 0));
-    }
-  }
-  tree->expandAll();
-  for (const int column : {PropertyColumn, ValueColumn, UnitColumn})
-    tree->resizeColumnToContents(column);
-  on_lineEdit_filter_textChanged(m_ui->lineEdit_filter->text());
+  m_properties->set(PropertyList(*m_net.metaData(), m_showsHidden).of(*ele));
+  for (int group = 0; group < m_shown->rowCount(); ++group)
+    m_ui->tree->expand(m_shown->index(group, PropertyModel::PropertyColumn));
+  for (const int column : {PropertyModel::PropertyColumn, PropertyModel::ValueColumn, PropertyModel::UnitColumn})
+    m_ui->tree->resizeColumnToContents(column);
 }
 
 void NivraPropViewer::on_lineEdit_filter_textChanged(const QString &text) {
-  for (int i = 0; i < m_ui->treeWidget->topLevelItemCount(); ++i) {
-    QTreeWidgetItem *group = m_ui->treeWidget->topLevelItem(i);
-    for (int k = 0; k < group->childCount(); ++k) {
-      QTreeWidgetItem *row = group->child(k);
-      row->setHidden(!row->text(PropertyColumn).contains(text, Qt::CaseInsensitive) &&
-                     !row->text(ValueColumn).contains(text, Qt::CaseInsensitive));
-    }
-  }
+  m_shown->setText(text);
 }
 
 void NivraPropViewer::on_actionCopy_triggered() {
   struct Part {
     QString text;
-    const QTreeWidgetItem *row = nullptr;
+    int row = -1; ///< of the cell before
   };
   QMap<QString, Part> groups; // by name
-  for (const QModelIndex &cell : m_ui->treeWidget->selectionModel()->selectedIndexes()) {
+  for (const QModelIndex &cell : m_ui->tree->selectionModel()->selectedIndexes()) {
     if (!cell.parent().isValid())
       continue;
-    const QTreeWidgetItem *group = m_ui->treeWidget->topLevelItem(cell.parent().row());
-    const QTreeWidgetItem *row = group->child(cell.row());
-    Part &part = groups[group->text(PropertyColumn)];
-    if (part.row != nullptr)
-      part.text += part.row == row ? QLatin1Char('\t') : QLatin1Char('\n');
-    part.text += row->text(cell.column());
-    part.row = row;
+    Part &part = groups[cell.parent().data().toString()];
+    if (part.row >= 0)
+      part.text += part.row == cell.row() ? QLatin1Char('\t') : QLatin1Char('\n');
+    part.text += cell.data().toString();
+    part.row = cell.row();
   }
   QString text;
   for (const Part &part : qAsConst(groups))

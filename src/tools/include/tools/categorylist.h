@@ -9,6 +9,8 @@
 class CategoryList : public QObject {
   Q_OBJECT
 public:
+  enum class Change { Added, Edited, Removed, Read };
+
   /// Reads the categories of a case, in place of those before.
   void setFile(const QString &path);
   /// Reads the file again; what was not saved is dropped.
@@ -20,15 +22,18 @@ public:
   bool isChanged() const { return m_isChanged; } ///< against the file
 
   void append(const Category &category);
+  /// Tells nothing when the category is so already.
   void set(std::size_t index, const Category &category);
   void remove(std::size_t index);
 
 signals:
-  void edited();
-  void hasRead();
+  // Before and after each change. \param index of the category, 0 when all were read
+  void changing(CategoryList::Change change, int index);
+  void changed(CategoryList::Change change, int index);
 
 private:
-  void setChanged();
+  template <typename Action>
+  void perform(Change change, std::size_t index, Action action);
 
   QString m_path; ///< empty without a case
   std::vector<Category> m_categories;

@@ -14,22 +14,17 @@ public:
     Findings findings;
   };
 
-  /// Findings that only a box would tell say its text; what says nothing at all is left out.
+  /// Findings that only a box would tell say its text; what says nothing at all is left out, as are stages without any.
   void set(std::vector<Group> groups);
-  /// Only findings that have the text in them, in their element or file, regardless of case.
-  void setFilter(const QString &text) { m_filter = text; }
-
-  /// Groups with what passes the filter; none that would be empty.
-  std::vector<Group> shown() const;
-  /// Of all, whatever the filter.
+  const std::vector<Group> &groups() const { return m_groups; }
+  /// Findings of all stages.
   int count() const;
 
   /// "network.geom.jsn:12", empty when the finding belongs to no file.
   static QString place(const Finding &finding);
+  /// Whether the finding has the text in it, in its element or its file, regardless of case.
+  static bool says(const Finding &finding, const QString &text);
 
 private:
-  bool passes(const Finding &finding) const;
-
   std::vector<Group> m_groups;
-  QString m_filter;
 };

@@ -1,11 +1,13 @@
 #pragma once
 
-#include <model/netmetadata.h>
+#include <model/netdata.h>
 
-#include <QTreeWidget>
+#include <QTreeView>
+
+class MetaDataModel;
 
 /// The window "MetaData": the vocabulary of the network model, to be looked at.
-class MetaDataTable : public QTreeWidget {
+class MetaDataTable : public QTreeView {
   Q_OBJECT
 public:
   explicit MetaDataTable(const NetData &net, QWidget *parent = nullptr);
@@ -14,16 +16,6 @@ public:
   void fill();
 
 private:
-  struct Entry {
-    QString shortName;
-    QString longName;
-    QString description;
-  };
-
-  void addGroup(const QString &name, const std::vector<Entry> &entries);
-  std::vector<Entry> types() const;
-  std::vector<Entry> functions(const QStringList &properties) const;
-  std::vector<Entry> properties(const QString &group) const;
-
   const NetData &m_net;
+  MetaDataModel *m_model;
 };

@@ -4,10 +4,12 @@
 
 #include <QDockWidget>
 
+class FindingFilter;
+class FindingModel;
 class QLabel;
 class QLineEdit;
-class QTreeWidget;
-class QTreeWidgetItem;
+class QModelIndex;
+class QTreeView;
 
 /// The panel "Findings": what reading, checking, formulas and bounds found, by stage. A click asks to see the element.
 class NivraFindings : public QDockWidget {
@@ -16,7 +18,7 @@ public:
   explicit NivraFindings(QWidget *parent = nullptr);
 
   void setFindings(std::vector<FindingList::Group> groups);
-  int count() const { return m_list.count(); } ///< of all, whatever the filter
+  int count() const; ///< of all, whatever the filter
 
 signals:
   void elementWanted(const QString &name);
@@ -26,11 +28,13 @@ public slots:
   void showNext();
 
 private:
-  void fill();
-  void goTo(QTreeWidgetItem *item);
+  void showFiltered();
+  void goTo(const QModelIndex &index);
 
-  FindingList m_list;
+  FindingModel *m_findings;
+  FindingFilter *m_shown;
   QLineEdit *m_filter;
-  QTreeWidget *m_tree;
+  QTreeView *m_tree;
+  QLabel *m_nothing; ///< where the first row would be
   QLabel *m_count;
 };

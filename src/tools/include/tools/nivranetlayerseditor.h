@@ -7,8 +7,10 @@
 
 #include <memory>
 
-class QListWidgetItem;
-class QTableWidgetItem;
+class LayerModel;
+class QModelIndex;
+class QStringListModel;
+class SortedRows;
 
 namespace Ui {
 class NivraNetLayersEditor;
@@ -30,6 +32,14 @@ public:
   /// By the drawing, after each change.
   void setHiddenLayers(const QSet<QString> &hidden);
 
+  // Of the table of layers and the list of elements. The toolkit would look for signals of the same names.
+  void on_tableWidget_itemClicked(const QModelIndex &item);
+  /// \param row of the model \param value what the person wants in the cell
+  void on_tableWidget_cellChanged(int row, int column, const QVariant &value);
+  void on_tableWidget_itemDoubleClicked(const QModelIndex &item);
+  void on_listWidget_itemDoubleClicked(const QModelIndex &item);
+  void on_listWidget_currentItemChanged(const QModelIndex &current, const QModelIndex &previous);
+
 signals:
   /// Nothing is to be drawn for it: layerVisChanged() or propertyChanged() follow.
   void hiddenLayersWanted(const QString &property, const QSet<QString> &hidden);
@@ -40,17 +50,12 @@ signals:
   void propertyChanged(const QStringList &names, const QString &property); ///< elements came into a layer or left one
 
 public slots:
-  void on_tableWidget_itemClicked(QTableWidgetItem *item);
-  void on_tableWidget_cellChanged(int row, int column);
-  void on_tableWidget_itemDoubleClicked(QTableWidgetItem *item);
   void on_toolButtonAdd_clicked();
   void on_toolButtonDel_clicked();
   void on_toolButtonList_clicked();
   void on_toolButtonShowAll_clicked();
   void on_toolButtonHideAll_clicked();
   void on_toolButtonInvert_clicked();
-  void on_listWidget_itemDoubleClicked(QListWidgetItem *item);
-  void on_listWidget_currentItemChanged(QListWidgetItem *current, QListWidgetItem *previous);
   void on_pushButtonReload_clicked();
   void on_lineEditProperty_editingFinished();
   void changeEditMode(NivraNetLayersEditor::EditMode mode);
@@ -62,13 +67,15 @@ private:
   bool mayBecome(const QString &name);
   void showWithout(const QSet<QString> &hidden);
   void showList(const QString &layer);
-  QString layerAt(int row) const;
+  QString layerAt(const QModelIndex &index) const;
   QString askForLayer();
   bool confirms(const QString &title, const QString &question);
 
   std::unique_ptr<Ui::NivraNetLayersEditor> m_ui;
   NetData &m_net;
   Layers m_layers;
-  QSet<QString> m_hidden; ///< as the drawing said
+  LayerModel *m_model;
+  SortedRows *m_rows;
+  QStringListModel *m_names; ///< of the elements of a layer
   EditMode m_mode = EditMode::Layers;
 };

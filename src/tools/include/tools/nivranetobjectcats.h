@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class CategoryModel;
+
 namespace Ui {
 class NivraNetObjectCats;
 }
@@ -46,14 +48,11 @@ public slots:
 private:
   bool save();
   void showNewList();
-  void showList();
-  void showRow(int row, const Category &category);
-  void insertRow(int row);
-  Category rowAt(int row) const;
-  void setCategory(int row, const Category &category);
+  int currentRow() const; ///< -1 for none
   /// With the texts of a search.
   static Category defined(const Category &named, const QStringList &strList);
 
   std::unique_ptr<Ui::NivraNetObjectCats> m_ui;
   std::shared_ptr<CategoryList> m_list;
+  CategoryModel *m_model;
 };

@@ -6,6 +6,9 @@
 
 #include <memory>
 
+class PropertyFilter;
+class PropertyModel;
+
 namespace Ui {
 class NivraPropViewer;
 }
@@ -37,6 +40,8 @@ protected:
 private:
   std::unique_ptr<Ui::NivraPropViewer> m_ui;
   const NetData &m_net;
+  PropertyModel *m_properties;
+  PropertyFilter *m_shown;
   QString m_elementName;
   bool m_isActive = true;
   bool m_showsHidden = false;

@@ -1,0 +1,67 @@
+#include "findings/findingmodel.h"
+
+#include <tools/plaintip.h>
+
+#include <QFont>
+
+namespace {
+
+QString text(const Finding &finding, int column) {
+  switch (column) {
+  case FindingModel::TextColumn:
+    return finding.text;
+  case FindingModel::ElementColumn:
+    return finding.element;
+  default:
+    return FindingList::place(finding);
+  }
+}
+
+} // namespace
+
+void FindingModel::set(std::vector<FindingList::Group> groups) {
+  beginResetModel();
+  m_list.set(std::move(groups));
+  endResetModel();
+}
+
+int FindingModel::columnCount(const QModelIndex & /*parent*/) const {
+  return ColumnCount;
+}
+
+QVariant FindingModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    return QVariant();
+  return QStringList{tr("finding"), tr("element"), tr("file")}.value(section);
+}
+
+int FindingModel::groupCount() const {
+  return static_cast<int>(m_list.groups().size());
+}
+
+int FindingModel::entryCount(int group) const {
+  return static_cast<int>(at(group).findings.size());
+}
+
+QVariant FindingModel::groupData(int group, int column, int role) const {
+  if (role == Qt::DisplayRole && column == TextColumn)
+    return at(group).name;
+  if (role == Qt::FontRole) {
+    QFont font;
+    font.setBold(true);
+    return font;
+  }
+  return QVariant();
+}
+
+QVariant FindingModel::entryData(int group, int entry, int column, int role) const {
+  const Finding &finding = at(group).findings[static_cast<std::size_t>(entry)];
+  switch (role) {
+  case Qt::DisplayRole:
+    return text(finding, column);
+  case Qt::ToolTipRole:
+    return column == ElementColumn ? QVariant() : PlainTip::of(column == TextColumn ? finding.text : finding.logText());
+  default:
+    return QVariant();
+  }
+}

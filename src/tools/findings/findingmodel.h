@@ -1,0 +1,31 @@
+#pragma once
+
+#include "shared/groupmodel.h"
+
+#include <tools/findinglist.h>
+
+/// Findings below the stages that made them.
+class FindingModel final : public GroupModel {
+  Q_OBJECT
+public:
+  enum Columns { TextColumn, ElementColumn, PlaceColumn, ColumnCount };
+
+  using GroupModel::GroupModel;
+
+  void set(std::vector<FindingList::Group> groups);
+  const FindingList &list() const { return m_list; }
+
+  int columnCount(const QModelIndex &parent = QModelIndex()) const final;
+  QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const final;
+
+protected:
+  int groupCount() const final;
+  int entryCount(int group) const final;
+  QVariant groupData(int group, int column, int role) const final;
+  QVariant entryData(int group, int entry, int column, int role) const final;
+
+private:
+  const FindingList::Group &at(int group) const { return m_list.groups()[static_cast<std::size_t>(group)]; }
+
+  FindingList m_list;
+};

@@ -1,0 +1,84 @@
+#include "metadata/metadatamodel.h"
+
+#include <model/elementtypes.h>
+#include <tools/plaintip.h>
+
+void MetaDataModel::set(const NetMetaData &metaData) {
+  beginResetModel();
+  m_groups = {{QStringLiteral("ElementTypes"), types()},
+              {QStringLiteral("NodeFunctions"), functions(metaData, metaData.nodeFunctions())},
+              {QStringLiteral("EdgeFunctions"), functions(metaData, metaData.edgeFunctions())},
+              {QStringLiteral("GeomParms"), properties(metaData, QStringLiteral("geometry"))},
+              {QStringLiteral("ScenParms"), properties(metaData, QStringLiteral("scenario"))},
+              {QStringLiteral("ResultParms"), properties(metaData, QStringLiteral("results"))},
+              {QStringLiteral("GasParms"), properties(metaData, QStringLiteral("gas"))},
+              {QStringLiteral("VisParms"), properties(metaData, QString())}};
+  endResetModel();
+}
+
+int MetaDataModel::columnCount(const QModelIndex & /*parent*/) const {
+  return ColumnCount;
+}
+
+QVariant MetaDataModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    return QVariant();
+  return QStringList{QStringLiteral("ShortNames"), QStringLiteral("LongNames"),
+                     QStringLiteral("Description (Attribute.csv)")}
+      .value(section);
+}
+
+int MetaDataModel::groupCount() const {
+  return static_cast<int>(m_groups.size());
+}
+
+int MetaDataModel::entryCount(int group) const {
+  return static_cast<int>(at(group).entries.size());
+}
+
+QVariant MetaDataModel::groupData(int group, int column, int role) const {
+  if (role != Qt::DisplayRole || column != ShortNameColumn)
+    return QVariant();
+  return QStringLiteral("%1 (%2)").arg(at(group).name).arg(entryCount(group));
+}
+
+QVariant MetaDataModel::entryData(int group, int entry, int column, int role) const {
+  const Entry &shown = at(group).entries[static_cast<std::size_t>(entry)];
+  if (role == Qt::ToolTipRole && column == DescriptionColumn)
+    return PlainTip::of(shown.description);
+  if (role != Qt::DisplayRole)
+    return QVariant();
+  return column == ShortNameColumn ? shown.shortName : column == LongNameColumn ? shown.longName : shown.description;
+}
+
+std::vector<MetaDataModel::Entry> MetaDataModel::types() {
+  std::vector<Entry> entries;
+  for (const ElementType &type : ElementTypes::all())
+    entries.push_back({type.code, type.longName, type.plural});
+  return entries;
+}
+
+std::vector<MetaDataModel::Entry> MetaDataModel::functions(const NetMetaData &metaData, const QStringList &names) {
+  std::vector<Entry> entries;
+  for (const QString &name : names) {
+    const NetMetaData::Attribute *attribute = metaData.anyAttribute(name);
+    entries.push_back({name, attribute == nullptr ? QString() : attribute->longName,
+                       attribute == nullptr ? QString() : attribute->description});
+  }
+  return entries;
+}
+
+/// Those of a group, or without one those that say how an element is drawn; each name once.
+std::vector<MetaDataModel::Entry> MetaDataModel::properties(const NetMetaData &metaData, const QString &group) {
+  std::vector<Entry> entries;
+  QSet<QString> known;
+  for (const NetMetaData::Attribute &attribute : metaData.attributes()) {
+    const bool isOfDrawing = attribute.category == QLatin1String("drawing") && attribute.group != QLatin1String("hidden");
+    const bool isWanted = group.isEmpty() ? isOfDrawing : attribute.group == group && !isOfDrawing;
+    if (!isWanted || known.contains(attribute.property))
+      continue;
+    known.insert(attribute.property);
+    entries.push_back({attribute.property, attribute.longName, attribute.description});
+  }
+  return entries;
+}

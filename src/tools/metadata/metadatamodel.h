@@ -1,0 +1,43 @@
+#pragma once
+
+#include "shared/groupmodel.h"
+
+#include <model/netmetadata.h>
+
+/// The vocabulary of the network model by group: the types, the functions, the properties.
+class MetaDataModel final : public GroupModel {
+  Q_OBJECT
+public:
+  enum Columns { ShortNameColumn, LongNameColumn, DescriptionColumn, ColumnCount };
+
+  using GroupModel::GroupModel;
+
+  void set(const NetMetaData &metaData);
+
+  int columnCount(const QModelIndex &parent = QModelIndex()) const final;
+  QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const final;
+
+protected:
+  int groupCount() const final;
+  int entryCount(int group) const final;
+  QVariant groupData(int group, int column, int role) const final;
+  QVariant entryData(int group, int entry, int column, int role) const final;
+
+private:
+  struct Entry {
+    QString shortName;
+    QString longName;
+    QString description;
+  };
+  struct Group {
+    QString name;
+    std::vector<Entry> entries;
+  };
+
+  static std::vector<Entry> types();
+  static std::vector<Entry> functions(const NetMetaData &metaData, const QStringList &names);
+  static std::vector<Entry> properties(const NetMetaData &metaData, const QString &group);
+  const Group &at(int group) const { return m_groups[static_cast<std::size_t>(group)]; }
+
+  std::vector<Group> m_groups;
+};

@@ -1,0 +1,49 @@
+#include "properties/propertymodel.h"
+
+#include <QFont>
+#include <QSize>
+
+void PropertyModel::set(std::vector<PropertyList::Group> groups) {
+  beginResetModel();
+  m_groups = std::move(groups);
+  endResetModel();
+}
+
+int PropertyModel::columnCount(const QModelIndex & /*parent*/) const {
+  return ColumnCount;
+}
+
+QVariant PropertyModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    return QVariant();
+  return QStringList{QStringLiteral("prop"), QStringLiteral("value"), QStringLiteral("unit")}.value(section);
+}
+
+int PropertyModel::groupCount() const {
+  return static_cast<int>(m_groups.size());
+}
+
+int PropertyModel::entryCount(int group) const {
+  return static_cast<int>(at(group).rows.size());
+}
+
+QVariant PropertyModel::groupData(int group, int column, int role) const {
+  if (column != PropertyColumn)
+    return QVariant();
+  if (role == Qt::DisplayRole)
+    return at(group).name;
+  if (role != Qt::FontRole)
+    return QVariant();
+  QFont font;
+  font.setWeight(QFont::Bold);
+  return font;
+}
+
+QVariant PropertyModel::entryData(int group, int entry, int column, int role) const {
+  const PropertyList::Row &row = at(group).rows[static_cast<std::size_t>(entry)];
+  if (role == Qt::SizeHintRole && column == ValueColumn && row.isLong)
+    return QSize(0, 0); // so that the column is as wide as the others and the header need
+  if (role != Qt::DisplayRole)
+    return QVariant();
+  return column == PropertyColumn ? row.property : column == ValueColumn ? row.value : row.unit;
+}

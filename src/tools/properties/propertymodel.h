@@ -1,0 +1,29 @@
+#pragma once
+
+#include "properties/propertylist.h"
+#include "shared/groupmodel.h"
+
+/// The properties of one element below their groups.
+class PropertyModel final : public GroupModel {
+  Q_OBJECT
+public:
+  enum Columns { PropertyColumn, ValueColumn, UnitColumn, ColumnCount };
+
+  using GroupModel::GroupModel;
+
+  void set(std::vector<PropertyList::Group> groups);
+
+  int columnCount(const QModelIndex &parent = QModelIndex()) const final;
+  QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const final;
+
+protected:
+  int groupCount() const final;
+  int entryCount(int group) const final;
+  QVariant groupData(int group, int column, int role) const final;
+  QVariant entryData(int group, int entry, int column, int role) const final;
+
+private:
+  const PropertyList::Group &at(int group) const { return m_groups[static_cast<std::size_t>(group)]; }
+
+  std::vector<PropertyList::Group> m_groups;
+};
