@@ -72,8 +72,10 @@ TableMenu::TableMenu(QAbstractItemView &view)
   m_header->setSectionsMovable(true);
   m_header->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(m_header, &QHeaderView::customContextMenuRequested, this, &TableMenu::showMenu);
-  // Sorting moves the rows but not which are hidden; the view sorts before a queued call comes.
-  connect(m_header, &QHeaderView::sortIndicatorChanged, this, &TableMenu::apply, Qt::QueuedConnection);
+  // The view hides rows by their numbers, whatever stands in them.
+  connect(view.model(), &QAbstractItemModel::modelReset, this, &TableMenu::apply);
+  connect(view.model(), &QAbstractItemModel::layoutChanged, this, &TableMenu::apply);
+  connect(view.model(), &QAbstractItemModel::rowsInserted, this, &TableMenu::apply);
   offerCopy(view);
 }
 
