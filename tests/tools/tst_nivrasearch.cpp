@@ -353,6 +353,10 @@ void TestNivraSearch::selectsRows() {
   QCOMPARE(doubleClicked.count(), 1);
   QCOMPARE(doubleClicked.first().first().toModelIndex().data().toString(), QStringLiteral("A.b"));
   QCOMPARE(doubleClicked.first().at(1).toInt(), 0);
+  QTest::keyClick(table(panel), Qt::Key_End);
+  QCOMPARE(table(panel)->currentIndex(), cell(panel, 2, 3));
+  QTest::keyClick(table(panel), Qt::Key_Home);
+  QCOMPARE(table(panel)->currentIndex(), cell(panel, 0, 3));
 }
 
 void TestNivraSearch::exportsTheRows() {

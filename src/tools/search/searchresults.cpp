@@ -33,9 +33,15 @@ void SearchResults::show(std::vector<SearchRow> rows) {
   clear(); // there is no use in sorting the rows that go
   m_view.sortByColumn(SearchResultsModel::NameColumn, Qt::AscendingOrder);
   m_model.setRows(std::move(rows));
+  const int height = m_view.sizeHintForIndex(m_model.index(0, SearchResultsModel::NameColumn)).height(); // -1 without rows
+  m_view.verticalHeader()->setMinimumSectionSize(height);
+  m_view.verticalHeader()->setDefaultSectionSize(height);
+  QHeaderView &header = *m_view.horizontalHeader();
+  header.setSortIndicatorShown(false); // for which every column would keep room
   for (const int column : {SearchResultsModel::NameColumn, SearchResultsModel::TypeColumn,
                            SearchResultsModel::PropertyColumn, SearchResultsModel::UnitColumn})
     m_view.resizeColumnToContents(column);
+  header.setSortIndicatorShown(true);
 }
 
 void SearchResults::replace(const QString &name, const std::vector<SearchRow> &rows) {

@@ -1,25 +1,16 @@
 #include "shared/itemtable.h"
 
-#include <QEvent>
-#include <QHeaderView>
-
 ItemTable::ItemTable(QWidget *parent)
     : QTableView(parent) {
   connect(this, &QTableView::clicked, this, &ItemTable::itemClicked);
   connect(this, &QTableView::doubleClicked, this,
           [this](const QModelIndex &item) { emit itemDoubleClicked(item, item.column()); });
-  fitRowHeight();
 }
 
-void ItemTable::fitRowHeight() {
-  constexpr int RowMargin = 8; // px around the text
-  verticalHeader()->setDefaultSectionSize(QFontInfo(font()).pixelSize() + RowMargin);
-}
-
-void ItemTable::changeEvent(QEvent *event) {
-  QTableView::changeEvent(event);
-  if (event->type() == QEvent::FontChange)
-    fitRowHeight();
+QModelIndex ItemTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  if (selectionBehavior() != SelectRows || (action != MoveHome && action != MoveEnd))
+    return QTableView::moveCursor(action, modifiers);
+  return QTableView::moveCursor(action, modifiers | Qt::ControlModifier).siblingAtColumn(currentIndex().column());
 }
 
 void ItemTable::currentChanged(const QModelIndex &current, const QModelIndex &previous) {

@@ -3,7 +3,7 @@
 #include <QTableView>
 
 /// A table whose items are the cells of its model: it tells which one was clicked or became the current one, unless its
-/// signals are blocked, and its rows are as high as a line of its font needs.
+/// signals are blocked. Where whole rows are selected, Home and End go to the first and the last of them.
 class ItemTable : public QTableView {
   Q_OBJECT
 public:
@@ -15,9 +15,6 @@ signals:
   void currentItemChanged(const QModelIndex &current, const QModelIndex &previous);
 
 protected:
-  void changeEvent(QEvent *event) override;
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
-
-private:
-  void fitRowHeight();
 };

@@ -118,7 +118,9 @@ void NivraVecTable::showCount() {
 
 /// \param sortedBy the column by which the rows are put in order
 void NivraVecTable::showRows(std::vector<VectorRows::Row> rows, int sortedBy) {
-  m_model->setRows({}); // there is no use in sorting the rows that go
+  constexpr int RowMargin = 8; // px around the text
+  m_model->setRows({});        // there is no use in sorting the rows that go
+  m_ui->tableWidget->verticalHeader()->setDefaultSectionSize(QFontInfo(font()).pixelSize() + RowMargin);
   m_model->setTitles(headers());
   m_ui->tableWidget->sortByColumn(sortedBy, Qt::AscendingOrder);
   m_model->setRows(std::move(rows));
