@@ -54,6 +54,7 @@ signals:
 private:
   void showMenu(const QPoint &position);
   void askForFilter(int column);
+  void updateRows(bool areUpdated);
   void hideRow(int row, bool hidden);
   bool isHidden(int row) const { return isHidden(m_view, row); }
   static bool isHidden(const QAbstractItemView &view, int row);
