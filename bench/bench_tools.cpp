@@ -9,12 +9,12 @@
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
 #include <tools/nivravectable.h>
+#include <tools/vectorrows.h>
 
 #include <QApplication>
 #include <QComboBox>
 #include <QRegularExpression>
-#include <QTableWidget>
-#include <QTreeWidget>
+#include <QTableView>
 
 #include <benchmark/benchmark.h>
 #include <mpParser.h>
@@ -102,19 +102,14 @@ void searchByPattern(benchmark::State &state) {
 }
 BENCHMARK(searchByPattern)->Unit(benchmark::kMillisecond)->Iterations(2);
 
-/// The baseline: as many rows of five columns made.
-void bareItems(benchmark::State &state) {
+/// The baseline: the search alone, as the panel asks at first.
+void searchAlone(benchmark::State &state) {
   for (auto _ : state) {
-    QList<QTreeWidgetItem *> items;
-    for (int i = 0; i < Hundred; ++i)
-      items.append(new QTreeWidgetItem(
-          {QString::number(i), QStringLiteral("p"), QStringLiteral("name"), QString::number(i), QString()}));
-    state.PauseTiming();
-    qDeleteAll(items);
-    state.ResumeTiming();
+    NetworkSearch search(network(), {QString(), QString(), QString(), QStringLiteral("^name$"), false, QString()});
+    state.counters["rows"] = static_cast<double>(search.run().rows.size());
   }
 }
-BENCHMARK(bareItems)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(searchAlone)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 /// The panel with as many rows: searched, filled, sorted and shown.
 void searchPanel(benchmark::State &state) {
@@ -127,22 +122,15 @@ void searchPanel(benchmark::State &state) {
 }
 BENCHMARK(searchPanel)->Unit(benchmark::kMillisecond)->Iterations(3);
 
-/// The baseline: as many rows of seven columns put into a table.
-void bareTable(benchmark::State &state) {
-  constexpr int Columns = 7;
-  for (auto _ : state) {
-    QTableWidget table(Hundred, Columns);
-    for (int i = 0; i < Hundred; ++i) {
-      const QString number = QString::number(i);
-      for (int column = 0; column < Columns; ++column)
-        table.setItem(i, column, new QTableWidgetItem(number));
-    }
-    state.PauseTiming();
-    table.clear();
-    state.ResumeTiming();
-  }
+/// The baseline: the rows built, nothing else.
+void rowsAlone(benchmark::State &state) {
+  VectorRows::Request request;
+  request.property = QStringLiteral("name");
+  VectorRows rows(network());
+  for (auto _ : state)
+    state.counters["rows"] = static_cast<double>(rows.build(request).size());
 }
-BENCHMARK(bareTable)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(rowsAlone)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 /// The vector table with a property of all elements: rows built, filled, sorted and shown.
 void vectorTable(benchmark::State &state) {
@@ -154,7 +142,7 @@ void vectorTable(benchmark::State &state) {
     table.on_pushButtonUpdate_clicked();
     QApplication::processEvents();
   }
-  state.counters["rows"] = table.findChild<QTableWidget *>()->rowCount();
+  state.counters["rows"] = table.findChild<QTableView *>()->model()->rowCount();
 }
 BENCHMARK(vectorTable)->Unit(benchmark::kMillisecond)->Iterations(3);
 

@@ -26,7 +26,6 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
-#include <QTreeWidgetItem>
 
 #include <algorithm>
 #include <drawing/labelcontents.h>
@@ -373,7 +372,7 @@ void ToolDocks::createSearch() {
   addDock(m_search, QStringLiteral("search"), Qt::LeftDockWidgetArea);
   connect(m_search, &NivraSearch::elementMarked, this, &ToolDocks::elementMarked);
   connect(m_search, &NivraSearch::itemDoubleClicked, this,
-          [this](const QTreeWidgetItem *item) { m_control.showElement(item->text(0)); });
+          [this](const QModelIndex &item) { m_control.showElement(item.data().toString()); });
   connect(m_search, &NivraSearch::markSearchResults, &m_control, &NetVisControl::selectSearchResults);
   connect(m_search, &NivraSearch::searchCompleted, &m_control, &NetVisControl::refreshSearchResults);
   connect(m_control.picker(), &NetPicker::picked, m_search, &NivraSearch::select);

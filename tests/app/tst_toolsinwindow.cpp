@@ -24,6 +24,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTableView>
 #include <QTableWidget>
 #include <QTreeView>
 
@@ -67,11 +68,11 @@ NivraVecTable *vectorTable() {
 }
 
 QStringList names(const NivraVecTable &panel) {
-  const auto *table = panel.findChild<QTableWidget *>();
+  const auto *table = panel.findChild<QTableView *>();
   QStringList texts;
-  for (int row = 0; row < table->rowCount(); ++row) {
+  for (int row = 0; row < table->model()->rowCount(); ++row) {
     if (!table->isRowHidden(row))
-      texts.append(table->item(row, 0)->text());
+      texts.append(table->model()->index(row, 0).data().toString());
   }
   return texts;
 }

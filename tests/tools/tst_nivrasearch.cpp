@@ -8,6 +8,7 @@
 #include <support/nivratest.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
+#include <tools/tablemenu.h>
 #include <tools/vectorrows.h>
 
 #include <QCheckBox>
@@ -20,10 +21,10 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QToolTip>
-#include <QTreeWidget>
 
 namespace {
 
@@ -73,6 +74,7 @@ private slots:
   void historyKeepsTen();
   void dropSearchesNames();
   void changedElementIsSearchedAgain();
+  void filtersHoldForWhatIsFoundNext();
   void selectsRows();
   void exportsTheRows();
   void exportThatFailsIsTold();
@@ -95,7 +97,9 @@ private:
   static QLineEdit *field(NivraSearch &panel, const char *name) {
     return panel.findChild<QLineEdit *>(QString::fromLatin1(name));
   }
-  static QTreeWidget *tree(NivraSearch &panel) { return panel.findChild<QTreeWidget *>(); }
+  static QTableView *table(NivraSearch &panel) { return panel.findChild<QTableView *>(); }
+  static int rows(NivraSearch &panel) { return table(panel)->model()->rowCount(); }
+  static QModelIndex cell(NivraSearch &panel, int row, int column) { return table(panel)->model()->index(row, column); }
 
   std::unique_ptr<NetData> m_net;
 };
@@ -222,7 +226,7 @@ void TestNivraSearch::formulaOfTheToolTip() {
   const QString tip = panel.findChild<QToolButton *>(QStringLiteral("toolButton_formulaMode"))->toolTip();
   QTest::keyClicks(field(panel, "lineEdit_searchString"), tip.section(QStringLiteral("e.g. "), 1));
   QTest::keyClick(field(panel, "lineEdit_searchString"), Qt::Key_Return);
-  QVERIFY2(tree(panel)->topLevelItemCount() > 100, qPrintable(QString::number(tree(panel)->topLevelItemCount())));
+  QVERIFY2(rows(panel) > 100, qPrintable(QString::number(rows(panel))));
 }
 
 void TestNivraSearch::valuesAreInTheDisplayUnit() {
@@ -239,12 +243,12 @@ void TestNivraSearch::panelSearches() {
   QTest::keyClicks(field(panel, "lineEdit_name"), QStringLiteral("a"));
   QTest::keyClick(field(panel, "lineEdit_name"), Qt::Key_Return);
   QCOMPARE(completed.count(), 1);
-  QCOMPARE(tree(panel)->topLevelItemCount(), 2);
-  QCOMPARE(tree(panel)->topLevelItem(0)->text(0), QStringLiteral("A.b"));
+  QCOMPARE(rows(panel), 2);
+  QCOMPARE(cell(panel, 0, 0).data().toString(), QStringLiteral("A.b"));
   panel.defineSearch({QStringLiteral("x"), QStringLiteral("n"), QStringLiteral("^p$")}, true); // too few: ignored
   QCOMPARE(completed.count(), 1);
   panel.defineSearch({QStringLiteral("^ax"), QString(), QStringLiteral("^p$"), QString()}, true);
-  QCOMPARE(tree(panel)->topLevelItemCount(), 1);
+  QCOMPARE(rows(panel), 1);
   QVERIFY(panel.searchParams().regex);
   const QSignalSpy marked(&panel, &NivraSearch::markSearchResults);
   panel.on_pushButton_select_and_closure_clicked();
@@ -263,7 +267,7 @@ void TestNivraSearch::formulaModeFollowsTheText() {
   value->setText(QStringLiteral("p@ELE>1.6"));
   QCOMPARE(value->palette().color(QPalette::Base), QColor(173, 255, 173));
   QTest::keyClick(value, Qt::Key_Return);
-  QCOMPARE(tree(panel)->topLevelItemCount(), 2);
+  QCOMPARE(rows(panel), 2);
   QCOMPARE(panel.searchParams().formula, QStringLiteral("p@ELE>1.6"));
   QVERIFY(panel.searchParams().searchString.isEmpty());
   value->setText(QStringLiteral("p@ele"));
@@ -288,22 +292,45 @@ void TestNivraSearch::historyKeepsTen() {
 void TestNivraSearch::dropSearchesNames() {
   NivraSearch panel(*m_net);
   panel.searchNames(QStringLiteral(";;"));
-  QCOMPARE(tree(panel)->topLevelItemCount(), 0);
+  QCOMPARE(rows(panel), 0);
   panel.searchNames(QStringLiteral("A.b;;N-1.2"));
   QCOMPARE(panel.searchParams().name, QStringLiteral("^A\\.b$|^N\\-1\\.2$"));
   QVERIFY(panel.searchParams().regex);
-  QCOMPARE(tree(panel)->topLevelItemCount(), 2);
+  QCOMPARE(rows(panel), 2);
 }
 
 void TestNivraSearch::changedElementIsSearchedAgain() {
   NivraSearch panel(*m_net);
   panel.defineSearch({QString(), QString(), QStringLiteral("^p$"), QStringLiteral("^[25]0")}, false);
-  QCOMPARE(tree(panel)->topLevelItemCount(), 2);
+  QCOMPARE(rows(panel), 2);
   element &changed = *m_net->element(QStringLiteral("axB"));
   changed.set(QStringLiteral("p"), QStringLiteral("7"));
   panel.updateSearchItems(changed, QString());
-  QCOMPARE(tree(panel)->topLevelItemCount(), 1);
+  QCOMPARE(rows(panel), 1);
   QVERIFY(!changed.contains(QStringLiteral("isSearchResult")));
+}
+
+void TestNivraSearch::filtersHoldForWhatIsFoundNext() {
+  NivraSearch panel(*m_net);
+  auto *menu = panel.findChild<TableMenu *>();
+  const auto shown = [&panel] {
+    QStringList names;
+    for (int row = 0; row < rows(panel); ++row) {
+      if (!table(panel)->isRowHidden(row))
+        names.append(cell(panel, row, 0).data().toString());
+    }
+    return names.join(QLatin1Char(' '));
+  };
+  panel.searchWithFormula();
+  menu->setFilter(0, QStringLiteral("a"));
+  QCOMPARE(shown(), QStringLiteral("A.b axB"));
+  table(panel)->sortByColumn(0, Qt::DescendingOrder);
+  QCOMPARE(shown(), QStringLiteral("axB A.b"));
+  panel.searchWithFormula();
+  QCOMPARE(shown(), QStringLiteral("A.b axB"));
+  panel.updateSearchItems(*m_net->element(QStringLiteral("N-1.2")), QString());
+  QCOMPARE(rows(panel), 3);
+  QCOMPARE(shown(), QStringLiteral("A.b axB"));
 }
 
 void TestNivraSearch::selectsRows() {
@@ -311,15 +338,25 @@ void TestNivraSearch::selectsRows() {
   panel.searchWithFormula();
   const QSignalSpy marked(&panel, &NivraSearch::elementMarked);
   QVERIFY(panel.select(QStringLiteral("AXB")));
-  QCOMPARE(tree(panel)->currentItem()->text(0), QStringLiteral("axB"));
+  QCOMPARE(table(panel)->currentIndex().data().toString(), QStringLiteral("axB"));
   QCOMPARE(marked.count(), 0);
   QVERIFY(!panel.select(QStringLiteral("ax"))); // the whole name
-  QVERIFY(tree(panel)->currentItem() == nullptr);
-  tree(panel)->setCurrentItem(tree(panel)->topLevelItem(2));
+  QVERIFY(!table(panel)->currentIndex().isValid());
+  table(panel)->setCurrentIndex(cell(panel, 2, 1));
   QCOMPARE(marked.last().first().toString(), QStringLiteral("N-1.2"));
   const QSignalSpy doubleClicked(&panel, &NivraSearch::itemDoubleClicked);
-  panel.on_treeWidget_searchResults_itemDoubleClicked(tree(panel)->topLevelItem(0), 3);
+  panel.show();
+  QVERIFY(QTest::qWaitForWindowExposed(&panel));
+  const QPoint value = table(panel)->visualRect(cell(panel, 0, 3)).center();
+  QTest::mouseClick(table(panel)->viewport(), Qt::LeftButton, Qt::NoModifier, value);
+  QTest::mouseDClick(table(panel)->viewport(), Qt::LeftButton, Qt::NoModifier, value);
+  QCOMPARE(doubleClicked.count(), 1);
+  QCOMPARE(doubleClicked.first().first().toModelIndex().data().toString(), QStringLiteral("A.b"));
   QCOMPARE(doubleClicked.first().at(1).toInt(), 0);
+  QTest::keyClick(table(panel), Qt::Key_End);
+  QCOMPARE(table(panel)->currentIndex(), cell(panel, 2, 3));
+  QTest::keyClick(table(panel), Qt::Key_Home);
+  QCOMPARE(table(panel)->currentIndex(), cell(panel, 0, 3));
 }
 
 void TestNivraSearch::exportsTheRows() {
@@ -382,28 +419,25 @@ void TestNivraSearch::numbersAreRoundedForTheEye() {
   panel.resize(700, 500);
   panel.show();
   panel.defineSearch({QStringLiteral("axB"), QString(), QStringLiteral("^p$"), QString()}, false);
-  QTreeWidgetItem *item = tree(panel)->topLevelItem(0);
-  const QModelIndex cell = tree(panel)->model()->index(0, 3);
   // what is painted is what is painted for a cell of the rounded text
-  const auto painted = [&] {
-    tree(panel)->clearSelection();
-    return tree(panel)->viewport()->grab(tree(panel)->visualRect(cell)).toImage();
+  const auto painted = [&](const char *p) {
+    element &changed = *m_net->element(QStringLiteral("axB"));
+    changed.set(QStringLiteral("p"), QString::fromLatin1(p));
+    panel.updateSearchItems(changed, QString());
+    return table(panel)->viewport()->grab(table(panel)->visualRect(cell(panel, 0, 3))).toImage();
   };
-  const QImage rounded = painted();
-  item->setText(3, QStringLiteral("83.843"));
-  QCOMPARE(painted(), rounded);
-  item->setText(3, QStringLiteral("83.842"));
-  QVERIFY(painted() != rounded);
-  item->setText(3, QStringLiteral("83.84299999999999"));
-  const QPoint middle = tree(panel)->visualRect(cell).center();
-  QHelpEvent help(QEvent::ToolTip, middle, tree(panel)->viewport()->mapToGlobal(middle));
-  QApplication::sendEvent(tree(panel)->viewport(), &help);
+  const QImage rounded = painted("83.843");
+  QVERIFY(painted("83.842") != rounded);
+  QCOMPARE(painted("83.84299999999999"), rounded);
+  const QPoint middle = table(panel)->visualRect(cell(panel, 0, 3)).center();
+  QHelpEvent help(QEvent::ToolTip, middle, table(panel)->viewport()->mapToGlobal(middle));
+  QApplication::sendEvent(table(panel)->viewport(), &help);
   QVERIFY2(QToolTip::text().contains(QStringLiteral("83.84299999999999")), qPrintable(QToolTip::text()));
   panel.activateWindow();
   QVERIFY(QTest::qWaitForWindowActive(&panel));
-  tree(panel)->setFocus();
-  tree(panel)->setCurrentItem(item);
-  QTest::keyClick(tree(panel), Qt::Key_C, Qt::ControlModifier);
+  table(panel)->setFocus();
+  table(panel)->setCurrentIndex(cell(panel, 0, 3));
+  QTest::keyClick(table(panel), Qt::Key_C, Qt::ControlModifier);
   QVERIFY2(QApplication::clipboard()->text().contains(QStringLiteral("83.84299999999999")),
            qPrintable(QApplication::clipboard()->text()));
 }
@@ -468,7 +502,7 @@ void TestNivraSearch::typedLikeAPerson() {
   QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("axb"));
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   QCOMPARE(panel.searchParams().name, QStringLiteral("axb"));
-  QCOMPARE(tree(panel)->topLevelItemCount(), 1);
+  QCOMPARE(rows(panel), 1);
   QVERIFY(!field(panel, "lineEdit_prop")->toolTip().isEmpty());
   QVERIFY(field(panel, "lineEdit_prop")->isClearButtonEnabled());
 }
@@ -480,13 +514,11 @@ void TestNivraSearch::machinesOfferTheirMaps() {
   const QSignalSpy wanted(&panel, &NivraSearch::characteristicsWanted);
   auto *open = panel.findChild<QAction *>(QStringLiteral("actionOpenCharacteristics"));
   const auto isOffered = [&panel, open] {
-    return ContextMenu::texts(*tree(panel)).contains(open->text());
+    return ContextMenu::texts(*table(panel)).contains(open->text());
   };
   QVERIFY(panel.select(QStringLiteral("axB")));
   QVERIFY(!isOffered());
   QVERIFY(panel.select(QStringLiteral("CS")));
-  tree(panel)->setCurrentItem(nullptr);
-  tree(panel)->setCurrentItem(tree(panel)->findItems(QStringLiteral("CS"), Qt::MatchExactly).value(0));
   QVERIFY(isOffered());
   open->trigger();
   QCOMPARE(wanted.value(0).value(0).toStringList(), QStringList{QStringLiteral("CS")});
@@ -503,15 +535,15 @@ void TestNivraSearch::sortsAsTheTableDoes() {
   NivraSearch panel(*m_net);
   const auto texts = [&panel](int column) {
     QStringList cells;
-    for (int row = 0; row < tree(panel)->topLevelItemCount(); ++row)
-      cells.append(tree(panel)->topLevelItem(row)->text(column));
+    for (int row = 0; row < rows(panel); ++row)
+      cells.append(cell(panel, row, column).data().toString());
     return cells.join(QLatin1Char(' '));
   };
   panel.defineSearch({QString(), QString(), QStringLiteral("^own$"), QString()}, false);
   QCOMPARE(texts(0), QStringLiteral("s_1 S_2 S_9 S_10 S_11"));
-  tree(panel)->sortByColumn(3, Qt::AscendingOrder);
+  table(panel)->sortByColumn(3, Qt::AscendingOrder);
   QCOMPARE(texts(3), QStringLiteral("-1e3 9 10 5x open"));
-  tree(panel)->sortByColumn(0, Qt::DescendingOrder);
+  table(panel)->sortByColumn(0, Qt::DescendingOrder);
   QCOMPARE(texts(0), QStringLiteral("S_11 S_10 S_9 S_2 s_1"));
 }
 

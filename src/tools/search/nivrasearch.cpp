@@ -1,6 +1,8 @@
+#include "search/formulamode.h"
 #include "search/searchhint.h"
 #include "search/searchresults.h"
 #include "search/searchtable.h"
+#include "search/selectbuttons.h"
 #include "shared/nameaid.h"
 #include "ui_nivrasearch.h"
 
@@ -9,9 +11,7 @@
 #include <base/wholefile.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
-#include <tools/tablemenu.h>
 
-#include <QActionGroup>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QFileDialog>
@@ -36,19 +36,24 @@ NivraSearch::NivraSearch(NetData &net, QWidget *parent)
     , m_ui(std::make_unique<Ui::NivraSearch>())
     , m_net(net)
     , m_lastField(nullptr)
-    , m_formulaSearch(new QAction(tr("Formula Search"), this))
-    , m_add(nullptr)
     , m_historyMenu(new QMenu(this)) {
   initialiseResources();
   m_ui->setupUi(this);
-  setUpResults();
+  showHint(QString());
+  m_results = new SearchResults(*m_ui->treeWidget_searchResults);
+  connect(m_results, &SearchResults::characteristicsWanted, this, &NivraSearch::characteristicsWanted);
   m_ui->toolButton_history->setMenu(m_historyMenu);
   m_ui->toolButton_history->setPopupMode(QToolButton::InstantPopup);
   connect(m_historyMenu, &QMenu::triggered, this, &NivraSearch::resetToSavedSearch);
   m_ui->pushButton_toTable->setEnabled(false);
   m_ui->pushButton_addCat->setEnabled(false);
-  setUpSelect();
-  setUpFormulaMode();
+  const auto *buttons = new SelectButtons(*m_ui->toolButton_select, *m_ui->toolButton_mode, this);
+  connect(buttons, &SelectButtons::wanted, this, &NivraSearch::markSearchResults);
+  m_formulaMode = new FormulaMode(*m_ui->lineEdit_searchString, *m_ui->toolButton_formulaMode, this);
+  connect(m_formulaMode, &FormulaMode::ended, this, [this] {
+    m_searchString = m_ui->lineEdit_searchString->text();
+    clearFormulas();
+  });
   m_ui->lineEdit_prop->setText(QStringLiteral("^name$"));
   NameAid::attach(*m_ui->lineEdit_name,
                   [this](const QString &beginning, int most) { return NameAid::elementNames(m_net, beginning, most); });
@@ -59,76 +64,9 @@ NivraSearch::NivraSearch(NetData &net, QWidget *parent)
 
 NivraSearch::~NivraSearch() = default;
 
-void NivraSearch::setUpResults() {
-  QTreeWidget *tree = m_ui->treeWidget_searchResults;
-  m_results = std::make_unique<SearchResults>(*tree);
-  new TableMenu(*tree);
-  auto *characteristics = new QAction(tr("Open Characteristics"), this);
-  characteristics->setObjectName(QStringLiteral("actionOpenCharacteristics"));
-  tree->addAction(characteristics);
-  TableMenu::offerActions(
-      *tree, [this, characteristics] { characteristics->setVisible(!m_results->selectedMachines().isEmpty()); });
-  connect(characteristics, &QAction::triggered, this, [this] { emit characteristicsWanted(m_results->selectedMachines()); });
-  showHint(QString());
-}
-
 void NivraSearch::showHint(const QString &text) {
   m_ui->label_hint->setText(text);
   m_ui->label_hint->setVisible(!text.isEmpty());
-}
-
-void NivraSearch::setUpSelect() {
-  auto *selectMenu = new QMenu(this);
-  QAction *plain = selectMenu->addAction(tr("Select"));
-  QAction *closure = selectMenu->addAction(tr("Select+Closure"));
-  auto *modeMenu = new QMenu(this);
-  auto *group = new QActionGroup(this);
-  m_add = modeMenu->addAction(tr("add"));
-  QAction *replace = modeMenu->addAction(tr("replace"));
-  for (QAction *action : {m_add, replace}) {
-    action->setCheckable(true);
-    group->addAction(action);
-  }
-  replace->setChecked(true);
-  // Each button shows the action that was chosen last.
-  const auto setUp = [this](QToolButton *button, QMenu *choices, QAction *first) {
-    button->setMenu(choices);
-    button->setPopupMode(QToolButton::MenuButtonPopup);
-    button->setDefaultAction(first);
-    connect(choices, &QMenu::triggered, button, &QToolButton::setDefaultAction);
-  };
-  setUp(m_ui->toolButton_select, selectMenu, plain);
-  setUp(m_ui->toolButton_mode, modeMenu, replace);
-  connect(plain, &QAction::triggered, this, [this] { emit markSearchResults(false, m_add->isChecked()); });
-  connect(closure, &QAction::triggered, this, [this] { emit markSearchResults(true, m_add->isChecked()); });
-}
-
-void NivraSearch::setUpFormulaMode() {
-  m_plainPalette = m_ui->lineEdit_searchString->palette();
-  m_formulaSearch->setCheckable(true);
-  m_formulaSearch->setIcon(QIcon(QStringLiteral(":/iconsToolBar/crystal_project_icons/32x32/actions/funct.png")));
-  m_formulaSearch->setToolTip(tr("Formula Search\nUse ELE to refer to current element, e.g. p@ELE>0.1"));
-  m_ui->toolButton_formulaMode->setDefaultAction(m_formulaSearch);
-  connect(m_formulaSearch, &QAction::toggled, this, &NivraSearch::setFormulaMode);
-}
-
-bool NivraSearch::isFormulaMode() const {
-  return m_formulaSearch->isChecked();
-}
-
-void NivraSearch::setFormulaMode(bool on) {
-  QLineEdit *field = m_ui->lineEdit_searchString;
-  if (on) {
-    QPalette green = m_plainPalette;
-    green.setColor(QPalette::Base, QColor(173, 255, 173));
-    field->setPalette(green);
-    field->setPlaceholderText(tr("Formula"));
-    return;
-  }
-  field->setPalette(m_plainPalette);
-  field->setPlaceholderText(QString());
-  m_searchString = field->text();
-  clearFormulas();
 }
 
 void NivraSearch::clearFormulas() {
@@ -166,21 +104,21 @@ void NivraSearch::enterLastField() {
 }
 
 void NivraSearch::searchWithFormula() {
-  if (isFormulaMode()) {
+  if (m_formulaMode->isOn()) {
     m_formula = m_ui->lineEdit_searchString->text().trimmed();
     m_reportedFormula = m_formula;
     m_searchString.clear();
   }
-  m_ui->treeWidget_searchResults->clear();
+  m_results->clear();
   QElapsedTimer timer;
   timer.start();
   NetworkSearch search(m_net, searchParams());
   NivraMsg::debug(QStringLiteral("NivraSearch prep time: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
-  const NetworkSearch::Result result = search.run();
+  NetworkSearch::Result result = search.run();
   NivraMsg::debug(QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
-  m_results->show(result.rows);
+  m_results->show(std::move(result.rows));
   showCount();
-  showHint(result.isStopped ? result.error : SearchHint::of(m_net, searchParams(), result.rows.size()));
+  showHint(result.isStopped ? result.error : SearchHint::of(m_net, searchParams(), m_results->rows().size()));
   if (result.isStopped) {
     NivraMsg::logWarning(result.error);
     NivraMsg::message(NivraMsg::Kind::Warning, tr("Formula not ok! Search stopped (incomplete)!"));
@@ -190,11 +128,11 @@ void NivraSearch::searchWithFormula() {
 }
 
 void NivraSearch::showCount() {
-  m_ui->label_found->setText(tr("Found: %1").arg(m_ui->treeWidget_searchResults->topLevelItemCount()));
+  m_ui->label_found->setText(tr("Found: %1").arg(m_results->rows().size()));
 }
 
 void NivraSearch::clearResults() {
-  m_ui->treeWidget_searchResults->clear();
+  m_results->clear();
   showHint(QString());
   m_ui->label_found->setText(tr("Found:"));
 }
@@ -208,23 +146,13 @@ void NivraSearch::updateSearchItems(element &changed, const QString &oldName) {
   } catch (const FormulaError &error) {
     NivraMsg::logWarning(error.text());
   }
-  {
-    const QSignalBlocker blocker(m_ui->treeWidget_searchResults);
-    m_results->replace(oldName.isEmpty() ? changed.value(QStringLiteral("name")) : oldName, rows);
-  }
+  m_results->replace(oldName.isEmpty() ? changed.value(QStringLiteral("name")) : oldName, rows);
   showCount();
   NivraMsg::debug(QStringLiteral("updateSearchItem: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
 }
 
 bool NivraSearch::select(const QString &elementName) {
-  QTreeWidget *tree = m_ui->treeWidget_searchResults;
-  const QTreeWidgetItem *current = tree->currentItem();
-  if (current != nullptr && current->text(SearchResults::NameColumn).compare(elementName, Qt::CaseInsensitive) == 0)
-    return true;
-  const QSignalBlocker blocker(tree);
-  const QList<QTreeWidgetItem *> found = tree->findItems(elementName, Qt::MatchFixedString, SearchResults::NameColumn);
-  tree->setCurrentItem(found.value(0));
-  return !found.isEmpty();
+  return m_results->select(elementName);
 }
 
 void NivraSearch::searchFrom(QLineEdit *field) {
@@ -267,7 +195,7 @@ void NivraSearch::on_lineEdit_name_textChanged(const QString &arg1) {
 void NivraSearch::on_lineEdit_searchString_textChanged(const QString &arg1) {
   m_lastField = m_ui->lineEdit_searchString;
   m_searchString = arg1;
-  m_formulaSearch->setChecked(arg1.contains(QStringLiteral("@ELE")));
+  m_formulaMode->setOn(arg1.contains(QStringLiteral("@ELE")));
 }
 
 void NivraSearch::on_lineEdit_type_textChanged(const QString &arg1) {
@@ -293,9 +221,9 @@ void NivraSearch::on_pushButton_formula_clicked() {
   m_reportedFormula = entered;
   if (entered.isEmpty())
     return;
-  if (isFormulaMode()) {
+  if (m_formulaMode->isOn()) {
     m_ui->lineEdit_searchString->setText(entered);
-    m_formulaSearch->setChecked(true); // also for a formula that names no current element
+    m_formulaMode->setOn(true); // also for a formula that names no current element
   }
   searchWithFormula();
 }
@@ -345,17 +273,17 @@ void NivraSearch::on_pushButton_select_and_closure_clicked() {
   emit markSearchResults(true, false);
 }
 
-void NivraSearch::on_treeWidget_searchResults_itemDoubleClicked(QTreeWidgetItem *item, int) {
-  emit itemDoubleClicked(item, 0);
+void NivraSearch::on_treeWidget_searchResults_itemDoubleClicked(const QModelIndex &item, int) {
+  emit itemDoubleClicked(item.siblingAtColumn(SearchResultsModel::NameColumn), SearchResultsModel::NameColumn);
 }
 
-void NivraSearch::on_treeWidget_searchResults_currentItemChanged(QTreeWidgetItem *current, QTreeWidgetItem *previous) {
-  const auto nameOf = [](const QTreeWidgetItem *item) {
-    return item == nullptr ? QStringLiteral("null") : item->text(SearchResults::NameColumn);
+void NivraSearch::on_treeWidget_searchResults_currentItemChanged(const QModelIndex &current, const QModelIndex &previous) {
+  const auto nameOf = [](const QModelIndex &item) {
+    return item.isValid() ? item.data(SearchResultsModel::ElementRole).toString() : QStringLiteral("null");
   };
   NivraMsg::debug(QStringLiteral("Search item changed from %1 to %2").arg(nameOf(previous), nameOf(current)));
-  if (current != nullptr)
-    emit elementMarked(current->text(SearchResults::NameColumn));
+  if (current.isValid())
+    emit elementMarked(nameOf(current));
 }
 
 void NivraSearch::updateLastSearchesMenu() {

@@ -1,29 +1,35 @@
 #pragma once
 
-#include <tools/networksearch.h>
+#include "search/searchresultsmodel.h"
 
+#include <QObject>
 #include <QStringList>
 
-#include <vector>
+class ItemTable;
 
-class QTreeWidget;
-
-/// The tree of a search: a row for each property that was found.
-class SearchResults {
+/// The table of a search: a row for each property that was found. Its menu opens the maps of machines.
+class SearchResults : public QObject {
+  Q_OBJECT
 public:
-  enum Column { NameColumn, TypeColumn, PropertyColumn, ValueColumn, UnitColumn, ColumnCount };
+  /// Belongs to the view.
+  explicit SearchResults(ItemTable &view);
 
-  explicit SearchResults(QTreeWidget &tree);
-
+  void clear() { m_model.setRows({}); }
   /// Puts these rows in place of those before, sorted by name.
-  void show(const std::vector<SearchRow> &rows);
-  /// Puts these rows in place of those of the element.
+  void show(std::vector<SearchRow> rows);
+  /// Puts these rows in place of those of the element. No row is the current one afterwards, and no signal tells it.
   void replace(const QString &name, const std::vector<SearchRow> &rows);
-  /// The texts as they are shown.
-  std::vector<QStringList> rows() const;
-  /// Names of the machines in the selected rows that are shown, each once.
-  QStringList selectedMachines() const;
+  /// Makes the first row of the element the current one, without a signal; false, and no current row, when there is none.
+  bool select(const QString &name);
+  /// In the order in which they are shown.
+  const std::vector<SearchRow> &rows() const { return m_model.rows(); }
+
+signals:
+  void characteristicsWanted(const QStringList &machines);
 
 private:
-  QTreeWidget &m_tree;
+  QStringList selectedMachines() const;
+
+  ItemTable &m_view;
+  SearchResultsModel &m_model;
 };

@@ -4,18 +4,12 @@
 
 #include <QTextStream>
 
-namespace {
-
-constexpr int ValueColumn = 3;
-
-} // namespace
-
 QStringList SearchTable::headers() {
   return {QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("property"), QStringLiteral("value"),
           QStringLiteral("unit")};
 }
 
-bool SearchTable::write(QIODevice &device, const SearchParams &params, const std::vector<QStringList> &rows, bool useComma) {
+bool SearchTable::write(QIODevice &device, const SearchParams &params, const std::vector<SearchRow> &rows, bool useComma) {
   QTextStream stream(&device);
   stream.setCodec("ISO-8859-1");
   const std::pair<QString, QString> restrictions[] = {{QStringLiteral("SearchString:"), params.searchString},
@@ -29,7 +23,11 @@ bool SearchTable::write(QIODevice &device, const SearchParams &params, const std
   for (const QString &header : headers())
     stream << CsvField::quoted(header);
   stream << '\n';
-  CsvField::writeRows(stream, rows, ValueColumn, useComma);
+  for (const SearchRow &row : rows) {
+    for (const QString &text : {row.name, row.type, row.property, CsvField::value(row.value, useComma), row.unit})
+      stream << CsvField::quoted(text);
+    stream << '\n';
+  }
   stream.flush();
   return stream.status() == QTextStream::Ok;
 }

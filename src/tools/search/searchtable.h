@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tools/searchparams.h>
+#include <tools/networksearch.h>
 
 #include <QIODevice>
 #include <QStringList>
@@ -11,9 +11,9 @@
 namespace SearchTable {
 
 QStringList headers();
-/// \param rows in the order in which they are shown, five texts each
+/// \param rows in the order in which they are shown
 /// \param useComma decimal commas in the values
 /// False when the device does not take it.
-bool write(QIODevice &device, const SearchParams &params, const std::vector<QStringList> &rows, bool useComma);
+bool write(QIODevice &device, const SearchParams &params, const std::vector<SearchRow> &rows, bool useComma);
 
 } // namespace SearchTable

@@ -39,9 +39,4 @@ inline void writeRows(QTextStream &stream, const std::vector<QStringList> &rows,
   }
 }
 
-/// The same for tables with one column of values.
-inline void writeRows(QTextStream &stream, const std::vector<QStringList> &rows, int valueColumn, bool useComma) {
-  writeRows(stream, rows, QVector<int>{valueColumn}, useComma);
-}
-
 } // namespace CsvField

@@ -72,8 +72,14 @@ TableMenu::TableMenu(QAbstractItemView &view)
   m_header->setSectionsMovable(true);
   m_header->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(m_header, &QHeaderView::customContextMenuRequested, this, &TableMenu::showMenu);
-  // Sorting moves the rows but not which are hidden; the view sorts before a queued call comes.
-  connect(m_header, &QHeaderView::sortIndicatorChanged, this, &TableMenu::apply, Qt::QueuedConnection);
+  // The view hides rows by their numbers, whatever stands in them.
+  connect(view.model(), &QAbstractItemModel::modelReset, this, &TableMenu::apply);
+  connect(view.model(), &QAbstractItemModel::layoutAboutToBeChanged, this, [this] { updateRows(false); });
+  connect(view.model(), &QAbstractItemModel::layoutChanged, this, [this] {
+    updateRows(true);
+    apply();
+  });
+  connect(view.model(), &QAbstractItemModel::rowsInserted, this, &TableMenu::apply);
   offerCopy(view);
 }
 
@@ -199,6 +205,7 @@ void TableMenu::apply() {
     return;
   m_hidesRows = !filters.isEmpty();
   bool hasChanged = false;
+  updateRows(false);
   for (int row = 0; row < model.rowCount(); ++row) {
     bool isShown = true;
     for (auto it = filters.cbegin(); it != filters.cend() && isShown; ++it)
@@ -208,8 +215,15 @@ void TableMenu::apply() {
       hasChanged = true;
     }
   }
+  updateRows(true);
   if (hasChanged)
     emit filtered();
+}
+
+/// The header of a table finds out anew where all rows lie whenever one goes, unless it is told to wait.
+void TableMenu::updateRows(bool areUpdated) {
+  if (auto *table = qobject_cast<QTableView *>(&m_view))
+    table->verticalHeader()->setUpdatesEnabled(areUpdated);
 }
 
 int TableMenu::shownRows() const {

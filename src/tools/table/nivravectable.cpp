@@ -1,5 +1,5 @@
-#include "shared/naturalorder.h"
 #include "shared/numberdelegate.h"
+#include "table/vectormodel.h"
 #include "table/vectorplot.h"
 #include "ui_nivravectable.h"
 
@@ -15,48 +15,21 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QHideEvent>
-#include <QRegularExpression>
 
 #include <algorithm>
-#include <optional>
 #include <set>
-
-namespace {
-
-enum Column { NameColumn, TypeColumn, PropertyColumn, ValueColumn, UnitColumn, ResultColumn, NumsortColumn, ColumnCount };
-
-/// What sorting takes is found out once, and only for the columns by which somebody sorts.
-class Cell : public QTableWidgetItem {
-public:
-  explicit Cell(const QString &text)
-      : QTableWidgetItem(text, UserType)
-      , m_text(text) {
-    setFlags(Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsEnabled);
-  }
-  bool operator<(const QTableWidgetItem &other) const override { return rank() < static_cast<const Cell &>(other).rank(); }
-
-private:
-  const NaturalOrder::Rank &rank() const {
-    if (!m_rank)
-      m_rank.emplace(m_text);
-    return *m_rank;
-  }
-
-  QString m_text; ///< at hand: asking each item of 100,000 for a variant takes most of a second
-  mutable std::optional<NaturalOrder::Rank> m_rank;
-};
-
-} // namespace
 
 NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
     : QTabWidget(parent)
     , m_ui(std::make_unique<Ui::NivraVecTable>())
     , m_net(net)
     , m_rows(net)
+    , m_model(new VectorModel(this))
     , m_plot(new VectorPlot) {
   m_ui->setupUi(this);
+  m_ui->tableWidget->setModel(m_model);
   m_ui->tableWidget->addActions({m_ui->actionCopy_selectedItems, m_ui->actionOpenCharacteristics});
-  m_ui->tableWidget->setItemDelegate(new NumberDelegate(PropertyColumn, this));
+  m_ui->tableWidget->setItemDelegate(new NumberDelegate(VectorModel::PropertyColumn, this));
   TableMenu::offerActions(*m_ui->tableWidget,
                           [this] { m_ui->actionOpenCharacteristics->setVisible(!selectedMachines().isEmpty()); });
   connect(m_ui->actionOpenCharacteristics, &QAction::triggered, this,
@@ -96,13 +69,13 @@ QStringList NivraVecTable::headers() const {
                     QStringLiteral("unit"), QStringLiteral("result"), QStringLiteral("numsort")};
   const CategoryRecord category = m_categories.value(m_chosenCategory);
   if (!isPropertyMode()) {
-    texts[NameColumn] += QStringLiteral("\n(%1)").arg(category.name);
-    texts[TypeColumn] += QStringLiteral("\n(%1)").arg(category.type);
-    texts[PropertyColumn] += QStringLiteral("\n(%1)").arg(category.prop);
+    texts[VectorModel::NameColumn] += QStringLiteral("\n(%1)").arg(category.name);
+    texts[VectorModel::TypeColumn] += QStringLiteral("\n(%1)").arg(category.type);
+    texts[VectorModel::PropertyColumn] += QStringLiteral("\n(%1)").arg(category.prop);
   }
-  texts[ResultColumn] += QStringLiteral("\n(%1)").arg(isPropertyMode()             ? m_chosenProperty
-                                                      : category.formula.isEmpty() ? category.value
-                                                                                   : category.formula);
+  texts[VectorModel::ResultColumn] += QStringLiteral("\n(%1)").arg(isPropertyMode()             ? m_chosenProperty
+                                                                   : category.formula.isEmpty() ? category.value
+                                                                                                : category.formula);
   return texts;
 }
 
@@ -124,9 +97,9 @@ void NivraVecTable::on_pushButtonUpdate_clicked() {
   std::vector<VectorRows::Row> rows = m_rows.build(request);
   if (m_rows.allHaveUnits()) {
     VectorRows::sortByName(rows); // for equal numbers
-    sortNumerically(rows);
+    sortNumerically(std::move(rows));
   } else {
-    showRows(rows, NameColumn);
+    showRows(std::move(rows), VectorModel::NameColumn);
   }
   m_ui->tableWidget->resizeColumnsToContents();
   showCount();
@@ -136,7 +109,7 @@ void NivraVecTable::on_pushButtonUpdate_clicked() {
 }
 
 void NivraVecTable::showCount() {
-  const int all = m_ui->tableWidget->rowCount();
+  const int all = m_model->rowCount();
   const int shown = m_menu->shownRows();
   m_ui->labelCount->setText(m_menu->filterSummary().isEmpty()
                                 ? tr("%1 rows").arg(all)
@@ -144,51 +117,28 @@ void NivraVecTable::showCount() {
 }
 
 /// \param sortedBy the column by which the rows are put in order
-void NivraVecTable::showRows(const std::vector<VectorRows::Row> &rows, int sortedBy) {
+void NivraVecTable::showRows(std::vector<VectorRows::Row> rows, int sortedBy) {
   constexpr int RowMargin = 8; // px around the text
-  QTableWidget *table = m_ui->tableWidget;
-  table->setSortingEnabled(false);
-  table->setRowCount(0);
-  table->setHorizontalHeaderLabels(headers());
-  table->verticalHeader()->setDefaultSectionSize(QFontInfo(font()).pixelSize() + RowMargin);
-  table->setRowCount(static_cast<int>(rows.size()));
-  for (int i = 0; i < table->rowCount(); ++i) {
-    const VectorRows::Row &row = rows[static_cast<std::size_t>(i)];
-    const QString *cells[] = {&row.name, &row.type, &row.property, &row.value, &row.unit, &row.result, &row.numsort};
-    for (int column = 0; column < ColumnCount; ++column) {
-      auto *cell = new Cell(*cells[column]);
-      if (column == NumsortColumn)
-        cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-      table->setItem(i, column, cell);
-    }
-  }
-  table->horizontalHeader()->setSortIndicator(sortedBy, Qt::AscendingOrder);
-  table->setSortingEnabled(true);
-  m_menu->apply();
+  m_model->setRows({});        // there is no use in sorting the rows that go
+  m_ui->tableWidget->verticalHeader()->setDefaultSectionSize(QFontInfo(font()).pixelSize() + RowMargin);
+  m_model->setTitles(headers());
+  m_ui->tableWidget->sortByColumn(sortedBy, Qt::AscendingOrder);
+  m_model->setRows(std::move(rows));
 }
 
 void NivraVecTable::on_pushButtonTryNumSort_clicked() {
-  std::vector<VectorRows::Row> rows;
-  const QTableWidget &table = *m_ui->tableWidget;
-  const auto text = [&table](int row, int column) {
-    return table.item(row, column)->text();
-  };
-  rows.reserve(static_cast<std::size_t>(table.rowCount()));
-  for (int row = 0; row < table.rowCount(); ++row)
-    rows.push_back({text(row, NameColumn), text(row, TypeColumn), text(row, PropertyColumn), text(row, ValueColumn),
-                    text(row, UnitColumn), text(row, ResultColumn), text(row, NumsortColumn)});
-  sortNumerically(rows);
+  sortNumerically(m_model->rows());
 }
 
-void NivraVecTable::sortNumerically(std::vector<VectorRows::Row> &rows) {
+void NivraVecTable::sortNumerically(std::vector<VectorRows::Row> rows) {
   NivraMsg::debug(QStringLiteral("    numsort started ..."));
   VectorRows::sortNumerically(rows);
-  showRows(rows, NumsortColumn);
+  showRows(std::move(rows), VectorModel::NumsortColumn);
 }
 
 std::vector<int> NivraVecTable::shownRows() const {
   std::vector<int> rows;
-  for (int row = 0; row < m_ui->tableWidget->rowCount(); ++row) {
+  for (int row = 0; row < m_model->rowCount(); ++row) {
     if (!m_ui->tableWidget->isRowHidden(row))
       rows.push_back(row);
   }
@@ -197,10 +147,10 @@ std::vector<int> NivraVecTable::shownRows() const {
 
 QStringList NivraVecTable::selectedMachines() const {
   QStringList names;
-  const QTableWidget &table = *m_ui->tableWidget;
-  for (const QModelIndex &cell : table.selectionModel()->selectedIndexes()) {
-    if (!table.isRowHidden(cell.row()) && ElementTypes::hasCharacteristics(table.item(cell.row(), TypeColumn)->text()))
-      names.append(table.item(cell.row(), NameColumn)->text());
+  for (const QModelIndex &cell : m_ui->tableWidget->selectionModel()->selectedIndexes()) {
+    const VectorRows::Row &row = m_model->rows()[static_cast<std::size_t>(cell.row())];
+    if (!m_ui->tableWidget->isRowHidden(cell.row()) && ElementTypes::hasCharacteristics(row.type))
+      names.append(row.name);
   }
   names.removeDuplicates();
   return names;
@@ -284,13 +234,10 @@ void NivraVecTable::on_checkBoxUseSel_toggled(bool) {
   on_pushButtonUpdate_clicked();
 }
 
-void NivraVecTable::on_tableWidget_itemClicked(QTableWidgetItem *item) {
-  static const QRegularExpression NamesElement(QStringLiteral("^name$|^node1$|^node2$|^gasnode$|^driven$"));
-  if (item->text().isEmpty())
-    return;
-  const QString property = m_ui->tableWidget->item(item->row(), PropertyColumn)->text();
-  if (item->column() == NameColumn || (item->column() == ValueColumn && NamesElement.match(property).hasMatch()))
-    emit elementMarked(item->text());
+void NivraVecTable::on_tableWidget_itemClicked(const QModelIndex &item) {
+  const QString element = item.data(VectorModel::ElementRole).toString();
+  if (!element.isEmpty())
+    emit elementMarked(element);
 }
 
 void NivraVecTable::on_actionCopy_selectedItems_triggered() {
@@ -312,14 +259,14 @@ void NivraVecTable::on_pushButtonSave_clicked() {
 }
 
 bool NivraVecTable::save(const QString &path, QString *reason) const {
-  const QTableWidget &table = *m_ui->tableWidget;
+  const QTableView &table = *m_ui->tableWidget;
   VectorRows::Exported exported;
   std::vector<int> columns; // as they are shown
-  for (int i = 0; i < ColumnCount; ++i) {
+  for (int i = 0; i < VectorModel::ColumnCount; ++i) {
     const int column = table.horizontalHeader()->logicalIndex(i);
     if (table.isColumnHidden(column))
       continue;
-    if (column == ValueColumn || column == ResultColumn)
+    if (column == VectorModel::ValueColumn || column == VectorModel::ResultColumn)
       exported.valueColumns.append(static_cast<int>(columns.size()));
     columns.push_back(column);
     exported.headers.append(headers().at(column));
@@ -327,8 +274,8 @@ bool NivraVecTable::save(const QString &path, QString *reason) const {
   for (const int row : shownRows()) {
     QStringList texts;
     for (const int column : columns) {
-      const QString text = table.item(row, column)->text();
-      texts.append(column == NumsortColumn ? text.trimmed() : text); // blanks would make a text of the number
+      const QString &text = m_model->text(row, column);
+      texts.append(column == VectorModel::NumsortColumn ? text.trimmed() : text); // blanks would make a text of the number
     }
     exported.rows.push_back(texts);
   }
@@ -352,7 +299,7 @@ void NivraVecTable::on_NivraVecTable_currentChanged(int) {
 }
 
 void NivraVecTable::showPlot() {
-  const QTableWidget &table = *m_ui->tableWidget;
+  const QTableView &table = *m_ui->tableWidget;
   std::vector<int> rows = shownRows();
   std::set<int> selected;
   for (const QModelIndex &cell : table.selectionModel()->selectedIndexes()) {
@@ -366,11 +313,11 @@ void NivraVecTable::showPlot() {
   std::vector<std::pair<int, double>> values;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     bool isNumber = false;
-    const double number = table.item(rows[i], ResultColumn)->text().toDouble(&isNumber);
+    const double number = m_model->text(rows[i], VectorModel::ResultColumn).toDouble(&isNumber);
     if (isNumber)
       values.emplace_back(static_cast<int>(i) + 1, number);
   }
-  QString title = headers().at(ResultColumn).section(QLatin1Char('\n'), 1).mid(1).chopped(1);
+  QString title = headers().at(VectorModel::ResultColumn).section(QLatin1Char('\n'), 1).mid(1).chopped(1);
   const NetMetaData::Attribute *attribute = isPropertyMode() ? m_net.metaData()->anyAttribute(m_chosenProperty) : nullptr;
   if (attribute != nullptr && !attribute->storedUnit.isEmpty())
     title += QStringLiteral(" [%1]").arg(Units::written(attribute->storedUnit));

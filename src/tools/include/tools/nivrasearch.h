@@ -5,13 +5,13 @@
 #include <tools/searchparams.h>
 
 #include <QDockWidget>
-#include <QPalette>
+#include <QModelIndex>
 
 #include <memory>
 
+class FormulaMode;
 class QLineEdit;
 class QMenu;
-class QTreeWidgetItem;
 class SearchResults;
 
 namespace Ui {
@@ -44,7 +44,7 @@ public:
 signals:
   void elementMarked(const QString &elName);
   void markSearchResults(bool topoClosure, bool additive);
-  void itemDoubleClicked(QTreeWidgetItem *item, int column);
+  void itemDoubleClicked(const QModelIndex &item, int column); ///< a name in the table, whatever of its row was clicked
   void showInTable();
   void searchCompleted();
   void definitionChanged(const QStringList &searchDef); ///< name, type, prop, formula or searchString
@@ -71,8 +71,8 @@ public slots:
   void on_pushButton_save_clicked();
   void on_pushButton_addCat_clicked();
   void on_pushButton_toTable_clicked();
-  void on_treeWidget_searchResults_itemDoubleClicked(QTreeWidgetItem *item, int column);
-  void on_treeWidget_searchResults_currentItemChanged(QTreeWidgetItem *current, QTreeWidgetItem *previous);
+  void on_treeWidget_searchResults_itemDoubleClicked(const QModelIndex &item, int column);
+  void on_treeWidget_searchResults_currentItemChanged(const QModelIndex &current, const QModelIndex &previous);
   void updateLastSearchesMenu();
   void resetToSavedSearch(QAction *action);
 
@@ -83,11 +83,6 @@ protected:
   void dropEvent(QDropEvent *event) override;
 
 private:
-  void setUpResults();
-  void setUpSelect();
-  void setUpFormulaMode();
-  void setFormulaMode(bool on);
-  bool isFormulaMode() const;
   void clearFormulas();
   void searchFrom(QLineEdit *field);
   void showCount();
@@ -96,7 +91,8 @@ private:
   QStringList definition() const;
 
   std::unique_ptr<Ui::NivraSearch> m_ui;
-  std::unique_ptr<SearchResults> m_results;
+  SearchResults *m_results = nullptr;
+  FormulaMode *m_formulaMode = nullptr;
   NetData &m_net;
   SearchHistory m_history;
   QString m_name;
@@ -106,8 +102,5 @@ private:
   QString m_formula;         ///< being entered
   QString m_reportedFormula; ///< in exports and history
   QLineEdit *m_lastField;
-  QAction *m_formulaSearch;
-  QAction *m_add;
-  QPalette m_plainPalette;
   QMenu *m_historyMenu;
 };

@@ -3,12 +3,13 @@
 #include <tools/category.h>
 #include <tools/vectorrows.h>
 
+#include <QModelIndex>
 #include <QTabWidget>
 
 #include <memory>
 
-class QTableWidgetItem;
 class TableMenu;
+class VectorModel;
 class VectorPlot;
 
 namespace Ui {
@@ -49,7 +50,7 @@ public slots:
   void on_checkBoxProp_toggled(bool checked);
   void on_checkBoxNonZero_toggled(bool checked);
   void on_checkBoxUseSel_toggled(bool checked);
-  void on_tableWidget_itemClicked(QTableWidgetItem *item);
+  void on_tableWidget_itemClicked(const QModelIndex &item);
   void on_actionCopy_selectedItems_triggered();
   void on_actionHelp_triggered();
   void on_closePlotButton_clicked();
@@ -63,8 +64,8 @@ private:
   bool isPropertyMode() const;
   void listSomethingElse();
   QStringList headers() const;
-  void showRows(const std::vector<VectorRows::Row> &rows, int sortedBy);
-  void sortNumerically(std::vector<VectorRows::Row> &rows);
+  void showRows(std::vector<VectorRows::Row> rows, int sortedBy);
+  void sortNumerically(std::vector<VectorRows::Row> rows);
   void showCount();
   std::vector<int> shownRows() const;
   QStringList selectedMachines() const;
@@ -79,6 +80,7 @@ private:
   QString m_directory;
   bool m_isUpdating = false;
   bool m_isStale = false; ///< the category has changed while nobody saw it
+  VectorModel *m_model;
   VectorPlot *m_plot;
   TableMenu *m_menu = nullptr;
 };

@@ -24,7 +24,7 @@ private:
 };
 
 /// What every table offers: columns that can be moved, hidden and filtered by the menu of their header, and Ctrl+C. Belongs
-/// to the view, which must be a table or a flat tree.
+/// to the view, which must be a table or a flat tree and have its model.
 class TableMenu : public QObject {
   Q_OBJECT
 public:
@@ -36,8 +36,6 @@ public:
   void clearFilters();
   /// "value > 4, name A": what is asked of which column; empty without filters.
   QString filterSummary() const;
-  /// Hides and shows rows anew, after they have been filled or sorted.
-  void apply();
   int shownRows() const;
 
   /// The selected cells that are shown, as a spreadsheet takes them: tabulators between columns, line breaks between rows;
@@ -56,11 +54,14 @@ signals:
 private:
   void showMenu(const QPoint &position);
   void askForFilter(int column);
+  void updateRows(bool areUpdated);
   void hideRow(int row, bool hidden);
   bool isHidden(int row) const { return isHidden(m_view, row); }
   static bool isHidden(const QAbstractItemView &view, int row);
   static QHeaderView *header(const QAbstractItemView &view);
   void markHeader(int column);
+  /// Hides and shows rows anew, after they have been filled or sorted.
+  void apply();
 
   QAbstractItemView &m_view;
   QHeaderView *m_header;

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QPalette>
+
+class QAction;
+class QLineEdit;
+class QToolButton;
+
+/// Whether the value field of a search holds a formula, which it shows by its colour.
+class FormulaMode : public QObject {
+  Q_OBJECT
+public:
+  /// \param button turns the mode on and off
+  FormulaMode(QLineEdit &field, QToolButton &button, QObject *parent);
+
+  bool isOn() const;
+  void setOn(bool on);
+
+signals:
+  void ended(); ///< the field holds a pattern again
+
+private:
+  void show(bool on);
+
+  QLineEdit &m_field;
+  QAction *m_action;
+  QPalette m_plainPalette;
+};

@@ -1,0 +1,65 @@
+#include "search/searchresultsmodel.h"
+
+#include "search/searchtable.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr QString SearchRow::*Texts[] = {&SearchRow::name, &SearchRow::type, &SearchRow::property, &SearchRow::value,
+                                         &SearchRow::unit};
+
+} // namespace
+
+void SearchResultsModel::setRows(std::vector<SearchRow> rows) {
+  beginResetModel();
+  m_rows = std::move(rows);
+  sortNewRows();
+  endResetModel();
+}
+
+void SearchResultsModel::replace(const QString &name, const std::vector<SearchRow> &rows) {
+  const auto isOfElement = [&name](const SearchRow &row) {
+    return row.name.compare(name, Qt::CaseInsensitive) == 0;
+  };
+  for (auto first = m_rows.begin(); (first = std::find_if(first, m_rows.end(), isOfElement)) != m_rows.end();) {
+    const auto last = std::find_if_not(first, m_rows.end(), isOfElement);
+    beginRemoveRows(QModelIndex(), static_cast<int>(first - m_rows.begin()), static_cast<int>(last - m_rows.begin()) - 1);
+    first = m_rows.erase(first, last);
+    endRemoveRows();
+  }
+  for (const SearchRow &row : rows) {
+    const int at = rowFor(row.*Texts[sortedColumn()]);
+    beginInsertRows(QModelIndex(), at, at);
+    m_rows.insert(m_rows.begin() + at, row);
+    endInsertRows();
+  }
+}
+
+QModelIndex SearchResultsModel::find(const QString &name) const {
+  const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&name](const SearchRow &row) {
+    return row.name.compare(name, Qt::CaseInsensitive) == 0;
+  });
+  return found == m_rows.end() ? QModelIndex() : index(static_cast<int>(found - m_rows.begin()), NameColumn);
+}
+
+const QString &SearchResultsModel::text(int row, int column) const {
+  return m_rows[static_cast<std::size_t>(row)].*Texts[column];
+}
+
+int SearchResultsModel::rowCount(const QModelIndex &parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int SearchResultsModel::columnCount(const QModelIndex &parent) const {
+  return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant SearchResultsModel::data(const QModelIndex &index, int role) const {
+  return index.isValid() && role == ElementRole ? QVariant(text(index.row(), NameColumn))
+                                                : TextTableModel::data(index, role);
+}
+
+QString SearchResultsModel::title(int column) const {
+  return SearchTable::headers().at(column);
+}
