@@ -5,6 +5,7 @@
 #include "stationdrives.h"
 
 #include <base/wholefile.h>
+#include <io/networkfileconverter.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -13,8 +14,8 @@
 
 namespace {
 
-using Record = NetworkFileConverter::Record;
-using SetPoints = std::vector<NetworkFileConverter::SetPoint>;
+using Record = NetworkRecord;
+using SetPoints = std::vector<NetworkSetPoint>;
 
 QString tr(const char *text) {
   return QCoreApplication::translate("GasLibImport", text);

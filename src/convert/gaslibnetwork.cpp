@@ -266,7 +266,7 @@ GasLibReader::Record GasLibNetwork::gas() const {
   Record gas{QStringLiteral("gas"), QStringLiteral("gas"), {}};
   for (const Record &node : nodes) {
     std::copy_if(node.values.begin(), node.values.end(), std::back_inserter(gas.values),
-                 [](const NetworkFileConverter::Value &value) { return ofGas.contains(value.key.name()); });
+                 [](const NetworkRecord::Value &value) { return ofGas.contains(value.key.name()); });
     if (!gas.values.empty())
       break;
   }

@@ -151,7 +151,7 @@ void GasLibNomination::readBound(Bounds &bounds, const char *unit, const Units::
 
 void GasLibNomination::set(Scenario &scenario, const QString &node, const char *property, const GasLibUnits::Number &number,
                            const char *unit) {
-  NetworkFileConverter::Value value{PropertyKey::intern(property), number.text, true};
+  NetworkRecord::Value value{PropertyKey::intern(property), number.text, true};
   scenario.setPoints.push_back({node, std::move(value), QString::fromLatin1(unit)});
 }
 

@@ -9,7 +9,7 @@
 
 namespace {
 
-using Record = NetworkFileConverter::Record;
+using Record = NetworkRecord;
 
 QString tr(const char *text) {
   return QCoreApplication::translate("NodePlaces", text);
@@ -21,8 +21,8 @@ struct Place {
 };
 
 std::optional<Place> placeOf(const Record &node, const char *x, const char *y) {
-  const NetworkFileConverter::Value *atX = node.find(PropertyKey::intern(x));
-  const NetworkFileConverter::Value *atY = node.find(PropertyKey::intern(y));
+  const NetworkRecord::Value *atX = node.find(PropertyKey::intern(x));
+  const NetworkRecord::Value *atY = node.find(PropertyKey::intern(y));
   if (atX == nullptr || atY == nullptr)
     return std::nullopt;
   return Place{atX->text.toDouble().value_or(0.0), atY->text.toDouble().value_or(0.0)};
@@ -33,7 +33,7 @@ void put(Record &node, const Place &place) {
     constexpr int Digits = 14; // what the mean adds beyond is noise
     const PropertyKey key = PropertyKey::intern(property);
     node.values.erase(std::remove_if(node.values.begin(), node.values.end(),
-                                     [key](const NetworkFileConverter::Value &value) { return value.key == key; }),
+                                     [key](const NetworkRecord::Value &value) { return value.key == key; }),
                       node.values.end());
     node.values.push_back({key, PropertyText::ofNumber(at, Digits), true});
   }

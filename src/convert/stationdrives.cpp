@@ -8,14 +8,14 @@
 
 namespace {
 
-using Record = NetworkFileConverter::Record;
+using Record = NetworkRecord;
 
 QString tr(const char *text) {
   return QCoreApplication::translate("StationDrives", text);
 }
 
 QString valueOf(const Record &record, const char *property) {
-  const NetworkFileConverter::Value *found = record.find(PropertyKey::intern(property));
+  const NetworkRecord::Value *found = record.find(PropertyKey::intern(property));
   return found == nullptr ? QString() : found->text.toString();
 }
 

@@ -2,7 +2,7 @@
 
 #include "formulafunctions.h"
 
-#include <formulas/formula.h>
+#include <formulas/formulaerror.h>
 
 #include <QCoreApplication>
 

@@ -2,6 +2,7 @@
 
 #include <model/displayformat.h>
 #include <model/netmetadata.h>
+#include <model/topology.h>
 
 #include <cmath>
 
@@ -116,7 +117,7 @@ ConstraintJudge::SubnetOf ConstraintJudge::subnetsByElement() const {
   SubnetOf subnetOf;
   m_net.forEach(NetData::AssembledSubnet, [&](element &subnet) {
     subnetOf.emplace(&subnet, &subnet);
-    for (const QString &name : subnet.value(inner).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+    for (const QString &name : Topology::listed(subnet, inner)) {
       if (const element *e = m_net.element(name))
         subnetOf.emplace(e, &subnet);
     }

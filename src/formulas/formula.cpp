@@ -2,7 +2,6 @@
 #include "formulaparsers.h"
 
 #include <formulas/formula.h>
-#include <formulas/parserfactory.h>
 
 #include <QCoreApplication>
 #include <QHash>
@@ -63,19 +62,6 @@ QString asResultText(const mup::IValue &value) {
 
 } // namespace
 
-const element *FormulaReference::start(const NetData &net, const element *current, const FormulaNames *names) const {
-  if (elementName.isEmpty())
-    return current;
-  return net.element(names == nullptr ? elementName : names->element(elementName));
-}
-
-QString FormulaReference::written() const {
-  QString text = property.name();
-  for (auto step = path.rbegin(); step != path.rend(); ++step)
-    text += QLatin1Char('@') + step->name();
-  return text + QLatin1Char('@') + (elementName.isEmpty() ? QStringLiteral("ELE") : elementName);
-}
-
 Formula::Formula(const QString &text, const NetData &net, Bare bare, std::shared_ptr<FormulaParsers> parsers)
     : m_engine(std::make_unique<Engine>()) {
   m_engine->net = &net;
@@ -122,7 +108,7 @@ bool Formula::Engine::bind(FormulaParsers::Slot &slot, const element &current, c
     hasAll = hasAll && text != nullptr;
     const std::optional<double> number = text == nullptr || references[i].isText ? std::nullopt : text->toDouble();
     if (text == nullptr)
-      value = ParserFactory::nullText();
+      value = FormulaReference::nullText();
     else if (number)
       value = static_cast<mup::float_type>(*number);
     else

@@ -1,5 +1,7 @@
 #include "formulalexer.h"
 
+#include <formulas/formulaerror.h>
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -58,7 +60,8 @@ bool FormulaLexer::continuesName(QChar c) {
   return !Ends.contains(c);
 }
 
-FormulaLexer::FormulaLexer(const QString &text, Formula::Bare bare, const std::function<bool(const QString &)> &isKnown) {
+FormulaLexer::FormulaLexer(const QString &text, FormulaReference::Bare bare,
+                           const std::function<bool(const QString &)> &isKnown) {
   checkLimits(text);
   for (int i = 0; i < text.size();) {
     const QChar c = text.at(i);
@@ -95,7 +98,7 @@ FormulaLexer::FormulaLexer(const QString &text, Formula::Bare bare, const std::f
     while (next < text.size() && text.at(next).isSpace())
       ++next;
     const bool isFunction = next < text.size() && text.at(next) == QLatin1Char('(');
-    if (parts.size() == 1 && (isFunction || bare == Formula::Bare::Refused || isKnown(parts.first())))
+    if (parts.size() == 1 && (isFunction || bare == FormulaReference::Bare::Refused || isKnown(parts.first())))
       expression += parts.first();
     else
       addReference(parts.size() == 1 ? parts << QStringLiteral("ELE") : parts, isAskedAsText(expression, text, i));

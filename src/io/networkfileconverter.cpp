@@ -124,7 +124,7 @@ private:
 
   void take(JsonLineParser::Element &parsed, int line) {
     std::string type;
-    std::vector<NetworkFileConverter::Value> values;
+    std::vector<NetworkRecord::Value> values;
     for (JsonLineParser::Value &value : parsed.values) {
       if (value.key == "obj_type")
         type = value.text.utf8();
@@ -166,27 +166,22 @@ bool writeFile(const QString &path, const Fill &fill, QString *reason) {
 
 } // namespace
 
-const NetworkFileConverter::Value *NetworkFileConverter::Record::find(PropertyKey key) const {
-  const auto found = std::find_if(values.begin(), values.end(), [key](const Value &value) { return value.key == key; });
-  return found == values.end() ? nullptr : &*found;
-}
-
-bool NetworkFileConverter::write(const QString &path, const std::vector<Record> &records, QString *reason) {
+bool NetworkFileConverter::write(const QString &path, const std::vector<NetworkRecord> &records, QString *reason) {
   return writeFile(
       path,
       [&records](NetworkFileWriter &writer, QString *) {
-        for (const Record &record : records)
+        for (const NetworkRecord &record : records)
           writer.write(record.name.toStdString(), record.type.toStdString(), record.values);
         return true;
       },
       reason);
 }
 
-bool NetworkFileConverter::write(const QString &path, const std::vector<SetPoint> &setPoints, QString *reason) {
+bool NetworkFileConverter::write(const QString &path, const std::vector<NetworkSetPoint> &setPoints, QString *reason) {
   return writeFile(
       path,
       [&setPoints](NetworkFileWriter &writer, QString *) {
-        for (const SetPoint &point : setPoints)
+        for (const NetworkSetPoint &point : setPoints)
           writer.writeSetPoint(point.name.toStdString(), point.value, point.unit.toStdString());
         return true;
       },

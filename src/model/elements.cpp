@@ -293,7 +293,8 @@ element *elements::tryInsert(const PropertyText &id, element &&value) {
 element &elements::insert(const PropertyText &id, element value) {
   element *inserted = tryInsert(id, std::move(value));
   if (inserted == nullptr)
-    throw elements_insert_exception(m_name, id.toString(), value, *find(id)); // NOLINT(bugprone-use-after-move): untouched
+    throw elements_insert_exception(m_name, id.toString(), value.lines(), // NOLINT(bugprone-use-after-move): untouched
+                                    find(id)->lines());
   return *inserted;
 }
 

@@ -82,6 +82,11 @@ QStringList Topology::listed(const element &subnet, PropertyKey list) {
   return names;
 }
 
+QStringList Topology::listedByPlace(const element &subnet, PropertyKey list) {
+  const QString names = subnet.value(list);
+  return names.isEmpty() ? QStringList() : names.split(QLatin1Char(';'));
+}
+
 bool Topology::select(const NetData &net, const QString &name, Selection &selection) {
   const std::string utf8 = name.toStdString();
   const std::pair<const elements &, Selection::Names &> kinds[] = {{net.nodes(), selection.nodes},

@@ -4,6 +4,7 @@
 
 #include <base/nivramsg.h>
 #include <io/nivrareader.h>
+#include <model/topology.h>
 #include <subassembly/subassembler.h>
 
 #include <QDir>
@@ -46,10 +47,6 @@ const QString &recordName() {
 const QString &fallback() {
   static const QString variant = QStringLiteral("default");
   return variant;
-}
-
-QStringList split(const QString &names) {
-  return names.isEmpty() ? QStringList() : names.split(QLatin1Char(';'));
 }
 
 Finding problem(const QString &text, const QString &element) {
@@ -164,7 +161,7 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
     if (told && !told(QStringLiteral("Creating Subnets (%1/%2)").arg(i + 1).arg(count), i, count))
       return m_result;
     element &subnet = subnets[static_cast<std::size_t>(i)]->value;
-    const QStringList pins = split(subnet.value(keys().pins));
+    const QStringList pins = Topology::listedByPlace(subnet, keys().pins);
     if (createEleOfAssembledSubnet(subnet, pins, flag, true) >= 1) {
       ++m_result.assembled;
       continue;

@@ -1,5 +1,7 @@
 #include "templateplan.h"
 
+#include <model/topology.h>
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -49,8 +51,7 @@ TemplatePlan::TemplatePlan(const NetData &source) {
     else if (!never.match(key).hasMatch())
       m_defaults.push_back({property, PropertyKey()});
   }
-  const QString pins = record.value(keys().pins);
-  m_pinNames = pins.isEmpty() ? QStringList() : pins.split(QLatin1Char(';'));
+  m_pinNames = Topology::listedByPlace(record, keys().pins);
   for (const QString &name : qAsConst(m_pinNames)) {
     const element *node = source.nodes().find(name);
     m_pins.push_back(node);

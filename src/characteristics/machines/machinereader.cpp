@@ -165,7 +165,14 @@ MachineReader::Result MachineReader::read(const QString &path) {
   const QByteArray beginning = file.read(Looked).trimmed();
   file.close();
   const bool isXml = beginning.startsWith('<') || beginning.startsWith("\xEF\xBB\xBF<");
-  result = isXml ? MachineXml(path).read() : readTables(path);
+  if (isXml) {
+    MachineXml xml(path);
+    result.data = xml.read();
+    result.findings = std::move(xml.findings);
+    result.ok = true;
+  } else {
+    result = readTables(path);
+  }
   const auto tell = [&](Findings findings) {
     for (Finding &finding : findings) {
       finding.file = path;

@@ -80,8 +80,7 @@ void MachineXml::skipUnknown() {
   m_xml.skipCurrentElement();
 }
 
-MachineReader::Result MachineXml::read() {
-  m_result.ok = true;
+MachineData MachineXml::read() {
   if (start(QStringLiteral("compressorStations"), QStringLiteral("CompressorStations"))) {
     while (m_xml.readNextStartElement()) {
       if (m_xml.name() == QLatin1String("compressorStation"))
@@ -91,8 +90,7 @@ MachineReader::Result MachineXml::read() {
     }
     finish();
   }
-  m_result.findings = std::move(findings);
-  return std::move(m_result);
+  return std::move(m_data);
 }
 
 void MachineXml::readStation() {
@@ -188,7 +186,7 @@ void MachineXml::readTurbo() {
       skipUnknown();
     }
   }
-  m_result.data.turbos.push_back(std::move(machine));
+  m_data.turbos.push_back(std::move(machine));
 }
 
 void MachineXml::readPiston() {
@@ -216,7 +214,7 @@ void MachineXml::readPiston() {
   }
   if (!machine.isUsable())
     tell(tr("%1: a piston compressor needs its displacement and a range of speeds").arg(machine.name));
-  m_result.data.pistons.push_back(std::move(machine));
+  m_data.pistons.push_back(std::move(machine));
 }
 
 void MachineXml::readDrives() {
@@ -257,7 +255,7 @@ void MachineXml::readDrive(Drive::Kind kind) {
       skipUnknown();
     }
   }
-  m_result.data.drives.push_back(std::move(drive));
+  m_data.drives.push_back(std::move(drive));
 }
 
 /// The measurements stand under the ambient temperature at which they were made, or state it themselves; where the power
@@ -357,5 +355,5 @@ void MachineXml::readConfiguration() {
   if (configuration.stages.empty())
     tell(tr("the configuration %1 of %2 names no compressor and is left out").arg(configuration.name, m_station));
   else
-    m_result.data.configurations.push_back(std::move(configuration));
+    m_data.configurations.push_back(std::move(configuration));
 }

@@ -2,7 +2,7 @@
 
 #include <io/gaslibxml.h>
 
-#include <machines/machinereader.h>
+#include <machines/machinedata.h>
 
 /// The XML of compressor stations of public gas network instances (namespace http://gaslib.zib.de/CompressorStations).
 class MachineXml : private GasLibXml {
@@ -10,7 +10,8 @@ public:
   explicit MachineXml(const QString &path)
       : GasLibXml(path, FileAccess::Source::Workspace) {}
 
-  MachineReader::Result read();
+  MachineData read();
+  using GasLibXml::findings;
 
 private:
   void readStation();
@@ -38,5 +39,5 @@ private:
   void skipUnknown();
 
   QString m_station; ///< being read
-  MachineReader::Result m_result;
+  MachineData m_data;
 };

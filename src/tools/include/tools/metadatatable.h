@@ -1,5 +1,6 @@
 #pragma once
 
+#include <model/netdata.h>
 #include <model/netmetadata.h>
 
 #include <QTreeWidget>
