@@ -17,12 +17,6 @@ const Keys &keys() {
   return instance;
 }
 
-constexpr std::string_view TypeMember = "obj_type";
-
-QString decoded(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
-
 /// Without these an element cannot be placed or connected.
 bool isAlwaysIncluded(const QString &name) {
   static const QRegularExpression pattern(QStringLiteral("^(name|type|node1|node2|x|y)$"),
@@ -74,10 +68,10 @@ bool ElementBuilder::isTypeIncluded(const QString &word, const QString &code) co
          m_includeTypes.match(code).hasMatch();
 }
 
-std::vector<Property> &ElementBuilder::properties(JsonLineParser::Element &parsed, int line) {
+std::vector<Property> &ElementBuilder::properties(ElementRecord &parsed, int line) {
   m_properties.clear();
   for (std::size_t i = 0; i < parsed.values.size(); ++i) {
-    JsonLineParser::Value &value = parsed.values[i];
+    RecordValue &value = parsed.values[i];
     const Key &known = key(i, value.key);
     if (known.included && value.key != TypeMember)
       m_properties.push_back({known.key, std::move(value.text)});
@@ -106,9 +100,9 @@ void ElementBuilder::sortAsBefore(std::vector<Property> &list) {
   list.swap(m_sorted);
 }
 
-bool ElementBuilder::buildElement(JsonLineParser::Element &parsed, int line, element &built) {
+bool ElementBuilder::buildElement(ElementRecord &parsed, int line, element &built) {
   std::string_view word;
-  for (const JsonLineParser::Value &value : parsed.values) {
+  for (const RecordValue &value : parsed.values) {
     if (value.key == TypeMember)
       word = value.text.utf8();
   }

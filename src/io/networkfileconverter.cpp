@@ -1,8 +1,7 @@
 #include "jsonfile.h"
-#include "jsonlineparser.h"
 #include "networkfilewriter.h"
 #include "readreport.h"
-#include "texttablereader.h"
+#include "recordstream.h"
 
 #include <base/wholefile.h>
 #include <io/networkfileconverter.h>
@@ -46,68 +45,42 @@ public:
       : m_path(path)
       , m_writer(writer)
       , m_report(path)
-      , m_result(result)
-      , m_holdsSetPoints(holdsSetPoints(path)) {}
+      , m_result(result) {}
 
   /// False when the file cannot be read.
   bool run(QString *reason) {
-    const bool isRead = isJsonPath(m_path) ? feedJson(reason) : feedText(reason);
+    const bool isRead = feed(reason);
     m_result.findings = m_report.take();
     return isRead;
   }
 
 private:
-  bool feedJson(QString *reason) {
-    JsonLineReader reader(m_path);
-    if (!reader.open(reason))
+  bool feed(QString *reason) {
+    const RecordContent content = holdsSetPoints(m_path) ? RecordContent::SetPoints : RecordContent::Elements;
+    RecordStream stream(m_path, {RecordStream::formOf(m_path), content, RecordNumbers::AsWritten});
+    if (!stream.open(reason))
       return false;
-    JsonLineParser parser(JsonLineParser::Numbers::AsWritten);
-    JsonLineReader::Line line;
-    std::vector<JsonLineParser::Element> elements;
-    std::vector<JsonLineParser::SetPoints> setPoints;
-    std::size_t count = 0;
-    while (reader.next(line)) {
-      const char *fault = line.tooLong       ? "the line is longer than 64 MB"
-                          : m_holdsSetPoints ? parser.parse(line, setPoints)
-                                             : parser.parse(line, elements, count);
-      if (fault != nullptr) {
-        m_report.badLine(line, fault);
-        m_result.report.drop(tr("line"), QString::fromUtf8(fault));
+    Record record;
+    while (stream.next(record)) {
+      if (!record.fault.isEmpty()) {
+        stream.tell(record, m_report);
+        m_result.report.drop(tr("line"), record.fault);
         continue;
       }
-      for (const JsonLineParser::SetPoints &points : setPoints) {
-        for (const JsonLineParser::SetPoint &point : points.points)
-          take(points.name, point, line.number);
+      for (const SetPointsRecord &points : record.setPoints) {
+        for (const SetPointRecord &point : points.points)
+          take(points.name, point, record.line);
       }
-      for (std::size_t i = 0; i < count; ++i)
-        take(elements[i], line.number);
+      for (std::size_t i = 0; i < record.elementCount; ++i)
+        take(record.elements[i], record.line);
     }
-    *reason = reader.readFault(); // half of a file is none
+    stream.tellEncoding(m_report);
+    *reason = stream.readFault(); // half of a file is none
     return reason->isEmpty();
   }
 
-  bool feedText(QString *reason) {
-    TextTableReader reader(m_path, JsonLineParser::Numbers::AsWritten);
-    if (!reader.open(reason))
-      return false;
-    JsonLineParser::Element row;
-    for (TextTableReader::Found found = reader.next(row); found != TextTableReader::Found::End; found = reader.next(row)) {
-      if (found == TextTableReader::Found::Fault) {
-        m_report.badRow(reader.line(), reader.quote(), reader.fault());
-        m_result.report.drop(tr("line"), reader.fault());
-      } else if (m_holdsSetPoints) {
-        take(row.name, TextTableReader::setPoint(row), reader.line());
-      } else {
-        take(row, reader.line());
-      }
-    }
-    m_report.notUtf8(reader.notUtf8Line());
-    *reason = reader.readFault(); // half of a file is none
-    return reason->isEmpty();
-  }
-
-  void take(std::string_view name, const JsonLineParser::SetPoint &point, int line) {
-    const QString element = QString::fromUtf8(name.data(), static_cast<int>(name.size()));
+  void take(std::string_view name, const SetPointRecord &point, int line) {
+    const QString element = decoded(name);
     if (point.isComplete) {
       if (point.doubt != nullptr)
         m_report.doubt(QString::fromStdString(point.property), element, point.doubt, line);
@@ -116,23 +89,22 @@ private:
       m_result.report.take(QString::fromStdString(point.property));
       ++m_result.records;
     } else {
-      m_report.add("incomplete value", line,
-                   tr("A value of element %1 is left out: it needs \"property\" and \"value\"").arg(element));
+      m_report.incompleteValue(element, line);
       m_result.report.drop(tr("value"), tr("incomplete"));
     }
   }
 
-  void take(JsonLineParser::Element &parsed, int line) {
+  void take(ElementRecord &parsed, int line) {
     std::string type;
     std::vector<NetworkRecord::Value> values;
-    for (JsonLineParser::Value &value : parsed.values) {
-      if (value.key == "obj_type")
+    for (RecordValue &value : parsed.values) {
+      if (value.key == TypeMember)
         type = value.text.utf8();
       else
         values.push_back({PropertyKey::intern(value.key), std::move(value.text), value.isNumber});
     }
     m_report.values(parsed, line);
-    for (const JsonLineParser::Dropped &dropped : parsed.dropped)
+    for (const RecordRemark &dropped : parsed.dropped)
       m_result.report.drop(QString::fromStdString(dropped.key), QString::fromUtf8(dropped.reason));
     m_writer.write(parsed.name, type, std::move(values));
     m_result.report.take(type.empty() ? tr("element with values") : QString::fromStdString(type));
@@ -143,7 +115,6 @@ private:
   NetworkFileWriter &m_writer;
   ReadReport m_report;
   NetworkFileConverter::Result &m_result;
-  bool m_holdsSetPoints;
 };
 
 std::unique_ptr<NetworkFileWriter> writerFor(const QString &path, QIODevice &device) {
