@@ -1,5 +1,7 @@
 #include "nodeplaces.h"
 
+#include <model/names.h>
+
 #include <QCoreApplication>
 #include <QHash>
 
@@ -11,9 +13,9 @@ namespace {
 
 using Record = NetworkRecord;
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("NodePlaces", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(NodePlaces)
+};
 
 struct Place {
   double x = 0.0;
@@ -47,11 +49,9 @@ public:
     QHash<QString, std::size_t> numbers;
     for (std::size_t i = 0; i < nodes.size(); ++i)
       numbers.insert(nodes[i].name, i);
-    static const PropertyKey node1 = PropertyKey::intern("node1");
-    static const PropertyKey node2 = PropertyKey::intern("node2");
     for (const Record &edge : edges) {
-      const std::size_t from = numbers.value(edge.find(node1)->text.toString());
-      const std::size_t to = numbers.value(edge.find(node2)->text.toString());
+      const std::size_t from = numbers.value(edge.find(Names::all().node1)->text.toString());
+      const std::size_t to = numbers.value(edge.find(Names::all().node2)->text.toString());
       m_neighbours[from].push_back(to);
       m_neighbours[to].push_back(from);
     }
@@ -126,7 +126,7 @@ QString NodePlaces::complete(std::vector<Record> &nodes, const std::vector<Recor
     const double radius = Distance * static_cast<double>(count) / Turn;
     put(nodes[i], places[i] ? *places[i] : Place{radius * std::cos(angle), radius * std::sin(angle)});
   }
-  const QString how = isByMap ? tr("their longitude and latitude serve, or they are put between their neighbours")
-                              : tr("they are put between their neighbours, or on a circle");
-  return tr("%1 nodes have no coordinates: %2").arg(missing).arg(how);
+  const QString how = isByMap ? Texts::tr("their longitude and latitude serve, or they are put between their neighbours")
+                              : Texts::tr("they are put between their neighbours, or on a circle");
+  return Texts::tr("%1 nodes have no coordinates: %2").arg(missing).arg(how);
 }

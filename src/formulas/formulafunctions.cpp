@@ -8,7 +8,7 @@
 namespace {
 
 bool isNull(const mup::IValue &value) {
-  return value.GetString() == FormulaReference::nullText();
+  return value.GetString() == FormulaReference::Null;
 }
 
 } // namespace

@@ -9,9 +9,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("Formula", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Formula)
+};
 
 bool startsName(QChar c) {
   return c.isLetter() || c == QLatin1Char('_');
@@ -110,9 +110,9 @@ void FormulaLexer::checkLimits(const QString &text) const {
   constexpr int DeepestNesting = 100;
   constexpr int MostCommas = 300;
   if (text.trimmed().isEmpty())
-    throw FormulaError(tr("The formula is empty."));
+    throw FormulaError(Texts::tr("The formula is empty."));
   if (text.size() > LongestText)
-    throw FormulaError(tr("The formula is longer than %1 characters.").arg(LongestText));
+    throw FormulaError(Texts::tr("The formula is longer than %1 characters.").arg(LongestText));
   int depth = 0;
   for (const QChar c : text) {
     if (c == QLatin1Char('(') || c == QLatin1Char('{') || c == QLatin1Char('['))
@@ -120,10 +120,10 @@ void FormulaLexer::checkLimits(const QString &text) const {
     else if (c == QLatin1Char(')') || c == QLatin1Char('}') || c == QLatin1Char(']'))
       --depth;
     if (depth > DeepestNesting)
-      throw FormulaError(tr("The formula is nested more deeply than %1 brackets.").arg(DeepestNesting));
+      throw FormulaError(Texts::tr("The formula is nested more deeply than %1 brackets.").arg(DeepestNesting));
   }
   if (text.count(QLatin1Char(',')) > MostCommas)
-    throw FormulaError(tr("The formula has more than %1 commas.").arg(MostCommas));
+    throw FormulaError(Texts::tr("The formula has more than %1 commas.").arg(MostCommas));
 }
 
 QString FormulaLexer::takeName(const QString &text, int &i) {
@@ -141,7 +141,7 @@ QString FormulaLexer::takeName(const QString &text, int &i) {
     }
   }
   if (name.isEmpty())
-    throw FormulaError(tr("A name is missing after \"@\" at character %1.").arg(i));
+    throw FormulaError(Texts::tr("A name is missing after \"@\" at character %1.").arg(i));
   return name;
 }
 

@@ -1,21 +1,12 @@
 #include "elementbuilder.h"
 
 #include <model/elementtypes.h>
+#include <model/names.h>
 
 #include <algorithm>
 #include <numeric>
 
 namespace {
-
-struct Keys {
-  PropertyKey name = PropertyKey::intern("name");
-  PropertyKey type = PropertyKey::intern("type");
-};
-
-const Keys &keys() {
-  static const Keys instance;
-  return instance;
-}
 
 /// Without these an element cannot be placed or connected.
 bool isAlwaysIncluded(const QString &name) {
@@ -117,19 +108,19 @@ bool ElementBuilder::buildElement(ElementRecord &parsed, int line, element &buil
     return false;
   std::vector<Property> &list = properties(parsed, line);
   for (const Property &property : list) {
-    if (property.key == keys().name && property.value.utf8() != parsed.name)
+    if (property.key == Names::all().name && property.value.utf8() != parsed.name)
       m_report.add("other name", line,
                    QStringLiteral("Element %1 has a property name of its own, %2; it is left out")
                        .arg(decoded(parsed.name), property.value.toString()),
                    QString(), decoded(parsed.name));
   }
-  list.push_back({keys().name, PropertyText(parsed.name)}); // the last of equal names wins
-  list.push_back({keys().type, PropertyText(type->code)});
+  list.push_back({Names::all().name, PropertyText(parsed.name)}); // the last of equal names wins
+  list.push_back({Names::all().type, PropertyText(type->code)});
   std::vector<PropertyKey> duplicates;
   sortAsBefore(list);
   built = element::fromProperties(list, &duplicates);
   for (const PropertyKey duplicate : duplicates) {
-    if (duplicate != keys().name && duplicate != keys().type)
+    if (duplicate != Names::all().name && duplicate != Names::all().type)
       m_report.add("property given twice", line,
                    QStringLiteral("Property %1 of element %2 is given twice; the last value counts")
                        .arg(duplicate.name(), decoded(parsed.name)),

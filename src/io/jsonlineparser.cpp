@@ -2,6 +2,8 @@
 
 #include "numbertext.h"
 
+#include <simdjson.h>
+
 namespace {
 
 using simdjson::error_code;
@@ -14,7 +16,34 @@ std::string_view trimmed(std::string_view token) {
 
 } // namespace
 
-error_code JsonLineParser::begin(const LineReader::Line &line) {
+/// Walks over the line with the library's parser.
+class JsonLineParser::Engine {
+public:
+  explicit Engine(RecordNumbers numbers)
+      : m_numbers(numbers) {}
+
+  const char *parse(const LineReader::Line &line, std::vector<ElementRecord> &elements, std::size_t &count);
+  const char *parse(const LineReader::Line &line, std::vector<SetPointsRecord> &setPoints);
+
+private:
+  simdjson::error_code begin(const LineReader::Line &line);
+  simdjson::error_code readElement(simdjson::ondemand::object object, ElementRecord &element);
+  using Member = simdjson::simdjson_result<simdjson::ondemand::field>;
+  simdjson::error_code readMember(Member &member, RecordValue &read, const char *&dropped);
+  simdjson::error_code readValue(simdjson::ondemand::value value, RecordValue &read, const char *&dropped);
+  simdjson::error_code readList(simdjson::ondemand::array list, SetPointsRecord &target);
+  simdjson::error_code readPoint(simdjson::ondemand::object object, SetPointRecord &point);
+  const char *finish(simdjson::error_code error);
+
+  simdjson::ondemand::parser m_parser;
+  simdjson::ondemand::document m_document;
+  simdjson::dom::parser m_strict; ///< for the rare lines with parts that the walk skips
+  std::string_view m_text;
+  RecordNumbers m_numbers;
+  bool m_skipped = false;
+};
+
+error_code JsonLineParser::Engine::begin(const LineReader::Line &line) {
   char *text = line.text;
   std::size_t size = line.size + 1;
   // The comma that separates the elements stands before the line and gives its place to the brace.
@@ -31,7 +60,7 @@ error_code JsonLineParser::begin(const LineReader::Line &line) {
   return m_parser.iterate(text, size, capacity).get(m_document);
 }
 
-const char *JsonLineParser::finish(error_code error) {
+const char *JsonLineParser::Engine::finish(error_code error) {
   if (error == simdjson::SUCCESS && m_document.current_location().error() == simdjson::SUCCESS)
     error = simdjson::TRAILING_CONTENT;
   if (error == simdjson::SUCCESS && m_skipped) {
@@ -41,7 +70,8 @@ const char *JsonLineParser::finish(error_code error) {
   return error == simdjson::SUCCESS ? nullptr : simdjson::error_message(error);
 }
 
-const char *JsonLineParser::parse(const LineReader::Line &line, std::vector<ElementRecord> &elements, std::size_t &count) {
+const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vector<ElementRecord> &elements,
+                                          std::size_t &count) {
   count = 0;
   simdjson::ondemand::object object;
   error_code error = begin(line);
@@ -62,7 +92,7 @@ const char *JsonLineParser::parse(const LineReader::Line &line, std::vector<Elem
   return finish(error);
 }
 
-error_code JsonLineParser::readElement(simdjson::ondemand::object object, ElementRecord &element) {
+error_code JsonLineParser::Engine::readElement(simdjson::ondemand::object object, ElementRecord &element) {
   element.values.clear();
   element.dropped.clear();
   element.doubtful.clear();
@@ -79,7 +109,7 @@ error_code JsonLineParser::readElement(simdjson::ondemand::object object, Elemen
   return simdjson::SUCCESS;
 }
 
-error_code JsonLineParser::readMember(Member &member, RecordValue &read, const char *&dropped) {
+error_code JsonLineParser::Engine::readMember(Member &member, RecordValue &read, const char *&dropped) {
   simdjson::ondemand::value value;
   error_code error = member.unescaped_key().get(read.key);
   if (error == simdjson::SUCCESS)
@@ -87,7 +117,7 @@ error_code JsonLineParser::readMember(Member &member, RecordValue &read, const c
   return error == simdjson::SUCCESS ? readValue(value, read, dropped) : error;
 }
 
-error_code JsonLineParser::readValue(simdjson::ondemand::value value, RecordValue &read, const char *&dropped) {
+error_code JsonLineParser::Engine::readValue(simdjson::ondemand::value value, RecordValue &read, const char *&dropped) {
   simdjson::ondemand::json_type type{};
   if (const error_code error = value.type().get(type); error != simdjson::SUCCESS)
     return error;
@@ -125,7 +155,7 @@ error_code JsonLineParser::readValue(simdjson::ondemand::value value, RecordValu
   }
 }
 
-const char *JsonLineParser::parse(const LineReader::Line &line, std::vector<SetPointsRecord> &setPoints) {
+const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vector<SetPointsRecord> &setPoints) {
   setPoints.clear();
   simdjson::ondemand::object object;
   error_code error = begin(line);
@@ -146,7 +176,7 @@ const char *JsonLineParser::parse(const LineReader::Line &line, std::vector<SetP
   return finish(error);
 }
 
-error_code JsonLineParser::readList(simdjson::ondemand::array list, SetPointsRecord &target) {
+error_code JsonLineParser::Engine::readList(simdjson::ondemand::array list, SetPointsRecord &target) {
   for (auto entry : list) {
     simdjson::ondemand::object object;
     error_code error = entry.get_object().get(object);
@@ -160,7 +190,7 @@ error_code JsonLineParser::readList(simdjson::ondemand::array list, SetPointsRec
   return simdjson::SUCCESS;
 }
 
-error_code JsonLineParser::readPoint(simdjson::ondemand::object object, SetPointRecord &point) {
+error_code JsonLineParser::Engine::readPoint(simdjson::ondemand::object object, SetPointRecord &point) {
   bool hasValue = false;
   for (auto member : object) {
     RecordValue read;
@@ -179,4 +209,17 @@ error_code JsonLineParser::readPoint(simdjson::ondemand::object object, SetPoint
   }
   point.isComplete = hasValue && !point.property.empty();
   return simdjson::SUCCESS;
+}
+
+JsonLineParser::JsonLineParser(RecordNumbers numbers)
+    : m_engine(std::make_unique<Engine>(numbers)) {}
+
+JsonLineParser::~JsonLineParser() = default;
+
+const char *JsonLineParser::parse(const LineReader::Line &line, std::vector<ElementRecord> &elements, std::size_t &count) {
+  return m_engine->parse(line, elements, count);
+}
+
+const char *JsonLineParser::parse(const LineReader::Line &line, std::vector<SetPointsRecord> &setPoints) {
+  return m_engine->parse(line, setPoints);
 }

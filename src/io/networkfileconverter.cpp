@@ -15,9 +15,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("NetworkFileConverter", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(NetworkFileConverter)
+};
 
 /// What the name of a network file tells: 1 what it holds, 2 whether it is JSON.
 QRegularExpressionMatch parts(const QString &name) {
@@ -64,15 +64,15 @@ private:
     while (stream.next(record)) {
       if (!record.fault.isEmpty()) {
         stream.tell(record, m_report);
-        m_result.report.drop(tr("line"), record.fault);
+        m_result.report.drop(Texts::tr("line"), record.fault);
         continue;
       }
       for (const SetPointsRecord &points : record.setPoints) {
         for (const SetPointRecord &point : points.points)
           take(points.name, point, record.line);
       }
-      for (std::size_t i = 0; i < record.elementCount; ++i)
-        take(record.elements[i], record.line);
+      for (ElementRecord &parsed : record.elements)
+        take(parsed, record.line);
     }
     stream.tellEncoding(m_report);
     *reason = stream.readFault(); // half of a file is none
@@ -90,7 +90,7 @@ private:
       ++m_result.records;
     } else {
       m_report.incompleteValue(element, line);
-      m_result.report.drop(tr("value"), tr("incomplete"));
+      m_result.report.drop(Texts::tr("value"), Texts::tr("incomplete"));
     }
   }
 
@@ -107,7 +107,7 @@ private:
     for (const RecordRemark &dropped : parsed.dropped)
       m_result.report.drop(QString::fromStdString(dropped.key), QString::fromUtf8(dropped.reason));
     m_writer.write(parsed.name, type, std::move(values));
-    m_result.report.take(type.empty() ? tr("element with values") : QString::fromStdString(type));
+    m_result.report.take(type.empty() ? Texts::tr("element with values") : QString::fromStdString(type));
     ++m_result.records;
   }
 
@@ -176,10 +176,10 @@ NetworkFileConverter::Result NetworkFileConverter::convert(const QString &from, 
   };
   for (const QString &path : {from, to}) {
     if (!isNetworkFile(path))
-      return fail(tr("%1 is not named as a network file is").arg(path));
+      return fail(Texts::tr("%1 is not named as a network file is").arg(path));
   }
   if (shape(from) != shape(to))
-    return fail(tr("%1 and %2 are named as files of different kinds").arg(from, to));
+    return fail(Texts::tr("%1 and %2 are named as files of different kinds").arg(from, to));
   QString reason;
   result.ok = writeFile(
       to,
@@ -187,7 +187,7 @@ NetworkFileConverter::Result NetworkFileConverter::convert(const QString &from, 
         QString fault;
         if (Feeder(from, writer, result).run(&fault))
           return true;
-        *why = tr("Cannot read %1").arg(fault);
+        *why = Texts::tr("Cannot read %1").arg(fault);
         return false;
       },
       &reason);

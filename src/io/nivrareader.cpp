@@ -65,8 +65,8 @@ NivraReader::Result readElements(const QString &path, const NivraReader::Options
     if (!record.fault.isEmpty()) {
       stream.tell(record, report);
     } else {
-      for (std::size_t i = 0; i < record.elementCount; ++i)
-        take(record.elements[i], record.line, stream.fraction());
+      for (ElementRecord &parsed : record.elements)
+        take(parsed, record.line, stream.fraction());
     }
     if (!progress.goesOn(stream)) {
       result.cancelled = true;

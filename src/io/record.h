@@ -48,13 +48,21 @@ struct SetPointsRecord {
   std::vector<SetPointRecord> points;
 };
 
+/// Elements that lie in the room of a parser, which uses it again for each record.
+struct ElementSpan {
+  ElementRecord *first = nullptr;
+  std::size_t count = 0;
+
+  ElementRecord *begin() const { return first; }
+  ElementRecord *end() const { return first + count; }
+};
+
 /// What one line of the JSON form, or one row of the text form, holds.
 struct Record {
   int line = 0;
   QString fault; ///< why it holds nothing; empty when it is sound
   QString quote; ///< of a fault: the beginning of the line
-  std::vector<ElementRecord> elements;
-  std::size_t elementCount = 0; ///< the elements behind are room for the next record
+  ElementSpan elements;
   std::vector<SetPointsRecord> setPoints;
 };
 

@@ -34,14 +34,14 @@ SetPointRecord setPoint(const ElementRecord &row) {
 void RawRecord::keep() {
   if (json.text == nullptr)
     return;
-  room.resize(json.size + 2 + simdjson::SIMDJSON_PADDING + 2);
+  room.resize(1 + json.size + LineReader::Padding);
   std::memcpy(room.data() + 1, json.text, json.size);
   json.text = room.data() + 1;
   json.capacity = room.size() - 1;
 }
 
 void RecordParser::parse(const RawRecord &raw, Record &record) {
-  record.elementCount = 0;
+  record.elements = {};
   record.setPoints.clear();
   if (m_form == RecordForm::Json)
     parseLine(raw, record);
@@ -52,24 +52,20 @@ void RecordParser::parse(const RawRecord &raw, Record &record) {
 void RecordParser::parseLine(const RawRecord &raw, Record &record) {
   record.line = raw.json.number;
   const char *fault = nullptr;
+  std::size_t count = 0;
   if (raw.json.tooLong)
     fault = "the line is longer than 64 MB";
   else if (m_content == RecordContent::SetPoints)
     fault = m_lines.parse(raw.json, record.setPoints);
   else
-    fault = m_lines.parse(raw.json, record.elements, record.elementCount);
+    fault = m_lines.parse(raw.json, m_elements, count);
   record.fault = QString::fromUtf8(fault);
-  if (fault != nullptr)
+  if (fault == nullptr) {
+    record.elements = {m_elements.data(), count};
+  } else {
     record.quote = ReadReport::quoted({raw.json.text, raw.json.size});
-}
-
-/// For a row; set points are read by the hundred thousand, and need not keep theirs.
-ElementRecord &RecordParser::roomFor(Record &record) {
-  if (m_content == RecordContent::SetPoints)
-    return m_row;
-  if (record.elements.empty())
-    record.elements.emplace_back();
-  return record.elements.front();
+    record.setPoints.clear(); // those before the fault
+  }
 }
 
 void RecordParser::parseRow(const RawRecord &raw, Record &record) {
@@ -78,12 +74,14 @@ void RecordParser::parseRow(const RawRecord &raw, Record &record) {
   record.quote = raw.quote;
   if (!record.fault.isEmpty())
     return;
-  ElementRecord &parsed = roomFor(record);
+  if (m_elements.empty())
+    m_elements.emplace_back();
+  ElementRecord &parsed = m_elements.front();
   record.fault = m_rows.parse(raw.row, parsed);
   if (!record.fault.isEmpty())
     record.quote = ReadReport::quoted(raw.row.text);
   else if (m_content == RecordContent::SetPoints)
     record.setPoints.push_back({std::string(parsed.name), {setPoint(parsed)}});
   else
-    record.elementCount = 1;
+    record.elements = {&parsed, 1};
 }

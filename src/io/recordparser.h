@@ -39,11 +39,10 @@ public:
 private:
   void parseLine(const RawRecord &raw, Record &record);
   void parseRow(const RawRecord &raw, Record &record);
-  ElementRecord &roomFor(Record &record);
 
   RecordForm m_form;
   RecordContent m_content;
   JsonLineParser m_lines;
   TextRowParser m_rows;
-  ElementRecord m_row; ///< that states a set point
+  std::vector<ElementRecord> m_elements; ///< room, a row has the first
 };

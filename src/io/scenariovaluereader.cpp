@@ -1,5 +1,15 @@
-// The reader of scenario values: two threads take the lines of one queue and parse them; what they parsed is applied in the
-// order of the lines afterwards, because NetData is changed by one thread at a time.
+// The reader of scenario values.
+//
+// 1. Two threads take raw records from one queue, by a critical section, and parse them side by side. Each has its own
+//    parser, its own raw record and its own list of what it parsed.
+// 2. While they work nobody touches the network or makes property keys: names and properties stay texts until then. The
+//    network is changed by one thread at a time.
+// 3. What was parsed is applied by the calling thread in the order of the lines, so that of values given twice the last
+//    counts, whichever thread parsed it, and messages stand in the order of the file.
+// 4. Only the calling thread tells the progress, outside of the critical section: whoever is told may touch the window.
+//    When it is asked to stop, both threads get no more records; what they have is applied.
+// 5. A value whose unit needs the gas waits until all files are read that may tell of gases. What is set for the same
+//    property of the same element meanwhile takes its place (set()).
 
 #include "readreport.h"
 #include "recordstream.h"
@@ -7,6 +17,7 @@
 
 #include <base/nivramsg.h>
 #include <io/nivrareader.h>
+#include <model/names.h>
 #include <model/netmetadata.h>
 
 #include <QElapsedTimer>
@@ -153,7 +164,7 @@ private:
     if (point.unit.empty())
       return true;
     const NetMetaData::Attribute *attribute =
-        m_reader.m_net.metaData()->attribute(target.value(QStringLiteral("type")), key.name());
+        m_reader.m_net.metaData()->attribute(target.value(Names::all().type), key.name());
     if (attribute == nullptr)
       return true;
     const QString unit = decoded(point.unit);

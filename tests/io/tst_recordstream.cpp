@@ -27,9 +27,9 @@ private:
     QStringList lines;
     if (!record.fault.isEmpty())
       lines.append(QStringLiteral("fault at ") + record.quote);
-    for (std::size_t i = 0; i < record.elementCount; ++i) {
-      QString line = decoded(record.elements[i].name);
-      for (const RecordValue &value : record.elements[i].values)
+    for (const ElementRecord &element : record.elements) {
+      QString line = decoded(element.name);
+      for (const RecordValue &value : element.values)
         line += QStringLiteral(" %1=%2").arg(decoded(value.key), value.text.toString());
       lines.append(line);
     }

@@ -1,8 +1,16 @@
+#include <model/names.h>
+
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <machines/gasdata.h>
 
 namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(GasData)
+};
 
 constexpr double Percent = 0.01;
 
@@ -15,13 +23,13 @@ GasData GasData::of(const element &gas, QStringList *faults) {
     if (value && std::isfinite(*value))
       return value;
     if (text != nullptr && faults != nullptr)
-      faults->append(tr("\"%1\" is no number: %2").arg(QLatin1String(property), text->toString()));
+      faults->append(Texts::tr("\"%1\" is no number: %2").arg(QLatin1String(property), text->toString()));
     return std::nullopt;
   };
   const auto positive = [&](const char *property) {
     const std::optional<double> value = number(property);
     if (value && *value < 0.0 && faults != nullptr)
-      faults->append(tr("\"%1\" cannot be %2").arg(QLatin1String(property)).arg(*value));
+      faults->append(Texts::tr("\"%1\" cannot be %2").arg(QLatin1String(property)).arg(*value));
     return value ? std::max(*value, 0.0) : 0.0;
   };
   const auto share = [&](const char *property) -> std::optional<double> {
@@ -29,11 +37,11 @@ GasData GasData::of(const element &gas, QStringList *faults) {
     if (value && *value >= 0.0 && *value <= 100.0)
       return *value * Percent;
     if (value && faults != nullptr)
-      faults->append(tr("\"%1\" cannot be %2 %").arg(QLatin1String(property)).arg(*value));
+      faults->append(Texts::tr("\"%1\" cannot be %2 %").arg(QLatin1String(property)).arg(*value));
     return std::nullopt;
   };
   GasData data;
-  data.name = gas.value(QStringLiteral("name"));
+  data.name = gas.value(Names::all().name);
   data.normDensity = positive("rhon");
   data.molarMass = positive("molarmass");
   data.calorificValue = positive("hs");

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <io/gaslibxml.h>
+#include <model/units.h>
+
+#include <QHash>
 
 #include <machines/machinedata.h>
 
@@ -38,6 +41,7 @@ private:
   int coefficient(const char *prefix, std::size_t count) const;
   void skipUnknown();
 
-  QString m_station; ///< being read
+  QString m_station;                                    ///< being read
+  QHash<QString, std::optional<Units::Linear>> m_units; ///< of the file, to those of machine data
   MachineData m_data;
 };

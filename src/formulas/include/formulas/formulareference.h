@@ -5,7 +5,6 @@
 #include <QHash>
 #include <QString>
 
-#include <string>
 #include <vector>
 
 class NetData;
@@ -35,7 +34,7 @@ struct FormulaReference {
   /// Where the path begins; null when there is no such element. \param names null for none
   const element *start(const NetData &net, const element *current, const FormulaNames *names) const;
   /// What stands in an expression for a value that does not exist.
-  static std::string nullText() { return "_null_"; }
+  static constexpr const char *Null = "_null_";
   /// As it is written in formulas, but without escapes.
   QString written() const;
 };

@@ -2,7 +2,6 @@
 
 #include <model/element.h>
 
-#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -11,9 +10,6 @@
 
 /// What the files say of a gas. 0 stands for what they do not say.
 struct GasData {
-  Q_DECLARE_TR_FUNCTIONS(GasLaw)
-
-public:
   QString name;
   double normDensity = 0.0;         ///< kg/m3 at 273.15 K and 1.01325 bar
   double molarMass = 0.0;           ///< kg/kmol
