@@ -13,9 +13,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("CaseConverter", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(CaseConverter)
+};
 
 /// What the case names is read inside of it alone while this lives.
 class Confinement {
@@ -43,11 +43,11 @@ public:
       if (files.fileInfo().isDir() && !files.fileInfo().isSymLink())
         continue;
       const QString name = m_source.relativeFilePath(path);
-      const QString why = QFileInfo(path).isFile() ? FileAccess::confinementFault(path) : tr("is not a regular file");
+      const QString why = QFileInfo(path).isFile() ? FileAccess::confinementFault(path) : Texts::tr("is not a regular file");
       if (!why.isEmpty()) {
         result.findings.push_back(
-            {Finding::Severity::Warning, path, 0, tr("%1 is left out: it %2").arg(name, why), QString()});
-        result.report.drop(tr("file"), why);
+            {Finding::Severity::Warning, path, 0, Texts::tr("%1 is left out: it %2").arg(name, why), QString()});
+        result.report.drop(Texts::tr("file"), why);
       } else if (NetworkFileConverter::isNetworkFile(name)) {
         convert(path, NetworkFileConverter::otherForm(name));
       } else {
@@ -55,7 +55,7 @@ public:
       }
     }
     if (result.ok && result.files == 0)
-      fail(tr("%1 holds no network file").arg(m_source.path()));
+      fail(Texts::tr("%1 holds no network file").arg(m_source.path()));
   }
 
   void fail(const QString &reason) {
@@ -71,14 +71,14 @@ private:
     result.ok = result.ok && converted.ok;
     result.files += converted.ok ? 1 : 0;
     result.report.add(converted.report);
-    result.report.convert(tr("file"), tr("to the other form"));
+    result.report.convert(Texts::tr("file"), Texts::tr("to the other form"));
     append(result.findings, std::move(converted.findings));
   }
 
   void copy(const QString &path, const QString &name) {
     QString reason;
     if (WholeFile::copy(path, m_target.path(name), &reason))
-      result.report.take(tr("file"));
+      result.report.take(Texts::tr("file"));
     else
       fail(reason);
   }
@@ -97,9 +97,9 @@ CaseConverter::Result CaseConverter::convert(const QString &from, const QString 
   const QString absolute = QDir(to).absolutePath();
   if (absolute.startsWith(source.absolutePath() + QLatin1Char('/')) ||
       QFileInfo(absolute) == QFileInfo(source.absolutePath()))
-    conversion.fail(tr("%1 lies in the folder that is converted").arg(to));
+    conversion.fail(Texts::tr("%1 lies in the folder that is converted").arg(to));
   else if (!source.exists())
-    conversion.fail(tr("%1 is no folder").arg(from));
+    conversion.fail(Texts::tr("%1 is no folder").arg(from));
   else if (!target.open(&reason))
     conversion.fail(reason);
   if (!conversion.result.ok)

@@ -5,6 +5,7 @@
 #include "stationdrives.h"
 
 #include <base/wholefile.h>
+#include <io/networkfileconverter.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -13,12 +14,12 @@
 
 namespace {
 
-using Record = NetworkFileConverter::Record;
-using SetPoints = std::vector<NetworkFileConverter::SetPoint>;
+using Record = NetworkRecord;
+using SetPoints = std::vector<NetworkSetPoint>;
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("GasLibImport", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(GasLibImport)
+};
 
 const QString SolverConfiguration = QStringLiteral("solverconfig.jsn");
 
@@ -75,12 +76,12 @@ private:
   bool take(GasLibReader &reader, bool isRead, const QString &path, const QString &what) {
     append(m_result.findings, std::move(reader.findings));
     m_result.report.add(reader.report);
-    return isRead || fail(tr("%1 cannot be taken as %2: nothing is written").arg(path, what));
+    return isRead || fail(Texts::tr("%1 cannot be taken as %2: nothing is written").arg(path, what));
   }
 
   bool readNetwork() {
     const bool isRead = m_net.read();
-    return take(m_net, isRead, m_request.network, tr("a network"));
+    return take(m_net, isRead, m_request.network, Texts::tr("a network"));
   }
 
   /// Folders become the nominations that lie in them.
@@ -94,7 +95,7 @@ private:
       const QDir folder(path);
       const QStringList found = folder.entryList({QStringLiteral("*.scn")}, QDir::Files, QDir::Name);
       if (found.isEmpty())
-        fail(tr("%1 holds no nomination (.scn)").arg(path));
+        fail(Texts::tr("%1 holds no nomination (.scn)").arg(path));
       for (const QString &name : found)
         files.append(folder.filePath(name));
     }
@@ -113,7 +114,7 @@ private:
     for (const QString &path : files) {
       GasLibNomination nomination(path, m_net);
       const bool isRead = nomination.read();
-      if (!take(nomination, isRead, path, tr("a nomination of this network")))
+      if (!take(nomination, isRead, path, Texts::tr("a nomination of this network")))
         return false;
       const bool isOnly = nomination.scenarios.size() == 1;
       for (GasLibNomination::Scenario &scenario : nomination.scenarios) {
@@ -128,9 +129,9 @@ private:
   bool add(Scenario scenario) {
     scenario.name.replace(QLatin1Char('/'), QLatin1Char('_')).replace(QLatin1Char('\\'), QLatin1Char('_'));
     if (scenario.name.isEmpty() || scenario.name.startsWith(QLatin1Char('.')))
-      return fail(tr("\"%1\" cannot be the name of a scenario: nothing is written").arg(scenario.name));
+      return fail(Texts::tr("\"%1\" cannot be the name of a scenario: nothing is written").arg(scenario.name));
     if (m_result.scenarios.contains(scenario.name, Qt::CaseInsensitive))
-      return fail(tr("Two nominations are named %1: nothing is written").arg(scenario.name));
+      return fail(Texts::tr("Two nominations are named %1: nothing is written").arg(scenario.name));
     m_result.scenarios.append(scenario.name);
     m_result.setPoints += static_cast<int>(scenario.setPoints.size());
     m_scenarios.push_back(std::move(scenario));
@@ -153,8 +154,8 @@ private:
       m_drives = StationDrives::make(m_net, stations);
       isRead = all == 0 || dropped() - before < all;
     }
-    m_result.report.take(tr("drive"), static_cast<int>(m_drives.size()));
-    return take(stations, isRead, m_machines, tr("compressor stations of this network"));
+    m_result.report.take(Texts::tr("drive"), static_cast<int>(m_drives.size()));
+    return take(stations, isRead, m_machines, Texts::tr("compressor stations of this network"));
   }
 
   bool write() {
@@ -182,14 +183,14 @@ private:
     for (const QString &name : present) {
       if (name == geometry)
         continue;
-      *reason = tr("%1 holds the geometry %2 already; the new one would be %3").arg(m_request.to, name, geometry);
+      *reason = Texts::tr("%1 holds the geometry %2 already; the new one would be %3").arg(m_request.to, name, geometry);
       return false;
     }
     for (const Scenario &scenario : m_scenarios) {
       const QString ours = scenario.name + QLatin1Char('/') + baseOf(scenario.name) + QStringLiteral(".scen.jsn");
       if (m_folder.isThere(ours) || !m_folder.isThere(scenario.name))
         continue;
-      *reason = tr("%1 holds a folder %2 already, which is no scenario of ours").arg(m_request.to, scenario.name);
+      *reason = Texts::tr("%1 holds a folder %2 already, which is no scenario of ours").arg(m_request.to, scenario.name);
       return false;
     }
     return true;

@@ -2,6 +2,8 @@
 
 #include "nodeplaces.h"
 
+#include <model/names.h>
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -9,9 +11,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("GasLibNetwork", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(GasLibNetwork)
+};
 
 /// So that the layers of an imported network are worth having.
 QString layerOf(const QString &kind) {
@@ -46,7 +48,7 @@ bool GasLibNetwork::read() {
     else if (m_xml.name() == QLatin1String("information"))
       readInformation();
     else
-      drop(tr("not known"));
+      drop(Texts::tr("not known"));
   }
   if (!finish())
     return false;
@@ -68,11 +70,11 @@ bool GasLibNetwork::isUsable(const QString &kind, bool isKnown, QHash<QString, i
   const QString name = attribute("id");
   QString why;
   if (!isKnown)
-    why = tr("The element %1 is not known and left out").arg(kind);
+    why = Texts::tr("The element %1 is not known and left out").arg(kind);
   else if (name.isEmpty())
-    why = tr("A %1 without id is left out").arg(kind);
+    why = Texts::tr("A %1 without id is left out").arg(kind);
   else if (names.contains(name.toLower()))
-    why = tr("%1 is left out: one of this name, regardless of case, stands in line %2")
+    why = Texts::tr("%1 is left out: one of this name, regardless of case, stands in line %2")
               .arg(name)
               .arg(names.value(name.toLower()));
   if (why.isEmpty()) {
@@ -80,7 +82,7 @@ bool GasLibNetwork::isUsable(const QString &kind, bool isKnown, QHash<QString, i
     return true;
   }
   tell(why);
-  drop(isKnown ? tr("without a name of its own") : tr("not known"));
+  drop(isKnown ? Texts::tr("without a name of its own") : Texts::tr("not known"));
   return false;
 }
 
@@ -96,7 +98,7 @@ void GasLibNetwork::readAttributes(Record &record, const std::vector<Attribute> 
     if (value.isEmpty() || read.contains(name))
       continue;
     if (found == known.end()) {
-      report.drop(name, tr("not known"));
+      report.drop(name, Texts::tr("not known"));
       continue;
     }
     report.take(name);
@@ -109,7 +111,7 @@ void GasLibNetwork::readValues(Record &record, const std::vector<Known> &known) 
     const auto found = std::find_if(known.begin(), known.end(),
                                     [this](const Known &one) { return m_xml.name() == QLatin1String(one.element); });
     if (found == known.end())
-      drop(tr("not known"));
+      drop(Texts::tr("not known"));
     else if (const auto value = number(found->unit, {}, found->isNegated))
       add(record, found->property, *value);
   }
@@ -149,7 +151,7 @@ void GasLibNetwork::readNodes() {
       if (const auto at = GasLibUnits::read(attribute(name)))
         add(record, property, *at);
       else if (!attribute(name).isEmpty())
-        tell(tr("The %1 of %2 is no number: %3").arg(QLatin1String(name), record.name, attribute(name)));
+        tell(Texts::tr("The %1 of %2 is no number: %3").arg(QLatin1String(name), record.name, attribute(name)));
     }
     add(record, "kind", kind);
     add(record, "vis.layer", layerOf(kind));
@@ -207,12 +209,10 @@ void GasLibNetwork::readConnections() {
 
 /// Connections without both ends cannot be drawn, nor can anyone say where they lie.
 void GasLibNetwork::leaveOutLooseEnds() {
-  static const PropertyKey node1 = PropertyKey::intern("node1");
-  static const PropertyKey node2 = PropertyKey::intern("node2");
   std::vector<Record> kept;
   for (std::size_t i = 0; i < edges.size(); ++i) {
-    const QString from = edges[i].find(node1)->text.toString();
-    const QString to = edges[i].find(node2)->text.toString();
+    const QString from = edges[i].find(Names::all().node1)->text.toString();
+    const QString to = edges[i].find(Names::all().node2)->text.toString();
     const auto &[kind, line] = m_edgeOrigins[i];
     if (m_kinds.contains(from) && m_kinds.contains(to)) {
       report.take(kind);
@@ -220,8 +220,9 @@ void GasLibNetwork::leaveOutLooseEnds() {
       kept.push_back(std::move(edges[i]));
       continue;
     }
-    tell(tr("%1 is left out: it leads from \"%2\" to \"%3\", which are not both there").arg(edges[i].name, from, to), line);
-    report.drop(kind, tr("without both ends"));
+    tell(Texts::tr("%1 is left out: it leads from \"%2\" to \"%3\", which are not both there").arg(edges[i].name, from, to),
+         line);
+    report.drop(kind, Texts::tr("without both ends"));
   }
   edges = std::move(kept);
 }
@@ -245,12 +246,10 @@ Units::Gas GasLibNetwork::conversionGas(const QString &node) const {
 
 /// Nodes without any are not kept; the first that states one stands for all under no name.
 void GasLibNetwork::noteGas(const Record &node) {
-  static const PropertyKey density = PropertyKey::intern("rhon");
-  static const PropertyKey calorific = PropertyKey::intern("hs");
   Units::Gas gas;
-  if (const auto *value = node.find(density))
+  if (const auto *value = node.find(Names::all().normDensity))
     gas.normDensity = value->text.toDouble();
-  if (const auto *value = node.find(calorific))
+  if (const auto *value = node.find(Names::all().calorificValue))
     gas.calorificValue = value->text.toDouble();
   if (!gas.normDensity && !gas.calorificValue)
     return;
@@ -266,7 +265,7 @@ GasLibReader::Record GasLibNetwork::gas() const {
   Record gas{QStringLiteral("gas"), QStringLiteral("gas"), {}};
   for (const Record &node : nodes) {
     std::copy_if(node.values.begin(), node.values.end(), std::back_inserter(gas.values),
-                 [](const NetworkFileConverter::Value &value) { return ofGas.contains(value.key.name()); });
+                 [](const NetworkRecord::Value &value) { return ofGas.contains(value.key.name()); });
     if (!gas.values.empty())
       break;
   }

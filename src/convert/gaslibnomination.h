@@ -12,7 +12,7 @@ public:
 
   struct Scenario {
     QString id; ///< as the file calls it
-    std::vector<NetworkFileConverter::SetPoint> setPoints;
+    std::vector<NetworkSetPoint> setPoints;
   };
 
   /// False when the file holds no nomination, not all of it, or one of another network. What is wrong is in the findings.

@@ -4,7 +4,7 @@
 
 #include <io/conversionreport.h>
 #include <io/gaslibxml.h>
-#include <io/networkfileconverter.h>
+#include <io/networkrecord.h>
 
 /// What the importers of public network instances have in common: numbers in our units, and account of every element.
 class GasLibReader : public GasLibXml {
@@ -15,7 +15,7 @@ public:
   ConversionReport report; ///< by the names of elements and attributes
 
 protected:
-  using Record = NetworkFileConverter::Record;
+  using Record = NetworkRecord;
 
   /// The number of the current element in a unit of ours, and past the element; nothing, and told, when there is none.
   /// \param isNegated for values that count the other way round

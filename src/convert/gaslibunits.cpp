@@ -1,49 +1,13 @@
 #include "gaslibunits.h"
 
-#include <QHash>
+#include <io/gaslibxml.h>
+
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 namespace {
-
-/// The units of the format as UDUNITS-2 writes them; empty for one that is not known.
-QString unitOf(const QString &name) {
-  static const QHash<QString, QString> units{{QStringLiteral("1000m_cube_per_hour"), QStringLiteral("1000 m3/h")},
-                                             {QStringLiteral("m_cube_per_hour"), QStringLiteral("m3/h")},
-                                             {QStringLiteral("m_cube_per_s"), QStringLiteral("m3/s")},
-                                             {QStringLiteral("m_cube_per_second"), QStringLiteral("m3/s")},
-                                             {QStringLiteral("m_cube_per_day"), QStringLiteral("m3/day")},
-                                             {QStringLiteral("kg_per_s"), QStringLiteral("kg/s")},
-                                             {QStringLiteral("kg_per_hour"), QStringLiteral("kg/h")},
-                                             {QStringLiteral("W"), QStringLiteral("W")},
-                                             {QStringLiteral("kW"), QStringLiteral("kW")},
-                                             {QStringLiteral("MW"), QStringLiteral("MW")},
-                                             {QStringLiteral("GW"), QStringLiteral("GW")},
-                                             {QStringLiteral("bar"), QStringLiteral("bar")},
-                                             {QStringLiteral("mbar"), QStringLiteral("mbar")},
-                                             {QStringLiteral("Pa"), QStringLiteral("Pa")},
-                                             {QStringLiteral("kPa"), QStringLiteral("kPa")},
-                                             {QStringLiteral("MPa"), QStringLiteral("MPa")},
-                                             {QStringLiteral("km"), QStringLiteral("km")},
-                                             {QStringLiteral("m"), QStringLiteral("m")},
-                                             {QStringLiteral("meter"), QStringLiteral("m")},
-                                             {QStringLiteral("cm"), QStringLiteral("cm")},
-                                             {QStringLiteral("mm"), QStringLiteral("mm")},
-                                             {QStringLiteral("K"), QStringLiteral("K")},
-                                             {QStringLiteral("C"), QStringLiteral("degC")},
-                                             {QStringLiteral("Celsius"), QStringLiteral("degC")},
-                                             {QStringLiteral("percent"), QStringLiteral("%")},
-                                             {QStringLiteral("MJ_per_m_cube"), QStringLiteral("MJ/m3")},
-                                             {QStringLiteral("kWh_per_m_cube"), QStringLiteral("kWh/m3")},
-                                             {QStringLiteral("kg_per_m_cube"), QStringLiteral("kg/m3")},
-                                             {QStringLiteral("kg_per_kmol"), QStringLiteral("g/mol")},
-                                             {QStringLiteral("g_per_mol"), QStringLiteral("g/mol")},
-                                             {QStringLiteral("W_per_m_square_per_K"), QStringLiteral("W/(m2 K)")}};
-  return units.value(name);
-}
 
 /// Without leading zeros and exponent.
 int significantDigits(std::string_view text) {
@@ -53,13 +17,6 @@ int significantDigits(std::string_view text) {
       ++digits;
   }
   return digits;
-}
-
-/// The shortest text that reads as the very same number.
-PropertyText shortest(double value) {
-  char text[32];
-  const auto [end, error] = std::to_chars(text, text + sizeof text, value);
-  return PropertyText(std::string_view(text, static_cast<std::size_t>(end - text)));
 }
 
 } // namespace
@@ -79,14 +36,14 @@ std::optional<GasLibUnits::Number> GasLibUnits::read(const QString &text) {
   const double value = trimmed.toDouble(&isNumber);
   if (!isNumber || !std::isfinite(value))
     return std::nullopt;
-  return Number{written.match(trimmed).hasMatch() ? PropertyText(trimmed) : shortest(value), value, false};
+  return Number{written.match(trimmed).hasMatch() ? PropertyText(trimmed) : PropertyText::shortest(value), value, false};
 }
 
 std::optional<GasLibUnits::Number> GasLibUnits::convert(const Number &number, const QString &given, const QString &wanted,
                                                         const Units::Gas &gas) {
   constexpr double Atmosphere = 1.01325; // bar
   const bool isGauge = given == QLatin1String("barg");
-  const QString known = unitOf(isGauge ? QStringLiteral("bar") : given);
+  const QString known = GasLibXml::unitOf(isGauge ? QStringLiteral("bar") : given);
   if (given.isEmpty() || wanted.isEmpty() || known == wanted) {
     if (!isGauge)
       return number;

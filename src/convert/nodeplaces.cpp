@@ -1,5 +1,7 @@
 #include "nodeplaces.h"
 
+#include <model/names.h>
+
 #include <QCoreApplication>
 #include <QHash>
 
@@ -9,11 +11,11 @@
 
 namespace {
 
-using Record = NetworkFileConverter::Record;
+using Record = NetworkRecord;
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("NodePlaces", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(NodePlaces)
+};
 
 struct Place {
   double x = 0.0;
@@ -21,8 +23,8 @@ struct Place {
 };
 
 std::optional<Place> placeOf(const Record &node, const char *x, const char *y) {
-  const NetworkFileConverter::Value *atX = node.find(PropertyKey::intern(x));
-  const NetworkFileConverter::Value *atY = node.find(PropertyKey::intern(y));
+  const NetworkRecord::Value *atX = node.find(PropertyKey::intern(x));
+  const NetworkRecord::Value *atY = node.find(PropertyKey::intern(y));
   if (atX == nullptr || atY == nullptr)
     return std::nullopt;
   return Place{atX->text.toDouble().value_or(0.0), atY->text.toDouble().value_or(0.0)};
@@ -33,7 +35,7 @@ void put(Record &node, const Place &place) {
     constexpr int Digits = 14; // what the mean adds beyond is noise
     const PropertyKey key = PropertyKey::intern(property);
     node.values.erase(std::remove_if(node.values.begin(), node.values.end(),
-                                     [key](const NetworkFileConverter::Value &value) { return value.key == key; }),
+                                     [key](const NetworkRecord::Value &value) { return value.key == key; }),
                       node.values.end());
     node.values.push_back({key, PropertyText::ofNumber(at, Digits), true});
   }
@@ -47,11 +49,9 @@ public:
     QHash<QString, std::size_t> numbers;
     for (std::size_t i = 0; i < nodes.size(); ++i)
       numbers.insert(nodes[i].name, i);
-    static const PropertyKey node1 = PropertyKey::intern("node1");
-    static const PropertyKey node2 = PropertyKey::intern("node2");
     for (const Record &edge : edges) {
-      const std::size_t from = numbers.value(edge.find(node1)->text.toString());
-      const std::size_t to = numbers.value(edge.find(node2)->text.toString());
+      const std::size_t from = numbers.value(edge.find(Names::all().node1)->text.toString());
+      const std::size_t to = numbers.value(edge.find(Names::all().node2)->text.toString());
       m_neighbours[from].push_back(to);
       m_neighbours[to].push_back(from);
     }
@@ -126,7 +126,7 @@ QString NodePlaces::complete(std::vector<Record> &nodes, const std::vector<Recor
     const double radius = Distance * static_cast<double>(count) / Turn;
     put(nodes[i], places[i] ? *places[i] : Place{radius * std::cos(angle), radius * std::sin(angle)});
   }
-  const QString how = isByMap ? tr("their longitude and latitude serve, or they are put between their neighbours")
-                              : tr("they are put between their neighbours, or on a circle");
-  return tr("%1 nodes have no coordinates: %2").arg(missing).arg(how);
+  const QString how = isByMap ? Texts::tr("their longitude and latitude serve, or they are put between their neighbours")
+                              : Texts::tr("they are put between their neighbours, or on a circle");
+  return Texts::tr("%1 nodes have no coordinates: %2").arg(missing).arg(how);
 }

@@ -8,14 +8,14 @@
 
 namespace {
 
-using Record = NetworkFileConverter::Record;
+using Record = NetworkRecord;
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("StationDrives", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(StationDrives)
+};
 
 QString valueOf(const Record &record, const char *property) {
-  const NetworkFileConverter::Value *found = record.find(PropertyKey::intern(property));
+  const NetworkRecord::Value *found = record.find(PropertyKey::intern(property));
   return found == nullptr ? QString() : found->text.toString();
 }
 
@@ -73,15 +73,17 @@ std::vector<Record> StationDrives::make(GasLibNetwork &net, GasLibStations &mach
   for (const GasLibStations::Station &station : machines.stations) {
     Record *edge = edges.value(station.name);
     if (edge == nullptr || edge->type != QLatin1String("compressor")) {
-      machines.tell(tr("%1 is no compressor station of the network; it gets no drives").arg(station.name), station.line);
-      machines.report.drop(QStringLiteral("compressorStation"), tr("not in the network"));
+      machines.tell(Texts::tr("%1 is no compressor station of the network; it gets no drives").arg(station.name),
+                    station.line);
+      machines.report.drop(QStringLiteral("compressorStation"), Texts::tr("not in the network"));
       continue;
     }
     QString fuel = valueOf(*edge, "gasnode");
     if (!nodes.contains(fuel)) {
       if (!fuel.isEmpty())
-        machines.tell(tr("%1 takes its fuel at %2, which is not there; its inlet feeds the drives").arg(edge->name, fuel),
-                      station.line);
+        machines.tell(
+            Texts::tr("%1 takes its fuel at %2, which is not there; its inlet feeds the drives").arg(edge->name, fuel),
+            station.line);
       fuel = valueOf(*edge, "node1");
     }
     constexpr double First = 0.7; // of the way, where a single drive would be put

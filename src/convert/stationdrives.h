@@ -10,6 +10,6 @@ namespace StationDrives {
 
 /// The drives of all stations as elements, several of one behind one another; the compressors are told of theirs. Stations
 /// that the network lacks are told.
-std::vector<NetworkFileConverter::Record> make(GasLibNetwork &net, GasLibStations &machines);
+std::vector<NetworkRecord> make(GasLibNetwork &net, GasLibStations &machines);
 
 } // namespace StationDrives

@@ -2,7 +2,7 @@
 
 #include "formulafunctions.h"
 
-#include <formulas/formula.h>
+#include <formulas/formulaerror.h>
 
 #include <QCoreApplication>
 
@@ -15,9 +15,9 @@ namespace {
 constexpr double LargestMatrixSide = 100.0;
 constexpr double LargestFactorial = 170.0; // the next one is beyond numbers
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("Formula", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Formula)
+};
 
 void throwIfAbove(const mup::IValue &value, double largest, const mup::string_type &ident) {
   const bool isSound = value.IsNonComplexScalar() && value.GetFloat() <= largest && value.GetFloat() >= 0.0;
@@ -85,7 +85,7 @@ double numbersIn(const mup::IValue &value) {
 void EvaluationBounds::charge(double work) {
   m_left -= work;
   if (m_left < 0.0)
-    throw FormulaError(tr("it needs more work than is allowed for one element"), FormulaError::Kind::TooCostly);
+    throw FormulaError(Texts::tr("it needs more work than is allowed for one element"), FormulaError::Kind::TooCostly);
 }
 
 void EvaluationBounds::chargeArguments(const mup::ICallback &callback, const mup::ptr_val_type *arguments, int count) {
@@ -101,7 +101,7 @@ void EvaluationBounds::chargeArguments(const mup::ICallback &callback, const mup
 
 void EvaluationBounds::chargeResult(const mup::IValue &result, std::size_t longest) {
   if (result.IsString() && result.GetString().size() > std::max(longest, LongestText))
-    throw FormulaError(tr("it makes a text of more than %1 bytes").arg(LongestText));
+    throw FormulaError(Texts::tr("it makes a text of more than %1 bytes").arg(LongestText));
   if (result.IsMatrix())
     charge(numbersIn(result));
 }

@@ -1,7 +1,9 @@
 #include "constraintjudge.h"
 
 #include <model/displayformat.h>
+#include <model/names.h>
 #include <model/netmetadata.h>
+#include <model/topology.h>
 
 #include <cmath>
 
@@ -46,7 +48,7 @@ QString ConstraintJudge::violation(const FormulaRule &rule, const element &e) {
   if (!isLow && !(upper && value > *upper))
     return QString();
   const NetMetaData::Attribute *attribute =
-      m_net.metaData()->attribute(e.value(QStringLiteral("type")), rule.definition.property);
+      m_net.metaData()->attribute(e.value(Names::all().type), rule.definition.property);
   Units::Linear toDisplay;
   QString unit;
   if (attribute != nullptr) {
@@ -112,11 +114,10 @@ void ConstraintJudge::write(const std::vector<FormulaRule> &rules, const std::ve
 
 /// A subnet is its own.
 ConstraintJudge::SubnetOf ConstraintJudge::subnetsByElement() const {
-  static const PropertyKey inner = PropertyKey::intern("elements");
   SubnetOf subnetOf;
   m_net.forEach(NetData::AssembledSubnet, [&](element &subnet) {
     subnetOf.emplace(&subnet, &subnet);
-    for (const QString &name : subnet.value(inner).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+    for (const QString &name : Topology::listed(subnet, Names::all().elements)) {
       if (const element *e = m_net.element(name))
         subnetOf.emplace(e, &subnet);
     }
@@ -126,7 +127,6 @@ ConstraintJudge::SubnetOf ConstraintJudge::subnetsByElement() const {
 
 void ConstraintJudge::addToSubnets(const FormulaRule &rule, const SubnetOf &subnetOf,
                                    std::map<element *, QString> &texts) const {
-  static const PropertyKey nameKey = PropertyKey::intern("name");
   for (element *e : rule.elements) {
     const auto found = subnetOf.find(e);
     if (found == subnetOf.end())
@@ -135,7 +135,7 @@ void ConstraintJudge::addToSubnets(const FormulaRule &rule, const SubnetOf &subn
     const auto violation = rule.violations.constFind(e);
     if (violation == rule.violations.constEnd())
       continue;
-    const QString who = e == found->second ? QString() : e->value(nameKey) + QStringLiteral(": ");
+    const QString who = e == found->second ? QString() : e->value(Names::all().name) + QStringLiteral(": ");
     text += who + *violation + QLatin1Char(';');
   }
 }

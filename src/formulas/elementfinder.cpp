@@ -1,6 +1,7 @@
 #include "elementfinder.h"
 
 #include <base/pattern.h>
+#include <model/names.h>
 
 #include <algorithm>
 
@@ -25,7 +26,7 @@ std::vector<element *> ElementFinder::named(const QStringList &names, const QStr
   std::vector<element *> found;
   for (const QString &name : names) {
     element *e = m_net.element(name);
-    if (e != nullptr && (types.isEmpty() || types.contains(e->value(QStringLiteral("type")))))
+    if (e != nullptr && (types.isEmpty() || types.contains(e->value(Names::all().type))))
       found.push_back(e);
   }
   std::sort(found.begin(), found.end());
@@ -33,9 +34,8 @@ std::vector<element *> ElementFinder::named(const QStringList &names, const QStr
 }
 
 void ElementFinder::sortByType() {
-  static const PropertyKey key = PropertyKey::intern("type");
   for (const elements *collection : {&m_net.nodes(), &m_net.edges(), &m_net.assembledSubnets(), &m_net.textBoxes()}) {
     for (const elements::Entry &entry : *collection)
-      m_byType[entry.value.value(key)].emplace_back(entry.name(), &entry.value);
+      m_byType[entry.value.value(Names::all().type)].emplace_back(entry.name(), &entry.value);
   }
 }

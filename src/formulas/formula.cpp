@@ -2,7 +2,6 @@
 #include "formulaparsers.h"
 
 #include <formulas/formula.h>
-#include <formulas/parserfactory.h>
 
 #include <QCoreApplication>
 #include <QHash>
@@ -39,9 +38,9 @@ struct Formula::Engine {
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("Formula", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Formula)
+};
 
 QString asResultText(const mup::IValue &value) {
   switch (value.GetType()) {
@@ -54,7 +53,7 @@ QString asResultText(const mup::IValue &value) {
     return QString::fromStdString(formatNumber(value.GetFloat()));
   case 'm':
     if (value.GetRows() * value.GetCols() > EvaluationBounds::MostPrinted)
-      throw FormulaError(tr("its result is a matrix of more than %1 numbers").arg(EvaluationBounds::MostPrinted));
+      throw FormulaError(Texts::tr("its result is a matrix of more than %1 numbers").arg(EvaluationBounds::MostPrinted));
     return QString::fromStdString(value.ToString());
   default:
     return QString::fromStdString(value.ToString());
@@ -62,19 +61,6 @@ QString asResultText(const mup::IValue &value) {
 }
 
 } // namespace
-
-const element *FormulaReference::start(const NetData &net, const element *current, const FormulaNames *names) const {
-  if (elementName.isEmpty())
-    return current;
-  return net.element(names == nullptr ? elementName : names->element(elementName));
-}
-
-QString FormulaReference::written() const {
-  QString text = property.name();
-  for (auto step = path.rbegin(); step != path.rend(); ++step)
-    text += QLatin1Char('@') + step->name();
-  return text + QLatin1Char('@') + (elementName.isEmpty() ? QStringLiteral("ELE") : elementName);
-}
 
 Formula::Formula(const QString &text, const NetData &net, Bare bare, std::shared_ptr<FormulaParsers> parsers)
     : m_engine(std::make_unique<Engine>()) {
@@ -122,7 +108,7 @@ bool Formula::Engine::bind(FormulaParsers::Slot &slot, const element &current, c
     hasAll = hasAll && text != nullptr;
     const std::optional<double> number = text == nullptr || references[i].isText ? std::nullopt : text->toDouble();
     if (text == nullptr)
-      value = ParserFactory::nullText();
+      value = mup::string_type(FormulaReference::Null);
     else if (number)
       value = static_cast<mup::float_type>(*number);
     else
@@ -151,9 +137,9 @@ QString Formula::Engine::odd(const element &current, const FormulaNames *names) 
   for (const FormulaReference &reference : references) {
     const PropertyText *value = resolve(reference, current, names);
     if (value == nullptr)
-      parts.append(tr("%1 is missing").arg(reference.written()));
+      parts.append(Texts::tr("%1 is missing").arg(reference.written()));
     else if (!value->toDouble())
-      parts.append(tr("%1 is \"%2\"").arg(reference.written(), value->toString().left(Shown)));
+      parts.append(Texts::tr("%1 is \"%2\"").arg(reference.written(), value->toString().left(Shown)));
   }
   return parts.isEmpty() ? QString()
                          : QStringLiteral(" (%1)").arg(QStringList(parts.mid(0, Most)).join(QStringLiteral(", ")));
@@ -172,7 +158,7 @@ auto Formula::Engine::evaluate(const element &current, const FormulaNames *names
   } catch (const FormulaError &error) {
     constexpr int Shown = 80;
     const QString shown = original.size() > Shown ? original.left(Shown) + QStringLiteral("…") : original;
-    const QString why = tr("The formula \"%1\" is stopped: %2").arg(shown, error.text());
+    const QString why = Texts::tr("The formula \"%1\" is stopped: %2").arg(shown, error.text());
     if (error.kind() == FormulaError::Kind::TooCostly)
       givenUp = why;
     throw FormulaError(why, error.kind());

@@ -8,9 +8,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("FormulaFile", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(FormulaFile)
+};
 
 /// The position of the first character outside of quotes for which the test holds; the length of the text when none does.
 template <typename Test>
@@ -41,12 +41,12 @@ public:
     if (next() == QLatin1Char('=')) {
       m_definition.expression = m_text.mid(m_at + 1).trimmed();
       if (m_definition.expression.isEmpty())
-        throw FormulaError(tr("there is no expression after \"=\""));
+        throw FormulaError(Texts::tr("there is no expression after \"=\""));
     } else if (m_text.midRef(m_at).startsWith(QLatin1String("in "))) {
       m_at += 3;
       takeBounds();
     } else {
-      throw FormulaError(tr("\"=\" or \"in\" expected at character %1").arg(m_at + 1));
+      throw FormulaError(Texts::tr("\"=\" or \"in\" expected at character %1").arg(m_at + 1));
     }
     return m_definition;
   }
@@ -71,7 +71,7 @@ private:
     static const QRegularExpression name(QStringLiteral("^[\\p{L}_][\\p{L}\\p{N}_.]*"));
     m_definition.property = name.match(m_text).captured();
     if (m_definition.property.isEmpty())
-      throw FormulaError(tr("the line does not begin with the name of a property"));
+      throw FormulaError(Texts::tr("the line does not begin with the name of a property"));
     m_at = m_definition.property.size();
   }
 
@@ -88,7 +88,7 @@ private:
         break;
     }
     if (end >= m_text.size())
-      throw FormulaError(tr("a closing bracket is missing after the elements"));
+      throw FormulaError(Texts::tr("a closing bracket is missing after the elements"));
     const QString inner = m_text.mid(m_at + 1, end - m_at - 1);
     m_at = end + 1;
     const int colon = inner.indexOf(QLatin1Char(':'));
@@ -98,7 +98,7 @@ private:
     m_definition.namePattern = inner.mid(colon + 1).trimmed();
     const QRegularExpression pattern(m_definition.namePattern);
     if (!pattern.isValid())
-      throw FormulaError(tr("the pattern \"%1\" is none: %2").arg(m_definition.namePattern, pattern.errorString()));
+      throw FormulaError(Texts::tr("the pattern \"%1\" is none: %2").arg(m_definition.namePattern, pattern.errorString()));
   }
 
   void takeTypes(const QString &list) {
@@ -110,7 +110,7 @@ private:
       if (known == nullptr)
         known = ElementTypes::byWord(type);
       if (known == nullptr)
-        throw FormulaError(tr("there is no element type \"%1\"").arg(type));
+        throw FormulaError(Texts::tr("there is no element type \"%1\"").arg(type));
       m_definition.types.append(known->code);
     }
   }
@@ -118,11 +118,11 @@ private:
   void takeUnit() {
     const int end = m_text.indexOf(QLatin1Char(']'), m_at);
     if (end < 0)
-      throw FormulaError(tr("a closing bracket is missing after the unit"));
+      throw FormulaError(Texts::tr("a closing bracket is missing after the unit"));
     m_definition.unit = m_text.mid(m_at + 1, end - m_at - 1).trimmed();
     m_at = end + 1;
     if (!m_definition.unit.isEmpty() && !Units::isKnown(m_definition.unit))
-      throw FormulaError(tr("the unit \"%1\" is not known").arg(m_definition.unit));
+      throw FormulaError(Texts::tr("the unit \"%1\" is not known").arg(m_definition.unit));
   }
 
   void takeBounds() {
@@ -138,11 +138,11 @@ private:
     const QLatin1String between(" .. ");
     const int at = findOutsideQuotes(bounds, 0, [&](int i) { return bounds.midRef(i).startsWith(between); });
     if (at == bounds.size())
-      throw FormulaError(tr("the bounds are not parted by \"..\" between blanks"));
+      throw FormulaError(Texts::tr("the bounds are not parted by \"..\" between blanks"));
     m_definition.lower = bounds.left(at).trimmed();
     m_definition.upper = bounds.mid(at + between.size()).trimmed();
     if (m_definition.lower.isEmpty() && m_definition.upper.isEmpty())
-      throw FormulaError(tr("there is no bound"));
+      throw FormulaError(Texts::tr("there is no bound"));
   }
 
   QString m_text;
@@ -173,7 +173,7 @@ FormulaFile::Contents FormulaFile::parse(const QByteArray &text, const QString &
     }
     try {
       if (line.size() > LongestLine)
-        throw FormulaError(tr("it is longer than %1 characters").arg(LongestLine));
+        throw FormulaError(Texts::tr("it is longer than %1 characters").arg(LongestLine));
       FormulaDefinition definition = LineParser(line).parse();
       definition.category = current;
       definition.file = fileName;
@@ -181,7 +181,7 @@ FormulaFile::Contents FormulaFile::parse(const QByteArray &text, const QString &
       contents.definitions.push_back(definition);
     } catch (const FormulaError &error) {
       contents.findings.push_back(
-          {Finding::Severity::Warning, fileName, i + 1, tr("The line is left out: %1").arg(error.text()), QString()});
+          {Finding::Severity::Warning, fileName, i + 1, Texts::tr("The line is left out: %1").arg(error.text()), QString()});
     }
   }
   return contents;
@@ -193,6 +193,6 @@ FormulaFile::Contents FormulaFile::read(const QString &path, const QString &cate
     return parse(*text, path, category);
   Contents contents;
   contents.findings.push_back(
-      {Finding::Severity::Warning, path, 0, tr("The formulas cannot be read: %1").arg(reason), QString()});
+      {Finding::Severity::Warning, path, 0, Texts::tr("The formulas cannot be read: %1").arg(reason), QString()});
   return contents;
 }

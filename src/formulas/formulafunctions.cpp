@@ -1,6 +1,6 @@
 #include "formulafunctions.h"
 
-#include <formulas/parserfactory.h>
+#include <formulas/formulareference.h>
 #include <model/netdata.h>
 
 #include <cmath>
@@ -8,7 +8,7 @@
 namespace {
 
 bool isNull(const mup::IValue &value) {
-  return value.GetString() == ParserFactory::nullText();
+  return value.GetString() == FormulaReference::Null;
 }
 
 } // namespace

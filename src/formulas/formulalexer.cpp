@@ -1,5 +1,7 @@
 #include "formulalexer.h"
 
+#include <formulas/formulaerror.h>
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -7,9 +9,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("Formula", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Formula)
+};
 
 bool startsName(QChar c) {
   return c.isLetter() || c == QLatin1Char('_');
@@ -58,7 +60,8 @@ bool FormulaLexer::continuesName(QChar c) {
   return !Ends.contains(c);
 }
 
-FormulaLexer::FormulaLexer(const QString &text, Formula::Bare bare, const std::function<bool(const QString &)> &isKnown) {
+FormulaLexer::FormulaLexer(const QString &text, FormulaReference::Bare bare,
+                           const std::function<bool(const QString &)> &isKnown) {
   checkLimits(text);
   for (int i = 0; i < text.size();) {
     const QChar c = text.at(i);
@@ -95,7 +98,7 @@ FormulaLexer::FormulaLexer(const QString &text, Formula::Bare bare, const std::f
     while (next < text.size() && text.at(next).isSpace())
       ++next;
     const bool isFunction = next < text.size() && text.at(next) == QLatin1Char('(');
-    if (parts.size() == 1 && (isFunction || bare == Formula::Bare::Refused || isKnown(parts.first())))
+    if (parts.size() == 1 && (isFunction || bare == FormulaReference::Bare::Refused || isKnown(parts.first())))
       expression += parts.first();
     else
       addReference(parts.size() == 1 ? parts << QStringLiteral("ELE") : parts, isAskedAsText(expression, text, i));
@@ -107,9 +110,9 @@ void FormulaLexer::checkLimits(const QString &text) const {
   constexpr int DeepestNesting = 100;
   constexpr int MostCommas = 300;
   if (text.trimmed().isEmpty())
-    throw FormulaError(tr("The formula is empty."));
+    throw FormulaError(Texts::tr("The formula is empty."));
   if (text.size() > LongestText)
-    throw FormulaError(tr("The formula is longer than %1 characters.").arg(LongestText));
+    throw FormulaError(Texts::tr("The formula is longer than %1 characters.").arg(LongestText));
   int depth = 0;
   for (const QChar c : text) {
     if (c == QLatin1Char('(') || c == QLatin1Char('{') || c == QLatin1Char('['))
@@ -117,10 +120,10 @@ void FormulaLexer::checkLimits(const QString &text) const {
     else if (c == QLatin1Char(')') || c == QLatin1Char('}') || c == QLatin1Char(']'))
       --depth;
     if (depth > DeepestNesting)
-      throw FormulaError(tr("The formula is nested more deeply than %1 brackets.").arg(DeepestNesting));
+      throw FormulaError(Texts::tr("The formula is nested more deeply than %1 brackets.").arg(DeepestNesting));
   }
   if (text.count(QLatin1Char(',')) > MostCommas)
-    throw FormulaError(tr("The formula has more than %1 commas.").arg(MostCommas));
+    throw FormulaError(Texts::tr("The formula has more than %1 commas.").arg(MostCommas));
 }
 
 QString FormulaLexer::takeName(const QString &text, int &i) {
@@ -138,7 +141,7 @@ QString FormulaLexer::takeName(const QString &text, int &i) {
     }
   }
   if (name.isEmpty())
-    throw FormulaError(tr("A name is missing after \"@\" at character %1.").arg(i));
+    throw FormulaError(Texts::tr("A name is missing after \"@\" at character %1.").arg(i));
   return name;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <formulas/formula.h>
+#include <formulas/formulareference.h>
 
 #include <functional>
 #include <vector>
@@ -12,7 +12,7 @@ struct FormulaLexer {
 
   /// \param isKnown tells names of the engine (constants) from bare properties
   /// Throws FormulaError.
-  FormulaLexer(const QString &text, Formula::Bare bare, const std::function<bool(const QString &)> &isKnown);
+  FormulaLexer(const QString &text, FormulaReference::Bare bare, const std::function<bool(const QString &)> &isKnown);
 
   /// Whether the name of an element may hold the character as it is.
   static bool continuesName(QChar c);

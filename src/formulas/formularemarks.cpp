@@ -1,12 +1,14 @@
 #include "formularemarks.h"
 
+#include <model/names.h>
+
 #include <QCoreApplication>
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("NetworkFormulas", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(NetworkFormulas)
+};
 
 } // namespace
 
@@ -28,7 +30,7 @@ FormulaFailures::OfLine &FormulaFailures::of(const FormulaDefinition &definition
 
 void FormulaFailures::add(const FormulaDefinition &definition, const element &e, const QString &why) {
   OfLine &line = of(definition);
-  const QString name = e.value(QStringLiteral("name"));
+  const QString name = e.value(Names::all().name);
   if (line.count++ == 0 || name < line.first) {
     line.first = name;
     line.reason = why;
@@ -41,12 +43,12 @@ Findings FormulaFailures::findings() const {
     const OfLine &line = m_lines[number];
     if (line.count == 0)
       continue;
-    Finding finding =
-        FormulaRemarks::warning(*line.definition, tr("%1 could not be computed for %2 of %3 elements, the first is %4: %5")
-                                                      .arg(line.definition->property)
-                                                      .arg(line.count)
-                                                      .arg(line.elements)
-                                                      .arg(line.first, line.reason));
+    Finding finding = FormulaRemarks::warning(
+        *line.definition, Texts::tr("%1 could not be computed for %2 of %3 elements, the first is %4: %5")
+                              .arg(line.definition->property)
+                              .arg(line.count)
+                              .arg(line.elements)
+                              .arg(line.first, line.reason));
     finding.element = line.first;
     found.push_back(std::move(finding));
   }

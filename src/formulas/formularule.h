@@ -30,6 +30,14 @@ struct FormulaRule {
 using FormulaChanges = std::map<PropertyKey, std::set<const element *>>;
 
 /// Which formula makes a property of an element.
+///
+/// 1. A property of an element has at most one maker: of several formulas the last, by the order of the definitions, and
+///    the others no longer have the element among theirs. Constraints make nothing.
+/// 2. A property is listed when a formula or constraint reads it or several formulas make it. One that a single formula
+///    makes and nobody reads has no table, since nothing depends on it.
+/// 3. What a formula depends on are the makers of all that it reads for any of its elements, the properties that name
+///    other elements on the way included: when those change, it reads another element.
+/// 4. The elements of a rule stand by address and stay so: results are written by their position.
 class FormulaProducers {
 public:
   /// Takes from the rules the elements for which a later one makes the same property.

@@ -7,6 +7,7 @@
 
 #include <base/pattern.h>
 #include <formulas/networkformulas.h>
+#include <model/names.h>
 #include <model/netmetadata.h>
 
 #include <QCoreApplication>
@@ -16,9 +17,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("NetworkFormulas", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(NetworkFormulas)
+};
 
 } // namespace
 
@@ -95,7 +96,7 @@ FormulaRule NetworkFormulas::Computing::parsed(FormulaDefinition definition) {
   if (attribute != nullptr && !definition.unit.isEmpty()) {
     const auto conversion = Units::conversion(definition.unit, attribute->storedUnit);
     if (!conversion)
-      throw FormulaError(tr("the unit \"%1\" does not fit \"%2\", in which %3 is stored")
+      throw FormulaError(Texts::tr("the unit \"%1\" does not fit \"%2\", in which %3 is stored")
                              .arg(definition.unit, attribute->storedUnit, definition.property));
     rule.toStored = *conversion;
   }
@@ -113,7 +114,7 @@ void NetworkFormulas::Computing::prepare(const std::vector<FormulaDefinition> &d
       rule.definition.elements.clear(); // thousands of names, when subnets have thousands of elements
       rules.push_back(std::move(rule));
     } catch (const FormulaError &error) {
-      remarks.add(definition, tr("The formula of %1 is left out: %2").arg(definition.property, error.text()));
+      remarks.add(definition, Texts::tr("The formula of %1 is left out: %2").arg(definition.property, error.text()));
     }
   }
 }
@@ -146,11 +147,10 @@ void NetworkFormulas::Computing::order() {
     for (const int i : cycle)
       places.append(rules[static_cast<std::size_t>(i)].definition.place());
     const FormulaDefinition &first = rules[static_cast<std::size_t>(cycle.front())].definition;
-    remarks.add(
-        first,
-        cycle.size() == 1
-            ? tr("The formula needs its own result and is left out: %1").arg(places.first())
-            : tr("These formulas need one another's results and are left out: %1").arg(places.join(QStringLiteral("; "))));
+    remarks.add(first, cycle.size() == 1
+                           ? Texts::tr("The formula needs its own result and is left out: %1").arg(places.first())
+                           : Texts::tr("These formulas need one another's results and are left out: %1")
+                                 .arg(places.join(QStringLiteral("; "))));
   }
   if (!rules.empty())
     reportUnknown();
@@ -168,10 +168,10 @@ void NetworkFormulas::Computing::reportUnknown() {
         properties.push_back(reference.property);
         for (const PropertyKey property : properties) {
           if (known.count(property) == 0)
-            remarks.add(rule.definition, tr("No element has the property \"%1\".").arg(property.name()));
+            remarks.add(rule.definition, Texts::tr("No element has the property \"%1\".").arg(property.name()));
         }
         if (!reference.elementName.isEmpty() && reference.start(net, nullptr, rule.names()) == nullptr)
-          remarks.add(rule.definition, tr("There is no element \"%1\".").arg(reference.elementName));
+          remarks.add(rule.definition, Texts::tr("There is no element \"%1\".").arg(reference.elementName));
       }
     }
   }
@@ -215,15 +215,15 @@ PropertyText NetworkFormulas::Computing::valueOf(const FormulaRule &rule, const 
     const Formula::Result result = rule.value->evaluate(e, rule.names());
     const bool isNumber = result.number != NetData::NoValue;
     if (isNumber && !std::isfinite(result.number))
-      reason = tr("the result is not finite");
+      reason = Texts::tr("the result is not finite");
     else if (isNumber && !isAsStored)
       return PropertyText::ofNumber(rule.toStored(result.number));
-    else if (result.text != QLatin1String("_null_")) {
+    else if (result.text != QLatin1String(FormulaReference::Null)) {
       PropertyText text(result.text);
       m_madeText += text.utf8().size() > Short ? text.utf8().size() : 0;
       if (m_madeText <= MostText)
         return text;
-      reason = tr("the formulas make more than %1 MB of texts").arg(MostText >> 20);
+      reason = Texts::tr("the formulas make more than %1 MB of texts").arg(MostText >> 20);
     }
   } catch (const FormulaError &error) {
     if (!error.isForMissingValue())
@@ -364,7 +364,7 @@ Findings NetworkFormulas::violations() const {
     const FormulaRule &rule = m_computing->rules[static_cast<std::size_t>(i)];
     for (auto it = rule.violations.cbegin(); it != rule.violations.cend(); ++it) {
       Finding finding = FormulaRemarks::warning(rule.definition, it.value());
-      finding.element = it.key()->value(QStringLiteral("name"));
+      finding.element = it.key()->value(Names::all().name);
       found.push_back(std::move(finding));
     }
   }

@@ -2,10 +2,6 @@
 
 #include <formulas/parserfactory.h>
 
-std::string ParserFactory::nullText() {
-  return "_null_";
-}
-
 std::unique_ptr<mup::ParserX> ParserFactory::create(const NetData *net) {
   return std::make_unique<BoundedParser>(net);
 }

@@ -1,27 +1,12 @@
 #include "elementbuilder.h"
 
 #include <model/elementtypes.h>
+#include <model/names.h>
 
 #include <algorithm>
 #include <numeric>
 
 namespace {
-
-struct Keys {
-  PropertyKey name = PropertyKey::intern("name");
-  PropertyKey type = PropertyKey::intern("type");
-};
-
-const Keys &keys() {
-  static const Keys instance;
-  return instance;
-}
-
-constexpr std::string_view TypeMember = "obj_type";
-
-QString decoded(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 /// Without these an element cannot be placed or connected.
 bool isAlwaysIncluded(const QString &name) {
@@ -74,10 +59,10 @@ bool ElementBuilder::isTypeIncluded(const QString &word, const QString &code) co
          m_includeTypes.match(code).hasMatch();
 }
 
-std::vector<Property> &ElementBuilder::properties(JsonLineParser::Element &parsed, int line) {
+std::vector<Property> &ElementBuilder::properties(ElementRecord &parsed, int line) {
   m_properties.clear();
   for (std::size_t i = 0; i < parsed.values.size(); ++i) {
-    JsonLineParser::Value &value = parsed.values[i];
+    RecordValue &value = parsed.values[i];
     const Key &known = key(i, value.key);
     if (known.included && value.key != TypeMember)
       m_properties.push_back({known.key, std::move(value.text)});
@@ -106,9 +91,9 @@ void ElementBuilder::sortAsBefore(std::vector<Property> &list) {
   list.swap(m_sorted);
 }
 
-bool ElementBuilder::buildElement(JsonLineParser::Element &parsed, int line, element &built) {
+bool ElementBuilder::buildElement(ElementRecord &parsed, int line, element &built) {
   std::string_view word;
-  for (const JsonLineParser::Value &value : parsed.values) {
+  for (const RecordValue &value : parsed.values) {
     if (value.key == TypeMember)
       word = value.text.utf8();
   }
@@ -123,19 +108,19 @@ bool ElementBuilder::buildElement(JsonLineParser::Element &parsed, int line, ele
     return false;
   std::vector<Property> &list = properties(parsed, line);
   for (const Property &property : list) {
-    if (property.key == keys().name && property.value.utf8() != parsed.name)
+    if (property.key == Names::all().name && property.value.utf8() != parsed.name)
       m_report.add("other name", line,
                    QStringLiteral("Element %1 has a property name of its own, %2; it is left out")
                        .arg(decoded(parsed.name), property.value.toString()),
                    QString(), decoded(parsed.name));
   }
-  list.push_back({keys().name, PropertyText(parsed.name)}); // the last of equal names wins
-  list.push_back({keys().type, PropertyText(type->code)});
+  list.push_back({Names::all().name, PropertyText(parsed.name)}); // the last of equal names wins
+  list.push_back({Names::all().type, PropertyText(type->code)});
   std::vector<PropertyKey> duplicates;
   sortAsBefore(list);
   built = element::fromProperties(list, &duplicates);
   for (const PropertyKey duplicate : duplicates) {
-    if (duplicate != keys().name && duplicate != keys().type)
+    if (duplicate != Names::all().name && duplicate != Names::all().type)
       m_report.add("property given twice", line,
                    QStringLiteral("Property %1 of element %2 is given twice; the last value counts")
                        .arg(duplicate.name(), decoded(parsed.name)),

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "jsonlineparser.h"
 #include "readreport.h"
+#include "record.h"
 
 #include <model/element.h>
 
@@ -16,9 +16,9 @@ public:
   ElementBuilder(const QString &includeTypes, const QString &includeProperties, ReadReport &report);
 
   /// False when the element is left out (unknown type, not in the include list).
-  bool buildElement(JsonLineParser::Element &parsed, int line, element &built);
+  bool buildElement(ElementRecord &parsed, int line, element &built);
   /// The properties alone, in file order, for elements that exist.
-  std::vector<Property> &properties(JsonLineParser::Element &parsed, int line);
+  std::vector<Property> &properties(ElementRecord &parsed, int line);
 
 private:
   struct Key {

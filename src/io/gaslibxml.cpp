@@ -2,6 +2,7 @@
 #include <io/gaslibxml.h>
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QRegularExpression>
 #include <QTextCodec>
 
@@ -9,9 +10,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("GasLibXml", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(GasLibXml)
+};
 
 /// The text of an XML file; nothing when its bytes are none in the encoding that it states. Other encodings than the usual
 /// ones count as UTF-8.
@@ -34,28 +35,71 @@ std::optional<QString> decoded(const QByteArray &content) {
 
 } // namespace
 
+QString GasLibXml::unitOf(const QString &name) {
+  static const QHash<QString, QString> units{{QStringLiteral("1000m_cube_per_hour"), QStringLiteral("1000 m3/h")},
+                                             {QStringLiteral("m_cube_per_hour"), QStringLiteral("m3/h")},
+                                             {QStringLiteral("m_cube_per_s"), QStringLiteral("m3/s")},
+                                             {QStringLiteral("m_cube_per_second"), QStringLiteral("m3/s")},
+                                             {QStringLiteral("m_cube_per_day"), QStringLiteral("m3/day")},
+                                             {QStringLiteral("kg_per_s"), QStringLiteral("kg/s")},
+                                             {QStringLiteral("kg_per_hour"), QStringLiteral("kg/h")},
+                                             {QStringLiteral("W"), QStringLiteral("W")},
+                                             {QStringLiteral("kW"), QStringLiteral("kW")},
+                                             {QStringLiteral("MW"), QStringLiteral("MW")},
+                                             {QStringLiteral("GW"), QStringLiteral("GW")},
+                                             {QStringLiteral("bar"), QStringLiteral("bar")},
+                                             {QStringLiteral("mbar"), QStringLiteral("mbar")},
+                                             {QStringLiteral("Pa"), QStringLiteral("Pa")},
+                                             {QStringLiteral("kPa"), QStringLiteral("kPa")},
+                                             {QStringLiteral("MPa"), QStringLiteral("MPa")},
+                                             {QStringLiteral("km"), QStringLiteral("km")},
+                                             {QStringLiteral("m"), QStringLiteral("m")},
+                                             {QStringLiteral("meter"), QStringLiteral("m")},
+                                             {QStringLiteral("cm"), QStringLiteral("cm")},
+                                             {QStringLiteral("mm"), QStringLiteral("mm")},
+                                             {QStringLiteral("K"), QStringLiteral("K")},
+                                             {QStringLiteral("C"), QStringLiteral("degC")},
+                                             {QStringLiteral("Celsius"), QStringLiteral("degC")},
+                                             {QStringLiteral("percent"), QStringLiteral("%")},
+                                             {QStringLiteral("MJ_per_m_cube"), QStringLiteral("MJ/m3")},
+                                             {QStringLiteral("kWh_per_m_cube"), QStringLiteral("kWh/m3")},
+                                             {QStringLiteral("kg_per_m_cube"), QStringLiteral("kg/m3")},
+                                             {QStringLiteral("kg_per_kmol"), QStringLiteral("g/mol")},
+                                             {QStringLiteral("g_per_mol"), QStringLiteral("g/mol")},
+                                             {QStringLiteral("W_per_m_square_per_K"), QStringLiteral("W/(m2 K)")},
+                                             {QStringLiteral("per_min"), QStringLiteral("1/min")},
+                                             {QStringLiteral("per_s"), QStringLiteral("1/s")},
+                                             {QStringLiteral("kJ_per_kg"), QStringLiteral("kJ/kg")},
+                                             {QStringLiteral("J_per_kg"), QStringLiteral("J/kg")},
+                                             {QStringLiteral("m_cube"), QStringLiteral("m3")},
+                                             {QStringLiteral("kNm"), QStringLiteral("kN m")},
+                                             {QStringLiteral("Nm"), QStringLiteral("N m")}};
+  return units.value(name);
+}
+
 void GasLibXml::tell(const QString &text, int line) {
   constexpr std::size_t Most = 1000;
   if (findings.size() < Most)
     findings.push_back({Finding::Severity::Warning, m_path, line, text, QString()});
   else if (findings.size() == Most)
-    findings.push_back({Finding::Severity::Warning, m_path, 0, tr("... and more, which are not told"), QString()});
+    findings.push_back({Finding::Severity::Warning, m_path, 0, Texts::tr("... and more, which are not told"), QString()});
 }
 
 bool GasLibXml::load() {
   QString reason;
   const std::optional<QByteArray> content = FileAccess::readWhole(m_path, m_source, LargestFile, &reason);
   if (!content) {
-    findings.push_back({Finding::Severity::Warning, QString(), 0, tr("The file cannot be read: %1").arg(reason), QString()});
+    findings.push_back(
+        {Finding::Severity::Warning, QString(), 0, Texts::tr("The file cannot be read: %1").arg(reason), QString()});
     return false;
   }
   const std::optional<QString> text = decoded(*content);
   if (!text) {
-    tell(tr("The file is not written in UTF-8, nor in what it says: nothing is read."), 0);
+    tell(Texts::tr("The file is not written in UTF-8, nor in what it says: nothing is read."), 0);
     return false;
   }
   if (const XmlBounds::Fault fault = XmlBounds::check(*text, XmlBounds::Limits()); !fault.reason.isEmpty()) {
-    tell(fault.reason + tr(": nothing is read."), fault.line);
+    tell(fault.reason + Texts::tr(": nothing is read."), fault.line);
     return false;
   }
   m_xml.addData(*text);
@@ -70,18 +114,18 @@ bool GasLibXml::start(const QString &root, const QString &space) {
   if (!finish() || !m_xml.isStartElement())
     return false;
   if (m_xml.name() != root) {
-    tell(tr("The file holds %1 instead of %2: nothing is read.").arg(m_xml.name().toString(), root));
+    tell(Texts::tr("The file holds %1 instead of %2: nothing is read.").arg(m_xml.name().toString(), root));
     return false;
   }
   const QString wanted = QStringLiteral("http://gaslib.zib.de/") + space;
   if (m_xml.namespaceUri() != wanted)
-    tell(tr("The namespace is \"%1\" instead of \"%2\".").arg(m_xml.namespaceUri().toString(), wanted));
+    tell(Texts::tr("The namespace is \"%1\" instead of \"%2\".").arg(m_xml.namespaceUri().toString(), wanted));
   return true;
 }
 
 bool GasLibXml::finish() {
   if (!m_xml.hasError())
     return true;
-  tell(tr("The file cannot be read any further: %1").arg(m_xml.errorString()));
+  tell(Texts::tr("The file cannot be read any further: %1").arg(m_xml.errorString()));
   return false;
 }

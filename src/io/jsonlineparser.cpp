@@ -1,21 +1,12 @@
 #include "jsonlineparser.h"
 
-#include <cmath>
+#include "numbertext.h"
+
+#include <simdjson.h>
 
 namespace {
 
 using simdjson::error_code;
-
-bool isDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
-std::size_t digitsFrom(std::string_view text, std::size_t at) {
-  std::size_t end = at;
-  while (end < text.size() && isDigit(text[end]))
-    ++end;
-  return end - at;
-}
 
 std::string_view trimmed(std::string_view token) {
   while (!token.empty() && (token.back() == ' ' || token.back() == '\t' || token.back() == '\r' || token.back() == '\n'))
@@ -23,84 +14,36 @@ std::string_view trimmed(std::string_view token) {
   return token;
 }
 
-/// Where the parts of a JSON number lie in its text.
-struct NumberShape {
-  bool valid = false;
-  bool exponent = false;
-  std::size_t integerAt = 0;
-  std::size_t integerDigits = 0;
-  std::size_t fractionAt = 0; ///< behind the point, 0 without one
-  std::size_t fractionDigits = 0;
-
-  explicit NumberShape(std::string_view text) {
-    std::size_t at = integerAt = !text.empty() && text[0] == '-' ? 1 : 0;
-    integerDigits = digitsFrom(text, at);
-    if (integerDigits == 0 || (integerDigits > 1 && text[at] == '0'))
-      return;
-    at += integerDigits;
-    if (at < text.size() && text[at] == '.') {
-      fractionAt = ++at;
-      fractionDigits = digitsFrom(text, at);
-      if (fractionDigits == 0)
-        return;
-      at += fractionDigits;
-    }
-    if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
-      exponent = true;
-      ++at;
-      if (at < text.size() && (text[at] == '+' || text[at] == '-'))
-        ++at;
-      const std::size_t digits = digitsFrom(text, at);
-      if (digits == 0)
-        return;
-      at += digits;
-    }
-    valid = at == text.size();
-  }
-};
-
-/// The text without superfluous zeros when it is a plain number of few digits; empty when it must be formatted anew.
-std::string_view plainNumber(std::string_view text, const NumberShape &shape) {
-  constexpr std::size_t SafeDigits = 15;
-  if (shape.exponent)
-    return {};
-  std::size_t fraction = shape.fractionDigits;
-  while (fraction > 0 && text[shape.fractionAt + fraction - 1] == '0')
-    --fraction;
-  std::size_t significant = shape.integerDigits + fraction;
-  if (text[shape.integerAt] == '0') {
-    std::size_t zeros = 0;
-    while (zeros < fraction && text[shape.fractionAt + zeros] == '0')
-      ++zeros;
-    constexpr std::size_t ZerosBeforeExponent = 3; // 0.0001 is plain, 0.00001 is 1e-05
-    if (zeros > ZerosBeforeExponent)
-      return {};
-    significant = fraction - zeros;
-  }
-  if (significant > SafeDigits)
-    return {};
-  return text.substr(0, fraction > 0 ? shape.fractionAt + fraction : shape.integerAt + shape.integerDigits);
-}
-
 } // namespace
 
-NumberText numberText(std::string_view token, PropertyText &text) {
-  const NumberShape shape(token);
-  if (!shape.valid)
-    return NumberText::Invalid;
-  const std::string_view plain = plainNumber(token, shape);
-  if (!plain.empty()) {
-    text = PropertyText(plain);
-    return NumberText::Taken;
-  }
-  const std::optional<double> number = parseNumber(token);
-  if (!number || !std::isfinite(*number))
-    return NumberText::OutOfRange;
-  text = PropertyText(std::string_view(formatNumber(*number)));
-  return NumberText::Taken;
-}
+/// Walks over the line with the library's parser.
+class JsonLineParser::Engine {
+public:
+  explicit Engine(RecordNumbers numbers)
+      : m_numbers(numbers) {}
 
-error_code JsonLineParser::begin(const JsonLineReader::Line &line) {
+  const char *parse(const LineReader::Line &line, std::vector<ElementRecord> &elements, std::size_t &count);
+  const char *parse(const LineReader::Line &line, std::vector<SetPointsRecord> &setPoints);
+
+private:
+  simdjson::error_code begin(const LineReader::Line &line);
+  simdjson::error_code readElement(simdjson::ondemand::object object, ElementRecord &element);
+  using Member = simdjson::simdjson_result<simdjson::ondemand::field>;
+  simdjson::error_code readMember(Member &member, RecordValue &read, const char *&dropped);
+  simdjson::error_code readValue(simdjson::ondemand::value value, RecordValue &read, const char *&dropped);
+  simdjson::error_code readList(simdjson::ondemand::array list, SetPointsRecord &target);
+  simdjson::error_code readPoint(simdjson::ondemand::object object, SetPointRecord &point);
+  const char *finish(simdjson::error_code error);
+
+  simdjson::ondemand::parser m_parser;
+  simdjson::ondemand::document m_document;
+  simdjson::dom::parser m_strict; ///< for the rare lines with parts that the walk skips
+  std::string_view m_text;
+  RecordNumbers m_numbers;
+  bool m_skipped = false;
+};
+
+error_code JsonLineParser::Engine::begin(const LineReader::Line &line) {
   char *text = line.text;
   std::size_t size = line.size + 1;
   // The comma that separates the elements stands before the line and gives its place to the brace.
@@ -117,7 +60,7 @@ error_code JsonLineParser::begin(const JsonLineReader::Line &line) {
   return m_parser.iterate(text, size, capacity).get(m_document);
 }
 
-const char *JsonLineParser::finish(error_code error) {
+const char *JsonLineParser::Engine::finish(error_code error) {
   if (error == simdjson::SUCCESS && m_document.current_location().error() == simdjson::SUCCESS)
     error = simdjson::TRAILING_CONTENT;
   if (error == simdjson::SUCCESS && m_skipped) {
@@ -127,7 +70,8 @@ const char *JsonLineParser::finish(error_code error) {
   return error == simdjson::SUCCESS ? nullptr : simdjson::error_message(error);
 }
 
-const char *JsonLineParser::parse(const JsonLineReader::Line &line, std::vector<Element> &elements, std::size_t &count) {
+const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vector<ElementRecord> &elements,
+                                          std::size_t &count) {
   count = 0;
   simdjson::ondemand::object object;
   error_code error = begin(line);
@@ -139,7 +83,7 @@ const char *JsonLineParser::parse(const JsonLineReader::Line &line, std::vector<
     simdjson::ondemand::object properties;
     if (count == elements.size())
       elements.emplace_back();
-    Element &element = elements[count++];
+    ElementRecord &element = elements[count++];
     if ((error = member.unescaped_key().get(element.name)) != simdjson::SUCCESS ||
         (error = member.value().get_object().get(properties)) != simdjson::SUCCESS ||
         (error = readElement(properties, element)) != simdjson::SUCCESS)
@@ -148,12 +92,12 @@ const char *JsonLineParser::parse(const JsonLineReader::Line &line, std::vector<
   return finish(error);
 }
 
-error_code JsonLineParser::readElement(simdjson::ondemand::object object, Element &element) {
+error_code JsonLineParser::Engine::readElement(simdjson::ondemand::object object, ElementRecord &element) {
   element.values.clear();
   element.dropped.clear();
   element.doubtful.clear();
   for (auto member : object) {
-    Value read;
+    RecordValue read;
     const char *dropped = nullptr;
     if (const error_code error = readMember(member, read, dropped); error != simdjson::SUCCESS)
       return error;
@@ -165,7 +109,7 @@ error_code JsonLineParser::readElement(simdjson::ondemand::object object, Elemen
   return simdjson::SUCCESS;
 }
 
-error_code JsonLineParser::readMember(Member &member, Value &read, const char *&dropped) {
+error_code JsonLineParser::Engine::readMember(Member &member, RecordValue &read, const char *&dropped) {
   simdjson::ondemand::value value;
   error_code error = member.unescaped_key().get(read.key);
   if (error == simdjson::SUCCESS)
@@ -173,7 +117,7 @@ error_code JsonLineParser::readMember(Member &member, Value &read, const char *&
   return error == simdjson::SUCCESS ? readValue(value, read, dropped) : error;
 }
 
-error_code JsonLineParser::readValue(simdjson::ondemand::value value, Value &read, const char *&dropped) {
+error_code JsonLineParser::Engine::readValue(simdjson::ondemand::value value, RecordValue &read, const char *&dropped) {
   simdjson::ondemand::json_type type{};
   if (const error_code error = value.type().get(type); error != simdjson::SUCCESS)
     return error;
@@ -181,7 +125,7 @@ error_code JsonLineParser::readValue(simdjson::ondemand::value value, Value &rea
   case simdjson::ondemand::json_type::number: {
     const std::string_view token = trimmed(value.raw_json_token());
     const NumberText taken = numberText(token, read.text);
-    if (m_numbers == Numbers::AsWritten && taken == NumberText::Taken)
+    if (m_numbers == RecordNumbers::AsWritten && taken == NumberText::Taken)
       read.text = PropertyText(token);
     if (taken == NumberText::OutOfRange)
       dropped = "the number is out of range";
@@ -211,7 +155,7 @@ error_code JsonLineParser::readValue(simdjson::ondemand::value value, Value &rea
   }
 }
 
-const char *JsonLineParser::parse(const JsonLineReader::Line &line, std::vector<SetPoints> &setPoints) {
+const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vector<SetPointsRecord> &setPoints) {
   setPoints.clear();
   simdjson::ondemand::object object;
   error_code error = begin(line);
@@ -232,11 +176,11 @@ const char *JsonLineParser::parse(const JsonLineReader::Line &line, std::vector<
   return finish(error);
 }
 
-error_code JsonLineParser::readList(simdjson::ondemand::array list, SetPoints &target) {
+error_code JsonLineParser::Engine::readList(simdjson::ondemand::array list, SetPointsRecord &target) {
   for (auto entry : list) {
     simdjson::ondemand::object object;
     error_code error = entry.get_object().get(object);
-    SetPoint point;
+    SetPointRecord point;
     if (error == simdjson::SUCCESS)
       error = readPoint(object, point);
     if (error != simdjson::SUCCESS)
@@ -246,10 +190,10 @@ error_code JsonLineParser::readList(simdjson::ondemand::array list, SetPoints &t
   return simdjson::SUCCESS;
 }
 
-error_code JsonLineParser::readPoint(simdjson::ondemand::object object, SetPoint &point) {
+error_code JsonLineParser::Engine::readPoint(simdjson::ondemand::object object, SetPointRecord &point) {
   bool hasValue = false;
   for (auto member : object) {
-    Value read;
+    RecordValue read;
     const char *dropped = nullptr;
     if (const error_code error = readMember(member, read, dropped); error != simdjson::SUCCESS)
       return error;
@@ -265,4 +209,17 @@ error_code JsonLineParser::readPoint(simdjson::ondemand::object object, SetPoint
   }
   point.isComplete = hasValue && !point.property.empty();
   return simdjson::SUCCESS;
+}
+
+JsonLineParser::JsonLineParser(RecordNumbers numbers)
+    : m_engine(std::make_unique<Engine>(numbers)) {}
+
+JsonLineParser::~JsonLineParser() = default;
+
+const char *JsonLineParser::parse(const LineReader::Line &line, std::vector<ElementRecord> &elements, std::size_t &count) {
+  return m_engine->parse(line, elements, count);
+}
+
+const char *JsonLineParser::parse(const LineReader::Line &line, std::vector<SetPointsRecord> &setPoints) {
+  return m_engine->parse(line, setPoints);
 }

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr std::size_t BlockSize = std::size_t(1) << 20;
-constexpr std::size_t Padding = simdjson::SIMDJSON_PADDING + 2; // the closing brace stands behind the line
+static_assert(LineReader::Padding >= simdjson::SIMDJSON_PADDING + 2, "the closing brace stands behind the line");
 
 bool isBlank(char c) {
   return c == ' ' || c == '\t' || c == '\r' || c == '\f' || c == '\v';

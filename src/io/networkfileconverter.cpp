@@ -1,8 +1,7 @@
 #include "jsonfile.h"
-#include "jsonlineparser.h"
 #include "networkfilewriter.h"
 #include "readreport.h"
-#include "texttablereader.h"
+#include "recordstream.h"
 
 #include <base/wholefile.h>
 #include <io/networkfileconverter.h>
@@ -16,9 +15,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("NetworkFileConverter", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(NetworkFileConverter)
+};
 
 /// What the name of a network file tells: 1 what it holds, 2 whether it is JSON.
 QRegularExpressionMatch parts(const QString &name) {
@@ -46,68 +45,42 @@ public:
       : m_path(path)
       , m_writer(writer)
       , m_report(path)
-      , m_result(result)
-      , m_holdsSetPoints(holdsSetPoints(path)) {}
+      , m_result(result) {}
 
   /// False when the file cannot be read.
   bool run(QString *reason) {
-    const bool isRead = isJsonPath(m_path) ? feedJson(reason) : feedText(reason);
+    const bool isRead = feed(reason);
     m_result.findings = m_report.take();
     return isRead;
   }
 
 private:
-  bool feedJson(QString *reason) {
-    JsonLineReader reader(m_path);
-    if (!reader.open(reason))
+  bool feed(QString *reason) {
+    const RecordContent content = holdsSetPoints(m_path) ? RecordContent::SetPoints : RecordContent::Elements;
+    RecordStream stream(m_path, {RecordStream::formOf(m_path), content, RecordNumbers::AsWritten});
+    if (!stream.open(reason))
       return false;
-    JsonLineParser parser(JsonLineParser::Numbers::AsWritten);
-    JsonLineReader::Line line;
-    std::vector<JsonLineParser::Element> elements;
-    std::vector<JsonLineParser::SetPoints> setPoints;
-    std::size_t count = 0;
-    while (reader.next(line)) {
-      const char *fault = line.tooLong       ? "the line is longer than 64 MB"
-                          : m_holdsSetPoints ? parser.parse(line, setPoints)
-                                             : parser.parse(line, elements, count);
-      if (fault != nullptr) {
-        m_report.badLine(line, fault);
-        m_result.report.drop(tr("line"), QString::fromUtf8(fault));
+    Record record;
+    while (stream.next(record)) {
+      if (!record.fault.isEmpty()) {
+        stream.tell(record, m_report);
+        m_result.report.drop(Texts::tr("line"), record.fault);
         continue;
       }
-      for (const JsonLineParser::SetPoints &points : setPoints) {
-        for (const JsonLineParser::SetPoint &point : points.points)
-          take(points.name, point, line.number);
+      for (const SetPointsRecord &points : record.setPoints) {
+        for (const SetPointRecord &point : points.points)
+          take(points.name, point, record.line);
       }
-      for (std::size_t i = 0; i < count; ++i)
-        take(elements[i], line.number);
+      for (ElementRecord &parsed : record.elements)
+        take(parsed, record.line);
     }
-    *reason = reader.readFault(); // half of a file is none
+    stream.tellEncoding(m_report);
+    *reason = stream.readFault(); // half of a file is none
     return reason->isEmpty();
   }
 
-  bool feedText(QString *reason) {
-    TextTableReader reader(m_path, JsonLineParser::Numbers::AsWritten);
-    if (!reader.open(reason))
-      return false;
-    JsonLineParser::Element row;
-    for (TextTableReader::Found found = reader.next(row); found != TextTableReader::Found::End; found = reader.next(row)) {
-      if (found == TextTableReader::Found::Fault) {
-        m_report.badRow(reader.line(), reader.quote(), reader.fault());
-        m_result.report.drop(tr("line"), reader.fault());
-      } else if (m_holdsSetPoints) {
-        take(row.name, TextTableReader::setPoint(row), reader.line());
-      } else {
-        take(row, reader.line());
-      }
-    }
-    m_report.notUtf8(reader.notUtf8Line());
-    *reason = reader.readFault(); // half of a file is none
-    return reason->isEmpty();
-  }
-
-  void take(std::string_view name, const JsonLineParser::SetPoint &point, int line) {
-    const QString element = QString::fromUtf8(name.data(), static_cast<int>(name.size()));
+  void take(std::string_view name, const SetPointRecord &point, int line) {
+    const QString element = decoded(name);
     if (point.isComplete) {
       if (point.doubt != nullptr)
         m_report.doubt(QString::fromStdString(point.property), element, point.doubt, line);
@@ -116,26 +89,25 @@ private:
       m_result.report.take(QString::fromStdString(point.property));
       ++m_result.records;
     } else {
-      m_report.add("incomplete value", line,
-                   tr("A value of element %1 is left out: it needs \"property\" and \"value\"").arg(element));
-      m_result.report.drop(tr("value"), tr("incomplete"));
+      m_report.incompleteValue(element, line);
+      m_result.report.drop(Texts::tr("value"), Texts::tr("incomplete"));
     }
   }
 
-  void take(JsonLineParser::Element &parsed, int line) {
+  void take(ElementRecord &parsed, int line) {
     std::string type;
-    std::vector<NetworkFileConverter::Value> values;
-    for (JsonLineParser::Value &value : parsed.values) {
-      if (value.key == "obj_type")
+    std::vector<NetworkRecord::Value> values;
+    for (RecordValue &value : parsed.values) {
+      if (value.key == TypeMember)
         type = value.text.utf8();
       else
         values.push_back({PropertyKey::intern(value.key), std::move(value.text), value.isNumber});
     }
     m_report.values(parsed, line);
-    for (const JsonLineParser::Dropped &dropped : parsed.dropped)
+    for (const RecordRemark &dropped : parsed.dropped)
       m_result.report.drop(QString::fromStdString(dropped.key), QString::fromUtf8(dropped.reason));
     m_writer.write(parsed.name, type, std::move(values));
-    m_result.report.take(type.empty() ? tr("element with values") : QString::fromStdString(type));
+    m_result.report.take(type.empty() ? Texts::tr("element with values") : QString::fromStdString(type));
     ++m_result.records;
   }
 
@@ -143,7 +115,6 @@ private:
   NetworkFileWriter &m_writer;
   ReadReport m_report;
   NetworkFileConverter::Result &m_result;
-  bool m_holdsSetPoints;
 };
 
 std::unique_ptr<NetworkFileWriter> writerFor(const QString &path, QIODevice &device) {
@@ -166,27 +137,22 @@ bool writeFile(const QString &path, const Fill &fill, QString *reason) {
 
 } // namespace
 
-const NetworkFileConverter::Value *NetworkFileConverter::Record::find(PropertyKey key) const {
-  const auto found = std::find_if(values.begin(), values.end(), [key](const Value &value) { return value.key == key; });
-  return found == values.end() ? nullptr : &*found;
-}
-
-bool NetworkFileConverter::write(const QString &path, const std::vector<Record> &records, QString *reason) {
+bool NetworkFileConverter::write(const QString &path, const std::vector<NetworkRecord> &records, QString *reason) {
   return writeFile(
       path,
       [&records](NetworkFileWriter &writer, QString *) {
-        for (const Record &record : records)
+        for (const NetworkRecord &record : records)
           writer.write(record.name.toStdString(), record.type.toStdString(), record.values);
         return true;
       },
       reason);
 }
 
-bool NetworkFileConverter::write(const QString &path, const std::vector<SetPoint> &setPoints, QString *reason) {
+bool NetworkFileConverter::write(const QString &path, const std::vector<NetworkSetPoint> &setPoints, QString *reason) {
   return writeFile(
       path,
       [&setPoints](NetworkFileWriter &writer, QString *) {
-        for (const SetPoint &point : setPoints)
+        for (const NetworkSetPoint &point : setPoints)
           writer.writeSetPoint(point.name.toStdString(), point.value, point.unit.toStdString());
         return true;
       },
@@ -210,10 +176,10 @@ NetworkFileConverter::Result NetworkFileConverter::convert(const QString &from, 
   };
   for (const QString &path : {from, to}) {
     if (!isNetworkFile(path))
-      return fail(tr("%1 is not named as a network file is").arg(path));
+      return fail(Texts::tr("%1 is not named as a network file is").arg(path));
   }
   if (shape(from) != shape(to))
-    return fail(tr("%1 and %2 are named as files of different kinds").arg(from, to));
+    return fail(Texts::tr("%1 and %2 are named as files of different kinds").arg(from, to));
   QString reason;
   result.ok = writeFile(
       to,
@@ -221,7 +187,7 @@ NetworkFileConverter::Result NetworkFileConverter::convert(const QString &from, 
         QString fault;
         if (Feeder(from, writer, result).run(&fault))
           return true;
-        *why = tr("Cannot read %1").arg(fault);
+        *why = Texts::tr("Cannot read %1").arg(fault);
         return false;
       },
       &reason);

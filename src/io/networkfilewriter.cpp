@@ -1,6 +1,8 @@
 #include "networkfilewriter.h"
 
-#include "jsonlineparser.h"
+#include "numbertext.h"
+#include "record.h"
+#include "textrowparser.h"
 
 #include <algorithm>
 #include <array>
@@ -16,11 +18,6 @@ bool isPlainNumber(std::string_view text) {
 bool isNumber(std::string_view text) {
   PropertyText read;
   return numberText(text, read) != NumberText::Invalid;
-}
-
-bool isName(std::string_view text) {
-  constexpr std::string_view Name = "name";
-  return std::equal(text.begin(), text.end(), Name.begin(), Name.end(), [](char a, char b) { return (a | 0x20) == b; });
 }
 
 } // namespace
@@ -83,7 +80,8 @@ void JsonFileWriter::write(std::string_view name, std::string_view type, std::ve
   put("{");
   bool isFirst = type.empty();
   if (!type.empty()) {
-    put("\"obj_type\":");
+    putText(TypeMember);
+    put(":");
     putText(type);
   }
   for (const Value &value : values) {
@@ -166,7 +164,7 @@ void TextFileWriter::putValue(const Value &value) {
 
 /// The first cell of a row, which must not look like a comment, a type or column names.
 void TextFileWriter::putName(std::string_view text) {
-  if (!text.empty() && (text.front() == '#' || text.front() == '[' || isName(text)))
+  if (!text.empty() && (text.front() == '#' || text.front() == '[' || TextRowParser::isNameColumn(text)))
     putQuoted(text);
   else
     putCell(text);

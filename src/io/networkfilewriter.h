@@ -1,6 +1,6 @@
 #pragma once
 
-#include <io/networkfileconverter.h>
+#include <io/networkrecord.h>
 
 #include <QIODevice>
 #include <QString>
@@ -11,7 +11,7 @@
 /// Writes network files. What it is given is written at the latest by finish().
 class NetworkFileWriter {
 public:
-  using Value = NetworkFileConverter::Value;
+  using Value = NetworkRecord::Value;
 
   explicit NetworkFileWriter(QIODevice &device)
       : m_device(device) {}

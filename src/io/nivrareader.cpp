@@ -1,6 +1,6 @@
 #include "elementbuilder.h"
 #include "jsonfile.h"
-#include "texttablereader.h"
+#include "recordstream.h"
 
 #include <base/nivramsg.h>
 #include <io/nivrareader.h>
@@ -12,10 +12,6 @@ namespace {
 
 constexpr double Nano = 1e-9;
 constexpr int LinesBetweenProgress = 1000;
-
-QString decoded(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 QString jsonPath(const QString &textPath) {
   const QString path = textPath + QStringLiteral(".jsn");
@@ -41,12 +37,11 @@ public:
   explicit ProgressTeller(const Progress &progress)
       : m_progress(progress) {}
 
-  template <typename Reader>
-  bool goesOn(const Reader &reader) {
+  bool goesOn(const RecordStream &stream) {
     if (++m_lines < LinesBetweenProgress || !m_progress)
       return true;
     m_lines = 0;
-    return m_progress(reader.fraction());
+    return m_progress(stream.fraction());
   }
 
 private:
@@ -54,66 +49,32 @@ private:
   int m_lines = 0;
 };
 
-/// The same for the rows of the text form.
+/// Hands each element of a file to take(element, line, fraction).
 template <typename Take>
-NivraReader::Result readRows(const QString &path, const NivraReader::Options &options, ReadReport &report,
-                             const Take &take) {
-  TextTableReader reader(path, JsonLineParser::Numbers::AsHeld, options.source);
+NivraReader::Result readElements(const QString &path, const NivraReader::Options &options, ReadReport &report,
+                                 const Take &take) {
+  RecordStream stream(path, {RecordStream::formOf(path), RecordContent::Elements, RecordNumbers::AsHeld, options.source});
   QString reason;
-  if (!reader.open(&reason))
+  if (!stream.open(&reason))
     return failure(reason);
   NivraReader::Result result;
   result.ok = true;
   ProgressTeller progress(options.progress);
-  JsonLineParser::Element row;
-  for (TextTableReader::Found found = reader.next(row); found != TextTableReader::Found::End; found = reader.next(row)) {
-    if (found == TextTableReader::Found::Row)
-      take(row, reader.line(), reader.fraction());
-    else
-      report.badRow(reader.line(), reader.quote(), reader.fault());
-    if (!progress.goesOn(reader)) {
+  Record record;
+  while (stream.next(record)) {
+    if (!record.fault.isEmpty()) {
+      stream.tell(record, report);
+    } else {
+      for (ElementRecord &parsed : record.elements)
+        take(parsed, record.line, stream.fraction());
+    }
+    if (!progress.goesOn(stream)) {
       result.cancelled = true;
       break;
     }
   }
-  report.readFault(reader.readFault());
-  report.notUtf8(reader.notUtf8Line());
-  result.readingSeconds = reader.readingSeconds();
-  return result;
-}
-
-/// Runs over the lines of a file whose members are objects and hands each element to take(element, line, fraction).
-template <typename Take>
-NivraReader::Result readObjects(const QString &path, const NivraReader::Options &options, ReadReport &report,
-                                const Take &take) {
-  if (!isJsonPath(path))
-    return readRows(path, options, report, take);
-  JsonLineReader reader(path, options.source);
-  QString reason;
-  if (!reader.open(&reason))
-    return failure(reason);
-  NivraReader::Result result;
-  result.ok = true;
-  JsonLineParser parser;
-  JsonLineReader::Line line;
-  std::vector<JsonLineParser::Element> parsed;
-  std::size_t count = 0;
-  ProgressTeller progress(options.progress);
-  while (reader.next(line)) {
-    const char *fault = line.tooLong ? "the line is longer than 64 MB" : nullptr;
-    if (fault == nullptr)
-      fault = parser.parse(line, parsed, count);
-    for (std::size_t i = 0; fault == nullptr && i < count; ++i)
-      take(parsed[i], line.number, reader.fraction());
-    if (fault != nullptr)
-      report.badLine(line, fault);
-    if (!progress.goesOn(reader)) {
-      result.cancelled = true;
-      break;
-    }
-  }
-  report.readFault(reader.readFault());
-  result.readingSeconds = reader.readingSeconds();
+  stream.tellEnd(report);
+  result.readingSeconds = stream.readingSeconds();
   return result;
 }
 
@@ -198,7 +159,7 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
   ElementBuilder builder(options.includeTypes, options.includeProperties, report);
   qint64 properties = 0;
   element built;
-  const auto take = [&](JsonLineParser::Element &parsed, int line, double fraction) {
+  const auto take = [&](ElementRecord &parsed, int line, double fraction) {
     if (!builder.buildElement(parsed, line, built))
       return;
     if (m_net.nodes().size() + m_net.edges().size() == Sample)
@@ -206,7 +167,7 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
     properties += static_cast<qint64>(built.size());
     m_net.addElement(std::move(built), m_told);
   };
-  Result result = readObjects(path, options, report, take);
+  Result result = readElements(path, options, report, take);
   if (result.ok && !result.cancelled && m_net.isEmpty())
     report.add("empty", 0, QStringLiteral("The file holds no element"));
   result.properties = properties;
@@ -222,7 +183,7 @@ NivraReader::Result NivraReader::readValues(const QString &path, const Options &
   ReadReport report(path);
   ElementBuilder builder(QString(), options.includeProperties, report);
   qint64 properties = 0;
-  Result result = readObjects(path, options, report, [&](JsonLineParser::Element &parsed, int line, double) {
+  Result result = readElements(path, options, report, [&](ElementRecord &parsed, int line, double) {
     element *target = m_net.element(parsed.name);
     if (target == nullptr) {
       report.add("unknown name", line,
@@ -251,7 +212,7 @@ NivraReader::Result NivraReader::readGasJsn(const QString &path) {
   ReadReport report(path);
   ElementBuilder builder(QString(), QString(), report);
   GasTable gases;
-  Result result = readObjects(path, Options(), report, [&](JsonLineParser::Element &parsed, int line, double) {
+  Result result = readElements(path, Options(), report, [&](ElementRecord &parsed, int line, double) {
     gases[decoded(parsed.name)] = element::fromProperties(builder.properties(parsed, line));
   });
   result.ok = result.ok && !gases.empty();

@@ -8,34 +8,34 @@ void ReadReport::add(const char *kind, int line, const QString &text, const QStr
     m_findings.push_back({Finding::Severity::Warning, m_file, line, text, box, false, element});
 }
 
-QString ReadReport::quoted(const LineReader::Line &line) {
+QString ReadReport::quoted(std::string_view line) {
   constexpr std::size_t Longest = 200;
-  QString quote = QString::fromUtf8(line.text, static_cast<int>(std::min(line.size, Longest)));
+  QString quote = decoded(line.substr(0, Longest));
   for (QChar &c : quote) {
     if (!c.isPrint())
       c = QChar(QChar::ReplacementCharacter);
   }
-  return line.size > Longest ? quote + QStringLiteral(" ...") : quote;
+  return line.size() > Longest ? quote + QStringLiteral(" ...") : quote;
 }
 
-void ReadReport::badRow(int line, const QString &quote, const QString &reason) {
+void ReadReport::badRow(const Record &record) {
   const std::size_t before = m_findings.size();
-  add(BadLine, line, QStringLiteral("Problem with line %1: %2").arg(quote, reason),
-      QStringLiteral("Severe problem with line: ") + quote + QStringLiteral("\nCheck console for info!"));
+  add(BadLine, record.line, QStringLiteral("Problem with line %1: %2").arg(record.quote, record.fault),
+      QStringLiteral("Severe problem with line: ") + record.quote + QStringLiteral("\nCheck console for info!"));
   if (m_findings.size() > before)
     m_findings.back().isForInformation = true;
 }
 
-void ReadReport::values(const JsonLineParser::Element &element, int line) {
+void ReadReport::values(const ElementRecord &element, int line) {
   if (element.dropped.empty() && element.doubtful.empty())
     return;
-  const QString name = QString::fromUtf8(element.name.data(), static_cast<int>(element.name.size()));
-  for (const JsonLineParser::Dropped &dropped : element.dropped)
+  const QString name = decoded(element.name);
+  for (const RecordRemark &dropped : element.dropped)
     add("dropped property", line,
         QStringLiteral("Property %1 of element %2 is left out: %3")
             .arg(QString::fromStdString(dropped.key), name, QString::fromUtf8(dropped.reason)),
         QString(), name);
-  for (const JsonLineParser::Doubt &doubtful : element.doubtful)
+  for (const RecordRemark &doubtful : element.doubtful)
     doubt(QString::fromStdString(doubtful.key), name, doubtful.reason, line);
 }
 
@@ -44,14 +44,26 @@ void ReadReport::doubt(const QString &property, const QString &element, const ch
       QStringLiteral("Property %1 of element %2 %3").arg(property, element, QString::fromUtf8(reason)), QString(), element);
 }
 
-void ReadReport::badLine(const LineReader::Line &line, const char *reason) {
-  const QString quote = quoted(line);
+void ReadReport::badLine(const Record &record) {
   const std::size_t before = m_findings.size();
-  add(BadLine, line.number,
-      QStringLiteral("!!!!!!!!!!!!! Problem with JSON at %1: %2").arg(quote, QString::fromUtf8(reason)),
-      QStringLiteral("!!!! Severe JSON problem with line: ") + quote + QStringLiteral("\nCheck console for info!"));
+  add(BadLine, record.line, QStringLiteral("!!!!!!!!!!!!! Problem with JSON at %1: %2").arg(record.quote, record.fault),
+      QStringLiteral("!!!! Severe JSON problem with line: ") + record.quote + QStringLiteral("\nCheck console for info!"));
   if (m_findings.size() > before)
     m_findings.back().isForInformation = true;
+}
+
+void ReadReport::badSetPoints(const Record &record) {
+  const bool isFirst = m_counts.value(QLatin1String(BadLine)) == 0;
+  add(BadLine, record.line,
+      QStringLiteral("!!!!!!!!!!!!! Problem with JSON at %1: %2 (Severe JSON problem! Input line invalid, ignored!)")
+          .arg(record.quote, record.fault),
+      isFirst ? QStringLiteral("Severe JSON problem! \nInvalid input line(s) ignored! Check console for info!") : QString());
+}
+
+void ReadReport::incompleteValue(const QString &element, int line) {
+  add("incomplete value", line,
+      QStringLiteral("A value of element %1 is left out: it needs \"property\" and \"value\"").arg(element), QString(),
+      element);
 }
 
 void ReadReport::readFault(const QString &reason) {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "jsonlineparser.h"
-#include "linereader.h"
+#include "record.h"
 
 #include <base/finding.h>
 
@@ -17,23 +16,27 @@ public:
   void add(const char *kind, int line, const QString &text, const QString &box = QString(),
            const QString &element = QString());
   /// A line that is no valid JSON, with a box for the user.
-  void badLine(const LineReader::Line &line, const char *reason);
+  void badLine(const Record &record);
+  /// The same among set points, with a box for the first.
+  void badSetPoints(const Record &record);
   /// Likewise for the text form.
-  void badRow(int line, const QString &quote, const QString &reason);
+  void badRow(const Record &record);
+  /// A set point without property or value.
+  void incompleteValue(const QString &element, int line);
   /// The values of an element that are left out, and those that may not be what was meant.
-  void values(const JsonLineParser::Element &element, int line);
+  void values(const ElementRecord &element, int line);
   void doubt(const QString &property, const QString &element, const char *reason, int line);
   /// The file could not be read to its end; with a box, since what is shown is not the whole.
   void readFault(const QString &reason);
   /// A text file is not in UTF-8. \param line the first such; nothing is told for 0
   void notUtf8(int line);
   Findings take();
-  int count(const char *kind) const { return m_counts.value(QLatin1String(kind)); }
 
-  static constexpr const char *BadLine = "bad line";
-  static QString quoted(const LineReader::Line &line);
+  /// The beginning of a line, for a message.
+  static QString quoted(std::string_view line);
 
 private:
+  static constexpr const char *BadLine = "bad line";
   static constexpr int KeptOfAKind = 1000;
 
   QString m_file;

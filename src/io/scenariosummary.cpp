@@ -9,9 +9,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("ScenarioSummary", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(ScenarioSummary)
+};
 
 QString textOf(const QJsonValue &value) {
   if (value.isObject())
@@ -25,7 +25,7 @@ class Builder {
 public:
   void addCase(const NivraWorkspace &workspace, const QString &geometryFile) {
     const NivraWorkspace::Case &opened = *workspace.currentCase();
-    m_section = tr("Case");
+    m_section = Texts::tr("Case");
     const QString source = opened.isConfigured ? workspace.filePath(opened.configFile) : QString();
     add(QStringLiteral("geometry"), opened.geometryFile, geometryFile);
     add(QStringLiteral("flag"), opened.flag ? QStringLiteral("1") : QStringLiteral("0"), source);
@@ -34,20 +34,20 @@ public:
   }
 
   void addScenario(const NivraScenario &scenario) {
-    m_section = tr("Scenario");
+    m_section = Texts::tr("Scenario");
     for (const auto &[key, value] : scenario.entries())
       add(key, value, scenario.origin.value(key));
     add(QStringLiteral("result files"), scenario.resultFiles.join(QStringLiteral(", ")), QString());
-    m_section = tr("General properties");
+    m_section = Texts::tr("General properties");
     for (auto property = scenario.generalProps.begin(); property != scenario.generalProps.end(); ++property)
       add(property.key(), property.value(), scenario.origin.value(QStringLiteral("GeneralProps/") + property.key()));
   }
 
   void addParams(const NivraGasParams &params) {
-    m_section = tr("Gas law and solver");
+    m_section = Texts::tr("Gas law and solver");
     for (const NivraGasParams::Entry &entry : params.entries()) {
       if (entry.isPositional)
-        m_section = tr("Further fields");
+        m_section = Texts::tr("Further fields");
       QString comment = params.comment.value(entry.key);
       if (params.source.contains(entry.key))
         comment = comment.isEmpty() ? params.source.value(entry.key)

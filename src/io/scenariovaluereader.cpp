@@ -1,13 +1,22 @@
-// The reader of scenario values: two threads take the lines of one queue and parse them; what they parsed is applied in the
-// order of the lines afterwards, because NetData is changed by one thread at a time.
+// The reader of scenario values.
+//
+// 1. Two threads take raw records from one queue, by a critical section, and parse them side by side. Each has its own
+//    parser, its own raw record and its own list of what it parsed.
+// 2. While they work nobody touches the network or makes property keys: names and properties stay texts until then. The
+//    network is changed by one thread at a time.
+// 3. What was parsed is applied by the calling thread in the order of the lines, so that of values given twice the last
+//    counts, whichever thread parsed it, and messages stand in the order of the file.
+// 4. Only the calling thread tells the progress, outside of the critical section: whoever is told may touch the window.
+//    When it is asked to stop, both threads get no more records; what they have is applied.
+// 5. A value whose unit needs the gas waits until all files are read that may tell of gases. What is set for the same
+//    property of the same element meanwhile takes its place (set()).
 
-#include "jsonfile.h"
-#include "jsonlineparser.h"
 #include "readreport.h"
+#include "recordstream.h"
 #include "setpointunits.h"
-#include "texttablereader.h"
 
 #include <io/nivrareader.h>
+#include <model/names.h>
 #include <model/netmetadata.h>
 
 #include <QElapsedTimer>
@@ -15,7 +24,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstring>
 #include <exception>
 #include <omp.h>
 
@@ -24,149 +32,26 @@ namespace {
 constexpr int Threads = 2;
 constexpr double Nano = 1e-9;
 
-struct ParsedLine {
-  int number = 0;
-  std::vector<JsonLineParser::SetPoints> setPoints;
-  QString fault; ///< empty when the line is valid
-  QString quote;
-};
-
-QString decoded(const std::string &text) {
-  return QString::fromStdString(text);
-}
-
-/// The lines of a file in the JSON form.
-class JsonLines {
+/// The raw records of a file as one queue for several threads.
+class RecordQueue {
 public:
-  struct Line {
-    JsonLineReader::Line line;
-    std::vector<char> buffer; ///< the thread's own, with room for the parser around the text
-  };
-  class Parser {
-  public:
-    ParsedLine parse(const Line &taken) {
-      ParsedLine parsed;
-      parsed.number = taken.line.number;
-      const char *fault =
-          taken.line.tooLong ? "the line is longer than 64 MB" : m_parser.parse(taken.line, parsed.setPoints);
-      if (fault != nullptr) {
-        parsed.fault = QString::fromUtf8(fault);
-        parsed.quote = ReadReport::quoted(taken.line);
-      }
-      return parsed;
-    }
-
-  private:
-    JsonLineParser m_parser{JsonLineParser::Numbers::AsWritten};
-  };
-
-  explicit JsonLines(const QString &path)
-      : reader(path) {}
-
-  bool take(Line &taken) {
-    JsonLineReader::Line &line = taken.line;
-    if (!reader.next(line))
-      return false;
-    taken.buffer.resize(line.size + 2 + simdjson::SIMDJSON_PADDING + 2);
-    std::memcpy(taken.buffer.data() + 1, line.text, line.size);
-    line.text = taken.buffer.data() + 1;
-    line.capacity = taken.buffer.size() - 1;
-    return true;
-  }
-
-  static void tell(ReadReport &report, const ParsedLine &line) {
-    report.add(
-        ReadReport::BadLine, line.number,
-        QStringLiteral("!!!!!!!!!!!!! Problem with JSON at %1: %2 (Severe JSON problem! Input line invalid, ignored!)")
-            .arg(line.quote, line.fault),
-        report.count(ReadReport::BadLine) > 0
-            ? QString()
-            : QStringLiteral("Severe JSON problem! \nInvalid input line(s) ignored! Check console for info!"));
-  }
-  void tellOfFile(ReadReport &report) const { report.readFault(reader.readFault()); }
-
-  static constexpr const char *Function = "readScenariofileJsn";
-  static constexpr const char *Form = "scenario jsn";
-
-  JsonLineReader reader;
-};
-
-/// The rows of a file in the text form.
-class TextLines {
-public:
-  struct Line {
-    TextRowParser::Row row;
-    QString fault; ///< of the table reader: the row cannot be parsed
-    QString quote;
-  };
-  class Parser {
-  public:
-    ParsedLine parse(const Line &taken) {
-      ParsedLine parsed;
-      parsed.number = taken.row.number;
-      parsed.fault = taken.fault;
-      parsed.quote = taken.quote;
-      if (!taken.fault.isEmpty())
-        return parsed;
-      parsed.fault = m_parser.parse(taken.row, m_element);
-      if (!parsed.fault.isEmpty()) {
-        parsed.quote = TextTableReader::quoted(taken.row.text);
-      } else {
-        parsed.setPoints.push_back({std::string(m_element.name), {TextTableReader::setPoint(m_element)}});
-      }
-      return parsed;
-    }
-
-  private:
-    TextRowParser m_parser{JsonLineParser::Numbers::AsWritten};
-    JsonLineParser::Element m_element;
-  };
-
-  explicit TextLines(const QString &path)
-      : reader(path) {}
-
-  bool take(Line &taken) {
-    taken.fault.clear();
-    const TextTableReader::Found found = reader.nextRow(taken.row);
-    if (found == TextTableReader::Found::Fault) {
-      taken.row.number = reader.line();
-      taken.fault = reader.fault();
-      taken.quote = reader.quote();
-    }
-    return found != TextTableReader::Found::End;
-  }
-
-  static void tell(ReadReport &report, const ParsedLine &line) { report.badRow(line.number, line.quote, line.fault); }
-  void tellOfFile(ReadReport &report) const {
-    report.readFault(reader.readFault());
-    report.notUtf8(reader.notUtf8Line());
-  }
-
-  static constexpr const char *Function = "readScenariofile";
-  static constexpr const char *Form = "scenario";
-
-  TextTableReader reader;
-};
-
-/// The lines of a file as one queue for several threads.
-template <typename Lines>
-class LineQueue {
-public:
-  LineQueue(Lines &lines, const Progress &progress)
-      : m_lines(lines)
+  RecordQueue(RecordStream &stream, const Progress &progress)
+      : m_stream(stream)
       , m_progress(progress) {}
 
-  /// Takes the next line into the thread's own room.
-  bool take(typename Lines::Line &line) {
+  /// Takes the next one into the thread's own room.
+  bool take(RawRecord &raw) {
     bool taken = false;
     double fraction = 0.0;
 #pragma omp critical(nivra_reader_lines)
     {
-      taken = !m_cancelled && m_lines.take(line);
-      fraction = m_lines.reader.fraction();
+      taken = !m_cancelled && m_stream.take(raw);
+      if (taken)
+        raw.keep();
+      fraction = m_stream.fraction();
     }
     // Only the calling thread may touch the window.
-    if (taken && omp_get_thread_num() == 0 && ++m_sinceProgress >= LinesBetweenProgress && m_progress) {
+    if (taken && omp_get_thread_num() == 0 && ++m_sinceProgress >= RecordsBetweenProgress && m_progress) {
       m_sinceProgress = 0;
       if (!m_progress(fraction))
         m_cancelled = true;
@@ -174,45 +59,52 @@ public:
     return taken;
   }
 
+  RecordParser parser() const {
+    return m_stream.parser();
+  }
+  bool isJson() const {
+    return m_stream.form() == RecordForm::Json;
+  }
   bool wasCancelled() const {
     return m_cancelled;
   }
 
 private:
-  static constexpr int LinesBetweenProgress = 1000;
+  static constexpr int RecordsBetweenProgress = 1000;
 
-  Lines &m_lines;
+  RecordStream &m_stream;
   const Progress &m_progress;
   int m_sinceProgress = 0;
   std::atomic<bool> m_cancelled{false};
 };
 
-template <typename Lines>
-std::vector<ParsedLine> parseAll(LineQueue<Lines> &queue, const Told &told) {
-  std::vector<ParsedLine> lines;
+std::vector<Record> parseAll(RecordQueue &queue, const Told &told) {
+  std::vector<Record> records;
   std::exception_ptr trouble;
-#pragma omp parallel num_threads(Threads) default(none) shared(queue, lines, trouble, told)
+#pragma omp parallel num_threads(Threads) default(none) shared(queue, records, trouble, told)
   {
 #pragma omp single
     tell(told, Finding::Severity::Information,
-         QStringLiteral("NivraReader::%1 [%2 threads]").arg(QLatin1String(Lines::Function)).arg(omp_get_num_threads()));
-    std::vector<ParsedLine> own;
+         QStringLiteral("NivraReader::%1 [%2 threads]")
+             .arg(queue.isJson() ? QStringLiteral("readScenariofileJsn") : QStringLiteral("readScenariofile"))
+             .arg(omp_get_num_threads()));
+    std::vector<Record> own;
     try {
-      typename Lines::Parser parser;
-      typename Lines::Line line;
-      while (queue.take(line))
-        own.push_back(parser.parse(line));
+      RecordParser parser = queue.parser();
+      RawRecord raw;
+      while (queue.take(raw))
+        parser.parse(raw, own.emplace_back());
     } catch (...) {
 #pragma omp critical(nivra_reader_lines)
       trouble = std::current_exception();
     }
 #pragma omp critical(nivra_reader_lines)
-    std::move(own.begin(), own.end(), std::back_inserter(lines));
+    std::move(own.begin(), own.end(), std::back_inserter(records));
   }
   if (trouble)
     std::rethrow_exception(trouble);
-  std::sort(lines.begin(), lines.end(), [](const ParsedLine &a, const ParsedLine &b) { return a.number < b.number; });
-  return lines;
+  std::sort(records.begin(), records.end(), [](const Record &a, const Record &b) { return a.line < b.line; });
+  return records;
 }
 
 } // namespace
@@ -226,16 +118,16 @@ public:
       , m_file(file)
       , m_include(includeProperties, QRegularExpression::CaseInsensitiveOption) {}
 
-  void apply(ParsedLine &line) {
-    for (JsonLineParser::SetPoints &setPoints : line.setPoints) {
+  void apply(Record &record) {
+    for (SetPointsRecord &setPoints : record.setPoints) {
       const QString name = decoded(setPoints.name);
       element *target = m_reader.m_net.element(std::string_view(setPoints.name));
       if (target == nullptr) {
-        report.add("unknown name", line.number, QStringLiteral("name not found, is no valid node or element: ") + name);
+        report.add("unknown name", record.line, QStringLiteral("name not found, is no valid node or element: ") + name);
         continue;
       }
-      for (JsonLineParser::SetPoint &point : setPoints.points)
-        apply(*target, name, point, line.number);
+      for (SetPointRecord &point : setPoints.points)
+        apply(*target, name, point, record.line);
     }
   }
 
@@ -244,12 +136,10 @@ public:
   ReadReport report;
 
 private:
-  void apply(element &target, const QString &name, JsonLineParser::SetPoint &point, int line) {
+  void apply(element &target, const QString &name, SetPointRecord &point, int line) {
     const QString property = decoded(point.property);
     if (!point.isComplete) {
-      report.add("incomplete value", line,
-                 QStringLiteral("A value of element %1 is left out: it needs \"property\" and \"value\"").arg(name),
-                 QString(), name);
+      report.incompleteValue(name, line);
       return;
     }
     if (!m_include.pattern().isEmpty() && m_include.isValid() && !m_include.match(property).hasMatch())
@@ -270,11 +160,11 @@ private:
   }
 
   /// False when the value must wait until the gases are known.
-  bool toStoredUnit(const element &target, const QString &name, PropertyKey key, JsonLineParser::SetPoint &point, int line) {
+  bool toStoredUnit(const element &target, const QString &name, PropertyKey key, SetPointRecord &point, int line) {
     if (point.unit.empty())
       return true;
     const NetMetaData::Attribute *attribute =
-        m_reader.m_net.metaData()->attribute(target.value(QStringLiteral("type")), key.name());
+        m_reader.m_net.metaData()->attribute(target.value(Names::all().type), key.name());
     if (attribute == nullptr)
       return true;
     const QString unit = decoded(point.unit);
@@ -334,42 +224,40 @@ void NivraReader::convertWaiting(Findings &findings) {
     append(findings, report.take());
 }
 
-template <typename Lines>
-NivraReader::Result NivraReader::readLines(const QString &path, const Options &options) {
+NivraReader::Result NivraReader::readSetPoints(const QString &path, const Options &options) {
   Result result;
-  Lines source(path);
+  RecordStream stream(path, {RecordStream::formOf(path), RecordContent::SetPoints, RecordNumbers::AsWritten});
   QString reason;
-  if (!source.reader.open(&reason)) {
+  if (!stream.open(&reason)) {
     result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, reason});
     return result;
   }
   QElapsedTimer timer;
   timer.start();
-  LineQueue<Lines> queue(source, options.progress);
-  std::vector<ParsedLine> lines = parseAll(queue, m_told);
+  RecordQueue queue(stream, options.progress);
+  std::vector<Record> records = parseAll(queue, m_told);
   result.ok = true;
   result.cancelled = queue.wasCancelled();
-  result.readingSeconds = source.reader.readingSeconds();
-  log(QStringLiteral("### To read elements of %1 file took %2s").arg(QLatin1String(Lines::Form)).arg(result.readingSeconds));
+  result.readingSeconds = stream.readingSeconds();
+  const QString kind = queue.isJson() ? QStringLiteral("scenario jsn") : QStringLiteral("scenario");
+  log(QStringLiteral("### To read elements of %1 file took %2s").arg(kind).arg(result.readingSeconds));
   SetPointApplier applier(*this, path, options.includeProperties);
-  for (ParsedLine &line : lines) {
-    if (line.fault.isEmpty())
-      applier.apply(line);
+  for (Record &record : records) {
+    if (record.fault.isEmpty())
+      applier.apply(record);
+    else if (queue.isJson())
+      applier.report.badSetPoints(record);
     else
-      Lines::tell(applier.report, line);
+      stream.tell(record, applier.report);
   }
-  source.tellOfFile(applier.report);
+  stream.tellEnd(applier.report);
   result.properties = applier.properties();
   log(QStringLiteral("### To read elements of %1 buffer took %2 [sec] for %3 properties")
-          .arg(QLatin1String(Lines::Form))
+          .arg(kind)
           .arg(static_cast<double>(timer.nsecsElapsed()) * Nano - result.readingSeconds)
           .arg(result.properties));
   result.findings = applier.report.take();
   return result;
-}
-
-NivraReader::Result NivraReader::readSetPoints(const QString &path, const Options &options) {
-  return isJsonPath(path) ? readLines<JsonLines>(path, options) : readLines<TextLines>(path, options);
 }
 
 NivraReader::Result NivraReader::readScenariofileJsn(const QString &path, const Options &options) {

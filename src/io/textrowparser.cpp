@@ -1,11 +1,11 @@
 #include "textrowparser.h"
 
+#include "numbertext.h"
+
 #include <algorithm>
 #include <cstring>
 
 namespace {
-
-constexpr std::string_view TypeMember = "obj_type";
 
 bool isBlank(char c) {
   return c == ' ' || c == '\r' || c == '\t';
@@ -32,6 +32,11 @@ bool hasDecimalComma(std::string_view text) {
 }
 
 } // namespace
+
+bool TextRowParser::isNameColumn(std::string_view text) {
+  constexpr std::string_view Name = "name";
+  return std::equal(text.begin(), text.end(), Name.begin(), Name.end(), [](char a, char b) { return (a | 0x20) == b; });
+}
 
 bool TextRowParser::split(std::string_view line, char separator) {
   m_cells.clear();
@@ -88,16 +93,16 @@ bool TextRowParser::split(std::string_view line, char separator) {
   }
 }
 
-JsonLineParser::Value TextRowParser::valueOf(const Cell &cell, std::string_view column) const {
-  JsonLineParser::Value value;
+RecordValue TextRowParser::valueOf(const Cell &cell, std::string_view column) const {
+  RecordValue value;
   value.key = column;
   value.isNumber = !cell.isQuoted && numberText(cell.text, value.text) == NumberText::Taken;
-  if (!value.isNumber || m_numbers == JsonLineParser::Numbers::AsWritten)
+  if (!value.isNumber || m_numbers == RecordNumbers::AsWritten)
     value.text = PropertyText(cell.text);
   return value;
 }
 
-QString TextRowParser::parse(const Row &row, JsonLineParser::Element &parsed) {
+QString TextRowParser::parse(const Row &row, ElementRecord &parsed) {
   parsed.values.clear();
   parsed.dropped.clear();
   parsed.doubtful.clear();

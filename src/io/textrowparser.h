@@ -1,6 +1,6 @@
 #pragma once
 
-#include "jsonlineparser.h"
+#include "record.h"
 
 #include <QString>
 
@@ -30,19 +30,21 @@ public:
     bool isQuoted = false;
   };
 
-  explicit TextRowParser(JsonLineParser::Numbers numbers = JsonLineParser::Numbers::AsHeld)
+  explicit TextRowParser(RecordNumbers numbers)
       : m_numbers(numbers) {}
 
   /// The reason when the row is faulty, nothing otherwise. The result refers to the row and lives until the next call.
-  QString parse(const Row &row, JsonLineParser::Element &parsed);
+  QString parse(const Row &row, ElementRecord &parsed);
+  /// Whether the first cell of a row says that it holds the names of the columns.
+  static bool isNameColumn(std::string_view text);
   /// Cuts a line into cells(); false when a quote stays open. No cells: something stands behind a closing quote.
   bool split(std::string_view line, char separator);
   const std::vector<Cell> &cells() const { return m_cells; }
 
 private:
-  JsonLineParser::Value valueOf(const Cell &cell, std::string_view column) const;
+  RecordValue valueOf(const Cell &cell, std::string_view column) const;
 
-  JsonLineParser::Numbers m_numbers;
+  RecordNumbers m_numbers;
   std::vector<Cell> m_cells;
   std::string m_room; ///< for the texts of cells whose quotes are doubled
 };

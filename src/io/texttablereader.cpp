@@ -5,15 +5,7 @@
 #include <base/textdecoding.h>
 
 #include <algorithm>
-
-namespace {
-
-bool isName(std::string_view text) {
-  constexpr std::string_view Name = "name";
-  return std::equal(text.begin(), text.end(), Name.begin(), Name.end(), [](char a, char b) { return (a | 0x20) == b; });
-}
-
-} // namespace
+#include <simdjson.h>
 
 bool TextTableReader::nextLine() {
   if (!m_pending.empty()) {
@@ -37,15 +29,8 @@ bool TextTableReader::nextLine() {
   return true;
 }
 
-QString TextTableReader::quoted(const std::string &text) {
-  LineReader::Line line;
-  line.text = const_cast<char *>(text.data()); // which is only read
-  line.size = text.size();
-  return ReadReport::quoted(line);
-}
-
 QString TextTableReader::quote() const {
-  return quoted(m_line);
+  return ReadReport::quoted(m_line);
 }
 
 TextTableReader::Found TextTableReader::fail(const QString &reason) {
@@ -100,16 +85,7 @@ bool TextTableReader::isOnlySeparators() const {
                      [this](char c) { return c == m_table->separator || c == ' ' || c == '\t' || c == '\r'; });
 }
 
-TextTableReader::Found TextTableReader::next(JsonLineParser::Element &row) {
-  const Found found = nextRow(m_row);
-  const QString fault = found == Found::Row ? m_parser.parse(m_row, row) : QString();
-  if (fault.isEmpty())
-    return found;
-  m_line.swap(m_row.text);
-  return fail(fault);
-}
-
-TextTableReader::Found TextTableReader::nextRow(TextRowParser::Row &row) {
+TextTableReader::Found TextTableReader::next(TextRowParser::Row &row) {
   while (nextLine()) {
     if (m_isTooLong)
       return fail(QStringLiteral("the line is longer than 64 MB"));
@@ -125,7 +101,7 @@ TextTableReader::Found TextTableReader::nextRow(TextRowParser::Row &row) {
       continue;
     }
     const std::shared_ptr<const TextRowParser::Table> before = m_table;
-    const bool mayBeHeader = isName(std::string_view(m_line).substr(begin, 4));
+    const bool mayBeHeader = TextRowParser::isNameColumn(std::string_view(m_line).substr(begin, 4));
     if (mayBeHeader) {
       const bool hasTabs = m_line.size() > begin + 4 && m_line[begin + 4] == '\t';
       m_table =
@@ -138,7 +114,8 @@ TextTableReader::Found TextTableReader::nextRow(TextRowParser::Row &row) {
     }
     if (mayBeHeader) {
       m_parser.split(m_line, m_table->separator);
-      if (!m_parser.cells().empty() && !m_parser.cells().front().isQuoted && isName(m_parser.cells().front().text)) {
+      if (!m_parser.cells().empty() && !m_parser.cells().front().isQuoted &&
+          TextRowParser::isNameColumn(m_parser.cells().front().text)) {
         if (!takeHeader())
           return fail(QStringLiteral("a column has no name"));
         continue;
@@ -155,26 +132,4 @@ TextTableReader::Found TextTableReader::nextRow(TextRowParser::Row &row) {
     return Found::Row;
   }
   return Found::End;
-}
-
-JsonLineParser::SetPoint TextTableReader::setPoint(const JsonLineParser::Element &row) {
-  JsonLineParser::SetPoint point;
-  bool hasValue = false;
-  for (const JsonLineParser::Value &value : row.values) {
-    if (value.key == "property") {
-      point.property = std::string(value.text.utf8());
-    } else if (value.key == "unit") {
-      point.unit = std::string(value.text.utf8());
-    } else if (value.key == "value") {
-      point.value = value.text;
-      point.isNumber = value.isNumber;
-      hasValue = true;
-    }
-  }
-  for (const JsonLineParser::Doubt &doubt : row.doubtful) {
-    if (doubt.key == "value")
-      point.doubt = doubt.reason;
-  }
-  point.isComplete = hasValue && !point.property.empty();
-  return point;
 }

@@ -1,4 +1,5 @@
 #include <model/consistencycheck.h>
+#include <model/names.h>
 #include <model/propertycolumns.h>
 
 #include <QRegularExpression>
@@ -8,13 +9,6 @@
 namespace {
 
 struct Keys {
-  PropertyKey name = PropertyKey::intern("name");
-  PropertyKey type = PropertyKey::intern("type");
-  PropertyKey node1 = PropertyKey::intern("node1");
-  PropertyKey node2 = PropertyKey::intern("node2");
-  PropertyKey x = PropertyKey::intern("X");
-  PropertyKey y = PropertyKey::intern("Y");
-  PropertyKey gasnode = PropertyKey::intern("gasnode");
   PropertyKey driven = PropertyKey::intern("driven");
 };
 
@@ -33,7 +27,7 @@ bool isTypeCode(const PropertyText *text, std::string_view code) {
 }
 
 bool isDrive(const element &e) {
-  return isTypeCode(e.find(keys().type), "d");
+  return isTypeCode(e.find(Names::all().type), "d");
 }
 
 /// The names of the properties whose value names another element: "drive", "driven", "entry", "exit".
@@ -58,9 +52,9 @@ public:
 
 private:
   static Sort ask(PropertyKey key) {
-    if (key == keys().name)
+    if (key == Names::all().name)
       return Name;
-    if (key == keys().type)
+    if (key == Names::all().type)
       return Type;
     const QString name = key.name();
     return name.trimmed().isEmpty() ? Empty : isReference(name) ? Reference : Ordinary;
@@ -116,13 +110,14 @@ private:
   void checkIdentity(const elements::Entry &entry, std::string_view name, std::string_view type) {
     const std::string_view id = entry.id.utf8();
     if (id.empty() || name.empty())
-      add(entry, QStringLiteral("ID or name-property empty: %1, %2").arg(entry.name(), entry.value.value(keys().name)));
+      add(entry,
+          QStringLiteral("ID or name-property empty: %1, %2").arg(entry.name(), entry.value.value(Names::all().name)));
     if (name != id)
       add(entry, QStringLiteral("ID and value of name-property not identical: ") + entry.name() + QStringLiteral(", ") +
-                     entry.value.value(keys().name));
+                     entry.value.value(Names::all().name));
     if (type.empty() || type.find(' ') != std::string_view::npos)
       add(entry, QStringLiteral("value of type-property not OK: ") + entry.name() + QStringLiteral(", ") +
-                     entry.value.value(keys().type));
+                     entry.value.value(Names::all().type));
   }
 
   void checkProperties(const elements::Entry &entry) {
@@ -153,8 +148,8 @@ public:
   PruningPass(NetData &net, const Told &told)
       : m_net(net)
       , m_told(told)
-      , m_ofNode({keys().name, keys().type, keys().x, keys().y})
-      , m_ofEdge({keys().name, keys().node1, keys().node2}) {}
+      , m_ofNode({Names::all().name, Names::all().type, Names::all().x, Names::all().y})
+      , m_ofEdge({Names::all().name, Names::all().node1, Names::all().node2}) {}
 
   ConsistencyCheck::PruneResult run() {
     static_cast<void>(m_net.nodes().begin()); // gives the nodes their places
@@ -222,15 +217,15 @@ private:
     const bool hasX = m_ofNode[NodeX] != nullptr;
     const bool hasY = m_ofNode[NodeY] != nullptr;
     if (!hasX)
-      setDefault(node, keys().x, 'x');
+      setDefault(node, Names::all().x, 'x');
     if (!hasY)
-      setDefault(node, keys().y, 'y');
+      setDefault(node, Names::all().y, 'y');
     return true;
   }
 
   void setDefault(element &node, PropertyKey key, char axis) {
     node.set(key, PropertyText(std::string_view("0")));
-    const QString name = node.value(keys().name);
+    const QString name = node.value(Names::all().name);
     add(Finding::Severity::Warning, name,
         QStringLiteral("Node %1 did not possess %2-value. Set to 0.").arg(name, QString(QLatin1Char(axis))));
   }
@@ -241,14 +236,14 @@ private:
       return false;
     if (m_ofEdge[EdgeNode1] == nullptr || m_ofEdge[EdgeNode2] == nullptr)
       return edgeFails(edge, QStringLiteral("Could not find property ") +
-                                 (m_ofEdge[EdgeNode1] == nullptr ? keys().node1 : keys().node2).name());
-    const elements::Entry *node1 = end(edge, keys().node1, *m_ofEdge[EdgeNode1]);
-    const elements::Entry *node2 = node1 == nullptr ? nullptr : end(edge, keys().node2, *m_ofEdge[EdgeNode2]);
-    return node2 != nullptr && endPasses(edge, keys().node1, *node1) && endPasses(edge, keys().node2, *node2);
+                                 (m_ofEdge[EdgeNode1] == nullptr ? Names::all().node1 : Names::all().node2).name());
+    const elements::Entry *node1 = end(edge, Names::all().node1, *m_ofEdge[EdgeNode1]);
+    const elements::Entry *node2 = node1 == nullptr ? nullptr : end(edge, Names::all().node2, *m_ofEdge[EdgeNode2]);
+    return node2 != nullptr && endPasses(edge, Names::all().node1, *node1) && endPasses(edge, Names::all().node2, *node2);
   }
 
   bool edgeFails(const element &edge, const QString &reason) {
-    const QString name = edge.value(keys().name);
+    const QString name = edge.value(Names::all().name);
     add(Finding::Severity::Warning, name,
         QStringLiteral("ERROR for edge ") + name + QStringLiteral(": ") + reason + QStringLiteral("! Edge will be erased!"));
     return false;
@@ -270,9 +265,9 @@ private:
   }
 
   bool drivePasses(element &drive) {
-    if (!textOf(drive, keys().x).empty() && !textOf(drive, keys().y).empty())
+    if (!textOf(drive, Names::all().x).empty() && !textOf(drive, Names::all().y).empty())
       return true;
-    const PropertyText *gasNodeName = drive.find(keys().gasnode);
+    const PropertyText *gasNodeName = drive.find(Names::all().gasNode);
     const PropertyText *drivenName = drive.find(keys().driven);
     if (gasNodeName == nullptr || drivenName == nullptr)
       return driveFails(drive, QStringLiteral("Could not find properties GASNODE and/or DRIVEN. Drive is excluded!"));
@@ -289,7 +284,7 @@ private:
       place(drive, m_net.position(*gasNode) + QPointF(0.0, 50.0));
       return true;
     }
-    if (!isTypeCode(driven->find(keys().type), "c"))
+    if (!isTypeCode(driven->find(Names::all().type), "c"))
       return driveFails(drive, QStringLiteral("DRIVEN ") + drivenName->toString() +
                                    QStringLiteral(" is not of type compressor. Drive is excluded!"));
     if (gasNode == nullptr)
@@ -299,15 +294,15 @@ private:
   }
 
   bool driveFails(const element &drive, const QString &reason) {
-    const QString name = drive.value(keys().name);
+    const QString name = drive.value(Names::all().name);
     add(Finding::Severity::Warning, name, QStringLiteral("Drive ") + name + QStringLiteral(": ") + reason);
     return false;
   }
 
   /// On the compressor's line, 70 % of the way to its outlet.
   void placeBeside(element &drive, const element &compressor) const {
-    const element &inlet = *m_net.nodes().find(*compressor.find(keys().node1));
-    const element &outlet = *m_net.nodes().find(*compressor.find(keys().node2));
+    const element &inlet = *m_net.nodes().find(*compressor.find(Names::all().node1));
+    const element &outlet = *m_net.nodes().find(*compressor.find(Names::all().node2));
     place(drive, 0.3 * m_net.position(inlet) + 0.7 * m_net.position(outlet));
   }
 
@@ -315,10 +310,10 @@ private:
     constexpr int Digits = 8;
     const QString xText = QString::number(at.x(), 'g', Digits);
     const QString yText = QString::number(at.y(), 'g', Digits);
-    drive.set(keys().x, xText);
-    drive.set(keys().y, yText);
+    drive.set(Names::all().x, xText);
+    drive.set(Names::all().y, yText);
     tell(m_told, Finding::Severity::Information,
-         QStringLiteral("Drive ") + drive.value(keys().name) +
+         QStringLiteral("Drive ") + drive.value(Names::all().name) +
              QStringLiteral(" did not possess x- or y-value. Set to (%1,%2).").arg(xText, yText));
   }
 

@@ -45,13 +45,13 @@ QString element::value(PropertyKey key) const {
 const PropertyText &element::at(const QString &key) const {
   const PropertyText *found = find(key);
   if (found == nullptr)
-    throw element_out_of_range(key, *this);
+    throw element_out_of_range(key, lines());
   return *found;
 }
 
 void element::insert(const QString &key, const QString &value) {
   if (contains(key))
-    throw element_insert_exception(key, value, *this);
+    throw element_insert_exception(key, value, lines());
   set(key, value);
 }
 

@@ -5,8 +5,6 @@
 
 #include <exception>
 
-class element;
-
 /// What the checked accessors of the model throw; what() is the complete message as UTF-8.
 class ModelException : public std::exception {
 public:
@@ -20,16 +18,16 @@ private:
   QByteArray m_message;
 };
 
-/// Checked read of a property that the element does not have.
+/// Checked read of a property that the element does not have. Here and below, contents are those of element::lines().
 class element_out_of_range : public ModelException {
 public:
-  element_out_of_range(const QString &key, const element &contents);
+  element_out_of_range(const QString &key, const QString &contents);
 };
 
 /// Checked insert of a property that the element already has.
 class element_insert_exception : public ModelException {
 public:
-  element_insert_exception(const QString &key, const QString &value, const element &contents);
+  element_insert_exception(const QString &key, const QString &value, const QString &contents);
 };
 
 /// Checked lookup of a name that the collection does not hold.
@@ -41,5 +39,5 @@ public:
 /// Insert of a name that the collection already holds.
 class elements_insert_exception : public ModelException {
 public:
-  elements_insert_exception(const QString &collection, const QString &name, const element &added, const element &existing);
+  elements_insert_exception(const QString &collection, const QString &name, const QString &added, const QString &existing);
 };

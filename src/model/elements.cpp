@@ -205,6 +205,15 @@ using ByName =
 
 } // namespace
 
+/// The entries, found by hash, and the order of their names, made when somebody walks.
+///
+/// 1. The hash holds each entry once, and no address in it changes until its entry is erased.
+/// 2. "sorted" is true only while the order holds every entry once, in name order, and each entry has its index in it as
+///    its place. Whoever adds or erases entries by name sets it to false, or keeps all of this true.
+/// 3. While it is false, the order holds no address of an erased entry but may lack entries (after an erasure or a copy);
+///    its size tells, and then it is made anew.
+/// 4. Walking sorts first: one reader under the mutex, which the others wait for. They see the flag by acquire and release,
+///    so that a flag that is true shows them the finished order. Nobody changes the collection meanwhile.
 struct elements::Storage {
   // A name that is looked at in vain lies anywhere in the memory: there are twice as many places as names.
   static constexpr float FullestHash = 0.5F;
@@ -214,8 +223,7 @@ struct elements::Storage {
   // Entries lie close together, apart from their properties: a lookup among a million then misses the caches less often.
   std::pmr::unsynchronized_pool_resource pool;
   ByName entries{ByName::ctor_args_list(), &pool};
-  // In the order in which they came until somebody walks the collection, then in name order until it changes. Not all of
-  // them after an erasure or a copy: then it is made anew. The mutex is for concurrent readers.
+  // In the order in which they came until somebody walks the collection, then in name order until it changes.
   std::vector<const Entry *> order;
   std::atomic<bool> sorted{false};
   std::mutex mutex;
@@ -293,7 +301,8 @@ element *elements::tryInsert(const PropertyText &id, element &&value) {
 element &elements::insert(const PropertyText &id, element value) {
   element *inserted = tryInsert(id, std::move(value));
   if (inserted == nullptr)
-    throw elements_insert_exception(m_name, id.toString(), value, *find(id)); // NOLINT(bugprone-use-after-move): untouched
+    throw elements_insert_exception(m_name, id.toString(), value.lines(), // NOLINT(bugprone-use-after-move): untouched
+                                    find(id)->lines());
   return *inserted;
 }
 

@@ -1,16 +1,10 @@
 #include <model/elementstate.h>
+#include <model/names.h>
 
 #include <algorithm>
 #include <initializer_list>
 
 namespace {
-
-struct Keys {
-  PropertyKey state = PropertyKey::intern("state");
-  PropertyKey active = PropertyKey::intern("active");
-};
-
-const Keys TheKeys; // made at once: who asks may be one of several threads, which may make no keys
 
 std::string_view trimmed(std::string_view text) noexcept {
   while (!text.empty() && text.front() == ' ')
@@ -44,7 +38,7 @@ bool ElementState::saysBypass(const PropertyText *text) noexcept {
 }
 
 bool ElementState::isOutOfUse(const element &e) noexcept {
-  return isOutOfUse(e.find(TheKeys.state), e.find(TheKeys.active));
+  return isOutOfUse(e.find(Names::all().state), e.find(Names::all().active));
 }
 
 bool ElementState::isOutOfUse(const PropertyText *state, const PropertyText *active) noexcept {

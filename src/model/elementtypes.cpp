@@ -4,7 +4,7 @@
 
 namespace {
 
-ElementType row(const char *code, const char *word, const char *longName, NetData::EleType kind) {
+ElementType row(const char *code, const char *word, const char *longName, ElementKinds::EleType kind) {
   const QString name = QString::fromLatin1(longName);
   return {QString::fromLatin1(code), QString::fromLatin1(word), name, ElementTypes::pluralised(name), kind};
 }
@@ -13,20 +13,20 @@ ElementType row(const char *code, const char *word, const char *longName, NetDat
 
 const std::vector<ElementType> &ElementTypes::all() {
   static const std::vector<ElementType> rows{
-      row("n", "node", "node", NetData::Node),
-      row("d", "drive", "drive", NetData::Node),
-      row("p", "pipe", "pipe", NetData::Edge),
-      row("c", "compressor", "compressor", NetData::Edge),
-      row("r", "regulator", "regulator", NetData::Edge),
-      row("v", "valve", "valve", NetData::Edge),
-      row("f", "flaptrap", "flap trap", NetData::Edge),
-      row("s", "shortcut", "shortcut", NetData::Edge),
-      row("g", "resistor", "resistor", NetData::Edge),
-      row("k", "cooler", "cooler", NetData::Edge),
-      row("w", "heater", "heater", NetData::Edge),
-      row("sub", "subnet", "subnet", NetData::AssembledSubnet),
-      row("SUB", "", "subnet", NetData::AssembledSubnet), // as subnet templates spell it
-      row("t", "tbox", "tBox", NetData::TextBox),
+      row("n", "node", "node", ElementKinds::Node),
+      row("d", "drive", "drive", ElementKinds::Node),
+      row("p", "pipe", "pipe", ElementKinds::Edge),
+      row("c", "compressor", "compressor", ElementKinds::Edge),
+      row("r", "regulator", "regulator", ElementKinds::Edge),
+      row("v", "valve", "valve", ElementKinds::Edge),
+      row("f", "flaptrap", "flap trap", ElementKinds::Edge),
+      row("s", "shortcut", "shortcut", ElementKinds::Edge),
+      row("g", "resistor", "resistor", ElementKinds::Edge),
+      row("k", "cooler", "cooler", ElementKinds::Edge),
+      row("w", "heater", "heater", ElementKinds::Edge),
+      row("sub", "subnet", "subnet", ElementKinds::AssembledSubnet),
+      row("SUB", "", "subnet", ElementKinds::AssembledSubnet), // as subnet templates spell it
+      row("t", "tbox", "tBox", ElementKinds::TextBox),
   };
   return rows;
 }

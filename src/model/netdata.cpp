@@ -1,5 +1,6 @@
 #include "elementexceptions.h"
 
+#include <model/names.h>
 #include <model/netdata.h>
 #include <model/netmetadata.h>
 
@@ -10,12 +11,6 @@
 namespace {
 
 struct Keys {
-  PropertyKey name = PropertyKey::intern("name");
-  PropertyKey type = PropertyKey::intern("type");
-  PropertyKey x = PropertyKey::intern("X");
-  PropertyKey y = PropertyKey::intern("Y");
-  PropertyKey node1 = PropertyKey::intern("node1");
-  PropertyKey node2 = PropertyKey::intern("node2");
   PropertyKey pset = PropertyKey::intern("pset");
   PropertyKey powset = PropertyKey::intern("powset");
   PropertyKey qset = PropertyKey::intern("qset");
@@ -93,8 +88,8 @@ void NetData::buildTypeMap() {
 }
 
 NetData::EleType NetData::addElement(::element added, const Told &told) {
-  const PropertyText *name = added.find(keys().name);
-  const PropertyText *type = added.find(keys().type);
+  const PropertyText *name = added.find(Names::all().name);
+  const PropertyText *type = added.find(Names::all().type);
   if (name == nullptr || type == nullptr)
     return Unknown;
   const QString typeName = type->toString();
@@ -214,8 +209,8 @@ double NetData::value(const ::element &element, const QString &property, bool ab
 double NetData::edgeValue(const ::element &edge, PropertyKey property, bool absolute) const {
   if (edge.find(property) != nullptr)
     return value(edge, property, absolute);
-  const double first = value(m_nodes.at(edge.at(QStringLiteral("node1")).toString()), property, absolute);
-  const double second = value(m_nodes.at(edge.at(QStringLiteral("node2")).toString()), property, absolute);
+  const double first = value(m_nodes.at(edge.at(Names::all().node1.name()).toString()), property, absolute);
+  const double second = value(m_nodes.at(edge.at(Names::all().node2.name()).toString()), property, absolute);
   return first == NoValue || second == NoValue ? NoValue : (first + second) * 0.5;
 }
 
@@ -224,8 +219,8 @@ double NetData::edgeValue(const ::element &edge, const QString &property, bool a
 }
 
 QPointF NetData::position(const ::element &element) const {
-  const double x = value(element, keys().x);
-  const double y = value(element, keys().y);
+  const double x = value(element, Names::all().x);
+  const double y = value(element, Names::all().y);
   return {x == NoValue ? 0.0 : x, y == NoValue ? 0.0 : y};
 }
 
@@ -257,5 +252,5 @@ QString NetData::nodeCategory(const ::element &node) const {
       return QStringLiteral("demand");
     break;
   }
-  return node.value(keys().type);
+  return node.value(Names::all().type);
 }

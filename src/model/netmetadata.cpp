@@ -77,19 +77,19 @@ const NetMetaData &NetMetaData::instance() {
 NetMetaData::NetMetaData() {
   for (const ElementType &type : ElementTypes::all()) {
     switch (type.kind) {
-    case NetData::Node:
+    case ElementKinds::Node:
       m_nodeTypes.insert(type.code);
       break;
-    case NetData::Edge:
+    case ElementKinds::Edge:
       m_edgeTypes.insert(type.code);
       break;
-    case NetData::TextBox:
+    case ElementKinds::TextBox:
       m_textBoxTypes.insert(type.code);
       break;
-    case NetData::AssembledSubnet:
+    case ElementKinds::AssembledSubnet:
       m_subassemblyTypes.insert(type.code);
       break;
-    case NetData::Unknown:
+    case ElementKinds::Unknown:
       break;
     }
   }
@@ -145,7 +145,7 @@ void NetMetaData::add(const Attribute &row) {
     m_propertyIndex.insert(property, position);
   if (row.category != QLatin1String("function"))
     return;
-  const bool ofNodes = row.type == everyType() || kindOf(row.type) == NetData::Node;
+  const bool ofNodes = row.type == everyType() || kindOf(row.type) == ElementKinds::Node;
   // A name that nodes carry is a node function everywhere: an edge takes the mean of its ends.
   if (isNew) {
     (ofNodes ? m_nodeFunctions : m_edgeFunctions).append(row.property);
@@ -158,16 +158,16 @@ void NetMetaData::add(const Attribute &row) {
   }
 }
 
-NetData::EleType NetMetaData::kindOf(const QString &typeName) const {
+ElementKinds::EleType NetMetaData::kindOf(const QString &typeName) const {
   if (m_nodeTypes.contains(typeName))
-    return NetData::Node;
+    return ElementKinds::Node;
   if (m_edgeTypes.contains(typeName))
-    return NetData::Edge;
+    return ElementKinds::Edge;
   if (m_textBoxTypes.contains(typeName))
-    return NetData::TextBox;
+    return ElementKinds::TextBox;
   if (m_subassemblyTypes.contains(typeName))
-    return NetData::AssembledSubnet;
-  return NetData::Unknown;
+    return ElementKinds::AssembledSubnet;
+  return ElementKinds::Unknown;
 }
 
 const NetMetaData::Attribute *NetMetaData::attribute(const QString &typeCode, const QString &property) const {

@@ -69,6 +69,16 @@ PropertyText PropertyText::ofNumber(double number, int significantDigits) {
   return PropertyText(std::string_view(formatNumber(number, significantDigits)));
 }
 
+PropertyText PropertyText::shortest(double number) {
+  constexpr int Enough = 17; // digits, for any number
+  for (int digits = 15; digits < Enough; ++digits) {
+    const std::string text = formatNumber(number, digits);
+    if (parseNumber(text) == number)
+      return PropertyText(std::string_view(text));
+  }
+  return ofNumber(number, Enough);
+}
+
 std::optional<double> PropertyText::toDouble() const noexcept {
   return parseNumber(utf8());
 }

@@ -1,4 +1,5 @@
 #include <model/elementstate.h>
+#include <model/names.h>
 #include <model/subnetstate.h>
 #include <model/topology.h>
 
@@ -9,19 +10,19 @@ bool hasNumber(const element &e, const char *property) {
 }
 
 bool isStation(const element &e) {
-  const QString type = e.value(QStringLiteral("type"));
+  const QString type = e.value(Names::all().type);
   return type == QLatin1String("c") || type == QLatin1String("r");
 }
 
 const element *mainElement(const NetData &net, const element &subnet) {
   const QString name = subnet.value(QStringLiteral("main_element"));
   if (!name.isEmpty()) {
-    for (const QString &candidate : {name, subnet.value(QStringLiteral("name")) + QLatin1Char('_') + name}) {
+    for (const QString &candidate : {name, subnet.value(Names::all().name) + QLatin1Char('_') + name}) {
       if (const element *found = net.element(candidate))
         return found;
     }
   }
-  for (const QString &inner : Topology::listed(subnet, PropertyKey::find("elements"))) {
+  for (const QString &inner : Topology::listed(subnet, Names::all().elements)) {
     const element *found = net.element(inner);
     if (found != nullptr && isStation(*found))
       return found;
@@ -47,7 +48,7 @@ QString derived(const NetData &net, const element &subnet) {
   const element *main = mainElement(net, subnet);
   if (main == nullptr)
     return QString();
-  const PropertyText *said = main->find(PropertyKey::find("state"));
+  const PropertyText *said = main->find(Names::all().state);
   const QString state = said == nullptr ? QString() : said->toString().trimmed();
   const bool isAtWork = state.isEmpty() || ElementState::saysAtWork(said); // a station without a state works
   return isStation(*main) && isAtWork ? controlOf(*main) : state;

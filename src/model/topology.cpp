@@ -1,23 +1,12 @@
 #include <model/elementstate.h>
+#include <model/names.h>
+#include <model/networkgraph.h>
 #include <model/topology.h>
 
 #include <cmath>
 #include <deque>
-#include <unordered_map>
 
 namespace {
-
-struct Keys {
-  PropertyKey name = PropertyKey::intern("name");
-  PropertyKey type = PropertyKey::intern("type");
-  PropertyKey node1 = PropertyKey::intern("node1");
-  PropertyKey node2 = PropertyKey::intern("node2");
-};
-
-const Keys &keys() {
-  static const Keys all;
-  return all;
-}
 
 const elements::Entry *endOf(const NetData &net, const element &edge, PropertyKey end) {
   const PropertyText *name = edge.find(end);
@@ -25,50 +14,67 @@ const elements::Entry *endOf(const NetData &net, const element &edge, PropertyKe
 }
 
 bool isBarrier(const element &edge) {
-  const PropertyText *type = edge.find(keys().type);
+  const PropertyText *type = edge.find(Names::all().type);
   if (type != nullptr && (type->utf8() == "c" || type->utf8() == "r"))
     return true;
   return ElementState::isOutOfUse(edge);
 }
 
-/// The edges at each node, with the direction of their flow.
+/// Nodes and edges by their numbers, in name order; edges lead from where gas enters them, in the direction of the trace.
 class FlowGraph {
 public:
-  struct Way {
-    const elements::Entry *edge;
-    const elements::Entry *far;
-  };
+  FlowGraph(const NetData &net, PropertyKey flow, Topology::Direction direction)
+      : m_nodes(listed(net.nodes()))
+      , m_edges(listed(net.edges()))
+      , m_ends(endsOf(net, flow, direction))
+      , m_graph(m_nodes.size(), m_ends, Topology::NetworkGraph::Ways::Forward) {}
 
-  FlowGraph(const NetData &net, PropertyKey flow, Topology::Direction direction) {
-    constexpr double Nothing = 1e-10;
-    for (const elements::Entry &edge : net.edges()) {
-      const double value = NetData::number(edge.value.find(flow));
-      const elements::Entry *first = endOf(net, edge.value, keys().node1);
-      const elements::Entry *second = endOf(net, edge.value, keys().node2);
-      if (value == NetData::NoValue || std::abs(value) < Nothing || first == nullptr || second == nullptr)
-        continue;
-      const bool isForward = (value > 0.0) == (direction == Topology::Direction::Downstream);
-      m_ways[isForward ? first : second].push_back({&edge, isForward ? second : first});
-    }
+  /// Calls visit(edge, far node) for the ways that lead from the node.
+  template <typename Visit>
+  void forEachWay(const elements::Entry &node, const Visit &visit) const {
+    m_graph.forEachWay(node.place, [&](const Topology::NetworkGraph::Way &way) {
+      visit(*m_edges[static_cast<std::size_t>(way.edge)], m_nodes[static_cast<std::size_t>(way.node)]);
+    });
   }
-  const std::vector<Way> &from(const elements::Entry *node) const {
-    static const std::vector<Way> None;
-    const auto found = m_ways.find(node);
-    return found == m_ways.end() ? None : found->second;
-  }
-  /// The node at which gas leaves the edge, in the direction of the trace.
-  const elements::Entry *endOfWay(const elements::Entry *edge) const {
-    for (const auto &[node, ways] : m_ways) {
-      for (const Way &way : ways) {
-        if (way.edge == edge)
-          return way.far;
-      }
-    }
-    return nullptr;
+  /// The node at which gas leaves the edge, in the direction of the trace; null for an edge without flow.
+  const elements::Entry *endOf(const elements::Entry &edge) const {
+    const int node = m_ends[static_cast<std::size_t>(edge.place)].to;
+    return node == Topology::NetworkGraph::Nowhere ? nullptr : m_nodes[static_cast<std::size_t>(node)];
   }
 
 private:
-  std::unordered_map<const elements::Entry *, std::vector<Way>> m_ways;
+  using Ends = Topology::NetworkGraph::Ends;
+
+  static std::vector<const elements::Entry *> listed(const elements &collection) {
+    std::vector<const elements::Entry *> entries;
+    entries.reserve(collection.size());
+    for (const elements::Entry &entry : collection)
+      entries.push_back(&entry);
+    return entries;
+  }
+
+  std::vector<Ends> endsOf(const NetData &net, PropertyKey flow, Topology::Direction direction) const {
+    constexpr double Nothing = 1e-10;
+    std::vector<Ends> ends;
+    ends.reserve(m_edges.size());
+    for (const elements::Entry *edge : m_edges) {
+      Ends &own = ends.emplace_back();
+      const double value = NetData::number(edge->value.find(flow));
+      const elements::Entry *first = ::endOf(net, edge->value, Names::all().node1);
+      const elements::Entry *second = ::endOf(net, edge->value, Names::all().node2);
+      if (value == NetData::NoValue || std::abs(value) < Nothing || first == nullptr || second == nullptr)
+        continue;
+      own = {first->place, second->place};
+      if ((value > 0.0) != (direction == Topology::Direction::Downstream))
+        std::swap(own.from, own.to);
+    }
+    return ends;
+  }
+
+  std::vector<const elements::Entry *> m_nodes;
+  std::vector<const elements::Entry *> m_edges;
+  std::vector<Ends> m_ends;
+  Topology::NetworkGraph m_graph;
 };
 
 } // namespace
@@ -80,6 +86,11 @@ QStringList Topology::listed(const element &subnet, PropertyKey list) {
       names.append(name);
   }
   return names;
+}
+
+QStringList Topology::listedByPlace(const element &subnet, PropertyKey list) {
+  const QString names = subnet.value(list);
+  return names.isEmpty() ? QStringList() : names.split(QLatin1Char(';'));
 }
 
 bool Topology::select(const NetData &net, const QString &name, Selection &selection) {
@@ -102,14 +113,14 @@ void Topology::close(const NetData &net, Selection &selection) {
     const element *edge = net.edges().find(name);
     if (edge == nullptr)
       continue;
-    for (const PropertyKey end : {keys().node1, keys().node2}) {
+    for (const PropertyKey end : {Names::all().node1, Names::all().node2}) {
       if (const elements::Entry *node = endOf(net, *edge, end))
         selection.nodes.insert(node->name());
     }
   }
   for (const elements::Entry &edge : net.edges()) {
-    const elements::Entry *first = endOf(net, edge.value, keys().node1);
-    const elements::Entry *second = endOf(net, edge.value, keys().node2);
+    const elements::Entry *first = endOf(net, edge.value, Names::all().node1);
+    const elements::Entry *second = endOf(net, edge.value, Names::all().node2);
     if (first != nullptr && second != nullptr && selection.nodes.contains(first->name()) &&
         selection.nodes.contains(second->name()))
       selection.edges.insert(edge.name());
@@ -132,15 +143,15 @@ Selection Topology::trace(const NetData &net, const QString &name, Direction dir
   if (const elements::Entry *node = net.nodes().findEntry(utf8))
     open.push_back(node);
   else if (const elements::Entry *edge = net.edges().findEntry(utf8))
-    reach(graph.endOfWay(edge));
+    reach(graph.endOf(*edge));
   while (!open.empty()) {
     const elements::Entry *node = open.front();
     open.pop_front();
-    for (const FlowGraph::Way &way : graph.from(node)) {
-      found.edges.insert(way.edge->name());
-      if (!isBarrier(way.edge->value))
-        reach(way.far);
-    }
+    graph.forEachWay(*node, [&](const elements::Entry &edge, const elements::Entry *far) {
+      found.edges.insert(edge.name());
+      if (!isBarrier(edge.value))
+        reach(far);
+    });
   }
   return found;
 }

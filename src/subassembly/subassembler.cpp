@@ -4,6 +4,8 @@
 
 #include <base/nivramsg.h>
 #include <io/nivrareader.h>
+#include <model/names.h>
+#include <model/topology.h>
 #include <subassembly/subassembler.h>
 
 #include <QDir>
@@ -18,17 +20,11 @@ namespace {
 constexpr double Milli = 1e-3;
 
 struct Keys {
-  PropertyKey name = PropertyKey::intern("name");
-  PropertyKey x = PropertyKey::intern("X");
-  PropertyKey y = PropertyKey::intern("Y");
-  PropertyKey pins = PropertyKey::intern("pins");
   PropertyKey variant = PropertyKey::intern("variant");
   PropertyKey width = PropertyKey::intern("width");
   PropertyKey rotation = PropertyKey::intern("rotation");
   PropertyKey icon = PropertyKey::intern("icon");
   PropertyKey constraints = PropertyKey::intern("constraints");
-  PropertyKey elements = PropertyKey::intern("elements");
-  PropertyKey gasnode = PropertyKey::intern("gasnode");
   PropertyKey driven = PropertyKey::intern("driven");
   PropertyKey visSize = PropertyKey::intern("vis.size");
 };
@@ -46,10 +42,6 @@ const QString &recordName() {
 const QString &fallback() {
   static const QString variant = QStringLiteral("default");
   return variant;
-}
-
-QStringList split(const QString &names) {
-  return names.isEmpty() ? QStringList() : names.split(QLatin1Char(';'));
 }
 
 Finding problem(const QString &text, const QString &element) {
@@ -164,7 +156,7 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
     if (told && !told(QStringLiteral("Creating Subnets (%1/%2)").arg(i + 1).arg(count), i, count))
       return m_result;
     element &subnet = subnets[static_cast<std::size_t>(i)]->value;
-    const QStringList pins = split(subnet.value(keys().pins));
+    const QStringList pins = Topology::listedByPlace(subnet, Names::all().pins);
     if (createEleOfAssembledSubnet(subnet, pins, flag, true) >= 1) {
       ++m_result.assembled;
       continue;
@@ -197,7 +189,7 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
 }
 
 int SubAssembler::createEleOfAssembledSubnet(element &subnet, const QStringList &pins, Flag flag, bool tryReset) {
-  const QString name = subnet.value(keys().name);
+  const QString name = subnet.value(Names::all().name);
   const QString variantName = subnet.value(keys().variant);
   if (name.isEmpty()) {
     log(QStringLiteral("Assembled subnet: name empty! Skipped!"));
@@ -246,7 +238,7 @@ int SubAssembler::createEleOfAssembledSubnet(element &subnet, const QStringList 
 QStringList SubAssembler::pinsOf(element &subnet, const QStringList &pins, const QStringList &ofTemplate, bool tryReset) {
   if (pins.size() == ofTemplate.size())
     return pins;
-  const QString name = subnet.value(keys().name);
+  const QString name = subnet.value(Names::all().name);
   if (!pins.isEmpty() && tryReset)
     log(QStringLiteral("Assembled subnet ") + name + QStringLiteral(": pinList sizes not consistent! reset tried!"), name);
   if (!tryReset)
@@ -254,7 +246,7 @@ QStringList SubAssembler::pinsOf(element &subnet, const QStringList &pins, const
   QStringList reset; // names of its own, or two subnets would share the nodes
   for (const QString &pin : ofTemplate)
     reset.append(name + QLatin1Char('_') + pin);
-  subnet.set(keys().pins, PropertyText(reset.join(QLatin1Char(';'))));
+  subnet.set(Names::all().pins, PropertyText(reset.join(QLatin1Char(';'))));
   return reset;
 }
 
@@ -286,22 +278,22 @@ SubAssembler::Place SubAssembler::placeSubnet(element &subnet, const std::vector
                     TemplatePlacement::rotation(places[0], places[1])};
   subnet.set(keys().width, PropertyText::ofNumber(place.width));
   subnet.set(keys().rotation, PropertyText::ofNumber(place.rotation));
-  subnet.set(keys().x, PropertyText::ofNumber(place.center.x()));
-  subnet.set(keys().y, PropertyText::ofNumber(place.center.y()));
+  subnet.set(Names::all().x, PropertyText::ofNumber(place.center.x()));
+  subnet.set(Names::all().y, PropertyText::ofNumber(place.center.y()));
   if (!others.isEmpty())
-    log(QStringLiteral("pinList contains non-net nodes: ") + others.join(QLatin1Char(';')), subnet.value(keys().name));
+    log(QStringLiteral("pinList contains non-net nodes: ") + others.join(QLatin1Char(';')), subnet.value(Names::all().name));
   return place;
 }
 
 /// A node that the network lacks, to be saved by hand.
 void SubAssembler::createPin(const element &source, const QString &name, const QPointF &at) {
   element pin = source;
-  pin.set(QStringLiteral("refEle"), source.value(keys().name));
-  for (const PropertyKey key : {keys().gasnode, keys().driven})
+  pin.set(QStringLiteral("refEle"), source.value(Names::all().name));
+  for (const PropertyKey key : {Names::all().gasNode, keys().driven})
     pin.erase(key);
-  pin.set(keys().name, PropertyText(name));
-  pin.set(keys().x, PropertyText::ofNumber(at.x()));
-  pin.set(keys().y, PropertyText::ofNumber(at.y()));
+  pin.set(Names::all().name, PropertyText(name));
+  pin.set(Names::all().x, PropertyText::ofNumber(at.x()));
+  pin.set(Names::all().y, PropertyText::ofNumber(at.y()));
   pin.set(QStringLiteral("doSave"), QStringLiteral("false"));
   pin.set(QStringLiteral("vis"), QStringLiteral("AUTO"));
   log(QStringLiteral("This pin is new and needs saving: ") + name, name);
@@ -326,7 +318,7 @@ void SubAssembler::createElements(element &subnet, const Variant &variant, const
     pinNames.append(pins[i].name);
     pinTexts.emplace_back(pins[i].name);
   }
-  const PropertyText &name = *subnet.find(keys().name);
+  const PropertyText &name = *subnet.find(Names::all().name);
   const std::string prefix(name.utf8());
   std::vector<PropertyText> names = plan.names(m_net, prefix, m_freePrefixes.find(prefix + '_') != nullptr);
   plan.create(m_net, names, pinTexts, placement);
@@ -335,7 +327,7 @@ void SubAssembler::createElements(element &subnet, const Variant &variant, const
     all += all.empty() ? "" : ";";
     all += created.utf8();
   }
-  subnet.set(keys().elements, PropertyText(std::string_view(all)));
+  subnet.set(Names::all().elements, PropertyText(std::string_view(all)));
   m_assembled.push_back({&variant, QString::fromStdString(prefix), pinNames, std::move(names)});
 }
 

@@ -1,5 +1,8 @@
 #include "templateplan.h"
 
+#include <model/names.h>
+#include <model/topology.h>
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -8,10 +11,6 @@
 namespace {
 
 struct Keys {
-  PropertyKey name = PropertyKey::intern("name");
-  PropertyKey x = PropertyKey::intern("X");
-  PropertyKey y = PropertyKey::intern("Y");
-  PropertyKey pins = PropertyKey::intern("pins");
   PropertyKey refEle = PropertyKey::intern("refEle");
 };
 
@@ -49,8 +48,7 @@ TemplatePlan::TemplatePlan(const NetData &source) {
     else if (!never.match(key).hasMatch())
       m_defaults.push_back({property, PropertyKey()});
   }
-  const QString pins = record.value(keys().pins);
-  m_pinNames = pins.isEmpty() ? QStringList() : pins.split(QLatin1Char(';'));
+  m_pinNames = Topology::listedByPlace(record, Names::all().pins);
   for (const QString &name : qAsConst(m_pinNames)) {
     const element *node = source.nodes().find(name);
     m_pins.push_back(node);
@@ -98,12 +96,12 @@ void TemplatePlan::addPart(const NetData &source, const elements::Entry &entry, 
   part.at = source.position(entry.value);
   part.prototype.set(keys().refEle, entry.id);
   if (isNode) {
-    part.prototype.set(keys().x, PropertyText());
-    part.prototype.set(keys().y, PropertyText());
-    part.xPlace = placeOf(part.prototype, keys().x);
-    part.yPlace = placeOf(part.prototype, keys().y);
+    part.prototype.set(Names::all().x, PropertyText());
+    part.prototype.set(Names::all().y, PropertyText());
+    part.xPlace = placeOf(part.prototype, Names::all().x);
+    part.yPlace = placeOf(part.prototype, Names::all().y);
   }
-  part.namePlace = placeOf(part.prototype, keys().name);
+  part.namePlace = placeOf(part.prototype, Names::all().name);
   m_parts.push_back(std::move(part));
   m_partNames.push_back(own);
 }

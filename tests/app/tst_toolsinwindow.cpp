@@ -273,7 +273,7 @@ void TestToolsInWindow::hiddenLayersStayHiddenUnderAnotherName() {
   QCOMPARE(model.index(0, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
   redraws = 0;
   table->selectRow(0);
-  const Answers yes({QMessageBox::Yes});
+  const Answers yes({NivraMsg::Answer::Yes});
   layers.on_toolButtonDel_clicked();
   QVERIFY(yes.areGiven() && isDrawn(0, 0));
   QCOMPARE(redraws, 1);

@@ -1,5 +1,6 @@
 #include <base/nivramsg.h>
 #include <model/elementtypes.h>
+#include <model/netdata.h>
 #include <model/netmetadata.h>
 #include <model/units.h>
 #include <support/nivratest.h>

@@ -1,3 +1,5 @@
+#include <model/names.h>
+
 #include <QCoreApplication>
 
 #include <cmath>
@@ -8,9 +10,9 @@ namespace {
 constexpr double KiloPascalPerBar = 100.0;
 constexpr double NormFlowsPerSecond = 1000.0 / 3600.0; // from 1000 m3/h
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("Compression", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Compression)
+};
 
 double value(const NetData &net, const element &e, const char *property) {
   const double number = net.value(e, PropertyKey::find(property));
@@ -21,15 +23,16 @@ void judgeDensity(Compression &c) {
   constexpr double Near = 0.01;
   const double computed = c.gas->at(c.inletPressure, c.inletTemperature).density;
   if (c.inletDensity > 0.0 && std::abs(c.inletDensity / computed - 1.0) > Near)
-    c.remarks.append(tr("The density %1 kg/m³ that the network states at the inlet parts from that of the gas law, %2 kg/m³")
-                         .arg(QString::number(c.inletDensity, 'g', 5), QString::number(computed, 'g', 5)));
+    c.remarks.append(
+        Texts::tr("The density %1 kg/m³ that the network states at the inlet parts from that of the gas law, %2 kg/m³")
+            .arg(QString::number(c.inletDensity, 'g', 5), QString::number(computed, 'g', 5)));
 }
 
 } // namespace
 
 std::optional<Compression> Compression::of(const NetData &net, const element &compressor, const GasSource &gases) {
-  const element *inlet = net.nodes().find(compressor.value(QStringLiteral("node1")));
-  const element *outlet = net.nodes().find(compressor.value(QStringLiteral("node2")));
+  const element *inlet = net.nodes().find(compressor.value(Names::all().node1));
+  const element *outlet = net.nodes().find(compressor.value(Names::all().node2));
   if (inlet == nullptr || outlet == nullptr)
     return std::nullopt;
   Compression c;

@@ -7,9 +7,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("Fits", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Fits)
+};
 
 constexpr double WorstCondition = 1e10;
 
@@ -20,7 +20,7 @@ Fits::Quality solveLeastSquares(const std::vector<FitPoint> &points, const Colum
                                 std::array<double, Count> &coefficients) {
   Fits::Quality quality;
   if (points.size() < Count) {
-    quality.reason = tr("%1 points are too few, at least %2 are needed").arg(points.size()).arg(Count);
+    quality.reason = Texts::tr("%1 points are too few, at least %2 are needed").arg(points.size()).arg(Count);
     return quality;
   }
   const auto rows = static_cast<Eigen::Index>(points.size());
@@ -35,7 +35,7 @@ Fits::Quality solveLeastSquares(const std::vector<FitPoint> &points, const Colum
   }
   const Eigen::VectorXd scale = matrix.colwise().norm();
   if (!matrix.allFinite() || !values.allFinite() || !(scale.array() > 0.0).all()) {
-    quality.reason = tr("the points do not tell the coefficients: numbers are missing or all the same");
+    quality.reason = Texts::tr("the points do not tell the coefficients: numbers are missing or all the same");
     return quality;
   }
   const Eigen::MatrixXd scaled = matrix * scale.cwiseInverse().asDiagonal();
@@ -43,7 +43,7 @@ Fits::Quality solveLeastSquares(const std::vector<FitPoint> &points, const Colum
   const auto &singular = svd.singularValues();
   quality.condition = singular(singular.size() - 1) > 0.0 ? singular(0) / singular(singular.size() - 1) : WorstCondition * 2;
   if (quality.condition > WorstCondition) {
-    quality.reason = tr("the points do not tell the coefficients: they stand at too few different flows or speeds");
+    quality.reason = Texts::tr("the points do not tell the coefficients: they stand at too few different flows or speeds");
     return quality;
   }
   const Eigen::VectorXd solution = scale.cwiseInverse().asDiagonal() * svd.solve(values);

@@ -10,9 +10,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("GasComposition", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(GasComposition)
+};
 
 using Units::NormTemperature;
 constexpr double NormPressure = 101.325; // kPa
@@ -209,7 +209,7 @@ std::optional<GasComposition::Inferred> GasComposition::infer(const GasData &gas
   if (!gas.isEnough())
     return std::nullopt;
   Inferred result;
-  result.basis = gas.calorificValue > 0.0 ? tr("density and calorific value") : tr("density alone");
+  result.basis = gas.calorificValue > 0.0 ? Texts::tr("density and calorific value") : Texts::tr("density alone");
   if (const auto one = pure(gas)) {
     result.shares = *one;
     result.isTold = true;
@@ -220,7 +220,7 @@ std::optional<GasComposition::Inferred> GasComposition::infer(const GasData &gas
     if (const auto shares = ::infer(gas, CriticalValues::Temperature)) {
       result.shares = *shares;
       result.isTold = true;
-      result.basis = tr("density, calorific value and critical temperature");
+      result.basis = Texts::tr("density, calorific value and critical temperature");
       return result;
     }
   }
@@ -230,7 +230,7 @@ std::optional<GasComposition::Inferred> GasComposition::infer(const GasData &gas
     if (const auto shares = ::infer(gas, CriticalValues::Both)) {
       result.shares = *shares;
       result.isTold = true;
-      result.basis = tr("molar mass and critical values");
+      result.basis = Texts::tr("molar mass and critical values");
       return result;
     }
   }
@@ -240,6 +240,7 @@ std::optional<GasComposition::Inferred> GasComposition::infer(const GasData &gas
     return std::nullopt;
   result.shares = *shares;
   if (needsCarbonDioxide && result.shares[Gerg2008::CarbonDioxide] > 0.0)
-    result.remarks.append(tr("Nothing tells the share of carbon dioxide, %1 % are assumed").arg(100.0 * UsualCarbonDioxide));
+    result.remarks.append(
+        Texts::tr("Nothing tells the share of carbon dioxide, %1 % are assumed").arg(100.0 * UsualCarbonDioxide));
   return result;
 }

@@ -2,7 +2,7 @@
 
 #include "gerg2008.h"
 
-#include <machines/gaslaw.h>
+#include <machines/gasdata.h>
 
 /// Which shares of methane, heavier hydrocarbons, nitrogen, carbon dioxide and hydrogen give a gas its density and calorific
 /// value. As in ISO 12213-3 (2006), which states the compression factor by the same values: what is not told apart by them

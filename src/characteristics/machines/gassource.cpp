@@ -1,3 +1,4 @@
+#include <model/names.h>
 #include <model/units.h>
 
 #include <QCoreApplication>
@@ -6,9 +7,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("GasSource", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(GasSource)
+};
 
 /// What makes a law, as text: equal texts are equal gases.
 QString keyOf(const GasData &data) {
@@ -64,11 +65,11 @@ GasSource::Gas GasSource::made(const GasData &data, const QString &origin) const
 GasSource::Gas GasSource::at(const element &node) const {
   const GasData own = GasData::of(node);
   if (own.isEnough())
-    return made(own, tr("of the node %1").arg(node.value(QStringLiteral("name"))));
-  if (const auto *named = gasNamed(m_scenario.gases, node.value(QStringLiteral("gas")))) {
+    return made(own, Texts::tr("of the node %1").arg(node.value(Names::all().name)));
+  if (const auto *named = gasNamed(m_scenario.gases, node.value(Names::all().gas))) {
     const GasData data = GasData::of(named->second);
     if (data.isEnough())
-      return made(data, tr("%1, which the node names").arg(named->first));
+      return made(data, Texts::tr("%1, which the node names").arg(named->first));
   }
   return scenario();
 }
@@ -83,18 +84,18 @@ GasSource::Gas GasSource::findScenario() const {
   for (const auto &[name, gas] : m_scenario.gases) {
     const GasData data = GasData::of(gas);
     if (data.isEnough())
-      return made(data, tr("%1 of the scenario").arg(name));
+      return made(data, Texts::tr("%1 of the scenario").arg(name));
   }
-  const PropertyKey density = PropertyKey::find("rhon");
   const PropertyKey mass = PropertyKey::find("molarmass");
   for (const elements::Entry &entry : m_net.nodes()) {
-    if (entry.value.find(density) == nullptr && entry.value.find(mass) == nullptr) // as in nearly all of a million
+    if (entry.value.find(Names::all().normDensity) == nullptr &&
+        entry.value.find(mass) == nullptr) // as in nearly all of a million
       continue;
     const GasData data = GasData::of(entry.value);
     if (data.isEnough())
-      return made(data, tr("of the node %1, the first that states one").arg(entry.value.value(QStringLiteral("name"))));
+      return made(data, Texts::tr("of the node %1, the first that states one").arg(entry.value.value(Names::all().name)));
   }
-  return made(GasData(), tr("assumed"));
+  return made(GasData(), Texts::tr("assumed"));
 }
 
 double GasSource::temperatureAt(const element &node, QStringList *remarks) const {
@@ -104,7 +105,8 @@ double GasSource::temperatureAt(const element &node, QStringList *remarks) const
   if (isPossible(own))
     return own;
   if (remarks != nullptr)
-    remarks->append(tr("The temperature %1 K at the inlet cannot be, %2 K are taken").arg(own).arg(m_scenario.temperature));
+    remarks->append(
+        Texts::tr("The temperature %1 K at the inlet cannot be, %2 K are taken").arg(own).arg(m_scenario.temperature));
   return m_scenario.temperature;
 }
 
@@ -112,18 +114,19 @@ Findings GasSource::findings() const {
   Findings found;
   const Gas &gas = scenario();
   for (const QString &remark : gas.law->remarks())
-    found.push_back(warning(tr("Gas %1: %2").arg(gas.origin, remark), QString()));
+    found.push_back(warning(Texts::tr("Gas %1: %2").arg(gas.origin, remark), QString()));
   int usable = 0;
   for (const auto &[name, stated] : m_scenario.gases) {
     QStringList faults;
     usable += GasData::of(stated, &faults).isEnough() ? 1 : 0;
     for (const QString &fault : faults)
-      found.push_back(warning(tr("Gas %1: %2").arg(name, fault), QString()));
+      found.push_back(warning(Texts::tr("Gas %1: %2").arg(name, fault), QString()));
   }
   if (usable > 1)
-    found.push_back(warning(tr("The scenario has %1 gases: where a machine's inlet node says none, it is taken to be %2")
-                                .arg(usable)
-                                .arg(gas.origin),
-                            QString()));
+    found.push_back(
+        warning(Texts::tr("The scenario has %1 gases: where a machine's inlet node says none, it is taken to be %2")
+                    .arg(usable)
+                    .arg(gas.origin),
+                QString()));
   return found;
 }

@@ -28,37 +28,6 @@ void add(Residual &sum, double value, double d, double t, double first, double s
 
 } // namespace
 
-double Gerg2008::IdealGas::heatCapacity(double temperature) const {
-  double cp = polynomial[0] + temperature * (polynomial[1] + temperature * polynomial[2]);
-  for (const Term &term : hyperbolicSines)
-    cp += term.factor * std::pow(term.temperature / temperature / std::sinh(term.temperature / temperature), 2.0);
-  for (const Term &term : hyperbolicCosines)
-    cp += term.factor * std::pow(term.temperature / temperature / std::cosh(term.temperature / temperature), 2.0);
-  return cp;
-}
-
-double Gerg2008::IdealGas::enthalpy(double temperature) const {
-  double h = temperature * (polynomial[0] + temperature * (polynomial[1] / 2.0 + temperature * polynomial[2] / 3.0));
-  for (const Term &term : hyperbolicSines)
-    h += term.factor * term.temperature / std::tanh(term.temperature / temperature);
-  for (const Term &term : hyperbolicCosines)
-    h -= term.factor * term.temperature * std::tanh(term.temperature / temperature);
-  return h;
-}
-
-double Gerg2008::IdealGas::entropy(double temperature) const {
-  double s = polynomial[0] * std::log(temperature) + temperature * (polynomial[1] + temperature * polynomial[2] / 2.0);
-  for (const Term &term : hyperbolicSines) {
-    const double x = term.temperature / temperature;
-    s += term.factor * (x / std::tanh(x) - std::log(std::sinh(x)));
-  }
-  for (const Term &term : hyperbolicCosines) {
-    const double x = term.temperature / temperature;
-    s -= term.factor * (x * std::tanh(x) - std::log(std::cosh(x)));
-  }
-  return s;
-}
-
 Gerg2008::Gerg2008(const Composition &composition)
     : m_composition(composition)
     , m_molarMass(molarMass(composition)) {

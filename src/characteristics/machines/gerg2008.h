@@ -1,36 +1,21 @@
 #pragma once
 
+#include "gergcomponents.h"
+#include "gergidealgas.h"
+
 #include <array>
-#include <cstddef>
-#include <vector>
 
 /// The equation of state of natural gases and other mixtures of Kunz and Wagner, "The GERG-2008 Wide-Range Equation of State
 /// for Natural Gases and Other Mixtures: An Expansion of GERG-2004", J. Chem. Eng. Data 57 (2012) 3032-3091, for the
 /// components that gas files let one infer. Stated uncertainty of the density between 250 and 450 K up to 350 bar: 0.1 %.
 ///
 /// Density is molar, in kmol/m3; temperature in K; pressure in kPa; energies in kJ/kmol.
-class Gerg2008 {
+class Gerg2008 : public GergComponents {
 public:
-  enum Component { Methane, Nitrogen, CarbonDioxide, Ethane, Propane, Hydrogen };
-  static constexpr std::size_t Components = 6;
-  using Composition = std::array<double, Components>; ///< molar shares, sum 1
-
   static constexpr double GasConstant = 8.314472;          ///< kJ/(kmol K), the equation's own
   static const std::array<double, Components> MolarMasses; ///< kg/kmol
 
-  /// cp/R = c0 + c1 T + c2 T^2 + sum n (h/T)^2/sinh^2(h/T) + sum n (h/T)^2/cosh^2(h/T) of the ideal gas.
-  struct IdealGas {
-    struct Term {
-      double factor;
-      double temperature; ///< K
-    };
-    std::array<double, 3> polynomial{};
-    std::vector<Term> hyperbolicSines;
-    std::vector<Term> hyperbolicCosines;
-    double heatCapacity(double temperature) const; ///< cp/R
-    double enthalpy(double temperature) const;     ///< h/R in K, but for a constant
-    double entropy(double temperature) const;      ///< s/R at constant pressure, but for a constant
-  };
+  using IdealGas = GergIdealGas;
 
   explicit Gerg2008(const Composition &composition);
   /// A gas that behaves as methane does at the same reduced temperature and pressure (corresponding states).

@@ -158,14 +158,14 @@ const std::vector<BinaryTerm> Generalised{
 
 } // namespace
 
-const std::array<Pure, Gerg2008::Components> &GergCoefficients::pures() {
-  static const std::array<Pure, Gerg2008::Components> all{methane(), nitrogen(), carbonDioxide(),
-                                                          ethane(),  propane(),  hydrogen()};
+const std::array<Pure, GergComponents::Components> &GergCoefficients::pures() {
+  static const std::array<Pure, GergComponents::Components> all{methane(), nitrogen(), carbonDioxide(),
+                                                                ethane(),  propane(),  hydrogen()};
   return all;
 }
 
 const std::vector<Pair> &GergCoefficients::pairs() {
-  using G = Gerg2008;
+  using G = GergComponents;
   static const std::vector<Pair> all{
       {G::Methane, G::Nitrogen, 0.998721377, 1.013950311, 0.99809883, 0.979273013, 1.0, MethaneNitrogen},
       {G::Methane, G::CarbonDioxide, 0.999518072, 1.002806594, 1.02262449, 0.975665369, 1.0, MethaneCarbonDioxide},

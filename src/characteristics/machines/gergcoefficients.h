@@ -1,6 +1,7 @@
 #pragma once
 
-#include "gerg2008.h"
+#include "gergcomponents.h"
+#include "gergidealgas.h"
 
 #include <vector>
 
@@ -30,12 +31,12 @@ struct Pure {
   double criticalDensity;     ///< kmol/m3
   double criticalTemperature; ///< K
   std::vector<PureTerm> terms;
-  Gerg2008::IdealGas ideal;
+  GergIdealGas ideal;
 };
 
 struct Pair {
-  Gerg2008::Component first;
-  Gerg2008::Component second;
+  GergComponents::Component first;
+  GergComponents::Component second;
   double betaV;
   double gammaV;
   double betaT;
@@ -44,7 +45,7 @@ struct Pair {
   std::vector<BinaryTerm> departure;
 };
 
-const std::array<Pure, Gerg2008::Components> &pures();
+const std::array<Pure, GergComponents::Components> &pures();
 const std::vector<Pair> &pairs();
 
 } // namespace GergCoefficients

@@ -7,9 +7,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("MachineData", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(MachineData)
+};
 
 Finding warning(const QString &machine, const QString &text) {
   return {Finding::Severity::Warning, QString(), 0, machine + QStringLiteral(": ") + text, QString(), false, machine};
@@ -43,14 +43,14 @@ void take(const QString &machine, const QString &what, const std::vector<FitPoin
   if (quality.ok)
     function = fitted;
   else
-    findings.push_back(warning(machine, tr("no fit of the %1: %2").arg(what, quality.reason)));
+    findings.push_back(warning(machine, Texts::tr("no fit of the %1: %2").arg(what, quality.reason)));
 }
 
 /// The same for power limits. What was measured at one temperature, as where it does not matter, is a function of the speed
 /// alone.
 void takePower(const QString &drive, const std::vector<FitPoint> &points, std::optional<Biquadratic> &power,
                Fits::Quality &quality, Findings &findings) {
-  const QString what = tr("power limit");
+  const QString what = Texts::tr("power limit");
   const bool isAtOneTemperature =
       std::all_of(points.begin(), points.end(), [&points](const FitPoint &point) { return point.x == points.front().x; });
   if (!isAtOneTemperature) {
@@ -76,7 +76,7 @@ std::vector<MeasuredPoint> soundOnes(const QString &name, const std::vector<Meas
     if (point.speed > 0.0 && point.flow > 0.0 && point.head > 0.0 && point.efficiency >= 0.0 && point.efficiency <= 1.0)
       sound.push_back(point);
     else
-      findings.push_back(warning(name, tr("a point is left out: speed %1, flow %2, head %3, efficiency %4")
+      findings.push_back(warning(name, Texts::tr("a point is left out: speed %1, flow %2, head %3, efficiency %4")
                                            .arg(point.speed)
                                            .arg(point.flow)
                                            .arg(point.head)
@@ -120,9 +120,9 @@ Findings TurboCompressor::fit() {
     heads.push_back({point.flow, point.speed, point.head});
   }
   published = {head, efficiency, surge, choke};
-  take(name, tr("head"), heads, head, headQuality, findings);
-  take(name, tr("efficiency"), efficiencies, efficiency, efficiencyQuality, findings);
-  take(name, tr("surge line"), surges, surge, surgeQuality, findings);
+  take(name, Texts::tr("head"), heads, head, headQuality, findings);
+  take(name, Texts::tr("efficiency"), efficiencies, efficiency, efficiencyQuality, findings);
+  take(name, Texts::tr("surge line"), surges, surge, surgeQuality, findings);
   if (published.head)
     publishedHeadQuality = Fits::compare(heads, *published.head);
   if (published.efficiency)
@@ -134,7 +134,7 @@ Findings TurboCompressor::fit() {
     speedMax = *speeds.rbegin();
   }
   if (!head)
-    findings.push_back(warning(name, tr("there are neither coefficients nor enough points for its map")));
+    findings.push_back(warning(name, Texts::tr("there are neither coefficients nor enough points for its map")));
   if (headQuality.ok)
     fitted.head = head;
   if (efficiencyQuality.ok)
@@ -200,9 +200,9 @@ Findings Drive::fit() {
   if (power)
     publishedPowerQuality = Fits::compare(powers, *power);
   takePower(name, powers, power, powerQuality, findings);
-  take(name, tr("energy rate"), rates, energy, energyQuality, findings);
+  take(name, Texts::tr("energy rate"), rates, energy, energyQuality, findings);
   if (!power)
-    findings.push_back(warning(name, tr("there are neither coefficients nor enough points for its power limit")));
+    findings.push_back(warning(name, Texts::tr("there are neither coefficients nor enough points for its power limit")));
   return findings;
 }
 

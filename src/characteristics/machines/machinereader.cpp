@@ -11,9 +11,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("MachineReader", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(MachineReader)
+};
 
 /// Puts the rows of text tables together.
 class TableBuilder {
@@ -54,7 +54,7 @@ private:
     const std::optional<double> found = text->toDouble();
     if (found && std::isfinite(*found))
       return *found;
-    tell(row, tr("\"%1\" is no number: %2").arg(QLatin1String(column), text->toString()));
+    tell(row, Texts::tr("\"%1\" is no number: %2").arg(QLatin1String(column), text->toString()));
     return std::nan("");
   }
 
@@ -100,7 +100,7 @@ private:
     machine.maximalRatio = number(row, "ratio");
     machine.efficiency = number(row, "efficiency");
     if (!machine.isUsable())
-      tell(row, tr("a piston compressor needs its displacement and a range of speeds"));
+      tell(row, Texts::tr("a piston compressor needs its displacement and a range of speeds"));
     result.data.pistons.push_back(machine);
   }
 
@@ -133,7 +133,7 @@ private:
       if (result.findings.size() == before)
         drive->energyPoints.push_back(point);
     } else {
-      tell(row, tr("no machine of this name stands above this row of the table \"%1\"").arg(row.type));
+      tell(row, Texts::tr("no machine of this name stands above this row of the table \"%1\"").arg(row.type));
     }
   }
 
@@ -158,14 +158,21 @@ MachineReader::Result MachineReader::read(const QString &path) {
   QString reason;
   if (!FileAccess::openForReading(file, FileAccess::Source::Workspace, FileAccess::LargestConfiguration, &reason)) {
     result.findings.push_back(
-        {Finding::Severity::Warning, path, 0, tr("The machine data cannot be read: %1").arg(reason), QString()});
+        {Finding::Severity::Warning, path, 0, Texts::tr("The machine data cannot be read: %1").arg(reason), QString()});
     return result;
   }
   constexpr qint64 Looked = 1024;
   const QByteArray beginning = file.read(Looked).trimmed();
   file.close();
   const bool isXml = beginning.startsWith('<') || beginning.startsWith("\xEF\xBB\xBF<");
-  result = isXml ? MachineXml(path).read() : readTables(path);
+  if (isXml) {
+    MachineXml xml(path);
+    result.data = xml.read();
+    result.findings = std::move(xml.findings);
+    result.ok = true;
+  } else {
+    result = readTables(path);
+  }
   const auto tell = [&](Findings findings) {
     for (Finding &finding : findings) {
       finding.file = path;

@@ -1,40 +1,29 @@
 #include "machinexml.h"
 
-#include <model/units.h>
-
 #include <QCoreApplication>
 
+#include <array>
 #include <cmath>
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("MachineXml", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(MachineXml)
+};
 
-/// To the units of machine data; 0 for a unit that is not known.
-double factorOf(const QString &unit) {
-  static const std::pair<QLatin1String, double> factors[] = {{QLatin1String(""), 1.0},
-                                                             {QLatin1String("per_min"), 1.0},
-                                                             {QLatin1String("per_s"), 60.0},
-                                                             {QLatin1String("kJ_per_kg"), 1.0},
-                                                             {QLatin1String("J_per_kg"), 1e-3},
-                                                             {QLatin1String("m_cube_per_s"), 1.0},
-                                                             {QLatin1String("m_cube_per_hour"), 1.0 / 3600.0},
-                                                             {QLatin1String("m_cube"), 1.0},
-                                                             {QLatin1String("kNm"), 1.0},
-                                                             {QLatin1String("Nm"), 1e-3},
-                                                             {QLatin1String("kW"), 1.0},
-                                                             {QLatin1String("MW"), 1e3},
-                                                             {QLatin1String("W"), 1e-3},
-                                                             {QLatin1String("C"), 1.0},
-                                                             {QLatin1String("Celsius"), 1.0},
-                                                             {QLatin1String("percent"), 0.01}};
-  for (const auto &[name, factor] : factors) {
-    if (unit == name)
-      return factor;
+/// To the one of the units of machine data that fits; nothing for a unit that is not known, or of something else.
+std::optional<Units::Linear> conversionOf(const QString &unit) {
+  static const std::array<QString, 8> ours{QStringLiteral("1/min"), QStringLiteral("kJ/kg"), QStringLiteral("m3/s"),
+                                           QStringLiteral("m3"),    QStringLiteral("kN m"),  QStringLiteral("kW"),
+                                           QStringLiteral("degC"),  QStringLiteral("1")};
+  const QString known = GasLibXml::unitOf(unit);
+  for (const QString &wanted : ours) {
+    if (known == wanted)
+      return Units::Linear();
+    if (const auto conversion = Units::conversion(known, wanted); conversion && !known.isEmpty())
+      return conversion;
   }
-  return 0.0;
+  return std::nullopt;
 }
 
 } // namespace
@@ -45,19 +34,21 @@ double MachineXml::valueHere() {
   const double value = text.toDouble(&isNumber);
   if (isNumber && std::isfinite(value))
     return value;
-  tell(tr("%1 is no number: \"%2\"").arg(m_xml.name().toString(), text));
+  tell(Texts::tr("%1 is no number: \"%2\"").arg(m_xml.name().toString(), text));
   return std::nan("");
 }
 
 double MachineXml::numberHere() {
   const double value = valueHere();
   const QString unit = attribute("unit");
-  if (const double factor = factorOf(unit); factor != 0.0)
-    return value * factor;
-  if (unit == QLatin1String("K"))
-    return value - Units::ZeroCelsius;
+  if (unit.isEmpty())
+    return value;
+  if (!m_units.contains(unit))
+    m_units.insert(unit, conversionOf(unit));
+  if (const std::optional<Units::Linear> toOurs = m_units.value(unit))
+    return (*toOurs)(value);
   if (!std::isnan(value))
-    tell(tr("the unit \"%1\" of %2 is not known, the value is left out").arg(unit, m_xml.name().toString()));
+    tell(Texts::tr("the unit \"%1\" of %2 is not known, the value is left out").arg(unit, m_xml.name().toString()));
   return std::nan("");
 }
 
@@ -76,12 +67,11 @@ int MachineXml::coefficient(const char *prefix, std::size_t count) const {
 }
 
 void MachineXml::skipUnknown() {
-  tell(tr("the element %1 is not known and left out").arg(m_xml.name().toString()));
+  tell(Texts::tr("the element %1 is not known and left out").arg(m_xml.name().toString()));
   m_xml.skipCurrentElement();
 }
 
-MachineReader::Result MachineXml::read() {
-  m_result.ok = true;
+MachineData MachineXml::read() {
   if (start(QStringLiteral("compressorStations"), QStringLiteral("CompressorStations"))) {
     while (m_xml.readNextStartElement()) {
       if (m_xml.name() == QLatin1String("compressorStation"))
@@ -91,8 +81,7 @@ MachineReader::Result MachineXml::read() {
     }
     finish();
   }
-  m_result.findings = std::move(findings);
-  return std::move(m_result);
+  return std::move(m_data);
 }
 
 void MachineXml::readStation() {
@@ -188,7 +177,7 @@ void MachineXml::readTurbo() {
       skipUnknown();
     }
   }
-  m_result.data.turbos.push_back(std::move(machine));
+  m_data.turbos.push_back(std::move(machine));
 }
 
 void MachineXml::readPiston() {
@@ -215,8 +204,8 @@ void MachineXml::readPiston() {
       skipUnknown();
   }
   if (!machine.isUsable())
-    tell(tr("%1: a piston compressor needs its displacement and a range of speeds").arg(machine.name));
-  m_result.data.pistons.push_back(std::move(machine));
+    tell(Texts::tr("%1: a piston compressor needs its displacement and a range of speeds").arg(machine.name));
+  m_data.pistons.push_back(std::move(machine));
 }
 
 void MachineXml::readDrives() {
@@ -257,7 +246,7 @@ void MachineXml::readDrive(Drive::Kind kind) {
       skipUnknown();
     }
   }
-  m_result.data.drives.push_back(std::move(drive));
+  m_data.drives.push_back(std::move(drive));
 }
 
 /// The measurements stand under the ambient temperature at which they were made, or state it themselves; where the power
@@ -295,7 +284,7 @@ void MachineXml::readPowerPoint(Drive &drive, double temperature) {
       skipUnknown();
   }
   if (!speed || !power)
-    tell(tr("%1: a measurement needs its speed and its power; it is left out").arg(drive.name), line);
+    tell(Texts::tr("%1: a measurement needs its speed and its power; it is left out").arg(drive.name), line);
   else if (std::isfinite(*speed + *power + temperature))
     drive.powerPoints.push_back({*speed, temperature, *power});
 }
@@ -318,7 +307,7 @@ void MachineXml::readEnergyPoints(Drive &drive) {
         skipUnknown();
     }
     if (!power || !rate)
-      tell(tr("%1: a measurement needs its power and its consumption; it is left out").arg(drive.name), line);
+      tell(Texts::tr("%1: a measurement needs its power and its consumption; it is left out").arg(drive.name), line);
     else if (std::isfinite(*power + *rate))
       drive.energyPoints.push_back({*power, *rate});
   }
@@ -355,7 +344,7 @@ void MachineXml::readConfiguration() {
       configuration.stages.push_back(std::move(stage));
   }
   if (configuration.stages.empty())
-    tell(tr("the configuration %1 of %2 names no compressor and is left out").arg(configuration.name, m_station));
+    tell(Texts::tr("the configuration %1 of %2 names no compressor and is left out").arg(configuration.name, m_station));
   else
-    m_result.data.configurations.push_back(std::move(configuration));
+    m_data.configurations.push_back(std::move(configuration));
 }

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <io/gaslibxml.h>
+#include <model/units.h>
 
-#include <machines/machinereader.h>
+#include <QHash>
+
+#include <machines/machinedata.h>
 
 /// The XML of compressor stations of public gas network instances (namespace http://gaslib.zib.de/CompressorStations).
 class MachineXml : private GasLibXml {
@@ -10,7 +13,8 @@ public:
   explicit MachineXml(const QString &path)
       : GasLibXml(path, FileAccess::Source::Workspace) {}
 
-  MachineReader::Result read();
+  MachineData read();
+  using GasLibXml::findings;
 
 private:
   void readStation();
@@ -37,6 +41,7 @@ private:
   int coefficient(const char *prefix, std::size_t count) const;
   void skipUnknown();
 
-  QString m_station; ///< being read
-  MachineReader::Result m_result;
+  QString m_station;                                    ///< being read
+  QHash<QString, std::optional<Units::Linear>> m_units; ///< of the file, to those of machine data
+  MachineData m_data;
 };

@@ -1,6 +1,7 @@
 #include "stationsplit.h"
 
 #include <model/displayformat.h>
+#include <model/names.h>
 
 #include <QCoreApplication>
 
@@ -10,9 +11,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("NetworkMachines", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(NetworkMachines)
+};
 
 QVector<QPointF> limitsOf(const PistonCompressor &machine, const Drive *drive, const Compression &compression,
                           double ambientTemperature) {
@@ -29,7 +30,7 @@ QVector<QPointF> limitsOf(const PistonCompressor &machine, const Drive *drive, c
 
 StationConfiguration sideBySide(const QStringList &machines) {
   StationConfiguration all;
-  all.name = tr("all side by side");
+  all.name = Texts::tr("all side by side");
   all.stages.emplace_back();
   for (const QString &name : machines)
     all.stages.front().push_back({name});
@@ -38,7 +39,7 @@ StationConfiguration sideBySide(const QStringList &machines) {
 
 StationConfiguration alone(const QString &machine) {
   StationConfiguration one;
-  one.name = tr("%1 alone").arg(machine);
+  one.name = Texts::tr("%1 alone").arg(machine);
   one.stages.push_back({{machine}});
   return one;
 }
@@ -62,7 +63,7 @@ void NetworkMachines::set(MachineData data) {
 }
 
 const element *NetworkMachines::driven(const element &e) const {
-  const bool isDrive = e.value(QStringLiteral("type")) == QLatin1String("d");
+  const bool isDrive = e.value(Names::all().type) == QLatin1String("d");
   return isDrive ? m_net.edges().find(e.value(QStringLiteral("driven"))) : nullptr;
 }
 
@@ -75,14 +76,14 @@ const Drive *NetworkMachines::driveNamedBy(const QString &compressor) const {
 
 QStringList NetworkMachines::names(const element &e) const {
   const QString machine = e.value(QStringLiteral("machine"));
-  const QString own = machine.isEmpty() ? e.value(QStringLiteral("name")) : machine;
+  const QString own = machine.isEmpty() ? e.value(Names::all().name) : machine;
   if (const element *compressor = driven(e)) {
     if (m_data.drive(own) != nullptr)
       return {own};
     const Drive *drive = driveNamedBy(machine.isEmpty() ? names(*compressor).first() : machine);
     return {drive == nullptr ? own : drive->name};
   }
-  QStringList all = m_data.ofStation(e.value(QStringLiteral("name")));
+  QStringList all = m_data.ofStation(e.value(Names::all().name));
   const auto first = std::find_if(all.begin(), all.end(),
                                   [&own](const QString &name) { return name.compare(own, Qt::CaseInsensitive) == 0; });
   if (first != all.end())
@@ -104,7 +105,7 @@ std::vector<StationConfiguration> NetworkMachines::configurations(const element 
   if (compressor == nullptr)
     compressor = &e;
   const QStringList all = names(*compressor);
-  const QString own = compressor->value(QStringLiteral("name"));
+  const QString own = compressor->value(Names::all().name);
   if (all.size() < 2)
     return {};
   std::vector<StationConfiguration> found;
@@ -208,7 +209,7 @@ NetworkMachines::Machine NetworkMachines::machine(const element &e, const QStrin
   const auto compression = compressor == nullptr ? std::nullopt : Compression::of(m_net, *compressor, m_gases);
   if (!found.isThere() || !compression)
     return found;
-  found.gas = tr("%1 (%2)").arg(compression->gas->name(), compression->gasOrigin);
+  found.gas = Texts::tr("%1 (%2)").arg(compression->gas->name(), compression->gasOrigin);
   found.remarks = compression->remarks;
   const Station whole = station(*compressor, *compression, choice);
   found.comparisons = compare(*compressor, *compression, whole);
@@ -248,7 +249,7 @@ NetworkMachines::Machine NetworkMachines::machine(const element &e, const QStrin
     constexpr double Mega = 1000.0;
     if (stored != NetData::NoValue && stored != 0.0 && found.point && found.point->power)
       found.comparisons.push_back(
-          {QStringLiteral("power"), tr("shaft power"), QStringLiteral("kW"), Mega * stored, *found.point->power});
+          {QStringLiteral("power"), Texts::tr("shaft power"), QStringLiteral("kW"), Mega * stored, *found.point->power});
   }
   return found;
 }
@@ -268,15 +269,15 @@ std::vector<NetworkMachines::Comparison> NetworkMachines::compare(const element 
   constexpr double Mega = 1000.0;
   const double head = compression.adiabaticHead();
   const double power = station.power();
-  take("head", tr("adiabatic head"), QStringLiteral("kJ/kg"), 1.0, head);
-  take("ratio", tr("pressure ratio"), QString(), 1.0, compression.ratio());
-  take("vflow", tr("volume flow"), QStringLiteral("m³/s"), 1.0, compression.volumeFlow());
-  take("power", tr("shaft power"), QStringLiteral("kW"), Mega, power);
+  take("head", Texts::tr("adiabatic head"), QStringLiteral("kJ/kg"), 1.0, head);
+  take("ratio", Texts::tr("pressure ratio"), QString(), 1.0, compression.ratio());
+  take("vflow", Texts::tr("volume flow"), QStringLiteral("m³/s"), 1.0, compression.volumeFlow());
+  take("power", Texts::tr("shaft power"), QStringLiteral("kW"), Mega, power);
   constexpr double Percent = 100.0;
-  take("efficiency", tr("efficiency"), QStringLiteral("%"), Percent,
+  take("efficiency", Texts::tr("efficiency"), QStringLiteral("%"), Percent,
        power > 0.0 ? Percent * compression.massFlow * head / power : 0.0);
   if (station.points.size() == 1)
-    take("speed", tr("speed"), QStringLiteral("1/min"), 1.0, station.points.front().speed.value_or(0.0));
+    take("speed", Texts::tr("speed"), QStringLiteral("1/min"), 1.0, station.points.front().speed.value_or(0.0));
   return comparisons;
 }
 
@@ -285,7 +286,7 @@ Findings NetworkMachines::findings() const {
     return {};
   Findings found = m_gases.findings();
   for (const elements::Entry &entry : m_net.edges()) {
-    if (entry.value.value(QStringLiteral("type")) == QLatin1String("c"))
+    if (entry.value.value(Names::all().type) == QLatin1String("c"))
       append(found, findings(entry.value));
   }
   return found;
@@ -293,7 +294,7 @@ Findings NetworkMachines::findings() const {
 
 Findings NetworkMachines::findings(const element &compressor) const {
   Findings found;
-  const QString name = compressor.value(QStringLiteral("name"));
+  const QString name = compressor.value(Names::all().name);
   const auto tell = [&](const QString &text) {
     found.push_back({Finding::Severity::Warning, QString(), 0, name + QStringLiteral(": ") + text, QString(), false, name});
   };
@@ -316,7 +317,7 @@ Findings NetworkMachines::findings(const element &compressor) const {
   }
   for (const Comparison &comparison : compare(compressor, *compression, whole)) {
     if (comparison.isApart())
-      tell(tr("The results state %1 = %2 %4, the map tells %3 %4")
+      tell(Texts::tr("The results state %1 = %2 %4, the map tells %3 %4")
                .arg(comparison.name, DisplayFormat::number(comparison.stored, 4),
                     DisplayFormat::number(comparison.computed, 4), comparison.unit));
   }

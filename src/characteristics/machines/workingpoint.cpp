@@ -9,12 +9,12 @@ namespace {
 constexpr double SecondsPerMinute = 60.0;
 constexpr double Pi = 3.14159265358979323846;
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("WorkingPoint", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(WorkingPoint)
+};
 
 QString speedRemark(bool isBelow) {
-  return isBelow ? tr("The speed is below the smallest.") : tr("The speed is above the largest.");
+  return isBelow ? Texts::tr("The speed is below the smallest.") : Texts::tr("The speed is above the largest.");
 }
 
 /// Of the speeds that give the head those at which it grows with the speed, and of these the one nearest to the range of the
@@ -70,16 +70,16 @@ void WorkingPoint::judgeMode(const Compression &compression) {
   if (!std::isfinite(flow) || !std::isfinite(head)) {
     flow = head = 0.0;
     mode = Mode::NotCompressing;
-    remarks.append(tr("The gas law does not hold at these pressures and this temperature."));
+    remarks.append(Texts::tr("The gas law does not hold at these pressures and this temperature."));
   } else if (compression.isReversed) {
     mode = Mode::Backwards;
-    remarks.append(tr("The gas flows backwards through the machine: it does not compress."));
+    remarks.append(Texts::tr("The gas flows backwards through the machine: it does not compress."));
   } else if (ratio <= 1.0 && ratio >= 1.0 - LossOfBypass) {
     mode = Mode::Bypass;
-    remarks.append(tr("Bypass: the gas passes without being compressed."));
+    remarks.append(Texts::tr("Bypass: the gas passes without being compressed."));
   } else if (ratio < 1.0) {
     mode = Mode::NotCompressing;
-    remarks.append(tr("Not compressing: the pressure at the outlet is below that at the inlet."));
+    remarks.append(Texts::tr("Not compressing: the pressure at the outlet is below that at the inlet."));
   }
 }
 
@@ -100,7 +100,7 @@ void WorkingPoint::takeDrive(const Drive *drive, const Compression &compression,
   if (drive->power && speed)
     powerLimit = (*drive->power)(ambientTemperature, *speed);
   if (powerLimit && *power > *powerLimit)
-    exceed(tr("The drive cannot give this power."));
+    exceed(Texts::tr("The drive cannot give this power."));
 }
 
 void WorkingPoint::judgeMap(const TurboCompressor &machine) {
@@ -109,9 +109,9 @@ void WorkingPoint::judgeMap(const TurboCompressor &machine) {
     exceed(speedRemark(*speed < machine.speedMin));
   const auto flows = machine.flows(*speed);
   if (flows && flow < flows->first)
-    exceed(tr("The point lies beyond the surge line."));
+    exceed(Texts::tr("The point lies beyond the surge line."));
   else if (!flows || flow > flows->second)
-    exceed(tr("The point lies beyond the choke line."));
+    exceed(Texts::tr("The point lies beyond the choke line."));
 }
 
 WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive, const Compression &compression,
@@ -120,12 +120,12 @@ WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive
   if (!point.isCompressing())
     return point;
   if (!machine.head) {
-    point.remarks.append(tr("The machine has no map."));
+    point.remarks.append(Texts::tr("The machine has no map."));
     return point;
   }
   point.speed = speedFor(machine, point.flow, point.head);
   if (!point.speed) {
-    point.remarks.append(tr("No speed gives this head at this flow."));
+    point.remarks.append(Texts::tr("No speed gives this head at this flow."));
     return point;
   }
   point.judgeMap(machine);
@@ -133,7 +133,7 @@ WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive
   if (efficiency > 0.0 && efficiency <= 1.0) // far from the map the function says anything
     point.efficiency = efficiency;
   else if (machine.efficiency)
-    point.remarks.append(tr("The map tells no efficiency here."));
+    point.remarks.append(Texts::tr("The map tells no efficiency here."));
   point.takeDrive(drive, compression, ambientTemperature);
   return point;
 }
@@ -144,7 +144,7 @@ WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *driv
   if (!point.isCompressing())
     return point;
   if (!machine.isUsable()) {
-    point.remarks.append(tr("The machine has no displacement."));
+    point.remarks.append(Texts::tr("The machine has no displacement."));
     return point;
   }
   point.isInside = true;
@@ -152,12 +152,12 @@ WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *driv
   if (*point.speed < machine.speedMin || *point.speed > machine.speedMax)
     point.exceed(speedRemark(*point.speed < machine.speedMin));
   if (machine.maximalRatio > 0.0 && point.ratio > machine.maximalRatio)
-    point.exceed(tr("The pressure ratio is above the largest."));
+    point.exceed(Texts::tr("The pressure ratio is above the largest."));
   if (machine.efficiency > 0.0)
     point.efficiency = machine.efficiency;
   point.takeDrive(drive, compression, ambientTemperature);
   const double torque = point.power ? *point.power / (2.0 * Pi * *point.speed / SecondsPerMinute) : 0.0; // kNm
   if (machine.maximalTorque > 0.0 && torque > machine.maximalTorque)
-    point.exceed(tr("The torque is above the largest."));
+    point.exceed(Texts::tr("The torque is above the largest."));
   return point;
 }

@@ -75,27 +75,27 @@ private:
 };
 
 QString pointTable(const WorkingPoint &point, const std::vector<Comparison> &comparisons) {
-  using Page = MachinePage;
   PointTable table(comparisons);
-  table.add("vflow", Page::tr("volume flow"), point.flow, QStringLiteral("m³/s"));
-  table.add("ratio", Page::tr("pressure ratio"), point.ratio, QString());
+  table.add("vflow", MachinePage::tr("volume flow"), point.flow, QStringLiteral("m³/s"));
+  table.add("ratio", MachinePage::tr("pressure ratio"), point.ratio, QString());
   if (point.isCompressing())
-    table.add("head", Page::tr("adiabatic head"), point.head, QStringLiteral("kJ/kg"));
+    table.add("head", MachinePage::tr("adiabatic head"), point.head, QStringLiteral("kJ/kg"));
   if (point.speed)
-    table.add("speed", Page::tr("speed"), *point.speed, QStringLiteral("1/min"));
+    table.add("speed", MachinePage::tr("speed"), *point.speed, QStringLiteral("1/min"));
   if (point.efficiency)
-    table.add("efficiency", Page::tr("efficiency"), 100.0 * *point.efficiency, QStringLiteral("%"));
+    table.add("efficiency", MachinePage::tr("efficiency"), 100.0 * *point.efficiency, QStringLiteral("%"));
   if (point.power)
-    table.add("power", Page::tr("shaft power"), *point.power, QStringLiteral("kW"));
+    table.add("power", MachinePage::tr("shaft power"), *point.power, QStringLiteral("kW"));
   if (point.powerLimit)
-    table.add("", Page::tr("power limit"), *point.powerLimit, QStringLiteral("kW"));
+    table.add("", MachinePage::tr("power limit"), *point.powerLimit, QStringLiteral("kW"));
   if (point.energyRate)
-    table.add("", Page::tr("fuel or current"), *point.energyRate, QStringLiteral("kW"));
+    table.add("", MachinePage::tr("fuel or current"), *point.energyRate, QStringLiteral("kW"));
   if (point.outletTemperature)
-    table.add("", Page::tr("outlet temperature"), *point.outletTemperature - Units::ZeroCelsius, QStringLiteral("°C"));
-  table.add("", Page::tr("real gas factor z"), point.realGasFactor, QString());
+    table.add("", MachinePage::tr("outlet temperature"), *point.outletTemperature - Units::ZeroCelsius,
+              QStringLiteral("°C"));
+  table.add("", MachinePage::tr("real gas factor z"), point.realGasFactor, QString());
   if (point.isCompressing())
-    table.add("", Page::tr("isentropic exponent"), point.exponent, QString());
+    table.add("", MachinePage::tr("isentropic exponent"), point.exponent, QString());
   QString text = table.html();
   for (const QString &remark : point.remarks)
     text += warning(remark);
@@ -125,19 +125,18 @@ QString fitText(const QString &what, const Fits::Quality &quality, const QString
 }
 
 QString fitTexts(const NetworkMachines::Machine &machine) {
-  using Page = MachinePage;
   const QString head = QStringLiteral("kJ/kg");
   QString text;
   if (machine.turbo) {
-    text = fitText(Page::tr("Head fitted"), machine.turbo->headQuality, head) +
-           fitText(Page::tr("Head as published"), machine.turbo->publishedHeadQuality, head) +
-           fitText(Page::tr("Efficiency fitted"), machine.turbo->efficiencyQuality, QString()) +
-           fitText(Page::tr("Efficiency as published"), machine.turbo->publishedEfficiencyQuality, QString()) +
-           fitText(Page::tr("Surge line fitted"), machine.turbo->surgeQuality, head);
+    text = fitText(MachinePage::tr("Head fitted"), machine.turbo->headQuality, head) +
+           fitText(MachinePage::tr("Head as published"), machine.turbo->publishedHeadQuality, head) +
+           fitText(MachinePage::tr("Efficiency fitted"), machine.turbo->efficiencyQuality, QString()) +
+           fitText(MachinePage::tr("Efficiency as published"), machine.turbo->publishedEfficiencyQuality, QString()) +
+           fitText(MachinePage::tr("Surge line fitted"), machine.turbo->surgeQuality, head);
   } else if (machine.drive) {
-    text = fitText(Page::tr("Power limit fitted"), machine.drive->powerQuality, QStringLiteral("kW")) +
-           fitText(Page::tr("Power limit as published"), machine.drive->publishedPowerQuality, QStringLiteral("kW")) +
-           fitText(Page::tr("Energy rate fitted"), machine.drive->energyQuality, QStringLiteral("kW"));
+    text = fitText(MachinePage::tr("Power limit fitted"), machine.drive->powerQuality, QStringLiteral("kW")) +
+           fitText(MachinePage::tr("Power limit as published"), machine.drive->publishedPowerQuality, QStringLiteral("kW")) +
+           fitText(MachinePage::tr("Energy rate fitted"), machine.drive->energyQuality, QStringLiteral("kW"));
   }
   return text.isEmpty() ? text : QStringLiteral("<p>%1</p>").arg(text);
 }

@@ -1,57 +1,13 @@
 #pragma once
 
+#include <formulas/formulaerror.h>
+#include <formulas/formulareference.h>
 #include <model/netdata.h>
 
-#include <QHash>
 #include <QString>
 
 #include <memory>
-#include <stdexcept>
 #include <vector>
-
-/// What is wrong with a formula.
-class FormulaError : public std::runtime_error {
-public:
-  enum class Kind {
-    Fault,
-    MissingValue, ///< it reads something that does not exist for the element
-    TooCostly     ///< this evaluation went beyond what one may cost; the formula is given up, later ones are faults
-  };
-
-  explicit FormulaError(const QString &text, Kind kind = Kind::Fault)
-      : std::runtime_error(text.toStdString())
-      , m_kind(kind) {}
-  QString text() const { return QString::fromUtf8(what()); }
-  Kind kind() const { return m_kind; }
-  bool isForMissingValue() const { return m_kind == Kind::MissingValue; }
-
-private:
-  Kind m_kind;
-};
-
-/// Names in formulas that stand for other elements, such as those of a template for what was made of them.
-class FormulaNames {
-public:
-  void add(const QString &name, const QString &element) { m_elements.insert(name.toCaseFolded(), element); }
-  /// The element that the name stands for, which is the name itself when there is no other.
-  QString element(const QString &name) const { return m_elements.value(name.toCaseFolded(), name); }
-
-private:
-  QHash<QString, QString> m_elements;
-};
-
-/// What a formula refers to: a property of an element, perhaps by way of properties that name other elements.
-struct FormulaReference {
-  PropertyKey property;
-  std::vector<PropertyKey> path; ///< from the element to the one that has the property, in the order of going
-  QString elementName;           ///< empty for the current element
-  bool isText = false;           ///< also a number is taken as text: isnull() and its like ask for texts
-
-  /// Where the path begins; null when there is no such element. \param names null for none
-  const element *start(const NetData &net, const element *current, const FormulaNames *names) const;
-  /// As it is written in formulas, but without escapes.
-  QString written() const;
-};
 
 class FormulaParsers;
 
@@ -61,8 +17,7 @@ class FormulaParsers;
 /// anew. Numbers bind as numbers, other texts as texts, and what is missing as "_null_".
 class Formula {
 public:
-  /// Whether a bare name is a property of the current element or an error.
-  enum class Bare { Refused, OfCurrent };
+  using Bare = FormulaReference::Bare;
   /// As numbers, truth values and texts of the expression engine print: "0" and "1" for false and true.
   struct Result {
     QString text;

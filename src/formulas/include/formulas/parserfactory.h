@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 namespace mup {
 class ParserX;
@@ -13,9 +12,6 @@ class NetData;
 /// library has one), atan, sgn, nodetype. What the library would do without bound (matrices of any size, factorials) is
 /// limited: it throws mup::ParserError instead.
 namespace ParserFactory {
-
-/// What stands for a value that does not exist.
-std::string nullText();
 
 /// \param net whose nodes nodetype(name, otherwise) designates; without it there are none. It must outlive the parser.
 std::unique_ptr<mup::ParserX> create(const NetData *net = nullptr);

@@ -12,6 +12,9 @@ class GasLibXml {
 public:
   static constexpr qint64 LargestFile = qint64(64) << 20;
 
+  /// A unit of the format as UDUNITS-2 writes it; empty for one that is not known.
+  static QString unitOf(const QString &name);
+
   explicit GasLibXml(QString path, FileAccess::Source source)
       : m_path(std::move(path))
       , m_source(source) {}

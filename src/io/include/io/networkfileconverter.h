@@ -2,8 +2,7 @@
 
 #include <base/finding.h>
 #include <io/conversionreport.h>
-#include <model/propertykey.h>
-#include <model/propertytext.h>
+#include <io/networkrecord.h>
 
 #include <QString>
 
@@ -26,30 +25,9 @@ bool isNetworkFile(const QString &name);
 /// The name of the file in the other form.
 QString otherForm(const QString &name);
 
-/// A property's value as it is written.
-struct Value {
-  PropertyKey key;
-  PropertyText text;
-  bool isNumber = false; ///< then the text is a number as JSON writes them
-};
-
-/// What is not read from a network file.
-struct Record {
-  QString name;
-  QString type; ///< word, empty for values of elements that are described elsewhere
-  std::vector<Value> values;
-
-  const Value *find(PropertyKey key) const; ///< the first of it, null when there is none
-};
-struct SetPoint {
-  QString name;
-  Value value;
-  QString unit; ///< empty for the stored one
-};
-
 /// Writes a file in the form that its name tells; false with the reason.
-bool write(const QString &path, const std::vector<Record> &records, QString *reason);
-bool write(const QString &path, const std::vector<SetPoint> &setPoints, QString *reason);
+bool write(const QString &path, const std::vector<NetworkRecord> &records, QString *reason);
+bool write(const QString &path, const std::vector<NetworkSetPoint> &setPoints, QString *reason);
 
 /// Reads one file and writes the other; each in the form that its name tells. A file that is there stays as it is unless
 /// the new one is complete.

@@ -67,8 +67,6 @@ private:
                      const Options &options);
   Result readScenario(const QString &scenarioPath, const NivraScenario &scenario, const Options &options);
   Result readSetPoints(const QString &path, const Options &options);
-  template <typename Lines>
-  Result readLines(const QString &path, const Options &options);
   class SetPointApplier;
   /// A set point whose unit needs the gas to be converted; of one property the last counts.
   struct WaitingSetPoint {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <model/netdata.h>
+#include <model/elementkinds.h>
 
 #include <QString>
 
@@ -13,7 +13,7 @@ struct ElementType {
   QString word;     ///< what a network file's "obj_type" holds, such as "pipe"
   QString longName; ///< for a person, such as "pipe"
   QString plural;   ///< such as "pipes"
-  NetData::EleType kind = NetData::Unknown;
+  ElementKinds::EleType kind = ElementKinds::Unknown;
 };
 
 namespace ElementTypes {

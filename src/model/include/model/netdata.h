@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/finding.h>
+#include <model/elementkinds.h>
 #include <model/elements.h>
 #include <model/selection.h>
 
@@ -18,12 +19,8 @@ class NetMetaData;
 
 /// The in-memory model of one gas-transport network. It has no lock: it may be read from several threads at once, but
 /// every change is made by one thread at a time with no readers meanwhile. A copy is deep.
-class NetData {
+class NetData : public ElementKinds {
 public:
-  /// Single bits, so that several kinds are selected with one mask.
-  enum EleType { Unknown = 0, Node = 1, Edge = 2, AssembledSubnet = 4, TextBox = 8 };
-  static constexpr int AllTypes = ~0;
-
   /// What a numeric access yields when there is no valid value.
   static constexpr double NoValue = -1e30;
 

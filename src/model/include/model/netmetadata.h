@@ -1,7 +1,7 @@
 #pragma once
 
 #include <base/finding.h>
-#include <model/netdata.h>
+#include <model/elementkinds.h>
 
 #include <QHash>
 #include <QIODevice>
@@ -38,7 +38,7 @@ public:
   void add(const Attribute &row);
 
   /// Exact lookup, in the order node, edge, text box, subassembly type names.
-  NetData::EleType kindOf(const QString &typeName) const;
+  ElementKinds::EleType kindOf(const QString &typeName) const;
   const QSet<QString> &nodeTypes() const { return m_nodeTypes; }
   const QSet<QString> &edgeTypes() const { return m_edgeTypes; }
   const QSet<QString> &textBoxTypes() const { return m_textBoxTypes; }

@@ -38,11 +38,20 @@ public:
   const PropertyText *operator[](std::size_t column) const { return m_columns[column].found; }
 
 private:
+  /// What is known of a key from the element in which it was last searched for.
+  ///
+  /// 1. The properties of an element stand in the order of their keys, each key once.
+  /// 2. In the element that was searched, all properties before the index were before the key, and none from it on.
+  /// 3. So where another element has the same two neighbours at the same index, the key is there or is missing alike, and
+  ///    nothing is searched. Where the key is there, its neighbour before does not matter.
+  /// 4. The neighbours are compared by spelling, which is quicker than by name; another spelling costs a search, not the
+  ///    answer.
+  /// 5. What was found belongs to the element that was read last.
   struct Column {
     PropertyKey key;
-    std::size_t place = 0; ///< of the first property that is not before the key
-    PropertyKey before;    ///< what stands before the place, the null key at the beginning
-    PropertyKey at;        ///< what stands there, the null key at the end
+    std::size_t place = 0; ///< index of the first property that is not before the key
+    PropertyKey before;    ///< the key of the property before the index, null at the beginning
+    PropertyKey at;        ///< the key of the property at the index, null at the end
     bool isThere = false;  ///< at is the key
     const PropertyText *found = nullptr;
   };

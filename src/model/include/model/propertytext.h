@@ -31,6 +31,8 @@ public:
 
   /// The number as formatNumber() writes it.
   static PropertyText ofNumber(double number, int significantDigits = 16);
+  /// The shortest text that reads as the very same number, so that converting back and forth does not change a bit.
+  static PropertyText shortest(double number);
 
   std::string_view utf8() const noexcept {
     if (onHeap())

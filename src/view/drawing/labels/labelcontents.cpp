@@ -1,5 +1,4 @@
 #include <base/nivramsg.h>
-#include <formulas/parserfactory.h>
 #include <model/displayformat.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
@@ -241,7 +240,7 @@ QString LabelContents::shownValue(const Part &part, const element &source) const
       const Formula::Result result = part.formula->evaluate(source);
       if (result.number != NetData::NoValue)
         return formatted(result.number, QString());
-      return result.text.toStdString() == ParserFactory::nullText() ? QString() : result.text;
+      return result.text == QLatin1String(FormulaReference::Null) ? QString() : result.text;
     } catch (const FormulaError &error) {
       if (error.kind() == FormulaError::Kind::TooCostly)
         NivraMsg::logWarning(error.text()); // once: from now on it is not evaluated

@@ -1,6 +1,7 @@
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
 #include <model/elementtypes.h>
+#include <model/netdata.h>
 
 #include <QFile>
 #include <QTextStream>

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+namespace Topology {
+
+/// Nodes and the ways between them, by their numbers. It knows no elements: who makes it says which edges lead somewhere,
+/// and in which direction. Making it and each walk over it take time in proportion to nodes and edges.
+class NetworkGraph {
+public:
+  static constexpr int Nowhere = -1;
+  /// The nodes that an edge joins; one that is out of use or lacks an end leads nowhere.
+  struct Ends {
+    int from = Nowhere;
+    int to = Nowhere;
+  };
+  struct Way {
+    int node; ///< where it leads
+    int edge;
+  };
+  enum class Ways { Both, Forward };
+
+  NetworkGraph(std::size_t nodes, const std::vector<Ends> &edges, Ways ways);
+
+  std::size_t size() const { return m_starts.size() - 1; } ///< nodes
+
+  /// Calls visit(way) for each way that leads from the node, in the order of the edges.
+  template <typename Visit>
+  void forEachWay(int node, const Visit &visit) const {
+    const auto number = static_cast<std::size_t>(node);
+    for (std::size_t i = m_starts[number]; i < m_starts[number + 1]; ++i)
+      visit(m_ways[i]);
+  }
+
+  /// The number of the connected part of each node, from 1 for the one with the most nodes (of equal ones the one with the
+  /// first node comes first); 0 for nodes with which no part begins and to which none leads.
+  /// \param begins whether a part begins with the node
+  std::vector<int> components(const std::function<bool(int)> &begins) const;
+
+  /// Length of the shortest way from the next source to each node, by Dijkstra's algorithm (1959); negative for nodes that
+  /// no way leads to. \param lengths of the edges; what is negative counts as no way at all long
+  std::vector<double> distances(const std::vector<int> &sources, const std::vector<double> &lengths) const;
+
+private:
+  // Invariants: the ways of node n are m_ways[m_starts[n]] to m_ways[m_starts[n + 1] - 1]; m_starts ascends from 0 to the
+  // number of ways.
+  std::vector<std::size_t> m_starts;
+  std::vector<Way> m_ways;
+};
+
+} // namespace Topology
