@@ -1,10 +1,10 @@
 // Searching and listing, against the bare work that is in it.
 
 #include "measure.h"
+#include "parserfactory.h"
 
 #include <formulas/formula.h>
 #include <formulas/networkformulas.h>
-#include <formulas/parserfactory.h>
 #include <io/nivrareader.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>

@@ -1,5 +1,6 @@
+#include "parserfactory.h"
+
 #include <formulas/formula.h>
-#include <formulas/parserfactory.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 

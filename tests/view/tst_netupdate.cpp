@@ -1,4 +1,4 @@
-#include "geometry/networkgraph.h"
+#include "geometry/drawngraph.h"
 #include "viewfixture.h"
 
 #include <base/nivramsg.h>
@@ -211,7 +211,7 @@ void TestNetUpdate::graphFunctionsAreComputed() {
   net.addElement(valve);
   NetGeometry geometry;
   geometry.build(net, {});
-  const NetworkGraph graph(geometry);
+  const DrawnGraph graph(geometry);
   constexpr double None = NetData::NoValue;
   QCOMPARE(graph.components(), (std::vector<double>{1, 1, 1, 1, 2, 2, 3, None}));
   const NetGeometry::Request lengths{{{PropertyKey::intern("length"), true}}, {}};

@@ -1,4 +1,4 @@
-#include "geometry/networkgraph.h"
+#include "geometry/drawngraph.h"
 
 #include <algorithm>
 #include <cmath>
@@ -66,9 +66,9 @@ QwtInterval rangeWithin(const DrawValues::Column &column, double minimum, double
 /// Values of nodes that are computed on the graph.
 std::vector<double> ofGraph(const DrawFunction &function, const NetGeometry &geometry) {
   if (function.computed == Computed::Connectivity)
-    return NetworkGraph(geometry).components();
+    return DrawnGraph(geometry).components();
   const NetGeometry::Request lengths{{{PropertyKey::intern("length"), true}}, {}};
-  return NetworkGraph(geometry).distances(geometry.values(lengths).ofEdges.front());
+  return DrawnGraph(geometry).distances(geometry.values(lengths).ofEdges.front());
 }
 
 /// Drives are nodes, but none that is drawn as one: what they say must not stretch the scale of the others.
