@@ -12,7 +12,7 @@
 #include <drawing/stationsymbols.h>
 
 static void initialiseResources() {
-  Q_INIT_RESOURCE(view); // a static library's resources are dropped by the linker unless somebody asks for them
+  Q_INIT_RESOURCE(drawing); // a static library's resources are dropped by the linker unless somebody asks for them
 }
 
 StationSymbols::StationSymbols() {
