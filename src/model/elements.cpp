@@ -301,8 +301,9 @@ element *elements::tryInsert(const PropertyText &id, element &&value) {
 element &elements::insert(const PropertyText &id, element value) {
   element *inserted = tryInsert(id, std::move(value));
   if (inserted == nullptr)
-    throw elements_insert_exception(m_name, id.toString(), value.lines(), // NOLINT(bugprone-use-after-move): untouched
-                                    find(id)->lines());
+    throw elements_insert_exception(
+        m_name, id.toString(), value.lines(), // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move): untouched
+        find(id)->lines());
   return *inserted;
 }
 

@@ -23,7 +23,7 @@ int FindingFilter::count() const {
 }
 
 QVariant FindingFilter::data(const QModelIndex &index, int role) const {
-  const QVariant data = QSortFilterProxyModel::data(index, role);
+  QVariant data = QSortFilterProxyModel::data(index, role);
   const bool isStage = index.isValid() && !index.parent().isValid();
   if (role != Qt::DisplayRole || !isStage || index.column() != FindingModel::TextColumn)
     return data;

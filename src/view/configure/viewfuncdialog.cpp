@@ -98,7 +98,9 @@ viewFuncDialog::~viewFuncDialog() = default;
 /// The names that every network may have, and behind them the properties of this one.
 void viewFuncDialog::offerFunctions() {
   const NetData *net = m_plot.update().netData();
-  const DrawFunction::OfNetwork own = net == nullptr ? DrawFunction::OfNetwork() : DrawFunction::ofNetwork(*net);
+  DrawFunction::OfNetwork own;
+  if (net != nullptr)
+    own = DrawFunction::ofNetwork(*net);
   for (int i = 0; i < Rows; ++i) {
     QStringList functions = DrawFunction::fixedNames();
     if (i == NodeSize)
@@ -106,7 +108,7 @@ void viewFuncDialog::offerFunctions() {
     QHash<QString, QString> described;
     for (const QString &property : i == EdgeColor || i == EdgeWidth ? own.ofEdges : own.ofNodes) {
       functions.append(property);
-      const QString title = DrawFunction::find(property, *net).title;
+      const QString title = net == nullptr ? property : DrawFunction::find(property, *net).title;
       if (title != property)
         described.insert(property, title);
     }
@@ -198,9 +200,9 @@ QString viewFuncDialog::noteOn(const DrawValues::Column &values, double minimum,
   QString unit;
   if (!values.function.unit.isEmpty())
     unit = QLatin1Char(' ') + Units::written(values.function.unit);
-  const QString reach = tr("The data reach from %1 to %2%3.")
-                            .arg(DisplayFormat::number(toDisplay(values.data.minValue())),
-                                 DisplayFormat::number(toDisplay(values.data.maxValue())), unit);
+  QString reach = tr("The data reach from %1 to %2%3.")
+                      .arg(DisplayFormat::number(toDisplay(values.data.minValue())),
+                           DisplayFormat::number(toDisplay(values.data.maxValue())), unit);
   const bool hasMinimum = minimum != PlotSettings::OpenMinimum;
   const bool hasMaximum = maximum != PlotSettings::OpenMaximum;
   if (hasMinimum && minimum > values.data.maxValue())

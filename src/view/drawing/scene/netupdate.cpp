@@ -120,10 +120,12 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     NivraMsg::debug(QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
   }
   updateSymbols(rebuild);
-  if (relabel && m_hasPlacedLabels)
-    placeLabels(); // those that stand say something else now; nobody may have to wait for that
-  else if (relabel)
-    clearLabels();
+  if (relabel) {
+    if (m_hasPlacedLabels)
+      placeLabels(); // those that stand say something else now; nobody may have to wait for that
+    else
+      clearLabels();
+  }
   emit changed();
   NivraMsg::debug(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
 }
