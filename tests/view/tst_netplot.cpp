@@ -4,6 +4,7 @@
 #include <base/generalsettings.h>
 #include <support/nivratest.h>
 
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QSignalSpy>
@@ -28,6 +29,8 @@ private slots:
   void stackIsCutBack();
   void keysMoveAndFit();
   void rectangleZoomKeepsItsWholeRectangle();
+  void dialogsEndADrag_data();
+  void dialogsEndADrag();
   void panningMovesTheView_data();
   void panningMovesTheView();
   void rightClickAsksForAMenu();
@@ -301,6 +304,38 @@ void TestNetPlot::rectangleZoomKeepsItsWholeRectangle() {
   const QRectF shown = f.plot().plot()->visibleRect();
   QVERIFY(shown.adjusted(-1, -1, 1, 1).contains(meant.normalized()));
   QVERIFY(shown.width() < meant.width() * 1.05);
+}
+
+void TestNetPlot::dialogsEndADrag_data() {
+  QTest::addColumn<int>("button");
+  QTest::newRow("rectangle") << int(Qt::LeftButton);
+  QTest::newRow("movement") << int(Qt::MiddleButton);
+}
+
+void TestNetPlot::dialogsEndADrag() {
+  QFETCH(int, button);
+  ViewFixture f;
+  f.plot().show();
+  GeneralSettings::instance().setValue(QStringLiteral("MousePattern_Panning"), QStringLiteral("MidButton"));
+  f.show();
+  GeneralSettings::instance().reset();
+  NetPlot &plot = f.plot();
+  QWidget *canvas = plot.plot()->canvas();
+  const QRectF before = plot.zoomer()->zoomRect();
+  QTest::mousePress(canvas, Qt::MouseButton(button), Qt::NoModifier, {100, 60});
+  QMouseEvent begun(QEvent::MouseMove, QPointF(200, 120), Qt::NoButton, Qt::MouseButtons(button), Qt::NoModifier);
+  QApplication::sendEvent(canvas, &begun);
+  QVERIFY(button == Qt::MiddleButton || plot.zoomer()->isActive());
+  {
+    QDialog question(&plot);
+    question.setModal(true);
+    question.show();
+  }
+  QVERIFY(!plot.zoomer()->isActive() && !f.control.picker()->isActive());
+  QMouseEvent later(QEvent::MouseMove, QPointF(300, 180), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(canvas, &later);
+  QTest::mouseRelease(canvas, Qt::MouseButton(button), Qt::NoModifier, {300, 180});
+  QCOMPARE(plot.zoomer()->zoomRect(), before);
 }
 
 void TestNetPlot::panningMovesTheView_data() {

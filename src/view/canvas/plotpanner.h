@@ -9,6 +9,8 @@ class PlotPanner : public QwtPlotPanner {
 public:
   explicit PlotPanner(QwtFastPlot &plot);
 
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
 protected:
   QPixmap grab() const override;
 

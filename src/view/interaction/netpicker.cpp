@@ -137,6 +137,11 @@ bool NetPicker::eventFilter(QObject *watched, QEvent *event) {
       QToolTip::showText(help->globalPos(), toolTipFor(hits.front().item), canvas());
     return true;
   }
+  if (watched == canvas() && event->type() == QEvent::WindowBlocked) { // the release goes to the dialog
+    m_mode = Mode::None;
+    m_picksOnRelease = false;
+    QwtPlotPicker::reset();
+  }
   return QwtPlotPicker::eventFilter(watched, event);
 }
 

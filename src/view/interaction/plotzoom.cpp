@@ -280,6 +280,8 @@ void PlotZoom::fitViews() {
 
 bool PlotZoom::eventFilter(QObject *watched, QEvent *event) {
   const bool result = QwtPlotZoomer::eventFilter(watched, event);
+  if (watched == canvas() && event->type() == QEvent::WindowBlocked)
+    reset(); // the release of a rectangle that was begun goes to the dialog
   if (watched == canvas() && event->type() == QEvent::Resize) {
     m_isCanvasOther = true;
     if (!m_isRescaling)
