@@ -269,6 +269,8 @@ void TestVectorTable::filtersEndWithTheList() {
   auto *label = panel.findChild<QLabel *>(QStringLiteral("labelCount"));
   panel.on_pushButtonUpdate_clicked();
   menu->setFilter(3, QStringLiteral("> 5"));
+  menu->setFilter(3, QStringLiteral("> 4.5")); // leaves the same rows
+  QVERIFY2(label->text().contains(QStringLiteral("> 4.5")) && menu->shownRows() == 2, qPrintable(label->text()));
   panel.on_pushButtonUpdate_clicked(); // the same list
   QCOMPARE(menu->shownRows(), 2);
   const Category nodes{QStringLiteral("Cat2"), QString(), QStringLiteral("^n$"), QStringLiteral("^name$"), QString(), false};

@@ -42,6 +42,7 @@ void SearchResults::show(std::vector<SearchRow> rows) {
                            SearchResultsModel::PropertyColumn, SearchResultsModel::UnitColumn})
     m_view.resizeColumnToContents(column);
   header.setSortIndicatorShown(true);
+  m_view.scrollToTop();
 }
 
 void SearchResults::replace(const QString &name, const std::vector<SearchRow> &rows) {

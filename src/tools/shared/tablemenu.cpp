@@ -170,7 +170,8 @@ void TableMenu::setFilter(int column, const QString &text) {
   else
     m_filters.insert(column, text);
   markHeader(column);
-  apply();
+  filterRows();
+  emit filtered(); // also where the same rows are shown: the summary says another filter
 }
 
 void TableMenu::clearFilters() {
@@ -197,12 +198,17 @@ void TableMenu::markHeader(int column) {
 }
 
 void TableMenu::apply() {
+  if (filterRows())
+    emit filtered();
+}
+
+bool TableMenu::filterRows() {
   const QAbstractItemModel &model = *m_view.model();
   QMap<int, CellFilter> filters;
   for (auto it = m_filters.cbegin(); it != m_filters.cend(); ++it)
     filters.insert(it.key(), CellFilter(it.value()));
   if (filters.isEmpty() && !m_hidesRows)
-    return;
+    return false;
   m_hidesRows = !filters.isEmpty();
   bool hasChanged = false;
   updateRows(false);
@@ -216,8 +222,7 @@ void TableMenu::apply() {
     }
   }
   updateRows(true);
-  if (hasChanged)
-    emit filtered();
+  return hasChanged;
 }
 
 /// The header of a table finds out anew where all rows lie whenever one goes, unless it is told to wait.

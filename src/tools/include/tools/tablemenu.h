@@ -62,6 +62,7 @@ private:
   void markHeader(int column);
   /// Hides and shows rows anew, after they have been filled or sorted.
   void apply();
+  bool filterRows(); ///< true when other rows are shown than before
 
   QAbstractItemView &m_view;
   QHeaderView *m_header;
