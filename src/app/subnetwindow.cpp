@@ -3,7 +3,9 @@
 #include "tooldocks.h"
 
 #include <io/nivraworkspace.h>
+#include <model/names.h>
 #include <model/netmetadata.h>
+#include <model/topology.h>
 #include <tools/nivrasearch.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
@@ -102,9 +104,8 @@ NetData SubnetWindow::part(const NetData &net, const QString &subnet) {
   const element *source = net.assembledSubnets().find(subnet);
   if (source == nullptr)
     return part;
-  QStringList names = source->value(QStringLiteral("pins")).split(QLatin1Char(';'), Qt::SkipEmptyParts);
-  names += source->value(QStringLiteral("elements")).split(QLatin1Char(';'), Qt::SkipEmptyParts);
-  for (const QString &name : qAsConst(names)) {
+  const QStringList names = Topology::listed(*source, Names::all().pins) + Topology::listed(*source, Names::all().elements);
+  for (const QString &name : names) {
     if (const element *e = net.nodes().find(name))
       part.addElement(*e);
   }

@@ -197,10 +197,10 @@ double NetUpdate::seenHeight() const {
   return m_view().visible.height() / m_geometry.plotUnits();
 }
 
-std::vector<SymbolLayer::Placed> NetUpdate::determineVisibleSymbols() const {
+const std::vector<SymbolLayer::Placed> &NetUpdate::determineVisibleSymbols() const {
   QElapsedTimer timer;
   timer.start();
-  std::vector<SymbolLayer::Placed> symbols = m_symbols.place(projection());
+  const std::vector<SymbolLayer::Placed> &symbols = m_symbols.place(projection());
   NivraMsg::debug(QStringLiteral("determineVisibleSymbols() took %1 sec.").arg(seconds(timer)));
   return symbols;
 }

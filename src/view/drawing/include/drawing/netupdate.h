@@ -83,8 +83,8 @@ public:
   void clearLabels();
   /// Places labels at once, whatever the settings say.
   void relabelNow();
-  /// Finds the symbols that lie in the visible area.
-  std::vector<SymbolLayer::Placed> determineVisibleSymbols() const;
+  /// Finds the symbols that lie in the visible area; valid until something is drawn anew.
+  const std::vector<SymbolLayer::Placed> &determineVisibleSymbols() const;
 
   const NetGeometry &geometry() const { return m_geometry; }
   const DrawValues &values() const { return m_values; }
