@@ -434,6 +434,11 @@ void TestWindow::subnetsHaveWindowsOfTheirOwn() {
   emit window->visControl()->elementAction(QStringLiteral("M_V1"), NetPicker::EleAction::Mark);
   QCOMPARE(current.count(), 1); // the tools follow what is picked there
   QVERIFY(SubnetWindow::part(viewer.visControl()->net(), QStringLiteral("none")).isEmpty());
+  element *subnet = viewer.visControl()->net().element(QStringLiteral("M"));
+  const QString pins = subnet->value(QStringLiteral("pins"));
+  subnet->set(QStringLiteral("pins"), QString(pins).replace(QLatin1Char(';'), QStringLiteral(" ; ")));
+  QCOMPARE(SubnetWindow::part(viewer.visControl()->net(), QStringLiteral("M")).nodes().size(), std::size_t(4));
+  subnet->set(QStringLiteral("pins"), pins);
 
   emit viewer.visControl()->subnetWanted(QStringLiteral("M"));
   QCOMPARE(viewer.findChildren<SubnetWindow *>().size(), 1); // the one that is open
