@@ -7,8 +7,6 @@
 #include <QDir>
 #include <QTextStream>
 
-#include <stdexcept>
-
 int main(int argc, char **argv) {
   const QCoreApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("nivra-make-network"));

@@ -5,7 +5,8 @@
 add_library(nivra_options INTERFACE)
 target_compile_definitions(nivra_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
                                                    QT_DEPRECATED_WARNINGS)
-target_compile_options(nivra_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+target_compile_options(nivra_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+                                               -Wnon-virtual-dtor -Woverloaded-virtual
                                                -fno-omit-frame-pointer)
 if(NIVRA_WERROR)
   target_compile_options(nivra_options INTERFACE -Werror)

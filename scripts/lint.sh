@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# clang-tidy over the project's own sources: lint.sh BUILD_FOLDER [FILE...]; what was changed last comes first. A file that
-# passed before, with the same compile command, headers, rules and packages, is passed over.
+# clang-tidy over the project's own sources, and a search for unused includes in them and their headers:
+# lint.sh BUILD_FOLDER [FILE...]; what was changed last comes first. A file that passed before, with the same compile
+# command, headers, rules and packages, is passed over.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 top=$PWD
@@ -10,7 +11,11 @@ if [ $# -gt 0 ]; then
   files=("$@")
 else
   mapfile -t files < <({ git log -n 100 --format= --name-only; git ls-files; } | awk '!seen[$0]++' |
-    grep -E '^(src|bench)/.*\.cpp$' | grep -v callstack_windows | while read -r file; do [ ! -e "$file" ] || echo "$file"; done)
+    grep -E '^(src|bench)/.*\.(cpp|h)$' | grep -v callstack_windows | while read -r file; do
+      [ -e "$file" ] || continue
+      # A header is looked at together with the source of its name.
+      [[ $file != *.h || -z $(git ls-files "*/$(basename "$file" .h).cpp") ]] && echo "$file"
+    done)
 fi
 commands=$(mktemp -d)
 trap 'rm -rf "$commands"' EXIT
@@ -25,7 +30,21 @@ ninja -C "$folder" -t deps | awk -v top="$top/" '
 passed=${XDG_CACHE_HOME:-$HOME/.cache}/nivra-reader/lint
 mkdir -p "$passed"
 find "$passed" -type f -mtime +30 -delete
-surroundings=$({ clang-tidy --version; dpkg-query -W; cat .clang-tidy; } | sha256sum)
+surroundings=$({ clang-tidy --version; dpkg-query -W; cat .clang-tidy scripts/lint.sh; } | sha256sum)
+
+hasUnusedIncludes() {
+  # The header of the parser includes all others of its library, which makes it their owner in nobody's eyes.
+  clang-include-cleaner-19 --insert=false --ignore-headers='mpParser\.h' --print=changes --extra-arg=-w -p "$commands" "$1" |
+    sed -n "s|^- \(.*\) @Line:\(.*\)|$1:\2: \1 is not used|p" | grep . >&2
+}
+
+check() {
+  local file
+  [[ $1 == *.h ]] || clang-tidy --quiet -p "$commands" "$1" || return 1
+  for file in "$1" $([[ $1 == *.h ]] || git ls-files "src/*/$(basename "$1" .cpp).h"); do
+    ! hasUnusedIncludes "$file" || return 1
+  done
+}
 
 lint() {
   local key sources
@@ -36,9 +55,9 @@ lint() {
     grep -F "\"command\"" "$commands/compile_commands.json" | grep -F "/$1\"" | sed "s|$top||g"
     for source in $sources; do [ ! -e "$source" ] || cat "$source"; done
   } | sha256sum | cut -d' ' -f1)
-  [ -e "$passed/$key" ] || { clang-tidy --quiet -p "$commands" "$1" && touch "$passed/$key"; }
+  [ -e "$passed/$key" ] || { check "$1" && touch "$passed/$key"; }
 }
-export -f lint
+export -f lint check hasUnusedIncludes
 export surroundings passed commands top
 printf '%s\0' "${files[@]}" | xargs -0 -P "$(nproc)" -n 1 bash -c 'lint "$0"' \
   2> >(grep -vE 'warnings? (generated|treated)|Suppressed|^Use -header' >&2)

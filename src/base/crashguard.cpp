@@ -113,7 +113,7 @@ void CrashGuard::installHandlers(const QString &marker) {
   sigaltstack(&stack, nullptr);
   struct sigaction action {};
   action.sa_handler = signalHandler;
-  action.sa_flags = SA_ONSTACK | SA_RESETHAND; // a fault inside the handler ends the process
+  action.sa_flags = static_cast<int>(SA_ONSTACK | SA_RESETHAND); // a fault inside the handler ends the process
   sigemptyset(&action.sa_mask);
   sigaction(SIGSEGV, &action, nullptr);
   sigaction(SIGFPE, &action, nullptr);

@@ -2,6 +2,7 @@
 
 #include <base/finding.h>
 #include <formulas/formulafile.h>
+#include <model/element.h>
 
 #include <map>
 #include <set>

@@ -5,7 +5,6 @@
 #include "formularemarks.h"
 #include "formularule.h"
 
-#include <base/pattern.h>
 #include <formulas/networkformulas.h>
 #include <model/names.h>
 #include <model/netmetadata.h>

@@ -6,8 +6,6 @@
 #include <QRegularExpression>
 #include <QTextCodec>
 
-#include <memory>
-
 namespace {
 
 struct Texts {

@@ -1,7 +1,5 @@
 #include "readreport.h"
 
-#include <algorithm>
-
 void ReadReport::add(const char *kind, int line, const QString &text, const QString &box, const QString &element) {
   int &count = m_counts[QString::fromLatin1(kind)];
   if (++count <= KeptOfAKind)

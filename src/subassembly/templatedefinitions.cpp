@@ -1,9 +1,8 @@
 #include "templatedefinitions.h"
 
-#include "templateplan.h"
+#include "templateplan.h" // IWYU pragma: keep, for what lies behind a pointer
 
 #include <base/pattern.h>
-#include <formulas/formula.h>
 
 void TemplateDefinitions::read(const QString &path, TemplateCache<FormulaFile::Contents> &cache, Findings &findings) {
   if (path.isEmpty())

@@ -5,7 +5,6 @@
 
 #include <base/fileaccess.h>
 #include <base/nivramsg.h>
-#include <characteristics/characteristicsstack.h>
 #include <support/answers.h>
 #include <support/nivratest.h>
 #include <tools/category.h>

@@ -1,4 +1,3 @@
-#include "readreport.h"
 #include "recordstream.h"
 
 #include <support/nivratest.h>

@@ -169,7 +169,7 @@ void TestElement::columnsFindWhatASearchFinds() {
   std::vector<element> all(Count);
   for (int i = 0; i < Count; ++i) {
     for (int bit = 0; bit < 8; ++bit) {
-      if ((i * 2654435761U >> (bit + 8)) & 1U)
+      if ((static_cast<unsigned>(i) * 2654435761U >> (bit + 8)) & 1U)
         all[static_cast<std::size_t>(i)].set((i & 64 ? QStringLiteral("Column%1") : QStringLiteral("column%1")).arg(bit),
                                              QString::number(i * 8 + bit));
     }

@@ -1,4 +1,3 @@
-#include <base/nivramsg.h>
 #include <model/elementtypes.h>
 #include <model/netdata.h>
 #include <model/netmetadata.h>

@@ -6,8 +6,6 @@
 #include <QAbstractItemModelTester>
 #include <QIcon>
 
-#include <algorithm>
-
 namespace {
 
 constexpr auto Reporting = QAbstractItemModelTester::FailureReportingMode::QtTest;

@@ -3,7 +3,6 @@
 
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
-#include <model/netmetadata.h>
 #include <support/nivratest.h>
 
 #include <QElapsedTimer>

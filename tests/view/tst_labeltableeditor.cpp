@@ -1,5 +1,4 @@
 #include "configure/labeltableeditor.h"
-#include "viewfixture.h"
 
 #include <support/nivratest.h>
 

@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <cmath>
 #include <machines/gaslaw.h>
 

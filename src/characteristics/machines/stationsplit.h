@@ -5,7 +5,6 @@
 #include <machines/compression.h>
 #include <machines/machinedata.h>
 #include <optional>
-#include <vector>
 
 /// How the flow and the pressure ratio of a station are shared by its machines.
 ///

@@ -3,7 +3,6 @@
 #include "mapplot.h"
 #include "shownnumber.h"
 
-#include <model/displayformat.h>
 #include <model/units.h>
 
 #include <QComboBox>

@@ -1,5 +1,6 @@
 #include "ui_nivraeleinfowidget.h"
 
+#include <model/element.h>
 #include <tools/nivraeleinfowidget.h>
 
 NivraEleInfoWidget::NivraEleInfoWidget(LabelOf labelOf, QWidget *parent)

@@ -2,7 +2,7 @@
 
 #include "shared/numberdelegate.h"
 
-#include <tools/networksearch.h>
+#include <tools/searchcriteria.h>
 
 #include <QRegularExpression>
 

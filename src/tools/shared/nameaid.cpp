@@ -5,7 +5,6 @@
 #include <QCompleter>
 #include <QStringListModel>
 
-#include <algorithm>
 #include <set>
 
 void NameAid::attach(QLineEdit &field, std::function<QStringList(const QString &, int)> names) {

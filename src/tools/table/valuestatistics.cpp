@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 ValueStatistics::ValueStatistics(std::vector<double> values)
     : m_sorted(std::move(values)) {

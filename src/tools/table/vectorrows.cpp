@@ -7,7 +7,6 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <iterator>
 
 QString VectorRows::padded(int number) {
   constexpr int Width = 9;

@@ -5,7 +5,6 @@
 #include "interaction/plotzoom.h"
 #include "interaction/smoothzoom.h"
 
-#include <base/nivramsg.h>
 #include <base/settings.h>
 #include <view/netplot.h>
 
@@ -265,7 +264,7 @@ void NetPlot::showHint() {
   QwtText hint(text);
   hint.setColor(Qt::darkGray);
   hint.setBackgroundBrush(QColor(255, 255, 255, 220));
-  hint.setRenderFlags(geometry.hasExtent() ? Qt::AlignTop | Qt::AlignHCenter : Qt::AlignCenter);
+  hint.setRenderFlags(geometry.hasExtent() ? int(Qt::AlignTop | Qt::AlignHCenter) : int(Qt::AlignCenter));
   m_hint.setText(hint);
   m_hint.setVisible(!text.isEmpty());
 }

@@ -4,8 +4,6 @@
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
 
-#include <functional>
-
 class CanvasOverlay;
 
 /// The plot area of the network: a plot without frame, title or automatic replot. Over its canvas lies what changes more

@@ -15,7 +15,6 @@
 #include <drawing/colormap.h>
 #include <drawing/drawfunctions.h>
 #include <drawing/drawrange.h>
-#include <tuple>
 
 namespace {
 

@@ -2,7 +2,8 @@
 
 #include <base/fileaccess.h>
 #include <base/finding.h>
-#include <formulas/formula.h>
+#include <formulas/formulaerror.h>
+#include <formulas/formulareference.h>
 
 #include <QString>
 #include <QStringList>

@@ -4,7 +4,6 @@
 
 #include <QString>
 
-#include <string_view>
 #include <vector>
 
 /// One row of the element type table.

@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <cstdint>
 #include <cstring>
 #include <optional>
 #include <string>

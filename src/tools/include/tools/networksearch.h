@@ -9,7 +9,6 @@
 #include <tools/searchparams.h>
 
 #include <atomic>
-#include <memory>
 #include <optional>
 #include <vector>
 

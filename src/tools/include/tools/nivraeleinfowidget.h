@@ -1,13 +1,13 @@
 #pragma once
 
-#include <model/netdata.h>
-
 #include <QColor>
 #include <QFont>
 #include <QWidget>
 
 #include <functional>
 #include <memory>
+
+class element;
 
 namespace Ui {
 class NivraEleInfoWidget;

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <base/pattern.h>
 #include <formulas/formula.h>
 #include <model/netdata.h>
 #include <tools/category.h>
 #include <tools/displayvalue.h>
-#include <tools/networksearch.h>
+#include <tools/searchcriteria.h>
 
 #include <QIODevice>
 

@@ -2,6 +2,7 @@
 #include <array>
 #include <cmath>
 #include <drawing/labelplacement.h>
+#include <drawing/layergeometry.h>
 
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <drawing/labellayer.h>
+#include <drawing/layergeometry.h>
 
 namespace {
 

@@ -1,6 +1,5 @@
 #include "scene/labelwishes.h"
 
-#include <algorithm>
 #include <cmath>
 #include <drawing/edgelayer.h>
 #include <drawing/nodelayer.h>

@@ -8,7 +8,6 @@
 #include <drawing/drawvalues.h>
 #include <drawing/plotsettings.h>
 #include <memory>
-#include <vector>
 
 /// The colours of the draw functions, and what the legend says of them.
 namespace ColorScale {

@@ -8,7 +8,6 @@
 #include <QHash>
 
 #include <drawing/labeltable.h>
-#include <drawing/netgeometry.h>
 #include <drawing/plotsettings.h>
 #include <memory>
 #include <optional>
