@@ -444,9 +444,11 @@ void TestNetUpdate::searchHasNoScale() {
   f.plot().show();
   f.show();
   f.control.setShowsSearchResults(true);
+  QApplication::processEvents();
   QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight));
   QVERIFY(!f.plot().legend().label().text().contains(QStringLiteral("Color: p")));
   f.control.setShowsSearchResults(false);
+  QApplication::processEvents();
   QVERIFY(f.plot().plot()->axisEnabled(QwtPlot::yRight));
 }
 
@@ -491,6 +493,7 @@ void TestNetUpdate::timesGoToTheLogFileAlone() {
   f.show();
   QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("after update edges: [0-9.e-]+ sec\\.$")));
   f.control.setShowsSearchResults(true);
+  QApplication::processEvents();
   for (const QList<QVariant> &text : told)
     QVERIFY2(!text.first().toString().contains(QStringLiteral(" sec.")), qPrintable(text.first().toString()));
   QVERIFY(!told.isEmpty()); // that it is drawn is told
