@@ -90,11 +90,12 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
 }
 
 void NetVisControl::draw() {
-  m_plot->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, std::exchange(m_relabels, false));
+  m_plot->update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes,
+                              std::exchange(m_labels, NetUpdate::Labels::Kept));
 }
 
 void NetVisControl::redraw() {
-  m_relabels = true;
+  m_labels = NetUpdate::Labels::Renewed;
   m_drawing.request();
   m_drawing.flush();
 }
@@ -102,7 +103,7 @@ void NetVisControl::redraw() {
 void NetVisControl::setHiddenLayers(const QString &property, const QSet<QString> &layers) {
   m_plot->update().setHiddenLayers(property, layers);
   emit hiddenLayersChanged(layers);
-  m_relabels = true;
+  m_labels = NetUpdate::Labels::Renewed;
   m_drawing.request();
 }
 

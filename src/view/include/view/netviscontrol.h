@@ -86,5 +86,5 @@ private:
   NetPicker *m_picker; ///< belongs to the canvas of the plot
   std::unique_ptr<PlotMenu> m_menu;
   OncePerTurn m_drawing;
-  bool m_relabels = false; ///< when it is drawn
+  NetUpdate::Labels m_labels = NetUpdate::Labels::Kept; ///< when it is drawn
 };
