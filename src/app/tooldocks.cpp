@@ -153,6 +153,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
     createCharacteristics();
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), workspace.filePath(QStringLiteral("plotsettings.ini")));
   m_draw->refresh();
+  m_shown.clear();
   m_propViewer->showCurrentEleContents(nullptr);
   m_info->reset();
   m_search->clearResults();
@@ -232,7 +233,7 @@ void ToolDocks::showChanges() {
   m_search->searchAgain();
   if (m_characteristics != nullptr)
     m_characteristics->refresh(); // the working points
-  showContents(m_propViewer->elementName());
+  showContents(m_shown);
 }
 
 void ToolDocks::showVectorTable() {
@@ -325,6 +326,7 @@ QString ToolDocks::marked() const {
 void ToolDocks::showContents(const QString &name) {
   if (m_propViewer == nullptr)
     return;
+  m_shown = name;
   const element *e = m_net.element(name);
   if (m_propViewer->isVisible())
     m_propViewer->showCurrentEleContents(e);
@@ -355,7 +357,7 @@ void ToolDocks::showProperties(const QStringList &names) {
   }
   m_propViewer->show();
   m_propViewer->raise();
-  m_propViewer->showCurrentEleContents(m_net.element(names.first()));
+  showContents(names.first());
 }
 
 void ToolDocks::createSearch() {

@@ -118,5 +118,6 @@ private:
   std::unique_ptr<MetaDataTable> m_metaData;
   std::unique_ptr<HelpWindow> m_help;
   QString m_directory;          ///< of the case
+  QString m_shown;              ///< in the docks of an element: the current one, or what the mouse went over
   QStringList m_messagesBefore; ///< those that came before there was a dock for them
 };

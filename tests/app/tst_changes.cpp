@@ -12,6 +12,8 @@
 #include <view/netviscontrol.h>
 
 #include <QApplication>
+#include <QDockWidget>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTreeView>
@@ -186,6 +188,13 @@ void TestChanges::everythingFollowsAValue() {
                                                      Qt::MatchExactly | Qt::MatchRecursive);
   QCOMPARE(found.size(), 1);
   QCOMPARE(found.first().siblingAtColumn(1).data().toString(), QStringLiteral("150"));
+  properties.hide();
+  c.viewer.findChild<QDockWidget *>(QStringLiteral("elementInformation"))->show();
+  const auto *bounds = c.viewer.findChild<QLabel *>(QStringLiteral("labelBounds"));
+  QVERIFY(bounds->text().contains(QStringLiteral("150")));
+  c.setPressure("A", "400");
+  QCOMPARE(updates.take(), 1);
+  QVERIFY(bounds->text().contains(QStringLiteral("200")));
   table->close();
 }
 
