@@ -161,10 +161,10 @@ void recolour(benchmark::State &state) {
   for (auto _ : state) {
     settings.colorFunc = settings.colorFunc == QLatin1String("q") ? QStringLiteral("length") : QStringLiteral("q");
     scene.plot().setSettings(settings);
-    scene.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+    scene.plot().update().updatePlot();
   }
   scene.plot().setSettings(before);
-  scene.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  scene.plot().update().updatePlot();
 }
 BENCHMARK(recolour)->Arg(Hundred)->Unit(benchmark::kMillisecond);
 
@@ -181,7 +181,7 @@ void labelPass(benchmark::State &state) {
     settings.legendPos = 0;
   }
   scene.plot().setSettings(settings);
-  scene.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, true);
+  scene.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
   QApplication::processEvents();
   scene.plot().zoomer()->fitAll();
   NetUpdate &update = scene.plot().update();
@@ -201,7 +201,7 @@ void labelPass(benchmark::State &state) {
   state.counters["placed"] = static_cast<double>(labels.size());
   state.counters["overlaps"] = overlaps;
   scene.plot().setSettings(before);
-  update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, true);
+  update.updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
 }
 BENCHMARK(labelPass)
     ->ArgNames({"elements", "symbols"})
@@ -212,7 +212,8 @@ BENCHMARK(labelPass)
 void buildRecords(benchmark::State &state) {
   Scene &scene = Scene::of(static_cast<int>(state.range(0)));
   for (auto _ : state)
-    scene.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
+    scene.plot().update().updatePlot(NetUpdate::Elements::Renewed, NetUpdate::Which::EdgesAndNodes,
+                                     NetUpdate::Labels::Renewed);
 }
 BENCHMARK(buildRecords)->Arg(Hundred)->Arg(Million)->Unit(benchmark::kMillisecond);
 

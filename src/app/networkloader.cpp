@@ -246,14 +246,15 @@ void NetworkLoader::noticeViolations() {
   notice(tr("Bounds"), std::move(violations));
 }
 
-void NetworkLoader::computeAgain(const QStringList &names, const QString &property) {
-  std::vector<NetworkFormulas::Change> changes;
-  const PropertyKey key = PropertyKey::find(property);
-  for (const QString &name : names) {
-    if (const element *changed = m_net.element(name))
-      changes.push_back({changed, key});
+void NetworkLoader::computeAgain(const std::vector<ElementChange> &changes) {
+  std::vector<NetworkFormulas::Change> found;
+  for (const ElementChange &change : changes) {
+    for (const QString &name : change.elements) {
+      if (const element *changed = m_net.element(name))
+        found.push_back({changed, change.property});
+    }
   }
-  report(m_formulas.update(changes));
+  report(m_formulas.update(found));
   if (!m_noticed.empty() && m_noticed.back().name == tr("Bounds"))
     m_noticed.pop_back();
   noticeViolations();

@@ -7,6 +7,7 @@
 #include <io/nivraworkspace.h>
 #include <io/scenariosummary.h>
 #include <model/consistencycheck.h>
+#include <model/elementchange.h>
 #include <model/netdata.h>
 #include <tools/findinglist.h>
 
@@ -57,8 +58,8 @@ public:
   const QString &templateFolder() const { return m_templateFolder; }
   /// Of the scenario's compressor database; empty without one.
   const MachineData &machines() const { return m_machines; }
-  /// After a property of elements has changed: what depends on it.
-  void computeAgain(const QStringList &names, const QString &property);
+  /// Computes what depends on the changes.
+  void computeAgain(const std::vector<ElementChange> &changes);
   const Seconds &seconds() const { return m_seconds; }
   bool wasCancelled() const { return m_cancelled; }
   QString error() const { return m_error; } ///< why the last step failed, for a person

@@ -30,12 +30,15 @@
 #include <QStyleFactory>
 #include <QToolButton>
 
+#include <utility>
+
 NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::NivraViewer>())
     , m_control(std::make_unique<NetVisControl>(m_net, QString()))
     , m_loader(m_net)
-    , m_categories(std::make_shared<CategoryList>()) {
+    , m_categories(std::make_shared<CategoryList>())
+    , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); }) {
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());
@@ -52,7 +55,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   QCoreApplication::processEvents();
   addAction(m_ui->actionSearch);
   connect(m_ui->menuView, &QMenu::aboutToShow, m_tools, [this] { m_tools->fillViewMenu(*m_ui->menuView); });
-  connect(this, &NivraViewer::currentEleChanged, m_tools, &ToolDocks::showElement);
+  connect(m_control.get(), &NetVisControl::currentElementChanged, this, &NivraViewer::currentEleChanged);
   connect(m_tools, &ToolDocks::elementMarked, this,
           [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
   connect(m_ui->actionSearch, &QAction::triggered, this, [this] {
@@ -61,12 +64,12 @@ NivraViewer::NivraViewer(QWidget *parent)
   });
   connect(m_control.get(), &NetVisControl::elementAction, this, [this](const QString &name, NetPicker::EleAction action) {
     if (action == NetPicker::EleAction::Mark)
-      setCurrentElement(name); // the picker has marked it already
+      m_control->setCurrentElement(name); // the picker has selected it already
     else
       elementAction(name, action);
   });
   connect(m_control.get(), &NetVisControl::subnetWanted, this, &NivraViewer::openSubnet);
-  connect(m_tools, &ToolDocks::propertyChanged, this, &NivraViewer::computeAgain);
+  connect(m_tools, &ToolDocks::elementsChanged, this, &NivraViewer::addChange);
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
   setAcceptDrops(true);
   GeneralSettings::instance().load(QString(), logFinding);
@@ -214,7 +217,8 @@ bool NivraViewer::readWorkspace() {
   qDeleteAll(subnetWindows()); // parts of the network before
   m_control->clear();
   m_net.clear();
-  m_currentElement.clear();
+  m_showingChanges.cancel();
+  m_changes.clear();
   LoadProgress progress(m_ui->statusbar);
   m_progress = &progress;
   NetworkLoader::ReadOptions options;
@@ -258,10 +262,7 @@ void NivraViewer::openSubnet(const QString &name) {
   auto *window = new SubnetWindow(m_net, name, m_loader.workspace(), m_categories, this);
   connect(window, &SubnetWindow::elementMarked, this,
           [this](const QString &picked) { elementAction(picked, NetPicker::EleAction::Mark); });
-  connect(window, &SubnetWindow::propertyChanged, this, [this](const QStringList &names, const QString &property) {
-    computeAgain(names, property);
-    m_tools->reload();
-  });
+  connect(window, &SubnetWindow::elementsChanged, this, &NivraViewer::addChange);
   connect(window->visControl(), &NetVisControl::openCharacteristicsRequested, m_tools, &ToolDocks::openCharacteristics);
   window->show();
 }
@@ -270,11 +271,16 @@ QList<SubnetWindow *> NivraViewer::subnetWindows() const {
   return findChildren<SubnetWindow *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-void NivraViewer::computeAgain(const QStringList &names, const QString &property) {
-  m_loader.computeAgain(names, property);
+/// What depends on a change waits for the end of the turn of the event loop, and with it for other changes.
+void NivraViewer::addChange(const ElementChange &change) {
+  m_changes.push_back(change);
+  m_showingChanges.request();
+}
+
+void NivraViewer::showChanges() {
+  m_loader.computeAgain(std::exchange(m_changes, {}));
   m_tools->setFindings(m_loader.noticed());
-  m_tools->showElement(m_currentElement);
-  m_tools->refreshMachines();
+  m_tools->showChanges();
   m_control->redraw();
   for (SubnetWindow *window : subnetWindows())
     window->takeProperties();
@@ -306,11 +312,10 @@ void NivraViewer::setBusy(bool busy) {
 void NivraViewer::elementAction(const QString &eleName, NetPicker::EleAction eleAction) {
   switch (eleAction) {
   case NetPicker::EleAction::Mark:
-    m_control->picker()->markElement(eleName);
-    setCurrentElement(eleName);
+    m_control->mark(eleName);
     break;
   case NetPicker::EleAction::ShowInfo:
-    setCurrentElement(eleName);
+    m_control->setCurrentElement(eleName);
     m_tools->showInfo(eleName);
     break;
   case NetPicker::EleAction::OpenCharacteristics:
@@ -319,13 +324,6 @@ void NivraViewer::elementAction(const QString &eleName, NetPicker::EleAction ele
   case NetPicker::EleAction::EditProperties: // a viewer changes no properties
     break;
   }
-}
-
-void NivraViewer::setCurrentElement(const QString &name) {
-  if (name == m_currentElement)
-    return;
-  m_currentElement = name;
-  emit currentEleChanged(name);
 }
 
 void NivraViewer::dragEnterEvent(QDragEnterEvent *event) {

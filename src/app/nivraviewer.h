@@ -3,6 +3,8 @@
 #include "networkloader.h"
 #include "outcomestyle.h"
 
+#include <base/onceperturn.h>
+#include <model/elementchange.h>
 #include <model/netdata.h>
 #include <view/netpicker.h>
 
@@ -10,6 +12,7 @@
 #include <QPointer>
 
 #include <memory>
+#include <vector>
 
 class CategoryList;
 class LoadProgress;
@@ -59,10 +62,10 @@ private:
   OutcomeStyle::Outcome outcome(bool isDone) const;
   bool readWorkspace();
   bool askForIncludeLists(NetworkLoader::ReadOptions &options);
-  void setCurrentElement(const QString &name);
   void openSubnet(const QString &name);
   QList<SubnetWindow *> subnetWindows() const;
-  void computeAgain(const QStringList &names, const QString &property);
+  void addChange(const ElementChange &change);
+  void showChanges();
   void showTitle();
   void setBusy(bool busy);
   QList<QPointer<QWidget>> otherWindows() const;
@@ -74,6 +77,7 @@ private:
   NetworkLoader m_loader;
   std::shared_ptr<CategoryList> m_categories;
   ToolDocks *m_tools = nullptr;
-  QString m_currentElement;
+  std::vector<ElementChange> m_changes; ///< since the last showChanges()
+  OncePerTurn m_showingChanges;
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read
 };

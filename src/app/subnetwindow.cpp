@@ -35,16 +35,17 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
                                            : tr("%1 nodes and %2 edges").arg(m_net.nodes().size()).arg(m_net.edges().size());
   statusBar()->addPermanentWidget(new QLabel(contents));
   connect(m_tools, &ToolDocks::elementMarked, this, [this](const QString &name) {
-    m_control->picker()->markElement(name);
-    showElement(name);
+    m_control->mark(name);
+    emit elementMarked(name);
   });
-  connect(m_tools, &ToolDocks::propertyChanged, this, &SubnetWindow::giveProperty);
+  connect(m_tools, &ToolDocks::elementsChanged, this, &SubnetWindow::giveProperty);
   connect(m_control.get(), &NetVisControl::elementAction, this, [this](const QString &name, NetPicker::EleAction action) {
     if (action == NetPicker::EleAction::OpenCharacteristics)
       emit m_control->openCharacteristicsRequested({name});
     else if (action == NetPicker::EleAction::ShowInfo)
       m_tools->showInfo(name);
-    showElement(name);
+    m_control->setCurrentElement(name);
+    emit elementMarked(name);
   });
 }
 
@@ -60,24 +61,18 @@ void SubnetWindow::fillMenus() {
   connect(view, &QMenu::aboutToShow, m_tools, [this, view] { m_tools->fillViewMenu(*view); });
 }
 
-void SubnetWindow::showElement(const QString &name) {
-  m_tools->showElement(name);
-  emit elementMarked(name);
-}
-
-void SubnetWindow::giveProperty(const QStringList &names, const QString &property) {
-  const PropertyKey key = PropertyKey::intern(property);
-  for (const QString &name : names) {
+void SubnetWindow::giveProperty(const ElementChange &change) {
+  for (const QString &name : change.elements) {
     const element *here = m_net.element(name);
     element *there = m_whole.element(name);
     if (here == nullptr || there == nullptr)
       continue;
-    if (const PropertyText *value = here->find(key))
-      there->set(key, *value);
+    if (const PropertyText *value = here->find(change.property))
+      there->set(change.property, *value);
     else
-      there->erase(key);
+      there->erase(change.property);
   }
-  emit propertyChanged(names, property);
+  emit elementsChanged(change);
 }
 
 void SubnetWindow::takeProperties() {
@@ -95,7 +90,7 @@ void SubnetWindow::takeProperties() {
     here = std::move(taken);
   });
   m_control->redraw();
-  m_tools->reload();
+  m_tools->showChanges();
 }
 
 NetData SubnetWindow::part(const NetData &net, const QString &subnet) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <model/elementchange.h>
 #include <model/netdata.h>
 
 #include <QMainWindow>
@@ -33,12 +34,11 @@ public:
 
 signals:
   void elementMarked(const QString &name);
-  void propertyChanged(const QStringList &names, const QString &property); ///< in the network, as here
+  void elementsChanged(const ElementChange &change); ///< in the network, as here
 
 private:
   void fillMenus();
-  void showElement(const QString &name);
-  void giveProperty(const QStringList &names, const QString &property);
+  void giveProperty(const ElementChange &change);
 
   NetData &m_whole;
   QString m_subnet;

@@ -48,6 +48,7 @@ ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control, std::shared_pt
     , m_extent(extent) {
   window.installEventFilter(this);
   connect(&control, &NetVisControl::selectionChanged, this, &ToolDocks::showSelection);
+  connect(&control, &NetVisControl::currentElementChanged, this, &ToolDocks::showContents);
   connect(&control, &NetVisControl::configureDrawRequested, this, &ToolDocks::showDrawConfiguration);
   if (extent == Extent::Network)
     return;
@@ -152,7 +153,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
     createCharacteristics();
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), workspace.filePath(QStringLiteral("plotsettings.ini")));
   m_draw->refresh();
-  m_marked.clear();
+  m_shown.clear();
   m_propViewer->showCurrentEleContents(nullptr);
   m_info->reset();
   m_search->clearResults();
@@ -180,10 +181,6 @@ void ToolDocks::setMachines(const MachineData &machines) {
   m_characteristics->setCase(m_directory);
 }
 
-void ToolDocks::refreshMachines() {
-  m_characteristics->refresh();
-}
-
 void ToolDocks::openCharacteristics(const QStringList &names) {
   for (const QString &name : names) {
     if (m_characteristics == nullptr || !m_characteristics->open(name))
@@ -194,13 +191,9 @@ void ToolDocks::openCharacteristics(const QStringList &names) {
 void ToolDocks::createLayers() {
   m_layers = new NivraNetLayersEditor(m_net, &m_window);
   addDock(m_layers, QStringLiteral("layers"), Qt::LeftDockWidgetArea);
-  connect(m_layers, &NivraNetLayersEditor::hiddenLayersWanted, this,
-          [this](const QString &property, const QSet<QString> &hidden) {
-            m_control.setHiddenLayers(property, hidden);
-            m_layers->setHiddenLayers(m_control.hiddenLayers());
-          });
-  connect(m_layers, &NivraNetLayersEditor::layerVisChanged, &m_control, &NetVisControl::redrawLayers);
-  connect(m_layers, &NivraNetLayersEditor::propertyChanged, this, &ToolDocks::propertyChanged); // which draws
+  connect(m_layers, &NivraNetLayersEditor::layerVisChanged, &m_control, &NetVisControl::setHiddenLayers);
+  connect(&m_control, &NetVisControl::hiddenLayersChanged, m_layers, &NivraNetLayersEditor::setHiddenLayers);
+  connect(m_layers, &NivraNetLayersEditor::elementsChanged, this, &ToolDocks::elementsChanged);
   connect(m_layers, &NivraNetLayersEditor::itemClicked, this, &ToolDocks::elementMarked);
   connect(m_layers, &NivraNetLayersEditor::itemDoubleClicked, &m_control, &NetVisControl::showElement);
 }
@@ -233,10 +226,14 @@ bool ToolDocks::settleChanges() {
   return m_categories == nullptr || m_categories->settleChanges();
 }
 
-void ToolDocks::reload() {
+void ToolDocks::showChanges() {
   m_layers->on_pushButtonReload_clicked();
   if (m_vectorTable != nullptr)
-    m_vectorTable->on_pushButtonUpdate_clicked();
+    m_vectorTable->showValues();
+  m_search->searchAgain();
+  if (m_characteristics != nullptr)
+    m_characteristics->refresh(); // the working points
+  showContents(m_shown);
 }
 
 void ToolDocks::showVectorTable() {
@@ -319,21 +316,17 @@ NivraEleInfoWidget::PlotLabel ToolDocks::plotLabel(const element &e) const {
   return {text.html.isEmpty() ? lines.join(QStringLiteral("<br />")) : text.html, style.font, style.text, style.background};
 }
 
-void ToolDocks::showElement(const QString &name) {
-  m_marked = name;
-  showContents(name);
-}
-
 QString ToolDocks::marked() const {
   const Selection::Names names = m_net.selection().names();
   if (names.size() == 1)
     return *names.cbegin();
-  return names.contains(m_marked) ? m_marked : QString();
+  return names.contains(m_control.currentElement()) ? m_control.currentElement() : QString();
 }
 
 void ToolDocks::showContents(const QString &name) {
   if (m_propViewer == nullptr)
     return;
+  m_shown = name;
   const element *e = m_net.element(name);
   if (m_propViewer->isVisible())
     m_propViewer->showCurrentEleContents(e);
@@ -350,7 +343,7 @@ void ToolDocks::showInfo(const QString &name) {
   m_info->parentWidget()->show();
   m_propViewer->show();
   m_propViewer->raise();
-  showElement(name);
+  showContents(name);
 }
 
 void ToolDocks::showProperties(const QStringList &names) {
@@ -364,7 +357,7 @@ void ToolDocks::showProperties(const QStringList &names) {
   }
   m_propViewer->show();
   m_propViewer->raise();
-  m_propViewer->showCurrentEleContents(m_net.element(names.first()));
+  showContents(names.first());
 }
 
 void ToolDocks::createSearch() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <model/elementchange.h>
 #include <model/netdata.h>
 #include <tools/findinglist.h>
 #include <tools/nivraeleinfowidget.h>
@@ -54,13 +55,12 @@ public:
   /// Before another case: false when a person wants to stay with changes that are not saved.
   bool settleChanges();
 
-  /// After properties were changed elsewhere.
-  void reload();
+  /// After properties have changed: shows them in whatever shows values.
+  void showChanges();
 
   void showVectorTable();
   void showMetaData();
-  void showElement(const QString &name);
-  /// As showElement(), in docks that come to the front.
+  /// What is known of the element, in docks that come to the front.
   void showInfo(const QString &name);
   /// The property viewer, in front, with the first of the elements.
   void showProperties(const QStringList &names);
@@ -68,8 +68,6 @@ public:
   /// The maps of compressors and drives, in pages of their own.
   void openCharacteristics(const QStringList &names);
   void setMachines(const MachineData &machines);
-  /// After properties have changed, the working points with them.
-  void refreshMachines();
   /// The page of the guide about a tool.
   void showHelp(const QString &page);
   /// What case and scenario say beside the network.
@@ -79,8 +77,8 @@ public:
   QToolButton *findingsButton() const { return m_findingsButton; }
 
 signals:
-  void elementMarked(const QString &name); ///< in one of the tools
-  void propertyChanged(const QStringList &names, const QString &property);
+  void elementMarked(const QString &name);           ///< in one of the tools
+  void elementsChanged(const ElementChange &change); ///< by one of the tools
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
@@ -120,6 +118,6 @@ private:
   std::unique_ptr<MetaDataTable> m_metaData;
   std::unique_ptr<HelpWindow> m_help;
   QString m_directory;          ///< of the case
-  QString m_marked;             ///< last, by whatever tool
+  QString m_shown;              ///< in the docks of an element: the current one, or what the mouse went over
   QStringList m_messagesBefore; ///< those that came before there was a dock for them
 };

@@ -9,6 +9,7 @@
 #include <QMetaMethod>
 
 #include <drawing/drawfunctions.h>
+#include <utility>
 
 NetVisControl::NetVisControl(NetData &net, const QString &name, QObject *parent)
     : QObject(parent)
@@ -16,7 +17,8 @@ NetVisControl::NetVisControl(NetData &net, const QString &name, QObject *parent)
     , m_name(name)
     , m_plot(new NetPlot)
     , m_picker(new NetPicker(*m_plot, net))
-    , m_menu(std::make_unique<PlotMenu>(*m_plot, *m_picker, net)) {
+    , m_menu(std::make_unique<PlotMenu>(*m_plot, *m_picker, net))
+    , m_drawing(OncePerTurn::Stage::Draw, [this] { draw(); }) {
   m_plot->setShowsSubnet(!name.isEmpty());
   connect(m_picker, &NetPicker::selectionChanged, this, &NetVisControl::selectionChanged);
   connect(m_picker, &NetPicker::picked, this,
@@ -59,6 +61,8 @@ NetVisControl::~NetVisControl() {
 }
 
 void NetVisControl::clear() {
+  m_drawing.cancel();
+  m_currentElement.clear();
   m_picker->reset();
   m_plot->selection().setGeometry(nullptr);
   m_plot->update().setNetData(nullptr);
@@ -66,6 +70,7 @@ void NetVisControl::clear() {
 }
 
 void NetVisControl::showNetData(const QString &plotSettingsPath) {
+  m_drawing.cancel(); // all of it is drawn below
   m_settingsPath = plotSettingsPath;
   m_plot->readMousePattern();          // the workspace may have general settings of its own
   m_plot->setSettings(PlotSettings()); // nothing of the case before
@@ -84,21 +89,34 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   m_plot->showNetwork();
 }
 
+void NetVisControl::draw() {
+  m_plot->update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes,
+                              std::exchange(m_labels, NetUpdate::Labels::Kept));
+}
+
 void NetVisControl::redraw() {
-  m_plot->update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  m_labels = NetUpdate::Labels::Renewed;
+  m_drawing.request();
+  m_drawing.flush();
 }
 
 void NetVisControl::setHiddenLayers(const QString &property, const QSet<QString> &layers) {
   m_plot->update().setHiddenLayers(property, layers);
+  emit hiddenLayersChanged(layers);
+  m_labels = NetUpdate::Labels::Renewed;
+  m_drawing.request();
 }
 
-const QSet<QString> &NetVisControl::hiddenLayers() const {
-  return m_plot->update().layers().hidden();
+void NetVisControl::setCurrentElement(const QString &name) {
+  if (name == m_currentElement)
+    return;
+  m_currentElement = name;
+  emit currentElementChanged(name);
 }
 
-void NetVisControl::redrawLayers() {
-  redraw();
-  m_plot->update().requestPixtest(0);
+void NetVisControl::mark(const QString &name) {
+  m_picker->markElement(name);
+  setCurrentElement(name);
 }
 
 void NetVisControl::relabelNow() {
@@ -134,7 +152,7 @@ void NetVisControl::selectSearchResults(bool topoClosure, bool additive) {
 void NetVisControl::setShowsSearchResults(bool shows) {
   using Mode = NetUpdate::DisplayMode;
   m_plot->update().setDisplayMode(shows ? Mode::SearchResults : Mode::Functions);
-  redraw();
+  m_drawing.request();
 }
 
 bool NetVisControl::showsSearchResults() const {

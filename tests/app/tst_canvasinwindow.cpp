@@ -60,7 +60,7 @@ private:
     PlotSettings settings = plot.settings();
     settings.legendPos = 1; // top left
     plot.setSettings(settings);
-    plot.update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+    plot.update().updatePlot();
   }
 
   const WorkspaceFixture m_workspace;

@@ -408,10 +408,12 @@ void TestWindow::toolsAndDrawingMeet() {
 
   layers->setLayerProperty(QStringLiteral("type"));
   layers->on_toolButtonHideAll_clicked();
+  QApplication::processEvents();
   const NetUpdate &update = control.plot()->update();
   const QPointF a = update.projection().map(0, 0);
   QVERIFY(update.elementsAt(a, 8.0).empty()); // what is not drawn cannot be picked
   layers->on_toolButtonShowAll_clicked();
+  QApplication::processEvents();
   QVERIFY(!update.elementsAt(a, 8.0).empty());
   viewer.on_actionElement_Table_triggered();
   viewer.on_actionMetadataTable_triggered();
@@ -453,11 +455,13 @@ void TestWindow::subnetsHaveWindowsOfTheirOwn() {
   element &here = window->visControl()->net().edges().at(QStringLiteral("M_V1"));
   element &there = viewer.visControl()->net().edges().at(QStringLiteral("M_V1"));
   here.set(QStringLiteral("vis.layer"), QStringLiteral("L"));
-  emit layers->propertyChanged({QStringLiteral("M_V1"), QStringLiteral("gone")}, QStringLiteral("vis.layer"));
+  const PropertyKey layer = PropertyKey::find("vis.layer");
+  emit layers->elementsChanged({{QStringLiteral("M_V1"), QStringLiteral("gone")}, layer});
   QCOMPARE(there.value(QStringLiteral("vis.layer")), QStringLiteral("L"));
   QVERIFY(!there.contains(QStringLiteral("isSearchResult")) && here.contains(QStringLiteral("isSearchResult")));
   there.erase(QStringLiteral("vis.layer"));
-  emit viewer.findChild<ToolDocks *>()->propertyChanged({QStringLiteral("M_V1")}, QStringLiteral("vis.layer"));
+  emit viewer.findChild<ToolDocks *>()->elementsChanged({{QStringLiteral("M_V1")}, layer});
+  QApplication::processEvents();
   QVERIFY(!here.contains(QStringLiteral("vis.layer")));
   QVERIFY(here.contains(QStringLiteral("isSearchResult")));
 

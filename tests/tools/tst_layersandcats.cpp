@@ -114,7 +114,7 @@ namespace {
 /// What the drawing does with the wishes of the editor.
 struct Drawing {
   explicit Drawing(NivraNetLayersEditor &editor) {
-    QObject::connect(&editor, &NivraNetLayersEditor::hiddenLayersWanted, &editor,
+    QObject::connect(&editor, &NivraNetLayersEditor::layerVisChanged, &editor,
                      [this, &editor](const QString &, const QSet<QString> &wanted) {
                        hidden = wanted;
                        editor.setHiddenLayers(hidden);
@@ -159,7 +159,6 @@ void TestLayersAndCats::editorShowsAndHides() {
   const QAbstractItemModelTester sorted(table->model());
   QCOMPARE(table->model()->rowCount(), 2);
   QCOMPARE(text(*table, 1, LayerModel::CountColumn), QStringLiteral("2"));
-  const QSignalSpy wanted(&editor, &NivraNetLayersEditor::hiddenLayersWanted);
   const QSignalSpy changed(&editor, &NivraNetLayersEditor::layerVisChanged);
   clickBox(*table, 1);
   QCOMPARE(changed.count(), 1);
@@ -173,7 +172,6 @@ void TestLayersAndCats::editorShowsAndHides() {
   editor.on_toolButtonHideAll_clicked();
   editor.on_toolButtonHideAll_clicked(); // as they are already
   QCOMPARE(changed.count(), 3);
-  QCOMPARE(wanted.count(), 3);
   QVERIFY(cell(*table, 0, LayerModel::LayerColumn).flags() & Qt::ItemIsEditable);
   editor.changeEditMode(NivraNetLayersEditor::EditMode::VisibilityOnly);
   QVERIFY(!(cell(*table, 0, LayerModel::LayerColumn).flags() & Qt::ItemIsEditable));
@@ -244,7 +242,7 @@ void TestLayersAndCats::renamingKeepsWhatIsHidden() {
   };
   clickBox(*table, 1);
   const QSignalSpy visibility(&editor, &NivraNetLayersEditor::layerVisChanged);
-  const QSignalSpy changed(&editor, &NivraNetLayersEditor::propertyChanged);
+  const QSignalSpy changed(&editor, &NivraNetLayersEditor::elementsChanged);
   {
     const Answers answers({NivraMsg::Answer::Yes});
     rename(1, "a pipe");
@@ -254,7 +252,11 @@ void TestLayersAndCats::renamingKeepsWhatIsHidden() {
   QCOMPARE(text(*table, 0, LayerModel::LayerColumn), QStringLiteral("a pipe")); // where sorting puts it
   QCOMPARE(check(*table, 0), Qt::Unchecked);
   QCOMPARE(table->currentIndex().row(), 0);
-  QCOMPARE(visibility.count() + changed.count(), 1); // each of which draws
+  QCOMPARE(visibility.count(), 1);
+  QCOMPARE(changed.count(), 1);
+  const auto change = changed.first().first().value<ElementChange>();
+  QCOMPARE(change.elements, (QStringList{QStringLiteral("AB"), QStringLiteral("CB")}));
+  QCOMPARE(change.property, PropertyKey::find("vis.layer"));
   {
     const Answers no({NivraMsg::Answer::No}); // a layer of that name is there
     rename(0, "c");

@@ -308,6 +308,18 @@ void TestNivraSearch::changedElementIsSearchedAgain() {
   panel.updateSearchItems(changed, QString());
   QCOMPARE(rows(panel), 1);
   QVERIFY(!changed.contains(QStringLiteral("isSearchResult")));
+  changed.set(QStringLiteral("p"), QStringLiteral("50"));
+  table(panel)->setCurrentIndex(cell(panel, 0, 1));
+  const QString current = cell(panel, 0, 0).data().toString();
+  const QSignalSpy marked(&panel, &NivraSearch::elementMarked);
+  panel.searchAgain();
+  QCOMPARE(rows(panel), 2);
+  QVERIFY(changed.contains(QStringLiteral("isSearchResult")));
+  QCOMPARE(table(panel)->currentIndex().siblingAtColumn(0).data().toString(), current);
+  QCOMPARE(marked.count(), 0);
+  panel.clearResults();
+  panel.searchAgain(); // for nothing
+  QCOMPARE(rows(panel), 0);
 }
 
 void TestNivraSearch::filtersHoldForWhatIsFoundNext() {

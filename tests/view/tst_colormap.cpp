@@ -116,7 +116,7 @@ void TestColorMap::logarithmicColoursSpreadTheLowEnd() {
   settings.lastColor = 240;
   settings.nodeMag = 12;
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot(NetUpdate::Elements::Renewed);
   const QImage picture = f.picture();
   const auto near = [](int a, int b) {
     return std::abs(a - b) <= 1;
@@ -146,7 +146,7 @@ void TestColorMap::barOfAnotherUnit() {
   settings.maxVal_edgeColor = settings.maxVal_nodeColor = 373.15;
   settings.logScaleColor = settings.logScaleNodeColor = true;
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot(NetUpdate::Elements::Renewed);
   const QImage picture = f.picture();
   QwtScaleWidget *scale = f.plot().plot()->axisWidget(QwtPlot::yRight);
   QVERIFY(std::abs(scale->colorBarInterval().minValue()) < 1e-9);

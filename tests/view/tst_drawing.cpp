@@ -96,13 +96,13 @@ void TestDrawing::innerViolationsReachTheBox() {
   NetworkFormulas formulas(f.net);
   formulas.setDefinitions(FormulaFile::parse(constraint, QStringLiteral("t"), QStringLiteral("results")).definitions);
   formulas.apply();
-  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false); // as after any change of values
+  f.plot().update().updatePlot(); // as after any change of values
   QVERIFY(count(f.picture(), QColor(GeneralSettings::instance().value(ring))) > 40);
   if (constraint.contains("3")) { // what is mended is shown as mended
     element &pipe = *f.net.element(QStringLiteral("AB"));
     pipe.set(QStringLiteral("q"), QStringLiteral("1"));
     formulas.update({{&pipe, PropertyKey::intern("q")}});
-    f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+    f.plot().update().updatePlot();
     const QString none = GeneralSettings::instance().value(QStringLiteral("subnet ring color no BV"));
     QVERIFY(count(f.picture(), QColor(none)) > 40);
   }
@@ -138,7 +138,7 @@ void TestDrawing::subnetsShowHowTheyAreControlled() {
   QVERIFY(count(f.picture(), QColor(GeneralSettings::instance().value(colour))) > 40);
   // What changes is shown as it is now, by the box and by its label.
   f.net.element(QStringLiteral("Station_C1"))->set(QStringLiteral("state"), QStringLiteral("bypass"));
-  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot();
   const QString bypass = GeneralSettings::instance().value(QStringLiteral("subnet color bypass"));
   QVERIFY(count(f.picture(), QColor(bypass)) > 40);
   element &shown = *f.net.assembledSubnets().find(QStringLiteral("Station"));
@@ -186,7 +186,7 @@ void TestDrawing::arrowsPointWhereTheGasGoes() {
   settings = f.plot().settings();
   settings.arrowMag = 12;
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot();
   const QImage picture = f.picture();
   // An arrow is broad at its back and narrow at its tip.
   const auto height = [&picture](const QPoint &place) {
@@ -207,7 +207,7 @@ void TestDrawing::searchResultsStandOut() {
   f.net.element(QStringLiteral("BC"))->set(QStringLiteral("isSearchResult"), QStringLiteral("false"));
   f.show();
   f.plot().update().setDisplayMode(NetUpdate::DisplayMode::SearchResults);
-  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot();
   const QImage picture = f.picture();
   QVERIFY(picture.pixelColor(f.pixel(50, 0)).saturation() > 150);
   QVERIFY(picture.pixelColor(f.pixel(150, 0)).saturation() < 20);
@@ -244,7 +244,7 @@ void TestDrawing::hiddenElementsHaveNoMarks() {
   f.control.picker()->markElement(QStringLiteral("A"));
   QVERIFY(f.picture() != plain);
   f.plot().update().setHiddenLayers(QStringLiteral("vis.layer"), {QStringLiteral("exits")});
-  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot();
   const QImage hidden = f.picture();
   f.control.picker()->setSelection(Selection());
   QCOMPARE(hidden, f.picture());
@@ -325,7 +325,7 @@ void TestDrawing::likeTheKeptPictures() {
   }
   f.plot().update().setLabelTable(table);
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
+  f.plot().update().updatePlot(NetUpdate::Elements::Renewed, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
   if (labels)
     f.plot().update().relabelNow();
   const QImage picture = f.picture().convertToFormat(QImage::Format_RGB32);

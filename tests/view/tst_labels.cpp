@@ -279,11 +279,11 @@ void TestLabels::contentsAreMadeOnce() {
   QCOMPARE(says(), QStringLiteral("Node A: 20 bar"));
   f.net.element(QStringLiteral("B"))->set(QStringLiteral("p"), QStringLiteral("30.25"));
   PlotSettings settings = f.plot().settings();
-  update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  update.updatePlot();
   QCOMPARE(says(), QStringLiteral("Node A: 20.00 bar")); // beside the other's digits
   settings.label_mode = QStringLiteral("name only");
   f.plot().setSettings(settings);
-  update.updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  update.updatePlot();
   QCOMPARE(says(), QStringLiteral("A"));
   f.control.clear();
   QVERIFY(update.labelContents() == nullptr);
@@ -558,7 +558,7 @@ void TestLabels::everyTypeIsShownAsTheTableSays() {
       row[LabelRow::Size] = QString::fromLatin1(size);
     }
     f.plot().update().setLabelTable(table);
-    f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
+    f.plot().update().updatePlot(NetUpdate::Elements::Renewed);
     const QImage area = f.picture().copy(QRect(f.pixel(place.x(), place.y()) - QPoint(45, 45), QSize(90, 90)));
     return area.width() * area.height() - pixels(area, Qt::white);
   };

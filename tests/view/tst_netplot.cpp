@@ -87,7 +87,7 @@ private:
     settings.showXYaxes = true;
     settings.colorScalePos = 0; // nothing at the right leaves room for the last number of the lower scale
     f.plot().setSettings(settings);
-    f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, true);
+    f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
     f.picture();
   }
   /// For as long as it lives, a wheel step is done at once.
@@ -422,7 +422,7 @@ void TestNetPlot::legend() {
   settings.legendPos = corner;
   settings.absColor = true;
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot();
   QCOMPARE(f.plot().legend().isVisible(), shown);
   if (!shown)
     return;
@@ -445,7 +445,7 @@ void TestNetPlot::clearForgetsTheNetwork() {
   f.control.clear();
   f.net.clear();
   f.picture(); // must not look at elements that are gone
-  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
+  f.plot().update().updatePlot(NetUpdate::Elements::Renewed, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
   QVERIFY(f.plot().update().geometry().nodes().empty());
 }
 

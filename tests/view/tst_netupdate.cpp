@@ -120,7 +120,7 @@ void TestNetUpdate::edgesOutOfUseAndWithoutFlow() {
   broad.widthFunc = QStringLiteral("diameter");
   broad.edgeConst = 4;
   f.plot().setSettings(broad);
-  f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+  f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
   const QImage picture = f.picture();
   QVERIFY(isNear(picture.pixelColor(f.pixel(50, 0)), f.plot().settings().edgeColorInactive));
   QVERIFY(isNear(picture.pixelColor(f.pixel(150, 0)), f.plot().settings().edgeColorNoFlow));
@@ -136,7 +136,7 @@ void TestNetUpdate::fixedBounds() {
   settings.minVal_edgeColor = 35; // BC at the low end
   settings.maxVal_edgeColor = 45;
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+  f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
   const QImage picture = f.picture();
   QVERIFY(isNear(picture.pixelColor(f.pixel(125, 0)), hue(240)));
   QVERIFY(
@@ -146,14 +146,14 @@ void TestNetUpdate::fixedBounds() {
   settings.minVal_edgeColor = 1e6;                                         // longer numbers need more room, at once
   settings.maxVal_edgeColor = 9e6;
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+  f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
   const QwtScaleWidget *scale = f.plot().plot()->axisWidget(QwtPlot::yRight);
   QVERIFY(scale->width() >= scale->dimForLength(scale->height(), scale->font()));
   for (const auto &[low, high] : {std::make_pair(50.0, 45.0), {qInf(), qInf()}, {qQNaN(), qQNaN()}}) {
     settings.minVal_edgeColor = low; // upside down or no numbers: the range of the data
     settings.maxVal_edgeColor = high;
     f.plot().setSettings(settings);
-    f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+    f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
     QCOMPARE(f.plot().plot()->axisInterval(QwtPlot::yRight), QwtInterval(20, 60));
   }
 }
@@ -169,7 +169,7 @@ void TestNetUpdate::scaleIsInTheDisplayUnit() {
   settings.absNodeColor = settings.absColor;
   settings.colorScalePos = QwtPlot::xTop;
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+  f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
   const QwtFastPlot &area = *f.plot().plot();
   QVERIFY(area.axisEnabled(QwtPlot::xTop) && !area.axisEnabled(QwtPlot::yRight));
   QVERIFY(area.axisWidget(QwtPlot::xTop)->isColorBarEnabled());
@@ -184,7 +184,7 @@ void TestNetUpdate::withoutValuesThereIsNoScale() {
   settings.colorFunc = QStringLiteral("nobody has this");
   settings.nodeColorFunc = settings.colorFunc;
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot(NetUpdate::Elements::Renewed);
   QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight));
   QVERIFY(!isNear(f.picture().pixelColor(f.pixel(150, 0)), Qt::white));
 }
@@ -225,7 +225,7 @@ void TestNetUpdate::graphFunctionsAreComputed() {
   settings.colorFunc = QStringLiteral("connectivity");
   settings.nodeColorFunc = settings.colorFunc;
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot();
   QCOMPARE(f.plot().plot()->axisInterval(QwtPlot::yRight), QwtInterval(1, 2));
 }
 
@@ -292,7 +292,7 @@ void TestNetUpdate::constantHasItsOwnColour() {
   settings.colorFunc = QStringLiteral("p");
   settings.nodeColorFunc = settings.colorFunc;
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot();
   const std::vector<QColor> bar = barColours(f);
   QVERIFY(bar.size() > 100);
   for (const QColor &colour : bar)
@@ -328,7 +328,7 @@ void TestNetUpdate::ticksTellThemselvesApart() {
     settings.minVal_edgeColor = low;
     settings.maxVal_edgeColor = high;
     f.plot().setSettings(settings);
-    f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+    f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
     const QwtScaleDraw *scale = f.plot().plot()->axisScaleDraw(QwtPlot::yRight);
     const QList<double> ticks = scale->scaleDiv().ticks(QwtScaleDiv::MajorTick);
     QVERIFY(ticks.size() > 2);
@@ -353,7 +353,7 @@ void TestNetUpdate::divergingKeepsFixedBounds() {
     settings.minVal_edgeColor = low;
     settings.maxVal_edgeColor = high;
     f.plot().setSettings(settings);
-    f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+    f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
     return f.plot().plot()->axisInterval(QwtPlot::yRight);
   };
   QCOMPARE(range(PlotSettings::OpenMinimum, PlotSettings::OpenMaximum), QwtInterval(-60, 60));
@@ -375,7 +375,7 @@ void TestNetUpdate::valuesOfTheEnds() {
     PlotSettings settings = f.plot().settings();
     settings.colorFunc = QString::fromLatin1(function);
     f.plot().setSettings(settings);
-    f.plot().update().updatePlot(false, NetUpdate::Which::Edges, false);
+    f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
     return f.plot().update().values().edgeColor().ofElements;
   };
   constexpr double None = NetData::NoValue;
@@ -394,7 +394,7 @@ void TestNetUpdate::drivesStretchNoScale() {
   settings.colorFunc = settings.widthFunc = settings.nodeColorFunc = settings.nodeSizeFunc = QStringLiteral("pressure");
   f.show();
   f.plot().setSettings(settings);
-  f.plot().update().updatePlot(true, NetUpdate::Which::EdgesAndNodes, false);
+  f.plot().update().updatePlot(NetUpdate::Elements::Renewed);
   const DrawValues &values = f.plot().update().values();
   for (const DrawValues::Column *column :
        {&values.edgeColor(), &values.edgeWidth(), &values.nodeColor(), &values.nodeSize()})
@@ -418,7 +418,7 @@ void TestNetUpdate::scalesNameWhatTheyColour() {
   settings.nodeColorFunc = QStringLiteral("height");
   const auto update = [&f, &settings] {
     f.plot().setSettings(settings);
-    f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+    f.plot().update().updatePlot();
   };
   update();
   QVERIFY(title(QwtPlot::yRight).startsWith(QStringLiteral("edges: pressure")));
@@ -444,9 +444,11 @@ void TestNetUpdate::searchHasNoScale() {
   f.plot().show();
   f.show();
   f.control.setShowsSearchResults(true);
+  QApplication::processEvents();
   QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight));
   QVERIFY(!f.plot().legend().label().text().contains(QStringLiteral("Color: p")));
   f.control.setShowsSearchResults(false);
+  QApplication::processEvents();
   QVERIFY(f.plot().plot()->axisEnabled(QwtPlot::yRight));
 }
 
@@ -491,6 +493,7 @@ void TestNetUpdate::timesGoToTheLogFileAlone() {
   f.show();
   QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("after update edges: [0-9.e-]+ sec\\.$")));
   f.control.setShowsSearchResults(true);
+  QApplication::processEvents();
   for (const QList<QVariant> &text : told)
     QVERIFY2(!text.first().toString().contains(QStringLiteral(" sec.")), qPrintable(text.first().toString()));
   QVERIFY(!told.isEmpty()); // that it is drawn is told

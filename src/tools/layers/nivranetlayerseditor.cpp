@@ -53,8 +53,7 @@ void NivraNetLayersEditor::on_lineEditProperty_editingFinished() {
     return;
   m_layers.setProperty(m_ui->lineEditProperty->text());
   fill();
-  emit hiddenLayersWanted(m_layers.property(), {}); // layers of another property are others
-  emit layerVisChanged();
+  emit layerVisChanged(m_layers.property(), {}); // layers of another property are others
 }
 
 void NivraNetLayersEditor::setHiddenLayers(const QSet<QString> &hidden) {
@@ -62,10 +61,13 @@ void NivraNetLayersEditor::setHiddenLayers(const QSet<QString> &hidden) {
 }
 
 void NivraNetLayersEditor::showWithout(const QSet<QString> &hidden) {
-  if (hidden == m_model->hidden())
-    return;
-  emit hiddenLayersWanted(m_layers.property(), hidden);
-  emit layerVisChanged();
+  if (hidden != m_model->hidden())
+    emit layerVisChanged(m_layers.property(), hidden);
+}
+
+/// \param names of elements that have come into a layer or left one
+void NivraNetLayersEditor::tellOfLayers(const QStringList &names) {
+  emit elementsChanged({names, PropertyKey::find(m_layers.property())});
 }
 
 void NivraNetLayersEditor::on_pushButtonReload_clicked() {
@@ -131,9 +133,9 @@ void NivraNetLayersEditor::rename(const QString &layer, const QString &name) {
     hidden.insert(name);
   const QStringList names = m_layers.all().value(layer);
   m_layers.rename(layer, name);
-  emit hiddenLayersWanted(m_layers.property(), hidden);
+  showWithout(hidden);
   fill(name);
-  emit propertyChanged(names, m_layers.property());
+  tellOfLayers(names);
 }
 
 /// Whether a layer may be renamed so; asks the person.
@@ -193,7 +195,7 @@ void NivraNetLayersEditor::on_toolButtonAdd_clicked() {
     return;
   m_layers.add(names, layer);
   fill(layer);
-  emit propertyChanged(names, m_layers.property());
+  tellOfLayers(names);
 }
 
 void NivraNetLayersEditor::on_toolButtonDel_clicked() {
@@ -207,9 +209,9 @@ void NivraNetLayersEditor::on_toolButtonDel_clicked() {
   if (!confirms(tr("Delete Layers"), question))
     return;
   const QStringList names = m_layers.remove(chosen);
-  emit hiddenLayersWanted(m_layers.property(), QSet<QString>(m_model->hidden()).subtract(chosen));
+  showWithout(QSet<QString>(m_model->hidden()).subtract(chosen));
   fill();
-  emit propertyChanged(names, m_layers.property());
+  tellOfLayers(names);
 }
 
 void NivraNetLayersEditor::on_toolButtonShowAll_clicked() {

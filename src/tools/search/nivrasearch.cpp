@@ -110,9 +110,10 @@ void NivraSearch::searchWithFormula() {
     m_searchString.clear();
   }
   m_results->clear();
+  m_lastSearch = searchParams();
   QElapsedTimer timer;
   timer.start();
-  NetworkSearch search(m_net, searchParams());
+  NetworkSearch search(m_net, *m_lastSearch);
   NivraMsg::debug(QStringLiteral("NivraSearch prep time: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
   NetworkSearch::Result result = search.run();
   NivraMsg::debug(QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
@@ -131,7 +132,17 @@ void NivraSearch::showCount() {
   m_ui->label_found->setText(tr("Found: %1").arg(m_results->rows().size()));
 }
 
+void NivraSearch::searchAgain() {
+  if (!m_lastSearch)
+    return;
+  NetworkSearch::Result result = NetworkSearch(m_net, *m_lastSearch).run();
+  m_results->update(std::move(result.rows));
+  showCount();
+  showHint(result.isStopped ? result.error : SearchHint::of(m_net, *m_lastSearch, m_results->rows().size()));
+}
+
 void NivraSearch::clearResults() {
+  m_lastSearch.reset();
   m_results->clear();
   showHint(QString());
   m_ui->label_found->setText(tr("Found:"));

@@ -45,6 +45,14 @@ void SearchResults::show(std::vector<SearchRow> rows) {
   m_view.scrollToTop();
 }
 
+void SearchResults::update(std::vector<SearchRow> rows) {
+  const QSignalBlocker blocker(&m_view);
+  const QString current = m_view.currentIndex().data(SearchResultsModel::ElementRole).toString();
+  m_model.setRows(std::move(rows));
+  if (!current.isEmpty())
+    select(current);
+}
+
 void SearchResults::replace(const QString &name, const std::vector<SearchRow> &rows) {
   const QSignalBlocker blocker(&m_view);
   m_model.replace(name, rows);

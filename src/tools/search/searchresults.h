@@ -17,6 +17,9 @@ public:
   void clear() { m_model.setRows({}); }
   /// Puts these rows in place of those before, sorted by name.
   void show(std::vector<SearchRow> rows);
+  /// Puts these rows in place of those before, in the order in which they are shown now. The element of the current row
+  /// stays the current one, and no signal tells of it.
+  void update(std::vector<SearchRow> rows);
   /// Puts these rows in place of those of the element. No row is the current one afterwards, and no signal tells it.
   void replace(const QString &name, const std::vector<SearchRow> &rows);
   /// Makes the first row of the element the current one, without a signal; false, and no current row, when there is none.

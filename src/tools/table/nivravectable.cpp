@@ -170,12 +170,17 @@ void NivraVecTable::on_updateCats(const CatMap &catDataInput) {
   m_isUpdating = false;
   if (isPropertyMode())
     return;
-  if (!isVisible())
-    m_isStale = true;
-  else if (isAnother)
+  if (isAnother && isVisible())
     listSomethingElse();
   else
+    showValues();
+}
+
+void NivraVecTable::showValues() {
+  if (isVisible())
     on_pushButtonUpdate_clicked();
+  else
+    m_isStale = true;
 }
 
 void NivraVecTable::showEvent(QShowEvent *event) {

@@ -218,7 +218,7 @@ void NetPlot::showNetwork() {
   m_selection.setGeometry(&m_update->geometry());
   {
     const PlotZoom::OwnRequest own(*m_zoomer);
-    m_update->updatePlot(true, NetUpdate::Which::EdgesAndNodes, true);
+    m_update->updatePlot(NetUpdate::Elements::Renewed, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
   }
   refresh(-1);
 }

@@ -362,7 +362,8 @@ bool viewFuncDialog::apply() {
 void viewFuncDialog::draw(const PlotSettings &before, const LabelTable &labels) {
   const bool rebuilds = labels != m_plot.update().labelTable();
   m_plot.update().setLabelTable(labels);
-  m_plot.update().updatePlot(rebuilds, NetUpdate::Which::EdgesAndNodes, true);
+  m_plot.update().updatePlot(rebuilds ? NetUpdate::Elements::Renewed : NetUpdate::Elements::Kept,
+                             NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
   // The original ratio is that of the whole network; the aspect ratio keeps to what is seen.
   if (m_plot.settings().fixAxesRatio != before.fixAxesRatio || m_ui->viewport->currentIndex() == OriginalRatio)
     m_plot.zoomer()->fitBase();

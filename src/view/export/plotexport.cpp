@@ -76,7 +76,7 @@ private:
 void layOut(NetPlot &plot, bool hasLabels) {
   QImage scrap(1, 1, QImage::Format_RGB32);
   plot.render(&scrap);
-  plot.update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
+  plot.update().updatePlot();
   if (hasLabels)
     plot.update().placeLabelsNow();
   else

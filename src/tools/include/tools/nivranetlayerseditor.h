@@ -1,5 +1,6 @@
 #pragma once
 
+#include <model/elementchange.h>
 #include <tools/layers.h>
 
 #include <QDockWidget>
@@ -41,13 +42,12 @@ public:
   void on_listWidget_currentItemChanged(const QModelIndex &current, const QModelIndex &previous);
 
 signals:
-  /// Nothing is to be drawn for it: layerVisChanged() or propertyChanged() follow.
-  void hiddenLayersWanted(const QString &property, const QSet<QString> &hidden);
-  void layerVisChanged();
+  /// \param hidden the layers, by the values of the property, that a person wants to be hidden
+  void layerVisChanged(const QString &property, const QSet<QString> &hidden);
   void itemDoubleClicked(const QString &eleName);
   void itemClicked(const QString &eleName);
   void selectionChanged();
-  void propertyChanged(const QStringList &names, const QString &property); ///< elements came into a layer or left one
+  void elementsChanged(const ElementChange &change); ///< elements came into a layer or left one
 
 public slots:
   void on_toolButtonAdd_clicked();
@@ -56,7 +56,7 @@ public slots:
   void on_toolButtonShowAll_clicked();
   void on_toolButtonHideAll_clicked();
   void on_toolButtonInvert_clicked();
-  void on_pushButtonReload_clicked();
+  void on_pushButtonReload_clicked(); ///< looks up the layers of the elements anew
   void on_lineEditProperty_editingFinished();
   void changeEditMode(NivraNetLayersEditor::EditMode mode);
 
@@ -66,6 +66,7 @@ private:
   void rename(const QString &layer, const QString &name);
   bool mayBecome(const QString &name);
   void showWithout(const QSet<QString> &hidden);
+  void tellOfLayers(const QStringList &names);
   void showList(const QString &layer);
   QString layerAt(const QModelIndex &index) const;
   QString askForLayer();

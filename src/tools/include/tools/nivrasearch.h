@@ -8,6 +8,7 @@
 #include <QModelIndex>
 
 #include <memory>
+#include <optional>
 
 class FormulaMode;
 class QLineEdit;
@@ -31,6 +32,8 @@ public:
   bool select(const QString &elementName);
   /// After an element has changed: its rows are made anew. \param oldName empty when it still has its name
   void updateSearchItems(element &changed, const QString &oldName);
+  /// After values have changed: shows what the last search finds now. Without effect before the first search.
+  void searchAgain();
   /// After the network has changed altogether.
   void clearResults();
   /// Asks for the results to be selected in place of what is; the buttons of the panel offer more.
@@ -94,6 +97,7 @@ private:
   SearchResults *m_results = nullptr;
   FormulaMode *m_formulaMode = nullptr;
   NetData &m_net;
+  std::optional<SearchParams> m_lastSearch; ///< whose results are shown
   SearchHistory m_history;
   QString m_name;
   QString m_searchString;

@@ -28,6 +28,8 @@ public:
   void setDirectory(const QString &directory) { m_directory = directory; }
   /// After the network has changed: the properties that there are.
   void refresh();
+  /// After values have changed: lists them anew as soon as somebody sees the table.
+  void showValues();
   /// False with the reason.
   bool save(const QString &path, QString *reason) const;
 
@@ -79,7 +81,7 @@ private:
   QString m_chosenProperty;
   QString m_directory;
   bool m_isUpdating = false;
-  bool m_isStale = false; ///< the category has changed while nobody saw it
+  bool m_isStale = false; ///< the category or values have changed while nobody saw it
   VectorModel *m_model;
   VectorPlot *m_plot;
   TableMenu *m_menu = nullptr;

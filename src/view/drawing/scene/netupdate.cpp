@@ -77,11 +77,12 @@ void NetUpdate::setFolder(const QString &folder, const QString &subnetIcons) {
   m_subnets.setTable(table);
 }
 
-void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
+void NetUpdate::updatePlot(Elements elements, Which which, Labels labels) {
+  const bool rebuild = elements == Elements::Renewed;
   NivraMsg::log(QStringLiteral("Updating plot - rebuild: %2, which: %3, relabel: %4 ...")
                     .arg(int(rebuild))
                     .arg(static_cast<int>(which))
-                    .arg(int(relabel)));
+                    .arg(static_cast<int>(labels)));
   if (m_net == nullptr)
     return;
   QElapsedTimer timer;
@@ -120,7 +121,7 @@ void NetUpdate::updatePlot(bool rebuild, Which which, bool relabel) {
     NivraMsg::debug(QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
   }
   updateSymbols(rebuild);
-  if (relabel) {
+  if (labels == Labels::Renewed) {
     if (m_hasPlacedLabels)
       placeLabels(); // those that stand say something else now; nobody may have to wait for that
     else
@@ -267,7 +268,7 @@ void NetUpdate::clearLabels() {
 
 void NetUpdate::relabelNow() {
   clearLabels();
-  updatePlot(true, Which::EdgesAndNodes, true);
+  updatePlot(Elements::Renewed, Which::EdgesAndNodes, Labels::Renewed);
   placeLabelsNow(); // asks neither the settings nor whether passes are suspended
   requestPixtest(-1);
 }

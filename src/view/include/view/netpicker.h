@@ -7,7 +7,7 @@
 
 class QAction;
 
-/// Turns clicks, drags and keys on the plot into the selection of the network.
+/// Turns clicks, drags and keys on the plot into the selection of the network, which nobody else changes.
 class NetPicker : public QwtPlotPicker {
   Q_OBJECT
 public:
@@ -26,12 +26,11 @@ public:
   void selectAll();
   /// Selects one element by name; false when there is none.
   bool markElement(const QString &name);
+  /// \param more in addition to what is selected already
   void select(const std::vector<NetGeometry::Item> &items, bool more);
   void clearSelection();
   /// Selects the element as a click on it does.
   void choose(NetGeometry::Item item);
-  /// Shows the selection that the network holds, for instance after somebody else has changed it.
-  void showSelection();
   /// Selects what the names say, and shows it.
   void setSelection(const Selection &selection);
   /// What lay under the cursor when a button was pressed, the nearest first, for the menu that this asked for.
@@ -67,6 +66,7 @@ private:
   void deselect(NetGeometry::Item item, Selection &selection) const;
   std::vector<Hit> hitsAt(const QPoint &position) const;
   void pickRectangle(const QRectF &area);
+  void showSelection();
   QString nameOf(NetGeometry::Item item) const;
   QString toolTipFor(NetGeometry::Item item) const;
   void hover(const QPoint &position);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/onceperturn.h>
 #include <model/topology.h>
 #include <view/netpicker.h>
 #include <view/netplot.h>
@@ -12,7 +13,8 @@ class NetData;
 class PlotMenu;
 class QMenu;
 
-/// Brings a network and its plot together.
+/// Brings a network and its plot together: the only door to the drawing of a window. What is selected belongs to the
+/// network, and its picker alone changes it; what is current in the window and which layers are hidden belong here.
 class NetVisControl : public QObject {
   Q_OBJECT
 public:
@@ -33,13 +35,16 @@ public:
   /// Draws the network with the settings of the file or, where there is none, with settings that suit the network. Beside
   /// the file may stand the label table "vfd.csv" and the folder "symbols" with symbols of the user's own.
   void showNetData(const QString &plotSettingsPath);
-  /// Draws values that have changed; elements, places and labels stay as they are.
+  /// After values have changed: draws at once, with what waits for the end of the turn of the event loop. Which elements
+  /// there are and where they lie stays; labels that stand say something else.
   void redraw();
-  /// Layers whose elements are not drawn, by the values of the property; shown with the next redrawLayers().
+  /// Layers whose elements are not drawn, by the values of the property; drawn at the end of the turn.
   void setHiddenLayers(const QString &property, const QSet<QString> &layers);
-  const QSet<QString> &hiddenLayers() const;
-  /// Draws other layers than before, with the labels that belong to them.
-  void redrawLayers();
+  /// Makes the element the current one of the window; empty for none.
+  void setCurrentElement(const QString &name);
+  const QString &currentElement() const { return m_currentElement; }
+  /// Selects the element, where it is drawn, and makes it the current one.
+  void mark(const QString &name);
   /// Places labels at once, whatever the settings say.
   void relabelNow();
   /// What labels say; null without a network. Valid until something is drawn anew.
@@ -48,7 +53,7 @@ public:
   bool showElement(const QString &name);
   /// Selects the elements that the last search marked. \param topoClosure with end nodes and the edges between nodes
   void selectSearchResults(bool topoClosure, bool additive);
-  /// Colours what the last search marked instead of the draw functions.
+  /// Colours what the last search marked instead of the draw functions, from the end of the turn on.
   void setShowsSearchResults(bool shows);
   bool showsSearchResults() const;
   /// After another search.
@@ -60,6 +65,8 @@ public:
 
 signals:
   void selectionChanged();
+  void currentElementChanged(const QString &name);
+  void hiddenLayersChanged(const QSet<QString> &layers);
   void elementAction(const QString &name, NetPicker::EleAction action);
   void editPropertiesRequested(const QStringList &names);
   void openCharacteristicsRequested(const QStringList &names);
@@ -68,12 +75,16 @@ signals:
 
 private:
   void fillMenu(QMenu &contextMenu);
+  void draw();
 
   NetData &m_net;
   QString m_name;
   QString m_settingsPath;
   QString m_subnetIcons;
+  QString m_currentElement;
   QPointer<NetPlot> m_plot;
   NetPicker *m_picker; ///< belongs to the canvas of the plot
   std::unique_ptr<PlotMenu> m_menu;
+  OncePerTurn m_drawing;
+  NetUpdate::Labels m_labels = NetUpdate::Labels::Kept; ///< when it is drawn
 };

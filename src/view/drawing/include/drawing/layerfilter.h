@@ -11,7 +11,6 @@
 class LayerFilter {
 public:
   void setHidden(const QString &property, const QSet<QString> &layers);
-  const QSet<QString> &hidden() const { return m_layers; }
   /// Looks up the layers of the elements.
   void read(const NetGeometry &geometry);
 

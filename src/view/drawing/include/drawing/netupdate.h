@@ -26,7 +26,12 @@
 class NetUpdate : public QObject {
   Q_OBJECT
 public:
+  /// Whether to look up anew which elements there are and where they lie.
+  enum class Elements { Kept, Renewed };
+  /// Whose colours, widths and sizes are made anew.
   enum class Which { EdgesAndNodes = 1, Edges = 2, Nodes = 3 };
+  /// Whether labels that stand are placed anew, at once; others come with the next pass.
+  enum class Labels { Kept, Renewed };
   /// How elements are coloured: edges by their function and nodes plainly, both by their functions, or what the search
   /// found in front of the rest.
   enum class DisplayMode { Edges = 0, Functions = 1, SearchResults = 2 };
@@ -47,11 +52,11 @@ public:
   std::vector<QwtPlotItem *> items();
 
   /// The network to show, null for none. It must outlive the drawing or be taken away before; what was drawn of another
-  /// network is forgotten. Shown with the next updatePlot() that rebuilds.
+  /// network is forgotten. Shown with the next updatePlot() that renews the elements.
   void setNetData(const NetData *net);
   const NetData *netData() const { return m_net; }
   /// The folder of the case: it may hold symbols of the user's own in "symbols", and files of figures. For the next
-  /// updatePlot() that rebuilds, as is the following.
+  /// updatePlot() that renews the elements, as is the following.
   /// \param subnetIcons folder with an icon for each kind of subnet, empty for none
   void setFolder(const QString &folder, const QString &subnetIcons = QString());
   void setLabelTable(const LabelTable &table);
@@ -64,10 +69,8 @@ public:
   void setDisplayMode(DisplayMode mode) { m_displayMode = mode; }
   DisplayMode displayMode() const { return m_displayMode; }
 
-  /// \param rebuild looks up anew which elements there are and where they lie
-  /// \param which whose colours, widths and sizes are made anew
-  /// \param relabel asks for new labels: those that stand are placed anew at once, others with the next pass
-  void updatePlot(bool rebuild, Which which, bool relabel);
+  /// Draws the values as they are now.
+  void updatePlot(Elements elements = Elements::Kept, Which which = Which::EdgesAndNodes, Labels labels = Labels::Kept);
   /// What the legend says of the functions as they are drawn.
   QString legendText() const;
   /// What is in colour now, and the colours that stand for no value.
