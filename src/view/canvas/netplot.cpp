@@ -93,16 +93,19 @@ void NetPlot::setUpUpdate() {
 
 NetUpdate::View NetPlot::view() const {
   return {
-      m_plot->visibleRect(), m_plot->unitsPerPixel(),
+      m_plot->visibleRect(),
+      m_plot->unitsPerPixel(),
       Projection(m_plot->canvasMap(QwtPlot::xBottom), m_plot->canvasMap(QwtPlot::yLeft), m_plot->canvas()->contentsRect()),
-      legendArea(), m_showsSubnet};
+      legendArea(),
+      m_zoomer->limits().largest,
+      m_showsSubnet};
 }
 
 void NetPlot::setUpPanner() {
   // The scales beside the drawing show colours, not places.
   m_panner->setAxisEnabled(QwtPlot::xTop, false);
   m_panner->setAxisEnabled(QwtPlot::yRight, false);
-  connect(m_panner, &QwtPanner::panned, m_zoomer, &PlotZoom::takeView);
+  connect(m_panner, &QwtPanner::panned, m_zoomer, &PlotZoom::pushShownView);
   readMousePattern();
 }
 
@@ -148,7 +151,7 @@ void NetPlot::zoomToElement(NetGeometry::Item item) {
   constexpr double Largest = 1000.0;
   const double wanted = Settings::ZoomToElementFactor.value();
   const double factor = qBound(Smallest, wanted, Largest);
-  QSizeF size(m_settings.smallestZoomWidth, m_settings.smallestZoomHeight);
+  QSizeF size = m_zoomer->limits().smallest;
   if (item.kind == NetData::Edge) {
     const QLineF line = geometry.line(geometry.edges()[static_cast<std::size_t>(item.index)]);
     size = size.expandedTo({std::abs(line.dx()), std::abs(line.dy())});
@@ -175,9 +178,7 @@ bool NetPlot::pansWith(Qt::MouseButton button, Qt::KeyboardModifiers keys) const
 }
 
 void NetPlot::setSettings(const PlotSettings &settings) {
-  const PlotSettings before = m_settings;
   m_settings = settings;
-  m_settings.takeZoomLimits(before);
   m_selection.setSizes(m_settings.nodeMag, m_settings.symMag);
   applyColors();
 }

@@ -28,9 +28,9 @@ NetUpdate::NetUpdate(const PlotSettings &settings, std::function<View()> view)
     , m_pixtest([this](Pixtest::Labels labels) { runPixtest(labels); },
                 [this] {
                   const View seen = m_view();
-                  return Pixtest::View{std::max(seen.visible.height() / m_settings.largestZoomHeight,
-                                                seen.visible.width() / m_settings.largestZoomWidth),
-                                       seen.isOfSubnet};
+                  return Pixtest::View{
+                      std::max(seen.visible.height() / seen.largest.height(), seen.visible.width() / seen.largest.width()),
+                      seen.isOfSubnet};
                 }) {
   m_symbols.setCovers([this](const Projection &projection) { return m_subnets.boxes(projection); });
   m_subnets.setFilter(&m_layers, &m_visibility);

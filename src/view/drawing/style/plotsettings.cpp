@@ -31,20 +31,9 @@ auto drawing(const PlotSettings &s) {
   return std::tie(s.colorRamp, s.colorClasses, s.classMethod, s.classBreaks, s.typedBounds, s.showGrid);
 }
 
-auto zoomLimits(const PlotSettings &s) {
-  return std::tie(s.smallestZoomWidth, s.smallestZoomHeight, s.largestZoomWidth, s.largestZoomHeight);
-}
-
 } // namespace
-
-void PlotSettings::takeZoomLimits(const PlotSettings &other) {
-  smallestZoomWidth = other.smallestZoomWidth;
-  smallestZoomHeight = other.smallestZoomHeight;
-  largestZoomWidth = other.largestZoomWidth;
-  largestZoomHeight = other.largestZoomHeight;
-}
 
 bool operator==(const PlotSettings &a, const PlotSettings &b) {
   return functions(a) == functions(b) && magnitudes(a) == magnitudes(b) && colors(a) == colors(b) &&
-         scales(a) == scales(b) && drawing(a) == drawing(b) && bounds(a) == bounds(b) && zoomLimits(a) == zoomLimits(b);
+         scales(a) == scales(b) && drawing(a) == drawing(b) && bounds(a) == bounds(b);
 }

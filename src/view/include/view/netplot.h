@@ -32,7 +32,7 @@ public:
   const QwtPlotMarker &legend() const { return m_legend; }
 
   const PlotSettings &settings() const { return m_settings; }
-  /// Takes over the settings, save for the zoom limits; what depends on them is drawn with the next updatePlot().
+  /// Takes over the settings; what depends on them is drawn with the next updatePlot().
   void setSettings(const PlotSettings &settings);
 
   /// "plotsettings.ini"; a missing file is logged and changes nothing. False when there is no such file.

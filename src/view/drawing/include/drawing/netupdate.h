@@ -37,6 +37,7 @@ public:
     QSizeF unitsPerPixel; ///< horizontally and vertically
     Projection projection;
     QRectF legend;           ///< what it covers of the canvas, px; no labels are placed there
+    QSizeF largest;          ///< view that the zoom allows, in plot units
     bool isOfSubnet = false; ///< a plot of its own for one subnet
   };
 

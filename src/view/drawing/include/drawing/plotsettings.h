@@ -60,10 +60,6 @@ struct PlotSettings {
   bool fixAxesRatio = true;
   bool showXYaxes = false;
   double zoomFact = 1.5;
-  double smallestZoomWidth = 10.0; ///< plot units, like the following: made anew with every zoom base, not stored
-  double smallestZoomHeight = 10.0;
-  double largestZoomWidth = 10000.0;
-  double largestZoomHeight = 10000.0;
   int alphaSubnet = 100; ///< 0 to 255
   QString layerProp = QStringLiteral("vis.layer");
 
@@ -74,9 +70,6 @@ struct PlotSettings {
   QString classBreaks; ///< breaks of the user's own in the display unit, ascending, joined by ";"
   QString typedBounds; ///< the bounds of all draw functions as a person typed them, see TypedBounds
   bool showGrid = false;
-
-  /// Takes over the zoom limits of another record, which belong to the network rather than to its drawing.
-  void takeZoomLimits(const PlotSettings &other);
 
   friend bool operator==(const PlotSettings &a, const PlotSettings &b);
   friend bool operator!=(const PlotSettings &a, const PlotSettings &b) { return !(a == b); }
