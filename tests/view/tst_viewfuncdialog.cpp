@@ -15,8 +15,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
-#include <QTableWidget>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -47,6 +49,7 @@ private slots:
   void applyingAgainKeepsTheLabels();
   void oneEditorACell_data();
   void oneEditorACell();
+  void pagesFitTheNarrowestDialog();
 
 private:
   template <typename T>
@@ -54,6 +57,10 @@ private:
     return dialog.findChild<T *>(QString::fromLatin1(name));
   }
   static FunctionRow *row(viewFuncDialog &dialog, int number) { return dialog.findChildren<FunctionRow *>().at(number); }
+  /// Of the first row of the label table.
+  static void setContents(QTableView &table, const QString &text) {
+    table.model()->setData(table.model()->index(0, LabelRow::Contents), text);
+  }
   static void press(viewFuncDialog &dialog, const char *button) { child<QPushButton>(dialog, button)->click(); }
   /// Chooses a colour in the dialog that the button opens.
   static void choose(viewFuncDialog &dialog, const char *button, const QColor &color) {
@@ -190,8 +197,8 @@ void TestViewFuncDialog::savesBothFiles() {
   f.show();
   viewFuncDialog dialog(f.plot());
   dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), folder.filePath(QStringLiteral("plotsettings.ini")));
-  auto *table = child<QTableWidget>(dialog, "labelTable");
-  table->item(0, LabelRow::Contents)->setText(QStringLiteral("@p"));
+  auto *table = child<QTableView>(dialog, "labelTable");
+  setContents(*table, QStringLiteral("@p"));
   child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
   press(dialog, "applyAndSave");
   f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
@@ -217,8 +224,8 @@ void TestViewFuncDialog::savedSettingsComeBack() {
   QVERIFY(!saved->isEnabled()); // there is nothing yet
   child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
   choose(dialog, "bgrColor", QColor(10, 60, 90));
-  auto *table = child<QTableWidget>(dialog, "labelTable");
-  table->item(0, LabelRow::Contents)->setText(QStringLiteral("kept"));
+  auto *table = child<QTableView>(dialog, "labelTable");
+  setContents(*table, QStringLiteral("kept"));
   press(dialog, "applyAndSave");
   QVERIFY(saved->isEnabled());
   const QColor ground = f.picture().pixelColor(f.pixel(50, 80));
@@ -229,16 +236,16 @@ void TestViewFuncDialog::savedSettingsComeBack() {
   child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(7.0);
   choose(dialog, "bgrColor", Qt::yellow);
   child<QComboBox>(dialog, "viewport")->setCurrentIndex(0);
-  table->item(0, LabelRow::Contents)->setText(QStringLiteral("tried"));
+  setContents(*table, QStringLiteral("tried"));
   press(dialog, "apply");
   QVERIFY(f.picture().pixelColor(f.pixel(50, 80)) == QColor(Qt::yellow));
-  table->item(0, LabelRow::Contents)->setText(QStringLiteral("half typed"));
+  setContents(*table, QStringLiteral("half typed"));
   press(dialog, "savedSettings");
   QCOMPARE(f.picture().pixelColor(f.pixel(50, 80)), ground);
   QVERIFY(f.plot().update().labelTable() == labels);
   QVERIFY(f.plot().settings() == kept);
   QCOMPARE(child<QDoubleSpinBox>(dialog, "edgeMag")->value(), 2.5);
-  QCOMPARE(table->item(0, LabelRow::Contents)->text(), QStringLiteral("kept"));
+  QCOMPARE(table->model()->index(0, LabelRow::Contents).data().toString(), QStringLiteral("kept"));
 
   QVERIFY(QFile::remove(path)); // meanwhile
   press(dialog, "savedSettings");
@@ -334,21 +341,21 @@ void TestViewFuncDialog::templates() {
   ViewFixture f;
   f.show();
   viewFuncDialog dialog(f.plot());
-  auto *table = child<QTableWidget>(dialog, "labelTable");
-  const int types = table->rowCount();
-  QVERIFY(!(table->item(2, LabelRow::LongName)->flags() & Qt::ItemIsEditable));
-  table->setCurrentCell(2, 0);
+  auto *table = child<QTableView>(dialog, "labelTable");
+  const int types = table->model()->rowCount();
+  QVERIFY(!(table->model()->index(2, LabelRow::LongName).flags() & Qt::ItemIsEditable));
+  table->setCurrentIndex(table->model()->index(2, 0));
   const Answers answers({NivraMsg::Answer::Ok});
   press(dialog, "deleteRow");
   QCOMPARE(answers.texts().value(0), QStringLiteral("Deleting this row is not allowed!"));
   press(dialog, "addTemplate");
-  QCOMPARE(table->rowCount(), types + 1);
+  QCOMPARE(table->model()->rowCount(), types + 1);
   press(dialog, "apply");
   QCOMPARE(f.plot().update().labelTable().templates.size(), std::size_t(1));
   QCOMPARE(f.plot().update().labelTable().templates.front().icon, QStringLiteral("p"));
-  table->setCurrentCell(types, 0);
+  table->setCurrentIndex(table->model()->index(types, 0));
   press(dialog, "deleteRow");
-  QCOMPARE(table->rowCount(), types);
+  QCOMPARE(table->model()->rowCount(), types);
 }
 
 void TestViewFuncDialog::boundsBelongToAFunction() {
@@ -525,8 +532,9 @@ void TestViewFuncDialog::oneEditorACell() {
   dialog.activateWindow();
   QVERIFY(QTest::qWaitForWindowActive(&dialog));
   child<QTabWidget>(dialog, "tabs")->setCurrentWidget(child<QWidget>(dialog, "labelsPage"));
-  auto *table = child<QTableWidget>(dialog, "labelTable");
-  table->scrollToItem(table->item(0, column));
+  auto *table = child<QTableView>(dialog, "labelTable");
+  const QModelIndex cell = table->model()->index(0, column);
+  table->scrollTo(cell);
   bool wasDialog = false;
   QTimer::singleShot(0, [&wasDialog] {
     if (QWidget *modal = QApplication::activeModalWidget()) {
@@ -534,7 +542,7 @@ void TestViewFuncDialog::oneEditorACell() {
       modal->close();
     }
   });
-  const QPoint place = table->visualItemRect(table->item(0, column)).center();
+  const QPoint place = table->visualRect(cell).center();
   QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
   QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
   QCOMPARE(wasDialog, isDialog);
@@ -542,6 +550,22 @@ void TestViewFuncDialog::oneEditorACell() {
   for (const QLineEdit *editor : table->viewport()->findChildren<QLineEdit *>())
     editors += editor->isVisible() ? 1 : 0;
   QCOMPARE(editors, isDialog ? 0 : 1);
+}
+
+/// A dock takes the width of the one that was there before.
+void TestViewFuncDialog::pagesFitTheNarrowestDialog() {
+  ViewFixture f;
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  dialog.resize(dialog.minimumSizeHint());
+  dialog.show();
+  auto *tabs = child<QTabWidget>(dialog, "tabs");
+  for (int i = 0; i < tabs->count(); ++i) {
+    tabs->setCurrentIndex(i);
+    QCoreApplication::processEvents();
+    for (const QScrollArea *page : tabs->currentWidget()->findChildren<QScrollArea *>())
+      QVERIFY2(page->horizontalScrollBar()->maximum() == 0, qPrintable(page->objectName()));
+  }
 }
 
 NIVRA_TEST(TestViewFuncDialog);
