@@ -33,7 +33,7 @@
 NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::NivraViewer>())
-    , m_control(std::make_unique<NetVisControl>(m_net, QString()))
+    , m_control(std::make_unique<NetVisControl>(m_net, QString(), logFinding))
     , m_loader(m_net)
     , m_categories(std::make_shared<CategoryList>()) {
   setUpForm();

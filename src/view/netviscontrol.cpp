@@ -10,11 +10,11 @@
 
 #include <drawing/drawfunctions.h>
 
-NetVisControl::NetVisControl(NetData &net, const QString &name, QObject *parent)
+NetVisControl::NetVisControl(NetData &net, const QString &name, Told told, QObject *parent)
     : QObject(parent)
     , m_net(net)
     , m_name(name)
-    , m_plot(new NetPlot)
+    , m_plot(new NetPlot(std::move(told)))
     , m_picker(new NetPicker(*m_plot, net))
     , m_menu(std::make_unique<PlotMenu>(*m_plot, *m_picker, net)) {
   m_plot->setShowsSubnet(!name.isEmpty());
@@ -46,7 +46,7 @@ void NetVisControl::fillMenu(QMenu &contextMenu) {
                         isAnswered(&NetVisControl::subnetWanted),
                         isAnswered(&NetVisControl::configureDrawRequested),
                         showsSearchResults(),
-                        bookmarks()};
+                        m_bookmarks};
   m_menu->fill(contextMenu, state);
 }
 
@@ -66,7 +66,6 @@ void NetVisControl::clear() {
 }
 
 void NetVisControl::showNetData(const QString &plotSettingsPath) {
-  m_settingsPath = plotSettingsPath;
   m_plot->readMousePattern();          // the workspace may have general settings of its own
   m_plot->setSettings(PlotSettings()); // nothing of the case before
   if (!m_plot->readPlotSettings(plotSettingsPath)) {
@@ -75,6 +74,7 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
     m_plot->setSettings(settings);
   }
   const QString folder = QFileInfo(plotSettingsPath).path();
+  m_bookmarks = ViewBookmarks(folder + QStringLiteral("/viewbookmarks.csv"));
   LabelTable labels;
   LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels);
   m_picker->reset();
@@ -148,8 +148,4 @@ void NetVisControl::refreshSearchResults() {
 
 void NetVisControl::trace(const QString &name, Topology::Direction direction) {
   m_picker->setSelection(Topology::trace(m_net, name, direction, m_plot->settings().edgeShowFlow));
-}
-
-ViewBookmarks NetVisControl::bookmarks() const {
-  return ViewBookmarks(QFileInfo(m_settingsPath).path() + QStringLiteral("/viewbookmarks.csv"));
 }

@@ -574,6 +574,8 @@ void TestNetPlot::bookmarks() {
     QVERIFY(!(adds ? window.bookmarks().add(odd, &reason) : window.bookmarks().forget(odd.name, &reason)));
     QVERIFY2(reason.contains(QStringLiteral("viewbookmarks.csv")), qPrintable(reason));
   }
+  QVERIFY(window.bookmarks().all().empty());
+  QVERIFY(window.bookmarks().fault().contains(QStringLiteral("viewbookmarks.csv")));
   QVERIFY(file.open(QIODevice::ReadOnly));
   QVERIFY(file.readAll() == large);
 }

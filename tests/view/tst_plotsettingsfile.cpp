@@ -121,12 +121,16 @@ void TestPlotSettingsFile::objectsAreRefused_data() {
 void TestPlotSettingsFile::objectsAreRefused() {
   QFETCH(QByteArray, value);
   PlotSettings settings;
+  Findings told;
   QVERIFY(PlotSettingsFile::read(file("colorFunc=" + value + "\nlegendPos=" + value + "\ngridMajorColor=" + value +
                                       "\nwidthFunc=\"@@x, y\"\n[color_options]\nbgrColor=" + value +
                                       "\n[drawing]\nclassBreaks=" + value + "\n"),
-                                 settings));
+                                 settings, [&told](const Finding &finding) { told.push_back(finding); }));
   QVERIFY(!settings.gridMajorColor.isValid()); // as when the file has none
   const bool isText = value.startsWith('a');
+  QCOMPARE(told.size(), std::size_t(isText ? 0 : 1));
+  QVERIFY(isText ||
+          told.front().text.contains(QStringLiteral("colorFunc, legendPos, gridMajorColor, bgrColor, classBreaks")));
   QVERIFY(settings.bgrColor == (isText ? QColor() : PlotSettings().bgrColor));
   QCOMPARE(settings.legendPos, 0);
   QCOMPARE(settings.widthFunc, QStringLiteral("@x, y")); // a text that begins so is written with two

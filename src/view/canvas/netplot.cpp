@@ -5,7 +5,6 @@
 #include "interaction/plotzoom.h"
 #include "interaction/smoothzoom.h"
 
-#include <base/nivramsg.h>
 #include <base/settings.h>
 #include <view/netplot.h>
 
@@ -34,8 +33,9 @@ private:
 
 } // namespace
 
-NetPlot::NetPlot(QWidget *parent)
+NetPlot::NetPlot(Told told, QWidget *parent)
     : QWidget(parent)
+    , m_told(std::move(told))
     , m_plot(new QwtFastPlot(this))
     , m_zoomer(new PlotZoom(*m_plot, m_settings))
     , m_panner(new PlotPanner(*m_plot))
@@ -185,7 +185,7 @@ void NetPlot::setSettings(const PlotSettings &settings) {
 
 bool NetPlot::readPlotSettings(const QString &path) {
   PlotSettings settings = m_settings;
-  const bool found = PlotSettingsFile::read(path, settings);
+  const bool found = PlotSettingsFile::read(path, settings, m_told);
   if (found)
     setSettings(settings);
   return found;

@@ -5,17 +5,12 @@
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
 
-#include <QCoreApplication>
 #include <QDataStream>
 #include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 
 namespace {
-
-QString tr(const char *text) {
-  return QCoreApplication::translate("PlotSettingsFile", text);
-}
 
 constexpr qint64 LargestFile = qint64(4) << 20;
 
@@ -212,23 +207,24 @@ struct Writer {
 
 } // namespace
 
-bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, QString *error) {
+bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, const Told &told) {
   if (!QFileInfo::exists(path)) {
     NivraMsg::debug(QStringLiteral("### Plot Settings file ") + path + QStringLiteral(" not found!"));
-    return fail(error, tr("There is no file %1.").arg(path));
+    return false;
   }
   QString reason;
   const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, LargestFile, &reason);
   if (!content) {
-    NivraMsg::logWarning(reason);
-    return fail(error, reason);
+    tell(told, Finding::Severity::Warning, reason);
+    return false;
   }
   const IniText text(*content);
   Reader reader{{text}};
   visitAll(settings, reader);
   if (!reader.refused.isEmpty())
-    NivraMsg::logWarning(tr("%1: values that are no text, number or colour are left out: %2")
-                             .arg(path, reader.refused.join(QStringLiteral(", "))));
+    tell(told, Finding::Severity::Warning,
+         tr("%1: values that are no text, number or colour are left out: %2")
+             .arg(path, reader.refused.join(QStringLiteral(", "))));
   return true;
 }
 

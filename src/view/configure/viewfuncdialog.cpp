@@ -11,6 +11,7 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QScrollBar>
 
 #include <drawing/colormap.h>
 #include <drawing/drawfunctions.h>
@@ -91,6 +92,8 @@ viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
   setUpColors();
   offerFunctions();
   refresh();
+  for (QScrollArea *page : m_ui->tabs->findChildren<QScrollArea *>()) // which would let a narrow dock cut their contents
+    page->setMinimumWidth(page->widget()->minimumSizeHint().width() + page->verticalScrollBar()->sizeHint().width());
 }
 
 viewFuncDialog::~viewFuncDialog() = default;
@@ -351,9 +354,11 @@ bool viewFuncDialog::apply() {
   PlotSettings settings = before;
   takeTouched(m_shown, typed, settings);
   if (settings.logScaleColor != before.logScaleColor)
-    NivraMsg::log(QStringLiteral("logScaleColor set to %1").arg(int(settings.logScaleColor)));
+    tell(m_plot.told(), Finding::Severity::Information,
+         QStringLiteral("logScaleColor set to %1").arg(int(settings.logScaleColor)));
   if (settings.logScaleNodeColor != before.logScaleNodeColor)
-    NivraMsg::log(QStringLiteral("logScaleNodeColor set to %1").arg(int(settings.logScaleNodeColor)));
+    tell(m_plot.told(), Finding::Severity::Information,
+         QStringLiteral("logScaleNodeColor set to %1").arg(int(settings.logScaleNodeColor)));
   m_plot.setSettings(settings);
   draw(before, m_labels->table());
   return true;
@@ -413,8 +418,8 @@ void viewFuncDialog::resetMinMaxColorFuncValues() {
   for (FunctionRow *row : m_rows)
     row->forgetBounds();
   apply();
-  NivraMsg::log(
-      QStringLiteral("resetMinMaxColorFuncValues finished in %1 sec.").arg(static_cast<double>(timer.elapsed()) * 1e-3));
+  tell(m_plot.told(), Finding::Severity::Information,
+       QStringLiteral("resetMinMaxColorFuncValues finished in %1 sec.").arg(static_cast<double>(timer.elapsed()) * 1e-3));
 }
 
 void viewFuncDialog::on_addTemplate_clicked() {

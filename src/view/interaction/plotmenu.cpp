@@ -266,10 +266,12 @@ void PlotMenu::addView(QMenu &contextMenu) {
     contextMenu.addAction(tr("Show what lies far outside"), plot, &NetPlot::showStragglers);
 }
 
-void PlotMenu::addBookmarks(QMenu &contextMenu, const ViewBookmarks &bookmarks) {
+void PlotMenu::addBookmarks(QMenu &contextMenu, ViewBookmarks &bookmarks) {
   NetPlot *plot = &m_plot;
-  const std::vector<ViewBookmarks::Bookmark> known = bookmarks.all();
+  const std::vector<ViewBookmarks::Bookmark> &known = bookmarks.all();
   QMenu *menu = contextMenu.addMenu(tr("Bookmarks"));
+  if (!bookmarks.fault().isEmpty())
+    addNote(*menu, menuText(bookmarks.fault()));
   for (const ViewBookmarks::Bookmark &bookmark : known)
     menu->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->showArea(view); });
   if (!known.empty())

@@ -17,7 +17,8 @@ class NetVisControl : public QObject {
   Q_OBJECT
 public:
   /// \param name of the view; empty for the main one
-  NetVisControl(NetData &net, const QString &name, QObject *parent = nullptr);
+  /// \param told what is wrong with the files of the drawing, and what was done
+  NetVisControl(NetData &net, const QString &name, Told told = {}, QObject *parent = nullptr);
   ~NetVisControl() override;
 
   const QString &name() const { return m_name; }
@@ -56,7 +57,7 @@ public:
   /// Selects what lies upstream or downstream of the element along the flow.
   void trace(const QString &name, Topology::Direction direction);
   /// Views to come back to, kept with the case.
-  ViewBookmarks bookmarks() const;
+  ViewBookmarks &bookmarks() { return m_bookmarks; }
 
 signals:
   void selectionChanged();
@@ -71,7 +72,7 @@ private:
 
   NetData &m_net;
   QString m_name;
-  QString m_settingsPath;
+  ViewBookmarks m_bookmarks;
   QString m_subnetIcons;
   QPointer<NetPlot> m_plot;
   NetPicker *m_picker; ///< belongs to the canvas of the plot
