@@ -420,7 +420,7 @@ void TestNetPlot::legend() {
   f.show();
   PlotSettings settings = f.plot().settings();
   settings.legendPos = corner;
-  settings.absColor = true;
+  settings.functions[Aspect::EdgeColor].isAbsolute = true;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot(false, NetUpdate::Which::EdgesAndNodes, false);
   QCOMPARE(f.plot().legend().isVisible(), shown);

@@ -122,7 +122,7 @@ void TestViewFuncDialog::appliesToThePlot() {
   f.plot().show();
   f.show();
   viewFuncDialog dialog(f.plot());
-  QVERIFY(f.plot().settings().colorFunc == QLatin1String("p"));
+  QVERIFY(f.plot().settings().functions[Aspect::EdgeColor].name == QLatin1String("p"));
   child<QComboBox>(*row(dialog, 0), "function")->setCurrentText(QStringLiteral("volume flow"));
   child<QCheckBox>(*row(dialog, 0), "absolute")->setChecked(true);
   child<QComboBox>(dialog, "colorScalePos")->setCurrentIndex(1);
@@ -130,8 +130,8 @@ void TestViewFuncDialog::appliesToThePlot() {
   child<QComboBox>(dialog, "viewport")->setCurrentIndex(0);
   press(dialog, "apply");
   const PlotSettings &settings = f.plot().settings();
-  QCOMPARE(settings.colorFunc, QStringLiteral("volume flow"));
-  QVERIFY(settings.absColor && !settings.fixAxesRatio);
+  QCOMPARE(settings.functions[Aspect::EdgeColor].name, QStringLiteral("volume flow"));
+  QVERIFY(settings.functions[Aspect::EdgeColor].isAbsolute && !settings.fixAxesRatio);
   QCOMPARE(settings.colorScalePos, int(QwtPlot::xTop));
   QCOMPARE(settings.colorRamp, QStringLiteral("viridis"));
   QVERIFY(f.plot().plot()->axisEnabled(QwtPlot::xTop));
@@ -148,14 +148,14 @@ void TestViewFuncDialog::boundsAreInTheDisplayUnit() {
   auto *minimum = child<QLineEdit>(*color, "minimum");
   minimum->setText(QStringLiteral("5"));
   press(dialog, "apply");
-  QVERIFY(qAbs(f.plot().settings().minVal_edgeColor - 278.15) < 1e-9);
-  QCOMPARE(f.plot().settings().maxVal_edgeColor, PlotSettings::OpenMaximum);
+  QVERIFY(qAbs(f.plot().settings().functions[Aspect::EdgeColor].minimum - 278.15) < 1e-9);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].maximum, PlotSettings::OpenMaximum);
   QCOMPARE(minimum->text(), QStringLiteral("5"));
   minimum->setText(QStringLiteral("12"));
   child<QPushButton>(*color, "resetMinimum")->click();
   QCOMPARE(minimum->text(), QStringLiteral("5"));
   press(dialog, "resetMinMax");
-  QCOMPARE(f.plot().settings().minVal_edgeColor, PlotSettings::OpenMinimum);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].minimum, PlotSettings::OpenMinimum);
 }
 
 void TestViewFuncDialog::invalidRangeAsks_data() {
@@ -187,8 +187,8 @@ void TestViewFuncDialog::invalidRangeAsks() {
   const QString text = answers.texts().value(0);
   QVERIFY2(text.contains(says), qPrintable(text));
   const PlotSettings &settings = f.plot().settings();
-  QCOMPARE(settings.minVal_edgeColor != PlotSettings::OpenMinimum, applied);
-  QVERIFY(settings.minVal_edgeColor < settings.maxVal_edgeColor);
+  QCOMPARE(settings.functions[Aspect::EdgeColor].minimum != PlotSettings::OpenMinimum, applied);
+  QVERIFY(settings.functions[Aspect::EdgeColor].minimum < settings.functions[Aspect::EdgeColor].maximum);
 }
 
 void TestViewFuncDialog::savesBothFiles() {
@@ -261,7 +261,7 @@ void TestViewFuncDialog::untouchedFieldsStay() {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("plotsettings.ini"));
   PlotSettings stored;
-  stored.colorFunc = QStringLiteral("pressure");
+  stored.functions[Aspect::EdgeColor].name = QStringLiteral("pressure");
   stored.legendPos = 5;
   stored.colorScalePos = 2;
   stored.lastColor = 400;
@@ -275,11 +275,11 @@ void TestViewFuncDialog::untouchedFieldsStay() {
   stored.alphaSubnet = 256;
   stored.edgeColorInactive = QColor(0xa0, 0xa0, 0xa4, 0x80);
   stored.gridMinorColor = QColor();
-  stored.minVal_edgeColor = 12.345678901234567;
-  stored.maxVal_edgeColor = 85.000000000000014;
-  stored.minVal_nodeColor = 1.0 / 3.0;
-  stored.nodeColorFunc = QStringLiteral("temperature"); // in K, and shown in another unit
-  stored.maxVal_nodeColor = 300.1;
+  stored.functions[Aspect::EdgeColor].minimum = 12.345678901234567;
+  stored.functions[Aspect::EdgeColor].maximum = 85.000000000000014;
+  stored.functions[Aspect::NodeColor].minimum = 1.0 / 3.0;
+  stored.functions[Aspect::NodeColor].name = QStringLiteral("temperature"); // in K, and shown in another unit
+  stored.functions[Aspect::NodeColor].maximum = 300.1;
   stored.label_mode = QStringLiteral("of another program");
   stored.colorRamp = QStringLiteral("unknown");
   stored.colorClasses = 1;
@@ -305,8 +305,8 @@ void TestViewFuncDialog::untouchedFieldsStay() {
   color->setCurrentText(QStringLiteral("volume flow"));
   color->setCurrentText(QStringLiteral("pressure"));
   press(dialog, "apply");
-  QCOMPARE(f.plot().settings().minVal_edgeColor, stored.minVal_edgeColor);
-  QCOMPARE(f.plot().settings().maxVal_nodeColor, stored.maxVal_nodeColor);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].minimum, stored.functions[Aspect::EdgeColor].minimum);
+  QCOMPARE(f.plot().settings().functions[Aspect::NodeColor].maximum, stored.functions[Aspect::NodeColor].maximum);
 }
 
 void TestViewFuncDialog::touchedFieldsAreTaken() {
@@ -329,7 +329,7 @@ void TestViewFuncDialog::touchedFieldsAreTaken() {
   QCOMPARE(taken.colorClasses, 5);
   QCOMPARE(taken.legendPos, 3);
   QCOMPARE(taken.edgeConst, 2.25);
-  QVERIFY(taken.logScaleWidth);
+  QVERIFY(taken.functions[Aspect::EdgeWidth].isLogarithmic);
   QCOMPARE(taken.edgeColorNoFlow, QColor(1, 2, 3));
   child<QComboBox>(dialog, "classMethod")->setCurrentIndex(0);
   press(dialog, "apply");
@@ -374,8 +374,8 @@ void TestViewFuncDialog::boundsBelongToAFunction() {
   function->setCurrentText(QStringLiteral("volume flow"));
   QVERIFY(minimum->text().isEmpty() && maximum->text().isEmpty());
   press(dialog, "apply");
-  QCOMPARE(f.plot().settings().minVal_edgeColor, PlotSettings::OpenMinimum);
-  QCOMPARE(f.plot().settings().maxVal_edgeColor, PlotSettings::OpenMaximum);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].minimum, PlotSettings::OpenMinimum);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].maximum, PlotSettings::OpenMaximum);
   maximum->setText(QStringLiteral("3"));
   press(dialog, "applyAndSave");
 
@@ -387,7 +387,7 @@ void TestViewFuncDialog::boundsBelongToAFunction() {
   QCOMPARE(child<QLineEdit>(*row(again, 0), "minimum")->text(), QStringLiteral("1e1")); // as it was typed
   QCOMPARE(child<QLineEdit>(*row(again, 0), "maximum")->text(), QStringLiteral("85.0"));
   press(again, "apply");
-  QCOMPARE(other.plot().settings().minVal_edgeColor, 10.0);
+  QCOMPARE(other.plot().settings().functions[Aspect::EdgeColor].minimum, 10.0);
   QCOMPARE(other.plot().plot()->axisInterval(QwtPlot::yRight), QwtInterval(10, 85));
   press(again, "resetMinMax");
   child<QComboBox>(*row(again, 0), "function")->setCurrentText(QStringLiteral("volume flow"));
@@ -395,19 +395,19 @@ void TestViewFuncDialog::boundsBelongToAFunction() {
 }
 
 void TestViewFuncDialog::typedBoundsOfAnybody() {
-  const TypedBounds::OfSettings bounds{
-      {QStringLiteral("colorFunc"),
-       {{QStringLiteral("a;b|c%"), {QStringLiteral("1,5"), QString(), QStringLiteral("m³/h")}}}}};
+  PerAspect<TypedBounds::OfFunctions> bounds{};
+  bounds[Aspect::EdgeColor].insert(QStringLiteral("a;b|c%"), {QStringLiteral("1,5"), QString(), QStringLiteral("m³/h")});
   const TypedBounds typed =
-      TypedBounds::read(TypedBounds::written(bounds))[QStringLiteral("colorFunc")].value(QStringLiteral("a;b|c%"));
+      TypedBounds::read(TypedBounds::written(bounds))[Aspect::EdgeColor].value(QStringLiteral("a;b|c%"));
   QCOMPARE(typed.minimum, QStringLiteral("1,5"));
   QCOMPARE(typed.unit, QStringLiteral("m³/h"));
   ViewFixture f;
   f.show();
   PlotSettings settings = f.plot().settings();
-  settings.minVal_edgeColor = 30; // what is typed does not say so
-  settings.typedBounds = QStringLiteral("colorFunc|p|many|9|bar;;|;colorFunc|q|1|2|no unit;%zz|") +
-                         QStringLiteral("nodeColorFunc|p|1|2|bar;").repeated(5000);
+  settings.functions[Aspect::EdgeColor].minimum = 30; // what is typed does not say so
+  settings.functions[Aspect::EdgeColor].typed =
+      TypedBounds::read(QStringLiteral("colorFunc|p|many|9|bar;;|;colorFunc|q|1|2|no unit;%zz|") +
+                        QStringLiteral("nodeColorFunc|p|1|2|bar;").repeated(5000))[Aspect::EdgeColor];
   f.plot().setSettings(settings);
   viewFuncDialog dialog(f.plot());
   const auto *minimum = child<QLineEdit>(*row(dialog, 0), "minimum");
@@ -460,7 +460,7 @@ void TestViewFuncDialog::boundOutsideTheDataIsTold() {
            qPrintable(note->text()));
   QVERIFY(!note->isHidden());
   QCOMPARE(minimum->text(), QStringLiteral("100")); // and it holds:
-  QCOMPARE(f.plot().settings().minVal_edgeColor, 100.0);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].minimum, 100.0);
   QVERIFY(f.plot().plot()->axisInterval(QwtPlot::yRight).maxValue() > 100);
   const QColor beyond = QColor::fromHsv(240, 255, 215).darker(160);
   const QColor drawn = f.picture().pixelColor(f.pixel(25, 0));

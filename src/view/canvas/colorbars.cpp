@@ -118,8 +118,8 @@ void ColorBars::show(QwtPlot &plot, const PlotSettings &settings, const DrawValu
   int axis = settings.colorScalePos;
   if (!isScaleAxis(axis) || subject == ColorScale::Subject::SearchResults)
     return;
-  const DrawValues::Column &edges = values.edgeColor();
-  const DrawValues::Column &nodes = values.nodeColor();
+  const DrawValues::Column &edges = values.of(Aspect::EdgeColor);
+  const DrawValues::Column &nodes = values.of(Aspect::NodeColor);
   const bool showsNodes = subject == ColorScale::Subject::EdgesAndNodes && nodes.isAny();
   const bool isOne = showsNodes && ColorScale::isShared(settings, values);
   if (edges.isAny()) {

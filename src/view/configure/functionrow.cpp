@@ -79,17 +79,17 @@ void FunctionRow::setChoices(const QStringList &names, const QHash<QString, QStr
   m_ui->function->setCurrentText(chosen);
 }
 
-void FunctionRow::setValues(const Values &values, const TypedBounds::OfFunctions &typed) {
+void FunctionRow::setFunction(const PlotSettings::Function &function) {
   const QSignalBlocker blocker(m_ui->function);
-  m_ui->function->setCurrentText(values.function);
-  m_ui->absolute->setChecked(values.absolute);
-  m_ui->logarithmic->setChecked(values.logarithmic);
-  m_function = TypedBounds::key(values.function);
-  m_unit = m_unitOf(values.function);
-  m_typed = typed;
+  m_ui->function->setCurrentText(function.name);
+  m_ui->absolute->setChecked(function.isAbsolute);
+  m_ui->logarithmic->setChecked(function.isLogarithmic);
+  m_function = TypedBounds::key(function.name);
+  m_unit = m_unitOf(function.name);
+  m_typed = function.typed;
   TypedBounds bounds = inUnit(m_typed.value(m_function));
-  bounds = {written(values.minimum, PlotSettings::OpenMinimum, bounds.minimum),
-            written(values.maximum, PlotSettings::OpenMaximum, bounds.maximum), m_unit.name};
+  bounds = {written(function.minimum, PlotSettings::OpenMinimum, bounds.minimum),
+            written(function.maximum, PlotSettings::OpenMaximum, bounds.maximum), m_unit.name};
   show(bounds);
   m_applied = typedBounds();
 }
@@ -102,10 +102,13 @@ void FunctionRow::changeFunction(const QString &function) {
   setNote(QString());
 }
 
-FunctionRow::Values FunctionRow::values() const {
-  return {m_ui->function->currentText().trimmed(), stored(m_ui->minimum->text(), PlotSettings::OpenMinimum),
-          stored(m_ui->maximum->text(), PlotSettings::OpenMaximum), m_ui->absolute->isChecked(),
-          m_ui->logarithmic->isChecked()};
+PlotSettings::Function FunctionRow::function() const {
+  return {m_ui->function->currentText().trimmed(),
+          m_ui->absolute->isChecked(),
+          m_ui->logarithmic->isChecked(),
+          stored(m_ui->minimum->text(), PlotSettings::OpenMinimum),
+          stored(m_ui->maximum->text(), PlotSettings::OpenMaximum),
+          typedBounds()};
 }
 
 TypedBounds::OfFunctions FunctionRow::typedBounds() const {

@@ -22,24 +22,6 @@ namespace {
 
 using S = PlotSettings;
 
-struct FunctionFields {
-  const char *key; ///< in the file, and of what was typed
-  QString S::*function;
-  double S::*minimum;
-  double S::*maximum;
-  bool S::*absolute;
-  bool S::*logarithmic;
-};
-
-// In the order of viewFuncDialog::Row.
-const std::array<FunctionFields, 4> Functions{{
-    {"colorFunc", &S::colorFunc, &S::minVal_edgeColor, &S::maxVal_edgeColor, &S::absColor, &S::logScaleColor},
-    {"widthFunc", &S::widthFunc, &S::minVal_Width, &S::maxVal_Width, &S::absWidth, &S::logScaleWidth},
-    {"nodeColorFunc", &S::nodeColorFunc, &S::minVal_nodeColor, &S::maxVal_nodeColor, &S::absNodeColor,
-     &S::logScaleNodeColor},
-    {"nodeSizeFunc", &S::nodeSizeFunc, &S::minVal_nodeSize, &S::maxVal_nodeSize, &S::absNodeSize, &S::logScaleNodeSize},
-}};
-
 enum Viewport { IndependentAxes, OriginalRatio, AspectRatio };
 enum ScalePlace { NotShown, AtTheTop, OnTheRight };
 constexpr int TopAxis = 3;
@@ -51,17 +33,24 @@ void choose(QComboBox &box, const QString &data) {
 }
 
 /// Takes over what was typed: a field shows fewer digits, and has narrower limits, than the setting behind it may have.
-void takeTouched(const S &shown, const S &typed, S &settings) {
-  const auto take = [&](auto... fields) {
-    const auto takeOne = [&](auto field) {
-      if (typed.*field != shown.*field)
-        settings.*field = typed.*field;
-    };
-    (takeOne(fields), ...);
+template <typename Record, typename... Fields>
+void takeTouched(const Record &shown, const Record &typed, Record &settings, Fields... fields) {
+  const auto takeOne = [&](auto field) {
+    if (typed.*field != shown.*field)
+      settings.*field = typed.*field;
   };
-  for (const FunctionFields &f : Functions)
-    take(f.function, f.minimum, f.maximum, f.absolute, f.logarithmic);
-  take(&S::typedBounds, &S::colorRamp, &S::firstColor, &S::lastColor, &S::saturation, &S::lightness, &S::logFactor);
+  (takeOne(fields), ...);
+}
+
+void takeTouched(const S &shown, const S &typed, S &settings) {
+  using F = S::Function;
+  for (const Aspect aspect : AllAspects)
+    takeTouched(shown.functions[aspect], typed.functions[aspect], settings.functions[aspect], &F::name, &F::minimum,
+                &F::maximum, &F::isAbsolute, &F::isLogarithmic, &F::typed);
+  const auto take = [&](auto... fields) {
+    takeTouched(shown, typed, settings, fields...);
+  };
+  take(&S::colorRamp, &S::firstColor, &S::lastColor, &S::saturation, &S::lightness, &S::logFactor);
   take(&S::colorClasses, &S::classBreaks, &S::colorScalePos, &S::legendPos, &S::label_mode, &S::alphaSubnet);
   take(&S::edgeConst, &S::edgeMag, &S::nodeMag, &S::symMag, &S::arrowMag, &S::labelMag, &S::labelMargin);
   take(&S::fixAxesRatio, &S::zoomFact, &S::showXYaxes, &S::showGrid, &S::edgeShowFlow, &S::layerProp);
@@ -78,14 +67,13 @@ viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
     , m_plot(plot)
     , m_ui(std::make_unique<Ui::viewFuncDialog>()) {
   m_ui->setupUi(this);
-  const QStringList titles{tr("Edge colour"), tr("Edge width"), tr("Node colour"), tr("Node size")};
-  for (int i = 0; i < Rows; ++i) {
-    const QString tip = i == EdgeWidth || i == NodeSize ? tr("if checked:  absolute values used for width")
-                                                        : tr("if checked: absolute values are used for color");
-    auto *row = new FunctionRow(
-        titles.at(i), tip, [this](const QString &function) { return unitOf(function); }, this);
-    m_rows[static_cast<std::size_t>(i)] = row;
-    m_ui->functionsBox->insertWidget(i, row);
+  const PerAspect<QString> titles{{tr("Edge colour"), tr("Edge width"), tr("Node colour"), tr("Node size")}};
+  for (const Aspect aspect : AllAspects) {
+    const QString tip = isColor(aspect) ? tr("if checked: absolute values are used for color")
+                                        : tr("if checked:  absolute values used for width");
+    m_rows[aspect] = new FunctionRow(
+        titles[aspect], tip, [this](const QString &function) { return unitOf(function); }, this);
+    m_ui->functionsBox->insertWidget(static_cast<int>(aspect), m_rows[aspect]);
   }
   m_labels = new LabelTableEditor(*m_ui->labelTable);
   fillChoices();
@@ -104,18 +92,18 @@ void viewFuncDialog::offerFunctions() {
   DrawFunction::OfNetwork own;
   if (net != nullptr)
     own = DrawFunction::ofNetwork(*net);
-  for (int i = 0; i < Rows; ++i) {
+  for (const Aspect aspect : AllAspects) {
     QStringList functions = DrawFunction::fixedNames();
-    if (i == NodeSize)
+    if (aspect == Aspect::NodeSize)
       functions.prepend(PlotSettings::fixedSize());
     QHash<QString, QString> described;
-    for (const QString &property : i == EdgeColor || i == EdgeWidth ? own.ofEdges : own.ofNodes) {
+    for (const QString &property : isOfEdges(aspect) ? own.ofEdges : own.ofNodes) {
       functions.append(property);
       const QString title = net == nullptr ? property : DrawFunction::find(property, *net).title;
       if (title != property)
         described.insert(property, title);
     }
-    m_rows[static_cast<std::size_t>(i)]->setChoices(functions, described);
+    m_rows[aspect]->setChoices(functions, described);
   }
 }
 
@@ -196,7 +184,7 @@ FunctionRow::Unit viewFuncDialog::unitOf(const QString &function) const {
 }
 
 /// Where the values of the data lie, and whether any of them lies between the bounds.
-QString viewFuncDialog::noteOn(const DrawValues::Column &values, double minimum, double maximum) {
+QString viewFuncDialog::noteOn(const DrawValues::Column &values, const PlotSettings::Function &function) {
   if (!values.data.isValid())
     return tr("No element has a value.");
   const Units::Linear &toDisplay = values.function.toDisplay;
@@ -206,33 +194,26 @@ QString viewFuncDialog::noteOn(const DrawValues::Column &values, double minimum,
   QString reach = tr("The data reach from %1 to %2%3.")
                       .arg(DisplayFormat::number(toDisplay(values.data.minValue())),
                            DisplayFormat::number(toDisplay(values.data.maxValue())), unit);
-  const bool hasMinimum = minimum != PlotSettings::OpenMinimum;
-  const bool hasMaximum = maximum != PlotSettings::OpenMaximum;
-  if (hasMinimum && minimum > values.data.maxValue())
+  const bool hasMinimum = function.minimum != PlotSettings::OpenMinimum;
+  const bool hasMaximum = function.maximum != PlotSettings::OpenMaximum;
+  if (hasMinimum && function.minimum > values.data.maxValue())
     return tr("The minimum lies above all values.") + QLatin1Char(' ') + reach;
-  if (hasMaximum && maximum < values.data.minValue())
+  if (hasMaximum && function.maximum < values.data.minValue())
     return tr("The maximum lies below all values.") + QLatin1Char(' ') + reach;
   return reach;
 }
 
 void viewFuncDialog::showNotes(const PlotSettings &settings) {
-  const DrawValues &values = m_plot.update().values();
-  const std::array<const DrawValues::Column *, Rows> columns{&values.edgeColor(), &values.edgeWidth(), &values.nodeColor(),
-                                                             &values.nodeSize()};
-  for (std::size_t i = 0; i < Functions.size(); ++i) {
-    const FunctionFields &f = Functions[i];
-    const bool isShown = m_plot.update().netData() != nullptr && settings.*f.function != PlotSettings::fixedSize();
-    m_rows[i]->setNote(isShown ? noteOn(*columns[i], settings.*f.minimum, settings.*f.maximum) : QString());
+  for (const Aspect aspect : AllAspects) {
+    const PlotSettings::Function &function = settings.functions[aspect];
+    const bool isShown = m_plot.update().netData() != nullptr && function.name != PlotSettings::fixedSize();
+    m_rows[aspect]->setNote(isShown ? noteOn(m_plot.update().values().of(aspect), function) : QString());
   }
 }
 
 void viewFuncDialog::showForm(const PlotSettings &s) {
-  TypedBounds::OfSettings typed = TypedBounds::read(s.typedBounds);
-  for (std::size_t i = 0; i < Functions.size(); ++i) {
-    const FunctionFields &f = Functions[i];
-    m_rows[i]->setValues({s.*f.function, s.*f.minimum, s.*f.maximum, s.*f.absolute, s.*f.logarithmic},
-                         typed[QString::fromLatin1(f.key)]);
-  }
+  for (const Aspect aspect : AllAspects)
+    m_rows[aspect]->setFunction(s.functions[aspect]);
   showNotes(s);
   choose(*m_ui->colorRamp, s.colorRamp);
   m_ui->firstColor->setValue(s.firstColor);
@@ -267,22 +248,6 @@ void viewFuncDialog::showForm(const PlotSettings &s) {
   m_shown = form();
 }
 
-void viewFuncDialog::readFunctions(PlotSettings &form) const {
-  TypedBounds::OfSettings typed;
-  for (std::size_t i = 0; i < Functions.size(); ++i) {
-    const FunctionFields &f = Functions[i];
-    const FunctionRow::Values values = m_rows[i]->values();
-    form.*f.function = values.function;
-    form.*f.minimum = values.minimum;
-    form.*f.maximum = values.maximum;
-    form.*f.absolute = values.absolute;
-    form.*f.logarithmic = values.logarithmic;
-    if (const TypedBounds::OfFunctions ofRow = m_rows[i]->typedBounds(); !ofRow.isEmpty())
-      typed[QString::fromLatin1(f.key)] = ofRow;
-  }
-  form.typedBounds = TypedBounds::written(typed);
-}
-
 void viewFuncDialog::readSizes(PlotSettings &form) const {
   form.edgeConst = m_ui->edgeConst->value();
   form.edgeMag = m_ui->edgeMag->value();
@@ -296,7 +261,8 @@ void viewFuncDialog::readSizes(PlotSettings &form) const {
 /// What the fields say now.
 PlotSettings viewFuncDialog::form() const {
   PlotSettings form;
-  readFunctions(form);
+  for (const Aspect aspect : AllAspects)
+    form.functions[aspect] = m_rows[aspect]->function();
   readSizes(form);
   form.colorRamp = m_ui->colorRamp->currentData().toString();
   form.firstColor = m_ui->firstColor->value();
@@ -325,14 +291,13 @@ PlotSettings viewFuncDialog::form() const {
 
 /// Asks what to do about bounds that make no range. False: nothing is to be applied.
 bool viewFuncDialog::checkBounds(PlotSettings &form) const {
-  for (std::size_t i = 0; i < Functions.size(); ++i) {
-    if (const QString fault = m_rows[i]->fault(); !fault.isEmpty()) {
+  for (const Aspect aspect : AllAspects) {
+    if (const QString fault = m_rows[aspect]->fault(); !fault.isEmpty()) {
       NivraMsg::message(NivraMsg::Kind::Warning, fault);
       return false;
     }
-    double &minimum = form.*Functions[i].minimum;
-    double &maximum = form.*Functions[i].maximum;
-    const DrawRange::State state = DrawRange::check(minimum, maximum);
+    PlotSettings::Function &function = form.functions[aspect];
+    const DrawRange::State state = DrawRange::check(function.minimum, function.maximum);
     if (state == DrawRange::State::Sound)
       continue;
     const QString question =
@@ -341,7 +306,7 @@ bool viewFuncDialog::checkBounds(PlotSettings &form) const {
                                              : tr("\nProceed with a default tiny scala? (No-answer will skip action)?"));
     if (NivraMsg::message(NivraMsg::Kind::Question, question) != NivraMsg::Answer::Yes)
       return false;
-    DrawRange::correct(minimum, maximum);
+    DrawRange::correct(function.minimum, function.maximum);
   }
   return true;
 }
@@ -353,12 +318,13 @@ bool viewFuncDialog::apply() {
     return false;
   PlotSettings settings = before;
   takeTouched(m_shown, typed, settings);
-  if (settings.logScaleColor != before.logScaleColor)
-    tell(m_plot.told(), Finding::Severity::Information,
-         QStringLiteral("logScaleColor set to %1").arg(int(settings.logScaleColor)));
-  if (settings.logScaleNodeColor != before.logScaleNodeColor)
-    tell(m_plot.told(), Finding::Severity::Information,
-         QStringLiteral("logScaleNodeColor set to %1").arg(int(settings.logScaleNodeColor)));
+  for (const auto &[aspect, key] :
+       {std::pair(Aspect::EdgeColor, "logScaleColor"), {Aspect::NodeColor, "logScaleNodeColor"}}) {
+    const bool isLogarithmic = settings.functions[aspect].isLogarithmic;
+    if (isLogarithmic != before.functions[aspect].isLogarithmic)
+      tell(m_plot.told(), Finding::Severity::Information,
+           QStringLiteral("%1 set to %2").arg(QLatin1String(key)).arg(int(isLogarithmic)));
+  }
   m_plot.setSettings(settings);
   draw(before, m_labels->table());
   return true;
@@ -415,7 +381,7 @@ void viewFuncDialog::on_load_clicked() {
 void viewFuncDialog::resetMinMaxColorFuncValues() {
   QElapsedTimer timer;
   timer.start();
-  for (FunctionRow *row : m_rows)
+  for (FunctionRow *row : m_rows.values)
     row->forgetBounds();
   apply();
   tell(m_plot.told(), Finding::Severity::Information,

@@ -151,7 +151,9 @@ QString NetPicker::toolTipFor(NetGeometry::Item item) const {
   const ElementType *type = ElementTypes::byCode(code);
   QString text =
       QStringLiteral("<b>%1</b> <i>%2</i>").arg(nameOf(item).toHtmlEscaped(), type == nullptr ? code : type->longName);
-  QStringList functions{m_plot.settings().colorFunc, m_plot.settings().widthFunc, m_plot.settings().nodeColorFunc};
+  QStringList functions;
+  for (const Aspect aspect : {Aspect::EdgeColor, Aspect::EdgeWidth, Aspect::NodeColor})
+    functions.append(m_plot.settings().functions[aspect].name);
   functions.removeDuplicates();
   for (const QString &function : functions) {
     const QString property = DrawFunction::propertyName(function);

@@ -197,11 +197,12 @@ void chooseDefaults(PlotSettings &settings, const NetData &net) {
   const QString ofNodes = firstThatVaries(net, net.nodes(), {"p", "height"});
   const QString ofEdges = firstThatVaries(net, net.edges(), {"q", "m", "diameter", "length"});
   const QString width = firstThatVaries(net, net.edges(), {"diameter", "q", "m"});
-  settings.colorFunc = ofNodes == QLatin1String("p") || ofEdges.isEmpty() ? ofNodes : ofEdges;
-  settings.nodeColorFunc = ofNodes;
-  settings.widthFunc = width;
+  const QString color = ofNodes == QLatin1String("p") || ofEdges.isEmpty() ? ofNodes : ofEdges;
+  settings.functions[Aspect::EdgeColor].name = color;
+  settings.functions[Aspect::EdgeWidth].name = width;
+  settings.functions[Aspect::NodeColor].name = ofNodes;
   constexpr int BottomLeft = 2;
-  settings.legendPos = settings.colorFunc.isEmpty() ? 0 : BottomLeft;
+  settings.legendPos = color.isEmpty() ? 0 : BottomLeft;
   // High values warm, as people expect of pressures; a darker ramp keeps yellow and cyan readable on white.
   constexpr int Blue = 240;
   constexpr int Darker = 215;

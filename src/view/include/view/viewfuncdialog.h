@@ -4,7 +4,6 @@
 
 #include <QWidget>
 
-#include <array>
 #include <drawing/drawvalues.h>
 #include <drawing/plotsettings.h>
 #include <memory>
@@ -45,7 +44,6 @@ protected:
   void showEvent(QShowEvent *event) override;
 
 private:
-  enum Row { EdgeColor, EdgeWidth, NodeColor, NodeSize, Rows };
   struct ColorButton {
     QPushButton *button;
     QColor PlotSettings::*color;
@@ -59,11 +57,10 @@ private:
   void offerSavedSettings();
   bool checkBounds(PlotSettings &form) const;
   PlotSettings form() const;
-  void readFunctions(PlotSettings &form) const;
   void readSizes(PlotSettings &form) const;
   void showForm(const PlotSettings &settings);
   FunctionRow::Unit unitOf(const QString &function) const;
-  static QString noteOn(const DrawValues::Column &values, double minimum, double maximum);
+  static QString noteOn(const DrawValues::Column &values, const PlotSettings::Function &function);
   void showNotes(const PlotSettings &settings);
   void offerFunctions();
   void fillChoices();
@@ -71,7 +68,7 @@ private:
 
   NetPlot &m_plot;
   std::unique_ptr<Ui::viewFuncDialog> m_ui;
-  std::array<FunctionRow *, Rows> m_rows{};
+  PerAspect<FunctionRow *> m_rows{};
   std::vector<ColorButton> m_colors;
   PlotSettings m_shown; ///< what the fields said before anybody touched them
   LabelTableEditor *m_labels;
