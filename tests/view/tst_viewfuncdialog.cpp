@@ -1,3 +1,4 @@
+#include "configure/functionrow.h"
 #include "configure/labeltableeditor.h"
 #include "configure/plotsettingsfile.h"
 #include "interaction/plotzoom.h"

@@ -102,7 +102,7 @@ NetUpdate::View NetPlot::view() const {
 }
 
 void NetPlot::setUpPanner() {
-  // The scales beside the drawing show colours, not places.
+  // The scales beside the drawing show colours, not coordinates.
   m_panner->setAxisEnabled(QwtPlot::xTop, false);
   m_panner->setAxisEnabled(QwtPlot::yRight, false);
   connect(m_panner, &QwtPanner::panned, m_zoomer, &PlotZoom::pushShownView);
@@ -125,8 +125,8 @@ void NetPlot::zoomByWheel(int steps, QPointF anchor) {
   const bool isToElement = Settings::ZoomToElement.value();
   if (isToElement) {
     constexpr double Tolerance = 20.0; // px
-    const QPointF place(m_plot->transform(QwtPlot::xBottom, anchor.x()), m_plot->transform(QwtPlot::yLeft, anchor.y()));
-    const std::vector<Hit> hits = m_update->elementsAt(place, Tolerance);
+    const QPointF position(m_plot->transform(QwtPlot::xBottom, anchor.x()), m_plot->transform(QwtPlot::yLeft, anchor.y()));
+    const std::vector<Hit> hits = m_update->elementsAt(position, Tolerance);
     if (!hits.empty())
       anchor = m_update->geometry().center(hits.front().item).value_or(anchor);
   }
@@ -147,10 +147,10 @@ void NetPlot::zoomToElement(NetGeometry::Item item) {
   const std::optional<QPointF> center = geometry.center(item);
   if (!center)
     return;
-  constexpr double Smallest = 1.0;
-  constexpr double Largest = 1000.0;
+  constexpr double SmallestFactor = 1.0;
+  constexpr double LargestFactor = 1000.0;
   const double wanted = Settings::ZoomToElementFactor.value();
-  const double factor = qBound(Smallest, wanted, Largest);
+  const double factor = qBound(SmallestFactor, wanted, LargestFactor);
   QSizeF size = m_zoomer->limits().smallest;
   if (item.kind == NetData::Edge) {
     const QLineF line = geometry.line(geometry.edges()[static_cast<std::size_t>(item.index)]);

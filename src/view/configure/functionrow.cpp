@@ -1,6 +1,6 @@
-#include "ui_functionrow.h"
+#include "configure/functionrow.h"
 
-#include <view/functionrow.h>
+#include "ui_functionrow.h"
 
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
@@ -22,10 +22,10 @@ bool isNumber(const QString &text) {
 /// With as many digits as it takes to mean the same again.
 template <typename Means>
 QString shortest(double number, Means meansTheSame) {
-  constexpr int Fewest = 10;
-  constexpr int Most = 17; // that a number has
+  constexpr int FewestDigits = 10;
+  constexpr int MostDigits = 17; // that a number has
   QString text;
-  for (int digits = Fewest; digits <= Most; ++digits) {
+  for (int digits = FewestDigits; digits <= MostDigits; ++digits) {
     text = QString::number(number, 'g', digits);
     if (meansTheSame(text.toDouble()))
       break;

@@ -279,7 +279,7 @@ void NetPicker::select(const std::vector<NetGeometry::Item> &items, bool more) {
 
 void NetPicker::selectAll() {
   static const PropertyKey name = PropertyKey::intern("name");
-  Selection all; // what has no place in the drawing too
+  Selection all; // also what has no coordinates to be drawn at
   for (const auto &[kind, collection] : m_net.typeMap()) {
     Selection::Names &names = namesOf(all, kind);
     names.reserve(static_cast<int>(collection->size()));
@@ -321,16 +321,16 @@ void NetPicker::showSelection() {
   std::vector<NetGeometry::Item> items;
   const Selection &selection = m_net.selection();
   items.reserve(static_cast<std::size_t>(selection.size()));
-  const auto take = [&](const Selection::Names &names, int kinds) {
+  const auto append = [&](const Selection::Names &names, int kinds) {
     for (const QString &name : names) {
       if (const std::optional<NetGeometry::Item> item = geometry.find(m_net, name, kinds))
         items.push_back(*item);
     }
   };
-  take(selection.nodes, NetData::Node);
-  take(selection.edges, NetData::Edge);
-  take(selection.subnets, NetData::AssembledSubnet);
-  take(selection.others, NetData::TextBox);
+  append(selection.nodes, NetData::Node);
+  append(selection.edges, NetData::Edge);
+  append(selection.subnets, NetData::AssembledSubnet);
+  append(selection.others, NetData::TextBox);
   m_plot.selection().setItems(std::move(items));
   m_plot.plot()->updateOverlay();
 }

@@ -1,16 +1,15 @@
 #pragma once
 
-#include <view/functionrow.h>
-
 #include <QWidget>
 
-#include <drawing/drawvalues.h>
-#include <drawing/plotsettings.h>
 #include <memory>
 
+class FunctionsPage;
 class LabelTableEditor;
 class NetPlot;
-class QPushButton;
+class SettingFields;
+struct LabelTable;
+struct PlotSettings;
 
 namespace Ui {
 class viewFuncDialog;
@@ -44,33 +43,18 @@ protected:
   void showEvent(QShowEvent *event) override;
 
 private:
-  struct ColorButton {
-    QPushButton *button;
-    QColor PlotSettings::*color;
-    QColor chosen{};
-
-    void show(const QColor &shown);
-  };
-
   bool apply();
   void draw(const PlotSettings &before, const LabelTable &labels);
   void offerSavedSettings();
-  bool checkBounds(PlotSettings &form) const;
-  PlotSettings form() const;
-  void readSizes(PlotSettings &form) const;
-  void showForm(const PlotSettings &settings);
-  FunctionRow::Unit unitOf(const QString &function) const;
-  static QString noteOn(const DrawValues::Column &values, const PlotSettings::Function &function);
-  void showNotes(const PlotSettings &settings);
-  void offerFunctions();
   void fillChoices();
-  void setUpColors();
+  void bindScale();
+  void bindSizes();
+  void bindColors();
 
   NetPlot &m_plot;
   std::unique_ptr<Ui::viewFuncDialog> m_ui;
-  PerAspect<FunctionRow *> m_rows{};
-  std::vector<ColorButton> m_colors;
-  PlotSettings m_shown; ///< what the fields said before anybody touched them
+  std::unique_ptr<SettingFields> m_fields;
+  FunctionsPage *m_functions;
   LabelTableEditor *m_labels;
   QString m_labelTablePath;
   QString m_plotSettingsPath;
