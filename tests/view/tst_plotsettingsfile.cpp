@@ -130,7 +130,7 @@ void TestPlotSettingsFile::objectsAreRefused() {
   const bool isText = value.startsWith('a');
   QCOMPARE(told.size(), std::size_t(isText ? 0 : 1));
   QVERIFY(isText ||
-          told.front().text.contains(QStringLiteral("colorFunc, legendPos, gridMajorColor, bgrColor, classBreaks")));
+          told.front().text.contains(QStringLiteral("colorFunc, legendPos, bgrColor, gridMajorColor, classBreaks")));
   QVERIFY(settings.bgrColor == (isText ? QColor() : PlotSettings().bgrColor));
   QCOMPARE(settings.legendPos, 0);
   QCOMPARE(settings.functions[Aspect::EdgeWidth].name, QStringLiteral("@x, y")); // a text that begins so is written with two

@@ -37,7 +37,7 @@ NetPlot::NetPlot(Told told, QWidget *parent)
     : QWidget(parent)
     , m_told(std::move(told))
     , m_plot(new QwtFastPlot(this))
-    , m_zoomer(new PlotZoom(*m_plot, m_settings))
+    , m_zoomer(new PlotZoom(*m_plot, m_settings, m_told))
     , m_panner(new PlotPanner(*m_plot))
     , m_update(std::make_unique<NetUpdate>(m_settings, [this] { return view(); }))
     , m_smoothZoom(new SmoothZoom(*m_zoomer)) {

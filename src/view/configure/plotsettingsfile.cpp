@@ -2,7 +2,6 @@
 
 #include "configure/initext.h"
 
-#include <base/nivramsg.h>
 #include <base/wholefile.h>
 
 #include <QDataStream>
@@ -222,7 +221,7 @@ struct Writer {
 
 bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, const Told &told) {
   if (!QFileInfo::exists(path)) {
-    NivraMsg::debug(QStringLiteral("### Plot Settings file ") + path + QStringLiteral(" not found!"));
+    tell(told, Finding::Severity::Debug, QStringLiteral("### Plot Settings file ") + path + QStringLiteral(" not found!"));
     return false;
   }
   QString reason;

@@ -4,7 +4,6 @@
 #include "export/documentrenderer.h"
 
 #include <view/netplot.h>
-#include <view/plotexport.h>
 
 #include <QFile>
 #include <QImageWriter>
@@ -36,16 +35,12 @@ private:
 
 } // namespace
 
-QString PictureWriter::fault(const QByteArray &format, const PictureSize &size) {
+QString PictureWriter::fault(const QByteArray &format) {
   static const QList<QByteArray> Documents{"svg", "pdf", "ps"};
   if (const QList<QByteArray> pixels = QImageWriter::supportedImageFormats();
       !Documents.contains(format) && !pixels.contains(format))
     return tr("\"%1\" is no format of pictures; there are %2")
         .arg(QString::fromLatin1(format), QString::fromLatin1((Documents + pixels).join(", ")));
-  if (size.width <= 0)
-    return tr("a picture needs a width");
-  if (!(size.scale > 0.0 && size.scale <= PictureSize::LargestScale && size.width / size.scale >= 1.0))
-    return tr("a picture of %1 pixels cannot have the scale %2").arg(size.width).arg(size.scale);
   return QString();
 }
 

@@ -5,7 +5,6 @@
 class NetPlot;
 class QIODevice;
 class QPaintDevice;
-struct PictureSize;
 
 /// Writes a plot, which has the size of the picture already, in each of the formats.
 class PictureWriter {
@@ -16,8 +15,8 @@ public:
       : m_plot(plot)
       , m_scale(scale) {}
 
-  /// Why there can be no such picture; empty when there can.
-  static QString fault(const QByteArray &format, const PictureSize &size);
+  /// Why there can be no picture of the format; empty when there can.
+  static QString fault(const QByteArray &format);
   bool write(QIODevice &device, const QByteArray &format, QString &reason) const;
 
 private:

@@ -72,9 +72,19 @@ void layOut(NetPlot &plot, bool hasLabels) {
 
 } // namespace
 
+QString PictureSize::fault() const {
+  if (width <= 0)
+    return tr("a picture needs a width");
+  if (!(scale > 0.0 && scale <= LargestScale && width / scale >= 1.0))
+    return tr("a picture of %1 pixels cannot have the scale %2").arg(width).arg(scale);
+  return QString();
+}
+
 bool exportPlot(NetPlot &plot, const QString &path, const PictureSize &size, QString *error) {
   const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
-  QString reason = PictureWriter::fault(format, size);
+  QString reason = PictureWriter::fault(format);
+  if (reason.isEmpty())
+    reason = size.fault();
   bool isDone = false;
   if (reason.isEmpty()) {
     const bool hasLabels = !plot.update().labels().empty();
@@ -91,7 +101,7 @@ bool exportPlot(NetPlot &plot, const QString &path, const PictureSize &size, QSt
     }
     layOut(plot, hasLabels);
   } else {
-    reason = PictureWriter::tr("Could not write %1: %2").arg(path, reason);
+    reason = PictureSize::tr("Could not write %1: %2").arg(path, reason);
   }
   if (!isDone && error != nullptr)
     *error = reason;

@@ -1,7 +1,6 @@
 #include "canvas/qwtfastplot.h"
 #include "interaction/plotzoom.h"
 
-#include <base/nivramsg.h>
 #include <base/settings.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
@@ -263,7 +262,7 @@ bool NetPicker::end(bool ok) {
 }
 
 void NetPicker::pickRectangle(const QRectF &area) {
-  NivraMsg::debug(QStringLiteral("selection mode = %1").arg(static_cast<int>(m_mode)));
+  tell(m_plot.told(), Finding::Severity::Debug, QStringLiteral("selection mode = %1").arg(static_cast<int>(m_mode)));
   select(m_plot.update().elementsIn(area), m_mode == Mode::RectangleMore);
   m_plot.update().requestPixtest(0);
 }
@@ -291,7 +290,7 @@ void NetPicker::selectAll() {
 }
 
 bool NetPicker::markElement(const QString &name) {
-  NivraMsg::debug(QStringLiteral("NetPicker::markElement: ") + name);
+  tell(m_plot.told(), Finding::Severity::Debug, QStringLiteral("NetPicker::markElement: ") + name);
   const std::optional<NetGeometry::Item> item = m_plot.update().geometry().find(m_net, name);
   if (!item)
     return false;

@@ -192,7 +192,7 @@ void PlotMenu::addSubnet(QMenu &contextMenu, const State &state) {
   const QStringList subnets = sorted(m_net.selection().subnets);
   if (subnets.isEmpty())
     return;
-  NivraMsg::debug(QStringLiteral("sel has sub"));
+  tell(m_plot.told(), Finding::Severity::Debug, QStringLiteral("sel has sub"));
   QMenu *menu = contextMenu.addMenu(tr("Subnet"));
   if (subnets.size() == 1)
     return addSubnetEntries(*menu, subnets.first(), state);

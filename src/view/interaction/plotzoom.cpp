@@ -2,7 +2,6 @@
 
 #include "canvas/qwtfastplot.h"
 
-#include <base/nivramsg.h>
 #include <base/settings.h>
 
 #include <QKeyEvent>
@@ -11,8 +10,8 @@
 #include <algorithm>
 #include <cmath>
 
-PlotZoom::PlotZoom(QwtFastPlot &plot, const PlotSettings &settings)
-    : ZoomStack(plot, settings) {
+PlotZoom::PlotZoom(QwtFastPlot &plot, const PlotSettings &settings, Told told)
+    : ZoomStack(plot, settings, std::move(told)) {
   constexpr int Alpha = 150;
   setRubberBandPen(QColor(0, 170, 0, Alpha));
   setTrackerMode(AlwaysOff);
@@ -88,7 +87,7 @@ void PlotZoom::zoomOut(const QPointF &point, double factor) {
   const QRectF base = zoomBase();
   if (std::round(r.width()) >= std::round(base.width()) && std::round(r.height()) >= std::round(base.height())) {
     if (zoomRectIndex() != 0) {
-      NivraMsg::debug(QStringLiteral("zooming back to zoombase"));
+      tell(told(), Finding::Severity::Debug, QStringLiteral("zooming back to zoombase"));
       zoom(0);
     }
     return;

@@ -10,7 +10,7 @@
 class PlotZoom : public ZoomStack {
   Q_OBJECT
 public:
-  PlotZoom(QwtFastPlot &plot, const PlotSettings &settings);
+  PlotZoom(QwtFastPlot &plot, const PlotSettings &settings, Told told);
 
   /// Makes the extent of a network, with some margin around, the zoom base and shows it.
   void setExtent(const QRectF &extent);

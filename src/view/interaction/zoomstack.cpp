@@ -2,8 +2,6 @@
 
 #include "canvas/qwtfastplot.h"
 
-#include <base/nivramsg.h>
-
 #include <QEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -42,10 +40,11 @@ QRectF about(const QPointF &center, const QSizeF &size) {
 
 } // namespace
 
-ZoomStack::ZoomStack(QwtFastPlot &plot, const PlotSettings &settings)
+ZoomStack::ZoomStack(QwtFastPlot &plot, const PlotSettings &settings, Told told)
     : QwtPlotZoomer(plot.canvas(), false)
     , m_plot(plot)
-    , m_settings(settings) {
+    , m_settings(settings)
+    , m_told(std::move(told)) {
   connect(this, &QwtPlotZoomer::zoomed, this, &ZoomStack::cutStack);
 }
 
@@ -118,7 +117,7 @@ void ZoomStack::cutStack() {
   constexpr uint LongestStack = 256;
   if (zoomRectIndex() < LongestStack)
     return;
-  NivraMsg::debug(QStringLiteral("zoomStack reset"));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("zoomStack reset"));
   setStack(stackOf({zoomBase(), zoomRect()}), 1);
 }
 

@@ -2,6 +2,8 @@
 
 #include "interaction/zoomlimits.h"
 
+#include <base/finding.h>
+
 #include <QStack>
 #include <qwt_plot_zoomer.h>
 
@@ -17,7 +19,7 @@ class QwtFastPlot;
 class ZoomStack : public QwtPlotZoomer {
   Q_OBJECT
 public:
-  ZoomStack(QwtFastPlot &plot, const PlotSettings &settings);
+  ZoomStack(QwtFastPlot &plot, const PlotSettings &settings, Told told);
 
   const ZoomLimits &limits() const { return m_limits; }
   void setZoomLimits(const QRectF &extent, const QSizeF &pixelSpan) { m_limits = ZoomLimits::of(extent, pixelSpan); }
@@ -39,6 +41,7 @@ public:
 protected:
   QwtFastPlot &fastPlot() const { return m_plot; }
   const PlotSettings &settings() const { return m_settings; }
+  const Told &told() const { return m_told; }
   bool isMoving() const { return m_move != Move::None; }
   /// True while zoomed() is emitted for a canvas of another shape: nobody chose that view.
   bool isFittingCanvas() const { return m_isFitting; }
@@ -68,6 +71,7 @@ private:
 
   QwtFastPlot &m_plot;
   const PlotSettings &m_settings;
+  Told m_told;
   ZoomLimits m_limits;
   QRectF m_wholeNetwork; ///< what the base shows on a canvas of any shape
   QRectF m_chosen;       ///< the view as a person chose it,
