@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -561,6 +562,7 @@ void TestViewFuncDialog::pagesFitTheNarrowestDialog() {
   dialog.resize(dialog.minimumSizeHint());
   dialog.show();
   auto *tabs = child<QTabWidget>(dialog, "tabs");
+  QVERIFY(tabs->tabBar()->width() >= tabs->tabBar()->sizeHint().width());
   for (int i = 0; i < tabs->count(); ++i) {
     tabs->setCurrentIndex(i);
     QCoreApplication::processEvents();

@@ -13,6 +13,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QScrollBar>
+#include <QTabBar>
 #include <qwt_plot.h>
 
 #include <algorithm>
@@ -42,11 +43,18 @@ viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
   bindColors();
   m_functions->offerFunctions();
   refresh();
-  for (QScrollArea *page : m_ui->tabs->findChildren<QScrollArea *>()) // which would let a narrow dock cut their contents
-    page->setMinimumWidth(page->widget()->minimumSizeHint().width() + page->verticalScrollBar()->sizeHint().width());
+  limitWidth();
 }
 
 viewFuncDialog::~viewFuncDialog() = default;
+
+/// Neither the tabs nor the pages, which could be scrolled, are cut by a narrow dock.
+void viewFuncDialog::limitWidth() {
+  constexpr int TabFrame = 8; // px
+  m_ui->tabs->setMinimumWidth(m_ui->tabs->tabBar()->sizeHint().width() + TabFrame);
+  for (QScrollArea *page : m_ui->tabs->findChildren<QScrollArea *>())
+    page->setMinimumWidth(page->widget()->minimumSizeHint().width() + page->verticalScrollBar()->sizeHint().width());
+}
 
 void viewFuncDialog::showEvent(QShowEvent *event) {
   m_functions->offerFunctions(); // formulas may have computed more since

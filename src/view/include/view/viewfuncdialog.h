@@ -46,6 +46,7 @@ private:
   bool apply();
   void draw(const PlotSettings &before, const LabelTable &labels);
   void offerSavedSettings();
+  void limitWidth();
   void fillChoices();
   void bindScale();
   void bindSizes();
