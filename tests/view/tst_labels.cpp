@@ -1,3 +1,4 @@
+#include "geometry/geometryreader.h"
 #include "interaction/plotzoom.h"
 #include "viewfixture.h"
 
@@ -402,7 +403,7 @@ void TestLabels::visibility() {
   f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis"), vis);
   f.net.element(QStringLiteral("CD"))->set(QStringLiteral("vis.zoom"), zoom);
   NetGeometry geometry;
-  geometry.build(f.net, {});
+  GeometryReader::read(f.net, {}, geometry);
   VisibilityRules rules;
   rules.read(geometry, LabelTable());
   const NetGeometry::Item item = *geometry.find(f.net, QStringLiteral("CD"));

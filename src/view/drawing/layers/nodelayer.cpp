@@ -1,6 +1,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <drawing/canvasgrid.h>
 #include <drawing/layergeometry.h>
 #include <drawing/nodelayer.h>
 
@@ -115,7 +116,7 @@ void NodeLayer::drawJunctions(QPainter &painter, const std::vector<VisibleNode> 
   constexpr double OutlineWidth = 1.0;
   if (largest < TooSmall)
     return;
-  PixelGrid grid(canvas.adjusted(-Margin, -Margin, Margin, Margin), std::max(TooSmall, largest * 0.5));
+  CanvasGrid grid(canvas.adjusted(-Margin, -Margin, Margin, Margin), std::max(TooSmall, largest * 0.5));
   QMap<QPair<double, QRgb>, QPolygonF> dots; // points of one pen
   for (const VisibleNode &node : nodes) {
     if (node.record->shape == Shape::Junction && grid.take(node.center))
@@ -135,7 +136,7 @@ void NodeLayer::drawJunctions(QPainter &painter, const std::vector<VisibleNode> 
 
 void NodeLayer::drawStations(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest,
                              const QRectF &canvas) {
-  PixelGrid grid(canvas.adjusted(-Margin, -Margin, Margin, Margin), SmallestStation);
+  CanvasGrid grid(canvas.adjusted(-Margin, -Margin, Margin, Margin), SmallestStation);
   painter.setPen(QPen(QColor(Outline), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   for (const VisibleNode &node : nodes) {
     if (node.record->shape == Shape::Junction || !grid.take(node.center))

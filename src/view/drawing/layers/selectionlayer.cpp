@@ -1,6 +1,7 @@
 #include <base/settings.h>
 
 #include <algorithm>
+#include <drawing/canvasgrid.h>
 #include <drawing/selectionlayer.h>
 
 namespace {
@@ -115,7 +116,7 @@ void SelectionLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtS
   const Projection projection(xMap, yMap, canvasRect);
   if (m_geometry == nullptr || !projection.isValid())
     return;
-  PixelGrid grid(canvasRect, Cell);
+  CanvasGrid grid(canvasRect, Cell);
   for (const NetGeometry::Item item : m_items) {
     if (m_layers != nullptr && m_layers->isHidden(item))
       continue;

@@ -3,6 +3,7 @@
 #include <model/subnetstate.h>
 
 #include <algorithm>
+#include <drawing/canvasgrid.h>
 #include <drawing/subnetlayer.h>
 
 namespace {
@@ -59,7 +60,7 @@ QColor ringColor(const NetData &net, const element &subnet) {
   return colorOf(Settings::SubnetColorUnknown);
 }
 
-std::vector<QPointF> pinsOf(const NetGeometry::Place &subnet, const NetGeometry &geometry) {
+std::vector<QPointF> pinsOf(const NetGeometry::PointElement &subnet, const NetGeometry &geometry) {
   std::vector<QPointF> pins;
   for (const int node : subnet.pins) {
     if (const std::optional<QPointF> place = geometry.center({NetData::Node, node}))
@@ -98,7 +99,7 @@ void SubnetLayer::setLook(double size, int alpha) {
 
 void SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry) {
   m_records.clear();
-  for (const NetGeometry::Place &subnet : geometry.subnets()) {
+  for (const NetGeometry::PointElement &subnet : geometry.subnets()) {
     const element &source = *subnet.source;
     const auto number = [&source](const char *key) {
       return NetData::number(source.find(PropertyKey::find(key)));
@@ -132,7 +133,7 @@ std::vector<SubnetLayer::Placed> SubnetLayer::place(const Projection &projection
   std::vector<Placed> placed;
   if (!projection.isValid())
     return placed;
-  ClusterGrid grid(projection.canvas(), std::max(m_size, 1.0) * 0.55);
+  CanvasGrid grid(projection.canvas(), std::max(m_size, 1.0) * 0.55);
   for (std::size_t i = 0; i < m_records.size(); ++i) {
     const Record &record = m_records[i];
     const QPointF center = projection.map(record.center.x(), record.center.y());

@@ -1,6 +1,7 @@
 #include <model/elementstate.h>
 
 #include <algorithm>
+#include <drawing/canvasgrid.h>
 #include <drawing/symbollayer.h>
 
 namespace {
@@ -166,7 +167,7 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
   const double room =
       std::sqrt(canvas.width() * canvas.height() / static_cast<double>(std::max<std::size_t>(visible.size(), 1)));
   const double size = std::min(m_size, std::max(Legible, room * Share));
-  ClusterGrid grid(area, size * Apart);
+  CanvasGrid grid(area, size * Apart);
   for (const auto &[i, center] : visible) {
     const int number = grid.claim(center, static_cast<int>(placed.size()));
     if (number < static_cast<int>(placed.size())) {

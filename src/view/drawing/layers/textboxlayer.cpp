@@ -2,6 +2,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <drawing/canvasgrid.h>
 #include <drawing/layergeometry.h>
 #include <drawing/textboxlayer.h>
 
@@ -32,7 +33,7 @@ void TextBoxLayer::setTextBoxes(const NetGeometry &geometry, const LabelContents
   static const PropertyKey font = PropertyKey::intern("vis.font");
   m_records.clear();
   for (std::size_t i = 0; i < geometry.textBoxes().size(); ++i) {
-    const NetGeometry::Place &box = geometry.textBoxes()[i];
+    const NetGeometry::PointElement &box = geometry.textBoxes()[i];
     const QStringList lines = contents.textOfBox(*box.source);
     if (lines.isEmpty())
       continue;
@@ -54,7 +55,7 @@ std::vector<TextBoxLayer::Placed> TextBoxLayer::place(const Projection &projecti
   if (!projection.isValid())
     return placed;
   constexpr double Cell = 8.0;
-  PixelGrid grid(projection.canvas(), Cell);
+  CanvasGrid grid(projection.canvas(), Cell);
   for (const Record &record : m_records) {
     QRectF area(QPointF(), record.size);
     area.moveCenter(projection.map(record.x, record.y));

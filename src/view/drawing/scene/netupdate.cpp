@@ -312,7 +312,7 @@ std::vector<NetGeometry::Item> NetUpdate::elementsIn(const QRectF &area) const {
     if (isInside(line.x1(), line.y1()) && isInside(line.x2(), line.y2()))
       found.push_back({NetData::Edge, static_cast<int>(i)});
   }
-  const auto takePlaces = [&](NetData::EleType kind, const std::vector<NetGeometry::Place> &places) {
+  const auto takePlaces = [&](NetData::EleType kind, const std::vector<NetGeometry::PointElement> &places) {
     for (std::size_t i = 0; i < places.size(); ++i) {
       if (isDrawn({kind, static_cast<int>(i)}) && isInside(places[i].x, places[i].y))
         found.push_back({kind, static_cast<int>(i)});
