@@ -190,7 +190,7 @@ int Batch::run(const CommandLine &line) {
   const NivraMsg::Recorder recorder;
   GeneralSettings::instance().load(QString(), logFinding);
   NetData net;
-  NetVisControl control(net, QString());
+  NetVisControl control(net, QString(), logFinding);
   NetworkLoader loader(net);
   StageTimes times;
   if (!loader.resolve(line.file))

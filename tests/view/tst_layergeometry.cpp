@@ -1,6 +1,7 @@
+#include "geometry/canvasgrid.h"
+
 #include <support/nivratest.h>
 
-#include <drawing/canvasgrid.h>
 #include <drawing/layergeometry.h>
 #include <drawing/spatialindex.h>
 #include <random>

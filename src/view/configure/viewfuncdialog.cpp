@@ -359,7 +359,9 @@ void viewFuncDialog::on_savedSettings_clicked() {
   if (!m_plot.readPlotSettings(m_plotSettingsPath))
     m_plot.setSettings(before);
   LabelTable labels;
-  if (!LabelTableFile::read(m_labelTablePath, labels))
+  const LabelTableFile::Reading reading = LabelTableFile::read(m_labelTablePath, labels);
+  report(reading.findings);
+  if (!reading)
     labels = m_plot.update().labelTable();
   draw(before, labels);
 }
@@ -370,7 +372,9 @@ void viewFuncDialog::on_load_clicked() {
   if (path.isEmpty())
     return;
   LabelTable table;
-  if (LabelTableFile::read(path, table, FileAccess::Source::Trusted))
+  const LabelTableFile::Reading reading = LabelTableFile::read(path, table, FileAccess::Source::Trusted);
+  report(reading.findings);
+  if (reading)
     m_labels->setTable(table);
 }
 

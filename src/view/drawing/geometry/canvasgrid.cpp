@@ -1,5 +1,6 @@
+#include "geometry/canvasgrid.h"
+
 #include <algorithm>
-#include <drawing/canvasgrid.h>
 
 namespace {
 

@@ -81,8 +81,8 @@ LaneWay::LaneWay(const QLineF &line, double offset)
 }
 
 double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize) {
-  constexpr double Gap = 2.0;
-  return (hasSymbol ? std::max(symbolSize, lineWidth) : lineWidth) + Gap;
+  constexpr double GapBetweenLines = 2.0; // px
+  return (hasSymbol ? std::max(symbolSize, lineWidth) : lineWidth) + GapBetweenLines;
 }
 
 double distanceToLine(const QPointF &point, const QLineF &line) {
@@ -117,10 +117,10 @@ bool isVectorTarget(const QPainter &painter) {
 }
 
 double pixelRatio(const QPainter &painter) {
-  constexpr double Smallest = 0.25;
-  constexpr double Largest = 16.0;
-  constexpr double Steps = 4.0; // a cache entry a quarter: enough to be sharp
+  constexpr double SmallestRatio = 0.25;
+  constexpr double LargestRatio = 16.0;
+  constexpr double StepsOfRatio = 4.0; // a cache entry a quarter: enough to be sharp
   const QTransform &transform = painter.deviceTransform();
   const double scale = std::hypot(transform.m11(), transform.m12());
-  return std::isfinite(scale) ? qBound(Smallest, std::ceil(scale * Steps) / Steps, Largest) : 1.0;
+  return std::isfinite(scale) ? qBound(SmallestRatio, std::ceil(scale * StepsOfRatio) / StepsOfRatio, LargestRatio) : 1.0;
 }

@@ -196,13 +196,28 @@ const element *NetGeometry::source(Item item) const {
   }
 }
 
+std::size_t NetGeometry::count(NetData::EleType kind) const {
+  switch (kind) {
+  case NetData::Node:
+    return nodes().size();
+  case NetData::Edge:
+    return edges().size();
+  case NetData::AssembledSubnet:
+    return subnets().size();
+  case NetData::TextBox:
+    return textBoxes().size();
+  default:
+    return 0;
+  }
+}
+
 std::optional<NetGeometry::Item> NetGeometry::find(const NetData &net, const QString &name, int kinds) const {
   const std::string utf8 = name.toStdString();
   // Nodes and edges stand in name order, as the collections do.
   for (const auto &[kind, collection] : {std::make_pair(NetData::Node, &net.nodes()), {NetData::Edge, &net.edges()}}) {
     const elements::Entry *entry = (kinds & kind) != 0 ? collection->findEntry(utf8) : nullptr;
-    const std::size_t count = kind == NetData::Node ? m_records.nodes.size() : m_records.edges.size();
-    if (entry != nullptr && static_cast<std::size_t>(entry->place) < count && source({kind, entry->place}) == &entry->value)
+    if (entry != nullptr && static_cast<std::size_t>(entry->place) < count(kind) &&
+        source({kind, entry->place}) == &entry->value)
       return Item{kind, entry->place};
   }
   for (const auto &[kind, points] :

@@ -25,10 +25,10 @@ QwtInterval rangeOf(const std::vector<double> &values) {
 
 /// What separates values that people would call the same: solvers leave noise.
 bool isOneValue(const QwtInterval &data, const Units::Linear &toDisplay) {
-  constexpr double Share = 1e-3;
+  constexpr double NoiseShare = 1e-3;
   const double low = toDisplay(data.minValue());
   const double high = toDisplay(data.maxValue());
-  return std::abs(high - low) <= Share * std::max(std::abs(low), std::abs(high));
+  return std::abs(high - low) <= NoiseShare * std::max(std::abs(low), std::abs(high));
 }
 
 /// About zero, so that both signs have their own colours.
@@ -83,7 +83,7 @@ void forgetDrives(const NetGeometry &geometry, std::vector<double> &column) {
 }
 
 /// Gives edges without a value what their ends say: the end where the gas enters, or the first less the second.
-void takeFromEnds(const DrawFunction &function, bool absolute, const NetGeometry &geometry,
+void readFromEnds(const DrawFunction &function, bool absolute, const NetGeometry &geometry,
                   const std::vector<double> &ofEnds, const std::vector<double> &flow, std::vector<double> &column) {
   const auto at = [&ofEnds](int node) {
     return node < 0 ? NetData::NoValue : ofEnds[static_cast<std::size_t>(node)];
@@ -158,7 +158,7 @@ void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, Ele
     const std::size_t column = columnOf(aspect);
     if (isOfEdges(aspect)) {
       if (!function.ofEnds.isNull())
-        takeFromEnds(function, s.functions[aspect].isAbsolute, geometry, values.ofNodes[columnOfEnds(aspect)],
+        readFromEnds(function, s.functions[aspect].isAbsolute, geometry, values.ofNodes[columnOfEnds(aspect)],
                      values.ofEdges[FlowColumn], values.ofEdges[column]);
       if (function.isOfGraph() && !rangeOf(values.ofEdges[column]).isValid()) {
         values.ofEnds[column] = ofGraph(function, geometry);

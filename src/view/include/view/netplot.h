@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/finding.h>
+
 #include <QWidget>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_marker.h>
@@ -21,7 +23,8 @@ class SmoothZoom;
 class NetPlot : public QWidget {
   Q_OBJECT
 public:
-  explicit NetPlot(QWidget *parent = nullptr);
+  /// \param told what drawing does and what it found on the way
+  explicit NetPlot(QWidget *parent = nullptr, Told told = {});
   ~NetPlot() override;
 
   QwtFastPlot *plot() const { return m_plot; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/finding.h>
 #include <model/topology.h>
 #include <view/netpicker.h>
 #include <view/netplot.h>
@@ -17,7 +18,8 @@ class NetVisControl : public QObject {
   Q_OBJECT
 public:
   /// \param name of the view; empty for the main one
-  NetVisControl(NetData &net, const QString &name, QObject *parent = nullptr);
+  /// \param told what drawing does and what it found on the way
+  NetVisControl(NetData &net, const QString &name, Told told = {}, QObject *parent = nullptr);
   ~NetVisControl() override;
 
   const QString &name() const { return m_name; }
@@ -73,6 +75,7 @@ private:
   QString m_name;
   QString m_settingsPath;
   QString m_subnetIcons;
+  Told m_told;
   QPointer<NetPlot> m_plot;
   NetPicker *m_picker; ///< belongs to the canvas of the plot
   std::unique_ptr<PlotMenu> m_menu;

@@ -44,7 +44,7 @@ private:
 /// the picture by millions of pixels must not reach them.
 bool clipLine(QLineF &line, const QRectF &rect);
 
-/// The way of one of several lines between the same two points: it leaves them at an angle and keeps beside the others.
+/// The course of one of several lines between the same two points: it leaves them at an angle and keeps beside the others.
 struct LaneWay {
   /// \param offset px to the right of the line; less on a line too short for it
   LaneWay(const QLineF &line, double offset);
@@ -64,8 +64,8 @@ double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize);
 double distanceToLine(const QPointF &point, const QLineF &line);
 
 /// What of an element was hit; the former covers the latter: boxes cover what is behind them, a symbol stands for its
-/// element, and what stands at a place counts more than a line that ends there.
-enum class HitRank { Box, Symbol, Place, Line };
+/// element, and what stands at a point counts more than a line that ends there.
+enum class HitRank { Box, Symbol, Point, Line };
 
 /// Something drawn under the cursor.
 struct Hit {

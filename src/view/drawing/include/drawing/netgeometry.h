@@ -92,6 +92,16 @@ public:
     return {from.x, from.y, to.x, to.y};
   }
   const element *source(Item item) const;
+  std::size_t count(NetData::EleType kind) const;
+  /// Calls visit(item, source) for everything that can be pointed at.
+  template <typename Visit>
+  void forEachItem(const Visit &visit) const {
+    for (const NetData::EleType kind : {NetData::Node, NetData::Edge, NetData::AssembledSubnet, NetData::TextBox}) {
+      const auto items = static_cast<int>(count(kind));
+      for (Item item{kind, 0}; item.index < items; ++item.index)
+        visit(item, *source(item));
+    }
+  }
   /// The item of a name among the kinds of the mask; nothing when it is not there or was not drawn.
   std::optional<Item> find(const NetData &net, const QString &name, int kinds = NetData::AllTypes) const;
   /// Middle of the item in plot coordinates; nothing without coordinates.
