@@ -10,6 +10,7 @@
 #include "ui_nivraviewer.h"
 
 #include <base/fileaccess.h>
+#include <base/finding.h>
 #include <base/nivramsg.h>
 #include <base/settings.h>
 #include <tools/categorylist.h>

@@ -2,6 +2,7 @@
 
 #include "tooldocks.h"
 
+#include <base/finding.h>
 #include <io/nivraworkspace.h>
 #include <model/names.h>
 #include <model/netmetadata.h>

@@ -8,13 +8,14 @@
 #include <QMenu>
 #include <QMetaMethod>
 
+#include <algorithm>
 #include <drawing/drawfunctions.h>
 
 NetVisControl::NetVisControl(NetData &net, const QString &name, Told told, QObject *parent)
     : QObject(parent)
     , m_net(net)
     , m_name(name)
-    , m_plot(new NetPlot(std::move(told)))
+    , m_plot(new NetPlot(nullptr, std::move(told)))
     , m_picker(new NetPicker(*m_plot, net))
     , m_menu(std::make_unique<PlotMenu>(*m_plot, *m_picker, net)) {
   m_plot->setShowsSubnet(!name.isEmpty());
@@ -76,7 +77,9 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   const QString folder = QFileInfo(plotSettingsPath).path();
   m_bookmarks = ViewBookmarks(folder + QStringLiteral("/viewbookmarks.csv"));
   LabelTable labels;
-  LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels);
+  const Findings found = LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels).findings;
+  if (m_plot->told())
+    std::for_each(found.begin(), found.end(), m_plot->told());
   m_picker->reset();
   m_plot->update().setNetData(&m_net);
   m_plot->update().setFolder(folder, m_subnetIcons);

@@ -1,4 +1,5 @@
 #include "geometry/drawngraph.h"
+#include "geometry/geometryreader.h"
 #include "viewfixture.h"
 
 #include <base/nivramsg.h>
@@ -211,12 +212,12 @@ void TestNetUpdate::graphFunctionsAreComputed() {
   valve.set(QStringLiteral("state"), QStringLiteral("closed"));
   net.addElement(valve);
   NetGeometry geometry;
-  geometry.build(net, {});
+  GeometryReader::read(net, {}, geometry);
   const DrawnGraph graph(geometry);
   constexpr double None = NetData::NoValue;
   QCOMPARE(graph.components(), (std::vector<double>{1, 1, 1, 1, 2, 2, 3, None}));
-  const NetGeometry::Request lengths{{{PropertyKey::intern("length"), true}}, {}};
-  const std::vector<double> distances = graph.distances(geometry.values(lengths).ofEdges.front());
+  const ValueRequest lengths{{{PropertyKey::intern("length"), true}}, {}};
+  const std::vector<double> distances = graph.distances(GeometryReader::readValues(geometry, lengths).ofEdges.front());
   QCOMPARE(distances, (std::vector<double>{0, 100, 80, 50, None, None, None, None}));
 
   ViewFixture f;

@@ -33,13 +33,14 @@ private:
 
 } // namespace
 
-NetPlot::NetPlot(Told told, QWidget *parent)
+NetPlot::NetPlot(QWidget *parent, Told told)
     : QWidget(parent)
     , m_told(std::move(told))
     , m_plot(new QwtFastPlot(this))
     , m_zoomer(new PlotZoom(*m_plot, m_settings, m_told))
     , m_panner(new PlotPanner(*m_plot))
-    , m_update(std::make_unique<NetUpdate>(m_settings, [this] { return view(); }))
+    , m_update(std::make_unique<NetUpdate>(
+          m_settings, [this] { return view(); }, m_told))
     , m_smoothZoom(new SmoothZoom(*m_zoomer)) {
   constexpr int SmallestSide = 200;
   constexpr double GridZ = 1.0;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <drawing/drawfunctions.h>
 #include <drawing/plotsettings.h>
 
 namespace {
@@ -17,6 +18,11 @@ bool isNumber(const QString &text) {
   bool isOne = false;
   text.trimmed().toDouble(&isOne);
   return isOne || text.trimmed().isEmpty();
+}
+
+/// As TypedBounds::OfFunctions has it, whether the function goes by its name or by its property.
+QString keyOf(const QString &function) {
+  return DrawFunction::propertyName(function.trimmed()).toLower();
 }
 
 /// With as many digits as it takes to mean the same again.
@@ -84,7 +90,7 @@ void FunctionRow::setFunction(const PlotSettings::Function &function) {
   m_ui->function->setCurrentText(function.name);
   m_ui->absolute->setChecked(function.isAbsolute);
   m_ui->logarithmic->setChecked(function.isLogarithmic);
-  m_function = TypedBounds::key(function.name);
+  m_function = keyOf(function.name);
   m_unit = m_unitOf(function.name);
   m_typed = function.typed;
   TypedBounds bounds = inUnit(m_typed.value(m_function));
@@ -96,7 +102,7 @@ void FunctionRow::setFunction(const PlotSettings::Function &function) {
 
 void FunctionRow::changeFunction(const QString &function) {
   m_typed = typedBounds();
-  m_function = TypedBounds::key(function);
+  m_function = keyOf(function);
   m_unit = m_unitOf(function.trimmed());
   show(inUnit(m_typed.value(m_function)));
   setNote(QString());

@@ -54,7 +54,7 @@ private:
   std::unique_ptr<Ui::FunctionRow> m_ui;
   UnitOf m_unitOf;
   Unit m_unit;                        ///< of the function that is shown
-  QString m_function;                 ///< that is shown, as TypedBounds::key() has it
+  QString m_function;                 ///< that is shown, as TypedBounds::OfFunctions has it
   TypedBounds::OfFunctions m_typed;   ///< of the other functions
   TypedBounds::OfFunctions m_applied; ///< what "Reset" comes back to
 };

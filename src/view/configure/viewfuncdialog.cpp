@@ -219,6 +219,13 @@ void viewFuncDialog::on_applyAndSave_clicked() {
   offerSavedSettings();
 }
 
+bool viewFuncDialog::readLabels(const QString &path, FileAccess::Source source, LabelTable &labels) const {
+  const LabelTableFile::Reading reading = LabelTableFile::read(path, labels, source);
+  if (m_plot.told())
+    std::for_each(reading.findings.begin(), reading.findings.end(), m_plot.told());
+  return reading.isOpened;
+}
+
 /// As when the case was opened: what the files do not say is as in the beginning.
 void viewFuncDialog::on_savedSettings_clicked() {
   const PlotSettings before = m_plot.settings();
@@ -226,7 +233,7 @@ void viewFuncDialog::on_savedSettings_clicked() {
   if (!m_plot.readPlotSettings(m_plotSettingsPath))
     m_plot.setSettings(before);
   LabelTable labels;
-  if (!LabelTableFile::read(m_labelTablePath, labels))
+  if (!readLabels(m_labelTablePath, FileAccess::Source::Workspace, labels))
     labels = m_plot.update().labelTable();
   draw(before, labels);
 }
@@ -237,7 +244,7 @@ void viewFuncDialog::on_load_clicked() {
   if (path.isEmpty())
     return;
   LabelTable table;
-  if (LabelTableFile::read(path, table, FileAccess::Source::Trusted))
+  if (readLabels(path, FileAccess::Source::Trusted, table))
     m_labels->setTable(table);
 }
 

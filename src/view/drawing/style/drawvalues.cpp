@@ -1,4 +1,5 @@
 #include "geometry/drawngraph.h"
+#include "geometry/geometryreader.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,10 +25,10 @@ QwtInterval rangeOf(const std::vector<double> &values) {
 
 /// What separates values that people would call the same: solvers leave noise.
 bool isOneValue(const QwtInterval &data, const Units::Linear &toDisplay) {
-  constexpr double Share = 1e-3;
+  constexpr double NoiseShare = 1e-3;
   const double low = toDisplay(data.minValue());
   const double high = toDisplay(data.maxValue());
-  return std::abs(high - low) <= Share * std::max(std::abs(low), std::abs(high));
+  return std::abs(high - low) <= NoiseShare * std::max(std::abs(low), std::abs(high));
 }
 
 /// About zero, so that both signs have their own colours.
@@ -69,8 +70,8 @@ QwtInterval rangeWithin(const DrawValues::Column &column, const PlotSettings::Fu
 std::vector<double> ofGraph(const DrawFunction &function, const NetGeometry &geometry) {
   if (function.computed == Computed::Connectivity)
     return DrawnGraph(geometry).components();
-  const NetGeometry::Request lengths{{{PropertyKey::intern("length"), true}}, {}};
-  return DrawnGraph(geometry).distances(geometry.values(lengths).ofEdges.front());
+  const ValueRequest lengths{{{PropertyKey::intern("length"), true}}, {}};
+  return DrawnGraph(geometry).distances(GeometryReader::readValues(geometry, lengths).ofEdges.front());
 }
 
 /// Drives are nodes, but none that is drawn as one: what they say must not stretch the scale of the others.
@@ -82,7 +83,7 @@ void forgetDrives(const NetGeometry &geometry, std::vector<double> &column) {
 }
 
 /// Gives edges without a value what their ends say: the end where the gas enters, or the first less the second.
-void takeFromEnds(const DrawFunction &function, bool absolute, const NetGeometry &geometry,
+void readFromEnds(const DrawFunction &function, bool absolute, const NetGeometry &geometry,
                   const std::vector<double> &ofEnds, const std::vector<double> &flow, std::vector<double> &column) {
   const auto at = [&ofEnds](int node) {
     return node < 0 ? NetData::NoValue : ofEnds[static_cast<std::size_t>(node)];
@@ -122,8 +123,8 @@ bool isOneColor(const PlotSettings &s) {
 
 } // namespace
 
-NetGeometry::Request DrawValues::request(const PlotSettings &s) const {
-  NetGeometry::Request request;
+ValueRequest DrawValues::request(const PlotSettings &s) const {
+  ValueRequest request;
   for (const Aspect aspect : AllAspects) {
     const bool isReadAlready = aspect == Aspect::NodeColor && isOneColor(s);
     (isOfEdges(aspect) ? request.ofEdges : request.ofNodes)
@@ -140,7 +141,8 @@ void DrawValues::read(const NetData &net, const PlotSettings &s, NetGeometry &ge
     const QString &name = s.functions[aspect].name;
     m_columns[aspect].function = name == PlotSettings::fixedSize() ? DrawFunction() : DrawFunction::find(name, net);
   }
-  NetGeometry::Values values = rebuild ? geometry.build(net, request(s)) : geometry.values(request(s));
+  ElementValues values =
+      rebuild ? GeometryReader::read(net, request(s), geometry) : GeometryReader::readValues(geometry, request(s));
   compute(geometry, s, values);
   setColumns(values, s);
   m_flow = std::move(values.ofEdges[FlowColumn]);
@@ -150,17 +152,18 @@ void DrawValues::read(const NetData &net, const PlotSettings &s, NetGeometry &ge
 }
 
 /// What the elements carry themselves counts more than what can be computed.
-void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, NetGeometry::Values &values) const {
+void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, ElementValues &values) const {
   for (const Aspect aspect : AllAspects) {
     const DrawFunction &function = of(aspect).function;
     const std::size_t column = columnOf(aspect);
     if (isOfEdges(aspect)) {
       if (!function.ofEnds.isNull())
-        takeFromEnds(function, s.functions[aspect].isAbsolute, geometry, values.ofNodes[columnOfEnds(aspect)],
+        readFromEnds(function, s.functions[aspect].isAbsolute, geometry, values.ofNodes[columnOfEnds(aspect)],
                      values.ofEdges[FlowColumn], values.ofEdges[column]);
       if (function.isOfGraph() && !rangeOf(values.ofEdges[column]).isValid()) {
         values.ofEnds[column] = ofGraph(function, geometry);
-        geometry.takeMeans(values.ofEnds[column], values.ofEdges[column]);
+        std::transform(geometry.edges().begin(), geometry.edges().end(), values.ofEdges[column].begin(),
+                       [&](const NetGeometry::Edge &edge) { return NetGeometry::meanOfEnds(edge, values.ofEnds[column]); });
       }
       continue;
     }
@@ -173,7 +176,7 @@ void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, Net
     forgetDrives(geometry, (isOfEdges(aspect) ? values.ofEnds : values.ofNodes)[columnOf(aspect)]);
 }
 
-void DrawValues::setColumns(NetGeometry::Values &values, const PlotSettings &s) {
+void DrawValues::setColumns(ElementValues &values, const PlotSettings &s) {
   const bool isDiverging = ColorRamp::kindOf(s.colorRamp) == ColorRamp::Kind::Diverging;
   for (const Aspect aspect : AllAspects) {
     Column &column = m_columns[aspect];

@@ -116,7 +116,7 @@ std::vector<ColorScale::Swatch> ElementLooks::swatches() const {
 
 std::vector<bool> ElementLooks::searchResults(NetData::EleType kind) const {
   static const PropertyKey key = PropertyKey::intern("isSearchResult");
-  const std::size_t count = kind == NetData::Edge ? m_geometry.edges().size() : m_geometry.nodes().size();
+  const std::size_t count = m_geometry.count(kind);
   std::vector<bool> found(count);
   for (std::size_t i = 0; i < count; ++i) {
     const PropertyText *text = m_geometry.source({kind, static_cast<int>(i)})->find(key);

@@ -2,12 +2,7 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <drawing/drawfunctions.h>
 #include <drawing/typedbounds.h>
-
-QString TypedBounds::key(const QString &function) {
-  return DrawFunction::propertyName(function.trimmed()).toLower();
-}
 
 QString TypedBounds::aspectKey(Aspect aspect) {
   static const PerAspect<QString> Keys{{QStringLiteral("colorFunc"), QStringLiteral("widthFunc"),

@@ -23,8 +23,8 @@ class SmoothZoom;
 class NetPlot : public QWidget {
   Q_OBJECT
 public:
-  /// \param told what is wrong with the files of the drawing, and what was done
-  explicit NetPlot(Told told = {}, QWidget *parent = nullptr);
+  /// \param told what drawing does and what it found on the way
+  explicit NetPlot(QWidget *parent = nullptr, Told told = {});
   ~NetPlot() override;
 
   const Told &told() const { return m_told; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/finding.h>
 #include <model/topology.h>
 #include <view/netpicker.h>
 #include <view/netplot.h>
@@ -17,7 +18,7 @@ class NetVisControl : public QObject {
   Q_OBJECT
 public:
   /// \param name of the view; empty for the main one
-  /// \param told what is wrong with the files of the drawing, and what was done
+  /// \param told what drawing does and what it found on the way
   NetVisControl(NetData &net, const QString &name, Told told = {}, QObject *parent = nullptr);
   ~NetVisControl() override;
 

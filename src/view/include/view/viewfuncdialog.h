@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/fileaccess.h>
+
 #include <QWidget>
 
 #include <memory>
@@ -46,6 +48,7 @@ private:
   bool apply();
   void draw(const PlotSettings &before, const LabelTable &labels);
   void offerSavedSettings();
+  bool readLabels(const QString &path, FileAccess::Source source, LabelTable &labels) const;
   void limitWidth();
   void fillChoices();
   void bindScale();

@@ -6,6 +6,9 @@
 #include <drawing/netgeometry.h>
 #include <drawing/plotsettings.h>
 
+struct ElementValues;
+struct ValueRequest;
+
 /// What the draw functions say of the elements of a network.
 class DrawValues {
 public:
@@ -27,9 +30,9 @@ public:
   const std::vector<double> &flowSize() const { return m_flowSize; } ///< the same without sign
 
 private:
-  NetGeometry::Request request(const PlotSettings &settings) const;
-  void compute(const NetGeometry &geometry, const PlotSettings &settings, NetGeometry::Values &values) const;
-  void setColumns(NetGeometry::Values &values, const PlotSettings &settings);
+  ValueRequest request(const PlotSettings &settings) const;
+  void compute(const NetGeometry &geometry, const PlotSettings &settings, ElementValues &values) const;
+  void setColumns(ElementValues &values, const PlotSettings &settings);
 
   PerAspect<Column> m_columns{};
   std::vector<double> m_flow;

@@ -42,7 +42,8 @@ public:
   };
 
   /// \param view asked whenever something depends on it
-  NetUpdate(const PlotSettings &settings, std::function<View()> view);
+  /// \param told what is being done, and what was found on the way
+  NetUpdate(const PlotSettings &settings, std::function<View()> view, Told told);
 
   /// What is to be painted, from the bottom to the top.
   std::vector<QwtPlotItem *> items();
@@ -93,7 +94,7 @@ public:
   /// Elements in view whose label found no place in the last pass.
   const std::vector<NetGeometry::Item> &unplacedLabels() const { return m_unplaced; }
 
-  /// What is drawn under the point of the canvas: boxes, then symbols, then what stands at a place, then lines; each by
+  /// What is drawn under the point of the canvas: boxes, then symbols, then what stands at a point, then lines; each by
   /// distance.
   std::vector<Hit> elementsAt(const QPointF &point, double tolerance) const;
   /// What lies wholly in the rectangle, in plot coordinates.
@@ -108,6 +109,7 @@ signals:
   void changed(); ///< something is to be painted anew
 
 private:
+  void tellAll(const Findings &findings) const;
   void runPixtest(Pixtest::Labels labels);
   void placeLabels();
   ElementLooks looks() const;
@@ -120,6 +122,7 @@ private:
 
   const PlotSettings &m_settings;
   std::function<View()> m_view;
+  Told m_told;
   const NetData *m_net = nullptr;
   bool m_isNew = false; ///< nothing of the network was drawn yet
   NetGeometry m_geometry;

@@ -16,8 +16,6 @@ struct TypedBounds {
   /// By the property behind the function, in lower case.
   using OfFunctions = QHash<QString, TypedBounds>;
 
-  /// The key of a function, whether it goes by its name or by its property.
-  static QString key(const QString &function);
   /// A function keeps the bounds of edge colours apart from those of node colours. In the text entries are joined by ";", in
   /// each aspect|property|minimum|maximum|unit, percent-encoded. What is no entry is passed over.
   static PerAspect<OfFunctions> read(const QString &text);
