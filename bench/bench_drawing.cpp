@@ -159,7 +159,8 @@ void recolour(benchmark::State &state) {
   const PlotSettings before = scene.plot().settings();
   PlotSettings settings = before;
   for (auto _ : state) {
-    settings.colorFunc = settings.colorFunc == QLatin1String("q") ? QStringLiteral("length") : QStringLiteral("q");
+    settings.functions[Aspect::EdgeColor].name =
+        settings.functions[Aspect::EdgeColor].name == QLatin1String("q") ? QStringLiteral("length") : QStringLiteral("q");
     scene.plot().setSettings(settings);
     scene.plot().update().updatePlot();
   }

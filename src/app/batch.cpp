@@ -153,29 +153,20 @@ QJsonObject info(NetData &net, const NetworkLoader &loader, StageTimes &times, c
 /// Puts the functions of the command line in place of those of the settings, with open bounds. False with the reason when
 /// there is nothing to see of one.
 bool applyFunctions(const CommandLine &line, NetVisControl &control, QString &reason) {
-  using S = PlotSettings;
-  struct Function {
-    const QString &chosen;
-    QString S::*function;
-    double S::*minimum;
-    double S::*maximum;
-  };
-  const Function functions[] = {{line.colorBy, &S::colorFunc, &S::minVal_edgeColor, &S::maxVal_edgeColor},
-                                {line.widthBy, &S::widthFunc, &S::minVal_Width, &S::maxVal_Width},
-                                {line.nodeColorBy, &S::nodeColorFunc, &S::minVal_nodeColor, &S::maxVal_nodeColor},
-                                {line.nodeSizeBy, &S::nodeSizeFunc, &S::minVal_nodeSize, &S::maxVal_nodeSize}};
   NetPlot &plot = *control.plot();
   PlotSettings settings = plot.settings();
-  for (const Function &f : functions) {
-    if (f.chosen.isEmpty())
+  for (const Aspect aspect : AllAspects) {
+    const QString &chosen = line.functions[aspect];
+    if (chosen.isEmpty())
       continue;
-    if (f.chosen != PlotSettings::fixedSize() && !DrawFunction::find(f.chosen, control.net()).isKnown()) {
-      reason = tr("No element has the property \"%1\".").arg(f.chosen);
+    if (chosen != PlotSettings::fixedSize() && !DrawFunction::find(chosen, control.net()).isKnown()) {
+      reason = tr("No element has the property \"%1\".").arg(chosen);
       return false;
     }
-    settings.*f.function = f.chosen;
-    settings.*f.minimum = PlotSettings::OpenMinimum;
-    settings.*f.maximum = PlotSettings::OpenMaximum;
+    PlotSettings::Function &function = settings.functions[aspect];
+    function.name = chosen;
+    function.minimum = PlotSettings::OpenMinimum;
+    function.maximum = PlotSettings::OpenMaximum;
   }
   if (!line.labels.isEmpty())
     settings.label_mode = line.labels;
@@ -199,7 +190,7 @@ int Batch::run(const CommandLine &line) {
   const NivraMsg::Recorder recorder;
   GeneralSettings::instance().load(QString(), logFinding);
   NetData net;
-  NetVisControl control(net, QString());
+  NetVisControl control(net, QString(), logFinding);
   NetworkLoader loader(net);
   StageTimes times;
   if (!loader.resolve(line.file))

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QVector>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -67,24 +68,31 @@ struct ToolkitOptions {
 
 /// The options that say what the picture shows.
 struct DrawOptions {
-  QCommandLineOption colorBy{QStringLiteral("color-by"), tr("Property by which the edges are coloured."),
-                             QStringLiteral("PROPERTY")};
-  QCommandLineOption widthBy{QStringLiteral("width-by"), tr("Property that gives the edges their width."),
-                             QStringLiteral("PROPERTY")};
-  QCommandLineOption nodeColorBy{QStringLiteral("node-color-by"), tr("Property by which the nodes are coloured."),
-                                 QStringLiteral("PROPERTY")};
-  QCommandLineOption nodeSizeBy{QStringLiteral("node-size-by"), tr("Property that gives the nodes their size."),
-                                QStringLiteral("PROPERTY")};
+  PerAspect<QCommandLineOption> functions{
+      {QCommandLineOption(QStringLiteral("color-by"), tr("Property by which the edges are coloured."),
+                          QStringLiteral("PROPERTY")),
+       QCommandLineOption(QStringLiteral("width-by"), tr("Property that gives the edges their width."),
+                          QStringLiteral("PROPERTY")),
+       QCommandLineOption(QStringLiteral("node-color-by"), tr("Property by which the nodes are coloured."),
+                          QStringLiteral("PROPERTY")),
+       QCommandLineOption(QStringLiteral("node-size-by"), tr("Property that gives the nodes their size."),
+                          QStringLiteral("PROPERTY"))}};
   QCommandLineOption labels{QStringLiteral("labels"), tr("What labels say."), QStringLiteral("none|name|selected")};
   QCommandLineOption extent{QStringLiteral("extent"), tr("Part of the network to show, in its coordinates."),
                             QStringLiteral("x0,y0,x1,y1")};
 
-  QList<QCommandLineOption> all() const { return {colorBy, widthBy, nodeColorBy, nodeSizeBy, labels, extent}; }
+  QList<QCommandLineOption> all() const {
+    QList<QCommandLineOption> options{labels, extent};
+    for (const Aspect aspect : AllAspects)
+      options.insert(static_cast<int>(aspect), functions[aspect]);
+    return options;
+  }
 
   /// Why the options make no sense; empty when they do.
   QString take(const QCommandLineParser &parser, CommandLine &line) const {
-    const bool isAnySet = parser.isSet(colorBy) || parser.isSet(widthBy) || parser.isSet(nodeColorBy) ||
-                          parser.isSet(nodeSizeBy) || parser.isSet(labels) || parser.isSet(extent);
+    const QList<QCommandLineOption> options = all();
+    const bool isAnySet = std::any_of(options.begin(), options.end(),
+                                      [&parser](const QCommandLineOption &option) { return parser.isSet(option); });
     if (isAnySet && line.picture.isEmpty())
       return tr("--color-by, --width-by, --node-color-by, --node-size-by, --labels and --extent go with --export.");
     static const QHash<QString, QString> Modes{{QStringLiteral("none"), QStringLiteral("no label")},
@@ -93,10 +101,8 @@ struct DrawOptions {
     line.labels = Modes.value(parser.value(labels));
     if (parser.isSet(labels) && line.labels.isEmpty())
       return tr("--labels takes none, name or selected.");
-    line.colorBy = parser.value(colorBy);
-    line.widthBy = parser.value(widthBy);
-    line.nodeColorBy = parser.value(nodeColorBy);
-    line.nodeSizeBy = parser.value(nodeSizeBy);
+    for (const Aspect aspect : AllAspects)
+      line.functions[aspect] = parser.value(functions[aspect]);
     return parser.isSet(extent) && !takeExtent(parser.value(extent), line.extent)
                ? tr("--extent takes four numbers, x0,y0,x1,y1, that span an area.")
                : QString();

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <drawing/aspect.h>
+
 /// What the command line asks for.
 struct CommandLine {
   enum class Action {
@@ -21,10 +23,7 @@ struct CommandLine {
   int width = 0;      ///< pixels, 0 for the default
   double scale = 1.0; ///< of texts, lines and symbols against those on the screen
   /// Draw functions in place of those of the plot settings, empty to leave them.
-  QString colorBy;
-  QString widthBy;
-  QString nodeColorBy;
-  QString nodeSizeBy;
+  PerAspect<QString> functions{};
   QString labels; ///< label mode of the plot settings, empty to leave it; labels are then placed wherever there is room
   QRectF extent;  ///< what the picture shows, in the network's coordinates; null for everything
   QString text;

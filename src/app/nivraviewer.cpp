@@ -10,6 +10,7 @@
 #include "ui_nivraviewer.h"
 
 #include <base/fileaccess.h>
+#include <base/finding.h>
 #include <base/nivramsg.h>
 #include <base/settings.h>
 #include <tools/categorylist.h>
@@ -35,7 +36,7 @@
 NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::NivraViewer>())
-    , m_control(std::make_unique<NetVisControl>(m_net, QString()))
+    , m_control(std::make_unique<NetVisControl>(m_net, QString(), logFinding))
     , m_loader(m_net)
     , m_categories(std::make_shared<CategoryList>())
     , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); }) {

@@ -2,6 +2,7 @@
 
 #include "tooldocks.h"
 
+#include <base/finding.h>
 #include <io/nivraworkspace.h>
 #include <model/names.h>
 #include <model/netmetadata.h>
@@ -20,7 +21,7 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
     , m_whole(net)
     , m_subnet(subnet)
     , m_net(part(net, subnet))
-    , m_control(std::make_unique<NetVisControl>(m_net, subnet))
+    , m_control(std::make_unique<NetVisControl>(m_net, subnet, logFinding))
     , m_tools(new ToolDocks(*this, *m_control, std::move(categories), ToolDocks::Extent::Network)) {
   constexpr QSize Size(800, 600);
   setAttribute(Qt::WA_DeleteOnClose);

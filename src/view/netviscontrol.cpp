@@ -8,14 +8,15 @@
 #include <QMenu>
 #include <QMetaMethod>
 
+#include <algorithm>
 #include <drawing/drawfunctions.h>
 #include <utility>
 
-NetVisControl::NetVisControl(NetData &net, const QString &name, QObject *parent)
+NetVisControl::NetVisControl(NetData &net, const QString &name, Told told, QObject *parent)
     : QObject(parent)
     , m_net(net)
     , m_name(name)
-    , m_plot(new NetPlot)
+    , m_plot(new NetPlot(nullptr, std::move(told)))
     , m_picker(new NetPicker(*m_plot, net))
     , m_menu(std::make_unique<PlotMenu>(*m_plot, *m_picker, net))
     , m_drawing(OncePerTurn::Stage::Draw, [this] { draw(); }) {
@@ -48,7 +49,7 @@ void NetVisControl::fillMenu(QMenu &contextMenu) {
                         isAnswered(&NetVisControl::subnetWanted),
                         isAnswered(&NetVisControl::configureDrawRequested),
                         showsSearchResults(),
-                        bookmarks()};
+                        m_bookmarks};
   m_menu->fill(contextMenu, state);
 }
 
@@ -71,7 +72,6 @@ void NetVisControl::clear() {
 
 void NetVisControl::showNetData(const QString &plotSettingsPath) {
   m_drawing.cancel(); // all of it is drawn below
-  m_settingsPath = plotSettingsPath;
   m_plot->readMousePattern();          // the workspace may have general settings of its own
   m_plot->setSettings(PlotSettings()); // nothing of the case before
   if (!m_plot->readPlotSettings(plotSettingsPath)) {
@@ -80,8 +80,11 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
     m_plot->setSettings(settings);
   }
   const QString folder = QFileInfo(plotSettingsPath).path();
+  m_bookmarks = ViewBookmarks(folder + QStringLiteral("/viewbookmarks.csv"));
   LabelTable labels;
-  LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels);
+  const Findings found = LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels).findings;
+  if (m_plot->told())
+    std::for_each(found.begin(), found.end(), m_plot->told());
   m_picker->reset();
   m_plot->update().setNetData(&m_net);
   m_plot->update().setFolder(folder, m_subnetIcons);
@@ -166,8 +169,4 @@ void NetVisControl::refreshSearchResults() {
 
 void NetVisControl::trace(const QString &name, Topology::Direction direction) {
   m_picker->setSelection(Topology::trace(m_net, name, direction, m_plot->settings().edgeShowFlow));
-}
-
-ViewBookmarks NetVisControl::bookmarks() const {
-  return ViewBookmarks(QFileInfo(m_settingsPath).path() + QStringLiteral("/viewbookmarks.csv"));
 }

@@ -119,8 +119,17 @@ void TestLabelTable::cutAtEveryLine() {
 
 void TestLabelTable::badFiles() {
   LabelTable read;
-  QVERIFY(!LabelTableFile::read(path("missing.csv"), read));
-  QVERIFY(!LabelTableFile::read(m_folder.path(), read)); // a folder
+  const LabelTableFile::Reading missing = LabelTableFile::read(path("missing.csv"), read);
+  QVERIFY(!missing);
+  QCOMPARE(missing.findings.size(), std::size_t(1));
+  QVERIFY(missing.findings.front().severity == Finding::Severity::Information); // most cases have none
+  const LabelTableFile::Reading folder = LabelTableFile::read(m_folder.path(), read);
+  QVERIFY(!folder);
+  QCOMPARE(folder.findings.size(), std::size_t(2)); // that it failed, and why
+  QVERIFY(folder.findings.back().severity == Finding::Severity::Warning && !folder.findings.back().text.isEmpty());
+  const LabelTableFile::Reading cut = LabelTableFile::read(write("vfd 1\nlong name\n"), read);
+  QVERIFY(cut && cut.findings.back().severity == Finding::Severity::Warning);
+  QCOMPARE(cut.findings.back().text, QStringLiteral("EOF while reading header in file %1! Stopped!").arg(path("vfd.csv")));
   QVERIFY(LabelTableFile::read(write(QByteArray(100000, '\xff')), read));
   QVERIFY(read == LabelTable());
   QCOMPARE(::mkfifo(qPrintable(path("pipe.csv")), 0600), 0);

@@ -1,3 +1,5 @@
+#include "geometry/canvasgrid.h"
+
 #include <support/nivratest.h>
 
 #include <drawing/layergeometry.h>
@@ -103,7 +105,15 @@ void TestLayerGeometry::projectionWithoutExtentIsInvalid() {
 }
 
 void TestLayerGeometry::gridTakesEachCellOnce() {
-  PixelGrid grid(QRectF(0, 0, 100, 100), 10.0);
+  const CellAxis axis(100.0, 10.0, 5);
+  QVERIFY(axis.contains(100.0) && !axis.contains(99.9) && !axis.contains(150.0) && !axis.contains(std::nan("")));
+  QCOMPARE(axis.nearest(119.9), 1);
+  QCOMPARE(axis.nearest(120.0), 2); // a cell begins with its border
+  QCOMPARE(axis.nearest(1e300), 4);
+  QCOMPARE(CellAxis(100.0, 0.0, 5).nearest(100.0), 0);
+  QVERIFY(axis.range(150.0, 170.0).isEmpty() && axis.range(80.0, 99.0).isEmpty());
+  QCOMPARE(axis.range(80.0, 170.0).last, 4);
+  CanvasGrid grid(QRectF(0, 0, 100, 100), 10.0);
   QVERIFY(grid.take({5, 5}));
   QVERIFY(!grid.take({6, 6}));
   QVERIFY(grid.take({35, 35}));
@@ -115,7 +125,7 @@ void TestLayerGeometry::gridTakesEachCellOnce() {
 }
 
 void TestLayerGeometry::clustersGatherBehindTheFirst() {
-  ClusterGrid grid(QRectF(0, 0, 100, 100), 10.0);
+  CanvasGrid grid(QRectF(0, 0, 100, 100), 10.0);
   QCOMPARE(grid.claim({5, 5}, 0), 0);
   QCOMPARE(grid.claim({15, 15}, 1), 0); // a neighbour is taken
   QCOMPARE(grid.claim({35, 35}, 1), 1);

@@ -164,10 +164,10 @@ void TestNetPlot::zoomStopsAtItsLimits() {
   f.show();
   PlotZoom &zoomer = *f.plot().zoomer();
   zoomer.setZoomLimits(QRectF(0, 0, 200, 0.5), QSizeF(20, 5));
-  QCOMPARE(f.plot().settings().largestZoomWidth, 220.0);
-  QCOMPARE(f.plot().settings().largestZoomHeight, 1.1);
-  QCOMPARE(f.plot().settings().smallestZoomWidth, 2.2);    // the span is not smaller
-  QCOMPARE(f.plot().settings().smallestZoomHeight, 0.011); // a span of 5 does not count
+  QCOMPARE(f.plot().zoomer()->limits().largest.width(), 220.0);
+  QCOMPARE(f.plot().zoomer()->limits().largest.height(), 1.1);
+  QCOMPARE(f.plot().zoomer()->limits().smallest.width(), 2.2);    // the span is not smaller
+  QCOMPARE(f.plot().zoomer()->limits().smallest.height(), 0.011); // a span of 5 does not count
   for (int i = 0; i < 100; ++i)
     zoomer.zoomIn({100, 50});
   const QRectF deepest = zoomer.zoomRect();
@@ -213,8 +213,8 @@ void TestNetPlot::theDeepestViewStays() {
     QVERIFY(area.visibleRect().width() <= before.width());
   }
   const QRectF deepest = area.visibleRect();
-  QVERIFY(deepest.width() >= f.plot().settings().smallestZoomWidth * (1.0 - 1e-6));
-  QVERIFY(deepest.height() >= f.plot().settings().smallestZoomHeight * (1.0 - 1e-6));
+  QVERIFY(deepest.width() >= f.plot().zoomer()->limits().smallest.width() * (1.0 - 1e-6));
+  QVERIFY(deepest.height() >= f.plot().zoomer()->limits().smallest.height() * (1.0 - 1e-6));
   const uint views = f.plot().zoomer()->zoomRectIndex();
   f.plot().zoomer()->zoomIn(anchor);
   QCOMPARE(area.visibleRect(), deepest);
@@ -420,7 +420,7 @@ void TestNetPlot::legend() {
   f.show();
   PlotSettings settings = f.plot().settings();
   settings.legendPos = corner;
-  settings.absColor = true;
+  settings.functions[Aspect::EdgeColor].isAbsolute = true;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot();
   QCOMPARE(f.plot().legend().isVisible(), shown);
@@ -574,6 +574,8 @@ void TestNetPlot::bookmarks() {
     QVERIFY(!(adds ? window.bookmarks().add(odd, &reason) : window.bookmarks().forget(odd.name, &reason)));
     QVERIFY2(reason.contains(QStringLiteral("viewbookmarks.csv")), qPrintable(reason));
   }
+  QVERIFY(window.bookmarks().all().empty());
+  QVERIFY(window.bookmarks().fault().contains(QStringLiteral("viewbookmarks.csv")));
   QVERIFY(file.open(QIODevice::ReadOnly));
   QVERIFY(file.readAll() == large);
 }
@@ -587,7 +589,7 @@ void TestNetPlot::zoomBaseGrows() {
   zoomer.resetZoomBase(QRectF(1000, 1000, 10, 10));
   QCOMPARE(zoomer.zoomRectIndex(), 0U);
   QVERIFY(zoomer.zoomBase().contains(QRectF(0, 0, 1009, 1009)));
-  QVERIFY(qAbs(f.plot().settings().largestZoomWidth / zoomer.zoomBase().width() - 1.1) < 1e-9);
+  QVERIFY(qAbs(f.plot().zoomer()->limits().largest.width() / zoomer.zoomBase().width() - 1.1) < 1e-9);
 }
 
 void TestNetPlot::coordinatesInDegreesZoomAsOthers_data() {

@@ -1,4 +1,5 @@
 #include "geometry/drawngraph.h"
+#include "geometry/geometryreader.h"
 #include "viewfixture.h"
 
 #include <base/nivramsg.h>
@@ -84,14 +85,14 @@ void TestNetUpdate::functionNames() {
 void TestNetUpdate::defaultsSuitTheNetwork() {
   ViewFixture f;
   f.show();
-  QCOMPARE(f.plot().settings().colorFunc, QStringLiteral("p"));
-  QCOMPARE(f.plot().settings().nodeColorFunc, QStringLiteral("p"));
-  QCOMPARE(f.plot().settings().widthFunc, QStringLiteral("diameter"));
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].name, QStringLiteral("p"));
+  QCOMPARE(f.plot().settings().functions[Aspect::NodeColor].name, QStringLiteral("p"));
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeWidth].name, QStringLiteral("diameter"));
 
   ViewFixture bare; // a geometry without results
   bare.net.forEach(NetData::AllTypes, [](element &e) { e.erase(QStringLiteral("p")); });
   bare.show();
-  QCOMPARE(bare.plot().settings().colorFunc, QStringLiteral("diameter"));
+  QCOMPARE(bare.plot().settings().functions[Aspect::EdgeColor].name, QStringLiteral("diameter"));
 }
 
 void TestNetUpdate::edgesAreColoredByTheMeanOfTheirEnds() {
@@ -117,7 +118,7 @@ void TestNetUpdate::edgesOutOfUseAndWithoutFlow() {
   f.add(makeEdge("BX", "B", "X"), {{"diameter", "100"}, {"q", "1"}});
   f.show();
   PlotSettings broad = f.plot().settings();
-  broad.widthFunc = QStringLiteral("diameter");
+  broad.functions[Aspect::EdgeWidth].name = QStringLiteral("diameter");
   broad.edgeConst = 4;
   f.plot().setSettings(broad);
   f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
@@ -133,8 +134,8 @@ void TestNetUpdate::fixedBounds() {
   f.net.element(QStringLiteral("CD"))->set(QStringLiteral("diameter"), QStringLiteral("100")); // AB is broad enough to see
   f.show();
   PlotSettings settings = f.plot().settings();
-  settings.minVal_edgeColor = 35; // BC at the low end
-  settings.maxVal_edgeColor = 45;
+  settings.functions[Aspect::EdgeColor].minimum = 35; // BC at the low end
+  settings.functions[Aspect::EdgeColor].maximum = 45;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
   const QImage picture = f.picture();
@@ -143,15 +144,15 @@ void TestNetUpdate::fixedBounds() {
       isNear(picture.pixelColor(f.pixel(25, 0)), QColor(hue(240)).darker(160))); // 25 bar lie below, as the scale's cap says
   QVERIFY(f.plot().plot()->axisInterval(QwtPlot::yRight).minValue() < 35);
   QVERIFY(f.plot().plot()->axisInterval(QwtPlot::yRight).maxValue() > 45); // CD
-  settings.minVal_edgeColor = 1e6;                                         // longer numbers need more room, at once
-  settings.maxVal_edgeColor = 9e6;
+  settings.functions[Aspect::EdgeColor].minimum = 1e6;                     // longer numbers need more room, at once
+  settings.functions[Aspect::EdgeColor].maximum = 9e6;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
   const QwtScaleWidget *scale = f.plot().plot()->axisWidget(QwtPlot::yRight);
   QVERIFY(scale->width() >= scale->dimForLength(scale->height(), scale->font()));
   for (const auto &[low, high] : {std::make_pair(50.0, 45.0), {qInf(), qInf()}, {qQNaN(), qQNaN()}}) {
-    settings.minVal_edgeColor = low; // upside down or no numbers: the range of the data
-    settings.maxVal_edgeColor = high;
+    settings.functions[Aspect::EdgeColor].minimum = low; // upside down or no numbers: the range of the data
+    settings.functions[Aspect::EdgeColor].maximum = high;
     f.plot().setSettings(settings);
     f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
     QCOMPARE(f.plot().plot()->axisInterval(QwtPlot::yRight), QwtInterval(20, 60));
@@ -164,9 +165,10 @@ void TestNetUpdate::scaleIsInTheDisplayUnit() {
   f.net.element(QStringLiteral("B"))->set(QStringLiteral("t"), QStringLiteral("293.15"));
   f.show();
   PlotSettings settings = f.plot().settings();
-  settings.colorFunc = QStringLiteral("temperature");
-  settings.nodeColorFunc = settings.colorFunc; // else nodes have a scale of their own on the right
-  settings.absNodeColor = settings.absColor;
+  settings.functions[Aspect::EdgeColor].name = QStringLiteral("temperature");
+  settings.functions[Aspect::NodeColor].name =
+      settings.functions[Aspect::EdgeColor].name; // else nodes have a scale of their own on the right
+  settings.functions[Aspect::NodeColor].isAbsolute = settings.functions[Aspect::EdgeColor].isAbsolute;
   settings.colorScalePos = QwtPlot::xTop;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
@@ -181,8 +183,8 @@ void TestNetUpdate::withoutValuesThereIsNoScale() {
   ViewFixture f;
   f.show();
   PlotSettings settings = f.plot().settings();
-  settings.colorFunc = QStringLiteral("nobody has this");
-  settings.nodeColorFunc = settings.colorFunc;
+  settings.functions[Aspect::EdgeColor].name = QStringLiteral("nobody has this");
+  settings.functions[Aspect::NodeColor].name = settings.functions[Aspect::EdgeColor].name;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot(NetUpdate::Elements::Renewed);
   QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight));
@@ -210,20 +212,20 @@ void TestNetUpdate::graphFunctionsAreComputed() {
   valve.set(QStringLiteral("state"), QStringLiteral("closed"));
   net.addElement(valve);
   NetGeometry geometry;
-  geometry.build(net, {});
+  GeometryReader::read(net, {}, geometry);
   const DrawnGraph graph(geometry);
   constexpr double None = NetData::NoValue;
   QCOMPARE(graph.components(), (std::vector<double>{1, 1, 1, 1, 2, 2, 3, None}));
-  const NetGeometry::Request lengths{{{PropertyKey::intern("length"), true}}, {}};
-  const std::vector<double> distances = graph.distances(geometry.values(lengths).ofEdges.front());
+  const ValueRequest lengths{{{PropertyKey::intern("length"), true}}, {}};
+  const std::vector<double> distances = graph.distances(GeometryReader::readValues(geometry, lengths).ofEdges.front());
   QCOMPARE(distances, (std::vector<double>{0, 100, 80, 50, None, None, None, None}));
 
   ViewFixture f;
   f.net.element(QStringLiteral("BC"))->set(QStringLiteral("state"), QStringLiteral("off"));
   f.show();
   PlotSettings settings = f.plot().settings();
-  settings.colorFunc = QStringLiteral("connectivity");
-  settings.nodeColorFunc = settings.colorFunc;
+  settings.functions[Aspect::EdgeColor].name = QStringLiteral("connectivity");
+  settings.functions[Aspect::NodeColor].name = settings.functions[Aspect::EdgeColor].name;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot();
   QCOMPARE(f.plot().plot()->axisInterval(QwtPlot::yRight), QwtInterval(1, 2));
@@ -289,8 +291,8 @@ void TestNetUpdate::constantHasItsOwnColour() {
   f.plot().show();
   f.show();
   PlotSettings settings = f.plot().settings(); // left alone, the program takes what tells elements apart
-  settings.colorFunc = QStringLiteral("p");
-  settings.nodeColorFunc = settings.colorFunc;
+  settings.functions[Aspect::EdgeColor].name = QStringLiteral("p");
+  settings.functions[Aspect::NodeColor].name = settings.functions[Aspect::EdgeColor].name;
   f.plot().setSettings(settings);
   f.plot().update().updatePlot();
   const std::vector<QColor> bar = barColours(f);
@@ -325,8 +327,8 @@ void TestNetUpdate::ticksTellThemselvesApart() {
   const std::pair<double, double> ranges[] = {{69.99, 70.0}, {69.999993, 70.0}, {0.0, 0.0004},
                                               {-2e-7, 3e-7}, {0, 85},           {1e6, 9e6}};
   for (const auto &[low, high] : ranges) {
-    settings.minVal_edgeColor = low;
-    settings.maxVal_edgeColor = high;
+    settings.functions[Aspect::EdgeColor].minimum = low;
+    settings.functions[Aspect::EdgeColor].maximum = high;
     f.plot().setSettings(settings);
     f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
     const QwtScaleDraw *scale = f.plot().plot()->axisScaleDraw(QwtPlot::yRight);
@@ -350,8 +352,8 @@ void TestNetUpdate::divergingKeepsFixedBounds() {
   PlotSettings settings = f.plot().settings();
   settings.colorRamp = QStringLiteral("diverging");
   const auto range = [&f, &settings](double low, double high) {
-    settings.minVal_edgeColor = low;
-    settings.maxVal_edgeColor = high;
+    settings.functions[Aspect::EdgeColor].minimum = low;
+    settings.functions[Aspect::EdgeColor].maximum = high;
     f.plot().setSettings(settings);
     f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
     return f.plot().plot()->axisInterval(QwtPlot::yRight);
@@ -373,10 +375,10 @@ void TestNetUpdate::valuesOfTheEnds() {
   f.show();
   const auto values = [&f](const char *function) {
     PlotSettings settings = f.plot().settings();
-    settings.colorFunc = QString::fromLatin1(function);
+    settings.functions[Aspect::EdgeColor].name = QString::fromLatin1(function);
     f.plot().setSettings(settings);
     f.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::Edges);
-    return f.plot().update().values().edgeColor().ofElements;
+    return f.plot().update().values().of(Aspect::EdgeColor).ofElements;
   };
   constexpr double None = NetData::NoValue;
   QCOMPARE(values("input pressure"), (std::vector<double>{20, 40, 41}));
@@ -391,13 +393,14 @@ void TestNetUpdate::drivesStretchNoScale() {
   ViewFixture f;
   f.add(makeNode("Drive", "10", "10"), {{"type", "d"}, {"p", "900"}});
   PlotSettings settings;
-  settings.colorFunc = settings.widthFunc = settings.nodeColorFunc = settings.nodeSizeFunc = QStringLiteral("pressure");
+  settings.functions[Aspect::EdgeColor].name = settings.functions[Aspect::EdgeWidth].name =
+      settings.functions[Aspect::NodeColor].name = settings.functions[Aspect::NodeSize].name = QStringLiteral("pressure");
   f.show();
   f.plot().setSettings(settings);
   f.plot().update().updatePlot(NetUpdate::Elements::Renewed);
   const DrawValues &values = f.plot().update().values();
-  for (const DrawValues::Column *column :
-       {&values.edgeColor(), &values.edgeWidth(), &values.nodeColor(), &values.nodeSize()})
+  for (const DrawValues::Column *column : {&values.of(Aspect::EdgeColor), &values.of(Aspect::EdgeWidth),
+                                           &values.of(Aspect::NodeColor), &values.of(Aspect::NodeSize)})
     QCOMPARE(column->data, QwtInterval(20, 60));
 }
 
@@ -415,7 +418,7 @@ void TestNetUpdate::scalesNameWhatTheyColour() {
   f.net.element(QStringLiteral("A"))->set(QStringLiteral("height"), QStringLiteral("5"));
   f.net.element(QStringLiteral("B"))->set(QStringLiteral("height"), QStringLiteral("500"));
   PlotSettings settings = f.plot().settings();
-  settings.nodeColorFunc = QStringLiteral("height");
+  settings.functions[Aspect::NodeColor].name = QStringLiteral("height");
   const auto update = [&f, &settings] {
     f.plot().setSettings(settings);
     f.plot().update().updatePlot();
@@ -426,8 +429,9 @@ void TestNetUpdate::scalesNameWhatTheyColour() {
   QVERIFY(title(QwtPlot::xTop).startsWith(QStringLiteral("nodes: height [m]")));
   QCOMPARE(area.axisInterval(QwtPlot::xTop), QwtInterval(5, 500));
 
-  settings.nodeColorFunc = settings.colorFunc; // bounds of their own: a colour no longer means the same of both
-  settings.maxVal_nodeColor = 30;
+  settings.functions[Aspect::NodeColor].name =
+      settings.functions[Aspect::EdgeColor].name; // bounds of their own: a colour no longer means the same of both
+  settings.functions[Aspect::NodeColor].maximum = 30;
   update();
   QVERIFY(area.axisEnabled(QwtPlot::xTop) && title(QwtPlot::xTop).startsWith(QStringLiteral("nodes: pressure")));
 

@@ -13,9 +13,9 @@ namespace {
 PlotSettings unusual() {
   PlotSettings s;
   s.edgeShowFlow = QStringLiteral("m");
-  s.colorFunc = QStringLiteral("accum. length");
-  s.widthFunc = QStringLiteral("a;b,c \"d\"");
-  s.nodeSizeFunc = QStringLiteral("qset");
+  s.functions[Aspect::EdgeColor].name = QStringLiteral("accum. length");
+  s.functions[Aspect::EdgeWidth].name = QStringLiteral("a;b,c \"d\"");
+  s.functions[Aspect::NodeSize].name = QStringLiteral("qset");
   s.colorScalePos = 3;
   s.legendPos = 4;
   s.nodeMag = 9;
@@ -26,11 +26,11 @@ PlotSettings unusual() {
   s.logFactor = -3.5;
   s.bgrColor = QColor(1, 2, 3);
   s.gridMinorColor = QColor(4, 5, 6, 7);
-  s.absColor = true;
-  s.absWidth = false;
-  s.logScaleNodeSize = true;
-  s.minVal_nodeColor = 0.1 + 0.2;
-  s.maxVal_Width = 1e-300;
+  s.functions[Aspect::EdgeColor].isAbsolute = true;
+  s.functions[Aspect::EdgeWidth].isAbsolute = false;
+  s.functions[Aspect::NodeSize].isLogarithmic = true;
+  s.functions[Aspect::NodeColor].minimum = 0.1 + 0.2;
+  s.functions[Aspect::EdgeWidth].maximum = 1e-300;
   s.label_mode = QStringLiteral("no label");
   s.fixAxesRatio = false;
   s.zoomFact = 1.01;
@@ -82,14 +82,14 @@ void TestPlotSettingsFile::missingFileChangesNothing() {
 void TestPlotSettingsFile::missingKeys() {
   PlotSettings settings = unusual();
   QVERIFY(PlotSettingsFile::read(file("colorScalePos=2\n[color_options]\n"), settings));
-  QCOMPARE(settings.colorFunc, QStringLiteral("x")); // back to what the key stands for
+  QCOMPARE(settings.functions[Aspect::EdgeColor].name, QStringLiteral("x")); // back to what the key stands for
   QCOMPARE(settings.colorScalePos, 2);
   QCOMPARE(settings.nodeMag, 9); // magnitudes and colours keep what they are
   QCOMPARE(settings.saturation, 17);
   QCOMPARE(settings.bgrColor, QColor(1, 2, 3));
   QVERIFY(!settings.gridMajorColor.isValid());
-  QCOMPARE(settings.maxVal_nodeColor, PlotSettings::OpenMaximum);
-  QVERIFY(settings.absWidth && !settings.absColor);
+  QCOMPARE(settings.functions[Aspect::NodeColor].maximum, PlotSettings::OpenMaximum);
+  QVERIFY(settings.functions[Aspect::EdgeWidth].isAbsolute && !settings.functions[Aspect::EdgeColor].isAbsolute);
 }
 
 void TestPlotSettingsFile::textsOfAPerson() {
@@ -121,15 +121,19 @@ void TestPlotSettingsFile::objectsAreRefused_data() {
 void TestPlotSettingsFile::objectsAreRefused() {
   QFETCH(QByteArray, value);
   PlotSettings settings;
+  Findings told;
   QVERIFY(PlotSettingsFile::read(file("colorFunc=" + value + "\nlegendPos=" + value + "\ngridMajorColor=" + value +
                                       "\nwidthFunc=\"@@x, y\"\n[color_options]\nbgrColor=" + value +
                                       "\n[drawing]\nclassBreaks=" + value + "\n"),
-                                 settings));
+                                 settings, [&told](const Finding &finding) { told.push_back(finding); }));
   QVERIFY(!settings.gridMajorColor.isValid()); // as when the file has none
   const bool isText = value.startsWith('a');
+  QCOMPARE(told.size(), std::size_t(isText ? 0 : 1));
+  QVERIFY(isText ||
+          told.front().text.contains(QStringLiteral("colorFunc, legendPos, bgrColor, gridMajorColor, classBreaks")));
   QVERIFY(settings.bgrColor == (isText ? QColor() : PlotSettings().bgrColor));
   QCOMPARE(settings.legendPos, 0);
-  QCOMPARE(settings.widthFunc, QStringLiteral("@x, y")); // a text that begins so is written with two
+  QCOMPARE(settings.functions[Aspect::EdgeWidth].name, QStringLiteral("@x, y")); // a text that begins so is written with two
 }
 
 void TestPlotSettingsFile::whatOthersKeepInTheFileStays() {
@@ -150,7 +154,7 @@ void TestPlotSettingsFile::whatOthersKeepInTheFileStays() {
   QCOMPARE(text.count("colorFunc="), 1);
   // The toolkit's own reader sees the same.
   QSettings store(path, QSettings::IniFormat);
-  QCOMPARE(store.value(QStringLiteral("widthFunc")).toString(), unusual().widthFunc);
+  QCOMPARE(store.value(QStringLiteral("widthFunc")).toString(), unusual().functions[Aspect::EdgeWidth].name);
   QCOMPARE(store.value(QStringLiteral("color_options/bgrColor")).value<QColor>(), unusual().bgrColor);
   QCOMPARE(store.value(QStringLiteral("magnitudes/further")).toInt(), 2);
 }

@@ -2,7 +2,6 @@
 #include "symbols/picturefile.h"
 #include "viewfixture.h"
 
-#include <base/nivramsg.h>
 #include <support/nivratest.h>
 
 #include <QBuffer>
@@ -65,12 +64,15 @@ private:
 
 void TestSymbols::tableLines() {
   write(QStringLiteral("svg_symbols.csv"), "# comment\n\n  c ;;  Own.SVG ;more\r\nv;valve.png\nr\nf;one.svg\nf;two.svg\n");
-  const SymbolTable table(m_folder.path());
+  SymbolTable table;
+  QVERIFY(table.read(m_folder.path()).empty());
   QCOMPARE(table.files().size(), std::size_t(2));
   QCOMPARE(table.files().at(QStringLiteral("c")), QStringLiteral("Own.SVG"));
   QCOMPARE(table.file(QStringLiteral("f")).path, m_folder.filePath(QStringLiteral("two.svg")));
   QVERIFY(table.file(QStringLiteral("v")).path.isEmpty());
-  QVERIFY(SymbolTable(QStringLiteral("/nowhere")).files().empty());
+  SymbolTable none;
+  QCOMPARE(none.read(QStringLiteral("/nowhere")).size(), std::size_t(1));
+  QVERIFY(none.files().empty());
 }
 
 void TestSymbols::unreadableTables_data() {
@@ -84,15 +86,11 @@ void TestSymbols::unreadableTables() {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("svg_symbols.csv"));
   QVERIFY(!isThere || QDir().mkpath(path));
-  QStringList lines;
-  connect(&NivraMsg::NivraLogger::instance(), &NivraMsg::NivraLogger::msgConsole, this,
-          [&lines](const QString &line) { lines.append(line); });
-  QVERIFY(SymbolTable(folder.path()).files().empty());
-  QCoreApplication::processEvents();
-  disconnect(&NivraMsg::NivraLogger::instance(), nullptr, this, nullptr);
-  QCOMPARE(lines.size(), isThere ? 2 : 1); // why, and what is done about it
-  QVERIFY2(lines.last().contains(QStringLiteral("SVG symbols file %1 not found! Using built-in defaults!").arg(path)),
-           qPrintable(lines.last()));
+  SymbolTable table;
+  const Findings findings = table.read(folder.path());
+  QVERIFY(table.files().empty());
+  QCOMPARE(findings.size(), std::size_t(isThere ? 2 : 1)); // why, and what is done about it
+  QCOMPARE(findings.back().text, QStringLiteral("SVG symbols file %1 not found! Using built-in defaults!").arg(path));
 }
 
 void TestSymbols::everyTypeHasAReadableSymbol() {
@@ -123,6 +121,15 @@ void TestSymbols::ownSymbolTakesThePlaceOfTheBuiltIn() {
   ViewFixture f;
   f.control.showNetData(m_folder.filePath(QStringLiteral("plotsettings.ini")));
   QCOMPARE(f.picture().pixelColor(f.pixel(200, 50)), QColor(Qt::red));
+  SymbolTable table;
+  QVERIFY(table.read(m_folder.filePath(QStringLiteral("symbols"))).empty());
+  StationSymbols symbols;
+  symbols.setTable(table);
+  for (int i = 0; i < 2; ++i)
+    QVERIFY(symbols.find(QStringLiteral("v")) >= 0); // the built-in one
+  const Findings findings = symbols.takeFindings();
+  QCOMPARE(findings.size(), std::size_t(1)); // said once
+  QVERIFY(findings.front().text.contains(QStringLiteral("broken.svg")));
   f.show(); // another case has no symbols of its own
   QVERIFY(f.picture().pixelColor(f.pixel(200, 50)) != QColor(Qt::red));
 }

@@ -1,3 +1,4 @@
+#include "configure/functionrow.h"
 #include "configure/labeltableeditor.h"
 #include "configure/plotsettingsfile.h"
 #include "interaction/plotzoom.h"
@@ -15,8 +16,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
-#include <QTableWidget>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -47,6 +51,7 @@ private slots:
   void applyingAgainKeepsTheLabels();
   void oneEditorACell_data();
   void oneEditorACell();
+  void pagesFitTheNarrowestDialog();
 
 private:
   template <typename T>
@@ -54,6 +59,10 @@ private:
     return dialog.findChild<T *>(QString::fromLatin1(name));
   }
   static FunctionRow *row(viewFuncDialog &dialog, int number) { return dialog.findChildren<FunctionRow *>().at(number); }
+  /// Of the first row of the label table.
+  static void setContents(QTableView &table, const QString &text) {
+    table.model()->setData(table.model()->index(0, LabelRow::Contents), text);
+  }
   static void press(viewFuncDialog &dialog, const char *button) { child<QPushButton>(dialog, button)->click(); }
   /// Chooses a colour in the dialog that the button opens.
   static void choose(viewFuncDialog &dialog, const char *button, const QColor &color) {
@@ -115,7 +124,7 @@ void TestViewFuncDialog::appliesToThePlot() {
   f.plot().show();
   f.show();
   viewFuncDialog dialog(f.plot());
-  QVERIFY(f.plot().settings().colorFunc == QLatin1String("p"));
+  QVERIFY(f.plot().settings().functions[Aspect::EdgeColor].name == QLatin1String("p"));
   child<QComboBox>(*row(dialog, 0), "function")->setCurrentText(QStringLiteral("volume flow"));
   child<QCheckBox>(*row(dialog, 0), "absolute")->setChecked(true);
   child<QComboBox>(dialog, "colorScalePos")->setCurrentIndex(1);
@@ -123,8 +132,8 @@ void TestViewFuncDialog::appliesToThePlot() {
   child<QComboBox>(dialog, "viewport")->setCurrentIndex(0);
   press(dialog, "apply");
   const PlotSettings &settings = f.plot().settings();
-  QCOMPARE(settings.colorFunc, QStringLiteral("volume flow"));
-  QVERIFY(settings.absColor && !settings.fixAxesRatio);
+  QCOMPARE(settings.functions[Aspect::EdgeColor].name, QStringLiteral("volume flow"));
+  QVERIFY(settings.functions[Aspect::EdgeColor].isAbsolute && !settings.fixAxesRatio);
   QCOMPARE(settings.colorScalePos, int(QwtPlot::xTop));
   QCOMPARE(settings.colorRamp, QStringLiteral("viridis"));
   QVERIFY(f.plot().plot()->axisEnabled(QwtPlot::xTop));
@@ -141,14 +150,14 @@ void TestViewFuncDialog::boundsAreInTheDisplayUnit() {
   auto *minimum = child<QLineEdit>(*color, "minimum");
   minimum->setText(QStringLiteral("5"));
   press(dialog, "apply");
-  QVERIFY(qAbs(f.plot().settings().minVal_edgeColor - 278.15) < 1e-9);
-  QCOMPARE(f.plot().settings().maxVal_edgeColor, PlotSettings::OpenMaximum);
+  QVERIFY(qAbs(f.plot().settings().functions[Aspect::EdgeColor].minimum - 278.15) < 1e-9);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].maximum, PlotSettings::OpenMaximum);
   QCOMPARE(minimum->text(), QStringLiteral("5"));
   minimum->setText(QStringLiteral("12"));
   child<QPushButton>(*color, "resetMinimum")->click();
   QCOMPARE(minimum->text(), QStringLiteral("5"));
   press(dialog, "resetMinMax");
-  QCOMPARE(f.plot().settings().minVal_edgeColor, PlotSettings::OpenMinimum);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].minimum, PlotSettings::OpenMinimum);
 }
 
 void TestViewFuncDialog::invalidRangeAsks_data() {
@@ -180,8 +189,8 @@ void TestViewFuncDialog::invalidRangeAsks() {
   const QString text = answers.texts().value(0);
   QVERIFY2(text.contains(says), qPrintable(text));
   const PlotSettings &settings = f.plot().settings();
-  QCOMPARE(settings.minVal_edgeColor != PlotSettings::OpenMinimum, applied);
-  QVERIFY(settings.minVal_edgeColor < settings.maxVal_edgeColor);
+  QCOMPARE(settings.functions[Aspect::EdgeColor].minimum != PlotSettings::OpenMinimum, applied);
+  QVERIFY(settings.functions[Aspect::EdgeColor].minimum < settings.functions[Aspect::EdgeColor].maximum);
 }
 
 void TestViewFuncDialog::savesBothFiles() {
@@ -190,8 +199,8 @@ void TestViewFuncDialog::savesBothFiles() {
   f.show();
   viewFuncDialog dialog(f.plot());
   dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), folder.filePath(QStringLiteral("plotsettings.ini")));
-  auto *table = child<QTableWidget>(dialog, "labelTable");
-  table->item(0, LabelRow::Contents)->setText(QStringLiteral("@p"));
+  auto *table = child<QTableView>(dialog, "labelTable");
+  setContents(*table, QStringLiteral("@p"));
   child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
   press(dialog, "applyAndSave");
   f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
@@ -217,8 +226,8 @@ void TestViewFuncDialog::savedSettingsComeBack() {
   QVERIFY(!saved->isEnabled()); // there is nothing yet
   child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
   choose(dialog, "bgrColor", QColor(10, 60, 90));
-  auto *table = child<QTableWidget>(dialog, "labelTable");
-  table->item(0, LabelRow::Contents)->setText(QStringLiteral("kept"));
+  auto *table = child<QTableView>(dialog, "labelTable");
+  setContents(*table, QStringLiteral("kept"));
   press(dialog, "applyAndSave");
   QVERIFY(saved->isEnabled());
   const QColor ground = f.picture().pixelColor(f.pixel(50, 80));
@@ -229,18 +238,16 @@ void TestViewFuncDialog::savedSettingsComeBack() {
   child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(7.0);
   choose(dialog, "bgrColor", Qt::yellow);
   child<QComboBox>(dialog, "viewport")->setCurrentIndex(0);
-  table->item(0, LabelRow::Contents)->setText(QStringLiteral("tried"));
+  setContents(*table, QStringLiteral("tried"));
   press(dialog, "apply");
   QVERIFY(f.picture().pixelColor(f.pixel(50, 80)) == QColor(Qt::yellow));
-  table->item(0, LabelRow::Contents)->setText(QStringLiteral("half typed"));
+  setContents(*table, QStringLiteral("half typed"));
   press(dialog, "savedSettings");
   QCOMPARE(f.picture().pixelColor(f.pixel(50, 80)), ground);
   QVERIFY(f.plot().update().labelTable() == labels);
-  PlotSettings now = f.plot().settings();
-  now.takeZoomLimits(kept);
-  QVERIFY(now == kept);
+  QVERIFY(f.plot().settings() == kept);
   QCOMPARE(child<QDoubleSpinBox>(dialog, "edgeMag")->value(), 2.5);
-  QCOMPARE(table->item(0, LabelRow::Contents)->text(), QStringLiteral("kept"));
+  QCOMPARE(table->model()->index(0, LabelRow::Contents).data().toString(), QStringLiteral("kept"));
 
   QVERIFY(QFile::remove(path)); // meanwhile
   press(dialog, "savedSettings");
@@ -256,7 +263,7 @@ void TestViewFuncDialog::untouchedFieldsStay() {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("plotsettings.ini"));
   PlotSettings stored;
-  stored.colorFunc = QStringLiteral("pressure");
+  stored.functions[Aspect::EdgeColor].name = QStringLiteral("pressure");
   stored.legendPos = 5;
   stored.colorScalePos = 2;
   stored.lastColor = 400;
@@ -270,11 +277,11 @@ void TestViewFuncDialog::untouchedFieldsStay() {
   stored.alphaSubnet = 256;
   stored.edgeColorInactive = QColor(0xa0, 0xa0, 0xa4, 0x80);
   stored.gridMinorColor = QColor();
-  stored.minVal_edgeColor = 12.345678901234567;
-  stored.maxVal_edgeColor = 85.000000000000014;
-  stored.minVal_nodeColor = 1.0 / 3.0;
-  stored.nodeColorFunc = QStringLiteral("temperature"); // in K, and shown in another unit
-  stored.maxVal_nodeColor = 300.1;
+  stored.functions[Aspect::EdgeColor].minimum = 12.345678901234567;
+  stored.functions[Aspect::EdgeColor].maximum = 85.000000000000014;
+  stored.functions[Aspect::NodeColor].minimum = 1.0 / 3.0;
+  stored.functions[Aspect::NodeColor].name = QStringLiteral("temperature"); // in K, and shown in another unit
+  stored.functions[Aspect::NodeColor].maximum = 300.1;
   stored.label_mode = QStringLiteral("of another program");
   stored.colorRamp = QStringLiteral("unknown");
   stored.colorClasses = 1;
@@ -300,8 +307,8 @@ void TestViewFuncDialog::untouchedFieldsStay() {
   color->setCurrentText(QStringLiteral("volume flow"));
   color->setCurrentText(QStringLiteral("pressure"));
   press(dialog, "apply");
-  QCOMPARE(f.plot().settings().minVal_edgeColor, stored.minVal_edgeColor);
-  QCOMPARE(f.plot().settings().maxVal_nodeColor, stored.maxVal_nodeColor);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].minimum, stored.functions[Aspect::EdgeColor].minimum);
+  QCOMPARE(f.plot().settings().functions[Aspect::NodeColor].maximum, stored.functions[Aspect::NodeColor].maximum);
 }
 
 void TestViewFuncDialog::touchedFieldsAreTaken() {
@@ -324,7 +331,7 @@ void TestViewFuncDialog::touchedFieldsAreTaken() {
   QCOMPARE(taken.colorClasses, 5);
   QCOMPARE(taken.legendPos, 3);
   QCOMPARE(taken.edgeConst, 2.25);
-  QVERIFY(taken.logScaleWidth);
+  QVERIFY(taken.functions[Aspect::EdgeWidth].isLogarithmic);
   QCOMPARE(taken.edgeColorNoFlow, QColor(1, 2, 3));
   child<QComboBox>(dialog, "classMethod")->setCurrentIndex(0);
   press(dialog, "apply");
@@ -336,21 +343,21 @@ void TestViewFuncDialog::templates() {
   ViewFixture f;
   f.show();
   viewFuncDialog dialog(f.plot());
-  auto *table = child<QTableWidget>(dialog, "labelTable");
-  const int types = table->rowCount();
-  QVERIFY(!(table->item(2, LabelRow::LongName)->flags() & Qt::ItemIsEditable));
-  table->setCurrentCell(2, 0);
+  auto *table = child<QTableView>(dialog, "labelTable");
+  const int types = table->model()->rowCount();
+  QVERIFY(!(table->model()->index(2, LabelRow::LongName).flags() & Qt::ItemIsEditable));
+  table->setCurrentIndex(table->model()->index(2, 0));
   const Answers answers({NivraMsg::Answer::Ok});
   press(dialog, "deleteRow");
   QCOMPARE(answers.texts().value(0), QStringLiteral("Deleting this row is not allowed!"));
   press(dialog, "addTemplate");
-  QCOMPARE(table->rowCount(), types + 1);
+  QCOMPARE(table->model()->rowCount(), types + 1);
   press(dialog, "apply");
   QCOMPARE(f.plot().update().labelTable().templates.size(), std::size_t(1));
   QCOMPARE(f.plot().update().labelTable().templates.front().icon, QStringLiteral("p"));
-  table->setCurrentCell(types, 0);
+  table->setCurrentIndex(table->model()->index(types, 0));
   press(dialog, "deleteRow");
-  QCOMPARE(table->rowCount(), types);
+  QCOMPARE(table->model()->rowCount(), types);
 }
 
 void TestViewFuncDialog::boundsBelongToAFunction() {
@@ -369,8 +376,8 @@ void TestViewFuncDialog::boundsBelongToAFunction() {
   function->setCurrentText(QStringLiteral("volume flow"));
   QVERIFY(minimum->text().isEmpty() && maximum->text().isEmpty());
   press(dialog, "apply");
-  QCOMPARE(f.plot().settings().minVal_edgeColor, PlotSettings::OpenMinimum);
-  QCOMPARE(f.plot().settings().maxVal_edgeColor, PlotSettings::OpenMaximum);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].minimum, PlotSettings::OpenMinimum);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].maximum, PlotSettings::OpenMaximum);
   maximum->setText(QStringLiteral("3"));
   press(dialog, "applyAndSave");
 
@@ -382,7 +389,7 @@ void TestViewFuncDialog::boundsBelongToAFunction() {
   QCOMPARE(child<QLineEdit>(*row(again, 0), "minimum")->text(), QStringLiteral("1e1")); // as it was typed
   QCOMPARE(child<QLineEdit>(*row(again, 0), "maximum")->text(), QStringLiteral("85.0"));
   press(again, "apply");
-  QCOMPARE(other.plot().settings().minVal_edgeColor, 10.0);
+  QCOMPARE(other.plot().settings().functions[Aspect::EdgeColor].minimum, 10.0);
   QCOMPARE(other.plot().plot()->axisInterval(QwtPlot::yRight), QwtInterval(10, 85));
   press(again, "resetMinMax");
   child<QComboBox>(*row(again, 0), "function")->setCurrentText(QStringLiteral("volume flow"));
@@ -390,19 +397,19 @@ void TestViewFuncDialog::boundsBelongToAFunction() {
 }
 
 void TestViewFuncDialog::typedBoundsOfAnybody() {
-  const TypedBounds::OfSettings bounds{
-      {QStringLiteral("colorFunc"),
-       {{QStringLiteral("a;b|c%"), {QStringLiteral("1,5"), QString(), QStringLiteral("m³/h")}}}}};
+  PerAspect<TypedBounds::OfFunctions> bounds{};
+  bounds[Aspect::EdgeColor].insert(QStringLiteral("a;b|c%"), {QStringLiteral("1,5"), QString(), QStringLiteral("m³/h")});
   const TypedBounds typed =
-      TypedBounds::read(TypedBounds::written(bounds))[QStringLiteral("colorFunc")].value(QStringLiteral("a;b|c%"));
+      TypedBounds::read(TypedBounds::written(bounds))[Aspect::EdgeColor].value(QStringLiteral("a;b|c%"));
   QCOMPARE(typed.minimum, QStringLiteral("1,5"));
   QCOMPARE(typed.unit, QStringLiteral("m³/h"));
   ViewFixture f;
   f.show();
   PlotSettings settings = f.plot().settings();
-  settings.minVal_edgeColor = 30; // what is typed does not say so
-  settings.typedBounds = QStringLiteral("colorFunc|p|many|9|bar;;|;colorFunc|q|1|2|no unit;%zz|") +
-                         QStringLiteral("nodeColorFunc|p|1|2|bar;").repeated(5000);
+  settings.functions[Aspect::EdgeColor].minimum = 30; // what is typed does not say so
+  settings.functions[Aspect::EdgeColor].typed =
+      TypedBounds::read(QStringLiteral("colorFunc|p|many|9|bar;;|;colorFunc|q|1|2|no unit;%zz|") +
+                        QStringLiteral("nodeColorFunc|p|1|2|bar;").repeated(5000))[Aspect::EdgeColor];
   f.plot().setSettings(settings);
   viewFuncDialog dialog(f.plot());
   const auto *minimum = child<QLineEdit>(*row(dialog, 0), "minimum");
@@ -455,7 +462,7 @@ void TestViewFuncDialog::boundOutsideTheDataIsTold() {
            qPrintable(note->text()));
   QVERIFY(!note->isHidden());
   QCOMPARE(minimum->text(), QStringLiteral("100")); // and it holds:
-  QCOMPARE(f.plot().settings().minVal_edgeColor, 100.0);
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].minimum, 100.0);
   QVERIFY(f.plot().plot()->axisInterval(QwtPlot::yRight).maxValue() > 100);
   const QColor beyond = QColor::fromHsv(240, 255, 215).darker(160);
   const QColor drawn = f.picture().pixelColor(f.pixel(25, 0));
@@ -527,8 +534,9 @@ void TestViewFuncDialog::oneEditorACell() {
   dialog.activateWindow();
   QVERIFY(QTest::qWaitForWindowActive(&dialog));
   child<QTabWidget>(dialog, "tabs")->setCurrentWidget(child<QWidget>(dialog, "labelsPage"));
-  auto *table = child<QTableWidget>(dialog, "labelTable");
-  table->scrollToItem(table->item(0, column));
+  auto *table = child<QTableView>(dialog, "labelTable");
+  const QModelIndex cell = table->model()->index(0, column);
+  table->scrollTo(cell);
   bool wasDialog = false;
   QTimer::singleShot(0, [&wasDialog] {
     if (QWidget *modal = QApplication::activeModalWidget()) {
@@ -536,7 +544,7 @@ void TestViewFuncDialog::oneEditorACell() {
       modal->close();
     }
   });
-  const QPoint place = table->visualItemRect(table->item(0, column)).center();
+  const QPoint place = table->visualRect(cell).center();
   QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
   QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
   QCOMPARE(wasDialog, isDialog);
@@ -544,6 +552,23 @@ void TestViewFuncDialog::oneEditorACell() {
   for (const QLineEdit *editor : table->viewport()->findChildren<QLineEdit *>())
     editors += editor->isVisible() ? 1 : 0;
   QCOMPARE(editors, isDialog ? 0 : 1);
+}
+
+/// A dock takes the width of the one that was there before.
+void TestViewFuncDialog::pagesFitTheNarrowestDialog() {
+  ViewFixture f;
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  dialog.resize(dialog.minimumSizeHint());
+  dialog.show();
+  auto *tabs = child<QTabWidget>(dialog, "tabs");
+  QVERIFY(tabs->tabBar()->width() >= tabs->tabBar()->sizeHint().width());
+  for (int i = 0; i < tabs->count(); ++i) {
+    tabs->setCurrentIndex(i);
+    QCoreApplication::processEvents();
+    for (const QScrollArea *page : tabs->currentWidget()->findChildren<QScrollArea *>())
+      QVERIFY2(page->horizontalScrollBar()->maximum() == 0, qPrintable(page->objectName()));
+  }
 }
 
 NIVRA_TEST(TestViewFuncDialog);

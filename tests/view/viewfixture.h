@@ -11,7 +11,7 @@
 /// A network of two pipes in a row, one compressor and one text box, and its plot of 600 by 400 pixels.
 struct ViewFixture {
   NetData net;
-  NetVisControl control{net, QString()};
+  NetVisControl control{net, QString(), logFinding};
 
   ViewFixture() {
     addNode("A", "0", "0", "20");

@@ -1,12 +1,10 @@
 #include "canvas/canvasoverlay.h"
 
-#include "canvas/qwtfastplot.h"
-
 #include <QPainter>
 #include <qwt_plot_item.h>
 #include <qwt_scale_map.h>
 
-CanvasOverlay::CanvasOverlay(QwtFastPlot &plot)
+CanvasOverlay::CanvasOverlay(QwtPlot &plot)
     : QwtWidgetOverlay(plot.canvas())
     , m_plot(plot) {
   setMaskMode(NoMask);
@@ -14,10 +12,22 @@ CanvasOverlay::CanvasOverlay(QwtFastPlot &plot)
   lower(); // rubber bands and the moving picture of the panner lie above
 }
 
+void CanvasOverlay::setPicture(const QPixmap &picture, const QRectF &view) {
+  m_picture = picture;
+  m_pictureView = view;
+}
+
+QRectF CanvasOverlay::pictureArea() const {
+  const auto onCanvas = [this](const QPointF &point) {
+    return QPointF(m_plot.transform(QwtPlot::xBottom, point.x()), m_plot.transform(QwtPlot::yLeft, point.y()));
+  };
+  return {onCanvas(m_pictureView.bottomLeft()), onCanvas(m_pictureView.topRight())}; // plot coordinates grow upwards
+}
+
 void CanvasOverlay::drawOverlay(QPainter *painter) const {
-  if (m_plot.isFrozen()) {
+  if (hasPicture()) {
     painter->fillRect(rect(), m_plot.canvasBackground());
-    painter->drawPixmap(m_plot.pictureArea(), m_plot.picture(), m_plot.picture().rect());
+    painter->drawPixmap(pictureArea(), m_picture, m_picture.rect());
   }
   if (m_item == nullptr)
     return;

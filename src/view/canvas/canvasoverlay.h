@@ -1,22 +1,31 @@
 #pragma once
 
+#include <QPixmap>
+#include <qwt_plot.h>
 #include <qwt_widget_overlay.h>
-
-class QwtFastPlot;
-class QwtPlotItem;
 
 /// Lies over the canvas of a plot and lets the mouse through: the moved picture while the view moves, then an item.
 class CanvasOverlay : public QwtWidgetOverlay {
   Q_OBJECT
 public:
-  explicit CanvasOverlay(QwtFastPlot &plot);
+  /// \param plot whose canvas is set already
+  explicit CanvasOverlay(QwtPlot &plot);
 
   void setItem(const QwtPlotItem *item) { m_item = item; }
+
+  /// Covers the canvas with the picture of a view (in plot coordinates), moved to where that view lies now.
+  void setPicture(const QPixmap &picture, const QRectF &view);
+  void clearPicture() { m_picture = QPixmap(); }
+  bool hasPicture() const { return !m_picture.isNull(); }
+  /// Where the picture belongs in the present view, in pixels of the canvas.
+  QRectF pictureArea() const;
 
 protected:
   void drawOverlay(QPainter *painter) const override;
 
 private:
-  QwtFastPlot &m_plot;
+  QwtPlot &m_plot;
   const QwtPlotItem *m_item = nullptr;
+  QPixmap m_picture;
+  QRectF m_pictureView; ///< in plot coordinates
 };

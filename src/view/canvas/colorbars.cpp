@@ -27,12 +27,13 @@ public:
     const double step = std::abs(ticks.at(1) - ticks.at(0));
     const double largest = std::max(std::abs(ticks.first()), std::abs(ticks.last()));
     constexpr double Rounding = 1e-6; // of a step: what is less is zero
-    constexpr int Most = 15;          // digits that a number has
+    constexpr int MaximumDigits = 15; // of a number
     const double exponent = std::floor(std::log10(step) + Rounding);
     const double shown = std::abs(value) < step * Rounding ? 0.0 : value;
     const double digits = std::floor(std::log10(std::max(largest, step))) - exponent + 1.0;
     if (exponent < -9.0 || largest >= 1e15) // such numbers are written with powers of ten
-      return QwtText(DisplayFormat::number(shown, static_cast<int>(qBound(1.0, digits, double(Most)))), QwtText::PlainText);
+      return QwtText(DisplayFormat::number(shown, static_cast<int>(qBound(1.0, digits, double(MaximumDigits)))),
+                     QwtText::PlainText);
     return QwtText(DisplayFormat::fixed(shown, static_cast<int>(std::max(0.0, -exponent))), QwtText::PlainText);
   }
 };
@@ -77,7 +78,7 @@ struct Shown {
 void showOn(QwtPlot &plot, int axis, Shown shown) {
   constexpr int BarWidth = 14; // px
   constexpr int Margin = 6;    // px
-  constexpr int MostTicks = 10;
+  constexpr int MaximumTicks = 10;
   constexpr double CapShare = 0.04; // of the scale
   const QwtInterval &range = shown.values.range;
   const QwtInterval &data = shown.values.data;
@@ -94,7 +95,7 @@ void showOn(QwtPlot &plot, int axis, Shown shown) {
   shown.title.setRenderFlags(Qt::AlignHCenter | Qt::TextWordWrap); // a short scale has it in lines
   plot.setAxisTitle(axis, shown.title);
   plot.setAxisScaleDraw(axis, new TickLabels); // NOLINT(cppcoreguidelines-owning-memory): the plot owns it
-  plot.setAxisMaxMajor(axis, MostTicks);
+  plot.setAxisMaxMajor(axis, MaximumTicks);
   if (interval.width() > 0.0) { // values beyond fixed bounds are announced by caps
     const double cap = interval.width() * CapShare;
     plot.setAxisScale(axis, interval.minValue() - (data.minValue() < range.minValue() ? cap : 0.0),
@@ -118,8 +119,8 @@ void ColorBars::show(QwtPlot &plot, const PlotSettings &settings, const DrawValu
   int axis = settings.colorScalePos;
   if (!isScaleAxis(axis) || subject == ColorScale::Subject::SearchResults)
     return;
-  const DrawValues::Column &edges = values.edgeColor();
-  const DrawValues::Column &nodes = values.nodeColor();
+  const DrawValues::Column &edges = values.of(Aspect::EdgeColor);
+  const DrawValues::Column &nodes = values.of(Aspect::NodeColor);
   const bool showsNodes = subject == ColorScale::Subject::EdgesAndNodes && nodes.isAny();
   const bool isOne = showsNodes && ColorScale::isShared(settings, values);
   if (edges.isAny()) {

@@ -33,12 +33,14 @@ private:
 
 } // namespace
 
-NetPlot::NetPlot(QWidget *parent)
+NetPlot::NetPlot(QWidget *parent, Told told)
     : QWidget(parent)
+    , m_told(std::move(told))
     , m_plot(new QwtFastPlot(this))
-    , m_zoomer(new PlotZoom(*m_plot, m_settings))
+    , m_zoomer(new PlotZoom(*m_plot, m_settings, m_told))
     , m_panner(new PlotPanner(*m_plot))
-    , m_update(std::make_unique<NetUpdate>(m_settings, [this] { return view(); }))
+    , m_update(std::make_unique<NetUpdate>(
+          m_settings, [this] { return view(); }, m_told))
     , m_smoothZoom(new SmoothZoom(*m_zoomer)) {
   constexpr int SmallestSide = 200;
   constexpr double GridZ = 1.0;
@@ -92,16 +94,19 @@ void NetPlot::setUpUpdate() {
 
 NetUpdate::View NetPlot::view() const {
   return {
-      m_plot->visibleRect(), m_plot->unitsPerPixel(),
+      m_plot->visibleRect(),
+      m_plot->unitsPerPixel(),
       Projection(m_plot->canvasMap(QwtPlot::xBottom), m_plot->canvasMap(QwtPlot::yLeft), m_plot->canvas()->contentsRect()),
-      legendArea(), m_showsSubnet};
+      legendArea(),
+      m_zoomer->limits().largest,
+      m_showsSubnet};
 }
 
 void NetPlot::setUpPanner() {
-  // The scales beside the drawing show colours, not places.
+  // The scales beside the drawing show colours, not coordinates.
   m_panner->setAxisEnabled(QwtPlot::xTop, false);
   m_panner->setAxisEnabled(QwtPlot::yRight, false);
-  connect(m_panner, &QwtPanner::panned, m_zoomer, &PlotZoom::takeView);
+  connect(m_panner, &QwtPanner::panned, m_zoomer, &PlotZoom::pushShownView);
   readMousePattern();
 }
 
@@ -121,8 +126,8 @@ void NetPlot::zoomByWheel(int steps, QPointF anchor) {
   const bool isToElement = Settings::ZoomToElement.value();
   if (isToElement) {
     constexpr double Tolerance = 20.0; // px
-    const QPointF place(m_plot->transform(QwtPlot::xBottom, anchor.x()), m_plot->transform(QwtPlot::yLeft, anchor.y()));
-    const std::vector<Hit> hits = m_update->elementsAt(place, Tolerance);
+    const QPointF position(m_plot->transform(QwtPlot::xBottom, anchor.x()), m_plot->transform(QwtPlot::yLeft, anchor.y()));
+    const std::vector<Hit> hits = m_update->elementsAt(position, Tolerance);
     if (!hits.empty())
       anchor = m_update->geometry().center(hits.front().item).value_or(anchor);
   }
@@ -143,11 +148,11 @@ void NetPlot::zoomToElement(NetGeometry::Item item) {
   const std::optional<QPointF> center = geometry.center(item);
   if (!center)
     return;
-  constexpr double Smallest = 1.0;
-  constexpr double Largest = 1000.0;
+  constexpr double SmallestFactor = 1.0;
+  constexpr double LargestFactor = 1000.0;
   const double wanted = Settings::ZoomToElementFactor.value();
-  const double factor = qBound(Smallest, wanted, Largest);
-  QSizeF size(m_settings.smallestZoomWidth, m_settings.smallestZoomHeight);
+  const double factor = qBound(SmallestFactor, wanted, LargestFactor);
+  QSizeF size = m_zoomer->limits().smallest;
   if (item.kind == NetData::Edge) {
     const QLineF line = geometry.line(geometry.edges()[static_cast<std::size_t>(item.index)]);
     size = size.expandedTo({std::abs(line.dx()), std::abs(line.dy())});
@@ -174,16 +179,14 @@ bool NetPlot::pansWith(Qt::MouseButton button, Qt::KeyboardModifiers keys) const
 }
 
 void NetPlot::setSettings(const PlotSettings &settings) {
-  const PlotSettings before = m_settings;
   m_settings = settings;
-  m_settings.takeZoomLimits(before);
   m_selection.setSizes(m_settings.nodeMag, m_settings.symMag);
   applyColors();
 }
 
 bool NetPlot::readPlotSettings(const QString &path) {
   PlotSettings settings = m_settings;
-  const bool found = PlotSettingsFile::read(path, settings);
+  const bool found = PlotSettingsFile::read(path, settings, m_told);
   if (found)
     setSettings(settings);
   return found;

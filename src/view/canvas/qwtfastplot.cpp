@@ -9,8 +9,7 @@
 #include <qwt_scale_widget.h>
 
 QwtFastPlot::QwtFastPlot(QWidget *parent)
-    : QwtPlot(parent)
-    , m_overlay(nullptr) {
+    : QwtPlot(parent) {
   constexpr int Margin = 6; // px
   setAutoReplot(false);
   setAutoFillBackground(true);
@@ -24,8 +23,6 @@ QwtFastPlot::QwtFastPlot(QWidget *parent)
   plotLayout()->setAlignCanvasToScales(true);
   m_overlay = new CanvasOverlay(*this);
 }
-
-QwtFastPlot::~QwtFastPlot() = default;
 
 QRectF QwtFastPlot::visibleRect() const {
   const QwtInterval x = axisInterval(xBottom);
@@ -56,22 +53,23 @@ void QwtFastPlot::freeze() {
   if (isFrozen() || m_frameTime < QuickEnough)
     return;
   m_overlay->hide(); // what lies on it follows the view by itself
-  m_picture = canvas()->grab();
-  m_pictureView = visibleRect();
+  m_overlay->setPicture(canvas()->grab(), visibleRect());
   m_overlay->show();
+}
+
+bool QwtFastPlot::isFrozen() const {
+  return m_overlay->hasPicture();
+}
+
+QRectF QwtFastPlot::pictureArea() const {
+  return m_overlay->pictureArea();
 }
 
 void QwtFastPlot::thaw() {
   if (!isFrozen())
     return;
-  m_picture = QPixmap();
+  m_overlay->clearPicture();
   replot();
-}
-
-QRectF QwtFastPlot::pictureArea() const {
-  const QPointF topLeft(transform(xBottom, m_pictureView.left()), transform(yLeft, m_pictureView.bottom()));
-  const QPointF bottomRight(transform(xBottom, m_pictureView.right()), transform(yLeft, m_pictureView.top()));
-  return {topLeft, bottomRight};
 }
 
 void QwtFastPlot::replot() {
@@ -101,9 +99,9 @@ void QwtFastPlot::forgetScaleRoom() {
 }
 
 void QwtFastPlot::drawCanvas(QPainter *painter) {
-  constexpr double Nano = 1e-6; // in milliseconds
+  constexpr double MillisecondsPerNanosecond = 1e-6;
   QElapsedTimer timer;
   timer.start();
   QwtPlot::drawCanvas(painter);
-  m_frameTime = static_cast<double>(timer.nsecsElapsed()) * Nano;
+  m_frameTime = static_cast<double>(timer.nsecsElapsed()) * MillisecondsPerNanosecond;
 }

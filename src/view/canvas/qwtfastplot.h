@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QPixmap>
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
 
@@ -12,13 +11,12 @@ class QwtFastPlot : public QwtPlot {
   Q_OBJECT
 public:
   explicit QwtFastPlot(QWidget *parent = nullptr);
-  ~QwtFastPlot() override;
 
   /// What the canvas shows, in plot coordinates.
   QRectF visibleRect() const;
   /// Plot units a pixel, horizontally and vertically.
   QSizeF unitsPerPixel() const;
-  /// From a place on the canvas to plot coordinates.
+  /// From a position on the canvas to plot coordinates.
   QPointF toPlot(const QPoint &canvasPosition) const;
 
   /// The scales below and at the left keep the room that their numbers once took, lest the canvas jump while the view moves.
@@ -32,10 +30,9 @@ public:
   void freeze();
   /// Draws the exact picture again.
   void thaw();
-  bool isFrozen() const { return !m_picture.isNull(); }
+  bool isFrozen() const;
   /// Where the kept picture belongs in the present view, in pixels of the canvas.
   QRectF pictureArea() const;
-  const QPixmap &picture() const { return m_picture; }
   /// Of the last drawing of the canvas, in milliseconds.
   double frameTime() const { return m_frameTime; }
 
@@ -48,8 +45,6 @@ protected:
 private:
   void keepScaleRoom();
 
-  CanvasOverlay *m_overlay;
-  QPixmap m_picture;
-  QRectF m_pictureView; ///< in plot coordinates
+  CanvasOverlay *m_overlay = nullptr;
   double m_frameTime = 0.0;
 };

@@ -1,12 +1,13 @@
-#include "ui_functionrow.h"
+#include "configure/functionrow.h"
 
-#include <view/functionrow.h>
+#include "ui_functionrow.h"
 
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <cmath>
+#include <drawing/drawfunctions.h>
 #include <drawing/plotsettings.h>
 
 namespace {
@@ -19,13 +20,18 @@ bool isNumber(const QString &text) {
   return isOne || text.trimmed().isEmpty();
 }
 
+/// As TypedBounds::OfFunctions has it, whether the function goes by its name or by its property.
+QString keyOf(const QString &function) {
+  return DrawFunction::propertyName(function.trimmed()).toLower();
+}
+
 /// With as many digits as it takes to mean the same again.
 template <typename Means>
 QString shortest(double number, Means meansTheSame) {
-  constexpr int Fewest = 10;
-  constexpr int Most = 17; // that a number has
+  constexpr int FewestDigits = 10;
+  constexpr int MostDigits = 17; // that a number has
   QString text;
-  for (int digits = Fewest; digits <= Most; ++digits) {
+  for (int digits = FewestDigits; digits <= MostDigits; ++digits) {
     text = QString::number(number, 'g', digits);
     if (meansTheSame(text.toDouble()))
       break;
@@ -79,33 +85,36 @@ void FunctionRow::setChoices(const QStringList &names, const QHash<QString, QStr
   m_ui->function->setCurrentText(chosen);
 }
 
-void FunctionRow::setValues(const Values &values, const TypedBounds::OfFunctions &typed) {
+void FunctionRow::setFunction(const PlotSettings::Function &function) {
   const QSignalBlocker blocker(m_ui->function);
-  m_ui->function->setCurrentText(values.function);
-  m_ui->absolute->setChecked(values.absolute);
-  m_ui->logarithmic->setChecked(values.logarithmic);
-  m_function = TypedBounds::key(values.function);
-  m_unit = m_unitOf(values.function);
-  m_typed = typed;
+  m_ui->function->setCurrentText(function.name);
+  m_ui->absolute->setChecked(function.isAbsolute);
+  m_ui->logarithmic->setChecked(function.isLogarithmic);
+  m_function = keyOf(function.name);
+  m_unit = m_unitOf(function.name);
+  m_typed = function.typed;
   TypedBounds bounds = inUnit(m_typed.value(m_function));
-  bounds = {written(values.minimum, PlotSettings::OpenMinimum, bounds.minimum),
-            written(values.maximum, PlotSettings::OpenMaximum, bounds.maximum), m_unit.name};
+  bounds = {written(function.minimum, PlotSettings::OpenMinimum, bounds.minimum),
+            written(function.maximum, PlotSettings::OpenMaximum, bounds.maximum), m_unit.name};
   show(bounds);
   m_applied = typedBounds();
 }
 
 void FunctionRow::changeFunction(const QString &function) {
   m_typed = typedBounds();
-  m_function = TypedBounds::key(function);
+  m_function = keyOf(function);
   m_unit = m_unitOf(function.trimmed());
   show(inUnit(m_typed.value(m_function)));
   setNote(QString());
 }
 
-FunctionRow::Values FunctionRow::values() const {
-  return {m_ui->function->currentText().trimmed(), stored(m_ui->minimum->text(), PlotSettings::OpenMinimum),
-          stored(m_ui->maximum->text(), PlotSettings::OpenMaximum), m_ui->absolute->isChecked(),
-          m_ui->logarithmic->isChecked()};
+PlotSettings::Function FunctionRow::function() const {
+  return {m_ui->function->currentText().trimmed(),
+          m_ui->absolute->isChecked(),
+          m_ui->logarithmic->isChecked(),
+          stored(m_ui->minimum->text(), PlotSettings::OpenMinimum),
+          stored(m_ui->maximum->text(), PlotSettings::OpenMaximum),
+          typedBounds()};
 }
 
 TypedBounds::OfFunctions FunctionRow::typedBounds() const {

@@ -20,8 +20,8 @@ public:
       : m_raw(raw) {}
 
   QString read() {
-    while (m_at < m_raw.size()) {
-      const char c = m_raw.at(m_at++);
+    while (m_position < m_raw.size()) {
+      const char c = m_raw.at(m_position++);
       if (c == '"') {
         m_isQuoted = !m_isQuoted;
         m_solid = m_bytes.size();
@@ -43,27 +43,27 @@ public:
 
 private:
   void readEscape() {
-    if (m_at >= m_raw.size())
+    if (m_position >= m_raw.size())
       return;
     static const QByteArray letters("abfnrtv\"?'\\");
     static const QByteArray meanings("\a\b\f\n\r\t\v\"?'\\");
-    const char c = m_raw.at(m_at++);
+    const char c = m_raw.at(m_position++);
     const int letter = letters.indexOf(c);
     if (letter >= 0)
       appendCode(static_cast<unsigned char>(meanings.at(letter)));
     else if (c == 'x')
       appendCode(number(16, 8));
     else if (c >= '0' && c <= '7') {
-      --m_at;
+      --m_position;
       appendCode(number(8, 6));
     }
   }
-  /// Digits of the base, at most so many; the code of one character.
-  ushort number(int base, int most) {
+  /// Digits of the base, at most so many, of the code of one character.
+  ushort number(int base, int maximumDigits) {
     uint code = 0;
-    for (int count = 0; m_at < m_raw.size() && count < most; ++count, ++m_at) {
+    for (int count = 0; m_position < m_raw.size() && count < maximumDigits; ++count, ++m_position) {
       bool isDigit = false;
-      const uint digit = m_raw.mid(m_at, 1).toUInt(&isDigit, base);
+      const uint digit = m_raw.mid(m_position, 1).toUInt(&isDigit, base);
       if (!isDigit)
         break;
       code = code * static_cast<uint>(base) + digit;
@@ -82,7 +82,7 @@ private:
   }
 
   const QByteArray &m_raw;
-  int m_at = 0;
+  int m_position = 0;
   bool m_isQuoted = false;
   QByteArray m_bytes; ///< not yet in the text
   int m_solid = 0;    ///< of these, up to the last that is no blank at the end

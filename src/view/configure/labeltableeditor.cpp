@@ -8,145 +8,29 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QKeyEvent>
-#include <QPainter>
-#include <QTableWidget>
+#include <QTableView>
 
-#include <drawing/stationsymbols.h>
-
-namespace {
-
-constexpr int IconSize = 20; // px
-constexpr int IconRole = Qt::UserRole;
-
-QIcon iconOf(const QString &type) {
-  static StationSymbols symbols;
-  const int number = symbols.find(type);
-  if (number < 0)
-    return QIcon();
-  QPixmap picture(IconSize, IconSize);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  symbols.draw(painter, number, QPointF(IconSize, IconSize) * 0.5, IconSize, 0.0);
-  painter.end();
-  return QIcon(picture);
-}
-
-bool isColumn(int column, LabelRow::Column wanted) {
-  return column == static_cast<int>(wanted);
-}
-
-/// What such a cell may hold is chosen rather than typed.
-bool hasDialog(int column) {
-  switch (column) {
-  case LabelRow::Show:
-  case LabelRow::Contents:
-  case LabelRow::Color:
-  case LabelRow::BgrColor:
-  case LabelRow::BordColor:
-  case LabelRow::Font:
-    return true;
-  default:
-    return false;
-  }
-}
-
-QString comma() {
-  return QStringLiteral("&#44;");
-}
-
-QColor withAlpha(QColor color, const QString &alpha) {
-  constexpr int Opaque = 255;
-  bool isNumber = false;
-  const int number = alpha.toInt(&isNumber);
-  color.setAlpha(isNumber ? qBound(0, number, Opaque) : Opaque);
-  return color;
-}
-
-} // namespace
-
-LabelTableEditor::LabelTableEditor(QTableWidget &widget)
-    : QObject(&widget)
-    , m_widget(widget) {
-  widget.setColumnCount(LabelRow::Columns);
-  widget.setHorizontalHeaderLabels(LabelTable::headers());
-  widget.setSelectionBehavior(QAbstractItemView::SelectItems);
-  widget.setIconSize({IconSize, IconSize});
+LabelTableEditor::LabelTableEditor(QTableView &view)
+    : QObject(&view)
+    , m_view(view) {
+  view.setModel(&m_model);
+  view.setSelectionBehavior(QAbstractItemView::SelectItems);
   // A double click, F2 and Return are answered by edit(), which alone opens the one editor that suits the cell.
-  widget.setEditTriggers(QAbstractItemView::AnyKeyPressed);
-  widget.installEventFilter(this);
-  connect(&widget, &QTableWidget::cellDoubleClicked, this, &LabelTableEditor::edit);
-  connect(&widget, &QTableWidget::itemChanged, this, [this](QTableWidgetItem *cell) { showLook(cell->row()); });
-  connect(widget.verticalHeader(), &QHeaderView::sectionDoubleClicked, this, [] {
+  view.setEditTriggers(QAbstractItemView::AnyKeyPressed);
+  view.installEventFilter(this);
+  connect(&view, &QTableView::doubleClicked, this, &LabelTableEditor::edit);
+  // Queued: a box would take the focus from the editor, which would then hand over its text once more.
+  connect(
+      &m_model, &LabelTableModel::refused, this,
+      [](const QString &reason) { NivraMsg::message(NivraMsg::Kind::Warning, reason); }, Qt::QueuedConnection);
+  connect(view.verticalHeader(), &QHeaderView::sectionDoubleClicked, this, [] {
     NivraMsg::message(NivraMsg::Kind::Information, tr("Currently, changing symbol only via property vis.symbol allowed!"));
   });
 }
 
 void LabelTableEditor::setTable(const LabelTable &table) {
-  m_widget.setRowCount(0);
-  m_types = static_cast<int>(table.types.size());
-  for (const std::vector<LabelRow> *rows : {&table.types, &table.templates}) {
-    for (const LabelRow &row : *rows) {
-      m_widget.insertRow(m_widget.rowCount());
-      showRow(m_widget.rowCount() - 1, row, rows == &table.templates);
-    }
-  }
-  m_widget.resizeColumnsToContents();
-}
-
-void LabelTableEditor::showRow(int row, const LabelRow &cells, bool isTemplate) {
-  const QSignalBlocker blocker(&m_widget);
-  for (int column = 0; column < LabelRow::Columns; ++column) {
-    auto *cell = new QTableWidgetItem(cells.cells[static_cast<std::size_t>(column)]);
-    const bool isFixed = !isTemplate && (isColumn(column, LabelRow::LongName) || isColumn(column, LabelRow::Short));
-    if (isFixed || hasDialog(column))
-      cell->setFlags(cell->flags() & ~Qt::ItemIsEditable);
-    m_widget.setItem(row, column, cell);
-  }
-  const QString type = isTemplate ? cells.icon : cells[LabelRow::Short];
-  auto *header = new QTableWidgetItem(iconOf(type), QString());
-  header->setData(IconRole, type);
-  m_widget.setVerticalHeaderItem(row, header);
-  showLook(row);
-}
-
-void LabelTableEditor::showLook(int row) {
-  const QSignalBlocker blocker(&m_widget);
-  const LabelRow cells = rowAt(row);
-  const auto cell = [&](LabelRow::Column column) {
-    return m_widget.item(row, column);
-  };
-  const QColor text(cells[LabelRow::Color]);
-  cell(LabelRow::Color)->setForeground(text.isValid() ? QBrush(text) : QBrush());
-  const QColor background(cells[LabelRow::BgrColor]);
-  cell(LabelRow::BgrColor)
-      ->setBackground(background.isValid() ? QBrush(withAlpha(background, cells[LabelRow::BgrAlpha])) : QBrush());
-  const QColor border(cells[LabelRow::BordColor]);
-  cell(LabelRow::BordColor)
-      ->setBackground(border.isValid() ? QBrush(withAlpha(border, cells[LabelRow::BordAlpha])) : QBrush());
-  QFont font;
-  if (!cells[LabelRow::Font].isEmpty() && font.fromString(cells[LabelRow::Font]))
-    cell(LabelRow::Font)->setFont(font);
-}
-
-LabelRow LabelTableEditor::rowAt(int row) const {
-  LabelRow cells;
-  for (int column = 0; column < LabelRow::Columns; ++column) {
-    const QTableWidgetItem *cell = m_widget.item(row, column);
-    cells.cells[static_cast<std::size_t>(column)] = cell == nullptr ? QString() : cell->text();
-  }
-  cells[LabelRow::Contents].replace(QLatin1Char(','), comma());
-  if (row >= m_types)
-    cells.icon = m_widget.verticalHeaderItem(row)->data(IconRole).toString();
-  return cells;
-}
-
-LabelTable LabelTableEditor::table() const {
-  LabelTable table;
-  table.types.clear();
-  for (int row = 0; row < m_widget.rowCount(); ++row)
-    (row < m_types ? table.types : table.templates).push_back(rowAt(row));
-  return table;
+  m_model.setTable(table);
+  m_view.resizeColumnsToContents();
 }
 
 QStringList LabelTableEditor::visibilityValues() {
@@ -158,108 +42,107 @@ QStringList LabelTableEditor::visibilityValues() {
 }
 
 bool LabelTableEditor::eventFilter(QObject *watched, QEvent *event) {
-  const QTableWidgetItem *cell = m_widget.currentItem();
-  const bool isKey = watched == &m_widget && event->type() == QEvent::KeyPress;
-  if (!isKey || cell == nullptr || !m_widget.hasFocus()) // without it, an editor is open and passes on what ends it
+  const QModelIndex cell = m_view.currentIndex();
+  const bool isKey = watched == &m_view && event->type() == QEvent::KeyPress;
+  if (!isKey || !cell.isValid() || !m_view.hasFocus()) // without it, an editor is open and passes on what ends it
     return QObject::eventFilter(watched, event);
   switch (static_cast<QKeyEvent *>(event)->key()) {
   case Qt::Key_F2:
   case Qt::Key_Return:
   case Qt::Key_Enter:
-    edit(cell->row(), cell->column());
+    edit(cell);
     return true;
   case Qt::Key_Delete:
   case Qt::Key_Backspace:
-    if (!hasDialog(cell->column()) || isColumn(cell->column(), LabelRow::Show))
+    if (!LabelTableModel::hasDialog(cell.column()) || cell.column() == LabelRow::Show)
       return false;
-    m_widget.item(cell->row(), cell->column())->setText(QString()); // which no dialog of colours or fonts offers
+    m_model.setData(cell, QString()); // which no dialog of colours or fonts offers
     return true;
   default:
     return false;
   }
 }
 
-void LabelTableEditor::edit(int row, int column) {
-  QTableWidgetItem &cell = *m_widget.item(row, column);
-  bool isTaken = false;
-  if (isColumn(column, LabelRow::Show)) {
-    const QStringList values = visibilityValues();
-    const QString chosen = QInputDialog::getItem(&m_widget, tr("Show"), tr("Symbols and labels of this type are"), values,
-                                                 std::max(0, values.indexOf(cell.text())), false, &isTaken);
-    if (isTaken)
-      cell.setText(chosen);
-  } else if (isColumn(column, LabelRow::Contents)) {
-    editContents(cell);
-  } else if (isColumn(column, LabelRow::Color) || isColumn(column, LabelRow::BgrColor) ||
-             isColumn(column, LabelRow::BordColor)) {
-    const QColor chosen = QColorDialog::getColor(QColor(cell.text()), &m_widget);
-    if (chosen.isValid())
-      cell.setText(chosen.name());
-  } else if (isColumn(column, LabelRow::Font)) {
-    QFont font;
-    font.fromString(cell.text());
-    font = QFontDialog::getFont(&isTaken, font, &m_widget);
-    if (isTaken)
-      cell.setText(font.toString());
-  } else if ((cell.flags() & Qt::ItemIsEditable) != 0) {
-    m_widget.editItem(&cell);
+void LabelTableEditor::edit(const QModelIndex &cell) {
+  switch (cell.column()) {
+  case LabelRow::Show:
+    return editVisibility(cell);
+  case LabelRow::Contents:
+    return editContents(cell);
+  case LabelRow::Color:
+  case LabelRow::BgrColor:
+  case LabelRow::BordColor:
+    return editColor(cell);
+  case LabelRow::Font:
+    return editFont(cell);
+  default:
+    if (cell.flags().testFlag(Qt::ItemIsEditable))
+      m_view.edit(cell);
   }
 }
 
-void LabelTableEditor::editContents(QTableWidgetItem &cell) {
-  bool isTaken = false;
-  const QString text =
-      QInputDialog::getMultiLineText(&m_widget, tr("Label Contents"), tr("Enter description of label contents:"),
-                                     QString(cell.text())
-                                         .replace(comma(), QStringLiteral(","))
-                                         .replace(QStringLiteral("<br />"), QStringLiteral("<br />\n")),
-                                     &isTaken);
-  if (isTaken)
-    cell.setText(QString(text)
-                     .replace(QStringLiteral("<br />\n"), QStringLiteral("<br />"))
-                     .replace(QLatin1Char('\n'), QStringLiteral("<br />"))
-                     .replace(QLatin1Char(','), comma()));
+void LabelTableEditor::editVisibility(const QModelIndex &cell) {
+  bool isAccepted = false;
+  const QStringList values = visibilityValues();
+  const QString chosen = QInputDialog::getItem(&m_view, tr("Show"), tr("Symbols and labels of this type are"), values,
+                                               std::max(0, values.indexOf(cell.data().toString())), false, &isAccepted);
+  if (isAccepted)
+    m_model.setData(cell, chosen);
+}
+
+void LabelTableEditor::editContents(const QModelIndex &cell) {
+  bool isAccepted = false;
+  QString text = cell.data().toString();
+  text.replace(QStringLiteral("&#44;"), QStringLiteral(","));
+  text.replace(QStringLiteral("<br />"), QStringLiteral("<br />\n"));
+  text = QInputDialog::getMultiLineText(&m_view, tr("Label Contents"), tr("Enter description of label contents:"), text,
+                                        &isAccepted);
+  text.replace(QStringLiteral("<br />\n"), QStringLiteral("<br />"));
+  text.replace(QLatin1Char('\n'), QStringLiteral("<br />"));
+  if (isAccepted)
+    m_model.setData(cell, text);
+}
+
+void LabelTableEditor::editColor(const QModelIndex &cell) {
+  const QColor chosen = QColorDialog::getColor(QColor(cell.data().toString()), &m_view);
+  if (chosen.isValid())
+    m_model.setData(cell, chosen.name());
+}
+
+void LabelTableEditor::editFont(const QModelIndex &cell) {
+  bool isAccepted = false;
+  QFont font;
+  font.fromString(cell.data().toString());
+  font = QFontDialog::getFont(&isAccepted, font, &m_view);
+  if (isAccepted)
+    m_model.setData(cell, font.toString());
 }
 
 void LabelTableEditor::addTemplate() {
-  const int current = m_widget.currentRow();
-  if (current < 0)
-    return;
-  LabelRow row = rowAt(current);
-  row.icon = m_widget.verticalHeaderItem(current)->data(IconRole).toString();
-  row[LabelRow::LongName] = tr("template %1").arg(m_widget.rowCount() - m_types + 1);
-  m_widget.insertRow(m_widget.rowCount());
-  showRow(m_widget.rowCount() - 1, row, true);
-  m_widget.setCurrentCell(m_widget.rowCount() - 1, 0);
+  const QModelIndex current = m_view.currentIndex();
+  if (current.isValid())
+    m_view.setCurrentIndex(m_model.index(m_model.addTemplate(current.row()), 0));
 }
 
 void LabelTableEditor::applyTemplate() {
-  const int current = m_widget.currentRow();
-  if (current < 0)
+  const QModelIndex current = m_view.currentIndex();
+  if (!current.isValid())
     return;
-  QStringList types{tr("all types")};
-  for (int row = 0; row < m_types; ++row)
-    types.append(m_widget.item(row, LabelRow::LongName)->text());
-  bool isTaken = false;
+  QStringList choices{tr("all types")};
+  for (const LabelRow &type : m_model.table().types)
+    choices.append(type[LabelRow::LongName]);
+  bool isAccepted = false;
   const QString chosen =
-      QInputDialog::getItem(&m_widget, tr("Apply to …"), tr("Give this look to"), types, 0, false, &isTaken);
-  if (!isTaken)
+      QInputDialog::getItem(&m_view, tr("Apply to …"), tr("Give this look to"), choices, 0, false, &isAccepted);
+  if (!isAccepted)
     return;
-  const LabelRow look = rowAt(current);
-  for (int row = 0; row < m_types; ++row) {
-    LabelRow cells = rowAt(row);
-    if (chosen != types.first() && chosen != cells[LabelRow::LongName])
-      continue;
-    for (int column = LabelRow::Size; column < LabelRow::Columns; ++column)
-      cells.cells[static_cast<std::size_t>(column)] = look.cells[static_cast<std::size_t>(column)];
-    showRow(row, cells, false);
+  for (int row = 0; row < m_model.typeCount(); ++row) {
+    if (chosen == choices.first() || chosen == choices.at(row + 1))
+      m_model.copyLook(current.row(), row);
   }
 }
 
 void LabelTableEditor::deleteRow() {
-  const int current = m_widget.currentRow();
-  if (current >= m_types)
-    m_widget.removeRow(current);
-  else
+  if (!m_model.removeTemplate(m_view.currentIndex().row()))
     NivraMsg::message(NivraMsg::Kind::Warning, tr("Deleting this row is not allowed!"));
 }

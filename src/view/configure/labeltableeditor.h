@@ -1,21 +1,18 @@
 #pragma once
 
-#include <QObject>
+#include "configure/labeltablemodel.h"
 
-#include <drawing/labeltable.h>
+class QTableView;
 
-class QTableWidget;
-class QTableWidgetItem;
-
-/// Shows the label table in a table widget and edits it there: a cell that has a dialog of its own in that alone, whether
-/// the mouse or a key asks for it.
+/// Edits the label table in a view: a cell that has a dialog of its own in that alone, whether the mouse or a key asks for
+/// it.
 class LabelTableEditor : public QObject {
   Q_OBJECT
 public:
-  explicit LabelTableEditor(QTableWidget &widget);
+  explicit LabelTableEditor(QTableView &view);
 
   void setTable(const LabelTable &table);
-  LabelTable table() const;
+  const LabelTable &table() const { return m_model.table(); }
 
   void addTemplate();   ///< a copy of the current row
   void applyTemplate(); ///< asks for which types
@@ -28,12 +25,12 @@ protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-  void showRow(int row, const LabelRow &cells, bool isTemplate);
-  void showLook(int row);
-  void edit(int row, int column);
-  void editContents(QTableWidgetItem &cell);
-  LabelRow rowAt(int row) const;
+  void edit(const QModelIndex &cell);
+  void editVisibility(const QModelIndex &cell);
+  void editContents(const QModelIndex &cell);
+  void editColor(const QModelIndex &cell);
+  void editFont(const QModelIndex &cell);
 
-  QTableWidget &m_widget;
-  int m_types = 0; ///< rows of element types, in front of the templates
+  QTableView &m_view;
+  LabelTableModel m_model;
 };

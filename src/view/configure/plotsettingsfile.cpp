@@ -2,20 +2,14 @@
 
 #include "configure/initext.h"
 
-#include <base/nivramsg.h>
 #include <base/wholefile.h>
 
-#include <QCoreApplication>
 #include <QDataStream>
 #include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 
 namespace {
-
-QString tr(const char *text) {
-  return QCoreApplication::translate("PlotSettingsFile", text);
-}
 
 constexpr qint64 LargestFile = qint64(4) << 20;
 
@@ -48,14 +42,33 @@ std::optional<QColor> storedColor(const QString &object) {
   return color.toRgb();
 }
 
+struct FunctionKeys {
+  const char *absolute;
+  const char *logarithmic;
+  const char *minimum;
+  const char *maximum;
+};
+
+constexpr PerAspect<FunctionKeys> KeysOfFunctions{
+    {{{"absColor", "logScaleColor", "minVal_edgeColor", "maxVal_edgeColor"},
+      {"absWidth", "logScaleWidth", "minVal_Width", "maxVal_Width"},
+      {"absNodeColor", "logScaleNodeColor", "minVal_nodeColor", "maxVal_nodeColor"},
+      {"absNodeSize", "logScaleNodeSize", "minVal_nodeSize", "maxVal_nodeSize"}}}};
+
 /// Visits every stored field with its key, so that reading and writing cannot drift apart. A visitor takes plain fields
 /// with the value a missing key stands for, magnitudes that keep their present value, and fields read only if present.
 template <typename Settings, typename Visitor>
 void visitFunctions(Settings &s, Visitor &v) {
-  v.field("colorFunc", s.colorFunc, QStringLiteral("x"));
-  v.field("widthFunc", s.widthFunc, QStringLiteral("y"));
-  v.field("nodeColorFunc", s.nodeColorFunc, QStringLiteral("y"));
-  v.field("nodeSizeFunc", s.nodeSizeFunc, PlotSettings::fixedSize());
+  const PlotSettings missing;
+  for (const Aspect aspect : AllAspects) {
+    auto &function = s.functions[aspect];
+    const FunctionKeys &keys = KeysOfFunctions[aspect];
+    v.field(TypedBounds::aspectKey(aspect).toLatin1().constData(), function.name, missing.functions[aspect].name);
+    v.field(keys.absolute, function.isAbsolute, missing.functions[aspect].isAbsolute);
+    v.field(keys.logarithmic, function.isLogarithmic, false);
+    v.field(keys.minimum, function.minimum, PlotSettings::OpenMinimum);
+    v.field(keys.maximum, function.maximum, PlotSettings::OpenMaximum);
+  }
   v.field("colorScalePos", s.colorScalePos, 1);
   v.field("legendPos", s.legendPos, 0);
 }
@@ -86,30 +99,10 @@ void visitColorOptions(Settings &s, Visitor &v) {
 }
 
 template <typename Settings, typename Visitor>
-void visitScales(Settings &s, Visitor &v) {
+void visitView(Settings &s, Visitor &v) {
   v.field("gridMajorColor", s.gridMajorColor, QColor());
   v.field("gridMinorColor", s.gridMinorColor, QColor());
-  v.field("absColor", s.absColor, false);
-  v.field("absWidth", s.absWidth, true);
-  v.field("absNodeColor", s.absNodeColor, true);
-  v.field("absNodeSize", s.absNodeSize, true);
-  v.field("logScaleColor", s.logScaleColor, false);
-  v.field("logScaleWidth", s.logScaleWidth, false);
-  v.field("logScaleNodeColor", s.logScaleNodeColor, false);
-  v.field("logScaleNodeSize", s.logScaleNodeSize, false);
   v.field("logFactor", s.logFactor, 7.8);
-}
-
-template <typename Settings, typename Visitor>
-void visitBounds(Settings &s, Visitor &v) {
-  v.field("minVal_edgeColor", s.minVal_edgeColor, PlotSettings::OpenMinimum);
-  v.field("maxVal_edgeColor", s.maxVal_edgeColor, PlotSettings::OpenMaximum);
-  v.field("minVal_nodeColor", s.minVal_nodeColor, PlotSettings::OpenMinimum);
-  v.field("maxVal_nodeColor", s.maxVal_nodeColor, PlotSettings::OpenMaximum);
-  v.field("minVal_Width", s.minVal_Width, PlotSettings::OpenMinimum);
-  v.field("maxVal_Width", s.maxVal_Width, PlotSettings::OpenMaximum);
-  v.field("minVal_nodeSize", s.minVal_nodeSize, PlotSettings::OpenMinimum);
-  v.field("maxVal_nodeSize", s.maxVal_nodeSize, PlotSettings::OpenMaximum);
   v.field("label_mode", s.label_mode, QStringLiteral("selected properties"));
   v.field("fixAxesRatio", s.fixAxesRatio, true);
   v.field("showXYaxes", s.showXYaxes, false);
@@ -118,13 +111,28 @@ void visitBounds(Settings &s, Visitor &v) {
   v.field("layerProp", s.layerProp, QStringLiteral("vis.layer"));
 }
 
+/// The bounds of all draw functions share one key.
+template <typename Settings, typename Visitor>
+void visitTypedBounds(Settings &s, Visitor &v) {
+  PerAspect<TypedBounds::OfFunctions> typed{};
+  for (const Aspect aspect : AllAspects)
+    typed[aspect] = s.functions[aspect].typed;
+  QString text = TypedBounds::written(typed);
+  v.optional("typedBounds", text);
+  if constexpr (!std::is_const_v<Settings>) {
+    typed = TypedBounds::read(text);
+    for (const Aspect aspect : AllAspects)
+      s.functions[aspect].typed = typed[aspect];
+  }
+}
+
 template <typename Settings, typename Visitor>
 void visitDrawing(Settings &s, Visitor &v) {
   v.optional("colorRamp", s.colorRamp);
   v.optional("colorClasses", s.colorClasses);
   v.optional("classMethod", s.classMethod);
   v.optional("classBreaks", s.classBreaks);
-  v.optional("typedBounds", s.typedBounds);
+  visitTypedBounds(s, v);
   v.optional("showGrid", s.showGrid);
 }
 
@@ -137,8 +145,7 @@ void visitAll(Settings &s, Visitor &v) {
   v.store.beginGroup(QStringLiteral("color_options"));
   visitColorOptions(s, v);
   v.store.endGroup();
-  visitScales(s, v);
-  visitBounds(s, v);
+  visitView(s, v);
   v.store.beginGroup(QStringLiteral("drawing"));
   visitDrawing(s, v);
   v.store.endGroup();
@@ -212,23 +219,24 @@ struct Writer {
 
 } // namespace
 
-bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, QString *error) {
+bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, const Told &told) {
   if (!QFileInfo::exists(path)) {
-    NivraMsg::debug(QStringLiteral("### Plot Settings file ") + path + QStringLiteral(" not found!"));
-    return fail(error, tr("There is no file %1.").arg(path));
+    tell(told, Finding::Severity::Debug, QStringLiteral("### Plot Settings file ") + path + QStringLiteral(" not found!"));
+    return false;
   }
   QString reason;
   const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, LargestFile, &reason);
   if (!content) {
-    NivraMsg::logWarning(reason);
-    return fail(error, reason);
+    tell(told, Finding::Severity::Warning, reason);
+    return false;
   }
   const IniText text(*content);
   Reader reader{{text}};
   visitAll(settings, reader);
   if (!reader.refused.isEmpty())
-    NivraMsg::logWarning(tr("%1: values that are no text, number or colour are left out: %2")
-                             .arg(path, reader.refused.join(QStringLiteral(", "))));
+    tell(told, Finding::Severity::Warning,
+         tr("%1: values that are no text, number or colour are left out: %2")
+             .arg(path, reader.refused.join(QStringLiteral(", "))));
   return true;
 }
 

@@ -1,17 +1,20 @@
 #pragma once
 
-#include <QString>
+#include <base/finding.h>
+
+#include <QCoreApplication>
 
 #include <drawing/plotsettings.h>
 
 /// "plotsettings.ini", an INI file.
-namespace PlotSettingsFile {
+class PlotSettingsFile {
+  Q_DECLARE_TR_FUNCTIONS(PlotSettingsFile)
+public:
+  /// Reads the file over the settings key by key; values of a wrong type become 0, false or an invalid colour. False when
+  /// there is no such file or it cannot be read: then nothing changes.
+  /// \param told what is wrong with the file
+  static bool read(const QString &path, PlotSettings &settings, const Told &told = {});
 
-/// Reads the file over the settings key by key; values of a wrong type become 0, false or an invalid colour. A missing
-/// file is logged, changes nothing and yields false with the reason.
-bool read(const QString &path, PlotSettings &settings, QString *error = nullptr);
-
-/// Writes every key. The file is written whole or stays as it was; false with the reason when it could not be written.
-bool write(const QString &path, const PlotSettings &settings, QString *error = nullptr);
-
-} // namespace PlotSettingsFile
+  /// Writes every key. The file is written whole or stays as it was; false with the reason when it could not be written.
+  static bool write(const QString &path, const PlotSettings &settings, QString *error = nullptr);
+};

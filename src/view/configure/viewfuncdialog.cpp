@@ -1,122 +1,63 @@
+#include "configure/colorbutton.h"
+#include "configure/functionspage.h"
 #include "configure/labeltableeditor.h"
+#include "configure/settingfields.h"
 #include "interaction/plotzoom.h"
 #include "ui_viewfuncdialog.h"
 
 #include <base/nivramsg.h>
-#include <model/displayformat.h>
 #include <view/netplot.h>
 #include <view/viewfuncdialog.h>
 
-#include <QColorDialog>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QScrollBar>
+#include <QTabBar>
+#include <qwt_plot.h>
 
+#include <algorithm>
+#include <array>
 #include <drawing/colormap.h>
-#include <drawing/drawfunctions.h>
-#include <drawing/drawrange.h>
 
 namespace {
 
-using S = PlotSettings;
-
-struct FunctionFields {
-  const char *key; ///< in the file, and of what was typed
-  QString S::*function;
-  double S::*minimum;
-  double S::*maximum;
-  bool S::*absolute;
-  bool S::*logarithmic;
-};
-
-// In the order of viewFuncDialog::Row.
-const std::array<FunctionFields, 4> Functions{{
-    {"colorFunc", &S::colorFunc, &S::minVal_edgeColor, &S::maxVal_edgeColor, &S::absColor, &S::logScaleColor},
-    {"widthFunc", &S::widthFunc, &S::minVal_Width, &S::maxVal_Width, &S::absWidth, &S::logScaleWidth},
-    {"nodeColorFunc", &S::nodeColorFunc, &S::minVal_nodeColor, &S::maxVal_nodeColor, &S::absNodeColor,
-     &S::logScaleNodeColor},
-    {"nodeSizeFunc", &S::nodeSizeFunc, &S::minVal_nodeSize, &S::maxVal_nodeSize, &S::absNodeSize, &S::logScaleNodeSize},
-}};
-
 enum Viewport { IndependentAxes, OriginalRatio, AspectRatio };
-enum ScalePlace { NotShown, AtTheTop, OnTheRight };
-constexpr int TopAxis = 3;
-constexpr int RightAxis = 1;
-
-void choose(QComboBox &box, const QString &data) {
-  const int place = box.findData(data);
-  box.setCurrentIndex(place < 0 ? 0 : place);
-}
-
-/// Takes over what was typed: a field shows fewer digits, and has narrower limits, than the setting behind it may have.
-void takeTouched(const S &shown, const S &typed, S &settings) {
-  const auto take = [&](auto... fields) {
-    const auto takeOne = [&](auto field) {
-      if (typed.*field != shown.*field)
-        settings.*field = typed.*field;
-    };
-    (takeOne(fields), ...);
-  };
-  for (const FunctionFields &f : Functions)
-    take(f.function, f.minimum, f.maximum, f.absolute, f.logarithmic);
-  take(&S::typedBounds, &S::colorRamp, &S::firstColor, &S::lastColor, &S::saturation, &S::lightness, &S::logFactor);
-  take(&S::colorClasses, &S::classBreaks, &S::colorScalePos, &S::legendPos, &S::label_mode, &S::alphaSubnet);
-  take(&S::edgeConst, &S::edgeMag, &S::nodeMag, &S::symMag, &S::arrowMag, &S::labelMag, &S::labelMargin);
-  take(&S::fixAxesRatio, &S::zoomFact, &S::showXYaxes, &S::showGrid, &S::edgeShowFlow, &S::layerProp);
-  take(&S::bgrColor, &S::edgeLabelsColor, &S::nodeLabelsColor, &S::edgeColorInactive, &S::edgeColorNoFlow,
-       &S::gridMajorColor, &S::gridMinorColor);
-  if (!typed.classMethod.isEmpty()) // without classes the method stays for the next time
-    take(&S::classMethod);
-}
+/// Where the colour scale is, in the order of the choices, as the numbers of the axes.
+constexpr std::array<int, 3> ScaleAxes{0, QwtPlot::xTop, QwtPlot::yRight};
 
 } // namespace
 
 viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
     : QWidget(parent)
     , m_plot(plot)
-    , m_ui(std::make_unique<Ui::viewFuncDialog>()) {
+    , m_ui(std::make_unique<Ui::viewFuncDialog>())
+    , m_fields(std::make_unique<SettingFields>()) {
   m_ui->setupUi(this);
-  const QStringList titles{tr("Edge colour"), tr("Edge width"), tr("Node colour"), tr("Node size")};
-  for (int i = 0; i < Rows; ++i) {
-    const QString tip = i == EdgeWidth || i == NodeSize ? tr("if checked:  absolute values used for width")
-                                                        : tr("if checked: absolute values are used for color");
-    auto *row = new FunctionRow(
-        titles.at(i), tip, [this](const QString &function) { return unitOf(function); }, this);
-    m_rows[static_cast<std::size_t>(i)] = row;
-    m_ui->functionsBox->insertWidget(i, row);
-  }
+  m_functions = new FunctionsPage(plot.update(), this);
+  m_ui->functionsBox->insertWidget(0, m_functions);
   m_labels = new LabelTableEditor(*m_ui->labelTable);
   fillChoices();
-  setUpColors();
-  offerFunctions();
+  bindScale();
+  bindSizes();
+  bindColors();
+  m_functions->offerFunctions();
   refresh();
+  limitWidth();
 }
 
 viewFuncDialog::~viewFuncDialog() = default;
 
-/// The names that every network may have, and behind them the properties of this one.
-void viewFuncDialog::offerFunctions() {
-  const NetData *net = m_plot.update().netData();
-  DrawFunction::OfNetwork own;
-  if (net != nullptr)
-    own = DrawFunction::ofNetwork(*net);
-  for (int i = 0; i < Rows; ++i) {
-    QStringList functions = DrawFunction::fixedNames();
-    if (i == NodeSize)
-      functions.prepend(PlotSettings::fixedSize());
-    QHash<QString, QString> described;
-    for (const QString &property : i == EdgeColor || i == EdgeWidth ? own.ofEdges : own.ofNodes) {
-      functions.append(property);
-      const QString title = net == nullptr ? property : DrawFunction::find(property, *net).title;
-      if (title != property)
-        described.insert(property, title);
-    }
-    m_rows[static_cast<std::size_t>(i)]->setChoices(functions, described);
-  }
+/// Neither the tabs nor the pages, which could be scrolled, are cut by a narrow dock.
+void viewFuncDialog::limitWidth() {
+  constexpr int TabFrame = 8; // px
+  m_ui->tabs->setMinimumWidth(m_ui->tabs->tabBar()->sizeHint().width() + TabFrame);
+  for (QScrollArea *page : m_ui->tabs->findChildren<QScrollArea *>())
+    page->setMinimumWidth(page->widget()->minimumSizeHint().width() + page->verticalScrollBar()->sizeHint().width());
 }
 
 void viewFuncDialog::showEvent(QShowEvent *event) {
-  offerFunctions(); // formulas may have computed more since
+  m_functions->offerFunctions(); // formulas may have computed more since
   offerSavedSettings();
   QWidget::showEvent(event);
 }
@@ -139,32 +80,82 @@ void viewFuncDialog::fillChoices() {
   m_ui->viewport->addItems({tr("independent axes"), tr("original ratio"), tr("aspect ratio")});
 }
 
-void viewFuncDialog::setUpColors() {
-  m_colors = {{m_ui->bgrColor, &S::bgrColor},
-              {m_ui->edgeLabelsColor, &S::edgeLabelsColor},
-              {m_ui->nodeLabelsColor, &S::nodeLabelsColor},
-              {m_ui->edgeColorInactive, &S::edgeColorInactive},
-              {m_ui->edgeColorNoFlow, &S::edgeColorNoFlow},
-              {m_ui->gridMajorColor, &S::gridMajorColor},
-              {m_ui->gridMinorColor, &S::gridMinorColor}};
-  for (ColorButton &color : m_colors) { // which stays where it is
-    connect(color.button, &QPushButton::clicked, this, [this, &color] {
-      const QColor chosen = QColorDialog::getColor(color.chosen, this);
-      if (!chosen.isValid())
-        return;
-      color.show(chosen);
-      if (color.button == m_ui->gridMajorColor || color.button == m_ui->gridMinorColor)
-        m_ui->showGrid->setChecked(true); // nobody chooses a colour for what is not to be seen
-    });
-  }
+void viewFuncDialog::bindScale() {
+  using S = PlotSettings;
+  Ui::viewFuncDialog *ui = m_ui.get();
+  m_fields->bind(*ui->colorRamp, &S::colorRamp);
+  m_fields->bind(*ui->firstColor, &S::firstColor);
+  m_fields->bind(*ui->lastColor, &S::lastColor);
+  m_fields->bind(*ui->saturation, &S::saturation);
+  m_fields->bind(*ui->lightness, &S::lightness);
+  m_fields->bind(*ui->logFactor, &S::logFactor);
+  m_fields->bind(*ui->classBreaks, &S::classBreaks);
+  m_fields->bind<QString>(
+      &S::classMethod,
+      [ui](const S &s) {
+        ui->classMethod->setCurrentIndex(
+            std::max(0, ui->classMethod->findData(s.colorClasses > 1 ? s.classMethod : QString())));
+      },
+      [ui] {
+        const QString method = ui->classMethod->currentData().toString();
+        return method.isEmpty() ? std::nullopt : std::make_optional(method); // without classes it stays for the next time
+      });
+  m_fields->bind<int>(
+      &S::colorClasses,
+      [ui](const S &s) {
+        constexpr int FirstOffer = 5;
+        ui->colorClasses->setValue(s.colorClasses > 1 ? s.colorClasses : FirstOffer);
+      },
+      [ui] { return ui->classMethod->currentData().toString().isEmpty() ? 0 : ui->colorClasses->value(); });
+  m_fields->bind<int>(
+      &S::colorScalePos,
+      [ui](const S &s) {
+        const auto axis = std::find(ScaleAxes.begin(), ScaleAxes.end(), s.colorScalePos);
+        ui->colorScalePos->setCurrentIndex(axis == ScaleAxes.end() ? 0 : static_cast<int>(axis - ScaleAxes.begin()));
+      },
+      [ui] { return ScaleAxes.at(static_cast<std::size_t>(ui->colorScalePos->currentIndex())); });
+  m_fields->bind<int>(
+      &S::legendPos,
+      [ui](const S &s) {
+        const bool isCorner = s.legendPos > 0 && s.legendPos < ui->legendPos->count();
+        ui->legendPos->setCurrentIndex(isCorner ? s.legendPos : 0);
+      },
+      [ui] { return ui->legendPos->currentIndex(); });
 }
 
-void viewFuncDialog::ColorButton::show(const QColor &shown) {
-  chosen = shown;
-  QPixmap swatch(16, 16);
-  swatch.fill(shown.isValid() ? shown : QColor(Qt::transparent));
-  button->setText(shown.isValid() ? shown.name() : QString());
-  button->setIcon(swatch);
+void viewFuncDialog::bindSizes() {
+  using S = PlotSettings;
+  Ui::viewFuncDialog *ui = m_ui.get();
+  m_fields->bind(*ui->edgeConst, &S::edgeConst);
+  m_fields->bind(*ui->edgeMag, &S::edgeMag);
+  m_fields->bind(*ui->nodeMag, &S::nodeMag);
+  m_fields->bind(*ui->symMag, &S::symMag);
+  m_fields->bind(*ui->arrowMag, &S::arrowMag);
+  m_fields->bind(*ui->labelMag, &S::labelMag);
+  m_fields->bind(*ui->labelMargin, &S::labelMargin);
+  m_fields->bind(*ui->label_mode, &S::label_mode);
+  m_fields->bind(*ui->alphaSubnet, &S::alphaSubnet);
+  m_fields->bind(*ui->zoomFact, &S::zoomFact);
+  m_fields->bind(*ui->showXYaxes, &S::showXYaxes);
+  m_fields->bind(*ui->edgeShowFlow, &S::edgeShowFlow);
+  m_fields->bind(*ui->layerProp, &S::layerProp);
+  m_fields->bind<bool>(
+      &S::fixAxesRatio, [ui](const S &s) { ui->viewport->setCurrentIndex(s.fixAxesRatio ? AspectRatio : IndependentAxes); },
+      [ui] { return ui->viewport->currentIndex() != IndependentAxes; });
+}
+
+void viewFuncDialog::bindColors() {
+  using S = PlotSettings;
+  m_fields->bind(*m_ui->bgrColor, &S::bgrColor);
+  m_fields->bind(*m_ui->edgeLabelsColor, &S::edgeLabelsColor);
+  m_fields->bind(*m_ui->nodeLabelsColor, &S::nodeLabelsColor);
+  m_fields->bind(*m_ui->edgeColorInactive, &S::edgeColorInactive);
+  m_fields->bind(*m_ui->edgeColorNoFlow, &S::edgeColorNoFlow);
+  m_fields->bind(*m_ui->gridMajorColor, &S::gridMajorColor);
+  m_fields->bind(*m_ui->gridMinorColor, &S::gridMinorColor);
+  m_fields->bind(*m_ui->showGrid, &S::showGrid);
+  for (const ColorButton *ofGrid : {m_ui->gridMajorColor, m_ui->gridMinorColor}) // nobody chooses a colour of what is hidden
+    connect(ofGrid, &ColorButton::colorChosen, this, [this] { m_ui->showGrid->setChecked(true); });
 }
 
 void viewFuncDialog::setFiles(const QString &labelTable, const QString &plotSettings) {
@@ -178,181 +169,25 @@ void viewFuncDialog::offerSavedSettings() {
 }
 
 void viewFuncDialog::refresh() {
-  showForm(m_plot.settings());
+  m_functions->showFunctions(m_plot.settings());
+  m_fields->show(m_plot.settings());
   m_labels->setTable(m_plot.update().labelTable());
   offerSavedSettings();
 }
 
-FunctionRow::Unit viewFuncDialog::unitOf(const QString &function) const {
-  const NetData *net = m_plot.update().netData();
-  if (net == nullptr)
-    return {};
-  const DrawFunction found = DrawFunction::find(function, *net);
-  return {found.unit, found.toDisplay};
-}
-
-/// Where the values of the data lie, and whether any of them lies between the bounds.
-QString viewFuncDialog::noteOn(const DrawValues::Column &values, double minimum, double maximum) {
-  if (!values.data.isValid())
-    return tr("No element has a value.");
-  const Units::Linear &toDisplay = values.function.toDisplay;
-  QString unit;
-  if (!values.function.unit.isEmpty())
-    unit = QLatin1Char(' ') + Units::written(values.function.unit);
-  QString reach = tr("The data reach from %1 to %2%3.")
-                      .arg(DisplayFormat::number(toDisplay(values.data.minValue())),
-                           DisplayFormat::number(toDisplay(values.data.maxValue())), unit);
-  const bool hasMinimum = minimum != PlotSettings::OpenMinimum;
-  const bool hasMaximum = maximum != PlotSettings::OpenMaximum;
-  if (hasMinimum && minimum > values.data.maxValue())
-    return tr("The minimum lies above all values.") + QLatin1Char(' ') + reach;
-  if (hasMaximum && maximum < values.data.minValue())
-    return tr("The maximum lies below all values.") + QLatin1Char(' ') + reach;
-  return reach;
-}
-
-void viewFuncDialog::showNotes(const PlotSettings &settings) {
-  const DrawValues &values = m_plot.update().values();
-  const std::array<const DrawValues::Column *, Rows> columns{&values.edgeColor(), &values.edgeWidth(), &values.nodeColor(),
-                                                             &values.nodeSize()};
-  for (std::size_t i = 0; i < Functions.size(); ++i) {
-    const FunctionFields &f = Functions[i];
-    const bool isShown = m_plot.update().netData() != nullptr && settings.*f.function != PlotSettings::fixedSize();
-    m_rows[i]->setNote(isShown ? noteOn(*columns[i], settings.*f.minimum, settings.*f.maximum) : QString());
-  }
-}
-
-void viewFuncDialog::showForm(const PlotSettings &s) {
-  TypedBounds::OfSettings typed = TypedBounds::read(s.typedBounds);
-  for (std::size_t i = 0; i < Functions.size(); ++i) {
-    const FunctionFields &f = Functions[i];
-    m_rows[i]->setValues({s.*f.function, s.*f.minimum, s.*f.maximum, s.*f.absolute, s.*f.logarithmic},
-                         typed[QString::fromLatin1(f.key)]);
-  }
-  showNotes(s);
-  choose(*m_ui->colorRamp, s.colorRamp);
-  m_ui->firstColor->setValue(s.firstColor);
-  m_ui->lastColor->setValue(s.lastColor);
-  m_ui->saturation->setValue(s.saturation);
-  m_ui->lightness->setValue(s.lightness);
-  m_ui->logFactor->setValue(s.logFactor);
-  choose(*m_ui->classMethod, s.colorClasses > 1 ? s.classMethod : QString());
-  m_ui->colorClasses->setValue(s.colorClasses > 1 ? s.colorClasses : 5);
-  m_ui->classBreaks->setText(s.classBreaks);
-  m_ui->colorScalePos->setCurrentIndex(s.colorScalePos == TopAxis     ? AtTheTop
-                                       : s.colorScalePos == RightAxis ? OnTheRight
-                                                                      : NotShown);
-  m_ui->legendPos->setCurrentIndex(s.legendPos > 0 && s.legendPos < m_ui->legendPos->count() ? s.legendPos : 0);
-  m_ui->edgeConst->setValue(s.edgeConst);
-  m_ui->edgeMag->setValue(s.edgeMag);
-  m_ui->nodeMag->setValue(s.nodeMag);
-  m_ui->symMag->setValue(s.symMag);
-  m_ui->arrowMag->setValue(s.arrowMag);
-  m_ui->labelMag->setValue(s.labelMag);
-  m_ui->labelMargin->setValue(s.labelMargin);
-  choose(*m_ui->label_mode, s.label_mode);
-  m_ui->alphaSubnet->setValue(s.alphaSubnet);
-  m_ui->viewport->setCurrentIndex(s.fixAxesRatio ? AspectRatio : IndependentAxes);
-  m_ui->zoomFact->setValue(s.zoomFact);
-  m_ui->showXYaxes->setChecked(s.showXYaxes);
-  m_ui->showGrid->setChecked(s.showGrid);
-  m_ui->edgeShowFlow->setText(s.edgeShowFlow);
-  m_ui->layerProp->setText(s.layerProp);
-  for (ColorButton &color : m_colors)
-    color.show(s.*color.color);
-  m_shown = form();
-}
-
-void viewFuncDialog::readFunctions(PlotSettings &form) const {
-  TypedBounds::OfSettings typed;
-  for (std::size_t i = 0; i < Functions.size(); ++i) {
-    const FunctionFields &f = Functions[i];
-    const FunctionRow::Values values = m_rows[i]->values();
-    form.*f.function = values.function;
-    form.*f.minimum = values.minimum;
-    form.*f.maximum = values.maximum;
-    form.*f.absolute = values.absolute;
-    form.*f.logarithmic = values.logarithmic;
-    if (const TypedBounds::OfFunctions ofRow = m_rows[i]->typedBounds(); !ofRow.isEmpty())
-      typed[QString::fromLatin1(f.key)] = ofRow;
-  }
-  form.typedBounds = TypedBounds::written(typed);
-}
-
-void viewFuncDialog::readSizes(PlotSettings &form) const {
-  form.edgeConst = m_ui->edgeConst->value();
-  form.edgeMag = m_ui->edgeMag->value();
-  form.nodeMag = m_ui->nodeMag->value();
-  form.symMag = m_ui->symMag->value();
-  form.arrowMag = m_ui->arrowMag->value();
-  form.labelMag = m_ui->labelMag->value();
-  form.labelMargin = m_ui->labelMargin->value();
-}
-
-/// What the fields say now.
-PlotSettings viewFuncDialog::form() const {
-  PlotSettings form;
-  readFunctions(form);
-  readSizes(form);
-  form.colorRamp = m_ui->colorRamp->currentData().toString();
-  form.firstColor = m_ui->firstColor->value();
-  form.lastColor = m_ui->lastColor->value();
-  form.saturation = m_ui->saturation->value();
-  form.lightness = m_ui->lightness->value();
-  form.logFactor = m_ui->logFactor->value();
-  form.classMethod = m_ui->classMethod->currentData().toString();
-  form.colorClasses = form.classMethod.isEmpty() ? 0 : m_ui->colorClasses->value();
-  form.classBreaks = m_ui->classBreaks->text().trimmed();
-  constexpr std::array<int, 3> Axes{0, TopAxis, RightAxis};
-  form.colorScalePos = Axes[static_cast<std::size_t>(m_ui->colorScalePos->currentIndex())];
-  form.legendPos = m_ui->legendPos->currentIndex();
-  form.label_mode = m_ui->label_mode->currentData().toString();
-  form.alphaSubnet = m_ui->alphaSubnet->value();
-  form.fixAxesRatio = m_ui->viewport->currentIndex() != IndependentAxes;
-  form.zoomFact = m_ui->zoomFact->value();
-  form.showXYaxes = m_ui->showXYaxes->isChecked();
-  form.showGrid = m_ui->showGrid->isChecked();
-  form.edgeShowFlow = m_ui->edgeShowFlow->text().trimmed();
-  form.layerProp = m_ui->layerProp->text().trimmed();
-  for (const ColorButton &color : m_colors)
-    form.*color.color = color.chosen;
-  return form;
-}
-
-/// Asks what to do about bounds that make no range. False: nothing is to be applied.
-bool viewFuncDialog::checkBounds(PlotSettings &form) const {
-  for (std::size_t i = 0; i < Functions.size(); ++i) {
-    if (const QString fault = m_rows[i]->fault(); !fault.isEmpty()) {
-      NivraMsg::message(NivraMsg::Kind::Warning, fault);
-      return false;
-    }
-    double &minimum = form.*Functions[i].minimum;
-    double &maximum = form.*Functions[i].maximum;
-    const DrawRange::State state = DrawRange::check(minimum, maximum);
-    if (state == DrawRange::State::Sound)
-      continue;
-    const QString question =
-        tr("You specified an invalid range (min>max or difference too tiny)!") +
-        (state == DrawRange::State::Inverted ? tr("\nProceed with a default/corrected scala? (No-answer will skip action)?")
-                                             : tr("\nProceed with a default tiny scala? (No-answer will skip action)?"));
-    if (NivraMsg::message(NivraMsg::Kind::Question, question) != NivraMsg::Answer::Yes)
-      return false;
-    DrawRange::correct(minimum, maximum);
-  }
-  return true;
-}
-
 bool viewFuncDialog::apply() {
   const PlotSettings before = m_plot.settings();
-  PlotSettings typed = form();
-  if (!checkBounds(typed))
-    return false;
   PlotSettings settings = before;
-  takeTouched(m_shown, typed, settings);
-  if (settings.logScaleColor != before.logScaleColor)
-    NivraMsg::log(QStringLiteral("logScaleColor set to %1").arg(int(settings.logScaleColor)));
-  if (settings.logScaleNodeColor != before.logScaleNodeColor)
-    NivraMsg::log(QStringLiteral("logScaleNodeColor set to %1").arg(int(settings.logScaleNodeColor)));
+  if (!m_functions->readTouched(settings))
+    return false;
+  m_fields->readTouched(settings);
+  for (const auto &[aspect, key] :
+       {std::pair(Aspect::EdgeColor, "logScaleColor"), {Aspect::NodeColor, "logScaleNodeColor"}}) {
+    const bool isLogarithmic = settings.functions[aspect].isLogarithmic;
+    if (isLogarithmic != before.functions[aspect].isLogarithmic)
+      tell(m_plot.told(), Finding::Severity::Information,
+           QStringLiteral("%1 set to %2").arg(QLatin1String(key)).arg(int(isLogarithmic)));
+  }
   m_plot.setSettings(settings);
   draw(before, m_labels->table());
   return true;
@@ -385,6 +220,13 @@ void viewFuncDialog::on_applyAndSave_clicked() {
   offerSavedSettings();
 }
 
+bool viewFuncDialog::readLabels(const QString &path, FileAccess::Source source, LabelTable &labels) const {
+  const LabelTableFile::Reading reading = LabelTableFile::read(path, labels, source);
+  if (m_plot.told())
+    std::for_each(reading.findings.begin(), reading.findings.end(), m_plot.told());
+  return reading.isOpened;
+}
+
 /// As when the case was opened: what the files do not say is as in the beginning.
 void viewFuncDialog::on_savedSettings_clicked() {
   const PlotSettings before = m_plot.settings();
@@ -392,7 +234,7 @@ void viewFuncDialog::on_savedSettings_clicked() {
   if (!m_plot.readPlotSettings(m_plotSettingsPath))
     m_plot.setSettings(before);
   LabelTable labels;
-  if (!LabelTableFile::read(m_labelTablePath, labels))
+  if (!readLabels(m_labelTablePath, FileAccess::Source::Workspace, labels))
     labels = m_plot.update().labelTable();
   draw(before, labels);
 }
@@ -403,18 +245,17 @@ void viewFuncDialog::on_load_clicked() {
   if (path.isEmpty())
     return;
   LabelTable table;
-  if (LabelTableFile::read(path, table, FileAccess::Source::Trusted))
+  if (readLabels(path, FileAccess::Source::Trusted, table))
     m_labels->setTable(table);
 }
 
 void viewFuncDialog::resetMinMaxColorFuncValues() {
   QElapsedTimer timer;
   timer.start();
-  for (FunctionRow *row : m_rows)
-    row->forgetBounds();
+  m_functions->forgetBounds();
   apply();
-  NivraMsg::log(
-      QStringLiteral("resetMinMaxColorFuncValues finished in %1 sec.").arg(static_cast<double>(timer.elapsed()) * 1e-3));
+  tell(m_plot.told(), Finding::Severity::Information,
+       QStringLiteral("resetMinMaxColorFuncValues finished in %1 sec.").arg(static_cast<double>(timer.elapsed()) * 1e-3));
 }
 
 void viewFuncDialog::on_addTemplate_clicked() {

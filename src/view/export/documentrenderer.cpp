@@ -24,7 +24,7 @@ void drawBar(QPainter &painter, const QwtScaleWidget &scale, const QRectF &bar) 
   QRgb last = 0;
   for (int step = 0; step < Steps; ++step) {
     const double share = static_cast<double>(step) / Steps;
-    const double at = map.p1() + (map.p2() - map.p1()) * share;
+    const double position = map.p1() + (map.p2() - map.p1()) * share;
     const double middle = map.invTransform(map.p1() + (map.p2() - map.p1()) * (share + 0.5 / Steps));
     const QRgb color = scale.colorMap()->rgb(interval, middle);
     if (step > 0 && color == last)
@@ -32,9 +32,9 @@ void drawBar(QPainter &painter, const QwtScaleWidget &scale, const QRectF &bar) 
     last = color;
     QRectF rest = bar;
     if (isUpright)
-      rest.setBottom(at);
+      rest.setBottom(position);
     else
-      rest.setLeft(at);
+      rest.setLeft(position);
     painter.setBrush(QColor::fromRgb(color));
     painter.drawRect(rest);
   }

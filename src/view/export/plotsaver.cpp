@@ -3,21 +3,12 @@
 #include <base/nivramsg.h>
 #include <view/netplot.h>
 
-#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QSpinBox>
-
-namespace {
-
-QString tr(const char *text) {
-  return QCoreApplication::translate("PlotSaver", text);
-}
-
-} // namespace
 
 void PlotSaver::saveWithWidth() {
   QDialog dialog(&m_plot);

@@ -2,13 +2,14 @@
 
 #include <view/plotexport.h>
 
-#include <QString>
+#include <QCoreApplication>
 
 class NetPlot;
 class QWidget;
 
 /// Saving the drawing as a person does it: asks for width and file, warns of large files, says what went wrong.
 class PlotSaver {
+  Q_DECLARE_TR_FUNCTIONS(PlotSaver)
 public:
   static constexpr int LargestWidth = 20000; ///< px
 

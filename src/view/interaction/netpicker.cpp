@@ -1,7 +1,6 @@
 #include "canvas/qwtfastplot.h"
 #include "interaction/plotzoom.h"
 
-#include <base/nivramsg.h>
 #include <base/settings.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
@@ -151,7 +150,9 @@ QString NetPicker::toolTipFor(NetGeometry::Item item) const {
   const ElementType *type = ElementTypes::byCode(code);
   QString text =
       QStringLiteral("<b>%1</b> <i>%2</i>").arg(nameOf(item).toHtmlEscaped(), type == nullptr ? code : type->longName);
-  QStringList functions{m_plot.settings().colorFunc, m_plot.settings().widthFunc, m_plot.settings().nodeColorFunc};
+  QStringList functions;
+  for (const Aspect aspect : {Aspect::EdgeColor, Aspect::EdgeWidth, Aspect::NodeColor})
+    functions.append(m_plot.settings().functions[aspect].name);
   functions.removeDuplicates();
   for (const QString &function : functions) {
     const QString property = DrawFunction::propertyName(function);
@@ -261,7 +262,7 @@ bool NetPicker::end(bool ok) {
 }
 
 void NetPicker::pickRectangle(const QRectF &area) {
-  NivraMsg::debug(QStringLiteral("selection mode = %1").arg(static_cast<int>(m_mode)));
+  tell(m_plot.told(), Finding::Severity::Debug, QStringLiteral("selection mode = %1").arg(static_cast<int>(m_mode)));
   select(m_plot.update().elementsIn(area), m_mode == Mode::RectangleMore);
   m_plot.update().requestPixtest(0);
 }
@@ -277,7 +278,7 @@ void NetPicker::select(const std::vector<NetGeometry::Item> &items, bool more) {
 
 void NetPicker::selectAll() {
   static const PropertyKey name = PropertyKey::intern("name");
-  Selection all; // what has no place in the drawing too
+  Selection all; // also what has no coordinates to be drawn at
   for (const auto &[kind, collection] : m_net.typeMap()) {
     Selection::Names &names = namesOf(all, kind);
     names.reserve(static_cast<int>(collection->size()));
@@ -289,7 +290,7 @@ void NetPicker::selectAll() {
 }
 
 bool NetPicker::markElement(const QString &name) {
-  NivraMsg::debug(QStringLiteral("NetPicker::markElement: ") + name);
+  tell(m_plot.told(), Finding::Severity::Debug, QStringLiteral("NetPicker::markElement: ") + name);
   const std::optional<NetGeometry::Item> item = m_plot.update().geometry().find(m_net, name);
   if (!item)
     return false;
@@ -319,16 +320,16 @@ void NetPicker::showSelection() {
   std::vector<NetGeometry::Item> items;
   const Selection &selection = m_net.selection();
   items.reserve(static_cast<std::size_t>(selection.size()));
-  const auto take = [&](const Selection::Names &names, int kinds) {
+  const auto append = [&](const Selection::Names &names, int kinds) {
     for (const QString &name : names) {
       if (const std::optional<NetGeometry::Item> item = geometry.find(m_net, name, kinds))
         items.push_back(*item);
     }
   };
-  take(selection.nodes, NetData::Node);
-  take(selection.edges, NetData::Edge);
-  take(selection.subnets, NetData::AssembledSubnet);
-  take(selection.others, NetData::TextBox);
+  append(selection.nodes, NetData::Node);
+  append(selection.edges, NetData::Edge);
+  append(selection.subnets, NetData::AssembledSubnet);
+  append(selection.others, NetData::TextBox);
   m_plot.selection().setItems(std::move(items));
   m_plot.plot()->updateOverlay();
 }

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int MostEntries = 30; // a menu longer than the screen helps nobody
+constexpr int MaximumEntries = 30; // a menu longer than the screen helps nobody
 
 /// In a menu an ampersand would mark a key.
 QString menuText(QString text) {
@@ -32,12 +32,12 @@ QStringList sorted(const Selection::Names &names) {
 }
 
 /// The first names of what is selected, which may be a whole network: not all of it is sorted for a few entries.
-QStringList firstOf(const Selection &selection, int most) {
+QStringList firstOf(const Selection &selection, int count) {
   std::vector<QString> names;
   names.reserve(static_cast<std::size_t>(selection.size()));
   for (const Selection::Names *kind : {&selection.nodes, &selection.edges, &selection.subnets, &selection.others})
     names.insert(names.end(), kind->begin(), kind->end());
-  const auto end = names.begin() + std::min<std::ptrdiff_t>(most, static_cast<std::ptrdiff_t>(names.size()));
+  const auto end = names.begin() + std::min<std::ptrdiff_t>(count, static_cast<std::ptrdiff_t>(names.size()));
   std::partial_sort(names.begin(), end, names.end(),
                     [](const QString &a, const QString &b) { return QString::compare(a, b, Qt::CaseInsensitive) < 0; });
   return QStringList(names.begin(), end);
@@ -61,8 +61,8 @@ void addNote(QMenu &entries, const QString &text) {
 
 /// How many of so many names found no room.
 void addRest(QMenu &entries, int count) {
-  if (count > MostEntries)
-    addNote(entries, PlotMenu::tr("… and %1 more").arg(count - MostEntries));
+  if (count > MaximumEntries)
+    addNote(entries, PlotMenu::tr("… and %1 more").arg(count - MaximumEntries));
 }
 
 } // namespace
@@ -103,7 +103,7 @@ void PlotMenu::addCrowd(QMenu &contextMenu) {
   const NetGeometry &geometry = m_plot.update().geometry();
   int count = 0;
   for (const NetGeometry::Item item : items) {
-    if (++count > MostEntries)
+    if (++count > MaximumEntries)
       break;
     NetPicker *picker = &m_picker;
     QObject::connect(crowd->addAction(withType(*geometry.source(item))), &QAction::triggered, picker,
@@ -113,7 +113,7 @@ void PlotMenu::addCrowd(QMenu &contextMenu) {
 }
 
 void PlotMenu::addSelection(QMenu &contextMenu, const State &state) {
-  const QStringList names = firstOf(m_net.selection(), MostEntries);
+  const QStringList names = firstOf(m_net.selection(), MaximumEntries);
   QMenu *show = contextMenu.addMenu(tr("Show"));
   QMenu *info = contextMenu.addMenu(tr("Show Info"));
   QMenu *edit = contextMenu.addMenu(tr("Edit Properties of"));
@@ -131,9 +131,9 @@ void PlotMenu::addSelection(QMenu &contextMenu, const State &state) {
 }
 
 void PlotMenu::addCharacteristics(QMenu &contextMenu, const State &state) {
-  constexpr int Most = 10000; // whoever selects more is not after machines
+  constexpr int MaximumSelected = 10000; // whoever selects more is not after machines
   const Selection &selection = m_net.selection();
-  if (selection.nodes.size() + selection.edges.size() > Most)
+  if (selection.nodes.size() + selection.edges.size() > MaximumSelected)
     return;
   Selection::Names machines;
   for (const Selection::Names *kind : {&selection.nodes, &selection.edges}) {
@@ -143,7 +143,7 @@ void PlotMenu::addCharacteristics(QMenu &contextMenu, const State &state) {
     }
   }
   const QStringList names = sorted(machines);
-  if (names.isEmpty() || names.size() > MostEntries)
+  if (names.isEmpty() || names.size() > MaximumEntries)
     return;
   contextMenu
       .addAction(names.size() == 1 ? tr("Open Characteristics") : tr("Open Characteristics (%1)").arg(names.size()), this,
@@ -164,7 +164,7 @@ void PlotMenu::addMachinesHere(QMenu &contextMenu, const State &state) {
   for (const NetGeometry::Item item : m_picker.pressedItems()) {
     const element &source = *geometry.source(item);
     const QString name = source.value(QStringLiteral("name"));
-    if (!isMachine(name) || ++count > MostEntries)
+    if (!isMachine(name) || ++count > MaximumEntries)
       continue;
     if (machines == nullptr)
       machines = contextMenu.addMenu(tr("Open Characteristics of"));
@@ -192,11 +192,11 @@ void PlotMenu::addSubnet(QMenu &contextMenu, const State &state) {
   const QStringList subnets = sorted(m_net.selection().subnets);
   if (subnets.isEmpty())
     return;
-  NivraMsg::debug(QStringLiteral("sel has sub"));
+  tell(m_plot.told(), Finding::Severity::Debug, QStringLiteral("sel has sub"));
   QMenu *menu = contextMenu.addMenu(tr("Subnet"));
   if (subnets.size() == 1)
     return addSubnetEntries(*menu, subnets.first(), state);
-  for (const QString &name : subnets.mid(0, MostEntries))
+  for (const QString &name : subnets.mid(0, MaximumEntries))
     addSubnetEntries(*menu->addMenu(menuText(name)), name, state);
   addRest(*menu, subnets.size());
 }
@@ -249,7 +249,7 @@ void PlotMenu::addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, 
     add(tr("ALL active of") + QLatin1Char(' ') + plural, kind.active);
   }
   entries.addSeparator();
-  for (const QString &name : offer.names.mid(0, MostEntries))
+  for (const QString &name : offer.names.mid(0, MaximumEntries))
     add(name, {name});
   addRest(entries, offer.names.size());
 }
@@ -266,21 +266,23 @@ void PlotMenu::addView(QMenu &contextMenu) {
     contextMenu.addAction(tr("Show what lies far outside"), plot, &NetPlot::showStragglers);
 }
 
-void PlotMenu::addBookmarks(QMenu &contextMenu, const ViewBookmarks &bookmarks) {
+void PlotMenu::addBookmarks(QMenu &contextMenu, ViewBookmarks &bookmarks) {
   NetPlot *plot = &m_plot;
-  const std::vector<ViewBookmarks::Bookmark> known = bookmarks.all();
+  const std::vector<ViewBookmarks::Bookmark> &known = bookmarks.all();
   QMenu *menu = contextMenu.addMenu(tr("Bookmarks"));
+  if (!bookmarks.fault().isEmpty())
+    addNote(*menu, menuText(bookmarks.fault()));
   for (const ViewBookmarks::Bookmark &bookmark : known)
     menu->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->showArea(view); });
   if (!known.empty())
     menu->addSeparator();
   menu->addAction(tr("Bookmark this view …"), plot, [bookmarks, plot, count = known.size()] {
-    bool isTaken = false;
+    bool isAccepted = false;
     const QString name = QInputDialog::getText(plot, tr("Bookmark"), tr("Name of this view:"), QLineEdit::Normal,
-                                               tr("View %1").arg(count + 1), &isTaken)
+                                               tr("View %1").arg(count + 1), &isAccepted)
                              .trimmed();
     QString reason;
-    if (isTaken && !name.isEmpty() && !bookmarks.add({name, plot->visibleArea()}, &reason))
+    if (isAccepted && !name.isEmpty() && !bookmarks.add({name, plot->visibleArea()}, &reason))
       NivraMsg::message(NivraMsg::Kind::Warning, reason);
   });
   QMenu *forget = menu->addMenu(tr("Forget"));

@@ -21,7 +21,7 @@ public:
     bool hasSubnetWindows = false;
     bool hasConfiguration = false;
     bool showsSearchResults = false;
-    ViewBookmarks bookmarks;
+    ViewBookmarks &bookmarks; ///< of the case
   };
 
   PlotMenu(NetPlot &plot, NetPicker &picker, const NetData &net);
@@ -62,7 +62,7 @@ private:
   /// One by one and all of a kind; \param otherwise says that there is nothing
   void addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, const QString &otherwise);
   void addView(QMenu &contextMenu);
-  void addBookmarks(QMenu &contextMenu, const ViewBookmarks &bookmarks);
+  void addBookmarks(QMenu &contextMenu, ViewBookmarks &bookmarks);
   void addLabels(QMenu &contextMenu);
 
   NetPlot &m_plot;

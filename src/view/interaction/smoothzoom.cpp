@@ -43,8 +43,8 @@ void SmoothZoom::stop() {
 
 void SmoothZoom::step() {
   constexpr double StepsToDouble = 50.0;
-  constexpr double Smallest = 0.1; // however fast the wheel is turned back
-  const double factor = std::max(Smallest, m_pending / StepsToDouble + 1.0);
+  constexpr double SmallestFactor = 0.1; // however fast the wheel is turned back
+  const double factor = std::max(SmallestFactor, m_pending / StepsToDouble + 1.0);
   const QPointF anchor = m_anchor.value_or(m_zoom.cursor());
   if (factor > 1.0)
     m_zoom.zoomIn(anchor, factor);

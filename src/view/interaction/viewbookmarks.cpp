@@ -1,4 +1,3 @@
-#include <base/nivramsg.h>
 #include <base/wholefile.h>
 #include <view/viewbookmarks.h>
 
@@ -32,11 +31,11 @@ QByteArray lineOf(const ViewBookmarks::Bookmark &bookmark) {
 } // namespace
 
 std::optional<std::vector<ViewBookmarks::Line>> ViewBookmarks::read(QString *reason) const {
-  constexpr qint64 Largest = qint64(1) << 20;
+  constexpr qint64 LargestFile = qint64(1) << 20;
   std::vector<Line> lines;
   if (!QFileInfo::exists(m_path))
     return lines;
-  const auto content = FileAccess::readWhole(m_path, FileAccess::Source::Workspace, Largest, reason);
+  const auto content = FileAccess::readWhole(m_path, FileAccess::Source::Workspace, LargestFile, reason);
   if (!content)
     return std::nullopt;
   QList<QByteArray> texts = content->split('\n');
@@ -47,19 +46,22 @@ std::optional<std::vector<ViewBookmarks::Line>> ViewBookmarks::read(QString *rea
   return lines;
 }
 
-std::vector<ViewBookmarks::Bookmark> ViewBookmarks::all() const {
-  std::vector<Bookmark> bookmarks;
-  QString reason;
-  const std::optional<std::vector<Line>> lines = read(&reason);
-  if (!lines) {
-    NivraMsg::logWarning(reason);
-    return bookmarks;
-  }
+const std::vector<ViewBookmarks::Bookmark> &ViewBookmarks::all() {
+  const QFileInfo file(m_path);
+  const Stamp stamp{file.lastModified(), file.exists() ? file.size() : -1};
+  if (stamp == m_stamp)
+    return m_bookmarks;
+  m_stamp = stamp;
+  m_bookmarks.clear();
+  m_fault.clear();
+  const std::optional<std::vector<Line>> lines = read(&m_fault);
+  if (!lines)
+    return m_bookmarks;
   for (const Line &line : *lines) {
     if (line.bookmark)
-      bookmarks.push_back(*line.bookmark);
+      m_bookmarks.push_back(*line.bookmark);
   }
-  return bookmarks;
+  return m_bookmarks;
 }
 
 bool ViewBookmarks::add(const Bookmark &bookmark, QString *reason) const {

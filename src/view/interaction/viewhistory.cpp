@@ -18,25 +18,25 @@ void ViewHistory::clear() {
 }
 
 void ViewHistory::record(const QRectF &view) {
-  constexpr std::size_t Most = 200;
-  if (!m_views.empty() && isSame(m_views[m_at], view))
+  constexpr std::size_t MaximumViews = 200;
+  if (!m_views.empty() && isSame(m_views[m_index], view))
     return;
   if (!m_views.empty())
-    m_views.resize(m_at + 1);
+    m_views.resize(m_index + 1);
   m_views.push_back(view);
-  if (m_views.size() > Most)
+  if (m_views.size() > MaximumViews)
     m_views.erase(m_views.begin());
-  m_at = m_views.size() - 1;
+  m_index = m_views.size() - 1;
 }
 
 std::optional<QRectF> ViewHistory::back() {
   if (!canGoBack())
     return std::nullopt;
-  return m_views[--m_at];
+  return m_views[--m_index];
 }
 
 std::optional<QRectF> ViewHistory::forward() {
   if (!canGoForward())
     return std::nullopt;
-  return m_views[++m_at];
+  return m_views[++m_index];
 }

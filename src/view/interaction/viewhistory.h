@@ -13,10 +13,10 @@ public:
   void record(const QRectF &view);
   std::optional<QRectF> back();
   std::optional<QRectF> forward();
-  bool canGoBack() const { return m_at > 0; }
-  bool canGoForward() const { return m_at + 1 < m_views.size(); }
+  bool canGoBack() const { return m_index > 0; }
+  bool canGoForward() const { return m_index + 1 < m_views.size(); }
 
 private:
   std::vector<QRectF> m_views;
-  std::size_t m_at = 0;
+  std::size_t m_index = 0; ///< of the present view
 };

@@ -4,15 +4,6 @@
 #include <algorithm>
 #include <drawing/layergeometry.h>
 
-namespace {
-
-int cellsOf(double pixels, double cell) {
-  constexpr double MostCells = 4000.0;
-  return static_cast<int>(qBound(1.0, std::ceil(pixels / cell), MostCells));
-}
-
-} // namespace
-
 Projection::Projection(const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvas)
     : m_canvas(canvas)
     , m_x0(xMap.s1())
@@ -90,8 +81,8 @@ LaneWay::LaneWay(const QLineF &line, double offset)
 }
 
 double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize) {
-  constexpr double Gap = 2.0;
-  return (hasSymbol ? std::max(symbolSize, lineWidth) : lineWidth) + Gap;
+  constexpr double GapBetweenLines = 2.0; // px
+  return (hasSymbol ? std::max(symbolSize, lineWidth) : lineWidth) + GapBetweenLines;
 }
 
 double distanceToLine(const QPointF &point, const QLineF &line) {
@@ -126,79 +117,10 @@ bool isVectorTarget(const QPainter &painter) {
 }
 
 double pixelRatio(const QPainter &painter) {
-  constexpr double Smallest = 0.25;
-  constexpr double Largest = 16.0;
-  constexpr double Steps = 4.0; // a cache entry a quarter: enough to be sharp
+  constexpr double SmallestRatio = 0.25;
+  constexpr double LargestRatio = 16.0;
+  constexpr double StepsOfRatio = 4.0; // a cache entry a quarter: enough to be sharp
   const QTransform &transform = painter.deviceTransform();
   const double scale = std::hypot(transform.m11(), transform.m12());
-  return std::isfinite(scale) ? qBound(Smallest, std::ceil(scale * Steps) / Steps, Largest) : 1.0;
-}
-
-PixelGrid::PixelGrid(const QRectF &canvas, double cell)
-    : m_origin(canvas.topLeft())
-    , m_cell(std::max(cell, 1.0)) {
-  m_columns = cellsOf(canvas.width(), m_cell);
-  m_rows = cellsOf(canvas.height(), m_cell);
-  m_taken.resize(static_cast<std::size_t>(m_columns + 2) * static_cast<std::size_t>(m_rows + 2));
-}
-
-int PixelGrid::index(const QPointF &point) const {
-  const double column = std::floor((point.x() - m_origin.x()) / m_cell);
-  const double row = std::floor((point.y() - m_origin.y()) / m_cell);
-  if (!(column >= 0.0 && column < m_columns && row >= 0.0 && row < m_rows))
-    return -1;
-  return (static_cast<int>(row) + 1) * (m_columns + 2) + static_cast<int>(column) + 1;
-}
-
-bool PixelGrid::take(const QPointF &point) {
-  const int i = index(point);
-  if (i < 0 || m_taken[static_cast<std::size_t>(i)])
-    return false;
-  m_taken[static_cast<std::size_t>(i)] = true;
-  return true;
-}
-
-bool PixelGrid::takeArea(const QRectF &area) {
-  const auto cell = [this](double pixels, double origin, int cells) {
-    return static_cast<int>(qBound(0.0, std::floor((pixels - origin) / m_cell), cells - 1.0));
-  };
-  const int left = cell(area.left(), m_origin.x(), m_columns);
-  const int right = cell(area.right(), m_origin.x(), m_columns);
-  const int top = cell(area.top(), m_origin.y(), m_rows);
-  const int bottom = cell(area.bottom(), m_origin.y(), m_rows);
-  const auto forEachCell = [&](const auto &visit) {
-    for (int row = top; row <= bottom; ++row) {
-      for (int column = left; column <= right; ++column) {
-        const int i = (row + 1) * (m_columns + 2) + column + 1;
-        visit(static_cast<std::size_t>(i));
-      }
-    }
-  };
-  bool isFree = true;
-  forEachCell([&](std::size_t i) { isFree = isFree && !m_taken[i]; });
-  if (isFree)
-    forEachCell([&](std::size_t i) { m_taken[i] = true; });
-  return isFree;
-}
-
-ClusterGrid::ClusterGrid(const QRectF &canvas, double cell)
-    : m_origin(canvas.topLeft())
-    , m_cell(std::max(cell, 1.0))
-    , m_columns(cellsOf(canvas.width(), m_cell))
-    , m_rows(cellsOf(canvas.height(), m_cell))
-    , m_numbers(static_cast<std::size_t>(m_columns + 2) * static_cast<std::size_t>(m_rows + 2), -1) {}
-
-int ClusterGrid::claim(const QPointF &point, int number) {
-  const auto cell = [this](double pixels, int cells) {
-    return static_cast<int>(qBound(0.0, std::floor(pixels / m_cell), cells - 1.0)) + 1;
-  };
-  const int row = m_columns + 2;
-  const int i = cell(point.y() - m_origin.y(), m_rows) * row + cell(point.x() - m_origin.x(), m_columns);
-  for (const int around : {0, -row - 1, -row, -row + 1, -1, 1, row - 1, row, row + 1}) {
-    const int neighbour = i + around;
-    if (m_numbers[static_cast<std::size_t>(neighbour)] >= 0)
-      return m_numbers[static_cast<std::size_t>(neighbour)];
-  }
-  m_numbers[static_cast<std::size_t>(i)] = number;
-  return number;
+  return std::isfinite(scale) ? qBound(SmallestRatio, std::ceil(scale * StepsOfRatio) / StepsOfRatio, LargestRatio) : 1.0;
 }

@@ -1,10 +1,11 @@
 #include <algorithm>
 #include <cstdint>
+#include <drawing/cellaxis.h>
 #include <drawing/spatialindex.h>
 
 namespace {
 
-/// Spreads the lower 16 bits to the even places.
+/// Moves bit i of the lower 16 bits to bit 2 i.
 std::uint32_t spread(std::uint32_t x) {
   x = (x | (x << 8)) & 0x00ff00ffU;
   x = (x | (x << 4)) & 0x0f0f0f0fU;
@@ -12,14 +13,18 @@ std::uint32_t spread(std::uint32_t x) {
   return (x | (x << 1)) & 0x55555555U;
 }
 
-/// Place on the Z-order curve through the bounds.
-std::uint32_t curveKey(const SpatialIndex::Box &box, const SpatialIndex::Box &bounds) {
-  constexpr double Cells = 65535.0;
-  const auto cell = [](double lo, double hi, double from, double to) {
-    const double width = to - from;
-    return width > 0.0 ? static_cast<std::uint32_t>(std::clamp((lo * 0.5 + hi * 0.5 - from) / width, 0.0, 1.0) * Cells) : 0U;
+/// So that the last cell begins where the bounds end.
+CellAxis curveCells(double from, double to) {
+  constexpr int Cells = 1 << 16;
+  return {from, (to - from) / (Cells - 1), Cells};
+}
+
+/// How far along the Z-order curve through the cells the middle of the box lies.
+std::uint32_t curveKey(const SpatialIndex::Box &box, const CellAxis &columns, const CellAxis &rows) {
+  const auto cell = [](const CellAxis &axis, double low, double high) {
+    return static_cast<std::uint32_t>(axis.nearest(low * 0.5 + high * 0.5));
   };
-  return spread(cell(box.x1, box.x2, bounds.x1, bounds.x2)) | (spread(cell(box.y1, box.y2, bounds.y1, bounds.y2)) << 1);
+  return spread(cell(columns, box.x1, box.x2)) | (spread(cell(rows, box.y1, box.y2)) << 1);
 }
 
 } // namespace
@@ -40,10 +45,12 @@ std::vector<int> SpatialIndex::build(const std::vector<Box> &boxes) {
   for (const Box &box : boxes)
     m_bounds.unite(box);
 
+  const CellAxis columns = curveCells(m_bounds.x1, m_bounds.x2);
+  const CellAxis rows = curveCells(m_bounds.y1, m_bounds.y2);
   constexpr int KeyShift = 32;
   std::vector<std::uint64_t> keys(boxes.size()); // curve key above, index below: one plain sort
   for (std::size_t i = 0; i < boxes.size(); ++i)
-    keys[i] = (static_cast<std::uint64_t>(curveKey(boxes[i], m_bounds)) << KeyShift) | i;
+    keys[i] = (static_cast<std::uint64_t>(curveKey(boxes[i], columns, rows)) << KeyShift) | i;
   std::sort(keys.begin(), keys.end());
 
   std::vector<int> order(boxes.size());

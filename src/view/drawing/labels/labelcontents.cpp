@@ -1,4 +1,3 @@
-#include <base/nivramsg.h>
 #include <model/displayformat.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
@@ -31,7 +30,7 @@ struct StyleKeys {
   }
 };
 
-void takeColor(const QString &name, const QString &alpha, QColor &color) {
+void readColor(const QString &name, const QString &alpha, QColor &color) {
   constexpr int Opaque = 255;
   const QColor named(name.trimmed());
   if (named.isValid()) {
@@ -45,15 +44,15 @@ void takeColor(const QString &name, const QString &alpha, QColor &color) {
     color.setAlpha(qBound(0, number, Opaque));
 }
 
-void takeFont(const QString &text, QFont &font) {
-  constexpr int Largest = 200; // px: letters beyond it are no label, and cost memory
+void readFont(const QString &text, QFont &font) {
+  constexpr int LargestFont = 200; // px: letters beyond it are no label, and cost memory
   QFont named;
   if (text.trimmed().isEmpty() || !named.fromString(text.trimmed()))
     return;
-  if (named.pointSizeF() > Largest)
-    named.setPointSize(Largest);
+  if (named.pointSizeF() > LargestFont)
+    named.setPointSize(LargestFont);
   font = screenFont(named);
-  font.setPixelSize(std::min(font.pixelSize(), Largest));
+  font.setPixelSize(std::min(font.pixelSize(), LargestFont));
 }
 
 /// The name of the property behind an "@" at the position, as long as it goes; it does not end with a dot.
@@ -66,8 +65,9 @@ QString propertyAt(const QString &text, int position) {
 
 } // namespace
 
-LabelContents::LabelContents(const LabelTable &table, const PlotSettings &settings, const NetData &net)
+LabelContents::LabelContents(const LabelTable &table, const PlotSettings &settings, const NetData &net, Told told)
     : m_net(net)
+    , m_told(std::move(told))
     , m_hasOwnStyles(StyleKeys().areUsed()) {
   if (settings.label_mode == QLatin1String("name only"))
     m_mode = Mode::Name;
@@ -100,10 +100,10 @@ LabelContents::Type LabelContents::typeOf(const LabelRow &row) const {
     type.lines.push_back(lineOf(line, row[LabelRow::Short]));
   const ElementType *known = ElementTypes::byCode(row[LabelRow::Short]);
   type.style = styleOf(known == nullptr ? NetData::Node : known->kind);
-  takeFont(row[LabelRow::Font], type.style.font);
-  takeColor(row[LabelRow::Color], QString(), type.style.text);
-  takeColor(row[LabelRow::BgrColor], row[LabelRow::BgrAlpha], type.style.background);
-  takeColor(row[LabelRow::BordColor], row[LabelRow::BordAlpha], type.style.border);
+  readFont(row[LabelRow::Font], type.style.font);
+  readColor(row[LabelRow::Color], QString(), type.style.text);
+  readColor(row[LabelRow::BgrColor], row[LabelRow::BgrAlpha], type.style.background);
+  readColor(row[LabelRow::BordColor], row[LabelRow::BordAlpha], type.style.border);
   return type;
 }
 
@@ -123,7 +123,8 @@ std::shared_ptr<Formula> LabelContents::formulaOf(const QString &text) const {
   try {
     return std::make_shared<Formula>(text, m_net, Formula::Bare::OfCurrent);
   } catch (const FormulaError &error) {
-    NivraMsg::logWarning(QStringLiteral("The label formula \"%1\" cannot be used: %2").arg(text, error.text()));
+    tell(m_told, Finding::Severity::Warning,
+         QStringLiteral("The label formula \"%1\" cannot be used: %2").arg(text, error.text()));
     return nullptr;
   }
 }
@@ -203,8 +204,8 @@ QString LabelContents::formatted(double value, const QString &unit, int decimals
 /// As many as the values of the first elements of the type need: then 79.70 stands beside 79.84, and 20 beside 30.
 int LabelContents::decimalsOf(const Part &part, const element &like) const {
   static const PropertyKey key = PropertyKey::intern("type");
-  constexpr int Enough = 300; // elements with a value
-  constexpr int Most = 5000;  // elements to look at
+  constexpr int EnoughValues = 300;
+  constexpr int MostElements = 5000; // to look at
   if (part.decimals)
     return *part.decimals;
   part.decimals = 0;
@@ -217,7 +218,7 @@ int LabelContents::decimalsOf(const Part &part, const element &like) const {
   int looked = 0;
   int found = 0;
   for (const elements::Entry &entry : *collection->second) {
-    if (++looked > Most || found >= Enough)
+    if (++looked > MostElements || found >= EnoughValues)
       break;
     const PropertyText *own = entry.value.find(key);
     const double value = NetData::number(entry.value.find(part.value));
@@ -243,8 +244,8 @@ QString LabelContents::shownValue(const Part &part, const element &source) const
       return result.text == QLatin1String(FormulaReference::Null) ? QString() : result.text;
     } catch (const FormulaError &error) {
       if (error.kind() == FormulaError::Kind::TooCostly)
-        NivraMsg::logWarning(error.text()); // once: from now on it is not evaluated
-      return QString();                     // of this element it says nothing
+        tell(m_told, Finding::Severity::Warning, error.text()); // once: from now on it is not evaluated
+      return QString();                                         // of this element it says nothing
     }
   }
   const PropertyText *value = source.find(part.value);
@@ -320,10 +321,10 @@ LabelStyle LabelContents::style(const element &source, NetData::EleType kind) co
   LabelStyle style = type != nullptr ? type->style : styleOf(kind);
   if (m_hasOwnStyles) {
     const StyleKeys keys;
-    takeFont(source.value(keys.font), style.font);
-    takeColor(source.value(keys.color), QString(), style.text);
-    takeColor(source.value(keys.background), source.value(keys.backgroundAlpha), style.background);
-    takeColor(source.value(keys.border), source.value(keys.borderAlpha), style.border);
+    readFont(source.value(keys.font), style.font);
+    readColor(source.value(keys.color), QString(), style.text);
+    readColor(source.value(keys.background), source.value(keys.backgroundAlpha), style.background);
+    readColor(source.value(keys.border), source.value(keys.borderAlpha), style.border);
   }
   return style;
 }

@@ -55,16 +55,16 @@ public:
 
   /// \return its size, cut to what a label may take
   QSizeF layOut() {
-    constexpr QSizeF Largest(480.0, 360.0); // px
-    if (idealWidth() > Largest.width())
-      setTextWidth(Largest.width());
-    return size().boundedTo(Largest);
+    constexpr QSizeF LargestLabel(480.0, 360.0); // px
+    if (idealWidth() > LargestLabel.width())
+      setTextWidth(LargestLabel.width());
+    return size().boundedTo(LargestLabel);
   }
 };
 
 /// The more important first; of very many only these.
 void putInOrder(std::vector<LabelWish> &wishes) {
-  constexpr std::size_t Most = 20000; // more than would ever fit
+  constexpr std::size_t MostWishes = 20000; // more than would ever fit
   const auto isBefore = [](const LabelWish &a, const LabelWish &b) {
     if (a.rank != b.rank)
       return a.rank < b.rank;
@@ -72,9 +72,9 @@ void putInOrder(std::vector<LabelWish> &wishes) {
       return a.weight > b.weight;
     return a.candidate.item.index < b.candidate.item.index;
   };
-  if (wishes.size() > Most) {
-    std::nth_element(wishes.begin(), wishes.begin() + Most, wishes.end(), isBefore);
-    wishes.resize(Most);
+  if (wishes.size() > MostWishes) {
+    std::nth_element(wishes.begin(), wishes.begin() + MostWishes, wishes.end(), isBefore);
+    wishes.resize(MostWishes);
   }
   std::sort(wishes.begin(), wishes.end(), isBefore);
 }
@@ -128,7 +128,7 @@ LabelPass::Result LabelPass::run(std::vector<LabelWish> wishes, const std::vecto
     const auto found = known.find({wish.candidate.item.kind, wish.candidate.item.index});
     return found == known.end() ? nullptr : found->second;
   };
-  const auto take = [&](LabelWish &wish, bool keeps) {
+  const auto placeLabel = [&](LabelWish &wish, bool keeps) {
     Label label;
     LabelText text;
     if (!makeLabel(wish, label, text))
@@ -143,14 +143,14 @@ LabelPass::Result LabelPass::run(std::vector<LabelWish> wishes, const std::vecto
       return;
     }
     label.candidate = wish.candidate;
-    label.place = wish.place;
+    label.position = wish.position;
     layOut(label, text);
     result.labels.push_back(std::move(label));
   };
   for (const bool keeps : {true, false}) { // first come those that stood there before
     for (LabelWish &wish : wishes) {
       if ((spotBefore(wish) != nullptr) == keeps)
-        take(wish, keeps);
+        placeLabel(wish, keeps);
     }
   }
   return result;

@@ -6,7 +6,7 @@
 /// Something that wants a label.
 struct LabelWish {
   LabelCandidate candidate;
-  QLineF place;        ///< plot coordinates
+  QLineF position;     ///< of the element, in plot coordinates; both ends are its middle unless it is a line
   int rank = 0;        ///< lower is more important
   double weight = 0.0; ///< larger is more important among those of one rank
 };
@@ -17,7 +17,7 @@ class LabelPass {
 public:
   struct Result {
     std::vector<Label> labels;
-    std::vector<NetGeometry::Item> unplaced; ///< what found no place
+    std::vector<NetGeometry::Item> unplaced; ///< whose label found no room
   };
 
   /// \param canvas px

@@ -1,3 +1,5 @@
+#include <QtMath>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -6,7 +8,7 @@
 
 namespace {
 
-constexpr double Gap = 2.0; // px between an element and its label
+constexpr double GapToElement = 2.0; // px, of a label
 
 } // namespace
 
@@ -18,12 +20,11 @@ LabelPlacement::LabelPlacement(const QRectF &canvas, double margin)
     , m_lines(canvas) {}
 
 void LabelPlacement::addLine(const QLineF &line, double width) {
-  constexpr double Degrees = 180.0 / M_PI;
   QLineF visible = line;
   if (!clipLine(visible, m_canvas))
     return;
   m_hasLines = true;
-  m_lines.take({visible.center(), {visible.length(), width}, std::atan2(visible.dy(), visible.dx()) * Degrees});
+  m_lines.take({visible.center(), {visible.length(), width}, qRadiansToDegrees(std::atan2(visible.dy(), visible.dx()))});
 }
 
 bool LabelPlacement::keep(const LabelCandidate &candidate, const LabelSpot &spot) {
@@ -44,27 +45,26 @@ bool LabelPlacement::tryAt(const LabelCandidate &candidate, const LabelSpot &spo
 }
 
 bool LabelPlacement::tryLine(const LabelCandidate &candidate, LabelSpot &spot) {
-  constexpr double Degrees = 180.0 / M_PI;
   constexpr double RightAngle = 90.0;
   QLineF visible = candidate.line;
   const double length = candidate.line.length();
   if (!(length > 0.0) || !clipLine(visible, m_canvas))
     return false;
-  const auto placeOf = [&](const QPointF &p) {
+  const auto shareOf = [&](const QPointF &p) {
     return QLineF(candidate.line.p1(), p).length() / length;
   };
-  const double from = placeOf(visible.p1());
-  const double to = placeOf(visible.p2());
+  const double from = shareOf(visible.p1());
+  const double to = shareOf(visible.p2());
   if (visible.length() < candidate.size.width())
     return tryPoint(candidate, spot); // beside the middle rather than along a line that is too short
   const QPointF normal(-candidate.line.dy() / length, candidate.line.dx() / length);
-  spot.angle = std::atan2(candidate.line.dy(), candidate.line.dx()) * Degrees;
+  spot.angle = qRadiansToDegrees(std::atan2(candidate.line.dy(), candidate.line.dx()));
   if (spot.angle > RightAngle)
     spot.angle -= 2.0 * RightAngle; // upright
   else if (spot.angle <= -RightAngle)
     spot.angle += 2.0 * RightAngle;
   constexpr double OwnLine = 3.0; // px, so that its cells do not count as covered
-  const double distance = candidate.clearance + OwnLine + Gap + candidate.size.height() * 0.5;
+  const double distance = candidate.clearance + OwnLine + GapToElement + candidate.size.height() * 0.5;
   const double up = normal.y() <= 0.0 ? 1.0 : -1.0; // above the line first
   for (const bool sparesLines : {true, false}) {
     for (const double share : {0.5, 0.3, 0.7}) {
@@ -84,21 +84,21 @@ bool LabelPlacement::tryPoint(const LabelCandidate &candidate, LabelSpot &spot) 
   spot.along = 0.5;
   if (!m_canvas.contains(candidate.anchor(spot.along)))
     return false;
-  constexpr double Slanted = 0.75; // corners come nearer
-  constexpr double Ring = 8.0;     // px: still beside the element
+  constexpr double CornerShare = 0.75; // corners come nearer
+  constexpr double SecondRing = 8.0;   // px: still beside the element
   const double halfWidth = candidate.size.width() * 0.5;
   std::array<QPointF, 24> offsets;
   std::size_t count = 0;
-  for (const double further : {0.0, Ring}) {
-    const double x = candidate.clearance + Gap + halfWidth + further;
-    const double y = candidate.clearance + Gap + candidate.size.height() * 0.5 + further;
+  for (const double further : {0.0, SecondRing}) {
+    const double x = candidate.clearance + GapToElement + halfWidth + further;
+    const double y = candidate.clearance + GapToElement + candidate.size.height() * 0.5 + further;
     for (const QPointF &offset : std::initializer_list<QPointF>{{x, 0.0},
-                                                                {x * Slanted, -y},
-                                                                {x * Slanted, y},
+                                                                {x * CornerShare, -y},
+                                                                {x * CornerShare, y},
                                                                 {0.0, -y},
                                                                 {0.0, y},
-                                                                {-x * Slanted, -y},
-                                                                {-x * Slanted, y},
+                                                                {-x * CornerShare, -y},
+                                                                {-x * CornerShare, y},
                                                                 {-x, 0.0},
                                                                 {x, -y},
                                                                 {x, y},

@@ -6,13 +6,17 @@
 
 namespace {
 
-constexpr double Cell = 2.0; // px
+constexpr double CellLength = 2.0; // px
 constexpr int WordBits = 64;
-constexpr double Largest = 30000.0; // px
+constexpr double LongestSide = 30000.0; // px, of the canvas
 
-} // namespace
+int cellsOf(double side) {
+  return static_cast<int>(std::ceil(qBound(1.0, side, LongestSide) / CellLength));
+}
 
-namespace {
+int wordsOf(double side) {
+  return (cellsOf(side) + WordBits - 1) / WordBits;
+}
 
 QPointF direction(double angle) {
   if (angle == 0.0)
@@ -62,20 +66,19 @@ bool TurnedBox::overlaps(const TurnedBox &other) const {
 }
 
 OccupancyGrid::OccupancyGrid(const QRectF &canvas)
-    : m_origin(canvas.topLeft())
-    , m_rows(static_cast<int>(std::ceil(qBound(1.0, canvas.height(), Largest) / Cell)))
-    , m_words(static_cast<int>(std::ceil(qBound(1.0, canvas.width(), Largest) / Cell / WordBits)))
-    , m_cells(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_words), 0) {}
+    : m_columns(canvas.left(), CellLength, wordsOf(canvas.width()) * WordBits)
+    , m_rows(canvas.top(), CellLength, cellsOf(canvas.height()))
+    , m_words(static_cast<std::size_t>(wordsOf(canvas.width())))
+    , m_cells(static_cast<std::size_t>(m_rows.count()) * m_words, 0) {}
 
 namespace {
 
-/// How far the box reaches within a row of cells; left lies behind right where it does not reach.
-void reachInRow(const TurnedBox &box, const QPointF &origin, double top, double &left, double &right) {
-  const double bottom = top + Cell;
+/// How far the box reaches between two heights; left lies behind right where it does not reach.
+void reachBetween(const TurnedBox &box, double top, double bottom, double &left, double &right) {
   std::swap(left, right);
   for (std::size_t i = 0; i < box.corners().size(); ++i) {
-    QPointF a = box.corners()[i] - origin;
-    QPointF b = box.corners()[(i + 1) % box.corners().size()] - origin;
+    QPointF a = box.corners()[i];
+    QPointF b = box.corners()[(i + 1) % box.corners().size()];
     if (a.y() > b.y())
       std::swap(a, b);
     if (a.y() > bottom || b.y() < top)
@@ -92,29 +95,25 @@ void reachInRow(const TurnedBox &box, const QPointF &origin, double top, double 
 
 template <typename Visitor>
 bool OccupancyGrid::forEachWord(const TurnedBox &box, const Visitor &visit) const {
-  const QRectF bounds = box.bounds().translated(-m_origin);
-  const int firstRow = static_cast<int>(std::clamp(std::floor(bounds.top() / Cell), 0.0, double(m_rows)));
-  const int lastRow = static_cast<int>(std::clamp(std::floor(bounds.bottom() / Cell), -1.0, m_rows - 1.0));
-  const double lastColumn = double(m_words) * WordBits - 1.0;
-  for (int row = firstRow; row <= lastRow; ++row) {
+  const QRectF bounds = box.bounds();
+  const CellAxis::Range rows = m_rows.range(bounds.top(), bounds.bottom());
+  for (int row = rows.first; row <= rows.last; ++row) {
     double left = bounds.left();
     double right = bounds.right();
     if (!box.isUpright())
-      reachInRow(box, m_origin, row * Cell, left, right);
-    if (left > right || right < 0.0)
+      reachBetween(box, m_rows.start(row), m_rows.start(row + 1), left, right);
+    const CellAxis::Range cells = m_columns.range(left, right);
+    if (left > right || cells.isEmpty())
       continue;
-    const double from = std::floor(left / Cell);
-    if (from > lastColumn)
-      continue;
-    const int first = static_cast<int>(std::max(0.0, from));
-    const int last = static_cast<int>(std::min(lastColumn, std::floor(right / Cell)));
-    for (int word = first / WordBits; word <= last / WordBits; ++word) {
+    const int firstWord = cells.first / WordBits;
+    const int lastWord = cells.last / WordBits;
+    for (int word = firstWord; word <= lastWord; ++word) {
       std::uint64_t mask = ~std::uint64_t(0);
-      if (word == first / WordBits)
-        mask &= ~std::uint64_t(0) << (first % WordBits);
-      if (word == last / WordBits)
-        mask &= ~std::uint64_t(0) >> (WordBits - 1 - last % WordBits);
-      if (!visit(static_cast<std::size_t>(row) * static_cast<std::size_t>(m_words) + static_cast<std::size_t>(word), mask))
+      if (word == firstWord)
+        mask &= ~std::uint64_t(0) << (cells.first % WordBits);
+      if (word == lastWord)
+        mask &= ~std::uint64_t(0) >> (WordBits - 1 - cells.last % WordBits);
+      if (!visit(static_cast<std::size_t>(row) * m_words + static_cast<std::size_t>(word), mask))
         return false;
     }
   }

@@ -13,10 +13,10 @@ constexpr double WidthStep = 0.25; // px: widths are rounded so that many edges 
 constexpr unsigned WidthShift = 32;
 constexpr unsigned RankShift = 48;
 
-/// A number a pen, ascending in drawing order: what says nothing lies below, narrow lines below broad ones.
+/// A number a pen, ascending in drawing order: edges of the background lie below the others, narrow lines below broad ones.
 std::uint64_t penKey(const EdgeLook &look) {
-  constexpr double Broadest = 200.0;
-  const auto width = static_cast<std::uint64_t>(std::lround(qBound(0.0, look.width, Broadest) / WidthStep));
+  constexpr double BroadestLine = 200.0; // px
+  const auto width = static_cast<std::uint64_t>(std::lround(qBound(0.0, look.width, BroadestLine) / WidthStep));
   return (std::uint64_t(!look.isBackground) << RankShift) | (width << WidthShift) | look.color;
 }
 
@@ -35,9 +35,9 @@ EdgeLayer::EdgeLayer() {
 
 void EdgeLayer::setEdges(const NetGeometry &geometry) {
   std::vector<SpatialIndex::Box> boxes;
-  std::vector<int> positions;
+  std::vector<int> edgesOfBoxes;
   boxes.reserve(geometry.edges().size());
-  positions.reserve(geometry.edges().size());
+  edgesOfBoxes.reserve(geometry.edges().size());
   for (std::size_t i = 0; i < geometry.edges().size(); ++i) {
     const NetGeometry::Edge &edge = geometry.edges()[i];
     if (!geometry.isPlaced(edge))
@@ -46,14 +46,14 @@ void EdgeLayer::setEdges(const NetGeometry &geometry) {
     const auto [x1, x2] = std::minmax({line.x1(), line.x2()});
     const auto [y1, y2] = std::minmax({line.y1(), line.y2()});
     boxes.push_back({x1, y1, x2, y2});
-    positions.push_back(static_cast<int>(i));
+    edgesOfBoxes.push_back(static_cast<int>(i));
   }
   const std::vector<int> order = m_index.build(boxes);
   m_records.clear();
   m_records.reserve(order.size());
   for (const int box : order) {
     Record record;
-    record.edge = positions[static_cast<std::size_t>(box)];
+    record.edge = edgesOfBoxes[static_cast<std::size_t>(box)];
     const NetGeometry::Edge &edge = geometry.edges()[static_cast<std::size_t>(record.edge)];
     const QLineF line = geometry.line(edge);
     record.x1 = line.x1();
@@ -85,12 +85,12 @@ void EdgeLayer::setLooks(const std::vector<EdgeLook> &looks) {
   }
   std::vector<std::uint64_t> sorted = keys;
   std::sort(sorted.begin(), sorted.end());
-  std::vector<int> places;
-  places.reserve(keys.size());
+  std::vector<int> drawingOrder;
+  drawingOrder.reserve(keys.size());
   for (const std::uint64_t key : keys)
-    places.push_back(static_cast<int>(std::lower_bound(sorted.begin(), sorted.end(), key) - sorted.begin()));
+    drawingOrder.push_back(static_cast<int>(std::lower_bound(sorted.begin(), sorted.end(), key) - sorted.begin()));
   for (Record &record : m_records)
-    record.pen = record.pen < 0 ? record.pen : places[static_cast<std::size_t>(record.pen)];
+    record.pen = record.pen < 0 ? record.pen : drawingOrder[static_cast<std::size_t>(record.pen)];
 
   m_pens.clear();
   m_widest = 0.0;
@@ -149,23 +149,23 @@ void EdgeLayer::addArrows(const Record &record, const QLineF &line, const QRectF
   QLineF visible = line;
   if (!clipLine(visible, area))
     return;
-  const auto place = [&](const QPointF &p) {
+  const auto numberAt = [&](const QPointF &p) {
     return ((p.x() - line.x1()) * dx + (p.y() - line.y1()) * dy) / square * count - 0.5;
   };
   const QPointF along = QPointF(dx, dy) / length * static_cast<double>(record.flow);
   constexpr double Half = 0.5;
-  const double last = std::floor(place(visible.p2()));
-  for (double i = std::max(0.0, std::ceil(place(visible.p1()))); i <= last && i < count; i += 1.0)
+  const double last = std::floor(numberAt(visible.p2()));
+  for (double i = std::max(0.0, std::ceil(numberAt(visible.p1()))); i <= last && i < count; i += 1.0)
     arrows.push_back({line.pointAt((i + Half) / count) + along * m_arrowSize * Half, along, record.pen});
 }
 
 void EdgeLayer::drawArrows(QPainter &painter, const std::vector<Arrow> &arrows) const {
   constexpr double WidthShare = 0.38; // to each side of the line
   constexpr double Notch = 0.75;      // how deep the back is cut
-  constexpr int Darker = 150;
-  constexpr std::size_t Many = 500; // too many to look at each
+  constexpr int DarkerPercent = 150;
+  constexpr std::size_t ManyArrows = 500; // nobody looks at each of so many
   const QColor halo(255, 255, 255, 200);
-  if (arrows.size() > Many)
+  if (arrows.size() > ManyArrows)
     painter.setPen(Qt::NoPen);
   else
     painter.setPen(QPen(halo, 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -174,7 +174,7 @@ void EdgeLayer::drawArrows(QPainter &painter, const std::vector<Arrow> &arrows) 
     const double size = m_arrowSize + pen.widthF();
     const QPointF back = arrow.tip - arrow.along * size;
     const QPointF side = QPointF(-arrow.along.y(), arrow.along.x()) * size * WidthShare;
-    painter.setBrush(pen.color().darker(Darker));
+    painter.setBrush(pen.color().darker(DarkerPercent));
     painter.drawPolygon(
         QPolygonF(QVector<QPointF>{arrow.tip, back + side, arrow.tip - arrow.along * size * Notch, back - side}));
   }
@@ -184,8 +184,8 @@ double EdgeLayer::widthFactor(const std::vector<VisibleLine> &lines, const QRect
   double length = 1.0;
   for (const VisibleLine &line : lines)
     length += std::sqrt(line.line.dx() * line.line.dx() + line.line.dy() * line.line.dy());
-  constexpr double Share = 0.6; // of the way between two lines, if they were spread evenly
-  const double room = Share * canvas.width() * canvas.height() / length;
+  constexpr double ShareOfRoom = 0.6; // of the way between two lines, if they were spread evenly
+  const double room = ShareOfRoom * canvas.width() * canvas.height() / length;
   return m_widest > room ? room / m_widest : 1.0;
 }
 

@@ -31,10 +31,8 @@ void LabelLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScale
   const bool isSameScale = std::abs(units - m_unitsPerPixel) <= SameScale * units;
   OccupancyGrid grid(canvasRect);
   for (const Label &label : m_labels) {
-    const QPointF anchor = projection.map(label.place.p1().x(), label.place.p1().y());
-    const QPointF end = projection.map(label.place.p2().x(), label.place.p2().y());
     LabelCandidate candidate = label.candidate;
-    candidate.line = {anchor, end};
+    candidate.line = projection.map(label.position);
     const TurnedBox box = candidate.box(label.spot);
     if (!canvasRect.intersects(box.bounds()))
       continue;

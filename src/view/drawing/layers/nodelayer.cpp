@@ -1,3 +1,5 @@
+#include "geometry/canvasgrid.h"
+
 #include <QMap>
 
 #include <algorithm>
@@ -10,8 +12,8 @@ using Shape = NetGeometry::NodeShape;
 
 constexpr double NodeZ = 20.0;
 constexpr QRgb Outline = 0xff3c4650;
-constexpr double Margin = 20.0;      // px: half the largest node
-constexpr double StationShare = 2.5; // of the size of a junction of the same look
+constexpr double LargestReach = 20.0; // px: half the largest node
+constexpr double StationShare = 2.5;  // of the size of a junction of the same look
 constexpr double SmallestStation = 5.0;
 
 QPolygonF shapeAround(const QPointF &center, Shape shape, double size) {
@@ -70,21 +72,21 @@ double NodeLayer::sizeOf(const Record &record) {
 }
 
 void NodeLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {
-  m_index.query(projection.around(point, tolerance + Margin), [&](int first, int last) {
+  m_index.query(projection.around(point, tolerance + LargestReach), [&](int first, int last) {
     for (int i = first; i < last; ++i) {
       const Record &record = m_records[static_cast<std::size_t>(i)];
       const QPointF to = projection.map(record.x, record.y) - point;
       const double distance = std::hypot(to.x(), to.y());
       if (record.isDrawn() && distance - sizeOf(record) * 0.5 <= tolerance)
-        hits.push_back({{NetData::Node, record.node}, distance, HitRank::Place});
+        hits.push_back({{NetData::Node, record.node}, distance, HitRank::Point});
     }
   });
 }
 
 std::vector<NodeLayer::VisibleNode> NodeLayer::visibleNodes(const Projection &projection) const {
   std::vector<VisibleNode> nodes;
-  const QRectF area = projection.canvas().adjusted(-Margin, -Margin, Margin, Margin);
-  m_index.query(projection.visible(Margin), [&](int first, int last) {
+  const QRectF area = projection.canvas().adjusted(-LargestReach, -LargestReach, LargestReach, LargestReach);
+  m_index.query(projection.visible(LargestReach), [&](int first, int last) {
     for (int i = first; i < last; ++i) {
       const Record &record = m_records[static_cast<std::size_t>(i)];
       const QPointF center = projection.map(record.x, record.y);
@@ -103,9 +105,9 @@ void NodeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleM
   if (nodes.empty())
     return;
   // A node may take a third of the room that there is for each.
-  constexpr double Share = 0.33;
+  constexpr double ShareOfRoom = 0.33;
   const double room = std::sqrt(canvasRect.width() * canvasRect.height() / static_cast<double>(nodes.size()));
-  drawJunctions(*painter, nodes, room * Share, canvasRect);
+  drawJunctions(*painter, nodes, room * ShareOfRoom, canvasRect);
   drawStations(*painter, nodes, room, canvasRect);
 }
 
@@ -115,7 +117,8 @@ void NodeLayer::drawJunctions(QPainter &painter, const std::vector<VisibleNode> 
   constexpr double OutlineWidth = 1.0;
   if (largest < TooSmall)
     return;
-  PixelGrid grid(canvas.adjusted(-Margin, -Margin, Margin, Margin), std::max(TooSmall, largest * 0.5));
+  CanvasGrid grid(canvas.adjusted(-LargestReach, -LargestReach, LargestReach, LargestReach),
+                  std::max(TooSmall, largest * 0.5));
   QMap<QPair<double, QRgb>, QPolygonF> dots; // points of one pen
   for (const VisibleNode &node : nodes) {
     if (node.record->shape == Shape::Junction && grid.take(node.center))
@@ -135,7 +138,7 @@ void NodeLayer::drawJunctions(QPainter &painter, const std::vector<VisibleNode> 
 
 void NodeLayer::drawStations(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest,
                              const QRectF &canvas) {
-  PixelGrid grid(canvas.adjusted(-Margin, -Margin, Margin, Margin), SmallestStation);
+  CanvasGrid grid(canvas.adjusted(-LargestReach, -LargestReach, LargestReach, LargestReach), SmallestStation);
   painter.setPen(QPen(QColor(Outline), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   for (const VisibleNode &node : nodes) {
     if (node.record->shape == Shape::Junction || !grid.take(node.center))

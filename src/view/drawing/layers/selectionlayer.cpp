@@ -1,3 +1,5 @@
+#include "geometry/canvasgrid.h"
+
 #include <base/settings.h>
 
 #include <algorithm>
@@ -58,8 +60,8 @@ std::optional<QLineF> SelectionLayer::lineOf(NetGeometry::Item item, const Proje
   if (!center)
     return std::nullopt;
   if (item.kind != NetData::Edge) {
-    const QPointF place = projection.map(center->x(), center->y());
-    return QLineF(place, place);
+    const QPointF middle = projection.map(center->x(), center->y());
+    return QLineF(middle, middle);
   }
   const NetGeometry::Edge &edge = m_geometry->edges()[static_cast<std::size_t>(item.index)];
   return LaneWay(projection.map(m_geometry->line(edge)),
@@ -110,16 +112,16 @@ void SelectionLayer::drawItem(QPainter &painter, const Projection &projection, N
 
 void SelectionLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap,
                           const QRectF &canvasRect) const {
-  constexpr std::size_t Many = 5000; // of so many, marks on the same spot tell nothing more
-  constexpr double Cell = 5.0;
+  constexpr std::size_t ManyMarks = 5000; // of so many, those on the same spot tell nothing more
+  constexpr double CellLength = 5.0;      // px
   const Projection projection(xMap, yMap, canvasRect);
   if (m_geometry == nullptr || !projection.isValid())
     return;
-  PixelGrid grid(canvasRect, Cell);
+  CanvasGrid grid(canvasRect, CellLength);
   for (const NetGeometry::Item item : m_items) {
     if (m_layers != nullptr && m_layers->isHidden(item))
       continue;
-    if (m_items.size() > Many) {
+    if (m_items.size() > ManyMarks) {
       const std::optional<QPointF> center = m_geometry->center(item);
       if (!center || !grid.take(projection.map(center->x(), center->y())))
         continue;

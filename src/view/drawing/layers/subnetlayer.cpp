@@ -1,3 +1,5 @@
+#include "geometry/canvasgrid.h"
+
 #include <base/settings.h>
 #include <model/elementstate.h>
 #include <model/subnetstate.h>
@@ -59,11 +61,11 @@ QColor ringColor(const NetData &net, const element &subnet) {
   return colorOf(Settings::SubnetColorUnknown);
 }
 
-std::vector<QPointF> pinsOf(const NetGeometry::Place &subnet, const NetGeometry &geometry) {
+std::vector<QPointF> pinsOf(const NetGeometry::PointElement &subnet, const NetGeometry &geometry) {
   std::vector<QPointF> pins;
   for (const int node : subnet.pins) {
-    if (const std::optional<QPointF> place = geometry.center({NetData::Node, node}))
-      pins.push_back(*place);
+    if (const std::optional<QPointF> position = geometry.center({NetData::Node, node}))
+      pins.push_back(*position);
   }
   return pins;
 }
@@ -96,9 +98,9 @@ void SubnetLayer::setLook(double size, int alpha) {
   setZ(Settings::SubnetBackgroundZ.value());
 }
 
-void SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry) {
+Findings SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry) {
   m_records.clear();
-  for (const NetGeometry::Place &subnet : geometry.subnets()) {
+  for (const NetGeometry::PointElement &subnet : geometry.subnets()) {
     const element &source = *subnet.source;
     const auto number = [&source](const char *key) {
       return NetData::number(source.find(PropertyKey::find(key)));
@@ -114,25 +116,27 @@ void SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry) {
     record.ground = controlColor(net, source);
     m_records.push_back(record);
   }
+  return m_symbols.takeFindings();
 }
 
 double SubnetLayer::sizeOf(const Record &record, const Projection &projection) const {
-  constexpr double WidthShare = 0.5; // the pins stay outside of the box
-  constexpr double Largest = 400.0;
+  constexpr double WidthShare = 0.5;   // the pins stay outside of the box
+  constexpr double LargestBox = 400.0; // px
   double size = m_takesVisSize && record.visSize > 0.0 ? record.visSize : m_size;
   if (m_takesWidth) {
     const QPointF across = projection.map(record.center.x() + record.width, record.center.y()) -
                            projection.map(record.center.x(), record.center.y());
     size = std::max(m_takesVisSize ? size : m_size, std::abs(across.x()) * WidthShare);
   }
-  return std::min(size, Largest);
+  return std::min(size, LargestBox);
 }
 
-std::vector<SubnetLayer::Placed> SubnetLayer::place(const Projection &projection) const {
+std::vector<SubnetLayer::Placed> SubnetLayer::layOut(const Projection &projection) const {
   std::vector<Placed> placed;
   if (!projection.isValid())
     return placed;
-  ClusterGrid grid(projection.canvas(), std::max(m_size, 1.0) * 0.55);
+  constexpr double CellShare = 0.55; // of a box: one free cell lies between two boxes
+  CanvasGrid grid(projection.canvas(), std::max(m_size, 1.0) * CellShare);
   for (std::size_t i = 0; i < m_records.size(); ++i) {
     const Record &record = m_records[i];
     const QPointF center = projection.map(record.center.x(), record.center.y());
@@ -152,7 +156,7 @@ std::vector<SubnetLayer::Placed> SubnetLayer::place(const Projection &projection
 
 std::vector<QRectF> SubnetLayer::boxes(const Projection &projection) const {
   std::vector<QRectF> boxes;
-  for (const Placed &placed : place(projection))
+  for (const Placed &placed : layOut(projection))
     boxes.push_back(placed.box);
   return boxes;
 }
@@ -178,7 +182,7 @@ void SubnetLayer::drawPins(QPainter &painter, const Record &record, const QRectF
 
 void SubnetLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
   const Projection projection(xMap, yMap, canvasRect);
-  const std::vector<Placed> placed = place(projection);
+  const std::vector<Placed> placed = layOut(projection);
   for (const Placed &p : placed)
     drawPins(*painter, m_records[static_cast<std::size_t>(p.subnet)], p.box, projection);
   for (const Placed &p : placed) {

@@ -1,6 +1,11 @@
+#include "geometry/canvasgrid.h"
+
 #include <model/elementstate.h>
 
+#include <QtMath>
+
 #include <algorithm>
+#include <drawing/elementfilter.h>
 #include <drawing/symbollayer.h>
 
 namespace {
@@ -8,11 +13,11 @@ namespace {
 constexpr double SymbolZ = 30.0;
 constexpr double LargestSymbol = 512.0; // px
 
-/// Place in this order is the priority; pipes have no symbol.
+/// Lower is more important; pipes have no symbol.
 int priorityOf(char type) {
-  constexpr std::string_view Order = "crgwkfvsd";
-  const std::size_t place = Order.find(type);
-  return static_cast<int>(place == std::string_view::npos ? Order.size() : place);
+  constexpr std::string_view TypesByPriority = "crgwkfvsd";
+  const std::size_t index = TypesByPriority.find(type);
+  return static_cast<int>(index == std::string_view::npos ? TypesByPriority.size() : index);
 }
 
 } // namespace
@@ -79,10 +84,11 @@ std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometr
   return found;
 }
 
-void SymbolLayer::setStations(const NetGeometry &geometry) {
+Findings SymbolLayer::setStations(const NetGeometry &geometry) {
   clear();
   std::vector<Record> found = records(geometry);
-  m_figures.read(geometry);
+  Findings findings = m_symbols.takeFindings();
+  append(findings, m_figures.read(geometry));
   for (Record &record : found)
     record.figure = m_figures.find(record.item);
   for (const NetGeometry::Item item : m_figures.itemsBesides(found)) {
@@ -100,11 +106,13 @@ void SymbolLayer::setStations(const NetGeometry &geometry) {
   m_records.reserve(found.size());
   for (const int i : m_index.build(boxes))
     m_records.push_back(found[static_cast<std::size_t>(i)]);
+  return findings;
 }
 
 void SymbolLayer::setVisibility(const VisibilityRules &rules, const LayerFilter &layers) {
+  const ElementFilter filter{&layers, &rules};
   for (Record &record : m_records)
-    record.isVisible = rules.of(record.item) != VisibilityRules::State::Off && !layers.isHidden(record.item);
+    record.isVisible = !filter.hides(record.item);
   m_layout.reset(); // also for the boxes of subnets, which follow the same rules
 }
 
@@ -122,7 +130,7 @@ QPointF SymbolLayer::centerOf(const Record &r, const Projection &projection) con
   return LaneWay(line, static_cast<double>(r.lane) * laneSpacing(true, 0.0, m_size)).middle().center();
 }
 
-const std::vector<SymbolLayer::Placed> &SymbolLayer::place(const Projection &projection) const {
+const std::vector<SymbolLayer::Placed> &SymbolLayer::laidOut(const Projection &projection) const {
   if (!m_layout || !(m_layout->projection == projection))
     m_layout = layOut(projection);
   return m_layout->placed;
@@ -140,7 +148,7 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
   const auto isBehindBox = [&boxes](const QPointF &center) {
     return std::any_of(boxes.begin(), boxes.end(), [&center](const QRectF &box) { return box.contains(center); });
   };
-  std::vector<std::pair<int, QPointF>> visible; // record and place
+  std::vector<std::pair<int, QPointF>> visible; // index of the record, and its middle in pixels
   m_index.query(projection.visible(margin), [&](int first, int last) {
     for (int i = first; i < last; ++i) {
       const Record &record = m_records[static_cast<std::size_t>(i)];
@@ -159,14 +167,14 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
   });
 
   // Symbols shrink where they are many, but stay legible; those that then overlap stand behind one of them.
-  constexpr double Share = 0.6;
-  constexpr double Legible = 12.0;
-  constexpr double Apart = 0.55; // cells of this share of a symbol, one free cell between two symbols
+  constexpr double ShareOfRoom = 0.6;
+  constexpr double LegibleSize = 12.0; // px
+  constexpr double CellShare = 0.55;   // of a symbol: one free cell lies between two symbols
   const QRectF &canvas = projection.canvas();
   const double room =
       std::sqrt(canvas.width() * canvas.height() / static_cast<double>(std::max<std::size_t>(visible.size(), 1)));
-  const double size = std::min(m_size, std::max(Legible, room * Share));
-  ClusterGrid grid(area, size * Apart);
+  const double size = std::min(m_size, std::max(LegibleSize, room * ShareOfRoom));
+  CanvasGrid grid(area, size * CellShare);
   for (const auto &[i, center] : visible) {
     const int number = grid.claim(center, static_cast<int>(placed.size()));
     if (number < static_cast<int>(placed.size())) {
@@ -180,7 +188,6 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
 }
 
 SymbolLayer::Placed SymbolLayer::placed(int record, const QPointF &center, double size, const Projection &projection) const {
-  constexpr double Degrees = 180.0 / M_PI;
   const Record &r = m_records[static_cast<std::size_t>(record)];
   Placed placed;
   placed.item = r.item;
@@ -190,7 +197,7 @@ SymbolLayer::Placed SymbolLayer::placed(int record, const QPointF &center, doubl
   placed.isFigure = r.figure >= 0;
   placed.extent = placed.isFigure ? m_figures.extent(r.figure, placed.size) : QSizeF(placed.size, placed.size);
   const QPointF ahead = projection.map(r.x + r.dx, r.y + r.dy) - projection.map(r.x, r.y);
-  const double angle = ahead.isNull() ? 0.0 : std::atan2(ahead.y(), ahead.x()) * Degrees;
+  const double angle = ahead.isNull() ? 0.0 : qRadiansToDegrees(std::atan2(ahead.y(), ahead.x()));
   placed.angle = std::isfinite(angle) ? angle : 0.0;
   return placed;
 }
@@ -203,14 +210,14 @@ bool SymbolLayer::Placed::covers(const QPointF &point) const {
 }
 
 QRectF SymbolLayer::Placed::obstacle() const {
-  constexpr double Drawn = 0.9; // symbols do not fill their corners
-  QRectF area(QPointF(), extent * (isFigure ? 1.0 : Drawn));
+  constexpr double DrawnShare = 0.9; // symbols do not fill their corners
+  QRectF area(QPointF(), extent * (isFigure ? 1.0 : DrawnShare));
   area.moveCenter(center);
   return area;
 }
 
 void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
-  const std::vector<Placed> &placed = place(Projection(xMap, yMap, canvasRect));
+  const std::vector<Placed> &placed = laidOut(Projection(xMap, yMap, canvasRect));
   for (const Placed &p : placed) {
     const Record &r = m_records[static_cast<std::size_t>(p.record)];
     if (p.isFigure)
@@ -225,7 +232,7 @@ void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScal
 }
 
 void SymbolLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {
-  const std::vector<Placed> &placed = place(projection);
+  const std::vector<Placed> &placed = laidOut(projection);
   for (std::size_t i = 0; i < placed.size(); ++i) {
     if (!placed[i].covers(point))
       continue;

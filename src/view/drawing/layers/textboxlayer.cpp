@@ -1,3 +1,5 @@
+#include "geometry/canvasgrid.h"
+
 #include <QFontMetricsF>
 #include <QPainterPath>
 
@@ -32,7 +34,7 @@ void TextBoxLayer::setTextBoxes(const NetGeometry &geometry, const LabelContents
   static const PropertyKey font = PropertyKey::intern("vis.font");
   m_records.clear();
   for (std::size_t i = 0; i < geometry.textBoxes().size(); ++i) {
-    const NetGeometry::Place &box = geometry.textBoxes()[i];
+    const NetGeometry::PointElement &box = geometry.textBoxes()[i];
     const QStringList lines = contents.textOfBox(*box.source);
     if (lines.isEmpty())
       continue;
@@ -43,22 +45,16 @@ void TextBoxLayer::setTextBoxes(const NetGeometry &geometry, const LabelContents
   }
 }
 
-bool TextBoxLayer::isHidden(const Record &record) const {
-  const NetGeometry::Item item{NetData::TextBox, record.textBox};
-  return (m_layers != nullptr && m_layers->isHidden(item)) ||
-         (m_visibility != nullptr && m_visibility->of(item) == VisibilityRules::State::Off);
-}
-
-std::vector<TextBoxLayer::Placed> TextBoxLayer::place(const Projection &projection) const {
+std::vector<TextBoxLayer::Placed> TextBoxLayer::layOut(const Projection &projection) const {
   std::vector<Placed> placed;
   if (!projection.isValid())
     return placed;
-  constexpr double Cell = 8.0;
-  PixelGrid grid(projection.canvas(), Cell);
+  constexpr double CellLength = 8.0; // px
+  CanvasGrid grid(projection.canvas(), CellLength);
   for (const Record &record : m_records) {
     QRectF area(QPointF(), record.size);
     area.moveCenter(projection.map(record.x, record.y));
-    if (isHidden(record) || !projection.canvas().contains(area.center()))
+    if (m_filter.hides({NetData::TextBox, record.textBox}) || !projection.canvas().contains(area.center()))
       continue;
     // What would be cut at the side of the canvas is moved in.
     area.moveLeft(std::max(std::min(area.left(), projection.canvas().right() - area.width()), projection.canvas().left()));
@@ -68,9 +64,9 @@ std::vector<TextBoxLayer::Placed> TextBoxLayer::place(const Projection &projecti
   return placed;
 }
 
-std::vector<QRectF> TextBoxLayer::places(const Projection &projection) const {
+std::vector<QRectF> TextBoxLayer::areas(const Projection &projection) const {
   std::vector<QRectF> areas;
-  for (const Placed &placed : place(projection))
+  for (const Placed &placed : layOut(projection))
     areas.push_back(placed.area);
   return areas;
 }
@@ -83,10 +79,10 @@ void TextBoxLayer::find(const Projection &projection, const QPointF &point, std:
                       });
   if (!isNear)
     return;
-  for (const Placed &placed : place(projection)) {
+  for (const Placed &placed : layOut(projection)) {
     const QPointF to = placed.area.center() - point;
     if (placed.area.contains(point))
-      hits.push_back({{NetData::TextBox, placed.record->textBox}, std::hypot(to.x(), to.y()), HitRank::Place});
+      hits.push_back({{NetData::TextBox, placed.record->textBox}, std::hypot(to.x(), to.y()), HitRank::Point});
   }
 }
 
@@ -97,7 +93,7 @@ void TextBoxLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtSca
   constexpr double Padding = 3.0; // px of ground around the text
   QColor halo = m_background;
   halo.setAlpha(HaloAlpha);
-  for (const Placed &placed : place(Projection(xMap, yMap, canvasRect))) {
+  for (const Placed &placed : layOut(Projection(xMap, yMap, canvasRect))) {
     const Record &record = *placed.record;
     const LabelStyle &style = record.style;
     const bool hasGround = hasInk(style.background);

@@ -13,22 +13,23 @@ enum Rank { SubnetRank, StationRank, SetPointRank, PipeRank, JunctionRank };
 
 } // namespace
 
-void LabelWishes::add(NetGeometry::Item item, const QLineF &place, bool isLine, double clearance, int rank, double weight) {
+void LabelWishes::add(NetGeometry::Item item, const QLineF &position, bool isLine, double clearance, int rank,
+                      double weight) {
   if (m_drawing.visibility.of(item) != VisibilityRules::State::On || m_drawing.layers.isHidden(item))
     return;
   LabelWish wish;
   wish.candidate.item = item;
   wish.candidate.isLine = isLine;
-  wish.candidate.line = {m_projection.map(place.x1(), place.y1()), m_projection.map(place.x2(), place.y2())};
+  wish.candidate.line = m_projection.map(position);
   wish.candidate.clearance = clearance;
-  wish.place = place;
+  wish.position = position;
   wish.rank = rank;
   wish.weight = weight;
   wishes.push_back(wish);
 }
 
 void LabelWishes::collectSubnets() {
-  for (const SubnetLayer::Placed &placed : m_drawing.subnets.place(m_projection)) {
+  for (const SubnetLayer::Placed &placed : m_drawing.subnets.layOut(m_projection)) {
     areas.push_back(placed.box);
     const NetGeometry::Item item{NetData::AssembledSubnet, placed.subnet};
     const QPointF center = *m_drawing.geometry.center(item);
@@ -37,7 +38,7 @@ void LabelWishes::collectSubnets() {
 }
 
 void LabelWishes::collectSymbols() {
-  for (const SymbolLayer::Placed &placed : m_drawing.symbols.place(m_projection)) {
+  for (const SymbolLayer::Placed &placed : m_drawing.symbols.laidOut(m_projection)) {
     areas.push_back(placed.obstacle());
     const QPointF center = *m_drawing.geometry.center(placed.item);
     const QPointF aside = placed.center - m_projection.map(center.x(), center.y());
@@ -50,26 +51,26 @@ void LabelWishes::collectSymbols() {
 }
 
 void LabelWishes::collectNodes() {
-  constexpr std::size_t Many = 3000; // so many dots would leave no room for labels
+  constexpr std::size_t MostDots = 3000; // more would leave no room for labels
   std::vector<QRectF> dots;
   m_drawing.nodes.forEachVisible(m_projection, [&](int node, const QPointF &center, double size) {
     const NetGeometry::Node &record = m_drawing.geometry.nodes()[static_cast<std::size_t>(node)];
     const bool isJunction = record.shape == NetGeometry::NodeShape::Junction;
-    const QPointF place(record.x, record.y);
+    const QPointF position(record.x, record.y);
     dots.emplace_back(center - QPointF(size, size) * 0.5, QSizeF(size, size));
     if (m_nodesWithSymbol.count(node) == 0) // labelled there
-      add({NetData::Node, node}, {place, place}, false, size * 0.5, isJunction ? JunctionRank : SetPointRank, 0.0);
+      add({NetData::Node, node}, {position, position}, false, size * 0.5, isJunction ? JunctionRank : SetPointRank, 0.0);
   });
-  if (dots.size() <= Many)
+  if (dots.size() <= MostDots)
     areas.insert(areas.end(), dots.begin(), dots.end());
 }
 
 void LabelWishes::collectPipes() {
   const NetGeometry &geometry = m_drawing.geometry;
-  constexpr std::size_t Many = 3000; // among so many lines there is no room without one
+  constexpr std::size_t MostLines = 3000; // among more there is no room without one
   m_drawing.edges.forEachVisible(m_projection, [&](int edge, const QLineF &drawn, double width) {
     const NetGeometry::Edge &record = geometry.edges()[static_cast<std::size_t>(edge)];
-    if (lines.size() <= Many)
+    if (lines.size() <= MostLines)
       lines.emplace_back(drawn, width);
     if (record.type != 'p')
       return; // labelled at its symbol
@@ -78,7 +79,7 @@ void LabelWishes::collectPipes() {
     add({NetData::Edge, edge}, straight, true, width * 0.5 + aside, PipeRank,
         m_drawing.flow[static_cast<std::size_t>(edge)]);
   });
-  if (lines.size() > Many)
+  if (lines.size() > MostLines)
     lines.clear();
 }
 
@@ -87,7 +88,7 @@ LabelWishes::LabelWishes(const Drawing &drawing, const Projection &projection)
     , m_projection(projection) {
   collectSubnets();
   collectSymbols();
-  for (const QRectF &area : m_drawing.textBoxes.places(m_projection))
+  for (const QRectF &area : m_drawing.textBoxes.areas(m_projection))
     areas.push_back(area);
   collectNodes();
   collectPipes();

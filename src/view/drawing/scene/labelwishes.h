@@ -42,7 +42,7 @@ private:
   void collectSymbols();
   void collectNodes();
   void collectPipes();
-  void add(NetGeometry::Item item, const QLineF &place, bool isLine, double clearance, int rank, double weight);
+  void add(NetGeometry::Item item, const QLineF &position, bool isLine, double clearance, int rank, double weight);
 
   const Drawing &m_drawing;
   const Projection &m_projection;

@@ -22,19 +22,25 @@ QString seconds(const QElapsedTimer &timer) {
 
 } // namespace
 
-NetUpdate::NetUpdate(const PlotSettings &settings, std::function<View()> view)
+NetUpdate::NetUpdate(const PlotSettings &settings, std::function<View()> view, Told told)
     : m_settings(settings)
     , m_view(std::move(view))
+    , m_told(std::move(told))
     , m_pixtest([this](Pixtest::Labels labels) { runPixtest(labels); },
                 [this] {
                   const View seen = m_view();
-                  return Pixtest::View{std::max(seen.visible.height() / m_settings.largestZoomHeight,
-                                                seen.visible.width() / m_settings.largestZoomWidth),
-                                       seen.isOfSubnet};
+                  return Pixtest::View{
+                      std::max(seen.visible.height() / seen.largest.height(), seen.visible.width() / seen.largest.width()),
+                      seen.isOfSubnet};
                 }) {
   m_symbols.setCovers([this](const Projection &projection) { return m_subnets.boxes(projection); });
-  m_subnets.setFilter(&m_layers, &m_visibility);
-  m_textBoxes.setFilter(&m_layers, &m_visibility);
+  m_subnets.setFilter({&m_layers, &m_visibility});
+  m_textBoxes.setFilter({&m_layers, &m_visibility});
+}
+
+void NetUpdate::tellAll(const Findings &findings) const {
+  if (m_told)
+    std::for_each(findings.begin(), findings.end(), m_told);
 }
 
 std::vector<QwtPlotItem *> NetUpdate::items() {
@@ -65,12 +71,13 @@ void NetUpdate::setLabelTable(const LabelTable &table) {
 
 const LabelContents *NetUpdate::labelContents() const {
   if (m_contents == nullptr && m_net != nullptr)
-    m_contents = std::make_unique<LabelContents>(m_labelTable, m_settings, *m_net);
+    m_contents = std::make_unique<LabelContents>(m_labelTable, m_settings, *m_net, m_told);
   return m_contents.get();
 }
 
 void NetUpdate::setFolder(const QString &folder, const QString &subnetIcons) {
-  SymbolTable table(folder + QStringLiteral("/symbols"));
+  SymbolTable table;
+  tellAll(table.read(folder + QStringLiteral("/symbols")));
   m_symbols.setTable(table);
   m_symbols.setFigureFolder(folder);
   table.setFurtherDirectory(subnetIcons);
@@ -79,10 +86,11 @@ void NetUpdate::setFolder(const QString &folder, const QString &subnetIcons) {
 
 void NetUpdate::updatePlot(Elements elements, Which which, Labels labels) {
   const bool rebuild = elements == Elements::Renewed;
-  NivraMsg::log(QStringLiteral("Updating plot - rebuild: %2, which: %3, relabel: %4 ...")
-                    .arg(int(rebuild))
-                    .arg(static_cast<int>(which))
-                    .arg(static_cast<int>(labels)));
+  tell(m_told, Finding::Severity::Information,
+       QStringLiteral("Updating plot - rebuild: %2, which: %3, relabel: %4 ...")
+           .arg(int(rebuild))
+           .arg(static_cast<int>(which))
+           .arg(static_cast<int>(labels)));
   if (m_net == nullptr)
     return;
   QElapsedTimer timer;
@@ -91,7 +99,8 @@ void NetUpdate::updatePlot(Elements elements, Which which, Labels labels) {
   const double plotUnits = m_geometry.plotUnits();
   m_values.read(*m_net, m_settings, m_geometry, rebuild);
   if (rebuild && m_geometry.unplaced() > 0)
-    NivraMsg::log(QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
+    tell(m_told, Finding::Severity::Information,
+         QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
   m_layers.read(m_geometry);
   emit scalesChanged();
   if (std::exchange(m_isNew, false) || plotUnits != m_geometry.plotUnits())
@@ -175,11 +184,11 @@ void NetUpdate::updateSymbols(bool rebuild) {
   if (rebuild) {
     m_visibility.read(m_geometry, m_labelTable);
     if (Settings::BuildSymbols.value())
-      m_symbols.setStations(m_geometry);
+      tellAll(m_symbols.setStations(m_geometry));
     else
       m_symbols.clear();
   }
-  m_subnets.setSubnets(*m_net, m_geometry); // what is known of their state may have changed
+  tellAll(m_subnets.setSubnets(*m_net, m_geometry)); // what is known of their state may have changed
   m_visibility.setExtent(seenHeight());
   showWhatIsVisible();
   m_textBoxes.setBackground(m_settings.bgrColor);
@@ -201,7 +210,7 @@ double NetUpdate::seenHeight() const {
 const std::vector<SymbolLayer::Placed> &NetUpdate::determineVisibleSymbols() const {
   QElapsedTimer timer;
   timer.start();
-  const std::vector<SymbolLayer::Placed> &symbols = m_symbols.place(projection());
+  const std::vector<SymbolLayer::Placed> &symbols = m_symbols.laidOut(projection());
   NivraMsg::debug(QStringLiteral("determineVisibleSymbols() took %1 sec.").arg(seconds(timer)));
   return symbols;
 }
@@ -313,7 +322,7 @@ std::vector<NetGeometry::Item> NetUpdate::elementsIn(const QRectF &area) const {
     if (isInside(line.x1(), line.y1()) && isInside(line.x2(), line.y2()))
       found.push_back({NetData::Edge, static_cast<int>(i)});
   }
-  const auto takePlaces = [&](NetData::EleType kind, const std::vector<NetGeometry::Place> &places) {
+  const auto takePlaces = [&](NetData::EleType kind, const std::vector<NetGeometry::PointElement> &places) {
     for (std::size_t i = 0; i < places.size(); ++i) {
       if (isDrawn({kind, static_cast<int>(i)}) && isInside(places[i].x, places[i].y))
         found.push_back({kind, static_cast<int>(i)});

@@ -20,9 +20,9 @@ constexpr std::array<QRgb, 11> BlueGreyRed{0xff053061, 0xff2166ac, 0xff4393c3, 0
 
 template <std::size_t Count>
 QRgb between(const std::array<QRgb, Count> &samples, double fraction) {
-  const double place = qBound(0.0, fraction, 1.0) * (Count - 1);
-  const auto first = std::min(static_cast<std::size_t>(place), Count - 2);
-  const double share = place - static_cast<double>(first);
+  const double step = qBound(0.0, fraction, 1.0) * (Count - 1);
+  const auto first = std::min(static_cast<std::size_t>(step), Count - 2);
+  const double share = step - static_cast<double>(first);
   const auto mix = [share](int a, int b) {
     return static_cast<int>(std::lround(a + (b - a) * share));
   };
@@ -112,12 +112,12 @@ void TableColorMap::setCaps(bool low, bool high) {
 }
 
 QRgb TableColorMap::rgb(const QwtInterval &interval, double value) const {
-  constexpr int Darker = 160;
+  constexpr int DarkerPercent = 160;
   const double tolerance = interval.width() * 1e-9;
   if (!(interval.width() > 0.0))
     return m_colors[colorIndex(interval, value)]; // one value, with nothing beyond it
   if ((m_hasLowCap && value < interval.minValue() - tolerance) || (m_hasHighCap && value > interval.maxValue() + tolerance))
-    return QColor(m_colors[colorIndex(interval, value)]).darker(Darker).rgb();
+    return QColor(m_colors[colorIndex(interval, value)]).darker(DarkerPercent).rgb();
   return m_colors[colorIndex(interval, value)];
 }
 

@@ -34,22 +34,18 @@ std::vector<double> breaksOf(const PlotSettings &settings, const DrawValues::Col
   return ClassColorMap::equalBreaks(values.range, classes);
 }
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("ColorScale", text);
-}
-
 } // namespace
 
-std::unique_ptr<HueColorMap> ColorScale::colorMap(const PlotSettings &settings, bool logarithmic) {
+std::unique_ptr<HueColorMap> ColorScale::colorMap(const PlotSettings &settings, Aspect aspect) {
   const ColorRamp ramp{settings.firstColor, settings.lastColor, settings.saturation, settings.lightness,
                        ColorRamp::kindOf(settings.colorRamp)};
-  if (logarithmic)
+  if (settings.functions[aspect].isLogarithmic)
     return std::make_unique<LogarithmicColorMap>(ramp, settings.logFactor);
   return std::make_unique<HueColorMap>(ramp);
 }
 
 std::unique_ptr<QwtColorMap> ColorScale::edgeColors(const PlotSettings &settings, const DrawValues::Column &values) {
-  std::unique_ptr<HueColorMap> map = colorMap(settings, settings.logScaleColor);
+  std::unique_ptr<HueColorMap> map = colorMap(settings, Aspect::EdgeColor);
   std::vector<double> breaks = breaksOf(settings, values);
   if (!breaks.empty())
     return std::make_unique<ClassColorMap>(std::move(breaks), *map);
@@ -59,31 +55,32 @@ std::unique_ptr<QwtColorMap> ColorScale::edgeColors(const PlotSettings &settings
 }
 
 bool ColorScale::isShared(const PlotSettings &settings, const DrawValues &values) {
-  const DrawValues::Column &edges = values.edgeColor();
-  const DrawValues::Column &nodes = values.nodeColor();
+  const DrawValues::Column &edges = values.of(Aspect::EdgeColor);
+  const DrawValues::Column &nodes = values.of(Aspect::NodeColor);
   if (!edges.isAny() || !nodes.isAny() || !edges.function.shows(nodes.function))
     return false;
-  return settings.colorClasses > 1 || (edges.range == nodes.range && settings.logScaleColor == settings.logScaleNodeColor);
+  return settings.colorClasses > 1 ||
+         (edges.range == nodes.range &&
+          settings.functions[Aspect::EdgeColor].isLogarithmic == settings.functions[Aspect::NodeColor].isLogarithmic);
 }
 
 std::unique_ptr<QwtColorMap> ColorScale::nodeColors(const PlotSettings &settings, const DrawValues &values) {
   if (isShared(settings, values))
-    return edgeColors(settings, values.edgeColor());
-  auto table = std::make_unique<TableColorMap>(colorMap(settings, settings.logScaleNodeColor));
+    return edgeColors(settings, values.of(Aspect::EdgeColor));
+  auto table = std::make_unique<TableColorMap>(colorMap(settings, Aspect::NodeColor));
   table->setCaps(true, true);
   return table;
 }
 
 QString ColorScale::legendText(const PlotSettings &settings, const DrawValues *values, Subject subject) {
   if (subject == Subject::SearchResults)
-    return QStringLiteral("Color: ") + tr("search results");
-  const auto line = [](const char *what, bool absolute, const QString &function) {
-    return QLatin1String(what) + (absolute ? QStringLiteral("abs. ") : QString()) + function;
-  };
+    return QStringLiteral("Color: ") + QCoreApplication::translate("ColorScale", "search results");
   QStringList lines;
-  if (values == nullptr || values->edgeColor().isAny())
-    lines.append(line("Color: ", settings.absColor, settings.colorFunc));
-  if (values == nullptr || values->edgeWidth().isAny())
-    lines.append(line("Width: ", settings.absWidth, settings.widthFunc));
+  for (const Aspect aspect : {Aspect::EdgeColor, Aspect::EdgeWidth}) {
+    const PlotSettings::Function &function = settings.functions[aspect];
+    if (values == nullptr || values->of(aspect).isAny())
+      lines.append((isColor(aspect) ? QStringLiteral("Color: ") : QStringLiteral("Width: ")) +
+                   (function.isAbsolute ? QStringLiteral("abs. ") : QString()) + function.name);
+  }
   return lines.join(QLatin1Char('\n'));
 }

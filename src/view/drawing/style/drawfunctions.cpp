@@ -11,7 +11,7 @@ namespace {
 
 /// Whether the property tells elements of the collection apart, judged by the first ones that have it.
 bool varies(const NetData &net, const elements &collection, const QString &property) {
-  constexpr int Enough = 2000;
+  constexpr int MostValues = 2000;
   const PropertyKey key = PropertyKey::find(property);
   if (key.isNull())
     return false;
@@ -25,7 +25,7 @@ bool varies(const NetData &net, const elements &collection, const QString &prope
       first = value;
     else if (value != first)
       return true;
-    if (++asked > Enough)
+    if (++asked > MostValues)
       break;
   }
   return false;
@@ -39,10 +39,6 @@ QString firstThatVaries(const NetData &net, const elements &collection, std::ini
   }
   return QString();
 }
-
-} // namespace
-
-namespace {
 
 struct NamedFunction {
   const char *name;
@@ -103,8 +99,8 @@ bool isNoQuantity(const NetMetaData &metaData, const QString &property) {
 /// passed over.
 void addNumeric(const elements &collection, std::set<PropertyKey> &numeric) {
   static const PropertyKey type = PropertyKey::intern("type");
-  constexpr int Patience = 500;
-  std::vector<int> asked; // by spelling: how often in vain, and Patience once it has said a number
+  constexpr int MostTries = 500;
+  std::vector<int> asked; // by spelling: how often in vain, and MostTries once it has said a number
   for (const elements::Entry &entry : collection) {
     const PropertyText *code = entry.value.find(type);
     if (code != nullptr && code->utf8() == "d")
@@ -113,12 +109,12 @@ void addNumeric(const elements &collection, std::set<PropertyKey> &numeric) {
       if (property.key.index() >= asked.size())
         asked.resize(property.key.index() + 1, 0);
       int &count = asked[property.key.index()];
-      if (count >= Patience)
+      if (count >= MostTries)
         continue;
       ++count;
       if (NetData::number(&property.value) == NetData::NoValue)
         continue;
-      count = Patience;
+      count = MostTries;
       numeric.insert(property.key);
     }
   }
@@ -197,17 +193,18 @@ void chooseDefaults(PlotSettings &settings, const NetData &net) {
   const QString ofNodes = firstThatVaries(net, net.nodes(), {"p", "height"});
   const QString ofEdges = firstThatVaries(net, net.edges(), {"q", "m", "diameter", "length"});
   const QString width = firstThatVaries(net, net.edges(), {"diameter", "q", "m"});
-  settings.colorFunc = ofNodes == QLatin1String("p") || ofEdges.isEmpty() ? ofNodes : ofEdges;
-  settings.nodeColorFunc = ofNodes;
-  settings.widthFunc = width;
+  const QString color = ofNodes == QLatin1String("p") || ofEdges.isEmpty() ? ofNodes : ofEdges;
+  settings.functions[Aspect::EdgeColor].name = color;
+  settings.functions[Aspect::EdgeWidth].name = width;
+  settings.functions[Aspect::NodeColor].name = ofNodes;
   constexpr int BottomLeft = 2;
-  settings.legendPos = settings.colorFunc.isEmpty() ? 0 : BottomLeft;
+  settings.legendPos = color.isEmpty() ? 0 : BottomLeft;
   // High values warm, as people expect of pressures; a darker ramp keeps yellow and cyan readable on white.
-  constexpr int Blue = 240;
-  constexpr int Darker = 215;
-  settings.firstColor = Blue;
+  constexpr int BlueHue = 240;
+  constexpr int DarkerLightness = 215;
+  settings.firstColor = BlueHue;
   settings.lastColor = 0;
-  settings.lightness = Darker;
-  constexpr int Dense = 4; // px: people want to see many labels, and these have a ground of their own
-  settings.labelMargin = Dense;
+  settings.lightness = DarkerLightness;
+  constexpr int DenseLabels = 4; // px: people want to see many labels, and these have a ground of their own
+  settings.labelMargin = DenseLabels;
 }

@@ -1,4 +1,5 @@
 #include "geometry/drawngraph.h"
+#include "geometry/geometryreader.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,10 +25,10 @@ QwtInterval rangeOf(const std::vector<double> &values) {
 
 /// What separates values that people would call the same: solvers leave noise.
 bool isOneValue(const QwtInterval &data, const Units::Linear &toDisplay) {
-  constexpr double Share = 1e-3;
+  constexpr double NoiseShare = 1e-3;
   const double low = toDisplay(data.minValue());
   const double high = toDisplay(data.maxValue());
-  return std::abs(high - low) <= Share * std::max(std::abs(low), std::abs(high));
+  return std::abs(high - low) <= NoiseShare * std::max(std::abs(low), std::abs(high));
 }
 
 /// About zero, so that both signs have their own colours.
@@ -38,8 +39,10 @@ QwtInterval centred(const QwtInterval &range) {
 
 /// The data's range with fixed bounds in its place. An open bound beside a fixed one that lies beyond all data keeps the
 /// width that the data have. Bounds that are no numbers, or upside down, are not taken.
-QwtInterval rangeWithin(const DrawValues::Column &column, double minimum, double maximum, bool isCentred) {
+QwtInterval rangeWithin(const DrawValues::Column &column, const PlotSettings::Function &settings, bool isCentred) {
   const QwtInterval &data = column.data;
+  const double minimum = settings.minimum;
+  const double maximum = settings.maximum;
   if (!data.isValid())
     return data;
   const bool hasMinimum = std::isfinite(minimum) && minimum > PlotSettings::OpenMinimum;
@@ -67,8 +70,8 @@ QwtInterval rangeWithin(const DrawValues::Column &column, double minimum, double
 std::vector<double> ofGraph(const DrawFunction &function, const NetGeometry &geometry) {
   if (function.computed == Computed::Connectivity)
     return DrawnGraph(geometry).components();
-  const NetGeometry::Request lengths{{{PropertyKey::intern("length"), true}}, {}};
-  return DrawnGraph(geometry).distances(geometry.values(lengths).ofEdges.front());
+  const ValueRequest lengths{{{PropertyKey::intern("length"), true}}, {}};
+  return DrawnGraph(geometry).distances(GeometryReader::readValues(geometry, lengths).ofEdges.front());
 }
 
 /// Drives are nodes, but none that is drawn as one: what they say must not stretch the scale of the others.
@@ -80,7 +83,7 @@ void forgetDrives(const NetGeometry &geometry, std::vector<double> &column) {
 }
 
 /// Gives edges without a value what their ends say: the end where the gas enters, or the first less the second.
-void takeFromEnds(const DrawFunction &function, bool absolute, const NetGeometry &geometry,
+void readFromEnds(const DrawFunction &function, bool absolute, const NetGeometry &geometry,
                   const std::vector<double> &ofEnds, const std::vector<double> &flow, std::vector<double> &column) {
   const auto at = [&ofEnds](int node) {
     return node < 0 ? NetData::NoValue : ofEnds[static_cast<std::size_t>(node)];
@@ -100,82 +103,88 @@ void takeFromEnds(const DrawFunction &function, bool absolute, const NetGeometry
   }
 }
 
-enum EdgeColumns { EdgeColor, EdgeWidth, Flow };
-enum NodeColumns { NodeColor, NodeSize, EndsOfColor, EndsOfWidth };
+/// Columns of a request: edges say colour, width and flow; nodes say colour, size and what edges make of their ends.
+constexpr std::size_t FlowColumn = 2;
+
+constexpr std::size_t columnOf(Aspect aspect) {
+  return isColor(aspect) ? 0 : 1;
+}
+
+constexpr std::size_t columnOfEnds(Aspect aspectOfEdges) {
+  return 2 + columnOf(aspectOfEdges);
+}
 
 /// Colours of edges and nodes come from one property: it is read once.
 bool isOneColor(const PlotSettings &s) {
-  return s.nodeColorFunc == s.colorFunc && s.absNodeColor == s.absColor;
+  const PlotSettings::Function &edges = s.functions[Aspect::EdgeColor];
+  const PlotSettings::Function &nodes = s.functions[Aspect::NodeColor];
+  return nodes.name == edges.name && nodes.isAbsolute == edges.isAbsolute;
 }
 
 } // namespace
 
+ValueRequest DrawValues::request(const PlotSettings &s) const {
+  ValueRequest request;
+  for (const Aspect aspect : AllAspects) {
+    const bool isReadAlready = aspect == Aspect::NodeColor && isOneColor(s);
+    (isOfEdges(aspect) ? request.ofEdges : request.ofNodes)
+        .push_back({isReadAlready ? PropertyKey() : of(aspect).function.property, s.functions[aspect].isAbsolute});
+  }
+  request.ofEdges.push_back({PropertyKey::find(s.edgeShowFlow), false});
+  for (const Aspect aspect : {Aspect::EdgeColor, Aspect::EdgeWidth})
+    request.ofNodes.push_back({of(aspect).function.ofEnds, false});
+  return request;
+}
+
 void DrawValues::read(const NetData &net, const PlotSettings &s, NetGeometry &geometry, bool rebuild) {
-  const auto find = [&net](const QString &function) {
-    return function == PlotSettings::fixedSize() ? DrawFunction() : DrawFunction::find(function, net);
-  };
-  m_edgeColor.function = find(s.colorFunc);
-  m_edgeWidth.function = find(s.widthFunc);
-  m_nodeColor.function = find(s.nodeColorFunc);
-  m_nodeSize.function = find(s.nodeSizeFunc);
-  const NetGeometry::Request request{{{m_edgeColor.function.property, s.absColor},
-                                      {m_edgeWidth.function.property, s.absWidth},
-                                      {PropertyKey::find(s.edgeShowFlow), false}},
-                                     {{isOneColor(s) ? PropertyKey() : m_nodeColor.function.property, s.absNodeColor},
-                                      {m_nodeSize.function.property, s.absNodeSize},
-                                      {m_edgeColor.function.ofEnds, false},
-                                      {m_edgeWidth.function.ofEnds, false}}};
-  NetGeometry::Values values = rebuild ? geometry.build(net, request) : geometry.values(request);
+  for (const Aspect aspect : AllAspects) {
+    const QString &name = s.functions[aspect].name;
+    m_columns[aspect].function = name == PlotSettings::fixedSize() ? DrawFunction() : DrawFunction::find(name, net);
+  }
+  ElementValues values =
+      rebuild ? GeometryReader::read(net, request(s), geometry) : GeometryReader::readValues(geometry, request(s));
   compute(geometry, s, values);
-  take(values, s);
-  m_flow = std::move(values.ofEdges[Flow]);
+  setColumns(values, s);
+  m_flow = std::move(values.ofEdges[FlowColumn]);
   m_flowSize = m_flow;
   for (double &flow : m_flowSize)
     flow = flow == NetData::NoValue ? flow : std::abs(flow);
 }
 
 /// What the elements carry themselves counts more than what can be computed.
-void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, NetGeometry::Values &values) const {
-  const auto computeNodes = [&](const DrawFunction &function, std::vector<double> &column) {
-    if (function.isOfGraph() && !rangeOf(column).isValid())
-      column = ofGraph(function, geometry);
-  };
-  const auto computeEdges = [&](const DrawFunction &function, std::size_t column, std::size_t ofEnds, bool absolute) {
-    if (!function.ofEnds.isNull())
-      takeFromEnds(function, absolute, geometry, values.ofNodes[ofEnds], values.ofEdges[Flow], values.ofEdges[column]);
-    if (!function.isOfGraph() || rangeOf(values.ofEdges[column]).isValid())
-      return;
-    values.ofEnds[column] = ofGraph(function, geometry);
-    geometry.takeMeans(values.ofEnds[column], values.ofEdges[column]);
-  };
-  computeEdges(m_edgeColor.function, EdgeColor, EndsOfColor, s.absColor);
-  computeEdges(m_edgeWidth.function, EdgeWidth, EndsOfWidth, s.absWidth);
-  if (isOneColor(s))
-    values.ofNodes[NodeColor] = values.ofEnds[EdgeColor];
-  else
-    computeNodes(m_nodeColor.function, values.ofNodes[NodeColor]);
-  computeNodes(m_nodeSize.function, values.ofNodes[NodeSize]);
-  for (std::vector<double> *column :
-       {&values.ofNodes[NodeColor], &values.ofNodes[NodeSize], &values.ofEnds[EdgeColor], &values.ofEnds[EdgeWidth]})
-    forgetDrives(geometry, *column);
+void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, ElementValues &values) const {
+  for (const Aspect aspect : AllAspects) {
+    const DrawFunction &function = of(aspect).function;
+    const std::size_t column = columnOf(aspect);
+    if (isOfEdges(aspect)) {
+      if (!function.ofEnds.isNull())
+        readFromEnds(function, s.functions[aspect].isAbsolute, geometry, values.ofNodes[columnOfEnds(aspect)],
+                     values.ofEdges[FlowColumn], values.ofEdges[column]);
+      if (function.isOfGraph() && !rangeOf(values.ofEdges[column]).isValid()) {
+        values.ofEnds[column] = ofGraph(function, geometry);
+        std::transform(geometry.edges().begin(), geometry.edges().end(), values.ofEdges[column].begin(),
+                       [&](const NetGeometry::Edge &edge) { return NetGeometry::meanOfEnds(edge, values.ofEnds[column]); });
+      }
+      continue;
+    }
+    if (aspect == Aspect::NodeColor && isOneColor(s))
+      values.ofNodes[column] = values.ofEnds[columnOf(Aspect::EdgeColor)];
+    else if (function.isOfGraph() && !rangeOf(values.ofNodes[column]).isValid())
+      values.ofNodes[column] = ofGraph(function, geometry);
+  }
+  for (const Aspect aspect : AllAspects)
+    forgetDrives(geometry, (isOfEdges(aspect) ? values.ofEnds : values.ofNodes)[columnOf(aspect)]);
 }
 
-void DrawValues::take(NetGeometry::Values &values, const PlotSettings &s) {
+void DrawValues::setColumns(ElementValues &values, const PlotSettings &s) {
   const bool isDiverging = ColorRamp::kindOf(s.colorRamp) == ColorRamp::Kind::Diverging;
-  const auto takeColumn = [](Column &column, std::vector<double> &own, const std::vector<double> &rangeFrom, double minimum,
-                             double maximum, bool isCentred) {
-    column.data = rangeOf(rangeFrom);
-    column.range = rangeWithin(column, minimum, maximum, isCentred);
+  for (const Aspect aspect : AllAspects) {
+    Column &column = m_columns[aspect];
+    std::vector<double> &own = (isOfEdges(aspect) ? values.ofEdges : values.ofNodes)[columnOf(aspect)];
+    // The nodes' own range, so that nodes and edges coloured by one function share their colours.
+    const bool isRangeOfEnds = isOfEdges(aspect) && (column.function.isOfNodes || column.function.isOfGraph());
+    column.data = rangeOf(isRangeOfEnds ? values.ofEnds[columnOf(aspect)] : own);
+    column.range = rangeWithin(column, s.functions[aspect], isColor(aspect) && isDiverging);
     column.ofElements = std::move(own);
-  };
-  // The nodes' own range, so that nodes and edges coloured by one function share their colours.
-  const auto ofEdges = [&values](const Column &column, std::size_t place) -> const std::vector<double> & {
-    return column.function.isOfNodes || column.function.isOfGraph() ? values.ofEnds[place] : values.ofEdges[place];
-  };
-  takeColumn(m_edgeColor, values.ofEdges[EdgeColor], ofEdges(m_edgeColor, EdgeColor), s.minVal_edgeColor, s.maxVal_edgeColor,
-             isDiverging);
-  takeColumn(m_edgeWidth, values.ofEdges[EdgeWidth], ofEdges(m_edgeWidth, EdgeWidth), s.minVal_Width, s.maxVal_Width, false);
-  takeColumn(m_nodeColor, values.ofNodes[NodeColor], values.ofNodes[NodeColor], s.minVal_nodeColor, s.maxVal_nodeColor,
-             isDiverging);
-  takeColumn(m_nodeSize, values.ofNodes[NodeSize], values.ofNodes[NodeSize], s.minVal_nodeSize, s.maxVal_nodeSize, false);
+  }
 }

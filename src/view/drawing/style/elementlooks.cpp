@@ -28,10 +28,10 @@ void ElementLooks::hide(NetData::EleType kind, std::vector<Look> &looks) const {
 
 std::vector<EdgeLook> ElementLooks::edges() const {
   constexpr double WidthSpan = 4.0; // px that the width function adds at most, at magnification 1
-  const DrawValues::Column &colors = m_values.edgeColor();
-  const DrawValues::Column &widths = m_values.edgeWidth();
+  const DrawValues::Column &colors = m_values.of(Aspect::EdgeColor);
+  const DrawValues::Column &widths = m_values.of(Aspect::EdgeWidth);
   const std::vector<double> &flow = m_values.flow();
-  const auto widthMap = ColorScale::colorMap(m_settings, m_settings.logScaleWidth);
+  const auto widthMap = ColorScale::colorMap(m_settings, Aspect::EdgeWidth);
   const auto table = ColorScale::edgeColors(m_settings, colors);
 
   std::vector<EdgeLook> looks(m_geometry.edges().size());
@@ -63,12 +63,11 @@ std::vector<EdgeLook> ElementLooks::edges() const {
 }
 
 std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
-  const PlotSettings &s = m_settings;
-  const DrawValues::Column &colors = m_values.nodeColor();
-  const DrawValues::Column &sizes = m_values.nodeSize();
-  const auto sizeMap = ColorScale::colorMap(s, s.logScaleNodeSize);
-  const auto table = ColorScale::nodeColors(s, m_values);
-  const bool isColored = byFunction && m_values.colorsNodes();
+  const DrawValues::Column &colors = m_values.of(Aspect::NodeColor);
+  const DrawValues::Column &sizes = m_values.of(Aspect::NodeSize);
+  const auto sizeMap = ColorScale::colorMap(m_settings, Aspect::NodeSize);
+  const auto table = ColorScale::nodeColors(m_settings, m_values);
+  const bool isColored = byFunction && colors.isAny();
   constexpr double SmallestShare = 0.5; // of the magnification, and the largest four times as large
   constexpr double ShareSpan = 1.5;
 
@@ -93,7 +92,7 @@ std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
 }
 
 std::vector<ColorScale::Swatch> ElementLooks::swatches() const {
-  const std::vector<double> &values = m_values.edgeColor().ofElements;
+  const std::vector<double> &values = m_values.of(Aspect::EdgeColor).ofElements;
   const std::vector<double> &flow = m_values.flow();
   bool lacksValue = false;
   bool lacksFlow = false;
@@ -117,7 +116,7 @@ std::vector<ColorScale::Swatch> ElementLooks::swatches() const {
 
 std::vector<bool> ElementLooks::searchResults(NetData::EleType kind) const {
   static const PropertyKey key = PropertyKey::intern("isSearchResult");
-  const std::size_t count = kind == NetData::Edge ? m_geometry.edges().size() : m_geometry.nodes().size();
+  const std::size_t count = m_geometry.count(kind);
   std::vector<bool> found(count);
   for (std::size_t i = 0; i < count; ++i) {
     const PropertyText *text = m_geometry.source({kind, static_cast<int>(i)})->find(key);

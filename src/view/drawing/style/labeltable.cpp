@@ -1,4 +1,3 @@
-#include <base/nivramsg.h>
 #include <base/wholefile.h>
 #include <model/elementtypes.h>
 #include <model/netdata.h>
@@ -70,20 +69,20 @@ public:
     return !line.isNull();
   }
   /// A line that is still to come, 0 for the next one.
-  QString ahead(int place) {
-    while (m_ahead.size() <= place)
+  QString ahead(int index) {
+    while (m_ahead.size() <= index)
       m_ahead.append(read());
-    return m_ahead.at(place);
+    return m_ahead.at(index);
   }
 
 private:
   QString read() {
-    constexpr qint64 Longest = 1 << 16;
-    return m_stream.readLine(Longest);
+    constexpr qint64 LongestLine = 1 << 16;
+    return m_stream.readLine(LongestLine);
   }
 
   QTextStream m_stream;
-  QStringList m_ahead; ///< looked at, and not taken yet
+  QStringList m_ahead; ///< read ahead of what was asked for
 };
 
 bool readCells(Lines &lines, LabelRow &row, int first = 0) {
@@ -106,9 +105,9 @@ bool skip(Lines &lines, int count) {
   return true;
 }
 
-/// Whether the row that comes next stands for the type. \param place of its first line among those to come
-bool isOfType(Lines &lines, int place, const LabelRow &type) {
-  return lines.ahead(place + LabelRow::Short).compare(type[LabelRow::Short], Qt::CaseInsensitive) == 0;
+/// Whether a row that is still to come stands for the type. \param firstLine of it, among the lines to come
+bool isOfType(Lines &lines, int firstLine, const LabelRow &type) {
+  return lines.ahead(firstLine + LabelRow::Short).compare(type[LabelRow::Short], Qt::CaseInsensitive) == 0;
 }
 
 /// Passes over masters in front of a row. False when one of them stands in the row's place, which then has no other: it has
@@ -125,50 +124,50 @@ bool skipMasters(Lines &lines, const LabelRow &type) {
   return true;
 }
 
-void stopped(const QString &what, const QString &path) {
-  NivraMsg::logWarning(QStringLiteral("EOF while reading %1 in file ").arg(what) + path + QStringLiteral("! Stopped!"));
+Finding information(const QString &text) {
+  return {Finding::Severity::Information, {}, 0, text, {}};
 }
 
-void readTemplates(Lines &lines, const QString &path, LabelTable &table) {
-  constexpr std::size_t Most = 1000;
+Finding warning(const QString &text) {
+  return {Finding::Severity::Warning, {}, 0, text, {}};
+}
+
+/// Reading stops where the file ends before its time.
+Finding endedIn(const QString &what, const QString &path) {
+  return warning(QStringLiteral("EOF while reading %1 in file ").arg(what) + path + QStringLiteral("! Stopped!"));
+}
+
+Finding readTemplates(Lines &lines, const QString &path, LabelTable &table) {
+  constexpr std::size_t MostTemplates = 1000;
   table.templates.clear();
   QString first;
-  while (table.templates.size() < Most && lines.next(first)) {
+  while (table.templates.size() < MostTemplates && lines.next(first)) {
     LabelRow row;
     row[LabelRow::LongName] = first;
     QString shortName;
     if (!lines.next(shortName) || !readCells(lines, row, LabelRow::Size))
-      return stopped(QStringLiteral("template"), path);
+      return endedIn(QStringLiteral("template"), path);
     row[LabelRow::Short] = shortName;
     if (!lines.next(row.icon))
-      return stopped(QStringLiteral("template icon data"), path);
+      return endedIn(QStringLiteral("template icon data"), path);
     table.templates.push_back(row);
   }
-  NivraMsg::log(QStringLiteral("Number of eleSymLabel-templates: %1").arg(table.templates.size()));
+  return information(QStringLiteral("Number of eleSymLabel-templates: %1").arg(table.templates.size()));
 }
 
-void readRows(Lines &lines, const QString &path, LabelTable &table) {
-  QString version;
-  if (!lines.next(version)) {
-    NivraMsg::logWarning(QStringLiteral("EOF while reading version (first line) in file ") + path +
-                         QStringLiteral("! Stopped!"));
-    return;
-  }
-  const bool ignoresMasters = version != LabelTableFile::version();
-  if (ignoresMasters)
-    NivraMsg::log(QStringLiteral("Version of vfd file: ") + version +
-                  QStringLiteral(", entries for masters are ignored.\nPlease perform apply and save"));
+/// Reads the rows of the types, then the templates. Returns how it ended.
+Finding readRows(Lines &lines, bool ignoresMasters, const QString &path, LabelTable &table) {
   if (!skip(lines, LabelRow::Columns))
-    return stopped(QStringLiteral("header"), path);
+    return endedIn(QStringLiteral("header"), path);
   for (LabelRow &type : table.types) {
     if (ignoresMasters && !skipMasters(lines, type))
       continue;
     LabelRow row = type; // half a row counts for nothing
     if (!readCells(lines, row))
-      return stopped(QStringLiteral("type data"), path);
+      return endedIn(QStringLiteral("type data"), path);
     type = row;
   }
-  readTemplates(lines, path, table);
+  return readTemplates(lines, path, table);
 }
 
 /// A cell is a line: what would end it becomes a blank.
@@ -182,22 +181,27 @@ QString LabelTableFile::version() {
   return QStringLiteral("vfd 1");
 }
 
-bool LabelTableFile::read(const QString &path, LabelTable &table, FileAccess::Source source) {
-  if (!QFile::exists(path)) {
-    NivraMsg::log(QStringLiteral("### Settings file ") + path + QStringLiteral(" not found!"));
-    return false;
-  }
+LabelTableFile::Reading LabelTableFile::read(const QString &path, LabelTable &table, FileAccess::Source source) {
+  if (!QFile::exists(path))
+    return {false, {information(QStringLiteral("### Settings file ") + path + QStringLiteral(" not found!"))}};
   QString reason;
   const std::optional<QByteArray> text = FileAccess::readWhole(path, source, FileAccess::LargestConfiguration, &reason);
-  if (!text) {
-    NivraMsg::logWarning(QStringLiteral("### Could not open settings file ") + path);
-    NivraMsg::logWarning(reason);
-    return false;
-  }
-  NivraMsg::log(QStringLiteral("... loading settings file ") + path);
+  if (!text)
+    return {false, {warning(QStringLiteral("### Could not open settings file ") + path), warning(reason)}};
+  Reading reading{true, {information(QStringLiteral("... loading settings file ") + path)}};
   Lines lines(*text);
-  readRows(lines, path, table);
-  return true;
+  QString fileVersion;
+  if (!lines.next(fileVersion)) {
+    reading.findings.push_back(endedIn(QStringLiteral("version (first line)"), path));
+    return reading;
+  }
+  const bool ignoresMasters = fileVersion != version();
+  if (ignoresMasters)
+    reading.findings.push_back(
+        information(QStringLiteral("Version of vfd file: ") + fileVersion +
+                    QStringLiteral(", entries for masters are ignored.\nPlease perform apply and save")));
+  reading.findings.push_back(readRows(lines, ignoresMasters, path, table));
+  return reading;
 }
 
 bool LabelTableFile::write(const QString &path, const LabelTable &table, QString *error) {

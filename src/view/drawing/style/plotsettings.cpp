@@ -3,9 +3,9 @@
 
 namespace {
 
-auto functions(const PlotSettings &s) {
-  return std::tie(s.edgeShowFlow, s.colorFunc, s.widthFunc, s.nodeColorFunc, s.nodeSizeFunc, s.colorScalePos, s.legendPos,
-                  s.label_mode, s.fixAxesRatio, s.showXYaxes, s.zoomFact, s.alphaSubnet, s.layerProp);
+auto shown(const PlotSettings &s) {
+  return std::tie(s.functions, s.edgeShowFlow, s.colorScalePos, s.legendPos, s.label_mode, s.fixAxesRatio, s.showXYaxes,
+                  s.zoomFact, s.alphaSubnet, s.layerProp);
 }
 
 auto magnitudes(const PlotSettings &s) {
@@ -17,34 +17,17 @@ auto colors(const PlotSettings &s) {
                   s.nodeLabelsColor, s.edgeColorInactive, s.edgeColorNoFlow, s.gridMajorColor, s.gridMinorColor);
 }
 
-auto scales(const PlotSettings &s) {
-  return std::tie(s.absColor, s.absWidth, s.absNodeColor, s.absNodeSize, s.logScaleColor, s.logScaleWidth,
-                  s.logScaleNodeColor, s.logScaleNodeSize);
-}
-
-auto bounds(const PlotSettings &s) {
-  return std::tie(s.minVal_edgeColor, s.maxVal_edgeColor, s.minVal_nodeColor, s.maxVal_nodeColor, s.minVal_Width,
-                  s.maxVal_Width, s.minVal_nodeSize, s.maxVal_nodeSize);
-}
-
 auto drawing(const PlotSettings &s) {
-  return std::tie(s.colorRamp, s.colorClasses, s.classMethod, s.classBreaks, s.typedBounds, s.showGrid);
-}
-
-auto zoomLimits(const PlotSettings &s) {
-  return std::tie(s.smallestZoomWidth, s.smallestZoomHeight, s.largestZoomWidth, s.largestZoomHeight);
+  return std::tie(s.colorRamp, s.colorClasses, s.classMethod, s.classBreaks, s.showGrid);
 }
 
 } // namespace
 
-void PlotSettings::takeZoomLimits(const PlotSettings &other) {
-  smallestZoomWidth = other.smallestZoomWidth;
-  smallestZoomHeight = other.smallestZoomHeight;
-  largestZoomWidth = other.largestZoomWidth;
-  largestZoomHeight = other.largestZoomHeight;
+bool operator==(const PlotSettings::Function &a, const PlotSettings::Function &b) {
+  return std::tie(a.name, a.isAbsolute, a.isLogarithmic, a.minimum, a.maximum, a.typed) ==
+         std::tie(b.name, b.isAbsolute, b.isLogarithmic, b.minimum, b.maximum, b.typed);
 }
 
 bool operator==(const PlotSettings &a, const PlotSettings &b) {
-  return functions(a) == functions(b) && magnitudes(a) == magnitudes(b) && colors(a) == colors(b) &&
-         scales(a) == scales(b) && drawing(a) == drawing(b) && bounds(a) == bounds(b) && zoomLimits(a) == zoomLimits(b);
+  return shown(a) == shown(b) && magnitudes(a) == magnitudes(b) && colors(a) == colors(b) && drawing(a) == drawing(b);
 }

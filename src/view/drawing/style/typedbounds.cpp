@@ -2,37 +2,41 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <drawing/drawfunctions.h>
 #include <drawing/typedbounds.h>
 
-QString TypedBounds::key(const QString &function) {
-  return DrawFunction::propertyName(function.trimmed()).toLower();
+QString TypedBounds::aspectKey(Aspect aspect) {
+  static const PerAspect<QString> Keys{{QStringLiteral("colorFunc"), QStringLiteral("widthFunc"),
+                                        QStringLiteral("nodeColorFunc"), QStringLiteral("nodeSizeFunc")}};
+  return Keys[aspect];
 }
 
-TypedBounds::OfSettings TypedBounds::read(const QString &text) {
-  enum { Setting, Property, Minimum, Maximum, Unit, Fields };
-  constexpr int Most = 1000;
-  OfSettings bounds;
+PerAspect<TypedBounds::OfFunctions> TypedBounds::read(const QString &text) {
+  enum { AspectKey, Property, Minimum, Maximum, Unit, Fields };
+  constexpr int MostEntries = 1000;
+  PerAspect<OfFunctions> bounds{};
   int count = 0;
   for (const QString &entry : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
     QStringList fields = entry.split(QLatin1Char('|'));
-    if (fields.size() != Fields || ++count > Most)
+    if (fields.size() != Fields || ++count > MostEntries)
       continue;
     for (QString &field : fields)
       field = QUrl::fromPercentEncoding(field.toUtf8());
-    bounds[fields[Setting]].insert(fields[Property], {fields[Minimum], fields[Maximum], fields[Unit]});
+    for (const Aspect aspect : AllAspects) {
+      if (fields[AspectKey] == aspectKey(aspect))
+        bounds[aspect].insert(fields[Property], {fields[Minimum], fields[Maximum], fields[Unit]});
+    }
   }
   return bounds;
 }
 
-QString TypedBounds::written(const OfSettings &bounds) {
+QString TypedBounds::written(const PerAspect<OfFunctions> &bounds) {
   QStringList entries;
-  for (const auto &[setting, functions] : bounds) {
-    QStringList properties = functions.keys();
+  for (const Aspect aspect : AllAspects) {
+    QStringList properties = bounds[aspect].keys();
     std::sort(properties.begin(), properties.end());
     for (const QString &property : qAsConst(properties)) {
-      const TypedBounds &typed = functions[property];
-      QStringList fields{setting, property, typed.minimum, typed.maximum, typed.unit};
+      const TypedBounds typed = bounds[aspect].value(property);
+      QStringList fields{aspectKey(aspect), property, typed.minimum, typed.maximum, typed.unit};
       for (QString &field : fields)
         field = QString::fromLatin1(QUrl::toPercentEncoding(field));
       entries.append(fields.join(QLatin1Char('|')));

@@ -6,9 +6,9 @@ constexpr double SmallestThreshold = 1e-10;
 constexpr double NoThreshold = 1e10;
 constexpr double SymbolFactor = 1.5; // up to so many thresholds the symbol alone is shown
 
-double thresholdOf(const QStringList &numbers, int place) {
+double thresholdOf(const QStringList &numbers, int index) {
   bool isNumber = false;
-  const double number = numbers.value(place).trimmed().toDouble(&isNumber);
+  const double number = numbers.value(index).trimmed().toDouble(&isNumber);
   return isNumber && number > SmallestThreshold ? number : NoThreshold;
 }
 
@@ -52,20 +52,12 @@ void VisibilityRules::read(const NetGeometry &geometry, const LabelTable &table)
     return; // as in most networks
   static const PropertyKey zoom = PropertyKey::intern("vis.zoom");
   static const PropertyKey type = PropertyKey::intern("type");
-  const auto take = [&](NetData::EleType kind, std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i) {
-      const NetGeometry::Item item{kind, static_cast<int>(i)};
-      const element &source = *geometry.source(item);
-      if (const PropertyText *own = source.find(vis))
-        add(item, own->toString(), source.value(zoom));
-      else if (!autoTypes.isEmpty() && autoTypes.contains(source.value(type)))
-        add(item, QStringLiteral("auto"), source.value(zoom));
-    }
-  };
-  take(NetData::Node, geometry.nodes().size());
-  take(NetData::Edge, geometry.edges().size());
-  take(NetData::AssembledSubnet, geometry.subnets().size());
-  take(NetData::TextBox, geometry.textBoxes().size());
+  geometry.forEachItem([&](NetGeometry::Item item, const element &source) {
+    if (const PropertyText *own = source.find(vis))
+      add(item, own->toString(), source.value(zoom));
+    else if (!autoTypes.isEmpty() && autoTypes.contains(source.value(type)))
+      add(item, QStringLiteral("auto"), source.value(zoom));
+  });
   for (auto item = m_items.cbegin(); item != m_items.cend(); ++item) {
     const auto known = before.m_items.constFind(item.key());
     Rule &rule = m_rules[static_cast<std::size_t>(item.value())];

@@ -1,7 +1,5 @@
 #include "symbols/picturefile.h"
 
-#include <base/nivramsg.h>
-
 #include <QDir>
 #include <QFontMetricsF>
 
@@ -20,41 +18,35 @@ struct Keys {
   bool areUsed() const { return !file.isNull() || !character.isNull(); }
 };
 
-constexpr double Longest = 4000.0; // px
+constexpr double LongestSide = 4000.0; // px
 
-/// Of pixels, 0 when there is none of a bearable size.
+/// In pixels, 0 when the element has none.
 double lengthOf(const element &source, PropertyKey key) {
   const double length = NetData::number(source.find(key));
-  return length > 0.0 ? std::min(length, Longest) : 0.0;
+  return length > 0.0 ? std::min(length, LongestSide) : 0.0;
 }
 
 } // namespace
 
-void Figures::read(const NetGeometry &geometry) {
+Findings Figures::read(const NetGeometry &geometry) {
+  Findings findings;
   clear();
   const Keys keys;
   if (!keys.areUsed())
-    return; // of most networks no element has figures
-  const auto take = [&](NetData::EleType kind, std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i) {
-      const NetGeometry::Item item{kind, static_cast<int>(i)};
-      const element &source = *geometry.source(item);
-      if ((source.find(keys.file) != nullptr || source.find(keys.character) != nullptr) && geometry.center(item))
-        add(item, source);
-    }
-  };
-  take(NetData::Node, geometry.nodes().size());
-  take(NetData::Edge, geometry.edges().size());
-  take(NetData::AssembledSubnet, geometry.subnets().size());
-  take(NetData::TextBox, geometry.textBoxes().size());
+    return findings; // of most networks no element has figures
+  geometry.forEachItem([&](NetGeometry::Item item, const element &source) {
+    if ((source.find(keys.file) != nullptr || source.find(keys.character) != nullptr) && geometry.center(item))
+      add(item, source, findings);
+  });
+  return findings;
 }
 
-void Figures::add(NetGeometry::Item item, const element &source) {
+void Figures::add(NetGeometry::Item item, const element &source, Findings &findings) {
   const Keys keys;
   Figure figure;
   const QString file = source.value(keys.file).trimmed();
   if (!file.isEmpty())
-    figure.picture = load(file);
+    figure.picture = load(file, findings);
   figure.character = source.value(keys.character).trimmed().left(4); // one, which may take several code units
   figure.width = lengthOf(source, keys.width);
   figure.height = lengthOf(source, keys.height);
@@ -68,7 +60,7 @@ void Figures::add(NetGeometry::Item item, const element &source) {
   }
 }
 
-QImage Figures::load(const QString &file) {
+QImage Figures::load(const QString &file, Findings &findings) {
   const QString path = QDir(m_folder).filePath(file);
   const auto known = m_pictures.constFind(path);
   if (known != m_pictures.constEnd())
@@ -76,7 +68,8 @@ QImage Figures::load(const QString &file) {
   QString error;
   QImage picture = PictureFile::readImage(path, &error);
   if (picture.isNull())
-    NivraMsg::logWarning(QStringLiteral("Could not read figure.file") + QStringLiteral(" %1: %2").arg(path, error));
+    findings.push_back(
+        {Finding::Severity::Warning, {}, 0, QStringLiteral("Could not read figure.file %1: %2").arg(path, error), {}});
   m_pictures.insert(path, picture);
   return picture;
 }
@@ -116,7 +109,7 @@ QSizeF Figures::extent(int number, double size) const {
     return {figure.width, figure.height};
   QSizeF room(size, size);
   if (figure.hasOwnSize())
-    room = {figure.width > 0.0 ? figure.width : Longest, figure.height > 0.0 ? figure.height : Longest};
+    room = {figure.width > 0.0 ? figure.width : LongestSide, figure.height > 0.0 ? figure.height : LongestSide};
   return QSizeF(figure.picture.size()).scaled(room, Qt::KeepAspectRatio);
 }
 

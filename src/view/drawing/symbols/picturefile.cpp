@@ -17,10 +17,6 @@ constexpr qint64 LargestSvg = qint64(2) << 20;
 constexpr qint64 LargestPicture = qint64(32) << 20;
 constexpr int Side = 1024; // px: nobody looks at larger figures
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("PictureFile", text);
-}
-
 bool fail(QString *error, const QString &reason) {
   if (error != nullptr)
     *error = reason;
@@ -38,7 +34,7 @@ QByteArray content(const QString &path, FileAccess::Source source, qint64 larges
 QImage drawn(const QByteArray &svg, QString *error) {
   QSvgRenderer renderer(svg);
   if (!renderer.isValid() || renderer.defaultSize().isEmpty()) {
-    fail(error, tr("it shows nothing"));
+    fail(error, QCoreApplication::translate("PictureFile", "it shows nothing"));
     return QImage();
   }
   QImage picture(renderer.defaultSize().scaled(Side, Side, Qt::KeepAspectRatio), QImage::Format_ARGB32_Premultiplied);

@@ -1,7 +1,5 @@
 #include "symbols/picturefile.h"
 
-#include <base/nivramsg.h>
-
 #include <QFile>
 #include <QFontMetricsF>
 #include <QSvgRenderer>
@@ -29,7 +27,7 @@ void StationSymbols::setTable(const SymbolTable &table) {
   m_badges.clear();
 }
 
-std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) const {
+std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) {
   const SymbolTable::File own = m_table.file(key);
   if (!own.path.isEmpty()) {
     QString error;
@@ -37,8 +35,12 @@ std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) const {
     auto renderer = std::make_unique<QSvgRenderer>(text);
     if (!text.isEmpty() && renderer->isValid())
       return renderer;
-    NivraMsg::logWarning(
-        QStringLiteral("The symbol %1 for \"%2\" cannot be read; the built-in one is taken. %3").arg(own.path, key, error));
+    m_findings.push_back(
+        {Finding::Severity::Warning,
+         {},
+         0,
+         QStringLiteral("The symbol %1 for \"%2\" cannot be read; the built-in one is taken. %3").arg(own.path, key, error),
+         {}});
   }
   const QString path = QStringLiteral(":/iconsNetSymbols/svg TALU/network_symbols/") + key + QStringLiteral(".svg");
   return QFile::exists(path) ? std::make_unique<QSvgRenderer>(path) : nullptr;
@@ -74,10 +76,11 @@ void StationSymbols::draw(QPainter &painter, int symbol, const QPointF &center, 
     painter.restore();
     return;
   }
-  constexpr int Step = 5;
-  constexpr int Circle = 360;
+  constexpr int AngleStep = 5;
+  constexpr int FullCircle = 360;
   const double ratio = pixelRatio(painter);
-  const int rounded = ((static_cast<int>(std::lround(angle / Step)) * Step) % Circle + Circle) % Circle;
+  const int rounded =
+      ((static_cast<int>(std::lround(angle / AngleStep)) * AngleStep) % FullCircle + FullCircle) % FullCircle;
   QPixmap picture = pixmap(symbol, static_cast<int>(std::lround(size * ratio)), rounded);
   const QSizeF extent = QSizeF(picture.size()) / ratio;
   painter.drawPixmap(QRectF(center - QPointF(extent.width() * 0.5, extent.height() * 0.5), extent), picture, picture.rect());
@@ -99,11 +102,11 @@ void paintBadge(QPainter &painter, const QRectF &badge, const QString &text, con
 } // namespace
 
 void StationSymbols::drawCount(QPainter &painter, const QPointF &center, int count) {
-  constexpr int Most = 999;
+  constexpr int LargestCount = 999;
   constexpr int FontPixels = 9;
   constexpr double Padding = 6.0;
-  const int shown = std::min(count, Most + 1);
-  const QString text = count > Most ? QString::number(Most) + QLatin1Char('+') : QString::number(count);
+  const int shown = std::min(count, LargestCount + 1);
+  const QString text = count > LargestCount ? QString::number(LargestCount) + QLatin1Char('+') : QString::number(count);
   QFont font(QStringLiteral("Arial"));
   font.setPixelSize(FontPixels);
   font.setBold(true);
@@ -131,13 +134,13 @@ void StationSymbols::drawCount(QPainter &painter, const QPointF &center, int cou
 }
 
 QPixmap StationSymbols::pixmap(int symbol, int pixels, int angle) {
-  constexpr int MostKept = 4000;
+  constexpr int MostPixmaps = 4000;
   const quint64 key =
       (static_cast<quint64>(symbol) << 40U) | (static_cast<quint64>(pixels) << 16U) | static_cast<quint64>(angle);
   const auto known = m_pixmaps.constFind(key);
   if (known != m_pixmaps.constEnd())
     return *known;
-  if (m_pixmaps.size() >= MostKept)
+  if (m_pixmaps.size() >= MostPixmaps)
     m_pixmaps.clear();
   // Room for the symbol's corners, whichever way it is turned.
   const int side = static_cast<int>(std::ceil(pixels * std::sqrt(2.0)));

@@ -15,10 +15,6 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("SvgGuard", text);
-}
-
 constexpr XmlBounds::Limits Bounds{100, 100, 50, true};
 
 /// Whether marks are ASCII in it, as the first look at the text takes for granted.
@@ -48,17 +44,17 @@ bool isBoundedPixels(const QStringRef &url) {
 }
 
 bool isInside(const QStringRef &reference) {
-  const QStringRef place = reference.trimmed();
-  return place.isEmpty() || place.startsWith(QLatin1Char('#'));
+  const QStringRef target = reference.trimmed();
+  return target.isEmpty() || target.startsWith(QLatin1Char('#'));
 }
 
 bool namesOutside(const QStringRef &text) {
   for (int i = text.indexOf(QLatin1String("url("), 0, Qt::CaseInsensitive); i >= 0;
        i = text.indexOf(QLatin1String("url("), i + 1, Qt::CaseInsensitive)) {
-    QStringRef place = text.mid(i + 4).trimmed();
-    if (place.startsWith(QLatin1Char('\'')) || place.startsWith(QLatin1Char('"')))
-      place = place.mid(1);
-    if (!isInside(place))
+    QStringRef target = text.mid(i + 4).trimmed();
+    if (target.startsWith(QLatin1Char('\'')) || target.startsWith(QLatin1Char('"')))
+      target = target.mid(1);
+    if (!isInside(target))
       return true;
   }
   return text.contains(QLatin1String("@import"), Qt::CaseInsensitive);
@@ -113,6 +109,7 @@ QStringRef dashesOf(const QStringRef &pattern) {
 
 /// Walks through the document once and adds up what drawing it would ask for.
 class Walk {
+  Q_DECLARE_TR_FUNCTIONS(SvgGuard)
 public:
   explicit Walk(const QByteArray &svg)
       : m_reader(svg) {}
@@ -183,13 +180,13 @@ private:
   }
 
   QString numbersFault(const QXmlStreamAttribute &attribute) {
-    constexpr double Largest = 1e6;
+    constexpr double LargestNumber = 1e6;
     const QStringRef name = attribute.name();
     if (name == QLatin1String("id") || name == QLatin1String("class") || !attribute.namespaceUri().isEmpty())
       return QString();
     const Numbers numbers = numbersIn(attribute.value(), name == QLatin1String("d"));
-    if (numbers.largest > Largest)
-      return tr("it has a number beyond %1: %2").arg(Largest).arg(attribute.value().left(100).toString());
+    if (numbers.largest > LargestNumber)
+      return tr("it has a number beyond %1: %2").arg(LargestNumber).arg(attribute.value().left(100).toString());
     m_count += numbers.count;
     m_largest = std::max(m_largest, numbers.largest);
     if (name == QLatin1String("stroke-dasharray"))
@@ -258,7 +255,8 @@ private:
 QString SvgGuard::fault(const QByteArray &svg) {
   const auto begin = std::find_if_not(svg.begin(), svg.end(), isGap);
   if (begin == svg.end() || svg.contains('\0') || (*begin != '<' && !svg.startsWith("\xEF\xBB\xBF")))
-    return tr("it is no SVG text"); // among others a compressed one, which may be any size once it is unpacked
+    return QCoreApplication::translate(
+        "SvgGuard", "it is no SVG text"); // among others a compressed one, which may be any size once it is unpacked
   // Marks are plain ASCII in the encodings that the reader takes.
   if (QString fault = XmlBounds::check(QString::fromLatin1(svg), Bounds).reason; !fault.isEmpty())
     return fault;

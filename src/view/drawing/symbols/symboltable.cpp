@@ -1,21 +1,24 @@
-#include <base/nivramsg.h>
-
 #include <QDir>
 #include <QFile>
 
 #include <drawing/symboltable.h>
 
-SymbolTable::SymbolTable(const QString &directory)
-    : m_directory(directory) {
-  constexpr qint64 Largest = qint64(1) << 20;
+Findings SymbolTable::read(const QString &directory) {
+  constexpr qint64 LargestTable = qint64(1) << 20;
+  m_directory = directory;
   const QString path = directory + QStringLiteral("/svg_symbols.csv");
   QString reason;
-  const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, Largest, &reason);
+  const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, LargestTable, &reason);
   if (!content) {
+    Findings findings;
     if (QFile::exists(path))
-      NivraMsg::logWarning(reason);
-    NivraMsg::log(QStringLiteral("SVG symbols file ") + path + QStringLiteral(" not found! Using built-in defaults!"));
-    return;
+      findings.push_back({Finding::Severity::Warning, {}, 0, reason, {}});
+    findings.push_back({Finding::Severity::Information,
+                        {},
+                        0,
+                        QStringLiteral("SVG symbols file ") + path + QStringLiteral(" not found! Using built-in defaults!"),
+                        {}});
+    return findings;
   }
   for (const QByteArray &bytes : content->split('\n')) {
     const QString line = QString::fromUtf8(bytes);
@@ -28,6 +31,7 @@ SymbolTable::SymbolTable(const QString &directory)
     if (name.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive))
       m_files[parts.at(0).trimmed()] = name;
   }
+  return {};
 }
 
 SymbolTable::File SymbolTable::file(const QString &key) const {

@@ -78,7 +78,7 @@ private:
   QAction *m_selectAll;
   Mode m_mode = Mode::None;
   QPoint m_pressed;
-  std::vector<Hit> m_hits; ///< at the place that was pressed
+  std::vector<Hit> m_hits; ///< at the position that was pressed
   bool m_picksOnRelease = false;
   bool m_zoomsRectangle = false; ///< with the next drag
 };

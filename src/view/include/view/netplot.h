@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/finding.h>
+
 #include <QWidget>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_marker.h>
@@ -21,9 +23,11 @@ class SmoothZoom;
 class NetPlot : public QWidget {
   Q_OBJECT
 public:
-  explicit NetPlot(QWidget *parent = nullptr);
+  /// \param told what drawing does and what it found on the way
+  explicit NetPlot(QWidget *parent = nullptr, Told told = {});
   ~NetPlot() override;
 
+  const Told &told() const { return m_told; }
   QwtFastPlot *plot() const { return m_plot; }
   PlotZoom *zoomer() const { return m_zoomer; }
   NetUpdate &update() { return *m_update; }
@@ -32,10 +36,10 @@ public:
   const QwtPlotMarker &legend() const { return m_legend; }
 
   const PlotSettings &settings() const { return m_settings; }
-  /// Takes over the settings, save for the zoom limits; what depends on them is drawn with the next updatePlot().
+  /// Takes over the settings; what depends on them is drawn with the next updatePlot().
   void setSettings(const PlotSettings &settings);
 
-  /// "plotsettings.ini"; a missing file is logged and changes nothing. False when there is no such file.
+  /// "plotsettings.ini". False, and nothing is changed, when there is no such file or it cannot be read.
   bool readPlotSettings(const QString &path);
   bool writePlotSettings(const QString &path, QString *error = nullptr) const;
 
@@ -84,6 +88,7 @@ private:
   bool canvasEvent(QEvent *event);
   void showContextMenu();
 
+  Told m_told;
   QwtFastPlot *m_plot;
   PlotSettings m_settings;
   PlotZoom *m_zoomer;

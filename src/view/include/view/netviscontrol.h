@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/finding.h>
 #include <base/onceperturn.h>
 #include <model/topology.h>
 #include <view/netpicker.h>
@@ -19,7 +20,8 @@ class NetVisControl : public QObject {
   Q_OBJECT
 public:
   /// \param name of the view; empty for the main one
-  NetVisControl(NetData &net, const QString &name, QObject *parent = nullptr);
+  /// \param told what drawing does and what it found on the way
+  NetVisControl(NetData &net, const QString &name, Told told = {}, QObject *parent = nullptr);
   ~NetVisControl() override;
 
   const QString &name() const { return m_name; }
@@ -61,7 +63,7 @@ public:
   /// Selects what lies upstream or downstream of the element along the flow.
   void trace(const QString &name, Topology::Direction direction);
   /// Views to come back to, kept with the case.
-  ViewBookmarks bookmarks() const;
+  ViewBookmarks &bookmarks() { return m_bookmarks; }
 
 signals:
   void selectionChanged();
@@ -79,7 +81,7 @@ private:
 
   NetData &m_net;
   QString m_name;
-  QString m_settingsPath;
+  ViewBookmarks m_bookmarks;
   QString m_subnetIcons;
   QString m_currentElement;
   QPointer<NetPlot> m_plot;

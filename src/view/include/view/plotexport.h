@@ -1,17 +1,22 @@
 #pragma once
 
-#include <QString>
+#include <QCoreApplication>
 
 class NetPlot;
 
 /// How large a picture becomes.
 struct PictureSize {
+  Q_DECLARE_TR_FUNCTIONS(PlotExport)
+public:
   static constexpr double LargestScale = 20.0;
 
   // NOLINTNEXTLINE(google-explicit-constructor): a width alone is a size
   PictureSize(int widthOfPicture, double scaleOfMarks = 1.0)
       : width(widthOfPicture)
       , scale(scaleOfMarks) {}
+
+  /// Why no picture can have the size; empty when one can.
+  QString fault() const;
 
   int width;      ///< px
   int height = 0; ///< px; 0 to follow the shape of the plot

@@ -1,17 +1,17 @@
 #pragma once
 
-#include <view/functionrow.h>
+#include <base/fileaccess.h>
 
 #include <QWidget>
 
-#include <array>
-#include <drawing/drawvalues.h>
-#include <drawing/plotsettings.h>
 #include <memory>
 
+class FunctionsPage;
 class LabelTableEditor;
 class NetPlot;
-class QPushButton;
+class SettingFields;
+struct LabelTable;
+struct PlotSettings;
 
 namespace Ui {
 class viewFuncDialog;
@@ -45,35 +45,20 @@ protected:
   void showEvent(QShowEvent *event) override;
 
 private:
-  enum Row { EdgeColor, EdgeWidth, NodeColor, NodeSize, Rows };
-  struct ColorButton {
-    QPushButton *button;
-    QColor PlotSettings::*color;
-    QColor chosen{};
-
-    void show(const QColor &shown);
-  };
-
   bool apply();
   void draw(const PlotSettings &before, const LabelTable &labels);
   void offerSavedSettings();
-  bool checkBounds(PlotSettings &form) const;
-  PlotSettings form() const;
-  void readFunctions(PlotSettings &form) const;
-  void readSizes(PlotSettings &form) const;
-  void showForm(const PlotSettings &settings);
-  FunctionRow::Unit unitOf(const QString &function) const;
-  static QString noteOn(const DrawValues::Column &values, double minimum, double maximum);
-  void showNotes(const PlotSettings &settings);
-  void offerFunctions();
+  bool readLabels(const QString &path, FileAccess::Source source, LabelTable &labels) const;
+  void limitWidth();
   void fillChoices();
-  void setUpColors();
+  void bindScale();
+  void bindSizes();
+  void bindColors();
 
   NetPlot &m_plot;
   std::unique_ptr<Ui::viewFuncDialog> m_ui;
-  std::array<FunctionRow *, Rows> m_rows{};
-  std::vector<ColorButton> m_colors;
-  PlotSettings m_shown; ///< what the fields said before anybody touched them
+  std::unique_ptr<SettingFields> m_fields;
+  FunctionsPage *m_functions;
   LabelTableEditor *m_labels;
   QString m_labelTablePath;
   QString m_plotSettingsPath;

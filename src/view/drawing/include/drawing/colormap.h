@@ -38,7 +38,7 @@ public:
   QRgb rgb(const QwtInterval &interval, double value) const override;
   unsigned char colorIndex(const QwtInterval &interval, double value) const override;
 
-  /// The place of the value on the ramp, 0 to 1.
+  /// How far along the ramp the value lies, 0 to 1.
   virtual double fraction(const QwtInterval &interval, double value) const;
 
 private:

@@ -22,7 +22,7 @@ struct Swatch {
 enum class Subject { Edges, EdgesAndNodes, SearchResults };
 
 /// The map of the settings: linear, or bent by logFactor.
-std::unique_ptr<HueColorMap> colorMap(const PlotSettings &settings, bool logarithmic);
+std::unique_ptr<HueColorMap> colorMap(const PlotSettings &settings, Aspect aspect);
 
 /// What edges are coloured with: classes where the settings ask for some, else a smooth scale with end caps.
 std::unique_ptr<QwtColorMap> edgeColors(const PlotSettings &settings, const DrawValues::Column &values);

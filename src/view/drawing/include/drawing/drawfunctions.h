@@ -8,7 +8,7 @@
 
 #include <drawing/plotsettings.h>
 
-/// What a draw function (PlotSettings::colorFunc and its sisters) shows: a property and the unit in which people read it.
+/// What a draw function (PlotSettings::functions) shows: a property and the unit in which people read it.
 struct DrawFunction {
   /// How the values come about where no element carries them: from the graph of the network, or, of edges, from their end
   /// nodes: the node where the gas enters, or the first less the second node.

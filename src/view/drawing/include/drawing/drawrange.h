@@ -11,7 +11,7 @@ enum class State {
 
 /// Open bounds (PlotSettings::OpenMinimum, OpenMaximum) are always sound.
 State check(double minimum, double maximum);
-/// Swapped, or with a tiny width about the same place.
+/// Swapped, or with a tiny width about the same middle.
 void correct(double &minimum, double &maximum);
 
 } // namespace DrawRange

@@ -6,6 +6,9 @@
 #include <drawing/netgeometry.h>
 #include <drawing/plotsettings.h>
 
+struct ElementValues;
+struct ValueRequest;
+
 /// What the draw functions say of the elements of a network.
 class DrawValues {
 public:
@@ -22,23 +25,16 @@ public:
   /// Reads the values, and on rebuild the geometry as well.
   void read(const NetData &net, const PlotSettings &settings, NetGeometry &geometry, bool rebuild);
 
-  const Column &edgeColor() const { return m_edgeColor; }
-  const Column &edgeWidth() const { return m_edgeWidth; }
-  const Column &nodeColor() const { return m_nodeColor; }
-  const Column &nodeSize() const { return m_nodeSize; }
+  const Column &of(Aspect aspect) const { return m_columns[aspect]; }
   const std::vector<double> &flow() const { return m_flow; } ///< of edges, positive from the first to the second node
   const std::vector<double> &flowSize() const { return m_flowSize; } ///< the same without sign
-  /// The node colour function says something of nodes; otherwise nodes have plain colours.
-  bool colorsNodes() const { return m_nodeColor.isAny(); }
 
 private:
-  void compute(const NetGeometry &geometry, const PlotSettings &settings, NetGeometry::Values &values) const;
-  void take(NetGeometry::Values &values, const PlotSettings &settings);
+  ValueRequest request(const PlotSettings &settings) const;
+  void compute(const NetGeometry &geometry, const PlotSettings &settings, ElementValues &values) const;
+  void setColumns(ElementValues &values, const PlotSettings &settings);
 
-  Column m_edgeColor;
-  Column m_edgeWidth;
-  Column m_nodeColor;
-  Column m_nodeSize;
+  PerAspect<Column> m_columns{};
   std::vector<double> m_flow;
   std::vector<double> m_flowSize;
 };

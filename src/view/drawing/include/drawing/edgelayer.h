@@ -50,8 +50,8 @@ private:
     double y1 = 0.0;
     double x2 = 0.0;
     double y2 = 0.0;
-    int edge = 0;      ///< position in the geometry
-    int pen = -1;      ///< position in m_pens, -1 not drawn
+    int edge = 0;      ///< index in the edges of the geometry
+    int pen = -1;      ///< index in m_pens, -1 not drawn
     float lane = 0.0F; ///< to the right of the way from the first to the second node
     bool hasSymbol = false;
     signed char flow = 0;

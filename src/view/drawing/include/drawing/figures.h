@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/finding.h>
+
 #include <QFont>
 #include <QHash>
 #include <QImage>
@@ -14,9 +16,9 @@ class Figures {
 public:
   /// Where relative file names begin.
   void setFolder(const QString &folder) { m_folder = folder; }
-  /// Looks up which elements have figures. A file that cannot be read is logged; the character, if there is one, or the
-  /// symbol takes its place.
-  void read(const NetGeometry &geometry);
+  /// Looks up which elements have figures. In place of a file that cannot be read the character is drawn, if there is one,
+  /// or the symbol.
+  Findings read(const NetGeometry &geometry);
   void clear();
 
   /// Number of the item's figure, -1 when it has none.
@@ -55,8 +57,8 @@ private:
     QFont font(double size) const; ///< of the character
   };
 
-  void add(NetGeometry::Item item, const element &source);
-  QImage load(const QString &file);
+  void add(NetGeometry::Item item, const element &source, Findings &findings);
+  QImage load(const QString &file, Findings &findings);
 
   QString m_folder;
   std::vector<Figure> m_figures;

@@ -13,7 +13,7 @@ class QTextDocument;
 struct Label {
   LabelCandidate candidate; ///< as of the view in which it was placed
   LabelSpot spot;
-  QLineF place; ///< of the element, in plot coordinates
+  QLineF position; ///< of the element, in plot coordinates; both ends are its middle unless it is a line
   LabelStyle style;
   std::vector<QStaticText> lines;
   std::shared_ptr<QTextDocument> document; ///< in place of the lines

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/finding.h>
 #include <formulas/formula.h>
 #include <model/units.h>
 
@@ -33,7 +34,8 @@ struct LabelText {
 /// a property of the element; a line whose place-holders all lack a value is left out. It lives on one thread.
 class LabelContents {
 public:
-  LabelContents(const LabelTable &table, const PlotSettings &settings, const NetData &net);
+  /// \param told of formulas that cannot be used, at once or, where only an element shows it, once a label is asked for
+  LabelContents(const LabelTable &table, const PlotSettings &settings, const NetData &net, Told told = {});
 
   bool isOff() const { return m_mode == Mode::None; }
   LabelText text(const element &source) const;
@@ -75,6 +77,7 @@ private:
   const LabelStyle &styleOf(NetData::EleType kind) const;
 
   const NetData &m_net;
+  Told m_told;
   Mode m_mode = Mode::None;
   LabelStyle m_nodeStyle;
   LabelStyle m_edgeStyle;

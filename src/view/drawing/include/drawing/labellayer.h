@@ -5,7 +5,7 @@
 #include <drawing/label.h>
 #include <vector>
 
-/// The labels that found a place, as one plot item. While the view moves they keep beside their elements.
+/// The labels that found room, as one plot item. While the view moves they keep beside their elements.
 class LabelLayer : public QwtPlotItem {
 public:
   LabelLayer();

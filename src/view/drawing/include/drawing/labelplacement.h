@@ -8,7 +8,7 @@
 
 /// Where a label stands: an anchor that moves with the drawing, and the way from there to its middle.
 struct LabelSpot {
-  double along = 0.5; ///< of an edge: the anchor's place between its ends, 0 to 1; without meaning for points
+  double along = 0.5; ///< how far the anchor is from the first to the second end of an edge, 0 to 1; of no effect for points
   QPointF offset;     ///< px, from the anchor to the middle of the label
   double angle = 0.0; ///< degrees, clockwise
 };
@@ -25,7 +25,7 @@ struct LabelCandidate {
   TurnedBox box(const LabelSpot &spot) const { return {anchor(spot.along) + spot.offset, size, spot.angle}; }
 };
 
-/// Finds places for labels beside their elements so that none covers another, an obstacle or the edge of the canvas. The
+/// Finds spots for labels beside their elements so that none covers another, an obstacle or the edge of the canvas. The
 /// first to come is the first served; nothing is ever moved again, so the work grows with the number of candidates.
 class LabelPlacement {
 public:

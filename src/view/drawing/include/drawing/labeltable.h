@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/fileaccess.h>
+#include <base/finding.h>
 
 #include <QCoreApplication>
 #include <QString>
@@ -43,9 +44,14 @@ namespace LabelTableFile {
 
 QString version();
 
-/// Overwrites the rows of the table as far as the file goes; what is wrong with it is logged. False when there is no such
-/// file or it cannot be opened.
-bool read(const QString &path, LabelTable &table, FileAccess::Source source = FileAccess::Source::Workspace);
+struct Reading {
+  bool isOpened = false; ///< false when there is no such file or it cannot be opened
+  Findings findings;
+
+  explicit operator bool() const { return isOpened; }
+};
+/// Overwrites the rows of the table as far as the file goes.
+Reading read(const QString &path, LabelTable &table, FileAccess::Source source = FileAccess::Source::Workspace);
 /// Whole or not at all; false with the reason.
 bool write(const QString &path, const LabelTable &table, QString *error = nullptr);
 

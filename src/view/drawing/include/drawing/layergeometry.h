@@ -10,7 +10,6 @@
 #include <cmath>
 #include <drawing/netgeometry.h>
 #include <drawing/spatialindex.h>
-#include <vector>
 
 /// From plot coordinates to pixels by one multiplication and one addition an axis; the plot's axes are linear.
 class Projection {
@@ -45,7 +44,7 @@ private:
 /// the picture by millions of pixels must not reach them.
 bool clipLine(QLineF &line, const QRectF &rect);
 
-/// The way of one of several lines between the same two points: it leaves them at an angle and keeps beside the others.
+/// The course of one of several lines between the same two points: it leaves them at an angle and keeps beside the others.
 struct LaneWay {
   /// \param offset px to the right of the line; less on a line too short for it
   LaneWay(const QLineF &line, double offset);
@@ -65,8 +64,8 @@ double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize);
 double distanceToLine(const QPointF &point, const QLineF &line);
 
 /// What of an element was hit; the former covers the latter: boxes cover what is behind them, a symbol stands for its
-/// element, and what stands at a place counts more than a line that ends there.
-enum class HitRank { Box, Symbol, Place, Line };
+/// element, and what stands at a point counts more than a line that ends there.
+enum class HitRank { Box, Symbol, Point, Line };
 
 /// Something drawn under the cursor.
 struct Hit {
@@ -85,40 +84,3 @@ QFont screenFont(QFont font);
 bool isVectorTarget(const QPainter &painter);
 /// How many pixels of the target one unit of the painter takes, for prepared pixels to be sharp.
 double pixelRatio(const QPainter &painter);
-
-/// Coarse cells over the canvas that remember where something was drawn.
-class PixelGrid {
-public:
-  PixelGrid(const QRectF &canvas, double cell);
-
-  /// Takes the cell of the point; false when it was taken before or lies outside.
-  bool take(const QPointF &point);
-  /// Takes all cells under the rectangle, as far as they lie inside; false when one of them was taken before.
-  bool takeArea(const QRectF &area);
-
-private:
-  int index(const QPointF &point) const; ///< -1 outside
-
-  QPointF m_origin;
-  double m_cell;
-  int m_columns;
-  int m_rows;
-  std::vector<bool> m_taken; ///< with a frame of one cell that is never taken
-};
-
-/// Coarse cells over the canvas that remember who stands there, to keep things a cell apart.
-class ClusterGrid {
-public:
-  ClusterGrid(const QRectF &canvas, double cell);
-
-  /// Takes the cell of the point when it and the eight around it are free, and returns the number; the number of one of
-  /// those who stand there otherwise. Points outside take the nearest cell.
-  int claim(const QPointF &point, int number);
-
-private:
-  QPointF m_origin;
-  double m_cell;
-  int m_columns;
-  int m_rows;
-  std::vector<int> m_numbers; ///< -1 for a free cell; with a frame of one cell
-};

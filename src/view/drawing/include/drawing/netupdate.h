@@ -42,11 +42,13 @@ public:
     QSizeF unitsPerPixel; ///< horizontally and vertically
     Projection projection;
     QRectF legend;           ///< what it covers of the canvas, px; no labels are placed there
+    QSizeF largest;          ///< view that the zoom allows, in plot units
     bool isOfSubnet = false; ///< a plot of its own for one subnet
   };
 
   /// \param view asked whenever something depends on it
-  NetUpdate(const PlotSettings &settings, std::function<View()> view);
+  /// \param told what is being done, and what was found on the way
+  NetUpdate(const PlotSettings &settings, std::function<View()> view, Told told);
 
   /// What is to be painted, from the bottom to the top.
   std::vector<QwtPlotItem *> items();
@@ -95,7 +97,7 @@ public:
   /// Elements in view whose label found no place in the last pass.
   const std::vector<NetGeometry::Item> &unplacedLabels() const { return m_unplaced; }
 
-  /// What is drawn under the point of the canvas: boxes, then symbols, then what stands at a place, then lines; each by
+  /// What is drawn under the point of the canvas: boxes, then symbols, then what stands at a point, then lines; each by
   /// distance.
   std::vector<Hit> elementsAt(const QPointF &point, double tolerance) const;
   /// What lies wholly in the rectangle, in plot coordinates.
@@ -110,6 +112,7 @@ signals:
   void changed(); ///< something is to be painted anew
 
 private:
+  void tellAll(const Findings &findings) const;
   void runPixtest(Pixtest::Labels labels);
   void placeLabels();
   ElementLooks looks() const;
@@ -122,6 +125,7 @@ private:
 
   const PlotSettings &m_settings;
   std::function<View()> m_view;
+  Told m_told;
   const NetData *m_net = nullptr;
   bool m_isNew = false; ///< nothing of the network was drawn yet
   NetGeometry m_geometry;

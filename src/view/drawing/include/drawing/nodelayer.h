@@ -44,7 +44,7 @@ private:
   struct Record {
     double x = 0.0;
     double y = 0.0;
-    int node = 0; ///< position in the geometry
+    int node = 0; ///< index in the nodes of the geometry
     NetGeometry::NodeShape shape = NetGeometry::NodeShape::Junction;
     NodeLook look;
     bool isOff = false;

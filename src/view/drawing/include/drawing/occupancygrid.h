@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <drawing/cellaxis.h>
 #include <vector>
 
 /// A rectangle that may be turned about its middle, in pixels.
@@ -30,8 +31,12 @@ private:
   std::array<QPointF, 4> m_corners;
 };
 
-/// Which parts of a canvas are taken, in cells of few pixels. A box takes all cells that it touches, so that boxes which
-/// were found free never overlap.
+/// Which parts of a canvas are taken, in cells of few pixels.
+/// 1. A box takes all cells that it touches: of two boxes that were found free one after the other none overlaps the other.
+/// 2. What of a box lies outside the canvas takes nothing and is always free.
+/// 3. Each cell is one bit: cell c of a row is bit c % 64 of the row's word c / 64. The cells that fill the last word of a
+///    row lie beyond the canvas and are taken like others.
+/// 4. Asking and taking cost one operation for each word of each row that the box touches.
 class OccupancyGrid {
 public:
   explicit OccupancyGrid(const QRectF &canvas);
@@ -44,8 +49,8 @@ private:
   template <typename Visitor>
   bool forEachWord(const TurnedBox &box, const Visitor &visit) const;
 
-  QPointF m_origin;
-  int m_rows;
-  int m_words; ///< a row
-  std::vector<std::uint64_t> m_cells;
+  CellAxis m_columns;
+  CellAxis m_rows;
+  std::size_t m_words;                ///< of a row
+  std::vector<std::uint64_t> m_cells; ///< row by row
 };

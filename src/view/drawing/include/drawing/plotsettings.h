@@ -3,6 +3,9 @@
 #include <QColor>
 #include <QString>
 
+#include <drawing/aspect.h>
+#include <drawing/typedbounds.h>
+
 /// How a network is drawn: the record behind "plotsettings.ini". Bounds of -1e30 and 1e30 are taken from the data.
 struct PlotSettings {
   static constexpr double OpenMinimum = -1e30;
@@ -11,13 +14,24 @@ struct PlotSettings {
   static QString equalClasses() { return QStringLiteral("equal interval"); }
   static QString quantileClasses() { return QStringLiteral("quantile"); }
   static QString ownClasses() { return QStringLiteral("own breaks"); }
-  static QString fixedSize() { return QStringLiteral("--- fixed ---"); } ///< nodeSizeFunc: all nodes have one size
+  static QString fixedSize() { return QStringLiteral("--- fixed ---"); } ///< Aspect::NodeSize: all nodes have one size
+
+  /// A draw function, and how its values become colours or sizes.
+  struct Function {
+    QString name; ///< by which a person chooses it ("volume flow"), or its property ("q")
+    bool isAbsolute = true;
+    bool isLogarithmic = false;
+    double minimum = OpenMinimum; ///< in the stored unit, as is the maximum
+    double maximum = OpenMaximum;
+    TypedBounds::OfFunctions typed{}; ///< what a person typed for this and for other functions of the aspect
+
+    friend bool operator==(const Function &a, const Function &b);
+  };
+
+  PerAspect<Function> functions{
+      {{{QStringLiteral("x"), false}, {QStringLiteral("y")}, {QStringLiteral("y")}, {fixedSize()}}}};
 
   QString edgeShowFlow = QStringLiteral("q"); ///< property whose value 0 means that an edge carries no flow
-  QString colorFunc = QStringLiteral("x");
-  QString widthFunc = QStringLiteral("y");
-  QString nodeColorFunc = QStringLiteral("y");
-  QString nodeSizeFunc = fixedSize();
   int colorScalePos = 1; ///< Qwt axis: 1 right, 3 top; the others are the drawing's own axes and show no scale
   int legendPos = 0;     ///< 0 hidden, 1 top left, 2 bottom left, 3 top right, 4 bottom right
   int nodeMag = 4;
@@ -40,30 +54,10 @@ struct PlotSettings {
   QColor edgeColorNoFlow = Qt::darkGray;
   QColor gridMajorColor{192, 192, 192};
   QColor gridMinorColor{211, 211, 211};
-  bool absColor = false;
-  bool absWidth = true;
-  bool absNodeColor = true;
-  bool absNodeSize = true;
-  bool logScaleColor = false;
-  bool logScaleWidth = false;
-  bool logScaleNodeColor = false;
-  bool logScaleNodeSize = false;
-  double minVal_edgeColor = OpenMinimum;
-  double maxVal_edgeColor = OpenMaximum;
-  double minVal_nodeColor = OpenMinimum;
-  double maxVal_nodeColor = OpenMaximum;
-  double minVal_Width = OpenMinimum;
-  double maxVal_Width = OpenMaximum;
-  double minVal_nodeSize = OpenMinimum;
-  double maxVal_nodeSize = OpenMaximum;
   QString label_mode = QStringLiteral("selected properties");
   bool fixAxesRatio = true;
   bool showXYaxes = false;
   double zoomFact = 1.5;
-  double smallestZoomWidth = 10.0; ///< plot units, like the following: made anew with every zoom base, not stored
-  double smallestZoomHeight = 10.0;
-  double largestZoomWidth = 10000.0;
-  double largestZoomHeight = 10000.0;
   int alphaSubnet = 100; ///< 0 to 255
   QString layerProp = QStringLiteral("vis.layer");
 
@@ -72,11 +66,7 @@ struct PlotSettings {
   int colorClasses = 0;          ///< number of classes of the edge colours; 0 or 1 for a continuous scale
   QString classMethod = equalClasses();
   QString classBreaks; ///< breaks of the user's own in the display unit, ascending, joined by ";"
-  QString typedBounds; ///< the bounds of all draw functions as a person typed them, see TypedBounds
   bool showGrid = false;
-
-  /// Takes over the zoom limits of another record, which belong to the network rather than to its drawing.
-  void takeZoomLimits(const PlotSettings &other);
 
   friend bool operator==(const PlotSettings &a, const PlotSettings &b);
   friend bool operator!=(const PlotSettings &a, const PlotSettings &b) { return !(a == b); }

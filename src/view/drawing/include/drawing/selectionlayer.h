@@ -15,13 +15,13 @@ class SelectionLayer : public QwtPlotItem {
 public:
   SelectionLayer();
 
-  /// Nothing of another geometry stays marked.
+  /// The geometry whose items are marked; no mark of another one stays.
   void setGeometry(const NetGeometry *geometry);
-  /// Whose hidden elements have no marks either. The filter is not owned.
+  /// Elements that the filter hides have no marks. It is not owned.
   void setFilter(const LayerFilter *layers) { m_layers = layers; }
   void setItems(std::vector<NetGeometry::Item> items) { m_items = std::move(items); }
   const std::vector<NetGeometry::Item> &items() const { return m_items; }
-  /// False when it was under the cursor before.
+  /// Returns whether another element than before is under the cursor.
   bool setHovered(std::optional<NetGeometry::Item> item);
   std::optional<NetGeometry::Item> hovered() const { return m_hovered; }
   /// Brushes and pens are general settings of category "selection".

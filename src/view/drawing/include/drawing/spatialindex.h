@@ -4,9 +4,14 @@
 
 #include <vector>
 
-/// Finds what lies in a part of the plane. Items are put into an order that keeps neighbours together; each run of this
-/// order has a bounding box. Building is little more than a sort, a query skips whole runs, and outliers cost nothing but
-/// sharper runs: nothing depends on how evenly the items are spread.
+/// Finds what lies in a part of the plane.
+/// 1. build() puts the items into an order that keeps neighbours together, that of a Z-order curve; the owner arranges its
+///    records in this order. A position is an index into it.
+/// 2. Each run of RunLength positions (the last one may be shorter) has a box that holds all its items.
+/// 3. query() visits, in ascending order, every run whose box touches the area. No item that touches it is missed; the
+///    visitor sorts out the others of the run.
+/// 4. How the items are spread makes runs larger or smaller, never an answer wrong. Building costs a sort, a query one
+///    comparison a run.
 class SpatialIndex {
 public:
   /// The corners of an item, each pair ascending and finite.
@@ -20,7 +25,7 @@ public:
     void unite(const Box &other);
   };
 
-  /// The order in which the owner has to arrange its records: position -> index in boxes. Queries speak of positions.
+  /// The order in which the owner has to arrange its records: by position the index in boxes.
   std::vector<int> build(const std::vector<Box> &boxes);
   void clear();
 

@@ -7,6 +7,7 @@
 
 #include <drawing/symboltable.h>
 #include <memory>
+#include <utility>
 
 class QSvgRenderer;
 
@@ -23,6 +24,8 @@ public:
   /// The symbol of a type in a state ("_off"): that of both together, else the type's. A symbol of the user's own for the
   /// type goes before a built-in one for the state.
   int find(const QString &type, const QString &state);
+  /// What was wrong with files of the user's own that were looked for since the last call.
+  Findings takeFindings() { return std::exchange(m_findings, {}); }
 
   /// Draws the symbol about the centre. Screens get a prepared pixmap, documents the vectors.
   /// \param size px, across
@@ -33,10 +36,11 @@ public:
   void drawCount(QPainter &painter, const QPointF &center, int count);
 
 private:
-  std::unique_ptr<QSvgRenderer> load(const QString &key) const;
+  std::unique_ptr<QSvgRenderer> load(const QString &key);
   QPixmap pixmap(int symbol, int pixels, int angle);
 
   SymbolTable m_table;
+  Findings m_findings;
   QHash<QString, int> m_numbers;
   std::vector<std::unique_ptr<QSvgRenderer>> m_renderers;
   QHash<quint64, QPixmap> m_pixmaps;

@@ -3,11 +3,10 @@
 #include <QColor>
 #include <qwt_plot_item.h>
 
-#include <drawing/layerfilter.h>
+#include <drawing/elementfilter.h>
 #include <drawing/layergeometry.h>
 #include <drawing/netgeometry.h>
 #include <drawing/stationsymbols.h>
-#include <drawing/visibilityrules.h>
 
 /// Assembled subnets as boxes: the symbol of their kind on a ground that tells how they are controlled, in a ring that
 /// tells what was found of them, joined to their pins. Colours and sizes are general settings of category "subnets".
@@ -16,28 +15,25 @@ public:
   SubnetLayer();
 
   void setTable(const SymbolTable &table);
-  void setSubnets(const NetData &net, const NetGeometry &geometry);
+  /// Returns what was wrong with their symbols.
+  Findings setSubnets(const NetData &net, const NetGeometry &geometry);
   /// \param size px, of the box of a subnet that says nothing of its own
   /// \param alpha opacity of the ground, 0 to 255
   void setLook(double size, int alpha);
   void clear() { m_records.clear(); }
 
-  /// What is hidden by its layer, or off, is not drawn. Both must live as long as this layer.
-  void setFilter(const LayerFilter *layers, const VisibilityRules *visibility) {
-    m_layers = layers;
-    m_visibility = visibility;
-  }
+  void setFilter(const ElementFilter &filter) { m_filter = filter; }
 
   int rtti() const override { return Rtti_PlotUserItem + 5; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 
   struct Placed {
-    int subnet = 0; ///< position in the geometry
+    int subnet = 0; ///< index in the subnets of the geometry
     QRectF box;     ///< px
     int others = 0; ///< that stand behind it
   };
   /// What is drawn on this canvas; boxes that would overlap share one.
-  std::vector<Placed> place(const Projection &projection) const;
+  std::vector<Placed> layOut(const Projection &projection) const;
   /// The boxes alone.
   std::vector<QRectF> boxes(const Projection &projection) const;
   /// Adds the subnets whose box lies under the point.
@@ -54,18 +50,13 @@ private:
     QColor ground;
   };
 
-  bool isHidden(std::size_t subnet) const {
-    const NetGeometry::Item item{NetData::AssembledSubnet, static_cast<int>(subnet)};
-    return (m_layers != nullptr && m_layers->isHidden(item)) ||
-           (m_visibility != nullptr && m_visibility->of(item) == VisibilityRules::State::Off);
-  }
+  bool isHidden(std::size_t subnet) const { return m_filter.hides({NetData::AssembledSubnet, static_cast<int>(subnet)}); }
   double sizeOf(const Record &record, const Projection &projection) const;
   void drawPins(QPainter &painter, const Record &record, const QRectF &box, const Projection &projection) const;
 
   mutable StationSymbols m_symbols; ///< a cache of pixmaps
   std::vector<Record> m_records;    ///< as in the geometry
-  const LayerFilter *m_layers = nullptr;
-  const VisibilityRules *m_visibility = nullptr;
+  ElementFilter m_filter;
   double m_size = 32.0;
   int m_alpha = 100;
   double m_penWidth = 3.0;

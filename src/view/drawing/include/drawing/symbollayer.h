@@ -24,8 +24,9 @@ public:
   /// Symbols of the user's own, for the stations that are set afterwards.
   void setTable(const SymbolTable &table);
   void setFigureFolder(const QString &folder) { m_figures.setFolder(folder); }
-  void setStations(const NetGeometry &geometry);
-  /// Symbols behind these areas (px) are not drawn; asked for each view that is laid out.
+  /// Returns what was wrong with their symbols and figures.
+  Findings setStations(const NetGeometry &geometry);
+  /// \param covers tells for a view the areas (px) behind which no symbol is drawn
   void setCovers(std::function<std::vector<QRectF>(const Projection &)> covers) { m_covers = std::move(covers); }
   /// The size of the symbols, and of those of single element types (by type code) that have another.
   void setSize(double pixels) {
@@ -41,7 +42,7 @@ public:
   int rtti() const override { return Rtti_PlotUserItem + 3; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 
-  /// Adds the elements whose symbols lie under the point, behind each those that share it.
+  /// Adds the elements whose symbols lie under the point, behind each one those that share its symbol.
   void find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const;
 
   /// A symbol that is drawn.
@@ -61,8 +62,8 @@ public:
     QRectF obstacle() const;
     double reach() const { return std::max(extent.width(), extent.height()) * 0.5; }
   };
-  /// What is drawn of it, the more important first. Kept until the symbols, their visibility or the view change.
-  const std::vector<Placed> &place(const Projection &projection) const;
+  /// The symbols that are drawn, the more important first. Kept until the symbols, their visibility or the view change.
+  const std::vector<Placed> &laidOut(const Projection &projection) const;
 
 private:
   struct Record {
@@ -83,7 +84,7 @@ private:
   struct Layout {
     Projection projection;
     std::vector<Placed> placed;
-    std::vector<std::pair<int, int>> behind; ///< a symbol, by its position in placed, and a record that stands behind it
+    std::vector<std::pair<int, int>> behind; ///< a symbol, by its index in placed, and a record that stands behind it
   };
 
   Layout layOut(const Projection &projection) const;

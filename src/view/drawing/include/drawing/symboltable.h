@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/fileaccess.h>
+#include <base/finding.h>
 
 #include <QString>
 
@@ -10,10 +11,8 @@
 /// built-in symbol.
 class SymbolTable {
 public:
-  SymbolTable() = default;
-  /// Reads directory + "/svg_symbols.csv"; a file that is missing or cannot be read is logged and
-  /// yields an empty table.
-  explicit SymbolTable(const QString &directory);
+  /// Reads directory + "/svg_symbols.csv" into an empty table, which it stays when the file is missing or cannot be read.
+  Findings read(const QString &directory);
 
   /// File name as the table gives it, by key.
   const std::map<QString, QString> &files() const { return m_files; }

@@ -3,7 +3,7 @@
 #include <QHash>
 #include <QString>
 
-#include <map>
+#include <drawing/aspect.h>
 
 /// The bounds of one draw function as a person typed them, in the unit that was shown then. Empty: from the data.
 struct TypedBounds {
@@ -15,14 +15,16 @@ struct TypedBounds {
 
   /// By the property behind the function, in lower case.
   using OfFunctions = QHash<QString, TypedBounds>;
-  /// For each thing that a function decides (its key in the plot settings, such as "colorFunc"): a function keeps the
-  /// bounds of edge colours apart from those of node colours.
-  using OfSettings = std::map<QString, OfFunctions>;
 
-  /// The key of a function, whether it goes by its name or by its property.
-  static QString key(const QString &function);
-  /// PlotSettings::typedBounds: entries joined by ";", in each key|property|minimum|maximum|unit, percent-encoded. What is
-  /// no entry is passed over.
-  static OfSettings read(const QString &text);
-  static QString written(const OfSettings &bounds);
+  /// A function keeps the bounds of edge colours apart from those of node colours. In the text entries are joined by ";", in
+  /// each aspect|property|minimum|maximum|unit, percent-encoded. What is no entry is passed over.
+  static PerAspect<OfFunctions> read(const QString &text);
+  static QString written(const PerAspect<OfFunctions> &bounds);
+
+  /// The aspect as the plot settings write it: "colorFunc", "widthFunc", "nodeColorFunc", "nodeSizeFunc".
+  static QString aspectKey(Aspect aspect);
+
+  friend bool operator==(const TypedBounds &a, const TypedBounds &b) {
+    return a.minimum == b.minimum && a.maximum == b.maximum && a.unit == b.unit;
+  }
 };

@@ -4,6 +4,7 @@
 
 #include <QGroupBox>
 
+#include <drawing/plotsettings.h>
 #include <drawing/typedbounds.h>
 #include <functional>
 #include <memory>
@@ -17,14 +18,6 @@ class FunctionRow;
 class FunctionRow : public QGroupBox {
   Q_OBJECT
 public:
-  /// Bounds in the stored unit; PlotSettings::OpenMinimum and OpenMaximum for those of the data.
-  struct Values {
-    QString function;
-    double minimum = 0.0;
-    double maximum = 0.0;
-    bool absolute = false;
-    bool logarithmic = false;
-  };
   struct Unit {
     QString name; ///< empty for plain numbers
     Units::Linear toDisplay;
@@ -37,11 +30,9 @@ public:
 
   /// The names that are offered. \param described what stands behind those of them that say little by themselves
   void setChoices(const QStringList &names, const QHash<QString, QString> &described);
-  /// Shows the values; the "Reset" buttons come back to them. \param typed what was typed for the functions of this row
-  void setValues(const Values &values, const TypedBounds::OfFunctions &typed);
-  Values values() const;
-  /// What is typed for the functions of this row now.
-  TypedBounds::OfFunctions typedBounds() const;
+  /// Shows the function; the "Reset" buttons come back to its bounds.
+  void setFunction(const PlotSettings::Function &function);
+  PlotSettings::Function function() const;
   void takeBoundsFromData();
   /// The same for every function of this row.
   void forgetBounds();
@@ -53,6 +44,8 @@ public:
 private:
   void changeFunction(const QString &function);
   TypedBounds shownBounds() const;
+  /// What is typed for the functions of this row now.
+  TypedBounds::OfFunctions typedBounds() const;
   void show(const TypedBounds &bounds);
   TypedBounds inUnit(const TypedBounds &typed) const;
   QString written(double bound, double open, const QString &typed) const;
@@ -61,7 +54,7 @@ private:
   std::unique_ptr<Ui::FunctionRow> m_ui;
   UnitOf m_unitOf;
   Unit m_unit;                        ///< of the function that is shown
-  QString m_function;                 ///< that is shown, as TypedBounds::key() has it
+  QString m_function;                 ///< that is shown, as TypedBounds::OfFunctions has it
   TypedBounds::OfFunctions m_typed;   ///< of the other functions
   TypedBounds::OfFunctions m_applied; ///< what "Reset" comes back to
 };

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "configure/functionrow.h"
+
+#include <QWidget>
+
+#include <drawing/netupdate.h>
+
+/// The draw functions of the dialog, one row for each thing that they decide.
+class FunctionsPage : public QWidget {
+  Q_OBJECT
+public:
+  /// \param drawing whose network and values the rows speak of
+  explicit FunctionsPage(const NetUpdate &drawing, QWidget *parent = nullptr);
+
+  /// Offers the names that every network may have, and behind them the properties of this one.
+  void offerFunctions();
+  /// Shows the functions, and what the values that are drawn say to their bounds.
+  void showFunctions(const PlotSettings &settings);
+  /// Changes what was touched since the functions were shown, after asking what to do about bounds that make no range.
+  /// False, and nothing is changed, when nothing is to be applied.
+  bool readTouched(PlotSettings &settings) const;
+  /// Takes all bounds of all functions from the data.
+  void forgetBounds();
+
+private:
+  FunctionRow::Unit unitOf(const QString &function) const;
+  /// Where the values of the data lie, and whether any of them lies between the bounds.
+  static QString noteOn(const DrawValues::Column &values, const PlotSettings::Function &function);
+  /// Corrects bounds that make no range if the person wants it; false when nothing is to be applied.
+  static bool askForSoundRange(PlotSettings::Function &function);
+
+  const NetUpdate &m_drawing;
+  PerAspect<FunctionRow *> m_rows{};
+  PerAspect<PlotSettings::Function> m_shown; ///< what the rows said before anybody touched them
+};

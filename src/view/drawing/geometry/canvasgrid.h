@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QRectF>
+
+#include <drawing/cellaxis.h>
+#include <vector>
+
+/// Coarse cells over a part of the canvas that remember who stands there.
+class CanvasGrid {
+public:
+  /// \param cell side of a cell in pixels, at least 1
+  CanvasGrid(const QRectF &area, double cell);
+
+  /// Takes the cell of the point; false when it was taken before or the point lies outside.
+  bool take(const QPointF &point);
+  /// Takes all cells under the rectangle, as far as they lie inside; false when one of them was taken before.
+  bool takeArea(const QRectF &area);
+  /// Takes the cell of the point when it and the eight around it are free, and returns the number; the number of one of
+  /// those who stand there otherwise. Points outside take the nearest cell.
+  int claim(const QPointF &point, int number);
+
+private:
+  int &at(int column, int row);
+
+  CellAxis m_columns;
+  CellAxis m_rows;
+  std::vector<int> m_numbers; ///< of those who stand in the cells, row by row
+};
