@@ -68,7 +68,7 @@ bool isPlaced(double x, double y) {
   return x != NetData::NoValue && y != NetData::NoValue;
 }
 
-/// Fills the columns of a request, element by element; what it knows of an element stands in columns from the given one on.
+/// Fills the columns of a request element by element; the wanted properties stand in the columns read from first on.
 class ValueReader {
 public:
   ValueReader(const ValueRequest &request, std::size_t nodes, std::size_t edges)
@@ -144,7 +144,7 @@ std::vector<Edge> readEdges(const NetData &net, const ValueRequest &request, Val
   return edges;
 }
 
-/// Those that have coordinates.
+/// The elements of the collection that have coordinates.
 std::vector<NetGeometry::PointElement> readPoints(const elements &collection) {
   PropertyColumns columns = columnsOf({"x", "y"});
   std::vector<NetGeometry::PointElement> points;

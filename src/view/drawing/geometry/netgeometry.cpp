@@ -9,8 +9,8 @@ namespace {
 
 using Edge = NetGeometry::Edge;
 
-/// What to multiply coordinates with for an extent to have between a hundred and a billion units: zooming counts in whole
-/// units and goes down to a pixel each. Eight degrees become eight million units, so that a pixel can be a tenth of a metre.
+/// The factor that gives an extent between a hundred and a billion units: zooming counts in whole units and goes down to
+/// a pixel each. Eight degrees become eight million units, so that a pixel can be a tenth of a metre.
 double plotUnitsFor(const QRectF &extent) {
   constexpr double SmallestSide = 1e2;
   constexpr double LargestSide = 1e9;
@@ -22,7 +22,7 @@ double plotUnitsFor(const QRectF &extent) {
   return std::pow(10.0, ExponentOfSide - std::floor(std::log10(side)));
 }
 
-/// Bounds some way outside of the middle nine tenths of the values; wide open when these are all the same.
+/// Bounds well outside of the middle nine tenths of the values, infinite when these are all the same.
 std::pair<double, double> fence(std::vector<double> values) {
   constexpr double TailShare = 0.05;
   constexpr double WidthsOutside = 3.0;
@@ -54,7 +54,7 @@ private:
   bool m_isAny = false;
 };
 
-/// An edge as its end node that comes first by name sees it.
+/// An edge, seen from that of its end nodes which comes first by name.
 struct Way {
   int far; ///< the other end node
   int edge;
@@ -98,7 +98,7 @@ void assignLanes(std::vector<Edge> &edges, std::size_t nodes) {
       const float middle = static_cast<float>(end - group - 1) * 0.5F;
       for (auto way = group; way != end; ++way) {
         Edge &edge = edges[static_cast<std::size_t>(way->edge)];
-        const float aside = static_cast<float>(way - group) - middle; // of the way from the node that comes first by name
+        const float aside = static_cast<float>(way - group) - middle; // seen from the node that comes first by name
         edge.lane = edge.node1 < edge.node2 ? aside : -aside;
       }
       group = end;
@@ -249,7 +249,7 @@ std::optional<QPointF> NetGeometry::center(Item item) const {
 }
 
 int NetGeometry::nodesOutside(const QRectF &extent) const {
-  const double rounding = std::max(extent.width(), extent.height()) * 1e-9; // of the way to plot coordinates
+  const double rounding = std::max(extent.width(), extent.height()) * 1e-9; // in the conversion to plot coordinates
   const QRectF area = extent.adjusted(-rounding, -rounding, rounding, rounding);
   return static_cast<int>(std::count_if(m_records.nodes.begin(), m_records.nodes.end(), [&area](const Node &node) {
     return node.isPlaced && (node.x < area.left() || node.x > area.right() || node.y < area.top() || node.y > area.bottom());

@@ -13,7 +13,7 @@ std::uint32_t spread(std::uint32_t x) {
   return (x | (x << 1)) & 0x55555555U;
 }
 
-/// So that the last cell begins where the bounds end.
+/// The cells of the curve along one axis; the last one begins where the bounds end.
 CellAxis curveCells(double from, double to) {
   constexpr int Cells = 1 << 16;
   return {from, (to - from) / (Cells - 1), Cells};

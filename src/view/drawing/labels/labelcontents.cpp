@@ -40,7 +40,7 @@ void readColor(const QString &name, const QString &alpha, QColor &color) {
   }
   bool isNumber = false;
   const int number = alpha.trimmed().toInt(&isNumber);
-  if (isNumber && (named.isValid() || color.alpha() > 0)) // no colour has no opacity
+  if (isNumber && (named.isValid() || color.alpha() > 0)) // an opacity alone makes nothing visible
     color.setAlpha(qBound(0, number, Opaque));
 }
 
@@ -213,7 +213,7 @@ int LabelContents::decimalsOf(const Part &part, const element &like) const {
   const auto collection = m_net.typeMap().find(m_net.metaData()->kindOf(type));
   if (collection == m_net.typeMap().end())
     return 0;
-  const std::string word = type.toLower().toStdString(); // as the rows are found
+  const std::string word = type.toLower().toStdString(); // rows are found whatever the case
   int needed = 0;
   int looked = 0;
   int found = 0;
@@ -244,8 +244,8 @@ QString LabelContents::shownValue(const Part &part, const element &source) const
       return result.text == QLatin1String(FormulaReference::Null) ? QString() : result.text;
     } catch (const FormulaError &error) {
       if (error.kind() == FormulaError::Kind::TooCostly)
-        tell(m_told, Finding::Severity::Warning, error.text()); // once: from now on it is not evaluated
-      return QString();                                         // of this element it says nothing
+        tell(m_told, Finding::Severity::Warning, error.text()); // once: the formula is given up
+      return QString();                                         // for this element the label says nothing
     }
   }
   const PropertyText *value = source.find(part.value);
@@ -306,7 +306,7 @@ QStringList LabelContents::textOfBox(const element &box) const {
   if (const Type *type = find(box)) {
     for (const Line &line : type->lines) {
       QString said = filled(line, box, type->isHtml).remove(Mark);
-      if (type->isHtml) // what is left of it are entities
+      if (type->isHtml) // entities are left
         said = QTextDocumentFragment::fromHtml(said).toPlainText().simplified();
       if (!said.isEmpty())
         lines.append(said);

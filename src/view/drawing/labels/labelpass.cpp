@@ -62,7 +62,7 @@ public:
   }
 };
 
-/// The more important first; of very many only these.
+/// Sorts by importance, and drops the least important of very many.
 void putInOrder(std::vector<LabelWish> &wishes) {
   constexpr std::size_t MostWishes = 20000; // more than would ever fit
   const auto isBefore = [](const LabelWish &a, const LabelWish &b) {

@@ -36,7 +36,7 @@ void LabelLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScale
     const TurnedBox box = candidate.box(label.spot);
     if (!canvasRect.intersects(box.bounds()))
       continue;
-    if (!isSameScale) { // until they are placed anew, those that came too near stand back
+    if (!isSameScale) { // until they are placed anew, labels that came too near to others are left out
       if (!grid.isFree(box))
         continue;
       grid.take(box);

@@ -8,7 +8,7 @@
 namespace {
 
 constexpr double SelectionZ = 3000.0; // above everything
-constexpr double LineMargin = 8.0;    // px that the mark of a line is broader than a thin one
+constexpr double LineMargin = 8.0;    // px, width of the mark along a line
 
 QColor colorOf(const Setting<QString> &name, const Setting<int> &alpha) {
   constexpr int Opaque = 255;

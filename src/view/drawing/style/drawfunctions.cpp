@@ -100,7 +100,7 @@ bool isNoQuantity(const NetMetaData &metaData, const QString &property) {
 void addNumeric(const elements &collection, std::set<PropertyKey> &numeric) {
   static const PropertyKey type = PropertyKey::intern("type");
   constexpr int MostTries = 500;
-  std::vector<int> asked; // by spelling: how often in vain, and MostTries once it has said a number
+  std::vector<int> asked; // by spelling: tries in vain, or MostTries once there was a number
   for (const elements::Entry &entry : collection) {
     const PropertyText *code = entry.value.find(type);
     if (code != nullptr && code->utf8() == "d")
@@ -120,7 +120,7 @@ void addNumeric(const elements &collection, std::set<PropertyKey> &numeric) {
   }
 }
 
-/// Their names, without those that have a fixed name and those that are no quantities.
+/// The names of the properties, without those that have a fixed name and those that are no quantities.
 QStringList namesOf(const std::set<PropertyKey> &properties, const NetMetaData &metaData) {
   QStringList names;
   for (const PropertyKey key : properties) {

@@ -74,7 +74,7 @@ std::vector<double> ofGraph(const DrawFunction &function, const NetGeometry &geo
   return DrawnGraph(geometry).distances(GeometryReader::readValues(geometry, lengths).ofEdges.front());
 }
 
-/// Drives are nodes, but none that is drawn as one: what they say must not stretch the scale of the others.
+/// Drives are nodes that are not drawn as such: their values must not stretch the scale of the others.
 void forgetDrives(const NetGeometry &geometry, std::vector<double> &column) {
   for (std::size_t i = 0; i < column.size(); ++i) {
     if (geometry.nodes()[i].isDrive)
@@ -114,7 +114,7 @@ constexpr std::size_t columnOfEnds(Aspect aspectOfEdges) {
   return 2 + columnOf(aspectOfEdges);
 }
 
-/// Colours of edges and nodes come from one property: it is read once.
+/// Whether the colours of edges and nodes come from one property, which is then read once.
 bool isOneColor(const PlotSettings &s) {
   const PlotSettings::Function &edges = s.functions[Aspect::EdgeColor];
   const PlotSettings::Function &nodes = s.functions[Aspect::NodeColor];

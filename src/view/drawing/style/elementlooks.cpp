@@ -68,7 +68,7 @@ std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
   const auto sizeMap = ColorScale::colorMap(m_settings, Aspect::NodeSize);
   const auto table = ColorScale::nodeColors(m_settings, m_values);
   const bool isColored = byFunction && colors.isAny();
-  constexpr double SmallestShare = 0.5; // of the magnification, and the largest four times as large
+  constexpr double SmallestShare = 0.5; // of the node size; the largest node is four times the smallest
   constexpr double ShareSpan = 1.5;
 
   std::vector<NodeLook> looks(m_geometry.nodes().size());

@@ -42,7 +42,7 @@ LabelTable::LabelTable() {
 
 const LabelRow *LabelTable::ofType(const QString &code) const {
   const auto found = std::find_if(types.begin(), types.end(), [&code](const LabelRow &row) {
-    return row[LabelRow::Short].compare(code, Qt::CaseInsensitive) == 0; // SUB is a sub
+    return row[LabelRow::Short].compare(code, Qt::CaseInsensitive) == 0; // a type may be written in capitals
   });
   return found == types.end() ? nullptr : &*found;
 }
@@ -110,8 +110,8 @@ bool isOfType(Lines &lines, int firstLine, const LabelRow &type) {
   return lines.ahead(firstLine + LabelRow::Short).compare(type[LabelRow::Short], Qt::CaseInsensitive) == 0;
 }
 
-/// Passes over masters in front of a row. False when one of them stands in the row's place, which then has no other: it has
-/// the row's code, and the row itself does not follow.
+/// Passes over the rows of masters in front of a type's row. False when a master stands where that row should: it has the
+/// type's code, and the row itself does not follow.
 bool skipMasters(Lines &lines, const LabelRow &type) {
   while (lines.ahead(LabelRow::LongName).startsWith(QLatin1String("master"))) {
     const bool isInPlace = isOfType(lines, 0, type);

@@ -31,7 +31,7 @@ VisibilityRules::Rule VisibilityRules::ruleOf(const QString &vis, const QString 
   rule.isAuto = isAuto(vis);
   rule.threshold = thresholdOf(numbers, 0);
   rule.secondThreshold = numbers.size() > 1 ? thresholdOf(numbers, 1) : 0.0;
-  // What has a threshold shows only once it was zoomed to.
+  // An element with a threshold is hidden until somebody zooms to it.
   rule.state = rule.isAuto ? State::Off : stateOf(vis);
   return rule;
 }
@@ -79,7 +79,7 @@ bool VisibilityRules::setExtent(double extent) {
   bool hasChanged = false;
   for (Rule &rule : m_rules) {
     if (!rule.isAuto || extent >= rule.threshold * SymbolFactor)
-      continue; // so far out everything stays as it was
+      continue; // so far out an element keeps its state
     const State state = extent < rule.threshold ? State::On : State::Symbol;
     hasChanged = hasChanged || state != rule.state;
     rule.state = state;

@@ -47,7 +47,7 @@ void Figures::add(NetGeometry::Item item, const element &source, Findings &findi
   const QString file = source.value(keys.file).trimmed();
   if (!file.isEmpty())
     figure.picture = load(file, findings);
-  figure.character = source.value(keys.character).trimmed().left(4); // one, which may take several code units
+  figure.character = source.value(keys.character).trimmed().left(4); // one character may take several code units
   figure.width = lengthOf(source, keys.width);
   figure.height = lengthOf(source, keys.height);
   if (figure.picture.isNull() && figure.character.isEmpty())

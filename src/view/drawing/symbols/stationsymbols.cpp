@@ -48,7 +48,7 @@ std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) {
 
 int StationSymbols::find(const QString &key) {
   if (key.isEmpty() || key.contains(QLatin1Char('/')))
-    return -1; // no key, but perhaps a way out of the resources
+    return -1; // such a key could lead out of the resources
   const auto known = m_numbers.constFind(key);
   if (known != m_numbers.constEnd())
     return *known;

@@ -208,7 +208,7 @@ private:
     return QString();
   }
 
-  /// Escapes and comments hide from a search what a style says.
+  /// In a style with escapes or comments a search may find nothing.
   static QString hidden() { return tr("its style has escapes or comments"); }
 
   void noteDashes(const QStringRef &pattern) {
@@ -228,7 +228,7 @@ private:
   QString faultOfTheWhole() const {
     constexpr int MostUses = 1000;
     constexpr double MostDashes = 1e6;
-    // A line from side to side for every two of them takes a third of a millisecond a number.
+    // Any two numbers may be a line from side to side, which takes a third of a millisecond a number.
     constexpr int MostNumbers = 20000;
     if (m_uses > MostUses || m_used.intersects(m_using))
       return tr("it repeats parts within parts");
@@ -242,8 +242,8 @@ private:
   QXmlStreamReader m_reader;
   QStringList m_holders;       ///< ids of the elements around the present one, it included
   bool m_isStyleSheet = false; ///< the text is one
-  QSet<QString> m_used;        ///< ids that somebody repeats
-  QSet<QString> m_using;       ///< ids of what repeats something itself
+  QSet<QString> m_used;        ///< ids of elements that a "use" repeats
+  QSet<QString> m_using;       ///< ids of elements that hold a "use"
   int m_uses = 0;
   double m_count = 0.0; ///< numbers in all
   double m_largest = 0.0;
