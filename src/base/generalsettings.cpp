@@ -130,10 +130,10 @@ int GeneralSettings::loadFile(const QString &path, FileAccess::Source source, co
 }
 
 bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QString &path, const Told &told) {
-  const QString place = QStringLiteral(" (%1:%2)").arg(path).arg(lineNumber);
+  const QString where = QStringLiteral(" (%1:%2)").arg(path).arg(lineNumber);
   QStringList fields = line.split(QLatin1Char(';'));
   if (fields.size() < FieldCount) {
-    tell(told, Finding::Severity::Warning, QStringLiteral("Line contains less than 6 entries!") + place);
+    tell(told, Finding::Severity::Warning, QStringLiteral("Line contains less than 6 entries!") + where);
     return false;
   }
   for (QString &field : fields)
@@ -163,7 +163,7 @@ bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QStrin
     tell(
         told, Finding::Severity::Warning,
         QStringLiteral("Value \"%1\" does not suit the setting \"%2\"; \"%3\" stays.").arg(entry.value, key, builtIn.value) +
-            place);
+            where);
     return false;
   }
   known->second = entry;
