@@ -152,7 +152,7 @@ public:
       , m_ofEdge({Names::all().name, Names::all().node1, Names::all().node2}) {}
 
   ConsistencyCheck::PruneResult run() {
-    static_cast<void>(m_net.nodes().begin()); // gives the nodes their places
+    static_cast<void>(m_net.nodes().begin()); // gives the nodes their indices
     m_passed.assign(m_net.nodes().size(), false);
     m_result.edges = erase(m_net.edges(), "edge", [this](const elements::Entry &e) { return edgePasses(e.value); });
     m_result.nodes = erase(m_net.nodes(), "node", [this](const elements::Entry &e) { return nodePasses(e); });
@@ -202,10 +202,10 @@ private:
   }
 
   bool nodePasses(const elements::Entry &entry) {
-    const auto place = static_cast<std::size_t>(entry.place);
-    if (!m_passed[place])
-      m_passed[place] = nodePasses(entry.value);
-    return m_passed[place];
+    const auto index = static_cast<std::size_t>(entry.index);
+    if (!m_passed[index])
+      m_passed[index] = nodePasses(entry.value);
+    return m_passed[index];
   }
 
   bool nodePasses(element &node) {
@@ -281,7 +281,7 @@ private:
                                    QStringLiteral(" could be found. Drive is excluded!"));
     if (driven == nullptr) {
       driveFails(drive, QStringLiteral("Could not find DRIVEN ") + drivenName->toString() + QStringLiteral(". Check!"));
-      place(drive, m_net.position(*gasNode) + QPointF(0.0, 50.0));
+      setPosition(drive, m_net.position(*gasNode) + QPointF(0.0, 50.0));
       return true;
     }
     if (!isTypeCode(driven->find(Names::all().type), "c"))
@@ -303,10 +303,10 @@ private:
   void placeBeside(element &drive, const element &compressor) const {
     const element &inlet = *m_net.nodes().find(*compressor.find(Names::all().node1));
     const element &outlet = *m_net.nodes().find(*compressor.find(Names::all().node2));
-    place(drive, 0.3 * m_net.position(inlet) + 0.7 * m_net.position(outlet));
+    setPosition(drive, 0.3 * m_net.position(inlet) + 0.7 * m_net.position(outlet));
   }
 
-  void place(element &drive, const QPointF &at) const {
+  void setPosition(element &drive, const QPointF &at) const {
     constexpr int Digits = 8;
     const QString xText = QString::number(at.x(), 'g', Digits);
     const QString yText = QString::number(at.y(), 'g', Digits);
@@ -325,7 +325,7 @@ private:
   PropertyColumns m_ofNode;
   PropertyColumns m_ofEdge;
   ConsistencyCheck::PruneResult m_result;
-  std::vector<bool> m_passed; // nodes by their place: those that need no second test
+  std::vector<bool> m_passed; // nodes by their index: those that need no second test
 };
 
 } // namespace

@@ -157,7 +157,7 @@ void NetGeometry::addEdges(const NetData &net, const Request &request, Values &v
   // m_nodes stands in name order, as the collection does.
   const auto position = [&](const PropertyText *name) {
     const elements::Entry *node = name == nullptr ? nullptr : net.nodes().findEntry(name->utf8());
-    return node == nullptr ? -1 : node->place;
+    return node == nullptr ? -1 : node->index;
   };
   const std::vector<const element *> sources = sourcesOf(net.edges());
   m_edges.resize(sources.size());
@@ -183,7 +183,7 @@ void NetGeometry::findPins(const NetData &net) {
   for (Place &subnet : m_subnets) {
     for (const QString &name : Topology::listed(*subnet.source, key)) {
       if (const elements::Entry *node = net.nodes().findEntry(name.toStdString()))
-        subnet.pins.push_back(node->place);
+        subnet.pins.push_back(node->index);
     }
   }
 }
@@ -253,8 +253,8 @@ std::optional<NetGeometry::Item> NetGeometry::find(const NetData &net, const QSt
   for (const auto &[kind, collection] : {std::make_pair(NetData::Node, &net.nodes()), {NetData::Edge, &net.edges()}}) {
     const elements::Entry *entry = (kinds & kind) != 0 ? collection->findEntry(utf8) : nullptr;
     const std::size_t count = kind == NetData::Node ? m_nodes.size() : m_edges.size();
-    if (entry != nullptr && static_cast<std::size_t>(entry->place) < count && source({kind, entry->place}) == &entry->value)
-      return Item{kind, entry->place};
+    if (entry != nullptr && static_cast<std::size_t>(entry->index) < count && source({kind, entry->index}) == &entry->value)
+      return Item{kind, entry->index};
   }
   for (const auto &[kind, places] :
        {std::make_pair(NetData::AssembledSubnet, &m_subnets), {NetData::TextBox, &m_textBoxes}}) {
