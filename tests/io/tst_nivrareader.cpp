@@ -1,6 +1,7 @@
 #include <base/fileaccess.h>
 #include <io/nivrareader.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QTemporaryDir>
 
@@ -42,12 +43,7 @@ private slots:
 private:
   QTemporaryDir m_folder;
 
-  QString write(const QString &name, const QByteArray &text) {
-    QFile file(m_folder.filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-    return file.fileName();
-  }
+  QString write(const QString &name, const QByteArray &text) { return SmallFiles::write(m_folder.filePath(name), text); }
   NivraReader::Result read(NetData &net, const QByteArray &text, const NivraReader::Options &options = {}) {
     return NivraReader(net).readGeomJsn(write(QStringLiteral("a.geom.jsn"), text), options);
   }
@@ -394,15 +390,11 @@ void TestNivraReader::specialFilesAreRefused() {
   QTemporaryDir elsewhere;
   QDir(root.path()).mkpath(QStringLiteral("C/S"));
   const QString folder = root.filePath(QStringLiteral("C/"));
-  const auto put = [](const QString &path, const QByteArray &text) {
-    QFile made(path);
-    return made.open(QIODevice::WriteOnly) && made.write(text) == text.size();
-  };
   const QString stranger = elsewhere.filePath(QStringLiteral("f"));
-  QVERIFY(put(stranger, "{\n\"A\":{\"obj_type\":\"node\",\"p\":99}\n}\n"));
+  SmallFiles::write(stranger, "{\n\"A\":{\"obj_type\":\"node\",\"p\":99}\n}\n");
   for (const QString &kind : {QStringLiteral("pipe"), QStringLiteral("/dev/zero"), stranger}) {
-    QVERIFY(put(folder + QStringLiteral("w.geom.jsn"), "{\n\"A\":{\"obj_type\":\"node\"}\n}\n"));
-    QVERIFY(put(folder + QStringLiteral("S/w.scen.jsn"), "{\n}\n"));
+    SmallFiles::write(folder + QStringLiteral("w.geom.jsn"), "{\n\"A\":{\"obj_type\":\"node\"}\n}\n");
+    SmallFiles::write(folder + QStringLiteral("S/w.scen.jsn"), "{\n}\n");
     const NivraWorkspace workspace = NivraWorkspace::fromFile(folder + QStringLiteral("S/w.scen.jsn"));
     QFile::remove(folder + file);
     if (kind == QLatin1String("pipe"))

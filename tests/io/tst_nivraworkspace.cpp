@@ -3,6 +3,7 @@
 #include <io/nivraworkspace.h>
 #include <io/scenariosummary.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -11,12 +12,7 @@
 
 namespace {
 
-void write(const QString &path, const QByteArray &text) {
-  QDir().mkpath(QFileInfo(path).path());
-  QFile file(path);
-  file.open(QIODevice::WriteOnly);
-  file.write(text);
-}
+using SmallFiles::write;
 
 QStringList boxes(const Findings &findings) {
   QStringList list;
