@@ -116,11 +116,7 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
          QStringLiteral("%1 was chosen; the files of a case are named up to the first dot, and %2 is read")
              .arg(file.fileName(), base + kind + match.captured(2)));
   if (isScenario) {
-    workspace.addScenario(QFileInfo(directory).fileName());
-    NivraScenario &scenario = workspace.m_cases.last().scenarios.last();
-    scenario.baseName = base;
-    scenario.scenFile = base + QStringLiteral(".scen");
-    scenario.configFile = base + QStringLiteral(".scen.cfg");
+    workspace.addScenario(QFileInfo(directory).fileName(), base);
   } else {
     workspace.takeChosenGeometry(base);
   }
@@ -188,12 +184,12 @@ QString NivraWorkspace::filePath(const QString &name) const {
   return m_cases.isEmpty() ? name : caseDirectory() + QLatin1Char('/') + name;
 }
 
-void NivraWorkspace::addScenario(const QString &directoryName) {
+void NivraWorkspace::addScenario(const QString &directoryName, const QString &baseName) {
   NivraScenario scenario;
   scenario.workDir = directoryName;
-  scenario.baseName = directoryName;
-  scenario.scenFile = directoryName + QStringLiteral(".scen");
-  scenario.configFile = directoryName + QStringLiteral(".scen.cfg");
+  scenario.baseName = baseName;
+  scenario.scenFile = baseName + QStringLiteral(".scen");
+  scenario.configFile = baseName + QStringLiteral(".scen.cfg");
   m_cases.last().scenarios.append(scenario);
 }
 
