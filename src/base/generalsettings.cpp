@@ -1,5 +1,4 @@
 #include <base/generalsettings.h>
-#include <base/nivramsg.h>
 #include <base/settingstable.h>
 
 #include <QBuffer>
@@ -147,13 +146,14 @@ bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QStrin
   }
   const auto known = m_entries.find(key);
   if (known == m_entries.end()) {
-    NivraMsg::debug(QStringLiteral("nivraGeneralProps: WARNING skipping unknown property ") + key);
+    tell(told, Finding::Severity::Debug, QStringLiteral("nivraGeneralProps: WARNING skipping unknown property ") + key);
     return false;
   }
   const Entry &builtIn = known->second;
   if (entry.category != builtIn.category) {
-    NivraMsg::debug(QStringLiteral("nivraGeneralProps: using new default category ") + builtIn.category +
-                    QStringLiteral(" for ") + key);
+    tell(told, Finding::Severity::Debug,
+         QStringLiteral("nivraGeneralProps: using new default category ") + builtIn.category + QStringLiteral(" for ") +
+             key);
     entry.category = builtIn.category;
   }
   // Type and options say what the program understands, so a file cannot change them.

@@ -24,7 +24,6 @@ struct Keys {
   PropertyKey rotation = PropertyKey::intern("rotation");
   PropertyKey icon = PropertyKey::intern("icon");
   PropertyKey constraints = PropertyKey::intern("constraints");
-  PropertyKey driven = PropertyKey::intern("driven");
   PropertyKey visSize = PropertyKey::intern("vis.size");
 };
 
@@ -301,8 +300,8 @@ SubAssembler::Frame SubAssembler::layOut(element &subnet, const std::vector<Pin>
 /// A node that the network lacks, to be saved by hand.
 void SubAssembler::createPin(const element &source, const QString &name, const QPointF &at) {
   element pin = source;
-  pin.set(QStringLiteral("refEle"), source.value(Names::all().name));
-  for (const PropertyKey key : {Names::all().gasNode, keys().driven})
+  pin.set(Names::all().refEle, *source.find(Names::all().name));
+  for (const PropertyKey key : {Names::all().gasNode, Names::all().driven})
     pin.erase(key);
   pin.set(Names::all().name, PropertyText(name));
   pin.set(Names::all().x, PropertyText::ofNumber(at.x()));

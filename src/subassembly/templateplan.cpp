@@ -10,21 +10,11 @@
 
 namespace {
 
-struct Keys {
-  PropertyKey refEle = PropertyKey::intern("refEle");
-};
-
-const Keys &keys() {
-  static const Keys instance;
-  return instance;
-}
-
 /// Properties that name an element of the same network, besides "name".
 const std::vector<PropertyKey> &references() {
-  static const std::vector<PropertyKey> instance{PropertyKey::intern("node1"),  PropertyKey::intern("node2"),
-                                                 PropertyKey::intern("entry"),  PropertyKey::intern("exit"),
-                                                 PropertyKey::intern("drive"),  PropertyKey::intern("driven"),
-                                                 PropertyKey::intern("gasnode")};
+  static const std::vector<PropertyKey> instance{
+      Names::all().node1, Names::all().node2,  PropertyKey::intern("entry"), PropertyKey::intern("exit"),
+      Names::all().drive, Names::all().driven, Names::all().gasNode};
   return instance;
 }
 
@@ -94,7 +84,7 @@ void TemplatePlan::addPart(const NetData &source, const elements::Entry &entry, 
   part.prototype = entry.value;
   part.isNode = isNode;
   part.at = source.position(entry.value);
-  part.prototype.set(keys().refEle, entry.id);
+  part.prototype.set(Names::all().refEle, entry.id);
   if (isNode) {
     part.prototype.set(Names::all().x, PropertyText());
     part.prototype.set(Names::all().y, PropertyText());

@@ -71,7 +71,7 @@ void NetworkMachines::set(MachineData data) {
 
 const element *NetworkMachines::driven(const element &e) const {
   const bool isDrive = e.value(Names::all().type) == QLatin1String("d");
-  return isDrive ? m_net.edges().find(e.value(QStringLiteral("driven"))) : nullptr;
+  return isDrive ? m_net.edges().find(e.value(Names::all().driven)) : nullptr;
 }
 
 const Drive *NetworkMachines::driveNamedBy(const QString &compressor) const {
@@ -82,7 +82,7 @@ const Drive *NetworkMachines::driveNamedBy(const QString &compressor) const {
 }
 
 QStringList NetworkMachines::names(const element &e) const {
-  const QString machine = e.value(QStringLiteral("machine"));
+  const QString machine = e.value(Names::all().machine);
   const QString own = machine.isEmpty() ? e.value(Names::all().name) : machine;
   if (const element *compressor = driven(e)) {
     if (m_data.drive(own) != nullptr)
@@ -100,7 +100,7 @@ QStringList NetworkMachines::names(const element &e) const {
 }
 
 const Drive *NetworkMachines::driveOf(const element &compressor, const QString &named) const {
-  const element *drive = m_net.nodes().find(compressor.value(QStringLiteral("drive")));
+  const element *drive = m_net.nodes().find(compressor.value(Names::all().drive));
   const bool isOneOfSeveral = names(compressor).size() > 1; // the drive that the network names is that of the first
   const Drive *own = drive == nullptr || isOneOfSeveral ? nullptr : m_data.drive(names(*drive).first());
   return own != nullptr ? own : m_data.drive(named);
