@@ -1,37 +1,24 @@
 #include "readreport.h"
 
+#include <array>
+
 QString ReadReport::name(Kind kind) {
-  switch (kind) {
-  case Kind::BadLine:
-    return tr("bad line");
-  case Kind::DoubtfulValue:
-    return tr("doubtful value");
-  case Kind::DroppedProperty:
-    return tr("dropped property");
-  case Kind::Empty:
-    return tr("empty");
-  case Kind::Encoding:
-    return tr("encoding");
-  case Kind::Gas:
-    return tr("gas");
-  case Kind::Identity:
-    return tr("identity");
-  case Kind::IncludeList:
-    return tr("include list");
-  case Kind::IncompleteValue:
-    return tr("incomplete value");
-  case Kind::OtherName:
-    return tr("other name");
-  case Kind::PropertyGivenTwice:
-    return tr("property given twice");
-  case Kind::Unit:
-    return tr("unit");
-  case Kind::UnknownName:
-    return tr("unknown name");
-  case Kind::UnknownType:
-    return tr("unknown type");
-  }
-  return QString();
+  static constexpr std::array Names{QT_TRANSLATE_NOOP("ReadReport", "bad line"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "doubtful value"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "dropped property"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "empty"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "encoding"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "gas"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "identity"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "include list"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "incomplete value"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "other name"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "property given twice"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "unit"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "unknown name"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "unknown type")};
+  static_assert(Names.size() == static_cast<std::size_t>(Kind::UnknownType) + 1);
+  return tr(Names.at(static_cast<std::size_t>(kind))); // in the order of the kinds
 }
 
 void ReadReport::add(Kind kind, int line, const QString &text, const QString &box, const QString &element) {

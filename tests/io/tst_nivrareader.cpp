@@ -37,6 +37,7 @@ private slots:
   void specialFilesAreRefused();
   void readErrorsEndAndAreTold_data();
   void readErrorsEndAndAreTold();
+  void manyFindingsOfAKindAreCounted();
   void cancelling();
   void textWorkspace();
 
@@ -505,6 +506,17 @@ void TestNivraReader::companionFiles() {
   QCOMPARE(gas.tsoil, 270.5);
   QCOMPARE(workspace.currentScenario()->comprDatabase, QStringLiteral("own.txt"));
   QCOMPARE(workspace.currentScenario()->workDir, QStringLiteral("S")); // where the file lies
+}
+
+void TestNivraReader::manyFindingsOfAKindAreCounted() {
+  QByteArray text = "{\n\"N\":{\"obj_type\":\"node\",\"note\":null}\n";
+  for (int i = 0; i < 1002; ++i)
+    text += ",\"U" + QByteArray::number(i) + "\":{\"obj_type\":\"nonsense\"}\n";
+  NetData net;
+  const Findings findings = read(net, text + "}\n").findings;
+  QCOMPARE(findings.size(), std::size_t(1 + 1000 + 1));
+  QCOMPARE(findings.front().text, QStringLiteral("Property note of element N is left out: it has no value"));
+  QCOMPARE(findings.back().text, QStringLiteral("... and 2 more of this kind (unknown type)"));
 }
 
 void TestNivraReader::cancelling() {
