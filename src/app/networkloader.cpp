@@ -194,8 +194,8 @@ bool NetworkLoader::assembleSubnets(const ReadOptions &options) {
   m_templateFolder.clear();
   if (m_net.assembledSubnets().isEmpty())
     return true;
-  m_templateFolder = SubAssembler::findFolder(QCoreApplication::applicationDirPath());
-  SubAssembler assembler(m_net, m_templateFolder);
+  m_templateFolder = SubAssembler::findFolder(QCoreApplication::applicationDirPath(), logFinding);
+  SubAssembler assembler(m_net, m_templateFolder, SubAssemblyCache::instance(), logFinding);
   SubAssembler::Result result =
       assembler.createElesOfAssembledSubnets(SubAssembler::Flag::All, [&](const QString &text, int done, int count) {
         if (options.told)

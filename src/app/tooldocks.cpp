@@ -170,7 +170,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
 }
 
 void ToolDocks::createCharacteristics() {
-  m_characteristics = new CharacteristicsStack(m_net, &m_window);
+  m_characteristics = new CharacteristicsStack(m_net, showFinding, &m_window);
   addDock(m_characteristics, QStringLiteral("characteristics"), Qt::RightDockWidgetArea);
   connect(&m_control, &NetVisControl::openCharacteristicsRequested, this, &ToolDocks::openCharacteristics);
 }

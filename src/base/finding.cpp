@@ -28,10 +28,10 @@ QString Finding::logText() const {
   QString said = text.isEmpty() ? box : text;
   if (said.isEmpty() || (file.isEmpty() && line <= 0))
     return said;
-  QString place = file;
+  QString where = file;
   if (line > 0)
-    place += (file.isEmpty() ? QStringLiteral("line ") : QStringLiteral(":")) + QString::number(line);
-  return said + QStringLiteral(" (") + place + QLatin1Char(')');
+    where += (file.isEmpty() ? QStringLiteral("line ") : QStringLiteral(":")) + QString::number(line);
+  return said + QStringLiteral(" (") + where + QLatin1Char(')');
 }
 
 void append(Findings &findings, Findings more) {
@@ -61,6 +61,13 @@ void logFinding(const Finding &finding) {
     NivraMsg::logCritical(text);
     break;
   }
+}
+
+void showFinding(const Finding &finding) {
+  if (finding.box.isEmpty())
+    logFinding(finding);
+  else
+    NivraMsg::message(boxKind(finding), finding.box);
 }
 
 void report(const Findings &findings) {

@@ -1,5 +1,4 @@
 #include <base/generalsettings.h>
-#include <base/nivramsg.h>
 #include <base/settingstable.h>
 
 #include <QBuffer>
@@ -130,10 +129,10 @@ int GeneralSettings::loadFile(const QString &path, FileAccess::Source source, co
 }
 
 bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QString &path, const Told &told) {
-  const QString place = QStringLiteral(" (%1:%2)").arg(path).arg(lineNumber);
+  const QString where = QStringLiteral(" (%1:%2)").arg(path).arg(lineNumber);
   QStringList fields = line.split(QLatin1Char(';'));
   if (fields.size() < FieldCount) {
-    tell(told, Finding::Severity::Warning, QStringLiteral("Line contains less than 6 entries!") + place);
+    tell(told, Finding::Severity::Warning, QStringLiteral("Line contains less than 6 entries!") + where);
     return false;
   }
   for (QString &field : fields)
@@ -147,13 +146,14 @@ bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QStrin
   }
   const auto known = m_entries.find(key);
   if (known == m_entries.end()) {
-    NivraMsg::debug(QStringLiteral("nivraGeneralProps: WARNING skipping unknown property ") + key);
+    tell(told, Finding::Severity::Debug, QStringLiteral("nivraGeneralProps: WARNING skipping unknown property ") + key);
     return false;
   }
   const Entry &builtIn = known->second;
   if (entry.category != builtIn.category) {
-    NivraMsg::debug(QStringLiteral("nivraGeneralProps: using new default category ") + builtIn.category +
-                    QStringLiteral(" for ") + key);
+    tell(told, Finding::Severity::Debug,
+         QStringLiteral("nivraGeneralProps: using new default category ") + builtIn.category + QStringLiteral(" for ") +
+             key);
     entry.category = builtIn.category;
   }
   // Type and options say what the program understands, so a file cannot change them.
@@ -163,7 +163,7 @@ bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QStrin
     tell(
         told, Finding::Severity::Warning,
         QStringLiteral("Value \"%1\" does not suit the setting \"%2\"; \"%3\" stays.").arg(entry.value, key, builtIn.value) +
-            place);
+            where);
     return false;
   }
   known->second = entry;

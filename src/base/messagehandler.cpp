@@ -1,7 +1,5 @@
 #include "messagehandler.h"
 
-#include <base/nivramsg.h>
-
 #include <QtGlobal>
 
 #include <algorithm>
@@ -67,7 +65,7 @@ void MessageHandler::writeLine(const QString &text) {
 void MessageHandler::record(const QString &text) {
   const std::lock_guard<std::mutex> lock(recorderMutex());
   for (RecordedLines *recorder : recorders()) {
-    if (recorder->lines.size() < Recorder::MaximumLines)
+    if (recorder->lines.size() < recorder->maximum)
       recorder->lines.append(text);
     else
       ++recorder->dropped;

@@ -7,8 +7,12 @@ namespace NivraMsg {
 
 /// What a Recorder has seen so far; guarded by the message handler's lock.
 struct RecordedLines {
+  explicit RecordedLines(int maximumLines)
+      : maximum(maximumLines) {}
+
+  int maximum; ///< number of lines that are kept
   QStringList lines;
-  int dropped = 0;
+  int dropped = 0; ///< number of lines beyond
 };
 
 /// The process's Qt message handler: every message, of whatever origin, as plain text and a newline on standard error.

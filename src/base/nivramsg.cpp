@@ -130,7 +130,7 @@ bool isInteractive() {
 }
 
 Recorder::Recorder()
-    : m_recorded(std::make_unique<RecordedLines>()) {
+    : m_recorded(std::make_unique<RecordedLines>(MaximumLines)) {
   MessageHandler::install();
   MessageHandler::add(m_recorded.get());
 }

@@ -4,9 +4,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("XmlBounds", text);
-}
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(XmlBounds)
+};
 
 /// Walks over the marks of a text.
 class Walk {
@@ -43,7 +43,7 @@ private:
 
   void takeDeclaration() {
     if (!m_limits.hasDocumentType)
-      m_fault = tr("The file has a document type, which is not allowed");
+      m_fault = Texts::tr("The file has a document type, which is not allowed");
     QChar quote; // marks in quotes are none; what is declared in brackets is looked at like the rest
     for (++m_at; m_at < m_text.size(); ++m_at) {
       const QChar c = m_text.at(m_at);
@@ -85,11 +85,11 @@ private:
 
   void judge(int attributes) {
     if (attributes > m_limits.attributes)
-      m_fault = tr("An element has %1 attributes, more than %2").arg(attributes).arg(m_limits.attributes);
+      m_fault = Texts::tr("An element has %1 attributes, more than %2").arg(attributes).arg(m_limits.attributes);
     else if (m_depth > m_limits.nesting)
-      m_fault = tr("Elements are nested more than %1 deep").arg(m_limits.nesting);
+      m_fault = Texts::tr("Elements are nested more than %1 deep").arg(m_limits.nesting);
     else if (m_namespaces > m_limits.namespaces)
-      m_fault = tr("There are more than %1 namespaces").arg(m_limits.namespaces);
+      m_fault = Texts::tr("There are more than %1 namespaces").arg(m_limits.namespaces);
   }
 
   const QString &m_text;

@@ -19,9 +19,9 @@ public:
   QString kindOf(const QString &node) const { return m_kinds.value(node); }
   /// "pipe", "valve" and so on; empty for a connection that is not there.
   QString kindOfConnection(const QString &name) const { return m_connections.value(name); }
-  /// Where gas enters or leaves.
+  /// The number of nodes at which gas enters or leaves.
   int boundaryNodes() const { return m_boundaryNodes; }
-  /// Of the first supply, which stands for all.
+  /// The gas of the first supply, which stands for all.
   Record gas() const;
   /// What conversions between volume, mass and energy need: what the node states, else what the first supply does.
   Units::Gas conversionGas(const QString &node) const;

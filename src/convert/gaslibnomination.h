@@ -38,7 +38,7 @@ private:
   bool belongsToNetwork();
 
   const GasLibNetwork &m_network;
-  int m_nodes = 0;     ///< that were named
+  int m_nodes = 0;     ///< number of nodes that were named
   int m_unknown = 0;   ///< of these, those that the network lacks
   int m_otherwise = 0; ///< of these, those that are entries here and exits there
 };

@@ -17,7 +17,7 @@ public:
 protected:
   using Record = NetworkRecord;
 
-  /// The number of the current element in a unit of ours, and past the element; nothing, and told, when there is none.
+  /// The number of the current element in a unit of ours; passes over the element. Nothing, and a finding, when it has none.
   /// \param isNegated for values that count the other way round
   std::optional<GasLibUnits::Number> number(const char *unit, const Units::Gas &gas = {}, bool isNegated = false);
   /// Passes over the current element with all that it holds.

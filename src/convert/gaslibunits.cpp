@@ -56,8 +56,8 @@ std::optional<GasLibUnits::Number> GasLibUnits::convert(const Number &number, co
   if (!converted || !std::isfinite(*converted))
     return std::nullopt;
   // What a conversion adds beyond the digits that were given is noise: 0.7342 km are 734.2 m, not 734.1999999999999.
-  constexpr int Usual = 14;
-  constexpr int Most = 17; // of a double
-  const int digits = std::clamp(significantDigits(number.text.utf8()), Usual, Most);
+  constexpr int FewestDigits = 14;
+  constexpr int MostDigits = 17; // of a double
+  const int digits = std::clamp(significantDigits(number.text.utf8()), FewestDigits, MostDigits);
   return Number{PropertyText::ofNumber(*converted, digits), *converted, true};
 }

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -17,21 +18,21 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(NodePlaces)
 };
 
-struct Place {
+struct Position {
   double x = 0.0;
   double y = 0.0;
 };
 
-std::optional<Place> placeOf(const Record &node, const char *x, const char *y) {
+std::optional<Position> positionOf(const Record &node, const char *x, const char *y) {
   const NetworkRecord::Value *atX = node.find(PropertyKey::intern(x));
   const NetworkRecord::Value *atY = node.find(PropertyKey::intern(y));
   if (atX == nullptr || atY == nullptr)
     return std::nullopt;
-  return Place{atX->text.toDouble().value_or(0.0), atY->text.toDouble().value_or(0.0)};
+  return Position{atX->text.toDouble().value_or(0.0), atY->text.toDouble().value_or(0.0)};
 }
 
-void put(Record &node, const Place &place) {
-  for (const auto &[property, at] : {std::make_pair("x", place.x), {"y", place.y}}) {
+void setPosition(Record &node, const Position &position) {
+  for (const auto &[property, at] : {std::make_pair("x", position.x), {"y", position.y}}) {
     constexpr int Digits = 14; // what the mean adds beyond is noise
     const PropertyKey key = PropertyKey::intern(property);
     node.values.erase(std::remove_if(node.values.begin(), node.values.end(),
@@ -41,7 +42,7 @@ void put(Record &node, const Place &place) {
   }
 }
 
-/// Puts nodes into the mean of their placed neighbours, ring by ring from those that have a place.
+/// Puts nodes into the mean of their neighbours, ring by ring from those that have a position.
 class Rings {
 public:
   Rings(const std::vector<Record> &nodes, const std::vector<Record> &edges)
@@ -57,42 +58,42 @@ public:
     }
   }
 
-  void fill(std::vector<std::optional<Place>> &places) const {
+  void fill(std::vector<std::optional<Position>> &positions) const {
     std::vector<std::size_t> ring;
-    for (std::size_t i = 0; i < places.size(); ++i) {
-      if (places[i])
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+      if (positions[i])
         ring.push_back(i);
     }
-    std::vector<bool> isReached(places.size());
+    std::vector<bool> isReached(positions.size());
     while (!ring.empty()) {
       std::vector<std::size_t> next;
       for (const std::size_t node : ring) {
         for (const std::size_t neighbour : m_neighbours[node]) {
-          if (places[neighbour] || isReached[neighbour])
+          if (positions[neighbour] || isReached[neighbour])
             continue;
           isReached[neighbour] = true;
           next.push_back(neighbour);
         }
       }
-      std::vector<Place> found;
+      std::vector<Position> found;
       found.reserve(next.size());
       for (const std::size_t node : next)
-        found.push_back(mean(node, places));
+        found.push_back(mean(node, positions));
       for (std::size_t i = 0; i < next.size(); ++i)
-        places[next[i]] = found[i];
+        positions[next[i]] = found[i];
       ring = std::move(next);
     }
   }
 
 private:
-  Place mean(std::size_t node, const std::vector<std::optional<Place>> &places) const {
-    Place sum;
+  Position mean(std::size_t node, const std::vector<std::optional<Position>> &positions) const {
+    Position sum;
     double count = 0.0;
     for (const std::size_t neighbour : m_neighbours[node]) {
-      if (!places[neighbour])
+      if (!positions[neighbour])
         continue;
-      sum.x += places[neighbour]->x;
-      sum.y += places[neighbour]->y;
+      sum.x += positions[neighbour]->x;
+      sum.y += positions[neighbour]->y;
       count += 1.0;
     }
     return {sum.x / count, sum.y / count};
@@ -104,27 +105,27 @@ private:
 } // namespace
 
 QString NodePlaces::complete(std::vector<Record> &nodes, const std::vector<Record> &edges) {
-  std::vector<std::optional<Place>> places;
+  std::vector<std::optional<Position>> positions;
   const auto look = [&](const char *x, const char *y) {
-    places.clear();
+    positions.clear();
     for (const Record &node : nodes)
-      places.push_back(placeOf(node, x, y));
-    return std::count(places.begin(), places.end(), std::nullopt);
+      positions.push_back(positionOf(node, x, y));
+    return std::count(positions.begin(), positions.end(), std::nullopt);
   };
   const auto count = static_cast<std::ptrdiff_t>(nodes.size());
   const std::ptrdiff_t missing = look("x", "y");
   if (missing == 0)
     return {};
   const bool isByMap = missing == count && look("lon", "lat") < count;
-  Rings(nodes, edges).fill(places);
+  Rings(nodes, edges).fill(positions);
   for (std::size_t i = 0; i < nodes.size(); ++i) {
-    if (placeOf(nodes[i], "x", "y"))
+    if (positionOf(nodes[i], "x", "y"))
       continue;
-    constexpr double Turn = 6.283185307179586;
-    constexpr double Distance = 10.0; // between neighbours on the circle, in plot units
-    const double angle = Turn * static_cast<double>(i) / static_cast<double>(count);
-    const double radius = Distance * static_cast<double>(count) / Turn;
-    put(nodes[i], places[i] ? *places[i] : Place{radius * std::cos(angle), radius * std::sin(angle)});
+    constexpr double FullTurn = 2.0 * M_PI;
+    constexpr double NeighbourDistance = 10.0; // on the circle, in plot units
+    const double angle = FullTurn * static_cast<double>(i) / static_cast<double>(count);
+    const double radius = NeighbourDistance * static_cast<double>(count) / FullTurn;
+    setPosition(nodes[i], positions[i] ? *positions[i] : Position{radius * std::cos(angle), radius * std::sin(angle)});
   }
   const QString how = isByMap ? Texts::tr("their longitude and latitude serve, or they are put between their neighbours")
                               : Texts::tr("they are put between their neighbours, or on a circle");

@@ -49,14 +49,14 @@ bool StagedFolder::open(QString *reason) {
     return false;
   }
   // In the target itself, or in the nearest folder above that is there: what is renamed must stay on its disk.
-  QString place = m_target;
-  while (!QFileInfo::exists(place) && place != QFileInfo(place).path())
-    place = QFileInfo(place).path();
-  m_room = std::make_unique<QTemporaryDir>(within(place, QStringLiteral(".nivra-convert-XXXXXX")));
+  QString folder = m_target;
+  while (!QFileInfo::exists(folder) && folder != QFileInfo(folder).path())
+    folder = QFileInfo(folder).path();
+  m_room = std::make_unique<QTemporaryDir>(within(folder, QStringLiteral(".nivra-convert-XXXXXX")));
   if (m_room->isValid() && QDir(m_room->path()).mkdir(QStringLiteral("new")) &&
       QDir(m_room->path()).mkdir(QStringLiteral("old")))
     return true;
-  *reason = Texts::tr("Cannot write into %1: %2").arg(place, m_room->errorString());
+  *reason = Texts::tr("Cannot write into %1: %2").arg(folder, m_room->errorString());
   return false;
 }
 

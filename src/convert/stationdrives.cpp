@@ -86,10 +86,10 @@ std::vector<Record> StationDrives::make(GasLibNetwork &net, GasLibStations &mach
             station.line);
       fuel = valueOf(*edge, "node1");
     }
-    constexpr double First = 0.7; // of the way, where a single drive would be put
-    constexpr double Last = 0.95;
-    const double step = (Last - First) / std::max(1.0, static_cast<double>(station.drives.size()));
-    double share = First;
+    constexpr double FirstShare = 0.7; // of the way, where a single drive would be put
+    constexpr double LastShare = 0.95;
+    const double step = (LastShare - FirstShare) / std::max(1.0, static_cast<double>(station.drives.size()));
+    double share = FirstShare;
     const std::size_t before = drives.size();
     for (const GasLibStations::Station::Drive &drive : station.drives) {
       drives.push_back(

@@ -11,8 +11,8 @@ public:
       : m_progress(progress) {}
   /// False for good once somebody has said so. \param fraction of the whole that is done
   bool goesOn(double fraction) {
-    constexpr qint64 Between = 20; // ms
-    if (!m_progress || m_isStopped || (m_last.isValid() && m_last.elapsed() < Between))
+    constexpr qint64 MillisecondsBetween = 20;
+    if (!m_progress || m_isStopped || (m_last.isValid() && m_last.elapsed() < MillisecondsBetween))
       return !m_isStopped;
     m_isStopped = !m_progress(fraction);
     m_last.start();

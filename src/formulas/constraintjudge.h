@@ -18,7 +18,7 @@ public:
   bool judge(FormulaRule &rule, const std::vector<element *> &elements, const std::function<bool(std::size_t)> &goesOn);
   /// "(first;second;)" to what was judged. An assembled subnet is told the violations of its inner elements beside its own,
   /// and "()" when it or they were judged and nothing is wrong.
-  /// \param constraints their places among the rules, in the order of the texts
+  /// \param constraints their indices among the rules, in the order of the texts
   void write(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints);
   /// Of bounds, for those who watch the cost.
   int evaluations() const { return m_evaluations; }

@@ -131,18 +131,18 @@ QString Formula::Engine::readable(const std::string &message) const {
 }
 
 QString Formula::Engine::odd(const element &current, const FormulaNames *names) const {
-  constexpr int Most = 3;
-  constexpr int Shown = 30;
+  constexpr int MaximumParts = 3;
+  constexpr int ShownCharacters = 30;
   QStringList parts;
   for (const FormulaReference &reference : references) {
     const PropertyText *value = resolve(reference, current, names);
     if (value == nullptr)
       parts.append(Texts::tr("%1 is missing").arg(reference.written()));
     else if (!value->toDouble())
-      parts.append(Texts::tr("%1 is \"%2\"").arg(reference.written(), value->toString().left(Shown)));
+      parts.append(Texts::tr("%1 is \"%2\"").arg(reference.written(), value->toString().left(ShownCharacters)));
   }
   return parts.isEmpty() ? QString()
-                         : QStringLiteral(" (%1)").arg(QStringList(parts.mid(0, Most)).join(QStringLiteral(", ")));
+                         : QStringLiteral(" (%1)").arg(QStringList(parts.mid(0, MaximumParts)).join(QStringLiteral(", ")));
 }
 
 template <typename Take>
@@ -156,8 +156,9 @@ auto Formula::Engine::evaluate(const element &current, const FormulaNames *names
     used.parser->bounds().restart();
     return take(used.parser->Eval());
   } catch (const FormulaError &error) {
-    constexpr int Shown = 80;
-    const QString shown = original.size() > Shown ? original.left(Shown) + QStringLiteral("…") : original;
+    constexpr int ShownCharacters = 80;
+    const QString shown =
+        original.size() > ShownCharacters ? original.left(ShownCharacters) + QStringLiteral("…") : original;
     const QString why = Texts::tr("The formula \"%1\" is stopped: %2").arg(shown, error.text());
     if (error.kind() == FormulaError::Kind::TooCostly)
       givenUp = why;

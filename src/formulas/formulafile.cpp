@@ -152,7 +152,7 @@ private:
 
 } // namespace
 
-QString FormulaDefinition::place() const {
+QString FormulaDefinition::origin() const {
   return QStringLiteral("%1(%2), %3:%4")
       .arg(property, types.isEmpty() ? QStringLiteral("*") : types.join(QLatin1Char(',')), QFileInfo(file).fileName())
       .arg(line);

@@ -27,8 +27,8 @@ bool continuesProperty(const QString &text, int i) {
 /// The character that an escape at the position stands for, whose length is told; null when there is none.
 QChar escapedAt(const QString &text, int position, int &length) {
   const int end = text.indexOf(QLatin1Char(';'), position);
-  constexpr int Longest = 8;
-  if (text.at(position) != QLatin1Char('&') || end < 0 || end - position > Longest)
+  constexpr int LongestEscape = 8;
+  if (text.at(position) != QLatin1Char('&') || end < 0 || end - position > LongestEscape)
     return QChar();
   const QString inner = text.mid(position + 1, end - position - 1);
   length = end - position + 1;

@@ -39,7 +39,7 @@ void FormulaFailures::add(const FormulaDefinition &definition, const element &e,
 
 Findings FormulaFailures::findings() const {
   Findings found;
-  for (const auto &[place, number] : m_index) { // as they stand in the files
+  for (const auto &[origin, number] : m_index) { // as they stand in the files
     const OfLine &line = m_lines[number];
     if (line.count == 0)
       continue;

@@ -142,14 +142,14 @@ void NetworkFormulas::Computing::order() {
       constraints.push_back(static_cast<int>(i));
   }
   for (const std::vector<int> &cycle : order.cycles) {
-    QStringList places;
+    QStringList origins;
     for (const int i : cycle)
-      places.append(rules[static_cast<std::size_t>(i)].definition.place());
+      origins.append(rules[static_cast<std::size_t>(i)].definition.origin());
     const FormulaDefinition &first = rules[static_cast<std::size_t>(cycle.front())].definition;
     remarks.add(first, cycle.size() == 1
-                           ? Texts::tr("The formula needs its own result and is left out: %1").arg(places.first())
+                           ? Texts::tr("The formula needs its own result and is left out: %1").arg(origins.first())
                            : Texts::tr("These formulas need one another's results and are left out: %1")
-                                 .arg(places.join(QStringLiteral("; "))));
+                                 .arg(origins.join(QStringLiteral("; "))));
   }
   if (!rules.empty())
     reportUnknown();
@@ -208,7 +208,7 @@ void NetworkFormulas::Computing::describe() {
 }
 
 PropertyText NetworkFormulas::Computing::valueOf(const FormulaRule &rule, const element &e, QString &reason) {
-  constexpr std::size_t Short = 64; // bytes
+  constexpr std::size_t ShortText = 64; // bytes
   const bool isAsStored = rule.toStored.factor == 1.0 && rule.toStored.offset == 0.0;
   try {
     const Formula::Result result = rule.value->evaluate(e, rule.names());
@@ -219,7 +219,7 @@ PropertyText NetworkFormulas::Computing::valueOf(const FormulaRule &rule, const 
       return PropertyText::ofNumber(rule.toStored(result.number));
     else if (result.text != QLatin1String(FormulaReference::Null)) {
       PropertyText text(result.text);
-      m_madeText += text.utf8().size() > Short ? text.utf8().size() : 0;
+      m_madeText += text.utf8().size() > ShortText ? text.utf8().size() : 0;
       if (m_madeText <= MostText)
         return text;
       reason = Texts::tr("the formulas make more than %1 MB of texts").arg(MostText >> 20);
@@ -238,15 +238,15 @@ bool NetworkFormulas::Computing::compute(FormulaRule &rule, const std::vector<el
   if (elements.empty())
     return true;
   rule.computed.resize(rule.elements.size());
-  std::size_t position = 0; // in those of the rule, which stand in the same order
+  std::size_t index = 0; // in those of the rule, which stand in the same order
   failures.addElements(rule.definition, elements.size());
   std::size_t done = 0;
   for (element *e : elements) {
     if (!goesOn(done++))
       return false;
     ++evaluations;
-    while (rule.elements[position] != e)
-      ++position;
+    while (rule.elements[index] != e)
+      ++index;
     QString reason;
     PropertyText text = valueOf(rule, *e, reason);
     if (!reason.isEmpty())
@@ -257,9 +257,9 @@ bool NetworkFormulas::Computing::compute(FormulaRule &rule, const std::vector<el
     const bool hasValue = !text.isEmpty();
     if (hasValue)
       e->set(rule.target, std::move(text));
-    else if (rule.computed[position])
+    else if (rule.computed[index])
       e->erase(rule.target); // what it was computed from is gone
-    rule.computed[position] = hasValue;
+    rule.computed[index] = hasValue;
   }
   return true;
 }

@@ -9,8 +9,8 @@ struct Texts {
 };
 
 void note(QStringList &notes, const QString &text) {
-  constexpr int Most = 5; // of a kind; a hostile file has one for each of its lines
-  if (!text.isEmpty() && !notes.contains(text) && notes.size() < Most)
+  constexpr int MaximumNotes = 5; // of a kind; a hostile file has one for each of its lines
+  if (!text.isEmpty() && !notes.contains(text) && notes.size() < MaximumNotes)
     notes.append(text);
 }
 

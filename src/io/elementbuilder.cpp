@@ -19,16 +19,16 @@ bool isAlwaysIncluded(const QString &name) {
 
 ElementBuilder::ElementBuilder(const QString &includeTypes, const QString &includeProperties, ReadReport &report)
     : m_report(report)
-    , m_includeTypes(pattern(includeTypes, "types"))
-    , m_includeProperties(pattern(includeProperties, "properties")) {}
+    , m_includeTypes(pattern(includeTypes, ReadReport::tr("types")))
+    , m_includeProperties(pattern(includeProperties, ReadReport::tr("properties"))) {}
 
-QRegularExpression ElementBuilder::pattern(const QString &text, const char *what) {
+QRegularExpression ElementBuilder::pattern(const QString &text, const QString &what) {
   QRegularExpression expression(text, QRegularExpression::CaseInsensitiveOption);
   if (expression.isValid())
     return expression;
-  m_report.add("include list", 0,
-               QStringLiteral("The include list for %1 is no regular expression, all are read: %2")
-                   .arg(QLatin1String(what), expression.errorString()));
+  m_report.add(ReadReport::Kind::IncludeList, 0,
+               ReadReport::tr("The include list for %1 is no regular expression, all are read: %2")
+                   .arg(what, expression.errorString()));
   return QRegularExpression();
 }
 
@@ -99,8 +99,8 @@ bool ElementBuilder::buildElement(ElementRecord &parsed, int line, element &buil
   }
   const ElementType *type = knownType(word);
   if (type == nullptr) {
-    m_report.add("unknown type", line,
-                 QStringLiteral("ERROR: Type %1 of element %2 not known! Element will be erased!")
+    m_report.add(ReadReport::Kind::UnknownType, line,
+                 ReadReport::tr("ERROR: Type %1 of element %2 not known! Element will be erased!")
                      .arg(decoded(word).trimmed(), decoded(parsed.name)));
     return false;
   }
@@ -109,8 +109,8 @@ bool ElementBuilder::buildElement(ElementRecord &parsed, int line, element &buil
   std::vector<Property> &list = properties(parsed, line);
   for (const Property &property : list) {
     if (property.key == Names::all().name && property.value.utf8() != parsed.name)
-      m_report.add("other name", line,
-                   QStringLiteral("Element %1 has a property name of its own, %2; it is left out")
+      m_report.add(ReadReport::Kind::OtherName, line,
+                   ReadReport::tr("Element %1 has a property name of its own, %2; it is left out")
                        .arg(decoded(parsed.name), property.value.toString()),
                    QString(), decoded(parsed.name));
   }
@@ -121,8 +121,8 @@ bool ElementBuilder::buildElement(ElementRecord &parsed, int line, element &buil
   built = element::fromProperties(list, &duplicates);
   for (const PropertyKey duplicate : duplicates) {
     if (duplicate != Names::all().name && duplicate != Names::all().type)
-      m_report.add("property given twice", line,
-                   QStringLiteral("Property %1 of element %2 is given twice; the last value counts")
+      m_report.add(ReadReport::Kind::PropertyGivenTwice, line,
+                   ReadReport::tr("Property %1 of element %2 is given twice; the last value counts")
                        .arg(duplicate.name(), decoded(parsed.name)),
                    QString(), decoded(parsed.name));
   }

@@ -30,7 +30,7 @@ private:
   const Key &key(std::size_t position, std::string_view raw);
   bool isTypeIncluded(const QString &word, const QString &code) const;
   const struct ElementType *knownType(std::string_view word);
-  QRegularExpression pattern(const QString &text, const char *what);
+  QRegularExpression pattern(const QString &text, const QString &what);
 
   ReadReport &m_report;
   QRegularExpression m_includeTypes;

@@ -15,11 +15,11 @@ struct Texts {
 /// The text of an XML file; nothing when its bytes are none in the encoding that it states. Other encodings than the usual
 /// ones count as UTF-8.
 std::optional<QString> decoded(const QByteArray &content) {
-  constexpr int Looked = 200;
+  constexpr int SearchedBytes = 200;
   static const QRegularExpression pattern(
       QStringLiteral("^\\s*<\\?xml[^>]*encoding\\s*=\\s*[\"'](ISO-8859-1|ISO-8859-15|windows-1252)[\"']"),
       QRegularExpression::CaseInsensitiveOption);
-  const QRegularExpressionMatch match = pattern.match(QString::fromLatin1(content.left(Looked)));
+  const QRegularExpressionMatch match = pattern.match(QString::fromLatin1(content.left(SearchedBytes)));
   const QTextCodec *codec = QTextCodec::codecForName(match.hasMatch() ? match.captured(1).toLatin1() : QByteArray("UTF-8"));
   if (codec == nullptr)
     return std::nullopt;
@@ -76,10 +76,10 @@ QString GasLibXml::unitOf(const QString &name) {
 }
 
 void GasLibXml::tell(const QString &text, int line) {
-  constexpr std::size_t Most = 1000;
-  if (findings.size() < Most)
+  constexpr std::size_t MaximumFindings = 1000;
+  if (findings.size() < MaximumFindings)
     findings.push_back({Finding::Severity::Warning, m_path, line, text, QString()});
-  else if (findings.size() == Most)
+  else if (findings.size() == MaximumFindings)
     findings.push_back({Finding::Severity::Warning, m_path, 0, Texts::tr("... and more, which are not told"), QString()});
 }
 

@@ -2,6 +2,8 @@
 
 #include "numbertext.h"
 
+#include <QtGlobal>
+
 #include <simdjson.h>
 
 namespace {
@@ -26,7 +28,7 @@ public:
   const char *parse(const LineReader::Line &line, std::vector<SetPointsRecord> &setPoints);
 
 private:
-  simdjson::error_code begin(const LineReader::Line &line);
+  simdjson::error_code begin(const LineReader::Line &line, simdjson::ondemand::object &object);
   simdjson::error_code readElement(simdjson::ondemand::object object, ElementRecord &element);
   using Member = simdjson::simdjson_result<simdjson::ondemand::field>;
   simdjson::error_code readMember(Member &member, RecordValue &read, const char *&dropped);
@@ -43,10 +45,10 @@ private:
   bool m_skipped = false;
 };
 
-error_code JsonLineParser::Engine::begin(const LineReader::Line &line) {
+error_code JsonLineParser::Engine::begin(const LineReader::Line &line, simdjson::ondemand::object &object) {
   char *text = line.text;
   std::size_t size = line.size + 1;
-  // The comma that separates the elements stands before the line and gives its place to the brace.
+  // The comma that separates the elements stands before the line and becomes the brace.
   if (text[0] == ',')
     --size;
   else
@@ -57,7 +59,9 @@ error_code JsonLineParser::Engine::begin(const LineReader::Line &line) {
   m_text = std::string_view(text, size);
   m_skipped = false;
   const std::size_t capacity = line.capacity + static_cast<std::size_t>(line.text - text);
-  return m_parser.iterate(text, size, capacity).get(m_document);
+  if (const error_code error = m_parser.iterate(text, size, capacity).get(m_document); error != simdjson::SUCCESS)
+    return error;
+  return m_document.get_object().get(object);
 }
 
 const char *JsonLineParser::Engine::finish(error_code error) {
@@ -74,9 +78,7 @@ const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vec
                                           std::size_t &count) {
   count = 0;
   simdjson::ondemand::object object;
-  error_code error = begin(line);
-  if (error == simdjson::SUCCESS)
-    error = m_document.get_object().get(object);
+  error_code error = begin(line, object);
   if (error != simdjson::SUCCESS)
     return simdjson::error_message(error);
   for (auto member : object) {
@@ -128,7 +130,7 @@ error_code JsonLineParser::Engine::readValue(simdjson::ondemand::value value, Re
     if (m_numbers == RecordNumbers::AsWritten && taken == NumberText::Taken)
       read.text = PropertyText(token);
     if (taken == NumberText::OutOfRange)
-      dropped = "the number is out of range";
+      dropped = QT_TRANSLATE_NOOP("ReadReport", "the number is out of range");
     read.isNumber = true;
     return taken == NumberText::Invalid ? simdjson::NUMBER_ERROR : simdjson::SUCCESS;
   }
@@ -146,10 +148,10 @@ error_code JsonLineParser::Engine::readValue(simdjson::ondemand::value value, Re
     return error;
   }
   case simdjson::ondemand::json_type::null:
-    dropped = "it has no value";
+    dropped = QT_TRANSLATE_NOOP("ReadReport", "it has no value");
     return trimmed(value.raw_json_token()) == "null" ? simdjson::SUCCESS : simdjson::N_ATOM_ERROR;
   default:
-    dropped = "the value is neither number nor text";
+    dropped = QT_TRANSLATE_NOOP("ReadReport", "the value is neither number nor text");
     m_skipped = true;
     return simdjson::SUCCESS;
   }
@@ -158,9 +160,7 @@ error_code JsonLineParser::Engine::readValue(simdjson::ondemand::value value, Re
 const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vector<SetPointsRecord> &setPoints) {
   setPoints.clear();
   simdjson::ondemand::object object;
-  error_code error = begin(line);
-  if (error == simdjson::SUCCESS)
-    error = m_document.get_object().get(object);
+  error_code error = begin(line, object);
   if (error != simdjson::SUCCESS)
     return simdjson::error_message(error);
   for (auto member : object) {
@@ -169,7 +169,7 @@ const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vec
     if ((error = member.unescaped_key().get(name)) != simdjson::SUCCESS ||
         (error = member.value().get_array().get(list)) != simdjson::SUCCESS)
       return simdjson::error_message(error);
-    setPoints.push_back({std::string(name), {}});
+    setPoints.emplace_back().name = name;
     if ((error = readList(list, setPoints.back())) != simdjson::SUCCESS)
       return simdjson::error_message(error);
   }
@@ -180,12 +180,10 @@ error_code JsonLineParser::Engine::readList(simdjson::ondemand::array list, SetP
   for (auto entry : list) {
     simdjson::ondemand::object object;
     error_code error = entry.get_object().get(object);
-    SetPointRecord point;
     if (error == simdjson::SUCCESS)
-      error = readPoint(object, point);
+      error = readPoint(object, target.points.emplace_back());
     if (error != simdjson::SUCCESS)
       return error;
-    target.points.push_back(std::move(point));
   }
   return simdjson::SUCCESS;
 }
@@ -198,9 +196,9 @@ error_code JsonLineParser::Engine::readPoint(simdjson::ondemand::object object, 
     if (const error_code error = readMember(member, read, dropped); error != simdjson::SUCCESS)
       return error;
     if (read.key == "property") {
-      point.property = std::string(read.text.utf8());
+      point.property = read.text.utf8();
     } else if (read.key == "unit") {
-      point.unit = std::string(read.text.utf8());
+      point.unit = read.text.utf8();
     } else if (read.key == "value" && dropped == nullptr) {
       point.value = std::move(read.text);
       point.isNumber = read.isNumber;

@@ -15,7 +15,7 @@ public:
   /// A longer line is skipped and told as such: no element is that large.
   static constexpr std::size_t LongestLine = std::size_t(64) << 20;
 
-  /// What a parser may read and write behind a line.
+  /// Bytes behind a line that a parser may read and write.
   static constexpr std::size_t Padding = 66;
 
   struct Line {

@@ -70,7 +70,7 @@ private:
         for (const SetPointRecord &point : points.points)
           take(points.name, point, record.line);
       }
-      for (ElementRecord &parsed : record.elements)
+      for (ElementRecord &parsed : stream.elements())
         take(parsed, record.line);
     }
     stream.tellEncoding(m_report);
@@ -79,16 +79,16 @@ private:
   }
 
   void take(std::string_view name, const SetPointRecord &point, int line) {
-    const QString element = decoded(name);
     if (point.isComplete) {
+      const QString property = QString::fromStdString(point.property);
       if (point.doubt != nullptr)
-        m_report.doubt(QString::fromStdString(point.property), element, point.doubt, line);
+        m_report.doubt(property, decoded(name), point.doubt, line);
       m_writer.writeSetPoint(name, {PropertyKey::intern(std::string_view(point.property)), point.value, point.isNumber},
                              point.unit);
-      m_result.report.take(QString::fromStdString(point.property));
+      m_result.report.take(property);
       ++m_result.records;
     } else {
-      m_report.incompleteValue(element, line);
+      m_report.incompleteValue(decoded(name), line);
       m_result.report.drop(Texts::tr("value"), Texts::tr("incomplete"));
     }
   }
@@ -104,7 +104,7 @@ private:
     }
     m_report.values(parsed, line);
     for (const RecordRemark &dropped : parsed.dropped)
-      m_result.report.drop(QString::fromStdString(dropped.key), QString::fromUtf8(dropped.reason));
+      m_result.report.drop(QString::fromStdString(dropped.key), ReadReport::tr(dropped.reason));
     m_writer.write(parsed.name, type, std::move(values));
     m_result.report.take(type.empty() ? Texts::tr("element with values") : QString::fromStdString(type));
     ++m_result.records;

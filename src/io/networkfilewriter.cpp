@@ -23,9 +23,9 @@ bool isNumber(std::string_view text) {
 } // namespace
 
 void NetworkFileWriter::put(std::string_view text) {
-  constexpr std::size_t Block = 1 << 20;
+  constexpr std::size_t BufferedBytes = 1 << 20;
   m_buffer += text;
-  if (m_buffer.size() > Block)
+  if (m_buffer.size() > BufferedBytes)
     flush();
 }
 
@@ -42,19 +42,27 @@ JsonFileWriter::JsonFileWriter(QIODevice &device)
 }
 
 void JsonFileWriter::putText(std::string_view text) {
+  constexpr char FirstPlain = 0x20;
+  const auto isEscaped = [](char c) {
+    return c == '"' || c == '\\' || (c >= 0 && c < FirstPlain);
+  };
   put("\"");
-  for (const char c : text) {
-    constexpr char FirstPlain = 0x20;
+  while (!text.empty()) {
+    const auto plain = static_cast<std::size_t>(std::find_if(text.begin(), text.end(), isEscaped) - text.begin());
+    put(text.substr(0, plain));
+    text.remove_prefix(plain);
+    if (text.empty())
+      break;
+    const char c = text.front();
+    text.remove_prefix(1);
     if (c == '"' || c == '\\') {
       const std::array<char, 2> escaped{'\\', c};
       put({escaped.data(), escaped.size()});
-    } else if (c >= 0 && c < FirstPlain) {
+    } else {
       constexpr std::string_view Hex = "0123456789abcdef";
       const std::array<char, 6> escaped{
           '\\', 'u', '0', '0', Hex[static_cast<std::size_t>(c) >> 4], Hex[static_cast<std::size_t>(c) & 15]};
       put({escaped.data(), escaped.size()});
-    } else {
-      put({&c, 1});
     }
   }
   put("\"");

@@ -1,6 +1,5 @@
 #include "jsonfile.h"
 
-#include <base/nivramsg.h>
 #include <io/nivragasparams.h>
 
 #include <QFileInfo>
@@ -73,10 +72,8 @@ bool NivraGasParams::readFromFile(const QString &directory, Findings &findings) 
   const std::optional<QJsonObject> object = readJsonObject(path, &reason);
   if (!object) {
     const QString text = QStringLiteral("NivraGasParams::readFromFile: cannot open file ") + reason;
-    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink()) // without it the text form is meant
-      findings.push_back({Finding::Severity::Warning, QString(), 0, text, QString()});
-    else
-      NivraMsg::debug(text);
+    const bool isThere = QFileInfo::exists(path) || QFileInfo(path).isSymLink(); // without it the text form is meant
+    findings.push_back({isThere ? Finding::Severity::Warning : Finding::Severity::Debug, QString(), 0, text, QString()});
     return false;
   }
   fromJson(*object, path);

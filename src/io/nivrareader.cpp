@@ -2,7 +2,6 @@
 #include "jsonfile.h"
 #include "recordstream.h"
 
-#include <base/nivramsg.h>
 #include <io/nivrareader.h>
 
 #include <QElapsedTimer>
@@ -65,7 +64,7 @@ NivraReader::Result readElements(const QString &path, const NivraReader::Options
     if (!record.fault.isEmpty()) {
       stream.tell(record, report);
     } else {
-      for (ElementRecord &parsed : record.elements)
+      for (ElementRecord &parsed : stream.elements())
         take(parsed, record.line, stream.fraction());
     }
     if (!progress.goesOn(stream)) {
@@ -78,15 +77,15 @@ NivraReader::Result readElements(const QString &path, const NivraReader::Options
   return result;
 }
 
-constexpr std::size_t Sample = 4096;
+constexpr std::size_t SampledElements = 4096;
 
 /// Networks have about as many edges as nodes, and files mostly list one after the other.
 void makeRoom(NetData &net, double fraction) {
-  constexpr double Reserve = 1.1;
-  constexpr double Most = 5e6; // a file of other shape further down must not claim all memory
+  constexpr double SpareRoom = 1.1;       // times what the sample tells
+  constexpr double MaximumElements = 5e6; // a file of other shape further down must not claim all memory
   if (!(fraction > 0.0))
     return;
-  const double all = std::min(static_cast<double>(Sample) / fraction * Reserve, Most);
+  const double all = std::min(static_cast<double>(SampledElements) / fraction * SpareRoom, MaximumElements);
   net.nodes().reserve(static_cast<std::size_t>(all * 0.5));
   net.edges().reserve(static_cast<std::size_t>(all * 0.5));
 }
@@ -151,8 +150,9 @@ NivraReader::Result NivraReader::readSubResults(const NivraWorkspace &workspace,
 }
 
 NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options &options) {
-  NivraMsg::debug(QStringLiteral("starting readGeomJsn with incTypes=") + options.includeTypes +
-                  QStringLiteral(" and incProps=") + options.includeProperties);
+  tell(m_told, Finding::Severity::Debug,
+       QStringLiteral("starting readGeomJsn with incTypes=") + options.includeTypes + QStringLiteral(" and incProps=") +
+           options.includeProperties);
   QElapsedTimer timer;
   timer.start();
   ReadReport report(path);
@@ -162,18 +162,19 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
   const auto take = [&](ElementRecord &parsed, int line, double fraction) {
     if (!builder.buildElement(parsed, line, built))
       return;
-    if (m_net.nodes().size() + m_net.edges().size() == Sample)
+    if (m_net.nodes().size() + m_net.edges().size() == SampledElements)
       makeRoom(m_net, fraction);
     properties += static_cast<qint64>(built.size());
     m_net.addElement(std::move(built), m_told);
   };
   Result result = readElements(path, options, report, take);
   if (result.ok && !result.cancelled && m_net.isEmpty())
-    report.add("empty", 0, QStringLiteral("The file holds no element"));
+    report.add(ReadReport::Kind::Empty, 0, ReadReport::tr("The file holds no element"));
   result.properties = properties;
   append(result.findings, report.take());
   const QString file = isJsonPath(path) ? QStringLiteral("geom.jsn") : QStringLiteral("geom");
-  NivraMsg::debug(QStringLiteral("### To read elements of %1 file took %2s").arg(file).arg(result.readingSeconds));
+  tell(m_told, Finding::Severity::Debug,
+       QStringLiteral("### To read elements of %1 file took %2s").arg(file).arg(result.readingSeconds));
   log(QStringLiteral("### To read elements of geom buffer took %1s")
           .arg(static_cast<double>(timer.nsecsElapsed()) * Nano - result.readingSeconds));
   return result;
@@ -186,8 +187,7 @@ NivraReader::Result NivraReader::readValues(const QString &path, const Options &
   Result result = readElements(path, options, report, [&](ElementRecord &parsed, int line, double) {
     element *target = m_net.element(parsed.name);
     if (target == nullptr) {
-      report.add("unknown name", line,
-                 QStringLiteral("name not found, is no valid node or element: ") + decoded(parsed.name));
+      report.unknownName(decoded(parsed.name), line);
       return;
     }
     for (Property &property : builder.properties(parsed, line)) {

@@ -2,10 +2,10 @@
 #include "scenariofields.h"
 
 #include <base/fileaccess.h>
-#include <base/nivramsg.h>
 #include <base/settings.h>
 #include <io/nivraworkspace.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -13,6 +13,10 @@
 #include <QRegularExpression>
 
 namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(NivraWorkspace)
+};
 
 Finding mismatch(Finding::Severity severity, const QString &file, const QString &text) {
   return {severity, file, 0, text, Settings::PelkaMode.value() ? QString() : text};
@@ -67,6 +71,10 @@ QString upwards(const QString &directory) {
   return QFileInfo(directory).path();
 }
 
+Finding debugLine(const QString &text) {
+  return {Finding::Severity::Debug, QString(), 0, text, QString()};
+}
+
 } // namespace
 
 void NivraWorkspace::Case::setFilesFromBaseName(const QString &base) {
@@ -83,7 +91,7 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   };
   const QRegularExpressionMatch match = pattern.match(path);
   if (!match.hasMatch()) {
-    told(Finding::Severity::Critical, QStringLiteral("NivraWorkspace::fromScenFile(): invalid file format ") + path);
+    told(Finding::Severity::Critical, Texts::tr("NivraWorkspace::fromScenFile(): invalid file format %1").arg(path));
     return workspace;
   }
   const QFileInfo file(QString(path).replace(QLatin1Char('\\'), QLatin1Char('/')));
@@ -93,17 +101,19 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   const QString root = upwards(caseDirectory);
   if (!file.isFile()) {
     told(Finding::Severity::Critical,
-         QStringLiteral("NivraWorkspace::fromFile(): File does not exist ") + path +
-             (file.exists() ? QStringLiteral(" (there is something else of that name)") : QString()));
+         (file.exists()
+              ? Texts::tr("NivraWorkspace::fromFile(): File does not exist %1 (there is something else of that name)")
+              : Texts::tr("NivraWorkspace::fromFile(): File does not exist %1"))
+             .arg(path));
     return workspace;
   }
   if (!QFileInfo(root).isDir()) {
-    told(Finding::Severity::Critical, QStringLiteral("NivraWorkspace::fromFile(): workspace root not found ") + root);
+    told(Finding::Severity::Critical, Texts::tr("NivraWorkspace::fromFile(): workspace root not found %1").arg(root));
     return workspace;
   }
   workspace.m_root = root;
   workspace.m_json = !match.captured(2).isEmpty();
-  told(Finding::Severity::Information, QStringLiteral("NivraWorkspace set to ") + root);
+  told(Finding::Severity::Information, Texts::tr("NivraWorkspace set to %1").arg(root));
   Case opened;
   opened.name = QFileInfo(caseDirectory).fileName();
   workspace.m_cases.append(opened);
@@ -113,14 +123,10 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   const QString base = baseNameOf(file, kind, match.captured(2));
   if (base + kind + match.captured(2) != file.fileName())
     told(Finding::Severity::Warning,
-         QStringLiteral("%1 was chosen; the files of a case are named up to the first dot, and %2 is read")
+         Texts::tr("%1 was chosen; the files of a case are named up to the first dot, and %2 is read")
              .arg(file.fileName(), base + kind + match.captured(2)));
   if (isScenario) {
-    workspace.addScenario(QFileInfo(directory).fileName());
-    NivraScenario &scenario = workspace.m_cases.last().scenarios.last();
-    scenario.baseName = base;
-    scenario.scenFile = base + QStringLiteral(".scen");
-    scenario.configFile = base + QStringLiteral(".scen.cfg");
+    workspace.addScenario(QFileInfo(directory).fileName(), base);
   } else {
     workspace.takeChosenGeometry(base);
   }
@@ -188,21 +194,21 @@ QString NivraWorkspace::filePath(const QString &name) const {
   return m_cases.isEmpty() ? name : caseDirectory() + QLatin1Char('/') + name;
 }
 
-void NivraWorkspace::addScenario(const QString &directoryName) {
+void NivraWorkspace::addScenario(const QString &directoryName, const QString &baseName) {
   NivraScenario scenario;
   scenario.workDir = directoryName;
-  scenario.baseName = directoryName;
-  scenario.scenFile = directoryName + QStringLiteral(".scen");
-  scenario.configFile = directoryName + QStringLiteral(".scen.cfg");
+  scenario.baseName = baseName;
+  scenario.scenFile = baseName + QStringLiteral(".scen");
+  scenario.configFile = baseName + QStringLiteral(".scen.cfg");
   m_cases.last().scenarios.append(scenario);
 }
 
 int NivraWorkspace::readCaseConfiguration(Findings &findings) {
   Case &current = m_cases.last();
   TextConfiguration file(filePath(current.configFile));
-  if (!file.open(QStringLiteral("Case config file does not exist: %1"), findings)) {
+  if (!file.open(Texts::tr("Case config file does not exist: %1"), findings)) {
     current.workDir = current.name;
-    NivraMsg::debug(QStringLiteral("Case workDir is now = ") + current.name);
+    findings.push_back(debugLine(QStringLiteral("Case workDir is now = ") + current.name));
     return -1;
   }
   current.isConfigured = true;
@@ -210,8 +216,8 @@ int NivraWorkspace::readCaseConfiguration(Findings &findings) {
   current.workDir = file.nextLine();
   const QString geometryFile = file.nextLine();
   if (!geometryFile.isEmpty() && geometryFile != current.geometryFile)
-    NivraMsg::debug(
-        QStringLiteral("Case config names the geometry file %1; %2 is read").arg(geometryFile, current.geometryFile));
+    findings.push_back(debugLine(
+        QStringLiteral("Case config names the geometry file %1; %2 is read").arg(geometryFile, current.geometryFile)));
   current.flag = file.nextLine() == QLatin1String("1");
   const QString properties = file.nextLine();
   if (!properties.isEmpty()) {
@@ -219,12 +225,12 @@ int NivraWorkspace::readCaseConfiguration(Findings &findings) {
     current.properties = QJsonDocument::fromJson(properties.toUtf8(), &error).object();
     if (error.error != QJsonParseError::NoError)
       findings.push_back({Finding::Severity::Warning, file.path(), 5,
-                          QStringLiteral("Case properties are no JSON object: ") + error.errorString(), QString()});
+                          Texts::tr("Case properties are no JSON object: %1").arg(error.errorString()), QString()});
   }
   if (current.workDir != current.name) {
     findings.push_back(mismatch(Finding::Severity::Warning, file.path(),
-                                QStringLiteral("Directory of geometry\n%1\nand config value for it\n%2\ndid not "
-                                               "match!\nCorrected! Perform a save yourself!")
+                                Texts::tr("Directory of geometry\n%1\nand config value for it\n%2\ndid not "
+                                          "match!\nCorrected! Perform a save yourself!")
                                     .arg(current.name, current.workDir)));
     current.workDir = current.name;
   }
@@ -275,15 +281,15 @@ void NivraWorkspace::readUnifiedConfiguration(const QString &directory, Findings
     append(findings, m_cases.last().scenarios.last().fromJson(*object, path));
   else
     findings.push_back({Finding::Severity::Warning, QString(), 0,
-                        QStringLiteral("readUnifiedScenConfig: cannot open file ") + reason, QString()});
+                        Texts::tr("readUnifiedScenConfig: cannot open file %1").arg(reason), QString()});
 }
 
 void NivraWorkspace::readTextConfiguration(const QString &path, NivraGasParams &gas, Findings &findings) {
   NivraScenario &scenario = m_cases.last().scenarios.last();
-  NivraMsg::debug(QStringLiteral("Reading scenario config file: ") + path);
+  findings.push_back(debugLine(QStringLiteral("Reading scenario config file: ") + path));
   TextConfiguration file(path);
-  if (!file.open(QStringLiteral("Scenario config file does not exist: %1"), findings)) {
-    NivraMsg::debug(QStringLiteral("Scenario workDir is now = ") + scenario.workDir);
+  if (!file.open(Texts::tr("Scenario config file does not exist: %1"), findings)) {
+    findings.push_back(debugLine(QStringLiteral("Scenario workDir is now = ") + scenario.workDir));
     return;
   }
   const QString first = file.nextLine();
@@ -302,9 +308,8 @@ void NivraWorkspace::checkScenarioDirectory(const QString &actualName, Findings 
   NivraScenario &scenario = m_cases.last().scenarios.last();
   if (scenario.workDir == actualName)
     return;
-  findings.push_back(
-      mismatch(Finding::Severity::Information, scenarioDirectory(),
-               QStringLiteral("Directory of scenario and config value for it did not match!\nCorrected! Perform "
-                              "a save yourself!")));
+  findings.push_back(mismatch(Finding::Severity::Information, scenarioDirectory(),
+                              Texts::tr("Directory of scenario and config value for it did not match!\nCorrected! Perform "
+                                        "a save yourself!")));
   scenario.workDir = actualName;
 }

@@ -4,26 +4,48 @@
 
 #include <base/finding.h>
 
-#include <QHash>
+#include <QCoreApplication>
 #include <QString>
+
+#include <map>
 
 /// Gathers what a reader notices; of one kind a thousand are kept one by one, the rest are counted.
 class ReadReport {
+  Q_DECLARE_TR_FUNCTIONS(ReadReport)
 public:
+  enum class Kind {
+    BadLine,
+    DoubtfulValue,
+    DroppedProperty,
+    Empty,
+    Encoding,
+    Gas,
+    Identity,
+    IncludeList,
+    IncompleteValue,
+    OtherName,
+    PropertyGivenTwice,
+    Unit,
+    UnknownName,
+    UnknownType
+  };
+
   explicit ReadReport(QString file)
       : m_file(std::move(file)) {}
 
-  void add(const char *kind, int line, const QString &text, const QString &box = QString(),
-           const QString &element = QString());
+  void add(Kind kind, int line, const QString &text, const QString &box = QString(), const QString &element = QString());
   /// A line that is no valid JSON, with a box for the user.
   void badLine(const Record &record);
   /// The same among set points, with a box for the first.
   void badSetPoints(const Record &record);
   /// Likewise for the text form.
   void badRow(const Record &record);
+  /// An element that the network lacks.
+  void unknownName(const QString &name, int line);
   /// A set point without property or value.
   void incompleteValue(const QString &element, int line);
-  /// The values of an element that are left out, and those that may not be what was meant.
+  /// The values of an element that are left out, and those that may not be what was meant. The reasons are texts of this
+  /// class, to be translated here.
   void values(const ElementRecord &element, int line);
   void doubt(const QString &property, const QString &element, const char *reason, int line);
   /// The file could not be read to its end; with a box, since what is shown is not the whole.
@@ -34,12 +56,16 @@ public:
 
   /// The beginning of a line, for a message.
   static QString quoted(std::string_view line);
+  /// The fault of a line that is longer than LineReader::LongestLine.
+  static QString lineTooLong() { return tr("the line is longer than 64 MB"); }
 
 private:
-  static constexpr const char *BadLine = "bad line";
+  static QString name(Kind kind);
+  void addWithBox(const Record &record, const QString &text, const QString &box);
+
   static constexpr int KeptOfAKind = 1000;
 
   QString m_file;
-  QHash<QString, int> m_counts;
+  std::map<Kind, int> m_counts;
   Findings m_findings;
 };

@@ -48,7 +48,7 @@ struct SetPointsRecord {
   std::vector<SetPointRecord> points;
 };
 
-/// Elements that lie in the room of a parser, which uses it again for each record.
+/// Elements that lie in the room of a parser, which uses it again for each line or row.
 struct ElementSpan {
   ElementRecord *first = nullptr;
   std::size_t count = 0;
@@ -57,12 +57,12 @@ struct ElementSpan {
   ElementRecord *end() const { return first + count; }
 };
 
-/// What one line of the JSON form, or one row of the text form, holds.
+/// What one line of the JSON form, or one row of the text form, holds, apart from elements: those stay in the room of the
+/// parser. Readers keep a record for each line of a file, so that it is small.
 struct Record {
   int line = 0;
   QString fault; ///< why it holds nothing; empty when it is sound
   QString quote; ///< of a fault: the beginning of the line
-  ElementSpan elements;
   std::vector<SetPointsRecord> setPoints;
 };
 

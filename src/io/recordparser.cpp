@@ -7,16 +7,16 @@
 namespace {
 
 /// Of a table that has a set point a row: property, value and perhaps unit.
-SetPointRecord setPoint(const ElementRecord &row) {
+SetPointRecord setPoint(ElementRecord &row) {
   SetPointRecord point;
   bool hasValue = false;
-  for (const RecordValue &value : row.values) {
+  for (RecordValue &value : row.values) {
     if (value.key == "property") {
-      point.property = std::string(value.text.utf8());
+      point.property = value.text.utf8();
     } else if (value.key == "unit") {
-      point.unit = std::string(value.text.utf8());
+      point.unit = value.text.utf8();
     } else if (value.key == "value") {
-      point.value = value.text;
+      point.value = std::move(value.text);
       point.isNumber = value.isNumber;
       hasValue = true;
     }
@@ -34,15 +34,15 @@ SetPointRecord setPoint(const ElementRecord &row) {
 void RawRecord::keep() {
   if (json.text == nullptr)
     return;
-  room.resize(1 + json.size + LineReader::Padding);
+  if (const std::size_t size = 1 + json.size + LineReader::Padding; room.size() < size)
+    room.resize(size);
   std::memcpy(room.data() + 1, json.text, json.size);
   json.text = room.data() + 1;
   json.capacity = room.size() - 1;
 }
 
 void RecordParser::parse(const RawRecord &raw, Record &record) {
-  record.elements = {};
-  record.setPoints.clear();
+  m_elementCount = 0;
   if (m_form == RecordForm::Json)
     parseLine(raw, record);
   else
@@ -51,37 +51,41 @@ void RecordParser::parse(const RawRecord &raw, Record &record) {
 
 void RecordParser::parseLine(const RawRecord &raw, Record &record) {
   record.line = raw.json.number;
-  const char *fault = nullptr;
-  std::size_t count = 0;
-  if (raw.json.tooLong)
-    fault = "the line is longer than 64 MB";
-  else if (m_content == RecordContent::SetPoints)
-    fault = m_lines.parse(raw.json, record.setPoints);
-  else
-    fault = m_lines.parse(raw.json, m_elements, count);
-  record.fault = QString::fromUtf8(fault);
-  if (fault == nullptr) {
-    record.elements = {m_elements.data(), count};
+  record.fault.clear();
+  if (raw.json.tooLong) {
+    record.fault = ReadReport::lineTooLong();
   } else {
-    record.quote = ReadReport::quoted({raw.json.text, raw.json.size});
-    record.setPoints.clear(); // those before the fault
+    const char *fault = m_content == RecordContent::SetPoints ? m_lines.parse(raw.json, record.setPoints)
+                                                              : m_lines.parse(raw.json, m_elements, m_elementCount);
+    if (fault == nullptr)
+      return;
+    record.fault = QString::fromUtf8(fault);
   }
+  record.quote = ReadReport::quoted({raw.json.text, raw.json.size});
+  record.setPoints.clear(); // those before the fault
+  m_elementCount = 0;
 }
 
 void RecordParser::parseRow(const RawRecord &raw, Record &record) {
   record.line = raw.row.number;
   record.fault = raw.fault;
   record.quote = raw.quote;
-  if (!record.fault.isEmpty())
-    return;
   if (m_elements.empty())
     m_elements.emplace_back();
   ElementRecord &parsed = m_elements.front();
-  record.fault = m_rows.parse(raw.row, parsed);
-  if (!record.fault.isEmpty())
-    record.quote = ReadReport::quoted(raw.row.text);
-  else if (m_content == RecordContent::SetPoints)
-    record.setPoints.push_back({std::string(parsed.name), {setPoint(parsed)}});
-  else
-    record.elements = {&parsed, 1};
+  if (record.fault.isEmpty()) {
+    record.fault = m_rows.parse(raw.row, parsed);
+    if (!record.fault.isEmpty())
+      record.quote = ReadReport::quoted(raw.row.text);
+  }
+  if (!record.fault.isEmpty()) {
+    record.setPoints.clear();
+  } else if (m_content == RecordContent::SetPoints) {
+    record.setPoints.resize(1); // whose room is used again
+    record.setPoints.front().name = parsed.name;
+    record.setPoints.front().points.resize(1);
+    record.setPoints.front().points.front() = setPoint(parsed);
+  } else {
+    m_elementCount = 1;
+  }
 }

@@ -18,9 +18,9 @@ struct RawRecord {
   TextRowParser::Row row;
   QString fault; ///< of a row that cannot be cut out of its table
   QString quote;
-  std::vector<char> room; ///< for the text of a line, with room for the parser around it
+  std::vector<char> room; ///< holds the text of a line after keep(), with bytes around it for the parser
 
-  /// Copies the text of a line, so that it outlives the next one of the stream. A row has its own.
+  /// Copies the text of a line, which otherwise lives until the stream takes the next one. A row owns its text.
   void keep();
 };
 
@@ -33,8 +33,9 @@ public:
       , m_lines(numbers)
       , m_rows(numbers) {}
 
-  /// Elements refer to the raw record and to the parser: they live until either is used again. Set points stand alone.
   void parse(const RawRecord &raw, Record &record);
+  /// Those of the raw record that was parsed last. They refer to it and to the parser: they live until either is used again.
+  ElementSpan elements() { return {m_elements.data(), m_elementCount}; }
 
 private:
   void parseLine(const RawRecord &raw, Record &record);
@@ -44,5 +45,6 @@ private:
   RecordContent m_content;
   JsonLineParser m_lines;
   TextRowParser m_rows;
-  std::vector<ElementRecord> m_elements; ///< room, a row has the first
+  std::vector<ElementRecord> m_elements; ///< room, of which the first m_elementCount are filled
+  std::size_t m_elementCount = 0;
 };

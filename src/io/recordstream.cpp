@@ -25,11 +25,13 @@ bool RecordStream::next(Record &record) {
 bool RecordStream::take(RawRecord &raw) {
   if (m_tables) {
     const TextTableReader::Found found = m_tables->next(raw.row);
-    const bool isFault = found == TextTableReader::Found::Fault;
-    raw.fault = isFault ? m_tables->fault() : QString();
-    raw.quote = isFault ? m_tables->quote() : QString();
-    if (isFault)
+    raw.fault.clear();
+    raw.quote.clear();
+    if (found == TextTableReader::Found::Fault) {
+      raw.fault = m_tables->fault();
+      raw.quote = m_tables->quote();
       raw.row.number = m_tables->line();
+    }
     return found != TextTableReader::Found::End;
   }
   while (m_lines.nextTrimmed(raw.json)) {

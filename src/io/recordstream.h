@@ -18,7 +18,7 @@ class ReadReport;
 /// 2. A faulty line or row is a record with a fault; those behind it are read all the same.
 /// 3. take() cuts the file into raw records and is called by one thread at a time. A raw record that was kept needs nothing
 ///    of the stream any more, so that parsers of several threads work side by side.
-/// 4. next() does both in one go: its elements live until the next call.
+/// 4. next() does both in one go; elements() are those of its record and live until the next call.
 class RecordStream {
 public:
   struct Options {
@@ -35,6 +35,7 @@ public:
   bool open(QString *reason) { return m_lines.open(reason); }
   /// Both are false at the end.
   bool next(Record &record);
+  ElementSpan elements() { return m_parser.elements(); }
   bool take(RawRecord &raw);
   /// For raw records that were taken.
   RecordParser parser() const { return {m_options.form, m_options.content, m_options.numbers}; }

@@ -9,7 +9,7 @@
 // 4. Only the calling thread tells the progress, outside of the critical section: whoever is told may touch the window.
 //    When it is asked to stop, both threads get no more records; what they have is applied.
 // 5. A value whose unit needs the gas waits until all files are read that may tell of gases. What is set for the same
-//    property of the same element meanwhile takes its place (set()).
+//    property of the same element meanwhile replaces it (set()).
 
 #include "readreport.h"
 #include "recordstream.h"
@@ -78,6 +78,18 @@ private:
   std::atomic<bool> m_cancelled{false};
 };
 
+/// Adds the records of a thread. Those of each thread are in the order of the file, and so are all together.
+void join(std::vector<Record> &records, std::vector<Record> own) {
+  if (records.empty()) {
+    records = std::move(own);
+    return;
+  }
+  const auto middle = static_cast<std::ptrdiff_t>(records.size());
+  records.insert(records.end(), std::make_move_iterator(own.begin()), std::make_move_iterator(own.end()));
+  std::inplace_merge(records.begin(), records.begin() + middle, records.end(),
+                     [](const Record &a, const Record &b) { return a.line < b.line; });
+}
+
 std::vector<Record> parseAll(RecordQueue &queue, const Told &told) {
   std::vector<Record> records;
   std::exception_ptr trouble;
@@ -99,11 +111,10 @@ std::vector<Record> parseAll(RecordQueue &queue, const Told &told) {
       trouble = std::current_exception();
     }
 #pragma omp critical(nivra_reader_lines)
-    std::move(own.begin(), own.end(), std::back_inserter(records));
+    join(records, std::move(own));
   }
   if (trouble)
     std::rethrow_exception(trouble);
-  std::sort(records.begin(), records.end(), [](const Record &a, const Record &b) { return a.line < b.line; });
   return records;
 }
 
@@ -123,7 +134,7 @@ public:
       const QString name = decoded(setPoints.name);
       element *target = m_reader.m_net.element(std::string_view(setPoints.name));
       if (target == nullptr) {
-        report.add("unknown name", record.line, QStringLiteral("name not found, is no valid node or element: ") + name);
+        report.unknownName(name, record.line);
         continue;
       }
       for (SetPointRecord &point : setPoints.points)
@@ -146,8 +157,8 @@ private:
       return;
     if (property.compare(QLatin1String("name"), Qt::CaseInsensitive) == 0 ||
         property.compare(QLatin1String("type"), Qt::CaseInsensitive) == 0) {
-      report.add("identity", line, QStringLiteral("The %1 of element %2 cannot be set by a scenario").arg(property, name),
-                 QString(), name);
+      report.add(ReadReport::Kind::Identity, line,
+                 ReadReport::tr("The %1 of element %2 cannot be set by a scenario").arg(property, name), QString(), name);
       return;
     }
     if (point.doubt != nullptr)
@@ -179,8 +190,8 @@ private:
     case SetPointUnits::Outcome::Impossible:
       break;
     }
-    report.add("unit", line,
-               QStringLiteral("%1 of element %2 is given in \"%3\", which cannot be converted to \"%4\"; the value is kept")
+    report.add(ReadReport::Kind::Unit, line,
+               ReadReport::tr("%1 of element %2 is given in \"%3\", which cannot be converted to \"%4\"; the value is kept")
                    .arg(key.name(), name, unit, attribute->storedUnit),
                QString(), name);
     return true;
@@ -200,24 +211,24 @@ void NivraReader::set(element &target, PropertyKey key, PropertyText value) {
 }
 
 void NivraReader::convertWaiting(Findings &findings) {
-  std::vector<std::pair<SetPointPlace, WaitingSetPoint>> waiting(std::make_move_iterator(m_waiting.begin()),
-                                                                 std::make_move_iterator(m_waiting.end()));
+  std::vector<std::pair<SetPointTarget, WaitingSetPoint>> waiting(std::make_move_iterator(m_waiting.begin()),
+                                                                  std::make_move_iterator(m_waiting.end()));
   m_waiting.clear();
   std::sort(waiting.begin(), waiting.end(), [](const auto &a, const auto &b) { return a.second.line < b.second.line; });
   const SetPointUnits units;
   std::map<QString, ReadReport> reports; // by file
-  for (auto &[place, point] : waiting) {
+  for (auto &[set, point] : waiting) {
     element &target = *m_net.element(point.element);
     const Units::Gas gas = SetPointUnits::gasAt(target, m_net, m_gases);
     if (units.convert(point.value, point.unit, point.storedUnit, gas) == SetPointUnits::Outcome::Converted) {
-      target.set(place.second, std::move(point.value));
+      target.set(set.second, std::move(point.value));
       continue;
     }
     reports.try_emplace(point.file, point.file)
-        .first->second.add("gas", point.line,
-                           QStringLiteral("%1 of element %2 is given in \"%3\"; to convert it to \"%4\" the norm density or "
+        .first->second.add(ReadReport::Kind::Gas, point.line,
+                           ReadReport::tr("%1 of element %2 is given in \"%3\"; to convert it to \"%4\" the norm density or "
                                           "the calorific value of the gas must be known. The value is left out")
-                               .arg(place.second.name(), point.element, point.unit, point.storedUnit),
+                               .arg(set.second.name(), point.element, point.unit, point.storedUnit),
                            QString(), point.element);
   }
   for (auto &[file, report] : reports)

@@ -19,7 +19,7 @@ TableFile::Contents TableFile::read(const QString &path) {
       stream.tell(record, report);
       continue;
     }
-    ElementRecord &parsed = *record.elements.begin();
+    ElementRecord &parsed = *stream.elements().begin();
     Row row;
     row.line = record.line;
     row.name = decoded(parsed.name);

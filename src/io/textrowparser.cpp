@@ -1,6 +1,7 @@
 #include "textrowparser.h"
 
 #include "numbertext.h"
+#include "readreport.h"
 
 #include <algorithm>
 #include <cstring>
@@ -38,6 +39,37 @@ bool TextRowParser::isNameColumn(std::string_view text) {
   return std::equal(text.begin(), text.end(), Name.begin(), Name.end(), [](char a, char b) { return (a | 0x20) == b; });
 }
 
+const char *TextRowParser::addQuoted(const char *at, const char *end) {
+  const char *begin = ++at;
+  const std::size_t roomBefore = m_room.size();
+  bool isCopied = false;
+  while (const char *quote = find(at, end, '"')) {
+    if (quote + 1 == end || quote[1] != '"') {
+      if (isCopied)
+        m_room.append(begin, quote);
+      m_cells.push_back({isCopied ? std::string_view(m_room).substr(roomBefore)
+                                  : std::string_view(begin, static_cast<std::size_t>(quote - begin)),
+                         true});
+      return quote + 1;
+    }
+    m_room.append(begin, quote + 1); // one of the two
+    isCopied = true;
+    begin = at = quote + 2;
+  }
+  return nullptr;
+}
+
+const char *TextRowParser::addPlain(const char *at, const char *end, char separator) {
+  const char *next = find(at, end, separator);
+  if (next == nullptr)
+    next = end;
+  const char *last = next;
+  while (last > at && isBlank(last[-1]))
+    --last;
+  m_cells.push_back({std::string_view(at, static_cast<std::size_t>(last - at)), false});
+  return next;
+}
+
 bool TextRowParser::split(std::string_view line, char separator) {
   m_cells.clear();
   m_room.clear();
@@ -50,39 +82,14 @@ bool TextRowParser::split(std::string_view line, char separator) {
   };
   while (true) {
     skipBlanks();
-    Cell cell;
     if (at < end && *at == '"') {
-      cell.isQuoted = true;
-      const char *begin = ++at;
-      const std::size_t roomBefore = m_room.size();
-      bool isCopied = false;
-      while (true) {
-        const char *quote = find(at, end, '"');
-        if (quote == nullptr)
-          return false;
-        if (quote + 1 == end || quote[1] != '"') {
-          if (isCopied)
-            m_room.append(begin, quote);
-          cell.text = isCopied ? std::string_view(m_room).substr(roomBefore)
-                               : std::string_view(begin, static_cast<std::size_t>(quote - begin));
-          at = quote + 1;
-          break;
-        }
-        m_room.append(begin, quote + 1); // one of the two
-        isCopied = true;
-        begin = at = quote + 2;
-      }
+      at = addQuoted(at, end);
+      if (at == nullptr)
+        return false;
       skipBlanks();
     } else {
-      const char *next = find(at, end, separator);
-      const char *last = next == nullptr ? end : next;
-      const char *begin = at;
-      at = last;
-      while (last > begin && isBlank(last[-1]))
-        --last;
-      cell.text = std::string_view(begin, static_cast<std::size_t>(last - begin));
+      at = addPlain(at, end, separator);
     }
-    m_cells.push_back(cell);
     if (at >= end)
       return true;
     if (*at != separator) { // something stands behind a closing quote
@@ -108,7 +115,7 @@ QString TextRowParser::parse(const Row &row, ElementRecord &parsed) {
   parsed.doubtful.clear();
   split(row.text, row.table->separator); // whose quotes are closed
   if (m_cells.empty())
-    return QStringLiteral("something stands behind a closing quote");
+    return ReadReport::tr("something stands behind a closing quote");
   parsed.name = m_cells.front().text;
   if (!row.table->type.empty())
     parsed.values.push_back({TypeMember, PropertyText(std::string_view(row.table->type)), false});
@@ -117,10 +124,11 @@ QString TextRowParser::parse(const Row &row, ElementRecord &parsed) {
     if (!cell.isQuoted && cell.text.empty())
       continue;
     if (i >= row.table->columns.size())
-      return QStringLiteral("it has more than the %1 columns of its table").arg(row.table->columns.size());
+      return ReadReport::tr("it has more than the %1 columns of its table").arg(row.table->columns.size());
     parsed.values.push_back(valueOf(cell, row.table->columns[i]));
     if (!cell.isQuoted && hasDecimalComma(cell.text))
-      parsed.doubtful.push_back({row.table->columns[i], "is taken as a text, since numbers have a decimal point"});
+      parsed.doubtful.push_back({row.table->columns[i],
+                                 QT_TRANSLATE_NOOP("ReadReport", "is taken as a text, since numbers have a decimal point")});
   }
   return QString();
 }

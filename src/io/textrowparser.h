@@ -19,7 +19,7 @@ public:
     std::vector<std::string> columns;
     char separator = ';';
   };
-  /// A row whose cells nobody has looked at.
+  /// A row that is not cut into cells yet.
   struct Row {
     int number = 0; ///< of its first line
     std::string text;
@@ -42,6 +42,9 @@ public:
   const std::vector<Cell> &cells() const { return m_cells; }
 
 private:
+  /// Both add the cell that begins there and return what stands behind it; null when its quote stays open.
+  const char *addQuoted(const char *at, const char *end);
+  const char *addPlain(const char *at, const char *end, char separator);
   RecordValue valueOf(const Cell &cell, std::string_view column) const;
 
   RecordNumbers m_numbers;

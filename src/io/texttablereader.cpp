@@ -41,11 +41,11 @@ TextTableReader::Found TextTableReader::fail(const QString &reason) {
 /// Takes the following lines to one whose quote stays open, as spreadsheets write texts with line breaks. When no line
 /// closes it soon, the quote is a mistake: only its line is lost.
 bool TextTableReader::continueLine() {
-  constexpr int MostLines = 200;
+  constexpr int MaximumLines = 200;
   const std::string first = m_line;
   const int number = m_number;
   std::deque<PendingLine> taken;
-  while (taken.size() < MostLines) {
+  while (taken.size() < MaximumLines) {
     std::string whole = std::move(m_line);
     if (!nextLine())
       break;
@@ -80,6 +80,16 @@ bool TextTableReader::takeHeader() {
   return true;
 }
 
+/// A line with the type of the tables below it.
+bool TextTableReader::takeType(std::size_t bracket) {
+  const std::size_t end = m_line.find(']', bracket);
+  if (end == std::string::npos || m_line.find_first_not_of(" \t\r;", end + 1) != std::string::npos)
+    return false;
+  m_table = std::make_shared<TextRowParser::Table>(
+      TextRowParser::Table{m_line.substr(bracket + 1, end - bracket - 1), {}, m_table->separator});
+  return true;
+}
+
 bool TextTableReader::isOnlySeparators() const {
   return std::all_of(m_line.begin(), m_line.end(),
                      [this](char c) { return c == m_table->separator || c == ' ' || c == '\t' || c == '\r'; });
@@ -88,16 +98,13 @@ bool TextTableReader::isOnlySeparators() const {
 TextTableReader::Found TextTableReader::next(TextRowParser::Row &row) {
   while (nextLine()) {
     if (m_isTooLong)
-      return fail(QStringLiteral("the line is longer than 64 MB"));
+      return fail(ReadReport::lineTooLong());
     const std::size_t begin = m_line.find_first_not_of(" \t\r");
     if (begin == std::string::npos || m_line[begin] == '#')
       continue;
     if (m_line[begin] == '[') {
-      const std::size_t end = m_line.find(']', begin);
-      if (end == std::string::npos || m_line.find_first_not_of(" \t\r;", end + 1) != std::string::npos)
-        return fail(QStringLiteral("a type stands alone in its line, in square brackets"));
-      m_table = std::make_shared<TextRowParser::Table>(
-          TextRowParser::Table{m_line.substr(begin + 1, end - begin - 1), {}, m_table->separator});
+      if (!takeType(begin))
+        return fail(ReadReport::tr("a type stands alone in its line, in square brackets"));
       continue;
     }
     const std::shared_ptr<const TextRowParser::Table> before = m_table;
@@ -110,14 +117,14 @@ TextTableReader::Found TextTableReader::next(TextRowParser::Row &row) {
     const bool hasQuotes = m_line.find('"') != std::string::npos;
     if (hasQuotes && !m_parser.split(m_line, m_table->separator) && !continueLine()) {
       m_table = before;
-      return fail(QStringLiteral("a quote is not closed"));
+      return fail(ReadReport::tr("a quote is not closed"));
     }
     if (mayBeHeader) {
       m_parser.split(m_line, m_table->separator);
       if (!m_parser.cells().empty() && !m_parser.cells().front().isQuoted &&
           TextRowParser::isNameColumn(m_parser.cells().front().text)) {
         if (!takeHeader())
-          return fail(QStringLiteral("a column has no name"));
+          return fail(ReadReport::tr("a column has no name"));
         continue;
       }
       m_table = before; // a name that only begins so
@@ -125,7 +132,7 @@ TextTableReader::Found TextTableReader::next(TextRowParser::Row &row) {
     if (isOnlySeparators())
       continue;
     if (m_table->columns.empty())
-      return fail(QStringLiteral("no line with column names, which begins with \"name\", stands above it"));
+      return fail(ReadReport::tr("no line with column names, which begins with \"name\", stands above it"));
     row.number = m_number;
     row.table = m_table;
     row.text.swap(m_line);

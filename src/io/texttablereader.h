@@ -25,7 +25,7 @@ public:
   explicit TextTableReader(LineReader &lines)
       : m_lines(lines) {}
 
-  /// The row as it stands, for a parser of the caller's.
+  /// The row as it stands; the caller parses it.
   Found next(TextRowParser::Row &row);
   int line() const { return m_number; } ///< of what was found
   QString quote() const;                ///< of a fault: the beginning of its line
@@ -36,6 +36,7 @@ private:
   bool nextLine();
   bool continueLine();
   bool takeHeader();
+  bool takeType(std::size_t bracket);
   bool isOnlySeparators() const;
   Found fail(const QString &reason);
 

@@ -2,20 +2,16 @@
 #include <model/names.h>
 #include <model/propertycolumns.h>
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <vector>
 
 namespace {
 
-struct Keys {
-  PropertyKey driven = PropertyKey::intern("driven");
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(ConsistencyCheck)
 };
-
-const Keys &keys() {
-  static const Keys instance;
-  return instance;
-}
 
 std::string_view textOf(const element &e, PropertyKey key) {
   const PropertyText *text = e.find(key);
@@ -110,27 +106,24 @@ private:
   void checkIdentity(const elements::Entry &entry, std::string_view name, std::string_view type) {
     const std::string_view id = entry.id.utf8();
     if (id.empty() || name.empty())
-      add(entry,
-          QStringLiteral("ID or name-property empty: %1, %2").arg(entry.name(), entry.value.value(Names::all().name)));
+      add(entry, Texts::tr("ID or name-property empty: %1, %2").arg(entry.name(), entry.value.value(Names::all().name)));
     if (name != id)
-      add(entry, QStringLiteral("ID and value of name-property not identical: ") + entry.name() + QStringLiteral(", ") +
-                     entry.value.value(Names::all().name));
+      add(entry, Texts::tr("ID and value of name-property not identical: %1, %2")
+                     .arg(entry.name(), entry.value.value(Names::all().name)));
     if (type.empty() || type.find(' ') != std::string_view::npos)
-      add(entry, QStringLiteral("value of type-property not OK: ") + entry.name() + QStringLiteral(", ") +
-                     entry.value.value(Names::all().type));
+      add(entry, Texts::tr("value of type-property not OK: %1, %2").arg(entry.name(), entry.value.value(Names::all().type)));
   }
 
   void checkProperties(const elements::Entry &entry) {
     std::vector<PropertyKey> nameless;
     for (const Property *property : m_conspicuous) {
       if (m_names.sort(property->key) == PropertyNames::Empty) {
-        add(entry, QStringLiteral("A property name is empty for element ") + entry.name() +
-                       QStringLiteral("! Property will be erased!"));
+        add(entry, Texts::tr("A property name is empty for element %1! Property will be erased!").arg(entry.name()));
         nameless.push_back(property->key);
       } else if (!property->value.isEmpty() && m_net.nodes().find(property->value) == nullptr &&
                  m_net.edges().find(property->value) == nullptr) {
-        add(entry, QStringLiteral("Cannot find element: ") + property->key.name() + QLatin1Char('@') + entry.name() +
-                       QLatin1Char('=') + property->value.toString() + QLatin1Char('!'));
+        add(entry,
+            Texts::tr("Cannot find element: %1@%2=%3!").arg(property->key.name(), entry.name(), property->value.toString()));
       }
     }
     for (const PropertyKey key : nameless)
@@ -152,20 +145,23 @@ public:
       , m_ofEdge({Names::all().name, Names::all().node1, Names::all().node2}) {}
 
   ConsistencyCheck::PruneResult run() {
-    static_cast<void>(m_net.nodes().begin()); // gives the nodes their places
+    static_cast<void>(m_net.nodes().begin()); // gives the nodes their indices
     m_passed.assign(m_net.nodes().size(), false);
-    m_result.edges = erase(m_net.edges(), "edge", [this](const elements::Entry &e) { return edgePasses(e.value); });
-    m_result.nodes = erase(m_net.nodes(), "node", [this](const elements::Entry &e) { return nodePasses(e); });
-    const int drives = erase(m_net.nodes(), "drive",
+    m_result.edges = erase(m_net.edges(), QT_TRANSLATE_NOOP("ConsistencyCheck", "edge"),
+                           [this](const elements::Entry &e) { return edgePasses(e.value); });
+    m_result.nodes = erase(m_net.nodes(), QT_TRANSLATE_NOOP("ConsistencyCheck", "node"),
+                           [this](const elements::Entry &e) { return nodePasses(e); });
+    const int drives = erase(m_net.nodes(), QT_TRANSLATE_NOOP("ConsistencyCheck", "drive"),
                              [this](const elements::Entry &e) { return !isDrive(e.value) || drivePasses(e.value); });
     if (drives > 0) { // no edge may end at one of them
       m_passed.assign(m_net.nodes().size(), true);
-      m_result.edges += erase(m_net.edges(), "edge", [this](const elements::Entry &e) { return edgePasses(e.value); });
+      m_result.edges += erase(m_net.edges(), QT_TRANSLATE_NOOP("ConsistencyCheck", "edge"),
+                              [this](const elements::Entry &e) { return edgePasses(e.value); });
       m_result.nodes += drives;
     }
     if (m_result.nodes > 0 || m_result.edges > 0)
       add(Finding::Severity::Critical, QString(),
-          QStringLiteral("CRITICAL - %1 nodes and %2 edges had to be removed!").arg(m_result.nodes).arg(m_result.edges));
+          Texts::tr("CRITICAL - %1 nodes and %2 edges had to be removed!").arg(m_result.nodes).arg(m_result.edges));
     return std::move(m_result);
   }
 
@@ -181,7 +177,7 @@ private:
     return static_cast<int>(collection.eraseIf([&](const elements::Entry &entry) {
       if (passes(entry))
         return false;
-      tell(m_told, Finding::Severity::Information, QStringLiteral("... %1 was: ").arg(QLatin1String(word)) + entry.name());
+      tell(m_told, Finding::Severity::Information, Texts::tr("... %1 was: %2").arg(Texts::tr(word), entry.name()));
       entry.value.clear();
       return true;
     }));
@@ -193,19 +189,19 @@ private:
     QString properties;
     for (const Property &property : e)
       properties += property.key.name() + QLatin1Char('=') + property.value.toString() + QLatin1Char(';');
-    const QString kind = QLatin1String(word);
-    add(Finding::Severity::Warning, QString(), QStringLiteral("Error for %1: ").arg(kind) + properties);
+    const QString kind = Texts::tr(word);
+    add(Finding::Severity::Warning, QString(), Texts::tr("Error for %1: %2").arg(kind, properties));
     const QString what = kind.at(0).toUpper() + kind.mid(1);
     tell(m_told, Finding::Severity::Warning,
-         QStringLiteral("ERROR for current %1: Could not find property name! %2 will be erased!").arg(kind, what));
+         Texts::tr("ERROR for current %1: Could not find property name! %2 will be erased!").arg(kind, what));
     return false;
   }
 
   bool nodePasses(const elements::Entry &entry) {
-    const auto place = static_cast<std::size_t>(entry.place);
-    if (!m_passed[place])
-      m_passed[place] = nodePasses(entry.value);
-    return m_passed[place];
+    const auto index = static_cast<std::size_t>(entry.index);
+    if (!m_passed[index])
+      m_passed[index] = nodePasses(entry.value);
+    return m_passed[index];
   }
 
   bool nodePasses(element &node) {
@@ -227,7 +223,7 @@ private:
     node.set(key, PropertyText(std::string_view("0")));
     const QString name = node.value(Names::all().name);
     add(Finding::Severity::Warning, name,
-        QStringLiteral("Node %1 did not possess %2-value. Set to 0.").arg(name, QString(QLatin1Char(axis))));
+        Texts::tr("Node %1 did not possess %2-value. Set to 0.").arg(name, QString(QLatin1Char(axis))));
   }
 
   bool edgePasses(const element &edge) {
@@ -235,8 +231,8 @@ private:
     if (!hasName(edge, m_ofEdge[EdgeName], "edge"))
       return false;
     if (m_ofEdge[EdgeNode1] == nullptr || m_ofEdge[EdgeNode2] == nullptr)
-      return edgeFails(edge, QStringLiteral("Could not find property ") +
-                                 (m_ofEdge[EdgeNode1] == nullptr ? Names::all().node1 : Names::all().node2).name());
+      return edgeFails(edge, Texts::tr("Could not find property %1")
+                                 .arg((m_ofEdge[EdgeNode1] == nullptr ? Names::all().node1 : Names::all().node2).name()));
     const elements::Entry *node1 = end(edge, Names::all().node1, *m_ofEdge[EdgeNode1]);
     const elements::Entry *node2 = node1 == nullptr ? nullptr : end(edge, Names::all().node2, *m_ofEdge[EdgeNode2]);
     return node2 != nullptr && endPasses(edge, Names::all().node1, *node1) && endPasses(edge, Names::all().node2, *node2);
@@ -244,15 +240,14 @@ private:
 
   bool edgeFails(const element &edge, const QString &reason) {
     const QString name = edge.value(Names::all().name);
-    add(Finding::Severity::Warning, name,
-        QStringLiteral("ERROR for edge ") + name + QStringLiteral(": ") + reason + QStringLiteral("! Edge will be erased!"));
+    add(Finding::Severity::Warning, name, Texts::tr("ERROR for edge %1: %2! Edge will be erased!").arg(name, reason));
     return false;
   }
 
   const elements::Entry *end(const element &edge, PropertyKey key, const PropertyText &name) {
     const elements::Entry *node = m_net.nodes().findEntry(name.utf8());
     if (node == nullptr)
-      edgeFails(edge, QStringLiteral("Could not find ") + key.name() + QLatin1Char(' ') + name.toString());
+      edgeFails(edge, Texts::tr("Could not find %1 %2").arg(key.name(), name.toString()));
     return node;
   }
 
@@ -260,42 +255,40 @@ private:
     if (nodePasses(node))
       return true;
     const QString word = key.name();
-    return edgeFails(edge,
-                     word.at(0).toUpper() + word.mid(1) + QLatin1Char(' ') + edge.value(key) + QStringLiteral(" not ok"));
+    return edgeFails(edge, Texts::tr("%1 %2 not ok").arg(word.at(0).toUpper() + word.mid(1), edge.value(key)));
   }
 
   bool drivePasses(element &drive) {
     if (!textOf(drive, Names::all().x).empty() && !textOf(drive, Names::all().y).empty())
       return true;
     const PropertyText *gasNodeName = drive.find(Names::all().gasNode);
-    const PropertyText *drivenName = drive.find(keys().driven);
+    const PropertyText *drivenName = drive.find(Names::all().driven);
     if (gasNodeName == nullptr || drivenName == nullptr)
-      return driveFails(drive, QStringLiteral("Could not find properties GASNODE and/or DRIVEN. Drive is excluded!"));
+      return driveFails(drive, Texts::tr("Could not find properties GASNODE and/or DRIVEN. Drive is excluded!"));
     const element *gasNode = m_net.nodes().find(*gasNodeName);
     if (gasNode != nullptr && gasNode->isEmpty()) // a drive that was excluded before this one
       gasNode = nullptr;
     const element *driven = m_net.edges().find(*drivenName);
     if (driven == nullptr && gasNode == nullptr)
-      return driveFails(drive, QStringLiteral("Neither GASNODE ") + gasNodeName->toString() +
-                                   QStringLiteral(" nor DRIVEN ") + drivenName->toString() +
-                                   QStringLiteral(" could be found. Drive is excluded!"));
+      return driveFails(drive, Texts::tr("Neither GASNODE %1 nor DRIVEN %2 could be found. Drive is excluded!")
+                                   .arg(gasNodeName->toString(), drivenName->toString()));
     if (driven == nullptr) {
-      driveFails(drive, QStringLiteral("Could not find DRIVEN ") + drivenName->toString() + QStringLiteral(". Check!"));
-      place(drive, m_net.position(*gasNode) + QPointF(0.0, 50.0));
+      driveFails(drive, Texts::tr("Could not find DRIVEN %1. Check!").arg(drivenName->toString()));
+      setPosition(drive, m_net.position(*gasNode) + QPointF(0.0, 50.0));
       return true;
     }
     if (!isTypeCode(driven->find(Names::all().type), "c"))
-      return driveFails(drive, QStringLiteral("DRIVEN ") + drivenName->toString() +
-                                   QStringLiteral(" is not of type compressor. Drive is excluded!"));
+      return driveFails(drive,
+                        Texts::tr("DRIVEN %1 is not of type compressor. Drive is excluded!").arg(drivenName->toString()));
     if (gasNode == nullptr)
-      driveFails(drive, QStringLiteral("Could not find GASNODE ") + gasNodeName->toString() + QStringLiteral(". Check!"));
+      driveFails(drive, Texts::tr("Could not find GASNODE %1. Check!").arg(gasNodeName->toString()));
     placeBeside(drive, *driven);
     return true;
   }
 
   bool driveFails(const element &drive, const QString &reason) {
     const QString name = drive.value(Names::all().name);
-    add(Finding::Severity::Warning, name, QStringLiteral("Drive ") + name + QStringLiteral(": ") + reason);
+    add(Finding::Severity::Warning, name, Texts::tr("Drive %1: %2").arg(name, reason));
     return false;
   }
 
@@ -303,18 +296,18 @@ private:
   void placeBeside(element &drive, const element &compressor) const {
     const element &inlet = *m_net.nodes().find(*compressor.find(Names::all().node1));
     const element &outlet = *m_net.nodes().find(*compressor.find(Names::all().node2));
-    place(drive, 0.3 * m_net.position(inlet) + 0.7 * m_net.position(outlet));
+    setPosition(drive, 0.3 * m_net.position(inlet) + 0.7 * m_net.position(outlet));
   }
 
-  void place(element &drive, const QPointF &at) const {
+  void setPosition(element &drive, const QPointF &at) const {
     constexpr int Digits = 8;
     const QString xText = QString::number(at.x(), 'g', Digits);
     const QString yText = QString::number(at.y(), 'g', Digits);
     drive.set(Names::all().x, xText);
     drive.set(Names::all().y, yText);
     tell(m_told, Finding::Severity::Information,
-         QStringLiteral("Drive ") + drive.value(Names::all().name) +
-             QStringLiteral(" did not possess x- or y-value. Set to (%1,%2).").arg(xText, yText));
+         Texts::tr("Drive %1 did not possess x- or y-value. Set to (%2,%3).")
+             .arg(drive.value(Names::all().name), xText, yText));
   }
 
   enum NodeColumn { NodeName, NodeType, NodeX, NodeY };
@@ -325,7 +318,7 @@ private:
   PropertyColumns m_ofNode;
   PropertyColumns m_ofEdge;
   ConsistencyCheck::PruneResult m_result;
-  std::vector<bool> m_passed; // nodes by their place: those that need no second test
+  std::vector<bool> m_passed; // nodes by their index: those that need no second test
 };
 
 } // namespace

@@ -55,11 +55,11 @@ void put(std::string &text, uint character) {
   }
 }
 
-/// Folds what stands from a place on, character by character, and puts it behind what is folded already.
-void foldFrom(std::string_view utf8, std::size_t place, std::string &result) {
-  result.resize(place);
+/// Folds what stands from a position on, character by character, and puts it behind what is folded already.
+void foldFrom(std::string_view utf8, std::size_t position, std::string &result) {
+  result.resize(position);
   const char *const end = utf8.data() + utf8.size();
-  for (const char *at = utf8.data() + place; at < end;) {
+  for (const char *at = utf8.data() + position; at < end;) {
     const char *const other = std::find_if(at, end, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
     result.append(at, other);
     at = other;
@@ -215,7 +215,7 @@ using ByName =
 /// 4. Walking sorts first: one reader under the mutex, which the others wait for. They see the flag by acquire and release,
 ///    so that a flag that is true shows them the finished order. Nobody changes the collection meanwhile.
 struct elements::Storage {
-  // A name that is looked at in vain lies anywhere in the memory: there are twice as many places as names.
+  // A name that is looked at in vain lies anywhere in the memory: there are twice as many slots as names.
   static constexpr float FullestHash = 0.5F;
 
   Storage() { entries.max_load_factor(FullestHash); }
@@ -229,9 +229,9 @@ struct elements::Storage {
   std::mutex mutex;
 
   void number() const {
-    int place = 0;
+    int index = 0;
     for (const Entry *entry : order)
-      entry->place = place++;
+      entry->index = index++;
   }
 };
 

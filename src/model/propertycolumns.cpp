@@ -4,8 +4,8 @@
 
 namespace {
 
-PropertyKey keyAt(const element &source, std::size_t place) {
-  return place < source.size() ? source.begin()[static_cast<std::ptrdiff_t>(place)].key : PropertyKey();
+PropertyKey keyAt(const element &source, std::size_t index) {
+  return index < source.size() ? source.begin()[static_cast<std::ptrdiff_t>(index)].key : PropertyKey();
 }
 
 } // namespace
@@ -18,14 +18,14 @@ PropertyColumns::PropertyColumns(std::vector<PropertyKey> keys) {
 
 void PropertyColumns::read(const element &source) {
   for (Column &column : m_columns) {
-    // The same neighbours at the same place mean the same answer; a key that is there needs no neighbour.
+    // The same neighbours at the same index mean the same answer; a key that is there needs no neighbour.
     const bool isAsBefore =
-        keyAt(source, column.place).isSameSpelling(column.at) &&
-        (column.isThere || (column.place <= source.size() &&
-                            (column.place == 0 || keyAt(source, column.place - 1).isSameSpelling(column.before))));
+        keyAt(source, column.index).isSameSpelling(column.at) &&
+        (column.isThere || (column.index <= source.size() &&
+                            (column.index == 0 || keyAt(source, column.index - 1).isSameSpelling(column.before))));
     if (!isAsBefore)
       search(column, source);
-    column.found = column.isThere ? &source.begin()[static_cast<std::ptrdiff_t>(column.place)].value : nullptr;
+    column.found = column.isThere ? &source.begin()[static_cast<std::ptrdiff_t>(column.index)].value : nullptr;
   }
 }
 
@@ -33,14 +33,14 @@ void PropertyColumns::fetch(const element &source) const {
   if (source.isEmpty())
     return;
   for (const Column &column : m_columns)
-    __builtin_prefetch(&*source.begin() + column.place);
+    __builtin_prefetch(&*source.begin() + column.index);
 }
 
 void PropertyColumns::search(Column &column, const element &source) {
   const auto found = std::lower_bound(source.begin(), source.end(), column.key,
                                       [](const Property &property, PropertyKey key) { return property.key < key; });
-  column.place = static_cast<std::size_t>(found - source.begin());
-  column.before = column.place == 0 ? PropertyKey() : keyAt(source, column.place - 1);
-  column.at = keyAt(source, column.place);
+  column.index = static_cast<std::size_t>(found - source.begin());
+  column.before = column.index == 0 ? PropertyKey() : keyAt(source, column.index - 1);
+  column.at = keyAt(source, column.index);
   column.isThere = !column.at.isNull() && column.at == column.key;
 }

@@ -32,13 +32,13 @@ public:
   /// Calls visit(edge, far node) for the ways that lead from the node.
   template <typename Visit>
   void forEachWay(const elements::Entry &node, const Visit &visit) const {
-    m_graph.forEachWay(node.place, [&](const Topology::NetworkGraph::Way &way) {
+    m_graph.forEachWay(node.index, [&](const Topology::NetworkGraph::Way &way) {
       visit(*m_edges[static_cast<std::size_t>(way.edge)], m_nodes[static_cast<std::size_t>(way.node)]);
     });
   }
   /// The node at which gas leaves the edge, in the direction of the trace; null for an edge without flow.
   const elements::Entry *endOf(const elements::Entry &edge) const {
-    const int node = m_ends[static_cast<std::size_t>(edge.place)].to;
+    const int node = m_ends[static_cast<std::size_t>(edge.index)].to;
     return node == Topology::NetworkGraph::Nowhere ? nullptr : m_nodes[static_cast<std::size_t>(node)];
   }
 
@@ -64,7 +64,7 @@ private:
       const elements::Entry *second = ::endOf(net, edge->value, Names::all().node2);
       if (value == NetData::NoValue || std::abs(value) < Nothing || first == nullptr || second == nullptr)
         continue;
-      own = {first->place, second->place};
+      own = {first->index, second->index};
       if ((value > 0.0) != (direction == Topology::Direction::Downstream))
         std::swap(own.from, own.to);
     }
@@ -88,7 +88,7 @@ QStringList Topology::listed(const element &subnet, PropertyKey list) {
   return names;
 }
 
-QStringList Topology::listedByPlace(const element &subnet, PropertyKey list) {
+QStringList Topology::listedByPosition(const element &subnet, PropertyKey list) {
   const QString names = subnet.value(list);
   return names.isEmpty() ? QStringList() : names.split(QLatin1Char(';'));
 }

@@ -2,7 +2,6 @@
 #include "templateplacement.h"
 #include "templateplan.h"
 
-#include <base/nivramsg.h>
 #include <io/nivrareader.h>
 #include <model/names.h>
 #include <model/topology.h>
@@ -24,7 +23,6 @@ struct Keys {
   PropertyKey rotation = PropertyKey::intern("rotation");
   PropertyKey icon = PropertyKey::intern("icon");
   PropertyKey constraints = PropertyKey::intern("constraints");
-  PropertyKey driven = PropertyKey::intern("driven");
   PropertyKey visSize = PropertyKey::intern("vis.size");
 };
 
@@ -47,19 +45,19 @@ Finding problem(const QString &text, const QString &element) {
   return {Finding::Severity::Warning, QString(), 0, text, QString(), false, element};
 }
 
-TemplateGeometry readTemplate(const QString &file) {
+TemplateGeometry readTemplate(const QString &file, const Told &told) {
   TemplateGeometry content;
   auto net = std::make_shared<NetData>();
   NivraReader::Options options;
   options.source = FileAccess::Source::Trusted; // the templates belong to the program
-  NivraReader::Result result = NivraReader(*net, logFinding).readGeomJsn(file, options);
+  NivraReader::Result result = NivraReader(*net, told).readGeomJsn(file, options);
   content.findings = std::move(result.findings);
   if (!result.ok) {
-    content.error = QStringLiteral("Cannot read ") + file;
+    content.error = SubAssembler::tr("Cannot read %1").arg(file);
     return content;
   }
   if (net->assembledSubnets().find(recordName()) == nullptr) {
-    content.error = QStringLiteral("%1 has no subnet named \"SUB\", which would tell its pins").arg(file);
+    content.error = SubAssembler::tr("%1 has no subnet named \"SUB\", which would tell its pins").arg(file);
     return content;
   }
   content.net = net;
@@ -67,7 +65,7 @@ TemplateGeometry readTemplate(const QString &file) {
   for (const elements::Entry &entry : net->assembledSubnets()) {
     if (entry.name().compare(recordName(), Qt::CaseInsensitive) != 0)
       content.findings.push_back({Finding::Severity::Warning, file, 0,
-                                  QStringLiteral("Templates do not hold other subnets: %1 is left out").arg(entry.name()),
+                                  SubAssembler::tr("Templates do not hold other subnets: %1 is left out").arg(entry.name()),
                                   QString()});
   }
   return content;
@@ -75,23 +73,24 @@ TemplateGeometry readTemplate(const QString &file) {
 
 } // namespace
 
-SubAssembler::SubAssembler(NetData &net, const QString &folder, SubAssemblyCache &cache)
+SubAssembler::SubAssembler(NetData &net, const QString &folder, SubAssemblyCache &cache, Told told)
     : m_net(net)
     , m_folder(folder)
+    , m_told(std::move(told))
     , m_realFolder(QFileInfo(folder).canonicalFilePath())
-    , m_templates(cache.folder(folder)) {}
+    , m_templates(cache.folder(folder, m_told)) {}
 
-QString SubAssembler::findFolder(const QString &programFolder) {
+QString SubAssembler::findFolder(const QString &programFolder, const Told &told) {
   for (const char *up : {"", "/..", "/../..", "/../../.."}) {
     const QFileInfo folder(programFolder + QLatin1String(up) + QStringLiteral("/net_subassemblies"));
     if (folder.isDir())
       return folder.canonicalFilePath();
   }
-  NivraMsg::logWarning(QStringLiteral("Could not find net_subassemblies folder!"));
+  tell(told, Finding::Severity::Warning, QStringLiteral("Could not find net_subassemblies folder!"));
   return QString();
 }
 
-void SubAssembler::log(const QString &text, const QString &element) {
+void SubAssembler::note(const QString &text, const QString &element) {
   m_result.findings.push_back(problem(text, element));
 }
 
@@ -120,20 +119,24 @@ const SubAssembler::Variant &SubAssembler::variant(const QString &name) {
     made.icon = PropertyText(name + QStringLiteral(".svg"));
   if (made.geometry.isEmpty()) {
     made.error =
-        QStringLiteral("Error - could not find subassembly:") + m_folder + QLatin1Char('/') + name + QStringLiteral(".geom");
+        tr("Error - could not find subassembly:%1").arg(m_folder + QLatin1Char('/') + name + QStringLiteral(".geom"));
     return made;
   }
   if (made.formulas.isEmpty())
-    NivraMsg::log(QStringLiteral("### File containing formulas") + m_folder + QLatin1Char('/') + name +
-                  QStringLiteral(".formulas") + QStringLiteral(" not found!"));
-  const TemplateGeometry &read = m_templates->geometry.get(made.geometry, readTemplate);
+    tell(m_told, Finding::Severity::Information,
+         QStringLiteral("### File containing formulas") + m_folder + QLatin1Char('/') + name +
+             QStringLiteral(".formulas not found!"));
+  const auto readFile = [this](const QString &file) {
+    return readTemplate(file, m_told);
+  };
+  const TemplateGeometry &read = m_templates->geometry.get(made.geometry, readFile, m_told);
   append(m_result.findings, read.findings);
   made.plan = read.plan;
   made.error = read.error;
   return made;
 }
 
-SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const Told &told) {
+SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const Progress &progress) {
   QElapsedTimer timer;
   timer.start();
   m_result = Result();
@@ -148,14 +151,14 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
   reserve(subnets);
   findFreePrefixes(subnets);
   const auto count = static_cast<int>(subnets.size());
-  NivraMsg::debug(QStringLiteral("     before rebuild %1 sec.\n").arg(static_cast<double>(timer.elapsed()) * Milli));
-  if (told && !told(QStringLiteral("Creating Subnets"), 0, count))
+  debug(QStringLiteral("     before rebuild %1 sec.\n").arg(static_cast<double>(timer.elapsed()) * Milli));
+  if (progress && !progress(tr("Creating Subnets"), 0, count))
     return m_result;
   for (int i = 0; i < count; ++i) {
-    if (told && !told(QStringLiteral("Creating Subnets (%1/%2)").arg(i + 1).arg(count), i, count))
+    if (progress && !progress(tr("Creating Subnets (%1/%2)").arg(i + 1).arg(count), i, count))
       return m_result;
     element &subnet = subnets[static_cast<std::size_t>(i)]->value;
-    const QStringList pins = Topology::listedByPlace(subnet, Names::all().pins);
+    const QStringList pins = Topology::listedByPosition(subnet, Names::all().pins);
     if (createEleOfAssembledSubnet(subnet, pins, flag, true) >= 1) {
       ++m_result.assembled;
       continue;
@@ -166,43 +169,62 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
       continue;
     }
     const QString name = subnets[static_cast<std::size_t>(i)]->name();
-    log(QStringLiteral("Problem with assembled subnet ") + name + QStringLiteral("! It will be erased!"));
+    note(tr("Problem with assembled subnet %1! It will be erased!").arg(name));
     m_net.assembledSubnets().erase(name);
     ++m_result.erased;
   }
+  noteSummary();
+  debug(QStringLiteral("### createElesOfAssembledSubnets: %1 sec.\n").arg(static_cast<double>(timer.elapsed()) * Milli));
+  return m_result;
+}
+
+void SubAssembler::noteSummary() {
   Finding summary = problem(QString(), QString());
   if (m_result.replaced > 0 || m_result.erased > 0) {
-    summary.box = QStringLiteral("%1 assembled subnets had to be replaced with default,\n%2 assembled subnets had to be "
-                                 "erased! See log for details!")
+    summary.box = tr("%1 assembled subnets had to be replaced with default,\n%2 assembled subnets had to be "
+                     "erased! See log for details!")
                       .arg(m_result.replaced)
                       .arg(m_result.erased);
     m_result.findings.push_back(summary);
   }
   if (m_result.newPins) {
-    summary.box = QStringLiteral("Pin nodes have been added to net! Save manually!");
+    summary.box = tr("Pin nodes have been added to net! Save manually!");
     m_result.findings.push_back(summary);
   }
-  NivraMsg::debug(
-      QStringLiteral("### createElesOfAssembledSubnets: %1 sec.\n").arg(static_cast<double>(timer.elapsed()) * Milli));
-  return m_result;
+}
+
+/// Its pins are nodes of the template.
+bool SubAssembler::hasSoundPins(const TemplatePlan &plan, const QString &variant, const QString &subnet) {
+  if (plan.pinNames().isEmpty()) {
+    note(tr("Problem with creating assembledsubnet: loaded pins empty! Skipped!"), subnet);
+    return false;
+  }
+  for (int i = 0; i < plan.pinNames().size(); ++i) {
+    if (plan.pin(i) != nullptr)
+      continue;
+    note(tr("### in createEleOfAssembledSubnet: Problem with assembled subnet %1").arg(subnet), subnet);
+    note(tr("The template %1 names a pin that is none of its nodes: %2").arg(variant, plan.pinNames().at(i)), subnet);
+    return false;
+  }
+  return true;
 }
 
 int SubAssembler::createEleOfAssembledSubnet(element &subnet, const QStringList &pins, Flag flag, bool tryReset) {
   const QString name = subnet.value(Names::all().name);
   const QString variantName = subnet.value(keys().variant);
   if (name.isEmpty()) {
-    log(QStringLiteral("Assembled subnet: name empty! Skipped!"));
+    note(tr("Assembled subnet: name empty! Skipped!"));
     return 0;
   }
   if (variantName.isEmpty()) {
-    log(QStringLiteral("Assembled subnet: variant empty for ") + name + QStringLiteral("! Skipped!"), name);
+    note(tr("Assembled subnet: variant empty for %1! Skipped!").arg(name), name);
     return 0;
   }
   if (m_templates == nullptr)
     return 0;
   const Variant &used = variant(variantName);
   if (used.plan == nullptr) {
-    log(used.error, name);
+    note(used.error, name);
     return 0;
   }
   const TemplatePlan &plan = *used.plan;
@@ -211,26 +233,16 @@ int SubAssembler::createEleOfAssembledSubnet(element &subnet, const QStringList 
     subnet.set(keys().icon, used.icon);
   if (!used.constraints.isEmpty())
     subnet.set(keys().constraints, PropertyText(used.constraints));
-  if (plan.pinNames().isEmpty()) {
-    log(QStringLiteral("Problem with creating assembledsubnet: loaded pins empty! Skipped!"), name);
+  if (!hasSoundPins(plan, variantName, name))
     return 0;
-  }
-  for (int i = 0; i < plan.pinNames().size(); ++i) {
-    if (plan.pin(i) != nullptr)
-      continue;
-    log(QStringLiteral("### in createEleOfAssembledSubnet: Problem with assembled subnet ") + name, name);
-    log(QStringLiteral("The template %1 names a pin that is none of its nodes: %2").arg(variantName, plan.pinNames().at(i)),
-        name);
-    return 0;
-  }
   const std::vector<Pin> netPins = nodesOf(pinsOf(subnet, pins, plan.pinNames(), tryReset));
   if (netPins.empty()) {
-    log(QStringLiteral("Problem with creating assembledsubnet: pins still empty! Skipped!"), name);
+    note(tr("Problem with creating assembledsubnet: pins still empty! Skipped!"), name);
     return 0;
   }
-  const Place place = placeSubnet(subnet, netPins);
+  const Frame frame = layOut(subnet, netPins);
   if (flag == Flag::All)
-    createElements(subnet, used, netPins, place);
+    createElements(subnet, used, netPins, frame);
   return 1;
 }
 
@@ -239,7 +251,7 @@ QStringList SubAssembler::pinsOf(element &subnet, const QStringList &pins, const
     return pins;
   const QString name = subnet.value(Names::all().name);
   if (!pins.isEmpty() && tryReset)
-    log(QStringLiteral("Assembled subnet ") + name + QStringLiteral(": pinList sizes not consistent! reset tried!"), name);
+    note(tr("Assembled subnet %1: pinList sizes not consistent! reset tried!").arg(name), name);
   if (!tryReset)
     return {};
   QStringList reset; // names of its own, or two subnets would share the nodes
@@ -257,61 +269,61 @@ std::vector<SubAssembler::Pin> SubAssembler::nodesOf(const QStringList &pins) co
   return found;
 }
 
-SubAssembler::Place SubAssembler::placeSubnet(element &subnet, const std::vector<Pin> &pins) {
+SubAssembler::Frame SubAssembler::layOut(element &subnet, const std::vector<Pin> &pins) {
   const auto number = [&](PropertyKey key) {
     const double value = m_net.value(subnet, key);
     return value == NetData::NoValue ? 0.0 : value;
   };
   if (pins.size() < 2 || pins[0].node == nullptr || pins[1].node == nullptr)
     return {m_net.position(subnet), number(keys().width), number(keys().rotation)};
-  std::vector<QPointF> places;
+  std::vector<QPointF> positions;
   QStringList others;
   for (const Pin &pin : pins) {
     if (pin.node != nullptr)
-      places.push_back(m_net.position(*pin.node));
+      positions.push_back(m_net.position(*pin.node));
     else
       others.append(pin.name);
   }
-  const QPointF way = places[1] - places[0];
-  const Place place{TemplatePlacement::mean(places), std::hypot(way.x(), way.y()),
-                    TemplatePlacement::rotation(places[0], places[1])};
-  subnet.set(keys().width, PropertyText::ofNumber(place.width));
-  subnet.set(keys().rotation, PropertyText::ofNumber(place.rotation));
-  subnet.set(Names::all().x, PropertyText::ofNumber(place.center.x()));
-  subnet.set(Names::all().y, PropertyText::ofNumber(place.center.y()));
+  const QPointF way = positions[1] - positions[0];
+  const Frame frame{TemplatePlacement::mean(positions), std::hypot(way.x(), way.y()),
+                    TemplatePlacement::rotation(positions[0], positions[1])};
+  subnet.set(keys().width, PropertyText::ofNumber(frame.width));
+  subnet.set(keys().rotation, PropertyText::ofNumber(frame.rotation));
+  subnet.set(Names::all().x, PropertyText::ofNumber(frame.center.x()));
+  subnet.set(Names::all().y, PropertyText::ofNumber(frame.center.y()));
   if (!others.isEmpty())
-    log(QStringLiteral("pinList contains non-net nodes: ") + others.join(QLatin1Char(';')), subnet.value(Names::all().name));
-  return place;
+    note(tr("pinList contains non-net nodes: %1").arg(others.join(QLatin1Char(';'))), subnet.value(Names::all().name));
+  return frame;
 }
 
 /// A node that the network lacks, to be saved by hand.
 void SubAssembler::createPin(const element &source, const QString &name, const QPointF &at) {
   element pin = source;
-  pin.set(QStringLiteral("refEle"), source.value(Names::all().name));
-  for (const PropertyKey key : {Names::all().gasNode, keys().driven})
+  pin.set(Names::all().refEle, *source.find(Names::all().name));
+  for (const PropertyKey key : {Names::all().gasNode, Names::all().driven})
     pin.erase(key);
   pin.set(Names::all().name, PropertyText(name));
   pin.set(Names::all().x, PropertyText::ofNumber(at.x()));
   pin.set(Names::all().y, PropertyText::ofNumber(at.y()));
   pin.set(QStringLiteral("doSave"), QStringLiteral("false"));
   pin.set(QStringLiteral("vis"), QStringLiteral("AUTO"));
-  log(QStringLiteral("This pin is new and needs saving: ") + name, name);
-  m_net.addElement(std::move(pin), logFinding);
+  note(tr("This pin is new and needs saving: %1").arg(name), name);
+  m_net.addElement(std::move(pin), m_told);
   m_freePrefixes.clear();
   m_result.newPins = true;
 }
 
 void SubAssembler::createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins,
-                                  const Place &place) {
+                                  const Frame &frame) {
   const TemplatePlan &plan = *variant.plan;
-  const TemplatePlacement placement(plan.pinPlaces(), place.width, place.rotation, place.center);
+  const TemplatePlacement placement(plan.pinPositions(), frame.width, frame.rotation, frame.center);
   QStringList pinNames;
   std::vector<PropertyText> pinTexts;
   pinTexts.reserve(pins.size());
   for (std::size_t i = 0; i < pins.size(); ++i) {
     const element &source = *plan.pin(static_cast<int>(i));
     if (pins[i].node == nullptr)
-      createPin(source, pins[i].name, placement.place(plan.pinPlaces()[i]));
+      createPin(source, pins[i].name, placement.map(plan.pinPositions()[i]));
     else if (const PropertyText *size = source.find(keys().visSize))
       pins[i].node->set(keys().visSize, *size);
     pinNames.append(pins[i].name);
@@ -375,8 +387,8 @@ std::vector<FormulaDefinition> SubAssembler::definitions(Findings &findings) con
     auto known = ofVariants.find(&variant);
     if (known == ofVariants.end()) {
       known = ofVariants.emplace(&variant, variant.plan).first;
-      known->second.read(variant.constraints, m_templates->constraints, findings);
-      known->second.read(variant.formulas, m_templates->formulas, findings);
+      known->second.read(variant.constraints, m_templates->constraints, findings, m_told);
+      known->second.read(variant.formulas, m_templates->formulas, findings, m_told);
     }
     known->second.addFor(assembled.subnet, assembled.pins, assembled.names, definitions);
   }

@@ -4,12 +4,14 @@
 
 #include <base/pattern.h>
 
-void TemplateDefinitions::read(const QString &path, TemplateCache<FormulaFile::Contents> &cache, Findings &findings) {
+void TemplateDefinitions::read(const QString &path, TemplateCache<FormulaFile::Contents> &cache, Findings &findings,
+                               const Told &told) {
   if (path.isEmpty())
     return;
-  const FormulaFile::Contents &contents = cache.get(path, [](const QString &file) {
+  const auto readFile = [](const QString &file) {
     return FormulaFile::read(file, QStringLiteral("geometry"), FileAccess::Source::Trusted); // of the program
-  });
+  };
+  const FormulaFile::Contents &contents = cache.get(path, readFile, told);
   append(findings, contents.findings);
   for (const FormulaDefinition &definition : contents.definitions) {
     Planned planned{definition, {}, definition.types.contains(QStringLiteral("sub"))};

@@ -12,7 +12,7 @@ public:
       : m_plan(std::move(plan)) {}
 
   /// \param path empty where the template has no such file
-  void read(const QString &path, TemplateCache<FormulaFile::Contents> &cache, Findings &findings);
+  void read(const QString &path, TemplateCache<FormulaFile::Contents> &cache, Findings &findings, const Told &told);
   /// Adds those of one subnet. \param pins what the network calls those of the template
   /// \param names of the created elements, as the plan orders them
   void addFor(const QString &subnet, const QStringList &pins, const std::vector<PropertyText> &names,

@@ -1,10 +1,11 @@
 #include "templateplacement.h"
 
+#include <QtMath>
+
 #include <cmath>
 
 namespace {
 
-constexpr double Pi = 3.14159265358979323846;
 constexpr double HalfTurn = 180.0;
 
 double distance(const QPointF &a, const QPointF &b) {
@@ -19,12 +20,12 @@ TemplatePlacement::TemplatePlacement(const std::vector<QPointF> &from, double wi
   const double extent = from.size() < 2 ? 0.0 : distance(from[0], from[1]);
   if (extent > 0.0 && width > 0.0)
     m_scale = width / extent;
-  const double angle = -rotation / HalfTurn * Pi; // clockwise
+  const double angle = -rotation / HalfTurn * M_PI; // clockwise
   m_cosine = std::cos(angle);
   m_sine = std::sin(angle);
 }
 
-QPointF TemplatePlacement::place(const QPointF &point) const {
+QPointF TemplatePlacement::map(const QPointF &point) const {
   const QPointF way = (point - m_from) * m_scale;
   return m_center + QPointF(way.x() * m_cosine + way.y() * m_sine, -way.x() * m_sine + way.y() * m_cosine);
 }
@@ -44,5 +45,5 @@ double TemplatePlacement::rotation(const QPointF &first, const QPointF &second) 
     return first.y() > second.y() ? -QuarterTurn : QuarterTurn;
   if (std::abs(way.y()) < Tiny)
     return first.x() > second.x() ? HalfTurn : 0.0;
-  return std::atan2(way.y(), way.x()) * HalfTurn / Pi;
+  return std::atan2(way.y(), way.x()) * HalfTurn / M_PI;
 }

@@ -14,7 +14,8 @@ public:
   /// \param center of the subnet
   TemplatePlacement(const std::vector<QPointF> &from, double width, double rotation, const QPointF &center);
 
-  QPointF place(const QPointF &point) const;
+  /// From the template to the network.
+  QPointF map(const QPointF &point) const;
 
   /// The mean of some points; the origin for none.
   static QPointF mean(const std::vector<QPointF> &points);

@@ -10,25 +10,15 @@
 
 namespace {
 
-struct Keys {
-  PropertyKey refEle = PropertyKey::intern("refEle");
-};
-
-const Keys &keys() {
-  static const Keys instance;
-  return instance;
-}
-
 /// Properties that name an element of the same network, besides "name".
 const std::vector<PropertyKey> &references() {
-  static const std::vector<PropertyKey> instance{PropertyKey::intern("node1"),  PropertyKey::intern("node2"),
-                                                 PropertyKey::intern("entry"),  PropertyKey::intern("exit"),
-                                                 PropertyKey::intern("drive"),  PropertyKey::intern("driven"),
-                                                 PropertyKey::intern("gasnode")};
+  static const std::vector<PropertyKey> instance{
+      Names::all().node1, Names::all().node2,  PropertyKey::intern("entry"), PropertyKey::intern("exit"),
+      Names::all().drive, Names::all().driven, Names::all().gasNode};
   return instance;
 }
 
-std::size_t placeOf(const element &e, PropertyKey key) {
+std::size_t indexOf(const element &e, PropertyKey key) {
   return static_cast<std::size_t>(
       std::find_if(e.begin(), e.end(), [key](const Property &property) { return property.key == key; }) - e.begin());
 }
@@ -48,11 +38,11 @@ TemplatePlan::TemplatePlan(const NetData &source) {
     else if (!never.match(key).hasMatch())
       m_defaults.push_back({property, PropertyKey()});
   }
-  m_pinNames = Topology::listedByPlace(record, Names::all().pins);
+  m_pinNames = Topology::listedByPosition(record, Names::all().pins);
   for (const QString &name : qAsConst(m_pinNames)) {
     const element *node = source.nodes().find(name);
     m_pins.push_back(node);
-    m_pinPlaces.push_back(node == nullptr ? QPointF() : source.position(*node));
+    m_pinPositions.push_back(node == nullptr ? QPointF() : source.position(*node));
   }
   for (const elements::Entry &entry : source.nodes()) {
     if (!m_pinNames.contains(entry.name(), Qt::CaseInsensitive))
@@ -68,16 +58,16 @@ TemplatePlan::TemplatePlan(const NetData &source) {
       const auto other = std::find(m_partNames.begin(), m_partNames.end(), name->utf8());
       const int pin = m_pinNames.indexOf(name->toString());
       if (other != m_partNames.end())
-        part.references.push_back({placeOf(part.prototype, key), static_cast<int>(other - m_partNames.begin())});
+        part.references.push_back({indexOf(part.prototype, key), static_cast<int>(other - m_partNames.begin())});
       else if (pin >= 0)
-        part.references.push_back({placeOf(part.prototype, key), -1 - pin});
+        part.references.push_back({indexOf(part.prototype, key), -1 - pin});
     }
   }
 }
 
 void TemplatePlan::giveDefaults(element &subnet) const {
-  constexpr std::size_t Further = 8; // what the assembling itself says of the subnet
-  subnet.reserve(subnet.size() + 2 * m_defaults.size() + Further);
+  constexpr std::size_t FurtherProperties = 8; // what the assembling itself says of the subnet
+  subnet.reserve(subnet.size() + 2 * m_defaults.size() + FurtherProperties);
   for (const Default &given : m_defaults) {
     subnet.set(given.property.key, given.property.value);
     if (!given.plain.isNull() && subnet.find(given.plain) == nullptr)
@@ -94,14 +84,14 @@ void TemplatePlan::addPart(const NetData &source, const elements::Entry &entry, 
   part.prototype = entry.value;
   part.isNode = isNode;
   part.at = source.position(entry.value);
-  part.prototype.set(keys().refEle, entry.id);
+  part.prototype.set(Names::all().refEle, entry.id);
   if (isNode) {
     part.prototype.set(Names::all().x, PropertyText());
     part.prototype.set(Names::all().y, PropertyText());
-    part.xPlace = placeOf(part.prototype, Names::all().x);
-    part.yPlace = placeOf(part.prototype, Names::all().y);
+    part.xIndex = indexOf(part.prototype, Names::all().x);
+    part.yIndex = indexOf(part.prototype, Names::all().y);
   }
-  part.namePlace = placeOf(part.prototype, Names::all().name);
+  part.nameIndex = indexOf(part.prototype, Names::all().name);
   m_parts.push_back(std::move(part));
   m_partNames.push_back(own);
 }
@@ -134,14 +124,14 @@ void TemplatePlan::create(NetData &net, const std::vector<PropertyText> &names, 
   for (std::size_t i = 0; i < m_parts.size(); ++i) {
     const Part &part = m_parts[i];
     element made = part.prototype;
-    made.replace(part.namePlace, names[i]);
+    made.replace(part.nameIndex, names[i]);
     for (const Reference &reference : part.references)
-      made.replace(reference.place, reference.part >= 0 ? names[static_cast<std::size_t>(reference.part)]
+      made.replace(reference.index, reference.part >= 0 ? names[static_cast<std::size_t>(reference.part)]
                                                         : pins[static_cast<std::size_t>(-1 - reference.part)]);
     if (part.isNode) {
-      const QPointF at = placement.place(part.at);
-      made.replace(part.xPlace, PropertyText::ofNumber(at.x()));
-      made.replace(part.yPlace, PropertyText::ofNumber(at.y()));
+      const QPointF at = placement.map(part.at);
+      made.replace(part.xIndex, PropertyText::ofNumber(at.x()));
+      made.replace(part.yIndex, PropertyText::ofNumber(at.y()));
     }
     (part.isNode ? net.nodes() : net.edges()).tryInsert(names[i], std::move(made));
   }

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// A template made ready for being placed many times: what is the same for all subnets is worked out once.
+/// A template made ready to serve many subnets: what is the same for all subnets is worked out once.
 class TemplatePlan {
 public:
   /// \param source lives as long as the plan; has a subnet named "SUB"
@@ -18,7 +18,7 @@ public:
   /// Gives the subnet what the template's record says: ".default" values where it has none of its own, others in any case.
   void giveDefaults(element &subnet) const;
   const QStringList &pinNames() const { return m_pinNames; }
-  const std::vector<QPointF> &pinPlaces() const { return m_pinPlaces; }
+  const std::vector<QPointF> &pinPositions() const { return m_pinPositions; }
   /// The node that is a pin; null when the template has none of its name.
   const element *pin(int number) const { return m_pins[static_cast<std::size_t>(number)]; }
   /// Of the elements to be made, in the order in which names() tells those of a subnet.
@@ -35,15 +35,15 @@ public:
 
 private:
   struct Reference {
-    std::size_t place; ///< of the property in the prototype
+    std::size_t index; ///< of the property in the prototype
     int part;          ///< or, below 0, pin -1 - part
   };
   struct Part {
     element prototype; ///< with "refEle"
     std::vector<Reference> references;
-    std::size_t namePlace = 0;
-    std::size_t xPlace = 0; ///< of nodes
-    std::size_t yPlace = 0;
+    std::size_t nameIndex = 0;
+    std::size_t xIndex = 0; ///< of nodes
+    std::size_t yIndex = 0;
     bool isNode = false;
     QPointF at;
   };
@@ -58,7 +58,7 @@ private:
   std::vector<Default> m_defaults;
   QStringList m_pinNames;
   std::vector<const element *> m_pins;
-  std::vector<QPointF> m_pinPlaces;
+  std::vector<QPointF> m_pinPositions;
   std::vector<Part> m_parts;
   std::vector<std::string> m_partNames;
 };

@@ -2,6 +2,7 @@
 #include <base/wholefile.h>
 #include <support/fulldisk.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <sys/stat.h>
 
@@ -24,10 +25,6 @@ private slots:
 private:
   QString inside(const QString &name) const { return m_folder->filePath(QStringLiteral("workspace/") + name); }
   QString outside(const QString &name) const { return m_folder->filePath(name); }
-  static QByteArray contentOf(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
 
   std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -83,7 +80,7 @@ void TestFiles::nothingLeadsOutOfTheWorkspace() {
   QVERIFY(!FileAccess::readWhole(inside(path), FileAccess::Source::Workspace, FileAccess::AnySize, &reason));
   QVERIFY(!WholeFile::write(inside(path), FileAccess::Source::Workspace, QByteArray("overwritten"), &reason));
   QVERIFY2(reason.contains(QLatin1String("out of the workspace")), qPrintable(reason));
-  QCOMPARE(contentOf(outside(QStringLiteral("secret"))), QByteArray("secret"));
+  QCOMPARE(SmallFiles::contents(outside(QStringLiteral("secret"))), QByteArray("secret"));
   QVERIFY(!QFile::exists(outside(QStringLiteral("made"))));
 }
 
@@ -111,7 +108,7 @@ void TestFiles::fullDisksLeaveTheOldFile() {
     QVERIFY2(!WholeFile::write(path, FileAccess::Source::Trusted, QByteArray(size, 'x'), &reason), QByteArray::number(size));
     QVERIFY2(reason.contains(QLatin1String("Could not write ")) && reason.contains(QLatin1String("space")),
              qPrintable(reason));
-    QCOMPARE(contentOf(path), QByteArray("old"));
+    QCOMPARE(SmallFiles::contents(path), QByteArray("old"));
   }
   disk.free();
   QVERIFY(WholeFile::write(path, FileAccess::Source::Trusted, QByteArray("new"), &reason));
@@ -140,7 +137,7 @@ void TestFiles::failedWritersLeaveTheOldFile() {
   };
   QVERIFY(!WholeFile::write(path, FileAccess::Source::Trusted, fails, &reason));
   QCOMPARE(reason, QStringLiteral("Could not write %1: no more").arg(path));
-  QCOMPARE(contentOf(path), QByteArray("own"));
+  QCOMPARE(SmallFiles::contents(path), QByteArray("own"));
 }
 
 void TestFiles::specialFilesAreNotReplaced() {

@@ -1,5 +1,6 @@
 #include <base/settings.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -21,10 +22,7 @@ private:
   static constexpr auto Trusted = FileAccess::Source::Trusted;
   QTemporaryDir m_folder;
   QString write(const QByteArray &text) {
-    QFile file(m_folder.filePath(QStringLiteral("generalsettings.csv")));
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-    return file.fileName();
+    return SmallFiles::write(m_folder.filePath(QStringLiteral("generalsettings.csv")), text);
   }
 };
 

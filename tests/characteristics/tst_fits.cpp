@@ -1,4 +1,5 @@
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QTemporaryDir>
 
@@ -28,11 +29,7 @@ private:
     return QStringLiteral(NIVRA_SOURCE_DIR "/../shared/data/compressors/") + QLatin1String(name);
   }
   MachineReader::Result read(const QByteArray &text) const {
-    QFile file(m_folder.filePath(QStringLiteral("machines")));
-    file.open(QIODevice::WriteOnly | QIODevice::Truncate);
-    file.write(text);
-    file.close();
-    return MachineReader::read(file.fileName());
+    return MachineReader::read(SmallFiles::write(m_folder.filePath(QStringLiteral("machines")), text));
   }
   static QString texts(const Findings &findings) {
     QStringList list;

@@ -1,4 +1,5 @@
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -19,13 +20,11 @@ private slots:
 
 private:
   MachineReader::Result read(const QByteArray &drives) const {
-    QFile file(m_folder.filePath(QStringLiteral("m.cs")));
-    file.open(QIODevice::WriteOnly);
-    file.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<compressorStations "
-               "xmlns=\"http://gaslib.zib.de/CompressorStations\"><compressorStation id=\"S\"><compressors/>\n<drives>" +
-               drives + "</drives></compressorStation></compressorStations>");
-    file.close();
-    return MachineReader::read(file.fileName());
+    return MachineReader::read(SmallFiles::write(
+        m_folder.filePath(QStringLiteral("m.cs")),
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<compressorStations "
+        "xmlns=\"http://gaslib.zib.de/CompressorStations\"><compressorStation id=\"S\"><compressors/>\n<drives>" +
+            drives + "</drives></compressorStation></compressorStations>"));
   }
   static QString texts(const Findings &findings) {
     QString all;

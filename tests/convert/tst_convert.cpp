@@ -6,6 +6,7 @@
 #include <model/consistencycheck.h>
 #include <support/fulldisk.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QDir>
 #include <QDirIterator>
@@ -60,24 +61,14 @@ private:
       all += finding.logText() + QLatin1Char('\n');
     return all;
   }
-  QString write(const QString &name, const QByteArray &text) const {
-    QFile file(path(name));
-    QDir().mkpath(QFileInfo(file).path());
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-    return file.fileName();
-  }
-  static QByteArray contents(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
-  }
+  QString write(const QString &name, const QByteArray &text) const { return SmallFiles::write(path(name), text); }
   /// Of everything below a folder, with contents.
   static QStringList census(const QString &folder) {
     QStringList names;
     for (QDirIterator all(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
          all.hasNext();) {
       const QString name = all.next();
-      names.append(name + QString::fromLatin1(QFileInfo(name).isFile() ? contents(name) : QByteArray()));
+      names.append(name + QString::fromLatin1(QFileInfo(name).isFile() ? SmallFiles::contents(name) : QByteArray()));
     }
     names.sort();
     return names;
@@ -231,7 +222,8 @@ void TestConvert::everyKindAndUnit() {
     QVERIFY2(value(name, property) == QLatin1String(wanted),
              qPrintable(QLatin1String(name) + QLatin1Char(' ') + QLatin1String(property) + QLatin1Char(' ') +
                         value(name, property)));
-  QVERIFY(contents(path(QStringLiteral("public/Net P/Net P.geom.jsn"))).contains("\"height\":10396.223600000001"));
+  QVERIFY(
+      SmallFiles::contents(path(QStringLiteral("public/Net P/Net P.geom.jsn"))).contains("\"height\":10396.223600000001"));
   QVERIFY(ConsistencyCheck::prune(net2).findings.empty());
 }
 
@@ -270,7 +262,7 @@ void TestConvert::drivesOfOneName() {
   QVERIFY2(result.ok && result.drives == 1, qPrintable(texts(result.findings).left(1000)));
   QCOMPARE(result.report.of(QStringLiteral("gasTurbine")).dropped, 99999);
   QCOMPARE(result.report.of(QStringLiteral("compressorStation")).dropped, 1); // described again
-  QVERIFY(contents(path(QStringLiteral("d/d.geom.jsn"))).contains("\"D_c_g_2\""));
+  QVERIFY(SmallFiles::contents(path(QStringLiteral("d/d.geom.jsn"))).contains("\"D_c_g_2\""));
   QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
 }
 
@@ -515,7 +507,7 @@ void TestConvert::fullDisk() {
   disk.fill();
   const NetworkFileConverter::Result converted = NetworkFileConverter::convert(source, target);
   QVERIFY(!converted.ok);
-  QCOMPARE(contents(target), QByteArray("old"));
+  QCOMPARE(SmallFiles::contents(target), QByteArray("old"));
 }
 
 /// Nominations come in one after another; what a person edited is replaced when that is asked for, if at all.
@@ -547,8 +539,8 @@ void TestConvert::whatIsThereStays() {
   first.overwrites = true;
   QVERIFY(GasLibImport::import(first).ok);
   QVERIFY(opened(path(QStringLiteral("case/a/a.scen.jsn"))).contains(QStringLiteral("e[qset] = -7")));
-  QCOMPARE(contents(path(QStringLiteral("case/a/solverconfig.jsn"))), QByteArray("{\"tamb\":290}\n"));
-  QCOMPARE(contents(path(QStringLiteral("case/plotsettings.ini"))), QByteArray("mine"));
+  QCOMPARE(SmallFiles::contents(path(QStringLiteral("case/a/solverconfig.jsn"))), QByteArray("{\"tamb\":290}\n"));
+  QCOMPARE(SmallFiles::contents(path(QStringLiteral("case/plotsettings.ini"))), QByteArray("mine"));
   // Another case, and a scenario that somebody made.
   write(QStringLiteral("other/other_one.geom"), "[node]\nname\n");
   write(QStringLiteral("made/a/mine.scen"), "name;property;value\n");

@@ -81,7 +81,7 @@ void TestNetworkFormulas::line() {
   QCOMPARE(formula.expression, QStringLiteral("p@N&#45;1 - \" # \""));
   QCOMPARE(formula.comment, QStringLiteral("drop # of it"));
   QCOMPARE(formula.category, QStringLiteral("geometry"));
-  QCOMPARE(formula.place(), QStringLiteral("dp(p,c), t.formulas:1"));
+  QCOMPARE(formula.origin(), QStringLiteral("dp(p,c), t.formulas:1"));
 
   const FormulaDefinition bounds = parsed("v in 0.5*1.2 .. vmax \"too fast\"  # note").definitions.front();
   QVERIFY(bounds.isConstraint);

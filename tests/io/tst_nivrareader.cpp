@@ -1,6 +1,7 @@
 #include <base/fileaccess.h>
 #include <io/nivrareader.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QTemporaryDir>
 
@@ -36,18 +37,14 @@ private slots:
   void specialFilesAreRefused();
   void readErrorsEndAndAreTold_data();
   void readErrorsEndAndAreTold();
+  void manyFindingsOfAKindAreCounted();
   void cancelling();
   void textWorkspace();
 
 private:
   QTemporaryDir m_folder;
 
-  QString write(const QString &name, const QByteArray &text) {
-    QFile file(m_folder.filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-    return file.fileName();
-  }
+  QString write(const QString &name, const QByteArray &text) { return SmallFiles::write(m_folder.filePath(name), text); }
   NivraReader::Result read(NetData &net, const QByteArray &text, const NivraReader::Options &options = {}) {
     return NivraReader(net).readGeomJsn(write(QStringLiteral("a.geom.jsn"), text), options);
   }
@@ -394,15 +391,11 @@ void TestNivraReader::specialFilesAreRefused() {
   QTemporaryDir elsewhere;
   QDir(root.path()).mkpath(QStringLiteral("C/S"));
   const QString folder = root.filePath(QStringLiteral("C/"));
-  const auto put = [](const QString &path, const QByteArray &text) {
-    QFile made(path);
-    return made.open(QIODevice::WriteOnly) && made.write(text) == text.size();
-  };
   const QString stranger = elsewhere.filePath(QStringLiteral("f"));
-  QVERIFY(put(stranger, "{\n\"A\":{\"obj_type\":\"node\",\"p\":99}\n}\n"));
+  SmallFiles::write(stranger, "{\n\"A\":{\"obj_type\":\"node\",\"p\":99}\n}\n");
   for (const QString &kind : {QStringLiteral("pipe"), QStringLiteral("/dev/zero"), stranger}) {
-    QVERIFY(put(folder + QStringLiteral("w.geom.jsn"), "{\n\"A\":{\"obj_type\":\"node\"}\n}\n"));
-    QVERIFY(put(folder + QStringLiteral("S/w.scen.jsn"), "{\n}\n"));
+    SmallFiles::write(folder + QStringLiteral("w.geom.jsn"), "{\n\"A\":{\"obj_type\":\"node\"}\n}\n");
+    SmallFiles::write(folder + QStringLiteral("S/w.scen.jsn"), "{\n}\n");
     const NivraWorkspace workspace = NivraWorkspace::fromFile(folder + QStringLiteral("S/w.scen.jsn"));
     QFile::remove(folder + file);
     if (kind == QLatin1String("pipe"))
@@ -513,6 +506,17 @@ void TestNivraReader::companionFiles() {
   QCOMPARE(gas.tsoil, 270.5);
   QCOMPARE(workspace.currentScenario()->comprDatabase, QStringLiteral("own.txt"));
   QCOMPARE(workspace.currentScenario()->workDir, QStringLiteral("S")); // where the file lies
+}
+
+void TestNivraReader::manyFindingsOfAKindAreCounted() {
+  QByteArray text = "{\n\"N\":{\"obj_type\":\"node\",\"note\":null}\n";
+  for (int i = 0; i < 1002; ++i)
+    text += ",\"U" + QByteArray::number(i) + "\":{\"obj_type\":\"nonsense\"}\n";
+  NetData net;
+  const Findings findings = read(net, text + "}\n").findings;
+  QCOMPARE(findings.size(), std::size_t(1 + 1000 + 1));
+  QCOMPARE(findings.front().text, QStringLiteral("Property note of element N is left out: it has no value"));
+  QCOMPARE(findings.back().text, QStringLiteral("... and 2 more of this kind (unknown type)"));
 }
 
 void TestNivraReader::cancelling() {

@@ -3,19 +3,23 @@
 #include <io/nivraworkspace.h>
 #include <io/scenariosummary.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <sys/stat.h>
 
 namespace {
 
-void write(const QString &path, const QByteArray &text) {
-  QDir().mkpath(QFileInfo(path).path());
-  QFile file(path);
-  file.open(QIODevice::WriteOnly);
-  file.write(text);
+using SmallFiles::write;
+
+/// The number of findings that are not for the log file alone.
+int countTold(const Findings &findings) {
+  return static_cast<int>(std::count_if(findings.begin(), findings.end(), [](const Finding &finding) {
+    return finding.severity != Finding::Severity::Debug;
+  }));
 }
 
 QStringList boxes(const Findings &findings) {
@@ -173,7 +177,7 @@ void TestNivraWorkspace::caseConfiguration() {
   NivraWorkspace workspace = scenario();
   Findings found;
   QCOMPARE(workspace.readCaseConfiguration(found), 0);
-  QCOMPARE(int(found.size()), findings);
+  QCOMPARE(countTold(found), findings);
   QCOMPARE(workspace.currentCase()->workDir, QStringLiteral("CASE"));
   QCOMPARE(workspace.currentCase()->flag, flag);
 
@@ -186,7 +190,7 @@ void TestNivraWorkspace::caseConfiguration() {
   Findings quiet;
   workspace.readCaseConfiguration(quiet);
   GeneralSettings::instance().reset();
-  QCOMPARE(quiet.size(), std::size_t(1));
+  QCOMPARE(countTold(quiet), 1);
   QVERIFY(boxes(quiet).isEmpty());
 }
 
@@ -228,7 +232,7 @@ void TestNivraWorkspace::multiLineScenarioConfiguration() {
   NivraGasParams gas;
   Findings findings;
   workspace.readScenarioConfiguration(gas, findings);
-  QVERIFY(findings.empty());
+  QCOMPARE(countTold(findings), 0);
   QCOMPARE(workspace.currentScenario()->gasFile, QStringLiteral("H2 mix.gas"));
   QCOMPARE(gas.ntype_gasLaw, 0); // an unreadable number
   QCOMPARE(gas.ntype_hydraulicsFormula, 1);

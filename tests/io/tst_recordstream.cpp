@@ -1,6 +1,7 @@
 #include "recordstream.h"
 
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QTemporaryDir>
 
@@ -16,17 +17,14 @@ private slots:
 
 private:
   QString write(const QString &name, const QByteArray &text) const {
-    QFile file(m_folder.filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-    return file.fileName();
+    return SmallFiles::write(m_folder.filePath(name), text);
   }
   /// A line for each record: its elements with their values, or its set points, or its fault.
-  static QStringList told(const Record &record) {
+  static QStringList told(const Record &record, const ElementSpan &elements) {
     QStringList lines;
     if (!record.fault.isEmpty())
       lines.append(QStringLiteral("fault at ") + record.quote);
-    for (const ElementRecord &element : record.elements) {
+    for (const ElementRecord &element : elements) {
       QString line = decoded(element.name);
       for (const RecordValue &value : element.values)
         line += QStringLiteral(" %1=%2").arg(decoded(value.key), value.text.toString());
@@ -48,7 +46,7 @@ private:
     QStringList lines;
     Record record;
     while (stream.next(record))
-      lines += told(record);
+      lines += told(record, stream.elements());
     return lines;
   }
 
@@ -114,7 +112,7 @@ void TestRecordStream::keptRecordsOutliveTheStream() {
   Record record;
   for (int i = Count - 1; i >= 0; --i) {
     parser.parse(kept[static_cast<std::size_t>(i)], record);
-    QCOMPARE(told(record), QStringList(QStringLiteral("N%1 obj_type=node x=%1").arg(i)));
+    QCOMPARE(told(record, parser.elements()), QStringList(QStringLiteral("N%1 obj_type=node x=%1").arg(i)));
   }
 }
 

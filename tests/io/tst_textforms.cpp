@@ -1,6 +1,7 @@
 #include <io/networkfileconverter.h>
 #include <io/nivrareader.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -32,16 +33,9 @@ private slots:
 
 private:
   QString write(const QString &name, const QByteArray &text) const {
-    QFile file(m_folder.filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-    return file.fileName();
+    return SmallFiles::write(m_folder.filePath(name), text);
   }
-  QByteArray contents(const QString &name) const {
-    QFile file(m_folder.filePath(name));
-    file.open(QIODevice::ReadOnly);
-    return file.readAll();
-  }
+  QByteArray contents(const QString &name) const { return SmallFiles::contents(m_folder.filePath(name)); }
   NivraReader::Result read(NetData &net, const QByteArray &text) const {
     return NivraReader(net).readGeomJsn(write(QStringLiteral("a.geom"), text), {});
   }

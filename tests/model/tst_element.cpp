@@ -283,7 +283,7 @@ void TestElement::collectionErasesAndCopies() {
   collection.insert(added, element()); // after the erasure the order is made anew
   int place = 0;
   for (const elements::Entry &entry : collection)
-    QCOMPARE(entry.place, place++);
+    QCOMPARE(entry.index, place++);
   QCOMPARE(place, 90);
   QVERIFY(ids(collection).contains(added));
   collection.clear();

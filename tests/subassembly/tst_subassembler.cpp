@@ -2,6 +2,7 @@
 #include <subassembly/subassembler.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -35,21 +36,13 @@ private slots:
   void templatesOfTheProgram();
 
 private:
-  void write(const QString &name, const QByteArray &text) const {
-    QFile file(m_folder->filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-  }
+  void write(const QString &name, const QByteArray &text) const { SmallFiles::write(m_folder->filePath(name), text); }
   /// A template of two pins 100 apart along x, a node between them and above, two edges.
   void writeTemplate(const QString &variant, const QByteArray &more = QByteArray()) const {
     write(variant + QStringLiteral(".geom"), "[node]\nname;x;y;vis.size\nIn;0;0;7\nOut;100;0\nM;50;10\n"
                                              "[pipe]\nname;node1;node2;length\nA;In;M;3\nB;M;Out;4\n"
-                                             "[subnet]\nname;pins;p.default;kind\nSUB;In;5;station\n" +
+                                             "[subnet]\nname;pins;p.default;kind\nSUB;\"In;Out\";5;station\n" +
                                                  more);
-    QFile file(m_folder->filePath(variant + QStringLiteral(".geom")));
-    file.open(QIODevice::ReadOnly);
-    const QByteArray text = file.readAll().replace("SUB;In;", "SUB;\"In;Out\";");
-    write(variant + QStringLiteral(".geom"), text);
   }
   element &addSubnet(const char *name, const char *variant, const char *pins) {
     m_net->addElement(makeElement({{"name", name}, {"type", "sub"}, {"variant", variant}, {"pins", pins}}));
@@ -349,13 +342,8 @@ void TestSubAssembler::editedTemplatesAreReadAnew() {
   addSubnet("S", "station", "N1;N2");
   assemble();
   QCOMPARE(value("length", "S_A"), QStringLiteral("3"));
-  QFile file(m_folder->filePath(QStringLiteral("station.geom")));
-  QVERIFY(file.open(QIODevice::ReadWrite));
-  const QByteArray text = file.readAll().replace("A;In;M;3", "A;In;M;33");
-  file.resize(0);
-  file.seek(0);
-  file.write(text);
-  file.close();
+  const QString station = m_folder->filePath(QStringLiteral("station.geom"));
+  SmallFiles::write(station, SmallFiles::contents(station).replace("A;In;M;3", "A;In;M;33"));
   m_net->edges().clear();
   m_net->nodes().erase(QStringLiteral("S_M"));
   assemble();

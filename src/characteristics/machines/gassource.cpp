@@ -40,22 +40,22 @@ void GasSource::set(ScenarioGas scenario) {
   m_scenario = std::move(scenario);
   if (!isPossible(m_scenario.temperature)) // a text that is no number is read as 0
     m_scenario.temperature = ScenarioGas().temperature;
-  m_made.clear();
+  m_gasesByData.clear();
   forget();
 }
 
-GasSource::Gas GasSource::made(const GasData &data, const QString &origin) const {
-  constexpr std::size_t Most = 1000; // nodes that all differ must not fill the memory
+GasSource::Gas GasSource::gasOf(const GasData &data, const QString &origin) const {
+  constexpr std::size_t MaximumGases = 1000; // nodes that all differ must not fill the memory
   const QString key = keyOf(data);
-  auto found = m_made.find(key);
-  if (found == m_made.end()) {
-    if (m_made.size() >= Most)
-      m_made.clear();
+  auto found = m_gasesByData.find(key);
+  if (found == m_gasesByData.end()) {
+    if (m_gasesByData.size() >= MaximumGases)
+      m_gasesByData.clear();
     Gas gas;
     gas.law = GasLaw::of(data, m_scenario.law);
     constexpr double NormPressure = 1.01325;
     gas.normDensity = data.normDensity > 0.0 ? data.normDensity : gas.law->at(NormPressure, Units::NormTemperature).density;
-    found = m_made.emplace(key, gas).first;
+    found = m_gasesByData.emplace(key, gas).first;
   }
   Gas gas = found->second;
   gas.origin = origin;
@@ -65,26 +65,26 @@ GasSource::Gas GasSource::made(const GasData &data, const QString &origin) const
 GasSource::Gas GasSource::at(const element &node) const {
   const GasData own = GasData::of(node);
   if (own.isEnough())
-    return made(own, Texts::tr("of the node %1").arg(node.value(Names::all().name)));
+    return gasOf(own, Texts::tr("of the node %1").arg(node.value(Names::all().name)));
   if (const auto *named = gasNamed(m_scenario.gases, node.value(Names::all().gas))) {
     const GasData data = GasData::of(named->second);
     if (data.isEnough())
-      return made(data, Texts::tr("%1, which the node names").arg(named->first));
+      return gasOf(data, Texts::tr("%1, which the node names").arg(named->first));
   }
   return scenario();
 }
 
 const GasSource::Gas &GasSource::scenario() const {
-  if (!m_found)
-    m_found = findScenario();
-  return *m_found;
+  if (!m_scenarioGas)
+    m_scenarioGas = findScenario();
+  return *m_scenarioGas;
 }
 
 GasSource::Gas GasSource::findScenario() const {
   for (const auto &[name, gas] : m_scenario.gases) {
     const GasData data = GasData::of(gas);
     if (data.isEnough())
-      return made(data, Texts::tr("%1 of the scenario").arg(name));
+      return gasOf(data, Texts::tr("%1 of the scenario").arg(name));
   }
   const PropertyKey mass = PropertyKey::find("molarmass");
   for (const elements::Entry &entry : m_net.nodes()) {
@@ -93,9 +93,9 @@ GasSource::Gas GasSource::findScenario() const {
       continue;
     const GasData data = GasData::of(entry.value);
     if (data.isEnough())
-      return made(data, Texts::tr("of the node %1, the first that states one").arg(entry.value.value(Names::all().name)));
+      return gasOf(data, Texts::tr("of the node %1, the first that states one").arg(entry.value.value(Names::all().name)));
   }
-  return made(GasData(), Texts::tr("assumed"));
+  return gasOf(GasData(), Texts::tr("assumed"));
 }
 
 double GasSource::temperatureAt(const element &node, QStringList *remarks) const {

@@ -33,9 +33,9 @@ private:
   void readPoints(std::vector<MeasuredPoint> &points, double efficiency);
   /// The number that the current element states; no number, and a message, where it states none.
   double valueHere();
-  /// The same in our units; of the current element, which is not left.
+  /// The number of the current element in our units. The reader stays at the element.
   double numberHere();
-  /// The same, and past the element.
+  /// As numberHere(), and passes over the element.
   double number();
   /// "head_coeff_3" for "head_coeff_" gives 2; -1 for another name or a number beyond the count.
   int coefficient(const char *prefix, std::size_t count) const;

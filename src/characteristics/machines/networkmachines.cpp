@@ -15,6 +15,13 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(NetworkMachines)
 };
 
+constexpr double KilowattsPerMegawatt = 1000.0;
+
+/// Names of machines and stations do not tell capitals.
+bool isSame(const QString &a, const QString &b) {
+  return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
 QVector<QPointF> limitsOf(const PistonCompressor &machine, const Drive *drive, const Compression &compression,
                           double ambientTemperature) {
   constexpr int Steps = 40;
@@ -64,7 +71,7 @@ void NetworkMachines::set(MachineData data) {
 
 const element *NetworkMachines::driven(const element &e) const {
   const bool isDrive = e.value(Names::all().type) == QLatin1String("d");
-  return isDrive ? m_net.edges().find(e.value(QStringLiteral("driven"))) : nullptr;
+  return isDrive ? m_net.edges().find(e.value(Names::all().driven)) : nullptr;
 }
 
 const Drive *NetworkMachines::driveNamedBy(const QString &compressor) const {
@@ -75,7 +82,7 @@ const Drive *NetworkMachines::driveNamedBy(const QString &compressor) const {
 }
 
 QStringList NetworkMachines::names(const element &e) const {
-  const QString machine = e.value(QStringLiteral("machine"));
+  const QString machine = e.value(Names::all().machine);
   const QString own = machine.isEmpty() ? e.value(Names::all().name) : machine;
   if (const element *compressor = driven(e)) {
     if (m_data.drive(own) != nullptr)
@@ -84,8 +91,7 @@ QStringList NetworkMachines::names(const element &e) const {
     return {drive == nullptr ? own : drive->name};
   }
   QStringList all = m_data.ofStation(e.value(Names::all().name));
-  const auto first = std::find_if(all.begin(), all.end(),
-                                  [&own](const QString &name) { return name.compare(own, Qt::CaseInsensitive) == 0; });
+  const auto first = std::find_if(all.begin(), all.end(), [&own](const QString &name) { return isSame(name, own); });
   if (first != all.end())
     std::rotate(all.begin(), first, first + 1);
   else if (all.isEmpty() || m_data.turbo(own) != nullptr || m_data.piston(own) != nullptr)
@@ -94,7 +100,7 @@ QStringList NetworkMachines::names(const element &e) const {
 }
 
 const Drive *NetworkMachines::driveOf(const element &compressor, const QString &named) const {
-  const element *drive = m_net.nodes().find(compressor.value(QStringLiteral("drive")));
+  const element *drive = m_net.nodes().find(compressor.value(Names::all().drive));
   const bool isOneOfSeveral = names(compressor).size() > 1; // the drive that the network names is that of the first
   const Drive *own = drive == nullptr || isOneOfSeveral ? nullptr : m_data.drive(names(*drive).first());
   return own != nullptr ? own : m_data.drive(named);
@@ -110,7 +116,7 @@ std::vector<StationConfiguration> NetworkMachines::configurations(const element 
     return {};
   std::vector<StationConfiguration> found;
   for (const StationConfiguration &configuration : m_data.configurations) {
-    if (configuration.station.compare(own, Qt::CaseInsensitive) == 0)
+    if (isSame(configuration.station, own))
       found.push_back(configuration);
   }
   if (found.empty()) {
@@ -196,15 +202,46 @@ NetworkMachines::Station NetworkMachines::station(const element &compressor, con
   return *first;
 }
 
-NetworkMachines::Machine NetworkMachines::machine(const element &e, const QString &name, const MachineChoice &choice) const {
-  Machine found;
-  found.ambientTemperature = m_data.ambientTemperature;
+std::optional<WorkingPoint> NetworkMachines::Station::pointOf(const QString &machine) const {
+  for (std::size_t i = 0; i < running.size(); ++i) {
+    if (isSame(running[i], machine))
+      return points[i];
+  }
+  return std::nullopt;
+}
+
+/// What the machine data say of a machine.
+NetworkMachines::Machine NetworkMachines::described(const QString &name, FunctionSource source) const {
+  Machine machine;
+  machine.ambientTemperature = m_data.ambientTemperature;
   if (const TurboCompressor *turbo = m_data.turbo(name))
-    found.turbo = turbo->by(choice.source);
+    machine.turbo = turbo->by(source);
   else if (const PistonCompressor *piston = m_data.piston(name))
-    found.piston = *piston;
+    machine.piston = *piston;
   else if (const Drive *drive = m_data.drive(name))
-    found.drive = drive->by(choice.source);
+    machine.drive = drive->by(source);
+  return machine;
+}
+
+/// The running machine that a drive drives; where there is none, the first of the compressor.
+QString NetworkMachines::drivenBy(const QString &driveName, const element &compressor, const Station &station) const {
+  const auto found = std::find_if(station.running.begin(), station.running.end(), [&](const QString &running) {
+    const Drive *drive = driveNamedBy(running);
+    return drive != nullptr && isSame(drive->name, driveName);
+  });
+  return found != station.running.end() ? *found : names(compressor).first();
+}
+
+std::optional<std::pair<double, double>> NetworkMachines::speeds(const QString &machine) const {
+  if (const TurboCompressor *turbo = m_data.turbo(machine))
+    return std::pair(turbo->speedMin, turbo->speedMax);
+  if (const PistonCompressor *piston = m_data.piston(machine))
+    return std::pair(piston->speedMin, piston->speedMax);
+  return std::nullopt;
+}
+
+NetworkMachines::Machine NetworkMachines::machine(const element &e, const QString &name, const MachineChoice &choice) const {
+  Machine found = described(name, choice.source);
   const element *compressor = found.drive ? driven(e) : &e; // a drive works where its compressor does
   const auto compression = compressor == nullptr ? std::nullopt : Compression::of(m_net, *compressor, m_gases);
   if (!found.isThere() || !compression)
@@ -212,20 +249,8 @@ NetworkMachines::Machine NetworkMachines::machine(const element &e, const QStrin
   found.gas = Texts::tr("%1 (%2)").arg(compression->gas->name(), compression->gasOrigin);
   found.remarks = compression->remarks;
   const Station whole = station(*compressor, *compression, choice);
-  found.comparisons = compare(*compressor, *compression, whole);
-  QString working = name; // the compressor whose point it is
-  if (found.drive) {
-    const auto drivenBy = std::find_if(whole.running.begin(), whole.running.end(), [&](const QString &running) {
-      const Drive *drive = driveNamedBy(running);
-      return drive != nullptr && drive->name.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    working = drivenBy != whole.running.end() ? *drivenBy : names(*compressor).first();
-  }
-  const auto place = std::find_if(whole.running.begin(), whole.running.end(), [&working](const QString &running) {
-    return running.compare(working, Qt::CaseInsensitive) == 0;
-  });
-  if (place != whole.running.end())
-    found.point = whole.points[static_cast<std::size_t>(place - whole.running.begin())];
+  const QString working = found.drive ? drivenBy(name, *compressor, whole) : name; // the compressor whose point it is
+  found.point = whole.pointOf(working);
   Compression own = *compression;
   if (whole.configuration) {
     const StationSplit split(m_data, *whole.configuration);
@@ -235,44 +260,47 @@ NetworkMachines::Machine NetworkMachines::machine(const element &e, const QStrin
     if (part)
       own = part->compression;
   }
-  if (found.piston) {
-    const Drive *drive = driveOf(*compressor, found.piston->drive);
-    found.limits = limitsOf(*found.piston, drive, own, found.ambientTemperature);
-  }
-  if (found.drive) {
-    if (const TurboCompressor *turbo = m_data.turbo(working))
-      found.driven = {turbo->speedMin, turbo->speedMax};
-    else if (const PistonCompressor *piston = m_data.piston(working))
-      found.driven = {piston->speedMin, piston->speedMax};
-    found.comparisons.clear();
-    const double stored = m_net.value(e, PropertyKey::find("power"));
-    constexpr double Mega = 1000.0;
-    if (stored != NetData::NoValue && stored != 0.0 && found.point && found.point->power)
-      found.comparisons.push_back(
-          {QStringLiteral("power"), Texts::tr("shaft power"), QStringLiteral("kW"), Mega * stored, *found.point->power});
-  }
+  if (found.piston)
+    found.limits = limitsOf(*found.piston, driveOf(*compressor, found.piston->drive), own, found.ambientTemperature);
+  if (found.drive)
+    found.driven = speeds(working);
+  found.comparisons = found.drive ? compareDrive(e, found.point) : compare(*compressor, *compression, whole);
   return found;
+}
+
+/// What results state of an element. 0 is what they say of what they do not tell.
+std::optional<double> NetworkMachines::stated(const element &e, const char *property) const {
+  const double value = m_net.value(e, PropertyKey::find(property));
+  return value == NetData::NoValue || value == 0.0 ? std::nullopt : std::optional<double>(value);
+}
+
+std::vector<NetworkMachines::Comparison> NetworkMachines::compareDrive(const element &drive,
+                                                                       const std::optional<WorkingPoint> &point) const {
+  const std::optional<double> power = stated(drive, "power");
+  if (!power || !point || !point->power)
+    return {};
+  return {{QStringLiteral("power"), Texts::tr("shaft power"), QStringLiteral("kW"), KilowattsPerMegawatt * *power,
+           *point->power}};
 }
 
 std::vector<NetworkMachines::Comparison> NetworkMachines::compare(const element &compressor, const Compression &compression,
                                                                   const Station &station) const {
   std::vector<Comparison> comparisons;
   const auto take = [&](const char *property, const QString &name, const QString &unit, double factor, double computed) {
-    const double stored = m_net.value(compressor, PropertyKey::find(property));
-    if (stored != NetData::NoValue && stored != 0.0 && computed != 0.0) // 0 is what results say of what they do not tell
-      comparisons.push_back({QLatin1String(property), name, unit, factor * stored, computed});
+    const std::optional<double> stored = stated(compressor, property);
+    if (stored && computed != 0.0)
+      comparisons.push_back({QLatin1String(property), name, unit, factor * *stored, computed});
   };
   const bool isCompressing = std::all_of(station.points.begin(), station.points.end(),
                                          [](const WorkingPoint &point) { return point.isCompressing(); });
   if (station.points.empty() || !isCompressing)
     return comparisons;
-  constexpr double Mega = 1000.0;
   const double head = compression.adiabaticHead();
   const double power = station.power();
   take("head", Texts::tr("adiabatic head"), QStringLiteral("kJ/kg"), 1.0, head);
   take("ratio", Texts::tr("pressure ratio"), QString(), 1.0, compression.ratio());
   take("vflow", Texts::tr("volume flow"), QStringLiteral("m³/s"), 1.0, compression.volumeFlow());
-  take("power", Texts::tr("shaft power"), QStringLiteral("kW"), Mega, power);
+  take("power", Texts::tr("shaft power"), QStringLiteral("kW"), KilowattsPerMegawatt, power);
   constexpr double Percent = 100.0;
   take("efficiency", Texts::tr("efficiency"), QStringLiteral("%"), Percent,
        power > 0.0 ? Percent * compression.massFlow * head / power : 0.0);

@@ -1,4 +1,5 @@
 #include <QCoreApplication>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -7,7 +8,6 @@
 namespace {
 
 constexpr double SecondsPerMinute = 60.0;
-constexpr double Pi = 3.14159265358979323846;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(WorkingPoint)
@@ -20,7 +20,7 @@ QString speedRemark(bool isBelow) {
 /// Of the speeds that give the head those at which it grows with the speed, and of these the one nearest to the range of the
 /// machine; none where that is far beyond it, since the function was made for the range.
 std::optional<double> speedFor(const TurboCompressor &machine, double flow, double head) {
-  constexpr double Farthest = 2.0; // largest speeds
+  constexpr double FarthestSpeed = 2.0; // times the largest
   const Quadratic heads = machine.head->inY(flow);
   const auto distance = [&machine](double speed) {
     return std::max({0.0, machine.speedMin - speed, speed - machine.speedMax});
@@ -28,7 +28,7 @@ std::optional<double> speedFor(const TurboCompressor &machine, double flow, doub
   std::optional<double> best;
   for (const double speed : Fits::solve(heads, head)) {
     const bool isPossible =
-        speed > 0.0 && speed <= Farthest * machine.speedMax && heads.c[1] + 2.0 * heads.c[2] * speed > 0.0;
+        speed > 0.0 && speed <= FarthestSpeed * machine.speedMax && heads.c[1] + 2.0 * heads.c[2] * speed > 0.0;
     if (isPossible && (!best || distance(speed) < distance(*best)))
       best = speed;
   }
@@ -47,7 +47,7 @@ std::optional<double> WorkingPoint::largestRatio(const PistonCompressor &machine
     take(machine.maximalRatio);
   const double massPerTurn = compression.density() * machine.displacement; // kg
   if (machine.efficiency > 0.0 && machine.maximalTorque > 0.0)
-    take(compression.ratioOf(machine.maximalTorque * 2.0 * Pi * machine.efficiency / massPerTurn));
+    take(compression.ratioOf(machine.maximalTorque * 2.0 * M_PI * machine.efficiency / massPerTurn));
   if (machine.efficiency > 0.0 && drive != nullptr && drive->power && speed > 0.0) {
     const double power = std::max(0.0, (*drive->power)(ambientTemperature, speed));
     take(compression.ratioOf(power * machine.efficiency / (massPerTurn * speed / SecondsPerMinute)));
@@ -156,7 +156,7 @@ WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *driv
   if (machine.efficiency > 0.0)
     point.efficiency = machine.efficiency;
   point.takeDrive(drive, compression, ambientTemperature);
-  const double torque = point.power ? *point.power / (2.0 * Pi * *point.speed / SecondsPerMinute) : 0.0; // kNm
+  const double torque = point.power ? *point.power / (2.0 * M_PI * *point.speed / SecondsPerMinute) : 0.0; // kNm
   if (machine.maximalTorque > 0.0 && torque > machine.maximalTorque)
     point.exceed(Texts::tr("The torque is above the largest."));
   return point;

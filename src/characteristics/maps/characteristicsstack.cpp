@@ -1,7 +1,6 @@
 #include "machinepage.h"
 
 #include <base/fileaccess.h>
-#include <base/nivramsg.h>
 #include <base/settings.h>
 #include <base/wholefile.h>
 #include <characteristics/characteristicsstack.h>
@@ -28,9 +27,10 @@ QString listOf(const QString &caseFolder) {
 
 } // namespace
 
-CharacteristicsStack::CharacteristicsStack(const NetData &net, QWidget *parent)
+CharacteristicsStack::CharacteristicsStack(const NetData &net, Told told, QWidget *parent)
     : QDockWidget(tr("Characteristics"), parent)
     , m_net(net)
+    , m_told(std::move(told))
     , m_machines(net)
     , m_tabs(new QTabWidget) {
   m_tabs->setTabsClosable(true);
@@ -96,7 +96,7 @@ void CharacteristicsStack::setCase(const QString &folder) {
   QString reason;
   const auto text = FileAccess::readWhole(m_path, FileAccess::Source::Trusted, FileAccess::LargestConfiguration, &reason);
   if (!text) {
-    NivraMsg::logWarning(reason);
+    warn(reason);
     return;
   }
   for (const QByteArray &line : text->split('\n')) {
@@ -118,7 +118,7 @@ void CharacteristicsStack::keep() const {
   } else if (!text.isEmpty()) {
     QDir().mkpath(QFileInfo(m_path).path());
     if (!WholeFile::write(m_path, FileAccess::Source::Trusted, text, &reason))
-      NivraMsg::logWarning(tr("The list of open characteristics cannot be kept: %1").arg(reason));
+      warn(tr("The list of open characteristics cannot be kept: %1").arg(reason));
   }
 }
 
@@ -128,10 +128,11 @@ bool CharacteristicsStack::open(const QString &elementName) {
   if (page == nullptr) {
     page = makePage(elementName);
     if (page == nullptr) {
-      NivraMsg::message(NivraMsg::Kind::Information,
-                        tr("There are no machine data for %1: neither its property \"machine\" nor its name is in the "
-                           "machine data of the scenario.")
-                            .arg(elementName));
+      if (m_told)
+        m_told({Finding::Severity::Information, QString(), 0, QString(),
+                tr("There are no machine data for %1: neither its property \"machine\" nor its name is in the machine data "
+                   "of the scenario.")
+                    .arg(elementName)});
       return false;
     }
     m_tabs->addTab(page, elementName);
@@ -156,5 +157,10 @@ MachinePage *CharacteristicsStack::makePage(const QString &elementName) const {
   const element *e = m_net.element(elementName);
   if (e == nullptr || !m_machines.machine(*e, m_machines.names(*e).first()).isThere())
     return nullptr;
-  return new MachinePage(m_net, m_machines, elementName);
+  auto *page = new MachinePage(m_net, m_machines, elementName);
+  connect(page, &MachinePage::saveFailed, this, [this](const QString &reason) {
+    if (m_told)
+      m_told({Finding::Severity::Warning, QString(), 0, QString(), reason});
+  });
+  return page;
 }

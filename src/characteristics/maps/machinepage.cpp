@@ -238,12 +238,18 @@ void MachinePage::refresh() {
   m_text->setText(said);
 }
 
+MapPlot *MachinePage::addPlot(QVBoxLayout &column) const {
+  auto *plot = new MapPlot;
+  connect(plot, &MapPlot::saveFailed, this, &MachinePage::saveFailed);
+  column.addWidget(plot, 1);
+  return plot;
+}
+
 QWidget *MachinePage::makeMap(const NetworkMachines::Machine &machine) const {
   auto *map = new QWidget;
   auto *column = new QVBoxLayout(map);
   column->setContentsMargins(0, 0, 0, 0);
-  auto *plot = new MapPlot;
-  column->addWidget(plot, 1);
+  MapPlot *plot = addPlot(*column);
   std::optional<double> storedHead;
   for (const Comparison &comparison : machine.comparisons) {
     if (machine.configuration.isEmpty() && comparison.property == QLatin1String("head"))
@@ -255,11 +261,8 @@ QWidget *MachinePage::makeMap(const NetworkMachines::Machine &machine) const {
     plot->show(*machine.piston, machine.point, machine.limits);
   } else if (machine.drive) {
     plot->show(*machine.drive, machine.point, machine.ambientTemperature, machine.driven);
-    if (machine.drive->energy) {
-      auto *consumption = new MapPlot;
-      column->addWidget(consumption, 1);
-      consumption->showConsumption(*machine.drive, machine.point);
-    }
+    if (machine.drive->energy)
+      addPlot(*column)->showConsumption(*machine.drive, machine.point);
   }
   return map;
 }

@@ -4,6 +4,7 @@
 
 #include <machines/networkmachines.h>
 
+class MapPlot;
 class QComboBox;
 class QLabel;
 class QVBoxLayout;
@@ -21,11 +22,15 @@ public:
   /// What stands beside the map, as rich text.
   static QString text(const NetworkMachines::Machine &machine);
 
+signals:
+  void saveFailed(const QString &reason); ///< of the picture of a map
+
 private:
   QComboBox *addChoice(const QString &name, const QString &tip);
   MachineChoice choice() const;
   void offerFunctions(const NetworkMachines::Machine &machine);
   QWidget *makeMap(const NetworkMachines::Machine &machine) const;
+  MapPlot *addPlot(QVBoxLayout &column) const;
 
   const NetData &m_net;
   const NetworkMachines &m_machines;

@@ -1,6 +1,5 @@
 #include "mapcanvas.h"
 
-#include <base/nivramsg.h>
 #include <base/wholefile.h>
 
 #include <QContextMenuEvent>
@@ -219,7 +218,7 @@ void MapCanvas::saveAs() {
                                                     tr("Pictures (*.png *.jpg *.pdf *.svg)"));
   QString reason;
   if (!path.isEmpty() && !save(path, &reason))
-    NivraMsg::message(NivraMsg::Kind::Warning, reason);
+    emit saveFailed(reason);
 }
 
 void MapCanvas::print() {

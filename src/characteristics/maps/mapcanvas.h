@@ -24,6 +24,9 @@ public:
   /// The format by the suffix: PDF, SVG or a picture. False with the reason.
   bool save(const QString &path, QString *reason = nullptr);
 
+signals:
+  void saveFailed(const QString &reason);
+
 protected:
   void contextMenuEvent(QContextMenuEvent *event) override;
 
@@ -32,7 +35,7 @@ protected:
   void setReadout(std::function<QString(const QPointF &)> readout) { m_readout = std::move(readout); }
   void addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label = QString(),
                Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter);
-  /// Has the axes reach to a place, so that a label there is not cut.
+  /// Has the axes reach to a point, so that a label there is not cut.
   void addRoom(const QPointF &to);
   void addArea(const QVector<QPointF> &outline);
   void addDots(const QVector<QPointF> &points); ///< that were measured

@@ -39,7 +39,8 @@ QString pointText(const std::optional<WorkingPoint> &point) {
     return MapPlot::tr("no working point");
   if (!point->isCompressing())
     return point->remarks.value(0);
-  const QString place = MapPlot::tr("Q = %1 m³/s, H = %2 kJ/kg").arg(shownNumber(point->flow), shownNumber(point->head));
+  const QString coordinates =
+      MapPlot::tr("Q = %1 m³/s, H = %2 kJ/kg").arg(shownNumber(point->flow), shownNumber(point->head));
   QStringList parts;
   if (point->speed)
     parts.append(MapPlot::tr("n = %1 1/min").arg(shownNumber(*point->speed)));
@@ -47,7 +48,7 @@ QString pointText(const std::optional<WorkingPoint> &point) {
     parts.append(MapPlot::tr("η = %1 %").arg(shownNumber(100.0 * *point->efficiency, 3)));
   if (point->power)
     parts.append(MapPlot::tr("P = %1 kW").arg(shownNumber(*point->power)));
-  return place + QLatin1Char('\n') + parts.join(QStringLiteral(", ")); // a dock is narrower than all in one line
+  return coordinates + QLatin1Char('\n') + parts.join(QStringLiteral(", ")); // a dock is narrower than all in one line
 }
 
 QString heading(const QString &name, const std::optional<WorkingPoint> &point) {

@@ -32,6 +32,8 @@ void tell(const Told &told, Finding::Severity severity, const QString &text);
 
 /// Logs a finding at its level, and leaves its box alone. As a Told it makes log lines of what it is told.
 void logFinding(const Finding &finding);
+/// Shows the box of a finding; one without a box is logged. As a Told it serves a window whose actions fail.
+void showFinding(const Finding &finding);
 /// Logs every finding at its level, also what a box says; texts for a box are shown: the first as it stands, further ones
 /// counted behind it.
 void report(const Findings &findings);

@@ -32,7 +32,7 @@ struct FormulaDefinition {
   int line = 0;
 
   /// "dp(p), pipes.formulas:3"
-  QString place() const;
+  QString origin() const;
 };
 
 /// Formula and constraint files, one definition a line:

@@ -79,7 +79,7 @@ private:
   };
   void log(const QString &text) const { tell(m_told, Finding::Severity::Information, text); }
   void warn(const QString &text) const { tell(m_told, Finding::Severity::Warning, text); }
-  using SetPointPlace = std::pair<const element *, PropertyKey>;
+  using SetPointTarget = std::pair<const element *, PropertyKey>;
   void set(element &target, PropertyKey key, PropertyText value);
   void convertWaiting(Findings &findings);
   Result readValues(const QString &path, const Options &options);
@@ -99,7 +99,7 @@ private:
   Told m_told;
   GasTable m_gases;
   QString m_gasFile;
-  std::map<SetPointPlace, WaitingSetPoint> m_waiting;
+  std::map<SetPointTarget, WaitingSetPoint> m_waiting;
   QString m_chosen;     ///< the file that was opened, whose suffix counts
   bool m_isJson = true; ///< the form in which companion files are looked for
 };

@@ -48,7 +48,7 @@ public:
   /// In the case directory when a case is open, the bare name otherwise.
   QString filePath(const QString &name) const;
 
-  void addScenario(const QString &directoryName);
+  void addScenario(const QString &directoryName, const QString &baseName);
 
   /// Of the current case: 0, or -1 when the file could not be opened.
   int readCaseConfiguration(Findings &findings);

@@ -37,8 +37,8 @@ public:
   /// Inserts or overwrites.
   void set(PropertyKey key, PropertyText value);
   void set(const QString &key, const QString &value) { set(PropertyKey::intern(key), PropertyText(value)); }
-  /// Another value for the property at a place of the iteration.
-  void replace(std::size_t place, PropertyText value) { m_properties[place].value = std::move(value); }
+  /// Another value for the property at an index of the iteration.
+  void replace(std::size_t index, PropertyText value) { m_properties[index].value = std::move(value); }
   bool erase(PropertyKey key);
   bool erase(const QString &key) { return erase(PropertyKey::find(key)); }
   void clear() { m_properties.clear(); }
@@ -51,11 +51,11 @@ public:
 
   /// Has the processor fetch the first properties, which lie anywhere in the memory, ahead of their use.
   void prefetch() const noexcept {
-    constexpr std::size_t Line = 128; // two cache lines, which processors fetch together
-    constexpr std::size_t Lines = 4;
+    constexpr std::size_t FetchedBytes = 128; // two cache lines, which processors fetch together
+    constexpr std::size_t Fetches = 4;
     const auto *properties = reinterpret_cast<const char *>(m_properties.data());
-    for (std::size_t i = 0; i < Lines; ++i)
-      __builtin_prefetch(properties + i * Line);
+    for (std::size_t i = 0; i < Fetches; ++i)
+      __builtin_prefetch(properties + i * FetchedBytes);
   }
 
   /// One line "    e[name] = value\n" per property, in key order.

@@ -15,7 +15,7 @@ public:
   struct Entry {
     PropertyText id;       ///< the name under which the element was inserted
     mutable element value; ///< mutable: the key is id, not the contents
-    mutable int place = 0; ///< in name order, from 0; valid from begin() until elements are added or erased
+    mutable int index = 0; ///< in name order, from 0; valid from begin() until elements are added or erased
     QString name() const { return id.toString(); }
   };
   class const_iterator;
@@ -93,12 +93,12 @@ public:
 private:
   /// Elements lie all over the memory: those to come are fetched while the present one is looked at.
   void fetchAhead() const {
-    constexpr std::ptrdiff_t Entries = 12;
-    constexpr std::ptrdiff_t Properties = 6;
-    if (m_end - m_position <= Entries)
+    constexpr std::ptrdiff_t EntriesAhead = 12;
+    constexpr std::ptrdiff_t PropertiesAhead = 6;
+    if (m_end - m_position <= EntriesAhead)
       return;
-    __builtin_prefetch(m_position[Entries]);
-    m_position[Properties]->value.prefetch();
+    __builtin_prefetch(m_position[EntriesAhead]);
+    m_position[PropertiesAhead]->value.prefetch();
   }
 
   const Entry *const *m_position = nullptr;

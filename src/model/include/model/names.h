@@ -16,10 +16,14 @@ struct Names {
   PropertyKey active = PropertyKey::intern("active");
   PropertyKey gas = PropertyKey::intern("gas");         ///< of a node: the name of its gas
   PropertyKey gasNode = PropertyKey::intern("gasnode"); ///< of a compressor: where its fuel comes from
+  PropertyKey drive = PropertyKey::intern("drive");     ///< of a compressor: the element that drives it
+  PropertyKey driven = PropertyKey::intern("driven");   ///< of a drive: the compressor that it drives
+  PropertyKey machine = PropertyKey::intern("machine"); ///< of a compressor or drive: its name in the machine data
   PropertyKey normDensity = PropertyKey::intern("rhon");
   PropertyKey calorificValue = PropertyKey::intern("hs");
   PropertyKey elements = PropertyKey::intern("elements"); ///< of a subnet
   PropertyKey pins = PropertyKey::intern("pins");         ///< of a subnet
+  PropertyKey refEle = PropertyKey::intern("refEle");     ///< of an element of a subnet: its name in the template
 };
 
 inline const Names &Names::all() {

@@ -17,15 +17,15 @@ public:
   /// large network costs.
   template <typename Visit>
   void forEach(const std::vector<const element *> &sources, const Visit &visit) const {
-    constexpr std::size_t FarAhead = 16;
-    constexpr std::size_t Ahead = 8;
+    constexpr std::size_t ElementsAhead = 16;
+    constexpr std::size_t PropertiesAhead = 8;
     Parallel::inParts(sources.size(), [&](std::size_t first, std::size_t last) {
       PropertyColumns columns = *this;
       for (std::size_t i = first; i < last; ++i) {
-        if (i + FarAhead < last)
-          __builtin_prefetch(sources[i + FarAhead]);
-        if (i + Ahead < last)
-          columns.fetch(*sources[i + Ahead]);
+        if (i + ElementsAhead < last)
+          __builtin_prefetch(sources[i + ElementsAhead]);
+        if (i + PropertiesAhead < last)
+          columns.fetch(*sources[i + PropertiesAhead]);
         columns.read(*sources[i]);
         visit(i, columns);
       }
@@ -49,7 +49,7 @@ private:
   /// 5. What was found belongs to the element that was read last.
   struct Column {
     PropertyKey key;
-    std::size_t place = 0; ///< index of the first property that is not before the key
+    std::size_t index = 0; ///< of the first property that is not before the key
     PropertyKey before;    ///< the key of the property before the index, null at the beginning
     PropertyKey at;        ///< the key of the property at the index, null at the end
     bool isThere = false;  ///< at is the key

@@ -11,8 +11,8 @@ void close(const NetData &net, Selection &selection);
 /// The names that a property of a subnet lists, such as "elements" or "pins": set apart by semicolons, blanks around them
 /// do not count.
 QStringList listed(const element &subnet, PropertyKey list);
-/// The parts of such a list as they stand, empty ones too: for pins, which the place in the list tells.
-QStringList listedByPlace(const element &subnet, PropertyKey list);
+/// The parts of such a list as they stand, empty ones too: for pins, which the position in the list tells.
+QStringList listedByPosition(const element &subnet, PropertyKey list);
 
 /// Adds a name to the set of its kind; false when the network has no such element.
 bool select(const NetData &net, const QString &name, Selection &selection);

@@ -5,6 +5,7 @@
 #include <model/netdata.h>
 #include <subassembly/subassemblycache.h>
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <functional>
@@ -14,6 +15,7 @@
 /// "VARIANT.geom" with one subnet named "SUB", which holds pins and default values; constraints and formulas for its
 /// elements stand in "VARIANT.geom.csv" and "VARIANT.formulas". An element T of the template becomes SUBNET_T.
 class SubAssembler {
+  Q_DECLARE_TR_FUNCTIONS(SubAssembler)
 public:
   /// What to build.
   enum class Flag {
@@ -21,7 +23,7 @@ public:
     PlacementOnly ///< only what the subnet element itself says: defaults, position, direction
   };
   /// Told the text for a person and how far the work has come; false stops.
-  using Told = std::function<bool(const QString &text, int done, int count)>;
+  using Progress = std::function<bool(const QString &text, int done, int count)>;
 
   struct Result {
     int assembled = 0;
@@ -32,14 +34,14 @@ public:
   };
 
   /// \param folder of the templates; when it is empty nothing is assembled
-  SubAssembler(NetData &net, const QString &folder, SubAssemblyCache &cache = SubAssemblyCache::instance());
+  /// \param told what it is doing, and what the network and the templates say
+  SubAssembler(NetData &net, const QString &folder, SubAssemblyCache &cache = SubAssemblyCache::instance(), Told told = {});
 
-  /// "net_subassemblies" in the program's folder or up to three above it; empty, with a message in the log, when there is
-  /// none.
-  static QString findFolder(const QString &programFolder);
+  /// "net_subassemblies" in the program's folder or up to three above it; empty, and told, when there is none.
+  static QString findFolder(const QString &programFolder, const Told &told = {});
 
   /// Builds all assembled subnets of the network.
-  Result createElesOfAssembledSubnets(Flag flag = Flag::All, const Told &told = Told());
+  Result createElesOfAssembledSubnets(Flag flag = Flag::All, const Progress &progress = {});
   /// Builds one; below 1 on failure. \param tryReset whether a pin list of another length than the template's may be reset
   int createEleOfAssembledSubnet(element &subnet, const QStringList &pins, Flag flag, bool tryReset);
 
@@ -62,7 +64,7 @@ private:
     QString name;
     element *node; ///< null when the network lacks it
   };
-  struct Place {
+  struct Frame { ///< of the subnet in the drawing
     QPointF center;
     double width = 0.0;
     double rotation = 0.0; ///< degrees
@@ -78,16 +80,20 @@ private:
   QString templateFile(const QString &variant, const char *suffix) const;
   QStringList pinsOf(element &subnet, const QStringList &pins, const QStringList &ofTemplate, bool tryReset);
   std::vector<Pin> nodesOf(const QStringList &pins) const;
-  /// Gives the subnet its place between its pins; where these are not there it keeps its own.
-  Place placeSubnet(element &subnet, const std::vector<Pin> &pins);
-  void createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins, const Place &place);
+  /// Puts the subnet between its pins; where these are not there it stays as it is.
+  Frame layOut(element &subnet, const std::vector<Pin> &pins);
+  void createElements(element &subnet, const Variant &variant, const std::vector<Pin> &pins, const Frame &frame);
   void reserve(const std::vector<const elements::Entry *> &subnets);
   void findFreePrefixes(const std::vector<const elements::Entry *> &subnets);
   void createPin(const element &source, const QString &name, const QPointF &at);
-  void log(const QString &text, const QString &element = QString());
+  bool hasSoundPins(const TemplatePlan &plan, const QString &variant, const QString &subnet);
+  void noteSummary();
+  void note(const QString &text, const QString &element = QString());
+  void debug(const QString &text) const { tell(m_told, Finding::Severity::Debug, text); }
 
   NetData &m_net;
   QString m_folder;
+  Told m_told;
   QString m_realFolder; ///< wherever links lead
   std::shared_ptr<SubAssemblyTemplates> m_templates;
   std::map<QString, Variant> m_variants;

@@ -21,13 +21,14 @@ public:
 
   /// \param read makes the content of a path that is not known yet
   template <typename Read>
-  const Content &get(const QString &path, const Read &read) {
+  const Content &get(const QString &path, const Read &read, const Told &told) {
     const auto known = m_entries.find(path);
     if (known != m_entries.end()) {
       ++m_hits;
       return *known->content;
     }
-    noteEntry(m_name, m_hits, m_entries.size() + 1, path);
+    tell(told, Finding::Severity::Debug,
+         QStringLiteral("%1 [%2 hits]: adding new entry [%3] %4").arg(m_name).arg(m_hits).arg(size() + 1).arg(path));
     const QFileInfo file(path);
     return *m_entries.insert(path, {std::make_shared<const Content>(read(path)), file.lastModified(), file.size()})->content;
   }
@@ -43,8 +44,6 @@ public:
   int size() const { return m_entries.size(); }
 
 private:
-  static void noteEntry(const QString &name, int hits, int number, const QString &path);
-
   struct Entry {
     std::shared_ptr<const Content> content;
     QDateTime modified; ///< of the file, as the size
@@ -83,7 +82,7 @@ public:
 
   /// Null for an empty path. What was edited meanwhile is forgotten. Of more folders than MostFolders the one that was not
   /// used longest is dropped.
-  std::shared_ptr<SubAssemblyTemplates> folder(const QString &path);
+  std::shared_ptr<SubAssemblyTemplates> folder(const QString &path, const Told &told = {});
   int size() const { return static_cast<int>(m_folders.size()); }
 
 private:

@@ -56,7 +56,7 @@ Quality fit(const std::vector<FitPoint> &points, Biquadratic &fitted);
 /// Of coefficients that come from elsewhere.
 Quality compare(const std::vector<FitPoint> &points, const Biquadratic &given);
 
-/// Where the quadratic has the value: none, one or two places in ascending order.
+/// Where the quadratic has the value: none, one or two arguments in ascending order.
 std::vector<double> solve(const Quadratic &function, double value);
 
 } // namespace Fits

@@ -13,11 +13,11 @@ public:
   /// What the scenario asks for; the order is that of the names of "ntype_gasLaw".
   enum class Wanted { Aga, Dc92, Papay };
 
-  /// By the shares that are inferred from density and calorific value, with the equation GERG-2008; by corresponding states
-  /// where only critical values are given. Formulas of z alone (AGA, Papay) are taken within their ranges when the scenario
-  /// asks for them.
+  /// The law for a gas: the equation GERG-2008 with the shares that density and calorific value let one infer, or by
+  /// corresponding states where only critical values are given. When the scenario asks for a formula of z alone (AGA,
+  /// Papay), it serves within its range.
   static std::shared_ptr<const GasLaw> of(const GasData &gas, Wanted wanted = Wanted::Dc92);
-  /// Methane: where nothing says what the gas is.
+  /// The law of methane, for where nothing says what the gas is.
   static std::shared_ptr<const GasLaw> assumed();
 
   virtual ~GasLaw() = default;

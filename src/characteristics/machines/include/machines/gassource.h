@@ -31,22 +31,23 @@ public:
       : m_net(net) {}
 
   void set(ScenarioGas scenario);
-  /// What was found at nodes, which have changed since.
-  void forget() { m_found.reset(); }
+  /// To be called when nodes have changed: their gases are looked up anew.
+  void forget() { m_scenarioGas.reset(); }
   Gas at(const element &node) const;
-  /// Of nodes that say nothing.
+  /// The gas of nodes that say nothing of theirs.
   const Gas &scenario() const;
-  /// K: of the node itself, else of the scenario. One that no gas in a network has is told and left out.
+  /// In K: the temperature that the node states, else that of the scenario. One that no gas in a network has is left out,
+  /// with a remark.
   double temperatureAt(const element &node, QStringList *remarks = nullptr) const;
   /// What is doubtful about the scenario's gas.
   Findings findings() const;
 
 private:
-  Gas findScenario() const;
-  Gas made(const GasData &data, const QString &origin) const;
+  Gas findScenario() const; ///< for scenario()
+  Gas gasOf(const GasData &data, const QString &origin) const;
 
   const NetData &m_net;
   ScenarioGas m_scenario;
-  mutable std::map<QString, Gas> m_made; ///< by what the law was made of: one law serves many nodes
-  mutable std::optional<Gas> m_found;
+  mutable std::map<QString, Gas> m_gasesByData; ///< one law serves many nodes
+  mutable std::optional<Gas> m_scenarioGas;
 };

@@ -19,7 +19,7 @@ struct MeasuredPoint {
   double efficiency = 0.0; ///< 0 where it was not measured
 };
 
-/// Of two functions for the same thing the one to compute with.
+/// Which function of a machine is computed with, where there are two.
 enum class FunctionSource {
   Fitted,   ///< our own fit of the measured points, where there is one
   Published ///< the coefficients that came with the machine, where there are some

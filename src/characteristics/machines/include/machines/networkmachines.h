@@ -82,10 +82,17 @@ private:
   struct Station {
     std::optional<StationConfiguration> configuration; ///< none where there is one machine only
     std::vector<QString> running;
-    std::vector<WorkingPoint> points; ///< of those that run
-    double power() const;             ///< kW; 0 when one of them has none
+    std::vector<WorkingPoint> points;                                  ///< of those that run
+    double power() const;                                              ///< kW; 0 when one of them has none
+    std::optional<WorkingPoint> pointOf(const QString &machine) const; ///< none where it does not run
   };
   Station station(const element &compressor, const Compression &compression, const MachineChoice &choice) const;
+  Machine described(const QString &name, FunctionSource source) const;
+  QString drivenBy(const QString &driveName, const element &compressor, const Station &station) const;
+  /// Smallest and largest of a compressor, 1/min.
+  std::optional<std::pair<double, double>> speeds(const QString &machine) const;
+  std::optional<double> stated(const element &e, const char *property) const;
+  std::vector<Comparison> compareDrive(const element &drive, const std::optional<WorkingPoint> &point) const;
   std::vector<Comparison> compare(const element &compressor, const Compression &compression, const Station &station) const;
   Findings findings(const element &compressor) const;
 

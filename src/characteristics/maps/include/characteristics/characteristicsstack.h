@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/finding.h>
 #include <model/netdata.h>
 
 #include <QDockWidget>
@@ -14,7 +15,8 @@ class QTabWidget;
 class CharacteristicsStack : public QDockWidget {
   Q_OBJECT
 public:
-  explicit CharacteristicsStack(const NetData &net, QWidget *parent = nullptr);
+  /// \param told why an action failed; a finding with a box answers what the user just did
+  explicit CharacteristicsStack(const NetData &net, Told told = {}, QWidget *parent = nullptr);
 
   /// Machines of the scenario; pages that are open are made anew.
   void setMachines(MachineData machines);
@@ -22,8 +24,7 @@ public:
   /// time are opened. Empty for no case.
   void setCase(const QString &folder);
 
-  /// Opens the page of a compressor or drive of the network, or brings it to the front. False when it has none; the reason
-  /// is shown.
+  /// Opens the page of a compressor or drive of the network, or brings it to the front. False when it has none, and told.
   bool open(const QString &elementName);
   QStringList opened() const;
   /// After properties have changed: pages that have something else to say are made anew.
@@ -35,9 +36,11 @@ public:
 private:
   MachinePage *makePage(const QString &elementName) const;
   void keep() const;
+  void warn(const QString &reason) const { tell(m_told, Finding::Severity::Warning, reason); }
   void showHint();
 
   const NetData &m_net;
+  Told m_told;
   NetworkMachines m_machines;
   QString m_path; ///< of the list of open pages, empty for none
   QTabWidget *m_tabs;
