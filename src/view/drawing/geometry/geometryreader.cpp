@@ -125,7 +125,7 @@ std::vector<Edge> readEdges(const NetData &net, const ValueRequest &request, Val
   // Nodes stand in name order, as the collection does.
   const auto indexOf = [&net](const PropertyText *name) {
     const elements::Entry *node = name == nullptr ? nullptr : net.nodes().findEntry(name->utf8());
-    return node == nullptr ? -1 : node->place;
+    return node == nullptr ? -1 : node->index;
   };
   const std::vector<const element *> sources = sourcesOf(net.edges());
   std::vector<Edge> edges(sources.size());
@@ -163,7 +163,7 @@ void readPins(const NetData &net, std::vector<NetGeometry::PointElement> &subnet
   for (NetGeometry::PointElement &subnet : subnets) {
     for (const QString &name : Topology::listed(*subnet.source, key)) {
       if (const elements::Entry *node = net.nodes().findEntry(name.toStdString()))
-        subnet.pins.push_back(node->place);
+        subnet.pins.push_back(node->index);
     }
   }
 }

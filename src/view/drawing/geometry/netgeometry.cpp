@@ -216,9 +216,9 @@ std::optional<NetGeometry::Item> NetGeometry::find(const NetData &net, const QSt
   // Nodes and edges stand in name order, as the collections do.
   for (const auto &[kind, collection] : {std::make_pair(NetData::Node, &net.nodes()), {NetData::Edge, &net.edges()}}) {
     const elements::Entry *entry = (kinds & kind) != 0 ? collection->findEntry(utf8) : nullptr;
-    if (entry != nullptr && static_cast<std::size_t>(entry->place) < count(kind) &&
-        source({kind, entry->place}) == &entry->value)
-      return Item{kind, entry->place};
+    if (entry != nullptr && static_cast<std::size_t>(entry->index) < count(kind) &&
+        source({kind, entry->index}) == &entry->value)
+      return Item{kind, entry->index};
   }
   for (const auto &[kind, points] :
        {std::make_pair(NetData::AssembledSubnet, &m_records.subnets), {NetData::TextBox, &m_records.textBoxes}}) {
