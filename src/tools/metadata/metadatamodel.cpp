@@ -3,6 +3,10 @@
 #include <model/elementtypes.h>
 #include <tools/plaintip.h>
 
+MetaDataModel::MetaDataModel(QObject *parent)
+    : GroupModel({QStringLiteral("ShortNames"), QStringLiteral("LongNames"), QStringLiteral("Description (Attribute.csv)")},
+                 parent) {}
+
 void MetaDataModel::set(const NetMetaData &metaData) {
   beginResetModel();
   m_groups = {{QStringLiteral("ElementTypes"), types()},
@@ -14,18 +18,6 @@ void MetaDataModel::set(const NetMetaData &metaData) {
               {QStringLiteral("GasParms"), properties(metaData, QStringLiteral("gas"))},
               {QStringLiteral("VisParms"), properties(metaData, QString())}};
   endResetModel();
-}
-
-int MetaDataModel::columnCount(const QModelIndex & /*parent*/) const {
-  return ColumnCount;
-}
-
-QVariant MetaDataModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-    return QVariant();
-  return QStringList{QStringLiteral("ShortNames"), QStringLiteral("LongNames"),
-                     QStringLiteral("Description (Attribute.csv)")}
-      .value(section);
 }
 
 int MetaDataModel::groupCount() const {
