@@ -11,10 +11,6 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("CommandLine", text);
-}
-
 CommandLine wrong(const QString &text) {
   CommandLine line;
   line.action = CommandLine::Action::Wrong;
@@ -67,6 +63,8 @@ struct ToolkitOptions {
 
 /// The options that say what the picture shows.
 struct DrawOptions {
+  Q_DECLARE_TR_FUNCTIONS(CommandLine)
+public:
   QCommandLineOption colorBy{QStringLiteral("color-by"), tr("Property by which the edges are coloured."),
                              QStringLiteral("PROPERTY")};
   QCommandLineOption widthBy{QStringLiteral("width-by"), tr("Property that gives the edges their width."),

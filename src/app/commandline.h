@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QRectF>
 #include <QString>
 #include <QStringList>
 
 /// What the command line asks for.
 struct CommandLine {
+  Q_DECLARE_TR_FUNCTIONS(CommandLine)
+public:
   enum class Action {
     Window, ///< open the window, with file when given
     Batch,  ///< info and export, without a window or display

@@ -18,15 +18,15 @@ namespace {
 QString boxTitle(NivraMsg::Kind kind) {
   switch (kind) {
   case NivraMsg::Kind::Information:
-    return QCoreApplication::translate("MessageBox", "Information");
+    return MessageBox::tr("Information");
   case NivraMsg::Kind::Warning:
-    return QCoreApplication::translate("MessageBox", "Warning");
+    return MessageBox::tr("Warning");
   case NivraMsg::Kind::Critical:
-    return QCoreApplication::translate("MessageBox", "Critical");
+    return MessageBox::tr("Critical");
   case NivraMsg::Kind::Question:
     break;
   }
-  return QCoreApplication::translate("MessageBox", "Question");
+  return MessageBox::tr("Question");
 }
 
 QMessageBox::Icon boxIcon(NivraMsg::Kind kind) {

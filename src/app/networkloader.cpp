@@ -20,10 +20,6 @@ namespace {
 
 constexpr double Milli = 1e-3;
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("NetworkLoader", text);
-}
-
 QString firstCritical(const Findings &findings) {
   for (const Finding &finding : findings) {
     if (finding.severity == Finding::Severity::Critical)

@@ -10,6 +10,7 @@
 #include <model/netdata.h>
 #include <tools/findinglist.h>
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -21,6 +22,7 @@
 /// Brings a chosen file into a NetData: workspace, configuration, network, checks. It knows no widgets; the window and
 /// the command line both drive it, stage by stage.
 class NetworkLoader {
+  Q_DECLARE_TR_FUNCTIONS(NetworkLoader)
 public:
   /// Seconds by stage, in the order of the stages.
   using Seconds = QVector<std::pair<QString, double>>;
