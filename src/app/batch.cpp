@@ -6,11 +6,11 @@
 #include <base/generalsettings.h>
 #include <base/logfiles.h>
 #include <base/nivramsg.h>
+#include <model/names.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 #include <view/plotexport.h>
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -22,10 +22,6 @@
 #include <unistd.h>
 
 namespace {
-
-QString tr(const char *text) {
-  return QCoreApplication::translate("Batch", text);
-}
 
 bool writeAll(int descriptor, const QByteArray &text) {
   qint64 done = 0;
@@ -57,12 +53,11 @@ struct Counts {
 };
 
 Counts count(NetData &net) {
-  static const PropertyKey typeKey = PropertyKey::intern("type");
   std::map<std::string, int> types;
   Counts counts;
   net.forEach(NetData::AllTypes, [&](element &e) {
     counts.properties += static_cast<double>(e.size());
-    const PropertyText *type = e.find(typeKey);
+    const PropertyText *type = e.find(Names::all().type);
     ++types[type == nullptr ? std::string() : std::string(type->utf8())];
   });
   for (const auto &[code, number] : types)
@@ -90,7 +85,7 @@ void addMessages(QJsonObject &object, const NetworkLoader &loader, const NivraMs
     }
   }
   if (recorder.dropped() > 0)
-    warnings.append(tr("... and %1 more, see the log").arg(recorder.dropped()));
+    warnings.append(Batch::tr("... and %1 more, see the log").arg(recorder.dropped()));
   object.insert(QStringLiteral("findings"), QJsonArray::fromStringList(findings));
   object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(warnings));
 }
@@ -170,7 +165,7 @@ bool applyFunctions(const CommandLine &line, NetVisControl &control, QString &re
     if (f.chosen.isEmpty())
       continue;
     if (f.chosen != PlotSettings::fixedSize() && !DrawFunction::find(f.chosen, control.net()).isKnown()) {
-      reason = tr("No element has the property \"%1\".").arg(f.chosen);
+      reason = Batch::tr("No element has the property \"%1\".").arg(f.chosen);
       return false;
     }
     settings.*f.function = f.chosen;

@@ -2,6 +2,7 @@
 
 #include "scenariomodel.h"
 
+#include <model/names.h>
 #include <tools/displayvalue.h>
 #include <tools/plaintip.h>
 
@@ -13,9 +14,9 @@ const QString &vocabularyType() {
   return type;
 }
 
-bool tellsWhatItIs(const PropertyKey &key) {
-  const QString name = key.name().toLower();
-  return name == QLatin1String("name") || name == QLatin1String("type") || name == QLatin1String("obj_type");
+bool tellsWhatItIs(PropertyKey key) {
+  static const PropertyKey word = PropertyKey::intern("obj_type");
+  return key == Names::all().name || key == Names::all().type || key == word;
 }
 
 } // namespace

@@ -35,7 +35,7 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_ui(std::make_unique<Ui::NivraViewer>())
     , m_control(std::make_unique<NetVisControl>(m_net, QString()))
     , m_loader(m_net)
-    , m_categories(std::make_shared<CategoryList>()) {
+    , m_categories(std::make_shared<CategoryList>(logFinding)) {
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());

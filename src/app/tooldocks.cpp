@@ -7,6 +7,7 @@
 #include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
 #include <io/nivraworkspace.h>
+#include <model/names.h>
 #include <tools/metadatatable.h>
 #include <tools/nivrafindings.h>
 #include <tools/nivranetlayerseditor.h>
@@ -192,7 +193,7 @@ void ToolDocks::openCharacteristics(const QStringList &names) {
 }
 
 void ToolDocks::createLayers() {
-  m_layers = new NivraNetLayersEditor(m_net, &m_window);
+  m_layers = new NivraNetLayersEditor(m_net, logFinding, &m_window);
   addDock(m_layers, QStringLiteral("layers"), Qt::LeftDockWidgetArea);
   connect(m_layers, &NivraNetLayersEditor::hiddenLayersWanted, this,
           [this](const QString &property, const QSet<QString> &hidden) {
@@ -215,7 +216,7 @@ void ToolDocks::createCategories() {
 NivraVecTable *ToolDocks::vectorTable() {
   if (m_vectorTable != nullptr)
     return m_vectorTable.get();
-  m_vectorTable = std::make_unique<NivraVecTable>(m_net);
+  m_vectorTable = std::make_unique<NivraVecTable>(m_net, logFinding);
   m_vectorTable->setDirectory(m_directory);
   connect(m_vectorTable.get(), &NivraVecTable::helpWanted, this, &ToolDocks::showHelp);
   connect(m_vectorTable.get(), &NivraVecTable::elementMarked, this, &ToolDocks::elementMarked);
@@ -312,7 +313,7 @@ NivraEleInfoWidget::PlotLabel ToolDocks::plotLabel(const element &e) const {
   if (contents == nullptr)
     return {};
   const LabelText text = contents->text(e);
-  const LabelStyle style = contents->style(e, m_net.findElement(e.value(QStringLiteral("name")), NetData::AllTypes).first);
+  const LabelStyle style = contents->style(e, m_net.findElement(e.value(Names::all().name), NetData::AllTypes).first);
   QStringList lines;
   for (const QString &line : text.lines)
     lines.append(line.toHtmlEscaped());
@@ -368,7 +369,7 @@ void ToolDocks::showProperties(const QStringList &names) {
 }
 
 void ToolDocks::createSearch() {
-  m_search = new NivraSearch(m_net, &m_window);
+  m_search = new NivraSearch(m_net, logFinding, &m_window);
   addDock(m_search, QStringLiteral("search"), Qt::LeftDockWidgetArea);
   connect(m_search, &NivraSearch::elementMarked, this, &ToolDocks::elementMarked);
   connect(m_search, &NivraSearch::itemDoubleClicked, this,

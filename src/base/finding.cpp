@@ -11,6 +11,7 @@ NivraMsg::Kind boxKind(const Finding &finding) {
   if (finding.isForInformation)
     return NivraMsg::Kind::Information;
   switch (finding.severity) {
+  case Finding::Severity::Debug:
   case Finding::Severity::Information:
     return NivraMsg::Kind::Information;
   case Finding::Severity::Warning:
@@ -47,6 +48,9 @@ void logFinding(const Finding &finding) {
   if (text.isEmpty())
     return;
   switch (finding.severity) {
+  case Finding::Severity::Debug:
+    NivraMsg::debug(text);
+    break;
   case Finding::Severity::Information:
     NivraMsg::log(text);
     break;

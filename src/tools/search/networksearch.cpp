@@ -1,4 +1,5 @@
 #include <base/parallel.h>
+#include <model/names.h>
 #include <tools/networksearch.h>
 
 #include <iterator>
@@ -6,11 +7,6 @@
 #include <mutex>
 
 namespace {
-
-const PropertyKey &resultKey() {
-  static const PropertyKey key = PropertyKey::intern("isSearchResult");
-  return key;
-}
 
 enum Column { NameColumn, TypeColumn, MarkColumn };
 
@@ -33,7 +29,7 @@ NetworkSearch::NetworkSearch(NetData &net, SearchParams params)
     , m_type(m_params.type)
     , m_properties(m_params.prop)
     , m_value(m_params.searchString)
-    , m_columns({PropertyKey::intern("name"), PropertyKey::intern("type"), resultKey()})
+    , m_columns({Names::all().name, Names::all().type, Names::all().searchResult})
     , m_display(*net.metaData()) {
   m_current.matches = m_type.matches(m_current.text); // no type at all
 }
@@ -89,7 +85,7 @@ NetworkSearch::Result NetworkSearch::run() {
   result.isStopped = !result.error.isEmpty();
   if (result.isStopped) {
     for (element *candidate : candidates)
-      candidate->erase(resultKey()); // marks of the search before
+      candidate->erase(Names::all().searchResult); // marks of the search before
     return result;
   }
   std::map<std::size_t, Part> parts; // by the place of their first element
@@ -108,9 +104,9 @@ NetworkSearch::Result NetworkSearch::run() {
   for (auto &[first, part] : parts) {
     std::move(part.rows.begin(), part.rows.end(), std::back_inserter(result.rows));
     for (const std::size_t place : part.found)
-      candidates[place]->set(resultKey(), PropertyText(std::string_view("1")));
+      candidates[place]->set(Names::all().searchResult, PropertyText(std::string_view("1")));
     for (const std::size_t place : part.former)
-      candidates[place]->erase(resultKey());
+      candidates[place]->erase(Names::all().searchResult);
     searched = part.searched;
     if (part.isStopped) {
       result.isStopped = true;
@@ -119,7 +115,7 @@ NetworkSearch::Result NetworkSearch::run() {
     }
   }
   for (std::size_t i = searched; i < candidates.size(); ++i)
-    candidates[i]->erase(resultKey()); // marks of the search before
+    candidates[i]->erase(Names::all().searchResult); // marks of the search before
   return result;
 }
 
@@ -145,16 +141,16 @@ bool NetworkSearch::satisfiesFormula(const element &candidate) {
   } catch (const FormulaError &error) {
     if (error.isForMissingValue())
       return false;
-    throw FormulaError(candidate.value(QStringLiteral("name")) + QStringLiteral(": ") + error.text(), error.kind());
+    throw FormulaError(candidate.value(Names::all().name) + QStringLiteral(": ") + error.text(), error.kind());
   }
 }
 
 void NetworkSearch::search(element &candidate, std::vector<SearchRow> &rows) {
   const std::size_t before = rows.size();
-  candidate.erase(resultKey());
+  candidate.erase(Names::all().searchResult);
   addRows(candidate, rows);
   if (rows.size() > before)
-    candidate.set(resultKey(), PropertyText(std::string_view("1")));
+    candidate.set(Names::all().searchResult, PropertyText(std::string_view("1")));
 }
 
 /// Returns whether the element is marked by a search before.

@@ -9,6 +9,7 @@
 #include <base/generalsettings.h>
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
+#include <model/names.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
 
@@ -31,10 +32,11 @@ constexpr double Milli = 1e-3;
 
 } // namespace
 
-NivraSearch::NivraSearch(NetData &net, QWidget *parent)
+NivraSearch::NivraSearch(NetData &net, Told told, QWidget *parent)
     : QDockWidget(parent)
     , m_ui(std::make_unique<Ui::NivraSearch>())
     , m_net(net)
+    , m_told(std::move(told))
     , m_lastField(nullptr)
     , m_historyMenu(new QMenu(this)) {
   initialiseResources();
@@ -113,14 +115,16 @@ void NivraSearch::searchWithFormula() {
   QElapsedTimer timer;
   timer.start();
   NetworkSearch search(m_net, searchParams());
-  NivraMsg::debug(QStringLiteral("NivraSearch prep time: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+  tell(m_told, Finding::Severity::Debug,
+       QStringLiteral("NivraSearch prep time: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
   NetworkSearch::Result result = search.run();
-  NivraMsg::debug(QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+  tell(m_told, Finding::Severity::Debug,
+       QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
   m_results->show(std::move(result.rows));
   showCount();
   showHint(result.isStopped ? result.error : SearchHint::of(m_net, searchParams(), m_results->rows().size()));
   if (result.isStopped) {
-    NivraMsg::logWarning(result.error);
+    tell(m_told, Finding::Severity::Warning, result.error);
     NivraMsg::message(NivraMsg::Kind::Warning, tr("Formula not ok! Search stopped (incomplete)!"));
   }
   updateLastSearchesMenu();
@@ -144,11 +148,12 @@ void NivraSearch::updateSearchItems(element &changed, const QString &oldName) {
   try {
     NetworkSearch(m_net, searchParams()).search(changed, rows);
   } catch (const FormulaError &error) {
-    NivraMsg::logWarning(error.text());
+    tell(m_told, Finding::Severity::Warning, error.text());
   }
-  m_results->replace(oldName.isEmpty() ? changed.value(QStringLiteral("name")) : oldName, rows);
+  m_results->replace(oldName.isEmpty() ? changed.value(Names::all().name) : oldName, rows);
   showCount();
-  NivraMsg::debug(QStringLiteral("updateSearchItem: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+  tell(m_told, Finding::Severity::Debug,
+       QStringLiteral("updateSearchItem: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
 }
 
 bool NivraSearch::select(const QString &elementName) {
@@ -281,7 +286,8 @@ void NivraSearch::on_treeWidget_searchResults_currentItemChanged(const QModelInd
   const auto nameOf = [](const QModelIndex &item) {
     return item.isValid() ? item.data(SearchResultsModel::ElementRole).toString() : QStringLiteral("null");
   };
-  NivraMsg::debug(QStringLiteral("Search item changed from %1 to %2").arg(nameOf(previous), nameOf(current)));
+  tell(m_told, Finding::Severity::Debug,
+       QStringLiteral("Search item changed from %1 to %2").arg(nameOf(previous), nameOf(current)));
   if (current.isValid())
     emit elementMarked(nameOf(current));
 }

@@ -1,16 +1,12 @@
 #include "search/searchhint.h"
 
+#include <model/names.h>
 #include <tools/searchcriteria.h>
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QSet>
 
 namespace {
-
-QString tr(const char *text) {
-  return QCoreApplication::translate("SearchHint", text);
-}
 
 /// The properties and types that there are and that the search looks at.
 struct Asked {
@@ -19,13 +15,12 @@ struct Asked {
 };
 
 Asked askedOf(NetData &net, const SearchParams &params) {
-  static const PropertyKey typeKey = PropertyKey::intern("type");
   SearchedProperties properties(params.prop);
   const SearchedTypes types(params.type);
   Asked asked;
   QSet<QString> seenTypes;
   net.forEach(NetData::AllTypes, [&](const element &e) {
-    const QString type = e.value(typeKey);
+    const QString type = e.value(Names::all().type);
     if (!asked.hasType && !seenTypes.contains(type)) {
       seenTypes.insert(type);
       asked.hasType = types.matches(type);

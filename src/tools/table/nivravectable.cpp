@@ -19,11 +19,12 @@
 #include <algorithm>
 #include <set>
 
-NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
+NivraVecTable::NivraVecTable(NetData &net, Told told, QWidget *parent)
     : QTabWidget(parent)
     , m_ui(std::make_unique<Ui::NivraVecTable>())
     , m_net(net)
-    , m_rows(net)
+    , m_told(std::move(told))
+    , m_rows(net, m_told)
     , m_model(new VectorModel(this))
     , m_plot(new VectorPlot) {
   m_ui->setupUi(this);
@@ -43,7 +44,7 @@ NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
 }
 
 NivraVecTable::~NivraVecTable() {
-  NivraMsg::debug(QStringLiteral("Vector Table deleted."));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("Vector Table deleted."));
 }
 
 void NivraVecTable::refresh() {
@@ -87,7 +88,7 @@ void NivraVecTable::listSomethingElse() {
 
 void NivraVecTable::on_pushButtonUpdate_clicked() {
   m_isStale = false;
-  NivraMsg::debug(QStringLiteral("update vectable started  ..."));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("update vectable started  ..."));
   VectorRows::Request request;
   request.usesProperty = isPropertyMode();
   request.property = m_chosenProperty;
@@ -105,7 +106,7 @@ void NivraVecTable::on_pushButtonUpdate_clicked() {
   showCount();
   if (currentWidget() == m_ui->plotPage)
     showPlot();
-  NivraMsg::debug(QStringLiteral("... update finished."));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("... update finished."));
 }
 
 void NivraVecTable::showCount() {
@@ -131,7 +132,7 @@ void NivraVecTable::on_pushButtonTryNumSort_clicked() {
 }
 
 void NivraVecTable::sortNumerically(std::vector<VectorRows::Row> rows) {
-  NivraMsg::debug(QStringLiteral("    numsort started ..."));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("    numsort started ..."));
   VectorRows::sortNumerically(rows);
   showRows(std::move(rows), VectorModel::NumsortColumn);
 }
@@ -157,7 +158,7 @@ QStringList NivraVecTable::selectedMachines() const {
 }
 
 void NivraVecTable::on_updateCats(const CatMap &catDataInput) {
-  NivraMsg::debug(QStringLiteral("vectable updatecats"));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("vectable updatecats"));
   const bool isAnother = !(m_categories.value(m_chosenCategory) == catDataInput.value(m_chosenCategory));
   m_categories = catDataInput;
   m_isUpdating = true;

@@ -20,6 +20,10 @@ struct Names {
   PropertyKey calorificValue = PropertyKey::intern("hs");
   PropertyKey elements = PropertyKey::intern("elements"); ///< of a subnet
   PropertyKey pins = PropertyKey::intern("pins");         ///< of a subnet
+  PropertyKey driven = PropertyKey::intern("driven");     ///< of a drive: the name of its compressor
+  PropertyKey layer = PropertyKey::intern("vis.layer");   ///< the usual property of layers
+  PropertyKey searchResult = PropertyKey::intern("isSearchResult");
+  PropertyKey violations = PropertyKey::intern("CB_info"); ///< what is wrong with an element, by the constraints
 };
 
 inline const Names &Names::all() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/finding.h>
+
 #include <QMap>
 #include <QMetaType>
 #include <QString>
@@ -45,8 +47,8 @@ Q_DECLARE_METATYPE(CategoryRecord)
 /// "#" or "[x]", "$DOLLAR$" for a "$" in front of such a word.
 namespace CategoryFile {
 
-/// What is wrong with a line is logged, and the line skipped. A missing file is logged and holds none.
-std::vector<Category> read(const QString &path);
+/// What is wrong with a line is told, and the line skipped. A missing file is told and holds none.
+std::vector<Category> read(const QString &path, const Told &told = {});
 /// Whole or not at all; false with the reason.
 bool write(const QString &path, const std::vector<Category> &categories, QString *error);
 

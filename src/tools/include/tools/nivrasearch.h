@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/finding.h>
 #include <model/netdata.h>
 #include <tools/searchhistory.h>
 #include <tools/searchparams.h>
@@ -22,7 +23,7 @@ class NivraSearch;
 class NivraSearch : public QDockWidget {
   Q_OBJECT
 public:
-  explicit NivraSearch(NetData &net, QWidget *parent = nullptr);
+  explicit NivraSearch(NetData &net, Told told = {}, QWidget *parent = nullptr);
   ~NivraSearch() override;
 
   SearchParams searchParams() const;
@@ -94,6 +95,7 @@ private:
   SearchResults *m_results = nullptr;
   FormulaMode *m_formulaMode = nullptr;
   NetData &m_net;
+  Told m_told;
   SearchHistory m_history;
   QString m_name;
   QString m_searchString;
