@@ -8,8 +8,10 @@
 #include "subnetwindow.h"
 #include "tooldocks.h"
 #include "ui_nivraviewer.h"
+#include "wheelguard.h"
 
 #include <base/fileaccess.h>
+#include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <base/settings.h>
 #include <tools/categorylist.h>
@@ -36,6 +38,7 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_control(std::make_unique<NetVisControl>(m_net, QString()))
     , m_loader(m_net)
     , m_categories(std::make_shared<CategoryList>(logFinding)) {
+  qApp->installEventFilter(new WheelGuard(this));
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());
@@ -93,9 +96,12 @@ QString NivraViewer::openDialogStart(const QString &applicationDir) {
 }
 
 void NivraViewer::on_actionOpen_triggered() {
+  LastFolder &folder = LastFolder::ofOpening();
   const QString path = QFileDialog::getOpenFileName(
-      this, tr("Select Geometry or Scenario File"), openDialogStart(QCoreApplication::applicationDirPath()),
+      this, tr("Select Geometry or Scenario File"),
+      folder.path().isEmpty() ? openDialogStart(QCoreApplication::applicationDirPath()) : folder.path(),
       tr("Scenario Files (*.scen *.scen.jsn);;Geom Files (*.geom *.geom.jsn)"));
+  folder.remember(path);
   if (!path.isEmpty())
     open(path);
 }

@@ -384,6 +384,7 @@ void ToolDocks::createSearch() {
   connect(m_search, &NivraSearch::characteristicsWanted, &m_control, &NetVisControl::openCharacteristicsRequested);
   connect(m_categories, &NivraNetObjectCats::toSearch, m_search, [this](const QStringList &definition, bool regex) {
     m_search->show();
+    m_search->raise();
     m_search->defineSearch(definition, regex);
   });
 }

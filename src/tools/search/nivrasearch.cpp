@@ -7,6 +7,7 @@
 #include "ui_nivrasearch.h"
 
 #include <base/generalsettings.h>
+#include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
 #include <model/names.h>
@@ -43,6 +44,7 @@ NivraSearch::NivraSearch(NetData &net, Told told, QWidget *parent)
   m_ui->setupUi(this);
   showHint(QString());
   m_results = new SearchResults(*m_ui->treeWidget_searchResults);
+  m_ui->filterNotice->watch(m_results->menu());
   connect(m_results, &SearchResults::characteristicsWanted, this, &NivraSearch::characteristicsWanted);
   m_ui->toolButton_history->setMenu(m_historyMenu);
   m_ui->toolButton_history->setPopupMode(QToolButton::InstantPopup);
@@ -136,6 +138,7 @@ void NivraSearch::showCount() {
 }
 
 void NivraSearch::clearResults() {
+  m_results->menu().clearFilters();
   m_results->clear();
   showHint(QString());
   m_ui->label_found->setText(tr("Found:"));
@@ -244,10 +247,13 @@ void NivraSearch::on_pushButton_regex_toggled(bool checked) {
 }
 
 void NivraSearch::on_pushButton_save_clicked() {
-  const QString path = QFileDialog::getSaveFileName(this, tr("Choose File"), QStringLiteral("searchresults.csv"),
-                                                    tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
+  LastFolder &folder = LastFolder::ofSaving();
+  const QString path =
+      QFileDialog::getSaveFileName(this, tr("Choose File"), folder.with(QStringLiteral("searchresults.csv")),
+                                   tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
   if (path.isEmpty())
     return;
+  folder.remember(path);
   QString reason;
   save(path, &reason);
   showHint(reason);

@@ -9,11 +9,21 @@
 #include <QAction>
 #include <QHeaderView>
 
+namespace {
+
+/// The menu of a view that has its model.
+TableMenu &withMenu(ItemTable &view, SearchResultsModel &model) {
+  view.setModel(&model);
+  return *new TableMenu(view);
+}
+
+} // namespace
+
 SearchResults::SearchResults(ItemTable &view)
     : QObject(&view)
     , m_view(view)
-    , m_model(*new SearchResultsModel(this)) {
-  view.setModel(&m_model);
+    , m_model(*new SearchResultsModel(this))
+    , m_menu(withMenu(view, m_model)) {
   constexpr int Widths[] = {120, 40, 120, 120, 100};
   for (int column = 0; column < SearchResultsModel::ColumnCount; ++column)
     view.setColumnWidth(column, Widths[column]);
@@ -21,7 +31,6 @@ SearchResults::SearchResults(ItemTable &view)
   view.sortByColumn(SearchResultsModel::NameColumn, Qt::AscendingOrder);
   view.setItemDelegateForColumn(SearchResultsModel::ValueColumn,
                                 new NumberDelegate(SearchResultsModel::PropertyColumn, &view));
-  new TableMenu(view);
   auto *characteristics = new QAction(tr("Open Characteristics"), &view);
   characteristics->setObjectName(QStringLiteral("actionOpenCharacteristics"));
   view.addAction(characteristics);

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 class ItemTable;
+class TableMenu;
 
 /// The table of a search: a row for each property that was found. Its menu opens the maps of machines.
 class SearchResults : public QObject {
@@ -15,6 +16,8 @@ public:
   explicit SearchResults(ItemTable &view);
 
   void clear() { m_model.setRows({}); }
+  /// Of the header, with its filters.
+  TableMenu &menu() const { return m_menu; }
   /// Puts these rows in place of those before, sorted by name.
   void show(std::vector<SearchRow> rows);
   /// Puts these rows in place of those of the element. No row is the current one afterwards, and no signal tells it.
@@ -32,4 +35,5 @@ private:
 
   ItemTable &m_view;
   SearchResultsModel &m_model;
+  TableMenu &m_menu;
 };

@@ -4,6 +4,7 @@
 #include "ui_nivravectable.h"
 
 #include <base/generalsettings.h>
+#include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
 #include <model/elementtypes.h>
@@ -48,6 +49,7 @@ NivraVecTable::~NivraVecTable() {
 }
 
 void NivraVecTable::refresh() {
+  m_menu->clearFilters();
   QStringList names;
   for (const PropertyKey key : m_net.propertyKeys())
     names.append(key.name());
@@ -250,10 +252,12 @@ void NivraVecTable::on_actionHelp_triggered() {
 }
 
 void NivraVecTable::on_pushButtonSave_clicked() {
+  LastFolder &folder = LastFolder::ofSaving();
   const QString proposed = m_directory + QStringLiteral("/table_") +
                            (isPropertyMode() ? m_chosenProperty : m_chosenCategory) + QStringLiteral(".csv");
-  const QString path =
-      QFileDialog::getSaveFileName(this, tr("Choose File"), proposed, tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
+  const QString path = QFileDialog::getSaveFileName(this, tr("Choose File"), folder.with(proposed),
+                                                    tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
+  folder.remember(path);
   QString reason;
   if (!path.isEmpty() && !save(path, &reason))
     NivraMsg::message(NivraMsg::Kind::Warning, reason);
