@@ -1,29 +1,18 @@
 #include "search/searchresults.h"
 
 #include "shared/itemtable.h"
+#include "shared/machineaction.h"
 #include "shared/numberdelegate.h"
 
-#include <model/elementtypes.h>
 #include <tools/tablemenu.h>
 
-#include <QAction>
 #include <QHeaderView>
-
-namespace {
-
-/// The menu of a view that has its model.
-TableMenu &withMenu(ItemTable &view, SearchResultsModel &model) {
-  view.setModel(&model);
-  return *new TableMenu(view);
-}
-
-} // namespace
 
 SearchResults::SearchResults(ItemTable &view)
     : QObject(&view)
     , m_view(view)
-    , m_model(*new SearchResultsModel(this))
-    , m_menu(withMenu(view, m_model)) {
+    , m_model(*new SearchResultsModel(this)) {
+  view.setModel(&m_model);
   constexpr int Widths[] = {120, 40, 120, 120, 100};
   for (int column = 0; column < SearchResultsModel::ColumnCount; ++column)
     view.setColumnWidth(column, Widths[column]);
@@ -31,11 +20,9 @@ SearchResults::SearchResults(ItemTable &view)
   view.sortByColumn(SearchResultsModel::NameColumn, Qt::AscendingOrder);
   view.setItemDelegateForColumn(SearchResultsModel::ValueColumn,
                                 new NumberDelegate(SearchResultsModel::PropertyColumn, &view));
-  auto *characteristics = new QAction(tr("Open Characteristics"), &view);
-  characteristics->setObjectName(QStringLiteral("actionOpenCharacteristics"));
-  view.addAction(characteristics);
-  TableMenu::offerActions(view, [this, characteristics] { characteristics->setVisible(!selectedMachines().isEmpty()); });
-  connect(characteristics, &QAction::triggered, this, [this] { emit characteristicsWanted(selectedMachines()); });
+  m_menu = new TableMenu(view);
+  const auto *machines = new MachineAction(view, SearchResultsModel::NameColumn, SearchResultsModel::TypeColumn);
+  connect(machines, &MachineAction::triggered, this, &SearchResults::characteristicsWanted);
 }
 
 void SearchResults::show(std::vector<SearchRow> rows) {
@@ -72,15 +59,4 @@ bool SearchResults::select(const QString &name) {
   else
     m_view.selectionModel()->clear();
   return found.isValid();
-}
-
-QStringList SearchResults::selectedMachines() const {
-  QStringList names;
-  for (const QModelIndex &item : m_view.selectionModel()->selectedRows()) {
-    const SearchRow &row = rows()[static_cast<std::size_t>(item.row())];
-    if (!m_view.isRowHidden(item.row()) && ElementTypes::hasCharacteristics(row.type))
-      names.append(row.name);
-  }
-  names.removeDuplicates();
-  return names;
 }

@@ -17,7 +17,7 @@ public:
 
   void clear() { m_model.setRows({}); }
   /// Of the header, with its filters.
-  TableMenu &menu() const { return m_menu; }
+  TableMenu &menu() const { return *m_menu; }
   /// Puts these rows in place of those before, sorted by name.
   void show(std::vector<SearchRow> rows);
   /// Puts these rows in place of those of the element. No row is the current one afterwards, and no signal tells it.
@@ -31,9 +31,7 @@ signals:
   void characteristicsWanted(const QStringList &machines);
 
 private:
-  QStringList selectedMachines() const;
-
   ItemTable &m_view;
   SearchResultsModel &m_model;
-  TableMenu &m_menu;
+  TableMenu *m_menu;
 };

@@ -1,3 +1,4 @@
+#include "shared/machineaction.h"
 #include "shared/numberdelegate.h"
 #include "table/vectormodel.h"
 #include "table/vectorplot.h"
@@ -7,7 +8,6 @@
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
-#include <model/elementtypes.h>
 #include <tools/nivravectable.h>
 #include <tools/tablemenu.h>
 
@@ -30,12 +30,10 @@ NivraVecTable::NivraVecTable(NetData &net, Told told, QWidget *parent)
     , m_plot(new VectorPlot) {
   m_ui->setupUi(this);
   m_ui->tableWidget->setModel(m_model);
-  m_ui->tableWidget->addActions({m_ui->actionCopy_selectedItems, m_ui->actionOpenCharacteristics});
+  m_ui->tableWidget->addAction(m_ui->actionCopy_selectedItems);
   m_ui->tableWidget->setItemDelegate(new NumberDelegate(VectorModel::PropertyColumn, this));
-  TableMenu::offerActions(*m_ui->tableWidget,
-                          [this] { m_ui->actionOpenCharacteristics->setVisible(!selectedMachines().isEmpty()); });
-  connect(m_ui->actionOpenCharacteristics, &QAction::triggered, this,
-          [this] { emit characteristicsWanted(selectedMachines()); });
+  const auto *machines = new MachineAction(*m_ui->tableWidget, VectorModel::NameColumn, VectorModel::TypeColumn);
+  connect(machines, &MachineAction::triggered, this, &NivraVecTable::characteristicsWanted);
   m_menu = new TableMenu(*m_ui->tableWidget);
   addAction(m_ui->actionHelp);
   m_ui->plotLayout->insertWidget(0, m_plot);
@@ -146,17 +144,6 @@ std::vector<int> NivraVecTable::shownRows() const {
       rows.push_back(row);
   }
   return rows;
-}
-
-QStringList NivraVecTable::selectedMachines() const {
-  QStringList names;
-  for (const QModelIndex &cell : m_ui->tableWidget->selectionModel()->selectedIndexes()) {
-    const VectorRows::Row &row = m_model->rows()[static_cast<std::size_t>(cell.row())];
-    if (!m_ui->tableWidget->isRowHidden(cell.row()) && ElementTypes::hasCharacteristics(row.type))
-      names.append(row.name);
-  }
-  names.removeDuplicates();
-  return names;
 }
 
 void NivraVecTable::on_updateCats(const CatMap &catDataInput) {

@@ -68,7 +68,6 @@ private:
   void sortNumerically(std::vector<VectorRows::Row> rows);
   void showCount();
   std::vector<int> shownRows() const;
-  QStringList selectedMachines() const;
   void showPlot();
 
   std::unique_ptr<Ui::NivraVecTable> m_ui;
