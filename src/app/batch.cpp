@@ -183,7 +183,7 @@ bool applyFunctions(const CommandLine &line, NetVisControl &control, QString &re
 
 /// Ends the process with what the system does anyway: giving back a large network piece by piece takes as long as drawing
 /// it.
-[[noreturn]] void leave(int status) {
+[[noreturn]] void exitAtOnce(int status) {
   std::fflush(nullptr);
   _exit(status);
 }
@@ -233,7 +233,7 @@ int Batch::run(const CommandLine &line) {
     if (!writeAll(LogFiles::realStandardOutput(), json))
       return failed(tr("The answer could not be written to the standard output."));
   }
-  leave(0);
+  exitAtOnce(0);
 }
 
 int Batch::outOfMemory() {

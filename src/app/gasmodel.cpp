@@ -14,7 +14,7 @@ const QString &vocabularyType() {
   return type;
 }
 
-bool tellsWhatItIs(PropertyKey key) {
+bool isNameOrType(PropertyKey key) {
   static const PropertyKey word = PropertyKey::intern("obj_type");
   return key == Names::all().name || key == Names::all().type || key == word;
 }
@@ -30,9 +30,9 @@ void GasModel::set(const GasTable &gases, const NetMetaData &metaData) {
   m_rows.clear();
   std::map<QString, PropertyKey> properties; // by folded name
   for (const auto &[name, gas] : gases) {
-    m_gases.append(ScenarioModel::shown(name));
+    m_gases.append(ScenarioModel::shortened(name));
     for (const Property &property : gas) {
-      if (!tellsWhatItIs(property.key))
+      if (!isNameOrType(property.key))
         properties.try_emplace(property.key.name().toCaseFolded(), property.key);
     }
   }
@@ -43,7 +43,8 @@ void GasModel::set(const GasTable &gases, const NetMetaData &metaData) {
     row.texts[UnitColumn] = Units::written(display.unit(vocabularyType(), key));
     for (const auto &[name, gas] : gases) {
       const PropertyText *value = gas.find(key);
-      row.texts.append(value == nullptr ? QString() : ScenarioModel::shown(display.of(vocabularyType(), key, *value).value));
+      row.texts.append(value == nullptr ? QString()
+                                        : ScenarioModel::shortened(display.of(vocabularyType(), key, *value).value));
     }
     m_rows.push_back(std::move(row));
   }

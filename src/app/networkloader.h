@@ -34,7 +34,7 @@ public:
   /// False when the path yields no usable workspace; the reason is logged and kept for error().
   bool resolve(const QString &path);
   /// Makes the workspace that another loader resolved the current one.
-  void takeWorkspace(const NetworkLoader &other);
+  void useWorkspaceOf(const NetworkLoader &other);
   /// Case configuration and, where there is a scenario, scenario configuration with gas and solver parameters.
   void readConfiguration();
 

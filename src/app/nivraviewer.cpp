@@ -161,13 +161,13 @@ void NivraViewer::openWorkspace(const QString &path) {
       NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
     return;
   }
-  m_loader.takeWorkspace(loader);
+  m_loader.useWorkspaceOf(loader);
   if (centralWidget() != m_control->plot())
     setCentralWidget(m_control->plot());
   QCoreApplication::processEvents();
   GeneralSettings::instance().load(m_loader.workspace().root(), logFinding);
   if (Settings::StartWithLastScenario.value())
-    takeLastScenario();
+    useLastScenario();
   m_control->clear();
   m_loader.readConfiguration();
   setBusy(true);
@@ -191,7 +191,7 @@ void NivraViewer::openWorkspace(const QString &path) {
 }
 
 /// In place of a case alone the scenario of it that was opened last, where it still belongs to the chosen geometry.
-void NivraViewer::takeLastScenario() {
+void NivraViewer::useLastScenario() {
   const NivraWorkspace &workspace = m_loader.workspace();
   if (workspace.hasScenario())
     return;
@@ -201,7 +201,7 @@ void NivraViewer::takeLastScenario() {
       loader.workspace().geometryPath() != workspace.geometryPath() || loader.workspace().isJson() != workspace.isJson())
     return;
   NivraMsg::log(tr("Opening the scenario %1, which was opened last").arg(last));
-  m_loader.takeWorkspace(loader);
+  m_loader.useWorkspaceOf(loader);
 }
 
 OutcomeStyle::Outcome NivraViewer::outcome(bool isDone) const {

@@ -7,9 +7,9 @@
 ScenarioModel::ScenarioModel(QObject *parent)
     : GroupModel({tr("setting"), tr("value"), tr("source"), tr("comment")}, parent) {}
 
-QString ScenarioModel::shown(const QString &text) {
-  constexpr int Longest = 10000;
-  return text.size() > Longest ? text.left(Longest) + QStringLiteral("…") : text;
+QString ScenarioModel::shortened(const QString &text) {
+  constexpr int LongestCell = 10000;
+  return text.size() > LongestCell ? text.left(LongestCell) + QStringLiteral("…") : text;
 }
 
 void ScenarioModel::set(const ScenarioSummary &summary) {
@@ -35,13 +35,13 @@ int ScenarioModel::entryCount(int group) const {
 QString ScenarioModel::text(const ScenarioSummary::Row &row, int column) const {
   switch (column) {
   case NameColumn:
-    return shown(row.name);
+    return shortened(row.name);
   case ValueColumn:
-    return shown(row.value);
+    return shortened(row.value);
   case SourceColumn:
     return row.source.isEmpty() ? tr("default") : QDir(m_root).relativeFilePath(row.source);
   default:
-    return shown(row.comment);
+    return shortened(row.comment);
   }
 }
 

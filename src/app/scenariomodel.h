@@ -14,8 +14,9 @@ public:
 
   void set(const ScenarioSummary &summary);
 
-  /// A text as a cell shows it: a view measures every letter, which takes seconds for a text of megabytes.
-  static QString shown(const QString &text);
+  /// A text as a cell shows it, cut where it is very long: a view measures every letter, which takes seconds for a text of
+  /// megabytes.
+  static QString shortened(const QString &text);
 
 protected:
   int groupCount() const final;

@@ -96,7 +96,7 @@ bool CategoryFile::write(const QString &path, const std::vector<Category> &categ
   QString reason;
   if (WholeFile::write(path, FileAccess::Source::Workspace, text.toUtf8(), &reason))
     return true;
-  *error = QStringLiteral("Could not open categories file ") + path + QStringLiteral("!\n") + reason;
+  *error = tr("Could not open categories file %1!").arg(path) + QLatin1Char('\n') + reason;
   return false;
 }
 

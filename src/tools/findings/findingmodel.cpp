@@ -11,7 +11,7 @@ QString text(const Finding &finding, int column) {
   case FindingModel::ElementColumn:
     return finding.element;
   default:
-    return FindingList::place(finding);
+    return FindingList::location(finding);
   }
 }
 

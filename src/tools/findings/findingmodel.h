@@ -7,7 +7,7 @@
 class FindingModel final : public GroupModel {
   Q_OBJECT
 public:
-  enum Columns { TextColumn, ElementColumn, PlaceColumn };
+  enum Columns { TextColumn, ElementColumn, FileColumn };
 
   explicit FindingModel(QObject *parent = nullptr);
 

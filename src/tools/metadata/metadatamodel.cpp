@@ -4,19 +4,18 @@
 #include <tools/plaintip.h>
 
 MetaDataModel::MetaDataModel(QObject *parent)
-    : GroupModel({QStringLiteral("ShortNames"), QStringLiteral("LongNames"), QStringLiteral("Description (Attribute.csv)")},
-                 parent) {}
+    : GroupModel({tr("ShortNames"), tr("LongNames"), tr("Description (Attribute.csv)")}, parent) {}
 
 void MetaDataModel::set(const NetMetaData &metaData) {
   beginResetModel();
-  m_groups = {{QStringLiteral("ElementTypes"), types()},
-              {QStringLiteral("NodeFunctions"), functions(metaData, metaData.nodeFunctions())},
-              {QStringLiteral("EdgeFunctions"), functions(metaData, metaData.edgeFunctions())},
-              {QStringLiteral("GeomParms"), properties(metaData, QStringLiteral("geometry"))},
-              {QStringLiteral("ScenParms"), properties(metaData, QStringLiteral("scenario"))},
-              {QStringLiteral("ResultParms"), properties(metaData, QStringLiteral("results"))},
-              {QStringLiteral("GasParms"), properties(metaData, QStringLiteral("gas"))},
-              {QStringLiteral("VisParms"), properties(metaData, QString())}};
+  m_groups = {{tr("ElementTypes"), types()},
+              {tr("NodeFunctions"), functions(metaData, metaData.nodeFunctions())},
+              {tr("EdgeFunctions"), functions(metaData, metaData.edgeFunctions())},
+              {tr("GeomParms"), properties(metaData, QStringLiteral("geometry"))},
+              {tr("ScenParms"), properties(metaData, QStringLiteral("scenario"))},
+              {tr("ResultParms"), properties(metaData, QStringLiteral("results"))},
+              {tr("GasParms"), properties(metaData, QStringLiteral("gas"))},
+              {tr("VisParms"), properties(metaData, QString())}};
   endResetModel();
 }
 

@@ -3,7 +3,7 @@
 #include <QSize>
 
 PropertyModel::PropertyModel(QObject *parent)
-    : GroupModel({QStringLiteral("prop"), QStringLiteral("value"), QStringLiteral("unit")}, parent) {}
+    : GroupModel({tr("prop"), tr("value"), tr("unit")}, parent) {}
 
 void PropertyModel::set(std::vector<PropertyList::Group> groups) {
   beginResetModel();

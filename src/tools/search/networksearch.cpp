@@ -34,12 +34,12 @@ NetworkSearch::NetworkSearch(NetData &net, SearchParams params)
   m_current.matches = m_type.matches(m_current.text); // no type at all
 }
 
-/// What a run of candidates one after the other has yielded.
+/// What the search of consecutive candidates has found.
 struct NetworkSearch::Part {
   std::vector<SearchRow> rows;
-  std::vector<std::size_t> found;  ///< places of the elements with rows and without the mark
-  std::vector<std::size_t> former; ///< of those with the mark and without rows
-  std::size_t searched = 0;        ///< the place behind the last element that was
+  std::vector<std::size_t> found;  ///< indices of the candidates with rows and without the mark
+  std::vector<std::size_t> former; ///< indices of the candidates with the mark and without rows
+  std::size_t end = 0;             ///< the index behind the last candidate that was searched
   QString error;
   bool isStopped = false;
 };
@@ -62,7 +62,7 @@ NetworkSearch::Part NetworkSearch::searchPart(const std::vector<element *> &cand
     for (std::size_t known = stoppedAt; first < known && !stoppedAt.compare_exchange_weak(known, first);)
       ;
   }
-  part.searched = i;
+  part.end = i;
   return part;
 }
 
@@ -88,9 +88,10 @@ NetworkSearch::Result NetworkSearch::run() {
       candidate->erase(Names::all().searchResult); // marks of the search before
     return result;
   }
-  std::map<std::size_t, Part> parts; // by the place of their first element
+  std::map<std::size_t, Part> parts; // by the index of their first candidate
   std::mutex mutex;
-  std::atomic<std::size_t> stoppedAt = candidates.size(); // the first chunk that was, what follows is not searched
+  std::atomic<std::size_t> stoppedAt =
+      candidates.size(); // the beginning of the first part that stopped; what follows is not searched
   constexpr std::size_t Chunk = 2000;
   const auto makeState = [this] { // patterns and formulas remember things, so each thread has its own
     return NetworkSearch(m_net, m_params);
@@ -103,11 +104,11 @@ NetworkSearch::Result NetworkSearch::run() {
   std::size_t searched = 0;
   for (auto &[first, part] : parts) {
     std::move(part.rows.begin(), part.rows.end(), std::back_inserter(result.rows));
-    for (const std::size_t place : part.found)
-      candidates[place]->set(Names::all().searchResult, PropertyText(std::string_view("1")));
-    for (const std::size_t place : part.former)
-      candidates[place]->erase(Names::all().searchResult);
-    searched = part.searched;
+    for (const std::size_t index : part.found)
+      candidates[index]->set(Names::all().searchResult, PropertyText(std::string_view("1")));
+    for (const std::size_t index : part.former)
+      candidates[index]->erase(Names::all().searchResult);
+    searched = part.end;
     if (part.isStopped) {
       result.isStopped = true;
       result.error = part.error;

@@ -29,7 +29,7 @@ static void initialiseResources() {
 
 namespace {
 
-constexpr double Milli = 1e-3;
+constexpr double SecondsPerMillisecond = 1e-3;
 
 } // namespace
 
@@ -96,8 +96,7 @@ void NivraSearch::defineSearch(const QStringList &searchDef, bool regex) {
   m_ui->lineEdit_searchString->setText(searchDef.at(3));
   m_lastField = m_ui->lineEdit_name; // nobody has edited the others
   m_ui->pushButton_regex->setChecked(regex);
-  clearFormulas();
-  searchWithFormula();
+  searchAnew();
 }
 
 void NivraSearch::enterLastField() {
@@ -105,6 +104,12 @@ void NivraSearch::enterLastField() {
   raise();
   m_lastField->setFocus();
   m_lastField->selectAll();
+}
+
+/// Without the formula that was entered in the dialog; one in the value field counts.
+void NivraSearch::searchAnew() {
+  clearFormulas();
+  searchWithFormula();
 }
 
 void NivraSearch::searchWithFormula() {
@@ -118,10 +123,10 @@ void NivraSearch::searchWithFormula() {
   timer.start();
   NetworkSearch search(m_net, searchParams());
   tell(m_told, Finding::Severity::Debug,
-       QStringLiteral("NivraSearch prep time: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+       QStringLiteral("NivraSearch prep time: %1").arg(static_cast<double>(timer.elapsed()) * SecondsPerMillisecond));
   NetworkSearch::Result result = search.run();
   tell(m_told, Finding::Severity::Debug,
-       QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+       QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * SecondsPerMillisecond));
   m_results->show(std::move(result.rows));
   showCount();
   showHint(result.isStopped ? result.error : SearchHint::of(m_net, searchParams(), m_results->rows().size()));
@@ -156,7 +161,7 @@ void NivraSearch::updateSearchItems(element &changed, const QString &oldName) {
   m_results->replace(oldName.isEmpty() ? changed.value(Names::all().name) : oldName, rows);
   showCount();
   tell(m_told, Finding::Severity::Debug,
-       QStringLiteral("updateSearchItem: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+       QStringLiteral("updateSearchItem: %1").arg(static_cast<double>(timer.elapsed()) * SecondsPerMillisecond));
 }
 
 bool NivraSearch::select(const QString &elementName) {
@@ -165,18 +170,15 @@ bool NivraSearch::select(const QString &elementName) {
 
 void NivraSearch::searchFrom(QLineEdit *field) {
   m_lastField = field;
-  clearFormulas();
-  searchWithFormula();
+  searchAnew();
 }
 
 void NivraSearch::on_pushButton_search_clicked() {
-  clearFormulas();
-  searchWithFormula();
+  searchAnew();
 }
 
 void NivraSearch::on_pushButton_regex_clicked() {
-  clearFormulas();
-  searchWithFormula();
+  searchAnew();
 }
 
 void NivraSearch::on_lineEdit_name_returnPressed() {
@@ -346,6 +348,5 @@ void NivraSearch::searchNames(const QString &names) {
     return;
   m_ui->lineEdit_name->setText(parts.join(QLatin1Char('|')));
   m_ui->pushButton_regex->setChecked(true);
-  clearFormulas();
-  searchWithFormula();
+  searchAnew();
 }

@@ -85,6 +85,7 @@ protected:
 
 private:
   void clearFormulas();
+  void searchAnew();
   void searchFrom(QLineEdit *field);
   void showCount();
   /// Below the rows; nothing for an empty text.
