@@ -80,7 +80,7 @@ QStringList NivraVecTable::headers() const {
   return texts;
 }
 
-/// Rows that the filters of the list before would hide look as if something were wrong.
+/// Without the filters of the list before: nobody would expect them to hide rows of this one.
 void NivraVecTable::listSomethingElse() {
   m_menu->clearFilters();
   on_pushButtonUpdate_clicked();

@@ -50,7 +50,7 @@ public:
   static void offerCopy(QAbstractItemView &view);
 
 signals:
-  void filtered(); ///< other rows are shown, or others than before have been filtered
+  void filtered(); ///< the filters have changed, or there are other rows that they show and hide
 
 private:
   void showMenu(const QPoint &position);
