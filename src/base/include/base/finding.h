@@ -7,12 +7,7 @@
 
 /// Something that reading or checking noticed: the step returns it, the caller decides who is told.
 struct Finding {
-  enum class Severity {
-    Debug, ///< for the log file alone
-    Information,
-    Warning,
-    Critical
-  };
+  enum class Severity { Debug, Information, Warning, Critical }; ///< Debug is for the log file alone
 
   Severity severity = Severity::Warning;
   QString file;                  ///< path, empty when the finding belongs to no file
