@@ -14,10 +14,6 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("AboutBox", text);
-}
-
 /// "MMM d yyyy hh:mm:ss" of this file's compilation, which follows every change of what git knows.
 QString buildTime() {
   const QDateTime time =

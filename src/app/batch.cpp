@@ -6,26 +6,22 @@
 #include <base/generalsettings.h>
 #include <base/logfiles.h>
 #include <base/nivramsg.h>
+#include <drawing/drawfunctions.h>
+#include <model/names.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 #include <view/plotexport.h>
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
 
 #include <cstdio>
-#include <drawing/drawfunctions.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
-
-QString tr(const char *text) {
-  return QCoreApplication::translate("Batch", text);
-}
 
 bool writeAll(int descriptor, const QByteArray &text) {
   qint64 done = 0;
@@ -57,12 +53,11 @@ struct Counts {
 };
 
 Counts count(NetData &net) {
-  static const PropertyKey typeKey = PropertyKey::intern("type");
   std::map<std::string, int> types;
   Counts counts;
   net.forEach(NetData::AllTypes, [&](element &e) {
     counts.properties += static_cast<double>(e.size());
-    const PropertyText *type = e.find(typeKey);
+    const PropertyText *type = e.find(Names::all().type);
     ++types[type == nullptr ? std::string() : std::string(type->utf8())];
   });
   for (const auto &[code, number] : types)
@@ -90,7 +85,7 @@ void addMessages(QJsonObject &object, const NetworkLoader &loader, const NivraMs
     }
   }
   if (recorder.dropped() > 0)
-    warnings.append(tr("... and %1 more, see the log").arg(recorder.dropped()));
+    warnings.append(Batch::tr("... and %1 more, see the log").arg(recorder.dropped()));
   object.insert(QStringLiteral("findings"), QJsonArray::fromStringList(findings));
   object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(warnings));
 }
@@ -160,7 +155,7 @@ bool applyFunctions(const CommandLine &line, NetVisControl &control, QString &re
     if (chosen.isEmpty())
       continue;
     if (chosen != PlotSettings::fixedSize() && !DrawFunction::find(chosen, control.net()).isKnown()) {
-      reason = tr("No element has the property \"%1\".").arg(chosen);
+      reason = Batch::tr("No element has the property \"%1\".").arg(chosen);
       return false;
     }
     PlotSettings::Function &function = settings.functions[aspect];
@@ -179,7 +174,7 @@ bool applyFunctions(const CommandLine &line, NetVisControl &control, QString &re
 
 /// Ends the process with what the system does anyway: giving back a large network piece by piece takes as long as drawing
 /// it.
-[[noreturn]] void leave(int status) {
+[[noreturn]] void exitAtOnce(int status) {
   std::fflush(nullptr);
   _exit(status);
 }
@@ -229,7 +224,7 @@ int Batch::run(const CommandLine &line) {
     if (!writeAll(LogFiles::realStandardOutput(), json))
       return failed(tr("The answer could not be written to the standard output."));
   }
-  leave(0);
+  exitAtOnce(0);
 }
 
 int Batch::outOfMemory() {

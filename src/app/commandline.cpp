@@ -12,10 +12,6 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("CommandLine", text);
-}
-
 CommandLine wrong(const QString &text) {
   CommandLine line;
   line.action = CommandLine::Action::Wrong;
@@ -66,8 +62,42 @@ struct ToolkitOptions {
   }
 };
 
+/// The options that say how large the picture is.
+struct SizeOptions {
+  Q_DECLARE_TR_FUNCTIONS(CommandLine)
+public:
+  QCommandLineOption width{QStringLiteral("width"),
+                           tr("Width of the picture in pixels, %1 by default.").arg(CommandLine::DefaultWidth),
+                           QStringLiteral("PIXELS")};
+  QCommandLineOption scale{QStringLiteral("scale"),
+                           tr("Size of texts, lines and symbols in the picture against those on the screen, 1 by default."),
+                           QStringLiteral("FACTOR")};
+
+  QList<QCommandLineOption> all() const { return {width, scale}; }
+
+  /// Why the options make no sense; empty when they do.
+  QString take(const QCommandLineParser &parser, CommandLine &line) const {
+    bool isNumber = true;
+    if (parser.isSet(width))
+      line.width = parser.value(width).toInt(&isNumber);
+    if (parser.isSet(width) && (!isNumber || line.width < 1 || line.picture.isEmpty()))
+      return tr("--width takes a positive number of pixels and goes with --export.");
+    line.width = qMin(line.width, CommandLine::LargestWidth);
+    if (parser.isSet(scale))
+      line.scale = parser.value(scale).toDouble(&isNumber);
+    const bool isInRange = line.scale >= CommandLine::SmallestScale && line.scale <= CommandLine::LargestScale;
+    if (parser.isSet(scale) && (!isNumber || !isInRange || line.picture.isEmpty()))
+      return tr("--scale takes a number from %1 to %2 and goes with --export.")
+          .arg(CommandLine::SmallestScale)
+          .arg(CommandLine::LargestScale);
+    return QString();
+  }
+};
+
 /// The options that say what the picture shows.
 struct DrawOptions {
+  Q_DECLARE_TR_FUNCTIONS(CommandLine)
+public:
   PerAspect<QCommandLineOption> functions{
       {QCommandLineOption(QStringLiteral("color-by"), tr("Property by which the edges are coloured."),
                           QStringLiteral("PROPERTY")),
@@ -134,15 +164,9 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
   const QCommandLineOption info(QStringLiteral("info"), tr("Writes what FILE holds as one JSON object."));
   const QCommandLineOption picture(QStringLiteral("export"), tr("Writes the drawing of FILE; the suffix gives the format."),
                                    QStringLiteral("PICTURE"));
-  const QCommandLineOption width(QStringLiteral("width"),
-                                 tr("Width of the picture in pixels, %1 by default.").arg(DefaultWidth),
-                                 QStringLiteral("PIXELS"));
-  const QCommandLineOption scale(
-      QStringLiteral("scale"),
-      tr("Size of texts, lines and symbols in the picture against those on the screen, 1 by default."),
-      QStringLiteral("FACTOR"));
+  const SizeOptions size;
   const DrawOptions drawing;
-  parser.addOptions(QList<QCommandLineOption>{help, version, info, picture, width, scale} + drawing.all());
+  parser.addOptions(QList<QCommandLineOption>{help, version, info, picture} + size.all() + drawing.all());
   parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
   QString style;
   if (!parser.parse(ToolkitOptions::without(arguments, style)))
@@ -165,19 +189,7 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
     if (files.size() != 1)
       return wrong(tr("--info and --export take exactly one FILE."));
   }
-  if (parser.isSet(width)) {
-    bool isNumber = false;
-    line.width = parser.value(width).toInt(&isNumber);
-    if (!isNumber || line.width < 1 || !parser.isSet(picture))
-      return wrong(tr("--width takes a positive number of pixels and goes with --export."));
-    line.width = qMin(line.width, LargestWidth);
-  }
-  if (parser.isSet(scale)) {
-    bool isNumber = false;
-    line.scale = parser.value(scale).toDouble(&isNumber);
-    if (!isNumber || !(line.scale >= SmallestScale && line.scale <= LargestScale) || !parser.isSet(picture))
-      return wrong(tr("--scale takes a number from %1 to %2 and goes with --export.").arg(SmallestScale).arg(LargestScale));
-  }
-  const QString reason = drawing.take(parser, line);
+  const QString wrongSize = size.take(parser, line);
+  const QString reason = wrongSize.isEmpty() ? drawing.take(parser, line) : wrongSize;
   return reason.isEmpty() ? line : wrong(reason);
 }

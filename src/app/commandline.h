@@ -1,13 +1,16 @@
 #pragma once
 
+#include <drawing/aspect.h>
+
+#include <QCoreApplication>
 #include <QRectF>
 #include <QString>
 #include <QStringList>
 
-#include <drawing/aspect.h>
-
 /// What the command line asks for.
 struct CommandLine {
+  Q_DECLARE_TR_FUNCTIONS(CommandLine)
+public:
   enum class Action {
     Window, ///< open the window, with file when given
     Batch,  ///< info and export, without a window or display

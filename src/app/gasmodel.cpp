@@ -2,6 +2,7 @@
 
 #include "scenariomodel.h"
 
+#include <model/names.h>
 #include <tools/displayvalue.h>
 #include <tools/plaintip.h>
 
@@ -13,9 +14,9 @@ const QString &vocabularyType() {
   return type;
 }
 
-bool tellsWhatItIs(const PropertyKey &key) {
-  const QString name = key.name().toLower();
-  return name == QLatin1String("name") || name == QLatin1String("type") || name == QLatin1String("obj_type");
+bool isNameOrType(PropertyKey key) {
+  static const PropertyKey word = PropertyKey::intern("obj_type");
+  return key == Names::all().name || key == Names::all().type || key == word;
 }
 
 } // namespace
@@ -29,9 +30,9 @@ void GasModel::set(const GasTable &gases, const NetMetaData &metaData) {
   m_rows.clear();
   std::map<QString, PropertyKey> properties; // by folded name
   for (const auto &[name, gas] : gases) {
-    m_gases.append(ScenarioModel::shown(name));
+    m_gases.append(ScenarioModel::shortened(name));
     for (const Property &property : gas) {
-      if (!tellsWhatItIs(property.key))
+      if (!isNameOrType(property.key))
         properties.try_emplace(property.key.name().toCaseFolded(), property.key);
     }
   }
@@ -42,7 +43,8 @@ void GasModel::set(const GasTable &gases, const NetMetaData &metaData) {
     row.texts[UnitColumn] = Units::written(display.unit(vocabularyType(), key));
     for (const auto &[name, gas] : gases) {
       const PropertyText *value = gas.find(key);
-      row.texts.append(value == nullptr ? QString() : ScenarioModel::shown(display.of(vocabularyType(), key, *value).value));
+      row.texts.append(value == nullptr ? QString()
+                                        : ScenarioModel::shortened(display.of(vocabularyType(), key, *value).value));
     }
     m_rows.push_back(std::move(row));
   }

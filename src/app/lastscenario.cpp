@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int MostCases = 200;
+constexpr int RememberedCases = 200;
 
 QString file() {
   return LogFiles::directory() + QStringLiteral("/lastscenarios.json");
@@ -51,7 +51,7 @@ void LastScenario::remember(const QString &caseDirectory, const QString &scenari
   QJsonArray entries;
   entries.append(QJsonArray{own, inCase});
   for (const QJsonValue &entry : before) {
-    if (entry[0].toString() != own && entries.size() < MostCases)
+    if (entry[0].toString() != own && entries.size() < RememberedCases)
       entries.append(entry);
   }
   QString reason;

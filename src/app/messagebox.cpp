@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QPushButton>
 #include <QScreen>
 #include <QTextBlock>
 
@@ -18,15 +19,15 @@ namespace {
 QString boxTitle(NivraMsg::Kind kind) {
   switch (kind) {
   case NivraMsg::Kind::Information:
-    return QCoreApplication::translate("MessageBox", "Information");
+    return MessageBox::tr("Information");
   case NivraMsg::Kind::Warning:
-    return QCoreApplication::translate("MessageBox", "Warning");
+    return MessageBox::tr("Warning");
   case NivraMsg::Kind::Critical:
-    return QCoreApplication::translate("MessageBox", "Critical");
+    return MessageBox::tr("Critical");
   case NivraMsg::Kind::Question:
     break;
   }
-  return QCoreApplication::translate("MessageBox", "Question");
+  return MessageBox::tr("Question");
 }
 
 QMessageBox::Icon boxIcon(NivraMsg::Kind kind) {
@@ -86,6 +87,27 @@ QMessageBox::StandardButton buttonOf(NivraMsg::Answer answer) {
   return static_cast<QMessageBox::StandardButton>(answer);
 }
 
+/// The toolkit's own texts of these buttons mostly have no key.
+QString buttonText(NivraMsg::Answer answer) {
+  switch (answer) {
+  case NivraMsg::Answer::None:
+    break;
+  case NivraMsg::Answer::Ok:
+    return MessageBox::tr("&OK");
+  case NivraMsg::Answer::Save:
+    return MessageBox::tr("&Save");
+  case NivraMsg::Answer::Yes:
+    return MessageBox::tr("&Yes");
+  case NivraMsg::Answer::No:
+    return MessageBox::tr("&No");
+  case NivraMsg::Answer::Cancel:
+    return MessageBox::tr("&Cancel");
+  case NivraMsg::Answer::Discard:
+    return MessageBox::tr("&Discard");
+  }
+  return QString();
+}
+
 } // namespace
 
 NivraMsg::Answer MessageBox::show(const NivraMsg::Box &content) {
@@ -98,7 +120,7 @@ NivraMsg::Answer MessageBox::show(const NivraMsg::Box &content) {
   box->setText(content.text);
   box->setWindowIcon(productLogo());
   for (const NivraMsg::Answer answer : content.buttons)
-    box->addButton(buttonOf(answer));
+    box->addButton(buttonOf(answer))->setText(buttonText(answer));
   if (content.preferred != NivraMsg::Answer::None)
     box->setDefaultButton(buttonOf(content.preferred));
   if (isLong(content.text))

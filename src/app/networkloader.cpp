@@ -18,11 +18,7 @@
 
 namespace {
 
-constexpr double Milli = 1e-3;
-
-QString tr(const char *text) {
-  return QCoreApplication::translate("NetworkLoader", text);
-}
+constexpr double SecondsPerMillisecond = 1e-3;
 
 QString firstCritical(const Findings &findings) {
   for (const Finding &finding : findings) {
@@ -44,7 +40,7 @@ void warnOf(const Findings &findings) {
   for (const Finding &finding : findings)
     text += finding.text + QLatin1Char('\n');
   if (!text.isEmpty()) {
-    NivraMsg::message(NivraMsg::Kind::Warning, QStringLiteral("Check with findings! See log! Beginning:\n") +
+    NivraMsg::message(NivraMsg::Kind::Warning, NetworkLoader::tr("Check with findings! See log! Beginning:\n") +
                                                    text.section(QStringLiteral("..."), 0, 200));
     NivraMsg::log(text.replace(QLatin1Char('\n'), QStringLiteral("<br/>")));
   }
@@ -79,7 +75,7 @@ bool NetworkLoader::resolve(const QString &path) {
   return false;
 }
 
-void NetworkLoader::takeWorkspace(const NetworkLoader &other) {
+void NetworkLoader::useWorkspaceOf(const NetworkLoader &other) {
   m_workspace = other.m_workspace;
   FileAccess::confineTo(m_workspace.root());
   m_seconds.clear();
@@ -100,7 +96,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   QElapsedTimer timer;
   timer.start();
   const auto note = [&](const QString &stage) {
-    m_seconds.append({stage, static_cast<double>(timer.restart()) * Milli});
+    m_seconds.append({stage, static_cast<double>(timer.restart()) * SecondsPerMillisecond});
   };
   m_noticed.clear();
   m_machines = MachineData();
@@ -225,13 +221,11 @@ bool NetworkLoader::computeFormulas(const Progress &progress) {
     };
     definitions.erase(std::remove_if(definitions.begin(), definitions.end(), isOfResults), definitions.end());
   }
-  Findings prepared = m_formulas.setDefinitions(definitions);
-  std::move(prepared.begin(), prepared.end(), std::back_inserter(findings));
-  Findings failures = m_formulas.apply([&](double fraction) {
+  append(findings, m_formulas.setDefinitions(definitions));
+  append(findings, m_formulas.apply([&](double fraction) {
     m_cancelled = progress && !progress(fraction);
     return !m_cancelled;
-  });
-  std::move(failures.begin(), failures.end(), std::back_inserter(findings));
+  }));
   report(findings);
   notice(tr("Formulas"), std::move(findings));
   noticeViolations();

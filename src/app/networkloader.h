@@ -11,6 +11,7 @@
 #include <model/netdata.h>
 #include <tools/findinglist.h>
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -22,6 +23,7 @@
 /// Brings a chosen file into a NetData: workspace, configuration, network, checks. It knows no widgets; the window and
 /// the command line both drive it, stage by stage.
 class NetworkLoader {
+  Q_DECLARE_TR_FUNCTIONS(NetworkLoader)
 public:
   /// Seconds by stage, in the order of the stages.
   using Seconds = QVector<std::pair<QString, double>>;
@@ -33,7 +35,7 @@ public:
   /// False when the path yields no usable workspace; the reason is logged and kept for error().
   bool resolve(const QString &path);
   /// Makes the workspace that another loader resolved the current one.
-  void takeWorkspace(const NetworkLoader &other);
+  void useWorkspaceOf(const NetworkLoader &other);
   /// Case configuration and, where there is a scenario, scenario configuration with gas and solver parameters.
   void readConfiguration();
 

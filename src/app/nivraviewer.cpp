@@ -8,9 +8,11 @@
 #include "subnetwindow.h"
 #include "tooldocks.h"
 #include "ui_nivraviewer.h"
+#include "wheelguard.h"
 
 #include <base/fileaccess.h>
 #include <base/finding.h>
+#include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <base/settings.h>
 #include <tools/categorylist.h>
@@ -38,8 +40,9 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_ui(std::make_unique<Ui::NivraViewer>())
     , m_control(std::make_unique<NetVisControl>(m_net, QString(), logFinding))
     , m_loader(m_net)
-    , m_categories(std::make_shared<CategoryList>())
+    , m_categories(std::make_shared<CategoryList>(logFinding))
     , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); }) {
+  qApp->installEventFilter(new WheelGuard(this));
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());
@@ -97,9 +100,12 @@ QString NivraViewer::openDialogStart(const QString &applicationDir) {
 }
 
 void NivraViewer::on_actionOpen_triggered() {
+  LastFolder &folder = LastFolder::ofOpening();
   const QString path = QFileDialog::getOpenFileName(
-      this, tr("Select Geometry or Scenario File"), openDialogStart(QCoreApplication::applicationDirPath()),
+      this, tr("Select Geometry or Scenario File"),
+      folder.path().isEmpty() ? openDialogStart(QCoreApplication::applicationDirPath()) : folder.path(),
       tr("Scenario Files (*.scen *.scen.jsn);;Geom Files (*.geom *.geom.jsn)"));
+  folder.remember(path);
   if (!path.isEmpty())
     open(path);
 }
@@ -159,13 +165,13 @@ void NivraViewer::openWorkspace(const QString &path) {
       NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
     return;
   }
-  m_loader.takeWorkspace(loader);
+  m_loader.useWorkspaceOf(loader);
   if (centralWidget() != m_control->plot())
     setCentralWidget(m_control->plot());
   QCoreApplication::processEvents();
   GeneralSettings::instance().load(m_loader.workspace().root(), logFinding);
   if (Settings::StartWithLastScenario.value())
-    takeLastScenario();
+    useLastScenario();
   m_control->clear();
   m_loader.readConfiguration();
   setBusy(true);
@@ -189,7 +195,7 @@ void NivraViewer::openWorkspace(const QString &path) {
 }
 
 /// In place of a case alone the scenario of it that was opened last, where it still belongs to the chosen geometry.
-void NivraViewer::takeLastScenario() {
+void NivraViewer::useLastScenario() {
   const NivraWorkspace &workspace = m_loader.workspace();
   if (workspace.hasScenario())
     return;
@@ -199,7 +205,7 @@ void NivraViewer::takeLastScenario() {
       loader.workspace().geometryPath() != workspace.geometryPath() || loader.workspace().isJson() != workspace.isJson())
     return;
   NivraMsg::log(tr("Opening the scenario %1, which was opened last").arg(last));
-  m_loader.takeWorkspace(loader);
+  m_loader.useWorkspaceOf(loader);
 }
 
 OutcomeStyle::Outcome NivraViewer::outcome(bool isDone) const {

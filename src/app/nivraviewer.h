@@ -58,7 +58,7 @@ private:
   void setUpForm();
   void applyStyleSheet(const QString &path);
   void openWorkspace(const QString &path);
-  void takeLastScenario();
+  void useLastScenario();
   OutcomeStyle::Outcome outcome(bool isDone) const;
   bool readWorkspace();
   bool askForIncludeLists(NetworkLoader::ReadOptions &options);

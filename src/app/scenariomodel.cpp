@@ -3,20 +3,13 @@
 #include <tools/plaintip.h>
 
 #include <QDir>
-#include <QFont>
-
-namespace {
-
-constexpr quintptr OfSection = 0; // the internal id of a section; a setting has the number of its section, from 1 on
-
-} // namespace
 
 ScenarioModel::ScenarioModel(QObject *parent)
-    : QAbstractItemModel(parent) {}
+    : GroupModel({tr("setting"), tr("value"), tr("source"), tr("comment")}, parent) {}
 
-QString ScenarioModel::shown(const QString &text) {
-  constexpr int Longest = 10000;
-  return text.size() > Longest ? text.left(Longest) + QStringLiteral("…") : text;
+QString ScenarioModel::shortened(const QString &text) {
+  constexpr int LongestCell = 10000;
+  return text.size() > LongestCell ? text.left(LongestCell) + QStringLiteral("…") : text;
 }
 
 void ScenarioModel::set(const ScenarioSummary &summary) {
@@ -31,81 +24,47 @@ void ScenarioModel::set(const ScenarioSummary &summary) {
   endResetModel();
 }
 
-QModelIndex ScenarioModel::index(int row, int column, const QModelIndex &parent) const {
-  if (!hasIndex(row, column, parent))
-    return QModelIndex();
-  return createIndex(row, column, parent.isValid() ? static_cast<quintptr>(parent.row()) + 1 : OfSection);
+int ScenarioModel::groupCount() const {
+  return static_cast<int>(m_sections.size());
 }
 
-QModelIndex ScenarioModel::parent(const QModelIndex &child) const {
-  if (!child.isValid() || child.internalId() == OfSection)
-    return QModelIndex();
-  return createIndex(static_cast<int>(child.internalId()) - 1, 0, OfSection);
-}
-
-int ScenarioModel::rowCount(const QModelIndex &parent) const {
-  if (!parent.isValid())
-    return static_cast<int>(m_sections.size());
-  if (parent.internalId() != OfSection || parent.column() != NameColumn)
-    return 0;
-  return static_cast<int>(m_sections[static_cast<std::size_t>(parent.row())].rows.size());
-}
-
-int ScenarioModel::columnCount(const QModelIndex & /*parent*/) const {
-  return ColumnCount;
-}
-
-const ScenarioSummary::Row *ScenarioModel::rowAt(const QModelIndex &index) const {
-  if (index.internalId() == OfSection)
-    return nullptr;
-  return &m_sections[static_cast<std::size_t>(index.internalId()) - 1].rows[static_cast<std::size_t>(index.row())];
+int ScenarioModel::entryCount(int group) const {
+  return static_cast<int>(at(group).rows.size());
 }
 
 QString ScenarioModel::text(const ScenarioSummary::Row &row, int column) const {
   switch (column) {
   case NameColumn:
-    return shown(row.name);
+    return shortened(row.name);
   case ValueColumn:
-    return shown(row.value);
+    return shortened(row.value);
   case SourceColumn:
     return row.source.isEmpty() ? tr("default") : QDir(m_root).relativeFilePath(row.source);
   default:
-    return shown(row.comment);
+    return shortened(row.comment);
   }
 }
 
-QVariant ScenarioModel::data(const QModelIndex &index, int role) const {
-  if (!index.isValid())
-    return QVariant();
-  const ScenarioSummary::Row *row = rowAt(index);
-  if (row == nullptr) {
-    if (role == Qt::DisplayRole && index.column() == NameColumn)
-      return m_sections[static_cast<std::size_t>(index.row())].name;
-    if (role == Qt::FontRole) {
-      QFont font;
-      font.setBold(true);
-      return font;
-    }
-    return QVariant();
-  }
+QVariant ScenarioModel::groupData(int group, int column, int role) const {
+  if (role == Qt::DisplayRole && column == NameColumn)
+    return at(group).name;
+  return role == Qt::FontRole ? boldFont() : QVariant();
+}
+
+QVariant ScenarioModel::entryData(int group, int entry, int column, int role) const {
+  const ScenarioSummary::Row &row = at(group).rows[static_cast<std::size_t>(entry)];
   switch (role) {
   case Qt::DisplayRole:
-    return text(*row, index.column());
+    return text(row, column);
   case Qt::ToolTipRole:
-    return PlainTip::of(index.column() == SourceColumn && !row->source.isEmpty() ? row->source : text(*row, index.column()));
+    return PlainTip::of(column == SourceColumn && !row.source.isEmpty() ? row.source : text(row, column));
   case FilterRole: {
-    QStringList all{row->section};
-    for (int column = 0; column < ColumnCount; ++column)
-      all.append(text(*row, column));
+    QStringList all{row.section};
+    for (int shownColumn = 0; shownColumn < columnCount(); ++shownColumn)
+      all.append(text(row, shownColumn));
     return all.join(QLatin1Char('\n'));
   }
   default:
     return QVariant();
   }
-}
-
-QVariant ScenarioModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-    return QVariant();
-  return QStringList{tr("setting"), tr("value"), tr("source"), tr("comment")}.value(section);
 }

@@ -1,29 +1,28 @@
 #pragma once
 
 #include <io/scenariosummary.h>
-
-#include <QAbstractItemModel>
+#include <tools/groupmodel.h>
 
 /// What case and scenario carry beside the network: sections, below each its settings with value, source and comment.
-class ScenarioModel : public QAbstractItemModel {
+class ScenarioModel final : public GroupModel {
   Q_OBJECT
 public:
-  enum Columns { NameColumn, ValueColumn, SourceColumn, CommentColumn, ColumnCount };
+  enum Columns { NameColumn, ValueColumn, SourceColumn, CommentColumn };
   enum Roles { FilterRole = Qt::UserRole }; ///< of a setting: every text of its row and its section; of a section: nothing
 
   explicit ScenarioModel(QObject *parent = nullptr);
 
   void set(const ScenarioSummary &summary);
 
-  /// A text as a cell shows it: a view measures every letter, which takes seconds for a text of megabytes.
-  static QString shown(const QString &text);
+  /// A text as a cell shows it, cut where it is very long: a view measures every letter, which takes seconds for a text of
+  /// megabytes.
+  static QString shortened(const QString &text);
 
-  QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const final;
-  QModelIndex parent(const QModelIndex &child) const final;
-  int rowCount(const QModelIndex &parent = QModelIndex()) const final;
-  int columnCount(const QModelIndex &parent = QModelIndex()) const final;
-  QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const final;
-  QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const final;
+protected:
+  int groupCount() const final;
+  int entryCount(int group) const final;
+  QVariant groupData(int group, int column, int role) const final;
+  QVariant entryData(int group, int entry, int column, int role) const final;
 
 private:
   struct Section {
@@ -31,7 +30,7 @@ private:
     std::vector<ScenarioSummary::Row> rows;
   };
 
-  const ScenarioSummary::Row *rowAt(const QModelIndex &index) const;
+  const Section &at(int group) const { return m_sections[static_cast<std::size_t>(group)]; }
   QString text(const ScenarioSummary::Row &row, int column) const;
 
   std::vector<Section> m_sections;

@@ -77,9 +77,9 @@ void SubnetWindow::giveProperty(const ElementChange &change) {
 }
 
 void SubnetWindow::takeProperties() {
-  static const PropertyKey searched = PropertyKey::intern("isSearchResult"); // each window has its own search
-  m_net.forEach(NetData::AllTypes, [this](element &here) {
-    const element *there = m_whole.element(here.value(QStringLiteral("name")));
+  const PropertyKey searched = Names::all().searchResult; // each window has its own search
+  m_net.forEach(NetData::AllTypes, [this, searched](element &here) {
+    const element *there = m_whole.element(here.value(Names::all().name));
     if (there == nullptr)
       return;
     const PropertyText *mark = here.find(searched);
@@ -107,8 +107,8 @@ NetData SubnetWindow::part(const NetData &net, const QString &subnet) {
   }
   // Also edges of the network itself that run between what is shown.
   for (const elements::Entry &entry : net.edges()) {
-    const PropertyText *node1 = entry.value.find(QStringLiteral("node1"));
-    const PropertyText *node2 = entry.value.find(QStringLiteral("node2"));
+    const PropertyText *node1 = entry.value.find(Names::all().node1);
+    const PropertyText *node2 = entry.value.find(Names::all().node2);
     if (node1 != nullptr && node2 != nullptr && part.nodes().find(*node1) != nullptr && part.nodes().find(*node2) != nullptr)
       part.addElement(entry.value);
   }

@@ -6,7 +6,9 @@
 
 #include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
+#include <drawing/labelcontents.h>
 #include <io/nivraworkspace.h>
+#include <model/names.h>
 #include <tools/metadatatable.h>
 #include <tools/nivrafindings.h>
 #include <tools/nivranetlayerseditor.h>
@@ -28,7 +30,6 @@
 #include <QToolButton>
 
 #include <algorithm>
-#include <drawing/labelcontents.h>
 
 namespace {
 
@@ -189,7 +190,7 @@ void ToolDocks::openCharacteristics(const QStringList &names) {
 }
 
 void ToolDocks::createLayers() {
-  m_layers = new NivraNetLayersEditor(m_net, &m_window);
+  m_layers = new NivraNetLayersEditor(m_net, logFinding, &m_window);
   addDock(m_layers, QStringLiteral("layers"), Qt::LeftDockWidgetArea);
   connect(m_layers, &NivraNetLayersEditor::layerVisChanged, &m_control, &NetVisControl::setHiddenLayers);
   connect(&m_control, &NetVisControl::hiddenLayersChanged, m_layers, &NivraNetLayersEditor::setHiddenLayers);
@@ -208,7 +209,7 @@ void ToolDocks::createCategories() {
 NivraVecTable *ToolDocks::vectorTable() {
   if (m_vectorTable != nullptr)
     return m_vectorTable.get();
-  m_vectorTable = std::make_unique<NivraVecTable>(m_net);
+  m_vectorTable = std::make_unique<NivraVecTable>(m_net, logFinding);
   m_vectorTable->setDirectory(m_directory);
   connect(m_vectorTable.get(), &NivraVecTable::helpWanted, this, &ToolDocks::showHelp);
   connect(m_vectorTable.get(), &NivraVecTable::elementMarked, this, &ToolDocks::elementMarked);
@@ -309,7 +310,7 @@ NivraEleInfoWidget::PlotLabel ToolDocks::plotLabel(const element &e) const {
   if (contents == nullptr)
     return {};
   const LabelText text = contents->text(e);
-  const LabelStyle style = contents->style(e, m_net.findElement(e.value(QStringLiteral("name")), NetData::AllTypes).first);
+  const LabelStyle style = contents->style(e, m_net.findElement(e.value(Names::all().name), NetData::AllTypes).first);
   QStringList lines;
   for (const QString &line : text.lines)
     lines.append(line.toHtmlEscaped());
@@ -361,7 +362,7 @@ void ToolDocks::showProperties(const QStringList &names) {
 }
 
 void ToolDocks::createSearch() {
-  m_search = new NivraSearch(m_net, &m_window);
+  m_search = new NivraSearch(m_net, logFinding, &m_window);
   addDock(m_search, QStringLiteral("search"), Qt::LeftDockWidgetArea);
   connect(m_search, &NivraSearch::elementMarked, this, &ToolDocks::elementMarked);
   connect(m_search, &NivraSearch::itemDoubleClicked, this,
@@ -376,6 +377,7 @@ void ToolDocks::createSearch() {
   connect(m_search, &NivraSearch::characteristicsWanted, &m_control, &NetVisControl::openCharacteristicsRequested);
   connect(m_categories, &NivraNetObjectCats::toSearch, m_search, [this](const QStringList &definition, bool regex) {
     m_search->show();
+    m_search->raise();
     m_search->defineSearch(definition, regex);
   });
 }

@@ -2,6 +2,7 @@
 #include "interaction/plotmenu.h"
 #include "interaction/plotzoom.h"
 
+#include <drawing/drawfunctions.h>
 #include <view/netviscontrol.h>
 
 #include <QFileInfo>
@@ -9,7 +10,6 @@
 #include <QMetaMethod>
 
 #include <algorithm>
-#include <drawing/drawfunctions.h>
 #include <utility>
 
 NetVisControl::NetVisControl(NetData &net, const QString &name, Told told, QObject *parent)
@@ -71,7 +71,7 @@ void NetVisControl::clear() {
 }
 
 void NetVisControl::showNetData(const QString &plotSettingsPath) {
-  m_drawing.cancel(); // all of it is drawn below
+  m_drawing.cancel();                  // all of it is drawn below
   m_plot->readMousePattern();          // the workspace may have general settings of its own
   m_plot->setSettings(PlotSettings()); // nothing of the case before
   if (!m_plot->readPlotSettings(plotSettingsPath)) {

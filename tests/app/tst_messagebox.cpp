@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -51,6 +52,8 @@ private:
 
 } // namespace
 
+Q_DECLARE_METATYPE(NivraMsg::Answer)
+
 /// The boxes of the toolkit, as a person sees them.
 class TestMessageBox : public QObject {
   Q_OBJECT
@@ -58,6 +61,8 @@ class TestMessageBox : public QObject {
 private slots:
   void boxesAnswer();
   void ownTitleAndButtons();
+  void keysAnswer_data();
+  void keysAnswer();
   void longMessagesScroll();
 };
 
@@ -84,6 +89,42 @@ void TestMessageBox::ownTitleAndButtons() {
   QCOMPARE(MessageBox::show(box), Answer::Discard);
   QCOMPARE(clicker.title, QStringLiteral("Changes"));
   QCOMPARE(clicker.buttons, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+}
+
+void TestMessageBox::keysAnswer_data() {
+  QTest::addColumn<Qt::Key>("key");
+  QTest::addColumn<NivraMsg::Answer>("answer");
+  QTest::newRow("Save") << Qt::Key_S << NivraMsg::Answer::Save;
+  QTest::newRow("Discard") << Qt::Key_D << NivraMsg::Answer::Discard;
+  QTest::newRow("Cancel") << Qt::Key_C << NivraMsg::Answer::Cancel;
+  QTest::newRow("Yes") << Qt::Key_Y << NivraMsg::Answer::Yes;
+  QTest::newRow("No") << Qt::Key_N << NivraMsg::Answer::No;
+}
+
+/// With Alt, as in menus.
+void TestMessageBox::keysAnswer() {
+  using NivraMsg::Answer;
+  QFETCH(Qt::Key, key);
+  QFETCH(Answer, answer);
+  QTimer timer;
+  connect(&timer, &QTimer::timeout, this, [key] {
+    if (QWidget *box = QApplication::activeModalWidget())
+      QTest::keyClick(box, key, Qt::AltModifier);
+  });
+  timer.start(5);
+  QTimer::singleShot(2000, this, [] { // no key answered
+    if (QWidget *box = QApplication::activeModalWidget())
+      box->close();
+  });
+  const NivraMsg::Box box{NivraMsg::Kind::Question,
+                          QStringLiteral("Save them?"),
+                          QStringLiteral("Changes"),
+                          {Answer::Save, Answer::Discard, Answer::Yes, Answer::No, Answer::Cancel},
+                          answer == Answer::Save ? Answer::Discard : Answer::Save};
+  QElapsedTimer waited;
+  waited.start();
+  QCOMPARE(MessageBox::show(box), answer);
+  QVERIFY(waited.elapsed() < 2000);
 }
 
 void TestMessageBox::longMessagesScroll() {

@@ -275,10 +275,16 @@ void TestLayersAndCats::renamingKeepsWhatIsHidden() {
 }
 
 void TestLayersAndCats::categoryFile() {
-  const std::vector<Category> read = CategoryFile::read(write("# comment\n\n"
-                                                              "[x]Heavy;;;^p$;p@ELE>60\n"
-                                                              "four;a;b;c\n"
-                                                              " Long ; ^P_ ; p ; length ; ^1 ;more;and more\n"));
+  QStringList told;
+  const auto tell = [&told](const Finding &finding) {
+    told.append(finding.logText());
+  };
+  const QString path = write("# comment\n\n"
+                             "[x]Heavy;;;^p$;p@ELE>60\n"
+                             "four;a;b;c\n"
+                             " Long ; ^P_ ; p ; length ; ^1 ;more;and more\n");
+  const std::vector<Category> read = CategoryFile::read(path, tell);
+  QCOMPARE(told, QStringList{QStringLiteral("Line contains less than 5 entries! (%1:4)").arg(path)});
   QCOMPARE(read.size(), std::size_t(2));
   QVERIFY(read[0].isChecked && read[0].category == QLatin1String("Heavy"));
   QCOMPARE(read[1].name, QStringLiteral("^P_"));
@@ -286,7 +292,8 @@ void TestLayersAndCats::categoryFile() {
   QCOMPARE(map.value(QStringLiteral("Heavy")).formula, QStringLiteral("p@ELE>60"));
   QVERIFY(map.value(QStringLiteral("Heavy")).value.isEmpty());
   QCOMPARE(map.value(QStringLiteral("Long")).value, QStringLiteral("^1"));
-  QVERIFY(CategoryFile::read(QStringLiteral("/nowhere/catdef.csv")).empty());
+  QVERIFY(CategoryFile::read(QStringLiteral("/nowhere/catdef.csv"), tell).empty());
+  QCOMPARE(told.last(), QStringLiteral("### Categories file /nowhere/catdef.csv not found!"));
 }
 
 void TestLayersAndCats::categoriesComeBack() {

@@ -26,6 +26,8 @@
 #include <QToolButton>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace {
 
 /// Elements of a geometry file with their results, as far as a search needs them.
@@ -86,6 +88,7 @@ private slots:
   void typedLikeAPerson();
   void machinesOfferTheirMaps();
   void sortsAsTheTableDoes();
+  void tellsForTheLogAlone();
 
 private:
   QStringList found(const SearchParams &params) {
@@ -557,6 +560,20 @@ void TestNivraSearch::sortsAsTheTableDoes() {
   QCOMPARE(texts(3), QStringLiteral("-1e3 9 10 5x open"));
   table(panel)->sortByColumn(0, Qt::DescendingOrder);
   QCOMPARE(texts(0), QStringLiteral("S_11 S_10 S_9 S_2 s_1"));
+}
+
+void TestNivraSearch::tellsForTheLogAlone() {
+  std::vector<Finding> told;
+  NivraSearch panel(*m_net, [&told](const Finding &finding) { told.push_back(finding); });
+  panel.on_pushButton_search_clicked();
+  const auto isTime = [](const Finding &finding) {
+    return finding.severity == Finding::Severity::Debug && finding.text.startsWith(QStringLiteral("Time for search: "));
+  };
+  QCOMPARE(std::count_if(told.begin(), told.end(), isTime), 1);
+  panel.defineSearch({QString(), QString(), QStringLiteral("^name$"), QStringLiteral("p@ELE>")}, false);
+  QVERIFY(std::any_of(told.begin(), told.end(), [](const Finding &finding) {
+    return finding.severity == Finding::Severity::Warning;
+  })); // the box that follows is the panel's own
 }
 
 NIVRA_TEST(TestNivraSearch);

@@ -206,7 +206,7 @@ void TestTables::findings() {
   panel.setFindings({{QStringLiteral("Reading"), {inFile, inFile}}, {QStringLiteral("Bounds"), {about}}});
   QCOMPARE(group(0).data().toString(), QStringLiteral("Reading (2)"));
   QVERIFY(tree->isExpanded(group(0)) && tree->isFirstColumnSpanned(1, QModelIndex()));
-  QCOMPARE(cell(0, 0, FindingModel::PlaceColumn).data().toString(), QStringLiteral("net.geom.jsn:12"));
+  QCOMPARE(cell(0, 0, FindingModel::FileColumn).data().toString(), QStringLiteral("net.geom.jsn:12"));
   QCOMPARE(cell(0, 0, FindingModel::TextColumn).data(Qt::ToolTipRole).toString(),
            QStringLiteral("<qt>bad line &lt;b&gt;x&lt;/b&gt;</qt>"));
   QCOMPARE(cell(1, 0, FindingModel::TextColumn).data(Qt::ToolTipRole).toString(), QStringLiteral("too fast"));
@@ -220,7 +220,7 @@ void TestTables::findings() {
   QCOMPARE(tree->currentIndex(), cell(0, 0, FindingModel::TextColumn));
   panel.show();
   QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier,
-                    tree->visualRect(cell(1, 0, FindingModel::PlaceColumn)).center());
+                    tree->visualRect(cell(1, 0, FindingModel::FileColumn)).center());
   QCOMPARE(wanted.count(), 2);
 
   auto *filter = panel.findChild<QLineEdit *>();

@@ -1,12 +1,12 @@
 #include "viewfixture.h"
 
+#include <drawing/colormap.h>
 #include <support/nivratest.h>
 
 #include <QColor>
 #include <qwt_scale_widget.h>
 
 #include <cmath>
-#include <drawing/colormap.h>
 
 class TestColorMap : public QObject {
   Q_OBJECT

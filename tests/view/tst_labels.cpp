@@ -3,14 +3,14 @@
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
+#include <drawing/labelcontents.h>
+#include <drawing/labelplacement.h>
 #include <model/netmetadata.h>
 #include <support/nivratest.h>
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 
-#include <drawing/labelcontents.h>
-#include <drawing/labelplacement.h>
 #include <random>
 
 class TestLabels : public QObject {

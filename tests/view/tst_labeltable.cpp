@@ -1,10 +1,10 @@
+#include <drawing/labeltable.h>
 #include <support/fulldisk.h>
 #include <support/nivratest.h>
 
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <drawing/labeltable.h>
 #include <sys/stat.h>
 
 class TestLabelTable : public QObject {

@@ -1,9 +1,9 @@
 #include "geometry/canvasgrid.h"
 
-#include <support/nivratest.h>
-
 #include <drawing/layergeometry.h>
 #include <drawing/spatialindex.h>
+#include <support/nivratest.h>
+
 #include <random>
 #include <set>
 

@@ -3,6 +3,7 @@
 #include "viewfixture.h"
 
 #include <base/nivramsg.h>
+#include <drawing/drawfunctions.h>
 #include <support/nivratest.h>
 
 #include <QSet>
@@ -10,8 +11,6 @@
 #include <qwt_scale_div.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
-
-#include <drawing/drawfunctions.h>
 
 namespace {
 

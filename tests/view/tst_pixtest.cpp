@@ -1,7 +1,6 @@
 #include <base/generalsettings.h>
-#include <support/nivratest.h>
-
 #include <drawing/pixtest.h>
+#include <support/nivratest.h>
 
 class TestPixtest : public QObject {
   Q_OBJECT

@@ -2,6 +2,7 @@
 #include "symbols/picturefile.h"
 #include "viewfixture.h"
 
+#include <drawing/stationsymbols.h>
 #include <support/nivratest.h>
 
 #include <QBuffer>
@@ -11,7 +12,6 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <drawing/stationsymbols.h>
 #include <sys/stat.h>
 
 class TestSymbols : public QObject {

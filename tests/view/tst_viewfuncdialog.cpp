@@ -5,6 +5,8 @@
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
+#include <drawing/drawfunctions.h>
+#include <drawing/drawrange.h>
 #include <support/answers.h>
 #include <support/nivratest.h>
 #include <view/viewfuncdialog.h>
@@ -23,9 +25,6 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTimer>
-
-#include <drawing/drawfunctions.h>
-#include <drawing/drawrange.h>
 
 class TestViewFuncDialog : public QObject {
   Q_OBJECT

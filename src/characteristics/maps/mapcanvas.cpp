@@ -1,5 +1,6 @@
 #include "mapcanvas.h"
 
+#include <base/lastfolder.h>
 #include <base/wholefile.h>
 
 #include <QContextMenuEvent>
@@ -214,8 +215,10 @@ bool MapCanvas::save(const QString &path, QString *reason) {
 }
 
 void MapCanvas::saveAs() {
-  const QString path = QFileDialog::getSaveFileName(this, tr("Save picture"), QStringLiteral("map.png"),
+  LastFolder &folder = LastFolder::ofSaving();
+  const QString path = QFileDialog::getSaveFileName(this, tr("Save picture"), folder.with(QStringLiteral("map.png")),
                                                     tr("Pictures (*.png *.jpg *.pdf *.svg)"));
+  folder.remember(path);
   QString reason;
   if (!path.isEmpty() && !save(path, &reason))
     emit saveFailed(reason);

@@ -1,5 +1,4 @@
 #include <base/fileaccess.h>
-#include <base/nivramsg.h>
 #include <base/textdecoding.h>
 #include <base/wholefile.h>
 #include <tools/category.h>
@@ -46,37 +45,37 @@ QString meant(const QString &field) {
 }
 
 /// Files written elsewhere may be in the encoding of old.
-QString decoded(const QByteArray &content, const QString &path) {
+QString decoded(const QByteArray &content, const QString &path, const Told &told) {
   if (std::optional<QString> text = TextDecoding::fromUtf8(content))
     return *text;
-  NivraMsg::logWarning(QStringLiteral("%1 is not UTF-8 and is read as Windows-1252 (Latin-1)").arg(path));
+  tell(told, Finding::Severity::Warning, QStringLiteral("%1 is not UTF-8 and is read as Windows-1252 (Latin-1)").arg(path));
   return TextDecoding::fromWindows1252(content);
 }
 
 } // namespace
 
-std::vector<Category> CategoryFile::read(const QString &path) {
+std::vector<Category> CategoryFile::read(const QString &path, const Told &told) {
   constexpr int Fields = 5;
   std::vector<Category> categories;
   if (!QFileInfo::exists(path)) {
-    NivraMsg::log(QStringLiteral("### Categories file ") + path + QStringLiteral(" not found!"));
+    tell(told, Finding::Severity::Information, QStringLiteral("### Categories file %1 not found!").arg(path));
     return categories;
   }
   QString reason;
   const auto content = FileAccess::readWhole(path, FileAccess::Source::Workspace, FileAccess::LargestConfiguration, &reason);
   if (!content) {
-    NivraMsg::logWarning(reason);
+    tell(told, Finding::Severity::Warning, reason);
     return categories;
   }
   int number = 0;
-  for (const QString &line : decoded(*content, path).split(QLatin1Char('\n'))) {
+  for (const QString &line : decoded(*content, path, told).split(QLatin1Char('\n'))) {
     ++number;
     if (line.trimmed().isEmpty() || line.startsWith(QLatin1Char('#')))
       continue;
     QStringList fields = line.split(QLatin1Char(';'));
     if (fields.size() < Fields) {
-      NivraMsg::logWarning(QStringLiteral("Line contains less than 5 entries!") +
-                           QStringLiteral(" (%1:%2)").arg(path).arg(number));
+      if (told)
+        told({Finding::Severity::Warning, path, number, QStringLiteral("Line contains less than 5 entries!"), QString()});
       continue;
     }
     const bool isChecked = fields[0].trimmed().startsWith(CheckedMark);
@@ -97,7 +96,7 @@ bool CategoryFile::write(const QString &path, const std::vector<Category> &categ
   QString reason;
   if (WholeFile::write(path, FileAccess::Source::Workspace, text.toUtf8(), &reason))
     return true;
-  *error = QStringLiteral("Could not open categories file ") + path + QStringLiteral("!\n") + reason;
+  *error = tr("Could not open categories file %1!").arg(path) + QLatin1Char('\n') + reason;
   return false;
 }
 

@@ -14,7 +14,7 @@ void CategoryList::setFile(const QString &path) {
 }
 
 void CategoryList::read() {
-  std::vector<Category> read = m_path.isEmpty() ? std::vector<Category>() : CategoryFile::read(m_path);
+  std::vector<Category> read = m_path.isEmpty() ? std::vector<Category>() : CategoryFile::read(m_path, m_told);
   perform(Change::Read, 0, [&] { m_categories = std::move(read); });
 }
 

@@ -17,14 +17,14 @@ void FindingList::set(std::vector<Group> groups) {
                  m_groups.end());
 }
 
-QString FindingList::place(const Finding &finding) {
+QString FindingList::location(const Finding &finding) {
   const QString file = finding.file.mid(finding.file.lastIndexOf(QLatin1Char('/')) + 1);
   return finding.line > 0 ? QStringLiteral("%1:%2").arg(file).arg(finding.line) : file;
 }
 
 bool FindingList::says(const Finding &finding, const QString &text) {
   return finding.text.contains(text, Qt::CaseInsensitive) || finding.element.contains(text, Qt::CaseInsensitive) ||
-         place(finding).contains(text, Qt::CaseInsensitive);
+         location(finding).contains(text, Qt::CaseInsensitive);
 }
 
 int FindingList::count() const {

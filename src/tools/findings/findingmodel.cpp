@@ -2,8 +2,6 @@
 
 #include <tools/plaintip.h>
 
-#include <QFont>
-
 namespace {
 
 QString text(const Finding &finding, int column) {
@@ -13,26 +11,19 @@ QString text(const Finding &finding, int column) {
   case FindingModel::ElementColumn:
     return finding.element;
   default:
-    return FindingList::place(finding);
+    return FindingList::location(finding);
   }
 }
 
 } // namespace
 
+FindingModel::FindingModel(QObject *parent)
+    : GroupModel({tr("finding"), tr("element"), tr("file")}, parent) {}
+
 void FindingModel::set(std::vector<FindingList::Group> groups) {
   beginResetModel();
   m_list.set(std::move(groups));
   endResetModel();
-}
-
-int FindingModel::columnCount(const QModelIndex & /*parent*/) const {
-  return ColumnCount;
-}
-
-QVariant FindingModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-    return QVariant();
-  return QStringList{tr("finding"), tr("element"), tr("file")}.value(section);
 }
 
 int FindingModel::groupCount() const {
@@ -46,12 +37,7 @@ int FindingModel::entryCount(int group) const {
 QVariant FindingModel::groupData(int group, int column, int role) const {
   if (role == Qt::DisplayRole && column == TextColumn)
     return at(group).name;
-  if (role == Qt::FontRole) {
-    QFont font;
-    font.setBold(true);
-    return font;
-  }
-  return QVariant();
+  return role == Qt::FontRole ? boldFont() : QVariant();
 }
 
 QVariant FindingModel::entryData(int group, int entry, int column, int role) const {

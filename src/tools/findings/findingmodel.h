@@ -1,22 +1,18 @@
 #pragma once
 
-#include "shared/groupmodel.h"
-
 #include <tools/findinglist.h>
+#include <tools/groupmodel.h>
 
 /// Findings below the stages that made them.
 class FindingModel final : public GroupModel {
   Q_OBJECT
 public:
-  enum Columns { TextColumn, ElementColumn, PlaceColumn, ColumnCount };
+  enum Columns { TextColumn, ElementColumn, FileColumn };
 
-  using GroupModel::GroupModel;
+  explicit FindingModel(QObject *parent = nullptr);
 
   void set(std::vector<FindingList::Group> groups);
   const FindingList &list() const { return m_list; }
-
-  int columnCount(const QModelIndex &parent = QModelIndex()) const final;
-  QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const final;
 
 protected:
   int groupCount() const final;

@@ -67,7 +67,7 @@ void NivraFindings::showFiltered() {
     m_tree->expand(m_shown->index(group, FindingModel::TextColumn));
   }
   m_tree->resizeColumnToContents(FindingModel::ElementColumn);
-  m_tree->resizeColumnToContents(FindingModel::PlaceColumn);
+  m_tree->resizeColumnToContents(FindingModel::FileColumn);
   const int all = count();
   const int shown = m_shown->count();
   m_nothing->setText(all == 0 ? tr("Nothing was found to be wrong.") : tr("No finding has the text of the filter."));

@@ -4,8 +4,8 @@
 
 #include <QAbstractTableModel>
 
-/// A row for each layer. What a person edits is told and not yet so: whoever hears of it decides, changes the layers or
-/// what is hidden, and tells the model.
+/// A row for each layer. An edit changes nothing by itself: the model tells it by cellEdited(), and whoever is connected
+/// changes the layers or what is hidden, and then the model.
 class LayerModel final : public QAbstractTableModel {
   Q_OBJECT
 public:

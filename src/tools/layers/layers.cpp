@@ -1,4 +1,3 @@
-#include <base/nivramsg.h>
 #include <tools/layers.h>
 
 #include <QRegularExpression>
@@ -7,13 +6,11 @@ void Layers::setProperty(const QString &property) {
   if (property == m_property)
     return;
   m_property = property;
-  m_layers.clear();
-  NivraMsg::debug(QStringLiteral("layer prop changed to ") + property);
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("layer prop changed to ") + property);
   rebuild();
 }
 
 void Layers::rebuild() {
-  static const PropertyKey name = PropertyKey::intern("name");
   m_layers.clear();
   const PropertyKey key = PropertyKey::find(m_property);
   if (key.isNull())
@@ -21,7 +18,7 @@ void Layers::rebuild() {
   m_net.forEach(NetData::AllTypes, [&](element &e) {
     const PropertyText *layer = e.find(key);
     if (layer != nullptr && !layer->isEmpty())
-      m_layers[layer->toString()].append(e.value(name));
+      m_layers[layer->toString()].append(e.value(Names::all().name));
   });
 }
 

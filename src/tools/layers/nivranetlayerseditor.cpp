@@ -9,11 +9,11 @@
 #include <QInputDialog>
 #include <QStringListModel>
 
-NivraNetLayersEditor::NivraNetLayersEditor(NetData &net, QWidget *parent)
+NivraNetLayersEditor::NivraNetLayersEditor(NetData &net, Told told, QWidget *parent)
     : QDockWidget(parent)
     , m_ui(std::make_unique<Ui::NivraNetLayersEditor>())
     , m_net(net)
-    , m_layers(net)
+    , m_layers(net, std::move(told))
     , m_model(new LayerModel(m_layers, this))
     , m_rows(new SortedRows(this))
     , m_names(new QStringListModel(this)) {

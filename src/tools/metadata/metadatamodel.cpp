@@ -3,29 +3,20 @@
 #include <model/elementtypes.h>
 #include <tools/plaintip.h>
 
+MetaDataModel::MetaDataModel(QObject *parent)
+    : GroupModel({tr("ShortNames"), tr("LongNames"), tr("Description (Attribute.csv)")}, parent) {}
+
 void MetaDataModel::set(const NetMetaData &metaData) {
   beginResetModel();
-  m_groups = {{QStringLiteral("ElementTypes"), types()},
-              {QStringLiteral("NodeFunctions"), functions(metaData, metaData.nodeFunctions())},
-              {QStringLiteral("EdgeFunctions"), functions(metaData, metaData.edgeFunctions())},
-              {QStringLiteral("GeomParms"), properties(metaData, QStringLiteral("geometry"))},
-              {QStringLiteral("ScenParms"), properties(metaData, QStringLiteral("scenario"))},
-              {QStringLiteral("ResultParms"), properties(metaData, QStringLiteral("results"))},
-              {QStringLiteral("GasParms"), properties(metaData, QStringLiteral("gas"))},
-              {QStringLiteral("VisParms"), properties(metaData, QString())}};
+  m_groups = {{tr("ElementTypes"), types()},
+              {tr("NodeFunctions"), functions(metaData, metaData.nodeFunctions())},
+              {tr("EdgeFunctions"), functions(metaData, metaData.edgeFunctions())},
+              {tr("GeomParms"), properties(metaData, QStringLiteral("geometry"))},
+              {tr("ScenParms"), properties(metaData, QStringLiteral("scenario"))},
+              {tr("ResultParms"), properties(metaData, QStringLiteral("results"))},
+              {tr("GasParms"), properties(metaData, QStringLiteral("gas"))},
+              {tr("VisParms"), properties(metaData, QString())}};
   endResetModel();
-}
-
-int MetaDataModel::columnCount(const QModelIndex & /*parent*/) const {
-  return ColumnCount;
-}
-
-QVariant MetaDataModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-    return QVariant();
-  return QStringList{QStringLiteral("ShortNames"), QStringLiteral("LongNames"),
-                     QStringLiteral("Description (Attribute.csv)")}
-      .value(section);
 }
 
 int MetaDataModel::groupCount() const {

@@ -1,21 +1,17 @@
 #pragma once
 
-#include "shared/groupmodel.h"
-
 #include <model/netmetadata.h>
+#include <tools/groupmodel.h>
 
 /// The vocabulary of the network model by group: the types, the functions, the properties.
 class MetaDataModel final : public GroupModel {
   Q_OBJECT
 public:
-  enum Columns { ShortNameColumn, LongNameColumn, DescriptionColumn, ColumnCount };
+  enum Columns { ShortNameColumn, LongNameColumn, DescriptionColumn };
 
-  using GroupModel::GroupModel;
+  explicit MetaDataModel(QObject *parent = nullptr);
 
   void set(const NetMetaData &metaData);
-
-  int columnCount(const QModelIndex &parent = QModelIndex()) const final;
-  QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const final;
 
 protected:
   int groupCount() const final;

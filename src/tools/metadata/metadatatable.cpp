@@ -10,7 +10,7 @@ MetaDataTable::MetaDataTable(const NetData &net, QWidget *parent)
     , m_net(net)
     , m_model(new MetaDataModel(this)) {
   constexpr QSize Size(800, 600);
-  setWindowTitle(QStringLiteral("MetaData"));
+  setWindowTitle(tr("MetaData"));
   setModel(m_model);
   setColumnWidth(MetaDataModel::ShortNameColumn, 160);
   setColumnWidth(MetaDataModel::LongNameColumn, 180);

@@ -1,6 +1,7 @@
 #include "ui_nivraeleinfowidget.h"
 
 #include <model/element.h>
+#include <model/names.h>
 #include <tools/nivraeleinfowidget.h>
 
 NivraEleInfoWidget::NivraEleInfoWidget(LabelOf labelOf, QWidget *parent)
@@ -40,17 +41,15 @@ void NivraEleInfoWidget::showEleLabel(const element *e) {
   m_ui->labelBounds->clear();
   if (e == nullptr)
     return;
-  m_ui->labelElement->setText(
-      QStringLiteral("   <b>Element: %1</b>   ").arg(e->value(QStringLiteral("name")).toHtmlEscaped()));
+  m_ui->labelElement->setText(tr("   <b>Element: %1</b>   ").arg(e->value(Names::all().name).toHtmlEscaped()));
   const PlotLabel label = m_labelOf ? m_labelOf(*e) : PlotLabel();
   if (!label.text.isEmpty())
     m_ui->labelContents->setLabel(label.text, label.font, label.color,
                                   label.background == QColor(Qt::black) ? QColor() : label.background);
-  m_ui->labelBounds->setText(bounds(e->value(QStringLiteral("CB_info"))));
+  m_ui->labelBounds->setText(bounds(e->value(Names::all().violations)));
 }
 
 void NivraEleInfoWidget::showSubLabel(const element *e) {
   if (e != nullptr)
-    m_ui->labelSubnet->setText(
-        QStringLiteral("   <b>Subnet: %1</b>   ").arg(e->value(QStringLiteral("name")).toHtmlEscaped()));
+    m_ui->labelSubnet->setText(tr("   <b>Subnet: %1</b>   ").arg(e->value(Names::all().name).toHtmlEscaped()));
 }

@@ -5,6 +5,7 @@
 #include "ui_nivrapropviewer.h"
 
 #include <model/elementtypes.h>
+#include <model/names.h>
 #include <tools/nivrapropviewer.h>
 
 #include <QAction>
@@ -36,15 +37,15 @@ void NivraPropViewer::showCurrentEleContents(const element *ele) {
   if (!m_isActive)
     return;
   m_ui->actionOpenCharacteristics->setVisible(ele != nullptr &&
-                                              ElementTypes::hasCharacteristics(ele->value(QStringLiteral("type"))));
+                                              ElementTypes::hasCharacteristics(ele->value(Names::all().type)));
   if (ele == nullptr) {
     m_elementName.clear();
     m_properties->set({});
     setWindowTitle(tr("Property Viewer (Hover Over Element First!)"));
     return;
   }
-  m_elementName = ele->value(QStringLiteral("name"));
-  setWindowTitle(tr("Properties of ") + m_elementName + tr(" of type ") + ele->value(QStringLiteral("type")));
+  m_elementName = ele->value(Names::all().name);
+  setWindowTitle(tr("Properties of ") + m_elementName + tr(" of type ") + ele->value(Names::all().type));
   m_properties->set(PropertyList(*m_net.metaData(), m_showsHidden).of(*ele));
   for (int group = 0; group < m_shown->rowCount(); ++group)
     m_ui->tree->expand(m_shown->index(group, PropertyModel::PropertyColumn));

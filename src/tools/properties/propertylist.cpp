@@ -2,6 +2,7 @@
 
 #include "shared/numberdelegate.h"
 
+#include <model/names.h>
 #include <tools/searchcriteria.h>
 
 #include <QRegularExpression>
@@ -30,9 +31,7 @@ bool isCompanion(const QString &property) {
 QString PropertyList::groupOf(const element &shown, const QString &type, const QString &property) const {
   if (isSubnet(type)) {
     if (property.compare(QLatin1String("subassemblies"), Qt::CaseInsensitive) == 0 ||
-        (property.compare(QLatin1String("type"), Qt::CaseInsensitive) != 0 &&
-         SearchedProperties::never().contains(property, Qt::CaseInsensitive)) ||
-        isCompanion(property))
+        SearchedProperties::isNeverSearched(PropertyKey::find(property)) || isCompanion(property))
       return QString();
     const PropertyText *group = shown.find(property + QStringLiteral(".cat"));
     return group == nullptr ? Extra : group->toString();
@@ -53,7 +52,7 @@ PropertyList::Row PropertyList::rowOf(const QString &type, const Property &prope
 }
 
 std::vector<PropertyList::Group> PropertyList::of(const element &shown) {
-  const QString type = shown.value(QStringLiteral("type"));
+  const QString type = shown.value(Names::all().type);
   std::vector<Group> groups;
   if (!isSubnet(type))
     groups.push_back({Favorites, {}});

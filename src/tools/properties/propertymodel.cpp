@@ -1,22 +1,14 @@
 #include "properties/propertymodel.h"
 
-#include <QFont>
 #include <QSize>
+
+PropertyModel::PropertyModel(QObject *parent)
+    : GroupModel({tr("prop"), tr("value"), tr("unit")}, parent) {}
 
 void PropertyModel::set(std::vector<PropertyList::Group> groups) {
   beginResetModel();
   m_groups = std::move(groups);
   endResetModel();
-}
-
-int PropertyModel::columnCount(const QModelIndex & /*parent*/) const {
-  return ColumnCount;
-}
-
-QVariant PropertyModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-    return QVariant();
-  return QStringList{QStringLiteral("prop"), QStringLiteral("value"), QStringLiteral("unit")}.value(section);
 }
 
 int PropertyModel::groupCount() const {
@@ -32,11 +24,7 @@ QVariant PropertyModel::groupData(int group, int column, int role) const {
     return QVariant();
   if (role == Qt::DisplayRole)
     return at(group).name;
-  if (role != Qt::FontRole)
-    return QVariant();
-  QFont font;
-  font.setWeight(QFont::Bold);
-  return font;
+  return role == Qt::FontRole ? boldFont() : QVariant();
 }
 
 QVariant PropertyModel::entryData(int group, int entry, int column, int role) const {

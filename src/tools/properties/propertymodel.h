@@ -1,20 +1,18 @@
 #pragma once
 
 #include "properties/propertylist.h"
-#include "shared/groupmodel.h"
+
+#include <tools/groupmodel.h>
 
 /// The properties of one element below their groups.
 class PropertyModel final : public GroupModel {
   Q_OBJECT
 public:
-  enum Columns { PropertyColumn, ValueColumn, UnitColumn, ColumnCount };
+  enum Columns { PropertyColumn, ValueColumn, UnitColumn };
 
-  using GroupModel::GroupModel;
+  explicit PropertyModel(QObject *parent = nullptr);
 
   void set(std::vector<PropertyList::Group> groups);
-
-  int columnCount(const QModelIndex &parent = QModelIndex()) const final;
-  QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const final;
 
 protected:
   int groupCount() const final;

@@ -1,4 +1,5 @@
 #include <base/parallel.h>
+#include <model/names.h>
 #include <tools/networksearch.h>
 
 #include <iterator>
@@ -6,11 +7,6 @@
 #include <mutex>
 
 namespace {
-
-const PropertyKey &resultKey() {
-  static const PropertyKey key = PropertyKey::intern("isSearchResult");
-  return key;
-}
 
 enum Column { NameColumn, TypeColumn, MarkColumn };
 
@@ -33,17 +29,17 @@ NetworkSearch::NetworkSearch(NetData &net, SearchParams params)
     , m_type(m_params.type)
     , m_properties(m_params.prop)
     , m_value(m_params.searchString)
-    , m_columns({PropertyKey::intern("name"), PropertyKey::intern("type"), resultKey()})
+    , m_columns({Names::all().name, Names::all().type, Names::all().searchResult})
     , m_display(*net.metaData()) {
   m_current.matches = m_type.matches(m_current.text); // no type at all
 }
 
-/// What a run of candidates one after the other has yielded.
+/// What the search of consecutive candidates has found.
 struct NetworkSearch::Part {
   std::vector<SearchRow> rows;
-  std::vector<std::size_t> found;  ///< places of the elements with rows and without the mark
-  std::vector<std::size_t> former; ///< of those with the mark and without rows
-  std::size_t searched = 0;        ///< the place behind the last element that was
+  std::vector<std::size_t> found;  ///< indices of the candidates with rows and without the mark
+  std::vector<std::size_t> former; ///< indices of the candidates with the mark and without rows
+  std::size_t end = 0;             ///< the index behind the last candidate that was searched
   QString error;
   bool isStopped = false;
 };
@@ -66,7 +62,7 @@ NetworkSearch::Part NetworkSearch::searchPart(const std::vector<element *> &cand
     for (std::size_t known = stoppedAt; first < known && !stoppedAt.compare_exchange_weak(known, first);)
       ;
   }
-  part.searched = i;
+  part.end = i;
   return part;
 }
 
@@ -89,12 +85,13 @@ NetworkSearch::Result NetworkSearch::run() {
   result.isStopped = !result.error.isEmpty();
   if (result.isStopped) {
     for (element *candidate : candidates)
-      candidate->erase(resultKey()); // marks of the search before
+      candidate->erase(Names::all().searchResult); // marks of the search before
     return result;
   }
-  std::map<std::size_t, Part> parts; // by the place of their first element
+  std::map<std::size_t, Part> parts; // by the index of their first candidate
   std::mutex mutex;
-  std::atomic<std::size_t> stoppedAt = candidates.size(); // the first chunk that was, what follows is not searched
+  std::atomic<std::size_t> stoppedAt =
+      candidates.size(); // the beginning of the first part that stopped; what follows is not searched
   constexpr std::size_t Chunk = 2000;
   const auto makeState = [this] { // patterns and formulas remember things, so each thread has its own
     return NetworkSearch(m_net, m_params);
@@ -107,11 +104,11 @@ NetworkSearch::Result NetworkSearch::run() {
   std::size_t searched = 0;
   for (auto &[first, part] : parts) {
     std::move(part.rows.begin(), part.rows.end(), std::back_inserter(result.rows));
-    for (const std::size_t place : part.found)
-      candidates[place]->set(resultKey(), PropertyText(std::string_view("1")));
-    for (const std::size_t place : part.former)
-      candidates[place]->erase(resultKey());
-    searched = part.searched;
+    for (const std::size_t index : part.found)
+      candidates[index]->set(Names::all().searchResult, PropertyText(std::string_view("1")));
+    for (const std::size_t index : part.former)
+      candidates[index]->erase(Names::all().searchResult);
+    searched = part.end;
     if (part.isStopped) {
       result.isStopped = true;
       result.error = part.error;
@@ -119,7 +116,7 @@ NetworkSearch::Result NetworkSearch::run() {
     }
   }
   for (std::size_t i = searched; i < candidates.size(); ++i)
-    candidates[i]->erase(resultKey()); // marks of the search before
+    candidates[i]->erase(Names::all().searchResult); // marks of the search before
   return result;
 }
 
@@ -145,16 +142,16 @@ bool NetworkSearch::satisfiesFormula(const element &candidate) {
   } catch (const FormulaError &error) {
     if (error.isForMissingValue())
       return false;
-    throw FormulaError(candidate.value(QStringLiteral("name")) + QStringLiteral(": ") + error.text(), error.kind());
+    throw FormulaError(candidate.value(Names::all().name) + QStringLiteral(": ") + error.text(), error.kind());
   }
 }
 
 void NetworkSearch::search(element &candidate, std::vector<SearchRow> &rows) {
   const std::size_t before = rows.size();
-  candidate.erase(resultKey());
+  candidate.erase(Names::all().searchResult);
   addRows(candidate, rows);
   if (rows.size() > before)
-    candidate.set(resultKey(), PropertyText(std::string_view("1")));
+    candidate.set(Names::all().searchResult, PropertyText(std::string_view("1")));
 }
 
 /// Returns whether the element is marked by a search before.

@@ -7,8 +7,10 @@
 #include "ui_nivrasearch.h"
 
 #include <base/generalsettings.h>
+#include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
+#include <model/names.h>
 #include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
 
@@ -27,20 +29,22 @@ static void initialiseResources() {
 
 namespace {
 
-constexpr double Milli = 1e-3;
+constexpr double SecondsPerMillisecond = 1e-3;
 
 } // namespace
 
-NivraSearch::NivraSearch(NetData &net, QWidget *parent)
+NivraSearch::NivraSearch(NetData &net, Told told, QWidget *parent)
     : QDockWidget(parent)
     , m_ui(std::make_unique<Ui::NivraSearch>())
     , m_net(net)
+    , m_told(std::move(told))
     , m_lastField(nullptr)
     , m_historyMenu(new QMenu(this)) {
   initialiseResources();
   m_ui->setupUi(this);
   showHint(QString());
   m_results = new SearchResults(*m_ui->treeWidget_searchResults);
+  m_ui->filterNotice->watch(m_results->menu());
   connect(m_results, &SearchResults::characteristicsWanted, this, &NivraSearch::characteristicsWanted);
   m_ui->toolButton_history->setMenu(m_historyMenu);
   m_ui->toolButton_history->setPopupMode(QToolButton::InstantPopup);
@@ -92,8 +96,7 @@ void NivraSearch::defineSearch(const QStringList &searchDef, bool regex) {
   m_ui->lineEdit_searchString->setText(searchDef.at(3));
   m_lastField = m_ui->lineEdit_name; // nobody has edited the others
   m_ui->pushButton_regex->setChecked(regex);
-  clearFormulas();
-  searchWithFormula();
+  searchAnew();
 }
 
 void NivraSearch::enterLastField() {
@@ -101,6 +104,12 @@ void NivraSearch::enterLastField() {
   raise();
   m_lastField->setFocus();
   m_lastField->selectAll();
+}
+
+/// Without the formula that was entered in the dialog; one in the value field counts.
+void NivraSearch::searchAnew() {
+  clearFormulas();
+  searchWithFormula();
 }
 
 void NivraSearch::searchWithFormula() {
@@ -114,14 +123,16 @@ void NivraSearch::searchWithFormula() {
   QElapsedTimer timer;
   timer.start();
   NetworkSearch search(m_net, *m_lastSearch);
-  NivraMsg::debug(QStringLiteral("NivraSearch prep time: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+  tell(m_told, Finding::Severity::Debug,
+       QStringLiteral("NivraSearch prep time: %1").arg(static_cast<double>(timer.elapsed()) * SecondsPerMillisecond));
   NetworkSearch::Result result = search.run();
-  NivraMsg::debug(QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+  tell(m_told, Finding::Severity::Debug,
+       QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * SecondsPerMillisecond));
   m_results->show(std::move(result.rows));
   showCount();
   showHint(result.isStopped ? result.error : SearchHint::of(m_net, searchParams(), m_results->rows().size()));
   if (result.isStopped) {
-    NivraMsg::logWarning(result.error);
+    tell(m_told, Finding::Severity::Warning, result.error);
     NivraMsg::message(NivraMsg::Kind::Warning, tr("Formula not ok! Search stopped (incomplete)!"));
   }
   updateLastSearchesMenu();
@@ -143,6 +154,7 @@ void NivraSearch::searchAgain() {
 
 void NivraSearch::clearResults() {
   m_lastSearch.reset();
+  m_results->menu().clearFilters();
   m_results->clear();
   showHint(QString());
   m_ui->label_found->setText(tr("Found:"));
@@ -155,11 +167,12 @@ void NivraSearch::updateSearchItems(element &changed, const QString &oldName) {
   try {
     NetworkSearch(m_net, searchParams()).search(changed, rows);
   } catch (const FormulaError &error) {
-    NivraMsg::logWarning(error.text());
+    tell(m_told, Finding::Severity::Warning, error.text());
   }
-  m_results->replace(oldName.isEmpty() ? changed.value(QStringLiteral("name")) : oldName, rows);
+  m_results->replace(oldName.isEmpty() ? changed.value(Names::all().name) : oldName, rows);
   showCount();
-  NivraMsg::debug(QStringLiteral("updateSearchItem: %1").arg(static_cast<double>(timer.elapsed()) * Milli));
+  tell(m_told, Finding::Severity::Debug,
+       QStringLiteral("updateSearchItem: %1").arg(static_cast<double>(timer.elapsed()) * SecondsPerMillisecond));
 }
 
 bool NivraSearch::select(const QString &elementName) {
@@ -168,18 +181,15 @@ bool NivraSearch::select(const QString &elementName) {
 
 void NivraSearch::searchFrom(QLineEdit *field) {
   m_lastField = field;
-  clearFormulas();
-  searchWithFormula();
+  searchAnew();
 }
 
 void NivraSearch::on_pushButton_search_clicked() {
-  clearFormulas();
-  searchWithFormula();
+  searchAnew();
 }
 
 void NivraSearch::on_pushButton_regex_clicked() {
-  clearFormulas();
-  searchWithFormula();
+  searchAnew();
 }
 
 void NivraSearch::on_lineEdit_name_returnPressed() {
@@ -250,10 +260,13 @@ void NivraSearch::on_pushButton_regex_toggled(bool checked) {
 }
 
 void NivraSearch::on_pushButton_save_clicked() {
-  const QString path = QFileDialog::getSaveFileName(this, tr("Choose File"), QStringLiteral("searchresults.csv"),
-                                                    tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
+  LastFolder &folder = LastFolder::ofSaving();
+  const QString path =
+      QFileDialog::getSaveFileName(this, tr("Choose File"), folder.with(QStringLiteral("searchresults.csv")),
+                                   tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
   if (path.isEmpty())
     return;
+  folder.remember(path);
   QString reason;
   save(path, &reason);
   showHint(reason);
@@ -292,7 +305,8 @@ void NivraSearch::on_treeWidget_searchResults_currentItemChanged(const QModelInd
   const auto nameOf = [](const QModelIndex &item) {
     return item.isValid() ? item.data(SearchResultsModel::ElementRole).toString() : QStringLiteral("null");
   };
-  NivraMsg::debug(QStringLiteral("Search item changed from %1 to %2").arg(nameOf(previous), nameOf(current)));
+  tell(m_told, Finding::Severity::Debug,
+       QStringLiteral("Search item changed from %1 to %2").arg(nameOf(previous), nameOf(current)));
   if (current.isValid())
     emit elementMarked(nameOf(current));
 }
@@ -345,6 +359,5 @@ void NivraSearch::searchNames(const QString &names) {
     return;
   m_ui->lineEdit_name->setText(parts.join(QLatin1Char('|')));
   m_ui->pushButton_regex->setChecked(true);
-  clearFormulas();
-  searchWithFormula();
+  searchAnew();
 }

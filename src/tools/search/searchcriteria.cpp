@@ -1,27 +1,25 @@
 #include <model/elementtypes.h>
+#include <model/names.h>
 #include <tools/searchcriteria.h>
 
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <iterator>
 
-const QStringList &SearchedProperties::never() {
-  static const QStringList keys{
-      QStringLiteral("isSearchResult"), QStringLiteral("pLine"),   QStringLiteral("pArrow"), QStringLiteral("pLabel"),
-      QStringLiteral("pSymbol"),        QStringLiteral("vis.ele"), QStringLiteral("type")};
-  return keys;
+bool SearchedProperties::isNeverSearched(PropertyKey key) {
+  static const PropertyKey keys[] = {Names::all().searchResult,      PropertyKey::intern("pLine"),
+                                     PropertyKey::intern("pArrow"),  PropertyKey::intern("pLabel"),
+                                     PropertyKey::intern("pSymbol"), PropertyKey::intern("vis.ele")};
+  return std::find(std::begin(keys), std::end(keys), key) != std::end(keys);
 }
 
 bool SearchedProperties::contains(PropertyKey key) {
   if (key.index() >= m_known.size())
     m_known.resize(key.index() + 1, -1);
   signed char &known = m_known[key.index()];
-  if (known < 0) {
-    const QString name = key.name();
-    const bool isNever =
-        name.compare(QLatin1String("type"), Qt::CaseInsensitive) != 0 && never().contains(name, Qt::CaseInsensitive);
-    known = !isNever && m_pattern.matches(name) ? 1 : 0;
-  }
+  if (known < 0)
+    known = !isNeverSearched(key) && m_pattern.matches(key.name()) ? 1 : 0;
   return known == 1;
 }
 

@@ -1,48 +1,43 @@
 #include "search/searchhint.h"
 
+#include <model/names.h>
 #include <tools/searchcriteria.h>
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QSet>
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("SearchHint", text);
-}
-
 /// The properties and types that there are and that the search looks at.
-struct Asked {
+struct Scope {
   QSet<QString> properties; ///< in one case
   bool hasType = false;
 };
 
-Asked askedOf(NetData &net, const SearchParams &params) {
-  static const PropertyKey typeKey = PropertyKey::intern("type");
+Scope scopeOf(NetData &net, const SearchParams &params) {
   SearchedProperties properties(params.prop);
   const SearchedTypes types(params.type);
-  Asked asked;
+  Scope scope;
   QSet<QString> seenTypes;
   net.forEach(NetData::AllTypes, [&](const element &e) {
-    const QString type = e.value(typeKey);
-    if (!asked.hasType && !seenTypes.contains(type)) {
+    const QString type = e.value(Names::all().type);
+    if (!scope.hasType && !seenTypes.contains(type)) {
       seenTypes.insert(type);
-      asked.hasType = types.matches(type);
+      scope.hasType = types.matches(type);
     }
   });
   for (const PropertyKey key : net.propertyKeys()) {
     if (properties.contains(key))
-      asked.properties.insert(key.name().toCaseFolded());
+      scope.properties.insert(key.name().toCaseFolded());
   }
-  return asked;
+  return scope;
 }
 
 /// A person who types "pipe" into the field that has the cursor means the type.
 bool isTypeWord(NetData &net, const QString &text) {
   SearchParams ofType;
   ofType.type = text;
-  return QRegularExpression(text).isValid() && askedOf(net, ofType).hasType;
+  return QRegularExpression(text).isValid() && scopeOf(net, ofType).hasType;
 }
 
 } // namespace
@@ -54,10 +49,10 @@ QString SearchHint::of(NetData &net, const SearchParams &params, std::size_t fou
   const bool isProperty = !PropertyKey::find(params.prop).isNull(); // or a pattern such as "^p$"
   if (net.isEmpty() || (found > 0 && !isProperty) || !isSound(params.prop) || !isSound(params.type))
     return QString();
-  const Asked asked = askedOf(net, params);
-  if (!asked.hasType)
+  const Scope scope = scopeOf(net, params);
+  if (!scope.hasType)
     return tr("No element is of the type \"%1\". Types are codes or words, such as p or pipe.").arg(params.type);
-  if (asked.properties.isEmpty())
+  if (scope.properties.isEmpty())
     return tr("There is no such property: \"%1\".").arg(params.prop);
   if (found == 0 && !params.searchString.isEmpty() && params.prop == QLatin1String("^name$"))
     return tr("Only names are searched. For other values write the property into Prop, or nothing for all of them.");
@@ -66,9 +61,9 @@ QString SearchHint::of(NetData &net, const SearchParams &params, std::size_t fou
     return isTypeWord(net, params.name)
                ? tr("No name fits \"%1\". To find elements of this type write it into Type.").arg(params.name)
                : tr("No name fits \"%1\".").arg(params.name);
-  if (asked.properties.size() > 1 && asked.properties.contains(params.prop.toCaseFolded()))
+  if (scope.properties.size() > 1 && scope.properties.contains(params.prop.toCaseFolded()))
     return tr("\"%1\" is a pattern and finds %2 properties with it in their names; \"^%1$\" finds %1 alone.")
         .arg(params.prop)
-        .arg(asked.properties.size());
+        .arg(scope.properties.size());
   return QString();
 }

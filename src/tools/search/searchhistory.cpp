@@ -5,7 +5,7 @@ bool SearchHistory::add(const SearchParams &params) {
       QStringList{params.name, params.type, params.prop, params.searchString, params.formula}.join(separator());
   if (m_entries.contains(entry))
     return false;
-  if (m_entries.size() >= Most)
+  if (m_entries.size() >= MaximumEntries)
     m_entries.removeLast();
   m_entries.prepend(entry);
   return true;

@@ -1,12 +1,11 @@
 #include "search/searchresults.h"
 
 #include "shared/itemtable.h"
+#include "shared/machineaction.h"
 #include "shared/numberdelegate.h"
 
-#include <model/elementtypes.h>
 #include <tools/tablemenu.h>
 
-#include <QAction>
 #include <QHeaderView>
 
 SearchResults::SearchResults(ItemTable &view)
@@ -21,12 +20,9 @@ SearchResults::SearchResults(ItemTable &view)
   view.sortByColumn(SearchResultsModel::NameColumn, Qt::AscendingOrder);
   view.setItemDelegateForColumn(SearchResultsModel::ValueColumn,
                                 new NumberDelegate(SearchResultsModel::PropertyColumn, &view));
-  new TableMenu(view);
-  auto *characteristics = new QAction(tr("Open Characteristics"), &view);
-  characteristics->setObjectName(QStringLiteral("actionOpenCharacteristics"));
-  view.addAction(characteristics);
-  TableMenu::offerActions(view, [this, characteristics] { characteristics->setVisible(!selectedMachines().isEmpty()); });
-  connect(characteristics, &QAction::triggered, this, [this] { emit characteristicsWanted(selectedMachines()); });
+  m_menu = new TableMenu(view);
+  const auto *machines = new MachineAction(view, SearchResultsModel::NameColumn, SearchResultsModel::TypeColumn);
+  connect(machines, &MachineAction::triggered, this, &SearchResults::characteristicsWanted);
 }
 
 void SearchResults::show(std::vector<SearchRow> rows) {
@@ -71,15 +67,4 @@ bool SearchResults::select(const QString &name) {
   else
     m_view.selectionModel()->clear();
   return found.isValid();
-}
-
-QStringList SearchResults::selectedMachines() const {
-  QStringList names;
-  for (const QModelIndex &item : m_view.selectionModel()->selectedRows()) {
-    const SearchRow &row = rows()[static_cast<std::size_t>(item.row())];
-    if (!m_view.isRowHidden(item.row()) && ElementTypes::hasCharacteristics(row.type))
-      names.append(row.name);
-  }
-  names.removeDuplicates();
-  return names;
 }

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 class ItemTable;
+class TableMenu;
 
 /// The table of a search: a row for each property that was found. Its menu opens the maps of machines.
 class SearchResults : public QObject {
@@ -15,6 +16,8 @@ public:
   explicit SearchResults(ItemTable &view);
 
   void clear() { m_model.setRows({}); }
+  /// Of the header, with its filters.
+  TableMenu &menu() const { return *m_menu; }
   /// Puts these rows in place of those before, sorted by name.
   void show(std::vector<SearchRow> rows);
   /// Puts these rows in place of those before, in the order in which they are shown now. The element of the current row
@@ -31,8 +34,7 @@ signals:
   void characteristicsWanted(const QStringList &machines);
 
 private:
-  QStringList selectedMachines() const;
-
   ItemTable &m_view;
   SearchResultsModel &m_model;
+  TableMenu *m_menu;
 };

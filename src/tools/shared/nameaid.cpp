@@ -16,7 +16,7 @@ void NameAid::attach(QLineEdit &field, std::function<QStringList(const QString &
   field.setCompleter(completer);
   // The field asks its completer after this signal, so the model must be right when it is emitted.
   QObject::connect(&field, &QLineEdit::textChanged, model, [model, names = std::move(names)](const QString &text) {
-    model->setStringList(text.isEmpty() ? QStringList() : names(text, Most));
+    model->setStringList(text.isEmpty() ? QStringList() : names(text, MaximumNames));
   });
 }
 
@@ -31,11 +31,11 @@ QStringList NameAid::elementNames(const NetData &net, const QString &beginning, 
 }
 
 QStringList NameAid::propertyNames(NetData &net, const QString &beginning, int most) {
-  constexpr int Enough = 5000; // elements of a kind: those that follow have nothing new
+  constexpr int AskedElements = 5000; // of a kind: those that follow have nothing new
   std::set<PropertyKey> keys;
   for (const elements *collection : {&net.nodes(), &net.edges(), &net.assembledSubnets(), &net.textBoxes()}) {
     int asked = 0;
-    for (auto it = collection->begin(); it != collection->end() && asked < Enough; ++it, ++asked) {
+    for (auto it = collection->begin(); it != collection->end() && asked < AskedElements; ++it, ++asked) {
       for (const Property &property : it->value)
         keys.insert(property.key);
     }

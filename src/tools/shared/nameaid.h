@@ -10,7 +10,7 @@ class NetData;
 /// Type-ahead for a field that takes a name: while one types, names that begin so are offered below.
 namespace NameAid {
 
-constexpr int Most = 30; ///< names offered at once
+constexpr int MaximumNames = 30; ///< offered at once
 
 /// \param names that begin with a text, in order, at most so many
 void attach(QLineEdit &field, std::function<QStringList(const QString &beginning, int most)> names);

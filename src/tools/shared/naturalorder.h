@@ -12,7 +12,7 @@ namespace NaturalOrder {
 /// Comparing keys is cheap, making one is not.
 QCollatorSortKey key(const QString &text);
 
-/// The place of a cell in its column: numbers by size, then texts in natural order.
+/// Orders the cells of a column: numbers by size, then texts in natural order.
 class Rank {
 public:
   explicit Rank(const QString &text);

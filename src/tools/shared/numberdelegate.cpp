@@ -1,5 +1,7 @@
 #include "shared/numberdelegate.h"
 
+#include "shared/namedelement.h"
+
 #include <model/displayformat.h>
 #include <tools/plaintip.h>
 
@@ -26,10 +28,9 @@ int significantDigits(const QString &text) {
 }
 
 bool isOfTexts(const QString &property) {
-  static const QStringList names{QStringLiteral("name"),    QStringLiteral("type"),   QStringLiteral("node1"),
-                                 QStringLiteral("node2"),   QStringLiteral("driven"), QStringLiteral("gasnode"),
-                                 QStringLiteral("gasNode"), QStringLiteral("alias")};
-  return names.contains(property) || property.startsWith(QLatin1String("vis.")) || property.endsWith(QLatin1String(".text"));
+  const PropertyKey key = PropertyKey::find(property);
+  return namesElements(key) || key == Names::all().type || property == QLatin1String("alias") ||
+         property.startsWith(QLatin1String("vis.")) || property.endsWith(QLatin1String(".text"));
 }
 
 } // namespace

@@ -80,6 +80,7 @@ TableMenu::TableMenu(QAbstractItemView &view)
     apply();
   });
   connect(view.model(), &QAbstractItemModel::rowsInserted, this, &TableMenu::apply);
+  connect(view.model(), &QAbstractItemModel::rowsRemoved, this, &TableMenu::apply);
   offerCopy(view);
 }
 
@@ -198,7 +199,7 @@ void TableMenu::markHeader(int column) {
 }
 
 void TableMenu::apply() {
-  if (filterRows())
+  if (filterRows() || !m_filters.isEmpty())
     emit filtered();
 }
 
@@ -238,6 +239,10 @@ int TableMenu::shownRows() const {
   for (int row = 0; row < m_view.model()->rowCount(); ++row)
     count += isHidden(row) ? 0 : 1;
   return count;
+}
+
+int TableMenu::hiddenRows() const {
+  return m_view.model()->rowCount() - shownRows();
 }
 
 void TableMenu::hideRow(int row, bool hidden) {

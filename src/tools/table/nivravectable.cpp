@@ -1,12 +1,13 @@
+#include "shared/machineaction.h"
 #include "shared/numberdelegate.h"
 #include "table/vectormodel.h"
 #include "table/vectorplot.h"
 #include "ui_nivravectable.h"
 
 #include <base/generalsettings.h>
+#include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
-#include <model/elementtypes.h>
 #include <tools/nivravectable.h>
 #include <tools/tablemenu.h>
 
@@ -19,21 +20,20 @@
 #include <algorithm>
 #include <set>
 
-NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
+NivraVecTable::NivraVecTable(NetData &net, Told told, QWidget *parent)
     : QTabWidget(parent)
     , m_ui(std::make_unique<Ui::NivraVecTable>())
     , m_net(net)
-    , m_rows(net)
+    , m_told(std::move(told))
+    , m_rows(net, m_told)
     , m_model(new VectorModel(this))
     , m_plot(new VectorPlot) {
   m_ui->setupUi(this);
   m_ui->tableWidget->setModel(m_model);
-  m_ui->tableWidget->addActions({m_ui->actionCopy_selectedItems, m_ui->actionOpenCharacteristics});
+  m_ui->tableWidget->addAction(m_ui->actionCopy_selectedItems);
   m_ui->tableWidget->setItemDelegate(new NumberDelegate(VectorModel::PropertyColumn, this));
-  TableMenu::offerActions(*m_ui->tableWidget,
-                          [this] { m_ui->actionOpenCharacteristics->setVisible(!selectedMachines().isEmpty()); });
-  connect(m_ui->actionOpenCharacteristics, &QAction::triggered, this,
-          [this] { emit characteristicsWanted(selectedMachines()); });
+  const auto *machines = new MachineAction(*m_ui->tableWidget, VectorModel::NameColumn, VectorModel::TypeColumn);
+  connect(machines, &MachineAction::triggered, this, &NivraVecTable::characteristicsWanted);
   m_menu = new TableMenu(*m_ui->tableWidget);
   addAction(m_ui->actionHelp);
   m_ui->plotLayout->insertWidget(0, m_plot);
@@ -43,10 +43,11 @@ NivraVecTable::NivraVecTable(NetData &net, QWidget *parent)
 }
 
 NivraVecTable::~NivraVecTable() {
-  NivraMsg::debug(QStringLiteral("Vector Table deleted."));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("Vector Table deleted."));
 }
 
 void NivraVecTable::refresh() {
+  m_menu->clearFilters();
   QStringList names;
   for (const PropertyKey key : m_net.propertyKeys())
     names.append(key.name());
@@ -79,7 +80,7 @@ QStringList NivraVecTable::headers() const {
   return texts;
 }
 
-/// Rows that the filters of the list before would hide look as if something were wrong.
+/// Without the filters of the list before: nobody would expect them to hide rows of this one.
 void NivraVecTable::listSomethingElse() {
   m_menu->clearFilters();
   on_pushButtonUpdate_clicked();
@@ -87,7 +88,7 @@ void NivraVecTable::listSomethingElse() {
 
 void NivraVecTable::on_pushButtonUpdate_clicked() {
   m_isStale = false;
-  NivraMsg::debug(QStringLiteral("update vectable started  ..."));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("update vectable started  ..."));
   VectorRows::Request request;
   request.usesProperty = isPropertyMode();
   request.property = m_chosenProperty;
@@ -105,7 +106,7 @@ void NivraVecTable::on_pushButtonUpdate_clicked() {
   showCount();
   if (currentWidget() == m_ui->plotPage)
     showPlot();
-  NivraMsg::debug(QStringLiteral("... update finished."));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("... update finished."));
 }
 
 void NivraVecTable::showCount() {
@@ -131,7 +132,7 @@ void NivraVecTable::on_pushButtonTryNumSort_clicked() {
 }
 
 void NivraVecTable::sortNumerically(std::vector<VectorRows::Row> rows) {
-  NivraMsg::debug(QStringLiteral("    numsort started ..."));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("    numsort started ..."));
   VectorRows::sortNumerically(rows);
   showRows(std::move(rows), VectorModel::NumsortColumn);
 }
@@ -145,19 +146,8 @@ std::vector<int> NivraVecTable::shownRows() const {
   return rows;
 }
 
-QStringList NivraVecTable::selectedMachines() const {
-  QStringList names;
-  for (const QModelIndex &cell : m_ui->tableWidget->selectionModel()->selectedIndexes()) {
-    const VectorRows::Row &row = m_model->rows()[static_cast<std::size_t>(cell.row())];
-    if (!m_ui->tableWidget->isRowHidden(cell.row()) && ElementTypes::hasCharacteristics(row.type))
-      names.append(row.name);
-  }
-  names.removeDuplicates();
-  return names;
-}
-
 void NivraVecTable::on_updateCats(const CatMap &catDataInput) {
-  NivraMsg::debug(QStringLiteral("vectable updatecats"));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("vectable updatecats"));
   const bool isAnother = !(m_categories.value(m_chosenCategory) == catDataInput.value(m_chosenCategory));
   m_categories = catDataInput;
   m_isUpdating = true;
@@ -254,10 +244,12 @@ void NivraVecTable::on_actionHelp_triggered() {
 }
 
 void NivraVecTable::on_pushButtonSave_clicked() {
+  LastFolder &folder = LastFolder::ofSaving();
   const QString proposed = m_directory + QStringLiteral("/table_") +
                            (isPropertyMode() ? m_chosenProperty : m_chosenCategory) + QStringLiteral(".csv");
-  const QString path =
-      QFileDialog::getSaveFileName(this, tr("Choose File"), proposed, tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
+  const QString path = QFileDialog::getSaveFileName(this, tr("Choose File"), folder.with(proposed),
+                                                    tr("CSV (*.csv);;TXT (*.txt);;All Files (*)"));
+  folder.remember(path);
   QString reason;
   if (!path.isEmpty() && !save(path, &reason))
     NivraMsg::message(NivraMsg::Kind::Warning, reason);

@@ -25,18 +25,18 @@ ValueStatistics::ValueStatistics(std::vector<double> values)
 }
 
 double ValueStatistics::quantile(double share) const {
-  const double place = share * (count - 1);
-  const auto below = static_cast<std::size_t>(place);
+  const double position = share * (count - 1);
+  const auto below = static_cast<std::size_t>(position);
   const std::size_t above = std::min(below + 1, m_sorted.size() - 1);
-  return m_sorted[below] + (place - std::floor(place)) * (m_sorted[above] - m_sorted[below]);
+  return m_sorted[below] + (position - std::floor(position)) * (m_sorted[above] - m_sorted[below]);
 }
 
 /// As wide as Freedman and Diaconis advise (On the histogram as a density estimator, 1981): 2 IQR / n^(1/3).
 void ValueStatistics::makeBins() {
-  constexpr int Most = 60;
+  constexpr int MaximumBins = 60;
   const double width = 2.0 * (quantile(0.75) - quantile(0.25)) / std::cbrt(count);
   const double wanted = width > 0.0 ? std::ceil((maximum - minimum) / width) : std::ceil(std::sqrt(count));
-  const int number = maximum > minimum ? static_cast<int>(std::clamp(wanted, 1.0, static_cast<double>(Most))) : 1;
+  const int number = maximum > minimum ? static_cast<int>(std::clamp(wanted, 1.0, static_cast<double>(MaximumBins))) : 1;
   const double step = (maximum - minimum) / number;
   for (int i = 0; i < number; ++i)
     bins.push_back({minimum + i * step, i + 1 == number ? maximum : minimum + (i + 1) * step, 0});

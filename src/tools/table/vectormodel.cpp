@@ -1,6 +1,6 @@
 #include "table/vectormodel.h"
 
-#include <QRegularExpression>
+#include "shared/namedelement.h"
 
 namespace {
 
@@ -51,9 +51,8 @@ Qt::ItemFlags VectorModel::flags(const QModelIndex &index) const {
 }
 
 QString VectorModel::namedElement(const QModelIndex &cell) const {
-  static const QRegularExpression namesElement(QStringLiteral("^name$|^node1$|^node2$|^gasnode$|^driven$"));
   const Row &row = m_rows[static_cast<std::size_t>(cell.row())];
   if (cell.column() == NameColumn)
     return row.name;
-  return cell.column() == ValueColumn && namesElement.match(row.property).hasMatch() ? row.value : QString();
+  return cell.column() == ValueColumn && namesElements(PropertyKey::find(row.property)) ? row.value : QString();
 }

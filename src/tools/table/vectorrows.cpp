@@ -1,7 +1,7 @@
 #include "shared/csvfield.h"
 #include "shared/naturalorder.h"
 
-#include <base/nivramsg.h>
+#include <model/names.h>
 #include <tools/vectorrows.h>
 
 #include <QTextStream>
@@ -51,23 +51,21 @@ bool VectorRows::result(const element &e, const Property &property, const Reques
   if (!m_formula)
     return m_value.matches(property.value.utf8()) ||
            (m_value.compares() &&
-            m_value.holdsFor(m_display->of(e.value(QStringLiteral("type")), property.key, property.value).value));
+            m_value.holdsFor(m_display->of(e.value(Names::all().type), property.key, property.value).value));
   try {
     text = m_formula->evaluate(e).text;
     return true;
   } catch (const FormulaError &error) {
     if (error.kind() == FormulaError::Kind::TooCostly)
-      NivraMsg::logWarning(error.text());
+      tell(m_told, Finding::Severity::Warning, error.text());
     return false;
   }
 }
 
 void VectorRows::addRows(const element &e, const Request &request, std::vector<Row> &rows) {
-  static const PropertyKey nameKey = PropertyKey::intern("name");
-  static const PropertyKey typeKey = PropertyKey::intern("type");
   const PropertyKey chosen = PropertyKey::find(request.property);
-  const QString name = e.value(nameKey);
-  const QString type = e.value(typeKey);
+  const QString name = e.value(Names::all().name);
+  const QString type = e.value(Names::all().type);
   if (!m_name.matches(name) || !m_type.matches(type))
     return;
   for (const Property &property : e) {

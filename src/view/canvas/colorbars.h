@@ -1,8 +1,8 @@
 #pragma once
 
-#include <qwt_plot.h>
-
 #include <drawing/colorscale.h>
+
+#include <qwt_plot.h>
 
 /// The colour scales beside the drawing.
 namespace ColorBars {

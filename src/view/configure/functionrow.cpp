@@ -2,13 +2,14 @@
 
 #include "ui_functionrow.h"
 
+#include <drawing/drawfunctions.h>
+#include <drawing/plotsettings.h>
+
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <cmath>
-#include <drawing/drawfunctions.h>
-#include <drawing/plotsettings.h>
 
 namespace {
 

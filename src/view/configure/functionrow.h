@@ -1,11 +1,11 @@
 #pragma once
 
+#include <drawing/plotsettings.h>
+#include <drawing/typedbounds.h>
 #include <model/units.h>
 
 #include <QGroupBox>
 
-#include <drawing/plotsettings.h>
-#include <drawing/typedbounds.h>
 #include <functional>
 #include <memory>
 

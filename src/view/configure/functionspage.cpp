@@ -1,12 +1,11 @@
 #include "configure/functionspage.h"
 
 #include <base/nivramsg.h>
+#include <drawing/drawfunctions.h>
+#include <drawing/drawrange.h>
 #include <model/displayformat.h>
 
 #include <QVBoxLayout>
-
-#include <drawing/drawfunctions.h>
-#include <drawing/drawrange.h>
 
 namespace {
 

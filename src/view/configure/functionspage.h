@@ -2,9 +2,9 @@
 
 #include "configure/functionrow.h"
 
-#include <QWidget>
-
 #include <drawing/netupdate.h>
+
+#include <QWidget>
 
 /// The draw functions of the dialog, one row for each thing that they decide.
 class FunctionsPage : public QWidget {

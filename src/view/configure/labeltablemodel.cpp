@@ -1,5 +1,7 @@
 #include "configure/labeltablemodel.h"
 
+#include <drawing/stationsymbols.h>
+
 #include <QBrush>
 #include <QFont>
 #include <QHash>
@@ -8,7 +10,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <drawing/stationsymbols.h>
 
 namespace {
 

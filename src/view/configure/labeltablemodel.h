@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QAbstractTableModel>
-
 #include <drawing/labeltable.h>
+
+#include <QAbstractTableModel>
 
 /// The label table as it is edited: a row for each element type, whose names nobody changes, then one for each template.
 /// Cells wear the colour or the font that they name. Contents hold no comma: it is stored as "&#44;".

@@ -1,10 +1,9 @@
 #pragma once
 
 #include <base/finding.h>
+#include <drawing/plotsettings.h>
 
 #include <QCoreApplication>
-
-#include <drawing/plotsettings.h>
 
 /// "plotsettings.ini", an INI file.
 class PlotSettingsFile {

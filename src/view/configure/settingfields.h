@@ -1,6 +1,7 @@
 #pragma once
 
 #include <drawing/plotsettings.h>
+
 #include <functional>
 #include <memory>
 #include <optional>

@@ -6,6 +6,7 @@
 #include "ui_viewfuncdialog.h"
 
 #include <base/nivramsg.h>
+#include <drawing/colormap.h>
 #include <view/netplot.h>
 #include <view/viewfuncdialog.h>
 
@@ -18,7 +19,6 @@
 
 #include <algorithm>
 #include <array>
-#include <drawing/colormap.h>
 
 namespace {
 

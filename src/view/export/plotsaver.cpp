@@ -1,5 +1,6 @@
 #include "export/plotsaver.h"
 
+#include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <view/netplot.h>
 
@@ -66,14 +67,17 @@ QString PlotSaver::askForFile(QWidget *parent) {
                           tr(";;Scalable Vector Graphics (*.svg)") + tr(";;Portable Document Format (*.pdf)") +
                           tr(";;Bitmap (*.bmp)") + tr(";;Tagged Image File Format (*.tif)") + tr(";;PostScript (*.ps)") +
                           tr(";;All Files (*)");
-  QFileDialog dialog(parent, tr("Choose File"), QString(), filters);
+  LastFolder &folder = LastFolder::ofSaving();
+  QFileDialog dialog(parent, tr("Choose File"), folder.path(), filters);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("png"));
   // A name without a suffix gets that of the chosen kind.
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
     dialog.setDefaultSuffix(filter.section(QLatin1Char('.'), 1).remove(QLatin1Char(')')));
   });
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0).trimmed() : QString();
+  const QString chosen = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0).trimmed() : QString();
+  folder.remember(chosen);
+  return chosen;
 }
 
 bool PlotSaver::mayBeLarge(const QString &path) {

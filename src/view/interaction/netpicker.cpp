@@ -2,6 +2,8 @@
 #include "interaction/plotzoom.h"
 
 #include <base/settings.h>
+#include <drawing/drawfunctions.h>
+#include <drawing/labelcontents.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
 #include <model/topology.h>
@@ -16,8 +18,6 @@
 #include <qwt_picker_machine.h>
 
 #include <cmath>
-#include <drawing/drawfunctions.h>
-#include <drawing/labelcontents.h>
 
 namespace {
 

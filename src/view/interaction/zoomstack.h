@@ -3,11 +3,10 @@
 #include "interaction/zoomlimits.h"
 
 #include <base/finding.h>
+#include <drawing/plotsettings.h>
 
 #include <QStack>
 #include <qwt_plot_zoomer.h>
-
-#include <drawing/plotsettings.h>
 
 class QwtFastPlot;
 

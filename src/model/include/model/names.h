@@ -24,6 +24,9 @@ struct Names {
   PropertyKey elements = PropertyKey::intern("elements"); ///< of a subnet
   PropertyKey pins = PropertyKey::intern("pins");         ///< of a subnet
   PropertyKey refEle = PropertyKey::intern("refEle");     ///< of an element of a subnet: its name in the template
+  PropertyKey layer = PropertyKey::intern("vis.layer");   ///< the usual property of layers
+  PropertyKey searchResult = PropertyKey::intern("isSearchResult");
+  PropertyKey violations = PropertyKey::intern("CB_info"); ///< what is wrong with an element, by the constraints
 };
 
 inline const Names &Names::all() {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <base/finding.h>
+
+#include <QCoreApplication>
 #include <QMap>
 #include <QMetaType>
 #include <QString>
@@ -43,13 +46,13 @@ Q_DECLARE_METATYPE(CategoryRecord)
 /// "catdef.csv". Characters that mean something to the file are written as words between dollar signs, as settings files do
 /// it: "$SEMI$" for ";", "$BREAK$" for the end of a line, "$HASH$" and "$BRACKET$" for "#" and "[" where a name begins with
 /// "#" or "[x]", "$DOLLAR$" for a "$" in front of such a word.
-namespace CategoryFile {
+class CategoryFile {
+  Q_DECLARE_TR_FUNCTIONS(CategoryFile)
+public:
+  /// What is wrong with a line is told, and the line skipped. A missing file is told and holds none.
+  static std::vector<Category> read(const QString &path, const Told &told = {});
+  /// Whole or not at all; false with the reason.
+  static bool write(const QString &path, const std::vector<Category> &categories, QString *error);
 
-/// What is wrong with a line is logged, and the line skipped. A missing file is logged and holds none.
-std::vector<Category> read(const QString &path);
-/// Whole or not at all; false with the reason.
-bool write(const QString &path, const std::vector<Category> &categories, QString *error);
-
-CatMap toMap(const std::vector<Category> &categories);
-
-} // namespace CategoryFile
+  static CatMap toMap(const std::vector<Category> &categories);
+};

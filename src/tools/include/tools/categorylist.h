@@ -11,6 +11,10 @@ class CategoryList : public QObject {
 public:
   enum class Change { Added, Edited, Removed, Read };
 
+  /// \param told what is wrong with the file
+  explicit CategoryList(Told told = {})
+      : m_told(std::move(told)) {}
+
   /// Reads the categories of a case, in place of those before.
   void setFile(const QString &path);
   /// Reads the file again; what was not saved is dropped.
@@ -35,6 +39,7 @@ private:
   template <typename Action>
   void perform(Change change, std::size_t index, Action action);
 
+  Told m_told;
   QString m_path; ///< empty without a case
   std::vector<Category> m_categories;
   bool m_isChanged = false;

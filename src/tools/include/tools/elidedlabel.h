@@ -3,7 +3,7 @@
 #include <QLabel>
 
 /// One line whose text is cut with "…" where there is no room for it, so that no name widens the panel; its tip is the
-/// whole text. Markup is only taken for its words.
+/// whole text. Of markup only the words are shown.
 class ElidedLabel : public QLabel {
   Q_OBJECT
 public:

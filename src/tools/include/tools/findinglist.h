@@ -21,7 +21,7 @@ public:
   int count() const;
 
   /// "network.geom.jsn:12", empty when the finding belongs to no file.
-  static QString place(const Finding &finding);
+  static QString location(const Finding &finding);
   /// Whether the finding has the text in it, in its element or its file, regardless of case.
   static bool says(const Finding &finding, const QString &text);
 

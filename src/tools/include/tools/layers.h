@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/finding.h>
+#include <model/names.h>
 #include <model/netdata.h>
 
 #include <QMap>
@@ -9,16 +11,16 @@
 /// Elements grouped by the value of one property. Which layers are hidden is the drawing's affair.
 class Layers {
 public:
-  using Names = QStringList; ///< of elements, in the order of the network
-
-  explicit Layers(NetData &net)
-      : m_net(net) {}
+  explicit Layers(NetData &net, Told told = {})
+      : m_net(net)
+      , m_told(std::move(told)) {}
 
   const QString &property() const { return m_property; }
   void setProperty(const QString &property);
   /// Looks up the layers of the elements anew.
   void rebuild();
-  const QMap<QString, Names> &all() const { return m_layers; }
+  /// Names of elements by layer, in the order of the network.
+  const QMap<QString, QStringList> &all() const { return m_layers; }
 
   /// Gives elements to a layer; names that the network does not have are passed over.
   void add(const QStringList &names, const QString &layer);
@@ -33,6 +35,7 @@ public:
 
 private:
   NetData &m_net;
-  QString m_property = QStringLiteral("vis.layer");
-  QMap<QString, Names> m_layers;
+  Told m_told;
+  QString m_property = Names::all().layer.name();
+  QMap<QString, QStringList> m_layers;
 };

@@ -45,7 +45,7 @@ private:
     bool matches = false;
   };
 
-  /// Searches from one place of the candidates to another, unless a part before it has stopped.
+  /// Searches the candidates from the index first up to last, unless a part before them has stopped.
   Part searchPart(const std::vector<element *> &candidates, std::size_t first, std::size_t last,
                   std::atomic<std::size_t> &stoppedAt);
   bool matchesName(const QString &name) const;

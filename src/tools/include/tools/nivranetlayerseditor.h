@@ -26,7 +26,7 @@ public:
   enum class EditMode { VisibilityOnly, Layers };
   Q_ENUM(EditMode)
 
-  explicit NivraNetLayersEditor(NetData &net, QWidget *parent = nullptr);
+  explicit NivraNetLayersEditor(NetData &net, Told told = {}, QWidget *parent = nullptr);
   ~NivraNetLayersEditor() override;
 
   void setLayerProperty(const QString &property);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/finding.h>
 #include <model/netdata.h>
 #include <tools/searchhistory.h>
 #include <tools/searchparams.h>
@@ -23,7 +24,7 @@ class NivraSearch;
 class NivraSearch : public QDockWidget {
   Q_OBJECT
 public:
-  explicit NivraSearch(NetData &net, QWidget *parent = nullptr);
+  explicit NivraSearch(NetData &net, Told told = {}, QWidget *parent = nullptr);
   ~NivraSearch() override;
 
   SearchParams searchParams() const;
@@ -87,6 +88,7 @@ protected:
 
 private:
   void clearFormulas();
+  void searchAnew();
   void searchFrom(QLineEdit *field);
   void showCount();
   /// Below the rows; nothing for an empty text.
@@ -97,6 +99,7 @@ private:
   SearchResults *m_results = nullptr;
   FormulaMode *m_formulaMode = nullptr;
   NetData &m_net;
+  Told m_told;
   std::optional<SearchParams> m_lastSearch; ///< whose results are shown
   SearchHistory m_history;
   QString m_name;

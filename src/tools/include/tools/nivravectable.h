@@ -21,7 +21,7 @@ class NivraVecTable;
 class NivraVecTable : public QTabWidget {
   Q_OBJECT
 public:
-  explicit NivraVecTable(NetData &net, QWidget *parent = nullptr);
+  explicit NivraVecTable(NetData &net, Told told = {}, QWidget *parent = nullptr);
   ~NivraVecTable() override;
 
   /// Where tables are saved unless somebody says otherwise.
@@ -70,11 +70,11 @@ private:
   void sortNumerically(std::vector<VectorRows::Row> rows);
   void showCount();
   std::vector<int> shownRows() const;
-  QStringList selectedMachines() const;
   void showPlot();
 
   std::unique_ptr<Ui::NivraVecTable> m_ui;
   NetData &m_net;
+  Told m_told;
   VectorRows m_rows;
   CatMap m_categories;
   QString m_chosenCategory;

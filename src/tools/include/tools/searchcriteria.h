@@ -5,7 +5,6 @@
 #include <tools/tablemenu.h>
 
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 #include <string_view>
@@ -19,8 +18,8 @@ public:
 
   bool contains(PropertyKey key);
 
-  /// Never searched, save for "type", which stands among them.
-  static const QStringList &never();
+  /// Marks of the search and leftovers of the drawing, which no pattern finds.
+  static bool isNeverSearched(PropertyKey key);
 
 private:
   Pattern m_pattern;

@@ -7,7 +7,7 @@
 /// The last searches as texts, the latest first.
 class SearchHistory {
 public:
-  static constexpr int Most = 10;
+  static constexpr int MaximumEntries = 10;
   static QString separator() { return QStringLiteral("  __|__  "); }
 
   /// False when the same search stands there already, wherever it does.

@@ -37,6 +37,7 @@ public:
   /// "value > 4, name A": what is asked of which column; empty without filters.
   QString filterSummary() const;
   int shownRows() const;
+  int hiddenRows() const;
 
   /// The selected cells that are shown, as a spreadsheet takes them: tabulators between columns, line breaks between rows;
   /// texts with either or with quotes stand in quotes.
@@ -49,7 +50,7 @@ public:
   static void offerCopy(QAbstractItemView &view);
 
 signals:
-  void filtered(); ///< other rows are shown
+  void filtered(); ///< the filters have changed, or there are other rows that they show and hide
 
 private:
   void showMenu(const QPoint &position);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/finding.h>
 #include <base/pattern.h>
 #include <formulas/formula.h>
 #include <model/netdata.h>
@@ -38,8 +39,10 @@ public:
     QVector<int> valueColumns; ///< which get decimal commas
   };
 
-  explicit VectorRows(NetData &net)
-      : m_net(net) {}
+  /// \param told which formulas cost too much
+  explicit VectorRows(NetData &net, Told told = {})
+      : m_net(net)
+      , m_told(std::move(told)) {}
 
   std::vector<Row> build(const Request &request);
   /// Every listed property has a unit, so that the values can be ordered as numbers.
@@ -57,6 +60,7 @@ private:
   bool result(const element &e, const Property &property, const Request &request, QString &text);
 
   NetData &m_net;
+  Told m_told;
   std::optional<DisplayValue> m_display; ///< of the vocabulary that the network has when rows are built
   Pattern m_name;
   SearchedTypes m_type;

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <drawing/cellaxis.h>
+
 #include <QRectF>
 
-#include <drawing/cellaxis.h>
 #include <vector>
 
 /// Coarse cells over a part of the canvas that remember who stands there.

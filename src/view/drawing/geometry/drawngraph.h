@@ -1,8 +1,8 @@
 #pragma once
 
+#include <drawing/netgeometry.h>
 #include <model/networkgraph.h>
 
-#include <drawing/netgeometry.h>
 #include <vector>
 
 /// What is drawn as a graph: what hangs together and how far the gas has come. Elements out of use let nothing through.

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <drawing/netgeometry.h>
 #include <model/propertykey.h>
 
-#include <drawing/netgeometry.h>
 #include <vector>
 
 /// Properties whose numbers are asked for.

@@ -1,8 +1,9 @@
+#include <drawing/layergeometry.h>
+
 #include <QFontInfo>
 #include <QPaintEngine>
 
 #include <algorithm>
-#include <drawing/layergeometry.h>
 
 Projection::Projection(const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvas)
     : m_canvas(canvas)

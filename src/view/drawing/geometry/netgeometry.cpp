@@ -1,6 +1,7 @@
+#include <drawing/netgeometry.h>
+
 #include <algorithm>
 #include <cmath>
-#include <drawing/netgeometry.h>
 #include <limits>
 #include <numeric>
 #include <tuple>

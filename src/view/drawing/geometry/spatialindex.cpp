@@ -1,7 +1,8 @@
-#include <algorithm>
-#include <cstdint>
 #include <drawing/cellaxis.h>
 #include <drawing/spatialindex.h>
+
+#include <algorithm>
+#include <cstdint>
 
 namespace {
 

@@ -1,3 +1,5 @@
+#include <drawing/labelcontents.h>
+#include <drawing/layergeometry.h>
 #include <model/displayformat.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
@@ -8,8 +10,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <drawing/labelcontents.h>
-#include <drawing/layergeometry.h>
 
 namespace {
 

@@ -1,10 +1,11 @@
+#include <drawing/labelplacement.h>
+#include <drawing/layergeometry.h>
+
 #include <QtMath>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <drawing/labelplacement.h>
-#include <drawing/layergeometry.h>
 
 namespace {
 

@@ -1,8 +1,9 @@
+#include <drawing/occupancygrid.h>
+
 #include <QtMath>
 
 #include <algorithm>
 #include <cmath>
-#include <drawing/occupancygrid.h>
 
 namespace {
 

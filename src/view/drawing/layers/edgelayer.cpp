@@ -1,8 +1,9 @@
+#include <drawing/edgelayer.h>
+#include <drawing/layergeometry.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <drawing/edgelayer.h>
-#include <drawing/layergeometry.h>
 #include <unordered_map>
 
 namespace {

@@ -1,10 +1,11 @@
+#include <drawing/labellayer.h>
+#include <drawing/layergeometry.h>
+
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
 #include <QTextDocument>
 
 #include <cmath>
-#include <drawing/labellayer.h>
-#include <drawing/layergeometry.h>
 
 namespace {
 

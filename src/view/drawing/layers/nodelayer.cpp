@@ -1,10 +1,11 @@
 #include "geometry/canvasgrid.h"
 
+#include <drawing/layergeometry.h>
+#include <drawing/nodelayer.h>
+
 #include <QMap>
 
 #include <algorithm>
-#include <drawing/layergeometry.h>
-#include <drawing/nodelayer.h>
 
 namespace {
 

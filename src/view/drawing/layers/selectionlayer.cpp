@@ -1,9 +1,9 @@
 #include "geometry/canvasgrid.h"
 
 #include <base/settings.h>
+#include <drawing/selectionlayer.h>
 
 #include <algorithm>
-#include <drawing/selectionlayer.h>
 
 namespace {
 

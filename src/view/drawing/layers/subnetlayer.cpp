@@ -1,11 +1,11 @@
 #include "geometry/canvasgrid.h"
 
 #include <base/settings.h>
+#include <drawing/subnetlayer.h>
 #include <model/elementstate.h>
 #include <model/subnetstate.h>
 
 #include <algorithm>
-#include <drawing/subnetlayer.h>
 
 namespace {
 

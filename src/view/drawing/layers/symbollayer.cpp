@@ -1,12 +1,12 @@
 #include "geometry/canvasgrid.h"
 
+#include <drawing/elementfilter.h>
+#include <drawing/symbollayer.h>
 #include <model/elementstate.h>
 
 #include <QtMath>
 
 #include <algorithm>
-#include <drawing/elementfilter.h>
-#include <drawing/symbollayer.h>
 
 namespace {
 

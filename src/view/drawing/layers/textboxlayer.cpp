@@ -1,11 +1,12 @@
 #include "geometry/canvasgrid.h"
 
+#include <drawing/layergeometry.h>
+#include <drawing/textboxlayer.h>
+
 #include <QFontMetricsF>
 #include <QPainterPath>
 
 #include <algorithm>
-#include <drawing/layergeometry.h>
-#include <drawing/textboxlayer.h>
 
 namespace {
 

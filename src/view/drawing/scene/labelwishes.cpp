@@ -1,11 +1,12 @@
 #include "scene/labelwishes.h"
 
-#include <cmath>
 #include <drawing/edgelayer.h>
 #include <drawing/nodelayer.h>
 #include <drawing/subnetlayer.h>
 #include <drawing/symbollayer.h>
 #include <drawing/textboxlayer.h>
+
+#include <cmath>
 
 namespace {
 

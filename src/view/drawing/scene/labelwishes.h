@@ -5,6 +5,7 @@
 #include <drawing/layerfilter.h>
 #include <drawing/layergeometry.h>
 #include <drawing/visibilityrules.h>
+
 #include <set>
 #include <utility>
 #include <vector>

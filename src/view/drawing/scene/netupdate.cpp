@@ -2,14 +2,14 @@
 
 #include <base/nivramsg.h>
 #include <base/settings.h>
+#include <drawing/colorscale.h>
+#include <drawing/elementlooks.h>
+#include <drawing/netupdate.h>
 
 #include <QElapsedTimer>
 
 #include <algorithm>
 #include <cmath>
-#include <drawing/colorscale.h>
-#include <drawing/elementlooks.h>
-#include <drawing/netupdate.h>
 #include <future>
 #include <utility>
 

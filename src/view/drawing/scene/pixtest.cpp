@@ -1,9 +1,9 @@
 #include <base/settings.h>
+#include <drawing/pixtest.h>
 
 #include <QTime>
 
 #include <algorithm>
-#include <drawing/pixtest.h>
 
 namespace {
 

@@ -1,8 +1,9 @@
+#include <drawing/colormap.h>
+
 #include <QColor>
 
 #include <algorithm>
 #include <cmath>
-#include <drawing/colormap.h>
 
 namespace {
 

@@ -1,9 +1,10 @@
 
+#include <drawing/colorscale.h>
+
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
-#include <drawing/colorscale.h>
 
 namespace {
 

@@ -1,10 +1,10 @@
+#include <drawing/drawfunctions.h>
 #include <model/netmetadata.h>
 
 #include <QSet>
 
 #include <algorithm>
 #include <array>
-#include <drawing/drawfunctions.h>
 #include <set>
 
 namespace {

@@ -1,7 +1,8 @@
-#include <algorithm>
-#include <cmath>
 #include <drawing/drawrange.h>
 #include <drawing/plotsettings.h>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 

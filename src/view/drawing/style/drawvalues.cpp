@@ -1,11 +1,12 @@
 #include "geometry/drawngraph.h"
 #include "geometry/geometryreader.h"
 
-#include <algorithm>
-#include <cmath>
 #include <drawing/colormap.h>
 #include <drawing/drawfunctions.h>
 #include <drawing/drawvalues.h>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 

@@ -1,7 +1,8 @@
+#include <drawing/elementlooks.h>
+
 #include <QObject>
 
 #include <cmath>
-#include <drawing/elementlooks.h>
 
 namespace {
 

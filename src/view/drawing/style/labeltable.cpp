@@ -1,4 +1,5 @@
 #include <base/wholefile.h>
+#include <drawing/labeltable.h>
 #include <model/elementtypes.h>
 #include <model/netdata.h>
 
@@ -6,7 +7,6 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <drawing/labeltable.h>
 
 namespace {
 

@@ -1,4 +1,5 @@
 #include <drawing/plotsettings.h>
+
 #include <tuple>
 
 namespace {

@@ -1,8 +1,9 @@
+#include <drawing/typedbounds.h>
+
 #include <QStringList>
 #include <QUrl>
 
 #include <algorithm>
-#include <drawing/typedbounds.h>
 
 QString TypedBounds::aspectKey(Aspect aspect) {
   static const PerAspect<QString> Keys{{QStringLiteral("colorFunc"), QStringLiteral("widthFunc"),

@@ -1,11 +1,12 @@
 #include "symbols/picturefile.h"
 
+#include <drawing/figures.h>
+
 #include <QDir>
 #include <QFontMetricsF>
 
 #include <algorithm>
 #include <cmath>
-#include <drawing/figures.h>
 
 namespace {
 

@@ -1,13 +1,14 @@
 #include "symbols/picturefile.h"
 
+#include <drawing/layergeometry.h>
+#include <drawing/stationsymbols.h>
+
 #include <QFile>
 #include <QFontMetricsF>
 #include <QSvgRenderer>
 
 #include <algorithm>
 #include <cmath>
-#include <drawing/layergeometry.h>
-#include <drawing/stationsymbols.h>
 
 static void initialiseResources() {
   Q_INIT_RESOURCE(drawing); // a static library's resources are dropped by the linker unless somebody asks for them

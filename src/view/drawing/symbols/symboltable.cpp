@@ -1,7 +1,7 @@
+#include <drawing/symboltable.h>
+
 #include <QDir>
 #include <QFile>
-
-#include <drawing/symboltable.h>
 
 Findings SymbolTable::read(const QString &directory) {
   constexpr qint64 LargestTable = qint64(1) << 20;

@@ -1,15 +1,15 @@
 #pragma once
 
 #include <base/finding.h>
+#include <drawing/netupdate.h>
+#include <drawing/plotsettings.h>
+#include <drawing/selectionlayer.h>
 
 #include <QWidget>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_marker.h>
 #include <qwt_plot_textlabel.h>
 
-#include <drawing/netupdate.h>
-#include <drawing/plotsettings.h>
-#include <drawing/selectionlayer.h>
 #include <memory>
 
 class PlotPanner;

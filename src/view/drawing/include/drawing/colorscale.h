@@ -1,12 +1,13 @@
 #pragma once
 
+#include <drawing/colormap.h>
+#include <drawing/drawvalues.h>
+#include <drawing/plotsettings.h>
+
 #include <QColor>
 #include <QString>
 #include <qwt_color_map.h>
 
-#include <drawing/colormap.h>
-#include <drawing/drawvalues.h>
-#include <drawing/plotsettings.h>
 #include <memory>
 
 /// The colours of the draw functions, and what the legend says of them.

@@ -1,12 +1,11 @@
 #pragma once
 
+#include <drawing/plotsettings.h>
 #include <model/netdata.h>
 #include <model/units.h>
 
 #include <QString>
 #include <QStringList>
-
-#include <drawing/plotsettings.h>
 
 /// What a draw function (PlotSettings::functions) shows: a property and the unit in which people read it.
 struct DrawFunction {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <qwt_interval.h>
-
 #include <drawing/drawfunctions.h>
 #include <drawing/netgeometry.h>
 #include <drawing/plotsettings.h>
+
+#include <qwt_interval.h>
 
 struct ElementValues;
 struct ValueRequest;

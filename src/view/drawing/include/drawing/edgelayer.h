@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QPen>
-#include <qwt_plot_item.h>
-
 #include <drawing/layergeometry.h>
 #include <drawing/looks.h>
 #include <drawing/netgeometry.h>
 #include <drawing/spatialindex.h>
+
+#include <QPen>
+#include <qwt_plot_item.h>
 
 /// All edges as one plot item: lines in batches of one pen, of which only the visible ones are touched; parallel edges
 /// side by side; arrows where gas flows.

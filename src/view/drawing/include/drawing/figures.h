@@ -1,13 +1,13 @@
 #pragma once
 
 #include <base/finding.h>
+#include <drawing/netgeometry.h>
 
 #include <QFont>
 #include <QHash>
 #include <QImage>
 #include <QPainter>
 
-#include <drawing/netgeometry.h>
 #include <map>
 
 /// Pictures and characters that elements bring to be drawn in place of their symbol: their properties "figure.file",

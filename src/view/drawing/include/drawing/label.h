@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QStaticText>
-
 #include <drawing/labelcontents.h>
 #include <drawing/labelplacement.h>
+
+#include <QStaticText>
+
 #include <memory>
 #include <vector>
 

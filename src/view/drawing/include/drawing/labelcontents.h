@@ -1,6 +1,8 @@
 #pragma once
 
 #include <base/finding.h>
+#include <drawing/labeltable.h>
+#include <drawing/plotsettings.h>
 #include <formulas/formula.h>
 #include <model/units.h>
 
@@ -8,8 +10,6 @@
 #include <QFont>
 #include <QHash>
 
-#include <drawing/labeltable.h>
-#include <drawing/plotsettings.h>
 #include <memory>
 #include <optional>
 

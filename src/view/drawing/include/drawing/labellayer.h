@@ -1,8 +1,9 @@
 #pragma once
 
+#include <drawing/label.h>
+
 #include <qwt_plot_item.h>
 
-#include <drawing/label.h>
 #include <vector>
 
 /// The labels that found room, as one plot item. While the view moves they keep beside their elements.

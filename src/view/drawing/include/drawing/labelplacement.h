@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QHash>
-#include <QLineF>
-
 #include <drawing/netgeometry.h>
 #include <drawing/occupancygrid.h>
+
+#include <QHash>
+#include <QLineF>
 
 /// Where a label stands: an anchor that moves with the drawing, and the way from there to its middle.
 struct LabelSpot {

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <drawing/netgeometry.h>
+
 #include <QSet>
 
-#include <drawing/netgeometry.h>
 #include <map>
 #include <vector>
 

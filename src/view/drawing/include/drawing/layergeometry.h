@@ -1,5 +1,8 @@
 #pragma once
 
+#include <drawing/netgeometry.h>
+#include <drawing/spatialindex.h>
+
 #include <QFont>
 #include <QLineF>
 #include <QPainter>
@@ -8,8 +11,6 @@
 #include <qwt_scale_map.h>
 
 #include <cmath>
-#include <drawing/netgeometry.h>
-#include <drawing/spatialindex.h>
 
 /// From plot coordinates to pixels by one multiplication and one addition an axis; the plot's axes are linear.
 class Projection {

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <model/netdata.h>
-
-#include <QObject>
-
 #include <drawing/colorscale.h>
 #include <drawing/drawvalues.h>
 #include <drawing/edgelayer.h>
@@ -20,6 +16,10 @@
 #include <drawing/symbollayer.h>
 #include <drawing/textboxlayer.h>
 #include <drawing/visibilityrules.h>
+#include <model/netdata.h>
+
+#include <QObject>
+
 #include <functional>
 
 /// Turns the network and the plot settings into what the plot shows.

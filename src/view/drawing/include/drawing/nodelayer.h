@@ -1,12 +1,12 @@
 #pragma once
 
-#include <qwt_plot_item.h>
-
 #include <drawing/layergeometry.h>
 #include <drawing/looks.h>
 #include <drawing/netgeometry.h>
 #include <drawing/spatialindex.h>
 #include <drawing/visibilityrules.h>
+
+#include <qwt_plot_item.h>
 
 /// All nodes as one plot item: discs for junctions, triangles for supplies and demands, squares for held pressures.
 /// Where nodes crowd they shrink and thin out, stations last, so that the lines stay visible.

@@ -1,11 +1,12 @@
 #pragma once
 
+#include <drawing/cellaxis.h>
+
 #include <QPointF>
 #include <QRectF>
 
 #include <array>
 #include <cstdint>
-#include <drawing/cellaxis.h>
 #include <vector>
 
 /// A rectangle that may be turned about its middle, in pixels.

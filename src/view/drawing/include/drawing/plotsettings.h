@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QColor>
-#include <QString>
-
 #include <drawing/aspect.h>
 #include <drawing/typedbounds.h>
+
+#include <QColor>
+#include <QString>
 
 /// How a network is drawn: the record behind "plotsettings.ini". Bounds of -1e30 and 1e30 are taken from the data.
 struct PlotSettings {

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <base/settings.h>
-
-#include <qwt_plot_item.h>
-
 #include <drawing/layerfilter.h>
 #include <drawing/layergeometry.h>
 #include <drawing/netgeometry.h>
+
+#include <qwt_plot_item.h>
+
 #include <optional>
 
 /// Marks what is selected, and the element under the cursor. On the screen it is painted over the finished drawing, so

@@ -1,11 +1,12 @@
 #pragma once
 
+#include <drawing/symboltable.h>
+
 #include <QHash>
 #include <QPainter>
 #include <QPixmap>
 #include <QString>
 
-#include <drawing/symboltable.h>
 #include <memory>
 #include <utility>
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QColor>
-#include <qwt_plot_item.h>
-
 #include <drawing/elementfilter.h>
 #include <drawing/layergeometry.h>
 #include <drawing/netgeometry.h>
 #include <drawing/stationsymbols.h>
+
+#include <QColor>
+#include <qwt_plot_item.h>
 
 /// Assembled subnets as boxes: the symbol of their kind on a ground that tells how they are controlled, in a ring that
 /// tells what was found of them, joined to their pins. Colours and sizes are general settings of category "subnets".

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <qwt_plot_item.h>
-
-#include <algorithm>
 #include <drawing/figures.h>
 #include <drawing/layerfilter.h>
 #include <drawing/layergeometry.h>
@@ -10,6 +7,10 @@
 #include <drawing/spatialindex.h>
 #include <drawing/stationsymbols.h>
 #include <drawing/visibilityrules.h>
+
+#include <qwt_plot_item.h>
+
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <utility>

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QColor>
-#include <qwt_plot_item.h>
-
 #include <drawing/elementfilter.h>
 #include <drawing/labelcontents.h>
 #include <drawing/layergeometry.h>
 #include <drawing/netgeometry.h>
+
+#include <QColor>
+#include <qwt_plot_item.h>
 
 /// The text boxes of the network as one plot item: their text about their position, on a ground where they have one, else
 /// with a halo that keeps it readable.

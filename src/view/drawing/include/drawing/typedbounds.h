@@ -1,9 +1,9 @@
 #pragma once
 
+#include <drawing/aspect.h>
+
 #include <QHash>
 #include <QString>
-
-#include <drawing/aspect.h>
 
 /// The bounds of one draw function as a person typed them, in the unit that was shown then. Empty: from the data.
 struct TypedBounds {

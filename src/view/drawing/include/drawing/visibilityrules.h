@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QHash>
-
 #include <drawing/labeltable.h>
 #include <drawing/netgeometry.h>
+
+#include <QHash>
+
 #include <vector>
 
 /// Whether elements show their symbols and labels: "vis" of the element, else what the label table says of its type. With

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractItemModel>
+#include <QStringList>
 
 /// A tree of two levels, for models of groups and what is in them.
 ///
@@ -10,17 +11,26 @@
 class GroupModel : public QAbstractItemModel {
   Q_OBJECT
 public:
-  using QAbstractItemModel::QAbstractItemModel;
-
   QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const final;
   QModelIndex parent(const QModelIndex &child) const final;
   int rowCount(const QModelIndex &parent = QModelIndex()) const final;
+  int columnCount(const QModelIndex &parent = QModelIndex()) const final;
   Qt::ItemFlags flags(const QModelIndex &index) const final;
   QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const final;
+  QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const final;
 
 protected:
+  /// \param titles one for each column
+  GroupModel(QStringList titles, QObject *parent);
+
   virtual int groupCount() const = 0;
   virtual int entryCount(int group) const = 0;
   virtual QVariant groupData(int group, int column, int role) const = 0;
   virtual QVariant entryData(int group, int entry, int column, int role) const = 0;
+
+  /// Of the names of groups, for Qt::FontRole.
+  static QVariant boldFont();
+
+private:
+  QStringList m_titles;
 };
