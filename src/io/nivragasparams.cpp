@@ -109,21 +109,17 @@ bool NivraGasParams::setFromText(const QString &key, const QString &text, const 
   static const QHash<QString, QString> prefixed{{QStringLiteral("NIVRA_ntype_HTC"), QStringLiteral("ntype_HTC")},
                                                 {QStringLiteral("NIVRA_HTC_value"), QStringLiteral("HTC_value")}};
   const QString name = prefixed.value(key, key);
-  for (const auto &[integerKey, field] : Integers) {
-    if (name == QLatin1String(integerKey)) {
-      this->*field = text.toInt();
+  const auto take = [&](const auto &fields, const auto &number) {
+    for (const auto &[fieldKey, field] : fields) {
+      if (name != QLatin1String(fieldKey))
+        continue;
+      this->*field = number();
       origin.insert(name, file);
       return true;
     }
-  }
-  for (const auto &[realKey, field] : Reals) {
-    if (name == QLatin1String(realKey)) {
-      this->*field = text.toDouble();
-      origin.insert(name, file);
-      return true;
-    }
-  }
-  return false;
+    return false;
+  };
+  return take(Integers, [&] { return text.toInt(); }) || take(Reals, [&] { return text.toDouble(); });
 }
 
 QVector<NivraGasParams::Entry> NivraGasParams::entries() const {
