@@ -12,16 +12,9 @@
 
 namespace {
 
-CommandLine wrong(const QString &text) {
+CommandLine answer(CommandLine::Action action, const QString &text) {
   CommandLine line;
-  line.action = CommandLine::Action::Wrong;
-  line.text = text;
-  return line;
-}
-
-CommandLine print(const QString &text) {
-  CommandLine line;
-  line.action = CommandLine::Action::Print;
+  line.action = action;
   line.text = text;
   return line;
 }
@@ -170,11 +163,11 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
   parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
   QString style;
   if (!parser.parse(ToolkitOptions::without(arguments, style)))
-    return wrong(parser.errorText());
+    return answer(Action::Wrong, parser.errorText());
   if (parser.isSet(help))
-    return print(parser.helpText());
+    return answer(Action::Print, parser.helpText());
   if (parser.isSet(version))
-    return print(QStringLiteral("Nivra Reader %1\n").arg(AboutBox::version()));
+    return answer(Action::Print, QStringLiteral("Nivra Reader %1\n").arg(AboutBox::version()));
 
   CommandLine line;
   line.style = style;
@@ -183,13 +176,13 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
   const QStringList files = parser.positionalArguments();
   line.file = files.value(0);
   if (parser.isSet(picture) && line.picture.trimmed().isEmpty())
-    return wrong(tr("--export needs the name of a picture."));
+    return answer(Action::Wrong, tr("--export needs the name of a picture."));
   if (line.info || parser.isSet(picture)) {
     line.action = Action::Batch;
     if (files.size() != 1)
-      return wrong(tr("--info and --export take exactly one FILE."));
+      return answer(Action::Wrong, tr("--info and --export take exactly one FILE."));
   }
   const QString wrongSize = size.take(parser, line);
   const QString reason = wrongSize.isEmpty() ? drawing.take(parser, line) : wrongSize;
-  return reason.isEmpty() ? line : wrong(reason);
+  return reason.isEmpty() ? line : answer(Action::Wrong, reason);
 }

@@ -9,10 +9,7 @@
 namespace {
 
 /// The vocabulary tells of the properties of gases as of those of nodes, which carry them.
-const QString &vocabularyType() {
-  static const QString type = QStringLiteral("n");
-  return type;
-}
+const QString VocabularyType = QStringLiteral("n");
 
 bool isNameOrType(PropertyKey key) {
   static const PropertyKey word = PropertyKey::intern("obj_type");
@@ -38,13 +35,13 @@ void GasModel::set(const GasTable &gases, const NetMetaData &metaData) {
   }
   DisplayValue display(metaData);
   for (const auto &[folded, key] : properties) {
-    const NetMetaData::Attribute *attribute = metaData.attribute(vocabularyType(), key.name());
+    const NetMetaData::Attribute *attribute = metaData.attribute(VocabularyType, key.name());
     Row row{attribute == nullptr ? QString() : attribute->longName, {key.name(), QString()}};
-    row.texts[UnitColumn] = Units::written(display.unit(vocabularyType(), key));
+    row.texts[UnitColumn] = Units::written(display.unit(VocabularyType, key));
     for (const auto &[name, gas] : gases) {
       const PropertyText *value = gas.find(key);
       row.texts.append(value == nullptr ? QString()
-                                        : ScenarioModel::shortened(display.of(vocabularyType(), key, *value).value));
+                                        : ScenarioModel::shortened(display.of(VocabularyType, key, *value).value));
     }
     m_rows.push_back(std::move(row));
   }

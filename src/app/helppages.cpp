@@ -3,10 +3,6 @@
 #include <QFile>
 #include <QRegularExpression>
 
-static void initialiseResources() {
-  Q_INIT_RESOURCE(app); // a static library's resources are dropped by the linker unless somebody asks for them
-}
-
 namespace {
 
 /// As the usual viewers of Markdown name the anchor of a heading.
@@ -18,7 +14,7 @@ QString anchorOf(const QString &title) {
 } // namespace
 
 HelpPages::HelpPages() {
-  initialiseResources();
+  Q_INIT_RESOURCE(app); // a static library's resources are dropped by the linker unless somebody asks for them
   for (const QString &document : {QStringLiteral("user-guide.md"), QStringLiteral("file-formats.md")}) {
     QFile file(QStringLiteral(":/help/") + document);
     if (file.open(QIODevice::ReadOnly))

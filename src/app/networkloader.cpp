@@ -47,9 +47,10 @@ void warnOf(const Findings &findings) {
   NivraMsg::debug(QStringLiteral("after checkNetData"));
 }
 
-/// The formula and constraint files of a folder, by name. What is no file but named as one is told when it is opened.
-std::vector<FormulaDefinition> definitionsIn(const QString &directory, const QString &category, Findings &findings) {
-  std::vector<FormulaDefinition> definitions;
+/// Adds those of the formula and constraint files of a folder, by name. What is no file but named as one is told when it is
+/// opened.
+void addDefinitions(const QString &directory, const QString &category, std::vector<FormulaDefinition> &definitions,
+                    Findings &findings) {
   const QStringList patterns{QStringLiteral("*.formulas"), QStringLiteral("*.constraints")};
   const QDir::Filters anything = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
   for (const QFileInfo &file : QDir(directory).entryInfoList(patterns, anything, QDir::Name)) {
@@ -57,7 +58,6 @@ std::vector<FormulaDefinition> definitionsIn(const QString &directory, const QSt
     std::move(contents.definitions.begin(), contents.definitions.end(), std::back_inserter(definitions));
     append(findings, std::move(contents.findings));
   }
-  return definitions;
 }
 
 } // namespace
@@ -209,12 +209,9 @@ bool NetworkLoader::assembleSubnets(const ReadOptions &options) {
 bool NetworkLoader::computeFormulas(const Progress &progress) {
   Findings findings;
   std::vector<FormulaDefinition> definitions = std::move(m_templateDefinitions); // those of the case come after and count
-  std::vector<FormulaDefinition> own = definitionsIn(m_workspace.caseDirectory(), QStringLiteral("geometry"), findings);
-  std::move(own.begin(), own.end(), std::back_inserter(definitions));
+  addDefinitions(m_workspace.caseDirectory(), QStringLiteral("geometry"), definitions, findings);
   if (m_workspace.hasScenario()) {
-    std::vector<FormulaDefinition> more =
-        definitionsIn(m_workspace.scenarioDirectory(), QStringLiteral("scenario"), findings);
-    std::move(more.begin(), more.end(), std::back_inserter(definitions));
+    addDefinitions(m_workspace.scenarioDirectory(), QStringLiteral("scenario"), definitions, findings);
   } else {
     const auto isOfResults = [](const FormulaDefinition &definition) {
       return definition.category == QLatin1String("results");

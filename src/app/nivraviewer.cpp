@@ -246,7 +246,7 @@ bool NivraViewer::readWorkspace() {
   return done;
 }
 
-bool NivraViewer::askForIncludeLists(NetworkLoader::ReadOptions &options) {
+void NivraViewer::askForIncludeLists(NetworkLoader::ReadOptions &options) {
   bool accepted = false;
   options.includeTypes =
       QInputDialog::getText(this, tr("Include Types"), tr("Enter include list for types\n(regular expression):"),
@@ -255,7 +255,6 @@ bool NivraViewer::askForIncludeLists(NetworkLoader::ReadOptions &options) {
     options.includeProperties =
         QInputDialog::getText(this, tr("Include Properties"), tr("Enter include list for properties\n(regular expression):"),
                               QLineEdit::Normal, QString(), &accepted);
-  return accepted;
 }
 
 void NivraViewer::openSubnet(const QString &name) {

@@ -61,7 +61,7 @@ private:
   void useLastScenario();
   OutcomeStyle::Outcome outcome(bool isDone) const;
   bool readWorkspace();
-  bool askForIncludeLists(NetworkLoader::ReadOptions &options);
+  void askForIncludeLists(NetworkLoader::ReadOptions &options);
   void openSubnet(const QString &name);
   QList<SubnetWindow *> subnetWindows() const;
   void addChange(const ElementChange &change);

@@ -5,7 +5,7 @@
 #include <QDir>
 
 ScenarioModel::ScenarioModel(QObject *parent)
-    : GroupModel({tr("setting"), tr("value"), tr("source"), tr("comment")}, parent) {}
+    : SettingGroups({tr("setting"), tr("value"), tr("source"), tr("comment")}, parent) {}
 
 QString ScenarioModel::shortened(const QString &text) {
   constexpr int LongestCell = 10000;
@@ -24,14 +24,6 @@ void ScenarioModel::set(const ScenarioSummary &summary) {
   endResetModel();
 }
 
-int ScenarioModel::groupCount() const {
-  return static_cast<int>(m_sections.size());
-}
-
-int ScenarioModel::entryCount(int group) const {
-  return static_cast<int>(at(group).rows.size());
-}
-
 QString ScenarioModel::text(const ScenarioSummary::Row &row, int column) const {
   switch (column) {
   case NameColumn:
@@ -45,14 +37,8 @@ QString ScenarioModel::text(const ScenarioSummary::Row &row, int column) const {
   }
 }
 
-QVariant ScenarioModel::groupData(int group, int column, int role) const {
-  if (role == Qt::DisplayRole && column == NameColumn)
-    return at(group).name;
-  return role == Qt::FontRole ? boldFont() : QVariant();
-}
-
 QVariant ScenarioModel::entryData(int group, int entry, int column, int role) const {
-  const ScenarioSummary::Row &row = at(group).rows[static_cast<std::size_t>(entry)];
+  const ScenarioSummary::Row &row = at(group, entry);
   switch (role) {
   case Qt::DisplayRole:
     return text(row, column);

@@ -3,8 +3,14 @@
 #include <io/scenariosummary.h>
 #include <tools/groupmodel.h>
 
+struct SettingGroup {
+  QString name; ///< of the section
+  std::vector<ScenarioSummary::Row> rows;
+};
+using SettingGroups = NamedGroups<SettingGroup, &SettingGroup::rows>;
+
 /// What case and scenario carry beside the network: sections, below each its settings with value, source and comment.
-class ScenarioModel final : public GroupModel {
+class ScenarioModel final : public SettingGroups {
   Q_OBJECT
 public:
   enum Columns { NameColumn, ValueColumn, SourceColumn, CommentColumn };
@@ -19,20 +25,12 @@ public:
   static QString shortened(const QString &text);
 
 protected:
-  int groupCount() const final;
-  int entryCount(int group) const final;
-  QVariant groupData(int group, int column, int role) const final;
+  const std::vector<SettingGroup> &groups() const final { return m_sections; }
   QVariant entryData(int group, int entry, int column, int role) const final;
 
 private:
-  struct Section {
-    QString name;
-    std::vector<ScenarioSummary::Row> rows;
-  };
-
-  const Section &at(int group) const { return m_sections[static_cast<std::size_t>(group)]; }
   QString text(const ScenarioSummary::Row &row, int column) const;
 
-  std::vector<Section> m_sections;
+  std::vector<SettingGroup> m_sections;
   QString m_root; ///< of the workspace
 };

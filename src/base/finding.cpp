@@ -40,7 +40,7 @@ void append(Findings &findings, Findings more) {
 
 void tell(const Told &told, Finding::Severity severity, const QString &text) {
   if (told)
-    told({severity, QString(), 0, text, QString()});
+    told({severity, {}, 0, text});
 }
 
 void logFinding(const Finding &finding) {

@@ -45,8 +45,7 @@ public:
       const QString name = m_source.relativeFilePath(path);
       const QString why = QFileInfo(path).isFile() ? FileAccess::confinementFault(path) : Texts::tr("is not a regular file");
       if (!why.isEmpty()) {
-        result.findings.push_back(
-            {Finding::Severity::Warning, path, 0, Texts::tr("%1 is left out: it %2").arg(name, why), QString()});
+        result.findings.push_back({Finding::Severity::Warning, path, 0, Texts::tr("%1 is left out: it %2").arg(name, why)});
         result.report.drop(Texts::tr("file"), why);
       } else if (NetworkFileConverter::isNetworkFile(name)) {
         convert(path, NetworkFileConverter::otherForm(name));
@@ -60,7 +59,7 @@ public:
 
   void fail(const QString &reason) {
     result.ok = false;
-    result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, QString()});
+    result.findings.push_back({Finding::Severity::Critical, {}, 0, reason});
   }
 
   CaseConverter::Result result;

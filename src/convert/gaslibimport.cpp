@@ -68,7 +68,7 @@ private:
   };
 
   bool fail(const QString &reason) {
-    m_result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, QString()});
+    m_result.findings.push_back({Finding::Severity::Critical, {}, 0, reason});
     return false;
   }
 

@@ -4,16 +4,10 @@
 
 #include <model/names.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <iterator>
 
 namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(GasLibNetwork)
-};
 
 /// So that the layers of an imported network are worth having.
 QString layerOf(const QString &kind) {
@@ -48,7 +42,7 @@ bool GasLibNetwork::read() {
     else if (m_xml.name() == QLatin1String("information"))
       readInformation();
     else
-      drop(Texts::tr("not known"));
+      drop(tr("not known"));
   }
   if (!finish())
     return false;
@@ -70,11 +64,11 @@ bool GasLibNetwork::isUsable(const QString &kind, bool isKnown, QHash<QString, i
   const QString name = attribute("id");
   QString why;
   if (!isKnown)
-    why = Texts::tr("The element %1 is not known and left out").arg(kind);
+    why = tr("The element %1 is not known and left out").arg(kind);
   else if (name.isEmpty())
-    why = Texts::tr("A %1 without id is left out").arg(kind);
+    why = tr("A %1 without id is left out").arg(kind);
   else if (names.contains(name.toLower()))
-    why = Texts::tr("%1 is left out: one of this name, regardless of case, stands in line %2")
+    why = tr("%1 is left out: one of this name, regardless of case, stands in line %2")
               .arg(name)
               .arg(names.value(name.toLower()));
   if (why.isEmpty()) {
@@ -82,7 +76,7 @@ bool GasLibNetwork::isUsable(const QString &kind, bool isKnown, QHash<QString, i
     return true;
   }
   tell(why);
-  drop(isKnown ? Texts::tr("without a name of its own") : Texts::tr("not known"));
+  drop(isKnown ? tr("without a name of its own") : tr("not known"));
   return false;
 }
 
@@ -98,7 +92,7 @@ void GasLibNetwork::readAttributes(Record &record, const std::vector<Attribute> 
     if (value.isEmpty() || read.contains(name))
       continue;
     if (found == known.end()) {
-      report.drop(name, Texts::tr("not known"));
+      report.drop(name, tr("not known"));
       continue;
     }
     report.take(name);
@@ -111,7 +105,7 @@ void GasLibNetwork::readValues(Record &record, const std::vector<Known> &known) 
     const auto found = std::find_if(known.begin(), known.end(),
                                     [this](const Known &one) { return m_xml.name() == QLatin1String(one.element); });
     if (found == known.end())
-      drop(Texts::tr("not known"));
+      drop(tr("not known"));
     else if (const auto value = number(found->unit, {}, found->isNegated))
       add(record, found->property, *value);
   }
@@ -151,7 +145,7 @@ void GasLibNetwork::readNodes() {
       if (const auto at = GasLibUnits::read(attribute(name)))
         add(record, property, *at);
       else if (!attribute(name).isEmpty())
-        tell(Texts::tr("The %1 of %2 is no number: %3").arg(QLatin1String(name), record.name, attribute(name)));
+        tell(tr("The %1 of %2 is no number: %3").arg(QLatin1String(name), record.name, attribute(name)));
     }
     add(record, "kind", kind);
     add(record, "vis.layer", layerOf(kind));
@@ -220,9 +214,8 @@ void GasLibNetwork::leaveOutLooseEnds() {
       kept.push_back(std::move(edges[i]));
       continue;
     }
-    tell(Texts::tr("%1 is left out: it leads from \"%2\" to \"%3\", which are not both there").arg(edges[i].name, from, to),
-         line);
-    report.drop(kind, Texts::tr("without both ends"));
+    tell(tr("%1 is left out: it leads from \"%2\" to \"%3\", which are not both there").arg(edges[i].name, from, to), line);
+    report.drop(kind, tr("without both ends"));
   }
   edges = std::move(kept);
 }

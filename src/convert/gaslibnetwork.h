@@ -2,6 +2,7 @@
 
 #include "gaslibreader.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QJsonObject>
 
@@ -9,6 +10,7 @@
 
 /// Reads the network of a public instance (".net") into records of our own.
 class GasLibNetwork : public GasLibReader {
+  Q_DECLARE_TR_FUNCTIONS(GasLibNetwork)
 public:
   using GasLibReader::GasLibReader;
 

@@ -1,19 +1,10 @@
 #include "gaslibnomination.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
 #include <iterator>
 #include <utility>
-
-namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(GasLibNomination)
-};
-
-} // namespace
 
 GasLibNomination::GasLibNomination(const QString &path, const GasLibNetwork &network)
     : GasLibReader(path)
@@ -26,12 +17,12 @@ bool GasLibNomination::read() {
     if (m_xml.name() == QLatin1String("scenario"))
       readScenario();
     else
-      drop(Texts::tr("not known"));
+      drop(tr("not known"));
   }
   if (!finish())
     return false;
   if (scenarios.empty())
-    tell(Texts::tr("The file holds no scenario"), 0);
+    tell(tr("The file holds no scenario"), 0);
   return !scenarios.empty() && belongsToNetwork();
 }
 
@@ -44,11 +35,11 @@ void GasLibNomination::readScenario() {
     const QString name = attribute("id");
     const bool isPipe = kind == QLatin1String("pipe");
     if (kind != QLatin1String("node") && !isPipe) {
-      drop(Texts::tr("has no place in a scenario"));
+      drop(tr("has no place in a scenario"));
     } else if (name.isEmpty() || named.contains(kind + name)) {
-      tell(name.isEmpty() ? Texts::tr("A %1 without id is left out").arg(kind)
-                          : Texts::tr("%1 is named again; what follows is left out").arg(name));
-      drop(Texts::tr("named twice or not at all"));
+      tell(name.isEmpty() ? tr("A %1 without id is left out").arg(kind)
+                          : tr("%1 is named again; what follows is left out").arg(name));
+      drop(tr("named twice or not at all"));
     } else {
       named.insert(kind + name);
       isPipe ? readPipe(scenario) : readNode(scenario);
@@ -62,14 +53,14 @@ void GasLibNomination::readPipe(Scenario &scenario) {
   const QString name = attribute("id");
   // A set point names its element alone, and nodes come first.
   if (m_network.kindOfConnection(name) != QLatin1String("pipe") || !m_network.kindOf(name).isEmpty()) {
-    tell(Texts::tr("%1 is no pipe of the network; what is said of it is left out").arg(name));
-    drop(Texts::tr("not in the network"));
+    tell(tr("%1 is no pipe of the network; what is said of it is left out").arg(name));
+    drop(tr("not in the network"));
     return;
   }
   report.take(QStringLiteral("pipe"));
   while (m_xml.readNextStartElement()) {
     if (m_xml.name() != QLatin1String("soilTemperature"))
-      drop(Texts::tr("not known"));
+      drop(tr("not known"));
     else if (const auto temperature = number("K"))
       set(scenario, name, "tsoil", *temperature, "K");
   }
@@ -82,17 +73,17 @@ void GasLibNomination::readNode(Scenario &scenario) {
   ++m_nodes;
   if (kind.isEmpty()) {
     ++m_unknown;
-    tell(Texts::tr("%1 is no node of the network; what is said of it is left out").arg(node));
-    drop(Texts::tr("not in the network"));
+    tell(tr("%1 is no node of the network; what is said of it is left out").arg(node));
+    drop(tr("not in the network"));
     return;
   }
   bool isEntry = type == QLatin1String("entry");
   if (!isEntry && type != QLatin1String("exit")) {
     isEntry = kind == QLatin1String("source");
-    tell(Texts::tr("%1 is neither entry nor exit but \"%2\"; it counts as the %3 that it is").arg(node, type, kind));
+    tell(tr("%1 is neither entry nor exit but \"%2\"; it counts as the %3 that it is").arg(node, type, kind));
   } else if (kind == (isEntry ? QLatin1String("sink") : QLatin1String("source"))) {
     ++m_otherwise;
-    tell(Texts::tr("%1 is an %2 in the nomination and a %3 of the network; the nomination holds").arg(node, type, kind));
+    tell(tr("%1 is an %2 in the nomination and a %3 of the network; the nomination holds").arg(node, type, kind));
   }
   report.take(QStringLiteral("node"));
   Bounds flow;
@@ -126,7 +117,7 @@ void GasLibNomination::readQuality(Scenario &scenario, const QString &node) {
   const auto found = std::find_if(std::begin(known), std::end(known),
                                   [this](const Known &one) { return m_xml.name() == QLatin1String(one.element); });
   if (found == std::end(known))
-    drop(Texts::tr("not known"));
+    drop(tr("not known"));
   else if (const auto value = number(found->unit))
     set(scenario, node, found->property, *value, found->unit);
 }
@@ -136,8 +127,8 @@ void GasLibNomination::readBound(Bounds &bounds, const char *unit, const Units::
   const bool isBoth = bound == QLatin1String("both") || bound.isEmpty();
   const bool isLower = bound == QLatin1String("lower");
   if (!isBoth && !isLower && bound != QLatin1String("upper")) {
-    tell(Texts::tr("The bound \"%1\" is neither lower, upper nor both; it is left out").arg(bound));
-    drop(Texts::tr("the bound \"%1\"").arg(bound));
+    tell(tr("The bound \"%1\" is neither lower, upper nor both; it is left out").arg(bound));
+    drop(tr("the bound \"%1\"").arg(bound));
     return;
   }
   const std::optional<GasLibUnits::Number> value = number(unit, gas, isNegated);
@@ -177,9 +168,8 @@ bool GasLibNomination::belongsToNetwork() {
   const int ends = m_network.boundaryNodes() * count;
   const bool isOfOthers = 2 * (m_unknown + m_otherwise) > m_nodes;
   if (isOfOthers || (m_nodes >= Long * count && 2 * known < ends)) {
-    tell(Texts::tr(
-             "The nomination belongs to another network: of its %1 nodes %2 are not there and %3 are of the other kind, and "
-             "the network has %4 entries and exits")
+    tell(tr("The nomination belongs to another network: of its %1 nodes %2 are not there and %3 are of the other kind, and "
+            "the network has %4 entries and exits")
              .arg(m_nodes)
              .arg(m_unknown)
              .arg(m_otherwise)
@@ -188,6 +178,6 @@ bool GasLibNomination::belongsToNetwork() {
     return false;
   }
   if (known < ends)
-    tell(Texts::tr("The nomination names %1 of the %2 entries and exits of the network").arg(known).arg(ends), 0);
+    tell(tr("The nomination names %1 of the %2 entries and exits of the network").arg(known).arg(ends), 0);
   return true;
 }

@@ -2,10 +2,13 @@
 
 #include "gaslibnetwork.h"
 
+#include <QCoreApplication>
+
 #include <vector>
 
 /// Reads the nominations of a public instance (".scn") into set points.
 class GasLibNomination : public GasLibReader {
+  Q_DECLARE_TR_FUNCTIONS(GasLibNomination)
 public:
   /// \param network to which it is to belong; must stay
   GasLibNomination(const QString &path, const GasLibNetwork &network);

@@ -1,15 +1,5 @@
 #include "gaslibreader.h"
 
-#include <QCoreApplication>
-
-namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(GasLibReader)
-};
-
-} // namespace
-
 std::optional<GasLibUnits::Number> GasLibReader::number(const char *unit, const Units::Gas &gas, bool isNegated) {
   const QString kind = m_xml.name().toString();
   const QString text = attribute("value");
@@ -17,22 +7,22 @@ std::optional<GasLibUnits::Number> GasLibReader::number(const char *unit, const 
   const QString wanted = QString::fromLatin1(unit);
   const std::optional<GasLibUnits::Number> read = GasLibUnits::read(text);
   if (!read) {
-    tell(Texts::tr("%1 is no number: \"%2\"; left out").arg(kind, text));
-    drop(Texts::tr("no number"));
+    tell(tr("%1 is no number: \"%2\"; left out").arg(kind, text));
+    drop(tr("no number"));
     return std::nullopt;
   }
   std::optional<GasLibUnits::Number> number = GasLibUnits::convert(*read, given, wanted, gas);
   if (!number) {
-    tell(Texts::tr("%1: the unit \"%2\" cannot be converted to \"%3\"; left out").arg(kind, given, wanted));
-    drop(Texts::tr("the unit \"%1\"").arg(given));
+    tell(tr("%1: the unit \"%2\" cannot be converted to \"%3\"; left out").arg(kind, given, wanted));
+    drop(tr("the unit \"%1\"").arg(given));
     return std::nullopt;
   }
   if (isNegated)
     number = number->negated();
   if (number->isConverted)
-    report.convert(kind, Texts::tr("%1 to %2").arg(given, wanted));
+    report.convert(kind, tr("%1 to %2").arg(given, wanted));
   else if (isNegated)
-    report.convert(kind, Texts::tr("supplies are negative"));
+    report.convert(kind, tr("supplies are negative"));
   else
     report.take(kind);
   m_xml.skipCurrentElement();

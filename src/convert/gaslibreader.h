@@ -6,8 +6,11 @@
 #include <io/gaslibxml.h>
 #include <io/networkrecord.h>
 
+#include <QCoreApplication>
+
 /// What the importers of public network instances have in common: numbers in our units, and account of every element.
 class GasLibReader : public GasLibXml {
+  Q_DECLARE_TR_FUNCTIONS(GasLibReader)
 public:
   explicit GasLibReader(const QString &path)
       : GasLibXml(path, FileAccess::Source::Trusted) {}

@@ -1,15 +1,6 @@
 #include "gaslibstations.h"
 
-#include <QCoreApplication>
 #include <QSet>
-
-namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(GasLibStations)
-};
-
-} // namespace
 
 bool GasLibStations::read() {
   if (!start(QStringLiteral("compressorStations"), QStringLiteral("CompressorStations")))
@@ -18,7 +9,7 @@ bool GasLibStations::read() {
     if (m_xml.name() == QLatin1String("compressorStation"))
       readStation();
     else
-      drop(Texts::tr("not known"));
+      drop(tr("not known"));
   }
   return finish();
 }
@@ -26,8 +17,8 @@ bool GasLibStations::read() {
 void GasLibStations::readStation() {
   Station station{attribute("id"), QString(), {}, static_cast<int>(m_xml.lineNumber())};
   if (m_stations.contains(station.name.toLower())) {
-    tell(Texts::tr("%1 is described again; what follows is left out").arg(station.name));
-    drop(Texts::tr("named twice or not at all"));
+    tell(tr("%1 is described again; what follows is left out").arg(station.name));
+    drop(tr("named twice or not at all"));
     return;
   }
   m_stations.insert(station.name.toLower());
@@ -43,9 +34,9 @@ void GasLibStations::readStation() {
       const QString kind = m_xml.name().toString();
       const QString key = (areDrives ? QLatin1Char('d') : QLatin1Char('c')) + name.toLower();
       if (name.isEmpty() || named.contains(key)) {
-        tell(name.isEmpty() ? Texts::tr("A %1 without id is left out").arg(kind)
-                            : Texts::tr("%1 is named again in %2; what follows is left out").arg(name, station.name));
-        drop(Texts::tr("named twice or not at all"));
+        tell(name.isEmpty() ? tr("A %1 without id is left out").arg(kind)
+                            : tr("%1 is named again in %2; what follows is left out").arg(name, station.name));
+        drop(tr("named twice or not at all"));
         continue;
       }
       named.insert(key);

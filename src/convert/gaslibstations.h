@@ -2,6 +2,7 @@
 
 #include "gaslibreader.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 #include <vector>
@@ -9,6 +10,7 @@
 /// Reads of which machines the compressor stations of a public instance (".cs") consist. The data of the machines are read
 /// when a network is opened.
 class GasLibStations : public GasLibReader {
+  Q_DECLARE_TR_FUNCTIONS(GasLibStations)
 public:
   using GasLibReader::GasLibReader;
 

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QPointF>
 #include <QtMath>
 
 #include <algorithm>
@@ -18,21 +19,16 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(NodePlaces)
 };
 
-struct Position {
-  double x = 0.0;
-  double y = 0.0;
-};
-
-std::optional<Position> positionOf(const Record &node, const char *x, const char *y) {
+std::optional<QPointF> positionOf(const Record &node, const char *x, const char *y) {
   const NetworkRecord::Value *atX = node.find(PropertyKey::intern(x));
   const NetworkRecord::Value *atY = node.find(PropertyKey::intern(y));
   if (atX == nullptr || atY == nullptr)
     return std::nullopt;
-  return Position{atX->text.toDouble().value_or(0.0), atY->text.toDouble().value_or(0.0)};
+  return QPointF(atX->text.toDouble().value_or(0.0), atY->text.toDouble().value_or(0.0));
 }
 
-void setPosition(Record &node, const Position &position) {
-  for (const auto &[property, at] : {std::make_pair("x", position.x), {"y", position.y}}) {
+void setPosition(Record &node, const QPointF &position) {
+  for (const auto &[property, at] : {std::make_pair("x", position.x()), {"y", position.y()}}) {
     constexpr int Digits = 14; // what the mean adds beyond is noise
     const PropertyKey key = PropertyKey::intern(property);
     node.values.erase(std::remove_if(node.values.begin(), node.values.end(),
@@ -58,7 +54,7 @@ public:
     }
   }
 
-  void fill(std::vector<std::optional<Position>> &positions) const {
+  void fill(std::vector<std::optional<QPointF>> &positions) const {
     std::vector<std::size_t> ring;
     for (std::size_t i = 0; i < positions.size(); ++i) {
       if (positions[i])
@@ -75,7 +71,7 @@ public:
           next.push_back(neighbour);
         }
       }
-      std::vector<Position> found;
+      std::vector<QPointF> found;
       found.reserve(next.size());
       for (const std::size_t node : next)
         found.push_back(mean(node, positions));
@@ -86,17 +82,16 @@ public:
   }
 
 private:
-  Position mean(std::size_t node, const std::vector<std::optional<Position>> &positions) const {
-    Position sum;
+  QPointF mean(std::size_t node, const std::vector<std::optional<QPointF>> &positions) const {
+    QPointF sum;
     double count = 0.0;
     for (const std::size_t neighbour : m_neighbours[node]) {
       if (!positions[neighbour])
         continue;
-      sum.x += positions[neighbour]->x;
-      sum.y += positions[neighbour]->y;
+      sum += *positions[neighbour];
       count += 1.0;
     }
-    return {sum.x / count, sum.y / count};
+    return sum / count;
   }
 
   std::vector<std::vector<std::size_t>> m_neighbours;
@@ -105,7 +100,7 @@ private:
 } // namespace
 
 QString NodePlaces::complete(std::vector<Record> &nodes, const std::vector<Record> &edges) {
-  std::vector<std::optional<Position>> positions;
+  std::vector<std::optional<QPointF>> positions;
   const auto look = [&](const char *x, const char *y) {
     positions.clear();
     for (const Record &node : nodes)
@@ -125,7 +120,7 @@ QString NodePlaces::complete(std::vector<Record> &nodes, const std::vector<Recor
     constexpr double NeighbourDistance = 10.0; // on the circle, in plot units
     const double angle = FullTurn * static_cast<double>(i) / static_cast<double>(count);
     const double radius = NeighbourDistance * static_cast<double>(count) / FullTurn;
-    setPosition(nodes[i], positions[i] ? *positions[i] : Position{radius * std::cos(angle), radius * std::sin(angle)});
+    setPosition(nodes[i], positions[i] ? *positions[i] : QPointF(radius * std::cos(angle), radius * std::sin(angle)));
   }
   const QString how = isByMap ? Texts::tr("their longitude and latitude serve, or they are put between their neighbours")
                               : Texts::tr("they are put between their neighbours, or on a circle");

@@ -2,16 +2,11 @@
 
 #include <base/fileaccess.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
 
 namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(StagedFolder)
-};
 
 QString within(const QString &folder, const QString &name) {
   return folder + QLatin1Char('/') + name;
@@ -45,7 +40,7 @@ StagedFolder::StagedFolder(const QString &target)
 
 bool StagedFolder::open(QString *reason) {
   if (QFileInfo::exists(m_target) && !QFileInfo(m_target).isDir()) {
-    *reason = Texts::tr("%1 is no folder").arg(m_target);
+    *reason = tr("%1 is no folder").arg(m_target);
     return false;
   }
   // In the target itself, or in the nearest folder above that is there: what is renamed must stay on its disk.
@@ -56,7 +51,7 @@ bool StagedFolder::open(QString *reason) {
   if (m_room->isValid() && QDir(m_room->path()).mkdir(QStringLiteral("new")) &&
       QDir(m_room->path()).mkdir(QStringLiteral("old")))
     return true;
-  *reason = Texts::tr("Cannot write into %1: %2").arg(folder, m_room->errorString());
+  *reason = tr("Cannot write into %1: %2").arg(folder, m_room->errorString());
   return false;
 }
 
@@ -94,7 +89,7 @@ bool StagedFolder::commit(bool overwrites, const QStringList &kept, QString *rea
     }
   }
   if (!overwrites && !refused.isEmpty()) {
-    *reason = Texts::tr("%1 holds other files of these names, which would be replaced: %2")
+    *reason = tr("%1 holds other files of these names, which would be replaced: %2")
                   .arg(m_target, refused.join(QStringLiteral(", ")));
     return false;
   }
@@ -109,7 +104,7 @@ bool StagedFolder::moveWhole(QString *reason) const {
   const bool isParentMade = !QFileInfo::exists(parent);
   if (QDir().mkpath(parent) && QDir().rename(m_room->filePath(QStringLiteral("new")), m_target))
     return true;
-  *reason = Texts::tr("Cannot make the folder %1").arg(m_target);
+  *reason = tr("Cannot make the folder %1").arg(m_target);
   if (isParentMade)
     QDir(made).removeRecursively();
   return false;
@@ -127,7 +122,7 @@ bool StagedFolder::moveAll(const QStringList &names, QString *reason) const {
       done.append(move);
       continue;
     }
-    *reason = Texts::tr("Cannot write %1").arg(target);
+    *reason = tr("Cannot write %1").arg(target);
     if (isFree && move.replaces)
       putBack(name, reason);
     takeBack(done, reason);
@@ -142,7 +137,7 @@ void StagedFolder::putBack(const QString &name, QString *reason) const {
   if (QFile::rename(old, within(m_target, name)))
     return;
   m_room->setAutoRemove(false);
-  *reason += Texts::tr("; the former %1 is kept as %2").arg(name, old);
+  *reason += tr("; the former %1 is kept as %2").arg(name, old);
 }
 
 void StagedFolder::takeBack(const QList<Move> &moves, QString *reason) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -9,6 +10,7 @@
 /// A folder that is written beside its target and takes its place when it is complete: a conversion that fails leaves
 /// nothing behind. Where the target is there already its files stay, and new ones come in among them, all or none.
 class StagedFolder {
+  Q_DECLARE_TR_FUNCTIONS(StagedFolder)
 public:
   explicit StagedFolder(const QString &target);
 

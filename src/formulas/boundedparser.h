@@ -29,10 +29,11 @@ private:
   double m_left = std::numeric_limits<double>::infinity();
 };
 
-/// The expression parser with the functions of the formulas, all of whose functions and operators keep to the bounds.
+/// The expression parser of muparserx with the functions of the formulas (isnull, isnotnull, nonull, pow unless the library
+/// has one, atan, sgn, nodetype), all of whose functions and operators keep to the bounds.
 class BoundedParser : public mup::ParserX {
 public:
-  /// \param net whose nodes nodetype() designates, may be null
+  /// \param net whose nodes nodetype(name, otherwise) designates, may be null; it must outlive the parser
   explicit BoundedParser(const NetData *net);
   EvaluationBounds &bounds() { return m_bounds; }
 

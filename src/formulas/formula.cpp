@@ -4,7 +4,6 @@
 #include <formulas/formula.h>
 
 #include <QCoreApplication>
-#include <QHash>
 #include <QRegularExpression>
 
 #include <atomic>
@@ -188,23 +187,4 @@ bool Formula::accepts(const element &current) const {
   return m_engine->evaluate(current, nullptr, [](const mup::IValue &result) {
     return result.GetType() == 'b' ? result.GetBool() : asResultText(result) != QLatin1String("0");
   });
-}
-
-QString Formula::escaped(const QString &name) {
-  static const QHash<QChar, QString> Escapes{
-      {QLatin1Char('<'), QStringLiteral("&lt;")},  {QLatin1Char('>'), QStringLiteral("&gt;")},
-      {QLatin1Char('*'), QStringLiteral("&#42;")}, {QLatin1Char('+'), QStringLiteral("&#43;")},
-      {QLatin1Char('-'), QStringLiteral("&#45;")}, {QLatin1Char('.'), QStringLiteral("&#46;")},
-      {QLatin1Char('/'), QStringLiteral("&#47;")}, {QLatin1Char('|'), QStringLiteral("&#124;")}};
-  QString text;
-  for (const QChar c : name) {
-    const auto escape = Escapes.constFind(c);
-    if (escape != Escapes.constEnd())
-      text += *escape;
-    else if (FormulaLexer::continuesName(c))
-      text += c;
-    else
-      text += QStringLiteral("&#%1;").arg(c.unicode());
-  }
-  return text;
 }

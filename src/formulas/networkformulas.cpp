@@ -353,10 +353,6 @@ Findings NetworkFormulas::setDefinitions(const std::vector<FormulaDefinition> &d
   return m_computing->remarks.findings();
 }
 
-int NetworkFormulas::size() const {
-  return static_cast<int>(m_computing->sequence.size() + m_computing->constraints.size());
-}
-
 Findings NetworkFormulas::violations() const {
   Findings found;
   for (const int i : m_computing->constraints) {

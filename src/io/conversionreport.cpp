@@ -1,12 +1,6 @@
 #include <io/conversionreport.h>
 
-#include <QCoreApplication>
-
 namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(ConversionReport)
-};
 
 void note(QStringList &notes, const QString &text) {
   constexpr int MaximumNotes = 5; // of a kind; a hostile file has one for each of its lines
@@ -52,9 +46,9 @@ QString ConversionReport::text() const {
         part += QStringLiteral(" (") + ((*counts).*notes).join(QStringLiteral("; ")) + QLatin1Char(')');
       parts.append(part);
     }
-    return fate + QStringLiteral(": ") + (parts.isEmpty() ? Texts::tr("nothing") : parts.join(QStringLiteral(", "))) +
+    return fate + QStringLiteral(": ") + (parts.isEmpty() ? tr("nothing") : parts.join(QStringLiteral(", "))) +
            QLatin1Char('\n');
   };
-  return line(Texts::tr("taken"), &Counts::taken, nullptr) + line(Texts::tr("converted"), &Counts::converted, &Counts::how) +
-         line(Texts::tr("dropped"), &Counts::dropped, &Counts::why);
+  return line(tr("taken"), &Counts::taken, nullptr) + line(tr("converted"), &Counts::converted, &Counts::how) +
+         line(tr("dropped"), &Counts::dropped, &Counts::why);
 }

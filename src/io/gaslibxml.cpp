@@ -1,16 +1,11 @@
 #include <base/xmlbounds.h>
 #include <io/gaslibxml.h>
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QRegularExpression>
 #include <QTextCodec>
 
 namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(GasLibXml)
-};
 
 /// The text of an XML file; nothing when its bytes are none in the encoding that it states. Other encodings than the usual
 /// ones count as UTF-8.
@@ -78,26 +73,25 @@ QString GasLibXml::unitOf(const QString &name) {
 void GasLibXml::tell(const QString &text, int line) {
   constexpr std::size_t MaximumFindings = 1000;
   if (findings.size() < MaximumFindings)
-    findings.push_back({Finding::Severity::Warning, m_path, line, text, QString()});
+    findings.push_back({Finding::Severity::Warning, m_path, line, text});
   else if (findings.size() == MaximumFindings)
-    findings.push_back({Finding::Severity::Warning, m_path, 0, Texts::tr("... and more, which are not told"), QString()});
+    findings.push_back({Finding::Severity::Warning, m_path, 0, tr("... and more, which are not told")});
 }
 
 bool GasLibXml::load() {
   QString reason;
   const std::optional<QByteArray> content = FileAccess::readWhole(m_path, m_source, LargestFile, &reason);
   if (!content) {
-    findings.push_back(
-        {Finding::Severity::Warning, QString(), 0, Texts::tr("The file cannot be read: %1").arg(reason), QString()});
+    findings.push_back({Finding::Severity::Warning, {}, 0, tr("The file cannot be read: %1").arg(reason)});
     return false;
   }
   const std::optional<QString> text = decoded(*content);
   if (!text) {
-    tell(Texts::tr("The file is not written in UTF-8, nor in what it says: nothing is read."), 0);
+    tell(tr("The file is not written in UTF-8, nor in what it says: nothing is read."), 0);
     return false;
   }
   if (const XmlBounds::Fault fault = XmlBounds::check(*text, XmlBounds::Limits()); !fault.reason.isEmpty()) {
-    tell(fault.reason + Texts::tr(": nothing is read."), fault.line);
+    tell(fault.reason + tr(": nothing is read."), fault.line);
     return false;
   }
   m_xml.addData(*text);
@@ -112,18 +106,18 @@ bool GasLibXml::start(const QString &root, const QString &space) {
   if (!finish() || !m_xml.isStartElement())
     return false;
   if (m_xml.name() != root) {
-    tell(Texts::tr("The file holds %1 instead of %2: nothing is read.").arg(m_xml.name().toString(), root));
+    tell(tr("The file holds %1 instead of %2: nothing is read.").arg(m_xml.name().toString(), root));
     return false;
   }
   const QString wanted = QStringLiteral("http://gaslib.zib.de/") + space;
   if (m_xml.namespaceUri() != wanted)
-    tell(Texts::tr("The namespace is \"%1\" instead of \"%2\".").arg(m_xml.namespaceUri().toString(), wanted));
+    tell(tr("The namespace is \"%1\" instead of \"%2\".").arg(m_xml.namespaceUri().toString(), wanted));
   return true;
 }
 
 bool GasLibXml::finish() {
   if (!m_xml.hasError())
     return true;
-  tell(Texts::tr("The file cannot be read any further: %1").arg(m_xml.errorString()));
+  tell(tr("The file cannot be read any further: %1").arg(m_xml.errorString()));
   return false;
 }

@@ -170,7 +170,7 @@ QString NetworkFileConverter::otherForm(const QString &name) {
 NetworkFileConverter::Result NetworkFileConverter::convert(const QString &from, const QString &to) {
   Result result;
   const auto fail = [&result](const QString &reason) {
-    result.findings.push_back({Finding::Severity::Critical, QString(), 0, reason, QString()});
+    result.findings.push_back({Finding::Severity::Critical, {}, 0, reason});
     return result;
   };
   for (const QString &path : {from, to}) {

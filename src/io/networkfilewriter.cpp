@@ -142,28 +142,28 @@ void TextFileWriter::putCell(std::string_view text) {
   const bool isPlain = !text.empty() && text.find_first_of(Special) == std::string_view::npos && text.front() != ' ' &&
                        text.back() != ' ' && (isPlainNumber(text) || !isNumber(text));
   if (isPlain)
-    NetworkFileWriter::put(text);
+    put(text);
   else
     putQuoted(text);
 }
 
 void TextFileWriter::putQuoted(std::string_view text) {
-  NetworkFileWriter::put("\"");
+  put("\"");
   while (true) {
     const std::size_t quote = text.find('"');
-    NetworkFileWriter::put(text.substr(0, quote));
+    put(text.substr(0, quote));
     if (quote == std::string_view::npos)
       break;
-    NetworkFileWriter::put("\"\"");
+    put("\"\"");
     text.remove_prefix(quote + 1);
   }
-  NetworkFileWriter::put("\"");
+  put("\"");
 }
 
 /// Numbers stand without quotes, texts that look like numbers in them.
 void TextFileWriter::putValue(const Value &value) {
   if (value.isNumber)
-    NetworkFileWriter::put(value.text.utf8());
+    put(value.text.utf8());
   else if (isNumber(value.text.utf8()))
     putQuoted(value.text.utf8());
   else
@@ -203,29 +203,29 @@ void TextFileWriter::write(std::string_view name, std::string_view type, std::ve
 
 void TextFileWriter::writeSetPoint(std::string_view name, const Value &value, std::string_view unit) {
   if (!m_hasSetPoints)
-    NetworkFileWriter::put("name;property;value;unit\n");
+    put("name;property;value;unit\n");
   m_hasSetPoints = true;
   putName(name);
-  NetworkFileWriter::put(";");
+  put(";");
   putCell(value.key.utf8());
-  NetworkFileWriter::put(";");
+  put(";");
   putValue(value);
   if (!unit.empty()) {
-    NetworkFileWriter::put(";");
+    put(";");
     putCell(unit);
   }
-  NetworkFileWriter::put("\n");
+  put("\n");
 }
 
-void TextFileWriter::put(const Table &table) {
+void TextFileWriter::putTable(const Table &table) {
   if (!table.type.empty())
-    NetworkFileWriter::put("[" + table.type + "]\n");
-  NetworkFileWriter::put("name");
+    put("[" + table.type + "]\n");
+  put("name");
   for (const PropertyKey column : table.columns) {
-    NetworkFileWriter::put(";");
+    put(";");
     putCell(column.utf8());
   }
-  NetworkFileWriter::put("\n");
+  put("\n");
   for (const Row &row : table.rows) {
     putName(row.name.utf8());
     std::size_t separators = 0; // that are written
@@ -233,19 +233,19 @@ void TextFileWriter::put(const Table &table) {
       const Cell &cell = row.cells[i];
       if (i + 1 < row.cells.size() && row.cells[i + 1].column == cell.column)
         continue; // of a property given twice the last value counts
-      NetworkFileWriter::put(std::string(cell.column + 1 - separators, ';'));
+      put(std::string(cell.column + 1 - separators, ';'));
       separators = cell.column + 1;
       putValue(cell.value);
     }
-    NetworkFileWriter::put("\n");
+    put("\n");
   }
 }
 
 bool TextFileWriter::finish() {
   for (std::size_t i = 0; i < m_tables.size(); ++i) {
     if (i > 0)
-      NetworkFileWriter::put("\n");
-    put(m_tables[i]);
+      put("\n");
+    putTable(m_tables[i]);
   }
   m_tables.clear();
   return flush();

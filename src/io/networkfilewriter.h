@@ -85,7 +85,7 @@ private:
   void putCell(std::string_view text);
   void putQuoted(std::string_view text);
   void putValue(const Value &value);
-  void put(const Table &table);
+  void putTable(const Table &table);
 
   std::vector<Table> m_tables;
   std::map<std::string, std::size_t> m_byShape; ///< type, or names of the properties, to table

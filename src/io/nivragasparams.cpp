@@ -109,34 +109,27 @@ bool NivraGasParams::setFromText(const QString &key, const QString &text, const 
   static const QHash<QString, QString> prefixed{{QStringLiteral("NIVRA_ntype_HTC"), QStringLiteral("ntype_HTC")},
                                                 {QStringLiteral("NIVRA_HTC_value"), QStringLiteral("HTC_value")}};
   const QString name = prefixed.value(key, key);
-  for (const auto &[integerKey, field] : Integers) {
-    if (name == QLatin1String(integerKey)) {
-      this->*field = text.toInt();
+  const auto take = [&](const auto &fields, const auto &number) {
+    for (const auto &[fieldKey, field] : fields) {
+      if (name != QLatin1String(fieldKey))
+        continue;
+      this->*field = number();
       origin.insert(name, file);
       return true;
     }
-  }
-  for (const auto &[realKey, field] : Reals) {
-    if (name == QLatin1String(realKey)) {
-      this->*field = text.toDouble();
-      origin.insert(name, file);
-      return true;
-    }
-  }
-  return false;
+    return false;
+  };
+  return take(Integers, [&] { return text.toInt(); }) || take(Reals, [&] { return text.toDouble(); });
 }
 
 QVector<NivraGasParams::Entry> NivraGasParams::entries() const {
   constexpr int Digits = 16;
-  const auto word = [](const QStringList &words, int number) {
-    return words.value(number);
-  };
   const auto real = [](double number) {
     return QString::number(number, 'g', Digits);
   };
   QVector<Entry> list;
   for (const auto &[key, field] : Integers)
-    list.append({QLatin1String(key), QString::number(this->*field), word(names(QLatin1String(key)), this->*field)});
+    list.append({QLatin1String(key), QString::number(this->*field), names(QLatin1String(key)).value(this->*field)});
   for (const auto &[key, field] : Reals)
     list.append({QLatin1String(key), real(this->*field), QString()});
   for (const auto &[key, field] : Switches)
@@ -151,8 +144,8 @@ QVector<NivraGasParams::Entry> NivraGasParams::entries() const {
   further(18, QString::number(p.field18));
   further(19, QString::number(p.field19));
   further(20, real(p.field20));
-  further(21, QString::number(p.field21), word({QStringLiteral("off"), QStringLiteral("on")}, p.field21));
-  further(23, QString::number(p.field23), word({QStringLiteral("qust"), QStringLiteral("isoeuler")}, p.field23));
+  further(21, QString::number(p.field21), QStringList{QStringLiteral("off"), QStringLiteral("on")}.value(p.field21));
+  further(23, QString::number(p.field23), QStringList{QStringLiteral("qust"), QStringLiteral("isoeuler")}.value(p.field23));
   further(24, real(p.field24));
   further(25, QString::number(p.field25));
   further(26, QString::number(p.field26));

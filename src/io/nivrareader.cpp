@@ -104,23 +104,11 @@ NivraReader::Result NivraReader::readTopoAndScen(const NivraWorkspace &workspace
   const NivraScenario scenario = workspace.hasScenario() ? *workspace.currentScenario() : NivraScenario();
   m_isJson = workspace.isJson();
   m_chosen = workspace.chosenPath();
-  return readNetwork(workspace.geometryPath(), workspace.scenarioPath(), scenario, options);
-}
-
-NivraReader::Result NivraReader::readTopoAndScenText(const QString &geometryPath, const QString &scenarioPath,
-                                                     const NivraScenario &scenario, const Options &options) {
-  m_isJson = false;
-  return readNetwork(geometryPath, scenarioPath, scenario, options);
+  return readTopoAndScenJsn(workspace.geometryPath(), workspace.scenarioPath(), scenario, options);
 }
 
 NivraReader::Result NivraReader::readTopoAndScenJsn(const QString &geometryPath, const QString &scenarioPath,
                                                     const NivraScenario &scenario, const Options &options) {
-  m_isJson = true;
-  return readNetwork(geometryPath, scenarioPath, scenario, options);
-}
-
-NivraReader::Result NivraReader::readNetwork(const QString &geometryPath, const QString &scenarioPath,
-                                             const NivraScenario &scenario, const Options &options) {
   if (m_isJson)
     log(QStringLiteral("starting  readTopoAndScenJsn with ") + geometryPath + QLatin1Char(' ') + scenarioPath);
   Result result = readGeomJsn(networkPath(geometryPath), options);
@@ -131,7 +119,7 @@ NivraReader::Result NivraReader::readNetwork(const QString &geometryPath, const 
   }
   if (result.cancelled || scenarioPath.isEmpty())
     return result;
-  Result part = readScenario(scenarioPath, scenario, options);
+  Result part = readScenarioJsn(scenarioPath, scenario, options);
   result.configuration = part.configuration;
   result.configurationFile = part.configurationFile;
   append(result, std::move(part));
@@ -143,7 +131,7 @@ NivraReader::Result NivraReader::readSubResults(const NivraWorkspace &workspace,
   m_isJson = workspace.isJson();
   const QString path = networkPath(base + QStringLiteral(".res.sub"));
   if (workspace.hasScenario() && QFileInfo::exists(path))
-    return readResultsJsn(path, options);
+    return readGasParmsJsn(path, options);
   Result none;
   none.ok = true;
   return none;
@@ -180,7 +168,7 @@ NivraReader::Result NivraReader::readGeomJsn(const QString &path, const Options 
   return result;
 }
 
-NivraReader::Result NivraReader::readValues(const QString &path, const Options &options) {
+NivraReader::Result NivraReader::readGasParmsJsn(const QString &path, const Options &options) {
   ReadReport report(path);
   ElementBuilder builder(QString(), options.includeProperties, report);
   qint64 properties = 0;
@@ -198,14 +186,6 @@ NivraReader::Result NivraReader::readValues(const QString &path, const Options &
   result.properties = properties;
   append(result.findings, report.take());
   return result;
-}
-
-NivraReader::Result NivraReader::readResultsJsn(const QString &path, const Options &options) {
-  return readValues(path, options);
-}
-
-NivraReader::Result NivraReader::readGasParmsJsn(const QString &path, const Options &options) {
-  return readValues(path, options);
 }
 
 NivraReader::Result NivraReader::readGasJsn(const QString &path) {
@@ -226,12 +206,6 @@ NivraReader::Result NivraReader::readGasJsn(const QString &path) {
 
 NivraReader::Result NivraReader::readScenarioJsn(const QString &scenarioPath, const NivraScenario &scenario,
                                                  const Options &options) {
-  m_isJson = true;
-  return readScenario(scenarioPath, scenario, options);
-}
-
-NivraReader::Result NivraReader::readScenario(const QString &scenarioPath, const NivraScenario &scenario,
-                                              const Options &options) {
   if (m_isJson)
     log(QStringLiteral("starting readScenarioJsn with ") + scenarioPath);
   m_waiting.clear();
@@ -286,7 +260,7 @@ void NivraReader::readCompanions(const QString &base, const Options &options, Re
   static const Companion fixes{".fix", "Fixes for scenario are loaded!", "Could not read .fix.jsn file",
                                "There is no scenario fixes file", &NivraReader::readSetPoints};
   static const Companion results{".res", "Results for scenario are loaded!", "Could not read .res.jsn file",
-                                 "There is no scenario .res.jsn file", &NivraReader::readResultsJsn};
+                                 "There is no scenario .res.jsn file", &NivraReader::readGasParmsJsn};
   static const Companion percentages{
       ".gaspar", "Previously saved gas percentages etc. loaded!", "Could not read .gaspar.jsn file",
       "Could not find .gaspar.jsn file\nUsually this happens if gas percentages etc. were not computed before.",
@@ -333,5 +307,5 @@ void NivraReader::readConfiguration(const QString &base, Result &result) {
   if (object)
     result.configuration = *object;
   else
-    result.findings.push_back({Finding::Severity::Warning, path, 0, reason, QString()});
+    result.findings.push_back({Finding::Severity::Warning, path, 0, reason});
 }

@@ -23,8 +23,7 @@ const Named Texts[] = {{"workDir", &S::workDir},
 
 Finding missing(const char *key) {
   return {Finding::Severity::Information, QString(), 0,
-          QStringLiteral("NivraScenario::fromJson: key ") + QLatin1String(key) + QStringLiteral(" does not exist"),
-          QString()};
+          QStringLiteral("NivraScenario::fromJson: key ") + QLatin1String(key) + QStringLiteral(" does not exist")};
 }
 
 } // namespace
@@ -63,15 +62,4 @@ QVector<QPair<QString, QString>> NivraScenario::entries() const {
     list.append({QLatin1String(key), this->*field});
   list.append({QStringLiteral("furtherFile"), furtherFile});
   return list;
-}
-
-QJsonObject NivraScenario::toJson() const {
-  QJsonObject object;
-  for (const auto &[key, field] : Texts)
-    object.insert(QLatin1String(key), this->*field);
-  QJsonObject general;
-  for (auto property = generalProps.begin(); property != generalProps.end(); ++property)
-    general.insert(property.key(), property.value());
-  object.insert(QStringLiteral("GeneralProps"), general);
-  return object;
 }

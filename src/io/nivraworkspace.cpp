@@ -5,7 +5,6 @@
 #include <base/settings.h>
 #include <io/nivraworkspace.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -13,10 +12,6 @@
 #include <QRegularExpression>
 
 namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(NivraWorkspace)
-};
 
 Finding mismatch(Finding::Severity severity, const QString &file, const QString &text) {
   return {severity, file, 0, text, Settings::PelkaMode.value() ? QString() : text};
@@ -72,7 +67,7 @@ QString upwards(const QString &directory) {
 }
 
 Finding debugLine(const QString &text) {
-  return {Finding::Severity::Debug, QString(), 0, text, QString()};
+  return {Finding::Severity::Debug, {}, 0, text};
 }
 
 } // namespace
@@ -87,11 +82,11 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   static const QRegularExpression pattern(QStringLiteral("\\.(geom|scen)(\\.jso?n)?$"));
   NivraWorkspace workspace;
   const auto told = [&workspace](Finding::Severity severity, const QString &text) {
-    workspace.m_findings.push_back({severity, QString(), 0, text, QString()});
+    workspace.m_findings.push_back({severity, {}, 0, text});
   };
   const QRegularExpressionMatch match = pattern.match(path);
   if (!match.hasMatch()) {
-    told(Finding::Severity::Critical, Texts::tr("NivraWorkspace::fromScenFile(): invalid file format %1").arg(path));
+    told(Finding::Severity::Critical, tr("NivraWorkspace::fromScenFile(): invalid file format %1").arg(path));
     return workspace;
   }
   const QFileInfo file(QString(path).replace(QLatin1Char('\\'), QLatin1Char('/')));
@@ -101,19 +96,18 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   const QString root = upwards(caseDirectory);
   if (!file.isFile()) {
     told(Finding::Severity::Critical,
-         (file.exists()
-              ? Texts::tr("NivraWorkspace::fromFile(): File does not exist %1 (there is something else of that name)")
-              : Texts::tr("NivraWorkspace::fromFile(): File does not exist %1"))
+         (file.exists() ? tr("NivraWorkspace::fromFile(): File does not exist %1 (there is something else of that name)")
+                        : tr("NivraWorkspace::fromFile(): File does not exist %1"))
              .arg(path));
     return workspace;
   }
   if (!QFileInfo(root).isDir()) {
-    told(Finding::Severity::Critical, Texts::tr("NivraWorkspace::fromFile(): workspace root not found %1").arg(root));
+    told(Finding::Severity::Critical, tr("NivraWorkspace::fromFile(): workspace root not found %1").arg(root));
     return workspace;
   }
   workspace.m_root = root;
   workspace.m_json = !match.captured(2).isEmpty();
-  told(Finding::Severity::Information, Texts::tr("NivraWorkspace set to %1").arg(root));
+  told(Finding::Severity::Information, tr("NivraWorkspace set to %1").arg(root));
   Case opened;
   opened.name = QFileInfo(caseDirectory).fileName();
   workspace.m_cases.append(opened);
@@ -122,9 +116,8 @@ NivraWorkspace NivraWorkspace::fromFile(const QString &path) {
   const QString kind = QLatin1Char('.') + match.captured(1);
   const QString base = baseNameOf(file, kind, match.captured(2));
   if (base + kind + match.captured(2) != file.fileName())
-    told(Finding::Severity::Warning,
-         Texts::tr("%1 was chosen; the files of a case are named up to the first dot, and %2 is read")
-             .arg(file.fileName(), base + kind + match.captured(2)));
+    told(Finding::Severity::Warning, tr("%1 was chosen; the files of a case are named up to the first dot, and %2 is read")
+                                         .arg(file.fileName(), base + kind + match.captured(2)));
   if (isScenario) {
     workspace.addScenario(QFileInfo(directory).fileName(), base);
   } else {
@@ -206,7 +199,7 @@ void NivraWorkspace::addScenario(const QString &directoryName, const QString &ba
 int NivraWorkspace::readCaseConfiguration(Findings &findings) {
   Case &current = m_cases.last();
   TextConfiguration file(filePath(current.configFile));
-  if (!file.open(Texts::tr("Case config file does not exist: %1"), findings)) {
+  if (!file.open(tr("Case config file does not exist: %1"), findings)) {
     current.workDir = current.name;
     findings.push_back(debugLine(QStringLiteral("Case workDir is now = ") + current.name));
     return -1;
@@ -225,12 +218,12 @@ int NivraWorkspace::readCaseConfiguration(Findings &findings) {
     current.properties = QJsonDocument::fromJson(properties.toUtf8(), &error).object();
     if (error.error != QJsonParseError::NoError)
       findings.push_back({Finding::Severity::Warning, file.path(), 5,
-                          Texts::tr("Case properties are no JSON object: %1").arg(error.errorString()), QString()});
+                          tr("Case properties are no JSON object: %1").arg(error.errorString())});
   }
   if (current.workDir != current.name) {
     findings.push_back(mismatch(Finding::Severity::Warning, file.path(),
-                                Texts::tr("Directory of geometry\n%1\nand config value for it\n%2\ndid not "
-                                          "match!\nCorrected! Perform a save yourself!")
+                                tr("Directory of geometry\n%1\nand config value for it\n%2\ndid not "
+                                   "match!\nCorrected! Perform a save yourself!")
                                     .arg(current.name, current.workDir)));
     current.workDir = current.name;
   }
@@ -280,15 +273,14 @@ void NivraWorkspace::readUnifiedConfiguration(const QString &directory, Findings
   if (object)
     append(findings, m_cases.last().scenarios.last().fromJson(*object, path));
   else
-    findings.push_back({Finding::Severity::Warning, QString(), 0,
-                        Texts::tr("readUnifiedScenConfig: cannot open file %1").arg(reason), QString()});
+    findings.push_back({Finding::Severity::Warning, {}, 0, tr("readUnifiedScenConfig: cannot open file %1").arg(reason)});
 }
 
 void NivraWorkspace::readTextConfiguration(const QString &path, NivraGasParams &gas, Findings &findings) {
   NivraScenario &scenario = m_cases.last().scenarios.last();
   findings.push_back(debugLine(QStringLiteral("Reading scenario config file: ") + path));
   TextConfiguration file(path);
-  if (!file.open(Texts::tr("Scenario config file does not exist: %1"), findings)) {
+  if (!file.open(tr("Scenario config file does not exist: %1"), findings)) {
     findings.push_back(debugLine(QStringLiteral("Scenario workDir is now = ") + scenario.workDir));
     return;
   }
@@ -309,7 +301,7 @@ void NivraWorkspace::checkScenarioDirectory(const QString &actualName, Findings 
   if (scenario.workDir == actualName)
     return;
   findings.push_back(mismatch(Finding::Severity::Information, scenarioDirectory(),
-                              Texts::tr("Directory of scenario and config value for it did not match!\nCorrected! Perform "
-                                        "a save yourself!")));
+                              tr("Directory of scenario and config value for it did not match!\nCorrected! Perform "
+                                 "a save yourself!")));
   scenario.workDir = actualName;
 }

@@ -102,7 +102,7 @@ Findings ReadReport::take() {
   for (const auto &[kind, count] : m_counts) {
     if (count > KeptOfAKind)
       m_findings.push_back({Finding::Severity::Warning, m_file, 0,
-                            tr("... and %1 more of this kind (%2)").arg(count - KeptOfAKind).arg(name(kind)), QString()});
+                            tr("... and %1 more of this kind (%2)").arg(count - KeptOfAKind).arg(name(kind))});
   }
   m_counts.clear();
   return std::move(m_findings);

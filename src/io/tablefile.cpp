@@ -8,7 +8,7 @@ TableFile::Contents TableFile::read(const QString &path) {
   RecordStream stream(path, {RecordForm::Text});
   QString reason;
   if (!stream.open(&reason)) {
-    contents.findings.push_back({Finding::Severity::Warning, path, 0, reason, QString()});
+    contents.findings.push_back({Finding::Severity::Warning, path, 0, reason});
     return contents;
   }
   contents.ok = true;

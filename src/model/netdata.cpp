@@ -202,20 +202,12 @@ double NetData::value(const ::element &element, PropertyKey property, bool absol
   return number(element.find(property), absolute);
 }
 
-double NetData::value(const ::element &element, const QString &property, bool absolute) const {
-  return value(element, PropertyKey::find(property), absolute);
-}
-
 double NetData::edgeValue(const ::element &edge, PropertyKey property, bool absolute) const {
   if (edge.find(property) != nullptr)
     return value(edge, property, absolute);
   const double first = value(m_nodes.at(edge.at(Names::all().node1.name()).toString()), property, absolute);
   const double second = value(m_nodes.at(edge.at(Names::all().node2.name()).toString()), property, absolute);
   return first == NoValue || second == NoValue ? NoValue : (first + second) * 0.5;
-}
-
-double NetData::edgeValue(const ::element &edge, const QString &property, bool absolute) const {
-  return edgeValue(edge, PropertyKey::find(property), absolute);
 }
 
 QPointF NetData::position(const ::element &element) const {

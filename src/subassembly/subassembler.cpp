@@ -31,19 +31,7 @@ const Keys &keys() {
   return instance;
 }
 
-const QString &recordName() {
-  static const QString name = QStringLiteral("SUB");
-  return name;
-}
-
-const QString &fallback() {
-  static const QString variant = QStringLiteral("default");
-  return variant;
-}
-
-Finding problem(const QString &text, const QString &element) {
-  return {Finding::Severity::Warning, QString(), 0, text, QString(), false, element};
-}
+const QString RecordName = QStringLiteral("SUB");
 
 TemplateGeometry readTemplate(const QString &file, const Told &told) {
   TemplateGeometry content;
@@ -56,17 +44,17 @@ TemplateGeometry readTemplate(const QString &file, const Told &told) {
     content.error = SubAssembler::tr("Cannot read %1").arg(file);
     return content;
   }
-  if (net->assembledSubnets().find(recordName()) == nullptr) {
+  if (net->assembledSubnets().find(RecordName) == nullptr) {
     content.error = SubAssembler::tr("%1 has no subnet named \"SUB\", which would tell its pins").arg(file);
     return content;
   }
   content.net = net;
   content.plan = std::make_shared<const TemplatePlan>(*net);
   for (const elements::Entry &entry : net->assembledSubnets()) {
-    if (entry.name().compare(recordName(), Qt::CaseInsensitive) != 0)
-      content.findings.push_back({Finding::Severity::Warning, file, 0,
-                                  SubAssembler::tr("Templates do not hold other subnets: %1 is left out").arg(entry.name()),
-                                  QString()});
+    if (entry.name().compare(RecordName, Qt::CaseInsensitive) != 0)
+      content.findings.push_back(
+          {Finding::Severity::Warning, file, 0,
+           SubAssembler::tr("Templates do not hold other subnets: %1 is left out").arg(entry.name())});
   }
   return content;
 }
@@ -91,7 +79,7 @@ QString SubAssembler::findFolder(const QString &programFolder, const Told &told)
 }
 
 void SubAssembler::note(const QString &text, const QString &element) {
-  m_result.findings.push_back(problem(text, element));
+  m_result.findings.push_back(Finding::about(element, text));
 }
 
 /// Inside of the folder, whatever the variant is called and wherever links lead; empty otherwise.
@@ -143,7 +131,7 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
   m_assembled.clear();
   std::vector<const elements::Entry *> subnets;
   for (const elements::Entry &entry : m_net.assembledSubnets()) {
-    if (entry.name() != recordName())
+    if (entry.name() != RecordName)
       subnets.push_back(&entry);
   }
   if (m_templates == nullptr || subnets.empty())
@@ -163,7 +151,7 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
       ++m_result.assembled;
       continue;
     }
-    subnet.set(keys().variant, PropertyText(fallback()));
+    subnet.set(keys().variant, PropertyText(std::string_view("default")));
     if (createEleOfAssembledSubnet(subnet, pins, flag, true) >= 1) {
       ++m_result.replaced;
       continue;
@@ -179,7 +167,7 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
 }
 
 void SubAssembler::noteSummary() {
-  Finding summary = problem(QString(), QString());
+  Finding summary;
   if (m_result.replaced > 0 || m_result.erased > 0) {
     summary.box = tr("%1 assembled subnets had to be replaced with default,\n%2 assembled subnets had to be "
                      "erased! See log for details!")

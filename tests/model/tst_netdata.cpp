@@ -99,8 +99,8 @@ void TestNetData::numericAccess() {
   QFETCH(double, expected);
   element e;
   e.set(QStringLiteral("p"), text);
-  QCOMPARE(NetData().value(e, QStringLiteral("P"), absolute), expected);
-  QCOMPARE(NetData().value(e, QStringLiteral("absent"), absolute), -1e30);
+  QCOMPARE(NetData().value(e, PropertyKey::intern("P"), absolute), expected);
+  QCOMPARE(NetData().value(e, PropertyKey::find("absent"), absolute), -1e30);
 }
 
 void TestNetData::edgeTakesTheMeanOfItsEnds() {
@@ -111,13 +111,13 @@ void TestNetData::edgeTakesTheMeanOfItsEnds() {
   element &edge = *net.element(QStringLiteral("P1"));
   net.element(QStringLiteral("A"))->set(QStringLiteral("p"), QStringLiteral("10"));
   net.element(QStringLiteral("B"))->set(QStringLiteral("p"), QStringLiteral("20"));
-  QCOMPARE(net.edgeValue(edge, QStringLiteral("p")), 15.0);
+  QCOMPARE(net.edgeValue(edge, PropertyKey::intern("p")), 15.0);
   net.element(QStringLiteral("B"))->set(QStringLiteral("p"), QStringLiteral("abc"));
-  QCOMPARE(net.edgeValue(edge, QStringLiteral("p")), -1e30);
+  QCOMPARE(net.edgeValue(edge, PropertyKey::intern("p")), -1e30);
   edge.set(QStringLiteral("node2"), QStringLiteral("gone"));
-  QVERIFY_EXCEPTION_THROWN(net.edgeValue(edge, QStringLiteral("p")), elements_out_of_range);
+  QVERIFY_EXCEPTION_THROWN(net.edgeValue(edge, PropertyKey::intern("p")), elements_out_of_range);
   edge.erase(QStringLiteral("node2"));
-  QVERIFY_EXCEPTION_THROWN(net.edgeValue(edge, QStringLiteral("p")), element_out_of_range);
+  QVERIFY_EXCEPTION_THROWN(net.edgeValue(edge, PropertyKey::intern("p")), element_out_of_range);
 }
 
 void TestNetData::ranges() {

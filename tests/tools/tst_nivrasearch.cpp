@@ -1,3 +1,4 @@
+#include "search/networksearch.h"
 #include "shared/csvfield.h"
 
 #include <base/generalsettings.h>
@@ -6,7 +7,6 @@
 #include <support/fulldisk.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
-#include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
 #include <tools/tablemenu.h>
 #include <tools/vectorrows.h>

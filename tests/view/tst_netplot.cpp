@@ -1,3 +1,4 @@
+#include "canvas/canvasoverlay.h"
 #include "interaction/plotzoom.h"
 #include "viewfixture.h"
 
@@ -9,6 +10,7 @@
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimeLine>
 #include <QWheelEvent>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
@@ -249,7 +251,7 @@ void TestNetPlot::zoomsBesideScalesOfAnyWidth() {
       if (isWheel) {
         QCursor::setPos(area.canvas()->mapToGlobal(place));
         turnWheel(f.plot(), place, 240);
-        QTRY_VERIFY(!f.plot().isZooming());
+        QTRY_VERIFY(f.plot().findChild<QTimeLine *>() == nullptr);
       } else {
         f.plot().zoomer()->zoomIn(anchor, factor);
       }
@@ -458,7 +460,7 @@ void TestNetPlot::smoothZoomAddsUp() {
   turnWheel(f.plot(), {300, 200}, 120);
   turnWheel(f.plot(), {300, 200}, 120);
   QTRY_VERIFY(zoomer.zoomRect().width() < before / 1.2);
-  QTRY_VERIFY(!f.plot().isZooming());
+  QTRY_VERIFY(f.plot().findChild<QTimeLine *>() == nullptr);
   QCOMPARE(zoomer.zoomRectIndex(), 1U); // one movement, one entry of the stack
   zoomer.zoom(-1);
   QCOMPARE(zoomer.zoomRect().width(), before);
@@ -476,7 +478,7 @@ void TestNetPlot::smoothZoomTurnsBack() {
   GeneralSettings::instance().setValue(QStringLiteral("smooth zoom duration"), QStringLiteral("50"));
   GeneralSettings::instance().setValue(QStringLiteral("smooth zoom steps"), QStringLiteral("0")); // no division by it
   turnWheel(f.plot(), {300, 200}, -120); // the long way in ends at once
-  QTRY_VERIFY(!f.plot().isZooming());
+  QTRY_VERIFY(f.plot().findChild<QTimeLine *>() == nullptr);
   GeneralSettings::instance().reset();
 }
 
@@ -494,7 +496,7 @@ void TestNetPlot::slowDrawingsAreMovedAsAPicture() {
   if (!area.isFrozen())
     QSKIP("this machine draws so fast that nothing has to be moved");
   zoomer.zoomIn({100, 50}, 2.0);
-  QVERIFY(qAbs(area.pictureArea().width() / area.canvas()->width() - 2.0) < 0.05);
+  QVERIFY(qAbs(area.findChild<CanvasOverlay *>()->pictureArea().width() / area.canvas()->width() - 2.0) < 0.05);
   zoomer.endMove();
   QVERIFY(!area.isFrozen());
 }

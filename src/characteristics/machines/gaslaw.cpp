@@ -1,16 +1,10 @@
 #include "gascomposition.h"
 #include "gerg2008.h"
 
-#include <QCoreApplication>
-
 #include <cmath>
 #include <machines/gaslaw.h>
 
 namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(GasLaw)
-};
 
 constexpr double KiloPascalPerBar = 100.0;
 constexpr double Percent = 0.01;
@@ -51,9 +45,9 @@ public:
       , m_criticalTemperature(gas.criticalTemperature)
       , m_wanted(wanted) {
     m_remarks = m_rest->remarks();
-    m_name =
-        Texts::tr("z by the formula of %1, as the scenario asks; the rest by %2")
-            .arg(wanted == Wanted::Papay ? Texts::tr("Papay (OGIL 1968)") : Texts::tr("AGA (up to 70 bar)"), m_rest->name());
+    m_name = GasLaw::tr("z by the formula of %1, as the scenario asks; the rest by %2")
+                 .arg(wanted == Wanted::Papay ? GasLaw::tr("Papay (OGIL 1968)") : GasLaw::tr("AGA (up to 70 bar)"),
+                      m_rest->name());
   }
 
   /// Both are made for natural gases: from 1.1 to 3 times the critical temperature between -10 and 60 degC.
@@ -102,7 +96,7 @@ void takeHeatCapacity(Gerg2008 &equation, const GasData &gas) {
 void judgeMolarMass(const GasData &gas, double molarMass, QStringList &remarks) {
   constexpr double Near = 0.01;
   if (gas.normDensity > 0.0 && gas.molarMass > 0.0 && std::abs(gas.molarMass / molarMass - 1.0) > Near)
-    remarks.append(Texts::tr("The molar mass %1 does not fit the norm density %2 kg/m³, to which %3 belongs")
+    remarks.append(GasLaw::tr("The molar mass %1 does not fit the norm density %2 kg/m³, to which %3 belongs")
                        .arg(QString::number(gas.molarMass, 'g', 5), QString::number(gas.normDensity, 'g', 4),
                             QString::number(molarMass, 'g', 5)));
 }
@@ -122,7 +116,7 @@ std::shared_ptr<const GasLaw> bySharesOf(const GasData &gas, const GasCompositio
   takeHeatCapacity(equation, gas);
   QStringList remarks = inferred.remarks;
   judgeMolarMass(gas, equation.molarMass(), remarks);
-  const QString name = Texts::tr("GERG-2008 for %1, by its %2").arg(shareText(inferred.shares), inferred.basis);
+  const QString name = GasLaw::tr("GERG-2008 for %1, by its %2").arg(shareText(inferred.shares), inferred.basis);
   return std::make_shared<EquationOfState>(std::move(equation), name, remarks);
 }
 
@@ -134,7 +128,7 @@ std::shared_ptr<const GasLaw> byCriticalValues(const GasData &gas, const std::op
     equation.setIdealGas(Gerg2008(inferred->shares).idealGas());
   takeHeatCapacity(equation, gas);
   return std::make_shared<EquationOfState>(
-      std::move(equation), Texts::tr("corresponding states by its critical values (methane of GERG-2008)"), QStringList());
+      std::move(equation), GasLaw::tr("corresponding states by its critical values (methane of GERG-2008)"), QStringList());
 }
 
 /// Newton's method with a bisection behind it: the function grows with the temperature. Nothing beyond 100 to 1000 K.
@@ -183,15 +177,15 @@ std::shared_ptr<const GasLaw> GasLaw::of(const GasData &gas, Wanted wanted) {
   if (Formula::holdsFor(gas))
     return std::make_shared<Formula>(law, gas, wanted);
   auto other = std::make_shared<EquationOfState>(static_cast<const EquationOfState &>(*law));
-  other->tell(Texts::tr("The scenario asks for the formula \"%1\", which does not hold for this gas")
+  other->tell(tr("The scenario asks for the formula \"%1\", which does not hold for this gas")
                   .arg(wanted == Wanted::Papay ? QStringLiteral("papay") : QStringLiteral("aga")));
   return other;
 }
 
 std::shared_ptr<const GasLaw> GasLaw::assumed() {
   static const auto methane = std::make_shared<EquationOfState>(
-      Gerg2008(Gerg2008::Composition{1.0}), Texts::tr("GERG-2008 for methane, since nothing says what the gas is"),
-      QStringList{Texts::tr("The gas is not known, methane is assumed")});
+      Gerg2008(Gerg2008::Composition{1.0}), tr("GERG-2008 for methane, since nothing says what the gas is"),
+      QStringList{tr("The gas is not known, methane is assumed")});
   return methane;
 }
 

@@ -1,15 +1,9 @@
 #include <model/names.h>
 #include <model/units.h>
 
-#include <QCoreApplication>
-
 #include <machines/gassource.h>
 
 namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(GasSource)
-};
 
 /// What makes a law, as text: equal texts are equal gases.
 QString keyOf(const GasData &data) {
@@ -28,10 +22,6 @@ bool isPossible(double temperature) {
   constexpr double Coldest = 200.0; // K
   constexpr double Warmest = 600.0;
   return temperature >= Coldest && temperature <= Warmest;
-}
-
-Finding warning(const QString &text, const QString &element) {
-  return {Finding::Severity::Warning, QString(), 0, text, QString(), false, element};
 }
 
 } // namespace
@@ -65,11 +55,11 @@ GasSource::Gas GasSource::gasOf(const GasData &data, const QString &origin) cons
 GasSource::Gas GasSource::at(const element &node) const {
   const GasData own = GasData::of(node);
   if (own.isEnough())
-    return gasOf(own, Texts::tr("of the node %1").arg(node.value(Names::all().name)));
+    return gasOf(own, tr("of the node %1").arg(node.value(Names::all().name)));
   if (const auto *named = gasNamed(m_scenario.gases, node.value(Names::all().gas))) {
     const GasData data = GasData::of(named->second);
     if (data.isEnough())
-      return gasOf(data, Texts::tr("%1, which the node names").arg(named->first));
+      return gasOf(data, tr("%1, which the node names").arg(named->first));
   }
   return scenario();
 }
@@ -84,7 +74,7 @@ GasSource::Gas GasSource::findScenario() const {
   for (const auto &[name, gas] : m_scenario.gases) {
     const GasData data = GasData::of(gas);
     if (data.isEnough())
-      return gasOf(data, Texts::tr("%1 of the scenario").arg(name));
+      return gasOf(data, tr("%1 of the scenario").arg(name));
   }
   const PropertyKey mass = PropertyKey::find("molarmass");
   for (const elements::Entry &entry : m_net.nodes()) {
@@ -93,9 +83,9 @@ GasSource::Gas GasSource::findScenario() const {
       continue;
     const GasData data = GasData::of(entry.value);
     if (data.isEnough())
-      return gasOf(data, Texts::tr("of the node %1, the first that states one").arg(entry.value.value(Names::all().name)));
+      return gasOf(data, tr("of the node %1, the first that states one").arg(entry.value.value(Names::all().name)));
   }
-  return gasOf(GasData(), Texts::tr("assumed"));
+  return gasOf(GasData(), tr("assumed"));
 }
 
 double GasSource::temperatureAt(const element &node, QStringList *remarks) const {
@@ -105,8 +95,7 @@ double GasSource::temperatureAt(const element &node, QStringList *remarks) const
   if (isPossible(own))
     return own;
   if (remarks != nullptr)
-    remarks->append(
-        Texts::tr("The temperature %1 K at the inlet cannot be, %2 K are taken").arg(own).arg(m_scenario.temperature));
+    remarks->append(tr("The temperature %1 K at the inlet cannot be, %2 K are taken").arg(own).arg(m_scenario.temperature));
   return m_scenario.temperature;
 }
 
@@ -114,19 +103,20 @@ Findings GasSource::findings() const {
   Findings found;
   const Gas &gas = scenario();
   for (const QString &remark : gas.law->remarks())
-    found.push_back(warning(Texts::tr("Gas %1: %2").arg(gas.origin, remark), QString()));
+    found.push_back({Finding::Severity::Warning, {}, 0, tr("Gas %1: %2").arg(gas.origin, remark)});
   int usable = 0;
   for (const auto &[name, stated] : m_scenario.gases) {
     QStringList faults;
     usable += GasData::of(stated, &faults).isEnough() ? 1 : 0;
     for (const QString &fault : faults)
-      found.push_back(warning(Texts::tr("Gas %1: %2").arg(name, fault), QString()));
+      found.push_back({Finding::Severity::Warning, {}, 0, tr("Gas %1: %2").arg(name, fault)});
   }
   if (usable > 1)
-    found.push_back(
-        warning(Texts::tr("The scenario has %1 gases: where a machine's inlet node says none, it is taken to be %2")
-                    .arg(usable)
-                    .arg(gas.origin),
-                QString()));
+    found.push_back({Finding::Severity::Warning,
+                     {},
+                     0,
+                     tr("The scenario has %1 gases: where a machine's inlet node says none, it is taken to be %2")
+                         .arg(usable)
+                         .arg(gas.origin)});
   return found;
 }

@@ -12,7 +12,7 @@ struct Texts {
 };
 
 Finding warning(const QString &machine, const QString &text) {
-  return {Finding::Severity::Warning, QString(), 0, machine + QStringLiteral(": ") + text, QString(), false, machine};
+  return Finding::about(machine, machine + QStringLiteral(": ") + text);
 }
 
 template <typename Machine>
@@ -22,14 +22,6 @@ const Machine *named(const std::vector<Machine> &machines, const QString &name) 
       return &machine;
   }
   return nullptr;
-}
-
-template <typename Machine>
-const Machine *drivenBy(const std::vector<Machine> &machines, const Drive &drive) {
-  const auto found = std::find_if(machines.begin(), machines.end(), [&drive](const Machine &machine) {
-    return machine.drive.compare(drive.name, Qt::CaseInsensitive) == 0;
-  });
-  return found == machines.end() ? nullptr : &*found;
 }
 
 /// Takes a fit of the points in place of what is given; says why there is none when points were measured.
@@ -238,14 +230,6 @@ QStringList MachineData::ofStation(const QString &station) const {
   take(turbos);
   take(pistons);
   return names;
-}
-
-const TurboCompressor *MachineData::turboOf(const Drive &drive) const {
-  return drivenBy(turbos, drive);
-}
-
-const PistonCompressor *MachineData::pistonOf(const Drive &drive) const {
-  return drivenBy(pistons, drive);
 }
 
 const PistonCompressor *MachineData::piston(const QString &name) const {

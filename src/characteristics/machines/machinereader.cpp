@@ -158,7 +158,7 @@ MachineReader::Result MachineReader::read(const QString &path) {
   QString reason;
   if (!FileAccess::openForReading(file, FileAccess::Source::Workspace, FileAccess::LargestConfiguration, &reason)) {
     result.findings.push_back(
-        {Finding::Severity::Warning, path, 0, Texts::tr("The machine data cannot be read: %1").arg(reason), QString()});
+        {Finding::Severity::Warning, path, 0, Texts::tr("The machine data cannot be read: %1").arg(reason)});
     return result;
   }
   constexpr qint64 Looked = 1024;

@@ -3,17 +3,11 @@
 #include <model/displayformat.h>
 #include <model/names.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cmath>
 #include <machines/networkmachines.h>
 
 namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(NetworkMachines)
-};
 
 constexpr double KilowattsPerMegawatt = 1000.0;
 
@@ -37,7 +31,7 @@ QVector<QPointF> limitsOf(const PistonCompressor &machine, const Drive *drive, c
 
 StationConfiguration sideBySide(const QStringList &machines) {
   StationConfiguration all;
-  all.name = Texts::tr("all side by side");
+  all.name = NetworkMachines::tr("all side by side");
   all.stages.emplace_back();
   for (const QString &name : machines)
     all.stages.front().push_back({name});
@@ -46,7 +40,7 @@ StationConfiguration sideBySide(const QStringList &machines) {
 
 StationConfiguration alone(const QString &machine) {
   StationConfiguration one;
-  one.name = Texts::tr("%1 alone").arg(machine);
+  one.name = NetworkMachines::tr("%1 alone").arg(machine);
   one.stages.push_back({{machine}});
   return one;
 }
@@ -246,7 +240,7 @@ NetworkMachines::Machine NetworkMachines::machine(const element &e, const QStrin
   const auto compression = compressor == nullptr ? std::nullopt : Compression::of(m_net, *compressor, m_gases);
   if (!found.isThere() || !compression)
     return found;
-  found.gas = Texts::tr("%1 (%2)").arg(compression->gas->name(), compression->gasOrigin);
+  found.gas = tr("%1 (%2)").arg(compression->gas->name(), compression->gasOrigin);
   found.remarks = compression->remarks;
   const Station whole = station(*compressor, *compression, choice);
   const QString working = found.drive ? drivenBy(name, *compressor, whole) : name; // the compressor whose point it is
@@ -279,8 +273,7 @@ std::vector<NetworkMachines::Comparison> NetworkMachines::compareDrive(const ele
   const std::optional<double> power = stated(drive, "power");
   if (!power || !point || !point->power)
     return {};
-  return {{QStringLiteral("power"), Texts::tr("shaft power"), QStringLiteral("kW"), KilowattsPerMegawatt * *power,
-           *point->power}};
+  return {{QStringLiteral("power"), tr("shaft power"), QStringLiteral("kW"), KilowattsPerMegawatt * *power, *point->power}};
 }
 
 std::vector<NetworkMachines::Comparison> NetworkMachines::compare(const element &compressor, const Compression &compression,
@@ -297,15 +290,15 @@ std::vector<NetworkMachines::Comparison> NetworkMachines::compare(const element 
     return comparisons;
   const double head = compression.adiabaticHead();
   const double power = station.power();
-  take("head", Texts::tr("adiabatic head"), QStringLiteral("kJ/kg"), 1.0, head);
-  take("ratio", Texts::tr("pressure ratio"), QString(), 1.0, compression.ratio());
-  take("vflow", Texts::tr("volume flow"), QStringLiteral("m³/s"), 1.0, compression.volumeFlow());
-  take("power", Texts::tr("shaft power"), QStringLiteral("kW"), KilowattsPerMegawatt, power);
+  take("head", tr("adiabatic head"), QStringLiteral("kJ/kg"), 1.0, head);
+  take("ratio", tr("pressure ratio"), QString(), 1.0, compression.ratio());
+  take("vflow", tr("volume flow"), QStringLiteral("m³/s"), 1.0, compression.volumeFlow());
+  take("power", tr("shaft power"), QStringLiteral("kW"), KilowattsPerMegawatt, power);
   constexpr double Percent = 100.0;
-  take("efficiency", Texts::tr("efficiency"), QStringLiteral("%"), Percent,
+  take("efficiency", tr("efficiency"), QStringLiteral("%"), Percent,
        power > 0.0 ? Percent * compression.massFlow * head / power : 0.0);
   if (station.points.size() == 1)
-    take("speed", Texts::tr("speed"), QStringLiteral("1/min"), 1.0, station.points.front().speed.value_or(0.0));
+    take("speed", tr("speed"), QStringLiteral("1/min"), 1.0, station.points.front().speed.value_or(0.0));
   return comparisons;
 }
 
@@ -324,7 +317,7 @@ Findings NetworkMachines::findings(const element &compressor) const {
   Findings found;
   const QString name = compressor.value(Names::all().name);
   const auto tell = [&](const QString &text) {
-    found.push_back({Finding::Severity::Warning, QString(), 0, name + QStringLiteral(": ") + text, QString(), false, name});
+    found.push_back(Finding::about(name, name + QStringLiteral(": ") + text));
   };
   const QStringList all = names(compressor);
   const bool isKnown = std::any_of(all.begin(), all.end(), [this](const QString &machine) {
@@ -345,7 +338,7 @@ Findings NetworkMachines::findings(const element &compressor) const {
   }
   for (const Comparison &comparison : compare(compressor, *compression, whole)) {
     if (comparison.isApart())
-      tell(Texts::tr("The results state %1 = %2 %4, the map tells %3 %4")
+      tell(tr("The results state %1 = %2 %4, the map tells %3 %4")
                .arg(comparison.name, DisplayFormat::number(comparison.stored, 4),
                     DisplayFormat::number(comparison.computed, 4), comparison.unit));
   }

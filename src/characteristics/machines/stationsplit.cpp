@@ -1,16 +1,6 @@
 #include "stationsplit.h"
 
-#include <QCoreApplication>
-
 #include <cmath>
-
-namespace {
-
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(StationSplit)
-};
-
-} // namespace
 
 double StationSplit::largestFlow(const StationConfiguration::Unit &unit) const {
   if (const TurboCompressor *turbo = m_data.turbo(unit.compressor)) {
@@ -59,16 +49,15 @@ QString StationSplit::text(const QString &compressor, const std::optional<Part> 
   QStringList counts;
   for (const StationConfiguration::Stage &stage : m_configuration.stages)
     counts.append(QString::number(stage.size()));
-  const QString stages = m_configuration.stages.size() == 1 ? Texts::tr("%1 machines side by side").arg(counts.first())
-                                                            : Texts::tr("%1 stages one behind the other with %2 machines")
+  const QString stages = m_configuration.stages.size() == 1 ? tr("%1 machines side by side").arg(counts.first())
+                                                            : tr("%1 stages one behind the other with %2 machines")
                                                                   .arg(m_configuration.stages.size())
                                                                   .arg(counts.join(QStringLiteral(" + ")));
   if (!part)
-    return Texts::tr("%1. %2 does not run in it.").arg(stages, compressor);
-  QString text =
-      Texts::tr("%1. %2 carries %3 % of the flow").arg(stages, compressor, QString::number(100.0 * part->share, 'g', 3));
+    return tr("%1. %2 does not run in it.").arg(stages, compressor);
+  QString text = tr("%1. %2 carries %3 % of the flow").arg(stages, compressor, QString::number(100.0 * part->share, 'g', 3));
   if (m_configuration.stages.size() > 1)
-    text += Texts::tr(" in stage %1; the stages share the pressure ratio alike, the gas is cooled between them")
-                .arg(part->stage + 1);
+    text +=
+        tr(" in stage %1; the stages share the pressure ratio alike, the gas is cooled between them").arg(part->stage + 1);
   return text + QLatin1Char('.');
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <machines/compression.h>
@@ -12,6 +13,7 @@
 /// share its flow in proportion to the largest flow that each carries at its nominal speed, or alike where a map does not
 /// tell it.
 class StationSplit {
+  Q_DECLARE_TR_FUNCTIONS(StationSplit)
 public:
   StationSplit(const MachineData &data, const StationConfiguration &configuration)
       : m_data(data)

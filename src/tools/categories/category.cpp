@@ -75,7 +75,7 @@ std::vector<Category> CategoryFile::read(const QString &path, const Told &told) 
     QStringList fields = line.split(QLatin1Char(';'));
     if (fields.size() < Fields) {
       if (told)
-        told({Finding::Severity::Warning, path, number, QStringLiteral("Line contains less than 5 entries!"), QString()});
+        told({Finding::Severity::Warning, path, number, QStringLiteral("Line contains less than 5 entries!")});
       continue;
     }
     const bool isChecked = fields[0].trimmed().startsWith(CheckedMark);

@@ -2,11 +2,10 @@
 
 #include "findings/findingmodel.h"
 
-#include <algorithm>
-
 FindingFilter::FindingFilter(FindingModel &findings, QObject *parent)
     : QSortFilterProxyModel(parent)
     , m_findings(findings) {
+  setRecursiveFilteringEnabled(true); // a stage is shown for its findings
   setSourceModel(&findings);
 }
 
@@ -31,14 +30,5 @@ QVariant FindingFilter::data(const QModelIndex &index, int role) const {
 }
 
 bool FindingFilter::filterAcceptsRow(int row, const QModelIndex &parent) const {
-  const std::vector<FindingList::Group> &groups = m_findings.list().groups();
-  const auto says = [this](const Finding &finding) {
-    return FindingList::says(finding, m_text);
-  };
-  if (m_text.isEmpty())
-    return true;
-  if (parent.isValid())
-    return says(groups[static_cast<std::size_t>(parent.row())].findings[static_cast<std::size_t>(row)]);
-  const Findings &findings = groups[static_cast<std::size_t>(row)].findings;
-  return std::any_of(findings.begin(), findings.end(), says);
+  return m_text.isEmpty() || (parent.isValid() && FindingList::says(m_findings.at(parent.row(), row), m_text));
 }

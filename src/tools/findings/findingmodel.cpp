@@ -18,7 +18,7 @@ QString text(const Finding &finding, int column) {
 } // namespace
 
 FindingModel::FindingModel(QObject *parent)
-    : GroupModel({tr("finding"), tr("element"), tr("file")}, parent) {}
+    : FindingGroups({tr("finding"), tr("element"), tr("file")}, parent) {}
 
 void FindingModel::set(std::vector<FindingList::Group> groups) {
   beginResetModel();
@@ -26,22 +26,8 @@ void FindingModel::set(std::vector<FindingList::Group> groups) {
   endResetModel();
 }
 
-int FindingModel::groupCount() const {
-  return static_cast<int>(m_list.groups().size());
-}
-
-int FindingModel::entryCount(int group) const {
-  return static_cast<int>(at(group).findings.size());
-}
-
-QVariant FindingModel::groupData(int group, int column, int role) const {
-  if (role == Qt::DisplayRole && column == TextColumn)
-    return at(group).name;
-  return role == Qt::FontRole ? boldFont() : QVariant();
-}
-
 QVariant FindingModel::entryData(int group, int entry, int column, int role) const {
-  const Finding &finding = at(group).findings[static_cast<std::size_t>(entry)];
+  const Finding &finding = at(group, entry);
   switch (role) {
   case Qt::DisplayRole:
     return text(finding, column);

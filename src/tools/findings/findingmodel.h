@@ -3,8 +3,10 @@
 #include <tools/findinglist.h>
 #include <tools/groupmodel.h>
 
+using FindingGroups = NamedGroups<FindingList::Group, &FindingList::Group::findings>;
+
 /// Findings below the stages that made them.
-class FindingModel final : public GroupModel {
+class FindingModel final : public FindingGroups {
   Q_OBJECT
 public:
   enum Columns { TextColumn, ElementColumn, FileColumn };
@@ -13,15 +15,12 @@ public:
 
   void set(std::vector<FindingList::Group> groups);
   const FindingList &list() const { return m_list; }
+  using FindingGroups::at;
 
 protected:
-  int groupCount() const final;
-  int entryCount(int group) const final;
-  QVariant groupData(int group, int column, int role) const final;
+  const std::vector<FindingList::Group> &groups() const final { return m_list.groups(); }
   QVariant entryData(int group, int entry, int column, int role) const final;
 
 private:
-  const FindingList::Group &at(int group) const { return m_list.groups()[static_cast<std::size_t>(group)]; }
-
   FindingList m_list;
 };

@@ -181,7 +181,7 @@ QString NivraNetLayersEditor::askForLayer() {
 void NivraNetLayersEditor::on_toolButtonAdd_clicked() {
   const QStringList names = m_net.selection().names().values();
   if (names.isEmpty()) {
-    NivraMsg::message(NivraMsg::Kind::Information, tr("select elements to add."));
+    NivraMsg::information(tr("select elements to add."));
     return;
   }
   const QString layer = askForLayer();

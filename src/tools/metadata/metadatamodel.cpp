@@ -4,7 +4,7 @@
 #include <tools/plaintip.h>
 
 MetaDataModel::MetaDataModel(QObject *parent)
-    : GroupModel({tr("ShortNames"), tr("LongNames"), tr("Description (Attribute.csv)")}, parent) {}
+    : MetaDataGroups({tr("ShortNames"), tr("LongNames"), tr("Description (Attribute.csv)")}, parent) {}
 
 void MetaDataModel::set(const NetMetaData &metaData) {
   beginResetModel();
@@ -19,14 +19,6 @@ void MetaDataModel::set(const NetMetaData &metaData) {
   endResetModel();
 }
 
-int MetaDataModel::groupCount() const {
-  return static_cast<int>(m_groups.size());
-}
-
-int MetaDataModel::entryCount(int group) const {
-  return static_cast<int>(at(group).entries.size());
-}
-
 QVariant MetaDataModel::groupData(int group, int column, int role) const {
   if (role != Qt::DisplayRole || column != ShortNameColumn)
     return QVariant();
@@ -34,7 +26,7 @@ QVariant MetaDataModel::groupData(int group, int column, int role) const {
 }
 
 QVariant MetaDataModel::entryData(int group, int entry, int column, int role) const {
-  const Entry &shown = at(group).entries[static_cast<std::size_t>(entry)];
+  const Entry &shown = at(group, entry);
   if (role == Qt::ToolTipRole && column == DescriptionColumn)
     return PlainTip::of(shown.description);
   if (role != Qt::DisplayRole)

@@ -3,7 +3,7 @@
 #include <QSize>
 
 PropertyModel::PropertyModel(QObject *parent)
-    : GroupModel({tr("prop"), tr("value"), tr("unit")}, parent) {}
+    : PropertyGroups({tr("prop"), tr("value"), tr("unit")}, parent) {}
 
 void PropertyModel::set(std::vector<PropertyList::Group> groups) {
   beginResetModel();
@@ -11,24 +11,8 @@ void PropertyModel::set(std::vector<PropertyList::Group> groups) {
   endResetModel();
 }
 
-int PropertyModel::groupCount() const {
-  return static_cast<int>(m_groups.size());
-}
-
-int PropertyModel::entryCount(int group) const {
-  return static_cast<int>(at(group).rows.size());
-}
-
-QVariant PropertyModel::groupData(int group, int column, int role) const {
-  if (column != PropertyColumn)
-    return QVariant();
-  if (role == Qt::DisplayRole)
-    return at(group).name;
-  return role == Qt::FontRole ? boldFont() : QVariant();
-}
-
 QVariant PropertyModel::entryData(int group, int entry, int column, int role) const {
-  const PropertyList::Row &row = at(group).rows[static_cast<std::size_t>(entry)];
+  const PropertyList::Row &row = at(group, entry);
   if (role == Qt::SizeHintRole && column == ValueColumn && row.isLong)
     return QSize(0, 0); // so that the column is as wide as the others and the header need
   if (role != Qt::DisplayRole)

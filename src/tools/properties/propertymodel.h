@@ -4,8 +4,10 @@
 
 #include <tools/groupmodel.h>
 
+using PropertyGroups = NamedGroups<PropertyList::Group, &PropertyList::Group::rows>;
+
 /// The properties of one element below their groups.
-class PropertyModel final : public GroupModel {
+class PropertyModel final : public PropertyGroups {
   Q_OBJECT
 public:
   enum Columns { PropertyColumn, ValueColumn, UnitColumn };
@@ -15,13 +17,9 @@ public:
   void set(std::vector<PropertyList::Group> groups);
 
 protected:
-  int groupCount() const final;
-  int entryCount(int group) const final;
-  QVariant groupData(int group, int column, int role) const final;
+  const std::vector<PropertyList::Group> &groups() const final { return m_groups; }
   QVariant entryData(int group, int entry, int column, int role) const final;
 
 private:
-  const PropertyList::Group &at(int group) const { return m_groups[static_cast<std::size_t>(group)]; }
-
   std::vector<PropertyList::Group> m_groups;
 };

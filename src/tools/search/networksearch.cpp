@@ -1,6 +1,7 @@
+#include "search/networksearch.h"
+
 #include <base/parallel.h>
 #include <model/names.h>
-#include <tools/networksearch.h>
 
 #include <iterator>
 #include <map>

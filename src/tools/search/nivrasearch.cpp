@@ -1,4 +1,5 @@
 #include "search/formulamode.h"
+#include "search/networksearch.h"
 #include "search/searchhint.h"
 #include "search/searchresults.h"
 #include "search/searchtable.h"
@@ -6,12 +7,11 @@
 #include "shared/nameaid.h"
 #include "ui_nivrasearch.h"
 
-#include <base/generalsettings.h>
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 #include <base/wholefile.h>
 #include <model/names.h>
-#include <tools/networksearch.h>
 #include <tools/nivrasearch.h>
 
 #include <QDragEnterEvent>
@@ -22,10 +22,6 @@
 #include <QMetaMethod>
 #include <QMimeData>
 #include <QRegularExpression>
-
-static void initialiseResources() {
-  Q_INIT_RESOURCE(tools); // a static library's resources are dropped by the linker unless somebody asks for them
-}
 
 namespace {
 
@@ -40,7 +36,7 @@ NivraSearch::NivraSearch(NetData &net, Told told, QWidget *parent)
     , m_told(std::move(told))
     , m_lastField(nullptr)
     , m_historyMenu(new QMenu(this)) {
-  initialiseResources();
+  Q_INIT_RESOURCE(tools); // a static library's resources are dropped by the linker unless somebody asks for them
   m_ui->setupUi(this);
   showHint(QString());
   m_results = new SearchResults(*m_ui->treeWidget_searchResults);
@@ -275,10 +271,12 @@ void NivraSearch::on_pushButton_save_clicked() {
 bool NivraSearch::save(const QString &path, QString *reason) const {
   SearchParams params = searchParams();
   params.formula = m_reportedFormula;
-  const bool useComma = GeneralSettings::instance().isOn(QStringLiteral("use comma"));
   return WholeFile::write(
       path, FileAccess::Source::Trusted,
-      [&](QIODevice &device, QString *) { return SearchTable::write(device, params, m_results->rows(), useComma); }, reason);
+      [&](QIODevice &device, QString *) {
+        return SearchTable::write(device, params, m_results->rows(), Settings::UseComma.value());
+      },
+      reason);
 }
 
 void NivraSearch::on_pushButton_addCat_clicked() {

@@ -4,20 +4,6 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr QString SearchRow::*Texts[] = {&SearchRow::name, &SearchRow::type, &SearchRow::property, &SearchRow::value,
-                                         &SearchRow::unit};
-
-} // namespace
-
-void SearchResultsModel::setRows(std::vector<SearchRow> rows) {
-  beginResetModel();
-  m_rows = std::move(rows);
-  sortNewRows();
-  endResetModel();
-}
-
 void SearchResultsModel::replace(const QString &name, const std::vector<SearchRow> &rows) {
   const auto isOfElement = [&name](const SearchRow &row) {
     return row.name.compare(name, Qt::CaseInsensitive) == 0;
@@ -29,7 +15,7 @@ void SearchResultsModel::replace(const QString &name, const std::vector<SearchRo
     endRemoveRows();
   }
   for (const SearchRow &row : rows) {
-    const int at = rowFor(row.*Texts[sortedColumn()]);
+    const int at = rowFor(row.*TextOf[sortedColumn()]);
     beginInsertRows(QModelIndex(), at, at);
     m_rows.insert(m_rows.begin() + at, row);
     endInsertRows();
@@ -43,21 +29,8 @@ QModelIndex SearchResultsModel::find(const QString &name) const {
   return found == m_rows.end() ? QModelIndex() : index(static_cast<int>(found - m_rows.begin()), NameColumn);
 }
 
-const QString &SearchResultsModel::text(int row, int column) const {
-  return m_rows[static_cast<std::size_t>(row)].*Texts[column];
-}
-
-int SearchResultsModel::rowCount(const QModelIndex &parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-int SearchResultsModel::columnCount(const QModelIndex &parent) const {
-  return parent.isValid() ? 0 : ColumnCount;
-}
-
 QVariant SearchResultsModel::data(const QModelIndex &index, int role) const {
-  return index.isValid() && role == ElementRole ? QVariant(text(index.row(), NameColumn))
-                                                : TextTableModel::data(index, role);
+  return index.isValid() && role == ElementRole ? QVariant(text(index.row(), NameColumn)) : SearchRows::data(index, role);
 }
 
 QString SearchResultsModel::title(int column) const {

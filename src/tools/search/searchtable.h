@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tools/networksearch.h>
+#include "search/networksearch.h"
 
 #include <QIODevice>
 #include <QStringList>

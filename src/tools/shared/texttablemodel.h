@@ -5,8 +5,7 @@
 #include <map>
 #include <vector>
 
-/// A table of exact texts that is always sorted by one of its columns, in the order in which people count. The rows lie in a
-/// vector of the derived class, in the order in which they are shown.
+/// A table of exact texts that is always sorted by one of its columns, in the order in which people count.
 class TextTableModel : public QAbstractTableModel {
   Q_OBJECT
 public:
@@ -40,12 +39,40 @@ private:
   std::map<std::pair<int, int>, QVariant> m_marks; ///< of the header, by column and role
 };
 
-/// The rows of a vector in another order. \param rows the present row of each one to come
-template <typename Row>
-std::vector<Row> reordered(std::vector<Row> from, const std::vector<int> &rows) {
-  std::vector<Row> result;
-  result.reserve(from.size());
-  for (const int row : rows)
-    result.push_back(std::move(from[static_cast<std::size_t>(row)]));
-  return result;
-}
+/// A table of the rows of a vector; each column shows one of their texts.
+template <typename Row, QString Row::*...Texts>
+class TextRows : public TextTableModel {
+public:
+  using TextTableModel::TextTableModel;
+
+  /// Puts these rows in place of those before, in the order of the sorted column.
+  void setRows(std::vector<Row> rows) {
+    beginResetModel();
+    m_rows = std::move(rows);
+    sortNewRows();
+    endResetModel();
+  }
+  /// In the order in which they are shown.
+  const std::vector<Row> &rows() const { return m_rows; }
+
+  const QString &text(int row, int column) const final { return m_rows[static_cast<std::size_t>(row)].*TextOf[column]; }
+  int rowCount(const QModelIndex &parent = QModelIndex()) const final {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+  }
+  int columnCount(const QModelIndex &parent = QModelIndex()) const final {
+    return parent.isValid() ? 0 : static_cast<int>(sizeof...(Texts));
+  }
+
+protected:
+  static constexpr QString Row::*TextOf[] = {Texts...};
+
+  void reorder(const std::vector<int> &rows) final {
+    std::vector<Row> reordered;
+    reordered.reserve(m_rows.size());
+    for (const int row : rows)
+      reordered.push_back(std::move(m_rows[static_cast<std::size_t>(row)]));
+    m_rows = std::move(reordered);
+  }
+
+  std::vector<Row> m_rows;
+};

@@ -4,9 +4,9 @@
 #include "table/vectorplot.h"
 #include "ui_nivravectable.h"
 
-#include <base/generalsettings.h>
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
+#include <base/settings.h>
 #include <base/wholefile.h>
 #include <tools/nivravectable.h>
 #include <tools/tablemenu.h>
@@ -276,10 +276,9 @@ bool NivraVecTable::save(const QString &path, QString *reason) const {
     }
     exported.rows.push_back(texts);
   }
-  const bool useComma = GeneralSettings::instance().isOn(QStringLiteral("use comma"));
   return WholeFile::write(
       path, FileAccess::Source::Trusted,
-      [&](QIODevice &device, QString *) { return VectorRows::write(device, exported, useComma); }, reason);
+      [&](QIODevice &device, QString *) { return VectorRows::write(device, exported, Settings::UseComma.value()); }, reason);
 }
 
 void NivraVecTable::on_pushButtonClose_clicked() {

@@ -139,10 +139,6 @@ void NetPlot::zoomByWheel(int steps, QPointF anchor) {
   m_zoomer->zoomSteps(steps, anchor);
 }
 
-bool NetPlot::isZooming() const {
-  return m_smoothZoom->isRunning();
-}
-
 void NetPlot::zoomToElement(NetGeometry::Item item) {
   const NetGeometry &geometry = m_update->geometry();
   const std::optional<QPointF> center = geometry.center(item);

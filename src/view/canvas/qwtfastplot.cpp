@@ -61,10 +61,6 @@ bool QwtFastPlot::isFrozen() const {
   return m_overlay->hasPicture();
 }
 
-QRectF QwtFastPlot::pictureArea() const {
-  return m_overlay->pictureArea();
-}
-
 void QwtFastPlot::thaw() {
   if (!isFrozen())
     return;

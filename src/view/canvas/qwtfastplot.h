@@ -31,8 +31,6 @@ public:
   /// Draws the exact picture again.
   void thaw();
   bool isFrozen() const;
-  /// Where the kept picture belongs in the present view, in pixels of the canvas.
-  QRectF pictureArea() const;
   /// Of the last drawing of the canvas, in milliseconds.
   double frameTime() const { return m_frameTime; }
 

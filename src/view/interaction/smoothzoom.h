@@ -20,7 +20,6 @@ public:
   void zoom(int steps);
   /// The point in plot coordinates about which to zoom; without one it is the cursor, wherever it is at each small step.
   void setAnchor(std::optional<QPointF> anchor) { m_anchor = anchor; }
-  bool isRunning() const { return !m_running.empty(); }
 
 signals:
   void refreshRequested(int delay, bool quick); ///< after so many milliseconds; quick: at once what is quickly done

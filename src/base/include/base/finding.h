@@ -12,10 +12,15 @@ struct Finding {
   Severity severity = Severity::Warning;
   QString file;                  ///< path, empty when the finding belongs to no file
   int line = 0;                  ///< 1-based, 0 when it belongs to no line
-  QString text;                  ///< the message as logged; empty when the box says it all
-  QString box;                   ///< what a message box says; empty when a log line is enough
+  QString text{};                ///< the message as logged; empty when the box says it all
+  QString box{};                 ///< what a message box says; empty when a log line is enough
   bool isForInformation = false; ///< the box is one of information, whatever the severity in the log
   QString element{};             ///< name of the element that it is about, where there is one
+
+  /// A warning about an element.
+  static Finding about(const QString &element, const QString &text) {
+    return {Severity::Warning, {}, 0, text, {}, false, element};
+  }
 
   /// "text (file:line)" as far as they are known, with the box's text where there is no other.
   QString logText() const;

@@ -41,9 +41,6 @@ public:
 
   const std::vector<FormulaReference> &references() const;
 
-  /// The name as it is written in a formula.
-  static QString escaped(const QString &name);
-
 private:
   struct Engine;
   std::unique_ptr<Engine> m_engine;

@@ -22,8 +22,6 @@ public:
   /// counts. Left out, with a finding each: what cannot be parsed, and formulas that need one another's results. Properties
   /// that the vocabulary does not know are described in that of the network.
   Findings setDefinitions(const std::vector<FormulaDefinition> &definitions);
-  /// Formulas and constraints that are computed.
-  int size() const;
 
   /// Computes everything. Where a formula has no value, for want of one that it needs, the element keeps its own. Elements
   /// that violate constraints get the property "CB_info", "(first;second;)". Returns a finding for each formula that some

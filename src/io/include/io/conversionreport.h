@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QMap>
 #include <QString>
 #include <QStringList>
 
 /// What became of what a conversion found, counted by kind: kinds of elements, of values, of lines.
 class ConversionReport {
+  Q_DECLARE_TR_FUNCTIONS(ConversionReport)
 public:
   struct Counts {
     int taken = 0;     ///< as they stand

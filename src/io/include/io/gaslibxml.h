@@ -3,12 +3,14 @@
 #include <base/fileaccess.h>
 #include <base/finding.h>
 
+#include <QCoreApplication>
 #include <QXmlStreamReader>
 
 /// What the readers of public gas network instances have in common: the way into a file, and what is told of it. Document
 /// types are refused, so that no entity is expanded or loaded. The work that a file can cause is bounded before the parser
 /// sees it: by its size, and by XmlBounds.
 class GasLibXml {
+  Q_DECLARE_TR_FUNCTIONS(GasLibXml)
 public:
   static constexpr qint64 LargestFile = qint64(64) << 20;
 

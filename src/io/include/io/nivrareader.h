@@ -40,12 +40,10 @@ public:
   Result readTopoAndScen(const NivraWorkspace &workspace, const Options &options);
   /// Values of elements inside of subnets, once these are assembled; nothing when the scenario has no such file.
   Result readSubResults(const NivraWorkspace &workspace, const Options &options);
+  /// This one and the following take both forms: files that end in ".jsn" or ".json" are JSON, others text. Paths without
+  /// the JSON suffix are those of files in the form of the workspace that was read, of JSON before.
   Result readTopoAndScenJsn(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
                             const Options &options);
-  /// The same in the text form.
-  Result readTopoAndScenText(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
-                             const Options &options);
-  /// This one and the following take both forms: files that end in ".jsn" or ".json" are JSON, others text.
   Result readGeomJsn(const QString &path, const Options &options);
   /// scenarioPath without the JSON suffix; the companion files lie beside it.
   Result readScenarioJsn(const QString &scenarioPath, const NivraScenario &scenario, const Options &options);
@@ -55,7 +53,6 @@ public:
   Result readGasJsn(const QString &path);
   /// Values per element name, such as gas percentages and results; elements are never made.
   Result readGasParmsJsn(const QString &path, const Options &options);
-  Result readResultsJsn(const QString &path, const Options &options);
 
   const GasTable &gases() const { return m_gases; }
   const QString &gasFile() const { return m_gasFile; } ///< that the gases were read from; empty without one
@@ -63,9 +60,6 @@ public:
   QString networkPath(const QString &textPath) const;
 
 private:
-  Result readNetwork(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
-                     const Options &options);
-  Result readScenario(const QString &scenarioPath, const NivraScenario &scenario, const Options &options);
   Result readSetPoints(const QString &path, const Options &options);
   class SetPointApplier;
   /// A set point whose unit needs the gas to be converted; of one property the last counts.
@@ -82,7 +76,6 @@ private:
   using SetPointTarget = std::pair<const element *, PropertyKey>;
   void set(element &target, PropertyKey key, PropertyText value);
   void convertWaiting(Findings &findings);
-  Result readValues(const QString &path, const Options &options);
   struct Companion {
     const char *suffix;
     const char *success;

@@ -38,5 +38,4 @@ struct NivraScenario {
   Findings fromJson(const QJsonObject &object, const QString &file = QString());
   /// Key and value of the fields that name files and the version.
   QVector<QPair<QString, QString>> entries() const;
-  QJsonObject toJson() const;
 };

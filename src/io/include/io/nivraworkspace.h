@@ -4,6 +4,7 @@
 #include <io/nivragasparams.h>
 #include <io/nivrascenario.h>
 
+#include <QCoreApplication>
 #include <QJsonObject>
 #include <QString>
 #include <QVector>
@@ -11,6 +12,7 @@
 /// The directory tree of a model, resolved from a geometry or scenario file: root, cases, scenarios. The last case and the
 /// last scenario are the current ones.
 class NivraWorkspace {
+  Q_DECLARE_TR_FUNCTIONS(NivraWorkspace)
 public:
   struct Case {
     QString name; ///< of the case directory

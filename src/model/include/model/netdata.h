@@ -74,11 +74,9 @@ public:
   static double number(const PropertyText *text, bool absolute = false);
   /// The property as a number strictly between -1e20 and 1e20 (its absolute value on request); NoValue otherwise.
   double value(const ::element &element, PropertyKey property, bool absolute = false) const;
-  double value(const ::element &element, const QString &property, bool absolute = false) const;
   /// As value(); an edge without the property yields the mean of its end nodes' values when both have one. Throws
   /// element_out_of_range without "node1" or "node2", elements_out_of_range when an end node does not exist.
   double edgeValue(const ::element &edge, PropertyKey property, bool absolute = false) const;
-  double edgeValue(const ::element &edge, const QString &property, bool absolute = false) const;
   /// Where the properties "X" and "Y" put the element; 0 for a coordinate that it lacks.
   QPointF position(const ::element &element) const;
   /// Smallest and largest valid value over all nodes for a node function, over all edges otherwise; (1e30, -1e30)

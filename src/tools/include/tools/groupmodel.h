@@ -3,6 +3,8 @@
 #include <QAbstractItemModel>
 #include <QStringList>
 
+#include <vector>
+
 /// A tree of two levels, for models of groups and what is in them.
 ///
 /// 1. The internal id of a group is 0, that of an entry the row of its group and one.
@@ -33,4 +35,23 @@ protected:
 
 private:
   QStringList m_titles;
+};
+
+/// Groups that have a name, which is shown in bold letters, and their entries in a vector.
+template <typename Group, auto Entries>
+class NamedGroups : public GroupModel {
+protected:
+  using GroupModel::GroupModel;
+
+  virtual const std::vector<Group> &groups() const = 0;
+  const Group &at(int group) const { return groups()[static_cast<std::size_t>(group)]; }
+  const auto &at(int group, int entry) const { return (at(group).*Entries)[static_cast<std::size_t>(entry)]; }
+
+  int groupCount() const final { return static_cast<int>(groups().size()); }
+  int entryCount(int group) const final { return static_cast<int>((at(group).*Entries).size()); }
+  QVariant groupData(int group, int column, int role) const override {
+    if (role == Qt::DisplayRole && column == 0)
+      return at(group).name;
+    return role == Qt::FontRole ? boldFont() : QVariant();
+  }
 };

@@ -61,8 +61,6 @@ public:
   bool hasStragglers() const { return m_stragglers > 0; }
   /// Fits the window to everything, however far it lies.
   void showStragglers();
-  /// A smooth zoom is on its way.
-  bool isZooming() const;
   /// Brings the element into the middle, as large as the general setting "zoom to element: factor" allows.
   void zoomToElement(NetGeometry::Item item);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -9,6 +10,7 @@
 
 /// How a gas behaves, good for 250 to 450 K and up to 120 bar.
 class GasLaw {
+  Q_DECLARE_TR_FUNCTIONS(GasLaw)
 public:
   /// What the scenario asks for; the order is that of the names of "ntype_gasLaw".
   enum class Wanted { Aga, Dc92, Papay };

@@ -4,6 +4,7 @@
 #include <io/scenariosummary.h>
 #include <model/netdata.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <machines/gaslaw.h>
@@ -20,6 +21,7 @@ struct ScenarioGas {
 /// Which gas flows where: that of a node itself, else the one of the gas file that the node names, else the scenario's. The
 /// scenario's is the first of the gas file, else that of the first node that states one, else methane.
 class GasSource {
+  Q_DECLARE_TR_FUNCTIONS(GasSource)
 public:
   struct Gas {
     std::shared_ptr<const GasLaw> law = GasLaw::assumed();

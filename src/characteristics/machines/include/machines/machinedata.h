@@ -152,7 +152,4 @@ struct MachineData {
   const Drive *drive(const QString &name) const;
   /// The names of the compressors that stand in a station, in the order of the file.
   QStringList ofStation(const QString &station) const;
-  /// Null when the drive drives none.
-  const TurboCompressor *turboOf(const Drive &drive) const;
-  const PistonCompressor *pistonOf(const Drive &drive) const;
 };

@@ -3,6 +3,7 @@
 #include <base/finding.h>
 #include <model/netdata.h>
 
+#include <QCoreApplication>
 #include <QPointF>
 #include <QStringList>
 #include <QVector>
@@ -19,6 +20,7 @@ struct MachineChoice {
 
 /// Which machines of the machine data the elements of a network are, and where they work.
 class NetworkMachines {
+  Q_DECLARE_TR_FUNCTIONS(NetworkMachines)
 public:
   /// A value that the results of the network state beside the one that the map tells.
   struct Comparison {
