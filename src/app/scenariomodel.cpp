@@ -25,11 +25,11 @@ void ScenarioModel::set(const ScenarioSummary &summary) {
 }
 
 int ScenarioModel::groupCount() const {
-  return static_cast<int>(m_sections.size());
+  return toQt(m_sections.size());
 }
 
 int ScenarioModel::entryCount(int group) const {
-  return static_cast<int>(at(group).rows.size());
+  return toQt(at(group).rows.size());
 }
 
 QString ScenarioModel::text(const ScenarioSummary::Row &row, int column) const {
@@ -52,7 +52,7 @@ QVariant ScenarioModel::groupData(int group, int column, int role) const {
 }
 
 QVariant ScenarioModel::entryData(int group, int entry, int column, int role) const {
-  const ScenarioSummary::Row &row = at(group).rows[static_cast<std::size_t>(entry)];
+  const ScenarioSummary::Row &row = at(group).rows[fromQt(entry)];
   switch (role) {
   case Qt::DisplayRole:
     return text(row, column);

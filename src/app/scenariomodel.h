@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/index.h>
 #include <io/scenariosummary.h>
 #include <tools/groupmodel.h>
 
@@ -30,7 +31,7 @@ private:
     std::vector<ScenarioSummary::Row> rows;
   };
 
-  const Section &at(int group) const { return m_sections[static_cast<std::size_t>(group)]; }
+  const Section &at(int group) const { return m_sections[fromQt(group)]; }
   QString text(const ScenarioSummary::Row &row, int column) const;
 
   std::vector<Section> m_sections;

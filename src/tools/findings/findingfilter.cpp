@@ -2,6 +2,8 @@
 
 #include "findings/findingmodel.h"
 
+#include <base/index.h>
+
 #include <algorithm>
 
 FindingFilter::FindingFilter(FindingModel &findings, QObject *parent)
@@ -38,7 +40,7 @@ bool FindingFilter::filterAcceptsRow(int row, const QModelIndex &parent) const {
   if (m_text.isEmpty())
     return true;
   if (parent.isValid())
-    return says(groups[static_cast<std::size_t>(parent.row())].findings[static_cast<std::size_t>(row)]);
-  const Findings &findings = groups[static_cast<std::size_t>(row)].findings;
+    return says(groups[fromQt(parent.row())].findings[fromQt(row)]);
+  const Findings &findings = groups[fromQt(row)].findings;
   return std::any_of(findings.begin(), findings.end(), says);
 }

@@ -27,11 +27,11 @@ void FindingModel::set(std::vector<FindingList::Group> groups) {
 }
 
 int FindingModel::groupCount() const {
-  return static_cast<int>(m_list.groups().size());
+  return toQt(m_list.groups().size());
 }
 
 int FindingModel::entryCount(int group) const {
-  return static_cast<int>(at(group).findings.size());
+  return toQt(at(group).findings.size());
 }
 
 QVariant FindingModel::groupData(int group, int column, int role) const {
@@ -41,7 +41,7 @@ QVariant FindingModel::groupData(int group, int column, int role) const {
 }
 
 QVariant FindingModel::entryData(int group, int entry, int column, int role) const {
-  const Finding &finding = at(group).findings[static_cast<std::size_t>(entry)];
+  const Finding &finding = at(group).findings[fromQt(entry)];
   switch (role) {
   case Qt::DisplayRole:
     return text(finding, column);

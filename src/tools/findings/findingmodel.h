@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/index.h>
 #include <tools/findinglist.h>
 #include <tools/groupmodel.h>
 
@@ -21,7 +22,7 @@ protected:
   QVariant entryData(int group, int entry, int column, int role) const final;
 
 private:
-  const FindingList::Group &at(int group) const { return m_list.groups()[static_cast<std::size_t>(group)]; }
+  const FindingList::Group &at(int group) const { return m_list.groups()[fromQt(group)]; }
 
   FindingList m_list;
 };

@@ -20,11 +20,11 @@ void MetaDataModel::set(const NetMetaData &metaData) {
 }
 
 int MetaDataModel::groupCount() const {
-  return static_cast<int>(m_groups.size());
+  return toQt(m_groups.size());
 }
 
 int MetaDataModel::entryCount(int group) const {
-  return static_cast<int>(at(group).entries.size());
+  return toQt(at(group).entries.size());
 }
 
 QVariant MetaDataModel::groupData(int group, int column, int role) const {
@@ -34,7 +34,7 @@ QVariant MetaDataModel::groupData(int group, int column, int role) const {
 }
 
 QVariant MetaDataModel::entryData(int group, int entry, int column, int role) const {
-  const Entry &shown = at(group).entries[static_cast<std::size_t>(entry)];
+  const Entry &shown = at(group).entries[fromQt(entry)];
   if (role == Qt::ToolTipRole && column == DescriptionColumn)
     return PlainTip::of(shown.description);
   if (role != Qt::DisplayRole)

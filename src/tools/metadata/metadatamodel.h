@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/index.h>
 #include <model/netmetadata.h>
 #include <tools/groupmodel.h>
 
@@ -33,7 +34,7 @@ private:
   static std::vector<Entry> types();
   static std::vector<Entry> functions(const NetMetaData &metaData, const QStringList &names);
   static std::vector<Entry> properties(const NetMetaData &metaData, const QString &group);
-  const Group &at(int group) const { return m_groups[static_cast<std::size_t>(group)]; }
+  const Group &at(int group) const { return m_groups[fromQt(group)]; }
 
   std::vector<Group> m_groups;
 };

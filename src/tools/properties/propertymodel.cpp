@@ -12,11 +12,11 @@ void PropertyModel::set(std::vector<PropertyList::Group> groups) {
 }
 
 int PropertyModel::groupCount() const {
-  return static_cast<int>(m_groups.size());
+  return toQt(m_groups.size());
 }
 
 int PropertyModel::entryCount(int group) const {
-  return static_cast<int>(at(group).rows.size());
+  return toQt(at(group).rows.size());
 }
 
 QVariant PropertyModel::groupData(int group, int column, int role) const {
@@ -28,7 +28,7 @@ QVariant PropertyModel::groupData(int group, int column, int role) const {
 }
 
 QVariant PropertyModel::entryData(int group, int entry, int column, int role) const {
-  const PropertyList::Row &row = at(group).rows[static_cast<std::size_t>(entry)];
+  const PropertyList::Row &row = at(group).rows[fromQt(entry)];
   if (role == Qt::SizeHintRole && column == ValueColumn && row.isLong)
     return QSize(0, 0); // so that the column is as wide as the others and the header need
   if (role != Qt::DisplayRole)

@@ -2,6 +2,7 @@
 
 #include "properties/propertylist.h"
 
+#include <base/index.h>
 #include <tools/groupmodel.h>
 
 /// The properties of one element below their groups.
@@ -21,7 +22,7 @@ protected:
   QVariant entryData(int group, int entry, int column, int role) const final;
 
 private:
-  const PropertyList::Group &at(int group) const { return m_groups[static_cast<std::size_t>(group)]; }
+  const PropertyList::Group &at(int group) const { return m_groups[fromQt(group)]; }
 
   std::vector<PropertyList::Group> m_groups;
 };

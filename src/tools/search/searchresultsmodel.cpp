@@ -2,6 +2,8 @@
 
 #include "search/searchtable.h"
 
+#include <base/index.h>
+
 #include <algorithm>
 
 namespace {
@@ -44,11 +46,11 @@ QModelIndex SearchResultsModel::find(const QString &name) const {
 }
 
 const QString &SearchResultsModel::text(int row, int column) const {
-  return m_rows[static_cast<std::size_t>(row)].*Texts[column];
+  return m_rows[fromQt(row)].*Texts[column];
 }
 
 int SearchResultsModel::rowCount(const QModelIndex &parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+  return parent.isValid() ? 0 : toQt(m_rows.size());
 }
 
 int SearchResultsModel::columnCount(const QModelIndex &parent) const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/index.h>
+
 #include <QAbstractTableModel>
 
 #include <map>
@@ -46,6 +48,6 @@ std::vector<Row> reordered(std::vector<Row> from, const std::vector<int> &rows) 
   std::vector<Row> result;
   result.reserve(from.size());
   for (const int row : rows)
-    result.push_back(std::move(from[static_cast<std::size_t>(row)]));
+    result.push_back(std::move(from[fromQt(row)]));
   return result;
 }

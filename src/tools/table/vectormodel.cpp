@@ -2,6 +2,8 @@
 
 #include "shared/namedelement.h"
 
+#include <base/index.h>
+
 namespace {
 
 using Row = VectorRows::Row;
@@ -24,11 +26,11 @@ void VectorModel::setTitles(const QStringList &titles) {
 }
 
 const QString &VectorModel::text(int row, int column) const {
-  return m_rows[static_cast<std::size_t>(row)].*Texts[column];
+  return m_rows[fromQt(row)].*Texts[column];
 }
 
 int VectorModel::rowCount(const QModelIndex &parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+  return parent.isValid() ? 0 : toQt(m_rows.size());
 }
 
 int VectorModel::columnCount(const QModelIndex &parent) const {
@@ -51,7 +53,7 @@ Qt::ItemFlags VectorModel::flags(const QModelIndex &index) const {
 }
 
 QString VectorModel::namedElement(const QModelIndex &cell) const {
-  const Row &row = m_rows[static_cast<std::size_t>(cell.row())];
+  const Row &row = m_rows[fromQt(cell.row())];
   if (cell.column() == NameColumn)
     return row.name;
   return cell.column() == ValueColumn && namesElements(PropertyKey::find(row.property)) ? row.value : QString();
