@@ -52,8 +52,8 @@ QVector<QLineF> edgeLines(Scene &scene) {
   const QwtScaleMap x = scene.plot().plot()->canvasMap(QwtPlot::xBottom);
   const QwtScaleMap y = scene.plot().plot()->canvasMap(QwtPlot::yLeft);
   for (const NetGeometry::Edge &edge : geometry.edges()) {
-    const NetGeometry::Node &a = geometry.nodes()[static_cast<std::size_t>(edge.node1)];
-    const NetGeometry::Node &b = geometry.nodes()[static_cast<std::size_t>(edge.node2)];
+    const NetGeometry::Node &a = geometry.nodes()[edge.node1];
+    const NetGeometry::Node &b = geometry.nodes()[edge.node2];
     lines.append({x.transform(a.x), y.transform(a.y), x.transform(b.x), y.transform(b.y)});
   }
   return lines;

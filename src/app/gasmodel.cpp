@@ -2,6 +2,7 @@
 
 #include "scenariomodel.h"
 
+#include <base/index.h>
 #include <model/names.h>
 #include <tools/displayvalue.h>
 #include <tools/plaintip.h>
@@ -49,17 +50,17 @@ void GasModel::set(const GasTable &gases, const NetMetaData &metaData) {
 }
 
 int GasModel::rowCount(const QModelIndex &parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+  return parent.isValid() ? 0 : toQt(m_rows.size());
 }
 
 int GasModel::columnCount(const QModelIndex &parent) const {
-  return parent.isValid() ? 0 : FirstGasColumn + static_cast<int>(m_gases.size());
+  return parent.isValid() ? 0 : FirstGasColumn + m_gases.size();
 }
 
 QVariant GasModel::data(const QModelIndex &index, int role) const {
   if (!index.isValid())
     return QVariant();
-  const Row &row = m_rows[static_cast<std::size_t>(index.row())];
+  const Row &row = m_rows[fromQt(index.row())];
   switch (role) {
   case Qt::DisplayRole:
     return row.texts[index.column()];

@@ -1,5 +1,7 @@
 #include "helppages.h"
 
+#include <base/index.h>
+
 #include <QFile>
 #include <QRegularExpression>
 
@@ -57,7 +59,7 @@ void HelpPages::add(const QString &document, const QString &markdown) {
 int HelpPages::find(const QString &name) const {
   for (std::size_t i = 0; i < m_pages.size(); ++i) {
     if (m_pages[i].names.contains(name))
-      return static_cast<int>(i);
+      return toQt(i);
   }
   return -1;
 }
@@ -69,7 +71,7 @@ int HelpPages::follow(const QString &link, const QString &fromDocument) const {
     const Page &page = m_pages[i];
     if (page.document == (document.isEmpty() ? fromDocument : document) &&
         (anchor.isEmpty() || page.anchors.contains(anchor)))
-      return static_cast<int>(i);
+      return toQt(i);
   }
   return -1;
 }

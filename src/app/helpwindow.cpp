@@ -2,6 +2,8 @@
 
 #include "logo.h"
 
+#include <base/index.h>
+
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QListWidget>
@@ -67,7 +69,7 @@ void HelpWindow::showPage(const QString &name) {
 void HelpWindow::show(int page) {
   if (page < 0)
     return;
-  m_text->setMarkdown(m_pages.pages()[static_cast<std::size_t>(page)].markdown);
+  m_text->setMarkdown(m_pages.pages()[fromQt(page)].markdown);
   // Room between paragraphs and lines, which plain Markdown lacks.
   constexpr int LineHeight = 125; // per cent
   QTextCursor cursor(m_text->document());
@@ -82,8 +84,7 @@ void HelpWindow::show(int page) {
 
 void HelpWindow::follow(const QUrl &link) {
   const int current = m_list->currentRow();
-  const int page =
-      m_pages.follow(link.toString(), current < 0 ? QString() : m_pages.pages()[static_cast<std::size_t>(current)].document);
+  const int page = m_pages.follow(link.toString(), current < 0 ? QString() : m_pages.pages()[fromQt(current)].document);
   if (page >= 0)
     m_list->setCurrentRow(page);
   else if (!link.scheme().isEmpty())

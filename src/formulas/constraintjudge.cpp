@@ -85,7 +85,7 @@ bool ConstraintJudge::judge(FormulaRule &rule, const std::vector<element *> &ele
   return true;
 }
 
-void ConstraintJudge::write(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints) {
+void ConstraintJudge::write(const std::vector<FormulaRule> &rules, const std::vector<Index> &constraints) {
   if (constraints.empty())
     return;
   std::unordered_map<element *, QString> own; // of what was judged
@@ -93,8 +93,8 @@ void ConstraintJudge::write(const std::vector<FormulaRule> &rules, const std::ve
     own.emplace(e, QString());
   const SubnetOf subnetOf = subnetsByElement();
   std::map<element *, QString> ofSubnets; // about which something was asked
-  for (const int i : constraints) {
-    const FormulaRule &rule = rules[static_cast<std::size_t>(i)];
+  for (const Index i : constraints) {
+    const FormulaRule &rule = rules[i];
     for (auto it = rule.violations.cbegin(); it != rule.violations.cend(); ++it) {
       if (const auto found = own.find(it.key()); found != own.end())
         found->second += it.value() + QLatin1Char(';');

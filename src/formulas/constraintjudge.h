@@ -19,7 +19,7 @@ public:
   /// "(first;second;)" to what was judged. An assembled subnet is told the violations of its inner elements beside its own,
   /// and "()" when it or they were judged and nothing is wrong.
   /// \param constraints their indices among the rules, in the order of the texts
-  void write(const std::vector<FormulaRule> &rules, const std::vector<int> &constraints);
+  void write(const std::vector<FormulaRule> &rules, const std::vector<Index> &constraints);
   /// Of bounds, for those who watch the cost.
   int evaluations() const { return m_evaluations; }
   /// Bounds that were given up, for they cost too much.

@@ -27,36 +27,36 @@ FormulaProducers::FormulaProducers(std::vector<FormulaRule> &rules) {
     }
   }
   // A property that one formula makes and none reads needs no table of its elements.
-  for (std::size_t i = 0; i < rules.size(); ++i) {
+  for (Index i = 0; i < rules.size(); ++i) {
     const FormulaRule &rule = rules[i];
     if (rule.definition.isConstraint || (makers[rule.target] == 1 && asked.count(rule.target) == 0))
       continue;
     ByElement &byElement = m_rules[rule.target];
-    byElement.reserve(byElement.size() + static_cast<int>(rule.elements.size()));
+    byElement.reserve(byElement.size() + toQt(rule.elements.size()));
     for (const element *e : rule.elements)
-      byElement.insert(e, static_cast<int>(i));
+      byElement.insert(e, i);
   }
-  for (std::size_t i = 0; i < rules.size(); ++i) {
+  for (Index i = 0; i < rules.size(); ++i) {
     FormulaRule &rule = rules[i];
     if (rule.definition.isConstraint || makers[rule.target] == 1)
       continue;
     const ByElement &byElement = m_rules[rule.target];
     const auto isAnothers = [&](const element *e) {
-      return byElement.value(e) != static_cast<int>(i);
+      return byElement.value(e) != i;
     };
     rule.elements.erase(std::remove_if(rule.elements.begin(), rule.elements.end(), isAnothers), rule.elements.end());
   }
 }
 
-std::vector<std::vector<int>> FormulaProducers::dependencies(const std::vector<FormulaRule> &rules,
-                                                             const NetData &net) const {
-  std::vector<std::vector<int>> needed(rules.size());
+std::vector<std::vector<Index>> FormulaProducers::dependencies(const std::vector<FormulaRule> &rules,
+                                                               const NetData &net) const {
+  std::vector<std::vector<Index>> needed(rules.size());
   for (std::size_t i = 0; i < rules.size(); ++i) {
-    std::set<int> found;
+    std::set<Index> found;
     const auto note = [&](const element *e, PropertyKey property) {
       const auto makers = m_rules.find(property);
-      const int maker = makers == m_rules.end() ? -1 : makers->second.value(e, -1);
-      if (maker >= 0)
+      const Index maker = makers == m_rules.end() ? NoIndex : makers->second.value(e, NoIndex);
+      if (maker != NoIndex)
         found.insert(maker);
       return false;
     };
@@ -79,24 +79,24 @@ std::vector<std::vector<int>> FormulaProducers::dependencies(const std::vector<F
   return needed;
 }
 
-FormulaOrder::FormulaOrder(const std::vector<std::vector<int>> &dependencies) {
+FormulaOrder::FormulaOrder(const std::vector<std::vector<Index>> &dependencies) {
   using Graph = boost::adjacency_list<boost::vecS, boost::vecS, boost::directedS>;
   Graph graph(dependencies.size());
   for (std::size_t i = 0; i < dependencies.size(); ++i) {
-    for (const int needed : dependencies[i])
-      boost::add_edge(i, static_cast<std::size_t>(needed), graph);
+    for (const Index needed : dependencies[i])
+      boost::add_edge(i, needed, graph);
   }
-  std::vector<int> component(dependencies.size());
-  const int count = dependencies.empty()
-                        ? 0
-                        : boost::strong_components(graph, boost::make_iterator_property_map(
-                                                              component.begin(), boost::get(boost::vertex_index, graph)));
+  std::vector<Index> component(dependencies.size());
+  const Index count = dependencies.empty()
+                          ? 0
+                          : boost::strong_components(graph, boost::make_iterator_property_map(
+                                                                component.begin(), boost::get(boost::vertex_index, graph)));
   // A component is numbered after those that can be reached from it, which is what it depends on.
-  std::vector<std::vector<int>> members(static_cast<std::size_t>(count));
-  for (std::size_t i = 0; i < component.size(); ++i)
-    members[static_cast<std::size_t>(component[i])].push_back(static_cast<int>(i));
-  for (std::vector<int> &together : members) {
-    const std::vector<int> &own = dependencies[static_cast<std::size_t>(together.front())];
+  std::vector<std::vector<Index>> members(count);
+  for (Index i = 0; i < component.size(); ++i)
+    members[component[i]].push_back(i);
+  for (std::vector<Index> &together : members) {
+    const std::vector<Index> &own = dependencies[together.front()];
     if (together.size() > 1 || std::find(own.begin(), own.end(), together.front()) != own.end())
       cycles.push_back(std::move(together));
     else

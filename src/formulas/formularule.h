@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/index.h>
 #include <formulas/formula.h>
 #include <formulas/formulafile.h>
 #include <model/units.h>
@@ -44,10 +45,10 @@ public:
   explicit FormulaProducers(std::vector<FormulaRule> &rules);
 
   /// The numbers of the rules that must be computed before each, by the number of that.
-  std::vector<std::vector<int>> dependencies(const std::vector<FormulaRule> &rules, const NetData &net) const;
+  std::vector<std::vector<Index>> dependencies(const std::vector<FormulaRule> &rules, const NetData &net) const;
 
 private:
-  using ByElement = QHash<const element *, int>;
+  using ByElement = QHash<const element *, Index>;
   std::map<PropertyKey, ByElement> m_rules; ///< of the properties that formulas make
 };
 
@@ -70,8 +71,8 @@ bool walk(const FormulaReference &reference, const NetData &net, const element *
 
 /// The order of computing: each after those that it depends on. What depends on itself by any way stands in a cycle.
 struct FormulaOrder {
-  std::vector<int> order;
-  std::vector<std::vector<int>> cycles;
+  std::vector<Index> order;
+  std::vector<std::vector<Index>> cycles;
 
-  explicit FormulaOrder(const std::vector<std::vector<int>> &dependencies);
+  explicit FormulaOrder(const std::vector<std::vector<Index>> &dependencies);
 };

@@ -37,9 +37,9 @@ struct NetworkFormulas::Computing {
 
   NetData &net;
   std::vector<FormulaRule> rules;
-  std::vector<int> sequence;    ///< formulas in the order of computing
-  std::vector<int> constraints; ///< in the order of the files
-  FormulaRemarks remarks;       ///< of the preparation
+  std::vector<Index> sequence;    ///< formulas in the order of computing
+  std::vector<Index> constraints; ///< in the order of the files
+  FormulaRemarks remarks;         ///< of the preparation
   int evaluations = 0;
 
 private:
@@ -120,32 +120,29 @@ void NetworkFormulas::Computing::prepare(const std::vector<FormulaDefinition> &d
 
 void NetworkFormulas::Computing::order() {
   const FormulaProducers producers(rules);
-  const std::vector<std::vector<int>> dependencies = producers.dependencies(rules, net);
+  const std::vector<std::vector<Index>> dependencies = producers.dependencies(rules, net);
   const FormulaOrder order(dependencies);
   // Of those that do not need one another, by name: so do elements keep their properties, and one that goes to the end of
   // 100,000 others moves none of them.
   std::vector<int> levels(rules.size());
-  for (const int i : order.order) {
-    const auto number = static_cast<std::size_t>(i);
-    for (const int needed : dependencies[number])
-      levels[number] = std::max(levels[number], levels[static_cast<std::size_t>(needed)] + 1);
-    if (!rules[number].definition.isConstraint)
+  for (const Index i : order.order) {
+    for (const Index needed : dependencies[i])
+      levels[i] = std::max(levels[i], levels[needed] + 1);
+    if (!rules[i].definition.isConstraint)
       sequence.push_back(i);
   }
-  std::stable_sort(sequence.begin(), sequence.end(), [&](int a, int b) {
-    const auto first = static_cast<std::size_t>(a);
-    const auto second = static_cast<std::size_t>(b);
-    return levels[first] != levels[second] ? levels[first] < levels[second] : rules[first].target < rules[second].target;
+  std::stable_sort(sequence.begin(), sequence.end(), [&](Index a, Index b) {
+    return levels[a] != levels[b] ? levels[a] < levels[b] : rules[a].target < rules[b].target;
   });
-  for (std::size_t i = 0; i < rules.size(); ++i) {
+  for (Index i = 0; i < rules.size(); ++i) {
     if (rules[i].definition.isConstraint)
-      constraints.push_back(static_cast<int>(i));
+      constraints.push_back(i);
   }
-  for (const std::vector<int> &cycle : order.cycles) {
+  for (const std::vector<Index> &cycle : order.cycles) {
     QStringList origins;
-    for (const int i : cycle)
-      origins.append(rules[static_cast<std::size_t>(i)].definition.origin());
-    const FormulaDefinition &first = rules[static_cast<std::size_t>(cycle.front())].definition;
+    for (const Index i : cycle)
+      origins.append(rules[i].definition.origin());
+    const FormulaDefinition &first = rules[cycle.front()].definition;
     remarks.add(first, cycle.size() == 1
                            ? Texts::tr("The formula needs its own result and is left out: %1").arg(origins.first())
                            : Texts::tr("These formulas need one another's results and are left out: %1")
@@ -316,8 +313,8 @@ Findings NetworkFormulas::Computing::run(const ElementsOf &elementsOf, const Pro
   const auto goesOn = [&](std::size_t elementsDone) {
     return asking.goesOn((rulesDone + static_cast<double>(elementsDone) / static_cast<double>(ofRule)) / count);
   };
-  for (const int i : sequence) {
-    FormulaRule &rule = rules[static_cast<std::size_t>(i)];
+  for (const Index i : sequence) {
+    FormulaRule &rule = rules[i];
     const std::vector<element *> &elements = elementsOf(rule);
     ofRule = std::max<std::size_t>(1, elements.size());
     if (!compute(rule, elements, failures, changes, goesOn))
@@ -325,8 +322,8 @@ Findings NetworkFormulas::Computing::run(const ElementsOf &elementsOf, const Pro
     ++rulesDone;
   }
   ConstraintJudge judge(net);
-  for (const int i : constraints) {
-    FormulaRule &rule = rules[static_cast<std::size_t>(i)];
+  for (const Index i : constraints) {
+    FormulaRule &rule = rules[i];
     const std::vector<element *> &elements = elementsOf(rule);
     ofRule = std::max<std::size_t>(1, elements.size());
     if (!judge.judge(rule, elements, goesOn))
@@ -355,8 +352,8 @@ Findings NetworkFormulas::setDefinitions(const std::vector<FormulaDefinition> &d
 
 Findings NetworkFormulas::violations() const {
   Findings found;
-  for (const int i : m_computing->constraints) {
-    const FormulaRule &rule = m_computing->rules[static_cast<std::size_t>(i)];
+  for (const Index i : m_computing->constraints) {
+    const FormulaRule &rule = m_computing->rules[i];
     for (auto it = rule.violations.cbegin(); it != rule.violations.cend(); ++it) {
       Finding finding = FormulaRemarks::warning(rule.definition, it.value());
       finding.element = it.key()->value(Names::all().name);

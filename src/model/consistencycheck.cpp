@@ -198,10 +198,9 @@ private:
   }
 
   bool nodePasses(const elements::Entry &entry) {
-    const auto index = static_cast<std::size_t>(entry.index);
-    if (!m_passed[index])
-      m_passed[index] = nodePasses(entry.value);
-    return m_passed[index];
+    if (!m_passed[entry.index])
+      m_passed[entry.index] = nodePasses(entry.value);
+    return m_passed[entry.index];
   }
 
   bool nodePasses(element &node) {

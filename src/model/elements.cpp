@@ -1,5 +1,6 @@
 #include "elementexceptions.h"
 
+#include <base/utf8view.h>
 #include <model/elements.h>
 
 #include <algorithm>
@@ -229,7 +230,7 @@ struct elements::Storage {
   std::mutex mutex;
 
   void number() const {
-    int index = 0;
+    Index index = 0;
     for (const Entry *entry : order)
       entry->index = index++;
   }
@@ -278,7 +279,7 @@ element *elements::find(std::string_view utf8) const {
 
 element *elements::find(const QString &id) const {
   const QByteArray utf8 = id.toUtf8();
-  return find(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+  return find(viewOf(utf8));
 }
 
 element &elements::at(const QString &id) const {
@@ -309,7 +310,7 @@ element &elements::insert(const PropertyText &id, element value) {
 
 bool elements::erase(const QString &id) {
   const QByteArray utf8 = id.toUtf8();
-  const Wanted wanted(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+  const Wanted wanted(viewOf(utf8));
   const auto found = m_storage->entries.find(wanted, NameHash(), NameEqual());
   if (found == m_storage->entries.end())
     return false;

@@ -1,5 +1,6 @@
 #include "elementexceptions.h"
 
+#include <base/utf8view.h>
 #include <model/names.h>
 #include <model/netdata.h>
 #include <model/netmetadata.h>
@@ -113,7 +114,7 @@ NetData::EleType NetData::addElement(::element added, const Told &told) {
 
 std::pair<NetData::EleType, ::element *> NetData::findElement(const QString &name, int mask) const {
   const QByteArray utf8 = name.toUtf8();
-  const std::string_view id(utf8.constData(), static_cast<std::size_t>(utf8.size()));
+  const std::string_view id = viewOf(utf8);
   for (const EleType kind : m_types) {
     if (!isSelected(kind, mask))
       continue;
@@ -128,7 +129,7 @@ std::pair<NetData::EleType, ::element *> NetData::findElement(const QString &nam
 
 ::element *NetData::element(const QString &name) const {
   const QByteArray utf8 = name.toUtf8();
-  return element(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+  return element(viewOf(utf8));
 }
 
 ::element *NetData::element(std::string_view utf8) const {

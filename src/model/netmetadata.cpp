@@ -136,7 +136,7 @@ Findings NetMetaData::read(QIODevice &device, const QString &fileName) {
 }
 
 void NetMetaData::add(const Attribute &row) {
-  const int position = static_cast<int>(m_attributes.size());
+  const Index position = toIndex(m_attributes.size());
   m_attributes.push_back(row);
   m_index.insert(indexKey(row.type, row.property), position);
   const QString property = row.property.toCaseFolded();
@@ -174,12 +174,12 @@ const NetMetaData::Attribute *NetMetaData::attribute(const QString &typeCode, co
   for (const QString &type : {typeCode, everyType()}) {
     const auto found = m_index.find(indexKey(type, property));
     if (found != m_index.end())
-      return &m_attributes[static_cast<std::size_t>(*found)];
+      return &m_attributes[*found];
   }
   return nullptr;
 }
 
 const NetMetaData::Attribute *NetMetaData::anyAttribute(const QString &property) const {
   const auto found = m_propertyIndex.find(property.toCaseFolded());
-  return found == m_propertyIndex.end() ? nullptr : &m_attributes[static_cast<std::size_t>(*found)];
+  return found == m_propertyIndex.end() ? nullptr : &m_attributes[*found];
 }

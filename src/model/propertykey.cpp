@@ -1,3 +1,4 @@
+#include <base/utf8view.h>
 #include <model/propertykey.h>
 
 #include <map>
@@ -28,7 +29,7 @@ public:
     const auto exact = m_spellings.find(utf8);
     if (exact != m_spellings.end())
       return exact->second.get();
-    const auto group = m_groups.find(QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size())));
+    const auto group = m_groups.find(textOfUtf8(utf8));
     return group == m_groups.end() ? nullptr : group->second.representative;
   }
 
@@ -59,7 +60,7 @@ private:
     auto spelling = std::make_unique<Spelling>();
     spelling->utf8 = utf8;
     spelling->index = m_spellings.size();
-    spelling->name = QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+    spelling->name = textOfUtf8(utf8);
     auto [position, isNew] = m_groups.try_emplace(spelling->name);
     if (isNew) {
       position->second.group = std::make_unique<PropertyKey::Group>();
@@ -124,7 +125,7 @@ PropertyKey PropertyKey::intern(std::string_view utf8) {
 
 PropertyKey PropertyKey::intern(const QString &name) {
   const QByteArray utf8 = name.toUtf8();
-  return intern(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+  return intern(viewOf(utf8));
 }
 
 PropertyKey PropertyKey::find(std::string_view utf8) {
@@ -133,7 +134,7 @@ PropertyKey PropertyKey::find(std::string_view utf8) {
 
 PropertyKey PropertyKey::find(const QString &name) {
   const QByteArray utf8 = name.toUtf8();
-  return find(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+  return find(viewOf(utf8));
 }
 
 QString PropertyKey::name() const {

@@ -1,3 +1,4 @@
+#include <base/utf8view.h>
 #include <model/propertytext.h>
 
 #include <algorithm>
@@ -20,7 +21,7 @@ PropertyText::PropertyText(std::string_view utf8) {
 
 PropertyText::PropertyText(const QString &text) {
   const QByteArray utf8 = text.toUtf8();
-  assign({utf8.constData(), static_cast<std::size_t>(utf8.size())});
+  assign(viewOf(utf8));
 }
 
 PropertyText::PropertyText(const PropertyText &other) {
@@ -61,8 +62,7 @@ std::string_view PropertyText::heapText() const noexcept {
 }
 
 QString PropertyText::toString() const {
-  const std::string_view text = utf8();
-  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+  return textOfUtf8(utf8());
 }
 
 PropertyText PropertyText::ofNumber(double number, int significantDigits) {

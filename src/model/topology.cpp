@@ -32,14 +32,13 @@ public:
   /// Calls visit(edge, far node) for the ways that lead from the node.
   template <typename Visit>
   void forEachWay(const elements::Entry &node, const Visit &visit) const {
-    m_graph.forEachWay(node.index, [&](const Topology::NetworkGraph::Way &way) {
-      visit(*m_edges[static_cast<std::size_t>(way.edge)], m_nodes[static_cast<std::size_t>(way.node)]);
-    });
+    m_graph.forEachWay(node.index,
+                       [&](const Topology::NetworkGraph::Way &way) { visit(*m_edges[way.edge], m_nodes[way.node]); });
   }
   /// The node at which gas leaves the edge, in the direction of the trace; null for an edge without flow.
   const elements::Entry *endOf(const elements::Entry &edge) const {
-    const int node = m_ends[static_cast<std::size_t>(edge.index)].to;
-    return node == Topology::NetworkGraph::Nowhere ? nullptr : m_nodes[static_cast<std::size_t>(node)];
+    const Index node = m_ends[edge.index].to;
+    return node == NoIndex ? nullptr : m_nodes[node];
   }
 
 private:

@@ -281,10 +281,10 @@ void TestElement::collectionErasesAndCopies() {
   QCOMPARE(ids(copy).size(), 100);
   const QString added = QStringLiteral("5a");
   collection.insert(added, element()); // after the erasure the order is made anew
-  int place = 0;
+  Index index = 0;
   for (const elements::Entry &entry : collection)
-    QCOMPARE(entry.index, place++);
-  QCOMPARE(place, 90);
+    QCOMPARE(entry.index, index++);
+  QCOMPARE(index, Index(90));
   QVERIFY(ids(collection).contains(added));
   collection.clear();
   QVERIFY(ids(collection).isEmpty());

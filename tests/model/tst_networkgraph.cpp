@@ -13,29 +13,29 @@ private slots:
   void distancesAreTheShortest();
 
 private:
-  static std::vector<int> edgesFrom(const NetworkGraph &graph, int node) {
-    std::vector<int> edges;
+  static std::vector<Index> edgesFrom(const NetworkGraph &graph, Index node) {
+    std::vector<Index> edges;
     graph.forEachWay(node, [&](const NetworkGraph::Way &way) { edges.push_back(way.edge); });
     return edges;
   }
 };
 
 void TestNetworkGraph::waysStandInTheOrderOfTheEdges() {
-  const std::vector<NetworkGraph::Ends> edges{{0, 1}, {1, 2}, {NetworkGraph::Nowhere, 1}, {2, 1}};
+  const std::vector<NetworkGraph::Ends> edges{{0, 1}, {1, 2}, {NoIndex, 1}, {2, 1}};
   const NetworkGraph both(3, edges, NetworkGraph::Ways::Both);
-  QCOMPARE(edgesFrom(both, 0), (std::vector<int>{0}));
-  QCOMPARE(edgesFrom(both, 1), (std::vector<int>{0, 1, 3}));
+  QCOMPARE(edgesFrom(both, 0), (std::vector<Index>{0}));
+  QCOMPARE(edgesFrom(both, 1), (std::vector<Index>{0, 1, 3}));
   const NetworkGraph forward(3, edges, NetworkGraph::Ways::Forward);
-  QCOMPARE(edgesFrom(forward, 0), (std::vector<int>{0}));
-  QCOMPARE(edgesFrom(forward, 1), (std::vector<int>{1}));
-  QCOMPARE(edgesFrom(forward, 2), (std::vector<int>{3}));
+  QCOMPARE(edgesFrom(forward, 0), (std::vector<Index>{0}));
+  QCOMPARE(edgesFrom(forward, 1), (std::vector<Index>{1}));
+  QCOMPARE(edgesFrom(forward, 2), (std::vector<Index>{3}));
 }
 
 void TestNetworkGraph::componentsAreRankedBySize() {
   // 0-1, 2-3-4, 5 alone, 6 with which no part begins and to which none leads, 7-8 likewise save that 8 begins one.
   const std::vector<NetworkGraph::Ends> edges{{0, 1}, {2, 3}, {3, 4}, {7, 8}};
   const NetworkGraph graph(9, edges, NetworkGraph::Ways::Both);
-  const auto begins = [](int node) {
+  const auto begins = [](Index node) {
     return node != 6 && node != 7;
   };
   QCOMPARE(graph.components(begins), (std::vector<int>{2, 2, 1, 1, 1, 4, 0, 3, 3}));

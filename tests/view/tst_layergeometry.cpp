@@ -4,6 +4,7 @@
 #include <drawing/spatialindex.h>
 #include <support/nivratest.h>
 
+#include <algorithm>
 #include <random>
 #include <set>
 
@@ -33,32 +34,32 @@ void TestLayerGeometry::indexFindsWhatTouches() {
     boxes.push_back({x, y, x + length(random), y + length(random)});
   }
   SpatialIndex index;
-  const std::vector<int> order = index.build(boxes);
-  QCOMPARE(std::set<int>(order.begin(), order.end()).size(), std::size_t(Items)); // each item once
+  const std::vector<Index> order = index.build(boxes);
+  QCOMPARE(std::set<Index>(order.begin(), order.end()).size(), std::size_t(Items)); // each item once
   for (int i = 0; i < 50; ++i) {
     const double x = place(random);
     const double y = place(random);
     const SpatialIndex::Box area{x, y, x + 100.0, y + 100.0};
-    std::set<int> found;
-    std::size_t visited = 0;
-    index.query(area, [&](int first, int last) {
-      visited += static_cast<std::size_t>(last - first);
-      found.insert(order.begin() + first, order.begin() + last);
-    });
-    for (int item = 0; item < Items; ++item)
-      QVERIFY(!boxes[static_cast<std::size_t>(item)].touches(area) || found.count(item) == 1);
-    QVERIFY2(visited < Items / 5, "a query of a four-hundredth of the plane should not visit everything");
+    std::vector<Index> visited;
+    index.query(area, [&](Index position) { visited.push_back(position); });
+    QVERIFY(std::is_sorted(visited.begin(), visited.end()));
+    std::set<Index> found;
+    for (const Index position : visited)
+      found.insert(order[position]);
+    for (Index item = 0; item < Items; ++item)
+      QVERIFY(!boxes[item].touches(area) || found.count(item) == 1);
+    QVERIFY2(visited.size() < Items / 5, "a query of a four-hundredth of the plane should not visit everything");
   }
 }
 
 void TestLayerGeometry::indexBearsOutliersAndEmptiness() {
   SpatialIndex index;
   QVERIFY(index.build({}).empty());
-  index.query({-1e30, -1e30, 1e30, 1e30}, [](int, int) { QFAIL("there is nothing to visit"); });
+  index.query({-1e30, -1e30, 1e30, 1e30}, [](Index) { QFAIL("there is nothing to visit"); });
   const std::vector<SpatialIndex::Box> boxes{{-1e19, 0, -1e19, 0}, {1e19, 1e19, 1e19, 1e19}, {0, 0, 0, 0}, {0, 0, 0, 0}};
   QCOMPARE(index.build(boxes).size(), boxes.size());
   int visited = 0;
-  index.query({-1, -1, 1, 1}, [&](int first, int last) { visited += last - first; });
+  index.query({-1, -1, 1, 1}, [&](Index) { ++visited; });
   QVERIFY(visited >= 2);
 }
 
@@ -107,12 +108,16 @@ void TestLayerGeometry::projectionWithoutExtentIsInvalid() {
 void TestLayerGeometry::gridTakesEachCellOnce() {
   const CellAxis axis(100.0, 10.0, 5);
   QVERIFY(axis.contains(100.0) && !axis.contains(99.9) && !axis.contains(150.0) && !axis.contains(std::nan("")));
-  QCOMPARE(axis.nearest(119.9), 1);
-  QCOMPARE(axis.nearest(120.0), 2); // a cell begins with its border
-  QCOMPARE(axis.nearest(1e300), 4);
-  QCOMPARE(CellAxis(100.0, 0.0, 5).nearest(100.0), 0);
+  QCOMPARE(axis.nearest(119.9), 1U);
+  QCOMPARE(axis.nearest(120.0), 2U); // a cell begins with its border
+  QCOMPARE(axis.nearest(1e300), 4U);
+  QCOMPARE(CellAxis(100.0, 0.0, 5).nearest(100.0), 0U);
   QVERIFY(axis.range(150.0, 170.0).isEmpty() && axis.range(80.0, 99.0).isEmpty());
-  QCOMPARE(axis.range(80.0, 170.0).last, 4);
+  QVERIFY(axis.range(100.0, std::nan("")).isEmpty());
+  QCOMPARE(axis.range(80.0, 170.0).first, 0U);
+  QCOMPARE(axis.range(80.0, 170.0).end, 5U);
+  QCOMPARE(axis.around(0).first, 0U);
+  QCOMPARE(axis.around(4).end, 5U);
   CanvasGrid grid(QRectF(0, 0, 100, 100), 10.0);
   QVERIFY(grid.take({5, 5}));
   QVERIFY(!grid.take({6, 6}));
@@ -126,10 +131,10 @@ void TestLayerGeometry::gridTakesEachCellOnce() {
 
 void TestLayerGeometry::clustersGatherBehindTheFirst() {
   CanvasGrid grid(QRectF(0, 0, 100, 100), 10.0);
-  QCOMPARE(grid.claim({5, 5}, 0), 0);
-  QCOMPARE(grid.claim({15, 15}, 1), 0); // a neighbour is taken
-  QCOMPARE(grid.claim({35, 35}, 1), 1);
-  QCOMPARE(grid.claim({-50, 500}, 2), 2); // outside: the nearest cell
+  QCOMPARE(grid.claim({5, 5}, 0), 0U);
+  QCOMPARE(grid.claim({15, 15}, 1), 0U); // a neighbour is taken
+  QCOMPARE(grid.claim({35, 35}, 1), 1U);
+  QCOMPARE(grid.claim({-50, 500}, 2), 2U); // outside: the nearest cell
 }
 
 void TestLayerGeometry::lanesKeepBesideTheLine() {

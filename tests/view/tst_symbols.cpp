@@ -45,7 +45,7 @@ private:
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(text);
   }
-  static QImage drawn(StationSymbols &symbols, int symbol, double size, double angle = 0.0) {
+  static QImage drawn(StationSymbols &symbols, Index symbol, double size, double angle = 0.0) {
     QImage image(40, 40, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -96,16 +96,16 @@ void TestSymbols::unreadableTables() {
 void TestSymbols::everyTypeHasAReadableSymbol() {
   StationSymbols symbols;
   for (const char *key : {"c", "r", "v", "f", "s", "g", "k", "w", "d", "n", "p", "t", "sub", "compressor_station"}) {
-    const int symbol = symbols.find(QString::fromLatin1(key));
-    QVERIFY2(symbol >= 0, key);
+    const Index symbol = symbols.find(QString::fromLatin1(key));
+    QVERIFY2(symbol != NoIndex, key);
     QVERIFY2(inked(drawn(symbols, symbol, 12.0), QRect(0, 0, 40, 40)) >= 6, key); // legible at the smallest size
   }
-  QCOMPARE(symbols.find(QStringLiteral("no such kind")), -1);
+  QCOMPARE(symbols.find(QStringLiteral("no such kind")), NoIndex);
 }
 
 void TestSymbols::symbolsPointAlongTheirEdge() {
   StationSymbols symbols;
-  const int flap = symbols.find(QStringLiteral("f")); // its bar stands at the end, across the edge
+  const Index flap = symbols.find(QStringLiteral("f")); // its bar stands at the end, across the edge
   const QRect right(31, 8, 6, 24);
   const QRect below(8, 31, 24, 6);
   QVERIFY(inked(drawn(symbols, flap, 36.0, 0.0), right) > 2 * inked(drawn(symbols, flap, 36.0, 90.0), right));
@@ -126,7 +126,7 @@ void TestSymbols::ownSymbolTakesThePlaceOfTheBuiltIn() {
   StationSymbols symbols;
   symbols.setTable(table);
   for (int i = 0; i < 2; ++i)
-    QVERIFY(symbols.find(QStringLiteral("v")) >= 0); // the built-in one
+    QVERIFY(symbols.find(QStringLiteral("v")) != NoIndex); // the built-in one
   const Findings findings = symbols.takeFindings();
   QCOMPARE(findings.size(), std::size_t(1)); // said once
   QVERIFY(findings.front().text.contains(QStringLiteral("broken.svg")));
@@ -178,8 +178,8 @@ void TestSymbols::statesHaveTheirSymbols() {
   StationSymbols symbols;
   for (const char *key :
        {"c_off", "r_off", "v_off", "f_off", "s_off", "g_off", "k_off", "w_off", "d_off", "c_bypass", "r_bypass"})
-    QVERIFY2(symbols.find(QString::fromLatin1(key)) >= 0, key);
-  QCOMPARE(symbols.find(QStringLiteral("../network_symbols/c")), -1);
+    QVERIFY2(symbols.find(QString::fromLatin1(key)) != NoIndex, key);
+  QCOMPARE(symbols.find(QStringLiteral("../network_symbols/c")), NoIndex);
   ViewFixture f;
   f.net.element(QStringLiteral("CD"))->set(QStringLiteral("type"), QStringLiteral("v"));
   f.show();

@@ -1,11 +1,12 @@
+#include <base/index.h>
 #include <tools/categorylist.h>
 
 template <typename Action>
 void CategoryList::perform(Change change, std::size_t index, Action action) {
-  emit changing(change, static_cast<int>(index));
+  emit changing(change, toQt(index));
   action();
   m_isChanged = change != Change::Read;
-  emit changed(change, static_cast<int>(index));
+  emit changed(change, toQt(index));
 }
 
 void CategoryList::setFile(const QString &path) {

@@ -1,5 +1,7 @@
 #include "categories/categorymodel.h"
 
+#include <base/index.h>
+
 namespace {
 
 /// The field of a category, constant or not, that a column shows.
@@ -36,7 +38,7 @@ void CategoryModel::setSearch(const Category &search) {
 }
 
 const Category &CategoryModel::category(int row) const {
-  return row == SearchRow ? m_search : m_list->categories()[static_cast<std::size_t>(indexOf(row))];
+  return row == SearchRow ? m_search : m_list->categories()[fromQt(indexOf(row))];
 }
 
 void CategoryModel::beginChange(CategoryList::Change change, int category) {
@@ -61,7 +63,7 @@ void CategoryModel::endChange(CategoryList::Change change, int category) {
 }
 
 int CategoryModel::rowCount(const QModelIndex &parent) const {
-  return parent.isValid() ? 0 : rowOf(static_cast<int>(m_list->categories().size()));
+  return parent.isValid() ? 0 : rowOf(toQt(m_list->categories().size()));
 }
 
 int CategoryModel::columnCount(const QModelIndex &parent) const {
@@ -98,7 +100,7 @@ bool CategoryModel::setData(const QModelIndex &index, const QVariant &value, int
     edited.isChecked = value.toInt() == Qt::Checked;
   else
     return false;
-  m_list->set(static_cast<std::size_t>(indexOf(index.row())), edited);
+  m_list->set(fromQt(indexOf(index.row())), edited);
   return true;
 }
 

@@ -1,6 +1,7 @@
 #include "categories/categorymodel.h"
 #include "ui_nivranetobjectcats.h"
 
+#include <base/index.h>
 #include <base/nivramsg.h>
 #include <tools/nivranetobjectcats.h>
 #include <tools/tablemenu.h>
@@ -92,7 +93,7 @@ void NivraNetObjectCats::addCategory(const QStringList &strList, const QString &
 void NivraNetObjectCats::addToCurrentCategory(const QStringList &strList) {
   const int row = currentRow();
   if (row > CategoryModel::SearchRow)
-    m_list->set(static_cast<std::size_t>(CategoryModel::indexOf(row)), defined(m_model->category(row), strList));
+    m_list->set(fromQt(CategoryModel::indexOf(row)), defined(m_model->category(row), strList));
 }
 
 void NivraNetObjectCats::on_toolButtonAdd_clicked() {
@@ -102,7 +103,7 @@ void NivraNetObjectCats::on_toolButtonAdd_clicked() {
 void NivraNetObjectCats::on_toolButtonRemove_clicked() {
   const int row = currentRow();
   if (row > CategoryModel::SearchRow) // which stays
-    m_list->remove(static_cast<std::size_t>(CategoryModel::indexOf(row)));
+    m_list->remove(fromQt(CategoryModel::indexOf(row)));
 }
 
 void NivraNetObjectCats::on_pushButtonOK_clicked() {

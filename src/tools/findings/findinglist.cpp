@@ -1,3 +1,4 @@
+#include <base/index.h>
 #include <tools/findinglist.h>
 
 #include <algorithm>
@@ -30,6 +31,6 @@ bool FindingList::says(const Finding &finding, const QString &text) {
 int FindingList::count() const {
   int count = 0;
   for (const Group &group : m_groups)
-    count += static_cast<int>(group.findings.size());
+    count += toQt(group.findings.size());
   return count;
 }

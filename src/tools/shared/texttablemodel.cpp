@@ -39,19 +39,19 @@ void TextTableModel::sort(int column, Qt::SortOrder order) {
   reorder(rows);
   std::vector<int> rowOf(rows.size()); // of each one before
   for (std::size_t i = 0; i < rows.size(); ++i)
-    rowOf[static_cast<std::size_t>(rows[i])] = static_cast<int>(i);
+    rowOf[fromQt(rows[i])] = toQt(i);
   const QModelIndexList before = persistentIndexList();
   QModelIndexList after;
   after.reserve(before.size());
   for (const QModelIndex &cell : before)
-    after.append(index(rowOf[static_cast<std::size_t>(cell.row())], cell.column()));
+    after.append(index(rowOf[fromQt(cell.row())], cell.column()));
   changePersistentIndexList(before, after);
   emit layoutChanged({}, QAbstractItemModel::VerticalSortHint);
 }
 
 std::vector<int> TextTableModel::sortedRows() const {
   std::vector<NaturalOrder::Rank> ranks;
-  ranks.reserve(static_cast<std::size_t>(rowCount()));
+  ranks.reserve(fromQt(rowCount()));
   const QString *before = nullptr;
   for (int row = 0; row < rowCount(); ++row) {
     const QString &cell = text(row, m_sortedColumn);
@@ -64,7 +64,7 @@ std::vector<int> TextTableModel::sortedRows() const {
   std::vector<int> rows(ranks.size());
   std::iota(rows.begin(), rows.end(), 0);
   const auto isBefore = [&ranks](int a, int b) {
-    return ranks[static_cast<std::size_t>(a)] < ranks[static_cast<std::size_t>(b)];
+    return ranks[fromQt(a)] < ranks[fromQt(b)];
   };
   if (m_order == Qt::AscendingOrder)
     std::stable_sort(rows.begin(), rows.end(), isBefore);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/index.h>
+
 #include <QAbstractTableModel>
 
 #include <map>
@@ -55,12 +57,10 @@ public:
   /// In the order in which they are shown.
   const std::vector<Row> &rows() const { return m_rows; }
 
-  const QString &text(int row, int column) const final { return m_rows[static_cast<std::size_t>(row)].*TextOf[column]; }
-  int rowCount(const QModelIndex &parent = QModelIndex()) const final {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-  }
+  const QString &text(int row, int column) const final { return m_rows[fromQt(row)].*TextOf[column]; }
+  int rowCount(const QModelIndex &parent = QModelIndex()) const final { return parent.isValid() ? 0 : toQt(m_rows.size()); }
   int columnCount(const QModelIndex &parent = QModelIndex()) const final {
-    return parent.isValid() ? 0 : static_cast<int>(sizeof...(Texts));
+    return parent.isValid() ? 0 : toQt(sizeof...(Texts));
   }
 
 protected:
@@ -70,7 +70,7 @@ protected:
     std::vector<Row> reordered;
     reordered.reserve(m_rows.size());
     for (const int row : rows)
-      reordered.push_back(std::move(m_rows[static_cast<std::size_t>(row)]));
+      reordered.push_back(std::move(m_rows[fromQt(row)]));
     m_rows = std::move(reordered);
   }
 

@@ -4,6 +4,7 @@
 #include "table/vectorplot.h"
 #include "ui_nivravectable.h"
 
+#include <base/index.h>
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <base/settings.h>
@@ -264,7 +265,7 @@ bool NivraVecTable::save(const QString &path, QString *reason) const {
     if (table.isColumnHidden(column))
       continue;
     if (column == VectorModel::ValueColumn || column == VectorModel::ResultColumn)
-      exported.valueColumns.append(static_cast<int>(columns.size()));
+      exported.valueColumns.append(toQt(columns.size()));
     columns.push_back(column);
     exported.headers.append(headers().at(column));
   }
@@ -311,7 +312,7 @@ void NivraVecTable::showPlot() {
     bool isNumber = false;
     const double number = m_model->text(rows[i], VectorModel::ResultColumn).toDouble(&isNumber);
     if (isNumber)
-      values.emplace_back(static_cast<int>(i) + 1, number);
+      values.emplace_back(toQt(i) + 1, number);
   }
   QString title = headers().at(VectorModel::ResultColumn).section(QLatin1Char('\n'), 1).mid(1).chopped(1);
   const NetMetaData::Attribute *attribute = isPropertyMode() ? m_net.metaData()->anyAttribute(m_chosenProperty) : nullptr;

@@ -1,5 +1,7 @@
 #include "table/valuestatistics.h"
 
+#include <base/index.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -12,7 +14,7 @@ ValueStatistics::ValueStatistics(std::vector<double> values)
   if (m_sorted.empty())
     return;
   std::sort(m_sorted.begin(), m_sorted.end());
-  count = static_cast<int>(m_sorted.size());
+  count = toQt(m_sorted.size());
   minimum = m_sorted.front();
   maximum = m_sorted.back();
   for (std::size_t i = 0; i < m_sorted.size(); ++i) // running, so that sums of huge numbers stay finite

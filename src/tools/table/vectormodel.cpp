@@ -2,6 +2,8 @@
 
 #include "shared/namedelement.h"
 
+#include <base/index.h>
+
 void VectorModel::setTitles(const QStringList &titles) {
   m_titles = titles;
   emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
@@ -23,7 +25,7 @@ Qt::ItemFlags VectorModel::flags(const QModelIndex &index) const {
 }
 
 QString VectorModel::namedElement(const QModelIndex &cell) const {
-  const VectorRows::Row &row = m_rows[static_cast<std::size_t>(cell.row())];
+  const VectorRows::Row &row = m_rows[fromQt(cell.row())];
   if (cell.column() == NameColumn)
     return row.name;
   return cell.column() == ValueColumn && namesElements(PropertyKey::find(row.property)) ? row.value : QString();

@@ -1,6 +1,7 @@
 #include "shared/csvfield.h"
 #include "shared/naturalorder.h"
 
+#include <base/index.h>
 #include <model/names.h>
 #include <tools/vectorrows.h>
 
@@ -78,8 +79,7 @@ void VectorRows::addRows(const element &e, const Request &request, std::vector<R
       continue;
     const DisplayValue::Shown shown = m_display->of(type, property.key, property.value);
     m_allHaveUnits = m_allHaveUnits && !shown.unit.isEmpty();
-    rows.push_back(
-        {name, type, property.key.name(), shown.value, shown.unit, text, padded(static_cast<int>(rows.size()) + 1)});
+    rows.push_back({name, type, property.key.name(), shown.value, shown.unit, text, padded(toQt(rows.size()) + 1)});
   }
 }
 
@@ -105,7 +105,7 @@ void VectorRows::sortNumerically(std::vector<Row> &rows) {
   }
   std::stable_sort(numbers.begin(), numbers.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
   for (std::size_t i = 0; i < numbers.size(); ++i)
-    numbers[i].second->numsort = padded(static_cast<int>(i) + 1);
+    numbers[i].second->numsort = padded(toQt(i) + 1);
   std::stable_sort(rows.begin(), rows.end(), [](const Row &a, const Row &b) { return a.numsort < b.numsort; });
 }
 

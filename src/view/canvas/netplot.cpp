@@ -150,7 +150,7 @@ void NetPlot::zoomToElement(NetGeometry::Item item) {
   const double factor = qBound(SmallestFactor, wanted, LargestFactor);
   QSizeF size = m_zoomer->limits().smallest;
   if (item.kind == NetData::Edge) {
-    const QLineF line = geometry.line(geometry.edges()[static_cast<std::size_t>(item.index)]);
+    const QLineF line = geometry.line(geometry.edges()[item.index]);
     size = size.expandedTo({std::abs(line.dx()), std::abs(line.dy())});
   }
   size = (size * factor).boundedTo(m_zoomer->zoomBase().size());

@@ -1,5 +1,6 @@
 #include "configure/labeltablemodel.h"
 
+#include <base/index.h>
 #include <drawing/stationsymbols.h>
 
 #include <QBrush>
@@ -18,14 +19,14 @@ constexpr int Opaque = 255;
 QIcon drawnIcon(const QString &type) {
   constexpr int Side = 20; // px
   static StationSymbols symbols;
-  const int number = symbols.find(type);
-  if (number < 0)
+  const Index symbol = symbols.find(type);
+  if (symbol == NoIndex)
     return QIcon();
   QPixmap picture(Side, Side);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
-  symbols.draw(painter, number, QPointF(Side, Side) * 0.5, Side, 0.0);
+  symbols.draw(painter, symbol, QPointF(Side, Side) * 0.5, Side, 0.0);
   painter.end();
   return QIcon(picture);
 }
@@ -67,7 +68,7 @@ QVariant look(const LabelRow &row, int column, int role) {
 /// The row of a type or a template; of a constant table too.
 template <typename AnyTable>
 auto &rowOf(AnyTable &table, int row) {
-  const auto index = static_cast<std::size_t>(row);
+  const auto index = fromQt(row);
   return index < table.types.size() ? table.types.at(index) : table.templates.at(index - table.types.size());
 }
 
@@ -132,7 +133,7 @@ bool LabelTableModel::removeTemplate(int row) {
 }
 
 int LabelTableModel::rowCount(const QModelIndex &parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_table.types.size() + m_table.templates.size());
+  return parent.isValid() ? 0 : toQt(m_table.types.size() + m_table.templates.size());
 }
 
 int LabelTableModel::columnCount(const QModelIndex &parent) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/index.h>
 #include <drawing/labeltable.h>
 
 #include <QAbstractTableModel>
@@ -14,7 +15,7 @@ public:
   void setTable(const LabelTable &table);
   const LabelTable &table() const { return m_table; }
 
-  int typeCount() const { return static_cast<int>(m_table.types.size()); }
+  int typeCount() const { return toQt(m_table.types.size()); }
   bool isTemplate(int row) const { return row >= typeCount(); }
   /// The cell's text is chosen in a dialog rather than typed.
   static bool hasDialog(int column);

@@ -8,8 +8,6 @@
 #include <QFileInfo>
 #include <QImage>
 
-#include <cmath>
-
 namespace {
 
 /// Gives the plot another size for as long as it lives.
@@ -19,8 +17,8 @@ public:
       : m_plot(plot)
       , m_before(plot.geometry())
       , m_smallest(plot.minimumSize()) {
-    const int width = static_cast<int>(std::lround(size.width / size.scale));
-    const int height = size.height > 0 ? static_cast<int>(std::lround(size.height / size.scale))
+    const int width = qRound(size.width / size.scale);
+    const int height = size.height > 0 ? qRound(size.height / size.scale)
                                        : static_cast<int>(qint64(m_before.height()) * width / qMax(m_before.width(), 1));
     m_plot.setMinimumSize(0, 0); // a picture may be smaller than the widget
     m_plot.setGeometry(m_before.x(), m_before.y(), width, qMax(height, 1));

@@ -1,6 +1,7 @@
 #include "canvas/qwtfastplot.h"
 #include "interaction/plotzoom.h"
 
+#include <base/index.h>
 #include <base/settings.h>
 #include <drawing/drawfunctions.h>
 #include <drawing/labelcontents.h>
@@ -281,7 +282,7 @@ void NetPicker::selectAll() {
   Selection all; // also what has no coordinates to be drawn at
   for (const auto &[kind, collection] : m_net.typeMap()) {
     Selection::Names &names = namesOf(all, kind);
-    names.reserve(static_cast<int>(collection->size()));
+    names.reserve(toQt(collection->size()));
     for (const elements::Entry &entry : *collection)
       names.insert(entry.value.value(name));
   }
@@ -319,7 +320,7 @@ void NetPicker::showSelection() {
   const NetGeometry &geometry = m_plot.update().geometry();
   std::vector<NetGeometry::Item> items;
   const Selection &selection = m_net.selection();
-  items.reserve(static_cast<std::size_t>(selection.size()));
+  items.reserve(fromQt(selection.size()));
   const auto append = [&](const Selection::Names &names, int kinds) {
     for (const QString &name : names) {
       if (const std::optional<NetGeometry::Item> item = geometry.find(m_net, name, kinds))

@@ -3,6 +3,7 @@
 #include "export/plotsaver.h"
 #include "interaction/plotzoom.h"
 
+#include <base/index.h>
 #include <base/nivramsg.h>
 #include <model/elementstate.h>
 #include <model/elementtypes.h>
@@ -34,7 +35,7 @@ QStringList sorted(const Selection::Names &names) {
 /// The first names of what is selected, which may be a whole network: not all of it is sorted for a few entries.
 QStringList firstOf(const Selection &selection, int count) {
   std::vector<QString> names;
-  names.reserve(static_cast<std::size_t>(selection.size()));
+  names.reserve(fromQt(selection.size()));
   for (const Selection::Names *kind : {&selection.nodes, &selection.edges, &selection.subnets, &selection.others})
     names.insert(names.end(), kind->begin(), kind->end());
   const auto end = names.begin() + std::min<std::ptrdiff_t>(count, static_cast<std::ptrdiff_t>(names.size()));
@@ -109,7 +110,7 @@ void PlotMenu::addCrowd(QMenu &contextMenu) {
     QObject::connect(crowd->addAction(withType(*geometry.source(item))), &QAction::triggered, picker,
                      [picker, item] { picker->choose(item); });
   }
-  addRest(*crowd, static_cast<int>(items.size()));
+  addRest(*crowd, toQt(items.size()));
 }
 
 void PlotMenu::addSelection(QMenu &contextMenu, const State &state) {

@@ -2,6 +2,8 @@
 
 #include "canvas/qwtfastplot.h"
 
+#include <base/index.h>
+
 #include <QEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -101,7 +103,7 @@ void ZoomStack::zoom(const QRectF &rect) {
 
 void ZoomStack::replaceView(const QRectF &rect) {
   QStack<QRectF> views = zoomStack();
-  const auto index = static_cast<int>(zoomRectIndex());
+  const int index = toQt(zoomRectIndex());
   views.resize(index + 1);
   views[index] = rect;
   setStack(views, index);
@@ -147,7 +149,7 @@ void ZoomStack::fitCanvas() {
 
 void ZoomStack::fitViews() {
   QStack<QRectF> views = zoomStack();
-  const auto index = static_cast<int>(zoomRectIndex());
+  const int index = toQt(zoomRectIndex());
   views[0] = inCanvasRatio(m_wholeNetwork);
   if (index > 0) {
     if (views[index] != m_fitted)

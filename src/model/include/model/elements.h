@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/index.h>
 #include <model/element.h>
 
 #include <QString>
@@ -13,9 +14,9 @@
 class elements {
 public:
   struct Entry {
-    PropertyText id;       ///< the name under which the element was inserted
-    mutable element value; ///< mutable: the key is id, not the contents
-    mutable int index = 0; ///< in name order, from 0; valid from begin() until elements are added or erased
+    PropertyText id;         ///< the name under which the element was inserted
+    mutable element value;   ///< mutable: the key is id, not the contents
+    mutable Index index = 0; ///< in name order, from 0; valid from begin() until elements are added or erased
     QString name() const { return id.toString(); }
   };
   class const_iterator;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/finding.h>
+#include <base/index.h>
 #include <model/elementkinds.h>
 
 #include <QHash>
@@ -63,6 +64,6 @@ private:
   QStringList m_edgeFunctions;
   std::vector<Attribute> m_attributes;
   Findings m_findings;
-  QHash<QString, int> m_index;         ///< folded type + "\n" + folded property -> position
-  QHash<QString, int> m_propertyIndex; ///< folded property -> first position
+  QHash<QString, Index> m_index;         ///< folded type + "\n" + folded property -> position
+  QHash<QString, Index> m_propertyIndex; ///< folded property -> first position
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/index.h>
+
 #include <cstddef>
 #include <functional>
 #include <vector>
@@ -10,15 +12,14 @@ namespace Topology {
 /// and in which direction. Making it and each walk over it take time in proportion to nodes and edges.
 class NetworkGraph {
 public:
-  static constexpr int Nowhere = -1;
   /// The nodes that an edge joins; one that is out of use or lacks an end leads nowhere.
   struct Ends {
-    int from = Nowhere;
-    int to = Nowhere;
+    Index from = NoIndex;
+    Index to = NoIndex;
   };
   struct Way {
-    int node; ///< where it leads
-    int edge;
+    Index node; ///< where it leads
+    Index edge;
   };
   enum class Ways { Both, Forward };
 
@@ -28,20 +29,19 @@ public:
 
   /// Calls visit(way) for each way that leads from the node, in the order of the edges.
   template <typename Visit>
-  void forEachWay(int node, const Visit &visit) const {
-    const auto number = static_cast<std::size_t>(node);
-    for (std::size_t i = m_starts[number]; i < m_starts[number + 1]; ++i)
+  void forEachWay(Index node, const Visit &visit) const {
+    for (std::size_t i = m_starts[node]; i < m_starts[node + 1]; ++i)
       visit(m_ways[i]);
   }
 
   /// The number of the connected part of each node, from 1 for the one with the most nodes (of equal ones the one with the
   /// first node comes first); 0 for nodes with which no part begins and to which none leads.
   /// \param begins whether a part begins with the node
-  std::vector<int> components(const std::function<bool(int)> &begins) const;
+  std::vector<int> components(const std::function<bool(Index)> &begins) const;
 
   /// Length of the shortest way from the next source to each node, by Dijkstra's algorithm (1959); negative for nodes that
   /// no way leads to. \param lengths of the edges; what is negative counts as no way at all long
-  std::vector<double> distances(const std::vector<int> &sources, const std::vector<double> &lengths) const;
+  std::vector<double> distances(const std::vector<Index> &sources, const std::vector<double> &lengths) const;
 
 private:
   // Invariants: the ways of node n are m_ways[m_starts[n]] to m_ways[m_starts[n + 1] - 1]; m_starts ascends from 0 to the

@@ -4,12 +4,12 @@
 
 namespace {
 
-constexpr int Free = -1;
+constexpr Index Free = NoIndex;
 
 CellAxis axis(double origin, double pixels, double cell) {
   constexpr double MostCells = 4000.0;
   const double length = std::max(cell, 1.0);
-  return {origin, length, static_cast<int>(qBound(1.0, std::ceil(pixels / length), MostCells))};
+  return {origin, length, static_cast<Index>(qBound(1.0, std::ceil(pixels / length), MostCells))};
 }
 
 } // namespace
@@ -17,11 +17,10 @@ CellAxis axis(double origin, double pixels, double cell) {
 CanvasGrid::CanvasGrid(const QRectF &area, double cell)
     : m_columns(axis(area.left(), area.width(), cell))
     , m_rows(axis(area.top(), area.height(), cell))
-    , m_numbers(static_cast<std::size_t>(m_columns.count()) * static_cast<std::size_t>(m_rows.count()), Free) {}
+    , m_numbers(std::size_t{m_columns.count()} * m_rows.count(), Free) {}
 
-int &CanvasGrid::at(int column, int row) {
-  return m_numbers[static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns.count()) +
-                   static_cast<std::size_t>(column)];
+Index &CanvasGrid::at(Index column, Index row) {
+  return m_numbers[row * m_columns.count() + column];
 }
 
 bool CanvasGrid::take(const QPointF &point) {
@@ -31,13 +30,13 @@ bool CanvasGrid::take(const QPointF &point) {
 }
 
 bool CanvasGrid::takeArea(const QRectF &area) {
-  const int left = m_columns.nearest(area.left());
-  const int right = m_columns.nearest(area.right());
-  const int bottom = m_rows.nearest(area.bottom());
+  const Index left = m_columns.nearest(area.left());
+  const Index right = m_columns.nearest(area.right());
+  const Index bottom = m_rows.nearest(area.bottom());
   for (const bool takes : {false, true}) { // nothing is taken unless all is free
-    for (int row = m_rows.nearest(area.top()); row <= bottom; ++row) {
-      for (int column = left; column <= right; ++column) {
-        int &cell = at(column, row);
+    for (Index row = m_rows.nearest(area.top()); row <= bottom; ++row) {
+      for (Index column = left; column <= right; ++column) {
+        Index &cell = at(column, row);
         if (takes)
           cell = 0;
         else if (cell != Free)
@@ -48,13 +47,15 @@ bool CanvasGrid::takeArea(const QRectF &area) {
   return true;
 }
 
-int CanvasGrid::claim(const QPointF &point, int number) {
-  const int column = m_columns.nearest(point.x());
-  const int row = m_rows.nearest(point.y());
+Index CanvasGrid::claim(const QPointF &point, Index number) {
+  const Index column = m_columns.nearest(point.x());
+  const Index row = m_rows.nearest(point.y());
   if (at(column, row) != Free)
     return at(column, row);
-  for (int y = std::max(row - 1, 0); y <= std::min(row + 1, m_rows.count() - 1); ++y) {
-    for (int x = std::max(column - 1, 0); x <= std::min(column + 1, m_columns.count() - 1); ++x) {
+  const CellAxis::Range rows = m_rows.around(row);
+  const CellAxis::Range columns = m_columns.around(column);
+  for (Index y = rows.first; y < rows.end; ++y) {
+    for (Index x = columns.first; x < columns.end; ++x) {
       if (at(x, y) != Free)
         return at(x, y);
     }

@@ -18,12 +18,12 @@ public:
   bool takeArea(const QRectF &area);
   /// Takes the cell of the point when it and the eight around it are free, and returns the number; the number of one of
   /// those who stand there otherwise. Points outside take the nearest cell.
-  int claim(const QPointF &point, int number);
+  Index claim(const QPointF &point, Index number);
 
 private:
-  int &at(int column, int row);
+  Index &at(Index column, Index row);
 
   CellAxis m_columns;
   CellAxis m_rows;
-  std::vector<int> m_numbers; ///< of those who stand in the cells, row by row
+  std::vector<Index> m_numbers; ///< of those who stand in the cells, row by row
 };

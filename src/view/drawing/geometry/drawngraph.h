@@ -20,7 +20,7 @@ public:
   std::vector<double> distances(const std::vector<double> &lengths) const;
 
 private:
-  std::vector<int> sources() const;
+  std::vector<Index> sources() const;
 
   const NetGeometry &m_geometry;
   Topology::NetworkGraph m_graph;

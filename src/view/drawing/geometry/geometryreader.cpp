@@ -125,7 +125,7 @@ std::vector<Edge> readEdges(const NetData &net, const ValueRequest &request, Val
   // Nodes stand in name order, as the collection does.
   const auto indexOf = [&net](const PropertyText *name) {
     const elements::Entry *node = name == nullptr ? nullptr : net.nodes().findEntry(name->utf8());
-    return node == nullptr ? -1 : node->index;
+    return node == nullptr ? NoIndex : node->index;
   };
   const std::vector<const element *> sources = sourcesOf(net.edges());
   std::vector<Edge> edges(sources.size());
@@ -181,7 +181,7 @@ ElementValues GeometryReader::read(const NetData &net, const ValueRequest &reque
   readPins(net, records.subnets);
   const std::size_t dropped =
       net.textBoxes().size() + net.assembledSubnets().size() - records.textBoxes.size() - records.subnets.size();
-  geometry = NetGeometry(std::move(records), static_cast<int>(dropped));
+  geometry = NetGeometry(std::move(records), toQt(dropped));
   return values.values();
 }
 

@@ -57,36 +57,34 @@ private:
 
 /// An edge, seen from that of its end nodes which comes first by name.
 struct Way {
-  int far; ///< the other end node
-  int edge;
+  Index far; ///< the other end node
+  Index edge;
 };
 
 /// The edges that join two nodes, by the node that comes first: those of node i stand from starts[i] on. A counting sort,
 /// since only neighbours in it can be parallel.
-std::vector<Way> waysByNode(const std::vector<Edge> &edges, std::size_t nodes, std::vector<int> &starts) {
+std::vector<Way> waysByNode(const std::vector<Edge> &edges, std::size_t nodes, std::vector<Index> &starts) {
   starts.assign(nodes + 1, 0);
   const auto joins = [](const Edge &edge) {
-    return edge.node1 >= 0 && edge.node2 >= 0 && edge.node1 != edge.node2;
+    return edge.hasEnds() && edge.node1 != edge.node2;
   };
   for (const Edge &edge : edges) {
     if (joins(edge))
-      ++starts[static_cast<std::size_t>(std::min(edge.node1, edge.node2)) + 1];
+      ++starts[std::min(edge.node1, edge.node2) + 1];
   }
   std::partial_sum(starts.begin(), starts.end(), starts.begin());
-  std::vector<Way> ways(static_cast<std::size_t>(starts.back()));
-  std::vector<int> next(starts.begin(), starts.end() - 1);
-  for (std::size_t i = 0; i < edges.size(); ++i) {
+  std::vector<Way> ways(starts.back());
+  std::vector<Index> next(starts.begin(), starts.end() - 1);
+  for (Index i = 0; i < edges.size(); ++i) {
     const Edge &edge = edges[i];
-    if (!joins(edge))
-      continue;
-    const auto near = static_cast<std::size_t>(std::min(edge.node1, edge.node2));
-    ways[static_cast<std::size_t>(next[near]++)] = {std::max(edge.node1, edge.node2), static_cast<int>(i)};
+    if (joins(edge))
+      ways[next[std::min(edge.node1, edge.node2)]++] = {std::max(edge.node1, edge.node2), i};
   }
   return ways;
 }
 
 void assignLanes(std::vector<Edge> &edges, std::size_t nodes) {
-  std::vector<int> starts;
+  std::vector<Index> starts;
   std::vector<Way> ways = waysByNode(edges, nodes, starts);
   for (std::size_t node = 0; node < nodes; ++node) {
     const auto first = ways.begin() + starts[node];
@@ -98,7 +96,7 @@ void assignLanes(std::vector<Edge> &edges, std::size_t nodes) {
       const auto end = std::find_if(group, last, [group](const Way &way) { return way.far != group->far; });
       const float middle = static_cast<float>(end - group - 1) * 0.5F;
       for (auto way = group; way != end; ++way) {
-        Edge &edge = edges[static_cast<std::size_t>(way->edge)];
+        Edge &edge = edges[way->edge];
         const float aside = static_cast<float>(way - group) - middle; // seen from the node that comes first by name
         edge.lane = edge.node1 < edge.node2 ? aside : -aside;
       }
@@ -182,16 +180,15 @@ QRectF NetGeometry::findMainExtent() {
 }
 
 const element *NetGeometry::source(Item item) const {
-  const auto i = static_cast<std::size_t>(item.index);
   switch (item.kind) {
   case NetData::Node:
-    return m_records.nodes[i].source;
+    return m_records.nodes[item.index].source;
   case NetData::Edge:
-    return m_records.edges[i].source;
+    return m_records.edges[item.index].source;
   case NetData::AssembledSubnet:
-    return m_records.subnets[i].source;
+    return m_records.subnets[item.index].source;
   case NetData::TextBox:
-    return m_records.textBoxes[i].source;
+    return m_records.textBoxes[item.index].source;
   default:
     return nullptr;
   }
@@ -217,24 +214,23 @@ std::optional<NetGeometry::Item> NetGeometry::find(const NetData &net, const QSt
   // Nodes and edges stand in name order, as the collections do.
   for (const auto &[kind, collection] : {std::make_pair(NetData::Node, &net.nodes()), {NetData::Edge, &net.edges()}}) {
     const elements::Entry *entry = (kinds & kind) != 0 ? collection->findEntry(utf8) : nullptr;
-    if (entry != nullptr && static_cast<std::size_t>(entry->index) < count(kind) &&
-        source({kind, entry->index}) == &entry->value)
+    if (entry != nullptr && entry->index < count(kind) && source({kind, entry->index}) == &entry->value)
       return Item{kind, entry->index};
   }
   for (const auto &[kind, points] :
        {std::make_pair(NetData::AssembledSubnet, &m_records.subnets), {NetData::TextBox, &m_records.textBoxes}}) {
     const elements &collection = kind == NetData::TextBox ? net.textBoxes() : net.assembledSubnets();
     const element *wanted = (kinds & kind) != 0 ? collection.find(utf8) : nullptr;
-    const auto found =
-        std::find_if(points->begin(), points->end(), [wanted](const PointElement &p) { return p.source == wanted; });
-    if (wanted != nullptr && found != points->end())
-      return Item{kind, static_cast<int>(found - points->begin())};
+    for (Index i = 0; wanted != nullptr && i < points->size(); ++i) {
+      if ((*points)[i].source == wanted)
+        return Item{kind, i};
+    }
   }
   return std::nullopt;
 }
 
 std::optional<QPointF> NetGeometry::center(Item item) const {
-  const auto i = static_cast<std::size_t>(item.index);
+  const Index i = item.index;
   switch (item.kind) {
   case NetData::Node:
     return m_records.nodes[i].isPlaced ? std::optional<QPointF>({m_records.nodes[i].x, m_records.nodes[i].y}) : std::nullopt;
@@ -258,14 +254,13 @@ int NetGeometry::nodesOutside(const QRectF &extent) const {
 }
 
 bool NetGeometry::isPlaced(const Edge &edge) const {
-  return edge.node1 >= 0 && edge.node2 >= 0 && m_records.nodes[static_cast<std::size_t>(edge.node1)].isPlaced &&
-         m_records.nodes[static_cast<std::size_t>(edge.node2)].isPlaced;
+  return edge.hasEnds() && nodes()[edge.node1].isPlaced && nodes()[edge.node2].isPlaced;
 }
 
 double NetGeometry::meanOfEnds(const Edge &edge, const std::vector<double> &ofNodes) {
-  if (edge.node1 < 0 || edge.node2 < 0)
+  if (!edge.hasEnds())
     return NetData::NoValue;
-  const double end1 = ofNodes[static_cast<std::size_t>(edge.node1)];
-  const double end2 = ofNodes[static_cast<std::size_t>(edge.node2)];
+  const double end1 = ofNodes[edge.node1];
+  const double end2 = ofNodes[edge.node2];
   return end1 == NetData::NoValue || end2 == NetData::NoValue ? NetData::NoValue : (end1 + end2) * 0.5;
 }

@@ -16,14 +16,14 @@ std::uint32_t spread(std::uint32_t x) {
 
 /// The cells of the curve along one axis; the last one begins where the bounds end.
 CellAxis curveCells(double from, double to) {
-  constexpr int Cells = 1 << 16;
+  constexpr Index Cells = 1U << 16U;
   return {from, (to - from) / (Cells - 1), Cells};
 }
 
 /// How far along the Z-order curve through the cells the middle of the box lies.
 std::uint32_t curveKey(const SpatialIndex::Box &box, const CellAxis &columns, const CellAxis &rows) {
   const auto cell = [](const CellAxis &axis, double low, double high) {
-    return static_cast<std::uint32_t>(axis.nearest(low * 0.5 + high * 0.5));
+    return axis.nearest(low * 0.5 + high * 0.5);
   };
   return spread(cell(columns, box.x1, box.x2)) | (spread(cell(rows, box.y1, box.y2)) << 1);
 }
@@ -37,11 +37,11 @@ void SpatialIndex::Box::unite(const Box &other) {
   y2 = std::max(y2, other.y2);
 }
 
-std::vector<int> SpatialIndex::build(const std::vector<Box> &boxes) {
+std::vector<Index> SpatialIndex::build(const std::vector<Box> &boxes) {
   clear();
   if (boxes.empty())
     return {};
-  m_count = static_cast<int>(boxes.size());
+  m_count = toIndex(boxes.size());
   m_bounds = boxes.front();
   for (const Box &box : boxes)
     m_bounds.unite(box);
@@ -54,11 +54,11 @@ std::vector<int> SpatialIndex::build(const std::vector<Box> &boxes) {
     keys[i] = (static_cast<std::uint64_t>(curveKey(boxes[i], columns, rows)) << KeyShift) | i;
   std::sort(keys.begin(), keys.end());
 
-  std::vector<int> order(boxes.size());
+  std::vector<Index> order(boxes.size());
   m_runs.reserve(boxes.size() / RunLength + 1);
   for (std::size_t i = 0; i < keys.size(); ++i) {
-    order[i] = static_cast<int>(keys[i] & 0xffffffffU);
-    const Box &box = boxes[static_cast<std::size_t>(order[i])];
+    order[i] = toIndex(keys[i] & 0xffffffffU);
+    const Box &box = boxes[order[i]];
     if (i % RunLength == 0)
       m_runs.push_back(box);
     else

@@ -8,14 +8,14 @@
 namespace {
 
 constexpr double CellLength = 2.0; // px
-constexpr int WordBits = 64;
+constexpr Index WordBits = 64;
 constexpr double LongestSide = 30000.0; // px, of the canvas
 
-int cellsOf(double side) {
-  return static_cast<int>(std::ceil(qBound(1.0, side, LongestSide) / CellLength));
+Index cellsOf(double side) {
+  return static_cast<Index>(std::ceil(qBound(1.0, side, LongestSide) / CellLength));
 }
 
-int wordsOf(double side) {
+Index wordsOf(double side) {
   return (cellsOf(side) + WordBits - 1) / WordBits;
 }
 
@@ -69,8 +69,8 @@ bool TurnedBox::overlaps(const TurnedBox &other) const {
 OccupancyGrid::OccupancyGrid(const QRectF &canvas)
     : m_columns(canvas.left(), CellLength, wordsOf(canvas.width()) * WordBits)
     , m_rows(canvas.top(), CellLength, cellsOf(canvas.height()))
-    , m_words(static_cast<std::size_t>(wordsOf(canvas.width())))
-    , m_cells(static_cast<std::size_t>(m_rows.count()) * m_words, 0) {}
+    , m_words(wordsOf(canvas.width()))
+    , m_cells(m_rows.count() * m_words, 0) {}
 
 namespace {
 
@@ -98,7 +98,7 @@ template <typename Visitor>
 bool OccupancyGrid::forEachWord(const TurnedBox &box, const Visitor &visit) const {
   const QRectF bounds = box.bounds();
   const CellAxis::Range rows = m_rows.range(bounds.top(), bounds.bottom());
-  for (int row = rows.first; row <= rows.last; ++row) {
+  for (Index row = rows.first; row < rows.end; ++row) {
     double left = bounds.left();
     double right = bounds.right();
     if (!box.isUpright())
@@ -106,15 +106,16 @@ bool OccupancyGrid::forEachWord(const TurnedBox &box, const Visitor &visit) cons
     const CellAxis::Range cells = m_columns.range(left, right);
     if (left > right || cells.isEmpty())
       continue;
-    const int firstWord = cells.first / WordBits;
-    const int lastWord = cells.last / WordBits;
-    for (int word = firstWord; word <= lastWord; ++word) {
+    const Index firstWord = cells.first / WordBits;
+    const Index last = cells.end - 1;
+    const Index lastWord = last / WordBits;
+    for (Index word = firstWord; word <= lastWord; ++word) {
       std::uint64_t mask = ~std::uint64_t(0);
       if (word == firstWord)
         mask &= ~std::uint64_t(0) << (cells.first % WordBits);
       if (word == lastWord)
-        mask &= ~std::uint64_t(0) >> (WordBits - 1 - cells.last % WordBits);
-      if (!visit(static_cast<std::size_t>(row) * m_words + static_cast<std::size_t>(word), mask))
+        mask &= ~std::uint64_t(0) >> (WordBits - 1 - last % WordBits);
+      if (!visit(row * m_words + word, mask))
         return false;
     }
   }

@@ -36,10 +36,10 @@ EdgeLayer::EdgeLayer() {
 
 void EdgeLayer::setEdges(const NetGeometry &geometry) {
   std::vector<SpatialIndex::Box> boxes;
-  std::vector<int> edgesOfBoxes;
+  std::vector<Index> edgesOfBoxes;
   boxes.reserve(geometry.edges().size());
   edgesOfBoxes.reserve(geometry.edges().size());
-  for (std::size_t i = 0; i < geometry.edges().size(); ++i) {
+  for (Index i = 0; i < geometry.edges().size(); ++i) {
     const NetGeometry::Edge &edge = geometry.edges()[i];
     if (!geometry.isPlaced(edge))
       continue;
@@ -47,15 +47,15 @@ void EdgeLayer::setEdges(const NetGeometry &geometry) {
     const auto [x1, x2] = std::minmax({line.x1(), line.x2()});
     const auto [y1, y2] = std::minmax({line.y1(), line.y2()});
     boxes.push_back({x1, y1, x2, y2});
-    edgesOfBoxes.push_back(static_cast<int>(i));
+    edgesOfBoxes.push_back(i);
   }
-  const std::vector<int> order = m_index.build(boxes);
+  const std::vector<Index> order = m_index.build(boxes);
   m_records.clear();
   m_records.reserve(order.size());
-  for (const int box : order) {
+  for (const Index box : order) {
     Record record;
-    record.edge = edgesOfBoxes[static_cast<std::size_t>(box)];
-    const NetGeometry::Edge &edge = geometry.edges()[static_cast<std::size_t>(record.edge)];
+    record.edge = edgesOfBoxes[box];
+    const NetGeometry::Edge &edge = geometry.edges()[record.edge];
     const QLineF line = geometry.line(edge);
     record.x1 = line.x1();
     record.y1 = line.y1();
@@ -69,29 +69,30 @@ void EdgeLayer::setEdges(const NetGeometry &geometry) {
 
 void EdgeLayer::setLooks(const std::vector<EdgeLook> &looks) {
   // Number the pens as they come, then put them into drawing order.
-  std::unordered_map<std::uint64_t, int> numbers;
+  std::unordered_map<std::uint64_t, Index> numbers;
   std::vector<std::uint64_t> keys;
   for (Record &record : m_records) {
-    const EdgeLook &look = looks[static_cast<std::size_t>(record.edge)];
+    const EdgeLook &look = looks[record.edge];
     if (look.isHidden) {
-      record.pen = -1;
+      record.pen = NoIndex;
       continue;
     }
     const std::uint64_t key = penKey(look);
     record.flow = static_cast<signed char>(look.flow);
-    const auto [known, isNew] = numbers.try_emplace(key, static_cast<int>(keys.size()));
+    const auto [known, isNew] = numbers.try_emplace(key, toIndex(keys.size()));
     if (isNew)
       keys.push_back(key);
     record.pen = known->second;
   }
   std::vector<std::uint64_t> sorted = keys;
   std::sort(sorted.begin(), sorted.end());
-  std::vector<int> drawingOrder;
-  drawingOrder.reserve(keys.size());
-  for (const std::uint64_t key : keys)
-    drawingOrder.push_back(static_cast<int>(std::lower_bound(sorted.begin(), sorted.end(), key) - sorted.begin()));
-  for (Record &record : m_records)
-    record.pen = record.pen < 0 ? record.pen : drawingOrder[static_cast<std::size_t>(record.pen)];
+  std::vector<Index> drawingOrder(keys.size());
+  for (Index pen = 0; pen < sorted.size(); ++pen)
+    drawingOrder[numbers[sorted[pen]]] = pen;
+  for (Record &record : m_records) {
+    if (record.pen != NoIndex)
+      record.pen = drawingOrder[record.pen];
+  }
 
   m_pens.clear();
   m_widest = 0.0;
@@ -111,7 +112,7 @@ LaneWay EdgeLayer::way(const Record &record, const Projection &projection) const
   const QLineF line(projection.map(record.x1, record.y1), projection.map(record.x2, record.y2));
   if (record.lane == 0.0F)
     return {line, 0.0};
-  const double width = m_pens[static_cast<std::size_t>(record.pen)].widthF();
+  const double width = m_pens[record.pen].widthF();
   return {line, static_cast<double>(record.lane) * laneSpacing(record.hasSymbol, width, m_symbolSize)};
 }
 
@@ -171,7 +172,7 @@ void EdgeLayer::drawArrows(QPainter &painter, const std::vector<Arrow> &arrows) 
   else
     painter.setPen(QPen(halo, 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   for (const Arrow &arrow : arrows) {
-    const QPen &pen = m_pens[static_cast<std::size_t>(arrow.pen)];
+    const QPen &pen = m_pens[arrow.pen];
     const double size = m_arrowSize + pen.widthF();
     const QPointF back = arrow.tip - arrow.along * size;
     const QPointF side = QPointF(-arrow.along.y(), arrow.along.x()) * size * WidthShare;
@@ -199,24 +200,21 @@ void EdgeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleM
   const QRectF area = canvasRect.adjusted(-margin, -margin, margin, margin);
   std::vector<VisibleLine> visible;
   std::vector<Arrow> arrows;
-  m_index.query(projection.visible(margin), [&](int first, int last) {
-    for (int i = first; i < last; ++i) {
-      const Record &record = m_records[static_cast<std::size_t>(i)];
-      if (record.pen >= 0)
-        addLines(record, projection, area, visible, arrows);
-    }
+  m_index.query(projection.visible(margin), [&](Index i) {
+    if (m_records[i].pen != NoIndex)
+      addLines(m_records[i], projection, area, visible, arrows);
   });
 
   // Counting sort by pen: starts[pen] is where the lines of the pen begin.
   std::vector<std::size_t> starts(m_pens.size() + 1, 0);
   for (const VisibleLine &line : visible)
-    ++starts[static_cast<std::size_t>(line.pen) + 1];
+    ++starts[line.pen + 1];
   for (std::size_t pen = 1; pen < starts.size(); ++pen)
     starts[pen] += starts[pen - 1];
   std::vector<QLineF> sorted(visible.size());
   std::vector<std::size_t> next = starts;
   for (const VisibleLine &line : visible)
-    sorted[next[static_cast<std::size_t>(line.pen)]++] = line.line;
+    sorted[next[line.pen]++] = line.line;
 
   constexpr double NextWidth = 1.4; // px: below it a line looks like one of a pixel, which is drawn much quicker
   const double factor = widthFactor(visible, canvasRect);
@@ -230,25 +228,22 @@ void EdgeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleM
     if (visible.size() > ManyLines)
       pen.setCapStyle(Qt::FlatCap);
     painter->setPen(pen);
-    painter->drawLines(&sorted[starts[i]], static_cast<int>(count));
+    painter->drawLines(&sorted[starts[i]], toQt(count));
   }
   drawArrows(*painter, arrows);
 }
 
 void EdgeLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {
   const double reach = tolerance + m_widest;
-  m_index.query(projection.around(point, reach + m_symbolSize), [&](int first, int last) {
-    for (int i = first; i < last; ++i) {
-      const Record &record = m_records[static_cast<std::size_t>(i)];
-      if (record.pen < 0)
-        continue;
-      const LaneWay line = way(record, projection);
-      const double distance =
-          std::min({distanceToLine(point, line.middle()), distanceToLine(point, {line.start, line.first}),
-                    distanceToLine(point, {line.second, line.end})});
-      const double halfWidth = m_pens[static_cast<std::size_t>(record.pen)].widthF() * 0.5;
-      if (distance - halfWidth <= tolerance)
-        hits.push_back({{NetData::Edge, record.edge}, distance, HitRank::Line});
-    }
+  m_index.query(projection.around(point, reach + m_symbolSize), [&](Index i) {
+    const Record &record = m_records[i];
+    if (record.pen == NoIndex)
+      return;
+    const LaneWay line = way(record, projection);
+    const double distance = std::min({distanceToLine(point, line.middle()), distanceToLine(point, {line.start, line.first}),
+                                      distanceToLine(point, {line.second, line.end})});
+    const double halfWidth = m_pens[record.pen].widthF() * 0.5;
+    if (distance - halfWidth <= tolerance)
+      hits.push_back({{NetData::Edge, record.edge}, distance, HitRank::Line});
   });
 }

@@ -38,23 +38,23 @@ void NodeLayer::setNodes(const NetGeometry &geometry) {
   std::vector<Record> records;
   boxes.reserve(geometry.nodes().size());
   records.reserve(geometry.nodes().size());
-  for (std::size_t i = 0; i < geometry.nodes().size(); ++i) {
+  for (Index i = 0; i < geometry.nodes().size(); ++i) {
     const NetGeometry::Node &node = geometry.nodes()[i];
     if (!node.isPlaced || node.isDrive)
       continue;
     boxes.push_back({node.x, node.y, node.x, node.y});
-    records.push_back({node.x, node.y, static_cast<int>(i), node.shape, NodeLook(), false});
+    records.push_back({node.x, node.y, i, node.shape, NodeLook(), false});
   }
-  const std::vector<int> order = m_index.build(boxes);
+  const std::vector<Index> order = m_index.build(boxes);
   m_records.clear();
   m_records.reserve(order.size());
-  for (const int i : order)
-    m_records.push_back(records[static_cast<std::size_t>(i)]);
+  for (const Index i : order)
+    m_records.push_back(records[i]);
 }
 
 void NodeLayer::setLooks(const std::vector<NodeLook> &looks) {
   for (Record &record : m_records)
-    record.look = looks[static_cast<std::size_t>(record.node)];
+    record.look = looks[record.node];
 }
 
 void NodeLayer::setVisibility(const VisibilityRules &rules) {
@@ -73,27 +73,23 @@ double NodeLayer::sizeOf(const Record &record) {
 }
 
 void NodeLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {
-  m_index.query(projection.around(point, tolerance + LargestReach), [&](int first, int last) {
-    for (int i = first; i < last; ++i) {
-      const Record &record = m_records[static_cast<std::size_t>(i)];
-      const QPointF to = projection.map(record.x, record.y) - point;
-      const double distance = std::hypot(to.x(), to.y());
-      if (record.isDrawn() && distance - sizeOf(record) * 0.5 <= tolerance)
-        hits.push_back({{NetData::Node, record.node}, distance, HitRank::Point});
-    }
+  m_index.query(projection.around(point, tolerance + LargestReach), [&](Index i) {
+    const Record &record = m_records[i];
+    const QPointF to = projection.map(record.x, record.y) - point;
+    const double distance = std::hypot(to.x(), to.y());
+    if (record.isDrawn() && distance - sizeOf(record) * 0.5 <= tolerance)
+      hits.push_back({{NetData::Node, record.node}, distance, HitRank::Point});
   });
 }
 
 std::vector<NodeLayer::VisibleNode> NodeLayer::visibleNodes(const Projection &projection) const {
   std::vector<VisibleNode> nodes;
   const QRectF area = projection.canvas().adjusted(-LargestReach, -LargestReach, LargestReach, LargestReach);
-  m_index.query(projection.visible(LargestReach), [&](int first, int last) {
-    for (int i = first; i < last; ++i) {
-      const Record &record = m_records[static_cast<std::size_t>(i)];
-      const QPointF center = projection.map(record.x, record.y);
-      if (record.isDrawn() && area.contains(center))
-        nodes.push_back({center, &record});
-    }
+  m_index.query(projection.visible(LargestReach), [&](Index i) {
+    const Record &record = m_records[i];
+    const QPointF center = projection.map(record.x, record.y);
+    if (record.isDrawn() && area.contains(center))
+      nodes.push_back({center, &record});
   });
   return nodes;
 }

@@ -63,7 +63,7 @@ std::optional<QLineF> SelectionLayer::lineOf(NetGeometry::Item item, const Proje
     const QPointF middle = projection.map(center->x(), center->y());
     return QLineF(middle, middle);
   }
-  const NetGeometry::Edge &edge = m_geometry->edges()[static_cast<std::size_t>(item.index)];
+  const NetGeometry::Edge &edge = m_geometry->edges()[item.index];
   return LaneWay(projection.map(m_geometry->line(edge)),
                  static_cast<double>(edge.lane) * laneSpacing(edge.type != 'p', 1.0, m_symbolSize))
       .middle();
@@ -76,7 +76,7 @@ double SelectionLayer::reachOf(NetGeometry::Item item) const {
   case NetData::AssembledSubnet:
     return m_symbolSize * (1.0 + m_subnetFactor) * Half;
   case NetData::Edge: {
-    const bool hasSymbol = m_geometry->edges()[static_cast<std::size_t>(item.index)].type != 'p';
+    const bool hasSymbol = m_geometry->edges()[item.index].type != 'p';
     return hasSymbol ? m_symbolSize * Half + Margin : 0.0;
   }
   case NetData::TextBox:

@@ -63,7 +63,7 @@ QColor ringColor(const NetData &net, const element &subnet) {
 
 std::vector<QPointF> pinsOf(const NetGeometry::PointElement &subnet, const NetGeometry &geometry) {
   std::vector<QPointF> pins;
-  for (const int node : subnet.pins) {
+  for (const Index node : subnet.pins) {
     if (const std::optional<QPointF> position = geometry.center({NetData::Node, node}))
       pins.push_back(*position);
   }
@@ -110,8 +110,8 @@ Findings SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry
     record.pins = pinsOf(subnet, geometry);
     record.width = positive(number("width")) * geometry.plotUnits();
     record.visSize = positive(number("vis.size"));
-    const int ofKind = m_symbols.find(source.value(QStringLiteral("variant")));
-    record.symbol = ofKind >= 0 ? ofKind : m_symbols.find(QStringLiteral("sub"));
+    const Index ofKind = m_symbols.find(source.value(QStringLiteral("variant")));
+    record.symbol = ofKind != NoIndex ? ofKind : m_symbols.find(QStringLiteral("sub"));
     record.ring = ringColor(net, source);
     record.ground = controlColor(net, source);
     m_records.push_back(record);
@@ -137,7 +137,7 @@ std::vector<SubnetLayer::Placed> SubnetLayer::layOut(const Projection &projectio
     return placed;
   constexpr double CellShare = 0.55; // of a box: one free cell lies between two boxes
   CanvasGrid grid(projection.canvas(), std::max(m_size, 1.0) * CellShare);
-  for (std::size_t i = 0; i < m_records.size(); ++i) {
+  for (Index i = 0; i < m_records.size(); ++i) {
     const Record &record = m_records[i];
     const QPointF center = projection.map(record.center.x(), record.center.y());
     const double size = sizeOf(record, projection);
@@ -145,11 +145,11 @@ std::vector<SubnetLayer::Placed> SubnetLayer::layOut(const Projection &projectio
     box.moveCenter(center);
     if (isHidden(i) || !box.intersects(projection.canvas()))
       continue;
-    const int number = grid.claim(center, static_cast<int>(placed.size()));
-    if (number < static_cast<int>(placed.size()))
-      ++placed[static_cast<std::size_t>(number)].others;
+    const Index number = grid.claim(center, toIndex(placed.size()));
+    if (number < placed.size())
+      ++placed[number].others;
     else
-      placed.push_back({static_cast<int>(i), box, 0});
+      placed.push_back({i, box, 0});
   }
   return placed;
 }
@@ -184,11 +184,11 @@ void SubnetLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScal
   const Projection projection(xMap, yMap, canvasRect);
   const std::vector<Placed> placed = layOut(projection);
   for (const Placed &p : placed)
-    drawPins(*painter, m_records[static_cast<std::size_t>(p.subnet)], p.box, projection);
+    drawPins(*painter, m_records[p.subnet], p.box, projection);
   for (const Placed &p : placed) {
     constexpr double Rounding = 0.18;
     constexpr double SymbolShare = 0.8;
-    const Record &record = m_records[static_cast<std::size_t>(p.subnet)];
+    const Record &record = m_records[p.subnet];
     const double size = p.box.width();
     QColor ground = record.ground;
     ground.setAlpha(m_alpha);
@@ -199,7 +199,7 @@ void SubnetLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScal
     painter->setPen(m_penWidth > 0.0 ? QPen(record.ring, m_penWidth) : QPen(Qt::NoPen));
     painter->setBrush(Qt::white);
     painter->drawRoundedRect(p.box, size * Rounding, size * Rounding);
-    if (record.symbol >= 0)
+    if (record.symbol != NoIndex)
       m_symbols.draw(*painter, record.symbol, p.box.center(), size * SymbolShare, 0.0);
     if (p.others > 0)
       m_symbols.drawCount(*painter, p.box.topRight(), p.others + 1);
@@ -207,11 +207,11 @@ void SubnetLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScal
 }
 
 void SubnetLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {
-  for (std::size_t i = 0; i < m_records.size(); ++i) {
+  for (Index i = 0; i < m_records.size(); ++i) {
     const Record &record = m_records[i];
     const QPointF to = projection.map(record.center.x(), record.center.y()) - point;
     const double half = sizeOf(record, projection) * 0.5;
     if (!isHidden(i) && std::abs(to.x()) <= half && std::abs(to.y()) <= half)
-      hits.push_back({{NetData::AssembledSubnet, static_cast<int>(i)}, std::hypot(to.x(), to.y()), HitRank::Box});
+      hits.push_back({{NetData::AssembledSubnet, i}, std::hypot(to.x(), to.y()), HitRank::Box});
   }
 }

@@ -14,10 +14,9 @@ constexpr double SymbolZ = 30.0;
 constexpr double LargestSymbol = 512.0; // px
 
 /// Lower is more important; pipes have no symbol.
-int priorityOf(char type) {
+Index priorityOf(char type) {
   constexpr std::string_view TypesByPriority = "crgwkfvsd";
-  const std::size_t index = TypesByPriority.find(type);
-  return static_cast<int>(index == std::string_view::npos ? TypesByPriority.size() : index);
+  return toIndex(std::min(TypesByPriority.find(type), TypesByPriority.size()));
 }
 
 } // namespace
@@ -32,11 +31,11 @@ void SymbolLayer::setTable(const SymbolTable &table) {
   m_symbols.setTable(table);
 }
 
-int SymbolLayer::symbolOf(const NetGeometry::Edge &edge) {
+Index SymbolLayer::symbolOf(const NetGeometry::Edge &edge) {
   const QString type(QLatin1Char(edge.type));
   const PropertyKey own = PropertyKey::find("vis.symbol");
-  const int symbol = own.isNull() ? -1 : m_symbols.find(edge.source->value(own).trimmed());
-  if (symbol >= 0)
+  const Index symbol = own.isNull() ? NoIndex : m_symbols.find(edge.source->value(own).trimmed());
+  if (symbol != NoIndex)
     return symbol;
   if (edge.isInactive)
     return m_symbols.find(type, QStringLiteral("_off"));
@@ -48,7 +47,7 @@ std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometr
   const auto shareOf = [this](const QString &type) {
     return static_cast<float>(m_sizes.contains(type) && m_size > 0.0 ? m_sizes.value(type) / m_size : 1.0);
   };
-  for (std::size_t i = 0; i < geometry.edges().size(); ++i) {
+  for (Index i = 0; i < geometry.edges().size(); ++i) {
     const NetGeometry::Edge &edge = geometry.edges()[i];
     if (edge.type == 'p' || !geometry.isPlaced(edge))
       continue;
@@ -58,21 +57,21 @@ std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometr
     record.y = line.center().y();
     record.dx = line.dx();
     record.dy = line.dy();
-    record.item = {NetData::Edge, static_cast<int>(i)};
+    record.item = {NetData::Edge, i};
     record.symbol = symbolOf(edge);
     record.priority = priorityOf(edge.type);
     record.lane = edge.lane;
     record.size = m_sizes.isEmpty() ? 1.0F : shareOf(QString(QLatin1Char(edge.type)));
     found.push_back(record);
   }
-  for (std::size_t i = 0; i < geometry.nodes().size(); ++i) {
+  for (Index i = 0; i < geometry.nodes().size(); ++i) {
     const NetGeometry::Node &node = geometry.nodes()[i];
     if (!node.isDrive || !node.isPlaced)
       continue;
     Record record;
     record.x = node.x;
     record.y = node.y;
-    record.item = {NetData::Node, static_cast<int>(i)};
+    record.item = {NetData::Node, i};
     const QString type = QStringLiteral("d");
     record.symbol =
         ElementState::isOutOfUse(*node.source) ? m_symbols.find(type, QStringLiteral("_off")) : m_symbols.find(type);
@@ -80,7 +79,7 @@ std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometr
     record.size = shareOf(type);
     found.push_back(record);
   }
-  found.erase(std::remove_if(found.begin(), found.end(), [](const Record &r) { return r.symbol < 0; }), found.end());
+  found.erase(std::remove_if(found.begin(), found.end(), [](const Record &r) { return r.symbol == NoIndex; }), found.end());
   return found;
 }
 
@@ -104,8 +103,8 @@ Findings SymbolLayer::setStations(const NetGeometry &geometry) {
   for (const Record &r : found)
     boxes.push_back({r.x, r.y, r.x, r.y});
   m_records.reserve(found.size());
-  for (const int i : m_index.build(boxes))
-    m_records.push_back(found[static_cast<std::size_t>(i)]);
+  for (const Index i : m_index.build(boxes))
+    m_records.push_back(found[i]);
   return findings;
 }
 
@@ -148,22 +147,16 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
   const auto isBehindBox = [&boxes](const QPointF &center) {
     return std::any_of(boxes.begin(), boxes.end(), [&center](const QRectF &box) { return box.contains(center); });
   };
-  std::vector<std::pair<int, QPointF>> visible; // index of the record, and its middle in pixels
-  m_index.query(projection.visible(margin), [&](int first, int last) {
-    for (int i = first; i < last; ++i) {
-      const Record &record = m_records[static_cast<std::size_t>(i)];
-      if (!record.isVisible)
-        continue;
-      const QPointF center = centerOf(record, projection);
-      if (area.contains(center) && !isBehindBox(center))
-        visible.emplace_back(i, center);
-    }
+  std::vector<std::pair<Index, QPointF>> visible; // index of the record, and its middle in pixels
+  m_index.query(projection.visible(margin), [&](Index i) {
+    if (!m_records[i].isVisible)
+      return;
+    const QPointF center = centerOf(m_records[i], projection);
+    if (area.contains(center) && !isBehindBox(center))
+      visible.emplace_back(i, center);
   });
-  const auto record = [this](int i) -> const Record & {
-    return m_records[static_cast<std::size_t>(i)];
-  };
   std::sort(visible.begin(), visible.end(), [&](const auto &a, const auto &b) {
-    return std::make_pair(record(a.first).priority, a.first) < std::make_pair(record(b.first).priority, b.first);
+    return std::make_pair(m_records[a.first].priority, a.first) < std::make_pair(m_records[b.first].priority, b.first);
   });
 
   // Symbols shrink where they are many, but stay legible; those that then overlap stand behind one of them.
@@ -176,9 +169,9 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
   const double size = std::min(m_size, std::max(LegibleSize, room * ShareOfRoom));
   CanvasGrid grid(area, size * CellShare);
   for (const auto &[i, center] : visible) {
-    const int number = grid.claim(center, static_cast<int>(placed.size()));
-    if (number < static_cast<int>(placed.size())) {
-      ++placed[static_cast<std::size_t>(number)].others;
+    const Index number = grid.claim(center, toIndex(placed.size()));
+    if (number < placed.size()) {
+      ++placed[number].others;
       layout.behind.emplace_back(number, i);
       continue;
     }
@@ -187,14 +180,15 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
   return layout;
 }
 
-SymbolLayer::Placed SymbolLayer::placed(int record, const QPointF &center, double size, const Projection &projection) const {
-  const Record &r = m_records[static_cast<std::size_t>(record)];
+SymbolLayer::Placed SymbolLayer::placed(Index record, const QPointF &center, double size,
+                                        const Projection &projection) const {
+  const Record &r = m_records[record];
   Placed placed;
   placed.item = r.item;
   placed.center = center;
   placed.record = record;
   placed.size = qBound(1.0, size * static_cast<double>(r.size), LargestSymbol);
-  placed.isFigure = r.figure >= 0;
+  placed.isFigure = r.figure != NoIndex;
   placed.extent = placed.isFigure ? m_figures.extent(r.figure, placed.size) : QSizeF(placed.size, placed.size);
   const QPointF ahead = projection.map(r.x + r.dx, r.y + r.dy) - projection.map(r.x, r.y);
   const double angle = ahead.isNull() ? 0.0 : qRadiansToDegrees(std::atan2(ahead.y(), ahead.x()));
@@ -219,7 +213,7 @@ QRectF SymbolLayer::Placed::obstacle() const {
 void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
   const std::vector<Placed> &placed = laidOut(Projection(xMap, yMap, canvasRect));
   for (const Placed &p : placed) {
-    const Record &r = m_records[static_cast<std::size_t>(p.record)];
+    const Record &r = m_records[p.record];
     if (p.isFigure)
       m_figures.draw(*painter, r.figure, p.center, p.size);
     else
@@ -241,8 +235,8 @@ void SymbolLayer::find(const Projection &projection, const QPointF &point, std::
     if (placed[i].others == 0)
       continue;
     for (const auto &[number, record] : m_layout->behind) {
-      if (number == static_cast<int>(i))
-        hits.push_back({m_records[static_cast<std::size_t>(record)].item, distance, HitRank::Symbol});
+      if (number == i)
+        hits.push_back({m_records[record].item, distance, HitRank::Symbol});
     }
   }
 }

@@ -34,7 +34,7 @@ TextBoxLayer::TextBoxLayer() {
 void TextBoxLayer::setTextBoxes(const NetGeometry &geometry, const LabelContents &contents, double size) {
   static const PropertyKey font = PropertyKey::intern("vis.font");
   m_records.clear();
-  for (std::size_t i = 0; i < geometry.textBoxes().size(); ++i) {
+  for (Index i = 0; i < geometry.textBoxes().size(); ++i) {
     const NetGeometry::PointElement &box = geometry.textBoxes()[i];
     const QStringList lines = contents.textOfBox(*box.source);
     if (lines.isEmpty())
@@ -42,7 +42,7 @@ void TextBoxLayer::setTextBoxes(const NetGeometry &geometry, const LabelContents
     LabelStyle style = contents.style(*box.source, NetData::TextBox);
     if (size >= 1.0 && box.source->find(font) == nullptr)
       style.font.setPixelSize(static_cast<int>(size));
-    m_records.push_back({box.x, box.y, lines, style, static_cast<int>(i), sizeOf(lines, style.font)});
+    m_records.push_back({box.x, box.y, lines, style, i, sizeOf(lines, style.font)});
   }
 }
 

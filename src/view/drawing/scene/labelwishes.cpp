@@ -43,8 +43,7 @@ void LabelWishes::collectSymbols() {
     areas.push_back(placed.obstacle());
     const QPointF center = *m_drawing.geometry.center(placed.item);
     const QPointF aside = placed.center - m_projection.map(center.x(), center.y());
-    const double flow =
-        placed.item.kind == NetData::Edge ? m_drawing.flow[static_cast<std::size_t>(placed.item.index)] : 0.0;
+    const double flow = placed.item.kind == NetData::Edge ? m_drawing.flow[placed.item.index] : 0.0;
     add(placed.item, {center, center}, false, placed.reach() + std::hypot(aside.x(), aside.y()), StationRank, flow);
     if (placed.item.kind == NetData::Node)
       m_nodesWithSymbol.insert(placed.item.index);
@@ -54,8 +53,8 @@ void LabelWishes::collectSymbols() {
 void LabelWishes::collectNodes() {
   constexpr std::size_t MostDots = 3000; // more would leave no room for labels
   std::vector<QRectF> dots;
-  m_drawing.nodes.forEachVisible(m_projection, [&](int node, const QPointF &center, double size) {
-    const NetGeometry::Node &record = m_drawing.geometry.nodes()[static_cast<std::size_t>(node)];
+  m_drawing.nodes.forEachVisible(m_projection, [&](Index node, const QPointF &center, double size) {
+    const NetGeometry::Node &record = m_drawing.geometry.nodes()[node];
     const bool isJunction = record.shape == NetGeometry::NodeShape::Junction;
     const QPointF position(record.x, record.y);
     dots.emplace_back(center - QPointF(size, size) * 0.5, QSizeF(size, size));
@@ -69,16 +68,15 @@ void LabelWishes::collectNodes() {
 void LabelWishes::collectPipes() {
   const NetGeometry &geometry = m_drawing.geometry;
   constexpr std::size_t MostLines = 3000; // among more there is no room without one
-  m_drawing.edges.forEachVisible(m_projection, [&](int edge, const QLineF &drawn, double width) {
-    const NetGeometry::Edge &record = geometry.edges()[static_cast<std::size_t>(edge)];
+  m_drawing.edges.forEachVisible(m_projection, [&](Index edge, const QLineF &drawn, double width) {
+    const NetGeometry::Edge &record = geometry.edges()[edge];
     if (lines.size() <= MostLines)
       lines.emplace_back(drawn, width);
     if (record.type != 'p')
       return; // labelled at its symbol
     const QLineF straight = geometry.line(record);
     const double aside = record.lane == 0.0F ? 0.0 : distanceToLine(drawn.center(), m_projection.map(straight));
-    add({NetData::Edge, edge}, straight, true, width * 0.5 + aside, PipeRank,
-        m_drawing.flow[static_cast<std::size_t>(edge)]);
+    add({NetData::Edge, edge}, straight, true, width * 0.5 + aside, PipeRank, m_drawing.flow[edge]);
   });
   if (lines.size() > MostLines)
     lines.clear();

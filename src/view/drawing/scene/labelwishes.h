@@ -47,5 +47,5 @@ private:
 
   const Drawing &m_drawing;
   const Projection &m_projection;
-  std::set<int> m_nodesWithSymbol;
+  std::set<Index> m_nodesWithSymbol;
 };

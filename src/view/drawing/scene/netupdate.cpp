@@ -303,32 +303,20 @@ std::vector<Hit> NetUpdate::elementsAt(const QPointF &point, double tolerance) c
 
 std::vector<NetGeometry::Item> NetUpdate::elementsIn(const QRectF &area) const {
   std::vector<NetGeometry::Item> found;
-  const auto isInside = [&area](double x, double y) {
-    return x >= area.left() && x <= area.right() && y >= area.top() && y <= area.bottom();
+  const auto isInside = [&area](const QPointF &p) {
+    return p.x() >= area.left() && p.x() <= area.right() && p.y() >= area.top() && p.y() <= area.bottom();
   };
-  const auto isDrawn = [this](NetGeometry::Item item) {
-    return !m_layers.isHidden(item) && m_visibility.of(item) != VisibilityRules::State::Off;
-  };
-  const auto &nodes = m_geometry.nodes();
-  for (std::size_t i = 0; i < nodes.size(); ++i) {
-    if (nodes[i].isPlaced && isDrawn({NetData::Node, static_cast<int>(i)}) && isInside(nodes[i].x, nodes[i].y))
-      found.push_back({NetData::Node, static_cast<int>(i)});
-  }
-  for (std::size_t i = 0; i < m_geometry.edges().size(); ++i) {
-    const NetGeometry::Edge &edge = m_geometry.edges()[i];
-    if (!m_geometry.isPlaced(edge) || m_layers.isHidden({NetData::Edge, static_cast<int>(i)}))
-      continue;
-    const QLineF line = m_geometry.line(edge);
-    if (isInside(line.x1(), line.y1()) && isInside(line.x2(), line.y2()))
-      found.push_back({NetData::Edge, static_cast<int>(i)});
-  }
-  const auto takePlaces = [&](NetData::EleType kind, const std::vector<NetGeometry::PointElement> &places) {
-    for (std::size_t i = 0; i < places.size(); ++i) {
-      if (isDrawn({kind, static_cast<int>(i)}) && isInside(places[i].x, places[i].y))
-        found.push_back({kind, static_cast<int>(i)});
+  m_geometry.forEachItem([&](NetGeometry::Item item, const element &) {
+    const std::optional<QPointF> center = m_geometry.center(item);
+    if (!center || m_layers.isHidden(item))
+      return;
+    if (item.kind == NetData::Edge) {
+      const QLineF line = m_geometry.line(m_geometry.edges()[item.index]);
+      if (isInside(line.p1()) && isInside(line.p2()))
+        found.push_back(item);
+    } else if (isInside(*center) && m_visibility.of(item) != VisibilityRules::State::Off) {
+      found.push_back(item);
     }
-  };
-  takePlaces(NetData::AssembledSubnet, m_geometry.subnets());
-  takePlaces(NetData::TextBox, m_geometry.textBoxes());
+  });
   return found;
 }

@@ -17,7 +17,7 @@ std::vector<double> breaksOf(const PlotSettings &settings, const DrawValues::Col
     for (const QString &text : settings.classBreaks.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
       bool isNumber = false;
       const double shown = text.trimmed().toDouble(&isNumber);
-      if (isNumber && std::isfinite(shown) && static_cast<int>(breaks.size()) < MostClasses)
+      if (isNumber && std::isfinite(shown) && breaks.size() < MostClasses)
         breaks.push_back(values.function.toDisplay.inverse(shown));
     }
     std::sort(breaks.begin(), breaks.end());

@@ -86,8 +86,8 @@ void forgetDrives(const NetGeometry &geometry, std::vector<double> &column) {
 /// Gives edges without a value what their ends say: the end where the gas enters, or the first less the second.
 void readFromEnds(const DrawFunction &function, bool absolute, const NetGeometry &geometry,
                   const std::vector<double> &ofEnds, const std::vector<double> &flow, std::vector<double> &column) {
-  const auto at = [&ofEnds](int node) {
-    return node < 0 ? NetData::NoValue : ofEnds[static_cast<std::size_t>(node)];
+  const auto at = [&ofEnds](Index node) {
+    return node == NoIndex ? NetData::NoValue : ofEnds[node];
   };
   for (std::size_t i = 0; i < column.size(); ++i) {
     const NetGeometry::Edge &edge = geometry.edges()[i];

@@ -23,8 +23,8 @@ template <typename Look>
 void ElementLooks::hide(NetData::EleType kind, std::vector<Look> &looks) const {
   if (!m_layers.hidesAny())
     return;
-  for (std::size_t i = 0; i < looks.size(); ++i)
-    looks[i].isHidden = m_layers.isHidden({kind, static_cast<int>(i)});
+  for (Index i = 0; i < looks.size(); ++i)
+    looks[i].isHidden = m_layers.isHidden({kind, i});
 }
 
 std::vector<EdgeLook> ElementLooks::edges() const {
@@ -119,8 +119,8 @@ std::vector<bool> ElementLooks::searchResults(NetData::EleType kind) const {
   static const PropertyKey key = PropertyKey::intern("isSearchResult");
   const std::size_t count = m_geometry.count(kind);
   std::vector<bool> found(count);
-  for (std::size_t i = 0; i < count; ++i) {
-    const PropertyText *text = m_geometry.source({kind, static_cast<int>(i)})->find(key);
+  for (Index i = 0; i < count; ++i) {
+    const PropertyText *text = m_geometry.source({kind, i})->find(key);
     found[i] = text != nullptr && text->isOn();
   }
   return found;

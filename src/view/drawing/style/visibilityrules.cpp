@@ -60,14 +60,14 @@ void VisibilityRules::read(const NetGeometry &geometry, const LabelTable &table)
   });
   for (auto item = m_items.cbegin(); item != m_items.cend(); ++item) {
     const auto known = before.m_items.constFind(item.key());
-    Rule &rule = m_rules[static_cast<std::size_t>(item.value())];
+    Rule &rule = m_rules[item.value()];
     if (rule.isAuto && known != before.m_items.constEnd())
-      rule.state = before.m_rules[static_cast<std::size_t>(known.value())].state;
+      rule.state = before.m_rules[known.value()].state;
   }
 }
 
 void VisibilityRules::add(NetGeometry::Item item, const QString &vis, const QString &zoom) {
-  m_items.insert(key(item), static_cast<int>(m_rules.size()));
+  m_items.insert(key(item), toIndex(m_rules.size()));
   m_rules.push_back(ruleOf(vis, zoom));
 }
 
@@ -91,7 +91,7 @@ VisibilityRules::State VisibilityRules::of(NetGeometry::Item item) const {
   if (!m_items.isEmpty()) {
     const auto found = m_items.constFind(key(item));
     if (found != m_items.constEnd())
-      return m_rules[static_cast<std::size_t>(*found)].state;
+      return m_rules[*found].state;
   }
   if (m_types.isEmpty() || m_geometry == nullptr)
     return State::On;

@@ -6,7 +6,6 @@
 #include <QFontMetricsF>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -53,10 +52,10 @@ void Figures::add(NetGeometry::Item item, const element &source, Findings &findi
   figure.height = lengthOf(source, keys.height);
   if (figure.picture.isNull() && figure.character.isEmpty())
     return;
-  m_numbers[Key(item.kind, item.index)] = static_cast<int>(m_figures.size());
+  m_indices[item] = toIndex(m_figures.size());
   m_figures.push_back(figure);
   if (figure.hasOwnSize()) {
-    const QSizeF own = extent(static_cast<int>(m_figures.size()) - 1, 0.0);
+    const QSizeF own = extent(m_indices[item], 0.0);
     m_longest = std::max({m_longest, own.width(), own.height()});
   }
 }
@@ -77,14 +76,14 @@ QImage Figures::load(const QString &file, Findings &findings) {
 
 void Figures::clear() {
   m_figures.clear();
-  m_numbers.clear();
+  m_indices.clear();
   m_pictures.clear();
   m_longest = 0.0;
 }
 
-int Figures::find(NetGeometry::Item item) const {
-  const auto found = m_numbers.find(Key(item.kind, item.index));
-  return found == m_numbers.end() ? -1 : found->second;
+Index Figures::find(NetGeometry::Item item) const {
+  const auto found = m_indices.find(item);
+  return found == m_indices.end() ? NoIndex : found->second;
 }
 
 QFont Figures::Figure::font(double size) const {
@@ -94,12 +93,12 @@ QFont Figures::Figure::font(double size) const {
   else if (hasOwnSize())
     pixels = std::max(width, height);
   QFont font(QStringLiteral("Arial"));
-  font.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
+  font.setPixelSize(std::max(1, qRound(pixels)));
   return font;
 }
 
-QSizeF Figures::extent(int number, double size) const {
-  const Figure &figure = m_figures[static_cast<std::size_t>(number)];
+QSizeF Figures::extent(Index index, double size) const {
+  const Figure &figure = m_figures[index];
   if (figure.picture.isNull()) {
     const QFont font = figure.font(size);
     return QFontMetricsF(font)
@@ -114,9 +113,9 @@ QSizeF Figures::extent(int number, double size) const {
   return QSizeF(figure.picture.size()).scaled(room, Qt::KeepAspectRatio);
 }
 
-void Figures::draw(QPainter &painter, int number, const QPointF &center, double size) const {
-  const Figure &figure = m_figures[static_cast<std::size_t>(number)];
-  QRectF area(QPointF(), extent(number, size));
+void Figures::draw(QPainter &painter, Index index, const QPointF &center, double size) const {
+  const Figure &figure = m_figures[index];
+  QRectF area(QPointF(), extent(index, size));
   area.moveCenter(center);
   painter.save();
   if (figure.picture.isNull()) {

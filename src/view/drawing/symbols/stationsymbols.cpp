@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFontMetricsF>
 #include <QSvgRenderer>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -22,7 +23,7 @@ StationSymbols::~StationSymbols() = default;
 
 void StationSymbols::setTable(const SymbolTable &table) {
   m_table = table;
-  m_numbers.clear();
+  m_indices.clear();
   m_renderers.clear();
   m_pixmaps.clear();
   m_badges.clear();
@@ -47,33 +48,33 @@ std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) {
   return QFile::exists(path) ? std::make_unique<QSvgRenderer>(path) : nullptr;
 }
 
-int StationSymbols::find(const QString &key) {
+Index StationSymbols::find(const QString &key) {
   if (key.isEmpty() || key.contains(QLatin1Char('/')))
-    return -1; // such a key could lead out of the resources
-  const auto known = m_numbers.constFind(key);
-  if (known != m_numbers.constEnd())
+    return NoIndex; // such a key could lead out of the resources
+  const auto known = m_indices.constFind(key);
+  if (known != m_indices.constEnd())
     return *known;
   std::unique_ptr<QSvgRenderer> renderer = load(key);
-  const int number = renderer == nullptr ? -1 : static_cast<int>(m_renderers.size());
+  const Index index = renderer == nullptr ? NoIndex : toIndex(m_renderers.size());
   if (renderer != nullptr)
     m_renderers.push_back(std::move(renderer));
-  m_numbers.insert(key, number);
-  return number;
+  m_indices.insert(key, index);
+  return index;
 }
 
-int StationSymbols::find(const QString &type, const QString &state) {
+Index StationSymbols::find(const QString &type, const QString &state) {
   const QString both = type + state;
   const bool isOwn = m_table.file(both).path.isEmpty() && !m_table.file(type).path.isEmpty();
-  const int symbol = isOwn ? -1 : find(both);
-  return symbol >= 0 ? symbol : find(type);
+  const Index symbol = isOwn ? NoIndex : find(both);
+  return symbol != NoIndex ? symbol : find(type);
 }
 
-void StationSymbols::draw(QPainter &painter, int symbol, const QPointF &center, double size, double angle) {
+void StationSymbols::draw(QPainter &painter, Index symbol, const QPointF &center, double size, double angle) {
   if (isVectorTarget(painter)) {
     painter.save();
     painter.translate(center);
     painter.rotate(angle);
-    m_renderers[static_cast<std::size_t>(symbol)]->render(&painter, QRectF(-size * 0.5, -size * 0.5, size, size));
+    m_renderers[symbol]->render(&painter, QRectF(-size * 0.5, -size * 0.5, size, size));
     painter.restore();
     return;
   }
@@ -82,7 +83,7 @@ void StationSymbols::draw(QPainter &painter, int symbol, const QPointF &center, 
   const double ratio = pixelRatio(painter);
   const int rounded =
       ((static_cast<int>(std::lround(angle / AngleStep)) * AngleStep) % FullCircle + FullCircle) % FullCircle;
-  QPixmap picture = pixmap(symbol, static_cast<int>(std::lround(size * ratio)), rounded);
+  QPixmap picture = pixmap(symbol, qRound(size * ratio), rounded);
   const QSizeF extent = QSizeF(picture.size()) / ratio;
   painter.drawPixmap(QRectF(center - QPointF(extent.width() * 0.5, extent.height() * 0.5), extent), picture, picture.rect());
 }
@@ -120,7 +121,7 @@ void StationSymbols::drawCount(QPainter &painter, const QPointF &center, int cou
     return;
   }
   const double ratio = pixelRatio(painter);
-  QPixmap &badge = m_badges[{shown, static_cast<int>(std::lround(ratio * 100.0))}];
+  QPixmap &badge = m_badges[{shown, qRound(ratio * 100.0)}];
   if (badge.isNull()) {
     const QRectF area = areaOf().adjusted(-1.0, -1.0, 1.0, 1.0);
     badge = QPixmap((area.size() * ratio).toSize());
@@ -134,7 +135,7 @@ void StationSymbols::drawCount(QPainter &painter, const QPointF &center, int cou
   painter.drawPixmap(QRectF(center - QPointF(extent.width() * 0.5, extent.height() * 0.5), extent), badge, badge.rect());
 }
 
-QPixmap StationSymbols::pixmap(int symbol, int pixels, int angle) {
+QPixmap StationSymbols::pixmap(Index symbol, int pixels, int angle) {
   constexpr int MostPixmaps = 4000;
   const quint64 key =
       (static_cast<quint64>(symbol) << 40U) | (static_cast<quint64>(pixels) << 16U) | static_cast<quint64>(angle);
@@ -144,14 +145,14 @@ QPixmap StationSymbols::pixmap(int symbol, int pixels, int angle) {
   if (m_pixmaps.size() >= MostPixmaps)
     m_pixmaps.clear();
   // Room for the symbol's corners, whichever way it is turned.
-  const int side = static_cast<int>(std::ceil(pixels * std::sqrt(2.0)));
+  const int side = qCeil(pixels * std::sqrt(2.0));
   QPixmap picture(side, side);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(side * 0.5, side * 0.5);
   painter.rotate(angle);
-  m_renderers[static_cast<std::size_t>(symbol)]->render(&painter, QRectF(-pixels * 0.5, -pixels * 0.5, pixels, pixels));
+  m_renderers[symbol]->render(&painter, QRectF(-pixels * 0.5, -pixels * 0.5, pixels, pixels));
   painter.end();
   m_pixmaps.insert(key, picture);
   return picture;

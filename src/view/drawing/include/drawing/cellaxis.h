@@ -1,7 +1,10 @@
 #pragma once
 
+#include <base/index.h>
+
 #include <QtGlobal>
 
+#include <algorithm>
 #include <cmath>
 
 /// Equal cells along one axis: the one rule for the cell in which a position lies.
@@ -11,32 +14,34 @@
 ///    length, the first one.
 class CellAxis {
 public:
-  CellAxis(double origin, double length, int count)
+  CellAxis(double origin, double length, Index count)
       : m_origin(origin)
       , m_length(length)
       , m_count(count) {}
 
-  int count() const { return m_count; }
+  Index count() const { return m_count; }
   /// A whole number, which may be larger than an int holds.
   double number(double position) const { return std::floor((position - m_origin) / m_length); }
   bool contains(double position) const { return number(position) >= 0.0 && number(position) < m_count; }
-  int nearest(double position) const { return static_cast<int>(qBound(0.0, number(position), m_count - 1.0)); }
+  Index nearest(double position) const { return static_cast<Index>(qBound(0.0, number(position), m_count - 1.0)); }
   struct Range {
-    int first;
-    int last; ///< before the first when there is none
+    Index first;
+    Index end; ///< behind the last; not behind the first when there is none
 
-    bool isEmpty() const { return last < first; }
+    bool isEmpty() const { return end <= first; }
   };
   /// The cells that the positions between two touch.
   Range range(double from, double to) const {
-    return {static_cast<int>(qBound(0.0, number(from), static_cast<double>(m_count))),
-            static_cast<int>(qBound(-1.0, number(to), m_count - 1.0))};
+    const double count = m_count;
+    return {static_cast<Index>(qBound(0.0, number(from), count)), static_cast<Index>(qBound(0.0, number(to) + 1.0, count))};
   }
+  /// The cell and those beside it.
+  Range around(Index cell) const { return {cell == 0 ? 0 : cell - 1, std::min(cell + 2, m_count)}; }
   /// Where the cell begins.
-  double start(int cell) const { return m_origin + cell * m_length; }
+  double start(Index cell) const { return m_origin + cell * m_length; }
 
 private:
   double m_origin;
   double m_length;
-  int m_count;
+  Index m_count;
 };

@@ -31,16 +31,14 @@ public:
   /// width, both in pixels.
   template <typename Visitor>
   void forEachVisible(const Projection &projection, const Visitor &visit) const {
-    m_index.query(projection.visible(0.0), [&](int first, int last) {
-      for (int i = first; i < last; ++i) {
-        const Record &record = m_records[static_cast<std::size_t>(i)];
-        if (record.pen < 0)
-          continue;
-        const QLineF line = way(record, projection).middle();
-        QLineF seen = line;
-        if (clipLine(seen, projection.canvas()))
-          visit(record.edge, line, m_pens[static_cast<std::size_t>(record.pen)].widthF());
-      }
+    m_index.query(projection.visible(0.0), [&](Index i) {
+      const Record &record = m_records[i];
+      if (record.pen == NoIndex)
+        return;
+      const QLineF line = way(record, projection).middle();
+      QLineF seen = line;
+      if (clipLine(seen, projection.canvas()))
+        visit(record.edge, line, m_pens[record.pen].widthF());
     });
   }
 
@@ -50,20 +48,20 @@ private:
     double y1 = 0.0;
     double x2 = 0.0;
     double y2 = 0.0;
-    int edge = 0;      ///< index in the edges of the geometry
-    int pen = -1;      ///< index in m_pens, -1 not drawn
-    float lane = 0.0F; ///< to the right of the way from the first to the second node
+    Index edge = 0;      ///< in the edges of the geometry
+    Index pen = NoIndex; ///< in m_pens; NoIndex when the edge is not drawn
+    float lane = 0.0F;   ///< to the right of the way from the first to the second node
     bool hasSymbol = false;
     signed char flow = 0;
   };
   struct VisibleLine {
     QLineF line;
-    int pen;
+    Index pen;
   };
   struct Arrow {
     QPointF tip;
     QPointF along; ///< of length 1
-    int pen;
+    Index pen;
   };
 
   LaneWay way(const Record &record, const Projection &projection) const;

@@ -21,32 +21,29 @@ public:
   Findings read(const NetGeometry &geometry);
   void clear();
 
-  /// Number of the item's figure, -1 when it has none.
-  int find(NetGeometry::Item item) const;
+  /// Index of the item's figure, NoIndex when it has none.
+  Index find(NetGeometry::Item item) const;
   /// The items with figures among which the records have none.
   template <typename Records>
   std::vector<NetGeometry::Item> itemsBesides(const Records &records) const {
-    std::map<Key, NetGeometry::Item> rest;
-    for (const auto &[key, number] : m_numbers)
-      rest.emplace(key, NetGeometry::Item{static_cast<NetData::EleType>(key.first), key.second});
+    std::map<NetGeometry::Item, Index> rest = m_indices;
     for (const auto &record : records)
-      rest.erase(Key(record.item.kind, record.item.index));
+      rest.erase(record.item);
     std::vector<NetGeometry::Item> items;
     items.reserve(rest.size());
-    for (const auto &[key, item] : rest)
+    for (const auto &[item, figure] : rest)
       items.push_back(item);
     return items;
   }
 
   /// What the figure covers about its middle, px.
   /// \param size px, where the figure does not say its own
-  QSizeF extent(int number, double size) const;
+  QSizeF extent(Index index, double size) const;
   /// The longest side of all figures that say their own size, px.
   double longest() const { return m_longest; }
-  void draw(QPainter &painter, int number, const QPointF &center, double size) const;
+  void draw(QPainter &painter, Index index, const QPointF &center, double size) const;
 
 private:
-  using Key = std::pair<int, int>; ///< kind and index
   struct Figure {
     QImage picture;
     QString character;
@@ -62,7 +59,7 @@ private:
 
   QString m_folder;
   std::vector<Figure> m_figures;
-  std::map<Key, int> m_numbers;
+  std::map<NetGeometry::Item, Index> m_indices;
   QHash<QString, QImage> m_pictures; ///< by path
   double m_longest = 0.0;
 };

@@ -18,7 +18,7 @@ public:
   bool hidesAny() const { return !m_layers.isEmpty(); }
   bool isHidden(NetGeometry::Item item) const {
     const auto kind = m_hidden.find(item.kind);
-    return kind != m_hidden.end() && kind->second[static_cast<std::size_t>(item.index)];
+    return kind != m_hidden.end() && kind->second[item.index];
   }
 
 private:

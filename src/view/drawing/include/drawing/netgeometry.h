@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/index.h>
 #include <model/netdata.h>
 
 #include <QLineF>
@@ -28,14 +29,16 @@ public:
 
   struct Edge {
     const element *source = nullptr;
-    int node1 = -1; ///< index in nodes(), -1 when there is no such node
-    int node2 = -1;
+    Index node1 = NoIndex; ///< in nodes(); NoIndex when there is no such node
+    Index node2 = NoIndex;
     char type = 'p';         ///< type code, of which only the first letter matters
     bool isInactive = false; ///< its "state" or "active" says off, closed, false or 0
     bool isBypass = false;   ///< its "state" says bypass
     /// Which of the edges that join the same two nodes, drawn side by side, this is: 0 in the middle, positive to the right
     /// of the way from node1 to node2; one unit a line.
     float lane = 0.0F;
+
+    bool hasEnds() const { return node1 != NoIndex && node2 != NoIndex; }
   };
 
   /// A text box or a subnet: something that stands at one point.
@@ -43,16 +46,17 @@ public:
     const element *source = nullptr;
     double x = 0.0;
     double y = 0.0;
-    std::vector<int> pins; ///< of a subnet: indices of its pin nodes in nodes(), in its order
+    std::vector<Index> pins; ///< of a subnet: indices of its pin nodes in nodes(), in its order
   };
 
   /// Something that can be pointed at: which list it is in, and its index there.
   struct Item {
     NetData::EleType kind = NetData::Unknown;
-    int index = -1;
+    Index index = NoIndex;
 
     friend bool operator==(Item a, Item b) { return a.kind == b.kind && a.index == b.index; }
     friend bool operator!=(Item a, Item b) { return !(a == b); }
+    friend bool operator<(Item a, Item b) { return a.kind != b.kind ? a.kind < b.kind : a.index < b.index; }
   };
 
   /// What was read of a network, in its own coordinates.
@@ -87,8 +91,8 @@ public:
   bool isPlaced(const Edge &edge) const;         ///< both ends have coordinates
   /// From the first end node to the second; of a placed edge.
   QLineF line(const Edge &edge) const {
-    const Node &from = nodes()[static_cast<std::size_t>(edge.node1)];
-    const Node &to = nodes()[static_cast<std::size_t>(edge.node2)];
+    const Node &from = nodes()[edge.node1];
+    const Node &to = nodes()[edge.node2];
     return {from.x, from.y, to.x, to.y};
   }
   const element *source(Item item) const;
@@ -97,7 +101,7 @@ public:
   template <typename Visit>
   void forEachItem(const Visit &visit) const {
     for (const NetData::EleType kind : {NetData::Node, NetData::Edge, NetData::AssembledSubnet, NetData::TextBox}) {
-      const auto items = static_cast<int>(count(kind));
+      const std::size_t items = count(kind);
       for (Item item{kind, 0}; item.index < items; ++item.index)
         visit(item, *source(item));
     }

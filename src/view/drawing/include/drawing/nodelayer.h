@@ -30,13 +30,11 @@ public:
   /// Calls visit(node, center, size) for every node on the canvas, with its middle and size in pixels.
   template <typename Visitor>
   void forEachVisible(const Projection &projection, const Visitor &visit) const {
-    m_index.query(projection.visible(0.0), [&](int first, int last) {
-      for (int i = first; i < last; ++i) {
-        const Record &record = m_records[static_cast<std::size_t>(i)];
-        const QPointF center = projection.map(record.x, record.y);
-        if (record.isDrawn() && projection.canvas().contains(center))
-          visit(record.node, center, sizeOf(record));
-      }
+    m_index.query(projection.visible(0.0), [&](Index i) {
+      const Record &record = m_records[i];
+      const QPointF center = projection.map(record.x, record.y);
+      if (record.isDrawn() && projection.canvas().contains(center))
+        visit(record.node, center, sizeOf(record));
     });
   }
 
@@ -44,7 +42,7 @@ private:
   struct Record {
     double x = 0.0;
     double y = 0.0;
-    int node = 0; ///< index in the nodes of the geometry
+    Index node = 0; ///< in the nodes of the geometry
     NetGeometry::NodeShape shape = NetGeometry::NodeShape::Junction;
     NodeLook look;
     bool isOff = false;

@@ -1,15 +1,18 @@
 #pragma once
 
+#include <base/index.h>
+
 #include <QRectF>
 
+#include <algorithm>
 #include <vector>
 
 /// Finds what lies in a part of the plane.
 /// 1. build() puts the items into an order that keeps neighbours together, that of a Z-order curve; the owner arranges its
 ///    records in this order. A position is an index into it.
 /// 2. Each run of RunLength positions (the last one may be shorter) has a box that holds all its items.
-/// 3. query() visits, in ascending order, every run whose box touches the area. No item that touches it is missed; the
-///    visitor sorts out the others of the run.
+/// 3. query() visits, in ascending order, the positions of every run whose box touches the area. No item that touches it is
+///    missed; the visitor sorts out the others of the run.
 /// 4. How the items are spread makes runs larger or smaller, never an answer wrong. Building costs a sort, a query one
 ///    comparison a run.
 class SpatialIndex {
@@ -26,24 +29,27 @@ public:
   };
 
   /// The order in which the owner has to arrange its records: by position the index in boxes.
-  std::vector<int> build(const std::vector<Box> &boxes);
+  std::vector<Index> build(const std::vector<Box> &boxes);
   void clear();
 
   const Box &bounds() const { return m_bounds; }
 
-  /// Calls visit(first, last) for runs of positions that may touch the box, in order; last is excluded.
+  /// Calls visit(position) for the positions whose items may touch the box, in order.
   template <typename Visitor>
-  void query(const Box &area, Visitor visit) const {
-    for (std::size_t i = 0; i < m_runs.size(); ++i) {
-      if (m_runs[i].touches(area))
-        visit(static_cast<int>(i) * RunLength, i + 1 == m_runs.size() ? m_count : static_cast<int>(i + 1) * RunLength);
+  void query(const Box &area, const Visitor &visit) const {
+    Index first = 0;
+    for (const Box &run : m_runs) {
+      const Index end = std::min(first + RunLength, m_count);
+      for (Index i = run.touches(area) ? first : end; i < end; ++i)
+        visit(i);
+      first = end;
     }
   }
 
 private:
-  static constexpr int RunLength = 64;
+  static constexpr Index RunLength = 64;
 
   std::vector<Box> m_runs;
   Box m_bounds;
-  int m_count = 0;
+  Index m_count = 0;
 };

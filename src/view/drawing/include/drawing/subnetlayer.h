@@ -28,9 +28,9 @@ public:
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 
   struct Placed {
-    int subnet = 0; ///< index in the subnets of the geometry
-    QRectF box;     ///< px
-    int others = 0; ///< that stand behind it
+    Index subnet = 0; ///< in the subnets of the geometry
+    QRectF box;       ///< px
+    int others = 0;   ///< that stand behind it
   };
   /// What is drawn on this canvas; boxes that would overlap share one.
   std::vector<Placed> layOut(const Projection &projection) const;
@@ -45,12 +45,12 @@ private:
     std::vector<QPointF> pins;
     double width = 0.0;
     double visSize = 0.0; ///< px, 0 when it says nothing
-    int symbol = -1;
+    Index symbol = NoIndex;
     QColor ring;
     QColor ground;
   };
 
-  bool isHidden(std::size_t subnet) const { return m_filter.hides({NetData::AssembledSubnet, static_cast<int>(subnet)}); }
+  bool isHidden(Index subnet) const { return m_filter.hides({NetData::AssembledSubnet, subnet}); }
   double sizeOf(const Record &record, const Projection &projection) const;
   void drawPins(QPainter &painter, const Record &record, const QRectF &box, const Projection &projection) const;
 

@@ -54,7 +54,7 @@ public:
     QSizeF extent;      ///< px, what the symbol or the figure covers
     double angle = 0.0; ///< degrees, clockwise
     int others = 0;     ///< that stand behind it
-    int record = 0;
+    Index record = 0;
     bool isFigure = false;
 
     /// Whether the point lies on it: in the circle of a symbol, in the rectangle of a figure.
@@ -73,9 +73,9 @@ private:
     double dx = 0.0; ///< direction in plot units; none for what stands at a point
     double dy = 0.0;
     NetGeometry::Item item;
-    int symbol = -1;  ///< of m_symbols
-    int figure = -1;  ///< of m_figures, in place of the symbol
-    int priority = 0; ///< lower is more important
+    Index symbol = NoIndex; ///< of m_symbols
+    Index figure = NoIndex; ///< of m_figures, in place of the symbol
+    Index priority = 0;     ///< lower is more important
     float lane = 0.0F;
     float size = 1.0F; ///< share of the common size
     bool isVisible = true;
@@ -85,13 +85,13 @@ private:
   struct Layout {
     Projection projection;
     std::vector<Placed> placed;
-    std::vector<std::pair<int, int>> behind; ///< a symbol, by its index in placed, and a record that stands behind it
+    std::vector<std::pair<Index, Index>> behind; ///< a symbol, by its index in placed, and a record that stands behind it
   };
 
   Layout layOut(const Projection &projection) const;
-  Placed placed(int record, const QPointF &center, double size, const Projection &projection) const;
+  Placed placed(Index record, const QPointF &center, double size, const Projection &projection) const;
   std::vector<Record> records(const NetGeometry &geometry);
-  int symbolOf(const NetGeometry::Edge &edge);
+  Index symbolOf(const NetGeometry::Edge &edge);
   QPointF centerOf(const Record &record, const Projection &projection) const;
 
   mutable StationSymbols m_symbols; ///< a cache of pixmaps

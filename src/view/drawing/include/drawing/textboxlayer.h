@@ -36,8 +36,8 @@ private:
     double y = 0.0;
     QStringList lines;
     LabelStyle style;
-    int textBox = 0; ///< index in the text boxes of the geometry
-    QSizeF size;     ///< px, on a screen
+    Index textBox = 0; ///< in the text boxes of the geometry
+    QSizeF size;       ///< px, on a screen
   };
   struct Placed {
     const Record *record;

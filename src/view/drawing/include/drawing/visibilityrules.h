@@ -33,10 +33,10 @@ private:
 
   static Rule ruleOf(const QString &vis, const QString &zoom);
   void add(NetGeometry::Item item, const QString &vis, const QString &zoom);
-  static quint64 key(NetGeometry::Item item) { return (quint64(item.kind) << 32U) | quint32(item.index); }
+  static quint64 key(NetGeometry::Item item) { return (quint64(item.kind) << 32U) | item.index; }
 
   std::vector<Rule> m_rules;
-  QHash<quint64, int> m_items; ///< of elements with a rule
+  QHash<quint64, Index> m_items; ///< of elements with a rule
   QHash<QString, State> m_types;
   const NetGeometry *m_geometry = nullptr;
 };
