@@ -100,12 +100,11 @@ QString NivraViewer::openDialogStart(const QString &applicationDir) {
 }
 
 void NivraViewer::on_actionOpen_triggered() {
-  LastFolder &folder = LastFolder::ofOpening();
+  const LastFolder &folder = LastFolder::ofOpening();
   const QString path = QFileDialog::getOpenFileName(
       this, tr("Select Geometry or Scenario File"),
       folder.path().isEmpty() ? openDialogStart(QCoreApplication::applicationDirPath()) : folder.path(),
       tr("Scenario Files (*.scen *.scen.jsn);;Geom Files (*.geom *.geom.jsn)"));
-  folder.remember(path);
   if (!path.isEmpty())
     open(path);
 }
@@ -166,6 +165,7 @@ void NivraViewer::openWorkspace(const QString &path) {
     return;
   }
   m_loader.useWorkspaceOf(loader);
+  LastFolder::ofOpening().remember(path); // from wherever it came
   if (centralWidget() != m_control->plot())
     setCentralWidget(m_control->plot());
   QCoreApplication::processEvents();

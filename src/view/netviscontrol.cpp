@@ -87,6 +87,7 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
     std::for_each(found.begin(), found.end(), m_plot->told());
   m_picker->reset();
   m_plot->update().setNetData(&m_net);
+  m_plot->update().setDisplayMode(NetUpdate::DisplayMode::Functions); // nothing was searched for in it
   m_plot->update().setFolder(folder, m_subnetIcons);
   m_plot->update().setLabelTable(labels);
   m_plot->showNetwork();

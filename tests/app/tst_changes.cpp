@@ -225,7 +225,9 @@ void TestChanges::anotherCaseForgetsWhatWaits() {
   Case c;
   c.setPressure("A", "20");
   c.layers().on_toolButtonHideAll_clicked();
+  c.viewer.visControl()->setShowsSearchResults(true);
   c.viewer.open(c.workspace.geometry());
+  QVERIFY(!c.viewer.visControl()->showsSearchResults()); // all of it would be grey
   Updates updates(*c.viewer.visControl());
   QCOMPARE(updates.take(), 0);
   QCOMPARE(c.net().element(QStringLiteral("A"))->value(QStringLiteral("half")), QStringLiteral("25"));

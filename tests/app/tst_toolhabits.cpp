@@ -206,8 +206,10 @@ void TestToolHabits::dialogsRememberTheirFolder() {
   const QString saved = QDir(folder.path()).canonicalPath();
   NivraViewer viewer;
   {
+    viewer.open(m_workspace.geometry()); // as from the command line
     const FileDialogAnswer first(m_workspace.geometry());
     viewer.on_actionOpen_triggered();
+    QCOMPARE(first.folder, QFileInfo(m_workspace.geometry()).dir().canonicalPath());
   }
   {
     const FileDialogAnswer second(m_workspace.geometry());

@@ -38,6 +38,7 @@ private slots:
   void visibility_data();
   void visibility();
   void onlySymbolsFollowWhenLabelsAreOff();
+  void labelsThatWentStayAway();
   void numbersBesideEachOtherLookAlike();
   void richTextTakesTheColourOfTheTable();
   void entitiesAreCharacters();
@@ -424,6 +425,20 @@ void TestLabels::onlySymbolsFollowWhenLabelsAreOff() {
     f.plot().zoomer()->zoomIn({200, 50});
   f.plot().update().requestPixtest(-1);
   QCOMPARE(f.plot().update().determineVisibleSymbols().size(), std::size_t(1));
+  QVERIFY(f.plot().update().labels().empty());
+}
+
+/// Labels are for a view close by. Where there is nothing to label none stands, and none may come with the next values.
+void TestLabels::labelsThatWentStayAway() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  f.plot().zoomer()->zoom(QRectF(60, 40, 30, 20));
+  f.plot().update().requestPixtest(-1);
+  f.plot().zoomer()->zoom(0);
+  f.plot().update().requestPixtest(-1);
+  QVERIFY(f.plot().update().labels().empty());
+  f.control.redraw();
   QVERIFY(f.plot().update().labels().empty());
 }
 

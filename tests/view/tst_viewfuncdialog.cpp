@@ -45,6 +45,7 @@ private slots:
   void boundsBelongToAFunction();
   void typedBoundsOfAnybody();
   void listsOfferWhatTheNetworkHas();
+  void whatIsTypedIsTaken();
   void boundOutsideTheDataIsTold();
   void gridIsShown();
   void applyingAgainKeepsTheLabels();
@@ -445,6 +446,24 @@ void TestViewFuncDialog::listsOfferWhatTheNetworkHas() {
   const QImage picture = f.picture();
   QCOMPARE(picture.pixelColor(f.pixel(25, 0)).hsvHue(), 240);
   QVERIFY(picture.pixelColor(f.pixel(125, 0)).hsvHue() <= 0);
+}
+
+/// Also where a longer name begins with it.
+void TestViewFuncDialog::whatIsTypedIsTaken() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("qmax"), QStringLiteral("9"));
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  dialog.show();
+  auto *function = child<QComboBox>(*row(dialog, 0), "function");
+  QVERIFY(function->findText(QStringLiteral("qmax")) >= 0);
+  dialog.activateWindow();
+  function->setFocus();
+  QVERIFY(QTest::qWaitForWindowActive(&dialog));
+  function->lineEdit()->selectAll();
+  QTest::keyClicks(function->lineEdit(), QStringLiteral("qm"));
+  QTest::keyClick(function->lineEdit(), Qt::Key_Return);
+  QCOMPARE(function->currentText(), QStringLiteral("qm"));
 }
 
 void TestViewFuncDialog::boundOutsideTheDataIsTold() {

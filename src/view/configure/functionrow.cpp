@@ -5,6 +5,7 @@
 #include <drawing/drawfunctions.h>
 #include <drawing/plotsettings.h>
 
+#include <QCompleter>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
@@ -66,6 +67,8 @@ FunctionRow::FunctionRow(const QString &title, const QString &absoluteTip, UnitO
   m_ui->absolute->setToolTip(absoluteTip);
   m_ui->function->setMinimumContentsLength(10);
   m_ui->function->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  // Completed in place, a name that another one begins with could not be typed.
+  m_ui->function->completer()->setCompletionMode(QCompleter::PopupCompletion);
   m_ui->function->setItemDelegate(new DescribedNames(m_ui->function));
   connect(m_ui->resetMinimum, &QPushButton::clicked, this,
           [this] { m_ui->minimum->setText(inUnit(m_applied.value(m_function)).minimum); });

@@ -229,8 +229,7 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
   if (labels == Pixtest::Labels::With) {
     placeLabels();
     hasChanged = true;
-  } else if (!m_labels.labels().empty() && !m_pixtest.isPending() &&
-             std::abs(units - m_labels.unitsPerPixel()) > SameScale * units) {
+  } else if (m_hasPlacedLabels && !m_pixtest.isPending() && std::abs(units - m_labels.unitsPerPixel()) > SameScale * units) {
     clearLabels(); // none is to be placed for this view
     hasChanged = true;
   }
