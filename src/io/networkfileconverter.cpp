@@ -80,7 +80,7 @@ private:
 
   void take(std::string_view name, const SetPointRecord &point, int line) {
     if (point.isComplete) {
-      const QString property = QString::fromStdString(point.property);
+      const QString property = decoded(point.property);
       if (point.doubt != nullptr)
         m_report.doubt(property, decoded(name), point.doubt, line);
       m_writer.writeSetPoint(name, {PropertyKey::intern(std::string_view(point.property)), point.value, point.isNumber},
@@ -104,9 +104,9 @@ private:
     }
     m_report.values(parsed, line);
     for (const RecordRemark &dropped : parsed.dropped)
-      m_result.report.drop(QString::fromStdString(dropped.key), ReadReport::tr(dropped.reason));
+      m_result.report.drop(decoded(dropped.key), ReadReport::tr(dropped.reason));
     m_writer.write(parsed.name, type, std::move(values));
-    m_result.report.take(type.empty() ? Texts::tr("element with values") : QString::fromStdString(type));
+    m_result.report.take(type.empty() ? Texts::tr("element with values") : decoded(type));
     ++m_result.records;
   }
 

@@ -67,10 +67,10 @@ void ReadReport::values(const ElementRecord &element, int line) {
   const QString name = decoded(element.name);
   for (const RecordRemark &dropped : element.dropped)
     add(Kind::DroppedProperty, line,
-        tr("Property %1 of element %2 is left out: %3").arg(QString::fromStdString(dropped.key), name, tr(dropped.reason)),
-        QString(), name);
+        tr("Property %1 of element %2 is left out: %3").arg(decoded(dropped.key), name, tr(dropped.reason)), QString(),
+        name);
   for (const RecordRemark &doubtful : element.doubtful)
-    doubt(QString::fromStdString(doubtful.key), name, doubtful.reason, line);
+    doubt(decoded(doubtful.key), name, doubtful.reason, line);
 }
 
 void ReadReport::doubt(const QString &property, const QString &element, const char *reason, int line) {

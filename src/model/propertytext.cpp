@@ -1,3 +1,4 @@
+#include <base/textdecoding.h>
 #include <model/propertytext.h>
 
 #include <algorithm>
@@ -61,8 +62,7 @@ std::string_view PropertyText::heapText() const noexcept {
 }
 
 QString PropertyText::toString() const {
-  const std::string_view text = utf8();
-  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+  return TextDecoding::decoded(utf8());
 }
 
 PropertyText PropertyText::ofNumber(double number, int significantDigits) {

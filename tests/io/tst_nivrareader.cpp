@@ -30,6 +30,8 @@ private slots:
   void massFlowsNeedTheGas_data();
   void massFlowsNeedTheGas();
   void companionFiles();
+  void namesWithByteOrderMarks_data();
+  void namesWithByteOrderMarks();
   void gasInTheOtherForm();
   void logLines_data();
   void logLines();
@@ -318,6 +320,40 @@ void TestNivraReader::massFlowsNeedTheGas() {
   if (qset.isEmpty()) {
     QCOMPARE(result.findings[0].line, 3);
     QCOMPARE(result.findings[0].file, scenario);
+  }
+}
+
+void TestNivraReader::namesWithByteOrderMarks_data() {
+  QTest::addColumn<QByteArray>("gases");
+  QTest::addColumn<QString>("qset");
+  QTest::newRow("gas known") << QByteArray(R"("G":{"obj_type":"gas","rhon":0.8})") << QStringLiteral("45");
+  QTest::newRow("gas unknown") << QByteArray() << QString();
+}
+
+/// In front of a name the mark is a part of it, for values as for messages.
+void TestNivraReader::namesWithByteOrderMarks() {
+  QFETCH(QByteArray, gases);
+  QFETCH(QString, qset);
+  const QString name = QStringLiteral("\uFEFFN");
+  NetData net;
+  read(net, "{\n"
+            R"("\uFEFFN":{"obj_type":"node","\uFEFFx":1,"x":2},"N":{"obj_type":"node"})"
+            "\n}\n");
+  QCOMPARE(net.nodes().size(), std::size_t(2));
+  const element *node = net.element(name);
+  QVERIFY(node != nullptr && node->value(QStringLiteral("name")) == name);
+  QCOMPARE(node->value(QStringLiteral("\uFEFFx")), QStringLiteral("1"));
+  write(QStringLiteral("m.gas.jsn"), gases);
+  const QString scenario = write(QStringLiteral("m.scen.jsn"), "{\n"
+                                                               R"("\uFEFFN":[{"property":"qset","value":10,"unit":"kg/s"}])"
+                                                               "\n}\n");
+  const auto result = NivraReader(net).readScenarioJsn(scenario.chopped(4), NivraScenario(), {});
+  QCOMPARE(node->value(QStringLiteral("qset")), qset);
+  QCOMPARE(net.element(QStringLiteral("N"))->value(QStringLiteral("qset")), QString());
+  QCOMPARE(result.findings.empty(), !qset.isEmpty());
+  if (qset.isEmpty()) {
+    QCOMPARE(result.findings[0].element, name);
+    QVERIFY2(result.findings[0].text.contains(name), qPrintable(result.findings[0].text));
   }
 }
 

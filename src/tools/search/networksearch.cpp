@@ -1,4 +1,5 @@
 #include <base/parallel.h>
+#include <base/textdecoding.h>
 #include <model/names.h>
 #include <tools/networksearch.h>
 
@@ -127,7 +128,7 @@ bool NetworkSearch::matchesName(const QString &name) const {
 const NetworkSearch::Type &NetworkSearch::type(std::string_view utf8) {
   if (m_current.utf8 != utf8) { // elements of one type follow one another
     m_current.utf8 = utf8;
-    m_current.text = QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+    m_current.text = TextDecoding::decoded(utf8);
     m_current.matches = m_type.matches(m_current.text);
   }
   return m_current;
