@@ -79,6 +79,8 @@ void TestNivraReader::values_data() {
   row("true", "true");
   row("null", nullptr, 1);
   row("[1,{\"a\":2}]", nullptr, 1);
+  row("[1],\"z\":1e400", nullptr, 2);
+  row("{\"a\":[-1e400,null,true,\"x\"],\"b\":{}}", nullptr, 1);
 }
 
 void TestNivraReader::values() {
@@ -107,6 +109,9 @@ void TestNivraReader::badLines_data() {
   QTest::newRow("bad escape") << QByteArray(R"(,"B":{"obj_type":"node","p":"\x"})") << json;
   QTest::newRow("not UTF-8") << QByteArray("\"B\":{\"obj_type\":\"node\",\"p\":\"\xff\xfe\"}") << json;
   QTest::newRow("broken inside what is skipped") << QByteArray(R"(,"B":{"obj_type":"node","p":[1,,2]})") << json;
+  for (const char *broken : {"[1", "[1}", "[1,]", "[012]", "[tru]", "[nul]", R"(["\x"])", R"(["a":1])", R"({"a" 1})",
+                             R"({"a":1,})", R"({"a":1 2})", R"({1:2})", R"([{"a":[}]}])"})
+    QTest::newRow(broken) << R"(,"B":{"obj_type":"node","p":)" + QByteArray(broken) + "}" << json;
   QTest::newRow("deep") << QByteArray(R"(,"B":{"obj_type":"node","p":)") + QByteArray(10000, '[') + QByteArray(10000, ']') +
                                "}"
                         << json;
