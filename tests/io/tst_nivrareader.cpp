@@ -37,6 +37,7 @@ private slots:
   void logLines();
   void specialFilesAreRefused_data();
   void specialFilesAreRefused();
+  void companionsThatCannotBeRead();
   void readErrorsEndAndAreTold_data();
   void readErrorsEndAndAreTold();
   void manyFindingsOfAKindAreCounted();
@@ -460,6 +461,22 @@ void TestNivraReader::specialFilesAreRefused() {
     QVERIFY2(told.contains(reason), qPrintable(told));
     QFile::remove(folder + file);
   }
+}
+
+/// Which one, and why.
+void TestNivraReader::companionsThatCannotBeRead() {
+  write(QStringLiteral("u.scen.jsn"), "{\n}\n");
+  const QString results = m_folder.filePath(QStringLiteral("u.res.jsn"));
+  const QString fixes = m_folder.filePath(QStringLiteral("u.fix.jsn"));
+  QVERIFY(QDir().mkdir(results));
+  QCOMPARE(::mkfifo(QFile::encodeName(fixes).constData(), 0600), 0);
+  QStringList log;
+  NetData net;
+  NivraReader reader(net, [&log](const Finding &told) { log.append(told.text); });
+  reader.readScenarioJsn(m_folder.filePath(QStringLiteral("u.scen")), NivraScenario(), {});
+  for (const QString &line : {QStringLiteral("Could not read .res.jsn file: %1: is a directory").arg(results),
+                              QStringLiteral("Could not read .fix.jsn file: %1: is not a regular file").arg(fixes)})
+    QVERIFY2(log.contains(line), qPrintable(log.join(QLatin1Char('\n'))));
 }
 
 void TestNivraReader::readErrorsEndAndAreTold_data() {
