@@ -147,28 +147,28 @@ void TextFileWriter::putCell(std::string_view text) {
   const bool isPlain = !text.empty() && text.find_first_of(Special) == std::string_view::npos && text.front() != ' ' &&
                        text.back() != ' ' && (isPlainNumber(text) || !isNumber(text));
   if (isPlain)
-    NetworkFileWriter::put(text);
+    put(text);
   else
     putQuoted(text);
 }
 
 void TextFileWriter::putQuoted(std::string_view text) {
-  NetworkFileWriter::put("\"");
+  put("\"");
   while (true) {
     const std::size_t quote = text.find('"');
-    NetworkFileWriter::put(text.substr(0, quote));
+    put(text.substr(0, quote));
     if (quote == std::string_view::npos)
       break;
-    NetworkFileWriter::put("\"\"");
+    put("\"\"");
     text.remove_prefix(quote + 1);
   }
-  NetworkFileWriter::put("\"");
+  put("\"");
 }
 
 /// Numbers stand without quotes, texts that look like numbers in them.
 void TextFileWriter::putValue(const Value &value) {
   if (value.isNumber)
-    NetworkFileWriter::put(value.text.utf8());
+    put(value.text.utf8());
   else if (isNumber(value.text.utf8()))
     putQuoted(value.text.utf8());
   else
@@ -264,34 +264,34 @@ const char *TextFileWriter::writeSetPoint(std::string_view name, const Value &va
   if (!room.take(name) || !room.take(value.key.utf8()) || !room.take(value.text.utf8()) || !room.take(unit))
     return NoRoom;
   if (!m_hasSetPoints)
-    NetworkFileWriter::put("name;property;value;unit\n");
+    put("name;property;value;unit\n");
   m_hasSetPoints = true;
   putName(name);
-  NetworkFileWriter::put(";");
+  put(";");
   putCell(value.key.utf8());
-  NetworkFileWriter::put(";");
+  put(";");
   putValue(value);
   if (!unit.empty()) {
-    NetworkFileWriter::put(";");
+    put(";");
     putCell(unit);
   }
-  NetworkFileWriter::put("\n");
+  put("\n");
   return nullptr;
 }
 
-void TextFileWriter::put(const Table &table) {
+void TextFileWriter::putTable(const Table &table) {
   if (m_hasTables)
-    NetworkFileWriter::put("\n");
+    put("\n");
   m_hasTables = true;
   if (m_isBelowType || !table.type.empty())
-    NetworkFileWriter::put("[" + table.type + "]\n");
+    put("[" + table.type + "]\n");
   m_isBelowType = !table.type.empty();
-  NetworkFileWriter::put("name");
+  put("name");
   for (const PropertyKey column : table.columns) {
-    NetworkFileWriter::put(";");
+    put(";");
     putCell(column.utf8());
   }
-  NetworkFileWriter::put("\n");
+  put("\n");
   for (const Row &row : table.rows) {
     putName(row.name.utf8());
     std::size_t separators = 0; // that are written
@@ -299,17 +299,17 @@ void TextFileWriter::put(const Table &table) {
       const Cell &cell = row.cells[i];
       if (i + 1 < row.cells.size() && row.cells[i + 1].column == cell.column)
         continue; // of a property given twice the last value counts
-      NetworkFileWriter::put(std::string(cell.column + 1 - separators, ';'));
+      put(std::string(cell.column + 1 - separators, ';'));
       separators = cell.column + 1;
       putValue(cell.value);
     }
-    NetworkFileWriter::put("\n");
+    put("\n");
   }
 }
 
 void TextFileWriter::putTables() {
   for (const Table &table : m_tables)
-    put(table);
+    putTable(table);
   m_tables.clear();
   m_byShape.clear();
   m_names.clear();

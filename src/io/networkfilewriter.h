@@ -109,7 +109,7 @@ private:
   void putCell(std::string_view text);
   void putQuoted(std::string_view text);
   void putValue(const Value &value);
-  void put(const Table &table);
+  void putTable(const Table &table);
   void putTables();
   Table &tableOf(std::string type, const std::vector<Value> &values);
   /// Null, or why the value is left out.
