@@ -105,6 +105,8 @@ QString confinementFault(const QString &path) {
   const QString within = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
   if (reached == folder || reached.startsWith(within))
     return QString();
+  if (reached.isEmpty())
+    return QCoreApplication::translate("FileAccess", "leads nowhere: into a circle of links, or a folder that is not there");
   return QCoreApplication::translate("FileAccess", "leads out of the workspace, to %1").arg(reached);
 }
 

@@ -1,4 +1,5 @@
 #include <base/pattern.h>
+#include <base/textdecoding.h>
 
 #include <algorithm>
 
@@ -46,7 +47,7 @@ bool Pattern::matches(std::string_view utf8) const {
     m_text.resize(static_cast<int>(utf8.size()));
     std::transform(utf8.begin(), utf8.end(), m_text.begin(), [](char c) { return QChar(ushort(c)); });
   } else {
-    m_text = QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+    m_text = TextDecoding::decoded(utf8);
   }
   return matches(m_text);
 }

@@ -2,6 +2,13 @@
 
 #include <QTextCodec>
 
+QString TextDecoding::decoded(std::string_view utf8) {
+  QString text = QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+  if (utf8.substr(0, 3) == "\xEF\xBB\xBF")
+    text.prepend(QChar(QChar::ByteOrderMark));
+  return text;
+}
+
 std::optional<QString> TextDecoding::fromUtf8(const QByteArray &bytes) {
   QTextCodec::ConverterState state;
   QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);

@@ -99,9 +99,7 @@ bool ElementBuilder::buildElement(ElementRecord &parsed, int line, element &buil
   }
   const ElementType *type = knownType(word);
   if (type == nullptr) {
-    m_report.add(ReadReport::Kind::UnknownType, line,
-                 ReadReport::tr("ERROR: Type %1 of element %2 not known! Element will be erased!")
-                     .arg(decoded(word).trimmed(), decoded(parsed.name)));
+    m_report.unknownType(decoded(word).trimmed(), decoded(parsed.name), line);
     return false;
   }
   if (!isTypeIncluded(type->word, type->code))

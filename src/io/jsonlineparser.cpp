@@ -35,14 +35,13 @@ private:
   simdjson::error_code readValue(simdjson::ondemand::value value, RecordValue &read, const char *&dropped);
   simdjson::error_code readList(simdjson::ondemand::array list, SetPointsRecord &target);
   simdjson::error_code readPoint(simdjson::ondemand::object object, SetPointRecord &point);
-  const char *finish(simdjson::error_code error);
+  simdjson::error_code skip(simdjson::ondemand::value value, simdjson::ondemand::json_type type);
+  const char *finish();
 
   simdjson::ondemand::parser m_parser;
   simdjson::ondemand::document m_document;
-  simdjson::dom::parser m_strict; ///< for the rare lines with parts that the walk skips
-  std::string_view m_text;
   RecordNumbers m_numbers;
-  bool m_skipped = false;
+  int m_skippedDepth = 0; ///< of lists and objects that are left out
 };
 
 error_code JsonLineParser::Engine::begin(const LineReader::Line &line, simdjson::ondemand::object &object) {
@@ -56,22 +55,16 @@ error_code JsonLineParser::Engine::begin(const LineReader::Line &line, simdjson:
   text[0] = '{';
   text[size] = '}';
   ++size;
-  m_text = std::string_view(text, size);
-  m_skipped = false;
+  m_skippedDepth = 0;
   const std::size_t capacity = line.capacity + static_cast<std::size_t>(line.text - text);
   if (const error_code error = m_parser.iterate(text, size, capacity).get(m_document); error != simdjson::SUCCESS)
     return error;
   return m_document.get_object().get(object);
 }
 
-const char *JsonLineParser::Engine::finish(error_code error) {
-  if (error == simdjson::SUCCESS && m_document.current_location().error() == simdjson::SUCCESS)
-    error = simdjson::TRAILING_CONTENT;
-  if (error == simdjson::SUCCESS && m_skipped) {
-    simdjson::dom::element whole;
-    error = m_strict.parse(m_text.data(), m_text.size()).get(whole);
-  }
-  return error == simdjson::SUCCESS ? nullptr : simdjson::error_message(error);
+const char *JsonLineParser::Engine::finish() {
+  const bool isAtEnd = m_document.current_location().error() != simdjson::SUCCESS;
+  return isAtEnd ? nullptr : simdjson::error_message(simdjson::TRAILING_CONTENT);
 }
 
 const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vector<ElementRecord> &elements,
@@ -91,7 +84,7 @@ const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vec
         (error = readElement(properties, element)) != simdjson::SUCCESS)
       return simdjson::error_message(error);
   }
-  return finish(error);
+  return finish();
 }
 
 error_code JsonLineParser::Engine::readElement(simdjson::ondemand::object object, ElementRecord &element) {
@@ -152,9 +145,40 @@ error_code JsonLineParser::Engine::readValue(simdjson::ondemand::value value, Re
     return trimmed(value.raw_json_token()) == "null" ? simdjson::SUCCESS : simdjson::N_ATOM_ERROR;
   default:
     dropped = QT_TRANSLATE_NOOP("ReadReport", "the value is neither number nor text");
-    m_skipped = true;
-    return simdjson::SUCCESS;
+    return skip(value, type);
   }
+}
+
+/// Walks over a list or an object, which the library by itself would pass over unseen, however broken it is.
+error_code JsonLineParser::Engine::skip(simdjson::ondemand::value value, simdjson::ondemand::json_type type) {
+  constexpr int DeepestSkipped = 1000;
+  if (m_skippedDepth == DeepestSkipped)
+    return simdjson::DEPTH_ERROR;
+  ++m_skippedDepth;
+  RecordValue ignored;
+  const char *dropped = nullptr;
+  error_code error = simdjson::SUCCESS;
+  if (type == simdjson::ondemand::json_type::array) {
+    simdjson::ondemand::array list;
+    if ((error = value.get_array().get(list)) != simdjson::SUCCESS)
+      return error;
+    for (auto entry : list) {
+      simdjson::ondemand::value inner;
+      if ((error = entry.get(inner)) != simdjson::SUCCESS ||
+          (error = readValue(inner, ignored, dropped)) != simdjson::SUCCESS)
+        return error;
+    }
+  } else {
+    simdjson::ondemand::object object;
+    if ((error = value.get_object().get(object)) != simdjson::SUCCESS)
+      return error;
+    for (auto member : object) {
+      if ((error = readMember(member, ignored, dropped)) != simdjson::SUCCESS)
+        return error;
+    }
+  }
+  --m_skippedDepth;
+  return simdjson::SUCCESS;
 }
 
 const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vector<SetPointsRecord> &setPoints) {
@@ -173,7 +197,7 @@ const char *JsonLineParser::Engine::parse(const LineReader::Line &line, std::vec
     if ((error = readList(list, setPoints.back())) != simdjson::SUCCESS)
       return simdjson::error_message(error);
   }
-  return finish(error);
+  return finish();
 }
 
 error_code JsonLineParser::Engine::readList(simdjson::ondemand::array list, SetPointsRecord &target) {

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <iterator>
 #include <memory>
 
 namespace {
@@ -44,6 +45,7 @@ public:
       : m_path(path)
       , m_writer(writer)
       , m_report(path)
+      , m_needsTypes(shape(path) == QLatin1String("geom"))
       , m_result(result) {}
 
   /// False when the file cannot be read.
@@ -80,11 +82,16 @@ private:
 
   void take(std::string_view name, const SetPointRecord &point, int line) {
     if (point.isComplete) {
-      const QString property = QString::fromStdString(point.property);
+      const QString property = decoded(point.property);
       if (point.doubt != nullptr)
         m_report.doubt(property, decoded(name), point.doubt, line);
-      m_writer.writeSetPoint(name, {PropertyKey::intern(std::string_view(point.property)), point.value, point.isNumber},
-                             point.unit);
+      const char *reason = m_writer.writeSetPoint(
+          name, {PropertyKey::intern(std::string_view(point.property)), point.value, point.isNumber}, point.unit);
+      if (reason != nullptr) {
+        m_report.leftOut(property, decoded(name), reason, line);
+        m_result.report.drop(Texts::tr("value"), ReadReport::tr(reason));
+        return;
+      }
       m_result.report.take(property);
       ++m_result.records;
     } else {
@@ -102,17 +109,30 @@ private:
       else
         values.push_back({PropertyKey::intern(value.key), std::move(value.text), value.isNumber});
     }
+    const QString word = decoded(type).trimmed();
+    if (m_needsTypes && (word.isEmpty() || !TextFileWriter::canHoldType(word.toStdString()))) {
+      m_report.unknownType(word, decoded(parsed.name), line);
+      m_result.report.drop(Texts::tr("element"), Texts::tr("type not known"));
+      return;
+    }
+    NetworkFileWriter::LeftOut leftOut = m_writer.write(parsed.name, type, std::move(values));
+    if (leftOut.element != nullptr) {
+      m_report.leftOut(decoded(parsed.name), leftOut.element, line);
+      m_result.report.drop(Texts::tr("element"), ReadReport::tr(leftOut.element));
+      return;
+    }
+    std::move(leftOut.values.begin(), leftOut.values.end(), std::back_inserter(parsed.dropped));
     m_report.values(parsed, line);
     for (const RecordRemark &dropped : parsed.dropped)
-      m_result.report.drop(QString::fromStdString(dropped.key), ReadReport::tr(dropped.reason));
-    m_writer.write(parsed.name, type, std::move(values));
-    m_result.report.take(type.empty() ? Texts::tr("element with values") : QString::fromStdString(type));
+      m_result.report.drop(decoded(dropped.key), ReadReport::tr(dropped.reason));
+    m_result.report.take(type.empty() ? Texts::tr("element with values") : decoded(type));
     ++m_result.records;
   }
 
   QString m_path;
   NetworkFileWriter &m_writer;
   ReadReport m_report;
+  bool m_needsTypes; ///< reading knows no element without one
   NetworkFileConverter::Result &m_result;
 };
 

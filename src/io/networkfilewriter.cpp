@@ -20,6 +20,9 @@ bool isNumber(std::string_view text) {
   return numberText(text, read) != NumberText::Invalid;
 }
 
+constexpr const char *NoRoom =
+    QT_TRANSLATE_NOOP("ReadReport", "a row of the text form holds 200 line breaks and 32 MB at most");
+
 } // namespace
 
 void NetworkFileWriter::put(std::string_view text) {
@@ -83,7 +86,7 @@ void JsonFileWriter::beginMember(std::string_view name) {
   put(":");
 }
 
-void JsonFileWriter::write(std::string_view name, std::string_view type, std::vector<Value> values) {
+NetworkFileWriter::LeftOut JsonFileWriter::write(std::string_view name, std::string_view type, std::vector<Value> values) {
   beginMember(name);
   put("{");
   bool isFirst = type.empty();
@@ -101,6 +104,7 @@ void JsonFileWriter::write(std::string_view name, std::string_view type, std::ve
     putValue(value);
   }
   put("}\n");
+  return {};
 }
 
 void JsonFileWriter::endSetPoints() {
@@ -109,7 +113,7 @@ void JsonFileWriter::endSetPoints() {
   m_hasSetPoints = false;
 }
 
-void JsonFileWriter::writeSetPoint(std::string_view name, const Value &value, std::string_view unit) {
+const char *JsonFileWriter::writeSetPoint(std::string_view name, const Value &value, std::string_view unit) {
   if (m_hasSetPoints && m_setPointsOf == name) {
     put(",");
   } else {
@@ -128,6 +132,7 @@ void JsonFileWriter::writeSetPoint(std::string_view name, const Value &value, st
     putText(unit);
   }
   put("}");
+  return nullptr;
 }
 
 bool JsonFileWriter::finish() {
@@ -178,7 +183,23 @@ void TextFileWriter::putName(std::string_view text) {
     putCell(text);
 }
 
-void TextFileWriter::write(std::string_view name, std::string_view type, std::vector<Value> values) {
+bool TextFileWriter::canHoldType(std::string_view word) {
+  return word.find_first_of("]\n") == std::string_view::npos;
+}
+
+bool TextFileWriter::Room::take(std::string_view cell) {
+  constexpr std::size_t QuotesAndSeparator = 3;
+  const auto lineBreaks = static_cast<std::size_t>(std::count(cell.begin(), cell.end(), '\n'));
+  const std::size_t bytes =
+      cell.size() + static_cast<std::size_t>(std::count(cell.begin(), cell.end(), '"')) + QuotesAndSeparator;
+  if (lineBreaks > m_lineBreaks || bytes > m_bytes)
+    return false;
+  m_lineBreaks -= lineBreaks;
+  m_bytes -= bytes;
+  return true;
+}
+
+TextFileWriter::Table &TextFileWriter::tableOf(std::string type, const std::vector<Value> &values) {
   std::string shape(type);
   if (type.empty()) {
     for (const Value &value : values) {
@@ -188,20 +209,60 @@ void TextFileWriter::write(std::string_view name, std::string_view type, std::ve
   }
   const auto [entry, isNew] = m_byShape.try_emplace(std::move(shape), m_tables.size());
   if (isNew)
-    m_tables.push_back({std::string(type), {}, {}, {}});
-  Table &table = m_tables[entry->second];
+    m_tables.emplace_back().type = std::move(type);
+  return m_tables[entry->second];
+}
+
+const char *TextFileWriter::add(Value value, Table &table, Row &row, Room &room) {
+  const std::string_view key = value.key.utf8();
+  if (key.empty())
+    return QT_TRANSLATE_NOOP("ReadReport", "it has no name");
+  if (!room.take(value.text.utf8()))
+    return NoRoom;
+  auto column = table.columnOf.find(value.key);
+  if (column == table.columnOf.end()) {
+    if (!table.header.take(key))
+      return NoRoom;
+    column = table.columnOf.emplace(value.key, table.columns.size()).first;
+    table.columns.push_back(value.key);
+  }
+  row.cells.push_back({column->second, std::move(value)});
+  return nullptr;
+}
+
+NetworkFileWriter::LeftOut TextFileWriter::write(std::string_view name, std::string_view type, std::vector<Value> values) {
+  LeftOut leftOut;
+  Room room;
+  if (!room.take(name)) {
+    leftOut.element = NoRoom;
+    return leftOut;
+  }
+  std::string word = decoded(type).trimmed().toStdString();
+  if (!canHoldType(word)) {
+    leftOut.values.push_back(
+        {std::string(TypeMember), QT_TRANSLATE_NOOP("ReadReport", "the text form cannot hold such a type")});
+    word.clear();
+  }
+  const std::string folded = decoded(name).toCaseFolded().toStdString();
+  if (m_names.count(folded) > 0)
+    putTables();
+  m_names.insert(folded);
+  Table &table = tableOf(std::move(word), values);
   Row row{PropertyText(name), {}};
   for (Value &value : values) {
-    const auto [column, isNewColumn] = table.columnOf.try_emplace(value.key, table.columns.size());
-    if (isNewColumn)
-      table.columns.push_back(value.key);
-    row.cells.push_back({column->second, std::move(value)});
+    const PropertyKey key = value.key;
+    if (const char *reason = add(std::move(value), table, row, room))
+      leftOut.values.push_back({std::string(key.utf8()), reason});
   }
   std::stable_sort(row.cells.begin(), row.cells.end(), [](const Cell &a, const Cell &b) { return a.column < b.column; });
   table.rows.push_back(std::move(row));
+  return leftOut;
 }
 
-void TextFileWriter::writeSetPoint(std::string_view name, const Value &value, std::string_view unit) {
+const char *TextFileWriter::writeSetPoint(std::string_view name, const Value &value, std::string_view unit) {
+  Room room;
+  if (!room.take(name) || !room.take(value.key.utf8()) || !room.take(value.text.utf8()) || !room.take(unit))
+    return NoRoom;
   if (!m_hasSetPoints)
     put("name;property;value;unit\n");
   m_hasSetPoints = true;
@@ -215,11 +276,16 @@ void TextFileWriter::writeSetPoint(std::string_view name, const Value &value, st
     putCell(unit);
   }
   put("\n");
+  return nullptr;
 }
 
 void TextFileWriter::putTable(const Table &table) {
-  if (!table.type.empty())
+  if (m_hasTables)
+    put("\n");
+  m_hasTables = true;
+  if (m_isBelowType || !table.type.empty())
     put("[" + table.type + "]\n");
+  m_isBelowType = !table.type.empty();
   put("name");
   for (const PropertyKey column : table.columns) {
     put(";");
@@ -241,12 +307,15 @@ void TextFileWriter::putTable(const Table &table) {
   }
 }
 
-bool TextFileWriter::finish() {
-  for (std::size_t i = 0; i < m_tables.size(); ++i) {
-    if (i > 0)
-      put("\n");
-    putTable(m_tables[i]);
-  }
+void TextFileWriter::putTables() {
+  for (const Table &table : m_tables)
+    putTable(table);
   m_tables.clear();
+  m_byShape.clear();
+  m_names.clear();
+}
+
+bool TextFileWriter::finish() {
+  putTables();
   return flush();
 }

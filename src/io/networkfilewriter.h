@@ -1,17 +1,27 @@
 #pragma once
 
+#include "record.h"
+#include "texttablereader.h"
+
 #include <io/networkrecord.h>
 
 #include <QIODevice>
 #include <QString>
 
 #include <map>
+#include <unordered_set>
 #include <vector>
 
 /// Writes network files. What it is given is written at the latest by finish().
 class NetworkFileWriter {
 public:
   using Value = NetworkRecord::Value;
+
+  /// What the form cannot say. The reasons are texts of ReadReport.
+  struct LeftOut {
+    const char *element = nullptr; ///< why nothing of it was written
+    std::vector<RecordRemark> values;
+  };
 
   explicit NetworkFileWriter(QIODevice &device)
       : m_device(device) {}
@@ -20,9 +30,9 @@ public:
   NetworkFileWriter &operator=(const NetworkFileWriter &) = delete;
 
   /// \param type word, empty for values of elements that are described elsewhere
-  virtual void write(std::string_view name, std::string_view type, std::vector<Value> values) = 0;
-  /// \param unit empty for the stored one
-  virtual void writeSetPoint(std::string_view name, const Value &value, std::string_view unit) = 0;
+  virtual LeftOut write(std::string_view name, std::string_view type, std::vector<Value> values) = 0;
+  /// Null, or why it was left out. \param unit empty for the stored one
+  virtual const char *writeSetPoint(std::string_view name, const Value &value, std::string_view unit) = 0;
   /// False when the device did not take everything.
   virtual bool finish() = 0;
 
@@ -41,8 +51,8 @@ class JsonFileWriter : public NetworkFileWriter {
 public:
   explicit JsonFileWriter(QIODevice &device);
 
-  void write(std::string_view name, std::string_view type, std::vector<Value> values) override;
-  void writeSetPoint(std::string_view name, const Value &value, std::string_view unit) override;
+  LeftOut write(std::string_view name, std::string_view type, std::vector<Value> values) override;
+  const char *writeSetPoint(std::string_view name, const Value &value, std::string_view unit) override;
   bool finish() override;
 
 private:
@@ -56,16 +66,29 @@ private:
   bool m_hasSetPoints = false;
 };
 
-/// Tables, one a type, or one for each set of properties where there are no types.
+/// Tables, one a type, or one for each set of properties where there are no types. When a name comes again the tables are
+/// ended and others begun, so that what comes later stands below, and counts.
 class TextFileWriter : public NetworkFileWriter {
 public:
   using NetworkFileWriter::NetworkFileWriter;
 
-  void write(std::string_view name, std::string_view type, std::vector<Value> values) override;
-  void writeSetPoint(std::string_view name, const Value &value, std::string_view unit) override;
+  /// Whether the word, without blanks around it, can stand in square brackets.
+  static bool canHoldType(std::string_view word);
+
+  LeftOut write(std::string_view name, std::string_view type, std::vector<Value> values) override;
+  const char *writeSetPoint(std::string_view name, const Value &value, std::string_view unit) override;
   bool finish() override;
 
 private:
+  /// What is left of what reading takes as one row.
+  class Room {
+  public:
+    bool take(std::string_view cell);
+
+  private:
+    std::size_t m_lineBreaks = TextTableReader::MostLineBreaks;
+    std::size_t m_bytes = LineReader::LongestLine / 2; // separators need some too
+  };
   struct Cell {
     std::size_t column;
     Value value;
@@ -78,6 +101,7 @@ private:
     std::string type;
     std::vector<PropertyKey> columns;
     std::map<PropertyKey, std::size_t> columnOf;
+    Room header;
     std::vector<Row> rows;
   };
 
@@ -86,8 +110,15 @@ private:
   void putQuoted(std::string_view text);
   void putValue(const Value &value);
   void putTable(const Table &table);
+  void putTables();
+  Table &tableOf(std::string type, const std::vector<Value> &values);
+  /// Null, or why the value is left out.
+  static const char *add(Value value, Table &table, Row &row, Room &room);
 
   std::vector<Table> m_tables;
   std::map<std::string, std::size_t> m_byShape; ///< type, or names of the properties, to table
+  std::unordered_set<std::string> m_names;      ///< in the tables, regardless of case
   bool m_hasSetPoints = false;
+  bool m_hasTables = false;   ///< that are written
+  bool m_isBelowType = false; ///< what is written next
 };

@@ -288,7 +288,8 @@ void NivraReader::readCompanion(const Companion &companion, const QString &base,
   if (part.ok) {
     log(QLatin1String(companion.success));
   } else {
-    warn(text(companion.failed));
+    warn(part.findings.empty() ? text(companion.failed)
+                               : text(companion.failed) + QStringLiteral(": ") + part.findings.front().text);
     for (Finding &finding : part.findings) {
       finding.severity = Finding::Severity::Warning;
       finding.box.clear();

@@ -66,11 +66,22 @@ void ReadReport::values(const ElementRecord &element, int line) {
     return;
   const QString name = decoded(element.name);
   for (const RecordRemark &dropped : element.dropped)
-    add(Kind::DroppedProperty, line,
-        tr("Property %1 of element %2 is left out: %3").arg(QString::fromStdString(dropped.key), name, tr(dropped.reason)),
-        QString(), name);
+    leftOut(decoded(dropped.key), name, dropped.reason, line);
   for (const RecordRemark &doubtful : element.doubtful)
-    doubt(QString::fromStdString(doubtful.key), name, doubtful.reason, line);
+    doubt(decoded(doubtful.key), name, doubtful.reason, line);
+}
+
+void ReadReport::leftOut(const QString &element, const char *reason, int line) {
+  add(Kind::BadLine, line, tr("Element %1 is left out: %2").arg(element, tr(reason)), QString(), element);
+}
+
+void ReadReport::leftOut(const QString &property, const QString &element, const char *reason, int line) {
+  add(Kind::DroppedProperty, line, tr("Property %1 of element %2 is left out: %3").arg(property, element, tr(reason)),
+      QString(), element);
+}
+
+void ReadReport::unknownType(const QString &word, const QString &element, int line) {
+  add(Kind::UnknownType, line, tr("ERROR: Type %1 of element %2 not known! Element will be erased!").arg(word, element));
 }
 
 void ReadReport::doubt(const QString &property, const QString &element, const char *reason, int line) {

@@ -44,6 +44,10 @@ public:
   void unknownName(const QString &name, int line);
   /// A set point without property or value.
   void incompleteValue(const QString &element, int line);
+  /// An element that is left out, whatever the reason but its type.
+  void leftOut(const QString &element, const char *reason, int line);
+  void leftOut(const QString &property, const QString &element, const char *reason, int line);
+  void unknownType(const QString &word, const QString &element, int line);
   /// The values of an element that are left out, and those that may not be what was meant. The reasons are texts of this
   /// class, to be translated here.
   void values(const ElementRecord &element, int line);

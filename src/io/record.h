@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/textdecoding.h>
 #include <model/propertytext.h>
 
 #include <QString>
@@ -66,6 +67,4 @@ struct Record {
   std::vector<SetPointsRecord> setPoints;
 };
 
-inline QString decoded(std::string_view utf8) {
-  return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
-}
+using TextDecoding::decoded;

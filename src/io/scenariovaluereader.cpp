@@ -171,7 +171,7 @@ private:
   }
 
   /// False when the value must wait until the gases are known.
-  bool toStoredUnit(const element &target, const QString &name, PropertyKey key, SetPointRecord &point, int line) {
+  bool toStoredUnit(element &target, const QString &name, PropertyKey key, SetPointRecord &point, int line) {
     if (point.unit.empty())
       return true;
     const NetMetaData::Attribute *attribute =
@@ -185,7 +185,7 @@ private:
       return true;
     case SetPointUnits::Outcome::NeedsGas:
       m_reader.m_waiting.insert_or_assign(
-          {&target, key}, WaitingSetPoint{std::move(point.value), unit, attribute->storedUnit, name, m_file, line});
+          {&target, key}, WaitingSetPoint{std::move(point.value), unit, attribute->storedUnit, m_file, line});
       return false;
     case SetPointUnits::Outcome::Impossible:
       break;
@@ -218,18 +218,19 @@ void NivraReader::convertWaiting(Findings &findings) {
   const SetPointUnits units;
   std::map<QString, ReadReport> reports; // by file
   for (auto &[set, point] : waiting) {
-    element &target = *m_net.element(point.element);
-    const Units::Gas gas = SetPointUnits::gasAt(target, m_net, m_gases);
+    const auto &[target, key] = set;
+    const Units::Gas gas = SetPointUnits::gasAt(*target, m_net, m_gases);
     if (units.convert(point.value, point.unit, point.storedUnit, gas) == SetPointUnits::Outcome::Converted) {
-      target.set(set.second, std::move(point.value));
+      target->set(key, std::move(point.value));
       continue;
     }
+    const QString name = target->value(Names::all().name);
     reports.try_emplace(point.file, point.file)
         .first->second.add(ReadReport::Kind::Gas, point.line,
                            ReadReport::tr("%1 of element %2 is given in \"%3\"; to convert it to \"%4\" the norm density or "
                                           "the calorific value of the gas must be known. The value is left out")
-                               .arg(set.second.name(), point.element, point.unit, point.storedUnit),
-                           QString(), point.element);
+                               .arg(key.name(), name, point.unit, point.storedUnit),
+                           QString(), name);
   }
   for (auto &[file, report] : reports)
     append(findings, report.take());

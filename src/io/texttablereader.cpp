@@ -41,11 +41,10 @@ TextTableReader::Found TextTableReader::fail(const QString &reason) {
 /// Takes the following lines to one whose quote stays open, as spreadsheets write texts with line breaks. When no line
 /// closes it soon, the quote is a mistake: only its line is lost.
 bool TextTableReader::continueLine() {
-  constexpr int MaximumLines = 200;
   const std::string first = m_line;
   const int number = m_number;
   std::deque<PendingLine> taken;
-  while (taken.size() < MaximumLines) {
+  while (taken.size() < MostLineBreaks) {
     std::string whole = std::move(m_line);
     if (!nextLine())
       break;

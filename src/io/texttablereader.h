@@ -21,6 +21,8 @@
 class TextTableReader {
 public:
   enum class Found { Row, Fault, End };
+  /// In the quoted cells of a row, all together: a quote that is not closed by then is a mistake.
+  static constexpr std::size_t MostLineBreaks = 200;
 
   explicit TextTableReader(LineReader &lines)
       : m_lines(lines) {}

@@ -1,4 +1,4 @@
-#include <base/utf8view.h>
+#include <base/textdecoding.h>
 #include <model/propertykey.h>
 
 #include <map>
@@ -29,7 +29,7 @@ public:
     const auto exact = m_spellings.find(utf8);
     if (exact != m_spellings.end())
       return exact->second.get();
-    const auto group = m_groups.find(textOfUtf8(utf8));
+    const auto group = m_groups.find(TextDecoding::decoded(utf8));
     return group == m_groups.end() ? nullptr : group->second.representative;
   }
 
@@ -60,7 +60,7 @@ private:
     auto spelling = std::make_unique<Spelling>();
     spelling->utf8 = utf8;
     spelling->index = m_spellings.size();
-    spelling->name = textOfUtf8(utf8);
+    spelling->name = TextDecoding::decoded(utf8);
     auto [position, isNew] = m_groups.try_emplace(spelling->name);
     if (isNew) {
       position->second.group = std::make_unique<PropertyKey::Group>();

@@ -1,4 +1,4 @@
-#include <base/utf8view.h>
+#include <base/textdecoding.h>
 #include <model/propertytext.h>
 
 #include <algorithm>
@@ -62,7 +62,7 @@ std::string_view PropertyText::heapText() const noexcept {
 }
 
 QString PropertyText::toString() const {
-  return textOfUtf8(utf8());
+  return TextDecoding::decoded(utf8());
 }
 
 PropertyText PropertyText::ofNumber(double number, int significantDigits) {

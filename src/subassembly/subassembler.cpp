@@ -2,6 +2,7 @@
 #include "templateplacement.h"
 #include "templateplan.h"
 
+#include <base/textdecoding.h>
 #include <io/nivrareader.h>
 #include <model/names.h>
 #include <model/topology.h>
@@ -327,7 +328,7 @@ void SubAssembler::createElements(element &subnet, const Variant &variant, const
     all += created.utf8();
   }
   subnet.set(Names::all().elements, PropertyText(std::string_view(all)));
-  m_assembled.push_back({&variant, QString::fromStdString(prefix), pinNames, std::move(names)});
+  m_assembled.push_back({&variant, TextDecoding::decoded(prefix), pinNames, std::move(names)});
 }
 
 /// Room for all elements to come at once.
@@ -364,7 +365,7 @@ void SubAssembler::findFreePrefixes(const std::vector<const elements::Entry *> &
     }
   }
   for (const std::string &prefix : taken)
-    m_freePrefixes.erase(QString::fromStdString(prefix));
+    m_freePrefixes.erase(TextDecoding::decoded(prefix));
 }
 
 std::vector<FormulaDefinition> SubAssembler::definitions(Findings &findings) const {

@@ -3,6 +3,7 @@
 #include "templateplan.h" // IWYU pragma: keep, for what lies behind a pointer
 
 #include <base/pattern.h>
+#include <base/textdecoding.h>
 
 void TemplateDefinitions::read(const QString &path, TemplateCache<FormulaFile::Contents> &cache, Findings &findings,
                                const Told &told) {
@@ -34,7 +35,7 @@ void TemplateDefinitions::addFor(const QString &subnet, const QStringList &pins,
   for (int i = 0; i < pins.size(); ++i)
     meant->add(m_plan->pinNames().at(i), pins.at(i));
   for (std::size_t i = 0; i < names.size(); ++i)
-    meant->add(QString::fromStdString(m_plan->parts()[i]), names[i].toString());
+    meant->add(TextDecoding::decoded(m_plan->parts()[i]), names[i].toString());
   for (const Planned &planned : m_planned) {
     FormulaDefinition own = planned.definition;
     own.names = meant;

@@ -13,6 +13,7 @@ private slots:
   void init();
   void cleanup() { FileAccess::confineTo(QString()); }
   void specialFilesAreRefused();
+  void linksInACircle();
   void largeFilesAreRefused();
   void nothingLeadsOutOfTheWorkspace_data();
   void nothingLeadsOutOfTheWorkspace();
@@ -35,6 +36,15 @@ void TestFiles::init() {
   QString reason;
   QVERIFY(WholeFile::write(outside(QStringLiteral("secret")), FileAccess::Source::Trusted, QByteArray("secret"), &reason));
   QVERIFY(WholeFile::write(inside(QStringLiteral("own")), FileAccess::Source::Trusted, QByteArray("own"), &reason));
+}
+
+/// They lead nowhere, which the message says.
+void TestFiles::linksInACircle() {
+  const QString link = m_folder->filePath(QStringLiteral("circle"));
+  QVERIFY(QFile::link(link, link));
+  FileAccess::confineTo(m_folder->path());
+  const QString told = FileAccess::confinementFault(link);
+  QVERIFY2(told.contains(QStringLiteral("circle of links")), qPrintable(told));
 }
 
 void TestFiles::specialFilesAreRefused() {

@@ -30,11 +30,14 @@ private slots:
   void massFlowsNeedTheGas_data();
   void massFlowsNeedTheGas();
   void companionFiles();
+  void namesWithByteOrderMarks_data();
+  void namesWithByteOrderMarks();
   void gasInTheOtherForm();
   void logLines_data();
   void logLines();
   void specialFilesAreRefused_data();
   void specialFilesAreRefused();
+  void companionsThatCannotBeRead();
   void readErrorsEndAndAreTold_data();
   void readErrorsEndAndAreTold();
   void manyFindingsOfAKindAreCounted();
@@ -77,6 +80,8 @@ void TestNivraReader::values_data() {
   row("true", "true");
   row("null", nullptr, 1);
   row("[1,{\"a\":2}]", nullptr, 1);
+  row("[1],\"z\":1e400", nullptr, 2);
+  row("{\"a\":[-1e400,null,true,\"x\"],\"b\":{}}", nullptr, 1);
 }
 
 void TestNivraReader::values() {
@@ -105,6 +110,9 @@ void TestNivraReader::badLines_data() {
   QTest::newRow("bad escape") << QByteArray(R"(,"B":{"obj_type":"node","p":"\x"})") << json;
   QTest::newRow("not UTF-8") << QByteArray("\"B\":{\"obj_type\":\"node\",\"p\":\"\xff\xfe\"}") << json;
   QTest::newRow("broken inside what is skipped") << QByteArray(R"(,"B":{"obj_type":"node","p":[1,,2]})") << json;
+  for (const char *broken : {"[1", "[1}", "[1,]", "[012]", "[tru]", "[nul]", R"(["\x"])", R"(["a":1])", R"({"a" 1})",
+                             R"({"a":1,})", R"({"a":1 2})", R"({1:2})", R"([{"a":[}]}])"})
+    QTest::newRow(broken) << R"(,"B":{"obj_type":"node","p":)" + QByteArray(broken) + "}" << json;
   QTest::newRow("deep") << QByteArray(R"(,"B":{"obj_type":"node","p":)") + QByteArray(10000, '[') + QByteArray(10000, ']') +
                                "}"
                         << json;
@@ -321,6 +329,40 @@ void TestNivraReader::massFlowsNeedTheGas() {
   }
 }
 
+void TestNivraReader::namesWithByteOrderMarks_data() {
+  QTest::addColumn<QByteArray>("gases");
+  QTest::addColumn<QString>("qset");
+  QTest::newRow("gas known") << QByteArray(R"("G":{"obj_type":"gas","rhon":0.8})") << QStringLiteral("45");
+  QTest::newRow("gas unknown") << QByteArray() << QString();
+}
+
+/// In front of a name the mark is a part of it, for values as for messages.
+void TestNivraReader::namesWithByteOrderMarks() {
+  QFETCH(QByteArray, gases);
+  QFETCH(QString, qset);
+  const QString name = QStringLiteral("\uFEFFN");
+  NetData net;
+  read(net, "{\n"
+            R"("\uFEFFN":{"obj_type":"node","\uFEFFx":1,"x":2},"N":{"obj_type":"node"})"
+            "\n}\n");
+  QCOMPARE(net.nodes().size(), std::size_t(2));
+  const element *node = net.element(name);
+  QVERIFY(node != nullptr && node->value(QStringLiteral("name")) == name);
+  QCOMPARE(node->value(QStringLiteral("\uFEFFx")), QStringLiteral("1"));
+  write(QStringLiteral("m.gas.jsn"), gases);
+  const QString scenario = write(QStringLiteral("m.scen.jsn"), "{\n"
+                                                               R"("\uFEFFN":[{"property":"qset","value":10,"unit":"kg/s"}])"
+                                                               "\n}\n");
+  const auto result = NivraReader(net).readScenarioJsn(scenario.chopped(4), NivraScenario(), {});
+  QCOMPARE(node->value(QStringLiteral("qset")), qset);
+  QCOMPARE(net.element(QStringLiteral("N"))->value(QStringLiteral("qset")), QString());
+  QCOMPARE(result.findings.empty(), !qset.isEmpty());
+  if (qset.isEmpty()) {
+    QCOMPARE(result.findings[0].element, name);
+    QVERIFY2(result.findings[0].text.contains(name), qPrintable(result.findings[0].text));
+  }
+}
+
 void TestNivraReader::gasInTheOtherForm() {
   NetData net;
   write(QStringLiteral("t.scen.jsn"), "{\n}\n");
@@ -419,6 +461,22 @@ void TestNivraReader::specialFilesAreRefused() {
     QVERIFY2(told.contains(reason), qPrintable(told));
     QFile::remove(folder + file);
   }
+}
+
+/// Which one, and why.
+void TestNivraReader::companionsThatCannotBeRead() {
+  write(QStringLiteral("u.scen.jsn"), "{\n}\n");
+  const QString results = m_folder.filePath(QStringLiteral("u.res.jsn"));
+  const QString fixes = m_folder.filePath(QStringLiteral("u.fix.jsn"));
+  QVERIFY(QDir().mkdir(results));
+  QCOMPARE(::mkfifo(QFile::encodeName(fixes).constData(), 0600), 0);
+  QStringList log;
+  NetData net;
+  NivraReader reader(net, [&log](const Finding &told) { log.append(told.text); });
+  reader.readScenarioJsn(m_folder.filePath(QStringLiteral("u.scen")), NivraScenario(), {});
+  for (const QString &line : {QStringLiteral("Could not read .res.jsn file: %1: is a directory").arg(results),
+                              QStringLiteral("Could not read .fix.jsn file: %1: is not a regular file").arg(fixes)})
+    QVERIFY2(log.contains(line), qPrintable(log.join(QLatin1Char('\n'))));
 }
 
 void TestNivraReader::readErrorsEndAndAreTold_data() {

@@ -29,6 +29,11 @@ private slots:
   void setPointsThereAndBack();
   void realNetworksThereAndBack_data();
   void realNetworksThereAndBack();
+  void namesThatComeAgain_data();
+  void namesThatComeAgain();
+  void whatTextCannotSay_data();
+  void whatTextCannotSay();
+  void longTextsThereAndBack();
   void conversionsThatFail();
 
 private:
@@ -287,6 +292,96 @@ void TestTextForms::realNetworksThereAndBack() {
   NivraReader(after).readGeomJsn(back, {});
   QCOMPARE(dump(between), dump(before));
   QCOMPARE(dump(after), dump(before));
+}
+
+void TestTextForms::namesThatComeAgain_data() {
+  QTest::addColumn<QByteArray>("lines");
+  QTest::newRow("another type between") << QByteArray("\"A\":{\"obj_type\":\"node\",\"x\":0}\n"
+                                                      ",\"A\":{\"obj_type\":\"pipe\",\"node1\":\"B\",\"node2\":\"B\"}\n"
+                                                      ",\"A\":{\"obj_type\":\"node\",\"x\":7}\n");
+  QTest::newRow("in other case") << QByteArray("\"\u00e4\":{\"obj_type\":\"node\",\"x\":0}\n"
+                                               ",\"P\":{\"obj_type\":\"pipe\",\"node1\":\"\u00e4\",\"node2\":\"B\"}\n"
+                                               ",\"\u00c4\":{\"obj_type\":\"valve\",\"node1\":\"B\",\"node2\":\"B\"}\n"
+                                               ",\"\u00e4\":{\"obj_type\":\"node\",\"y\":7}\n");
+}
+
+/// The last counts in both forms, though text puts what is alike together.
+void TestTextForms::namesThatComeAgain() {
+  QFETCH(QByteArray, lines);
+  const QString geometry = write(QStringLiteral("r.geom.jsn"), "{\n" + lines + ",\"B\":{\"obj_type\":\"node\"}\n}\n");
+  const QString results = write(QStringLiteral("r.res.jsn"), "{\n\"B\":{\"p\":1,\"t\":3}\n,\"B\":{\"t\":4}\n"
+                                                             ",\"b\":{\"p\":2,\"t\":5}\n}\n");
+  NetData nets[2];
+  for (const bool isText : {false, true}) {
+    for (const QString &json : {geometry, results})
+      QVERIFY(NetworkFileConverter::convert(json, json.chopped(4)).ok);
+    NivraReader reader(nets[isText]);
+    reader.readGeomJsn(isText ? geometry.chopped(4) : geometry, {});
+    reader.readResultsJsn(isText ? results.chopped(4) : results, {});
+  }
+  QCOMPARE(nets[0].element(QStringLiteral("B"))->value(QStringLiteral("t")), QStringLiteral("5"));
+  QCOMPARE(dump(nets[1]), dump(nets[0]));
+}
+
+void TestTextForms::whatTextCannotSay_data() {
+  QTest::addColumn<QByteArray>("line");
+  QTest::addColumn<QString>("message");
+  QTest::addColumn<QString>("value"); // of the element's property x afterwards; null: the element is left out
+  const auto row = [](const char *name, const QByteArray &line, const char *message, const char *value = nullptr) {
+    QTest::newRow(name) << line << QString::fromLatin1(message) << QString::fromLatin1(value);
+  };
+  row("no type", R"("E":{"x":5})", "Type  of element E not known");
+  row("empty type", R"("E":{"obj_type":" ","x":5})", "Type  of element E not known");
+  row("bracket in the type", R"("E":{"obj_type":"no]de","x":5})", "Type no]de of element E not known");
+  row("line break in the type", R"("E":{"obj_type":"no\nde","x":5})", "of element E not known");
+  row("line break around the type", R"("E":{"obj_type":"\nnode\n","x":5})", nullptr, "5");
+  row("property without a name", R"("E":{"obj_type":"node","":"zz","x":5})", "of element E is left out: it has no name",
+      "5");
+  const QByteArray breaks = QByteArray("\\n").repeated(150);
+  row("line breaks in a value", R"("E":{"obj_type":"node","note":")" + breaks + breaks + R"(","x":5})",
+      "Property note of element E is left out", "5");
+  row("line breaks in two", R"("E":{"obj_type":"node","note":")" + breaks + R"(","more":")" + breaks + R"(","x":5})",
+      "Property more of element E is left out", "5");
+  row("line breaks in columns", R"("E":{"obj_type":"node","a)" + breaks + R"(":1,"b)" + breaks + R"(":1,"x":5})",
+      "of element E is left out", "5");
+  row("line breaks in the name", "\"E" + breaks + breaks + R"(":{"obj_type":"node","x":5})", "is left out: a row");
+}
+
+/// It is told and left out; whatever stands around it passes.
+void TestTextForms::whatTextCannotSay() {
+  QFETCH(QByteArray, line);
+  QFETCH(QString, message);
+  QFETCH(QString, value);
+  const QString json = write(QStringLiteral("u.geom.jsn"), "{\n\"A\":{\"obj_type\":\"node\",\"x\":1}\n," + line +
+                                                               "\n,\"Z\":{\"obj_type\":\"node\",\"x\":2}\n}\n");
+  const auto result = NetworkFileConverter::convert(json, json.chopped(4));
+  QVERIFY(result.ok);
+  QCOMPARE(result.findings.empty(), message.isEmpty());
+  if (!message.isEmpty()) {
+    QCOMPARE(result.findings.size(), std::size_t(1));
+    QVERIFY2(result.findings[0].text.contains(message), qPrintable(result.findings[0].text));
+    QCOMPARE(result.findings[0].line, 3);
+  }
+  NetData net;
+  const auto read = NivraReader(net).readGeomJsn(json.chopped(4), {});
+  QVERIFY2(read.findings.empty(), qPrintable(read.findings.empty() ? QString() : read.findings[0].text));
+  QCOMPARE(net.nodes().size(), value.isEmpty() ? std::size_t(2) : std::size_t(3));
+  QVERIFY(net.nodes().find(QStringLiteral("A")) != nullptr && net.nodes().find(QStringLiteral("Z")) != nullptr);
+  if (!value.isEmpty())
+    QCOMPARE(net.nodes().at(QStringLiteral("E")).value(QStringLiteral("x")), value);
+}
+
+void TestTextForms::longTextsThereAndBack() {
+  const QByteArray breaks = QByteArray("\\n").repeated(200);
+  const QByteArray kept =
+      "\"A\":[{\"property\":\"note\",\"value\":\"" + QByteArray(breaks).replace("\\n", "\\u000a") + "\"}]\n";
+  const QString from = write(QStringLiteral("l.scen.jsn"),
+                             "{\n" + kept + ",\"B\":[{\"property\":\"note\",\"value\":\"\\n" + breaks + "\"}]\n}\n");
+  const auto result = NetworkFileConverter::convert(from, from.chopped(4));
+  QCOMPARE(result.findings.size(), std::size_t(1));
+  QVERIFY(result.findings[0].text.contains(QStringLiteral("note of element B is left out")));
+  QVERIFY(NetworkFileConverter::convert(from.chopped(4), m_folder.filePath(QStringLiteral("m.scen.jsn"))).findings.empty());
+  QCOMPARE(contents(QStringLiteral("m.scen.jsn")), "{\n" + kept + "}\n");
 }
 
 void TestTextForms::conversionsThatFail() {

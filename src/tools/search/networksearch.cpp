@@ -1,7 +1,7 @@
 #include "search/networksearch.h"
 
 #include <base/parallel.h>
-#include <base/utf8view.h>
+#include <base/textdecoding.h>
 #include <model/names.h>
 
 #include <iterator>
@@ -129,7 +129,7 @@ bool NetworkSearch::matchesName(const QString &name) const {
 const NetworkSearch::Type &NetworkSearch::type(std::string_view utf8) {
   if (m_current.utf8 != utf8) { // elements of one type follow one another
     m_current.utf8 = utf8;
-    m_current.text = textOfUtf8(utf8);
+    m_current.text = TextDecoding::decoded(utf8);
     m_current.matches = m_type.matches(m_current.text);
   }
   return m_current;

@@ -67,13 +67,12 @@ private:
     PropertyText value;
     QString unit;
     QString storedUnit;
-    QString element;
     QString file;
     int line = 0;
   };
   void log(const QString &text) const { tell(m_told, Finding::Severity::Information, text); }
   void warn(const QString &text) const { tell(m_told, Finding::Severity::Warning, text); }
-  using SetPointTarget = std::pair<const element *, PropertyKey>;
+  using SetPointTarget = std::pair<element *, PropertyKey>;
   void set(element &target, PropertyKey key, PropertyText value);
   void convertWaiting(Findings &findings);
   struct Companion {
