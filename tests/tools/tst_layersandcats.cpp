@@ -38,6 +38,7 @@ private slots:
   void renamingKeepsWhatIsHidden();
   void categoryFile();
   void categoriesComeBack();
+  void savingKeepsWhatIsNoCategory();
   void categoryFileOnAFullDisk();
   void categoryFileThatIsNone();
   void changedCategoriesAreAskedAbout();
@@ -312,6 +313,28 @@ void TestLayersAndCats::categoriesComeBack() {
   QVERIFY(CategoryFile::read(path) == all);
   QVERIFY(!CategoryFile::write(QStringLiteral("/nowhere/catdef.csv"), all, &error));
   QVERIFY(error.startsWith(QStringLiteral("Could not open categories file /nowhere/catdef.csv!")));
+}
+
+void TestLayersAndCats::savingKeepsWhatIsNoCategory() {
+  const QString path = write("# mine\r\n[x]Fast;;p;^v$;abs(v@ELE)>10\n\nShort;;p\nM\xfc;a;p;b;c;extra;fields\n# end");
+  const QByteArray Format = "# format (besides comment lines) per LINE:\n# category;name;type;prop;value/formula\n";
+  std::vector<Category> categories = CategoryFile::read(path);
+  QCOMPARE(categories.size(), std::size_t(2));
+  categories[1].value = QStringLiteral("other");
+  const auto saved = [&] {
+    QString error;
+    QFile file(path);
+    return CategoryFile::write(path, categories, &error) && file.open(QIODevice::ReadOnly) ? file.readAll() : error.toUtf8();
+  };
+  const QByteArray expected =
+      Format + "# mine\n[x]Fast;;p;^v$;abs(v@ELE)>10\n\nShort;;p\nM\xc3\xbc;a;p;b;other;extra;fields\n# end\n";
+  QCOMPARE(saved(), expected);
+  QCOMPARE(saved(), expected);
+  categories.insert(categories.begin(), Category{QStringLiteral("new"), {}, {}, {}, {}, false});
+  categories.erase(categories.begin() + 1);
+  QCOMPARE(saved(), QByteArray(Format + "# mine\nnew;;;;\n\nShort;;p\nM\xc3\xbc;a;p;b;other;extra;fields\n# end\n"));
+  categories.clear();
+  QCOMPARE(saved(), QByteArray(Format + "# mine\n\nShort;;p\n# end\n"));
 }
 
 void TestLayersAndCats::categoryFileOnAFullDisk() {
