@@ -30,6 +30,8 @@ private slots:
   void init();
   void layersGroupElements();
   void layersChangeElements();
+  void layersOfWhatAnElementIsStay_data();
+  void layersOfWhatAnElementIsStay();
   void layerNames_data();
   void layerNames();
   void editorShowsAndHides();
@@ -92,6 +94,41 @@ void TestLayersAndCats::layersChangeElements() {
   QCOMPARE(layers.remove({QStringLiteral("pipes")}).size(), 3);
   QVERIFY(!m_net->element(QStringLiteral("A"))->contains(QStringLiteral("vis.layer")));
   QCOMPARE(layers.all().size(), 1);
+}
+
+void TestLayersAndCats::layersOfWhatAnElementIsStay_data() {
+  QTest::addColumn<QString>("property");
+  for (const char *property : {"name", "type", "node1", "node2", "x", "y"})
+    QTest::newRow(property) << QString::fromLatin1(property);
+}
+
+void TestLayersAndCats::layersOfWhatAnElementIsStay() {
+  QFETCH(QString, property);
+  element &changed = *m_net->element(QStringLiteral("AB"));
+  changed.set(QStringLiteral("x"), QStringLiteral("1"));
+  changed.set(QStringLiteral("y"), QStringLiteral("1"));
+  const QString before = changed.value(property);
+  QVERIFY(!before.isEmpty());
+  NivraNetLayersEditor editor(*m_net);
+  editor.show();
+  editor.setLayerProperty(property);
+  auto *table = editor.findChild<QTableView *>();
+  QVERIFY(table->model()->rowCount() > 0); // they can be seen
+  Topology::select(*m_net, QStringLiteral("AB"), m_net->selection());
+  table->selectAll();
+  const Answers answers({NivraMsg::Answer::Ok, NivraMsg::Answer::Ok, NivraMsg::Answer::Ok});
+  editor.on_toolButtonAdd_clicked();
+  editor.on_toolButtonDel_clicked();
+  for (int row = 0; row < table->model()->rowCount(); ++row) {
+    const QModelIndex index = table->model()->index(row, LayerModel::LayerColumn);
+    if (index.data().toString() == before)
+      table->model()->setData(index, QStringLiteral("renamed"));
+  }
+  QTRY_VERIFY(answers.areGiven());
+  for (const QString &text : answers.texts())
+    QVERIFY2(text.contains(QLatin1Char('"') + property + QLatin1Char('"')), qPrintable(text));
+  QVERIFY(m_net->element(QStringLiteral("AB")) != nullptr);
+  QCOMPARE(m_net->element(QStringLiteral("AB"))->value(property), before);
 }
 
 void TestLayersAndCats::layerNames_data() {
