@@ -21,3 +21,10 @@ QString TextDecoding::fromWindows1252(const QByteArray &bytes) {
   const QTextCodec *codec = QTextCodec::codecForName("windows-1252");
   return codec != nullptr ? codec->toUnicode(bytes) : QString::fromLatin1(bytes);
 }
+
+QString TextDecoding::decoded(const QByteArray &content, const QString &path, const Told &told) {
+  if (std::optional<QString> text = fromUtf8(content))
+    return *text;
+  tell(told, Finding::Severity::Warning, QStringLiteral("%1 is not UTF-8 and is read as Windows-1252 (Latin-1)").arg(path));
+  return fromWindows1252(content);
+}

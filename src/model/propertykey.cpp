@@ -1,4 +1,5 @@
 #include <base/textdecoding.h>
+#include <base/utf8view.h>
 #include <model/propertykey.h>
 
 #include <map>

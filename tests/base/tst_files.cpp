@@ -20,6 +20,8 @@ private slots:
   void whatTheUserChoseMayLieAnywhere();
   void fullDisksLeaveTheOldFile();
   void nearlyFullDisksAreNamed();
+  void writersNeedNotCheckWhatTheyWrite_data();
+  void writersNeedNotCheckWhatTheyWrite();
   void failedWritersLeaveTheOldFile();
   void specialFilesAreNotReplaced();
 
@@ -135,6 +137,38 @@ void TestFiles::nearlyFullDisksAreNamed() {
   QVERIFY(!WholeFile::write(target, FileAccess::Source::Trusted, QByteArray(1 << 20, 'x'), &reason));
   QVERIFY2(reason.contains(QLatin1String("disk full")) || reason.contains(QLatin1String("No space")), qPrintable(reason));
   QVERIFY(!QFile::exists(target));
+}
+
+// As makers of documents do. The last block fits into the buffer, whatever became of those before.
+void TestFiles::writersNeedNotCheckWhatTheyWrite_data() {
+  QTest::addColumn<int>("block");
+  QTest::addColumn<bool>("seeks");
+  for (const int size : {1000, 16384, 20000, 100000}) {
+    QTest::addRow("%d", size) << size << false;
+    QTest::addRow("%d, a header at the end", size) << size << true;
+  }
+}
+
+void TestFiles::writersNeedNotCheckWhatTheyWrite() {
+  QFETCH(int, block);
+  QFETCH(bool, seeks);
+  const FullDisk disk;
+  if (!disk.isMounted())
+    QSKIP("a small disk cannot be mounted here");
+  const QString path = disk.path(QStringLiteral("document"));
+  QString reason;
+  QVERIFY(WholeFile::write(path, FileAccess::Source::Trusted, QByteArray("old"), &reason));
+  const auto careless = [&](QIODevice &device, QString *) {
+    for (int written = 0; written < 100000; written += block)
+      device.write(QByteArray(block, 'x'));
+    if (seeks)
+      device.seek(0);
+    device.write("end");
+    return true;
+  };
+  QVERIFY(!WholeFile::write(path, FileAccess::Source::Trusted, careless, &reason));
+  QVERIFY2(reason.contains(QLatin1String("disk full")) || reason.contains(QLatin1String("No space")), qPrintable(reason));
+  QCOMPARE(SmallFiles::contents(path), QByteArray("old"));
 }
 
 void TestFiles::failedWritersLeaveTheOldFile() {

@@ -317,7 +317,7 @@ void TestTextForms::namesThatComeAgain() {
       QVERIFY(NetworkFileConverter::convert(json, json.chopped(4)).ok);
     NivraReader reader(nets[isText]);
     reader.readGeomJsn(isText ? geometry.chopped(4) : geometry, {});
-    reader.readResultsJsn(isText ? results.chopped(4) : results, {});
+    reader.readGasParmsJsn(isText ? results.chopped(4) : results, {});
   }
   QCOMPARE(nets[0].element(QStringLiteral("B"))->value(QStringLiteral("t")), QStringLiteral("5"));
   QCOMPARE(dump(nets[1]), dump(nets[0]));

@@ -30,6 +30,8 @@ private slots:
   void init();
   void layersGroupElements();
   void layersChangeElements();
+  void layersOfWhatAnElementIsStay_data();
+  void layersOfWhatAnElementIsStay();
   void layerNames_data();
   void layerNames();
   void editorShowsAndHides();
@@ -38,6 +40,7 @@ private slots:
   void renamingKeepsWhatIsHidden();
   void categoryFile();
   void categoriesComeBack();
+  void savingKeepsWhatIsNoCategory();
   void categoryFileOnAFullDisk();
   void categoryFileThatIsNone();
   void changedCategoriesAreAskedAbout();
@@ -91,6 +94,41 @@ void TestLayersAndCats::layersChangeElements() {
   QCOMPARE(layers.remove({QStringLiteral("pipes")}).size(), 3);
   QVERIFY(!m_net->element(QStringLiteral("A"))->contains(QStringLiteral("vis.layer")));
   QCOMPARE(layers.all().size(), 1);
+}
+
+void TestLayersAndCats::layersOfWhatAnElementIsStay_data() {
+  QTest::addColumn<QString>("property");
+  for (const char *property : {"name", "type", "node1", "node2", "x", "y"})
+    QTest::newRow(property) << QString::fromLatin1(property);
+}
+
+void TestLayersAndCats::layersOfWhatAnElementIsStay() {
+  QFETCH(QString, property);
+  element &changed = *m_net->element(QStringLiteral("AB"));
+  changed.set(QStringLiteral("x"), QStringLiteral("1"));
+  changed.set(QStringLiteral("y"), QStringLiteral("1"));
+  const QString before = changed.value(property);
+  QVERIFY(!before.isEmpty());
+  NivraNetLayersEditor editor(*m_net);
+  editor.show();
+  editor.setLayerProperty(property);
+  auto *table = editor.findChild<QTableView *>();
+  QVERIFY(table->model()->rowCount() > 0); // they can be seen
+  Topology::select(*m_net, QStringLiteral("AB"), m_net->selection());
+  table->selectAll();
+  const Answers answers({NivraMsg::Answer::Ok, NivraMsg::Answer::Ok, NivraMsg::Answer::Ok});
+  editor.on_toolButtonAdd_clicked();
+  editor.on_toolButtonDel_clicked();
+  for (int row = 0; row < table->model()->rowCount(); ++row) {
+    const QModelIndex index = table->model()->index(row, LayerModel::LayerColumn);
+    if (index.data().toString() == before)
+      table->model()->setData(index, QStringLiteral("renamed"));
+  }
+  QTRY_VERIFY(answers.areGiven());
+  for (const QString &text : answers.texts())
+    QVERIFY2(text.contains(QLatin1Char('"') + property + QLatin1Char('"')), qPrintable(text));
+  QVERIFY(m_net->element(QStringLiteral("AB")) != nullptr);
+  QCOMPARE(m_net->element(QStringLiteral("AB"))->value(property), before);
 }
 
 void TestLayersAndCats::layerNames_data() {
@@ -312,6 +350,28 @@ void TestLayersAndCats::categoriesComeBack() {
   QVERIFY(CategoryFile::read(path) == all);
   QVERIFY(!CategoryFile::write(QStringLiteral("/nowhere/catdef.csv"), all, &error));
   QVERIFY(error.startsWith(QStringLiteral("Could not open categories file /nowhere/catdef.csv!")));
+}
+
+void TestLayersAndCats::savingKeepsWhatIsNoCategory() {
+  const QString path = write("# mine\r\n[x]Fast;;p;^v$;abs(v@ELE)>10\n\nShort;;p\nM\xfc;a;p;b;c;extra;fields\n# end");
+  const QByteArray Format = "# format (besides comment lines) per LINE:\n# category;name;type;prop;value/formula\n";
+  std::vector<Category> categories = CategoryFile::read(path);
+  QCOMPARE(categories.size(), std::size_t(2));
+  categories[1].value = QStringLiteral("other");
+  const auto saved = [&] {
+    QString error;
+    QFile file(path);
+    return CategoryFile::write(path, categories, &error) && file.open(QIODevice::ReadOnly) ? file.readAll() : error.toUtf8();
+  };
+  const QByteArray expected =
+      Format + "# mine\n[x]Fast;;p;^v$;abs(v@ELE)>10\n\nShort;;p\nM\xc3\xbc;a;p;b;other;extra;fields\n# end\n";
+  QCOMPARE(saved(), expected);
+  QCOMPARE(saved(), expected);
+  categories.insert(categories.begin(), Category{QStringLiteral("new"), {}, {}, {}, {}, false});
+  categories.erase(categories.begin() + 1);
+  QCOMPARE(saved(), QByteArray(Format + "# mine\nnew;;;;\n\nShort;;p\nM\xc3\xbc;a;p;b;other;extra;fields\n# end\n"));
+  categories.clear();
+  QCOMPARE(saved(), QByteArray(Format + "# mine\n\nShort;;p\n# end\n"));
 }
 
 void TestLayersAndCats::categoryFileOnAFullDisk() {

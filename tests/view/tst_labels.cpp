@@ -28,6 +28,7 @@ private slots:
   void contentsFollowTheTable_data();
   void contentsFollowTheTable();
   void costlyFormulasAreGivenUp();
+  void longContentsAreCut();
   void styleFollowsElementThenTable();
   void contentsAreMadeOnce();
   void labelsInTheDrawing();
@@ -235,6 +236,24 @@ void TestLabels::costlyFormulasAreGivenUp() {
   QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
   QCOMPARE(told.size(), 1);
   QVERIFY2(told.first().contains(formula.left(20)), qPrintable(told.first()));
+}
+
+void TestLabels::longContentsAreCut() {
+  NetData net;
+  for (int i = 0; i < 300; ++i)
+    net.addElement(makeElement({{"name", QByteArray::number(i).constData()}, {"type", "n"}, {"p", "71.25"}}));
+  LabelTable table;
+  table.types.front()[LabelRow::Contents] = QStringLiteral("@p").repeated(30000); // of nodes
+  Findings told;
+  QElapsedTimer timer;
+  timer.start();
+  const LabelContents contents(table, PlotSettings(), net, [&told](const Finding &finding) { told.push_back(finding); });
+  const QString line = contents.text(*net.element(QStringLiteral("7"))).lines.value(0);
+  QCOMPARE(line.size(), 200);
+  QVERIFY(line.startsWith(QLatin1String("71.25 bar71.25")));
+  QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+  QCOMPARE(told.size(), std::size_t(1));
+  QVERIFY2(told.front().text.contains(QLatin1String("60000")), qPrintable(told.front().text));
 }
 
 void TestLabels::styleFollowsElementThenTable() {

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <sys/stat.h>
 
 class TestLabelTable : public QObject {
@@ -16,6 +17,7 @@ private slots:
   void anotherVersionIgnoresMasters();
   void cutAtEveryLine();
   void badFiles();
+  void nothingIsLostUnnoticed();
   void fullDiskKeepsTheOldFile();
 
 private:
@@ -138,6 +140,45 @@ void TestLabelTable::badFiles() {
   QString error;
   QVERIFY(!LabelTableFile::write(QStringLiteral("/nowhere/vfd.csv"), read, &error));
   QVERIFY(error.contains(QStringLiteral("/nowhere/vfd.csv")));
+}
+
+void TestLabelTable::nothingIsLostUnnoticed() {
+  const auto hasWarning = [](const LabelTableFile::Reading &reading, const char *text, int line) {
+    return std::any_of(reading.findings.begin(), reading.findings.end(), [&](const Finding &finding) {
+      return finding.severity == Finding::Severity::Warning && finding.text.contains(QLatin1String(text)) &&
+             finding.line == line;
+    });
+  };
+  // Of an old spreadsheet.
+  LabelTable read;
+  const QByteArray text = sampleText();
+  LabelTableFile::Reading reading = LabelTableFile::read(write(QByteArray(text).replace("\xc3\xbc", "\xfc")), read);
+  QVERIFY(read == sample());
+  QVERIFY(hasWarning(reading, "Windows-1252", 0));
+  QCOMPARE(reading.leftOut, 0);
+
+  LabelTable many = sample();
+  many.templates.resize(1500, many.templates.front());
+  QVERIFY(LabelTableFile::write(path("many.csv"), many));
+  reading = LabelTableFile::read(path("many.csv"), read);
+  QVERIFY(read == many);
+  QCOMPARE(reading.leftOut, 0);
+
+  // A cell that is too long costs no other.
+  QList<QByteArray> lines = text.split('\n');
+  const int line = 1 + LabelRow::Columns * (1 + 2) + LabelRow::Contents;
+  lines[line] = QByteArray(LabelTableFile::LongestCell + 1, 'x');
+  read = LabelTable();
+  reading = LabelTableFile::read(write(lines.join('\n')), read);
+  LabelTable expected = sample();
+  expected.types.at(2)[LabelRow::Contents] = LabelTable().types.at(2)[LabelRow::Contents];
+  QVERIFY(read == expected);
+  QVERIFY(hasWarning(reading, "65537 characters", line + 1));
+  QCOMPARE(reading.leftOut, 1);
+
+  reading = LabelTableFile::read(write(text + "half a template\n"), read);
+  QVERIFY(read == sample());
+  QCOMPARE(reading.leftOut, 1);
 }
 
 void TestLabelTable::fullDiskKeepsTheOldFile() {

@@ -38,6 +38,8 @@ private slots:
   void invalidRangeAsks_data();
   void invalidRangeAsks();
   void savesBothFiles();
+  void overwritesOnlyWhatWasRead_data();
+  void overwritesOnlyWhatWasRead();
   void savedSettingsComeBack();
   void untouchedFieldsStay();
   void touchedFieldsAreTaken();
@@ -211,6 +213,76 @@ void TestViewFuncDialog::savesBothFiles() {
   press(dialog, "applyAndSave");
   const QString text = answers.texts().value(0);
   QVERIFY2(text.contains(QStringLiteral("/nowhere/")), qPrintable(text));
+}
+
+void TestViewFuncDialog::overwritesOnlyWhatWasRead_data() {
+  QTest::addColumn<QByteArray>("atOpening");
+  QTest::addColumn<QByteArray>("meanwhile"); // what another program writes; null for nothing
+  QTest::addColumn<QString>("said");
+  QTest::addColumn<bool>("isQuestion");
+  LabelTableFile::write(QDir::temp().filePath(QStringLiteral("tst_view_vfd.csv")), LabelTable());
+  QFile file(QDir::temp().filePath(QStringLiteral("tst_view_vfd.csv")));
+  file.open(QIODevice::ReadOnly);
+  const QByteArray plain = file.readAll();
+  file.remove();
+  QTest::newRow("as it was") << plain << QByteArray() << QString() << false;
+  QTest::newRow("new") << QByteArray() << QByteArray() << QString() << false;
+  QTest::newRow("changed") << plain << QByteArray("mine") << QStringLiteral("was changed by another program") << true;
+  QTest::newRow("made") << QByteArray() << QByteArray("mine") << QStringLiteral("was changed by another program") << true;
+  QTest::newRow("not wholly read") << plain + QByteArray(70000, 'x') << QByteArray()
+                                   << QStringLiteral("could not be read (2)") << true;
+  QTest::newRow("unreadable") << QByteArray("folder") << QByteArray("mine") << QStringLiteral("is not overwritten") << false;
+}
+
+void TestViewFuncDialog::overwritesOnlyWhatWasRead() {
+  QFETCH(QByteArray, atOpening);
+  QFETCH(QByteArray, meanwhile);
+  QFETCH(QString, said);
+  QFETCH(bool, isQuestion);
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("vfd.csv"));
+  const auto write = [&path](const QByteArray &text) {
+    QFile::remove(path);
+    QFile file(path);
+    return text.isEmpty() || (file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+  };
+  ViewFixture f;
+  if (atOpening == "folder")
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("vfd.csv")));
+  else
+    QVERIFY(write(atOpening));
+  f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
+  viewFuncDialog dialog(f.plot());
+  dialog.setFiles(path, folder.filePath(QStringLiteral("plotsettings.ini")));
+  if (atOpening == "folder")
+    QVERIFY(QDir(folder.path()).rmdir(QStringLiteral("vfd.csv")));
+  if (!meanwhile.isEmpty())
+    QVERIFY(write(meanwhile));
+  const auto present = [&path] {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  };
+  const QByteArray before = present();
+  using NivraMsg::Answer;
+  {
+    const Answers answers({Answer::No});
+    press(dialog, "applyAndSave");
+    QVERIFY2(answers.texts().join(QString()).contains(said), qPrintable(answers.texts().join(QString())));
+    QCOMPARE(answers.areGiven(), !said.isEmpty());
+  }
+  if (!said.isEmpty())
+    QCOMPARE(present(), before);
+  if (isQuestion) {
+    const Answers answers({Answer::Yes});
+    press(dialog, "applyAndSave");
+    QVERIFY(answers.areGiven());
+  }
+  if (isQuestion || said.isEmpty()) {
+    QVERIFY(present().startsWith("vfd 1\n"));
+    const Answers answers({});
+    press(dialog, "applyAndSave"); // over its own file
+    QVERIFY(answers.areGiven());
+  }
 }
 
 void TestViewFuncDialog::savedSettingsComeBack() {

@@ -44,18 +44,71 @@ QString meant(const QString &field) {
   return result + text.mid(end);
 }
 
-/// Files written elsewhere may be in the encoding of old.
-QString decoded(const QByteArray &content, const QString &path, const Told &told) {
-  if (std::optional<QString> text = TextDecoding::fromUtf8(content))
-    return *text;
-  tell(told, Finding::Severity::Warning, QStringLiteral("%1 is not UTF-8 and is read as Windows-1252 (Latin-1)").arg(path));
-  return TextDecoding::fromWindows1252(content);
+constexpr int Fields = 5;
+
+bool isComment(const QString &line) {
+  return line.trimmed().isEmpty() || line.startsWith(QLatin1Char('#'));
 }
+
+/// Nothing when the line has too few fields.
+std::optional<Category> parsed(const QString &line) {
+  QStringList fields = line.split(QLatin1Char(';'));
+  if (fields.size() < Fields)
+    return std::nullopt;
+  const bool isChecked = fields[0].trimmed().startsWith(CheckedMark);
+  if (isChecked)
+    fields[0] = fields[0].trimmed().mid(CheckedMark.size());
+  return Category{meant(fields[0]), meant(fields[1]), meant(fields[2]), meant(fields[3]), meant(fields[4]), isChecked};
+}
+
+QString writtenLine(const Category &c) {
+  const QStringList fields{writtenFirst(c.category), written(c.name), written(c.type), written(c.prop), written(c.value)};
+  return (c.isChecked ? CheckedMark : QString()) + fields.join(QLatin1Char(';'));
+}
+
+/// What a file holds that is no category: lines, which stay behind as many categories as before, and fields behind those of
+/// a category, which stay with its name.
+class Remainder {
+public:
+  explicit Remainder(const QString &text) {
+    QStringList lines = text.split(QLatin1Char('\n'));
+    if (lines.last().isEmpty())
+      lines.removeLast();
+    int before = 0; // categories
+    for (QString &line : lines) {
+      if (line.endsWith(QLatin1Char('\r')))
+        line.chop(1);
+      const std::optional<Category> category = isComment(line) ? std::nullopt : parsed(line);
+      if (category) {
+        ++before;
+        m_fields[category->category].append(line.section(QLatin1Char(';'), Fields));
+      } else {
+        m_lines[before].append(line);
+      }
+    }
+  }
+
+  QStringList takeLines(int before) { return m_lines.take(before); }
+  QString takeFields(const QString &category) {
+    QStringList &ofName = m_fields[category]; // several categories may share it
+    const QString fields = ofName.isEmpty() ? QString() : ofName.takeFirst();
+    return fields.isEmpty() ? fields : QLatin1Char(';') + fields;
+  }
+  QStringList rest() const {
+    QStringList all;
+    for (const QStringList &lines : m_lines)
+      all += lines;
+    return all;
+  }
+
+private:
+  QMap<int, QStringList> m_lines; ///< by the number of categories in front of them
+  QMap<QString, QStringList> m_fields;
+};
 
 } // namespace
 
 std::vector<Category> CategoryFile::read(const QString &path, const Told &told) {
-  constexpr int Fields = 5;
   std::vector<Category> categories;
   if (!QFileInfo::exists(path)) {
     tell(told, Finding::Severity::Information, QStringLiteral("### Categories file %1 not found!").arg(path));
@@ -68,34 +121,39 @@ std::vector<Category> CategoryFile::read(const QString &path, const Told &told) 
     return categories;
   }
   int number = 0;
-  for (const QString &line : decoded(*content, path, told).split(QLatin1Char('\n'))) {
+  for (const QString &line : TextDecoding::decoded(*content, path, told).split(QLatin1Char('\n'))) {
     ++number;
-    if (line.trimmed().isEmpty() || line.startsWith(QLatin1Char('#')))
+    if (isComment(line))
       continue;
-    QStringList fields = line.split(QLatin1Char(';'));
-    if (fields.size() < Fields) {
-      if (told)
-        told({Finding::Severity::Warning, path, number, QStringLiteral("Line contains less than 5 entries!")});
-      continue;
-    }
-    const bool isChecked = fields[0].trimmed().startsWith(CheckedMark);
-    if (isChecked)
-      fields[0] = fields[0].trimmed().mid(CheckedMark.size());
-    categories.push_back(
-        {meant(fields[0]), meant(fields[1]), meant(fields[2]), meant(fields[3]), meant(fields[4]), isChecked});
+    if (const std::optional<Category> category = parsed(line))
+      categories.push_back(*category);
+    else if (told)
+      told({Finding::Severity::Warning, path, number, QStringLiteral("Line contains less than 5 entries!")});
   }
   return categories;
 }
 
 bool CategoryFile::write(const QString &path, const std::vector<Category> &categories, QString *error) {
-  QString text = QStringLiteral("# format (besides comment lines) per LINE:\n# category;name;type;prop;value/formula\n");
-  for (const Category &c : categories) {
-    const QStringList fields{writtenFirst(c.category), written(c.name), written(c.type), written(c.prop), written(c.value)};
-    text += (c.isChecked ? CheckedMark : QString()) + fields.join(QLatin1Char(';')) + QLatin1Char('\n');
-  }
   QString reason;
-  if (WholeFile::write(path, FileAccess::Source::Workspace, text.toUtf8(), &reason))
-    return true;
+  std::optional<QByteArray> present = QByteArray();
+  if (QFileInfo::exists(path))
+    present = FileAccess::readWhole(path, FileAccess::Source::Workspace, FileAccess::LargestConfiguration, &reason);
+  if (present) {
+    Remainder remainder(TextDecoding::decoded(*present, path, {}));
+    QStringList lines;
+    const QString format = QStringLiteral("# category;name;type;prop;value/formula");
+    if (!remainder.rest().contains(format))
+      lines << QStringLiteral("# format (besides comment lines) per LINE:") << format;
+    int before = 0;
+    for (const Category &category : categories) {
+      lines += remainder.takeLines(before++);
+      lines += writtenLine(category) + remainder.takeFields(category.category);
+    }
+    lines += remainder.rest();
+    const QByteArray text = (lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8();
+    if (WholeFile::write(path, FileAccess::Source::Workspace, text, &reason))
+      return true;
+  }
   *error = tr("Could not open categories file %1!").arg(path) + QLatin1Char('\n') + reason;
   return false;
 }

@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 void Layers::setProperty(const QString &property) {
   if (property == m_property)
     return;
@@ -22,7 +24,18 @@ void Layers::rebuild() {
   });
 }
 
+bool Layers::canChange() const {
+  const Names &all = Names::all();
+  const std::initializer_list<PropertyKey> OfTheNetwork{all.name, all.type,     all.node1, all.node2, all.x,
+                                                        all.y,    all.elements, all.pins,  all.refEle};
+  return std::none_of(OfTheNetwork.begin(), OfTheNetwork.end(), [this](PropertyKey key) {
+    return m_property.trimmed().compare(key.name(), Qt::CaseInsensitive) == 0;
+  });
+}
+
 void Layers::add(const QStringList &names, const QString &layer) {
+  if (!canChange())
+    return;
   for (const QString &name : names) {
     if (element *e = m_net.element(name))
       e->set(m_property, layer);
@@ -36,6 +49,8 @@ void Layers::rename(const QString &layer, const QString &newName) {
 
 QStringList Layers::remove(const QSet<QString> &layers) {
   QStringList names;
+  if (!canChange())
+    return names;
   for (const QString &layer : layers)
     names += m_layers.value(layer);
   for (const QString &name : qAsConst(names)) {

@@ -125,7 +125,7 @@ void NivraNetLayersEditor::on_tableWidget_cellChanged(int row, int column, const
 }
 
 void NivraNetLayersEditor::rename(const QString &layer, const QString &name) {
-  if (!m_layers.all().contains(layer) || !mayBecome(name))
+  if (!m_layers.all().contains(layer) || !mayChange() || !mayBecome(name))
     return;
   QSet<QString> hidden = m_model->hidden();
   const bool joinsAnother = m_layers.all().contains(name); // which stays as it is
@@ -136,6 +136,17 @@ void NivraNetLayersEditor::rename(const QString &layer, const QString &name) {
   showWithout(hidden);
   fill(name);
   tellOfLayers(names);
+}
+
+/// Whether elements can change their layer; says why not.
+bool NivraNetLayersEditor::mayChange() {
+  if (m_layers.canChange())
+    return true;
+  NivraMsg::message(NivraMsg::Kind::Warning,
+                    tr("The property \"%1\" says what an element is or where it lies. Layers of it can be shown and hidden, "
+                       "but not changed: choose another layer property.")
+                        .arg(m_layers.property()));
+  return false;
 }
 
 /// Whether a layer may be renamed so; asks the person.
@@ -184,7 +195,7 @@ void NivraNetLayersEditor::on_toolButtonAdd_clicked() {
     NivraMsg::information(tr("select elements to add."));
     return;
   }
-  const QString layer = askForLayer();
+  const QString layer = mayChange() ? askForLayer() : QString();
   if (layer.isEmpty())
     return;
   const QString question =
@@ -202,7 +213,7 @@ void NivraNetLayersEditor::on_toolButtonDel_clicked() {
   QSet<QString> chosen;
   for (const QModelIndex &cell : m_ui->table->selectionModel()->selectedIndexes())
     chosen.insert(layerAt(cell));
-  if (chosen.isEmpty() || m_mode == EditMode::VisibilityOnly)
+  if (chosen.isEmpty() || m_mode == EditMode::VisibilityOnly || !mayChange())
     return;
   const QString question =
       tr("This will erase the \"%1\" property from all elements in the selected layers. Continue?").arg(m_layers.property());

@@ -92,8 +92,9 @@ private:
 } // namespace
 
 IniText::IniText(const QByteArray &text) {
+  static const QByteArray ByteOrderMark = QByteArrayLiteral("\xef\xbb\xbf"); // editors of some systems put it in front
   QByteArray group = NoGroup;
-  QList<QByteArray> lines = text.split('\n');
+  QList<QByteArray> lines = text.mid(text.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0).split('\n');
   if (lines.last().isEmpty())
     lines.removeLast();
   for (const QByteArray &line : lines) {

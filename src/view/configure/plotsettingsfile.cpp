@@ -9,6 +9,8 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <cmath>
+
 namespace {
 
 constexpr qint64 LargestFile = qint64(4) << 20;
@@ -162,13 +164,35 @@ struct GroupedText {
 
 struct Reader {
   GroupedText store;
-  QStringList refused{}; ///< keys whose values are objects that no setting has
+  QStringList refused{};   ///< keys whose values are objects that no setting has
+  QStringList noNumbers{}; ///< "key=value" where a number should be
 
-  static void assign(QString &field, const QString &value) { field = value; }
-  static void assign(int &field, const QString &value) { field = QVariant(value).toInt(); }
-  static void assign(double &field, const QString &value) { field = QVariant(value).toDouble(); }
-  static void assign(bool &field, const QString &value) { field = QVariant(value).toBool(); }
-  static void assign(QColor &field, const QString &value) { field = QColor(value); }
+  // False when the text says no such value: then the field stays.
+  static bool assign(QString &field, const QString &value) {
+    field = value;
+    return true;
+  }
+  static bool assign(bool &field, const QString &value) {
+    field = QVariant(value).toBool();
+    return true;
+  }
+  static bool assign(QColor &field, const QString &value) {
+    field = QColor(value);
+    return true;
+  }
+  static bool assign(int &field, const QString &value) {
+    bool isNumber = false;
+    const int number = value.trimmed().toInt(&isNumber);
+    field = isNumber ? number : field;
+    return isNumber;
+  }
+  static bool assign(double &field, const QString &value) {
+    bool isNumber = false;
+    const double number = value.trimmed().toDouble(&isNumber);
+    isNumber = isNumber && std::isfinite(number);
+    field = isNumber ? number : field;
+    return isNumber;
+  }
 
   template <typename T>
   void field(const char *key, T &field, const T &missing) {
@@ -189,8 +213,11 @@ private:
     if (!value)
       return false;
     if (!isObject) {
-      assign(field, *value);
-      return true;
+      constexpr int Shown = 50; // characters
+      const bool isTaken = assign(field, *value);
+      if (!isTaken)
+        noNumbers << QLatin1String(key) + QLatin1Char('=') + value->left(Shown);
+      return isTaken;
     }
     if constexpr (std::is_same_v<T, QColor>) {
       const std::optional<QColor> color = storedColor(*value);
@@ -237,6 +264,9 @@ bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, const T
     tell(told, Finding::Severity::Warning,
          tr("%1: values that are no text, number or colour are left out: %2")
              .arg(path, reader.refused.join(QStringLiteral(", "))));
+  if (!reader.noNumbers.isEmpty())
+    tell(told, Finding::Severity::Warning,
+         tr("%1: values that are no numbers are left out: %2").arg(path, reader.noNumbers.join(QStringLiteral(", "))));
   return true;
 }
 

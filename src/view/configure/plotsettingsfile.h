@@ -9,8 +9,8 @@
 class PlotSettingsFile {
   Q_DECLARE_TR_FUNCTIONS(PlotSettingsFile)
 public:
-  /// Reads the file over the settings key by key; values of a wrong type become 0, false or an invalid colour. False when
-  /// there is no such file or it cannot be read: then nothing changes.
+  /// Reads the file over the settings key by key; what is no number is told and counts as missing, what is no colour becomes
+  /// an invalid one. False when there is no such file or it cannot be read: then nothing changes.
   /// \param told what is wrong with the file
   static bool read(const QString &path, PlotSettings &settings, const Told &told = {});
 

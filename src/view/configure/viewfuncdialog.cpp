@@ -161,6 +161,8 @@ void viewFuncDialog::bindColors() {
 void viewFuncDialog::setFiles(const QString &labelTable, const QString &plotSettings) {
   m_labelTablePath = labelTable;
   m_plotSettingsPath = plotSettings;
+  LabelTable shown; // which the plot has read and told of
+  m_labelsRead = LabelTableFile::read(labelTable, shown);
   offerSavedSettings();
 }
 
@@ -214,14 +216,44 @@ void viewFuncDialog::on_applyAndSave_clicked() {
   QString error;
   if (!apply())
     return;
-  if (!m_plot.writePlotSettings(m_plotSettingsPath, &error) ||
-      !LabelTableFile::write(m_labelTablePath, m_plot.update().labelTable(), &error))
+  if (!m_plot.writePlotSettings(m_plotSettingsPath, &error)) {
     NivraMsg::message(NivraMsg::Kind::Critical, error);
+  } else if (mayOverwriteLabels()) {
+    if (LabelTableFile::write(m_labelTablePath, m_plot.update().labelTable(), &error))
+      m_labelsRead = {true, {}, LabelTableFile::Stamp::of(m_labelTablePath), 0};
+    else
+      NivraMsg::message(NivraMsg::Kind::Critical, error);
+  }
   offerSavedSettings();
 }
 
-bool viewFuncDialog::readLabels(const QString &path, FileAccess::Source source, LabelTable &labels) const {
+/// Whether nothing is lost by writing the label table, or the person agrees to it.
+bool viewFuncDialog::mayOverwriteLabels() const {
+  using namespace NivraMsg;
+  const LabelTableFile::Stamp present = LabelTableFile::Stamp::of(m_labelTablePath);
+  if (!present.isOfAFile())
+    return true;
+  if (m_labelsRead.stamp.isOfAFile() && !m_labelsRead.isOpened) {
+    message(Kind::Critical,
+            tr("%1 could not be read, so it is not overwritten. The label table is not saved.").arg(m_labelTablePath));
+    return false;
+  }
+  const auto agrees = [](const QString &question) {
+    return NivraMsg::show({Kind::Question, question, {}, {Answer::Yes, Answer::No}, Answer::No}) == Answer::Yes;
+  };
+  if (present != m_labelsRead.stamp)
+    return agrees(tr("%1 was changed by another program or window since it was read. Overwrite?").arg(m_labelTablePath));
+  return m_labelsRead.leftOut == 0 ||
+         agrees(tr("%1 has rows or cells that could not be read (%2); the message log names them. They are lost when it is "
+                   "overwritten. Overwrite?")
+                    .arg(m_labelTablePath)
+                    .arg(m_labelsRead.leftOut));
+}
+
+bool viewFuncDialog::readLabels(const QString &path, FileAccess::Source source, LabelTable &labels) {
   const LabelTableFile::Reading reading = LabelTableFile::read(path, labels, source);
+  if (path == m_labelTablePath)
+    m_labelsRead = reading;
   if (m_plot.told())
     std::for_each(reading.findings.begin(), reading.findings.end(), m_plot.told());
   return reading.isOpened;

@@ -3,6 +3,7 @@
 #include "canvas/qwtfastplot.h"
 #include "export/documentrenderer.h"
 
+#include <base/wholefile.h>
 #include <view/netplot.h>
 
 #include <QFile>
@@ -101,13 +102,12 @@ bool PictureWriter::writePostScript(QIODevice &device, QString &reason) const {
     reason = tr("PostScript needs the tool pdftops (Poppler) or gs (Ghostscript), and neither is installed");
     return false;
   }
-  QFile document(source);
-  if (!document.open(QIODevice::WriteOnly)) {
-    reason = document.errorString();
+  const auto document = [this](QIODevice &pdf, QString *) {
+    writePdf(pdf);
+    return true;
+  };
+  if (!WholeFile::write(source, FileAccess::Source::Trusted, document, &reason))
     return false;
-  }
-  writePdf(document);
-  document.close();
   constexpr int PatienceMs = 120000;
   QProcess tool;
   if (!poppler.isEmpty())

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/finding.h>
+
 #include <QByteArray>
 #include <QString>
 
@@ -15,5 +17,7 @@ QString decoded(std::string_view utf8);
 std::optional<QString> fromUtf8(const QByteArray &bytes);
 /// Takes any bytes.
 QString fromWindows1252(const QByteArray &bytes);
+/// The text of a file in whichever it is written; \p told when that is not UTF-8.
+QString decoded(const QByteArray &content, const QString &path, const Told &told);
 
 } // namespace TextDecoding

@@ -12,7 +12,8 @@
 /// on the disk; a disk that fills on the way leaves it as it was. Pipes and devices are not replaced by files.
 namespace WholeFile {
 
-/// Writes into the device; false when it cannot, with its reason where the device's own error does not say it.
+/// Writes into the device; false when it cannot, with its reason where the device's own error does not say it. It need not
+/// look at what the device returns: a file of which a block could not be written is not kept, whatever the writer says.
 using Writer = std::function<bool(QIODevice &device, QString *reason)>;
 
 /// False with "Could not write path: why". A file of the workspace is written inside the workspace only

@@ -51,7 +51,8 @@ class CategoryFile {
 public:
   /// What is wrong with a line is told, and the line skipped. A missing file is told and holds none.
   static std::vector<Category> read(const QString &path, const Told &told = {});
-  /// Whole or not at all; false with the reason.
+  /// Whole or not at all; false with the reason. What the present file holds beside categories stays: comments, lines that
+  /// are none, and fields behind the fifth, which belong to the name of their category.
   static bool write(const QString &path, const std::vector<Category> &categories, QString *error);
 
   static CatMap toMap(const std::vector<Category> &categories);

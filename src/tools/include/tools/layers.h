@@ -22,7 +22,9 @@ public:
   /// Names of elements by layer, in the order of the network.
   const QMap<QString, QStringList> &all() const { return m_layers; }
 
-  /// Gives elements to a layer; names that the network does not have are passed over.
+  /// Whether elements can change their layer: not where the property says which element it is, what it is or where it lies.
+  bool canChange() const;
+  /// Gives elements to a layer, where they can change it; names that the network does not have are passed over.
   void add(const QStringList &names, const QString &layer);
   void rename(const QString &layer, const QString &newName);
   /// Takes the property away from all elements of the layers, and returns which these are.

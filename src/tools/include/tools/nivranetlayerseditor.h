@@ -65,6 +65,7 @@ private:
   void fill(const QString &marked = QString());
   void rename(const QString &layer, const QString &name);
   bool mayBecome(const QString &name);
+  bool mayChange();
   void showWithout(const QSet<QString> &hidden);
   void tellOfLayers(const QStringList &names);
   void showList(const QString &layer);

@@ -13,7 +13,8 @@
 
 namespace {
 
-constexpr int LongestLine = 200; // characters
+constexpr int LongestLine = 200;      // characters
+constexpr int LongestContents = 8000; // characters of the table: room for a long formula
 constexpr int MostLines = 20;
 
 struct StyleKeys {
@@ -94,6 +95,14 @@ LabelContents::Type LabelContents::typeOf(const LabelRow &row) const {
       QStringLiteral("<(?!br />)[A-Za-z/]|&(?:#\\d+|#x[0-9a-fA-F]+|[A-Za-z][A-Za-z0-9]*);"));
   Type type;
   QString contents = row[LabelRow::Contents];
+  if (contents.size() > LongestContents) {
+    tell(m_told, Finding::Severity::Warning,
+         QStringLiteral("The label contents of \"%1\" have %2 characters; those beyond the first %3 are left out")
+             .arg(row[LabelRow::Short])
+             .arg(contents.size())
+             .arg(LongestContents));
+    contents.truncate(LongestContents);
+  }
   contents.replace(QStringLiteral("&#44;"), QStringLiteral(",")).replace(Break, QStringLiteral("<br />"));
   type.isHtml = contents.contains(Marks);
   for (const QString &line : contents.split(QStringLiteral("<br />")).mid(0, MostLines))
@@ -261,6 +270,8 @@ QString LabelContents::filled(const Line &line, const element &source, bool isHt
   bool hasPlaceHolder = false;
   bool hasValue = false;
   for (const Part &part : line) {
+    if (hasValue && text.size() >= LongestLine && text.simplified().size() >= LongestLine)
+      break; // nobody sees more of it
     text += part.text;
     if (!part.isPlaceHolder)
       continue;

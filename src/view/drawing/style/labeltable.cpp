@@ -1,9 +1,10 @@
+#include <base/textdecoding.h>
 #include <base/wholefile.h>
 #include <drawing/labeltable.h>
 #include <model/elementtypes.h>
 #include <model/netdata.h>
 
-#include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 
 #include <algorithm>
@@ -57,32 +58,56 @@ const QStringList &LabelTable::headers() {
 
 namespace {
 
-/// The lines of the file; a null line behind its end.
+Finding information(const QString &text) {
+  return {Finding::Severity::Information, {}, 0, text, {}};
+}
+
+Finding warning(const QString &text) {
+  return {Finding::Severity::Warning, {}, 0, text, {}};
+}
+
+/// The lines of the file; behind its end there is none.
 class Lines {
 public:
-  explicit Lines(const QByteArray &text)
-      : m_stream(text) {
-    m_stream.setCodec("UTF-8");
-  }
+  Lines(QString text, const QString &path)
+      : m_text(std::move(text))
+      , m_stream(&m_text, QIODevice::ReadOnly)
+      , m_path(path) {}
+
+  /// False at the end. A line that is too long for a cell is refused: it becomes a null one.
   bool next(QString &line) {
-    line = m_ahead.isEmpty() ? read() : m_ahead.takeFirst();
-    return !line.isNull();
+    line = m_ahead.isEmpty() ? m_stream.readLine() : m_ahead.takeFirst();
+    if (line.isNull())
+      return false;
+    ++m_number;
+    if (line.size() > LabelTableFile::LongestCell) {
+      m_refused.push_back({Finding::Severity::Warning,
+                           m_path,
+                           m_number,
+                           QStringLiteral("A cell of %1 characters is left out; it may have %2")
+                               .arg(line.size())
+                               .arg(LabelTableFile::LongestCell),
+                           {}});
+      line = QString();
+    }
+    return true;
   }
-  /// A line that is still to come, 0 for the next one.
+  /// A line that is still to come, 0 for the next one; a null line behind the end.
   QString ahead(int index) {
     while (m_ahead.size() <= index)
-      m_ahead.append(read());
+      m_ahead.append(m_stream.readLine());
     return m_ahead.at(index);
   }
+  bool isAtEnd() { return ahead(0).isNull(); }
+  const Findings &refused() const { return m_refused; }
 
 private:
-  QString read() {
-    constexpr qint64 LongestLine = 1 << 16;
-    return m_stream.readLine(LongestLine);
-  }
-
+  QString m_text;
   QTextStream m_stream;
+  QString m_path;
   QStringList m_ahead; ///< read ahead of what was asked for
+  int m_number = 0;
+  Findings m_refused;
 };
 
 bool readCells(Lines &lines, LabelRow &row, int first = 0) {
@@ -90,7 +115,7 @@ bool readCells(Lines &lines, LabelRow &row, int first = 0) {
     QString cell;
     if (!lines.next(cell))
       return false;
-    if (column != LabelRow::LongName && column != LabelRow::Short)
+    if (column != LabelRow::LongName && column != LabelRow::Short && !cell.isNull())
       row.cells[static_cast<std::size_t>(column)] = cell;
   }
   return true;
@@ -124,50 +149,53 @@ bool skipMasters(Lines &lines, const LabelRow &type) {
   return true;
 }
 
-Finding information(const QString &text) {
-  return {Finding::Severity::Information, {}, 0, text, {}};
-}
-
-Finding warning(const QString &text) {
-  return {Finding::Severity::Warning, {}, 0, text, {}};
-}
-
 /// Reading stops where the file ends before its time.
 Finding endedIn(const QString &what, const QString &path) {
   return warning(QStringLiteral("EOF while reading %1 in file ").arg(what) + path + QStringLiteral("! Stopped!"));
 }
 
-Finding readTemplates(Lines &lines, const QString &path, LabelTable &table) {
-  constexpr std::size_t MostTemplates = 1000;
+void readTemplates(Lines &lines, const QString &path, LabelTable &table, LabelTableFile::Reading &reading) {
+  constexpr std::size_t MostTemplates = 100000; // of which a file of the largest size has more than memory
   table.templates.clear();
-  QString first;
-  while (table.templates.size() < MostTemplates && lines.next(first)) {
+  while (!lines.isAtEnd() && table.templates.size() < MostTemplates) {
     LabelRow row;
-    row[LabelRow::LongName] = first;
-    QString shortName;
-    if (!lines.next(shortName) || !readCells(lines, row, LabelRow::Size))
-      return endedIn(QStringLiteral("template"), path);
-    row[LabelRow::Short] = shortName;
-    if (!lines.next(row.icon))
-      return endedIn(QStringLiteral("template icon data"), path);
+    const bool hasCells =
+        lines.next(row[LabelRow::LongName]) && lines.next(row[LabelRow::Short]) && readCells(lines, row, LabelRow::Size);
+    if (!hasCells || !lines.next(row.icon)) {
+      ++reading.leftOut;
+      reading.findings.push_back(
+          endedIn(hasCells ? QStringLiteral("template icon data") : QStringLiteral("template"), path));
+      return;
+    }
     table.templates.push_back(row);
   }
-  return information(QStringLiteral("Number of eleSymLabel-templates: %1").arg(table.templates.size()));
+  reading.findings.push_back(information(QStringLiteral("Number of eleSymLabel-templates: %1").arg(table.templates.size())));
+  if (lines.isAtEnd())
+    return;
+  ++reading.leftOut;
+  reading.findings.push_back(
+      warning(QStringLiteral("%1: templates beyond the first %2 are left out").arg(path).arg(MostTemplates)));
 }
 
-/// Reads the rows of the types, then the templates. Returns how it ended.
-Finding readRows(Lines &lines, bool ignoresMasters, const QString &path, LabelTable &table) {
-  if (!skip(lines, LabelRow::Columns))
-    return endedIn(QStringLiteral("header"), path);
+/// Reads the rows of the types, then the templates.
+void readRows(Lines &lines, bool ignoresMasters, const QString &path, LabelTable &table, LabelTableFile::Reading &reading) {
+  if (!skip(lines, LabelRow::Columns)) {
+    reading.findings.push_back(endedIn(QStringLiteral("header"), path));
+    return;
+  }
   for (LabelRow &type : table.types) {
     if (ignoresMasters && !skipMasters(lines, type))
       continue;
+    const bool isThere = !lines.isAtEnd();
     LabelRow row = type; // half a row counts for nothing
-    if (!readCells(lines, row))
-      return endedIn(QStringLiteral("type data"), path);
+    if (!readCells(lines, row)) {
+      reading.leftOut += isThere ? 1 : 0;
+      reading.findings.push_back(endedIn(QStringLiteral("type data"), path));
+      return;
+    }
     type = row;
   }
-  return readTemplates(lines, path, table);
+  readTemplates(lines, path, table, reading);
 }
 
 /// A cell is a line: what would end it becomes a blank.
@@ -181,15 +209,30 @@ QString LabelTableFile::version() {
   return QStringLiteral("vfd 1");
 }
 
+LabelTableFile::Stamp LabelTableFile::Stamp::of(const QString &path) {
+  const QFileInfo file(path);
+  return file.exists() ? Stamp{file.size(), file.lastModified()} : Stamp();
+}
+
 LabelTableFile::Reading LabelTableFile::read(const QString &path, LabelTable &table, FileAccess::Source source) {
-  if (!QFile::exists(path))
-    return {false, {information(QStringLiteral("### Settings file ") + path + QStringLiteral(" not found!"))}};
+  Reading reading;
+  reading.stamp = Stamp::of(path);
+  if (!reading.stamp.isOfAFile()) {
+    reading.findings = {information(QStringLiteral("### Settings file ") + path + QStringLiteral(" not found!"))};
+    return reading;
+  }
   QString reason;
-  const std::optional<QByteArray> text = FileAccess::readWhole(path, source, FileAccess::LargestConfiguration, &reason);
-  if (!text)
-    return {false, {warning(QStringLiteral("### Could not open settings file ") + path), warning(reason)}};
-  Reading reading{true, {information(QStringLiteral("... loading settings file ") + path)}};
-  Lines lines(*text);
+  const std::optional<QByteArray> content = FileAccess::readWhole(path, source, FileAccess::LargestConfiguration, &reason);
+  if (!content) {
+    reading.findings = {warning(QStringLiteral("### Could not open settings file ") + path), warning(reason)};
+    return reading;
+  }
+  reading.isOpened = true;
+  reading.findings = {information(QStringLiteral("... loading settings file ") + path)};
+  const auto told = [&reading](const Finding &finding) {
+    reading.findings.push_back(finding);
+  };
+  Lines lines(TextDecoding::decoded(*content, path, told), path);
   QString fileVersion;
   if (!lines.next(fileVersion)) {
     reading.findings.push_back(endedIn(QStringLiteral("version (first line)"), path));
@@ -200,7 +243,9 @@ LabelTableFile::Reading LabelTableFile::read(const QString &path, LabelTable &ta
     reading.findings.push_back(
         information(QStringLiteral("Version of vfd file: ") + fileVersion +
                     QStringLiteral(", entries for masters are ignored.\nPlease perform apply and save")));
-  reading.findings.push_back(readRows(lines, ignoresMasters, path, table));
+  readRows(lines, ignoresMasters, path, table, reading);
+  reading.leftOut += static_cast<int>(lines.refused().size());
+  reading.findings.insert(reading.findings.begin() + 1, lines.refused().begin(), lines.refused().end());
   return reading;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <base/fileaccess.h>
+#include <drawing/labeltable.h>
 
 #include <QWidget>
 
@@ -10,7 +10,6 @@ class FunctionsPage;
 class LabelTableEditor;
 class NetPlot;
 class SettingFields;
-struct LabelTable;
 struct PlotSettings;
 
 namespace Ui {
@@ -24,7 +23,8 @@ public:
   explicit viewFuncDialog(NetPlot &plot, QWidget *parent = nullptr);
   ~viewFuncDialog() override;
 
-  /// Where "Apply and Save" writes to, and "Saved settings" reads from.
+  /// Where "Apply and Save" writes to, and "Saved settings" reads from; to be told when a case was opened, for what stands
+  /// there then is what may be overwritten without a question.
   void setFiles(const QString &labelTable, const QString &plotSettings);
   /// Shows how the plot is drawn now.
   void refresh();
@@ -48,7 +48,8 @@ private:
   bool apply();
   void draw(const PlotSettings &before, const LabelTable &labels);
   void offerSavedSettings();
-  bool readLabels(const QString &path, FileAccess::Source source, LabelTable &labels) const;
+  bool readLabels(const QString &path, FileAccess::Source source, LabelTable &labels);
+  bool mayOverwriteLabels() const;
   void limitWidth();
   void fillChoices();
   void bindScale();
@@ -61,5 +62,6 @@ private:
   FunctionsPage *m_functions;
   LabelTableEditor *m_labels;
   QString m_labelTablePath;
+  LabelTableFile::Reading m_labelsRead; ///< of the file at that path
   QString m_plotSettingsPath;
 };

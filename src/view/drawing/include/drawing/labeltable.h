@@ -3,7 +3,7 @@
 #include <base/fileaccess.h>
 #include <base/finding.h>
 
-#include <QCoreApplication>
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -44,9 +44,23 @@ namespace LabelTableFile {
 
 QString version();
 
+constexpr int LongestCell = 1 << 16; ///< characters
+
+/// Tells whether a file is still as it was.
+struct Stamp {
+  qint64 size = -1; ///< bytes, -1 where there is no file
+  QDateTime modified;
+
+  static Stamp of(const QString &path);
+  bool isOfAFile() const { return size >= 0; }
+  friend bool operator!=(const Stamp &a, const Stamp &b) { return a.size != b.size || a.modified != b.modified; }
+};
+
 struct Reading {
   bool isOpened = false; ///< false when there is no such file or it cannot be opened
   Findings findings;
+  Stamp stamp;     ///< of the file when it was read
+  int leftOut = 0; ///< cells and rows of the file that are not in the table, and are lost when it is saved
 
   explicit operator bool() const { return isOpened; }
 };
