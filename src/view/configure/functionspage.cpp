@@ -54,7 +54,7 @@ void FunctionsPage::offerFunctions() {
     QHash<QString, QString> described;
     for (const QString &property : isOfEdges(aspect) ? own.ofEdges : own.ofNodes) {
       functions.append(property);
-      const QString title = DrawFunction::find(property, *net).title;
+      const QString title = net == nullptr ? property : DrawFunction::find(property, *net).title;
       if (title != property)
         described.insert(property, title);
     }

@@ -75,7 +75,7 @@ QString PlotSaver::askForFile(QWidget *parent) {
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
     dialog.setDefaultSuffix(filter.section(QLatin1Char('.'), 1).remove(QLatin1Char(')')));
   });
-  const QString chosen = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0).trimmed() : QString();
+  QString chosen = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0).trimmed() : QString();
   folder.remember(chosen);
   return chosen;
 }
