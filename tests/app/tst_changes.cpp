@@ -1,4 +1,4 @@
-#include "nivraviewer.h"
+#include "panels.h"
 #include "subnetwindow.h"
 #include "workspacefixture.h"
 
@@ -8,7 +8,6 @@
 #include <tools/nivranetlayerseditor.h>
 #include <tools/nivrapropviewer.h>
 #include <tools/nivrasearch.h>
-#include <tools/nivravectable.h>
 #include <view/netviscontrol.h>
 
 #include <QApplication>
@@ -161,9 +160,7 @@ void TestChanges::everythingFollowsAValue() {
   c.viewer.visControl()->plot()->update().setLabelTable(labels);
   c.viewer.visControl()->relabelNow();
   c.viewer.on_actionElement_Table_triggered();
-  NivraVecTable *table = nullptr;
-  for (QWidget *window : QApplication::topLevelWidgets())
-    table = table == nullptr ? qobject_cast<NivraVecTable *>(window) : table;
+  NivraVecTable *table = vectorTable();
   QVERIFY(table != nullptr && table->isVisible());
   auto *search = c.viewer.findChild<NivraSearch *>();
   search->defineSearch({QString(), QStringLiteral("^n$"), QStringLiteral("^half$"), QString()}, false);

@@ -1,11 +1,10 @@
-#include "nivraviewer.h"
+#include "panels.h"
 #include "workspacefixture.h"
 
 #include <support/nivratest.h>
 #include <tools/nivranetlayerseditor.h>
 #include <tools/nivranetobjectcats.h>
 #include <tools/nivrasearch.h>
-#include <tools/nivravectable.h>
 #include <tools/tablemenu.h>
 #include <view/netviscontrol.h>
 
@@ -25,27 +24,12 @@
 
 namespace {
 
-template <typename Panel>
-Panel &panelOf(NivraViewer &viewer) {
-  auto *panel = viewer.findChild<Panel *>();
-  Q_ASSERT(panel != nullptr);
-  return *panel;
-}
-
-NivraVecTable *vectorTable() {
-  for (QWidget *window : QApplication::topLevelWidgets()) {
-    if (auto *table = qobject_cast<NivraVecTable *>(window))
-      return table;
-  }
-  return nullptr;
-}
-
-int shownRows(const QWidget &panel) {
-  const auto *table = panel.findChild<QTableView *>();
-  int count = 0;
-  for (int row = 0; row < table->model()->rowCount(); ++row)
-    count += table->isRowHidden(row) ? 0 : 1;
-  return count;
+/// The search, in front.
+NivraSearch &searchOf(NivraViewer &viewer) {
+  auto &search = panelOf<NivraSearch>(viewer);
+  search.show();
+  search.raise();
+  return search;
 }
 
 /// Types a path into the file dialog that is about to open and confirms it; remembers the folder in which it opened.
@@ -101,11 +85,9 @@ private:
 void TestToolHabits::hiddenResultsAreTold() {
   NivraViewer viewer;
   viewer.open(m_workspace.scenario());
-  auto &search = panelOf<NivraSearch>(viewer);
-  search.show();
-  search.raise();
+  NivraSearch &search = searchOf(viewer);
   search.on_pushButton_search_clicked();
-  QCOMPARE(shownRows(search), 5);
+  QCOMPARE(shownNames(search).size(), 5);
   auto *notice = search.findChild<QLabel *>(QStringLiteral("label_filters"));
   auto *all = search.findChild<QPushButton *>(QStringLiteral("pushButton_showAll"));
   QVERIFY(notice != nullptr && all != nullptr);
@@ -117,17 +99,17 @@ void TestToolHabits::hiddenResultsAreTold() {
   search.defineSearch({QStringLiteral("A"), QString(), QStringLiteral("^name$"), QString()}, false); // the filter holds
   QVERIFY2(notice->text().startsWith(QStringLiteral("0 rows hidden")), qPrintable(notice->text()));
   search.defineSearch({QStringLiteral("1"), QString(), QStringLiteral("^name$"), QString()}, false);
-  QCOMPARE(shownRows(search), 0);
+  QCOMPARE(shownNames(search).size(), 0);
   QVERIFY(notice->isVisible());
   QTest::mouseClick(all, Qt::LeftButton);
-  QCOMPARE(shownRows(search), 2);
+  QCOMPARE(shownNames(search).size(), 2);
   QVERIFY(!notice->isVisible() && !all->isVisible());
   menu->setFilter(0, QStringLiteral("K"));
   QCOMPARE(notice->text(), QStringLiteral("1 row hidden by filters: name K"));
   viewer.activateWindow();
   QVERIFY(QTest::qWaitForWindowActive(&viewer));
   QTest::keyClick(search.findChild<QTableView *>(), Qt::Key_A, Qt::AltModifier);
-  QTRY_COMPARE(shownRows(search), 2);
+  QTRY_COMPARE(shownNames(search).size(), 2);
 }
 
 void TestToolHabits::filtersEndWithTheCase() {
@@ -139,23 +121,21 @@ void TestToolHabits::filtersEndWithTheCase() {
   search.findChild<TableMenu *>()->setFilter(0, QStringLiteral("A"));
   viewer.on_actionElement_Table_triggered();
   NivraVecTable *table = vectorTable();
-  const int all = shownRows(*table);
+  const int all = shownNames(*table).size();
   QVERIFY(all > 1);
   table->findChild<TableMenu *>()->setFilter(0, QStringLiteral("A"));
-  QCOMPARE(shownRows(*table), 1);
+  QCOMPARE(shownNames(*table).size(), 1);
   viewer.open(another.scenario());
-  QCOMPARE(shownRows(*table), all);
+  QCOMPARE(shownNames(*table).size(), all);
   search.on_pushButton_search_clicked();
-  QCOMPARE(shownRows(search), 5);
+  QCOMPARE(shownNames(search).size(), 5);
   table->close();
 }
 
 void TestToolHabits::resultsAreCopiedTogether() {
   NivraViewer viewer;
   viewer.open(m_workspace.scenario());
-  auto &search = panelOf<NivraSearch>(viewer);
-  search.show();
-  search.raise();
+  NivraSearch &search = searchOf(viewer);
   viewer.activateWindow();
   QVERIFY(QTest::qWaitForWindowActive(&viewer));
   search.on_pushButton_search_clicked();

@@ -1,5 +1,5 @@
 #include "canvas/qwtfastplot.h"
-#include "nivraviewer.h"
+#include "panels.h"
 #include "subnetwindow.h"
 #include "workspacefixture.h"
 
@@ -12,7 +12,6 @@
 #include <tools/nivranetobjectcats.h>
 #include <tools/nivrapropviewer.h>
 #include <tools/nivrasearch.h>
-#include <tools/nivravectable.h>
 #include <view/netviscontrol.h>
 
 #include <QAction>
@@ -28,13 +27,6 @@
 #include <QTreeView>
 
 namespace {
-
-template <typename Panel>
-Panel &panelOf(NivraViewer &viewer) {
-  auto *panel = viewer.findChild<Panel *>();
-  Q_ASSERT(panel != nullptr);
-  return *panel;
-}
 
 QWidget &dockOf(NivraViewer &viewer, const char *name) {
   return *viewer.findChild<QWidget *>(QString::fromLatin1(name));
@@ -55,25 +47,6 @@ void hover(NivraViewer &viewer, const QPoint &point) {
 void click(NivraViewer &viewer, const QPoint &point) {
   QTest::mouseClick(viewer.visControl()->plot()->plot()->canvas(), Qt::LeftButton, Qt::NoModifier, point);
   QApplication::processEvents();
-}
-
-/// A table is a window of its own.
-NivraVecTable *vectorTable() {
-  for (QWidget *window : QApplication::topLevelWidgets()) {
-    if (auto *table = qobject_cast<NivraVecTable *>(window))
-      return table;
-  }
-  return nullptr;
-}
-
-QStringList names(const NivraVecTable &panel) {
-  const auto *table = panel.findChild<QTableView *>();
-  QStringList texts;
-  for (int row = 0; row < table->model()->rowCount(); ++row) {
-    if (!table->isRowHidden(row))
-      texts.append(table->model()->index(row, 0).data().toString());
-  }
-  return texts;
 }
 
 } // namespace
@@ -187,14 +160,14 @@ void TestToolsInWindow::tableShowsTheNewSearch() {
   search.findChild<QPushButton *>(QStringLiteral("pushButton_toTable"))->click();
   NivraVecTable *table = vectorTable();
   QVERIFY(table != nullptr && table->isVisible());
-  QCOMPARE(names(*table), QStringList{QStringLiteral("A")});
+  QCOMPARE(shownNames(*table), QStringList{QStringLiteral("A")});
   searchFor("B"); // while it is there
-  QCOMPARE(names(*table), QStringList{QStringLiteral("B")});
+  QCOMPARE(shownNames(*table), QStringList{QStringLiteral("B")});
   table->on_pushButtonClose_clicked();
   searchFor("P");
   searchFor("K"); // while it is not
   viewer.on_actionElement_Table_triggered();
-  QCOMPARE(names(*table), QStringList{QStringLiteral("K1")});
+  QCOMPARE(shownNames(*table), QStringList{QStringLiteral("K1")});
   table->close();
 }
 
@@ -207,7 +180,7 @@ void TestToolsInWindow::publicNamesStandAsPeopleCount() {
   auto &search = panelOf<NivraSearch>(viewer);
   search.defineSearch({QString(), QStringLiteral("^p$"), QStringLiteral("^name$"), QString()}, false);
   search.findChild<QPushButton *>(QStringLiteral("pushButton_toTable"))->click();
-  const QStringList shown = names(*vectorTable());
+  const QStringList shown = shownNames(*vectorTable());
   QVERIFY(shown.size() > 11);
   for (int i = 0; i < shown.size(); ++i)
     QCOMPARE(shown.at(i), QStringLiteral("pipe_%1").arg(i + 1));
