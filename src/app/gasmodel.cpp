@@ -13,8 +13,8 @@ namespace {
 const QString VocabularyType = QStringLiteral("n");
 
 bool isNameOrType(PropertyKey key) {
-  static const PropertyKey word = PropertyKey::intern("obj_type");
-  return key == Names::all().name || key == Names::all().type || key == word;
+  static const PropertyKey typeWord = PropertyKey::intern("obj_type");
+  return key == Names::all().name || key == Names::all().type || key == typeWord;
 }
 
 } // namespace

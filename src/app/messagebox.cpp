@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
-#include <QMap>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -18,15 +17,31 @@
 namespace {
 
 QString boxTitle(NivraMsg::Kind kind) {
-  return QStringList{MessageBox::tr("Information"), MessageBox::tr("Warning"), MessageBox::tr("Critical"),
-                     MessageBox::tr("Question")}
-      .value(static_cast<int>(kind));
+  switch (kind) {
+  case NivraMsg::Kind::Information:
+    return MessageBox::tr("Information");
+  case NivraMsg::Kind::Warning:
+    return MessageBox::tr("Warning");
+  case NivraMsg::Kind::Critical:
+    return MessageBox::tr("Critical");
+  case NivraMsg::Kind::Question:
+    break;
+  }
+  return MessageBox::tr("Question");
 }
 
 QMessageBox::Icon boxIcon(NivraMsg::Kind kind) {
-  static constexpr QMessageBox::Icon Icons[] = {QMessageBox::Information, QMessageBox::Warning, QMessageBox::Critical,
-                                                QMessageBox::Question};
-  return Icons[static_cast<std::size_t>(kind)];
+  switch (kind) {
+  case NivraMsg::Kind::Information:
+    return QMessageBox::Information;
+  case NivraMsg::Kind::Warning:
+    return QMessageBox::Warning;
+  case NivraMsg::Kind::Critical:
+    return QMessageBox::Critical;
+  case NivraMsg::Kind::Question:
+    break;
+  }
+  return QMessageBox::Question;
 }
 
 bool isLong(const QString &text) {
@@ -74,11 +89,23 @@ QMessageBox::StandardButton buttonOf(NivraMsg::Answer answer) {
 
 /// The toolkit's own texts of these buttons mostly have no key.
 QString buttonText(NivraMsg::Answer answer) {
-  using NivraMsg::Answer;
-  return QMap<Answer, QString>{{Answer::Ok, MessageBox::tr("&OK")},         {Answer::Save, MessageBox::tr("&Save")},
-                               {Answer::Yes, MessageBox::tr("&Yes")},       {Answer::No, MessageBox::tr("&No")},
-                               {Answer::Cancel, MessageBox::tr("&Cancel")}, {Answer::Discard, MessageBox::tr("&Discard")}}
-      .value(answer);
+  switch (answer) {
+  case NivraMsg::Answer::Ok:
+    return MessageBox::tr("&OK");
+  case NivraMsg::Answer::Save:
+    return MessageBox::tr("&Save");
+  case NivraMsg::Answer::Yes:
+    return MessageBox::tr("&Yes");
+  case NivraMsg::Answer::No:
+    return MessageBox::tr("&No");
+  case NivraMsg::Answer::Cancel:
+    return MessageBox::tr("&Cancel");
+  case NivraMsg::Answer::Discard:
+    return MessageBox::tr("&Discard");
+  case NivraMsg::Answer::None:
+    break;
+  }
+  return QString();
 }
 
 } // namespace

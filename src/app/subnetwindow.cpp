@@ -90,8 +90,8 @@ void SubnetWindow::takeProperties() {
       taken.erase(searched);
     here = std::move(taken);
   });
+  m_tools->showChanges(); // what a search marks is drawn, too
   m_control->redraw();
-  m_tools->showChanges();
 }
 
 NetData SubnetWindow::part(const NetData &net, const QString &subnet) {

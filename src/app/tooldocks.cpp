@@ -152,7 +152,8 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
     createSearch();
   if (m_characteristics == nullptr && m_extent == Extent::Program)
     createCharacteristics();
-  m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), workspace.filePath(QStringLiteral("plotsettings.ini")));
+  m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), m_control.labelsRead(),
+                   workspace.filePath(QStringLiteral("plotsettings.ini")));
   m_draw->refresh();
   m_shown.clear();
   m_propViewer->showCurrentEleContents(nullptr);
@@ -166,7 +167,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
   if (m_vectorTable != nullptr) {
     m_vectorTable->setDirectory(m_directory);
     m_vectorTable->refresh();
-    m_vectorTable->on_pushButtonUpdate_clicked();
+    m_vectorTable->showValues();
   }
 }
 

@@ -64,9 +64,9 @@ void logFinding(const Finding &finding) {
 }
 
 void showFinding(const Finding &finding) {
-  if (finding.box.isEmpty())
+  if (!finding.text.isEmpty())
     logFinding(finding);
-  else
+  if (!finding.box.isEmpty())
     NivraMsg::message(boxKind(finding), finding.box);
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 /// Remembers whether all that was asked for was written. Makers of documents do not look at what a device returns, of a
 /// block that was written in part the system names no error, and a later block that fits makes the file forget one.
-class CountingFile : public QSaveFile {
+class WitnessedFile : public QSaveFile {
 public:
   using QSaveFile::QSaveFile;
 
@@ -36,7 +36,7 @@ private:
 namespace WholeFile {
 
 bool write(const QString &path, FileAccess::Source source, const Writer &writer, QString *reason) {
-  CountingFile file(path);
+  WitnessedFile file(path);
   const QFileInfo present(path);
   QString why = source == FileAccess::Source::Workspace ? FileAccess::confinementFault(path) : QString();
   if (why.isEmpty() && present.exists() && !present.isFile())

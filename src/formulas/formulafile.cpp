@@ -1,3 +1,4 @@
+#include <formulas/formulaerror.h>
 #include <formulas/formulafile.h>
 #include <model/elementtypes.h>
 #include <model/units.h>

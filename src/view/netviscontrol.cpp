@@ -1,6 +1,5 @@
 #include "canvas/qwtfastplot.h"
 #include "interaction/plotmenu.h"
-#include "interaction/plotzoom.h"
 
 #include <drawing/drawfunctions.h>
 #include <view/netviscontrol.h>
@@ -82,9 +81,10 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   const QString folder = QFileInfo(plotSettingsPath).path();
   m_bookmarks = ViewBookmarks(folder + QStringLiteral("/viewbookmarks.csv"));
   LabelTable labels;
-  const Findings found = LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels).findings;
+  m_labelsRead = LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels);
   if (m_plot->told())
-    std::for_each(found.begin(), found.end(), m_plot->told());
+    std::for_each(m_labelsRead.findings.begin(), m_labelsRead.findings.end(), m_plot->told());
+  m_labelsRead.findings.clear();
   m_picker->reset();
   m_plot->update().setNetData(&m_net);
   m_plot->update().setDisplayMode(NetUpdate::DisplayMode::Functions); // nothing was searched for in it
@@ -105,7 +105,8 @@ void NetVisControl::redraw() {
 }
 
 void NetVisControl::setHiddenLayers(const QString &property, const QSet<QString> &layers) {
-  m_plot->update().setHiddenLayers(property, layers);
+  if (!m_plot->update().setHiddenLayers(property, layers))
+    return;
   emit hiddenLayersChanged(layers);
   m_labels = NetUpdate::Labels::Renewed;
   m_drawing.request();

@@ -216,6 +216,22 @@ void TestChanges::windowsOfSubnetsFollow() {
   QCOMPARE(whole.take(), 1);
   QCOMPARE(part.take(), 1);
   QCOMPARE(viewer.visControl()->net().element(QStringLiteral("M_V1"))->value(QStringLiteral("type")), QStringLiteral("p"));
+  auto *search = window->findChild<NivraSearch *>();
+  search->defineSearch({QString(), QStringLiteral("^p$"), QStringLiteral("^name$"), QString()}, false);
+  window->visControl()->setShowsSearchResults(true);
+  QApplication::processEvents();
+  const auto look = [&] {
+    return window->visControl()->plot()->grab().toImage();
+  };
+  const QImage before = look();
+  viewer.visControl()->net().element(QStringLiteral("M_V1"))->set(QStringLiteral("type"), QStringLiteral("v"));
+  emit viewer.findChild<NivraNetLayersEditor *>(QString(), Qt::FindDirectChildrenOnly)
+      ->elementsChanged({{QStringLiteral("M_V1")}, PropertyKey::find("type")});
+  QApplication::processEvents();
+  const QImage after = look();
+  QVERIFY(before != after); // it is no longer found
+  window->visControl()->redraw();
+  QVERIFY(look() == after);
 }
 
 void TestChanges::anotherCaseForgetsWhatWaits() {

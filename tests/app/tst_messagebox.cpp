@@ -112,10 +112,13 @@ void TestMessageBox::keysAnswer() {
       QTest::keyClick(box, key, Qt::AltModifier);
   });
   timer.start(5);
-  QTimer::singleShot(2000, this, [] { // no key answered
+  QTimer deadline; // when no key answers
+  deadline.setSingleShot(true);
+  connect(&deadline, &QTimer::timeout, this, [] {
     if (QWidget *box = QApplication::activeModalWidget())
       box->close();
   });
+  deadline.start(2000);
   const NivraMsg::Box box{NivraMsg::Kind::Question,
                           QStringLiteral("Save them?"),
                           QStringLiteral("Changes"),

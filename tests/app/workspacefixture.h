@@ -1,7 +1,8 @@
 #pragma once
 
+#include <support/smallfiles.h>
+
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 /// A small workspace on disk: case "CASE" with three nodes and two edges, scenario "S1".
@@ -43,11 +44,7 @@ public:
   QString path(const QString &name) const { return m_root.filePath(name); }
 
   void writeGeometry(const QByteArray &text) const { write(QStringLiteral("CASE/CASE.geom.jsn"), text); }
-  void write(const QString &name, const QByteArray &text) const {
-    QFile file(path(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-  }
+  void write(const QString &name, const QByteArray &text) const { SmallFiles::write(path(name), text); }
 
 private:
   QTemporaryDir m_root;

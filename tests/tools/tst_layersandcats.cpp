@@ -7,6 +7,7 @@
 #include <support/fulldisk.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 #include <tools/layers.h>
 #include <tools/metadatatable.h>
 #include <tools/nivranetlayerseditor.h>
@@ -50,10 +51,7 @@ private slots:
 
 private:
   QString write(const QByteArray &text) const {
-    QFile file(m_folder.filePath(QStringLiteral("catdef.csv")));
-    file.open(QIODevice::WriteOnly);
-    file.write(text);
-    return file.fileName();
+    return SmallFiles::write(m_folder.filePath(QStringLiteral("catdef.csv")), text);
   }
   const QTemporaryDir m_folder;
   std::unique_ptr<NetData> m_net;
@@ -360,8 +358,7 @@ void TestLayersAndCats::savingKeepsWhatIsNoCategory() {
   categories[1].value = QStringLiteral("other");
   const auto saved = [&] {
     QString error;
-    QFile file(path);
-    return CategoryFile::write(path, categories, &error) && file.open(QIODevice::ReadOnly) ? file.readAll() : error.toUtf8();
+    return CategoryFile::write(path, categories, &error) ? SmallFiles::contents(path) : error.toUtf8();
   };
   const QByteArray expected =
       Format + "# mine\n[x]Fast;;p;^v$;abs(v@ELE)>10\n\nShort;;p\nM\xc3\xbc;a;p;b;other;extra;fields\n# end\n";

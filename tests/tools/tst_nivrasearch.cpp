@@ -320,6 +320,9 @@ void TestNivraSearch::changedElementIsSearchedAgain() {
   QVERIFY(changed.contains(QStringLiteral("isSearchResult")));
   QCOMPARE(table(panel)->currentIndex().siblingAtColumn(0).data().toString(), current);
   QCOMPARE(marked.count(), 0);
+  table(panel)->selectAll();
+  panel.searchAgain();
+  QCOMPARE(table(panel)->selectionModel()->selectedRows().size(), 2); // what was selected stays so
   panel.clearResults();
   panel.searchAgain(); // for nothing
   QCOMPARE(rows(panel), 0);

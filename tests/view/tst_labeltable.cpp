@@ -51,12 +51,12 @@ private:
 void TestLabelTable::comesBackAsWritten() {
   QVERIFY(LabelTableFile::write(path("vfd.csv"), sample()));
   LabelTable read;
-  QVERIFY(LabelTableFile::read(path("vfd.csv"), read));
+  QVERIFY(LabelTableFile::read(path("vfd.csv"), read).isOpened);
   QVERIFY(read == sample());
   LabelTable broken = sample();
   broken.types.at(0)[LabelRow::Contents] = QStringLiteral("two\nlines");
   QVERIFY(LabelTableFile::write(path("vfd.csv"), broken));
-  QVERIFY(LabelTableFile::read(path("vfd.csv"), read));
+  QVERIFY(LabelTableFile::read(path("vfd.csv"), read).isOpened);
   QCOMPARE(read.types.at(0)[LabelRow::Contents], QStringLiteral("two lines")); // a cell is a line
   QCOMPARE(read.templates.size(), std::size_t(2));
 }
@@ -94,7 +94,7 @@ void TestLabelTable::anotherVersionIgnoresMasters() {
   if (isInPlace)
     expected.types.at(static_cast<std::size_t>(row)) = LabelTable().types.at(static_cast<std::size_t>(row));
   LabelTable read;
-  QVERIFY(LabelTableFile::read(write(lines.join('\n')), read));
+  QVERIFY(LabelTableFile::read(write(lines.join('\n')), read).isOpened);
   QVERIFY(read.types == expected.types);
   QVERIFY(read.templates == expected.templates);
 }
@@ -104,7 +104,7 @@ void TestLabelTable::cutAtEveryLine() {
   const LabelTable whole = sample();
   for (int count = 0; count < lines.size(); ++count) {
     LabelTable read;
-    QVERIFY(LabelTableFile::read(write(lines.mid(0, count).join('\n')), read));
+    QVERIFY(LabelTableFile::read(write(lines.mid(0, count).join('\n')), read).isOpened);
     // Whole rows are taken, half ones leave what was there.
     const int cells = std::max(0, count - 1 - LabelRow::Columns);
     for (std::size_t row = 0; row < whole.types.size(); ++row) {
@@ -122,21 +122,21 @@ void TestLabelTable::cutAtEveryLine() {
 void TestLabelTable::badFiles() {
   LabelTable read;
   const LabelTableFile::Reading missing = LabelTableFile::read(path("missing.csv"), read);
-  QVERIFY(!missing);
+  QVERIFY(!missing.isOpened);
   QCOMPARE(missing.findings.size(), std::size_t(1));
   QVERIFY(missing.findings.front().severity == Finding::Severity::Information); // most cases have none
   const LabelTableFile::Reading folder = LabelTableFile::read(m_folder.path(), read);
-  QVERIFY(!folder);
+  QVERIFY(!folder.isOpened);
   QCOMPARE(folder.findings.size(), std::size_t(2)); // that it failed, and why
   QVERIFY(folder.findings.back().severity == Finding::Severity::Warning && !folder.findings.back().text.isEmpty());
   const LabelTableFile::Reading cut = LabelTableFile::read(write("vfd 1\nlong name\n"), read);
-  QVERIFY(cut && cut.findings.back().severity == Finding::Severity::Warning);
+  QVERIFY(cut.isOpened && cut.findings.back().severity == Finding::Severity::Warning);
   QCOMPARE(cut.findings.back().text, QStringLiteral("EOF while reading header in file %1! Stopped!").arg(path("vfd.csv")));
-  QVERIFY(LabelTableFile::read(write(QByteArray(100000, '\xff')), read));
+  QVERIFY(LabelTableFile::read(write(QByteArray(100000, '\xff')), read).isOpened);
   QVERIFY(read == LabelTable());
   QCOMPARE(::mkfifo(qPrintable(path("pipe.csv")), 0600), 0);
-  QVERIFY(!LabelTableFile::read(path("pipe.csv"), read)); // nobody writes into it, so it would never end
-  QVERIFY(!LabelTableFile::read(QStringLiteral("/dev/zero"), read));
+  QVERIFY(!LabelTableFile::read(path("pipe.csv"), read).isOpened); // nobody writes into it, so it would never end
+  QVERIFY(!LabelTableFile::read(QStringLiteral("/dev/zero"), read).isOpened);
   QString error;
   QVERIFY(!LabelTableFile::write(QStringLiteral("/nowhere/vfd.csv"), read, &error));
   QVERIFY(error.contains(QStringLiteral("/nowhere/vfd.csv")));
@@ -194,7 +194,7 @@ void TestLabelTable::fullDiskKeepsTheOldFile() {
   QVERIFY(!LabelTableFile::write(file, other, &error));
   QVERIFY(error.contains(file));
   LabelTable read;
-  QVERIFY(LabelTableFile::read(file, read));
+  QVERIFY(LabelTableFile::read(file, read).isOpened);
   QVERIFY(read == sample());
 }
 

@@ -9,6 +9,7 @@
 #include <drawing/drawrange.h>
 #include <support/answers.h>
 #include <support/nivratest.h>
+#include <support/smallfiles.h>
 #include <view/viewfuncdialog.h>
 
 #include <QCheckBox>
@@ -200,7 +201,7 @@ void TestViewFuncDialog::savesBothFiles() {
   ViewFixture f;
   f.show();
   viewFuncDialog dialog(f.plot());
-  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), folder.filePath(QStringLiteral("plotsettings.ini")));
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, folder.filePath(QStringLiteral("plotsettings.ini")));
   auto *table = child<QTableView>(dialog, "labelTable");
   setContents(*table, QStringLiteral("@p"));
   child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
@@ -208,7 +209,7 @@ void TestViewFuncDialog::savesBothFiles() {
   f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
   QCOMPARE(f.plot().settings().edgeMag, 2.5);
   QCOMPARE(f.plot().update().labelTable().types.front()[LabelRow::Contents], QStringLiteral("@p"));
-  dialog.setFiles(QStringLiteral("/nowhere/vfd.csv"), QStringLiteral("/nowhere/plotsettings.ini"));
+  dialog.setFiles(QStringLiteral("/nowhere/vfd.csv"), {}, QStringLiteral("/nowhere/plotsettings.ini"));
   const Answers answers({NivraMsg::Answer::Ok});
   press(dialog, "applyAndSave");
   const QString text = answers.texts().value(0);
@@ -220,17 +221,16 @@ void TestViewFuncDialog::overwritesOnlyWhatWasRead_data() {
   QTest::addColumn<QByteArray>("meanwhile"); // what another program writes; null for nothing
   QTest::addColumn<QString>("said");
   QTest::addColumn<bool>("isQuestion");
-  LabelTableFile::write(QDir::temp().filePath(QStringLiteral("tst_view_vfd.csv")), LabelTable());
-  QFile file(QDir::temp().filePath(QStringLiteral("tst_view_vfd.csv")));
-  file.open(QIODevice::ReadOnly);
-  const QByteArray plain = file.readAll();
-  file.remove();
+  const QTemporaryDir folder;
+  QVERIFY(LabelTableFile::write(folder.filePath(QStringLiteral("vfd.csv")), LabelTable()));
+  const QByteArray plain = SmallFiles::contents(folder.filePath(QStringLiteral("vfd.csv")));
   QTest::newRow("as it was") << plain << QByteArray() << QString() << false;
+  QTest::newRow("with a blank line at its end") << plain + '\n' << QByteArray() << QString() << false;
   QTest::newRow("new") << QByteArray() << QByteArray() << QString() << false;
   QTest::newRow("changed") << plain << QByteArray("mine") << QStringLiteral("was changed by another program") << true;
   QTest::newRow("made") << QByteArray() << QByteArray("mine") << QStringLiteral("was changed by another program") << true;
   QTest::newRow("not wholly read") << plain + QByteArray(70000, 'x') << QByteArray()
-                                   << QStringLiteral("could not be read (2)") << true;
+                                   << QStringLiteral("could not be read (1)") << true;
   QTest::newRow("unreadable") << QByteArray("folder") << QByteArray("mine") << QStringLiteral("is not overwritten") << false;
 }
 
@@ -252,12 +252,12 @@ void TestViewFuncDialog::overwritesOnlyWhatWasRead() {
   else
     QVERIFY(write(atOpening));
   f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
-  viewFuncDialog dialog(f.plot());
-  dialog.setFiles(path, folder.filePath(QStringLiteral("plotsettings.ini")));
   if (atOpening == "folder")
     QVERIFY(QDir(folder.path()).rmdir(QStringLiteral("vfd.csv")));
   if (!meanwhile.isEmpty())
     QVERIFY(write(meanwhile));
+  viewFuncDialog dialog(f.plot());
+  dialog.setFiles(path, f.control.labelsRead(), folder.filePath(QStringLiteral("plotsettings.ini")));
   const auto present = [&path] {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -294,7 +294,7 @@ void TestViewFuncDialog::savedSettingsComeBack() {
   viewFuncDialog dialog(f.plot());
   const auto *saved = child<QPushButton>(dialog, "savedSettings");
   QVERIFY(!saved->isEnabled());
-  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), path);
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, path);
   QVERIFY(!saved->isEnabled()); // there is nothing yet
   child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
   choose(dialog, "bgrColor", QColor(10, 60, 90));
@@ -367,7 +367,7 @@ void TestViewFuncDialog::untouchedFieldsStay() {
   ViewFixture f;
   f.control.showNetData(path);
   viewFuncDialog dialog(f.plot());
-  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), path);
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, path);
   QCOMPARE(child<QComboBox>(dialog, "legendPos")->currentText(), QStringLiteral("not shown"));
   QCOMPARE(child<QLineEdit>(*row(dialog, 0), "minimum")->text().toDouble(), 12.345678901234567);
   press(dialog, "applyAndSave");
@@ -437,7 +437,7 @@ void TestViewFuncDialog::boundsBelongToAFunction() {
   ViewFixture f;
   f.show();
   viewFuncDialog dialog(f.plot());
-  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), folder.filePath(QStringLiteral("plotsettings.ini")));
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, folder.filePath(QStringLiteral("plotsettings.ini")));
   auto *function = child<QComboBox>(*row(dialog, 0), "function");
   auto *minimum = child<QLineEdit>(*row(dialog, 0), "minimum");
   auto *maximum = child<QLineEdit>(*row(dialog, 0), "maximum");

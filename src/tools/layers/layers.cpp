@@ -26,11 +26,9 @@ void Layers::rebuild() {
 
 bool Layers::canChange() const {
   const Names &all = Names::all();
-  const std::initializer_list<PropertyKey> OfTheNetwork{all.name, all.type,     all.node1, all.node2, all.x,
+  const std::initializer_list<PropertyKey> ofTheNetwork{all.name, all.type,     all.node1, all.node2, all.x,
                                                         all.y,    all.elements, all.pins,  all.refEle};
-  return std::none_of(OfTheNetwork.begin(), OfTheNetwork.end(), [this](PropertyKey key) {
-    return m_property.trimmed().compare(key.name(), Qt::CaseInsensitive) == 0;
-  });
+  return std::find(ofTheNetwork.begin(), ofTheNetwork.end(), PropertyKey::find(m_property)) == ofTheNetwork.end();
 }
 
 void Layers::add(const QStringList &names, const QString &layer) {

@@ -125,12 +125,9 @@ void NivraSearch::searchWithFormula() {
   tell(m_told, Finding::Severity::Debug,
        QStringLiteral("Time for search: %1").arg(static_cast<double>(timer.elapsed()) * SecondsPerMillisecond));
   m_results->show(std::move(result.rows));
-  showCount();
-  showHint(result.isStopped ? result.error : SearchHint::of(m_net, searchParams(), m_results->rows().size()));
-  if (result.isStopped) {
-    tell(m_told, Finding::Severity::Warning, result.error);
+  tellOutcome(result.isStopped ? result.error : QString());
+  if (result.isStopped)
     NivraMsg::message(NivraMsg::Kind::Warning, tr("Formula not ok! Search stopped (incomplete)!"));
-  }
   updateLastSearchesMenu();
   emit searchCompleted();
 }
@@ -144,8 +141,14 @@ void NivraSearch::searchAgain() {
     return;
   NetworkSearch::Result result = NetworkSearch(m_net, *m_lastSearch).run();
   m_results->update(std::move(result.rows));
+  tellOutcome(result.isStopped ? result.error : QString());
+}
+
+void NivraSearch::tellOutcome(const QString &error) {
   showCount();
-  showHint(result.isStopped ? result.error : SearchHint::of(m_net, *m_lastSearch, m_results->rows().size()));
+  showHint(error.isEmpty() ? SearchHint::of(m_net, *m_lastSearch, m_results->rows().size()) : error);
+  if (!error.isEmpty())
+    tell(m_told, Finding::Severity::Warning, error);
 }
 
 void NivraSearch::clearResults() {
@@ -157,11 +160,13 @@ void NivraSearch::clearResults() {
 }
 
 void NivraSearch::updateSearchItems(element &changed, const QString &oldName) {
+  if (!m_lastSearch)
+    return;
   QElapsedTimer timer;
   timer.start();
   std::vector<SearchRow> rows;
   try {
-    NetworkSearch(m_net, searchParams()).search(changed, rows);
+    NetworkSearch(m_net, *m_lastSearch).search(changed, rows);
   } catch (const FormulaError &error) {
     tell(m_told, Finding::Severity::Warning, error.text());
   }
@@ -269,7 +274,7 @@ void NivraSearch::on_pushButton_save_clicked() {
 }
 
 bool NivraSearch::save(const QString &path, QString *reason) const {
-  SearchParams params = searchParams();
+  SearchParams params = m_lastSearch.value_or(searchParams()); // what the rows were found by
   params.formula = m_reportedFormula;
   return WholeFile::write(
       path, FileAccess::Source::Trusted,

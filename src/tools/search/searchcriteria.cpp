@@ -1,5 +1,4 @@
 #include <model/elementtypes.h>
-#include <model/names.h>
 #include <tools/searchcriteria.h>
 
 #include <QRegularExpression>
@@ -7,11 +6,17 @@
 #include <algorithm>
 #include <iterator>
 
+namespace {
+
+/// Made as the program starts: who asks may be one of several threads, which may make no keys.
+const PropertyKey NeverSearched[] = {PropertyKey::intern("isSearchResult"), PropertyKey::intern("pLine"),
+                                     PropertyKey::intern("pArrow"),         PropertyKey::intern("pLabel"),
+                                     PropertyKey::intern("pSymbol"),        PropertyKey::intern("vis.ele")};
+
+} // namespace
+
 bool SearchedProperties::isNeverSearched(PropertyKey key) {
-  static const PropertyKey keys[] = {Names::all().searchResult,      PropertyKey::intern("pLine"),
-                                     PropertyKey::intern("pArrow"),  PropertyKey::intern("pLabel"),
-                                     PropertyKey::intern("pSymbol"), PropertyKey::intern("vis.ele")};
-  return std::find(std::begin(keys), std::end(keys), key) != std::end(keys);
+  return std::find(std::begin(NeverSearched), std::end(NeverSearched), key) != std::end(NeverSearched);
 }
 
 bool SearchedProperties::contains(PropertyKey key) {

@@ -8,6 +8,10 @@
 
 #include <QHeaderView>
 
+#include <optional>
+#include <set>
+#include <utility>
+
 SearchResults::SearchResults(ItemTable &view)
     : QObject(&view)
     , m_view(view)
@@ -43,10 +47,28 @@ void SearchResults::show(std::vector<SearchRow> rows) {
 
 void SearchResults::update(std::vector<SearchRow> rows) {
   const QSignalBlocker blocker(&m_view);
-  const QString current = m_view.currentIndex().data(SearchResultsModel::ElementRole).toString();
+  using Subject = std::pair<QString, QString>; // element and property
+  const auto subjectOf = [this](int row) -> Subject {
+    return {m_model.text(row, SearchResultsModel::NameColumn), m_model.text(row, SearchResultsModel::PropertyColumn)};
+  };
+  std::set<Subject> selected;
+  for (const QModelIndex &index : m_view.selectionModel()->selectedRows())
+    selected.insert(subjectOf(index.row()));
+  const int currentRow = m_view.currentIndex().row();
+  const std::optional<Subject> current = currentRow < 0 ? std::nullopt : std::make_optional(subjectOf(currentRow));
   m_model.setRows(std::move(rows));
-  if (!current.isEmpty())
-    select(current);
+  if (!current && selected.empty())
+    return;
+  QItemSelection selection;
+  for (int row = 0; row < m_model.rowCount(); ++row) {
+    const Subject subject = subjectOf(row);
+    const QModelIndex index = m_model.index(row, SearchResultsModel::NameColumn);
+    if (selected.count(subject) > 0)
+      selection.select(index, index);
+    if (subject == current)
+      m_view.selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+  }
+  m_view.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void SearchResults::replace(const QString &name, const std::vector<SearchRow> &rows) {

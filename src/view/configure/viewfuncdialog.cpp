@@ -158,11 +158,10 @@ void viewFuncDialog::bindColors() {
     connect(ofGrid, &ColorButton::colorChosen, this, [this] { m_ui->showGrid->setChecked(true); });
 }
 
-void viewFuncDialog::setFiles(const QString &labelTable, const QString &plotSettings) {
+void viewFuncDialog::setFiles(const QString &labelTable, const LabelTableFile::Reading &read, const QString &plotSettings) {
   m_labelTablePath = labelTable;
+  m_labelsRead = read;
   m_plotSettingsPath = plotSettings;
-  LabelTable shown; // which the plot has read and told of
-  m_labelsRead = LabelTableFile::read(labelTable, shown);
   offerSavedSettings();
 }
 
@@ -220,7 +219,7 @@ void viewFuncDialog::on_applyAndSave_clicked() {
     NivraMsg::message(NivraMsg::Kind::Critical, error);
   } else if (mayOverwriteLabels()) {
     if (LabelTableFile::write(m_labelTablePath, m_plot.update().labelTable(), &error))
-      m_labelsRead = {true, {}, LabelTableFile::Stamp::of(m_labelTablePath), 0};
+      m_labelsRead = {true, {}, FileStamp::of(m_labelTablePath), 0};
     else
       NivraMsg::message(NivraMsg::Kind::Critical, error);
   }
@@ -230,7 +229,7 @@ void viewFuncDialog::on_applyAndSave_clicked() {
 /// Whether nothing is lost by writing the label table, or the person agrees to it.
 bool viewFuncDialog::mayOverwriteLabels() const {
   using namespace NivraMsg;
-  const LabelTableFile::Stamp present = LabelTableFile::Stamp::of(m_labelTablePath);
+  const FileStamp present = FileStamp::of(m_labelTablePath);
   if (!present.isOfAFile())
     return true;
   if (m_labelsRead.stamp.isOfAFile() && !m_labelsRead.isOpened) {

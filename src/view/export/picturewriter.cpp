@@ -94,6 +94,10 @@ void PictureWriter::writePdf(QIODevice &device) const {
 
 bool PictureWriter::writePostScript(QIODevice &device, QString &reason) const {
   const QTemporaryDir folder;
+  if (!folder.isValid()) {
+    reason = folder.errorString();
+    return false;
+  }
   const QString source = folder.filePath(QStringLiteral("plot.pdf"));
   const QString target = folder.filePath(QStringLiteral("plot.ps"));
   const QString poppler = QStandardPaths::findExecutable(QStringLiteral("pdftops"));

@@ -277,7 +277,7 @@ void PlotMenu::addBookmarks(QMenu &contextMenu, ViewBookmarks &bookmarks) {
     menu->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->showArea(view); });
   if (!known.empty())
     menu->addSeparator();
-  menu->addAction(tr("Bookmark this view …"), plot, [bookmarks, plot, count = known.size()] {
+  menu->addAction(tr("Bookmark this view …"), plot, [&bookmarks, plot, count = known.size()] {
     bool isAccepted = false;
     const QString name = QInputDialog::getText(plot, tr("Bookmark"), tr("Name of this view:"), QLineEdit::Normal,
                                                tr("View %1").arg(count + 1), &isAccepted)
@@ -289,7 +289,7 @@ void PlotMenu::addBookmarks(QMenu &contextMenu, ViewBookmarks &bookmarks) {
   QMenu *forget = menu->addMenu(tr("Forget"));
   forget->setEnabled(!known.empty());
   for (const ViewBookmarks::Bookmark &bookmark : known)
-    forget->addAction(menuText(bookmark.name), plot, [bookmarks, name = bookmark.name] {
+    forget->addAction(menuText(bookmark.name), plot, [&bookmarks, name = bookmark.name] {
       QString reason;
       if (!bookmarks.forget(name, &reason))
         NivraMsg::message(NivraMsg::Kind::Warning, reason);

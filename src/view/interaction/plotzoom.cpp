@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QWheelEvent>
 
-#include <algorithm>
 #include <cmath>
 
 PlotZoom::PlotZoom(QwtFastPlot &plot, const PlotSettings &settings, Told told)

@@ -47,8 +47,7 @@ std::optional<std::vector<ViewBookmarks::Line>> ViewBookmarks::read(QString *rea
 }
 
 const std::vector<ViewBookmarks::Bookmark> &ViewBookmarks::all() {
-  const QFileInfo file(m_path);
-  const Stamp stamp{file.lastModified(), file.exists() ? file.size() : -1};
+  const FileStamp stamp = FileStamp::of(m_path);
   if (stamp == m_stamp)
     return m_bookmarks;
   m_stamp = stamp;

@@ -2,7 +2,6 @@
 
 #include <base/fileaccess.h>
 #include <base/finding.h>
-#include <formulas/formulaerror.h>
 #include <formulas/formulareference.h>
 
 #include <QString>

@@ -1,11 +1,10 @@
 #pragma once
 
+#include <base/filestamp.h>
 #include <base/finding.h>
 #include <formulas/formulafile.h>
 #include <model/netdata.h>
 
-#include <QDateTime>
-#include <QFileInfo>
 #include <QHash>
 #include <QString>
 
@@ -29,15 +28,13 @@ public:
     }
     tell(told, Finding::Severity::Debug,
          QStringLiteral("%1 [%2 hits]: adding new entry [%3] %4").arg(m_name).arg(m_hits).arg(size() + 1).arg(path));
-    const QFileInfo file(path);
-    return *m_entries.insert(path, {std::make_shared<const Content>(read(path)), file.lastModified(), file.size()})->content;
+    const FileStamp stamp = FileStamp::of(path);
+    return *m_entries.insert(path, {std::make_shared<const Content>(read(path)), stamp})->content;
   }
   /// Files that were edited since are read anew when they are asked for again.
   void forgetChanged() {
     for (auto entry = m_entries.begin(); entry != m_entries.end();) {
-      const QFileInfo file(entry.key());
-      const bool isSame = file.lastModified() == entry->modified && file.size() == entry->size;
-      entry = isSame ? std::next(entry) : m_entries.erase(entry);
+      entry = FileStamp::of(entry.key()) == entry->stamp ? std::next(entry) : m_entries.erase(entry);
     }
   }
   int hits() const { return m_hits; }
@@ -46,8 +43,7 @@ public:
 private:
   struct Entry {
     std::shared_ptr<const Content> content;
-    QDateTime modified; ///< of the file, as the size
-    qint64 size = 0;
+    FileStamp stamp;
   };
 
   QString m_name;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/index.h>
+
 #include <QAbstractItemModel>
 #include <QStringList>
 
@@ -44,11 +46,11 @@ protected:
   using GroupModel::GroupModel;
 
   virtual const std::vector<Group> &groups() const = 0;
-  const Group &at(int group) const { return groups()[static_cast<std::size_t>(group)]; }
-  const auto &at(int group, int entry) const { return (at(group).*Entries)[static_cast<std::size_t>(entry)]; }
+  const Group &at(int group) const { return groups()[fromQt(group)]; }
+  const auto &at(int group, int entry) const { return (at(group).*Entries)[fromQt(entry)]; }
 
-  int groupCount() const final { return static_cast<int>(groups().size()); }
-  int entryCount(int group) const final { return static_cast<int>((at(group).*Entries).size()); }
+  int groupCount() const final { return toQt(groups().size()); }
+  int entryCount(int group) const final { return toQt((at(group).*Entries).size()); }
   QVariant groupData(int group, int column, int role) const override {
     if (role == Qt::DisplayRole && column == 0)
       return at(group).name;

@@ -91,6 +91,8 @@ private:
   void searchAnew();
   void searchFrom(QLineEdit *field);
   void showCount();
+  /// \param error why the search stopped before its end; empty when it did not
+  void tellOutcome(const QString &error);
   /// Below the rows; nothing for an empty text.
   void showHint(const QString &text);
   QStringList definition() const;

@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr Index Free = NoIndex;
-
 CellAxis axis(double origin, double pixels, double cell) {
   constexpr double MostCells = 4000.0;
   const double length = std::max(cell, 1.0);
@@ -17,16 +15,15 @@ CellAxis axis(double origin, double pixels, double cell) {
 CanvasGrid::CanvasGrid(const QRectF &area, double cell)
     : m_columns(axis(area.left(), area.width(), cell))
     , m_rows(axis(area.top(), area.height(), cell))
-    , m_numbers(std::size_t{m_columns.count()} * m_rows.count(), Free) {}
-
-Index &CanvasGrid::at(Index column, Index row) {
-  return m_numbers[row * m_columns.count() + column];
-}
+    , m_taken(std::size_t{m_columns.count()} * m_rows.count()) {}
 
 bool CanvasGrid::take(const QPointF &point) {
   if (!m_columns.contains(point.x()) || !m_rows.contains(point.y()))
     return false;
-  return std::exchange(at(m_columns.nearest(point.x()), m_rows.nearest(point.y())), 0) == Free;
+  const std::size_t cell = at(m_columns.nearest(point.x()), m_rows.nearest(point.y()));
+  const bool isFree = !m_taken[cell];
+  m_taken[cell] = true;
+  return isFree;
 }
 
 bool CanvasGrid::takeArea(const QRectF &area) {
@@ -36,10 +33,9 @@ bool CanvasGrid::takeArea(const QRectF &area) {
   for (const bool takes : {false, true}) { // nothing is taken unless all is free
     for (Index row = m_rows.nearest(area.top()); row <= bottom; ++row) {
       for (Index column = left; column <= right; ++column) {
-        Index &cell = at(column, row);
         if (takes)
-          cell = 0;
-        else if (cell != Free)
+          m_taken[at(column, row)] = true;
+        else if (m_taken[at(column, row)])
           return false;
       }
     }
@@ -48,17 +44,20 @@ bool CanvasGrid::takeArea(const QRectF &area) {
 }
 
 Index CanvasGrid::claim(const QPointF &point, Index number) {
+  if (m_numbers.empty())
+    m_numbers.assign(m_taken.size(), NoIndex);
   const Index column = m_columns.nearest(point.x());
   const Index row = m_rows.nearest(point.y());
-  if (at(column, row) != Free)
-    return at(column, row);
+  Index &here = m_numbers[at(column, row)];
+  if (here != NoIndex)
+    return here;
   const CellAxis::Range rows = m_rows.around(row);
   const CellAxis::Range columns = m_columns.around(column);
   for (Index y = rows.first; y < rows.end; ++y) {
     for (Index x = columns.first; x < columns.end; ++x) {
-      if (at(x, y) != Free)
-        return at(x, y);
+      if (m_numbers[at(x, y)] != NoIndex)
+        return m_numbers[at(x, y)];
     }
   }
-  return at(column, row) = number;
+  return here = number;
 }

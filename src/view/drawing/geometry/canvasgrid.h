@@ -6,7 +6,7 @@
 
 #include <vector>
 
-/// Coarse cells over a part of the canvas that remember who stands there.
+/// Coarse cells over a part of the canvas that remember that somebody stands there, or who: one grid serves one of both.
 class CanvasGrid {
 public:
   /// \param cell side of a cell in pixels, at least 1
@@ -21,9 +21,10 @@ public:
   Index claim(const QPointF &point, Index number);
 
 private:
-  Index &at(Index column, Index row);
+  std::size_t at(Index column, Index row) const { return std::size_t{row} * m_columns.count() + column; }
 
   CellAxis m_columns;
   CellAxis m_rows;
-  std::vector<Index> m_numbers; ///< of those who stand in the cells, row by row
+  std::vector<bool> m_taken;    ///< row by row; a bit a cell, as a grid is made for every paint
+  std::vector<Index> m_numbers; ///< of those who stand in the cells; empty until the first claim
 };

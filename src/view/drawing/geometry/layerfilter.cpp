@@ -1,8 +1,10 @@
 #include <drawing/layerfilter.h>
 
-void LayerFilter::setHidden(const QString &property, const QSet<QString> &layers) {
+bool LayerFilter::setHidden(const QString &property, const QSet<QString> &layers) {
+  const bool isSame = layers == m_layers && (layers.isEmpty() || property == m_property);
   m_property = property;
   m_layers = layers;
+  return !isSame;
 }
 
 void LayerFilter::read(const NetGeometry &geometry) {

@@ -121,11 +121,11 @@ void LabelPass::layOut(Label &label, const LabelText &text) {
 LabelPass::Result LabelPass::run(std::vector<LabelWish> wishes, const std::vector<Label> &before) {
   Result result;
   putInOrder(wishes);
-  std::map<std::pair<int, int>, const LabelSpot *> known;
+  std::map<NetGeometry::Item, const LabelSpot *> known;
   for (const Label &label : before)
-    known[{label.candidate.item.kind, label.candidate.item.index}] = &label.spot;
+    known[label.candidate.item] = &label.spot;
   const auto spotBefore = [&known](const LabelWish &wish) -> const LabelSpot * {
-    const auto found = known.find({wish.candidate.item.kind, wish.candidate.item.index});
+    const auto found = known.find(wish.candidate.item);
     return found == known.end() ? nullptr : found->second;
   };
   const auto placeLabel = [&](LabelWish &wish, bool keeps) {

@@ -117,13 +117,15 @@ void SelectionLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtS
   const Projection projection(xMap, yMap, canvasRect);
   if (m_geometry == nullptr || !projection.isValid())
     return;
-  CanvasGrid grid(canvasRect, CellLength);
+  std::optional<CanvasGrid> grid;
+  if (m_items.size() > ManyMarks)
+    grid.emplace(canvasRect, CellLength);
   for (const NetGeometry::Item item : m_items) {
     if (m_layers != nullptr && m_layers->isHidden(item))
       continue;
-    if (m_items.size() > ManyMarks) {
+    if (grid) {
       const std::optional<QPointF> center = m_geometry->center(item);
-      if (!center || !grid.take(projection.map(center->x(), center->y())))
+      if (!center || !grid->take(projection.map(center->x(), center->y())))
         continue;
     }
     drawItem(*painter, projection, item, item.kind == NetData::AssembledSubnet ? m_subnet : m_element);

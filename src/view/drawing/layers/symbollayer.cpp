@@ -14,9 +14,9 @@ constexpr double SymbolZ = 30.0;
 constexpr double LargestSymbol = 512.0; // px
 
 /// Lower is more important; pipes have no symbol.
-Index priorityOf(char type) {
+int priorityOf(char type) {
   constexpr std::string_view TypesByPriority = "crgwkfvsd";
-  return toIndex(std::min(TypesByPriority.find(type), TypesByPriority.size()));
+  return static_cast<int>(std::min(TypesByPriority.find(type), TypesByPriority.size()));
 }
 
 } // namespace

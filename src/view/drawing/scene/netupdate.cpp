@@ -1,6 +1,5 @@
 #include "scene/labelwishes.h"
 
-#include <base/nivramsg.h>
 #include <base/settings.h>
 #include <drawing/colorscale.h>
 #include <drawing/elementlooks.h>
@@ -107,6 +106,19 @@ void NetUpdate::updatePlot(Elements elements, Which which, Labels labels) {
     emit extentChanged(); // before anything is judged by what the view shows
   emit legendChanged();
 
+  updateLooks(rebuild, which, timer);
+  updateSymbols(rebuild);
+  if (labels == Labels::Renewed) {
+    if (m_hasPlacedLabels)
+      placeLabels(); // those that stand say something else now; nobody may have to wait for that
+    else
+      clearLabels();
+  }
+  emit changed();
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
+}
+
+void NetUpdate::updateLooks(bool rebuild, Which which, const QElapsedTimer &timer) {
   const bool isSearch = m_displayMode == DisplayMode::SearchResults;
   std::future<void> nodes; // beside the edges
   if (which != Which::Edges)
@@ -118,26 +130,18 @@ void NetUpdate::updatePlot(Elements elements, Which which, Labels labels) {
   if (which != Which::Nodes) {
     if (rebuild) {
       m_edges.setEdges(m_geometry);
-      NivraMsg::debug(QStringLiteral("   after rebuild edges: %1 sec.").arg(seconds(timer)));
+      tell(m_told, Finding::Severity::Debug, QStringLiteral("   after rebuild edges: %1 sec.").arg(seconds(timer)));
     }
     m_edges.setLooks(isSearch ? looks().searchedEdges() : looks().edges());
-    NivraMsg::debug((isSearch ? QStringLiteral("   after update edges: %1 sec.")
-                              : QStringLiteral("   after update edge curves: %1 sec."))
-                        .arg(seconds(timer)));
+    tell(m_told, Finding::Severity::Debug,
+         (isSearch ? QStringLiteral("   after update edges: %1 sec.")
+                   : QStringLiteral("   after update edge curves: %1 sec."))
+             .arg(seconds(timer)));
   }
   if (nodes.valid()) {
     nodes.get();
-    NivraMsg::debug(QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
+    tell(m_told, Finding::Severity::Debug, QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
   }
-  updateSymbols(rebuild);
-  if (labels == Labels::Renewed) {
-    if (m_hasPlacedLabels)
-      placeLabels(); // those that stand say something else now; nobody may have to wait for that
-    else
-      clearLabels();
-  }
-  emit changed();
-  NivraMsg::debug(QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
 }
 
 ElementLooks NetUpdate::looks() const {
@@ -211,7 +215,7 @@ const std::vector<SymbolLayer::Placed> &NetUpdate::determineVisibleSymbols() con
   QElapsedTimer timer;
   timer.start();
   const std::vector<SymbolLayer::Placed> &symbols = m_symbols.laidOut(projection());
-  NivraMsg::debug(QStringLiteral("determineVisibleSymbols() took %1 sec.").arg(seconds(timer)));
+  tell(m_told, Finding::Severity::Debug, QStringLiteral("determineVisibleSymbols() took %1 sec.").arg(seconds(timer)));
   return symbols;
 }
 
@@ -235,9 +239,10 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
   }
   if (hasChanged)
     emit changed();
-  NivraMsg::debug((labels == Pixtest::Labels::With ? QStringLiteral("Pixtest (incl. last update_subnets): %1 sec.")
-                                                   : QStringLiteral("Pixtest_noLabels (incl. last update_subnets): %1 sec."))
-                      .arg(seconds(timer)));
+  tell(m_told, Finding::Severity::Debug,
+       (labels == Pixtest::Labels::With ? QStringLiteral("Pixtest (incl. last update_subnets): %1 sec.")
+                                        : QStringLiteral("Pixtest_noLabels (incl. last update_subnets): %1 sec."))
+           .arg(seconds(timer)));
 }
 
 void NetUpdate::placeLabels() {

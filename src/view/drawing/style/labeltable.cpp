@@ -155,12 +155,15 @@ Finding endedIn(const QString &what, const QString &path) {
 }
 
 void readTemplates(Lines &lines, const QString &path, LabelTable &table, LabelTableFile::Reading &reading) {
-  constexpr std::size_t MostTemplates = 100000; // of which a file of the largest size has more than memory
+  constexpr std::size_t MostTemplates =
+      100000; // a file of the largest size could hold so many short ones that they fill the memory
   table.templates.clear();
   while (!lines.isAtEnd() && table.templates.size() < MostTemplates) {
     LabelRow row;
     const bool hasCells =
         lines.next(row[LabelRow::LongName]) && lines.next(row[LabelRow::Short]) && readCells(lines, row, LabelRow::Size);
+    if (!hasCells && row == LabelRow()) // blank lines at the end
+      break;
     if (!hasCells || !lines.next(row.icon)) {
       ++reading.leftOut;
       reading.findings.push_back(
@@ -209,14 +212,9 @@ QString LabelTableFile::version() {
   return QStringLiteral("vfd 1");
 }
 
-LabelTableFile::Stamp LabelTableFile::Stamp::of(const QString &path) {
-  const QFileInfo file(path);
-  return file.exists() ? Stamp{file.size(), file.lastModified()} : Stamp();
-}
-
 LabelTableFile::Reading LabelTableFile::read(const QString &path, LabelTable &table, FileAccess::Source source) {
   Reading reading;
-  reading.stamp = Stamp::of(path);
+  reading.stamp = FileStamp::of(path);
   if (!reading.stamp.isOfAFile()) {
     reading.findings = {information(QStringLiteral("### Settings file ") + path + QStringLiteral(" not found!"))};
     return reading;

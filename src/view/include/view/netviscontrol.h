@@ -2,6 +2,7 @@
 
 #include <base/finding.h>
 #include <base/onceperturn.h>
+#include <drawing/labeltable.h>
 #include <model/topology.h>
 #include <view/netpicker.h>
 #include <view/netplot.h>
@@ -47,6 +48,8 @@ public:
   const QString &currentElement() const { return m_currentElement; }
   /// Selects the element, where it is drawn, and makes it the current one.
   void mark(const QString &name);
+  /// What showNetData() found of the label table's file; what it told is not kept.
+  const LabelTableFile::Reading &labelsRead() const { return m_labelsRead; }
   /// Places labels at once, whatever the settings say.
   void relabelNow();
   /// What labels say; null without a network. Valid until something is drawn anew.
@@ -82,6 +85,7 @@ private:
   NetData &m_net;
   QString m_name;
   ViewBookmarks m_bookmarks;
+  LabelTableFile::Reading m_labelsRead;
   QString m_subnetIcons;
   QString m_currentElement;
   QPointer<NetPlot> m_plot;

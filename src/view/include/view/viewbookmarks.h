@@ -1,7 +1,8 @@
 #pragma once
 
+#include <base/filestamp.h>
+
 #include <QByteArray>
-#include <QDateTime>
 #include <QRectF>
 #include <QString>
 
@@ -33,12 +34,6 @@ public:
   bool forget(const QString &name, QString *reason) const;
 
 private:
-  struct Stamp {
-    QDateTime time;
-    qint64 size = -1; ///< -1 when there is no file
-
-    friend bool operator==(const Stamp &a, const Stamp &b) { return a.time == b.time && a.size == b.size; }
-  };
   struct Line {
     QByteArray text;
     std::optional<Bookmark> bookmark; ///< nothing when it is none
@@ -50,7 +45,7 @@ private:
 
   QString m_path;
   // As the file was when all() read it last.
-  Stamp m_stamp;
+  FileStamp m_stamp;
   std::vector<Bookmark> m_bookmarks;
   QString m_fault;
 };

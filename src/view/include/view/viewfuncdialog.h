@@ -23,9 +23,9 @@ public:
   explicit viewFuncDialog(NetPlot &plot, QWidget *parent = nullptr);
   ~viewFuncDialog() override;
 
-  /// Where "Apply and Save" writes to, and "Saved settings" reads from; to be told when a case was opened, for what stands
-  /// there then is what may be overwritten without a question.
-  void setFiles(const QString &labelTable, const QString &plotSettings);
+  /// Where "Apply and Save" writes to, and "Saved settings" reads from; to be told when a case was opened.
+  /// \param read what was found of the label table then: that may be overwritten without a question
+  void setFiles(const QString &labelTable, const LabelTableFile::Reading &read, const QString &plotSettings);
   /// Shows how the plot is drawn now.
   void refresh();
   /// Takes all bounds of the draw functions from the data.

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <base/fileaccess.h>
+#include <base/filestamp.h>
 #include <base/finding.h>
 
-#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -46,24 +46,13 @@ QString version();
 
 constexpr int LongestCell = 1 << 16; ///< characters
 
-/// Tells whether a file is still as it was.
-struct Stamp {
-  qint64 size = -1; ///< bytes, -1 where there is no file
-  QDateTime modified;
-
-  static Stamp of(const QString &path);
-  bool isOfAFile() const { return size >= 0; }
-  friend bool operator!=(const Stamp &a, const Stamp &b) { return a.size != b.size || a.modified != b.modified; }
-};
-
 struct Reading {
   bool isOpened = false; ///< false when there is no such file or it cannot be opened
   Findings findings;
-  Stamp stamp;     ///< of the file when it was read
+  FileStamp stamp; ///< of the file when it was read
   int leftOut = 0; ///< cells and rows of the file that are not in the table, and are lost when it is saved
-
-  explicit operator bool() const { return isOpened; }
 };
+
 /// Overwrites the rows of the table as far as the file goes.
 Reading read(const QString &path, LabelTable &table, FileAccess::Source source = FileAccess::Source::Workspace);
 /// Whole or not at all; false with the reason.

@@ -11,7 +11,8 @@
 /// name, whatever the network.
 class LayerFilter {
 public:
-  void setHidden(const QString &property, const QSet<QString> &layers);
+  /// False when this hides what was hidden before.
+  bool setHidden(const QString &property, const QSet<QString> &layers);
   /// Looks up the layers of the elements.
   void read(const NetGeometry &geometry);
 

@@ -22,6 +22,8 @@
 
 #include <functional>
 
+class QElapsedTimer;
+
 /// Turns the network and the plot settings into what the plot shows.
 class NetUpdate : public QObject {
   Q_OBJECT
@@ -66,7 +68,8 @@ public:
   /// What labels say; null without a network. Valid until the network, the label table or the drawing changes.
   const LabelContents *labelContents() const;
   /// Layers whose elements are not drawn, by the values of the property; drawn with the next updatePlot().
-  void setHiddenLayers(const QString &property, const QSet<QString> &layers) { m_layers.setHidden(property, layers); }
+  /// False when this hides what was hidden before.
+  bool setHiddenLayers(const QString &property, const QSet<QString> &layers) { return m_layers.setHidden(property, layers); }
   const LayerFilter &layers() const { return m_layers; }
   void setDisplayMode(DisplayMode mode) { m_displayMode = mode; }
   DisplayMode displayMode() const { return m_displayMode; }
@@ -119,6 +122,7 @@ private:
   /// The size that the label table gives a type, px.
   double sizeOf(const QString &type, double otherwise) const;
   void showWhatIsVisible();
+  void updateLooks(bool rebuild, Which which, const QElapsedTimer &timer);
   void updateSymbols(bool rebuild);
   /// The height of the view in the network's own coordinates, in which thresholds are given.
   double seenHeight() const;

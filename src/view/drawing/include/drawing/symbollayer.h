@@ -75,7 +75,7 @@ private:
     NetGeometry::Item item;
     Index symbol = NoIndex; ///< of m_symbols
     Index figure = NoIndex; ///< of m_figures, in place of the symbol
-    Index priority = 0;     ///< lower is more important
+    int priority = 0;       ///< lower is more important
     float lane = 0.0F;
     float size = 1.0F; ///< share of the common size
     bool isVisible = true;
