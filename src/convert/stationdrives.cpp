@@ -1,5 +1,7 @@
 #include "stationdrives.h"
 
+#include <model/names.h>
+
 #include <QCoreApplication>
 #include <QHash>
 #include <QSet>
@@ -14,8 +16,8 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(StationDrives)
 };
 
-QString valueOf(const Record &record, const char *property) {
-  const NetworkRecord::Value *found = record.find(PropertyKey::intern(property));
+QString valueOf(const Record &record, PropertyKey property) {
+  const NetworkRecord::Value *found = record.find(property);
   return found == nullptr ? QString() : found->text.toString();
 }
 
@@ -41,18 +43,18 @@ private:
 Record driveOf(const GasLibStations::Station::Drive &source, const Record &station, const QString &fuel, const Record &from,
                const Record &to, double share) {
   Record drive{QStringLiteral("D_%1_%2").arg(station.name, source.name), QStringLiteral("drive"), {}};
-  const auto set = [&drive](const char *property, const QString &value) {
-    drive.values.push_back({PropertyKey::intern(property), PropertyText(value), false});
+  const auto set = [&drive](PropertyKey property, const QString &value) {
+    drive.values.push_back({property, PropertyText(value), false});
   };
-  set("gasnode", fuel);
-  set("driven", station.name);
-  set("kind", source.kind);
-  set("machine", source.name);
-  set("vis.layer", QStringLiteral("stations"));
-  for (const char *axis : {"x", "y"}) {
-    constexpr int Digits = 14; // what the sum adds beyond is noise
+  set(Names::all().gasNode, fuel);
+  set(Names::all().driven, station.name);
+  set(PropertyKey::intern("kind"), source.kind);
+  set(Names::all().machine, source.name);
+  set(Names::all().layer, QStringLiteral("stations"));
+  for (const PropertyKey axis : {PropertyKey::intern("x"), PropertyKey::intern("y")}) { // as the nodes are written
+    constexpr int Digits = 14;                                                          // what the sum adds beyond is noise
     const double at = valueOf(from, axis).toDouble() * (1.0 - share) + valueOf(to, axis).toDouble() * share;
-    drive.values.push_back({PropertyKey::intern(axis), PropertyText::ofNumber(at, Digits), true});
+    drive.values.push_back({axis, PropertyText::ofNumber(at, Digits), true});
   }
   return drive;
 }
@@ -78,13 +80,13 @@ std::vector<Record> StationDrives::make(GasLibNetwork &net, GasLibStations &mach
       machines.report.drop(QStringLiteral("compressorStation"), Texts::tr("not in the network"));
       continue;
     }
-    QString fuel = valueOf(*edge, "gasnode");
+    QString fuel = valueOf(*edge, Names::all().gasNode);
     if (!nodes.contains(fuel)) {
       if (!fuel.isEmpty())
         machines.tell(
             Texts::tr("%1 takes its fuel at %2, which is not there; its inlet feeds the drives").arg(edge->name, fuel),
             station.line);
-      fuel = valueOf(*edge, "node1");
+      fuel = valueOf(*edge, Names::all().node1);
     }
     constexpr double FirstShare = 0.7; // of the way, where a single drive would be put
     constexpr double LastShare = 0.95;
@@ -92,15 +94,15 @@ std::vector<Record> StationDrives::make(GasLibNetwork &net, GasLibStations &mach
     double share = FirstShare;
     const std::size_t before = drives.size();
     for (const GasLibStations::Station::Drive &drive : station.drives) {
-      drives.push_back(
-          driveOf(drive, *edge, fuel, *nodes.value(valueOf(*edge, "node1")), *nodes.value(valueOf(*edge, "node2")), share));
+      drives.push_back(driveOf(drive, *edge, fuel, *nodes.value(valueOf(*edge, Names::all().node1)),
+                               *nodes.value(valueOf(*edge, Names::all().node2)), share));
       drives.back().name = names.take(drives.back().name);
       share += step;
     }
     if (!station.compressor.isEmpty())
-      edge->values.push_back({PropertyKey::intern("machine"), PropertyText(station.compressor), false});
+      edge->values.push_back({Names::all().machine, PropertyText(station.compressor), false});
     if (drives.size() > before)
-      edge->values.push_back({PropertyKey::intern("drive"), PropertyText(drives[before].name), false});
+      edge->values.push_back({Names::all().drive, PropertyText(drives[before].name), false});
   }
   return drives;
 }

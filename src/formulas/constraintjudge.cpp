@@ -1,5 +1,7 @@
 #include "constraintjudge.h"
 
+#include "formularemarks.h"
+
 #include <model/displayformat.h>
 #include <model/names.h>
 #include <model/netmetadata.h>
@@ -8,11 +10,6 @@
 #include <cmath>
 
 namespace {
-
-PropertyKey infoKey() {
-  static const PropertyKey key = PropertyKey::intern("CB_info");
-  return key;
-}
 
 PropertyText asInfo(const QString &violations) {
   return PropertyText(QLatin1Char('(') + violations + QLatin1Char(')'));
@@ -30,8 +27,7 @@ std::optional<double> ConstraintJudge::bound(const Formula *formula, const Formu
       return rule.toStored(number);
   } catch (const FormulaError &error) {
     if (error.kind() == FormulaError::Kind::TooCostly)
-      m_findings.push_back(
-          {Finding::Severity::Warning, rule.definition.file, rule.definition.line, error.text(), QString()});
+      m_findings.push_back(FormulaRemarks::warning(rule.definition, error.text()));
     return std::nullopt; // an element without bounds keeps them
   }
   return std::nullopt;
@@ -104,12 +100,12 @@ void ConstraintJudge::write(const std::vector<FormulaRule> &rules, const std::ve
   }
   for (const auto &[e, text] : own) {
     if (text.isEmpty())
-      e->erase(infoKey());
+      e->erase(Names::all().violations);
     else
-      e->set(infoKey(), asInfo(text));
+      e->set(Names::all().violations, asInfo(text));
   }
   for (const auto &[subnet, text] : ofSubnets)
-    subnet->set(infoKey(), asInfo(text));
+    subnet->set(Names::all().violations, asInfo(text));
 }
 
 /// A subnet is its own.

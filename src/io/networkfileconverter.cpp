@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <iterator>
 #include <memory>
 
@@ -110,23 +111,37 @@ private:
         values.push_back({PropertyKey::intern(value.key), std::move(value.text), value.isNumber});
     }
     const QString word = decoded(type).trimmed();
-    if (m_needsTypes && (word.isEmpty() || !TextFileWriter::canHoldType(word.toStdString()))) {
-      m_report.unknownType(word, decoded(parsed.name), line);
-      m_result.report.drop(Texts::tr("element"), Texts::tr("type not known"));
+    type = word.toStdString();
+    if (const char *reason = m_needsTypes ? typeFault(type) : nullptr) {
+      drop(parsed, reason, line);
       return;
     }
     NetworkFileWriter::LeftOut leftOut = m_writer.write(parsed.name, type, std::move(values));
     if (leftOut.element != nullptr) {
-      m_report.leftOut(decoded(parsed.name), leftOut.element, line);
-      m_result.report.drop(Texts::tr("element"), ReadReport::tr(leftOut.element));
+      drop(parsed, leftOut.element, line);
       return;
     }
+    const bool isTyped = !type.empty() && std::none_of(leftOut.values.begin(), leftOut.values.end(),
+                                                       [](const RecordRemark &value) { return value.key == TypeMember; });
     std::move(leftOut.values.begin(), leftOut.values.end(), std::back_inserter(parsed.dropped));
     m_report.values(parsed, line);
     for (const RecordRemark &dropped : parsed.dropped)
       m_result.report.drop(decoded(dropped.key), ReadReport::tr(dropped.reason));
-    m_result.report.take(type.empty() ? Texts::tr("element with values") : decoded(type));
+    m_result.report.take(isTyped ? word : Texts::tr("element with values"));
     ++m_result.records;
+  }
+
+  /// Why an element of a geometry is left out, in JSON too: a reader would drop it, whatever the form. Null for a sound
+  /// type.
+  static const char *typeFault(const std::string &type) {
+    if (type.empty())
+      return QT_TRANSLATE_NOOP("ReadReport", "it has no type");
+    return TextFileWriter::canHoldType(type) ? nullptr : TextFileWriter::NoSuchType;
+  }
+
+  void drop(const ElementRecord &parsed, const char *reason, int line) {
+    m_report.leftOut(ReadReport::quoted(parsed.name), reason, line); // the name may be what is too large
+    m_result.report.drop(Texts::tr("element"), ReadReport::tr(reason));
   }
 
   QString m_path;
@@ -140,6 +155,13 @@ std::unique_ptr<NetworkFileWriter> writerFor(const QString &path, QIODevice &dev
   if (isJsonPath(path))
     return std::make_unique<JsonFileWriter>(device);
   return std::make_unique<TextFileWriter>(device);
+}
+
+/// False with the reason unless that is null.
+bool isWhole(std::string_view name, const char *leftOut, QString *reason) {
+  if (leftOut != nullptr)
+    *reason = Texts::tr("%1 does not fit: %2").arg(ReadReport::quoted(name), ReadReport::tr(leftOut));
+  return leftOut == nullptr;
 }
 
 /// Lets fill(writer) write, and keeps the file when everything was taken.
@@ -159,10 +181,12 @@ bool writeFile(const QString &path, const Fill &fill, QString *reason) {
 bool NetworkFileConverter::write(const QString &path, const std::vector<NetworkRecord> &records, QString *reason) {
   return writeFile(
       path,
-      [&records](NetworkFileWriter &writer, QString *) {
-        for (const NetworkRecord &record : records)
-          writer.write(record.name.toStdString(), record.type.toStdString(), record.values);
-        return true;
+      [&records](NetworkFileWriter &writer, QString *why) {
+        return std::all_of(records.begin(), records.end(), [&](const NetworkRecord &record) {
+          const std::string name = record.name.toStdString();
+          const auto leftOut = writer.write(name, record.type.toStdString(), record.values);
+          return isWhole(name, leftOut.firstReason(), why);
+        });
       },
       reason);
 }
@@ -170,10 +194,11 @@ bool NetworkFileConverter::write(const QString &path, const std::vector<NetworkR
 bool NetworkFileConverter::write(const QString &path, const std::vector<NetworkSetPoint> &setPoints, QString *reason) {
   return writeFile(
       path,
-      [&setPoints](NetworkFileWriter &writer, QString *) {
-        for (const NetworkSetPoint &point : setPoints)
-          writer.writeSetPoint(point.name.toStdString(), point.value, point.unit.toStdString());
-        return true;
+      [&setPoints](NetworkFileWriter &writer, QString *why) {
+        return std::all_of(setPoints.begin(), setPoints.end(), [&](const NetworkSetPoint &point) {
+          const std::string name = point.name.toStdString();
+          return isWhole(name, writer.writeSetPoint(name, point.value, point.unit.toStdString()), why);
+        });
       },
       reason);
 }

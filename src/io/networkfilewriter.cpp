@@ -22,6 +22,8 @@ bool isNumber(std::string_view text) {
 
 constexpr const char *NoRoom =
     QT_TRANSLATE_NOOP("ReadReport", "a row of the text form holds 200 line breaks and 32 MB at most");
+static_assert(TextTableReader::MostLineBreaks == 200 && TextFileWriter::MostRowBytes == std::size_t(32) << 20,
+              "the text above names both");
 
 } // namespace
 
@@ -237,22 +239,22 @@ NetworkFileWriter::LeftOut TextFileWriter::write(std::string_view name, std::str
     leftOut.element = NoRoom;
     return leftOut;
   }
-  std::string word = decoded(type).trimmed().toStdString();
+  std::string word(type);
   if (!canHoldType(word)) {
-    leftOut.values.push_back(
-        {std::string(TypeMember), QT_TRANSLATE_NOOP("ReadReport", "the text form cannot hold such a type")});
+    leftOut.values.push_back({std::string(TypeMember), NoSuchType});
     word.clear();
   }
   const std::string folded = decoded(name).toCaseFolded().toStdString();
-  if (m_names.count(folded) > 0)
+  if (!m_names.insert(folded).second) {
     putTables();
-  m_names.insert(folded);
+    m_names.insert(folded);
+  }
   Table &table = tableOf(std::move(word), values);
   Row row{PropertyText(name), {}};
   for (Value &value : values) {
     const PropertyKey key = value.key;
     if (const char *reason = add(std::move(value), table, row, room))
-      leftOut.values.push_back({std::string(key.utf8()), reason});
+      leftOut.values.push_back({key.utf8().empty() ? "\"\"" : std::string(key.utf8()), reason});
   }
   std::stable_sort(row.cells.begin(), row.cells.end(), [](const Cell &a, const Cell &b) { return a.column < b.column; });
   table.rows.push_back(std::move(row));

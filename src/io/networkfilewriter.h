@@ -21,6 +21,9 @@ public:
   struct LeftOut {
     const char *element = nullptr; ///< why nothing of it was written
     std::vector<RecordRemark> values;
+
+    /// Null when everything was written.
+    const char *firstReason() const { return element != nullptr || values.empty() ? element : values.front().reason; }
   };
 
   explicit NetworkFileWriter(QIODevice &device)
@@ -29,10 +32,10 @@ public:
   NetworkFileWriter(const NetworkFileWriter &) = delete;
   NetworkFileWriter &operator=(const NetworkFileWriter &) = delete;
 
-  /// \param type word, empty for values of elements that are described elsewhere
-  virtual LeftOut write(std::string_view name, std::string_view type, std::vector<Value> values) = 0;
+  /// \param type word without blanks around it, empty for values of elements that are described elsewhere
+  [[nodiscard]] virtual LeftOut write(std::string_view name, std::string_view type, std::vector<Value> values) = 0;
   /// Null, or why it was left out. \param unit empty for the stored one
-  virtual const char *writeSetPoint(std::string_view name, const Value &value, std::string_view unit) = 0;
+  [[nodiscard]] virtual const char *writeSetPoint(std::string_view name, const Value &value, std::string_view unit) = 0;
   /// False when the device did not take everything.
   virtual bool finish() = 0;
 
@@ -72,6 +75,10 @@ class TextFileWriter : public NetworkFileWriter {
 public:
   using NetworkFileWriter::NetworkFileWriter;
 
+  static constexpr std::size_t MostRowBytes = LineReader::LongestLine / 2; ///< separators need some too
+
+  /// Why a type is left out, a text of ReadReport.
+  static constexpr const char *NoSuchType = QT_TRANSLATE_NOOP("ReadReport", "the text form cannot hold such a type");
   /// Whether the word, without blanks around it, can stand in square brackets.
   static bool canHoldType(std::string_view word);
 
@@ -87,7 +94,7 @@ private:
 
   private:
     std::size_t m_lineBreaks = TextTableReader::MostLineBreaks;
-    std::size_t m_bytes = LineReader::LongestLine / 2; // separators need some too
+    std::size_t m_bytes = MostRowBytes;
   };
   struct Cell {
     std::size_t column;

@@ -30,6 +30,14 @@ void append(NivraReader::Result &result, NivraReader::Result &&part) {
   append(result.findings, std::move(part.findings));
 }
 
+Findings asWarnings(Findings findings) {
+  for (Finding &finding : findings) {
+    finding.severity = Finding::Severity::Warning;
+    finding.box.clear();
+  }
+  return findings;
+}
+
 /// Tells the progress from time to time; false when it asks to stop.
 class ProgressTeller {
 public:
@@ -229,13 +237,6 @@ NivraReader::Result NivraReader::readScenarioJsn(const QString &scenarioPath, co
 void NivraReader::readGas(const QString &base, const NivraScenario &scenario, Result &result) {
   QString path = scenario.gasFile.isEmpty() ? base + QStringLiteral(".gas")
                                             : QFileInfo(base).path() + QLatin1Char('/') + scenario.gasFile;
-  const auto asWarnings = [](Findings findings) {
-    for (Finding &finding : findings) {
-      finding.severity = Finding::Severity::Warning;
-      finding.box.clear();
-    }
-    return findings;
-  };
   const QString first = isJsonPath(path) ? path : networkPath(path);
   Result gas = readGasJsn(first);
   if (!gas.ok && isJsonPath(first)) {
@@ -288,12 +289,8 @@ void NivraReader::readCompanion(const Companion &companion, const QString &base,
   if (part.ok) {
     log(QLatin1String(companion.success));
   } else {
-    warn(part.findings.empty() ? text(companion.failed)
-                               : text(companion.failed) + QStringLiteral(": ") + part.findings.front().text);
-    for (Finding &finding : part.findings) {
-      finding.severity = Finding::Severity::Warning;
-      finding.box.clear();
-    }
+    part.findings = asWarnings(std::move(part.findings));
+    part.findings.front().text.prepend(text(companion.failed) + QStringLiteral(": ")); // the file was not opened, and why
   }
   append(result, std::move(part));
 }

@@ -1,10 +1,13 @@
 #include "readreport.h"
 
+#include "linereader.h"
+
 #include <array>
 
 QString ReadReport::name(Kind kind) {
   static constexpr std::array Names{QT_TRANSLATE_NOOP("ReadReport", "bad line"),
                                     QT_TRANSLATE_NOOP("ReadReport", "doubtful value"),
+                                    QT_TRANSLATE_NOOP("ReadReport", "dropped element"),
                                     QT_TRANSLATE_NOOP("ReadReport", "dropped property"),
                                     QT_TRANSLATE_NOOP("ReadReport", "empty"),
                                     QT_TRANSLATE_NOOP("ReadReport", "encoding"),
@@ -43,6 +46,11 @@ QString ReadReport::quoted(std::string_view line) {
   return line.size() > LongestQuote ? quote + QStringLiteral(" ...") : quote;
 }
 
+QString ReadReport::lineTooLong() {
+  static_assert(LineReader::LongestLine == std::size_t(64) << 20, "the text names it");
+  return tr("the line is longer than 64 MB");
+}
+
 void ReadReport::badRow(const Record &record) {
   addWithBox(record, tr("Problem with line %1: %2").arg(record.quote, record.fault),
              tr("Severe problem with line: %1\nCheck console for info!").arg(record.quote));
@@ -72,7 +80,7 @@ void ReadReport::values(const ElementRecord &element, int line) {
 }
 
 void ReadReport::leftOut(const QString &element, const char *reason, int line) {
-  add(Kind::BadLine, line, tr("Element %1 is left out: %2").arg(element, tr(reason)), QString(), element);
+  add(Kind::DroppedElement, line, tr("Element %1 is left out: %2").arg(element, tr(reason)), QString(), element);
 }
 
 void ReadReport::leftOut(const QString &property, const QString &element, const char *reason, int line) {

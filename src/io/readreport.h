@@ -16,6 +16,7 @@ public:
   enum class Kind {
     BadLine,
     DoubtfulValue,
+    DroppedElement,
     DroppedProperty,
     Empty,
     Encoding,
@@ -36,17 +37,18 @@ public:
   void add(Kind kind, int line, const QString &text, const QString &box = QString(), const QString &element = QString());
   /// A line that is no valid JSON, with a box for the user.
   void badLine(const Record &record);
-  /// The same among set points, with a box for the first.
-  void badSetPoints(const Record &record);
   /// Likewise for the text form.
   void badRow(const Record &record);
+  /// A line of set points that is no valid JSON, with a box for the first.
+  void badSetPoints(const Record &record);
   /// An element that the network lacks.
   void unknownName(const QString &name, int line);
   /// A set point without property or value.
   void incompleteValue(const QString &element, int line);
-  /// An element that is left out, whatever the reason but its type.
+  /// An element, or one of its properties, that is left out. The reason is a text of this class, to be translated here.
   void leftOut(const QString &element, const char *reason, int line);
   void leftOut(const QString &property, const QString &element, const char *reason, int line);
+  /// An element that is left out since no type has this word.
   void unknownType(const QString &word, const QString &element, int line);
   /// The values of an element that are left out, and those that may not be what was meant. The reasons are texts of this
   /// class, to be translated here.
@@ -61,7 +63,7 @@ public:
   /// The beginning of a line, for a message.
   static QString quoted(std::string_view line);
   /// The fault of a line that is longer than LineReader::LongestLine.
-  static QString lineTooLong() { return tr("the line is longer than 64 MB"); }
+  static QString lineTooLong();
 
 private:
   static QString name(Kind kind);

@@ -73,9 +73,7 @@ public:
   }
 
 private:
-  void add(const elements::Entry &entry, const QString &text) {
-    m_findings.push_back({Finding::Severity::Warning, QString(), 0, text, QString(), false, entry.name()});
-  }
+  void add(const elements::Entry &entry, const QString &text) { m_findings.push_back(Finding::about(entry.name(), text)); }
 
   void check(const elements::Entry &entry) {
     std::string_view name;

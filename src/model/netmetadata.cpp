@@ -136,13 +136,13 @@ Findings NetMetaData::read(QIODevice &device, const QString &fileName) {
 }
 
 void NetMetaData::add(const Attribute &row) {
-  const Index position = toIndex(m_attributes.size());
+  const Index index = toIndex(m_attributes.size());
   m_attributes.push_back(row);
-  m_index.insert(indexKey(row.type, row.property), position);
+  m_index.insert(indexKey(row.type, row.property), index);
   const QString property = row.property.toCaseFolded();
   const bool isNew = !m_propertyIndex.contains(property); // and so in none of the lists, which may be long
   if (isNew)
-    m_propertyIndex.insert(property, position);
+    m_propertyIndex.insert(property, index);
   if (row.category != QLatin1String("function"))
     return;
   const bool ofNodes = row.type == everyType() || kindOf(row.type) == ElementKinds::Node;

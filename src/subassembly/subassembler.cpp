@@ -182,7 +182,7 @@ void SubAssembler::noteSummary() {
   }
 }
 
-/// Its pins are nodes of the template.
+/// Whether the template has pins and all of them are its nodes; told where not.
 bool SubAssembler::hasSoundPins(const TemplatePlan &plan, const QString &variant, const QString &subnet) {
   if (plan.pinNames().isEmpty()) {
     note(tr("Problem with creating assembledsubnet: loaded pins empty! Skipped!"), subnet);

@@ -33,6 +33,8 @@ private slots:
   void namesThatComeAgain();
   void whatTextCannotSay_data();
   void whatTextCannotSay();
+  void whatIsLeftOutIsCounted();
+  void recordsThatTextCannotHold();
   void longTextsThereAndBack();
   void conversionsThatFail();
 
@@ -311,10 +313,10 @@ void TestTextForms::namesThatComeAgain() {
   const QString geometry = write(QStringLiteral("r.geom.jsn"), "{\n" + lines + ",\"B\":{\"obj_type\":\"node\"}\n}\n");
   const QString results = write(QStringLiteral("r.res.jsn"), "{\n\"B\":{\"p\":1,\"t\":3}\n,\"B\":{\"t\":4}\n"
                                                              ",\"b\":{\"p\":2,\"t\":5}\n}\n");
+  for (const QString &json : {geometry, results})
+    QVERIFY(NetworkFileConverter::convert(json, json.chopped(4)).ok);
   NetData nets[2];
   for (const bool isText : {false, true}) {
-    for (const QString &json : {geometry, results})
-      QVERIFY(NetworkFileConverter::convert(json, json.chopped(4)).ok);
     NivraReader reader(nets[isText]);
     reader.readGeomJsn(isText ? geometry.chopped(4) : geometry, {});
     reader.readGasParmsJsn(isText ? results.chopped(4) : results, {});
@@ -330,13 +332,14 @@ void TestTextForms::whatTextCannotSay_data() {
   const auto row = [](const char *name, const QByteArray &line, const char *message, const char *value = nullptr) {
     QTest::newRow(name) << line << QString::fromLatin1(message) << QString::fromLatin1(value);
   };
-  row("no type", R"("E":{"x":5})", "Type  of element E not known");
-  row("empty type", R"("E":{"obj_type":" ","x":5})", "Type  of element E not known");
-  row("bracket in the type", R"("E":{"obj_type":"no]de","x":5})", "Type no]de of element E not known");
-  row("line break in the type", R"("E":{"obj_type":"no\nde","x":5})", "of element E not known");
+  row("no type", R"("E":{"x":5})", "Element E is left out: it has no type");
+  row("empty type", R"("E":{"obj_type":" ","x":5})", "Element E is left out: it has no type");
+  row("bracket in the type", R"("E":{"obj_type":"no]de","x":5})",
+      "Element E is left out: the text form cannot hold such a type");
+  row("line break in the type", R"("E":{"obj_type":"no\nde","x":5})", "Element E is left out: the text form");
   row("line break around the type", R"("E":{"obj_type":"\nnode\n","x":5})", nullptr, "5");
-  row("property without a name", R"("E":{"obj_type":"node","":"zz","x":5})", "of element E is left out: it has no name",
-      "5");
+  row("property without a name", R"("E":{"obj_type":"node","":"zz","x":5})",
+      "Property \"\" of element E is left out: it has no name", "5");
   const QByteArray breaks = QByteArray("\\n").repeated(150);
   row("line breaks in a value", R"("E":{"obj_type":"node","note":")" + breaks + breaks + R"(","x":5})",
       "Property note of element E is left out", "5");
@@ -369,6 +372,47 @@ void TestTextForms::whatTextCannotSay() {
   QVERIFY(net.nodes().find(QStringLiteral("A")) != nullptr && net.nodes().find(QStringLiteral("Z")) != nullptr);
   if (!value.isEmpty())
     QCOMPARE(net.nodes().at(QStringLiteral("E")).value(QStringLiteral("x")), value);
+}
+
+/// By what was written of it, not by what the file said.
+void TestTextForms::whatIsLeftOutIsCounted() {
+  const QByteArray name(1000, 'N');
+  const QString json = write(QStringLiteral("w.res.jsn"), "{\n\"A\":{\"obj_type\":\" node \",\"p\":1}\n"
+                                                          ",\"B\":{\"obj_type\":\"no]de\",\"p\":1,\"\":2}\n,\"" +
+                                                              name + QByteArray("\\n").repeated(201) + "\":{\"p\":1}\n}\n");
+  const auto result = NetworkFileConverter::convert(json, json.chopped(4));
+  QVERIFY(result.ok);
+  QCOMPARE(result.records, 2);
+  QCOMPARE(result.report.of(QStringLiteral("node")).taken, 1);
+  QCOMPARE(result.report.of(QStringLiteral("element with values")).taken, 1);
+  QCOMPARE(result.report.of(QStringLiteral("obj_type")).dropped, 1);
+  QCOMPARE(result.report.of(QStringLiteral("\"\"")).dropped, 1);
+  QCOMPARE(result.report.of(QStringLiteral("element")).dropped, 1);
+  const Finding &last = result.findings.back(); // of a name that is too large not all is told
+  QVERIFY2(last.text.startsWith(QStringLiteral("Element NNN")) && last.text.size() < 400 && last.element.size() < 300,
+           qPrintable(last.text));
+}
+
+/// A file that would lack something is not written.
+void TestTextForms::recordsThatTextCannotHold() {
+  const QString breaks(201, QLatin1Char('\n'));
+  const NetworkRecord::Value sound{PropertyKey::intern("x"), PropertyText(QStringLiteral("1")), true};
+  const NetworkRecord::Value tooLarge{PropertyKey::intern("note"), PropertyText(breaks), false};
+  const auto path = [this](const char *name) {
+    return m_folder.filePath(QLatin1String(name));
+  };
+  const std::vector<NetworkRecord> records{{QStringLiteral("A"), QStringLiteral("node"), {sound}},
+                                           {QStringLiteral("B"), QStringLiteral("node"), {sound, tooLarge}}};
+  const std::vector<NetworkRecord> names{{breaks, QStringLiteral("node"), {sound}}};
+  const std::vector<NetworkSetPoint> points{{QStringLiteral("B"), tooLarge, QString()}};
+  QString reason;
+  QVERIFY(!NetworkFileConverter::write(path("lack.geom"), records, &reason));
+  QVERIFY2(reason.contains(QStringLiteral("B does not fit: a row of the text form holds 200")), qPrintable(reason));
+  QVERIFY(!NetworkFileConverter::write(path("lack.geom"), names, &reason));
+  QVERIFY(!NetworkFileConverter::write(path("lack.scen"), points, &reason));
+  QVERIFY2(reason.contains(QStringLiteral("B does not fit")), qPrintable(reason));
+  QVERIFY(!QFile::exists(path("lack.geom")) && !QFile::exists(path("lack.scen")));
+  QVERIFY2(NetworkFileConverter::write(path("lack.geom.jsn"), records, &reason), qPrintable(reason));
 }
 
 void TestTextForms::longTextsThereAndBack() {

@@ -63,10 +63,10 @@ MachineXml::Child MachineXml::numberIn(const char *name, Target &target) {
 template <typename Function>
 bool MachineXml::readCoefficient(const char *prefix, Function &function, std::optional<Function> &target) {
   const QLatin1String beginning(prefix);
-  const int number = m_xml.name().startsWith(beginning) ? m_xml.name().mid(beginning.size()).toInt() : 0;
-  if (number < 1 || number > static_cast<int>(function.c.size()))
+  const int position = m_xml.name().startsWith(beginning) ? m_xml.name().mid(beginning.size()).toInt() : 0;
+  if (position < 1 || position > static_cast<int>(function.c.size()))
     return false;
-  function.c[static_cast<std::size_t>(number - 1)] = this->number();
+  function.c[static_cast<std::size_t>(position - 1)] = number();
   target = function;
   return true;
 }
@@ -180,9 +180,10 @@ void MachineXml::readPiston() {
                 numberIn("maximalTorque", machine.maximalTorque),
                 numberIn("maximalCompressionRatio", machine.maximalRatio),
                 numberIn("adiabaticEfficiency", machine.efficiency),
-                {"additionalReductionVolFlow", [this] {
+                {"additionalReductionVolFlow", // of the solver
+                 [this] {
                    m_xml.skipCurrentElement();
-                 }}}); // of the solver
+                 }}});
   if (!machine.isUsable())
     tell(tr("%1: a piston compressor needs its displacement and a range of speeds").arg(machine.name));
   m_data.pistons.push_back(std::move(machine));
@@ -212,15 +213,14 @@ void MachineXml::readDrive(Drive::Kind kind) {
 /// The measurements stand under the ambient temperature at which they were made, or state it themselves; where the power
 /// does not depend on it nobody states it.
 void MachineXml::readPowerPoints(Drive &drive) {
-  double ambient = MachineData::UsualTemperature;
-  const Child measurement{"measurement", [&] {
-                            readPowerPoint(drive, ambient);
-                          }};
-  readChildren({measurement, {"ambientTemperature", [&] {
-                                ambient = numberHere();
-                                readChildren({measurement});
-                                ambient = MachineData::UsualTemperature;
-                              }}});
+  const auto measurement = [&](double ambient) {
+    return Child{"measurement", [this, &drive, ambient] {
+                   readPowerPoint(drive, ambient);
+                 }};
+  };
+  readChildren({measurement(MachineData::UsualTemperature), {"ambientTemperature", [&] {
+                                                               readChildren({measurement(numberHere())});
+                                                             }}});
 }
 
 void MachineXml::readPowerPoint(Drive &drive, double temperature) {

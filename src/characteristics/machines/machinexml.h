@@ -7,7 +7,9 @@
 #include <QHash>
 
 #include <functional>
+#include <initializer_list>
 #include <machines/machinedata.h>
+#include <optional>
 
 /// The XML of compressor stations of public gas network instances (namespace http://gaslib.zib.de/CompressorStations).
 class MachineXml : private GasLibXml {

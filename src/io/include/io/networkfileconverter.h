@@ -25,7 +25,7 @@ bool isNetworkFile(const QString &name);
 /// The name of the file in the other form.
 QString otherForm(const QString &name);
 
-/// Writes a file in the form that its name tells; false with the reason.
+/// Writes a file in the form that its name tells; false with the reason, also when the form cannot say all of it.
 bool write(const QString &path, const std::vector<NetworkRecord> &records, QString *reason);
 bool write(const QString &path, const std::vector<NetworkSetPoint> &setPoints, QString *reason);
 

@@ -40,10 +40,11 @@ public:
   Result readTopoAndScen(const NivraWorkspace &workspace, const Options &options);
   /// Values of elements inside of subnets, once these are assembled; nothing when the scenario has no such file.
   Result readSubResults(const NivraWorkspace &workspace, const Options &options);
-  /// This one and the following take both forms: files that end in ".jsn" or ".json" are JSON, others text. Paths without
-  /// the JSON suffix are those of files in the form of the workspace that was read, of JSON before.
+  /// Paths without the JSON suffix, which is added unless the workspace that was read last is of the text form.
   Result readTopoAndScenJsn(const QString &geometryPath, const QString &scenarioPath, const NivraScenario &scenario,
                             const Options &options);
+  /// This and readScenariofileJsn, readGasJsn, readGasParmsJsn take the form from the file's name: those that end in
+  /// ".jsn" or ".json" are JSON, others text.
   Result readGeomJsn(const QString &path, const Options &options);
   /// scenarioPath without the JSON suffix; the companion files lie beside it.
   Result readScenarioJsn(const QString &scenarioPath, const NivraScenario &scenario, const Options &options);

@@ -50,8 +50,6 @@ public:
   /// In the case directory when a case is open, the bare name otherwise.
   QString filePath(const QString &name) const;
 
-  void addScenario(const QString &directoryName, const QString &baseName);
-
   /// Of the current case: 0, or -1 when the file could not be opened.
   int readCaseConfiguration(Findings &findings);
   /// Of the current scenario: the unified form, else the text form. The configured directory name is checked against the
@@ -64,6 +62,7 @@ public:
 
 private:
   void findCaseFiles();
+  void addScenario(const QString &directoryName, const QString &baseName);
   void takeChosenGeometry(const QString &base);
   void readUnifiedConfiguration(const QString &directory, Findings &findings);
   void readTextConfiguration(const QString &path, NivraGasParams &gas, Findings &findings);

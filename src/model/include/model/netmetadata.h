@@ -64,6 +64,6 @@ private:
   QStringList m_edgeFunctions;
   std::vector<Attribute> m_attributes;
   Findings m_findings;
-  QHash<QString, Index> m_index;         ///< folded type + "\n" + folded property -> position
-  QHash<QString, Index> m_propertyIndex; ///< folded property -> first position
+  QHash<QString, Index> m_index;         ///< folded type + "\n" + folded property -> index in m_attributes
+  QHash<QString, Index> m_propertyIndex; ///< folded property -> index of the first
 };
