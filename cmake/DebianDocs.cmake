@@ -1,0 +1,15 @@
+# Run by cpack on what is installed before it makes a package of it: man pages and changelogs compressed, the copyright in
+# place of the licence, as Debian wants them.
+if(NOT CPACK_GENERATOR STREQUAL "DEB")
+  return()
+endif()
+set(root "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr")
+set(docs "${root}/share/doc/${CPACK_PACKAGE_NAME}")
+message(STATUS "Debian documents in ${root}")
+file(REMOVE_RECURSE "${docs}")
+file(MAKE_DIRECTORY "${docs}")
+file(COPY_FILE "${CPACK_NIVRA_SOURCE_DIR}/packaging/debian/copyright" "${docs}/copyright")
+file(COPY_FILE "${CPACK_NIVRA_SOURCE_DIR}/packaging/debian/changelog" "${docs}/changelog.Debian")
+file(COPY_FILE "${CPACK_NIVRA_SOURCE_DIR}/CHANGELOG.md" "${docs}/changelog")
+file(GLOB pages "${root}/share/man/man1/*.1")
+execute_process(COMMAND gzip -9nf "${docs}/changelog.Debian" "${docs}/changelog" ${pages} COMMAND_ERROR_IS_FATAL ANY)
