@@ -1,6 +1,7 @@
 #include "batch.h"
 
 #include "networkloader.h"
+#include "settings/numberlocale.h"
 #include "stagetimes.h"
 
 #include <base/generalsettings.h>
@@ -191,6 +192,7 @@ int Batch::run(const CommandLine &line) {
   if (!loader.resolve(line.file))
     return failed(loader.error());
   GeneralSettings::instance().load(loader.workspace().root(), logFinding);
+  NumberLocale::apply();
   loader.readConfiguration();
   times.end(QStringLiteral("configuration"));
   if (!loader.readNetwork({}))

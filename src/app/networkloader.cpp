@@ -246,6 +246,15 @@ void NetworkLoader::computeAgain(const std::vector<ElementChange> &changes) {
     }
   }
   report(m_formulas.update(found));
+  noticeViolationsAgain();
+}
+
+void NetworkLoader::tellBoundsAgain() {
+  report(m_formulas.judge());
+  noticeViolationsAgain();
+}
+
+void NetworkLoader::noticeViolationsAgain() {
   if (!m_noticed.empty() && m_noticed.back().name == tr("Bounds"))
     m_noticed.pop_back();
   noticeViolations();

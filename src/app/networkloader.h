@@ -62,6 +62,8 @@ public:
   const MachineData &machines() const { return m_machines; }
   /// Computes what depends on the changes.
   void computeAgain(const std::vector<ElementChange> &changes);
+  /// Tells violated bounds anew, as units or numbers are written in another way.
+  void tellBoundsAgain();
   const Seconds &seconds() const { return m_seconds; }
   bool wasCancelled() const { return m_cancelled; }
   QString error() const { return m_error; } ///< why the last step failed, for a person
@@ -77,6 +79,7 @@ private:
   bool stop();
   void notice(const QString &stage, Findings findings);
   void noticeViolations();
+  void noticeViolationsAgain();
 
   NetData &m_net;
   NetworkFormulas m_formulas;

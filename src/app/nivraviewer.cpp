@@ -5,6 +5,8 @@
 #include "loadprogress.h"
 #include "logo.h"
 #include "outcomestyle.h"
+#include "settings/numberlocale.h"
+#include "settings/settingsdialog.h"
 #include "subnetwindow.h"
 #include "tooldocks.h"
 #include "ui_nivraviewer.h"
@@ -77,6 +79,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
   setAcceptDrops(true);
   GeneralSettings::instance().load(QString(), logFinding);
+  NumberLocale::apply();
   m_control->clear();
 }
 
@@ -170,6 +173,7 @@ void NivraViewer::openWorkspace(const QString &path) {
     setCentralWidget(m_control->plot());
   QCoreApplication::processEvents();
   GeneralSettings::instance().load(m_loader.workspace().root(), logFinding);
+  NumberLocale::apply();
   if (Settings::StartWithLastScenario.value())
     useLastScenario();
   m_control->clear();
@@ -292,6 +296,26 @@ void NivraViewer::showChanges() {
     window->takeProperties();
 }
 
+void NivraViewer::on_actionSettings_triggered() {
+  auto *dialog = new SettingsDialog(m_loader.workspace().root(), this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &SettingsDialog::applied, this, &NivraViewer::takeSettings);
+  dialog->open();
+}
+
+void NivraViewer::takeSettings() {
+  GeneralSettings::instance().load(m_loader.workspace().root(), logFinding);
+  NumberLocale::apply();
+  if (!m_loader.workspace().isValid())
+    return;
+  m_loader.tellBoundsAgain();
+  m_tools->setFindings(m_loader.noticed());
+  m_control->takeSettings();
+  m_tools->takeSettings();
+  for (SubnetWindow *window : subnetWindows())
+    window->takeSettings();
+}
+
 void NivraViewer::showTitle() {
   const NivraWorkspace &workspace = m_loader.workspace();
   QString title = tr("Nivra Reader %1  |  Workspace: %2  |  CASE: %3")
@@ -304,7 +328,8 @@ void NivraViewer::showTitle() {
 /// While a network is read the program answers "Cancel" and the frames of its windows alone: tools would show half of it,
 /// and change it under the reader's hands.
 void NivraViewer::setBusy(bool busy) {
-  for (QAction *action : {m_ui->actionOpen, m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
+  for (QAction *action :
+       {m_ui->actionOpen, m_ui->actionSettings, m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
     action->setEnabled(!busy);
   QWidgetList widgets{m_ui->menubar, m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))

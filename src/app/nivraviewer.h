@@ -48,6 +48,7 @@ public slots:
   void on_actionHelp_triggered();
   void on_actionMetadataTable_triggered();
   void on_actionOpen_triggered();
+  void on_actionSettings_triggered();
 
 protected:
   void dragEnterEvent(QDragEnterEvent *event) override;
@@ -66,6 +67,7 @@ private:
   QList<SubnetWindow *> subnetWindows() const;
   void addChange(const ElementChange &change);
   void showChanges();
+  void takeSettings();
   void showTitle();
   void setBusy(bool busy);
   QList<QPointer<QWidget>> otherWindows() const;

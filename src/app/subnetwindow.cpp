@@ -94,6 +94,12 @@ void SubnetWindow::takeProperties() {
   m_control->redraw();
 }
 
+void SubnetWindow::takeSettings() {
+  m_control->takeSettings();
+  takeProperties(); // bounds are told in other words
+  m_tools->takeSettings();
+}
+
 NetData SubnetWindow::part(const NetData &net, const QString &subnet) {
   NetData part;
   part.setMetaData(std::make_shared<const NetMetaData>(*net.metaData()));

@@ -28,6 +28,8 @@ public:
   NetVisControl *visControl() const { return m_control.get(); }
   /// Takes the properties of its elements from the network again.
   void takeProperties();
+  /// After general settings have changed.
+  void takeSettings();
 
   /// The pins, elements and the edges between them; empty when there is no such subnet.
   static NetData part(const NetData &net, const QString &subnet);

@@ -238,6 +238,15 @@ void ToolDocks::showChanges() {
   showContents(m_shown);
 }
 
+void ToolDocks::takeSettings() {
+  if (m_draw == nullptr)
+    return; // there is no workspace
+  m_draw->changeUnits();
+  if (m_scenario != nullptr)
+    m_scenario->setScenario(m_summary, *m_net.metaData());
+  showChanges();
+}
+
 void ToolDocks::showVectorTable() {
   NivraVecTable *table = vectorTable();
   table->show();
@@ -261,6 +270,7 @@ void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
 }
 
 void ToolDocks::setScenario(const ScenarioSummary &summary) {
+  m_summary = summary;
   m_scenario->setScenario(summary, *m_net.metaData());
 }
 

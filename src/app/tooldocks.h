@@ -1,5 +1,6 @@
 #pragma once
 
+#include <io/scenariosummary.h>
 #include <model/elementchange.h>
 #include <model/netdata.h>
 #include <tools/findinglist.h>
@@ -25,7 +26,6 @@ class NivraSearch;
 class NivraVecTable;
 class NivraWorkspace;
 class ScenarioDock;
-struct ScenarioSummary;
 class QDockWidget;
 class QMainWindow;
 class QMenu;
@@ -57,6 +57,9 @@ public:
 
   /// After properties have changed: shows them in whatever shows values.
   void showChanges();
+
+  /// After general settings have changed: units and numbers in whatever shows values.
+  void takeSettings();
 
   void showVectorTable();
   void showMetaData();
@@ -117,6 +120,7 @@ private:
   std::unique_ptr<NivraVecTable> m_vectorTable; ///< windows of their own, made when they are asked for
   std::unique_ptr<MetaDataTable> m_metaData;
   std::unique_ptr<HelpWindow> m_help;
+  ScenarioSummary m_summary;
   QString m_directory;          ///< of the case
   QString m_shown;              ///< in the docks of an element: the current one, or what the mouse went over
   QStringList m_messagesBefore; ///< those that came before there was a dock for them

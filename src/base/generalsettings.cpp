@@ -21,16 +21,13 @@ bool isNumber(const QString &text) {
   return ok;
 }
 
-/// Whether a value from a file can stand in for the built-in one: a switch stays a switch, a choice one of its options, and
-/// a setting whose default is a number stays a number.
-bool fits(const QString &value, const GeneralSettings::Entry &builtIn, const QString &key) {
-  if (builtIn.type == QLatin1String("bool"))
-    return value == QLatin1String("0") || value == QLatin1String("1");
-  if (builtIn.type == QLatin1String("list"))
-    return builtIn.options.split(QLatin1Char(',')).contains(value);
-  if (key == QLatin1String("smooth zoom steps"))
-    return value.toInt() > 0;
-  return !isNumber(builtIn.value) || isNumber(value);
+/// Null for a key that is not in the table.
+const SettingsTable::Row *builtInRow(const QString &key) {
+  for (const SettingsTable::Row &row : SettingsTable::Rows) {
+    if (key == QLatin1String(row.key))
+      return &row;
+  }
+  return nullptr;
 }
 
 } // namespace
@@ -46,10 +43,15 @@ GeneralSettings::GeneralSettings() {
 
 void GeneralSettings::reset() {
   m_entries.clear();
+  m_layers.clear();
+  ++m_revision;
   for (const SettingsTable::Row &row : SettingsTable::Rows)
-    m_entries[QString::fromLatin1(row.key)] = {QString::fromLatin1(row.value), QString::fromLatin1(row.type),
-                                               QString::fromLatin1(row.category), QString::fromLatin1(row.options),
-                                               QString()};
+    m_entries[QString::fromLatin1(row.key)] = {QString::fromLatin1(row.value),
+                                               QString::fromLatin1(row.type),
+                                               QString::fromLatin1(row.category),
+                                               QString::fromLatin1(row.options),
+                                               QString(),
+                                               Layer::BuiltIn};
 }
 
 QString GeneralSettings::value(const QString &key) const {
@@ -67,7 +69,21 @@ bool GeneralSettings::setValue(const QString &key, const QString &value) {
   if (found == m_entries.end())
     return false;
   found->second.value = value;
+  found->second.layer = Layer::Run;
+  ++m_revision;
   return true;
+}
+
+std::optional<QString> GeneralSettings::valueIn(Layer layer, const QString &key) const {
+  if (layer == Layer::BuiltIn) {
+    const SettingsTable::Row *row = builtInRow(key);
+    return row == nullptr ? std::nullopt : std::make_optional(QString::fromLatin1(row->value));
+  }
+  const auto values = m_layers.find(layer);
+  if (values == m_layers.end())
+    return std::nullopt;
+  const auto found = values->second.find(key);
+  return found == values->second.end() ? std::nullopt : std::make_optional(found->second);
 }
 
 QString GeneralSettings::userDirectory() {
@@ -85,16 +101,41 @@ QString GeneralSettings::settingsFile(const QString &workspaceDir) {
   return workspaceDir + QStringLiteral("/generalsettings_") + userName() + QStringLiteral(".csv");
 }
 
+bool GeneralSettings::suits(const QString &key, const QString &value) {
+  const SettingsTable::Row *row = builtInRow(key);
+  if (row == nullptr)
+    return true; // of the user's own
+  const QLatin1String type(row->type);
+  if (type == QLatin1String("bool"))
+    return value == QLatin1String("0") || value == QLatin1String("1");
+  if (type == QLatin1String("list"))
+    return QString::fromLatin1(row->options).split(QLatin1Char(',')).contains(value);
+  const SettingsTable::NumberBounds *bounds = SettingsTable::numberBounds(row->key);
+  // Whoever acts on the other numbers bounds them by itself, as files have always been free to say any.
+  const bool isStrict =
+      key == QLatin1String("smooth zoom steps") || QLatin1String(row->category) == QLatin1String("units and numbers");
+  if (bounds == nullptr || !isStrict)
+    return !isNumber(QString::fromLatin1(row->value)) || isNumber(value);
+  bool isWhole = false;
+  const int number = value.toInt(&isWhole);
+  return isWhole && number >= bounds->minimum && number <= bounds->maximum;
+}
+
 int GeneralSettings::load(const QString &workspaceDir, const Told &told) {
-  return loadFile(settingsFile(workspaceDir),
-                  workspaceDir.isEmpty() ? FileAccess::Source::Trusted : FileAccess::Source::Workspace, told);
+  reset();
+  const int taken = overlay(settingsFile(QString()), FileAccess::Source::Trusted, told);
+  return workspaceDir.isEmpty() ? taken : overlay(settingsFile(workspaceDir), FileAccess::Source::Workspace, told);
 }
 
 int GeneralSettings::loadFile(const QString &path, FileAccess::Source source, const Told &told) {
+  reset();
+  return overlay(path, source, told);
+}
+
+int GeneralSettings::overlay(const QString &path, FileAccess::Source source, const Told &told) {
   const auto log = [&told](const QString &text) {
     tell(told, Finding::Severity::Information, text);
   };
-  reset();
   log(QStringLiteral("Trying to (re)load general settings file ") + path + QStringLiteral(" ..."));
   if (!QFileInfo::exists(path)) {
     log(QStringLiteral("General settings file ") + path + QStringLiteral(" not found!"));
@@ -106,7 +147,14 @@ int GeneralSettings::loadFile(const QString &path, FileAccess::Source source, co
     tell(told, Finding::Severity::Warning, QStringLiteral("Cannot open General settings file ") + reason);
     return 0;
   }
-  QBuffer file(&*content);
+  const int taken =
+      takeLines(std::move(*content), path, source == FileAccess::Source::Workspace ? Layer::Workspace : Layer::User, told);
+  log(QStringLiteral("Loaded %1 settings from general settings file.").arg(taken));
+  return taken;
+}
+
+int GeneralSettings::takeLines(QByteArray content, const QString &path, Layer layer, const Told &told) {
+  QBuffer file(&content);
   file.open(QIODevice::ReadOnly | QIODevice::Text);
   int taken = 0;
   bool continued = false; // the line before was cut at LongestLine
@@ -116,20 +164,20 @@ int GeneralSettings::loadFile(const QString &path, FileAccess::Source source, co
     QString line = continued || cut ? QString() : QString::fromUtf8(bytes).trimmed();
     if (number == 1 && line.startsWith(QChar(QChar::ByteOrderMark)))
       line.remove(0, 1);
+    const QString where = QStringLiteral(" (%1:%2)").arg(path).arg(number);
     if (cut && !continued)
-      tell(told, Finding::Severity::Warning, QStringLiteral("Line is too long! (%1:%2)").arg(path).arg(number));
-    if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')) && takeLine(line, number, path, told))
+      tell(told, Finding::Severity::Warning, QStringLiteral("Line is too long!") + where);
+    if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')) && takeLine(line, where, layer, told))
       ++taken;
     continued = cut;
     if (!cut)
       ++number;
   }
-  log(QStringLiteral("Loaded %1 settings from general settings file.").arg(taken));
+  ++m_revision;
   return taken;
 }
 
-bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QString &path, const Told &told) {
-  const QString where = QStringLiteral(" (%1:%2)").arg(path).arg(lineNumber);
+bool GeneralSettings::takeLine(const QString &line, const QString &where, Layer layer, const Told &told) {
   QStringList fields = line.split(QLatin1Char(';'));
   if (fields.size() < FieldCount) {
     tell(told, Finding::Severity::Warning, QStringLiteral("Line contains less than 6 entries!") + where);
@@ -137,10 +185,11 @@ bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QStrin
   }
   for (QString &field : fields)
     field = field.trimmed();
-  Entry entry{withSemicolons(fields[Value]), fields[Type], fields[Category], withSemicolons(fields[Options]),
-              withSemicolons(fields[Description])};
+  Entry entry{withSemicolons(fields[Value]),       fields[Type], fields[Category], withSemicolons(fields[Options]),
+              withSemicolons(fields[Description]), layer};
   const QString &key = fields[Key];
   if (entry.category == QLatin1String("user keys")) {
+    m_layers[layer][key] = entry.value;
     m_entries[key] = entry;
     return true;
   }
@@ -159,13 +208,14 @@ bool GeneralSettings::takeLine(const QString &line, int lineNumber, const QStrin
   // Type and options say what the program understands, so a file cannot change them.
   entry.type = builtIn.type;
   entry.options = builtIn.options;
-  if (!fits(entry.value, builtIn, key)) {
+  if (!suits(key, entry.value)) {
     tell(
         told, Finding::Severity::Warning,
         QStringLiteral("Value \"%1\" does not suit the setting \"%2\"; \"%3\" stays.").arg(entry.value, key, builtIn.value) +
             where);
     return false;
   }
+  m_layers[layer][key] = entry.value;
   known->second = entry;
   return true;
 }

@@ -3,6 +3,7 @@
 #include "formularemarks.h"
 
 #include <model/displayformat.h>
+#include <model/displayunits.h>
 #include <model/names.h>
 #include <model/netmetadata.h>
 #include <model/topology.h>
@@ -45,21 +46,15 @@ QString ConstraintJudge::violation(const FormulaRule &rule, const element &e) {
     return QString();
   const NetMetaData::Attribute *attribute =
       m_net.metaData()->attribute(e.value(Names::all().type), rule.definition.property);
-  Units::Linear toDisplay;
-  QString unit;
-  if (attribute != nullptr) {
-    const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
-    toDisplay = conversion.value_or(Units::Linear());
-    unit = conversion ? attribute->displayUnit : attribute->storedUnit;
-  }
-  const auto shown = [&toDisplay](double number) {
-    return DisplayFormat::number(toDisplay(number));
+  const DisplayUnits::Shown display = DisplayUnits::of(attribute);
+  const auto shown = [&display](double number) {
+    return DisplayFormat::number(display.toDisplay(number));
   };
   QString text = QStringLiteral("%1 = %2 %3 %4")
                      .arg(rule.definition.property, shown(value), isLow ? QStringLiteral("<") : QStringLiteral(">"),
                           shown(isLow ? *lower : *upper));
-  if (!unit.isEmpty())
-    text += QLatin1Char(' ') + Units::written(unit);
+  if (!display.unit.isEmpty())
+    text += QLatin1Char(' ') + Units::written(display.unit);
   if (!rule.definition.message.isEmpty())
     text = rule.definition.message + QStringLiteral(": ") + text;
   return text.replace(QLatin1Char(';'), QLatin1Char(',')); // which parts the violations of an element

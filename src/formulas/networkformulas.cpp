@@ -374,6 +374,15 @@ Findings NetworkFormulas::apply(const Progress &progress) {
                           nullptr);
 }
 
+Findings NetworkFormulas::judge() {
+  static const std::vector<element *> None;
+  return m_computing->run(
+      [](const FormulaRule &rule) -> const std::vector<element *> & {
+        return rule.definition.isConstraint ? rule.elements : None;
+      },
+      Progress(), nullptr);
+}
+
 Findings NetworkFormulas::update(const std::vector<Change> &changes) {
   FormulaChanges all;
   for (const Change &change : changes)

@@ -1,5 +1,6 @@
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
+#include <model/quantities.h>
 #include <model/units.h>
 
 #include <QCoreApplication>
@@ -23,7 +24,9 @@ enum Field {
   Favourite,
   Description,
   FieldCount,
-  Values = FieldCount
+  Values = FieldCount, // these may be left out
+  Quantity,
+  MostFields
 };
 
 const QString &everyType() {
@@ -53,6 +56,8 @@ QString fault(const NetMetaData::Attribute &row) {
     if (!unit.isEmpty() && !Units::isKnown(unit))
       return QStringLiteral("unknown unit \"%1\"").arg(unit);
   }
+  if (!row.quantity.isEmpty() && Quantities::find(row.quantity) == nullptr)
+    return QStringLiteral("unknown quantity \"%1\"").arg(row.quantity);
   return QString();
 }
 
@@ -114,17 +119,18 @@ Findings NetMetaData::read(QIODevice &device, const QString &fileName) {
       if (fields.first() == QLatin1String("type"))
         continue;
     }
-    if (fields.size() != FieldCount && fields.size() != FieldCount + 1) { // the values may be left out
+    if (fields.size() < FieldCount || fields.size() > MostFields) {
       found(number, QStringLiteral("%1 fields instead of %2, line left out").arg(fields.size()).arg(int(FieldCount)));
       continue;
     }
     const QStringList types = fields[Type].split(QLatin1Char(','));
     for (const QString &type : types) {
-      const Attribute row{type.trimmed(),      fields[Name],
-                          fields[LongName],    fields[Group],
-                          fields[StoredUnit],  fields[DisplayUnit],
-                          fields[Category],    fields[Favourite] == QLatin1String("1"),
-                          fields[Description], fields.value(Values).split(QLatin1Char(','), Qt::SkipEmptyParts)};
+      const Attribute row{type.trimmed(),        fields[Name],
+                          fields[LongName],      fields[Group],
+                          fields[StoredUnit],    fields[DisplayUnit],
+                          fields[Category],      fields[Favourite] == QLatin1String("1"),
+                          fields[Description],   fields.value(Values).split(QLatin1Char(','), Qt::SkipEmptyParts),
+                          fields.value(Quantity)};
       const QString reason = m_index.contains(indexKey(row.type, row.property)) ? QStringLiteral("given twice") : fault(row);
       if (reason.isEmpty())
         add(row);

@@ -31,15 +31,26 @@ QString spelledOut(const QString &unit) {
       {QStringLiteral("Nm3/h"), QStringLiteral("m3/hour")},
       {QStringLiteral("m3/h"), QStringLiteral("m3/hour")},
       {QStringLiteral("m3/d"), QStringLiteral("m3/day")},
+      {QStringLiteral("m3/min"), QStringLiteral("m3/minute")},
+      {QStringLiteral("1000000 m3/d"), QStringLiteral("1000000 m3/day")},
+      {QStringLiteral("km/h"), QStringLiteral("km/hour")},
+      {QStringLiteral("GJ/h"), QStringLiteral("gigajoule/hour")},
+      {QStringLiteral("GWh/d"), QStringLiteral("gigawatt hour/day")},
       {QStringLiteral("kg/h"), QStringLiteral("kg/hour")},
       {QStringLiteral("t/h"), QStringLiteral("1000 kg/hour")},
       {QStringLiteral("barg"), QStringLiteral("bar @ 1.01325")},
+      {QStringLiteral("psig"), QStringLiteral("psi @ 14.69594877551345")}, // 1.01325 bar as well
       {QStringLiteral("degC"), QStringLiteral("degree_Celsius")},
+      {QStringLiteral("degF"), QStringLiteral("degree_Fahrenheit")},
       {QStringLiteral("\u00b0C"), QStringLiteral("degree_Celsius")},
       {QStringLiteral("\u00b0"), QStringLiteral("degree")},
       {QStringLiteral("MJ/m3"), QStringLiteral("megajoule/m3")},
       {QStringLiteral("kWh/m3"), QStringLiteral("kilowatt hour/m3")},
+      {QStringLiteral("kJ/m3"), QStringLiteral("kilojoule/m3")},
       {QStringLiteral("kJ/kg"), QStringLiteral("kilojoule/kg")},
+      {QStringLiteral("kWh/t"), QStringLiteral("kilowatt hour/(1000 kg)")},
+      {QStringLiteral("m of head"), QStringLiteral("9.80665 m2/s2")}, // of gas, under standard gravity
+      {QStringLiteral("g/l"), QStringLiteral("gram/liter")},
       {QStringLiteral("W/(m2 K)"), QStringLiteral("watt/(m2 K)")},
       {QStringLiteral("kg/m3"), QStringLiteral("kg m-3")},
       {QStringLiteral("rpm"), QStringLiteral("1/minute")},
@@ -154,9 +165,29 @@ std::optional<double> perNormFlow(Quantity quantity, const Units::Gas &gas) {
 } // namespace
 
 QString Units::written(QString unit) {
+  static const QHash<QString, QString> names{{QStringLiteral("barg"), QStringLiteral("bar (gauge)")},
+                                             {QStringLiteral("psig"), QStringLiteral("psi (gauge)")},
+                                             {QStringLiteral("um"), QStringLiteral("µm")}};
+  if (const QString name = names.value(unit); !name.isEmpty())
+    return name;
   return unit.replace(QStringLiteral("degC"), QStringLiteral("°C"))
+      .replace(QStringLiteral("degF"), QStringLiteral("°F"))
+      .replace(QStringLiteral("1000000 "), QStringLiteral("10⁶ "))
       .replace(QStringLiteral("m3"), QStringLiteral("m³"))
+      .replace(QStringLiteral("ft3"), QStringLiteral("ft³"))
       .replace(QStringLiteral("m2"), QStringLiteral("m²"));
+}
+
+QString Units::fromTyped(QString unit) {
+  return unit.trimmed()
+      .replace(QStringLiteral("°C"), QStringLiteral("degC"))
+      .replace(QStringLiteral("°F"), QStringLiteral("degF"))
+      .replace(QStringLiteral("10⁶ "), QStringLiteral("1000000 "))
+      .replace(QStringLiteral("µm"), QStringLiteral("um"))
+      .replace(QStringLiteral("m³"), QStringLiteral("m3"))
+      .replace(QStringLiteral("ft³"), QStringLiteral("ft3"))
+      .replace(QStringLiteral("m²"), QStringLiteral("m2"))
+      .replace(QStringLiteral(" (gauge)"), QStringLiteral("g"));
 }
 
 bool Units::isKnown(const QString &unit) {

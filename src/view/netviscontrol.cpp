@@ -104,6 +104,11 @@ void NetVisControl::redraw() {
   m_drawing.flush();
 }
 
+void NetVisControl::takeSettings() {
+  m_drawing.cancel();
+  m_plot->takeSettings();
+}
+
 void NetVisControl::setHiddenLayers(const QString &property, const QSet<QString> &layers) {
   if (!m_plot->update().setHiddenLayers(property, layers))
     return;

@@ -1,7 +1,10 @@
 #include <base/settings.h>
+#include <base/settingsfile.h>
+#include <support/fulldisk.h>
 #include <support/nivratest.h>
 #include <support/smallfiles.h>
 
+#include <QDir>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -16,6 +19,10 @@ private slots:
   void oddFiles();
   void workspaceFileHasTheUsersName();
   void typedValues();
+  void userIsALayerUnderTheWorkspace();
+  void strictNumbers();
+  void fileKeepsWhatItDoesNotChange();
+  void fileThatCannotBeReadIsLeftAlone();
   void guideTellsWhatHasNoEffect();
 
 private:
@@ -128,6 +135,92 @@ void TestGeneralSettings::typedValues() {
   QVERIFY(Settings::PelkaMode.value());
   QCOMPARE(Settings::MousePatternPanning.value(), QStringLiteral("MidButton"));
   settings.reset();
+}
+
+void TestGeneralSettings::userIsALayerUnderTheWorkspace() {
+  using Layer = GeneralSettings::Layer;
+  const QString smooth = QStringLiteral("smooth zoom");
+  const QString delay = QStringLiteral("pixtest delay");
+  const QString pelka = QStringLiteral("PELKA mode");
+  QDir().mkpath(GeneralSettings::userDirectory());
+  SmallFiles::write(GeneralSettings::settingsFile(QString()),
+                    "smooth zoom;zooming;bool;0;;\npixtest delay;zooming;string;200;;\n");
+  const QTemporaryDir workspace;
+  SmallFiles::write(GeneralSettings::settingsFile(workspace.path()),
+                    "pixtest delay;zooming;string;300;;\nPELKA mode;special;list;perhaps;;\n");
+  GeneralSettings settings;
+  const unsigned before = settings.revision();
+  QCOMPARE(settings.load(workspace.path(), {}), 1);
+  QVERIFY(settings.revision() != before);
+  QCOMPARE(settings.value(smooth), QStringLiteral("0"));
+  QCOMPARE(settings.entries().at(smooth).layer, Layer::User);
+  QCOMPARE(settings.value(delay), QStringLiteral("300"));
+  QCOMPARE(settings.entries().at(delay).layer, Layer::Workspace);
+  QCOMPARE(settings.valueIn(Layer::User, delay), std::make_optional(QStringLiteral("200")));
+  QCOMPARE(settings.valueIn(Layer::BuiltIn, delay), std::make_optional(QStringLiteral("100")));
+  QCOMPARE(settings.entries().at(pelka).layer, Layer::BuiltIn); // refused
+  QVERIFY(!settings.valueIn(Layer::Workspace, pelka));
+  settings.setValue(pelka, QStringLiteral("on"));
+  QCOMPARE(settings.entries().at(pelka).layer, Layer::Run);
+  settings.load(QString(), {}); // without the workspace
+  QCOMPARE(settings.value(delay), QStringLiteral("200"));
+  QVERIFY(QFile::remove(GeneralSettings::settingsFile(QString())));
+}
+
+void TestGeneralSettings::strictNumbers() {
+  const auto suits = [](const char *key, const char *value) {
+    return GeneralSettings::suits(QString::fromLatin1(key), QString::fromLatin1(value));
+  };
+  QVERIFY(suits("number digits on screen", "15") && !suits("number digits on screen", "16"));
+  QVERIFY(!suits("number digits on screen", "0") && !suits("number digits on screen", "2.5"));
+  QVERIFY(suits("unit: pressure", "") && suits("unit: pressure", "MPa") && !suits("unit: pressure", "m"));
+  QVERIFY(suits("smooth zoom duration", "-1")); // files were always free to say so, and who acts on it bounds it
+  QVERIFY(suits("of my own", "anything"));
+}
+
+void TestGeneralSettings::fileKeepsWhatItDoesNotChange() {
+  const QByteArray text = "\xEF\xBB\xBF# mine\r\nsmooth zoom;zooming;bool;1;;why;more\r\nstrange;general;x;y;;\r\n"
+                          "short;line\r\n\r\n smooth zoom ;zooming;bool;0;;last counts\r\nmy key;user keys;string;\xE4;;";
+  const QString path = write(text);
+  SettingsFile file;
+  QVERIFY(file.read(path, nullptr));
+  file.set(QStringLiteral("smooth zoom"), QStringLiteral("1"));
+  file.set(QStringLiteral("status bar style sheet failed"), QStringLiteral("color: red; x\ny"));
+  QVERIFY(file.write(path, nullptr));
+  QByteArray expected = text;
+  expected.replace("bool;0;;last", "bool;1;;last");
+  expected += "\r\nstatus bar style sheet failed;status bar;string;color: red$SEMI$ x y;;\r\n";
+  const auto written = [&path] {
+    QFile device(path);
+    device.open(QIODevice::ReadOnly);
+    return device.readAll();
+  };
+  QCOMPARE(written(), expected);
+  GeneralSettings settings;
+  QCOMPARE(settings.loadFile(path, Trusted, {}), 4);
+  QCOMPARE(settings.value(QStringLiteral("status bar style sheet failed")), QStringLiteral("color: red; x y"));
+  file.remove(QStringLiteral("smooth zoom"));
+  QVERIFY(file.write(path, nullptr));
+  QVERIFY(!written().contains("smooth zoom") && written().contains("# mine\r\nstrange;general;x;y;;\r\nshort;line\r\n"));
+}
+
+void TestGeneralSettings::fileThatCannotBeReadIsLeftAlone() {
+  SettingsFile file;
+  QString reason;
+  QVERIFY(!file.read(m_folder.path(), &reason)); // a folder in its place
+  QVERIFY(!reason.isEmpty());
+  QVERIFY(file.read(m_folder.filePath(QStringLiteral("none/yet.csv")), nullptr));
+  file.set(QStringLiteral("smooth zoom"), QStringLiteral("0"));
+  QVERIFY(file.write(m_folder.filePath(QStringLiteral("none/yet.csv")), nullptr)); // the folder comes along
+  const FullDisk disk;
+  if (!disk.isMounted())
+    QSKIP("No disk of its own can be mounted here.");
+  const QString path = SmallFiles::write(disk.path(QStringLiteral("settings.csv")), "# mine\n");
+  disk.fill();
+  QVERIFY(!file.write(path, &reason));
+  QFile device(path);
+  QVERIFY(device.open(QIODevice::ReadOnly));
+  QCOMPARE(device.readAll(), QByteArray("# mine\n"));
 }
 
 void TestGeneralSettings::guideTellsWhatHasNoEffect() {

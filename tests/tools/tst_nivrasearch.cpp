@@ -155,6 +155,10 @@ void TestNivraSearch::restrictions_data() {
   row("no such type", "", false, "pipeline", "^name$", "", "", "");
   row("comparison", "", false, "", "^p$", ">10", "", "A.b.p axB.p");
   row("comparison as it is shown", "", false, "", "^t$", "<= 10", "", "A.b.t"); // 283.15 K
+  row("comparison in a unit", "", false, "", "^p$", "> 2.2 MPa", "", "A.b.p");  // 50.5 bar
+  row("comparison in a unit with another zero", "", false, "", "^t$", "<= 283.15 K", "", "A.b.t");
+  row("comparison in a unit of something else", "", false, "", "^p$", "> 1 kg", "", "");
+  row("comparison in no unit", "", false, "", "^p$", "> 1 of them", "", "");
   row("comparison of texts", "", false, "", "^name$", ">10", "", "");
   row("equality", "", false, "", "", "=20", "", "axB.p");
   row("no comparison", "", false, "", "pLabel|name", ">x", "", "");

@@ -2,6 +2,7 @@
 #include "properties/propertymodel.h"
 #include "shared/numberdelegate.h"
 
+#include <model/displayformat.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
 #include <tools/nivraeleinfowidget.h>
@@ -265,7 +266,7 @@ void TestPropViewer::numbersAreRoundedForTheEyeOnly() {
       {"1234567", "1234567"},          {"1234567.89", "1234568"},          {"10.5", "10.5"},
       {"0.000001", "0.000001"},        {"2021-12-31.5", "2021-12-31.5"},   {"version 1.2345678", "version 1.2345678"}};
   for (const auto &[exact, seen] : numbers)
-    QCOMPARE(NumberDelegate::forTheEye(QString::fromLatin1(exact)), QString::fromLatin1(seen));
+    QCOMPARE(DisplayFormat::shown(QString::fromLatin1(exact), false), QString::fromLatin1(seen));
 
   const NetData net;
   NivraPropViewer viewer(net);

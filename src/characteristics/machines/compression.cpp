@@ -1,3 +1,4 @@
+#include <model/displayformat.h>
 #include <model/names.h>
 
 #include <QCoreApplication>
@@ -25,7 +26,7 @@ void judgeDensity(Compression &c) {
   if (c.inletDensity > 0.0 && std::abs(c.inletDensity / computed - 1.0) > Near)
     c.remarks.append(
         Texts::tr("The density %1 kg/m³ that the network states at the inlet parts from that of the gas law, %2 kg/m³")
-            .arg(QString::number(c.inletDensity, 'g', 5), QString::number(computed, 'g', 5)));
+            .arg(DisplayFormat::number(c.inletDensity, 5), DisplayFormat::number(computed, 5)));
 }
 
 } // namespace

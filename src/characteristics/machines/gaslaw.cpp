@@ -1,6 +1,8 @@
 #include "gascomposition.h"
 #include "gerg2008.h"
 
+#include <model/displayformat.h>
+
 #include <cmath>
 #include <machines/gaslaw.h>
 
@@ -97,8 +99,8 @@ void judgeMolarMass(const GasData &gas, double molarMass, QStringList &remarks) 
   constexpr double Near = 0.01;
   if (gas.normDensity > 0.0 && gas.molarMass > 0.0 && std::abs(gas.molarMass / molarMass - 1.0) > Near)
     remarks.append(GasLaw::tr("The molar mass %1 does not fit the norm density %2 kg/m³, to which %3 belongs")
-                       .arg(QString::number(gas.molarMass, 'g', 5), QString::number(gas.normDensity, 'g', 4),
-                            QString::number(molarMass, 'g', 5)));
+                       .arg(DisplayFormat::number(gas.molarMass, 5), DisplayFormat::number(gas.normDensity, 4),
+                            DisplayFormat::number(molarMass, 5)));
 }
 
 QString shareText(const Gerg2008::Composition &shares) {

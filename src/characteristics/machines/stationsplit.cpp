@@ -1,5 +1,7 @@
 #include "stationsplit.h"
 
+#include <model/displayformat.h>
+
 #include <cmath>
 
 double StationSplit::largestFlow(const StationConfiguration::Unit &unit) const {
@@ -55,7 +57,8 @@ QString StationSplit::text(const QString &compressor, const std::optional<Part> 
                                                                   .arg(counts.join(QStringLiteral(" + ")));
   if (!part)
     return tr("%1. %2 does not run in it.").arg(stages, compressor);
-  QString text = tr("%1. %2 carries %3 % of the flow").arg(stages, compressor, QString::number(100.0 * part->share, 'g', 3));
+  QString text =
+      tr("%1. %2 carries %3 % of the flow").arg(stages, compressor, DisplayFormat::number(100.0 * part->share, 3));
   if (m_configuration.stages.size() > 1)
     text +=
         tr(" in stage %1; the stages share the pressure ratio alike, the gas is cooled between them").arg(part->stage + 1);

@@ -3,6 +3,7 @@
 #include "mapplot.h"
 #include "shownnumber.h"
 
+#include <model/displayformat.h>
 #include <model/units.h>
 
 #include <QComboBox>
@@ -23,7 +24,7 @@ QString cell(const QString &text) {
 }
 
 QString valueText(double value, const QString &unit) {
-  return unit.isEmpty() ? shownNumber(value) : shownNumber(value) + QLatin1Char(' ') + unit;
+  return MapQuantity(unit).text(value);
 }
 
 QString warning(const QString &text) {
@@ -38,7 +39,7 @@ QString plain(const QString &text) {
 QString storedCells(const Comparison &comparison) {
   constexpr double Shown = 0.05; // percent; below it there is no sign to show
   const double percent = comparison.computed == 0.0 ? 0.0 : 100.0 * comparison.difference() / comparison.computed;
-  const QString difference = MachinePage::tr("%1 %").arg(std::abs(percent) < Shown ? 0.0 : percent, 0, 'f', 1);
+  const QString difference = MachinePage::tr("%1 %").arg(DisplayFormat::fixed(std::abs(percent) < Shown ? 0.0 : percent, 1));
   const QString color =
       comparison.isApart() ? QStringLiteral(" style=\"color:%1;\"").arg(QLatin1String(Warning)) : QString();
   return QStringLiteral("<td%1><b>%2</b>&nbsp;&nbsp;</td><td%1>%3</td>")
@@ -112,12 +113,11 @@ QString fitText(const QString &what, const Fits::Quality &quality, const QString
   if (!quality.ok)
     return QString();
   constexpr double Rounding = 1e-9; // below it a residual says nothing about the points
-  const auto residual = [](double value) {
-    return shownNumber(value < Rounding ? 0.0 : value, 3);
+  const auto residual = [quantity = MapQuantity(unit)](double value) {
+    return quantity.text(value < Rounding ? 0.0 : value, 3);
   };
-  QString text = MachinePage::tr("%1: largest residual %2%3, mean %4%3")
-                     .arg(what, residual(quality.largestResidual), unit.isEmpty() ? unit : QLatin1Char(' ') + unit,
-                          residual(quality.meanResidual));
+  QString text = MachinePage::tr("%1: largest residual %2, mean %3")
+                     .arg(what, residual(quality.largestResidual), residual(quality.meanResidual));
   if (quality.condition > 0.0)
     text += MachinePage::tr(", condition %1").arg(shownNumber(quality.condition, 3));
   return text + QStringLiteral("<br/>");
@@ -156,7 +156,7 @@ QString MachinePage::text(const NetworkMachines::Machine &machine) {
   if (!machine.split.isEmpty())
     text += plain(tr("Configuration %1: %2").arg(machine.configuration, machine.split));
   if (machine.drive)
-    text += plain(tr("Power at %1 °C").arg(machine.ambientTemperature));
+    text += plain(tr("Power at %1").arg(MapQuantity(QStringLiteral("°C")).text(machine.ambientTemperature)));
   for (const QString &remark : machine.remarks)
     text += warning(remark);
   if (!machine.gas.isEmpty())

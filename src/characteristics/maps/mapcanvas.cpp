@@ -61,8 +61,24 @@ MapCanvas::MapCanvas(QWidget *parent)
   setMinimumSize(260, 200);
 }
 
-void MapCanvas::reset(const QString &heading, const QString &x, const QString &y) {
+QString MapCanvas::readout(const QPointF &position) const {
+  return m_readout ? m_readout({m_toDisplayX.inverse(position.x()), m_toDisplayY.inverse(position.y())}) : QString();
+}
+
+QPointF MapCanvas::shown(const QPointF &computed) const {
+  return {m_toDisplayX(computed.x()), m_toDisplayY(computed.y())};
+}
+
+QVector<QPointF> MapCanvas::shown(QVector<QPointF> computed) const {
+  for (QPointF &point : computed)
+    point = shown(point);
+  return computed;
+}
+
+void MapCanvas::reset(const QString &heading, const Axis &x, const Axis &y) {
   detachItems();
+  m_toDisplayX = x.quantity.toDisplay();
+  m_toDisplayY = y.quantity.toDisplay();
   QwtText title(heading, QwtText::PlainText);
   QFont font = title.font();
   font.setPointSize(TitleSize);
@@ -72,15 +88,15 @@ void MapCanvas::reset(const QString &heading, const QString &x, const QString &y
   auto *grid = new QwtPlotGrid;
   grid->setMajorPen(Qt::lightGray, 0.0, Qt::DotLine);
   grid->attach(this);
-  setAxisTitle(xBottom, x);
-  setAxisTitle(yLeft, y);
+  setAxisTitle(xBottom, x.quantity.title(x.title));
+  setAxisTitle(yLeft, y.quantity.title(y.title));
 }
 
 void MapCanvas::addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label, Qt::Alignment alignment) {
   if (points.size() < 2)
     return;
   auto *curve = new QwtPlotCurve;
-  curve->setSamples(points);
+  curve->setSamples(shown(points));
   curve->setPen(pen);
   curve->setRenderHint(QwtPlotItem::RenderAntialiased);
   curve->attach(this);
@@ -95,20 +111,20 @@ void MapCanvas::addLine(const QVector<QPointF> &points, const QPen &pen, const Q
   marker->setLabel(text);
   marker->setLabelAlignment(alignment);
   marker->setSpacing(LabelSpacing);
-  marker->setValue(points.last());
+  marker->setValue(shown(points.last()));
   marker->attach(this);
 }
 
 void MapCanvas::addRoom(const QPointF &to) {
   auto *marker = new QwtPlotMarker;
-  marker->setValue(to);
+  marker->setValue(shown(to));
   marker->setItemAttribute(QwtPlotItem::AutoScale);
   marker->attach(this);
 }
 
 void MapCanvas::addArea(const QVector<QPointF> &outline) {
   auto *area = new QwtPlotShapeItem;
-  area->setPolygon(QPolygonF(outline));
+  area->setPolygon(QPolygonF(shown(outline)));
   area->setPen(QPen(Qt::NoPen));
   area->setBrush(QColor(31, 93, 138, 26));
   area->attach(this);
@@ -120,7 +136,7 @@ void MapCanvas::addDots(const QVector<QPointF> &points) {
   auto *dots = new QwtPlotCurve;
   dots->setStyle(QwtPlotCurve::NoCurve);
   dots->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, Qt::white, QPen(Orange, 1.2), QSize(5, 5)));
-  dots->setSamples(points);
+  dots->setSamples(shown(points));
   dots->setRenderHint(QwtPlotItem::RenderAntialiased);
   dots->attach(this);
 }
@@ -129,7 +145,7 @@ void MapCanvas::addWorkingPoint(const QPointF &at, bool isInside) {
   auto *marker = new QwtPlotMarker;
   const QColor color = isInside ? Green : Red;
   marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, color, QPen(Qt::white, 1.5), QSize(13, 13)));
-  marker->setValue(at);
+  marker->setValue(shown(at));
   marker->setLineStyle(QwtPlotMarker::Cross);
   marker->setLinePen(color, 1.0, Qt::DotLine);
   marker->setZ(50.0);
@@ -139,7 +155,7 @@ void MapCanvas::addWorkingPoint(const QPointF &at, bool isInside) {
 void MapCanvas::addStoredPoint(const QPointF &at) {
   auto *marker = new QwtPlotMarker;
   marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, Qt::NoBrush, QPen(Blue, 2.0), QSize(13, 13)));
-  marker->setValue(at);
+  marker->setValue(shown(at));
   QwtText text(tr("results"));
   text.setColor(Blue);
   marker->setLabel(text);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "mapquantity.h"
+
 #include <QColor>
 #include <QPen>
 #include <QVector>
@@ -20,7 +22,7 @@ public:
   static inline const QColor Orange{196, 98, 16};
 
   /// What stands under the cursor, for the plot's coordinates.
-  QString readout(const QPointF &position) const { return m_readout ? m_readout(position) : QString(); }
+  QString readout(const QPointF &position) const;
   /// The format by the suffix: PDF, SVG or a picture. False with the reason.
   bool save(const QString &path, QString *reason = nullptr);
 
@@ -30,8 +32,13 @@ signals:
 protected:
   void contextMenuEvent(QContextMenuEvent *event) override;
 
-  /// Takes everything out. \param heading plain text
-  void reset(const QString &heading, const QString &x, const QString &y);
+  struct Axis {
+    QString title;
+    MapQuantity quantity;
+  };
+  /// Takes everything out. What is added then, and asked for by the readout, is in the units in which machines are computed;
+  /// the axes show those that people chose. \param heading plain text
+  void reset(const QString &heading, const Axis &x, const Axis &y);
   void setReadout(std::function<QString(const QPointF &)> readout) { m_readout = std::move(readout); }
   void addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label = QString(),
                Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter);
@@ -45,11 +52,15 @@ protected:
   void finish();
 
 private:
+  QPointF shown(const QPointF &computed) const;
+  QVector<QPointF> shown(QVector<QPointF> computed) const;
   void paint(QPaintDevice &device, const QSizeF &size);
   bool write(QIODevice &device, const QString &suffix, QString *reason);
   void saveAs();
   void print();
 
   std::function<QString(const QPointF &)> m_readout;
+  Units::Linear m_toDisplayX;
+  Units::Linear m_toDisplayY;
   class QwtPlotZoomer *m_zoomer;
 };

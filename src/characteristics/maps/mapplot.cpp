@@ -9,28 +9,26 @@ namespace {
 
 constexpr int Steps = 60;
 
-/// Both ends of a range and round numbers between them, about half a dozen.
-std::vector<double> roundValues(double from, double to) {
-  constexpr double Parts = 6.0;
-  if (!(to > from))
-    return {from};
-  const double smallest = (to - from) / Parts;
-  const double power = std::pow(10.0, std::floor(std::log10(smallest)));
-  double step = 10.0 * power;
-  for (const double factor : {5.0, 2.5, 2.0, 1.0}) {
-    if (factor * power >= smallest * (1.0 - 1e-9))
-      step = factor * power;
-  }
-  constexpr double MostSteps = 1e6; // from 0; a range that narrow at so large numbers holds no round ones
-  if (!(std::max(std::abs(from), std::abs(to)) < MostSteps * step))
-    return {from, to};
-  constexpr double Apart = 0.4; // of a step from the ends
-  std::vector<double> values{from};
-  const auto last = static_cast<int>(std::floor(to / step - Apart));
-  for (auto i = static_cast<int>(std::ceil(from / step + Apart)); i <= last; ++i)
-    values.push_back(i * step);
-  values.push_back(to);
-  return values;
+MapQuantity flowUnit() {
+  return MapQuantity(QStringLiteral("m³/s"));
+}
+MapQuantity headUnit() {
+  return MapQuantity(QStringLiteral("kJ/kg"));
+}
+MapQuantity speedUnit() {
+  return MapQuantity(QStringLiteral("1/min"));
+}
+MapQuantity powerUnit() {
+  return MapQuantity(QStringLiteral("kW"));
+}
+MapQuantity temperatureUnit() {
+  return MapQuantity(QStringLiteral("°C"));
+}
+
+/// At a line of one speed: "5000 /min".
+QString speedLabel(double speed) {
+  const MapQuantity quantity = speedUnit();
+  return quantity.number(speed) + QLatin1Char(' ') + quantity.unit().mid(1);
 }
 
 /// The working point in two lines.
@@ -39,15 +37,14 @@ QString pointText(const std::optional<WorkingPoint> &point) {
     return MapPlot::tr("no working point");
   if (!point->isCompressing())
     return point->remarks.value(0);
-  const QString coordinates =
-      MapPlot::tr("Q = %1 m³/s, H = %2 kJ/kg").arg(shownNumber(point->flow), shownNumber(point->head));
+  const QString coordinates = MapPlot::tr("Q = %1, H = %2").arg(flowUnit().text(point->flow), headUnit().text(point->head));
   QStringList parts;
   if (point->speed)
-    parts.append(MapPlot::tr("n = %1 1/min").arg(shownNumber(*point->speed)));
+    parts.append(MapPlot::tr("n = %1").arg(speedUnit().text(*point->speed)));
   if (point->efficiency)
     parts.append(MapPlot::tr("η = %1 %").arg(shownNumber(100.0 * *point->efficiency, 3)));
   if (point->power)
-    parts.append(MapPlot::tr("P = %1 kW").arg(shownNumber(*point->power)));
+    parts.append(MapPlot::tr("P = %1").arg(powerUnit().text(*point->power)));
   return coordinates + QLatin1Char('\n') + parts.join(QStringLiteral(", ")); // a dock is narrower than all in one line
 }
 
@@ -107,13 +104,13 @@ void MapPlot::addLines(const TurboCompressor &machine) {
   }
   QVector<QPointF> top; // from the surge line to the choke line
   QVector<QPointF> bottom;
-  for (const double speed : roundValues(machine.speedMin, machine.speedMax)) {
+  for (const double speed : speedUnit().roundValues(machine.speedMin, machine.speedMax)) {
     const auto flows = machine.flows(speed);
     QVector<QPointF> line;
     for (int i = 0; flows && i <= Steps; ++i)
       line.append(at(flows->first + (flows->second - flows->first) * i / Steps, speed));
     const bool isEdge = speed == machine.speedMin || speed == machine.speedMax;
-    addLine(line, QPen(Blue, isEdge ? 2.0 : 1.0), tr("%1 /min").arg(shownNumber(speed)));
+    addLine(line, QPen(Blue, isEdge ? 2.0 : 1.0), speedLabel(speed));
     if (speed == machine.speedMin)
       bottom = line;
     top = line;
@@ -137,16 +134,16 @@ void MapPlot::addLines(const TurboCompressor &machine) {
 
 void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point,
                    const std::optional<double> &storedHead) {
-  reset(heading(machineName(machine.station, machine.name), point), tr("volume flow at the inlet [m³/s]"),
-        tr("adiabatic head [kJ/kg]"));
+  reset(heading(machineName(machine.station, machine.name), point), {tr("volume flow at the inlet"), flowUnit()},
+        {tr("adiabatic head"), headUnit()});
   setReadout([machine](const QPointF &at) {
-    QString text = tr("Q = %1 m³/s\nH = %2 kJ/kg").arg(shownNumber(at.x()), shownNumber(at.y()));
+    QString text = tr("Q = %1\nH = %2").arg(flowUnit().text(at.x()), headUnit().text(at.y()));
     if (!machine.head)
       return text;
     for (const double speed : Fits::solve(machine.head->inY(at.x()), at.y())) {
       if (speed < machine.speedMin || speed > machine.speedMax)
         continue;
-      text += tr("\nn = %1 1/min").arg(shownNumber(speed));
+      text += tr("\nn = %1").arg(speedUnit().text(speed));
       if (machine.efficiency)
         text += tr("\nη = %1 %").arg(shownNumber(100.0 * (*machine.efficiency)(at.x(), speed), 3));
     }
@@ -172,11 +169,11 @@ void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPo
 void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point,
                    const QVector<QPointF> &limits) {
   constexpr double ShownRatio = 4.0; // of a machine that says no largest
-  reset(heading(machineName(machine.station, machine.name), point), tr("volume flow at the inlet [m³/s]"),
-        tr("pressure ratio"));
+  reset(heading(machineName(machine.station, machine.name), point), {tr("volume flow at the inlet"), flowUnit()},
+        {tr("pressure ratio"), MapQuantity()});
   setReadout([machine](const QPointF &at) {
-    return tr("Q = %1 m³/s\nratio = %2\nn = %3 1/min")
-        .arg(shownNumber(at.x()), shownNumber(at.y()), shownNumber(machine.speed(at.x())));
+    return tr("Q = %1\nratio = %2\nn = %3")
+        .arg(flowUnit().text(at.x()), shownNumber(at.y()), speedUnit().text(machine.speed(at.x())));
   });
   QVector<QPointF> top; // from the smallest speed to the largest
   for (const QPointF &limit : limits)
@@ -188,14 +185,13 @@ void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingP
   }
   QVector<QPointF> outline{{top.last().x(), 1.0}, {top.first().x(), 1.0}};
   addArea(outline + top);
-  for (const double speed : roundValues(machine.speedMin, machine.speedMax)) {
+  for (const double speed : speedUnit().roundValues(machine.speedMin, machine.speedMax)) {
     const double flow = machine.flow(speed);
     const auto end =
         std::find_if(top.begin(), top.end(), [flow](const QPointF &at) { return at.x() >= flow * (1.0 - 1e-9); });
     const double ratio = end == top.end() ? top.last().y() : end->y();
     const bool isEdge = speed == machine.speedMin || speed == machine.speedMax;
-    addLine({{flow, 1.0}, {flow, ratio}}, QPen(Blue, isEdge ? 2.0 : 1.0), tr("%1 /min").arg(shownNumber(speed)),
-            Qt::AlignRight | Qt::AlignTop);
+    addLine({{flow, 1.0}, {flow, ratio}}, QPen(Blue, isEdge ? 2.0 : 1.0), speedLabel(speed), Qt::AlignRight | Qt::AlignTop);
   }
   constexpr double LabelRoom = 1.1;
   addRoom({LabelRoom * top.last().x(), top.last().y()});
@@ -241,7 +237,7 @@ void MapPlot::addPowers(const Drive &drive, const std::pair<double, double> &spe
     for (; next < temperatures.size() &&
            std::abs(last(temperatures[next]) - last(temperatures[i])) <= Near * std::abs(last(temperatures[i]));
          ++next) {
-      label.append(shownNumber(temperatures[next], 3));
+      label.append(temperatureUnit().number(temperatures[next], 3));
       isPresent = isPresent || temperatures[next] == temperature;
     }
     QVector<QPointF> line;
@@ -252,19 +248,21 @@ void MapPlot::addPowers(const Drive &drive, const std::pair<double, double> &spe
         line.append(QPointF(speed, limit));
     }
     addLine(line, QPen(isPresent ? Blue : QColor(120, 160, 190), isPresent ? 2.0 : 1.2),
-            tr("%1 °C").arg(label.join(QStringLiteral(", "))), Qt::AlignRight | Qt::AlignVCenter);
+            label.join(QStringLiteral(", ")) + QLatin1Char(' ') + temperatureUnit().unit(),
+            Qt::AlignRight | Qt::AlignVCenter);
     i = std::max(next, i + 1);
   }
 }
 
 void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point, double temperature,
                    const std::optional<std::pair<double, double>> &machineSpeeds) {
-  reset(heading(drive.name, point), tr("speed [1/min]"), tr("largest power [kW]"));
+  reset(heading(drive.name, point), {tr("speed"), speedUnit()}, {tr("largest power"), powerUnit()});
   const auto power = drive.power;
   setReadout([power, temperature](const QPointF &at) {
-    QString text = tr("n = %1 1/min\nP = %2 kW").arg(shownNumber(at.x()), shownNumber(at.y()));
+    QString text = tr("n = %1\nP = %2").arg(speedUnit().text(at.x()), powerUnit().text(at.y()));
     if (power)
-      text += tr("\nlimit = %1 kW at %2 °C").arg(shownNumber((*power)(temperature, at.x())), shownNumber(temperature, 3));
+      text += tr("\nlimit = %1 at %2")
+                  .arg(powerUnit().text((*power)(temperature, at.x())), temperatureUnit().text(temperature, 3));
     return text;
   });
   if (drive.power) {
@@ -283,13 +281,13 @@ void MapPlot::show(const Drive &drive, const std::optional<WorkingPoint> &point,
 }
 
 void MapPlot::showConsumption(const Drive &drive, const std::optional<WorkingPoint> &point) {
-  reset(heading(drive.name, point), tr("power [kW]"),
-        drive.kind == Drive::Kind::ElectricMotor ? tr("current taken [kW]") : tr("fuel taken [kW]"));
+  reset(heading(drive.name, point), {tr("power"), powerUnit()},
+        {drive.kind == Drive::Kind::ElectricMotor ? tr("current taken") : tr("fuel taken"), powerUnit()});
   const auto energy = drive.energy;
   setReadout([energy](const QPointF &at) {
-    QString text = tr("P = %1 kW").arg(shownNumber(at.x()));
+    QString text = tr("P = %1").arg(powerUnit().text(at.x()));
     if (energy)
-      text += tr("\ntakes %1 kW").arg(shownNumber((*energy)(at.x())));
+      text += tr("\ntakes %1").arg(powerUnit().text((*energy)(at.x())));
     return text;
   });
   double last = point && point->power ? 1.3 * *point->power : 0.0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <model/displayformat.h>
+
 #include <QString>
 
 #include <cmath>
@@ -7,5 +9,5 @@
 /// Large numbers as whole ones, others to a few digits.
 inline QString shownNumber(double number, int digits = 4) {
   constexpr double Whole = 1000.0;
-  return std::abs(number) >= Whole ? QString::number(number, 'f', 0) : QString::number(number, 'g', digits);
+  return std::abs(number) >= Whole ? DisplayFormat::fixed(number, 0) : DisplayFormat::number(number, digits);
 }

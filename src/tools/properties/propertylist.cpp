@@ -1,7 +1,6 @@
 #include "properties/propertylist.h"
 
-#include "shared/numberdelegate.h"
-
+#include <model/displayformat.h>
 #include <model/names.h>
 #include <tools/searchcriteria.h>
 
@@ -47,7 +46,7 @@ PropertyList::Row PropertyList::rowOf(const QString &type, const Property &prope
   const bool isRaw = isText || name.contains(QLatin1String(".transient"), Qt::CaseInsensitive);
   const DisplayValue::Shown shown = m_display.of(type, property.key, property.value);
   Row row{name, isRaw ? property.value.toString() : shown.value, shown.unit, false};
-  row.isLong = isText || NumberDelegate::forTheEye(row.value).size() > LongestText;
+  row.isLong = isText || DisplayFormat::shown(row.value, false).size() > LongestText;
   return row;
 }
 

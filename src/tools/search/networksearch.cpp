@@ -175,7 +175,7 @@ bool NetworkSearch::addRows(const element &candidate, std::vector<SearchRow> &ro
     if (!isLike && !m_value.compares())
       continue;
     DisplayValue::Shown shown = m_display.of(ofType.text, property.key, property.value);
-    if (!isLike && !m_value.holdsFor(shown.value))
+    if (!isLike && !m_value.holdsFor(shown))
       continue;
     if (!isAsked && !satisfiesFormula(candidate))
       return isMarked;

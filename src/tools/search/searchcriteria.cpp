@@ -1,4 +1,6 @@
+#include <model/displayformat.h>
 #include <model/elementtypes.h>
+#include <model/units.h>
 #include <tools/searchcriteria.h>
 
 #include <QRegularExpression>
@@ -47,15 +49,34 @@ bool SearchedTypes::matches(const QString &code) const {
 
 SearchedValues::SearchedValues(const QString &text)
     : m_pattern(text) {
-  static const QRegularExpression comparison(QStringLiteral("^\\s*(?:<=|>=|!=|<|>|=)\\s*([-+.\\deE]+)\\s*$"));
+  static const QRegularExpression comparison(QStringLiteral("^\\s*(<=|>=|!=|<|>|=)\\s*([-+.,\\deE]+)\\s*(\\S.*?)?\\s*$"));
+  const QRegularExpressionMatch match = comparison.match(text);
   bool isNumber = false;
-  comparison.match(text).captured(1).toDouble(&isNumber);
-  if (isNumber)
-    m_comparison.emplace(text);
+  const QString number = DisplayFormat::typed(match.captured(2));
+  number.toDouble(&isNumber);
+  m_unit = Units::fromTyped(match.captured(3));
+  if (isNumber && (m_unit.isEmpty() || Units::isKnown(m_unit)))
+    m_comparison.emplace(match.captured(1) + number);
 }
 
-bool SearchedValues::holdsFor(const QString &shown) const {
+double SearchedValues::inAskedUnit(double number, const DisplayValue::Shown &shown) {
+  if (shown.unit != m_lastUnit) {
+    m_lastUnit = shown.unit;
+    m_fromLast = Units::conversion(shown.unit, m_unit);
+  }
+  if (!m_fromLast || shown.unit.isEmpty())
+    return NetData::NoValue;
+  return shown.isDifference ? static_cast<double>(m_fromLast->factor) * number : (*m_fromLast)(number);
+}
+
+bool SearchedValues::holdsFor(const DisplayValue::Shown &shown) {
+  constexpr int Digits = 12; // what a conversion adds beyond is noise
   bool isNumber = false;
-  shown.toDouble(&isNumber);
-  return isNumber && m_comparison && m_comparison->passes(shown);
+  const double number = shown.value.toDouble(&isNumber);
+  if (!isNumber || !m_comparison)
+    return false;
+  if (m_unit.isEmpty())
+    return m_comparison->passes(shown.value);
+  const double asked = inAskedUnit(number, shown);
+  return asked != NetData::NoValue && m_comparison->passes(QString::number(asked, 'g', Digits));
 }

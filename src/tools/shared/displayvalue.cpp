@@ -1,3 +1,5 @@
+#include <model/displayunits.h>
+#include <model/quantities.h>
 #include <tools/displayvalue.h>
 
 const DisplayValue::Conversion &DisplayValue::find(const QString &type, PropertyKey property) {
@@ -14,13 +16,9 @@ const DisplayValue::Conversion &DisplayValue::find(const QString &type, Property
   Conversion found;
   const NetMetaData::Attribute *attribute = m_metaData.attribute(type, property.name());
   if (attribute != nullptr && !attribute->displayUnit.isEmpty()) {
-    found.unit = attribute->displayUnit;
-    if (const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit)) {
-      found.converts = attribute->storedUnit != attribute->displayUnit;
-      found.toDisplay = *conversion;
-    } else {
-      found.unit = attribute->storedUnit; // shown as stored
-    }
+    const DisplayUnits::Shown shown = DisplayUnits::of(*attribute);
+    found = {shown.unit != attribute->storedUnit, Quantities::isDifference(attribute->quantity), shown.toDisplay,
+             shown.unit};
   }
   known = found;
   return *known;
@@ -31,6 +29,7 @@ DisplayValue::Shown DisplayValue::of(const QString &type, PropertyKey property, 
   const Conversion &conversion = find(type, property);
   const std::optional<double> number = conversion.converts ? text.toDouble() : std::nullopt;
   if (!number)
-    return {text.toString(), conversion.unit};
-  return {QString::fromStdString(formatNumber(conversion.toDisplay(*number), Digits)), conversion.unit};
+    return {text.toString(), conversion.unit, conversion.isDifference};
+  return {QString::fromStdString(formatNumber(conversion.toDisplay(*number), Digits)), conversion.unit,
+          conversion.isDifference};
 }

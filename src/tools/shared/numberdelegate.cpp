@@ -3,34 +3,24 @@
 #include "shared/namedelement.h"
 
 #include <model/displayformat.h>
+#include <model/netmetadata.h>
 #include <tools/plaintip.h>
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QToolTip>
 
-#include <cmath>
-
 namespace {
-
-/// Digits of a number as it is written, without the zeros before the first other one. None when it is no plain number.
-int significantDigits(const QString &text) {
-  int digits = 0;
-  for (const QChar c : text) {
-    if (c == QLatin1Char('e') || c == QLatin1Char('E'))
-      break;
-    if (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
-      digits += digits > 0 || c != QLatin1Char('0') ? 1 : 0;
-    else if (c != QLatin1Char('.') && c != QLatin1Char('-') && c != QLatin1Char('+'))
-      return 0;
-  }
-  return digits;
-}
 
 bool isOfTexts(const QString &property) {
   const PropertyKey key = PropertyKey::find(property);
   return namesElements(key) || key == Names::all().type || property == QLatin1String("alias") ||
          property.startsWith(QLatin1String("vis.")) || property.endsWith(QLatin1String(".text"));
+}
+
+bool isQuantity(const QString &property) {
+  const NetMetaData::Attribute *attribute = NetMetaData::instance().anyAttribute(property);
+  return attribute != nullptr && !attribute->storedUnit.isEmpty();
 }
 
 } // namespace
@@ -39,20 +29,11 @@ NumberDelegate::NumberDelegate(int propertyColumn, QObject *parent)
     : QStyledItemDelegate(parent)
     , m_propertyColumn(propertyColumn) {}
 
-QString NumberDelegate::forTheEye(const QString &text) {
-  if (text.size() <= DisplayFormat::Digits || significantDigits(text) <= DisplayFormat::Digits)
-    return text;
-  bool isNumber = false;
-  const double number = text.toDouble(&isNumber);
-  const bool hasFraction = text.contains(QLatin1Char('.')) || text.contains(QLatin1Char('e'), Qt::CaseInsensitive);
-  return isNumber && hasFraction && std::isfinite(number) ? DisplayFormat::number(number) : text;
-}
-
 void NumberDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const {
   QStyledItemDelegate::initStyleOption(option, index);
-  const QString shown = forTheEye(option->text);
-  if (shown != option->text && !isOfTexts(index.sibling(index.row(), m_propertyColumn).data().toString()))
-    option->text = shown;
+  const QString property = index.sibling(index.row(), m_propertyColumn).data().toString();
+  if (!isOfTexts(property))
+    option->text = DisplayFormat::shown(option->text, isQuantity(property));
 }
 
 bool NumberDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,

@@ -10,9 +10,6 @@ public:
   /// \param propertyColumn the column that says of which property a row is: names and texts are never rounded
   explicit NumberDelegate(int propertyColumn, QObject *parent = nullptr);
 
-  /// A number with more digits than a person reads comes rounded, everything else as it stands.
-  static QString forTheEye(const QString &text);
-
   bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                  const QModelIndex &index) override;
 

@@ -1,3 +1,4 @@
+#include <model/displayformat.h>
 #include <tools/plaintip.h>
 #include <tools/tablemenu.h>
 
@@ -41,7 +42,7 @@ CellFilter::CellFilter(const QString &text) {
   const QRegularExpressionMatch match = comparison.match(text);
   m_operator = match.captured(1);
   m_text = match.hasMatch() ? match.captured(2) : text;
-  m_number = m_text.toDouble(&m_isNumber);
+  m_number = DisplayFormat::typed(m_text).toDouble(&m_isNumber);
 }
 
 bool CellFilter::passes(const QString &cell) const {

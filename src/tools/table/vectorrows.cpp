@@ -51,8 +51,7 @@ bool VectorRows::result(const element &e, const Property &property, const Reques
     return true;
   if (!m_formula)
     return m_value.matches(property.value.utf8()) ||
-           (m_value.compares() &&
-            m_value.holdsFor(m_display->of(e.value(Names::all().type), property.key, property.value).value));
+           (m_value.compares() && m_value.holdsFor(m_display->of(e.value(Names::all().type), property.key, property.value)));
   try {
     text = m_formula->evaluate(e).text;
     return true;

@@ -222,6 +222,17 @@ void NetPlot::showNetwork() {
   refresh(-1);
 }
 
+void NetPlot::takeSettings() {
+  readMousePattern();
+  m_selection.readSettings();
+  {
+    const PlotZoom::OwnRequest own(*m_zoomer);
+    m_update->updatePlot(NetUpdate::Elements::Renewed, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
+  }
+  m_plot->replot();
+  refresh(-1);
+}
+
 void NetPlot::fitNetwork() {
   const NetGeometry &geometry = m_update->geometry();
   m_stragglers = geometry.hasExtent() ? geometry.nodesOutside(geometry.mainExtent()) : 0;

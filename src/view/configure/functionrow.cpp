@@ -4,6 +4,7 @@
 
 #include <drawing/drawfunctions.h>
 #include <drawing/plotsettings.h>
+#include <model/displayformat.h>
 
 #include <QCompleter>
 #include <QSignalBlocker>
@@ -16,9 +17,9 @@ namespace {
 
 constexpr int DescriptionRole = Qt::UserRole;
 
-bool isNumber(const QString &text) {
+bool isNumber(const QString &text, QChar sign) {
   bool isOne = false;
-  text.trimmed().toDouble(&isOne);
+  DisplayFormat::typed(text, sign).toDouble(&isOne);
   return isOne || text.trimmed().isEmpty();
 }
 
@@ -71,9 +72,9 @@ FunctionRow::FunctionRow(const QString &title, const QString &absoluteTip, UnitO
   m_ui->function->completer()->setCompletionMode(QCompleter::PopupCompletion);
   m_ui->function->setItemDelegate(new DescribedNames(m_ui->function));
   connect(m_ui->resetMinimum, &QPushButton::clicked, this,
-          [this] { m_ui->minimum->setText(inUnit(m_applied.value(m_function)).minimum); });
+          [this] { m_ui->minimum->setText(DisplayFormat::editable(inUnit(m_applied.value(m_function)).minimum)); });
   connect(m_ui->resetMaximum, &QPushButton::clicked, this,
-          [this] { m_ui->maximum->setText(inUnit(m_applied.value(m_function)).maximum); });
+          [this] { m_ui->maximum->setText(DisplayFormat::editable(inUnit(m_applied.value(m_function)).maximum)); });
   connect(m_ui->fromData, &QPushButton::clicked, this, &FunctionRow::takeBoundsFromData);
   connect(m_ui->function, &QComboBox::currentTextChanged, this, &FunctionRow::changeFunction);
 }
@@ -112,12 +113,18 @@ void FunctionRow::changeFunction(const QString &function) {
   setNote(QString());
 }
 
+void FunctionRow::changeUnit() {
+  m_typed = typedBounds();
+  m_unit = m_unitOf(m_ui->function->currentText().trimmed());
+  show(inUnit(m_typed.value(m_function)));
+}
+
 PlotSettings::Function FunctionRow::function() const {
   return {m_ui->function->currentText().trimmed(),
           m_ui->absolute->isChecked(),
           m_ui->logarithmic->isChecked(),
-          stored(m_ui->minimum->text(), PlotSettings::OpenMinimum),
-          stored(m_ui->maximum->text(), PlotSettings::OpenMaximum),
+          stored(shownBounds().minimum, PlotSettings::OpenMinimum),
+          stored(shownBounds().maximum, PlotSettings::OpenMaximum),
           typedBounds()};
 }
 
@@ -143,7 +150,7 @@ void FunctionRow::forgetBounds() {
 
 QString FunctionRow::fault() const {
   for (const QLineEdit *field : {m_ui->minimum, m_ui->maximum}) {
-    if (!isNumber(field->text()))
+    if (!isNumber(field->text(), m_sign))
       return tr("%1: \"%2\" is no number.").arg(title(), field->text());
   }
   return QString();
@@ -155,13 +162,15 @@ void FunctionRow::setNote(const QString &text) {
 }
 
 TypedBounds FunctionRow::shownBounds() const {
-  return {m_ui->minimum->text().trimmed(), m_ui->maximum->text().trimmed(), m_unit.name};
+  return {DisplayFormat::typed(m_ui->minimum->text(), m_sign), DisplayFormat::typed(m_ui->maximum->text(), m_sign),
+          m_unit.name};
 }
 
 void FunctionRow::show(const TypedBounds &bounds) {
   m_ui->unit->setText(m_unit.name.isEmpty() ? QString() : QLatin1Char('[') + Units::written(m_unit.name) + QLatin1Char(']'));
-  m_ui->minimum->setText(bounds.minimum);
-  m_ui->maximum->setText(bounds.maximum);
+  m_sign = DisplayFormat::decimalSign();
+  m_ui->minimum->setText(DisplayFormat::editable(bounds.minimum));
+  m_ui->maximum->setText(DisplayFormat::editable(bounds.maximum));
 }
 
 /// What was typed in another unit, as since the table of properties changed, is the same value in this one.

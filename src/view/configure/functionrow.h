@@ -34,6 +34,8 @@ public:
   void setFunction(const PlotSettings::Function &function);
   PlotSettings::Function function() const;
   void takeBoundsFromData();
+  /// Shows the bounds, also those that are typed and not applied, in the unit that was chosen since.
+  void changeUnit();
   /// The same for every function of this row.
   void forgetBounds();
   /// Says what is wrong with the bounds as they stand, empty when nothing is: a text that is no number.
@@ -54,6 +56,7 @@ private:
   std::unique_ptr<Ui::FunctionRow> m_ui;
   UnitOf m_unitOf;
   Unit m_unit;                        ///< of the function that is shown
+  QChar m_sign;                       ///< with which decimals are shown
   QString m_function;                 ///< that is shown, as TypedBounds::OfFunctions has it
   TypedBounds::OfFunctions m_typed;   ///< of the other functions
   TypedBounds::OfFunctions m_applied; ///< what "Reset" comes back to

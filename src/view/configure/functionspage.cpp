@@ -72,12 +72,33 @@ FunctionRow::Unit FunctionsPage::unitOf(const QString &function) const {
 
 void FunctionsPage::showFunctions(const PlotSettings &settings) {
   for (const Aspect aspect : AllAspects) {
-    const PlotSettings::Function &function = settings.functions[aspect];
-    m_rows[aspect]->setFunction(function);
+    m_rows[aspect]->setFunction(settings.functions[aspect]);
     m_shown[aspect] = m_rows[aspect]->function();
+  }
+  showNotes(settings);
+}
+
+void FunctionsPage::changeUnits(const PlotSettings &settings) {
+  for (const Aspect aspect : AllAspects) {
+    const bool isTouched = !(m_rows[aspect]->function() == m_shown[aspect]);
+    m_rows[aspect]->changeUnit();
+    if (!isTouched)
+      m_shown[aspect] = m_rows[aspect]->function();
+  }
+  showNotes(settings);
+}
+
+void FunctionsPage::showNotes(const PlotSettings &settings) {
+  for (const Aspect aspect : AllAspects) {
+    const PlotSettings::Function &function = settings.functions[aspect];
     const bool hasNote = m_drawing.netData() != nullptr && function.name != PlotSettings::fixedSize();
     m_rows[aspect]->setNote(hasNote ? noteOn(m_drawing.values().of(aspect), function) : QString());
   }
+}
+
+std::optional<DrawFunction> FunctionsPage::chosen(Aspect aspect) const {
+  const NetData *net = m_drawing.netData();
+  return net == nullptr ? std::nullopt : std::make_optional(DrawFunction::find(m_rows[aspect]->function().name, *net));
 }
 
 QString FunctionsPage::noteOn(const DrawValues::Column &values, const PlotSettings::Function &function) {

@@ -2,9 +2,12 @@
 
 #include "configure/functionrow.h"
 
+#include <drawing/drawfunctions.h>
 #include <drawing/netupdate.h>
 
 #include <QWidget>
+
+#include <optional>
 
 /// The draw functions of the dialog, one row for each thing that they decide.
 class FunctionsPage : public QWidget {
@@ -20,11 +23,16 @@ public:
   /// Changes what was touched since the functions were shown, after asking what to do about bounds that make no range.
   /// False, and nothing is changed, when nothing is to be applied.
   bool readTouched(PlotSettings &settings) const;
+  /// Shows units and numbers as they were chosen since; what was typed and not applied stays.
+  void changeUnits(const PlotSettings &settings);
+  /// The function that is chosen now, applied or not; without a network none.
+  std::optional<DrawFunction> chosen(Aspect aspect) const;
   /// Takes all bounds of all functions from the data.
   void forgetBounds();
 
 private:
   FunctionRow::Unit unitOf(const QString &function) const;
+  void showNotes(const PlotSettings &settings);
   /// Where the values of the data lie, and whether any of them lies between the bounds.
   static QString noteOn(const DrawValues::Column &values, const PlotSettings::Function &function);
   /// Corrects bounds that make no range if the person wants it; false when nothing is to be applied.

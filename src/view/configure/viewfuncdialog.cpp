@@ -1,3 +1,4 @@
+#include "configure/breaktexts.h"
 #include "configure/colorbutton.h"
 #include "configure/functionspage.h"
 #include "configure/labeltableeditor.h"
@@ -7,6 +8,7 @@
 
 #include <base/nivramsg.h>
 #include <drawing/colormap.h>
+#include <model/displayformat.h>
 #include <view/netplot.h>
 #include <view/viewfuncdialog.h>
 
@@ -89,7 +91,7 @@ void viewFuncDialog::bindScale() {
   m_fields->bind(*ui->saturation, &S::saturation);
   m_fields->bind(*ui->lightness, &S::lightness);
   m_fields->bind(*ui->logFactor, &S::logFactor);
-  m_fields->bind(*ui->classBreaks, &S::classBreaks);
+  bindBreaks();
   m_fields->bind<QString>(
       &S::classMethod,
       [ui](const S &s) {
@@ -121,6 +123,28 @@ void viewFuncDialog::bindScale() {
         ui->legendPos->setCurrentIndex(isCorner ? s.legendPos : 0);
       },
       [ui] { return ui->legendPos->currentIndex(); });
+}
+
+void viewFuncDialog::bindBreaks() {
+  m_fields->bind<QString>(
+      &PlotSettings::classBreaks, [this](const PlotSettings &settings) { showBreaks(settings.classBreaks); },
+      [this] {
+        const DrawFunction chosen = m_functions->chosen(Aspect::EdgeColor).value_or(DrawFunction());
+        return BreakTexts::inTable(m_ui->classBreaks->text().trimmed(),
+                                   chosen.property == m_breakFunction.property ? m_breakFunction : chosen, m_breakSign);
+      });
+}
+
+void viewFuncDialog::showBreaks(const QString &inTable) {
+  m_breakFunction = m_functions->chosen(Aspect::EdgeColor).value_or(DrawFunction());
+  m_breakSign = DisplayFormat::decimalSign();
+  m_ui->classBreaks->setText(BreakTexts::shown(inTable, m_breakFunction));
+}
+
+void viewFuncDialog::changeUnits() {
+  const QString breaks = BreakTexts::inTable(m_ui->classBreaks->text().trimmed(), m_breakFunction, m_breakSign);
+  m_functions->changeUnits(m_plot.settings());
+  showBreaks(breaks);
 }
 
 void viewFuncDialog::bindSizes() {

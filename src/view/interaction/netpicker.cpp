@@ -5,6 +5,7 @@
 #include <base/settings.h>
 #include <drawing/drawfunctions.h>
 #include <drawing/labelcontents.h>
+#include <model/displayunits.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
 #include <model/topology.h>
@@ -162,12 +163,10 @@ QString NetPicker::toolTipFor(NetGeometry::Item item) const {
     const double number = NetData::number(value);
     if (number == NetData::NoValue)
       continue;
-    const auto conversion =
-        attribute == nullptr ? std::nullopt : Units::conversion(attribute->storedUnit, attribute->displayUnit);
-    const QString unit = attribute == nullptr ? QString() : conversion ? attribute->displayUnit : attribute->storedUnit;
+    const DisplayUnits::Shown display = DisplayUnits::of(attribute);
     text += QStringLiteral("<br />%1: %2")
                 .arg((attribute == nullptr ? property : attribute->longName).toHtmlEscaped(),
-                     LabelContents::formatted(conversion ? (*conversion)(number) : number, unit));
+                     LabelContents::formatted(display.toDisplay(number), display.unit));
   }
   return text;
 }

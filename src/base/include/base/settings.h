@@ -88,6 +88,13 @@ inline constexpr Setting<QString> StatusBarStopped{"status bar style sheet stopp
 inline constexpr Setting<QString> StatusBarAcceptable{"status bar style sheet acceptable"};
 inline constexpr Setting<QString> StatusBarSuccessful{"status bar style sheet successful"};
 inline constexpr Setting<bool> AskForIncludeLists{"ask for include lists"};
+inline constexpr Setting<QString> NumberForm{"number form on screen"};
+inline constexpr Setting<int> NumberDigits{"number digits on screen"};
+inline constexpr Setting<int> NumberDigitsInLabels{"number digits in labels"};
+inline constexpr Setting<QString> DecimalSign{"decimal sign on screen"};
+inline constexpr Setting<QString> Thousands{"thousands on screen"};
+inline constexpr Setting<int> NumberDigitsInFiles{"number digits in files"};
+inline constexpr Setting<QString> ThousandsInFiles{"thousands in files"};
 
 /// How what is selected is marked.
 struct SelectionMark {

@@ -81,6 +81,34 @@ inline constexpr Row Rows[] = {
     {"status bar style sheet successful", "background: lightGreen", "string", "status bar", "", Acts},
     {"ask for include lists", "0", "bool", "general", "", Acts},
     {"pick on Release", "0", "bool", "mouse and keys", "", Acts},
+    // The unit in which each quantity is read, empty for that of the property table, and how numbers are written.
+    {"unit: pressure", "", "list", "units and numbers", ",bar,barg,mbar,kPa,MPa,psi,psig", Acts},
+    {"unit: pressure difference", "", "list", "units and numbers", ",bar,mbar,Pa,kPa,MPa,psi", Acts},
+    {"unit: norm volume flow", "", "list", "units and numbers", ",1000 m3/h,m3/h,m3/s,1000000 m3/d", Acts},
+    {"unit: mass flow", "", "list", "units and numbers", ",kg/s,kg/h,t/h,lb/s", Acts},
+    {"unit: energy flow", "", "list", "units and numbers", ",MW,kW,GW,GJ/h,GWh/d", Acts},
+    {"unit: power", "", "list", "units and numbers", ",MW,kW,W", Acts},
+    {"unit: temperature", "", "list", "units and numbers", ",degC,K,degF", Acts},
+    {"unit: temperature difference", "", "list", "units and numbers", ",K,degC,degF", Acts},
+    {"unit: length", "", "list", "units and numbers", ",km,m,mile,ft", Acts},
+    {"unit: height", "", "list", "units and numbers", ",m,km,ft", Acts},
+    {"unit: diameter", "", "list", "units and numbers", ",mm,cm,m,inch", Acts},
+    {"unit: wall and roughness", "", "list", "units and numbers", ",mm,um,inch", Acts},
+    {"unit: velocity", "", "list", "units and numbers", ",m/s,km/h,ft/s", Acts},
+    {"unit: volume flow in the machine", "", "list", "units and numbers", ",m3/s,m3/h,m3/min,ft3/min", Acts},
+    {"unit: head", "", "list", "units and numbers", ",kJ/kg,J/kg,kWh/t,m of head", Acts},
+    {"unit: speed", "", "list", "units and numbers", ",1/min,1/s", Acts},
+    {"unit: density", "", "list", "units and numbers", ",kg/m3,g/l,lb/ft3", Acts},
+    {"unit: calorific value", "", "list", "units and numbers", ",kWh/m3,MJ/m3,kJ/m3,BTU/ft3", Acts},
+    {"unit: gas volume", "", "list", "units and numbers", ",1000 m3,m3,1000000 m3", Acts},
+    {"number form on screen", "significant digits", "list", "units and numbers", "significant digits,decimals", Acts},
+    {"number digits on screen", "6", "string", "units and numbers", "", Acts},
+    {"number digits in labels", "4", "string", "units and numbers", "", Acts},
+    {"decimal sign on screen", "point", "list", "units and numbers", "point,comma", Acts},
+    {"thousands on screen", "labels only", "list", "units and numbers", "labels only,none,space,apostrophe,other sign",
+     Acts},
+    {"number digits in files", "0", "string", "units and numbers", "", Acts},
+    {"thousands in files", "none", "list", "units and numbers", "none,space,apostrophe,other sign", Acts},
     // Kept for the tools that prepare networks on the same workspaces: the viewer's own check adds no properties, knows no
     // subnets and asks for no property by its name; subnets are always updated in one way and their windows place labels
     // whatever is seen of them; every bound that is violated is told, searched and shown by the rings of subnets.
@@ -160,6 +188,47 @@ inline constexpr Row Rows[] = {
     {"get all variants", "manually", "string", "special", "", Kept},
     {"notify waiting for lock or unlock", "", "string", "special", "", Kept},
 };
+
+/// What a number may be, for whoever edits it.
+struct NumberBounds {
+  const char *key;
+  double minimum;
+  double maximum;
+  bool isWhole;
+  const char *unit; ///< behind the number, empty for none
+};
+
+inline constexpr NumberBounds Numbers[] = {
+    {"pixtest delay", 0, 60000, true, "ms"},
+    {"smooth zoom pixtest delay", 0, 60000, true, "ms"},
+    {"smooth zoom duration", 1, 60000, true, "ms"},
+    {"smooth zoom steps", 1, 1000, true, ""},
+    {"perform label placement ratio", 0, 1, false, ""},
+    {"perform label placement msec", 0, 600000, true, "ms"},
+    {"zoom to element: factor", 1, 1000, false, ""},
+    {"tiny conversion tolerance", 0, 1, false, ""},
+    {"element selection brush alpha", 0, 255, true, ""},
+    {"element selection pen alpha", 0, 255, true, ""},
+    {"subnet selection brush alpha", 0, 255, true, ""},
+    {"subnet selection pen alpha", 0, 255, true, ""},
+    {"subnet selection size factor", 0, 10, false, ""},
+    {"subnet background z", -1e6, 1e6, false, ""},
+    {"subnet background size", 0, 200, false, "px"},
+    {"subnet pen width", 0, 50, false, "px"},
+    {"perform subnet label placement ratio", 0, 1, false, ""},
+    {"number digits on screen", 1, 15, true, ""},
+    {"number digits in labels", 1, 15, true, ""},
+    {"number digits in files", 0, 17, true, ""},
+};
+
+/// Null for a setting that is no number, or may be any.
+constexpr const NumberBounds *numberBounds(std::string_view key) {
+  for (const NumberBounds &bounds : Numbers) {
+    if (key == bounds.key)
+      return &bounds;
+  }
+  return nullptr;
+}
 
 /// Throws for a key that the table does not know, which while compiling is an error.
 constexpr const Row &row(std::string_view key) {

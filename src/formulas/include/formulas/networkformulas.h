@@ -29,6 +29,8 @@ public:
   Findings apply(const Progress &progress = Progress());
   /// After elements have changed: computes what depends on the changes, and nothing else.
   Findings update(const std::vector<Change> &changes);
+  /// Says anew what violates constraints, as the units in which people read values are others. Computes no formula.
+  Findings judge();
   /// Of constraints as they stand now, one an element and constraint, by name of the element.
   Findings violations() const;
   /// By the last apply() or update(), for those who watch the cost.

@@ -26,6 +26,7 @@ public:
     bool favourite = false;
     QString description;
     QStringList values; ///< that a text may have; empty when it may be anything
+    QString quantity{}; ///< of which people choose the unit (Quantities); empty for none or not said
   };
 
   static const NetMetaData &instance();

@@ -15,7 +15,8 @@ class DisplayValue {
 public:
   struct Shown {
     QString value;
-    QString unit; ///< the display unit, empty when there is none
+    QString unit;              ///< the display unit, empty when there is none
+    bool isDifference = false; ///< between two values: in another unit it has no other zero
   };
 
   explicit DisplayValue(const NetMetaData &metaData)
@@ -28,6 +29,7 @@ public:
 private:
   struct Conversion {
     bool converts = false;
+    bool isDifference = false;
     Units::Linear toDisplay;
     QString unit;
   };

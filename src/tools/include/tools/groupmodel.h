@@ -19,7 +19,7 @@ public:
   QModelIndex parent(const QModelIndex &child) const final;
   int rowCount(const QModelIndex &parent = QModelIndex()) const final;
   int columnCount(const QModelIndex &parent = QModelIndex()) const final;
-  Qt::ItemFlags flags(const QModelIndex &index) const final;
+  Qt::ItemFlags flags(const QModelIndex &index) const override;
   QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const final;
   QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const final;
 

@@ -2,6 +2,7 @@
 
 #include <base/pattern.h>
 #include <model/propertykey.h>
+#include <tools/displayvalue.h>
 #include <tools/tablemenu.h>
 
 #include <QString>
@@ -38,7 +39,8 @@ private:
   bool m_takesWords = false;
 };
 
-/// The values that a search looks for: a pattern, which may as well be read as a comparison with a number (">10", "<= 3").
+/// The values that a search looks for: a pattern, which may as well be read as a comparison with a number (">10", "<= 3"),
+/// in the unit that is shown or in one that stands behind it ("> 40 bar").
 class SearchedValues {
 public:
   explicit SearchedValues(const QString &text = QString());
@@ -46,10 +48,15 @@ public:
   /// The pattern. \param value as it is stored
   bool matches(std::string_view value) const { return m_pattern.matches(value); }
   bool compares() const { return m_comparison.has_value(); }
-  /// The comparison; false when there is none. \param shown in the unit in which people read it
-  bool holdsFor(const QString &shown) const;
+  /// The comparison; false when there is none, and where the unit of the value does not fit the asked one.
+  bool holdsFor(const DisplayValue::Shown &shown);
 
 private:
+  double inAskedUnit(double number, const DisplayValue::Shown &shown);
+
   Pattern m_pattern;
   std::optional<CellFilter> m_comparison;
+  QString m_unit;                          ///< asked for; empty for the one that is shown
+  QString m_lastUnit;                      ///< of the value before, as many follow one another
+  std::optional<Units::Linear> m_fromLast; ///< to the asked one
 };

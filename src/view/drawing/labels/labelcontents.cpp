@@ -1,6 +1,7 @@
 #include <drawing/labelcontents.h>
 #include <drawing/layergeometry.h>
 #include <model/displayformat.h>
+#include <model/displayunits.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
 #include <model/subnetstate.h>
@@ -120,10 +121,9 @@ LabelContents::Part LabelContents::valueOf(const QString &property, const QStrin
   Part part;
   part.value = PropertyKey::intern(property);
   if (const NetMetaData::Attribute *attribute = m_net.metaData()->attribute(type, property)) {
-    const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
-    part.unit = conversion ? attribute->displayUnit : attribute->storedUnit;
-    if (conversion)
-      part.toDisplay = *conversion;
+    const DisplayUnits::Shown display = DisplayUnits::of(*attribute);
+    part.unit = display.unit;
+    part.toDisplay = display.toDisplay;
   }
   return part;
 }
@@ -169,32 +169,19 @@ LabelContents::Line LabelContents::lineOf(const QString &text, const QString &ty
 
 namespace {
 
-constexpr int LabelDigits = 4;
-
 /// Units of thousands are spelled out: nobody reads "0.02 1000 m³/h". Large quantities are rounded, but a number alone may
 /// be a name.
 double spelledOut(double value, QString &unit) {
   if (unit.isEmpty())
     return value;
-  if (unit.startsWith(QLatin1String("1000 "))) {
-    unit.remove(0, 5);
-    value *= 1000.0;
+  for (const char *many : {"1000 ", "1000000 "}) {
+    if (!unit.startsWith(QLatin1String(many)))
+      continue;
+    value *= QString::fromLatin1(many).toDouble();
+    unit.remove(QLatin1String(many));
   }
   constexpr double Large = 1e4; // smaller ones are rounded when they are written
-  return std::abs(value) < Large ? value : QString::number(value, 'g', LabelDigits).toDouble();
-}
-
-void groupThousands(QString &number) {
-  constexpr QChar ThinSpace(0x2009);
-  constexpr int Group = 3;
-  const int point = number.indexOf(QLatin1Char('.'));
-  const int first = number.startsWith(QLatin1Char('-')) ? 1 : 0;
-  for (int i = (point < 0 ? number.size() : point) - Group; i > first; i -= Group)
-    number.insert(i, ThinSpace);
-}
-
-bool hasPowerOfTen(const QString &number) {
-  return number.contains(QLatin1Char('e'));
+  return std::abs(value) < Large ? value : QString::number(value, 'g', DisplayFormat::digitsOfLabels()).toDouble();
 }
 
 } // namespace
@@ -202,11 +189,7 @@ bool hasPowerOfTen(const QString &number) {
 QString LabelContents::formatted(double value, const QString &unit, int decimals) {
   QString shownUnit = unit;
   const double shown = spelledOut(value, shownUnit);
-  QString number = DisplayFormat::number(shown, LabelDigits);
-  if (decimals >= 0 && !hasPowerOfTen(number))
-    number = DisplayFormat::fixed(shown, std::min(decimals, DisplayFormat::decimals(shown, LabelDigits)));
-  if (!hasPowerOfTen(number))
-    groupThousands(number);
+  const QString number = DisplayFormat::inLabel(shown, decimals);
   return shownUnit.isEmpty() ? number : number + QLatin1Char(' ') + Units::written(shownUnit);
 }
 
@@ -235,10 +218,8 @@ int LabelContents::decimalsOf(const Part &part, const element &like) const {
       continue;
     ++found;
     QString unit = part.unit;
-    const QString number = DisplayFormat::number(spelledOut(part.toDisplay(value), unit), LabelDigits);
-    const int point = number.indexOf(QLatin1Char('.'));
-    if (point >= 0 && !hasPowerOfTen(number))
-      needed = std::max(needed, number.size() - point - 1);
+    const double shown = spelledOut(part.toDisplay(value), unit);
+    needed = std::max(needed, DisplayFormat::decimalsNeeded(shown, DisplayFormat::digitsOfLabels()));
   }
   part.decimals = needed;
   return needed;

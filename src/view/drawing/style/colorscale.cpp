@@ -18,7 +18,7 @@ std::vector<double> breaksOf(const PlotSettings &settings, const DrawValues::Col
       bool isNumber = false;
       const double shown = text.trimmed().toDouble(&isNumber);
       if (isNumber && std::isfinite(shown) && breaks.size() < MostClasses)
-        breaks.push_back(values.function.toDisplay.inverse(shown));
+        breaks.push_back(values.function.toTable.inverse(shown));
     }
     std::sort(breaks.begin(), breaks.end());
     return breaks;

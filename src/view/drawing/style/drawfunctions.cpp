@@ -1,4 +1,5 @@
 #include <drawing/drawfunctions.h>
+#include <model/displayunits.h>
 #include <model/netmetadata.h>
 
 #include <QSet>
@@ -180,10 +181,10 @@ DrawFunction DrawFunction::find(const QString &function, const NetData &net) {
   if (attribute == nullptr)
     return found;
   found.title = attribute->longName;
-  const auto conversion = Units::conversion(attribute->storedUnit, attribute->displayUnit);
-  if (conversion)
-    found.toDisplay = *conversion;
-  found.unit = conversion ? attribute->displayUnit : attribute->storedUnit;
+  const DisplayUnits::Shown display = DisplayUnits::of(*attribute);
+  found.toDisplay = display.toDisplay;
+  found.unit = display.unit;
+  found.toTable = DisplayUnits::ofTable(*attribute).toDisplay;
   if (!found.unit.isEmpty())
     found.title += QStringLiteral(" [") + Units::written(found.unit) + QLatin1Char(']');
   return found;

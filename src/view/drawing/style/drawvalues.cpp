@@ -25,10 +25,10 @@ QwtInterval rangeOf(const std::vector<double> &values) {
 }
 
 /// What separates values that people would call the same: solvers leave noise.
-bool isOneValue(const QwtInterval &data, const Units::Linear &toDisplay) {
+bool isOneValue(const QwtInterval &data, const Units::Linear &toTable) {
   constexpr double NoiseShare = 1e-3;
-  const double low = toDisplay(data.minValue());
-  const double high = toDisplay(data.maxValue());
+  const double low = toTable(data.minValue());
+  const double high = toTable(data.maxValue());
   return std::abs(high - low) <= NoiseShare * std::max(std::abs(low), std::abs(high));
 }
 
@@ -61,7 +61,7 @@ QwtInterval rangeWithin(const DrawValues::Column &column, const PlotSettings::Fu
   }
   if (isCentred)
     return centred(data);
-  if (!isOneValue(data, column.function.toDisplay))
+  if (!isOneValue(data, column.function.toTable)) // whatever unit somebody reads it in
     return data;
   const double middle = data.minValue() * 0.5 + data.maxValue() * 0.5;
   return {middle, middle};

@@ -49,6 +49,8 @@ public:
   bool pansWith(Qt::MouseButton button, Qt::KeyboardModifiers keys) const;
   /// Draws the network anew and fits its main body to the window; a hint tells how many nodes lie far outside.
   void showNetwork();
+  /// Takes what it reads of the general settings and draws anew; the view stays.
+  void takeSettings();
   /// Takes the extent of the network that was just read for the whole view.
   void fitNetwork();
   /// What the window shows, and what it is to show, in the network's own coordinates.

@@ -41,6 +41,8 @@ public:
   /// After values have changed: draws at once, with what waits for the end of the turn of the event loop. Which elements
   /// there are and where they lie stays; labels that stand say something else.
   void redraw();
+  /// After general settings have changed: takes what the drawing reads of them and draws at once; the view stays.
+  void takeSettings();
   /// Layers whose elements are not drawn, by the values of the property; drawn at the end of the turn.
   void setHiddenLayers(const QString &property, const QSet<QString> &layers);
   /// Makes the element the current one of the window; empty for none.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <drawing/drawfunctions.h>
 #include <drawing/labeltable.h>
 
 #include <QWidget>
@@ -28,6 +29,8 @@ public:
   void setFiles(const QString &labelTable, const LabelTableFile::Reading &read, const QString &plotSettings);
   /// Shows how the plot is drawn now.
   void refresh();
+  /// Shows units and numbers as they were chosen in the settings since; what was typed and not applied stays.
+  void changeUnits();
   /// Takes all bounds of the draw functions from the data.
   void resetMinMaxColorFuncValues();
 
@@ -53,6 +56,8 @@ private:
   void limitWidth();
   void fillChoices();
   void bindScale();
+  void bindBreaks();
+  void showBreaks(const QString &inTable);
   void bindSizes();
   void bindColors();
 
@@ -61,6 +66,8 @@ private:
   std::unique_ptr<SettingFields> m_fields;
   FunctionsPage *m_functions;
   LabelTableEditor *m_labels;
+  DrawFunction m_breakFunction; ///< in whose unit the breaks between classes are shown
+  QChar m_breakSign;            ///< with which decimals they are
   QString m_labelTablePath;
   LabelTableFile::Reading m_labelsRead; ///< of the file at that path
   QString m_plotSettingsPath;

@@ -18,6 +18,7 @@ struct DrawFunction {
   QString title;                    ///< long name with the display unit, such as "pressure [bar]"
   QString unit;                     ///< the display unit, empty for plain numbers
   Units::Linear toDisplay;          ///< from the stored to the display unit
+  Units::Linear toTable;            ///< from the stored unit to that of the property table, which files speak of
   bool isOfNodes = false;           ///< a property of nodes; edges take the mean of their ends
   Computed computed = Computed::No; ///< for want of values of their own
 

@@ -65,7 +65,7 @@ struct PlotSettings {
   QString colorRamp = hueRamp(); ///< name of a ramp, see ColorRamp
   int colorClasses = 0;          ///< number of classes of the edge colours; 0 or 1 for a continuous scale
   QString classMethod = equalClasses();
-  QString classBreaks; ///< breaks of the user's own in the display unit, ascending, joined by ";"
+  QString classBreaks; ///< breaks of the user's own in the display unit of the property table, ascending, joined by ";"
   bool showGrid = false;
 
   friend bool operator==(const PlotSettings &a, const PlotSettings &b);
