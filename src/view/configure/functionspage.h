@@ -20,6 +20,7 @@ public:
   /// Changes what was touched since the functions were shown, after asking what to do about bounds that make no range.
   /// False, and nothing is changed, when nothing is to be applied.
   bool readTouched(PlotSettings &settings) const;
+  bool isTouched() const;
   /// Takes all bounds of all functions from the data.
   void forgetBounds();
 

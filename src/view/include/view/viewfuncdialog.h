@@ -28,6 +28,8 @@ public:
   void setFiles(const QString &labelTable, const LabelTableFile::Reading &read, const QString &plotSettings);
   /// Shows how the plot is drawn now.
   void refresh();
+  /// Something was typed or chosen that is not applied yet.
+  bool hasUnapplied() const;
   /// Takes all bounds of the draw functions from the data.
   void resetMinMaxColorFuncValues();
 
