@@ -7,7 +7,7 @@ program=${NIVRA_VIEWER:-build/release/bin/NivraViewer}
 images=docs/images
 mkdir -p "$images"
 data=$(mktemp -d)
-export XDG_DATA_HOME=$data/data XDG_CONFIG_HOME=$data/config
+export XDG_DATA_HOME=$data/data XDG_CONFIG_HOME=$data/config XDG_CACHE_HOME=$data/cache
 trap 'rm -rf "$data"' EXIT
 
 missing=()
@@ -16,7 +16,7 @@ for tool in Xvfb xdotool import montage mogrify rsvg-convert pdftoppm gs; do com
 
 window() { # FILE PICTURE [COMMANDS with $id]
   xvfb-run -a -s '-screen 0 1280x960x24' bash -c '
-    "$1" "$2" & pid=$!
+    "$1" --clean "$2" & pid=$!
     for _ in $(seq 100); do
       id=$(xdotool search --onlyvisible --name "CASE:" 2>/dev/null | head -n 1) && [ -n "$id" ] && break
       sleep 0.1
@@ -71,6 +71,22 @@ machine_map() { # COMPRESSOR PICTURE
 }
 machine_map CS_Rehden_C1 "$images/characteristics.png"
 machine_map CS_Rimpar_C1 "$images/piston.png"
+
+# What was opened before, and a file that changes while it is shown.
+studies=$data/studies
+for network in 11 40 135; do
+  [ ! -d "../shared/data/GasLib-$network" ] || { mkdir -p "$studies"; cp -r "../shared/data/GasLib-$network" "$studies/"; }
+done
+if [ -d "$studies" ]; then
+  for file in "$studies"/*/N1/N1.scen.jsn "$studies"/*/*.geom.jsn "$walk/DE_H2/S5/S5.scen.jsn"; do
+    xvfb-run -a -s '-screen 0 1280x960x24' bash -c '"$1" "$2" & pid=$!; sleep 6; kill "$pid"' _ "$program" "$file"
+  done
+  rm -r "$studies/GasLib-11/N1" # one that is no longer there
+  xvfb-run -a -s '-screen 0 1200x900x24' bash -c '"$1" & pid=$!; sleep 4; import -window root -crop 1200x900+0+0 "$2"; kill "$pid"' \
+    _ "$program" "$images/start-page.png"
+  window "$studies/GasLib-40/N1/N1.scen.jsn" "$images/reload-bar.png" "echo >>'$studies/GasLib-40/N1/N1.scen.jsn'; sleep 3"
+  mogrify -crop 1200x520+0+0 +repage "$images/reload-bar.png"
+fi
 
 formats=$(mktemp -d)
 for format in png jpg bmp tif svg pdf ps; do

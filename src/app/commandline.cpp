@@ -157,9 +157,12 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
   const QCommandLineOption info(QStringLiteral("info"), tr("Writes what FILE holds as one JSON object."));
   const QCommandLineOption picture(QStringLiteral("export"), tr("Writes the drawing of FILE; the suffix gives the format."),
                                    QStringLiteral("PICTURE"));
+  const QCommandLineOption clean(QStringLiteral("clean"),
+                                 tr("Opens FILE as for the first time: how it was left does not come back, and how "
+                                    "it is left now is not kept."));
   const SizeOptions size;
   const DrawOptions drawing;
-  parser.addOptions(QList<QCommandLineOption>{help, version, info, picture} + size.all() + drawing.all());
+  parser.addOptions(QList<QCommandLineOption>{help, version, clean, info, picture} + size.all() + drawing.all());
   parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
   QString style;
   if (!parser.parse(ToolkitOptions::without(arguments, style)))
@@ -171,6 +174,7 @@ CommandLine CommandLine::parse(const QStringList &arguments) {
 
   CommandLine line;
   line.style = style;
+  line.isClean = parser.isSet(clean);
   line.info = parser.isSet(info);
   line.picture = parser.value(picture);
   const QStringList files = parser.positionalArguments();

@@ -20,7 +20,8 @@ public:
 
   Action action = Action::Window;
   QString file;
-  QString style; ///< of the toolkit, where one was asked for
+  QString style;        ///< of the toolkit, where one was asked for
+  bool isClean = false; ///< how the file was left does not come back, nor is it kept now
   bool info = false;
   QString picture;
   int width = 0;      ///< pixels, 0 for the default

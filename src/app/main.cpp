@@ -53,6 +53,7 @@ int runWindow(int argc, char **argv, const CommandLine &line) {
   // Inside the event loop, so that a window that is closed while it reads ends the program.
   if (!line.file.isEmpty())
     QTimer::singleShot(0, &viewer, [&] { viewer.open(line.file); });
+  viewer.remember(line.isClean ? WorkspaceMemory::Keeps::RecentFiles : WorkspaceMemory::Keeps::Sessions);
   return QApplication::exec();
 }
 

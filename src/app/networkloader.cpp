@@ -60,6 +60,10 @@ void addDefinitions(const QString &directory, const QString &category, std::vect
   }
 }
 
+QString layersFile(const NivraWorkspace &workspace) {
+  return workspace.filePath(QStringLiteral("layers.csv"));
+}
+
 } // namespace
 
 bool NetworkLoader::resolve(const QString &path) {
@@ -84,14 +88,25 @@ void NetworkLoader::useWorkspaceOf(const NetworkLoader &other) {
 
 void NetworkLoader::readConfiguration() {
   Findings findings;
+  const ReadFiles notes;
   m_workspace.readCaseConfiguration(findings);
   m_gasParams = NivraGasParams();
   if (m_workspace.hasScenario())
     m_workspace.readScenarioConfiguration(m_gasParams, findings);
+  m_read = notes.stamps();
   report(findings);
 }
 
 bool NetworkLoader::readNetwork(const ReadOptions &options) {
+  const ReadFiles notes;
+  const bool isRead = readStages(options);
+  for (const auto &[path, stamp] : notes.stamps())
+    m_read.emplace(path, stamp);
+  m_read.erase(layersFile(m_workspace)); // which the program writes
+  return isRead;
+}
+
+bool NetworkLoader::readStages(const ReadOptions &options) {
   tellOfVocabulary();
   QElapsedTimer timer;
   timer.start();
@@ -107,6 +122,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   readerOptions.includeProperties = options.includeProperties;
   readerOptions.progress = options.progress;
   const bool isRead = readFiles(reader, readerOptions);
+  awaitResults(reader);
   note(QStringLiteral("read"));
   if (!isRead)
     return false;
@@ -115,11 +131,46 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   if (!assembleSubnets(options) || !readSubResults(reader, readerOptions))
     return stop();
   note(QStringLiteral("subnets"));
+  readLayers();
   readMachines(reader);
   note(QStringLiteral("machines"));
   const bool isComputed = computeFormulas(options.progress);
   note(QStringLiteral("formulas"));
   return isComputed || stop();
+}
+
+/// A computation may write results beside a scenario that had none.
+void NetworkLoader::awaitResults(const NivraReader &reader) {
+  if (!m_workspace.hasScenario())
+    return;
+  const QString base = m_workspace.scenarioPath().section(QLatin1Char('.'), 0, -2);
+  for (const char *suffix : {".res", ".res.sub", ".gaspar", ".fix", ".gas"}) {
+    const QString path = reader.networkPath(base + QLatin1String(suffix));
+    if (!QFileInfo::exists(path))
+      m_read.emplace(path, FileStamp());
+  }
+}
+
+void NetworkLoader::readLayers() {
+  const QString path = layersFile(m_workspace);
+  m_layers.clear();
+  if (!QFileInfo::exists(path))
+    return;
+  Findings findings;
+  m_layers = LayersFile::read(path, FileAccess::Source::Workspace, findings);
+  LayerEdits::apply(m_net, m_layers);
+  report(findings);
+  notice(tr("Layers"), std::move(findings));
+}
+
+QString NetworkLoader::fault() const {
+  for (const QString &path : {m_workspace.chosenPath(), m_files.geometry}) {
+    QFile file(path);
+    QString reason;
+    if (!path.isEmpty() && !FileAccess::openForReading(file, FileAccess::Source::Workspace, FileAccess::AnySize, &reason))
+      return reason;
+  }
+  return QString();
 }
 
 bool NetworkLoader::readFiles(NivraReader &reader, const NivraReader::Options &options) {

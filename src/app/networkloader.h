@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/finding.h>
+#include <base/readfiles.h>
 #include <formulas/networkformulas.h>
 #include <io/nivragasparams.h>
 #include <io/nivrareader.h>
@@ -10,6 +11,7 @@
 #include <model/elementchange.h>
 #include <model/netdata.h>
 #include <tools/findinglist.h>
+#include <tools/layeredits.h>
 
 #include <QCoreApplication>
 #include <QString>
@@ -60,6 +62,13 @@ public:
   const QString &templateFolder() const { return m_templateFolder; }
   /// Of the scenario's compressor database; empty without one.
   const MachineData &machines() const { return m_machines; }
+  /// The files of the workspace that were read, as they were then, and results that may come beside them. Without those
+  /// that the program writes itself.
+  const ReadFiles::Stamps &files() const { return m_read; }
+  /// Why the network that was read cannot be read again; empty when it can.
+  QString fault() const;
+  /// Of the case's "layers.csv", which lies over those of the network.
+  const LayerValues &layers() const { return m_layers; }
   /// Computes what depends on the changes.
   void computeAgain(const std::vector<ElementChange> &changes);
   /// Tells violated bounds anew, as units or numbers are written in another way.
@@ -70,6 +79,9 @@ public:
 
 private:
   // The stages; those that return something return whether the next one may begin.
+  bool readStages(const ReadOptions &options);
+  void awaitResults(const NivraReader &reader);
+  void readLayers();
   bool readFiles(NivraReader &reader, const NivraReader::Options &options);
   void check();
   bool assembleSubnets(const ReadOptions &options);
@@ -88,6 +100,8 @@ private:
   GasTable m_gases;
   ScenarioSummary::Files m_files;
   MachineData m_machines;
+  ReadFiles::Stamps m_read;
+  LayerValues m_layers;
   QString m_templateFolder;
   ConsistencyCheck::PruneResult m_removed;
   std::vector<FormulaDefinition> m_templateDefinitions; ///< of the assembled subnets

@@ -2,11 +2,15 @@
 
 #include "aboutbox.h"
 #include "lastscenario.h"
+#include "layerkeeper.h"
 #include "loadprogress.h"
 #include "logo.h"
+#include "opendialog.h"
 #include "outcomestyle.h"
 #include "settings/numberlocale.h"
 #include "settings/settingsdialog.h"
+#include "recentmenu.h"
+#include "reloadoffer.h"
 #include "subnetwindow.h"
 #include "tooldocks.h"
 #include "ui_nivraviewer.h"
@@ -27,15 +31,26 @@
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMimeData>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTimer>
 #include <QToolButton>
 
 #include <utility>
+
+/// How long an opening takes, without the time for which a person was asked.
+class NivraViewer::OpeningClock {
+public:
+  OpeningClock() { m_timer.start(); }
+  qint64 elapsed() const { return m_timer.elapsed() - (NivraMsg::waitedForAnswers() - m_waitedBefore); }
+
+private:
+  QElapsedTimer m_timer;
+  qint64 m_waitedBefore = NivraMsg::waitedForAnswers();
+};
 
 NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
@@ -43,6 +58,9 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_control(std::make_unique<NetVisControl>(m_net, QString(), logFinding))
     , m_loader(m_net)
     , m_categories(std::make_shared<CategoryList>(logFinding))
+    , m_layers(new LayerKeeper(m_net, *this))
+    , m_reloadOffer(new ReloadOffer(*this))
+    , m_reload(new QAction(tr("&Reload"), this))
     , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); }) {
   qApp->installEventFilter(new WheelGuard(this));
   setUpForm();
@@ -56,6 +74,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   if (QFileInfo::exists(ownStyle))
     applyStyleSheet(ownStyle);
   m_tools = new ToolDocks(*this, *m_control, m_categories);
+  m_memory = new WorkspaceMemory(*this, *m_control, *m_tools, *m_layers);
   m_ui->statusbar->showMessage(tr("No Workspace loaded"));
   show();
   QCoreApplication::processEvents();
@@ -78,12 +97,42 @@ NivraViewer::NivraViewer(QWidget *parent)
   connect(m_tools, &ToolDocks::elementsChanged, this, &NivraViewer::addChange);
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
   setAcceptDrops(true);
+  setUpFileMenu();
+  setUpReloading();
   GeneralSettings::instance().load(QString(), logFinding);
   NumberLocale::apply();
   m_control->clear();
 }
 
 NivraViewer::~NivraViewer() = default;
+
+void NivraViewer::setUpFileMenu() {
+  auto *recent = new RecentMenu(m_memory->recent(), m_ui->menuFile);
+  m_ui->menuFile->insertMenu(m_ui->actionExit, recent);
+  connect(recent, &RecentMenu::fileWanted, this, &NivraViewer::open);
+  connect(m_ui->label, &StartPage::openWanted, this, &NivraViewer::on_actionOpen_triggered);
+  connect(m_ui->label, &StartPage::fileWanted, this, &NivraViewer::open);
+  m_reload->setShortcut(Qt::Key_F5);
+  m_reload->setToolTip(tr("Read the files of the case again (F5)"));
+  m_reload->setEnabled(false);
+  m_ui->menuFile->insertAction(m_ui->actionExit, m_reload);
+  connect(m_reload, &QAction::triggered, this, &NivraViewer::reload);
+}
+
+void NivraViewer::setUpReloading() {
+  connect(m_reloadOffer, &ReloadOffer::reloadWanted, this, &NivraViewer::reload);
+  connect(m_reloadOffer, &ReloadOffer::ignored, m_control->plot(), [this] { m_control->plot()->setFocus(); });
+  connect(m_layers, &LayerKeeper::elementsChanged, this, &NivraViewer::addChange);
+  connect(m_tools, &ToolDocks::elementsChanged, m_layers, &LayerKeeper::note);
+  connect(m_tools, &ToolDocks::saveLayersWanted, m_layers, &LayerKeeper::saveAs);
+  connect(m_tools, &ToolDocks::loadLayersWanted, m_layers, &LayerKeeper::load);
+}
+
+void NivraViewer::remember(WorkspaceMemory::Keeps keeps) {
+  m_memory->setKeeps(keeps);
+  if (keeps != WorkspaceMemory::Keeps::Nothing) // once the window stands
+    QTimer::singleShot(0, m_ui->label, [this] { m_ui->label->showRecent(m_memory->recent()); });
+}
 
 // The menu bar has an icon. To read a picture the toolkit loads all of its plugins for pictures and asks them, which was a
 // fifth of the start; while it does not see them it reads this one by itself.
@@ -104,10 +153,10 @@ QString NivraViewer::openDialogStart(const QString &applicationDir) {
 
 void NivraViewer::on_actionOpen_triggered() {
   const LastFolder &folder = LastFolder::ofOpening();
-  const QString path = QFileDialog::getOpenFileName(
-      this, tr("Select Geometry or Scenario File"),
-      folder.path().isEmpty() ? openDialogStart(QCoreApplication::applicationDirPath()) : folder.path(),
-      tr("Scenario Files (*.scen *.scen.jsn);;Geom Files (*.geom *.geom.jsn)"));
+  m_memory->recent().read();
+  const QString path = OpenDialog::ask(
+      this, folder.path().isEmpty() ? openDialogStart(QCoreApplication::applicationDirPath()) : folder.path(),
+      m_memory->recent().folders());
   if (!path.isEmpty())
     open(path);
 }
@@ -140,8 +189,26 @@ void NivraViewer::open(const QString &path) {
     return; // a drop or a shortcut while the network is being read
   if (path.endsWith(QStringLiteral(".qss")))
     applyStyleSheet(path);
-  else if (m_tools->settleChanges())
+  else if (settleChanges())
     openWorkspace(path);
+}
+
+/// Before another case: false when a person wants to stay with changes that are not saved.
+bool NivraViewer::settleChanges() {
+  std::vector<UnsavedEdits::Kind> kinds = m_tools->unsaved();
+  if (m_layers->isUnsaved())
+    kinds.push_back({tr("layers of elements (%1)").arg(m_layers->count()),
+                     tr("The layers of elements have changes that are not saved. Save them?"), [this] {
+                       return m_layers->save();
+                     }});
+  if (m_loader.workspace().isValid() && !m_memory->keepsSessions() && !m_control->ownStyle().isEmpty())
+    kinds.push_back({tr("how the network is drawn"), tr("How the network is drawn is not saved. Save it?"), [this] {
+                       return m_tools->saveStyle();
+                     }});
+  const UnsavedEdits::Answer answer = UnsavedEdits::settle(kinds);
+  if (answer == UnsavedEdits::Answer::Discarded)
+    m_layers->discard();
+  return answer != UnsavedEdits::Answer::Stay;
 }
 
 void NivraViewer::applyStyleSheet(const QString &path) {
@@ -155,9 +222,8 @@ void NivraViewer::applyStyleSheet(const QString &path) {
 
 void NivraViewer::openWorkspace(const QString &path) {
   NivraMsg::debug(QStringLiteral("opening file ") + path);
-  QElapsedTimer timer;
-  timer.start();
-  const qint64 waitedBefore = NivraMsg::waitedForAnswers();
+  const OpeningClock clock;
+  m_memory->keep(); // before the files of another workspace are the ones to be read
   NetworkLoader loader(m_net);
   m_ui->statusbar->setStyleSheet(QString());
   if (!loader.resolve(path)) {
@@ -167,6 +233,7 @@ void NivraViewer::openWorkspace(const QString &path) {
       NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
     return;
   }
+  m_memory->leave();
   m_loader.useWorkspaceOf(loader);
   LastFolder::ofOpening().remember(path); // from wherever it came
   if (centralWidget() != m_control->plot())
@@ -176,26 +243,62 @@ void NivraViewer::openWorkspace(const QString &path) {
   NumberLocale::apply();
   if (Settings::StartWithLastScenario.value())
     useLastScenario();
-  m_control->clear();
-  m_loader.readConfiguration();
-  setBusy(true);
   const bool done = readWorkspace();
-  setBusy(false);
-  m_control->plot()->setFocus(); // the keys are for the network that was asked for
+  m_layers->enter(m_loader.workspace(), m_loader.layers());
   m_tools->refresh(m_loader.workspace());
+  showWorkspace(done);
+  if (done)
+    m_memory->enter(m_loader.workspace());
+  m_reloadOffer->hideBar(); // also where the window was left with it
+  if (done && m_loader.workspace().hasScenario())
+    LastScenario::remember(m_loader.workspace().caseDirectory(), m_loader.workspace().chosenPath());
+  showOutcome(done, clock);
+}
+
+/// Tells how the opening went.
+void NivraViewer::showOutcome(bool isRead, const OpeningClock &clock) {
+  constexpr int ShownMs = 20000;
+  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(outcome(isRead)));
+  if (isRead)
+    m_ui->statusbar->showMessage(tr("Startup finished in %1ms").arg(clock.elapsed()), ShownMs);
+  else
+    m_ui->statusbar->showMessage(m_loader.error());
+}
+
+void NivraViewer::reload() {
+  if (m_progress != nullptr || !m_loader.workspace().isValid())
+    return;
+  const OpeningClock clock;
+  NetworkLoader loader(m_net);
+  const QString fault = m_loader.fault(); // what is shown stays as long as nothing can take its place
+  if (!fault.isEmpty() || !loader.resolve(m_loader.workspace().chosenPath())) {
+    m_reloadOffer->tellFault(fault.isEmpty() ? loader.error() : fault);
+    return;
+  }
+  m_memory->keep();
+  const Session before = m_memory->gathered();
+  m_layers->takeAside();
+  m_memory->leave();
+  m_loader.useWorkspaceOf(loader);
+  const bool done = readWorkspace();
+  m_tools->refresh(m_loader.workspace(), ToolDocks::Edits::Kept);
+  showWorkspace(done);
+  if (done) {
+    m_layers->putBackAside();
+    m_memory->enterAgain(m_loader.workspace(), before);
+  }
+  showOutcome(done, clock);
+}
+
+/// Beside the drawing.
+void NivraViewer::showWorkspace(bool isRead) {
+  m_control->plot()->setFocus(); // the keys are for the network that was asked for
+  m_reload->setEnabled(true);
+  m_reloadOffer->watch(isRead ? m_loader.files() : ReadFiles::Stamps());
   m_tools->setFindings(m_loader.noticed());
   m_tools->setScenario(m_loader.scenarioSummary());
   m_tools->setMachines(m_loader.machines());
   showTitle();
-  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(outcome(done)));
-  if (done && m_loader.workspace().hasScenario())
-    LastScenario::remember(m_loader.workspace().caseDirectory(), m_loader.workspace().chosenPath());
-  constexpr int ShownMs = 20000;
-  if (done)
-    m_ui->statusbar->showMessage(
-        tr("Startup finished in %1ms").arg(timer.elapsed() - (NivraMsg::waitedForAnswers() - waitedBefore)), ShownMs);
-  else
-    m_ui->statusbar->showMessage(m_loader.error());
 }
 
 /// In place of a case alone the scenario of it that was opened last, where it still belongs to the chosen geometry.
@@ -225,8 +328,10 @@ OutcomeStyle::Outcome NivraViewer::outcome(bool isDone) const {
 }
 
 bool NivraViewer::readWorkspace() {
-  qDeleteAll(subnetWindows()); // parts of the network before
+  setBusy(true);
   m_control->clear();
+  m_loader.readConfiguration();
+  qDeleteAll(subnetWindows()); // parts of the network before
   m_net.clear();
   m_showingChanges.cancel();
   m_changes.clear();
@@ -247,6 +352,7 @@ bool NivraViewer::readWorkspace() {
     m_net.clear(); // half a network would look like a whole one
   m_control->setSubnetIcons(m_loader.templateFolder());
   m_control->showNetData(m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
+  setBusy(false);
   return done;
 }
 
@@ -273,6 +379,7 @@ void NivraViewer::openSubnet(const QString &name) {
   connect(window, &SubnetWindow::elementMarked, this,
           [this](const QString &picked) { elementAction(picked, NetPicker::EleAction::Mark); });
   connect(window, &SubnetWindow::elementsChanged, this, &NivraViewer::addChange);
+  connect(window, &SubnetWindow::elementsChanged, m_layers, &LayerKeeper::note);
   connect(window->visControl(), &NetVisControl::openCharacteristicsRequested, m_tools, &ToolDocks::openCharacteristics);
   window->show();
 }
@@ -328,8 +435,8 @@ void NivraViewer::showTitle() {
 /// While a network is read the program answers "Cancel" and the frames of its windows alone: tools would show half of it,
 /// and change it under the reader's hands.
 void NivraViewer::setBusy(bool busy) {
-  for (QAction *action :
-       {m_ui->actionOpen, m_ui->actionSettings, m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
+  for (QAction *action : {m_ui->actionOpen, m_ui->actionSettings, m_ui->actionSearch, m_ui->actionElement_Table,
+                          m_ui->actionMetadataTable, m_reload})
     action->setEnabled(!busy);
   QWidgetList widgets{m_ui->menubar, m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
@@ -373,13 +480,15 @@ void NivraViewer::dropEvent(QDropEvent *event) {
 void NivraViewer::closeEvent(QCloseEvent *event) {
   if (m_progress != nullptr)
     m_progress->cancel(); // reading ends at its next step, then the window goes
-  else if (!m_tools->settleChanges()) {
+  else if (!settleChanges()) {
     event->ignore();
     return;
   }
   QMainWindow::closeEvent(event);
   if (event->isAccepted() && !closeOthers())
     event->ignore();
+  if (event->isAccepted())
+    m_memory->keep();
 }
 
 /// Tables and the guide, which are windows without a parent.

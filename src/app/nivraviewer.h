@@ -2,6 +2,7 @@
 
 #include "networkloader.h"
 #include "outcomestyle.h"
+#include "workspacememory.h"
 
 #include <base/onceperturn.h>
 #include <model/elementchange.h>
@@ -15,8 +16,10 @@
 #include <vector>
 
 class CategoryList;
+class LayerKeeper;
 class LoadProgress;
 class NetVisControl;
+class ReloadOffer;
 class SubnetWindow;
 class ToolDocks;
 
@@ -34,6 +37,9 @@ public:
   /// A ".qss" file restyles the program; anything else is resolved as a workspace and opened.
   void open(const QString &path);
 
+  /// What is kept of the workspaces that are opened from now on; nothing by default.
+  void remember(WorkspaceMemory::Keeps keeps);
+
   NetVisControl *visControl() const { return m_control.get(); }
   static QString openDialogStart(const QString &applicationDir);
 
@@ -49,6 +55,8 @@ public slots:
   void on_actionMetadataTable_triggered();
   void on_actionOpen_triggered();
   void on_actionSettings_triggered();
+  /// Reads the files of the case again; view, selection, style, layers and what is not saved stay.
+  void reload();
 
 protected:
   void dragEnterEvent(QDragEnterEvent *event) override;
@@ -57,8 +65,14 @@ protected:
 
 private:
   void setUpForm();
+  void setUpFileMenu();
+  void setUpReloading();
   void applyStyleSheet(const QString &path);
   void openWorkspace(const QString &path);
+  void showWorkspace(bool isRead);
+  class OpeningClock;
+  void showOutcome(bool isRead, const OpeningClock &clock);
+  bool settleChanges();
   void useLastScenario();
   OutcomeStyle::Outcome outcome(bool isDone) const;
   bool readWorkspace();
@@ -79,6 +93,10 @@ private:
   NetworkLoader m_loader;
   std::shared_ptr<CategoryList> m_categories;
   ToolDocks *m_tools = nullptr;
+  LayerKeeper *m_layers;
+  WorkspaceMemory *m_memory = nullptr;
+  ReloadOffer *m_reloadOffer;
+  QAction *m_reload;
   std::vector<ElementChange> m_changes; ///< since the last showChanges()
   OncePerTurn m_showingChanges;
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read

@@ -138,7 +138,7 @@ void ToolDocks::showSelection() {
   m_window.statusBar()->showMessage(parts.isEmpty() ? QString() : tr("Selected %1%2").arg(parts.join(tr(", ")), names));
 }
 
-void ToolDocks::refresh(const NivraWorkspace &workspace) {
+void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
   createReports();
   if (m_draw == nullptr)
     createDraw();
@@ -161,7 +161,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace) {
   m_search->clearResults();
   m_layers->setLayerProperty(m_control.plot()->settings().layerProp);
   m_layers->on_pushButtonReload_clicked();
-  if (m_extent == Extent::Program)
+  if (m_extent == Extent::Program && (edits == Edits::Dropped || !m_categoryList->isChanged()))
     m_categoryList->setFile(workspace.filePath(QStringLiteral("catdef.csv")));
   m_directory = QFileInfo(workspace.filePath(QStringLiteral("catdef.csv"))).path();
   if (m_vectorTable != nullptr) {
@@ -196,6 +196,9 @@ void ToolDocks::createLayers() {
   connect(m_layers, &NivraNetLayersEditor::layerVisChanged, &m_control, &NetVisControl::setHiddenLayers);
   connect(&m_control, &NetVisControl::hiddenLayersChanged, m_layers, &NivraNetLayersEditor::setHiddenLayers);
   connect(m_layers, &NivraNetLayersEditor::elementsChanged, this, &ToolDocks::elementsChanged);
+  connect(m_layers, &NivraNetLayersEditor::saveWanted, this, &ToolDocks::saveLayersWanted);
+  connect(m_layers, &NivraNetLayersEditor::loadWanted, this, &ToolDocks::loadLayersWanted);
+  m_layers->setOffersFiles(m_extent == Extent::Program); // those of a part are saved with the whole
   connect(m_layers, &NivraNetLayersEditor::itemClicked, this, &ToolDocks::elementMarked);
   connect(m_layers, &NivraNetLayersEditor::itemDoubleClicked, &m_control, &NetVisControl::showElement);
 }
@@ -224,8 +227,29 @@ NivraVecTable *ToolDocks::vectorTable() {
   return m_vectorTable.get();
 }
 
-bool ToolDocks::settleChanges() {
-  return m_categories == nullptr || m_categories->settleChanges();
+std::vector<UnsavedEdits::Kind> ToolDocks::unsaved() {
+  std::vector<UnsavedEdits::Kind> kinds;
+  if (m_categories != nullptr && m_categories->hasChanges())
+    kinds.push_back({tr("categories"), tr("The categories have changes that are not saved. Save them?"), [this] {
+                       return m_categories->save();
+                     }});
+  if (m_draw != nullptr && m_draw->hasUnapplied())
+    kinds.push_back({tr("what was typed in \"Configure Draw\""),
+                     tr("What was typed in \"Configure Draw\" is not applied. Save it?"), [this] {
+                       m_draw->on_applyAndSave_clicked();
+                       return !m_draw->hasUnapplied();
+                     }});
+  return kinds;
+}
+
+bool ToolDocks::saveStyle() {
+  m_draw->on_applyAndSave_clicked();
+  return m_control.ownStyle().isEmpty();
+}
+
+void ToolDocks::setHiddenLayers(const QString &property, const QSet<QString> &layers) {
+  m_layers->setLayerProperty(property);
+  m_control.setHiddenLayers(property, layers);
 }
 
 void ToolDocks::showChanges() {
@@ -282,6 +306,7 @@ void ToolDocks::showHelp(const QString &page) {
 
 void ToolDocks::createDraw() {
   m_draw = new viewFuncDialog(*m_control.plot());
+  connect(&m_control, &NetVisControl::styleChanged, m_draw, &viewFuncDialog::refresh);
   auto *dock = new QDockWidget(m_draw->windowTitle(), &m_window);
   dock->setWidget(m_draw);
   addDock(dock, QStringLiteral("configureDraw"), Qt::RightDockWidgetArea);

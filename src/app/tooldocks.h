@@ -1,5 +1,7 @@
 #pragma once
 
+#include "unsavededits.h"
+
 #include <io/scenariosummary.h>
 #include <model/elementchange.h>
 #include <model/netdata.h>
@@ -8,9 +10,11 @@
 
 #include <QList>
 #include <QObject>
+#include <QSet>
 #include <QStringList>
 
 #include <memory>
+#include <vector>
 
 class CategoryList;
 class CharacteristicsStack;
@@ -46,14 +50,20 @@ public:
             Extent extent = Extent::Program);
   ~ToolDocks() override;
 
+  /// Whether categories that are not saved stay when the case is read.
+  enum class Edits { Dropped, Kept };
   /// Makes what is not there yet and shows the network that was just read.
-  void refresh(const NivraWorkspace &workspace);
+  void refresh(const NivraWorkspace &workspace, Edits edits = Edits::Dropped);
   /// Shows and hides the docks.
   void fillViewMenu(QMenu &menu);
   NivraSearch *search() const { return m_search; } ///< null before the first workspace
 
-  /// Before another case: false when a person wants to stay with changes that are not saved.
-  bool settleChanges();
+  /// What a person changed in the tools and did not save.
+  std::vector<UnsavedEdits::Kind> unsaved();
+  /// Hides the layers in the drawing, and shows this in the editor.
+  void setHiddenLayers(const QString &property, const QSet<QString> &layers);
+  /// Keeps how the network is drawn with the case; false when it could not be written.
+  bool saveStyle();
 
   /// After properties have changed: shows them in whatever shows values.
   void showChanges();
@@ -80,7 +90,9 @@ public:
   QToolButton *findingsButton() const { return m_findingsButton; }
 
 signals:
-  void elementMarked(const QString &name);           ///< in one of the tools
+  void elementMarked(const QString &name); ///< in one of the tools
+  void saveLayersWanted();
+  void loadLayersWanted();
   void elementsChanged(const ElementChange &change); ///< by one of the tools
 
 protected:

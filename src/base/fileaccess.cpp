@@ -1,4 +1,5 @@
 #include <base/fileaccess.h>
+#include <base/readfiles.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -113,6 +114,8 @@ QString confinementFault(const QString &path) {
 bool openForReading(QFile &file, Source source, qint64 largest, QString *reason) {
   const QString path = file.fileName(); // which a file that is opened by its descriptor forgets
   QString why = source == Source::Workspace ? confinementFault(path) : QString();
+  if (why.isEmpty() && source == Source::Workspace)
+    ReadFiles::note(path);
   if (why.isEmpty() && openRegular(file, &why)) {
     if (largest == AnySize || file.size() <= largest)
       return true;

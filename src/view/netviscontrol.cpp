@@ -1,5 +1,7 @@
 #include "canvas/qwtfastplot.h"
+#include "configure/plotsettingsfile.h"
 #include "interaction/plotmenu.h"
+#include "interaction/plotzoom.h"
 
 #include <drawing/drawfunctions.h>
 #include <view/netviscontrol.h>
@@ -73,10 +75,13 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   m_drawing.cancel();                  // all of it is drawn below
   m_plot->readMousePattern();          // the workspace may have general settings of its own
   m_plot->setSettings(PlotSettings()); // nothing of the case before
+  m_settingsPath = plotSettingsPath;
+  m_settingsWithoutFile = PlotSettings();
   if (!m_plot->readPlotSettings(plotSettingsPath)) {
     PlotSettings settings = m_plot->settings();
     chooseDefaults(settings, m_net);
     m_plot->setSettings(settings);
+    m_settingsWithoutFile = settings;
   }
   const QString folder = QFileInfo(plotSettingsPath).path();
   m_bookmarks = ViewBookmarks(folder + QStringLiteral("/viewbookmarks.csv"));
@@ -91,6 +96,41 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   m_plot->update().setFolder(folder, m_subnetIcons);
   m_plot->update().setLabelTable(labels);
   m_plot->showNetwork();
+}
+
+NetVisControl::OwnStyle NetVisControl::ownStyle() const {
+  OwnStyle style;
+  PlotSettings saved;
+  if (!PlotSettingsFile::read(m_settingsPath, saved))
+    saved = m_settingsWithoutFile;
+  if (m_plot->settings() != saved)
+    style.settings = PlotSettingsFile::text(m_plot->settings()).value_or(QByteArray());
+  LabelTable labels;
+  LabelTableFile::read(QFileInfo(m_settingsPath).path() + QStringLiteral("/vfd.csv"), labels);
+  if (m_plot->update().labelTable() != labels)
+    style.labels = LabelTableFile::text(m_plot->update().labelTable());
+  return style;
+}
+
+void NetVisControl::setOwnStyle(const OwnStyle &style) {
+  if (style.isEmpty())
+    return;
+  PlotSettings settings = m_plot->settings();
+  const bool fixedRatio = settings.fixAxesRatio;
+  if (!style.settings.isEmpty())
+    PlotSettingsFile::readText(style.settings, m_settingsPath, settings, m_plot->told());
+  m_plot->setSettings(settings);
+  LabelTable labels;
+  if (!style.labels.isEmpty()) {
+    LabelTableFile::readText(style.labels, m_settingsPath, labels);
+    m_plot->update().setLabelTable(labels);
+  }
+  m_plot->update().updatePlot(style.labels.isEmpty() ? NetUpdate::Elements::Kept : NetUpdate::Elements::Renewed,
+                              NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
+  if (fixedRatio != m_plot->settings().fixAxesRatio)
+    m_plot->zoomer()->fitBase();
+  m_plot->update().requestPixtest(-1);
+  emit styleChanged();
 }
 
 void NetVisControl::draw() {

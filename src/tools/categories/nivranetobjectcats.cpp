@@ -42,10 +42,14 @@ void NivraNetObjectCats::on_pushButtonReload_clicked() {
     m_list->read();
 }
 
-bool NivraNetObjectCats::settleChanges() {
+bool NivraNetObjectCats::hasChanges() {
   if (QWidget *typedInto = QApplication::focusWidget())
     typedInto->clearFocus(); // what is just being typed is a change
-  if (!m_list->isChanged() || !NivraMsg::showsBoxes())
+  return m_list->isChanged();
+}
+
+bool NivraNetObjectCats::settleChanges() {
+  if (!hasChanges() || !NivraMsg::showsBoxes())
     return true;
   using NivraMsg::Answer;
   const Answer answer = NivraMsg::show({NivraMsg::Kind::Question,

@@ -25,10 +25,14 @@ void Layers::rebuild() {
 }
 
 bool Layers::canChange() const {
+  return isChangeable(PropertyKey::find(m_property));
+}
+
+bool Layers::isChangeable(PropertyKey property) {
   const Names &all = Names::all();
   const std::initializer_list<PropertyKey> ofTheNetwork{all.name, all.type,     all.node1, all.node2, all.x,
                                                         all.y,    all.elements, all.pins,  all.refEle};
-  return std::find(ofTheNetwork.begin(), ofTheNetwork.end(), PropertyKey::find(m_property)) == ofTheNetwork.end();
+  return std::find(ofTheNetwork.begin(), ofTheNetwork.end(), property) == ofTheNetwork.end();
 }
 
 void Layers::add(const QStringList &names, const QString &layer) {

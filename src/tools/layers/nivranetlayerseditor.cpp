@@ -7,6 +7,7 @@
 #include <tools/tablemenu.h>
 
 #include <QInputDialog>
+#include <QPushButton>
 #include <QStringListModel>
 
 NivraNetLayersEditor::NivraNetLayersEditor(NetData &net, Told told, QWidget *parent)
@@ -39,6 +40,8 @@ NivraNetLayersEditor::NivraNetLayersEditor(NetData &net, Told told, QWidget *par
     connect(action, &QAction::triggered, this, slot);
   }
   TableMenu::offerCopy(*m_ui->table);
+  connect(m_ui->pushButtonSave, &QPushButton::clicked, this, &NivraNetLayersEditor::saveWanted);
+  connect(m_ui->pushButtonLoad, &QPushButton::clicked, this, &NivraNetLayersEditor::loadWanted);
 }
 
 NivraNetLayersEditor::~NivraNetLayersEditor() = default;
@@ -54,6 +57,11 @@ void NivraNetLayersEditor::on_lineEditProperty_editingFinished() {
   m_layers.setProperty(m_ui->lineEditProperty->text());
   fill();
   emit layerVisChanged(m_layers.property(), {}); // layers of another property are others
+}
+
+void NivraNetLayersEditor::setOffersFiles(bool offers) {
+  m_ui->pushButtonSave->setVisible(offers);
+  m_ui->pushButtonLoad->setVisible(offers);
 }
 
 void NivraNetLayersEditor::setHiddenLayers(const QSet<QString> &hidden) {

@@ -112,6 +112,7 @@ void NetPlot::setUpPanner() {
 
 void NetPlot::setUpZoom() {
   connect(m_zoomer, &QwtPlotZoomer::zoomed, this, &NetPlot::placeLegend);
+  connect(m_zoomer, &QwtPlotZoomer::zoomed, this, &NetPlot::viewChanged);
   connect(m_zoomer, &PlotZoom::refreshRequested, this, &NetPlot::refresh);
   connect(m_smoothZoom, &SmoothZoom::refreshRequested, this,
           [this](int delay, bool quick) { m_update->requestPixtest(delay, quick); });
@@ -253,6 +254,17 @@ QRectF NetPlot::visibleArea() const {
 
 void NetPlot::showArea(const QRectF &area) {
   m_zoomer->zoom(m_update->geometry().toPlot(area));
+}
+
+bool NetPlot::showsAll() const {
+  return m_zoomer->zoomRectIndex() == 0;
+}
+
+QImage NetPlot::picture(const QSize &largest) const {
+  const auto *canvas = qobject_cast<const QwtPlotCanvas *>(m_plot->canvas());
+  const QPixmap *drawn = canvas == nullptr ? nullptr : canvas->backingStore();
+  const QPixmap shown = drawn != nullptr && !drawn->isNull() ? *drawn : m_plot->canvas()->grab();
+  return shown.toImage().scaled(largest, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 void NetPlot::showStragglers() {

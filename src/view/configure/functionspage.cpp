@@ -7,6 +7,8 @@
 
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 /// Changes what differs between what was typed and what was shown before.
@@ -134,6 +136,11 @@ bool FunctionsPage::readTouched(PlotSettings &settings) const {
   for (const Aspect aspect : AllAspects)
     readTouchedFunction(m_shown[aspect], typed[aspect], settings.functions[aspect]);
   return true;
+}
+
+bool FunctionsPage::isTouched() const {
+  return std::any_of(AllAspects.begin(), AllAspects.end(),
+                     [this](Aspect aspect) { return !(m_rows[aspect]->function() == m_shown[aspect]); });
 }
 
 bool FunctionsPage::askForSoundRange(PlotSettings::Function &function) {

@@ -27,6 +27,7 @@ public:
   void changeUnits(const PlotSettings &settings);
   /// The function that is chosen now, applied or not; without a network none.
   std::optional<DrawFunction> chosen(Aspect aspect) const;
+  bool isTouched() const;
   /// Takes all bounds of all functions from the data.
   void forgetBounds();
 

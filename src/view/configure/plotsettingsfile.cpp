@@ -257,7 +257,12 @@ bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, const T
     tell(told, Finding::Severity::Warning, reason);
     return false;
   }
-  const IniText text(*content);
+  readText(*content, path, settings, told);
+  return true;
+}
+
+void PlotSettingsFile::readText(const QByteArray &content, const QString &path, PlotSettings &settings, const Told &told) {
+  const IniText text(content);
   Reader reader{{text}};
   visitAll(settings, reader);
   if (!reader.refused.isEmpty())
@@ -267,33 +272,40 @@ bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, const T
   if (!reader.noNumbers.isEmpty())
     tell(told, Finding::Severity::Warning,
          tr("%1: values that are no numbers are left out: %2").arg(path, reader.noNumbers.join(QStringLiteral(", "))));
-  return true;
 }
 
-bool PlotSettingsFile::write(const QString &path, const PlotSettings &settings, QString *error) {
-  QString reason;
+std::optional<QByteArray> PlotSettingsFile::text(const PlotSettings &settings, QString *error) {
   const QTemporaryDir folder;
-  if (!folder.isValid())
-    return fail(error, tr("The plot settings could not be written to %1: %2").arg(path, folder.errorString()));
+  if (!folder.isValid()) {
+    fail(error, tr("The plot settings could not be written to %1: %2").arg(folder.path(), folder.errorString()));
+    return std::nullopt;
+  }
   const QString draft = folder.filePath(QStringLiteral("plotsettings.ini"));
   {
     QSettings store(draft, QSettings::IniFormat);
     Writer writer{store};
     visitAll(settings, writer);
     store.sync();
-    if (store.status() != QSettings::NoError)
-      return fail(error, tr("The plot settings could not be written to %1.").arg(draft));
+    if (store.status() != QSettings::NoError) {
+      fail(error, tr("The plot settings could not be written to %1.").arg(draft));
+      return std::nullopt;
+    }
   }
-  const auto own = FileAccess::readWhole(draft, FileAccess::Source::Trusted, LargestFile, &reason);
+  return FileAccess::readWhole(draft, FileAccess::Source::Trusted, LargestFile, error);
+}
+
+bool PlotSettingsFile::write(const QString &path, const PlotSettings &settings, QString *error) {
+  QString reason;
+  const std::optional<QByteArray> own = text(settings, error);
   if (!own)
-    return fail(error, reason);
-  IniText text; // with what is there already: other programs keep groups of their own in the file
+    return false;
+  IniText whole; // with what is there already: other programs keep groups of their own in the file
   if (QFileInfo::exists(path)) {
     const auto present = FileAccess::readWhole(path, FileAccess::Source::Workspace, LargestFile, &reason);
     if (!present)
       return fail(error, reason);
-    text = IniText(*present);
+    whole = IniText(*present);
   }
-  text.merge(IniText(*own));
-  return WholeFile::write(path, FileAccess::Source::Workspace, text.toText(), &reason) || fail(error, reason);
+  whole.merge(IniText(*own));
+  return WholeFile::write(path, FileAccess::Source::Workspace, whole.toText(), &reason) || fail(error, reason);
 }

@@ -200,6 +200,12 @@ void viewFuncDialog::refresh() {
   offerSavedSettings();
 }
 
+bool viewFuncDialog::hasUnapplied() const {
+  PlotSettings settings = m_plot.settings();
+  m_fields->readTouched(settings);
+  return settings != m_plot.settings() || m_functions->isTouched() || m_labels->table() != m_plot.update().labelTable();
+}
+
 bool viewFuncDialog::apply() {
   const PlotSettings before = m_plot.settings();
   PlotSettings settings = before;

@@ -24,6 +24,7 @@ public:
 
   /// Whether elements can change their layer: not where the property says which element it is, what it is or where it lies.
   bool canChange() const;
+  static bool isChangeable(PropertyKey property);
   /// Gives elements to a layer, where they can change it; names that the network does not have are passed over.
   void add(const QStringList &names, const QString &layer);
   void rename(const QString &layer, const QString &newName);

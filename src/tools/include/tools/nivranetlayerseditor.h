@@ -30,6 +30,8 @@ public:
   ~NivraNetLayersEditor() override;
 
   void setLayerProperty(const QString &property);
+  /// Whether layers can be saved and loaded here; they can by default.
+  void setOffersFiles(bool offers);
   /// By the drawing, after each change.
   void setHiddenLayers(const QSet<QString> &hidden);
 
@@ -48,6 +50,8 @@ signals:
   void itemClicked(const QString &eleName);
   void selectionChanged();
   void elementsChanged(const ElementChange &change); ///< elements came into a layer or left one
+  void saveWanted();
+  void loadWanted();
 
 public slots:
   void on_toolButtonAdd_clicked();

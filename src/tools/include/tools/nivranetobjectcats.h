@@ -25,6 +25,8 @@ public:
   /// Before another file or the end of the program: asks whether changes are to be saved. False when the person wants to
   /// stay with them, or when saving failed.
   bool settleChanges();
+  bool hasChanges(); ///< that are not saved, what is just being typed among them
+  bool save();
 
 signals:
   void toSearch(const QStringList &searchDef, bool nameRegex);
@@ -46,7 +48,6 @@ public slots:
   void informOnPerformedUpdate();
 
 private:
-  bool save();
   void showNewList();
   int currentRow() const; ///< -1 for none
   /// With the texts of a search.

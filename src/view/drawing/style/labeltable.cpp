@@ -225,12 +225,20 @@ LabelTableFile::Reading LabelTableFile::read(const QString &path, LabelTable &ta
     reading.findings = {warning(QStringLiteral("### Could not open settings file ") + path), warning(reason)};
     return reading;
   }
+  const FileStamp stamp = reading.stamp;
+  reading = readText(*content, path, table);
+  reading.stamp = stamp;
+  return reading;
+}
+
+LabelTableFile::Reading LabelTableFile::readText(const QByteArray &text, const QString &path, LabelTable &table) {
+  Reading reading;
   reading.isOpened = true;
   reading.findings = {information(QStringLiteral("... loading settings file ") + path)};
   const auto told = [&reading](const Finding &finding) {
     reading.findings.push_back(finding);
   };
-  Lines lines(TextDecoding::decoded(*content, path, told), path);
+  Lines lines(TextDecoding::decoded(text, path, told), path);
   QString fileVersion;
   if (!lines.next(fileVersion)) {
     reading.findings.push_back(endedIn(QStringLiteral("version (first line)"), path));
@@ -247,7 +255,7 @@ LabelTableFile::Reading LabelTableFile::read(const QString &path, LabelTable &ta
   return reading;
 }
 
-bool LabelTableFile::write(const QString &path, const LabelTable &table, QString *error) {
+QByteArray LabelTableFile::text(const LabelTable &table) {
   QByteArray text;
   QTextStream stream(&text);
   stream.setCodec("UTF-8");
@@ -263,8 +271,12 @@ bool LabelTableFile::write(const QString &path, const LabelTable &table, QString
     }
   }
   stream.flush();
+  return text;
+}
+
+bool LabelTableFile::write(const QString &path, const LabelTable &table, QString *error) {
   QString reason;
-  const bool isDone = WholeFile::write(path, FileAccess::Source::Workspace, text, &reason);
+  const bool isDone = WholeFile::write(path, FileAccess::Source::Workspace, text(table), &reason);
   if (!isDone && error != nullptr)
     *error = reason;
   return isDone;

@@ -56,6 +56,10 @@ public:
   /// What the window shows, and what it is to show, in the network's own coordinates.
   QRectF visibleArea() const;
   void showArea(const QRectF &area);
+  /// Nobody has zoomed to a part of the network.
+  bool showsAll() const;
+  /// What the canvas shows, without marks of the selection, at most so large.
+  QImage picture(const QSize &largest) const;
   /// What the legend covers of the canvas, px; empty when it is hidden.
   QRectF legendArea() const;
   /// A plot of its own for one subnet places labels without waiting.
@@ -67,6 +71,7 @@ public:
   void zoomToElement(NetGeometry::Item item);
 
 signals:
+  void viewChanged();                            ///< another part of the network is shown
   void drawConfigurationRequested();             ///< the colour scale was double-clicked
   void contextMenuRequested(QMenu *contextMenu); ///< to be filled before it is shown at the cursor
 

@@ -38,6 +38,15 @@ public:
   /// Draws the network with the settings of the file or, where there is none, with settings that suit the network. Beside
   /// the file may stand the label table "vfd.csv" and the folder "symbols" with symbols of the user's own.
   void showNetData(const QString &plotSettingsPath);
+  /// How the network is drawn, as texts to keep and to put back: what the files of the case do not say. Empty where it is
+  /// drawn as they say.
+  struct OwnStyle {
+    QByteArray settings;
+    QByteArray labels;
+    bool isEmpty() const { return settings.isEmpty() && labels.isEmpty(); }
+  };
+  OwnStyle ownStyle() const;
+  void setOwnStyle(const OwnStyle &style);
   /// After values have changed: draws at once, with what waits for the end of the turn of the event loop. Which elements
   /// there are and where they lie stays; labels that stand say something else.
   void redraw();
@@ -72,6 +81,7 @@ public:
 
 signals:
   void selectionChanged();
+  void styleChanged(); ///< by setOwnStyle()
   void currentElementChanged(const QString &name);
   void hiddenLayersChanged(const QSet<QString> &layers);
   void elementAction(const QString &name, NetPicker::EleAction action);
@@ -88,6 +98,8 @@ private:
   QString m_name;
   ViewBookmarks m_bookmarks;
   LabelTableFile::Reading m_labelsRead;
+  QString m_settingsPath;
+  PlotSettings m_settingsWithoutFile; ///< what the network is drawn with where there is no such file
   QString m_subnetIcons;
   QString m_currentElement;
   QPointer<NetPlot> m_plot;

@@ -31,6 +31,8 @@ public:
   void refresh();
   /// Shows units and numbers as they were chosen in the settings since; what was typed and not applied stays.
   void changeUnits();
+  /// Something was typed or chosen that is not applied yet.
+  bool hasUnapplied() const;
   /// Takes all bounds of the draw functions from the data.
   void resetMinMaxColorFuncValues();
 

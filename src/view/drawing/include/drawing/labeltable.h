@@ -55,6 +55,10 @@ struct Reading {
 
 /// Overwrites the rows of the table as far as the file goes.
 Reading read(const QString &path, LabelTable &table, FileAccess::Source source = FileAccess::Source::Workspace);
+/// The text of such a file, overwriting rows likewise.
+/// \param path for what is told
+Reading readText(const QByteArray &text, const QString &path, LabelTable &table);
+QByteArray text(const LabelTable &table);
 /// Whole or not at all; false with the reason.
 bool write(const QString &path, const LabelTable &table, QString *error = nullptr);
 

@@ -13,6 +13,8 @@ class LayerFilter {
 public:
   /// False when this hides what was hidden before.
   bool setHidden(const QString &property, const QSet<QString> &layers);
+  const QString &property() const { return m_property; }
+  const QSet<QString> &hidden() const { return m_layers; }
   /// Looks up the layers of the elements.
   void read(const NetGeometry &geometry);
 

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QMenu>
+
+class RecentFiles;
+
+/// "Open Recent": the workspaces that were opened last, with their pictures. Those that are no longer there are grey.
+class RecentMenu : public QMenu {
+  Q_OBJECT
+public:
+  static constexpr int Shown = 10;
+
+  /// \param files must outlive the menu
+  explicit RecentMenu(RecentFiles &files, QWidget *parent = nullptr);
+
+signals:
+  void fileWanted(const QString &path);
+
+private:
+  void fill();
+
+  RecentFiles &m_files;
+};

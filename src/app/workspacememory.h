@@ -1,0 +1,50 @@
+#pragma once
+
+#include "recentfiles.h"
+#include "session.h"
+
+#include <QTimer>
+
+class LayerKeeper;
+class NetVisControl;
+class NivraWorkspace;
+class QMainWindow;
+class SessionKeeper;
+class ToolDocks;
+
+/// What the program remembers of the workspaces that were opened: that they were, what they look like, and how they were
+/// left. Nothing of it lies in a workspace.
+class WorkspaceMemory : public QObject {
+  Q_OBJECT
+public:
+  /// How much is kept; nothing until somebody says so.
+  enum class Keeps { Nothing, RecentFiles, Sessions };
+
+  WorkspaceMemory(QMainWindow &window, NetVisControl &control, ToolDocks &tools, LayerKeeper &layers);
+
+  void setKeeps(Keeps keeps) { m_keeps = keeps; }
+  bool keepsSessions() const { return m_keeps == Keeps::Sessions; }
+  RecentFiles &recent() { return m_recent; }
+
+  /// The workspace is open and drawn: comes back to what is kept of it.
+  void enter(const NivraWorkspace &workspace);
+  /// It was read again: comes back to what was before.
+  void enterAgain(const NivraWorkspace &workspace, const Session &before);
+  Session gathered() const;
+  /// Keeps everything at once, as long as the workspace is the one that is open.
+  void keep();
+  /// Nothing of it is kept any more: another one comes.
+  void leave();
+
+private:
+  void note();
+  void takePicture();
+
+  NetVisControl &m_control;
+  SessionKeeper *m_session;
+  Keeps m_keeps = Keeps::Nothing;
+  RecentFiles m_recent;
+  QString m_path;         ///< of what is open; empty when nothing of it is to be kept
+  bool m_isNoted = false; ///< among the recent files
+  QTimer m_idle;          ///< until it is; an opening waits for no disk
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <base/fileaccess.h>
+#include <base/finding.h>
+#include <model/elementchange.h>
+#include <model/netdata.h>
+
+#include <QCoreApplication>
+#include <QMap>
+#include <QSet>
+
+#include <vector>
+
+/// Layers of elements, by layer property and name of the element; an empty layer stands for none.
+using LayerValues = QMap<QString, QMap<QString, QString>>;
+
+/// "layers.csv": which elements belong to another layer than the network file says.
+class LayersFile {
+  Q_DECLARE_TR_FUNCTIONS(LayersFile)
+public:
+  static LayerValues read(const QString &path, FileAccess::Source source, Findings &findings);
+  /// Whole or not at all, to a place that a person chose; false with the reason.
+  static bool write(const QString &path, const LayerValues &values, QString *reason);
+};
+
+/// Which elements were given to another layer, or taken out of one, since the network was read. What their layers are now
+/// is asked of the network.
+class LayerEdits {
+public:
+  /// Puts the layers into the network, where it has the elements, and says what that changed.
+  static std::vector<ElementChange> apply(NetData &net, const LayerValues &values);
+
+  void note(const ElementChange &change);
+  /// \param values that stand in the network
+  void note(const LayerValues &values);
+  void clear();
+  /// The edits are in a file.
+  void setSaved() { m_isChanged = false; }
+  bool isChanged() const { return m_isChanged; }
+  int count() const; ///< elements, each for every property
+  LayerValues values(const NetData &net) const;
+
+private:
+  QMap<QString, QSet<QString>> m_elements; ///< by layer property
+  bool m_isChanged = false;
+};
