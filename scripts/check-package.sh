@@ -60,6 +60,9 @@ asUser "timeout 10 env QT_QPA_PLATFORM=offscreen NivraViewer $example" || status
 asUser "grep -q '### ' .local/share/Nivra/NivraReader/NivraViewer.log" || fail "the window does not read the example"
 asUser "nivra-convert --help" >/dev/null || fail "nivra-convert does not run"
 asUser "nivra-convert $example S5.scen" >/dev/null || fail "nivra-convert does not convert"
+status=0
+asUser "/usr/share/nivra-reader/example/nightly-report.sh report" >/dev/null || status=$?
+[ "$status" -eq 4 ] || fail "the nightly report ends with status $status instead of telling violated bounds"
 for link in docs/user-guide.md docs/images/example-window.png example/DE_H2/DE_H2.geom.jsn net_subassemblies/default.geom; do
   asUser "test -r /usr/libexec/nivra-reader/$link" || fail "$link is not beside the program"
 done

@@ -45,7 +45,7 @@ public:
   QString neededText(const char *name) {
     if (!has(name))
       throw Fault(m_where + QStringLiteral(": ") + Texts::tr("\"%1\" is missing").arg(QLatin1String(name)));
-    const QString found = text(name);
+    QString found = text(name);
     if (found.trimmed().isEmpty())
       fail(name, Texts::tr("is empty"));
     return found;
@@ -54,7 +54,8 @@ public:
   QStringList texts(const char *name) {
     const QJsonValue value = take(name);
     QStringList found;
-    for (const QJsonValue &item : value.isArray() ? value.toArray() : QJsonArray{value}) {
+    const QJsonArray items = value.isArray() ? value.toArray() : QJsonArray{value};
+    for (const QJsonValue &item : items) {
       if (!item.isString())
         fail(name, Texts::tr("is no text or list of texts"));
       found.append(item.toString());
@@ -70,7 +71,8 @@ public:
     if (!value.isArray())
       fail(name, Texts::tr("is no list"));
     int index = 0;
-    for (const QJsonValue &item : value.toArray())
+    const QJsonArray items = value.toArray();
+    for (const QJsonValue &item : items)
       use(item, QStringLiteral("%1[%2]").arg(place(name)).arg(index++));
   }
   void check(const char *name, const QString &why) const {

@@ -34,9 +34,11 @@ int runBatch(const CommandLine &line) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   // The application object gets its own options alone: a "--style" of the drawing is none of them.
   std::vector<QByteArray> texts;
+  texts.reserve(static_cast<std::size_t>(line.toolkit.size()));
   for (const QString &argument : line.toolkit)
     texts.push_back(argument.toLocal8Bit());
   std::vector<char *> arguments;
+  arguments.reserve(texts.size() + 1);
   for (QByteArray &text : texts)
     arguments.push_back(text.data());
   arguments.push_back(nullptr);

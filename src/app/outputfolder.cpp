@@ -90,7 +90,7 @@ QString OutputFolder::file(const QString &name, const QStringList &suffixes, QSt
   QStringList parts = name.split(QLatin1Char('/'));
   const QString last = parts.takeLast();
   const QString folder = why.isEmpty() ? enter(parts, &why) : QString();
-  const QString path = folder + QLatin1Char('/') + last;
+  QString path = folder + QLatin1Char('/') + last;
   const QFileInfo present(path);
   if (why.isEmpty() && (present.isSymLink() || (present.exists() && !present.isFile())))
     why = tr("is there and is no file");
