@@ -9,6 +9,9 @@ cd "$(dirname "$0")/.."
 fail() { echo "FAILED: $1" >&2; exit 1; }
 
 if [ "${1:-}" != "--inside" ]; then
+  for tool in lintian desktop-file-validate appstreamcli dpkg-shlibdeps; do
+    command -v "$tool" >/dev/null || cannot "$tool is missing (scripts/install-dependencies.sh check)"
+  done
   build=${NIVRA_PACKAGE_BUILD:-build/release}
   packages=${NIVRA_PACKAGES:-build/packages}
   [ -n "${NIVRA_PACKAGE_BUILD:-}" ] || scripts/build.sh release NivraViewer nivra-convert

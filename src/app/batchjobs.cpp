@@ -45,6 +45,15 @@ QStringList scenariosOf(const QString &caseFolder) {
   return names;
 }
 
+/// Names of folders come from strangers: what would end a line, or command a terminal, is shown as what it is not.
+QString shown(QString text) {
+  for (QChar &character : text) {
+    if (character.category() == QChar::Other_Control)
+      character = QChar::ReplacementCharacter;
+  }
+  return text;
+}
+
 QStringList pictureSuffixes() {
   static const QStringList suffixes = [] {
     QStringList all{QStringLiteral("svg"), QStringLiteral("pdf"), QStringLiteral("ps")};
@@ -124,7 +133,7 @@ void BatchJobs::addRun(const JobsFile::Job &job, const QString &file) {
   run.caseName = QFileInfo(caseFolderOf(file)).fileName();
   run.scenario = isScenarioFile(file) ? QFileInfo(QFileInfo(file).absolutePath()).fileName() : QString();
   const QString network = run.scenario.isEmpty() ? run.caseName : run.caseName + QLatin1Char('/') + run.scenario;
-  run.name = QStringLiteral("%1, %2").arg(job.name, network);
+  run.name = QStringLiteral("%1, %2").arg(job.name, shown(network));
   m_runs.push_back(run);
 }
 
