@@ -27,8 +27,13 @@ bool doesWithoutWindow(const QString &argument) {
   return options.contains(argument.section(QLatin1Char('='), 0, 0));
 }
 
-bool isStyleOfDrawing(const QString &argument) {
-  return argument == QLatin1String("--style") || argument.startsWith(QLatin1String("--style="));
+/// With two dashes, and where there is no window or it can be no style of the toolkit.
+bool isStyleOfDrawing(const QString &argument, const QString &next, bool isWindow) {
+  const bool hasOwnValue = argument.startsWith(QLatin1String("--style="));
+  if (argument != QLatin1String("--style") && !hasOwnValue)
+    return false;
+  const QString value = hasOwnValue ? argument : next;
+  return !isWindow || value.endsWith(QLatin1String(".ini")) || value.endsWith(QLatin1String(".csv"));
 }
 
 } // namespace
@@ -42,7 +47,7 @@ ToolkitOptions ToolkitOptions::split(const QStringList &arguments) {
     if (i == 0)
       options.toolkit.append(argument);
     const bool isOfToolkit = i > 0 && argument.startsWith(QLatin1Char('-')) && (hasValue(name) || isSwitch(name)) &&
-                             (isWindow || !isStyleOfDrawing(argument));
+                             !isStyleOfDrawing(argument, arguments.value(i + 1), isWindow);
     if (!isOfToolkit) {
       options.others.append(argument);
       continue;

@@ -11,6 +11,6 @@ struct ToolkitOptions {
   QString style;       ///< the one that was asked for, which the window would replace by its own
 
   /// \param arguments as main gets them, the program name first. "--style", with two dashes, names a style of the drawing
-  /// where one of the options is there that do without a window.
+  /// where one of the options is there that do without a window, or where it is followed by such a file.
   static ToolkitOptions split(const QStringList &arguments);
 };

@@ -50,7 +50,8 @@ void TestCommandLine::parse_data() {
   row("--jobs a.json net.geom", Action::Wrong);
   row("--jobs a.json --check", Action::Wrong);
   row("--export a.png --style a.ini --style=b.csv -style fusion net.geom", Action::Batch);
-  row("--style a.ini net.geom", Action::Window); // that of the toolkit
+  row("--style fusion net.geom", Action::Window); // that of the toolkit
+  row("--style a.ini net.geom", Action::Wrong);   // of the drawing, which takes --export
   row("-platform offscreen -style fusion -geometry 300x200+0+0 --stylesheet a.qss net.geom", Action::Window);
   row("-style=windows -reverse", Action::Window);
   row("--info net.geom -platform minimal", Action::Batch);
