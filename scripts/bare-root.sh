@@ -1,4 +1,5 @@
-# To be sourced: a bare Debian 12 to try things in, for scripts that are called without arguments and call
+# To be sourced from the top folder: a bare Debian 12 to try things in, for scripts beside this one that take no arguments
+# and call
 #   inOwnNamespaces        the script again as root, with mounts and processes of its own; sets folder
 #   makeBareRoot [OPTION]  makes $root with mmdebstrap, with this machine's way to the packages; more options for it
 #   inside COMMAND         runs it in a shell there, with nothing of this session's environment but the way to the network
@@ -25,7 +26,7 @@ inOwnNamespaces() { # ARGUMENTS of the script
   }
   trap cleanUp EXIT
   trap 'exit 1' HUP INT TERM
-  unshare --mount --pid --fork --kill-child --mount-proc "$0" --inside "$folder" &
+  unshare --mount --pid --fork --kill-child --mount-proc "$PWD/scripts/$(basename "$0")" --inside "$folder" &
   child=$!
   wait "$child" && status=0 || status=$?
   child=

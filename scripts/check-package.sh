@@ -9,6 +9,9 @@ cd "$(dirname "$0")/.."
 fail() { echo "FAILED: $1" >&2; exit 1; }
 
 if [ "${1:-}" != "--inside" ]; then
+  for tool in lintian desktop-file-validate appstreamcli dpkg-shlibdeps; do
+    command -v "$tool" >/dev/null || cannot "$tool is missing (scripts/install-dependencies.sh check)"
+  done
   build=${NIVRA_PACKAGE_BUILD:-build/release}
   packages=${NIVRA_PACKAGES:-build/packages}
   [ -n "${NIVRA_PACKAGE_BUILD:-}" ] || scripts/build.sh release NivraViewer nivra-convert
@@ -60,6 +63,9 @@ asUser "timeout 10 env QT_QPA_PLATFORM=offscreen NivraViewer $example" || status
 asUser "grep -q '### ' .local/share/Nivra/NivraReader/NivraViewer.log" || fail "the window does not read the example"
 asUser "nivra-convert --help" >/dev/null || fail "nivra-convert does not run"
 asUser "nivra-convert $example S5.scen" >/dev/null || fail "nivra-convert does not convert"
+status=0
+asUser "/usr/share/nivra-reader/example/nightly-report.sh report" >/dev/null || status=$?
+[ "$status" -eq 4 ] || fail "the nightly report ends with status $status instead of telling violated bounds"
 for link in docs/user-guide.md docs/images/example-window.png example/DE_H2/DE_H2.geom.jsn net_subassemblies/default.geom; do
   asUser "test -r /usr/libexec/nivra-reader/$link" || fail "$link is not beside the program"
 done

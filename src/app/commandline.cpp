@@ -1,96 +1,40 @@
 #include "commandline.h"
 
 #include "aboutbox.h"
+#include "toolkitoptions.h"
+
+#include <tools/elementlist.h>
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
-#include <QHash>
 #include <QVector>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
-CommandLine answer(CommandLine::Action action, const QString &text) {
-  CommandLine line;
-  line.action = action;
-  line.text = text;
-  return line;
+bool isAnySet(const QCommandLineParser &parser, const QList<QCommandLineOption> &options) {
+  return std::any_of(options.begin(), options.end(),
+                     [&parser](const QCommandLineOption &option) { return parser.isSet(option); });
 }
 
-/// Options of the toolkit, which the application object takes for itself; it knows them with one or two dashes.
-struct ToolkitOptions {
-  static bool hasValue(const QString &name) {
-    static const QStringList names{QStringLiteral("platform"),        QStringLiteral("platformpluginpath"),
-                                   QStringLiteral("platformtheme"),   QStringLiteral("plugin"),
-                                   QStringLiteral("qwindowgeometry"), QStringLiteral("geometry"),
-                                   QStringLiteral("qwindowtitle"),    QStringLiteral("title"),
-                                   QStringLiteral("qwindowicon"),     QStringLiteral("icon"),
-                                   QStringLiteral("session"),         QStringLiteral("display"),
-                                   QStringLiteral("style"),           QStringLiteral("stylesheet")};
-    return names.contains(name);
-  }
+double number(const QString &text) {
+  bool isNumber = false;
+  const double value = text.toDouble(&isNumber);
+  return isNumber ? value : qQNaN();
+}
 
-  static bool isSwitch(const QString &name) {
-    static const QStringList names{QStringLiteral("reverse"), QStringLiteral("nograb"), QStringLiteral("dograb"),
-                                   QStringLiteral("testability"), QStringLiteral("widgetcount")};
-    return names.contains(name) || name.startsWith(QLatin1String("style=")) || name.startsWith(QLatin1String("stylesheet="));
-  }
-
-  /// Also notes the style, which the window would replace by its own.
-  static QStringList without(const QStringList &arguments, QString &style) {
-    QStringList left;
-    for (int i = 0; i < arguments.size(); ++i) {
-      const QString &argument = arguments[i];
-      const QString name = argument.mid(argument.startsWith(QLatin1String("--")) ? 2 : 1);
-      if (i == 0 || !argument.startsWith(QLatin1Char('-')) || !(hasValue(name) || isSwitch(name)))
-        left.append(argument);
-      else if (name.startsWith(QLatin1String("style=")))
-        style = name.section(QLatin1Char('='), 1);
-      else if (hasValue(name) && ++i < arguments.size() && name == QLatin1String("style"))
-        style = arguments[i];
-    }
-    return left;
-  }
-};
-
-/// The options that say how large the picture is.
-struct SizeOptions {
+/// The options that make a picture.
+struct PictureOptions {
   Q_DECLARE_TR_FUNCTIONS(CommandLine)
 public:
+  QCommandLineOption picture{QStringLiteral("export"), tr("Writes the drawing of FILE; the suffix gives the format."),
+                             QStringLiteral("PICTURE")};
   QCommandLineOption width{QStringLiteral("width"),
-                           tr("Width of the picture in pixels, %1 by default.").arg(CommandLine::DefaultWidth),
+                           tr("Width of the picture in pixels, %1 by default.").arg(BatchTask::Picture::DefaultWidth),
                            QStringLiteral("PIXELS")};
   QCommandLineOption scale{QStringLiteral("scale"),
                            tr("Size of texts, lines and symbols in the picture against those on the screen, 1 by default."),
                            QStringLiteral("FACTOR")};
-
-  QList<QCommandLineOption> all() const { return {width, scale}; }
-
-  /// Why the options make no sense; empty when they do.
-  QString take(const QCommandLineParser &parser, CommandLine &line) const {
-    bool isNumber = true;
-    if (parser.isSet(width))
-      line.width = parser.value(width).toInt(&isNumber);
-    if (parser.isSet(width) && (!isNumber || line.width < 1 || line.picture.isEmpty()))
-      return tr("--width takes a positive number of pixels and goes with --export.");
-    line.width = qMin(line.width, CommandLine::LargestWidth);
-    if (parser.isSet(scale))
-      line.scale = parser.value(scale).toDouble(&isNumber);
-    const bool isInRange = line.scale >= CommandLine::SmallestScale && line.scale <= CommandLine::LargestScale;
-    if (parser.isSet(scale) && (!isNumber || !isInRange || line.picture.isEmpty()))
-      return tr("--scale takes a number from %1 to %2 and goes with --export.")
-          .arg(CommandLine::SmallestScale)
-          .arg(CommandLine::LargestScale);
-    return QString();
-  }
-};
-
-/// The options that say what the picture shows.
-struct DrawOptions {
-  Q_DECLARE_TR_FUNCTIONS(CommandLine)
-public:
   PerAspect<QCommandLineOption> functions{
       {QCommandLineOption(QStringLiteral("color-by"), tr("Property by which the edges are coloured."),
                           QStringLiteral("PROPERTY")),
@@ -103,90 +47,195 @@ public:
   QCommandLineOption labels{QStringLiteral("labels"), tr("What labels say."), QStringLiteral("none|name|selected")};
   QCommandLineOption extent{QStringLiteral("extent"), tr("Part of the network to show, in its coordinates."),
                             QStringLiteral("x0,y0,x1,y1")};
+  QCommandLineOption style{
+      QStringLiteral("style"),
+      tr("Plot settings (.ini) or label table (.csv) for the picture in place of those of the case; may "
+         "be given for both."),
+      QStringLiteral("FILE")};
 
-  QList<QCommandLineOption> all() const {
-    QList<QCommandLineOption> options{labels, extent};
+  QList<QCommandLineOption> details() const {
+    QList<QCommandLineOption> options{width, scale};
     for (const Aspect aspect : AllAspects)
-      options.insert(static_cast<int>(aspect), functions[aspect]);
-    return options;
+      options.append(functions[aspect]);
+    return options + QList<QCommandLineOption>{labels, extent, style};
+  }
+
+  /// Why the options make no sense; empty when they do.
+  QString take(const QCommandLineParser &parser, BatchTask &task) const {
+    if (!parser.isSet(picture))
+      return isAnySet(parser, details()) ? tr("--width, --scale, --color-by, --width-by, --node-color-by, --node-size-by, "
+                                              "--labels, --extent and --style go with --export.")
+                                         : QString();
+    BatchTask::Picture asked;
+    asked.path = parser.value(picture);
+    if (asked.path.trimmed().isEmpty())
+      return tr("--export needs the name of a picture.");
+    for (const Aspect aspect : AllAspects)
+      asked.functions[aspect] = parser.value(functions[aspect]);
+    QString reason = takeValues(parser, asked);
+    task.pictures.push_back(asked);
+    return reason;
+  }
+
+private:
+  QString takeValues(const QCommandLineParser &parser, BatchTask::Picture &asked) const {
+    QString reason;
+    const auto say = [&reason](const QCommandLineOption &option, const QString &why) {
+      if (reason.isEmpty() && !why.isEmpty())
+        reason = QStringLiteral("--%1: %2.").arg(option.names().first(), why);
+    };
+    if (parser.isSet(width))
+      say(width, asked.setWidth(number(parser.value(width))));
+    if (parser.isSet(scale))
+      say(scale, asked.setScale(number(parser.value(scale))));
+    if (parser.isSet(labels))
+      say(labels, asked.setLabels(parser.value(labels)));
+    QVector<double> corners;
+    for (const QString &corner : parser.value(extent).split(QLatin1Char(',')))
+      corners.append(number(corner));
+    if (parser.isSet(extent))
+      say(extent, asked.setExtent(corners));
+    for (const QString &file : parser.values(style))
+      say(style, asked.addStyle(file));
+    return reason;
+  }
+};
+
+/// The options that tell what the network holds.
+struct AnswerOptions {
+  Q_DECLARE_TR_FUNCTIONS(CommandLine)
+public:
+  QCommandLineOption info{QStringLiteral("info"), tr("Writes what FILE holds as one JSON object.")};
+  QCommandLineOption search{
+      QStringLiteral("search"),
+      tr("Lists the names of the elements that meet the criterion: a part of the name, or regex=, type=, "
+         "prop=, value=, formula= with a pattern or formula. May be given several times. With prop= the "
+         "properties that were found are listed as a table."),
+      QStringLiteral("CRITERION")};
+  QCommandLineOption table{QStringLiteral("table"),
+                           tr("Lists properties, separated by commas, of the elements that have them, or of those that "
+                              "--search finds, as a table (CSV)."),
+                           QStringLiteral("PROPERTIES")};
+  QCommandLineOption type{QStringLiteral("type"), tr("Element type of the --table, such as p or pipe."),
+                          QStringLiteral("TYPE")};
+  QCommandLineOption check{QStringLiteral("check"),
+                           tr("Lists findings and violated bounds. Exit status 0: there are none, 3: findings, 4: violated "
+                              "bounds.")};
+
+  QList<QCommandLineOption> all() const { return {info, search, table, type, check}; }
+
+  /// Why the options make no sense; empty when they do.
+  QString take(const QCommandLineParser &parser, const QString &output, BatchTask &task) const {
+    task.info.isWanted = parser.isSet(info);
+    task.check.isWanted = parser.isSet(check);
+    if (parser.isSet(type) && !parser.isSet(table))
+      return tr("--type goes with --table.");
+    if (!parser.isSet(search) && !parser.isSet(table))
+      return output.isEmpty() ? QString() : tr("--output goes with --search, --table and --jobs.");
+    if (task.info.isWanted && output.isEmpty())
+      return tr("--info and a list would both go to the standard output: name a file for the list by --output.");
+    BatchTask::List list;
+    list.path = output;
+    list.type = parser.value(type);
+    list.properties = parser.value(table).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    if (parser.isSet(table) && list.properties.isEmpty())
+      return tr("--table needs the name of a property.");
+    QString reason;
+    if (parser.isSet(search))
+      list.search = ElementList::criteria(parser.values(search), &reason);
+    task.lists.push_back(list);
+    return reason;
+  }
+};
+
+/// All options that the program has.
+struct Options {
+  Q_DECLARE_TR_FUNCTIONS(CommandLine)
+public:
+  QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, tr("Shows this help.")};
+  QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")}, tr("Shows the version.")};
+  QCommandLineOption clean{QStringLiteral("clean"),
+                           tr("Opens FILE as for the first time: how it was left does not come back, "
+                              "and how it is left now is not kept.")};
+  AnswerOptions answers;
+  PictureOptions pictures;
+  QCommandLineOption jobs{QStringLiteral("jobs"),
+                          tr("Does the jobs of a JSON file: pictures, tables, searches and checks of many networks and "
+                             "scenarios."),
+                          QStringLiteral("JOBS")};
+  QCommandLineOption output{QStringLiteral("output"),
+                            tr("File for the list of --search or --table, else it goes to the standard output; folder for "
+                               "what --jobs write."),
+                            QStringLiteral("PATH")};
+
+  void addTo(QCommandLineParser &parser) const {
+    parser.setApplicationDescription(
+        tr("Viewer for gas-transport network models. Opens a window; --info, --export, --search,\n"
+           "--table, --check and --jobs do without one and need no display."));
+    parser.addOptions(QList<QCommandLineOption>{help, version, clean, pictures.picture} + pictures.details() +
+                      answers.all() + QList<QCommandLineOption>{jobs, output});
+    parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
   }
 
   /// Why the options make no sense; empty when they do.
   QString take(const QCommandLineParser &parser, CommandLine &line) const {
-    const QList<QCommandLineOption> options = all();
-    const bool isAnySet = std::any_of(options.begin(), options.end(),
-                                      [&parser](const QCommandLineOption &option) { return parser.isSet(option); });
-    if (isAnySet && line.picture.isEmpty())
-      return tr("--color-by, --width-by, --node-color-by, --node-size-by, --labels and --extent go with --export.");
-    static const QHash<QString, QString> Modes{{QStringLiteral("none"), QStringLiteral("no label")},
-                                               {QStringLiteral("name"), QStringLiteral("name only")},
-                                               {QStringLiteral("selected"), QStringLiteral("selected properties")}};
-    line.labels = Modes.value(parser.value(labels));
-    if (parser.isSet(labels) && line.labels.isEmpty())
-      return tr("--labels takes none, name or selected.");
-    for (const Aspect aspect : AllAspects)
-      line.functions[aspect] = parser.value(functions[aspect]);
-    return parser.isSet(extent) && !takeExtent(parser.value(extent), line.extent)
-               ? tr("--extent takes four numbers, x0,y0,x1,y1, that span an area.")
-               : QString();
+    const QStringList files = parser.positionalArguments();
+    line.file = files.value(0);
+    line.task.file = line.file;
+    line.isClean = parser.isSet(clean);
+    line.output = parser.value(output);
+    if (parser.isSet(jobs))
+      return takeJobs(parser, line);
+    QString reason = pictures.take(parser, line.task);
+    if (reason.isEmpty())
+      reason = answers.take(parser, line.output, line.task);
+    if (!reason.isEmpty() || line.task.isEmpty())
+      return reason;
+    line.action = CommandLine::Action::Batch;
+    return files.size() == 1 ? QString() : tr("--info, --export, --search, --table and --check take exactly one FILE.");
   }
 
-  static bool takeExtent(const QString &text, QRectF &extent) {
-    QVector<double> corners;
-    for (const QString &part : text.split(QLatin1Char(','))) {
-      bool isNumber = false;
-      const double number = part.toDouble(&isNumber);
-      if (!isNumber || !(std::abs(number) < 1e20)) // as coordinates of elements
-        return false;
-      corners.append(number);
-    }
-    if (corners.size() != 4)
-      return false;
-    extent = QRectF(QPointF(corners[0], corners[1]), QPointF(corners[2], corners[3])).normalized();
-    return extent.width() > 0.0 && extent.height() > 0.0;
+private:
+  QString takeJobs(const QCommandLineParser &parser, CommandLine &line) const {
+    line.action = CommandLine::Action::Jobs;
+    line.jobs = parser.value(jobs);
+    const bool isAlone = line.file.isEmpty() && !parser.isSet(pictures.picture) && !isAnySet(parser, pictures.details()) &&
+                         !isAnySet(parser, answers.all());
+    return isAlone ? QString() : tr("--jobs takes no FILE and goes with --output alone: what is to be done is in its file.");
   }
 };
+
+/// The toolkit's, with the plain name of the program in place of the way to it.
+QString helpText(const QCommandLineParser &parser) {
+  const QString asCalled = QCoreApplication::arguments().constFirst();
+  QString text = parser.helpText();
+  const int at = text.indexOf(asCalled);
+  return at < 0 ? text : text.replace(at, asCalled.size(), QStringLiteral("NivraViewer"));
+}
+
+CommandLine answer(CommandLine::Action action, const QString &text) {
+  CommandLine line;
+  line.action = action;
+  line.text = text;
+  return line;
+}
 
 } // namespace
 
 CommandLine CommandLine::parse(const QStringList &arguments) {
+  const ToolkitOptions split = ToolkitOptions::split(arguments);
+  const Options options;
   QCommandLineParser parser;
-  parser.setApplicationDescription(tr("Viewer for gas-transport network models."));
-  const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Shows this help."));
-  const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Shows the version."));
-  const QCommandLineOption info(QStringLiteral("info"), tr("Writes what FILE holds as one JSON object."));
-  const QCommandLineOption picture(QStringLiteral("export"), tr("Writes the drawing of FILE; the suffix gives the format."),
-                                   QStringLiteral("PICTURE"));
-  const QCommandLineOption clean(QStringLiteral("clean"),
-                                 tr("Opens FILE as for the first time: how it was left does not come back, and how "
-                                    "it is left now is not kept."));
-  const SizeOptions size;
-  const DrawOptions drawing;
-  parser.addOptions(QList<QCommandLineOption>{help, version, clean, info, picture} + size.all() + drawing.all());
-  parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
-  QString style;
-  if (!parser.parse(ToolkitOptions::without(arguments, style)))
+  options.addTo(parser);
+  if (!parser.parse(split.others))
     return answer(Action::Wrong, parser.errorText());
-  if (parser.isSet(help))
-    return answer(Action::Print, parser.helpText());
-  if (parser.isSet(version))
+  if (parser.isSet(options.help))
+    return answer(Action::Print, helpText(parser));
+  if (parser.isSet(options.version))
     return answer(Action::Print, QStringLiteral("Nivra Reader %1\n").arg(AboutBox::version()));
-
   CommandLine line;
-  line.style = style;
-  line.isClean = parser.isSet(clean);
-  line.info = parser.isSet(info);
-  line.picture = parser.value(picture);
-  const QStringList files = parser.positionalArguments();
-  line.file = files.value(0);
-  if (parser.isSet(picture) && line.picture.trimmed().isEmpty())
-    return answer(Action::Wrong, tr("--export needs the name of a picture."));
-  if (line.info || parser.isSet(picture)) {
-    line.action = Action::Batch;
-    if (files.size() != 1)
-      return answer(Action::Wrong, tr("--info and --export take exactly one FILE."));
-  }
-  const QString wrongSize = size.take(parser, line);
-  const QString reason = wrongSize.isEmpty() ? drawing.take(parser, line) : wrongSize;
+  line.style = split.style;
+  line.toolkit = split.toolkit;
+  const QString reason = options.take(parser, line);
   return reason.isEmpty() ? line : answer(Action::Wrong, reason);
 }

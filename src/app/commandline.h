@@ -1,9 +1,8 @@
 #pragma once
 
-#include <drawing/aspect.h>
+#include "batchtask.h"
 
 #include <QCoreApplication>
-#include <QRectF>
 #include <QString>
 #include <QStringList>
 
@@ -13,29 +12,21 @@ struct CommandLine {
 public:
   enum class Action {
     Window, ///< open the window, with file when given
-    Batch,  ///< info and export, without a window or display
+    Batch,  ///< task, without a window or display
+    Jobs,   ///< those of the file jobs, likewise
     Print,  ///< text is the answer
     Wrong   ///< text says why
   };
 
   Action action = Action::Window;
   QString file;
-  QString style;        ///< of the toolkit, where one was asked for
   bool isClean = false; ///< how the file was left does not come back, nor is it kept now
-  bool info = false;
-  QString picture;
-  int width = 0;      ///< pixels, 0 for the default
-  double scale = 1.0; ///< of texts, lines and symbols against those on the screen
-  /// Draw functions in place of those of the plot settings, empty to leave them.
-  PerAspect<QString> functions{};
-  QString labels; ///< label mode of the plot settings, empty to leave it; labels are then placed wherever there is room
-  QRectF extent;  ///< what the picture shows, in the network's coordinates; null for everything
+  QString style;       ///< of the toolkit, where one was asked for
+  QStringList toolkit; ///< the program name and the options of the toolkit
+  BatchTask task;
+  QString jobs;   ///< file
+  QString output; ///< folder for what the jobs write; empty for that which the file names
   QString text;
-
-  static constexpr int DefaultWidth = 1600;
-  static constexpr int LargestWidth = 20000;
-  static constexpr double SmallestScale = 0.1;
-  static constexpr double LargestScale = 20.0;
 
   /// arguments as main gets them, the program name first; those of the toolkit (-platform, -style ...) are passed over.
   /// Needs an application object of any kind.

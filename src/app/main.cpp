@@ -13,6 +13,7 @@
 
 #include <cstdio>
 #include <new>
+#include <vector>
 
 namespace {
 
@@ -27,14 +28,25 @@ void nameApplication() {
   QCoreApplication::setApplicationName(QStringLiteral("NivraReader"));
 }
 
-int runBatch(int argc, char **argv, const CommandLine &line) {
+int runBatch(const CommandLine &line) {
   NivraMsg::setInteractive(false);
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
+  // The application object gets its own options alone: a "--style" of the drawing is none of them.
+  std::vector<QByteArray> texts;
+  texts.reserve(static_cast<std::size_t>(line.toolkit.size()));
+  for (const QString &argument : line.toolkit)
+    texts.push_back(argument.toLocal8Bit());
+  std::vector<char *> arguments;
+  arguments.reserve(texts.size() + 1);
+  for (QByteArray &text : texts)
+    arguments.push_back(text.data());
+  arguments.push_back(nullptr);
+  int count = static_cast<int>(texts.size());
+  const QApplication application(count, arguments.data());
   CrashGuard::setUp(LogFiles::Run::Batch);
   try {
-    return Batch::run(line);
+    return line.action == CommandLine::Action::Jobs ? Batch::runJobs(line) : Batch::run(line);
   } catch (const std::bad_alloc &) {
     return Batch::outOfMemory();
   }
@@ -44,6 +56,7 @@ int runWindow(int argc, char **argv, const CommandLine &line) {
   QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   const QApplication application(argc, argv);
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.nivra.NivraReader")); // by which a desktop finds the icon
   NivraMsg::setBoxSink(MessageBox::show);
   CrashGuard::setUp(LogFiles::Run::Window,
                     [](const QString &path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
@@ -70,7 +83,8 @@ int main(int argc, char **argv) {
     std::fprintf(stderr, "%s\n", qPrintable(line.text));
     return 2;
   case CommandLine::Action::Batch:
-    return runBatch(argc, argv, line);
+  case CommandLine::Action::Jobs:
+    return runBatch(line);
   case CommandLine::Action::Window:
     return runWindow(argc, argv, line);
   }

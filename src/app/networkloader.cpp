@@ -285,7 +285,7 @@ void NetworkLoader::noticeViolations() {
   if (!violations.empty())
     NivraMsg::logWarning(violations.size() == 1 ? tr("1 bound is violated, see the findings")
                                                 : tr("%1 bounds are violated, see the findings").arg(violations.size()));
-  notice(tr("Bounds"), std::move(violations));
+  notice(boundsStage(), std::move(violations));
 }
 
 void NetworkLoader::computeAgain(const std::vector<ElementChange> &changes) {
@@ -306,7 +306,7 @@ void NetworkLoader::tellBoundsAgain() {
 }
 
 void NetworkLoader::noticeViolationsAgain() {
-  if (!m_noticed.empty() && m_noticed.back().name == tr("Bounds"))
+  if (!m_noticed.empty() && m_noticed.back().name == boundsStage())
     m_noticed.pop_back();
   noticeViolations();
 }

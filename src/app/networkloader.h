@@ -58,6 +58,8 @@ public:
   const ConsistencyCheck::PruneResult &removed() const { return m_removed; }
   /// Everything that the stages noticed, in their order.
   const std::vector<FindingList::Group> &noticed() const { return m_noticed; }
+  /// Name of the group of violated bounds among them.
+  static QString boundsStage() { return tr("Bounds"); }
   /// Where the templates of subnets are; empty when the network has no subnets or there are none.
   const QString &templateFolder() const { return m_templateFolder; }
   /// Of the scenario's compressor database; empty without one.

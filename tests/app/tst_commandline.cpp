@@ -28,7 +28,7 @@ void TestCommandLine::parse_data() {
   row("--info a b", Action::Wrong);
   row("--export a.png net.geom --width 300", Action::Batch, 300);
   row("--export a.png --info net.geom", Action::Batch);
-  row("--export a.png --width 99999 net.geom", Action::Batch, CommandLine::LargestWidth);
+  row("--export a.png --width 99999 net.geom", Action::Batch, BatchTask::Picture::LargestWidth);
   row("--export a.png --width 0 net.geom", Action::Wrong);
   row("--export a.png --width 300 --scale 2.5 net.geom", Action::Batch, 300);
   row("--export a.png --scale nan net.geom", Action::Wrong);
@@ -43,6 +43,15 @@ void TestCommandLine::parse_data() {
   row("--export a.png --extent 0,0,nan,10 net.geom", Action::Wrong);
   row("--info --color-by q net.geom", Action::Wrong);
   row("--colour", Action::Wrong);
+  row("--search a --search type=^p net.geom", Action::Batch);
+  row("--search a --table p,q --output a.csv --check net.geom", Action::Batch);
+  row("--search a", Action::Wrong);
+  row("--jobs a.json --output folder", Action::Jobs);
+  row("--jobs a.json net.geom", Action::Wrong);
+  row("--jobs a.json --check", Action::Wrong);
+  row("--export a.png --style a.ini --style=b.csv -style fusion net.geom", Action::Batch);
+  row("--style fusion net.geom", Action::Window); // that of the toolkit
+  row("--style a.ini net.geom", Action::Wrong);   // of the drawing, which takes --export
   row("-platform offscreen -style fusion -geometry 300x200+0+0 --stylesheet a.qss net.geom", Action::Window);
   row("-style=windows -reverse", Action::Window);
   row("--info net.geom -platform minimal", Action::Batch);
@@ -57,7 +66,8 @@ void TestCommandLine::parse() {
       QStringList{QStringLiteral("NivraViewer")} + arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
   const CommandLine line = CommandLine::parse(list);
   QCOMPARE(static_cast<int>(line.action), action);
-  QCOMPARE(line.width, width);
+  if (width > 0)
+    QCOMPARE(line.task.pictures.front().width, width);
   if (line.action == CommandLine::Action::Window || line.action == CommandLine::Action::Batch)
     QCOMPARE(line.file, list.contains(QStringLiteral("net.geom")) ? QStringLiteral("net.geom") : line.file);
   if (line.action == CommandLine::Action::Wrong)
@@ -72,6 +82,14 @@ void TestCommandLine::styleIsKept() {
   QCOMPARE(style({QStringLiteral("--style"), QStringLiteral("windows")}), QStringLiteral("windows"));
   QCOMPARE(style({QStringLiteral("-stylesheet"), QStringLiteral("a.qss")}), QString());
   QCOMPARE(style({QStringLiteral("-style")}), QString());
+  QCOMPARE(style({QStringLiteral("--check"), QStringLiteral("-style"), QStringLiteral("fusion"), QStringLiteral("a.geom")}),
+           QStringLiteral("fusion"));
+  const CommandLine drawn = CommandLine::parse(
+      {QStringLiteral("NivraViewer"), QStringLiteral("--export"), QStringLiteral("a.png"), QStringLiteral("--style"),
+       QStringLiteral("b.ini"), QStringLiteral("-platform"), QStringLiteral("minimal"), QStringLiteral("a.geom")});
+  QCOMPARE(drawn.task.pictures.front().styles, QStringList{QStringLiteral("b.ini")});
+  QCOMPARE(drawn.style, QString());
+  QCOMPARE(drawn.toolkit.size(), 3); // with the program name
 }
 
 NIVRA_TEST(TestCommandLine);

@@ -1,3 +1,4 @@
+#include "programrun.h"
 #include "workspacefixture.h"
 
 #include <support/nivratest.h>
@@ -11,32 +12,8 @@
 
 #include <cmath>
 
-namespace {
-
-struct Outcome {
-  int status = -1;
-  QByteArray output;
-  QByteArray errors;
-  QJsonObject info() const { return QJsonDocument::fromJson(output).object(); }
-};
-
-/// Runs the program as a person would from a shell without a display.
-Outcome run(const QStringList &arguments, const QString &dataHome) {
-  QProcess process;
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "NIVRA_BATCH"})
-    environment.remove(QLatin1String(name));
-  environment.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
-  environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0")); // the platform plugin leaks
-  process.setProcessEnvironment(environment);
-  process.start(QStringLiteral(NIVRA_PROGRAM), arguments);
-  constexpr int PatienceMs = 120000;
-  process.waitForFinished(PatienceMs);
-  return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, process.readAllStandardOutput(),
-          process.readAllStandardError()};
-}
-
-} // namespace
+using ProgramRun::Outcome;
+using ProgramRun::run;
 
 /// The program itself, run in a process of its own.
 class TestProgram : public QObject {

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <drawing/aspect.h>
+#include <tools/elementlist.h>
+
+#include <QCoreApplication>
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+#include <vector>
+
+/// What is to be done with one network, without a window.
+struct BatchTask {
+  /// The drawing as a picture. The setters return why the value makes no sense; empty when it does.
+  struct Picture {
+    Q_DECLARE_TR_FUNCTIONS(BatchTask)
+  public:
+    static constexpr int DefaultWidth = 1600;
+    static constexpr int LargestWidth = 20000;
+    static constexpr double SmallestScale = 0.1;
+    static constexpr double LargestScale = 20.0;
+
+    QString path;                   ///< the suffix gives the format
+    int width = DefaultWidth;       ///< px
+    double scale = 1.0;             ///< of texts, lines and symbols against those on the screen
+    PerAspect<QString> functions{}; ///< in place of those of the plot settings, empty to leave them
+    QString labels; ///< label mode of the plot settings, empty to leave it; labels are then placed wherever there is room
+    QRectF extent;  ///< what it shows, in the network's coordinates; null for everything
+    QStringList styles; ///< files laid over the plot settings and the label table of the case
+
+    QString setWidth(double pixels); ///< what is too large is cut
+    QString setScale(double factor);
+    QString setLabels(const QString &word);            ///< "none", "name" or "selected"
+    QString setExtent(const QVector<double> &corners); ///< x0, y0, x1, y1
+    QString addStyle(const QString &file);             ///< ".ini" or ".csv"
+  };
+
+  /// Elements that a search finds, or properties of elements.
+  struct List {
+    std::optional<ElementList::Criteria> search; ///< restricts a table
+    QStringList properties;                      ///< of a table; empty for what the search finds
+    QString type;                                ///< of a table; empty for all
+    QString path;                                ///< empty for the standard output
+  };
+
+  struct Output {
+    bool isWanted = false;
+    QString path; ///< empty for the standard output
+  };
+
+  QString file;
+  std::vector<Picture> pictures;
+  std::vector<List> lists;
+  Output info;
+  Output check;
+
+  bool isEmpty() const { return pictures.empty() && lists.empty() && !info.isWanted && !check.isWanted; }
+};
