@@ -423,7 +423,9 @@ void TestSettings::unitFollowsEverywhere() {
   const QString bounds = viewer.findChild<QLabel *>(QStringLiteral("labelBounds"))->text();
   QVERIFY2(bounds.contains(QStringLiteral("4.9 MPa")), qPrintable(bounds));
   QCOMPARE(control.net().element(QStringLiteral("B"))->value(QStringLiteral("p")), stored);
-  QCOMPARE(control.plot()->visibleArea(), view);
+  const QRectF after = control.plot()->visibleArea(); // the numbers of the scale may take another width from it
+  QVERIFY(QLineF(after.center(), view.center()).length() < 1e-6);
+  QVERIFY(after.width() < 1.02 * view.width() && after.width() > 0.98 * view.width());
 
   // A pattern is of what is stored, a comparison of what is shown, a formula of what is stored.
   search.defineSearch({QString(), QString(), QStringLiteral("^p$"), QStringLiteral("^48$")}, false);
