@@ -6,6 +6,7 @@
 #include "settings/settingsmodel.h"
 #include "workspacefixture.h"
 
+#include <base/fileaccess.h>
 #include <base/settings.h>
 #include <model/displayformat.h>
 #include <support/answers.h>
@@ -269,6 +270,7 @@ void TestSettings::workspaceHoldsOverTheUser() {
   writeUserFile("pixtest delay;zooming;string;200;;\n");
   m_workspace.write(QStringLiteral("generalsettings_") + GeneralSettings::userName() + QStringLiteral(".csv"),
                     "pixtest delay;zooming;string;300;;\nsmooth zoom;zooming;bool;0;;\n");
+  FileAccess::confineTo(m_workspace.root()); // as while it is open
   SettingsDialog dialog(m_workspace.root());
   SettingsModel &model = dialog.model();
   const QString delay = QStringLiteral("pixtest delay");

@@ -346,7 +346,8 @@ void TestWindow::menus() {
   QCOMPARE(texts(viewer.menuBar()->actions()),
            (QStringList{QStringLiteral("File"), QStringLiteral("Info"), QStringLiteral("View")}));
   const QList<QAction *> menus = viewer.menuBar()->actions();
-  QCOMPARE(texts(menus[0]->menu()->actions()), (QStringList{QStringLiteral("Open Geom or Scen"), QStringLiteral("Exit")}));
+  QCOMPARE(texts(menus[0]->menu()->actions()),
+           (QStringList{QStringLiteral("Open Geom or Scen"), QStringLiteral("Settings …"), QStringLiteral("Exit")}));
   QCOMPARE(texts(menus[1]->menu()->actions()).mid(0, 2),
            (QStringList{QStringLiteral("Element Table"), QStringLiteral("Metadata Table")}));
   emit menus[2]->menu()->aboutToShow();
