@@ -3,7 +3,6 @@
 #include "scenariomodel.h"
 
 #include <base/index.h>
-#include <model/displayformat.h>
 #include <model/names.h>
 #include <tools/displayvalue.h>
 #include <tools/plaintip.h>
@@ -16,10 +15,6 @@ const QString VocabularyType = QStringLiteral("n");
 bool isNameOrType(PropertyKey key) {
   static const PropertyKey typeWord = PropertyKey::intern("obj_type");
   return key == Names::all().name || key == Names::all().type || key == typeWord;
-}
-
-QString shown(const DisplayValue::Shown &value) {
-  return DisplayFormat::shown(value.value, !value.unit.isEmpty());
 }
 
 } // namespace
@@ -47,7 +42,7 @@ void GasModel::set(const GasTable &gases, const NetMetaData &metaData) {
     for (const auto &[name, gas] : gases) {
       const PropertyText *value = gas.find(key);
       row.texts.append(value == nullptr ? QString()
-                                        : ScenarioModel::shortened(shown(display.of(VocabularyType, key, *value))));
+                                        : ScenarioModel::shortened(display.of(VocabularyType, key, *value).value));
     }
     m_rows.push_back(std::move(row));
   }

@@ -108,14 +108,14 @@ NivraViewer::~NivraViewer() = default;
 
 void NivraViewer::setUpFileMenu() {
   auto *recent = new RecentMenu(m_memory->recent(), m_ui->menuFile);
-  m_ui->menuFile->insertMenu(m_ui->actionExit, recent);
+  m_ui->menuFile->insertMenu(m_ui->actionSettings, recent);
   connect(recent, &RecentMenu::fileWanted, this, &NivraViewer::open);
   connect(m_ui->label, &StartPage::openWanted, this, &NivraViewer::on_actionOpen_triggered);
   connect(m_ui->label, &StartPage::fileWanted, this, &NivraViewer::open);
   m_reload->setShortcut(Qt::Key_F5);
   m_reload->setToolTip(tr("Read the files of the case again (F5)"));
   m_reload->setEnabled(false);
-  m_ui->menuFile->insertAction(m_ui->actionExit, m_reload);
+  m_ui->menuFile->insertAction(m_ui->actionSettings, m_reload);
   connect(m_reload, &QAction::triggered, this, &NivraViewer::reload);
 }
 

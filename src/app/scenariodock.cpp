@@ -3,6 +3,7 @@
 #include "gasmodel.h"
 #include "scenariomodel.h"
 
+#include <model/displayformat.h>
 #include <tools/elidedlabel.h>
 #include <tools/filterfield.h>
 #include <tools/tablemenu.h>
@@ -10,6 +11,7 @@
 #include <QHeaderView>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -26,6 +28,15 @@ QSortFilterProxyModel *filterOf(QAbstractItemModel &model, int role) {
   proxy->setRecursiveFilteringEnabled(true); // a section is shown for its settings
   return proxy;
 }
+
+/// Numbers as people chose to read them; the texts of the model, which are copied, stay exact.
+class ShownNumbers : public QStyledItemDelegate {
+public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QString displayText(const QVariant &value, const QLocale & /*locale*/) const override {
+    return DisplayFormat::shown(value.toString(), false);
+  }
+};
 
 } // namespace
 
@@ -58,6 +69,7 @@ ScenarioDock::ScenarioDock(QWidget *parent)
   m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
   m_gasTable->setModel(m_shownGases);
   m_gasTable->setAlternatingRowColors(true);
+  m_gasTable->setItemDelegate(new ShownNumbers(m_gasTable));
   m_gasTable->setSelectionBehavior(QAbstractItemView::SelectRows);
   m_gasTable->setWordWrap(false);
   m_gasTable->verticalHeader()->hide();

@@ -6,6 +6,7 @@
 #include "settings/settingsmodel.h"
 #include "workspacefixture.h"
 
+#include <base/fileaccess.h>
 #include <base/settings.h>
 #include <model/displayformat.h>
 #include <support/answers.h>
@@ -269,6 +270,7 @@ void TestSettings::workspaceHoldsOverTheUser() {
   writeUserFile("pixtest delay;zooming;string;200;;\n");
   m_workspace.write(QStringLiteral("generalsettings_") + GeneralSettings::userName() + QStringLiteral(".csv"),
                     "pixtest delay;zooming;string;300;;\nsmooth zoom;zooming;bool;0;;\n");
+  FileAccess::confineTo(m_workspace.root()); // as while it is open
   SettingsDialog dialog(m_workspace.root());
   SettingsModel &model = dialog.model();
   const QString delay = QStringLiteral("pixtest delay");
@@ -423,7 +425,9 @@ void TestSettings::unitFollowsEverywhere() {
   const QString bounds = viewer.findChild<QLabel *>(QStringLiteral("labelBounds"))->text();
   QVERIFY2(bounds.contains(QStringLiteral("4.9 MPa")), qPrintable(bounds));
   QCOMPARE(control.net().element(QStringLiteral("B"))->value(QStringLiteral("p")), stored);
-  QCOMPARE(control.plot()->visibleArea(), view);
+  const QRectF after = control.plot()->visibleArea(); // the numbers of the scale may take another width from it
+  QVERIFY(QLineF(after.center(), view.center()).length() < 1e-6);
+  QVERIFY(after.width() < 1.02 * view.width() && after.width() > 0.98 * view.width());
 
   // A pattern is of what is stored, a comparison of what is shown, a formula of what is stored.
   search.defineSearch({QString(), QString(), QStringLiteral("^p$"), QStringLiteral("^48$")}, false);

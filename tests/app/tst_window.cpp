@@ -348,7 +348,7 @@ void TestWindow::menus() {
   const QList<QAction *> menus = viewer.menuBar()->actions();
   QCOMPARE(texts(menus[0]->menu()->actions()),
            (QStringList{QStringLiteral("Open Geom or Scen"), QStringLiteral("Open &Recent"), QStringLiteral("&Reload"),
-                        QStringLiteral("Exit")}));
+                        QStringLiteral("Settings …"), QStringLiteral("Exit")}));
   QCOMPARE(texts(menus[1]->menu()->actions()).mid(0, 2),
            (QStringList{QStringLiteral("Element Table"), QStringLiteral("Metadata Table")}));
   emit menus[2]->menu()->aboutToShow();

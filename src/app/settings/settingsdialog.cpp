@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTabWidget>
@@ -56,7 +57,8 @@ SettingsDialog::SettingsDialog(const QString &workspaceDir, QWidget *parent)
   showFindings();
   showDirty();
   showAbout();
-  resize(Size);
+  constexpr QSize Frame(20, 60); // of the window, so that it fits a small screen
+  resize(Size.boundedTo(screen()->availableSize() - Frame));
   m_search->setFocus();
 }
 
