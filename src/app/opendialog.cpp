@@ -3,12 +3,22 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QSplitter>
 #include <QUrl>
 
 namespace {
 
 QString text(const char *source) {
   return QCoreApplication::translate("NivraViewer", source);
+}
+
+/// By default names of folders are cut.
+void giveRoom(QFileDialog &dialog) {
+  constexpr QSize Size(900, 560); // px
+  constexpr int SideBar = 200;
+  dialog.resize(Size);
+  if (auto *parts = dialog.findChild<QSplitter *>(QStringLiteral("splitter")))
+    parts->setSizes({SideBar, Size.width() - SideBar});
 }
 
 } // namespace
@@ -27,5 +37,6 @@ QString OpenDialog::ask(QWidget *parent, const QString &start, const QStringList
   for (const QString &folder : folders.mid(0, MostFolders))
     places.append(QUrl::fromLocalFile(folder));
   dialog.setSidebarUrls(places);
+  giveRoom(dialog);
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

@@ -77,7 +77,7 @@ QString RecentFiles::file() {
 QStringList RecentFiles::folders() const {
   QStringList folders;
   for (const RecentFile &file : m_all) {
-    const QString folder = QFileInfo(file.path).path();
+    const QString folder = file.isScenario() ? parentOf(parentOf(file.path)) : parentOf(file.path);
     if (!folders.contains(folder) && QFileInfo(folder).isDir())
       folders.append(folder);
   }

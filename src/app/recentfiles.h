@@ -29,7 +29,7 @@ public:
   static QString file();
 
   const std::vector<RecentFile> &all() const { return m_all; }
-  /// Their folders, each once, that are still there.
+  /// The folders of their cases, each once, that are still there: all folders of scenarios are called alike.
   QStringList folders() const;
   void read();
   /// Puts the file in front; of many those that were opened longest ago are forgotten.

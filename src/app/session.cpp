@@ -1,5 +1,6 @@
 #include "session.h"
 
+#include <QCryptographicHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -54,6 +55,11 @@ QByteArray stateIn(const QJsonValue &value) {
   return state.size() <= LargestState ? state : QByteArray();
 }
 
+/// The toolkit believes every byte of its own states, and ends the program over a wrong one.
+QString sumOf(const QByteArray &geometry, const QByteArray &docks) {
+  return QString::fromLatin1(QCryptographicHash::hash(geometry + '|' + docks, QCryptographicHash::Sha256).toHex());
+}
+
 QByteArray styleIn(const QJsonValue &value) {
   const QString text = value.toString();
   return text.size() <= LargestStyle ? text.toUtf8() : QByteArray();
@@ -102,7 +108,8 @@ QByteArray Session::toJson(const QString &caseFolder) const {
   QJsonObject whole{{QStringLiteral("format"), Format}, {QStringLiteral("version"), Version}};
   whole[QStringLiteral("case")] = caseFolder;
   whole[QStringLiteral("window")] = QJsonObject{{QStringLiteral("geometry"), QString::fromLatin1(geometry.toBase64())},
-                                                {QStringLiteral("docks"), QString::fromLatin1(docks.toBase64())}};
+                                                {QStringLiteral("docks"), QString::fromLatin1(docks.toBase64())},
+                                                {QStringLiteral("sum"), sumOf(geometry, docks)}};
   if (!view.isNull())
     whole[QStringLiteral("view")] = QJsonArray{view.x(), view.y(), view.width(), view.height()};
   whole[QStringLiteral("current")] = current;
@@ -124,6 +131,17 @@ QByteArray Session::toJson(const QString &caseFolder) const {
   return QJsonDocument(whole).toJson();
 }
 
+void Session::takeWindow(const QJsonObject &window, QString *reason) {
+  geometry = stateIn(window[QStringLiteral("geometry")]);
+  docks = stateIn(window[QStringLiteral("docks")]);
+  if (window[QStringLiteral("sum")].toString() == sumOf(geometry, docks))
+    return;
+  geometry.clear();
+  docks.clear();
+  if (reason != nullptr)
+    *reason = tr("the places of window and docks are damaged and not used");
+}
+
 std::optional<Session> Session::fromJson(const QByteArray &text, const QString &caseFolder, QString *reason) {
   QJsonParseError fault;
   const QJsonObject whole = QJsonDocument::fromJson(text, &fault).object();
@@ -142,8 +160,7 @@ std::optional<Session> Session::fromJson(const QByteArray &text, const QString &
     return std::nullopt;
   }
   Session session;
-  session.geometry = stateIn(whole[QStringLiteral("window")][QStringLiteral("geometry")]);
-  session.docks = stateIn(whole[QStringLiteral("window")][QStringLiteral("docks")]);
+  session.takeWindow(whole[QStringLiteral("window")].toObject(), reason);
   session.view = viewIn(whole[QStringLiteral("view")]);
   for (const auto &[kind, ofKind] : Kinds)
     session.selection.*ofKind = namesIn(whole[QStringLiteral("selection")][QLatin1String(kind)]);

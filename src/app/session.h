@@ -13,6 +13,8 @@
 
 #include <optional>
 
+class QJsonObject;
+
 /// What comes back when a case is opened again.
 struct Session {
   Q_DECLARE_TR_FUNCTIONS(Session)
@@ -34,6 +36,10 @@ public:
 
   /// \param caseFolder canonical
   QByteArray toJson(const QString &caseFolder) const;
-  /// Nothing, with the reason, when the text is no session of that case; what is too much or of no sense is left out.
+  /// Nothing, with the reason, when the text is no session of that case; what is too much or of no sense is left out. A
+  /// reason beside a session tells what is not used of it.
   static std::optional<Session> fromJson(const QByteArray &text, const QString &caseFolder, QString *reason);
+
+private:
+  void takeWindow(const QJsonObject &window, QString *reason);
 };

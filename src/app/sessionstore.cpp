@@ -31,9 +31,10 @@ std::optional<Session> SessionStore::read(const QString &caseDirectory) {
   std::optional<Session> session;
   if (text) {
     session = Session::fromJson(*text, caseName(caseDirectory), &reason);
-    reason.prepend(path + QStringLiteral(": "));
+    if (!reason.isEmpty())
+      reason.prepend(path + QStringLiteral(": "));
   }
-  if (!session)
+  if (!reason.isEmpty())
     NivraMsg::logWarning(Session::tr("What was kept of this case cannot be used: %1").arg(reason));
   return session;
 }

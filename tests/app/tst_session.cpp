@@ -54,7 +54,7 @@ private slots:
   void cleanStartKeepsAndTakesNothing();
   void uselessFilesAreTold_data();
   void uselessFilesAreTold();
-  void wildStatesOfTheWindow();
+  void damagedPlacesAreNotUsed();
   void oldSessionsGo();
   void severalWindowsWriteWholeFiles();
   void commandLineKnowsNothingOfIt();
@@ -191,32 +191,28 @@ void TestSession::cleanStartKeepsAndTakesNothing() {
 
 void TestSession::uselessFilesAreTold_data() {
   QTest::addColumn<QByteArray>("text");
-  QTest::addColumn<bool>("isTold");
   const QByteArray start = "{\"format\":\"nivra session\",\"version\":1,\"case\":\"%1\"";
-  QTest::newRow("empty") << QByteArray() << true;
-  QTest::newRow("torn") << start + ",\"view\":[1,2" << true;
-  QTest::newRow("binary") << QByteArray("\x00\xff\x01", 3) << true;
-  QTest::newRow("of the next version") << QByteArray(start).replace("1,", "2,") + "}" << true;
-  QTest::newRow("of another case") << QByteArray(start).replace("%1", "/elsewhere") + "}" << true;
-  QTest::newRow("too large") << QByteArray(9 << 20, ' ') << true;
-  QTest::newRow("deep") << start + ",\"view\":" + QByteArray(5000, '[') << true;
+  QTest::newRow("empty") << QByteArray();
+  QTest::newRow("torn") << start + ",\"view\":[1,2";
+  QTest::newRow("binary") << QByteArray("\x00\xff\x01", 3);
+  QTest::newRow("of the next version") << QByteArray(start).replace("1,", "2,") + "}";
+  QTest::newRow("of another case") << QByteArray(start).replace("%1", "/elsewhere") + "}";
+  QTest::newRow("too large") << QByteArray(9 << 20, ' ');
+  QTest::newRow("deep") << start + ",\"view\":" + QByteArray(5000, '[');
+  // These are sessions; that they have no places of the window is told.
   QTest::newRow("other types") << start + ",\"view\":\"all\",\"selection\":[1],\"layers\":7,\"style\":[],\"window\":true,"
-                                          "\"current\":{},\"layerEdits\":[{}]}"
-                               << false;
+                                          "\"current\":{},\"layerEdits\":[{}]}";
   QTest::newRow("wild numbers") << start + ",\"view\":[1e300,-1e300,1e308,1e-320],\"window\":{\"geometry\":\"AAAA\","
-                                           "\"docks\":\"//////////8=\"}}"
-                                << false;
-  QTest::newRow("elsewhere") << start + ",\"view\":[1e9,1e9,5,5],\"selection\":{\"nodes\":[\"nobody\",7,\"\"]},"
-                                        "\"current\":\"nobody\",\"layerEdits\":{\"name\":{\"A\":\"B\"},\"x\":{\"A\":\"9\"}}}"
-                             << false;
+                                           "\"docks\":\"//////////8=\"}}";
+  QTest::newRow("elsewhere") << start +
+                                    ",\"view\":[1e9,1e9,5,5],\"selection\":{\"nodes\":[\"nobody\",7,\"\"]},"
+                                    "\"current\":\"nobody\",\"layerEdits\":{\"name\":{\"A\":\"B\"},\"x\":{\"A\":\"9\"}}}";
   QTest::newRow("style of no sense") << start + ",\"style\":{\"settings\":\"[[[\\nnodeMag=wide\","
-                                                "\"labels\":\"vfd 1\\n\\n\"}}"
-                                     << false;
+                                                "\"labels\":\"vfd 1\\n\\n\"}}";
 }
 
 void TestSession::uselessFilesAreTold() {
   QFETCH(QByteArray, text);
-  QFETCH(bool, isTold);
   text.replace("%1", QDir(caseFolder()).canonicalPath().toUtf8());
   SmallFiles::write(SessionStore::fileOf(caseFolder()), text);
   const NivraMsg::Recorder log;
@@ -228,33 +224,38 @@ void TestSession::uselessFilesAreTold() {
   QCOMPARE(viewer.visControl()->net().element(QStringLiteral("A"))->value(Names::all().x), QStringLiteral("0"));
   QVERIFY(viewer.visControl()->net().selection().isEmpty());
   const QString lines = log.lines().join(QLatin1Char('\n'));
-  QVERIFY2(lines.contains(QStringLiteral("cannot be used")) == isTold, qPrintable(lines));
+  QVERIFY2(lines.contains(QStringLiteral("cannot be used")), qPrintable(lines));
   viewer.elementAction(QStringLiteral("A"), NetPicker::EleAction::Mark);
   viewer.close(); // and the next one is sound again
   QCOMPARE(SessionStore::read(caseFolder()).value_or(Session()).current, QStringLiteral("A"));
 }
 
-// Bytes of the toolkit's own that were damaged on the disk.
-void TestSession::wildStatesOfTheWindow() {
-  NivraViewer viewer;
-  viewer.open(m_workspace->geometry());
-  QVERIFY(QTest::qWaitForWindowExposed(&viewer));
-  const QByteArray geometry = viewer.saveGeometry();
-  const QByteArray state = viewer.saveState();
-  QRandomGenerator random(7);
-  for (int i = 0; i < 200; ++i) {
-    QByteArray wildGeometry = geometry;
-    QByteArray wildState = state;
-    for (int j = 0; j < 4; ++j) {
-      wildGeometry[random.bounded(4, wildGeometry.size())] = char(random.bounded(256));
-      wildState[random.bounded(4, wildState.size())] = char(random.bounded(256));
-    }
-    viewer.restoreGeometry(wildGeometry);
-    viewer.restoreState(wildState.left(random.bounded(wildState.size())));
-    viewer.restoreState(wildState);
+// The toolkit ends the program over bytes of its own that are wrong.
+void TestSession::damagedPlacesAreNotUsed() {
+  {
+    NivraViewer viewer;
+    Remembering::open(viewer, m_workspace->geometry());
+    viewer.elementAction(QStringLiteral("A"), NetPicker::EleAction::Mark);
+    viewer.close();
   }
-  QCoreApplication::processEvents();
-  QVERIFY(viewer.width() > 0 && viewer.width() < 10000);
+  const QString file = SessionStore::fileOf(caseFolder());
+  const QByteArray sound = SmallFiles::contents(file);
+  QVERIFY(SessionStore::read(caseFolder()).value_or(Session()).docks.size() > 100);
+  QRandomGenerator random(7);
+  for (int i = 0; i < 25; ++i) {
+    QByteArray damaged = sound;
+    const int begin = damaged.indexOf("\"docks\": \"") + 10;
+    for (int j = 0; j < 4; ++j)
+      damaged[begin + 8 + random.bounded(100)] = "ABCDEFGH0123456789"[random.bounded(18)];
+    SmallFiles::write(file, damaged);
+    const NivraMsg::Recorder log;
+    NivraViewer viewer;
+    Remembering::open(viewer, m_workspace->geometry());
+    QVERIFY(QTest::qWaitForWindowExposed(&viewer));
+    QCOMPARE(viewer.visControl()->currentElement(), QStringLiteral("A")); // the rest is sound
+    if (damaged != sound)
+      QVERIFY(log.lines().join(QString()).contains(QStringLiteral("are damaged")));
+  }
 }
 
 void TestSession::oldSessionsGo() {
