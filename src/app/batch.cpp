@@ -202,6 +202,7 @@ int Batch::run(const CommandLine &line) {
   constexpr int ShownHeight = 900;
   control.plot()->resize(ShownWidth, ShownHeight);
   control.setSubnetIcons(loader.templateFolder());
+  control.setCaption(loader.workspace().caption());
   control.showNetData(loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
   control.plot()->grab();
   times.end(QStringLiteral("draw"));

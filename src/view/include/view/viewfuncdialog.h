@@ -46,6 +46,7 @@ protected:
 
 private:
   bool apply();
+  void followPlot();
   void draw(const PlotSettings &before, const LabelTable &labels);
   void offerSavedSettings();
   bool readLabels(const QString &path, FileAccess::Source source, LabelTable &labels);
@@ -53,6 +54,7 @@ private:
   void limitWidth();
   void fillChoices();
   void bindScale();
+  void bindLegend();
   void bindSizes();
   void bindColors();
 
