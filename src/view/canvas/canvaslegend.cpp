@@ -5,7 +5,7 @@
 #include "interaction/plotzoom.h"
 
 #include <drawing/colormap.h>
-#include <view/netplot.h>
+#include <drawing/netupdate.h>
 
 #include <QAction>
 #include <QActionGroup>
@@ -14,44 +14,41 @@
 
 namespace {
 
-QRectF canvasOf(const NetPlot &plot) {
-  return plot.plot()->canvas()->contentsRect();
+QRectF canvasOf(const QwtFastPlot &plot) {
+  return plot.canvas()->contentsRect();
 }
 
 } // namespace
 
-CanvasLegend::CanvasLegend(NetPlot &plot)
-    : m_plot(plot)
+CanvasLegend::CanvasLegend(Drawing drawing)
+    : m_drawing(std::move(drawing))
     , m_item(m_picture)
-    , m_view(new LegendView(m_picture, plot.plot()->canvas()))
+    , m_view(new LegendView(m_picture, m_drawing.plot.canvas()))
     , m_action(new QAction(tr("&Legend"), this)) {
-  m_item.attach(plot.plot());
+  m_item.attach(&m_drawing.plot);
   m_action->setCheckable(true);
   m_action->setShortcut(Qt::Key_L);
   m_action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
   m_action->setToolTip(tr("Shows what colours, widths and symbols mean (L)"));
-  plot.addAction(m_action);
+  m_drawing.plot.addAction(m_action);
   m_resized.setSingleShot(true);
   m_resized.setInterval(0);
-  plot.plot()->canvas()->installEventFilter(this);
+  m_drawing.plot.canvas()->installEventFilter(this);
   connect(&m_resized, &QTimer::timeout, this, &CanvasLegend::place);
   connect(m_action, &QAction::toggled, this, [this](bool isShown) {
-    if (isShown != m_plot.settings().showsLegend)
+    if (isShown != m_drawing.settings.showsLegend)
       changeSettings([isShown](PlotSettings &settings) { settings.showsLegend = isShown; });
   });
   connect(m_view, &LegendView::dropped, this,
-          [this](QPoint center) { choose(LegendPlace::nearest(center, canvasOf(m_plot))); });
+          [this](QPoint center) { choose(LegendPlace::nearest(center, canvasOf(m_drawing.plot))); });
   connect(m_view, &LegendView::menuWanted, this, [this](QPoint position) {
-    auto *menu = new QMenu(&m_plot);
+    auto *menu = new QMenu(&m_drawing.plot);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     fillMenu(*menu);
     menu->popup(position);
   });
-  connect(m_view, &LegendView::configurationWanted, &m_plot, &NetPlot::drawConfigurationRequested);
-  connect(m_view, &LegendView::entered, this, [this] {
-    if (m_plot.selection().setHovered(std::nullopt))
-      m_plot.plot()->updateOverlay();
-  });
+  connect(m_view, &LegendView::configurationWanted, this, &CanvasLegend::configurationWanted);
+  connect(m_view, &LegendView::entered, this, &CanvasLegend::entered);
 }
 
 CanvasLegend::~CanvasLegend() {
@@ -64,27 +61,27 @@ void CanvasLegend::setCaption(const QString &caption) {
 }
 
 void CanvasLegend::refresh() {
-  const PlotSettings &settings = m_plot.settings();
+  const PlotSettings &settings = m_drawing.settings;
   m_action->setChecked(settings.showsLegend);
   LegendContents contents;
   if (settings.showsLegend)
-    contents = m_plot.update().legendContents();
+    contents = m_drawing.update.legendContents();
   contents.caption = m_caption;
   constexpr double SmallerThanTexts = 0.85;
-  QFont font = m_plot.font();
+  QFont font = m_drawing.plot.font();
   if (font.pointSizeF() > 0.0)
     font.setPointSizeF(font.pointSizeF() * SmallerThanTexts);
   m_picture.setContents(
       contents, settings.bgrColor, screenFont(font),
-      [&update = m_plot.update()](QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center,
-                                  double size) { update.drawLegendSymbol(painter, symbol, center, size); });
+      [&update = m_drawing.update](QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center,
+                                   double size) { update.drawLegendSymbol(painter, symbol, center, size); });
   place();
 }
 
 void CanvasLegend::place() {
   constexpr double MostOfWidth = 0.5; // of the canvas
   constexpr double MostOfHeight = 0.5;
-  const QRectF canvas = canvasOf(m_plot);
+  const QRectF canvas = canvasOf(m_drawing.plot);
   m_picture.fitInto({canvas.width() * MostOfWidth, canvas.height() * MostOfHeight});
   const QSizeF size = m_picture.size();
   if (size.isEmpty()) {
@@ -92,11 +89,11 @@ void CanvasLegend::place() {
     return;
   }
   std::vector<QRectF> taken;
-  if (const QRectF ofFunctions = m_plot.functionLegendArea(); !ofFunctions.isEmpty())
+  if (const QRectF ofFunctions = m_drawing.taken(); !ofFunctions.isEmpty())
     taken.push_back(ofFunctions);
   const LegendPlace::Corner corner =
-      LegendPlace::cornerOf(m_plot.settings().legendCorner)
-          .value_or(LegendPlace::leastHiding(size, canvas, m_plot.zoomer()->zoomBase(), m_plot.update().geometry(), taken));
+      LegendPlace::cornerOf(m_drawing.settings.legendCorner)
+          .value_or(LegendPlace::leastHiding(size, canvas, m_drawing.zoomer.zoomBase(), m_drawing.update.geometry(), taken));
   m_item.setCorner(corner);
   m_view->setGeometry(LegendPlace::areaIn(corner, size, canvas).toRect());
   m_view->show();
@@ -123,12 +120,9 @@ bool CanvasLegend::eventFilter(QObject *watched, QEvent *event) {
 
 template <typename Change>
 void CanvasLegend::changeSettings(const Change &change) {
-  PlotSettings settings = m_plot.settings();
+  PlotSettings settings = m_drawing.settings;
   change(settings);
-  m_plot.setSettings(settings);
-  m_plot.update().updatePlot();
-  m_plot.update().requestPixtest(0); // labels keep away from it
-  emit m_plot.settingsChanged();
+  emit settingsWanted(settings);
 }
 
 void CanvasLegend::choose(LegendPlace::Corner corner) {
@@ -146,7 +140,7 @@ void CanvasLegend::addCorners(QMenu &menu) {
       });
     });
     entry->setCheckable(true);
-    entry->setChecked(m_plot.settings().legendCorner == name);
+    entry->setChecked(m_drawing.settings.legendCorner == name);
     corners->addAction(entry);
   };
   add(tr("where it hides least"), PlotSettings::automaticCorner());
@@ -162,7 +156,7 @@ void CanvasLegend::addColors(QMenu &menu) {
       changeSettings([&name](PlotSettings &settings) { settings.colorRamp = name; });
     });
     entry->setCheckable(true);
-    entry->setChecked(ColorRamp::kindOf(m_plot.settings().colorRamp) == kind);
+    entry->setChecked(ColorRamp::kindOf(m_drawing.settings.colorRamp) == kind);
     ramps->addAction(entry);
   }
 }
@@ -175,18 +169,18 @@ void CanvasLegend::fillMenu(QMenu &menu) {
     changeSettings([isShown](PlotSettings &settings) { settings.colorScalePos = isShown ? int(QwtPlot::yRight) : 0; });
   });
   beside->setCheckable(true);
-  const int axis = m_plot.settings().colorScalePos;
+  const int axis = m_drawing.settings.colorScalePos;
   beside->setChecked(axis == QwtPlot::yRight || axis == QwtPlot::xTop);
   QAction *quantiles = menu.addAction(tr("Leave out the outermost &2 % of the values"), this, [this](bool leavesOut) {
     changeSettings([leavesOut](PlotSettings &settings) { settings.quantileBounds = leavesOut; });
   });
   quantiles->setCheckable(true);
-  quantiles->setChecked(m_plot.settings().quantileBounds);
+  quantiles->setChecked(m_drawing.settings.quantileBounds);
   QAction *dims = menu.addAction(tr("&Dim what is not selected"), this, [this](bool isDimmed) {
     changeSettings([isDimmed](PlotSettings &settings) { settings.dimsRest = isDimmed; });
   });
   dims->setCheckable(true);
-  dims->setChecked(m_plot.settings().dimsRest);
+  dims->setChecked(m_drawing.settings.dimsRest);
   menu.addSeparator();
-  menu.addAction(tr("Configure &drawing …"), &m_plot, &NetPlot::drawConfigurationRequested);
+  menu.addAction(tr("Configure &drawing …"), this, &CanvasLegend::configurationWanted);
 }

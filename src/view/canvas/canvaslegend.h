@@ -8,17 +8,31 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
+
 class LegendView;
-class NetPlot;
+class NetUpdate;
+class PlotZoom;
 class QAction;
 class QMenu;
+class QwtFastPlot;
+struct PlotSettings;
 
 /// The legend inside the canvas of a plot: what it says, where it stands, and what can be chosen at it. Which corner, and
 /// whether it is shown, the plot settings say. It goes before the plot does.
 class CanvasLegend : public QObject {
   Q_OBJECT
 public:
-  explicit CanvasLegend(NetPlot &plot);
+  /// What it is the legend of; all of it lives longer.
+  struct Drawing {
+    QwtFastPlot &plot;
+    const PlotZoom &zoomer;
+    const PlotSettings &settings;
+    const NetUpdate &update;
+    std::function<QRectF()> taken; ///< where something else stands on the canvas, px; empty for nowhere
+  };
+
+  explicit CanvasLegend(Drawing drawing);
   ~CanvasLegend() override;
 
   /// Which case and scenario are shown.
@@ -36,6 +50,11 @@ public:
   /// Leaves it out of pictures of the canvas that are moved in its place.
   void setIsLeftOut(bool isLeftOut);
 
+signals:
+  void settingsWanted(const PlotSettings &settings); ///< by what a person chose
+  void configurationWanted();
+  void entered(); ///< by the mouse
+
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -47,7 +66,7 @@ private:
   void addCorners(QMenu &menu);
   void addColors(QMenu &menu);
 
-  NetPlot &m_plot;
+  Drawing m_drawing;
   LegendPicture m_picture;
   LegendItem m_item;
   LegendView *m_view; ///< belongs to the canvas

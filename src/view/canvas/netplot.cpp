@@ -42,7 +42,10 @@ NetPlot::NetPlot(QWidget *parent, Told told)
     , m_panner(new PlotPanner(*m_plot))
     , m_update(std::make_unique<NetUpdate>(
           m_settings, [this] { return view(); }, m_told))
-    , m_canvasLegend(std::make_unique<CanvasLegend>(*this))
+    , m_canvasLegend(std::make_unique<CanvasLegend>(CanvasLegend::Drawing{*m_plot, *m_zoomer, m_settings, *m_update,
+                                                                          [this] {
+                                                                            return functionLegendArea();
+                                                                          }}))
     , m_smoothZoom(new SmoothZoom(*m_zoomer)) {
   constexpr int SmallestSide = 200;
   constexpr double GridZ = 1.0;
@@ -51,6 +54,7 @@ NetPlot::NetPlot(QWidget *parent, Told told)
   setUpUpdate();
   setUpPanner();
   setUpZoom();
+  setUpLegend();
   m_grid.setZ(GridZ);
   m_grid.attach(m_plot);
   m_legend.setZ(LegendZ);
@@ -98,6 +102,29 @@ void NetPlot::setUpUpdate() {
   connect(m_update.get(), &NetUpdate::changed, this, [this] {
     m_selection.forgetPicture();
     m_plot->replot();
+  });
+}
+
+void NetPlot::setUpLegend() {
+  connect(m_canvasLegend.get(), &CanvasLegend::configurationWanted, this, &NetPlot::drawConfigurationRequested);
+  connect(m_canvasLegend.get(), &CanvasLegend::entered, this, [this] {
+    if (m_selection.setHovered(std::nullopt))
+      m_plot->updateOverlay();
+  });
+  connect(m_canvasLegend.get(), &CanvasLegend::settingsWanted, this, [this](const PlotSettings &settings) {
+    PlotSettings ofElements = settings; // what changes how elements look
+    ofElements.showsLegend = m_settings.showsLegend;
+    ofElements.legendCorner = m_settings.legendCorner;
+    ofElements.dimsRest = m_settings.dimsRest;
+    const bool isNewLook = ofElements != m_settings;
+    setSettings(settings);
+    if (isNewLook)
+      m_update->updatePlot();
+    else
+      m_canvasLegend->refresh();
+    m_plot->updateOverlay();
+    m_update->requestPixtest(0); // labels keep away from the legend
+    emit settingsChanged();
   });
   m_plot->setLeftOut([this](bool isLeftOut) { m_canvasLegend->setIsLeftOut(isLeftOut); });
 }

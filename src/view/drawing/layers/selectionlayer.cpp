@@ -91,7 +91,7 @@ QColor SelectionLayer::ink() const {
 /// Each step replaces what the one before left, so that nothing transparent lies twice on one spot; the last one opens the
 /// view on the elements as they are drawn.
 QPixmap SelectionLayer::paint(const Projection &projection, double pixelRatio) const {
-  constexpr int VeilAlpha = 150;
+  constexpr int VeilAlpha = 125;
   constexpr std::size_t ManyMarks = 4000; // outlines of so many would show nothing but ink
   ElementMarks::Drawing drawing{m_geometry, m_layers, m_edgeWidths, m_nodeSize, m_symbolSize, m_subnetFactor};
   ElementMarks elements(drawing, projection);
@@ -166,6 +166,6 @@ void SelectionLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtS
       m_picture = Picture{projection, ratio, paint(projection, ratio)};
     painter->drawPixmap(canvasRect, m_picture->pixels, m_picture->pixels.rect());
   }
-  if (m_hovered)
+  if (m_hovered && std::find(m_items.begin(), m_items.end(), *m_hovered) == m_items.end()) // which is marked already
     drawHovered(*painter, projection);
 }

@@ -1,9 +1,13 @@
 #pragma once
 
 #include <drawing/legendcontents.h>
-#include <drawing/legendpicture.h>
 
+#include <QColor>
+#include <QFont>
 #include <QFontMetricsF>
+#include <QPainter>
+
+#include <functional>
 
 /// How the texts of a legend look.
 struct LegendStyle {

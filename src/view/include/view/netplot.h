@@ -83,6 +83,7 @@ protected:
 private:
   void showHint();
   void setUpUpdate();
+  void setUpLegend();
   NetUpdate::View view() const;
   void placeLegend();
   void showAxes();
