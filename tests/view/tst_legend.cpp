@@ -80,6 +80,8 @@ void TestLegend::saysWhatIsDrawn() {
                       [](const ColorScale::Swatch &swatch) { return swatch.text == QLatin1String("off"); }));
   QVERIFY(viewOf(f).isVisible());
   QVERIFY(!f.plot().plot()->axisEnabled(QwtPlot::yRight)); // no bar as high as the window
+  f.control.clear();
+  QVERIFY(!viewOf(f).isVisible());
 }
 
 void TestLegend::nodesHaveTheirOwnScale() {

@@ -39,5 +39,10 @@ void CanvasOverlay::drawOverlay(QPainter *painter) const {
   painter->setRenderHint(QPainter::Antialiasing);
   m_item->draw(painter, m_plot.canvasMap(QwtPlot::xBottom), m_plot.canvasMap(QwtPlot::yLeft),
                m_plot.canvas()->contentsRect());
-  m_itemTime = static_cast<double>(timer.nsecsElapsed()) * MillisecondsPerNanosecond;
+  const double time = static_cast<double>(timer.nsecsElapsed()) * MillisecondsPerNanosecond;
+  const QRectF view(m_plot.canvasMap(QwtPlot::xBottom).s1(), m_plot.canvasMap(QwtPlot::yLeft).s1(),
+                    m_plot.canvasMap(QwtPlot::xBottom).sDist(), m_plot.canvasMap(QwtPlot::yLeft).sDist());
+  if (view != m_itemView || time > m_itemTime) // of a view that it knows already an item may keep a picture
+    m_itemTime = time;
+  m_itemView = view;
 }

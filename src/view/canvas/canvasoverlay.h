@@ -21,7 +21,7 @@ public:
   /// Where the picture belongs in the present view, in pixels of the canvas.
   QRectF pictureArea() const;
 
-  /// Of the last drawing of the item, in milliseconds.
+  /// What drawing the item takes in a view that it has not drawn before, in milliseconds.
   double itemTime() const { return m_itemTime; }
 
 protected:
@@ -34,4 +34,5 @@ private:
   QRectF m_pictureView; ///< in plot coordinates
   bool m_pictureHasItem = false;
   mutable double m_itemTime = 0.0;
+  mutable QRectF m_itemView; ///< in which it was drawn last
 };

@@ -117,8 +117,10 @@ QPixmap SelectionLayer::paint(const Projection &projection, double pixelRatio) c
   };
   if (isCrowd) {
     constexpr double NarrowHalo = 1.5; // px
+    QColor tint = m_element.halo;      // where all is selected, nothing else would tell it
+    tint.setAlpha(tint.alpha() / 3);
     elements.draw(painter, m_element.halo, NarrowHalo, Qt::FlatCap);
-    elements.draw(painter, Qt::transparent, 0.0, Qt::FlatCap);
+    elements.draw(painter, tint, 0.0, Qt::FlatCap);
   } else {
     surround(elements, m_element);
   }
