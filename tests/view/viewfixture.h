@@ -45,8 +45,7 @@ struct ViewFixture {
     settings.colorScalePos = QwtPlot::yRight;
     settings.legendPos = BottomLeft;
     plot().setSettings(settings);
-    plot().update().setNetData(&net); // laid out and fitted with its scale, as at an opening
-    plot().showNetwork();
+    plot().update().updatePlot();
   }
   QImage picture() { return plot().grab().toImage(); }
 
