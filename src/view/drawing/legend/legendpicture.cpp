@@ -58,7 +58,8 @@ void LegendPicture::setContents(const LegendContents &contents, const QColor &gr
   m_size = QSizeF();
   if (contents.isEmpty())
     return;
-  if (!contents.caption.isEmpty())
+  m_hasCaption = !contents.caption.isEmpty();
+  if (m_hasCaption)
     m_blocks.push_back(std::make_unique<LegendCaption>(style, contents.caption));
   for (const LegendContents::Scale &scale : contents.scales)
     m_blocks.push_back(std::make_unique<LegendBar>(style, scale));
@@ -73,19 +74,25 @@ void LegendPicture::setContents(const LegendContents &contents, const QColor &gr
 }
 
 void LegendPicture::fitInto(const QSizeF &room) {
+  constexpr double NarrowestBlock = 110.0; // px: in less a scale says nothing
+  const double widest = std::min(WidestBlock, room.width() - 2.0 * Margin);
   double width = 0.0;
   double height = 2.0 * Margin - Apart;
   m_shown = 0;
   m_size = QSizeF();
   for (const std::unique_ptr<LegendBlock> &block : m_blocks) {
-    block->limit(std::min(WidestBlock, room.width() - 2.0 * Margin));
+    block->limit(widest);
     const QSizeF size = block->size();
     height += size.height() + Apart;
     width = std::max(width, size.width() + 2.0 * Margin);
-    if (height > room.height() || width > room.width())
-      return;
+    if (height > room.height() || width > room.width() || widest < NarrowestBlock)
+      break;
     ++m_shown;
     m_size = QSizeF(std::ceil(width), std::ceil(height));
+  }
+  if (m_shown == 1 && m_hasCaption) { // which would be the name of nothing
+    m_shown = 0;
+    m_size = QSizeF();
   }
 }
 

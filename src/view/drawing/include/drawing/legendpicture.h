@@ -34,7 +34,8 @@ public:
 
 private:
   std::vector<std::unique_ptr<LegendBlock>> m_blocks;
-  std::size_t m_shown = 0; ///< blocks that fit
+  bool m_hasCaption = false; ///< as the first block
+  std::size_t m_shown = 0;   ///< blocks that fit
   QSizeF m_size;
   QColor m_ground;
 };
