@@ -180,6 +180,7 @@ void labelPass(benchmark::State &state) {
     settings.symMag = 0;
     settings.colorScalePos = 0;
     settings.legendPos = 0;
+    settings.showsLegend = false;
   }
   scene.plot().setSettings(settings);
   scene.plot().update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);

@@ -15,8 +15,8 @@ colorFunc=p
 widthFunc=diameter
 nodeColorFunc=p
 nodeSizeFunc=--- fixed ---
-colorScalePos=1
-legendPos=2
+colorScalePos=0
+legendPos=0
 gridMajorColor=#c0c0c0
 gridMinorColor=#d3d3d3
 absColor=false
@@ -63,6 +63,10 @@ lastColor=0
 edgeColorInactive=#a0a0a4
 edgeShowFlow=q
 edgeColorNoFlow=#808080
+
+[drawing]
+colorRamp=plasma
+legend=true
 """
 
 

@@ -91,6 +91,7 @@ bool BatchRun::open(const QString &file, bool isDrawn) {
   constexpr int ShownHeight = 900;
   m_control.plot()->resize(ShownWidth, ShownHeight);
   m_control.setSubnetIcons(m_loader.templateFolder());
+  m_control.setCaption(m_loader.workspace().caption());
   showCase();
   m_control.plot()->grab();
   m_times.end(QStringLiteral("draw"));

@@ -351,6 +351,7 @@ bool NivraViewer::readWorkspace() {
   if (!done)
     m_net.clear(); // half a network would look like a whole one
   m_control->setSubnetIcons(m_loader.templateFolder());
+  m_control->setCaption(m_loader.workspace().caption());
   m_control->showNetData(m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
   setBusy(false);
   return done;

@@ -28,6 +28,7 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
   setWindowTitle(tr("Subassembly %1").arg(subnet));
   setCentralWidget(m_control->plot());
   resize(Size);
+  m_control->setCaption(workspace.caption() + QStringLiteral(" · ") + subnet);
   m_control->showNetData(workspace.filePath(QStringLiteral("plotsettings.ini")));
   m_control->plot()->setFocus();
   m_tools->refresh(workspace);

@@ -171,6 +171,13 @@ QString NivraWorkspace::caseDirectory() const {
   return m_cases.isEmpty() ? QString() : m_root + QLatin1Char('/') + m_cases.last().name;
 }
 
+QString NivraWorkspace::caption() const {
+  QString text = m_cases.isEmpty() ? QString() : m_cases.last().name;
+  if (hasScenario())
+    text += QStringLiteral(" · ") + currentScenario()->workDir;
+  return text;
+}
+
 QString NivraWorkspace::geometryPath() const {
   return m_cases.isEmpty() ? QString() : filePath(m_cases.last().geometryFile);
 }

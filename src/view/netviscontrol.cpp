@@ -1,3 +1,4 @@
+#include "canvas/canvaslegend.h"
 #include "canvas/qwtfastplot.h"
 #include "configure/plotsettingsfile.h"
 #include "interaction/plotmenu.h"
@@ -68,6 +69,7 @@ void NetVisControl::clear() {
   m_picker->reset();
   m_plot->selection().setGeometry(nullptr);
   m_plot->update().setNetData(nullptr);
+  m_plot->canvasLegend().refresh();
   m_plot->plot()->replot();
 }
 

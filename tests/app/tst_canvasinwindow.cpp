@@ -53,7 +53,7 @@ private:
     return QTest::qWaitFor([&] { return canvas->size() != before; }, 5000);
   }
   static bool legendIsInItsCorner(NetPlot &plot) {
-    const QRectF area = plot.legendArea();
+    const QRectF area = plot.functionLegendArea();
     return std::abs(area.left() - 10.0) < 2.0 && std::abs(area.top() - 10.0) < 2.0;
   }
   static void showLegend(NetPlot &plot) {

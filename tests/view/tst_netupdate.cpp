@@ -57,6 +57,8 @@ private slots:
   void constantHasItsOwnColour();
   void noiseIsOneColour();
   void ticksTellThemselvesApart();
+  void openBoundsLeaveOutliers_data();
+  void openBoundsLeaveOutliers();
   void divergingKeepsFixedBounds();
   void valuesOfTheEnds();
   void drivesStretchNoScale();
@@ -140,7 +142,7 @@ void TestNetUpdate::fixedBounds() {
   const QImage picture = f.picture();
   QVERIFY(isNear(picture.pixelColor(f.pixel(125, 0)), hue(240)));
   QVERIFY(
-      isNear(picture.pixelColor(f.pixel(25, 0)), QColor(hue(240)).darker(160))); // 25 bar lie below, as the scale's cap says
+      isNear(picture.pixelColor(f.pixel(25, 0)), QColor(hue(240)).darker(140))); // 25 bar lie below, as the scale's cap says
   QVERIFY(f.plot().plot()->axisInterval(QwtPlot::yRight).minValue() < 35);
   QVERIFY(f.plot().plot()->axisInterval(QwtPlot::yRight).maxValue() > 45); // CD
   settings.functions[Aspect::EdgeColor].minimum = 1e6;                     // longer numbers need more room, at once
@@ -342,6 +344,52 @@ void TestNetUpdate::ticksTellThemselvesApart() {
     }
     QCOMPARE(texts.size(), ticks.size());
   }
+}
+
+void TestNetUpdate::openBoundsLeaveOutliers_data() {
+  QTest::addColumn<int>("count");
+  QTest::addColumn<double>("outlier");
+  QTest::addColumn<double>("low");
+  QTest::addColumn<double>("high");
+  // Values 1001, 1002, 1003 … and one far away.
+  QTest::newRow("two in a hundred at either end") << 200 << 1e6 << 1005.0 << 1196.0;
+  QTest::newRow("few values") << 40 << 1e6 << 1001.0 << 1e6;
+  QTest::newRow("below") << 200 << 1.0 << 1004.0 << 1195.0;
+}
+
+void TestNetUpdate::openBoundsLeaveOutliers() {
+  QFETCH(int, count);
+  QFETCH(double, outlier);
+  QFETCH(double, low);
+  QFETCH(double, high);
+  ViewFixture f;
+  f.net.clear();
+  for (int i = 0; i < count; ++i)
+    f.addNode(qPrintable(QStringLiteral("n%1").arg(i)), qPrintable(QString::number(i)), "0",
+              qPrintable(QString::number(i == 0 ? outlier : 1000 + i)));
+  f.add(makeEdge("e", "n1", "n2"), {});
+  f.showAtFirst();
+  const DrawValues::Column &nodes = f.plot().update().values().of(Aspect::NodeColor);
+  QCOMPARE(nodes.data, outlier > 1000.0 ? QwtInterval(1001, outlier) : QwtInterval(outlier, 999 + count));
+  QCOMPARE(nodes.range, QwtInterval(low, high));
+
+  PlotSettings settings = f.plot().settings(); // what a person fixes stays, and so do bounds of settings that say nothing
+  settings.functions[Aspect::NodeColor].minimum = -3.0;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot();
+  QCOMPARE(nodes.range, QwtInterval(-3.0, high));
+  settings.functions[Aspect::NodeColor].minimum = PlotSettings::OpenMinimum;
+  settings.quantileBounds = false;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot();
+  QCOMPARE(nodes.range, nodes.data);
+  f.show(); // of one value and one outlier, the outlier has a colour of its own
+  f.net.forEach(NetData::Node, [](element &e) { e.set(QStringLiteral("p"), QStringLiteral("7")); });
+  f.net.element(QStringLiteral("n0"))->set(QStringLiteral("p"), QStringLiteral("9"));
+  settings.quantileBounds = true;
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot();
+  QCOMPARE(nodes.range, QwtInterval(7, 9));
 }
 
 void TestNetUpdate::divergingKeepsFixedBounds() {

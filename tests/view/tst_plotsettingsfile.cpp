@@ -18,6 +18,10 @@ PlotSettings unusual() {
   s.functions[Aspect::NodeSize].name = QStringLiteral("qset");
   s.colorScalePos = 3;
   s.legendPos = 4;
+  s.quantileBounds = true;
+  s.showsLegend = true;
+  s.legendCorner = QStringLiteral("top right");
+  s.dimsRest = false;
   s.nodeMag = 9;
   s.edgeMag = 2.25;
   s.edgeConst = 0.1;

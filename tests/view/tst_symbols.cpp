@@ -5,6 +5,7 @@
 #include <drawing/stationsymbols.h>
 #include <support/nivratest.h>
 
+#include <QAction>
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
@@ -386,6 +387,7 @@ void TestSymbols::figuresTakeTheirRoom() {
     node.set(QStringLiteral("figure.width"), QStringLiteral("120"));
     f.plot().show();
     f.control.showNetData(m_folder.filePath(QStringLiteral("plotsettings.ini")));
+    f.plot().legendAction()->setChecked(false); // it may stand before what is looked for
     QWidget *canvas = f.plot().plot()->canvas();
     const QPoint center = canvas->mapFrom(&f.plot(), f.pixel(100, 50));
     const auto isHit = [&](const QPoint &aside) {

@@ -554,7 +554,7 @@ void TestViewFuncDialog::boundOutsideTheDataIsTold() {
   QCOMPARE(minimum->text(), QStringLiteral("100")); // and it holds:
   QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].minimum, 100.0);
   QVERIFY(f.plot().plot()->axisInterval(QwtPlot::yRight).maxValue() > 100);
-  const QColor beyond = QColor::fromHsv(240, 255, 215).darker(160);
+  const QColor beyond = QColor::fromHsv(240, 255, 215).darker(140);
   const QColor drawn = f.picture().pixelColor(f.pixel(25, 0));
   QVERIFY2(qAbs(drawn.blue() - beyond.blue()) < 8 && drawn.red() < 8, qPrintable(drawn.name()));
 }

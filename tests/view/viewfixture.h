@@ -32,7 +32,21 @@ struct ViewFixture {
   }
 
   NetPlot &plot() { return *control.plot(); }
-  void show() { control.showNetData(QStringLiteral("/nowhere/plotsettings.ini")); }
+  /// As a case without settings is shown.
+  void showAtFirst() { control.showNetData(QStringLiteral("/nowhere/plotsettings.ini")); }
+  /// The same functions as settings of old ask for them: hues from blue to red over all values, their scale at the right.
+  void show() {
+    showAtFirst();
+    constexpr int BottomLeft = 2;
+    PlotSettings settings = plot().settings();
+    settings.colorRamp = PlotSettings::hueRamp();
+    settings.quantileBounds = false;
+    settings.showsLegend = false;
+    settings.colorScalePos = QwtPlot::yRight;
+    settings.legendPos = BottomLeft;
+    plot().setSettings(settings);
+    plot().update().updatePlot();
+  }
   QImage picture() { return plot().grab().toImage(); }
 
   /// The pixel of a place given in plot coordinates, seen from the net plot's corner.

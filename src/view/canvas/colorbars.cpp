@@ -1,6 +1,6 @@
 #include "canvas/colorbars.h"
 
-#include <model/displayformat.h>
+#include <drawing/scaleticks.h>
 
 #include <QCoreApplication>
 #include <qwt_scale_div.h>
@@ -9,7 +9,6 @@
 #include <qwt_text.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -22,19 +21,7 @@ class TickLabels : public QwtScaleDraw {
 public:
   QwtText label(double value) const override {
     const QList<double> ticks = scaleDiv().ticks(QwtScaleDiv::MajorTick);
-    if (ticks.size() < 2)
-      return QwtText(DisplayFormat::number(value), QwtText::PlainText);
-    const double step = std::abs(ticks.at(1) - ticks.at(0));
-    const double largest = std::max(std::abs(ticks.first()), std::abs(ticks.last()));
-    constexpr double Rounding = 1e-6; // of a step: what is less is zero
-    constexpr int MaximumDigits = 15; // of a number
-    const double exponent = std::floor(std::log10(step) + Rounding);
-    const double shown = std::abs(value) < step * Rounding ? 0.0 : value;
-    const double digits = std::floor(std::log10(std::max(largest, step))) - exponent + 1.0;
-    if (exponent < -9.0 || largest >= 1e15) // such numbers are written with powers of ten
-      return QwtText(DisplayFormat::number(shown, static_cast<int>(qBound(1.0, digits, double(MaximumDigits)))),
-                     QwtText::PlainText);
-    return QwtText(DisplayFormat::fixed(shown, static_cast<int>(std::max(0.0, -exponent))), QwtText::PlainText);
+    return QwtText(ScaleTicks::text(value, {ticks.begin(), ticks.end()}), QwtText::PlainText);
   }
 };
 

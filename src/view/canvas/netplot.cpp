@@ -1,3 +1,4 @@
+#include "canvas/canvaslegend.h"
 #include "canvas/colorbars.h"
 #include "canvas/plotpanner.h"
 #include "canvas/qwtfastplot.h"
@@ -41,6 +42,10 @@ NetPlot::NetPlot(QWidget *parent, Told told)
     , m_panner(new PlotPanner(*m_plot))
     , m_update(std::make_unique<NetUpdate>(
           m_settings, [this] { return view(); }, m_told))
+    , m_canvasLegend(std::make_unique<CanvasLegend>(CanvasLegend::Drawing{*m_plot, *m_zoomer, m_settings, *m_update,
+                                                                          [this] {
+                                                                            return functionLegendArea();
+                                                                          }}))
     , m_smoothZoom(new SmoothZoom(*m_zoomer)) {
   constexpr int SmallestSide = 200;
   constexpr double GridZ = 1.0;
@@ -49,6 +54,7 @@ NetPlot::NetPlot(QWidget *parent, Told told)
   setUpUpdate();
   setUpPanner();
   setUpZoom();
+  setUpLegend();
   m_grid.setZ(GridZ);
   m_grid.attach(m_plot);
   m_legend.setZ(LegendZ);
@@ -58,6 +64,7 @@ NetPlot::NetPlot(QWidget *parent, Told told)
   m_hint.attach(m_plot);
   m_hint.hide();
   m_selection.setFilter(&m_update->layers());
+  m_selection.setEdgeWidths(&m_update->edgeWidths());
   m_selection.attach(m_plot);
   m_plot->setOverlayItem(&m_selection);
   applyColors();
@@ -88,8 +95,38 @@ void NetPlot::setUpUpdate() {
     showAxes();
   });
   connect(m_update.get(), &NetUpdate::extentChanged, this, &NetPlot::fitNetwork);
-  connect(m_update.get(), &NetUpdate::legendChanged, this, &NetPlot::placeLegend);
-  connect(m_update.get(), &NetUpdate::changed, m_plot, &QwtFastPlot::replot);
+  connect(m_update.get(), &NetUpdate::legendChanged, this, [this] {
+    placeLegend();
+    m_canvasLegend->refresh();
+  });
+  connect(m_update.get(), &NetUpdate::changed, this, [this] {
+    m_selection.forgetPicture();
+    m_plot->replot();
+  });
+}
+
+void NetPlot::setUpLegend() {
+  connect(m_canvasLegend.get(), &CanvasLegend::configurationWanted, this, &NetPlot::drawConfigurationRequested);
+  connect(m_canvasLegend.get(), &CanvasLegend::entered, this, [this] {
+    if (m_selection.setHovered(std::nullopt))
+      m_plot->updateOverlay();
+  });
+  connect(m_canvasLegend.get(), &CanvasLegend::settingsWanted, this, [this](const PlotSettings &settings) {
+    PlotSettings ofElements = settings; // what changes how elements look
+    ofElements.showsLegend = m_settings.showsLegend;
+    ofElements.legendCorner = m_settings.legendCorner;
+    ofElements.dimsRest = m_settings.dimsRest;
+    const bool isNewLook = ofElements != m_settings;
+    setSettings(settings);
+    if (isNewLook)
+      m_update->updatePlot();
+    else
+      m_canvasLegend->refresh();
+    m_plot->updateOverlay();
+    m_update->requestPixtest(0); // labels keep away from the legend
+    emit settingsChanged();
+  });
+  m_plot->setLeftOut([this](bool isLeftOut) { m_canvasLegend->setIsLeftOut(isLeftOut); });
 }
 
 NetUpdate::View NetPlot::view() const {
@@ -97,7 +134,7 @@ NetUpdate::View NetPlot::view() const {
       m_plot->visibleRect(),
       m_plot->unitsPerPixel(),
       Projection(m_plot->canvasMap(QwtPlot::xBottom), m_plot->canvasMap(QwtPlot::yLeft), m_plot->canvas()->contentsRect()),
-      legendArea(),
+      {functionLegendArea(), m_canvasLegend->area()},
       m_zoomer->limits().largest,
       m_showsSubnet};
 }
@@ -178,6 +215,7 @@ bool NetPlot::pansWith(Qt::MouseButton button, Qt::KeyboardModifiers keys) const
 void NetPlot::setSettings(const PlotSettings &settings) {
   m_settings = settings;
   m_selection.setSizes(m_settings.nodeMag, m_settings.symMag);
+  m_selection.setGround(m_settings.bgrColor, m_settings.dimsRest);
   applyColors();
 }
 
@@ -194,11 +232,10 @@ bool NetPlot::writePlotSettings(const QString &path, QString *error) const {
 }
 
 void NetPlot::applyColors() {
-  constexpr int Dark = 128;
   m_plot->setCanvasBackground(m_settings.bgrColor);
   // The scales stand on the colour of the drawing, without a frame between them.
   QPalette colors = m_plot->palette();
-  const QColor ink = m_settings.bgrColor.lightness() < Dark ? Qt::white : Qt::black;
+  const QColor ink = ColorScale::isDark(m_settings.bgrColor) ? Qt::white : Qt::black;
   colors.setColor(QPalette::Window, m_settings.bgrColor);
   colors.setColor(QPalette::WindowText, ink);
   colors.setColor(QPalette::Text, ink);
@@ -326,7 +363,15 @@ void NetPlot::placeLegend() {
   m_plot->replot();
 }
 
-QRectF NetPlot::legendArea() const {
+QAction *NetPlot::legendAction() const {
+  return m_canvasLegend->action();
+}
+
+void NetPlot::setCaption(const QString &caption) {
+  m_canvasLegend->setCaption(caption);
+}
+
+QRectF NetPlot::functionLegendArea() const {
   if (!m_legend.isVisible())
     return QRectF();
   QRectF area(QPointF(), m_legendSize);

@@ -15,5 +15,5 @@ bool PlotPanner::eventFilter(QObject *watched, QEvent *event) {
 }
 
 QPixmap PlotPanner::grab() const {
-  return m_plot.canvas()->grab(m_plot.canvas()->contentsRect());
+  return m_plot.grabDrawing();
 }

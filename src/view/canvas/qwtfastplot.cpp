@@ -52,9 +52,19 @@ void QwtFastPlot::freeze() {
   constexpr double QuickEnough = 8.0; // ms, half of what a fluid movement leaves for a frame
   if (isFrozen() || m_frameTime < QuickEnough)
     return;
-  m_overlay->hide(); // what lies on it follows the view by itself
-  m_overlay->setPicture(canvas()->grab(), visibleRect());
+  const bool isQuick = m_overlay->itemTime() < QuickEnough;
+  m_overlay->setVisible(!isQuick); // what lies on it follows the view by itself, else it is moved with the picture
+  m_overlay->setPicture(grabDrawing(), visibleRect(), !isQuick);
   m_overlay->show();
+}
+
+QPixmap QwtFastPlot::grabDrawing() {
+  if (m_leftOut)
+    m_leftOut(true);
+  QPixmap drawing = canvas()->grab(canvas()->contentsRect());
+  if (m_leftOut)
+    m_leftOut(false);
+  return drawing;
 }
 
 bool QwtFastPlot::isFrozen() const {

@@ -3,6 +3,8 @@
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
 
+#include <functional>
+
 class CanvasOverlay;
 
 /// The plot area of the network: a plot without frame, title or automatic replot. Over its canvas lies what changes more
@@ -22,6 +24,10 @@ public:
   /// The scales below and at the left keep the room that their numbers once took, lest the canvas jump while the view moves.
   void forgetScaleRoom();
 
+  /// What leaves the legend and the like out of pictures of the canvas, and takes them in again.
+  void setLeftOut(std::function<void(bool isLeftOut)> leftOut) { m_leftOut = std::move(leftOut); }
+  /// The canvas without what stands still while the view moves.
+  QPixmap grabDrawing();
   /// An item to paint over the canvas, whether it is visible or not; it must outlive the plot's painting.
   void setOverlayItem(const QwtPlotItem *item);
   void updateOverlay();
@@ -44,5 +50,6 @@ private:
   void keepScaleRoom();
 
   CanvasOverlay *m_overlay = nullptr;
+  std::function<void(bool isLeftOut)> m_leftOut;
   double m_frameTime = 0.0;
 };

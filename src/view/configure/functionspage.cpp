@@ -113,6 +113,10 @@ QString FunctionsPage::noteOn(const DrawValues::Column &values, const PlotSettin
   QString reach = tr("The data reach from %1 to %2%3.")
                       .arg(DisplayFormat::number(toDisplay(values.data.minValue())),
                            DisplayFormat::number(toDisplay(values.data.maxValue())), unit);
+  if (values.open != values.data)
+    reach += QLatin1Char(' ') + tr("Without 2 % at either end from %1 to %2%3.")
+                                    .arg(DisplayFormat::number(toDisplay(values.open.minValue())),
+                                         DisplayFormat::number(toDisplay(values.open.maxValue())), unit);
   const bool hasMinimum = function.minimum != PlotSettings::OpenMinimum;
   const bool hasMaximum = function.maximum != PlotSettings::OpenMaximum;
   if (hasMinimum && function.minimum > values.data.maxValue())

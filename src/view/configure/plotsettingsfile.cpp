@@ -136,6 +136,10 @@ void visitDrawing(Settings &s, Visitor &v) {
   v.optional("classBreaks", s.classBreaks);
   visitTypedBounds(s, v);
   v.optional("showGrid", s.showGrid);
+  v.optional("quantileBounds", s.quantileBounds);
+  v.optional("legend", s.showsLegend);
+  v.optional("legendCorner", s.legendCorner);
+  v.optional("dimRest", s.dimsRest);
 }
 
 template <typename Settings, typename Visitor>

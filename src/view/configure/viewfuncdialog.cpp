@@ -1,3 +1,4 @@
+#include "canvas/legendplace.h"
 #include "configure/breaktexts.h"
 #include "configure/colorbutton.h"
 #include "configure/functionspage.h"
@@ -46,6 +47,7 @@ viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
   m_functions->offerFunctions();
   refresh();
   limitWidth();
+  connect(&m_plot, &NetPlot::settingsChanged, this, &viewFuncDialog::followPlot);
 }
 
 viewFuncDialog::~viewFuncDialog() = default;
@@ -65,10 +67,8 @@ void viewFuncDialog::showEvent(QShowEvent *event) {
 }
 
 void viewFuncDialog::fillChoices() {
-  m_ui->colorRamp->addItem(tr("hues of your choice"), ColorRamp::names().at(0));
-  m_ui->colorRamp->addItem(tr("viridis (even steps)"), ColorRamp::names().at(1));
-  m_ui->colorRamp->addItem(tr("cividis (also for colour-blind eyes)"), ColorRamp::names().at(2));
-  m_ui->colorRamp->addItem(tr("blue, grey, red about zero"), ColorRamp::names().at(3));
+  for (const QString &ramp : ColorRamp::names())
+    m_ui->colorRamp->addItem(ColorRamp::title(ColorRamp::kindOf(ramp)), ramp);
   m_ui->classMethod->addItem(tr("none, a smooth scale"), QString());
   m_ui->classMethod->addItem(tr("equal intervals"), PlotSettings::equalClasses());
   m_ui->classMethod->addItem(tr("as many elements in each"), PlotSettings::quantileClasses());
@@ -76,6 +76,10 @@ void viewFuncDialog::fillChoices() {
   m_ui->colorScalePos->addItems({tr("not shown"), tr("at the top"), tr("on the right")});
   m_ui->legendPos->addItems({tr("not shown"), tr("upper left corner"), tr("lower left corner"), tr("upper right corner"),
                              tr("lower right corner")});
+  m_ui->legendCorner->addItem(tr("not shown"), QString());
+  m_ui->legendCorner->addItem(tr("where it hides least"), PlotSettings::automaticCorner());
+  for (int i = 0; i < LegendPlace::names().size(); ++i)
+    m_ui->legendCorner->addItem(LegendPlace::title(static_cast<LegendPlace::Corner>(i)), LegendPlace::names().at(i));
   for (const QString &mode :
        {QStringLiteral("no label"), QStringLiteral("name only"), QStringLiteral("selected properties")})
     m_ui->label_mode->addItem(mode, mode);
@@ -92,6 +96,8 @@ void viewFuncDialog::bindScale() {
   m_fields->bind(*ui->lightness, &S::lightness);
   m_fields->bind(*ui->logFactor, &S::logFactor);
   bindBreaks();
+  m_fields->bind(*ui->quantileBounds, &S::quantileBounds);
+  bindLegend();
   m_fields->bind<QString>(
       &S::classMethod,
       [ui](const S &s) {
@@ -147,6 +153,25 @@ void viewFuncDialog::changeUnits() {
   showBreaks(breaks);
 }
 
+/// One field for whether the legend is shown and for where it stands.
+void viewFuncDialog::bindLegend() {
+  using S = PlotSettings;
+  Ui::viewFuncDialog *ui = m_ui.get();
+  m_fields->bind<bool>(
+      &S::showsLegend,
+      [ui](const S &s) {
+        const int corner = ui->legendCorner->findData(s.legendCorner);
+        ui->legendCorner->setCurrentIndex(!s.showsLegend ? 0 : std::max(1, corner));
+      },
+      [ui] { return ui->legendCorner->currentIndex() > 0; });
+  m_fields->bind<QString>(
+      &S::legendCorner, [](const S &) {},
+      [ui] {
+        const QString corner = ui->legendCorner->currentData().toString();
+        return corner.isEmpty() ? std::nullopt : std::make_optional(corner); // hidden it stays for the next time
+      });
+}
+
 void viewFuncDialog::bindSizes() {
   using S = PlotSettings;
   Ui::viewFuncDialog *ui = m_ui.get();
@@ -178,6 +203,7 @@ void viewFuncDialog::bindColors() {
   m_fields->bind(*m_ui->gridMajorColor, &S::gridMajorColor);
   m_fields->bind(*m_ui->gridMinorColor, &S::gridMinorColor);
   m_fields->bind(*m_ui->showGrid, &S::showGrid);
+  m_fields->bind(*m_ui->dimsRest, &S::dimsRest);
   for (const ColorButton *ofGrid : {m_ui->gridMajorColor, m_ui->gridMinorColor}) // nobody chooses a colour of what is hidden
     connect(ofGrid, &ColorButton::colorChosen, this, [this] { m_ui->showGrid->setChecked(true); });
 }
@@ -204,6 +230,14 @@ bool viewFuncDialog::hasUnapplied() const {
   PlotSettings settings = m_plot.settings();
   m_fields->readTouched(settings);
   return settings != m_plot.settings() || m_functions->isTouched() || m_labels->table() != m_plot.update().labelTable();
+}
+
+/// What was chosen in the drawing is shown here too, unless that would lose what was touched here.
+void viewFuncDialog::followPlot() {
+  PlotSettings touched = m_plot.settings();
+  m_fields->readTouched(touched);
+  if (touched == m_plot.settings())
+    m_fields->show(m_plot.settings());
 }
 
 bool viewFuncDialog::apply() {

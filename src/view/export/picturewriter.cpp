@@ -1,5 +1,6 @@
 #include "export/picturewriter.h"
 
+#include "canvas/canvaslegend.h"
 #include "canvas/qwtfastplot.h"
 #include "export/documentrenderer.h"
 
@@ -19,18 +20,23 @@ namespace {
 
 constexpr int DocumentDpi = 85;
 
-/// Documents do not show what lies over the canvas of the screen, so the plot draws the selection itself.
-class SelectionInDocument {
+/// Documents do not show what lies over the canvas of the screen, so the plot draws selection and legend itself.
+class MarksInDocument {
 public:
-  explicit SelectionInDocument(NetPlot &plot)
+  explicit MarksInDocument(NetPlot &plot)
       : m_plot(plot) {
-    m_plot.selection().setVisible(true);
+    show(true);
   }
-  ~SelectionInDocument() { m_plot.selection().setVisible(false); }
-  SelectionInDocument(const SelectionInDocument &) = delete;
-  SelectionInDocument &operator=(const SelectionInDocument &) = delete;
+  ~MarksInDocument() { show(false); }
+  MarksInDocument(const MarksInDocument &) = delete;
+  MarksInDocument &operator=(const MarksInDocument &) = delete;
 
 private:
+  void show(bool isShown) {
+    m_plot.selection().setVisible(isShown);
+    m_plot.canvasLegend().setIsInDocument(isShown);
+  }
+
   NetPlot &m_plot;
 };
 
@@ -65,7 +71,7 @@ bool PictureWriter::writePixels(QIODevice &device, const QByteArray &format, QSt
 }
 
 void PictureWriter::renderDocument(QPaintDevice &document) const {
-  const SelectionInDocument selection(m_plot);
+  const MarksInDocument marks(m_plot);
   QPainter painter(&document);
   painter.scale(m_scale, m_scale);
   DocumentRenderer().render(m_plot.plot(), &painter,

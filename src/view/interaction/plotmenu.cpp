@@ -1,5 +1,6 @@
 #include "interaction/plotmenu.h"
 
+#include "canvas/canvaslegend.h"
 #include "export/plotsaver.h"
 #include "interaction/plotzoom.h"
 
@@ -85,6 +86,7 @@ void PlotMenu::fill(QMenu &contextMenu, const State &state) {
   addView(contextMenu);
   addBookmarks(contextMenu, state.bookmarks);
   addLabels(contextMenu);
+  m_plot.canvasLegend().fillMenu(*contextMenu.addMenu(tr("Legend and colours")));
   contextMenu.addSeparator();
   contextMenu.addAction(tr("Configure drawing …"), this, &PlotMenu::configureDrawRequested)
       ->setEnabled(state.hasConfiguration);

@@ -45,6 +45,7 @@ public:
   const QString &chosenPath() const { return m_chosen; }
   QString caseDirectory() const;
   QString geometryPath() const;
+  QString caption() const;           ///< case and scenario in few words, for people
   QString scenarioDirectory() const; ///< empty without a scenario
   QString scenarioPath() const;      ///< empty without a scenario
   /// In the case directory when a case is open, the bare name otherwise.

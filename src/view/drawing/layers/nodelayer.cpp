@@ -145,3 +145,9 @@ void NodeLayer::drawStations(QPainter &painter, const std::vector<VisibleNode> &
         shapeAround(node.center, node.record->shape, std::max(SmallestStation, std::min(sizeOf(*node.record), largest))));
   }
 }
+
+void NodeLayer::drawKey(QPainter &painter, NetGeometry::NodeShape shape, const QPointF &center, double size) {
+  painter.setPen(QPen(QColor(Outline), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(QColor(Qt::lightGray));
+  painter.drawPolygon(shapeAround(center, shape, size));
+}

@@ -1,22 +1,35 @@
-#include "geometry/canvasgrid.h"
+#include "layers/elementmarks.h"
 
-#include <base/settings.h>
+#include <drawing/colorscale.h>
 #include <drawing/selectionlayer.h>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 namespace {
 
-constexpr double SelectionZ = 3000.0; // above everything
-constexpr double LineMargin = 8.0;    // px, width of the mark along a line
+constexpr double SelectionZ = 5.0; // in documents: below everything, that the elements stay as they are
 
-QColor colorOf(const Setting<QString> &name, const Setting<int> &alpha) {
+// What lies round a selected element, px, from its edge outwards.
+constexpr double Free = 1.0; // the element as it is drawn, and what belongs to its edge
+constexpr double Outline = 2.75;
+constexpr double Halo = 6.5;
+constexpr double Rim = 7.5;
+
+QColor colorOf(const Setting<QString> &name, int alpha) {
   constexpr int Opaque = 255;
   QColor color(name.value());
   if (!color.isValid())
     color = Qt::red;
-  color.setAlpha(qBound(0, alpha.value(), Opaque));
+  color.setAlpha(qBound(0, alpha, Opaque));
   return color;
+}
+
+/// How much of the ground a brush of the style covers; patterns are too coarse for a halo.
+double coverOf(int brushStyle) {
+  constexpr std::array<double, 9> Covers{0.0, 1.0, 0.94, 0.88, 0.63, 0.5, 0.37, 0.12, 0.06};
+  return Covers[static_cast<std::size_t>(qBound(0, brushStyle, int(Covers.size()) - 1))];
 }
 
 } // namespace
@@ -32,6 +45,12 @@ void SelectionLayer::setGeometry(const NetGeometry *geometry) {
   m_geometry = geometry;
   m_items.clear();
   m_hovered.reset();
+  forgetPicture();
+}
+
+void SelectionLayer::setItems(std::vector<NetGeometry::Item> items) {
+  m_items = std::move(items);
+  forgetPicture();
 }
 
 bool SelectionLayer::setHovered(std::optional<NetGeometry::Item> item) {
@@ -42,99 +61,113 @@ bool SelectionLayer::setHovered(std::optional<NetGeometry::Item> item) {
 }
 
 SelectionLayer::Style SelectionLayer::styleOf(const Settings::SelectionMark &mark) {
-  Style found;
-  found.brush = QBrush(colorOf(mark.brushColor, mark.brushAlpha),
-                       static_cast<Qt::BrushStyle>(qBound(0, mark.brushStyle.value(), int(Qt::Dense7Pattern))));
-  found.pen = QPen(colorOf(mark.penColor, mark.penAlpha), 1.5);
-  return found;
+  const double alpha = mark.brushAlpha.value() * coverOf(mark.brushStyle.value());
+  return {colorOf(mark.brushColor, static_cast<int>(alpha)), colorOf(mark.penColor, mark.penAlpha.value())};
 }
 
 void SelectionLayer::readSettings() {
   m_element = styleOf(Settings::ElementSelection);
   m_subnet = styleOf(Settings::SubnetSelection);
   m_subnetFactor = qBound(0.0, Settings::SubnetSelectionSizeFactor.value(), 10.0);
+  forgetPicture();
 }
 
-std::optional<QLineF> SelectionLayer::lineOf(NetGeometry::Item item, const Projection &projection) const {
-  const std::optional<QPointF> center = m_geometry->center(item);
-  if (!center)
-    return std::nullopt;
-  if (item.kind != NetData::Edge) {
-    const QPointF middle = projection.map(center->x(), center->y());
-    return QLineF(middle, middle);
-  }
-  const NetGeometry::Edge &edge = m_geometry->edges()[item.index];
-  return LaneWay(projection.map(m_geometry->line(edge)),
-                 static_cast<double>(edge.lane) * laneSpacing(edge.type != 'p', 1.0, m_symbolSize))
-      .middle();
+void SelectionLayer::setSizes(double node, double symbol) {
+  m_nodeSize = node;
+  m_symbolSize = symbol;
+  forgetPicture();
 }
 
-double SelectionLayer::reachOf(NetGeometry::Item item) const {
-  constexpr double Margin = 5.0;
-  constexpr double Half = 0.5;
-  switch (item.kind) {
-  case NetData::AssembledSubnet:
-    return m_symbolSize * (1.0 + m_subnetFactor) * Half;
-  case NetData::Edge: {
-    const bool hasSymbol = m_geometry->edges()[item.index].type != 'p';
-    return hasSymbol ? m_symbolSize * Half + Margin : 0.0;
+void SelectionLayer::setGround(const QColor &ground, bool dimsRest) {
+  m_ground = ground;
+  m_dimsRest = dimsRest;
+  forgetPicture();
+}
+
+QColor SelectionLayer::ink() const {
+  return ColorScale::isDark(m_ground) ? QColor(0xf4, 0xf6, 0xf8) : QColor(0x14, 0x1c, 0x26);
+}
+
+/// Each step replaces what the one before left, so that nothing transparent lies twice on one spot; the last one opens the
+/// view on the elements as they are drawn.
+QPixmap SelectionLayer::paint(const Projection &projection, double pixelRatio) const {
+  constexpr int VeilAlpha = 125;
+  constexpr std::size_t ManyMarks = 4000; // outlines of so many would show nothing but ink
+  ElementMarks::Drawing drawing{m_geometry, m_layers, m_edgeWidths, m_nodeSize, m_symbolSize, m_subnetFactor};
+  ElementMarks elements(drawing, projection);
+  ElementMarks subnets(drawing, projection);
+  for (const NetGeometry::Item item : m_items)
+    (item.kind == NetData::AssembledSubnet ? subnets : elements).add(item);
+  const bool isCrowd = elements.size() > ManyMarks;
+
+  QPixmap pixels((projection.canvas().size() * pixelRatio).toSize());
+  pixels.setDevicePixelRatio(pixelRatio);
+  QColor veil = m_ground;
+  veil.setAlpha(m_dimsRest ? VeilAlpha : 0);
+  pixels.fill(veil);
+  QPainter painter(&pixels);
+  painter.translate(-projection.canvas().topLeft());
+  painter.setRenderHint(QPainter::Antialiasing, !isCrowd);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  const auto surround = [&](const ElementMarks &marks, const Style &style) {
+    marks.draw(painter, style.rim, Rim);
+    marks.draw(painter, style.halo, Halo);
+    marks.draw(painter, ink(), Outline);
+    marks.draw(painter, Qt::transparent, Free);
+  };
+  if (isCrowd) {
+    constexpr double NarrowHalo = 1.5; // px
+    QColor tint = m_element.halo;      // where all is selected, nothing else would tell it
+    tint.setAlpha(tint.alpha() / 3);
+    elements.draw(painter, m_element.halo, NarrowHalo, Qt::FlatCap);
+    elements.draw(painter, tint, 0.0, Qt::FlatCap);
+  } else {
+    surround(elements, m_element);
   }
-  case NetData::TextBox:
-    return m_symbolSize * Half;
-  default:
-    return m_nodeSize + Margin;
+  surround(subnets, m_subnet);
+  return pixels;
+}
+
+void SelectionLayer::drawForDocument(QPainter &painter, const Projection &projection) const {
+  ElementMarks::Drawing drawing{m_geometry, m_layers, m_edgeWidths, m_nodeSize, m_symbolSize, m_subnetFactor};
+  ElementMarks elements(drawing, projection);
+  ElementMarks subnets(drawing, projection);
+  for (const NetGeometry::Item item : m_items)
+    (item.kind == NetData::AssembledSubnet ? subnets : elements).add(item);
+  for (const auto &[marks, style] : {std::make_pair(&elements, &m_element), {&subnets, &m_subnet}}) {
+    marks->draw(painter, style->halo, Halo);
+    marks->draw(painter, ink(), Outline);
   }
 }
 
-void SelectionLayer::drawItem(QPainter &painter, const Projection &projection, NetGeometry::Item item,
-                              const Style &style) const {
-  std::optional<QLineF> line = lineOf(item, projection);
-  const double reach = line ? reachOf(item) : 0.0;
-  const double margin = std::max(reach, LineMargin);
-  if (!line || !clipLine(*line, projection.canvas().adjusted(-margin, -margin, margin, margin)))
-    return;
-  if (!line->isNull()) {
-    painter.setPen(QPen(style.brush, LineMargin, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(*line);
-    painter.setPen(style.pen);
-    painter.drawLine(*line);
-  }
-  if (reach <= 0.0 && !line->isNull())
-    return;
-  painter.setPen(style.pen);
-  painter.setBrush(style.brush);
-  const double radius = std::max(reach, LineMargin * 0.5);
-  if (item.kind == NetData::AssembledSubnet)
-    painter.drawRect(QRectF(line->center() - QPointF(radius, radius), QSizeF(radius, radius) * 2.0));
-  else
-    painter.drawEllipse(line->center(), radius, radius);
+/// The way round the element, as it is under the cursor for a moment only.
+void SelectionLayer::drawHovered(QPainter &painter, const Projection &projection) const {
+  constexpr int Alpha = 90;
+  constexpr double Margin = 3.5; // px
+  const ElementMarks::Drawing drawing{m_geometry, m_layers, m_edgeWidths, m_nodeSize, m_symbolSize, m_subnetFactor};
+  ElementMarks mark(drawing, projection);
+  mark.add(*m_hovered);
+  mark.draw(painter, QColor(20, 120, 220, Alpha), Margin);
 }
 
 void SelectionLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap,
                           const QRectF &canvasRect) const {
-  constexpr std::size_t ManyMarks = 5000; // of so many, those on the same spot tell nothing more
-  constexpr double CellLength = 5.0;      // px
   const Projection projection(xMap, yMap, canvasRect);
-  if (m_geometry == nullptr || !projection.isValid())
+  if (m_geometry == nullptr || !projection.isValid() || canvasRect.isEmpty())
     return;
-  std::optional<CanvasGrid> grid;
-  if (m_items.size() > ManyMarks)
-    grid.emplace(canvasRect, CellLength);
-  for (const NetGeometry::Item item : m_items) {
-    if (m_layers != nullptr && m_layers->isHidden(item))
-      continue;
-    if (grid) {
-      const std::optional<QPointF> center = m_geometry->center(item);
-      if (!center || !grid->take(projection.map(center->x(), center->y())))
-        continue;
-    }
-    drawItem(*painter, projection, item, item.kind == NetData::AssembledSubnet ? m_subnet : m_element);
+  if (isVectorTarget(*painter)) {
+    drawForDocument(*painter, projection);
+    return;
   }
-  if (m_hovered) {
-    const QColor color(20, 120, 220);
-    QColor ground = color;
-    constexpr int GroundAlpha = 60;
-    ground.setAlpha(GroundAlpha);
-    drawItem(*painter, projection, *m_hovered, {ground, QPen(color, 1.5)});
+  const bool isAnyShown = std::any_of(m_items.begin(), m_items.end(), [this](NetGeometry::Item item) {
+    return m_layers == nullptr || !m_layers->isHidden(item);
+  });
+  if (isAnyShown) {
+    const double ratio = pixelRatio(*painter);
+    if (!m_picture || !(m_picture->projection == projection) || m_picture->pixelRatio != ratio)
+      m_picture = Picture{projection, ratio, paint(projection, ratio)};
+    painter->drawPixmap(canvasRect, m_picture->pixels, m_picture->pixels.rect());
   }
+  if (m_hovered && std::find(m_items.begin(), m_items.end(), *m_hovered) == m_items.end()) // which is marked already
+    drawHovered(*painter, projection);
 }

@@ -2,6 +2,7 @@
 
 #include <base/settings.h>
 #include <drawing/subnetlayer.h>
+#include <drawing/violations.h>
 #include <model/elementstate.h>
 #include <model/subnetstate.h>
 
@@ -38,22 +39,10 @@ QColor controlColor(const NetData &net, const element &subnet) {
   return colorOf(says("control") ? Settings::SubnetColorMaybeInControl : Settings::SubnetColorUnknown);
 }
 
-/// Which bounds it violates, by its "CB_info": absent when nobody has checked, empty when there are none.
-QColor boundsColor(const element &subnet) {
-  const PropertyText *info = subnet.find(QStringLiteral("CB_info"));
-  if (info == nullptr)
-    return colorOf(Settings::RingColorUnknown);
-  const QString text = info->toString().remove(QLatin1Char('(')).remove(QLatin1Char(')')).remove(QLatin1Char(';')).trimmed();
-  if (text.isEmpty())
-    return colorOf(Settings::RingColorNone);
-  return colorOf(text.contains(QLatin1String("major"), Qt::CaseInsensitive) ? Settings::RingColorMajor
-                                                                            : Settings::RingColorMinor);
-}
-
 QColor ringColor(const NetData &net, const element &subnet) {
   const QString mode = Settings::SubnetRingColors.value();
   if (mode == QLatin1String("BV status"))
-    return boundsColor(subnet);
+    return Violations::color(Violations::of(subnet));
   if (mode == QLatin1String("SP/SM control"))
     return controlColor(net, subnet);
   if (mode == QLatin1String("search results") && isSearchResult(subnet))

@@ -240,3 +240,10 @@ void SymbolLayer::find(const Projection &projection, const QPointF &point, std::
     }
   }
 }
+
+bool SymbolLayer::drawKey(QPainter &painter, char type, const QPointF &center, double size) const {
+  const Index symbol = m_symbols.find(QString(QLatin1Char(type)));
+  if (symbol != NoIndex)
+    m_symbols.draw(painter, symbol, center, size, 0.0);
+  return symbol != NoIndex;
+}

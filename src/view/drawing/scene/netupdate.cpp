@@ -33,6 +33,7 @@ NetUpdate::NetUpdate(const PlotSettings &settings, std::function<View()> view, T
                       seen.isOfSubnet};
                 }) {
   m_symbols.setCovers([this](const Projection &projection) { return m_subnets.boxes(projection); });
+  m_violations.setFilter(&m_layers);
   m_subnets.setFilter({&m_layers, &m_visibility});
   m_textBoxes.setFilter({&m_layers, &m_visibility});
 }
@@ -43,7 +44,7 @@ void NetUpdate::tellAll(const Findings &findings) const {
 }
 
 std::vector<QwtPlotItem *> NetUpdate::items() {
-  return {&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels};
+  return {&m_violations, &m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels};
 }
 
 void NetUpdate::setNetData(const NetData *net) {
@@ -53,6 +54,8 @@ void NetUpdate::setNetData(const NetData *net) {
   m_isNew = true;
   m_geometry.clear();
   m_values = DrawValues();
+  m_edgeWidths.clear();
+  m_violations.clear();
   m_edges.clear();
   m_nodes.clear();
   m_symbols.clear();
@@ -101,6 +104,7 @@ void NetUpdate::updatePlot(Elements elements, Which which, Labels labels) {
     tell(m_told, Finding::Severity::Information,
          QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
   m_layers.read(m_geometry);
+  m_violations.setElements(m_geometry, m_edgeWidths);
   emit scalesChanged();
   if (std::exchange(m_isNew, false) || plotUnits != m_geometry.plotUnits())
     emit extentChanged(); // before anything is judged by what the view shows
@@ -132,7 +136,7 @@ void NetUpdate::updateLooks(bool rebuild, Which which, const QElapsedTimer &time
       m_edges.setEdges(m_geometry);
       tell(m_told, Finding::Severity::Debug, QStringLiteral("   after rebuild edges: %1 sec.").arg(seconds(timer)));
     }
-    m_edges.setLooks(isSearch ? looks().searchedEdges() : looks().edges());
+    updateEdges(isSearch);
     tell(m_told, Finding::Severity::Debug,
          (isSearch ? QStringLiteral("   after update edges: %1 sec.")
                    : QStringLiteral("   after update edge curves: %1 sec."))
@@ -142,6 +146,39 @@ void NetUpdate::updateLooks(bool rebuild, Which which, const QElapsedTimer &time
     nodes.get();
     tell(m_told, Finding::Severity::Debug, QStringLiteral("   after update nodes: %1 sec.").arg(seconds(timer)));
   }
+}
+
+void NetUpdate::updateEdges(bool isSearch) {
+  const std::vector<EdgeLook> edges = isSearch ? looks().searchedEdges() : looks().edges();
+  m_edges.setLooks(edges);
+  m_edgeWidths.resize(edges.size());
+  std::transform(edges.begin(), edges.end(), m_edgeWidths.begin(),
+                 [](const EdgeLook &look) { return static_cast<float>(look.width); });
+}
+
+LegendContents NetUpdate::legendContents() const {
+  using Violations::State;
+  LegendContents contents;
+  if (m_net == nullptr || !m_geometry.hasExtent())
+    return contents;
+  contents.addFunctions(m_settings, m_values, coloured(), sizeOf(QStringLiteral("n"), m_settings.nodeMag));
+  if (coloured() != ColorScale::Subject::SearchResults)
+    contents.lines = swatches();
+  if (m_violations.isAny(State::Major))
+    contents.casings.push_back({Violations::color(State::Major).rgb(), tr("beyond bounds (major)")});
+  if (m_violations.isAny(State::Minor))
+    contents.casings.push_back({Violations::color(State::Minor).rgb(), tr("beyond bounds")});
+  contents.addSymbols(m_geometry);
+  return contents;
+}
+
+void NetUpdate::drawLegendSymbol(QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center,
+                                 double size) const {
+  constexpr double ShareOfShapes = 0.65; // of the size of symbols
+  if (symbol.type == 'n')
+    NodeLayer::drawKey(painter, symbol.shape, center, size * ShareOfShapes);
+  else
+    m_symbols.drawKey(painter, symbol.type, center, size);
 }
 
 ElementLooks NetUpdate::looks() const {
@@ -182,6 +219,8 @@ void NetUpdate::updateSymbols(bool rebuild) {
   }
   m_symbols.setSize(m_settings.symMag);
   m_symbols.setSizes(sizes);
+  m_violations.setSizes(m_settings.nodeMag, m_settings.symMag);
+  m_violations.setGround(m_settings.bgrColor);
   m_edges.setSymbolSize(m_settings.symMag);
   m_edges.setArrowSize(m_settings.arrowMag * ArrowPixels);
   m_subnets.setLook(sizeOf(QStringLiteral("sub"), m_settings.symMag * LargerBoxes), m_settings.alphaSubnet);
@@ -262,7 +301,8 @@ void NetUpdate::placeLabels() {
                                      m_textBoxes, m_visibility, m_layers, m_values.flowSize()};
   LabelWishes found(drawing, view.projection);
   LabelPass pass(m_geometry, contents, view.projection.canvas(), m_settings.labelMargin);
-  pass.addObstacle(view.legend);
+  for (const QRectF &area : view.legends)
+    pass.addObstacle(area);
   for (const QRectF &area : found.areas)
     pass.addObstacle(area);
   for (const auto &[line, width] : found.lines)

@@ -1,6 +1,7 @@
 #include <drawing/colormap.h>
 
 #include <QColor>
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -9,13 +10,17 @@ namespace {
 
 constexpr double Last = TableColorMap::Colors - 1;
 
-// Samples at equal steps. Viridis and cividis: S. van der Walt and N. Smith (2015), J. Nunez, C. Anderton and R. Renslow
-// (2018). Blue to red: the scheme RdBu of C. Brewer, turned round, with a grey middle: thin lines of its white would be
-// lost on white paper.
+// Samples at equal steps. Viridis and plasma: S. van der Walt and N. Smith (2015); cividis: J. Nunez, C. Anderton and
+// R. Renslow (2018); batlow: F. Crameri (2018), Scientific colour maps, doi 10.5281/zenodo.1243862. Blue to red: the scheme
+// RdBu of C. Brewer, turned round, with a grey middle: thin lines of its white would be lost on white paper.
 constexpr std::array<QRgb, 11> Viridis{0xff440154, 0xff482475, 0xff414487, 0xff355f8d, 0xff2a788e, 0xff21918c,
                                        0xff22a884, 0xff44bf70, 0xff7ad151, 0xffbddf26, 0xfffde725};
 constexpr std::array<QRgb, 11> Cividis{0xff00224e, 0xff0f306b, 0xff35426c, 0xff4e576c, 0xff666970, 0xff7d7c78,
                                        0xff958f78, 0xffada373, 0xffc8b866, 0xffe4cf5b, 0xfffee838};
+constexpr std::array<QRgb, 11> Plasma{0xff0d0887, 0xff42049e, 0xff6a00a8, 0xff900da4, 0xffb12a90, 0xffcc4678,
+                                      0xffe16462, 0xfff1844b, 0xfffca636, 0xfffcce25, 0xfff0f921};
+constexpr std::array<QRgb, 10> Batlow{0xff011959, 0xff103f60, 0xff1c5a62, 0xff3c6d56, 0xff687b3e,
+                                      0xff9d892b, 0xffd29343, 0xfff8a17b, 0xfffdb7bc, 0xfffaccfa};
 constexpr std::array<QRgb, 11> BlueGreyRed{0xff053061, 0xff2166ac, 0xff4393c3, 0xff92c5de, 0xffacc9da, 0xffc8c8c8,
                                            0xffe4b8a2, 0xfff4a582, 0xffd6604d, 0xffb2182b, 0xff67001f};
 
@@ -32,6 +37,48 @@ QRgb between(const std::array<QRgb, Count> &samples, double fraction) {
   return qRgb(mix(qRed(a), qRed(b)), mix(qGreen(a), qGreen(b)), mix(qBlue(a), qBlue(b)));
 }
 
+/// Relative luminance, 0 to 1 (WCAG 2, IEC 61966-2-1).
+double luminance(QRgb color) {
+  const auto light = [](int channel) {
+    const double share = channel / 255.0;
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * light(qRed(color)) + 0.7152 * light(qGreen(color)) + 0.0722 * light(qBlue(color));
+}
+
+/// The part of a ramp from dark to light.
+struct Part {
+  double first = 0.0;
+  double last = 1.0;
+};
+
+/// The part whose lines can be told from the ground.
+template <std::size_t Count>
+Part partFor(const std::array<QRgb, Count> &samples, ColorRamp::Ground ground) {
+  constexpr int Steps = 200;
+  constexpr double LightestOnLight = 0.5; // contrast with white 1.9 to 1
+  constexpr double DarkestOnDark = 0.06;  // contrast with black 2.2 to 1
+  Part part;
+  for (int i = 0; i <= Steps && ground == ColorRamp::Ground::Light; ++i) {
+    if (luminance(between(samples, double(i) / Steps)) <= LightestOnLight)
+      part.last = double(i) / Steps;
+  }
+  for (int i = Steps; i >= 0 && ground == ColorRamp::Ground::Dark; --i) {
+    if (luminance(between(samples, double(i) / Steps)) >= DarkestOnDark)
+      part.first = double(i) / Steps;
+  }
+  return part;
+}
+
+template <const auto &Samples>
+QRgb onGround(ColorRamp::Ground ground, double fraction) {
+  static const std::array<Part, 3> Parts{partFor(Samples, ColorRamp::Ground::Any),
+                                         partFor(Samples, ColorRamp::Ground::Light),
+                                         partFor(Samples, ColorRamp::Ground::Dark)};
+  const Part &part = Parts[static_cast<std::size_t>(ground)];
+  return between(Samples, part.first + (part.last - part.first) * qBound(0.0, fraction, 1.0));
+}
+
 double linear(const QwtInterval &interval, double value) {
   constexpr double Middle = 0.5;
   const double width = interval.maxValue() - interval.minValue();
@@ -43,8 +90,8 @@ double linear(const QwtInterval &interval, double value) {
 } // namespace
 
 const QStringList &ColorRamp::names() {
-  static const QStringList known{QStringLiteral("hue"), QStringLiteral("viridis"), QStringLiteral("cividis"),
-                                 QStringLiteral("diverging")};
+  static const QStringList known{QStringLiteral("hue"),       QStringLiteral("viridis"), QStringLiteral("cividis"),
+                                 QStringLiteral("diverging"), QStringLiteral("plasma"),  QStringLiteral("batlow")};
   return known;
 }
 
@@ -52,12 +99,37 @@ ColorRamp::Kind ColorRamp::kindOf(const QString &name) {
   return static_cast<Kind>(std::max(0, names().indexOf(name)));
 }
 
+QString ColorRamp::title(Kind kind) {
+  const auto tr = [](const char *text) {
+    return QCoreApplication::translate("ColorRamp", text);
+  };
+  switch (kind) {
+  case Kind::Viridis:
+    return tr("viridis (even steps)");
+  case Kind::Cividis:
+    return tr("cividis (also for colour-blind eyes)");
+  case Kind::Diverging:
+    return tr("blue, grey, red about zero");
+  case Kind::Plasma:
+    return tr("plasma (even steps, blue to orange)");
+  case Kind::Batlow:
+    return tr("batlow (even steps, blue to rose)");
+  case Kind::Hue:
+    break;
+  }
+  return tr("hues of your choice");
+}
+
 QRgb ColorRamp::color(double fraction) const {
   switch (kind) {
   case Kind::Viridis:
-    return between(Viridis, fraction);
+    return onGround<Viridis>(ground, fraction);
   case Kind::Cividis:
-    return between(Cividis, fraction);
+    return onGround<Cividis>(ground, fraction);
+  case Kind::Plasma:
+    return onGround<Plasma>(ground, fraction);
+  case Kind::Batlow:
+    return onGround<Batlow>(ground, fraction);
   case Kind::Diverging:
     return between(BlueGreyRed, fraction);
   case Kind::Hue:
@@ -113,7 +185,7 @@ void TableColorMap::setCaps(bool low, bool high) {
 }
 
 QRgb TableColorMap::rgb(const QwtInterval &interval, double value) const {
-  constexpr int DarkerPercent = 160;
+  constexpr int DarkerPercent = 140;
   const double tolerance = interval.width() * 1e-9;
   if (!(interval.width() > 0.0))
     return m_colors[colorIndex(interval, value)]; // one value, with nothing beyond it

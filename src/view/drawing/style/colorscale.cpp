@@ -6,10 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace {
-
-/// Breaks between classes, in the stored unit; empty for a smooth scale.
-std::vector<double> breaksOf(const PlotSettings &settings, const DrawValues::Column &values) {
+std::vector<double> ColorScale::breaksOf(const PlotSettings &settings, const DrawValues::Column &values) {
   constexpr int MostClasses = 50;
   const int classes = std::min(settings.colorClasses, MostClasses);
   std::vector<double> breaks;
@@ -35,11 +32,18 @@ std::vector<double> breaksOf(const PlotSettings &settings, const DrawValues::Col
   return ClassColorMap::equalBreaks(values.range, classes);
 }
 
-} // namespace
+bool ColorScale::isDark(const QColor &ground) {
+  constexpr int Middle = 128;
+  return ground.lightness() < Middle;
+}
 
 std::unique_ptr<HueColorMap> ColorScale::colorMap(const PlotSettings &settings, Aspect aspect) {
-  const ColorRamp ramp{settings.firstColor, settings.lastColor, settings.saturation, settings.lightness,
-                       ColorRamp::kindOf(settings.colorRamp)};
+  const ColorRamp ramp{settings.firstColor,
+                       settings.lastColor,
+                       settings.saturation,
+                       settings.lightness,
+                       ColorRamp::kindOf(settings.colorRamp),
+                       isDark(settings.bgrColor) ? ColorRamp::Ground::Dark : ColorRamp::Ground::Light};
   if (settings.functions[aspect].isLogarithmic)
     return std::make_unique<LogarithmicColorMap>(ramp, settings.logFactor);
   return std::make_unique<HueColorMap>(ramp);

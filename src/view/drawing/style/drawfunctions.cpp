@@ -1,3 +1,4 @@
+#include <drawing/colormap.h>
 #include <drawing/drawfunctions.h>
 #include <model/displayunits.h>
 #include <model/netmetadata.h>
@@ -198,9 +199,12 @@ void chooseDefaults(PlotSettings &settings, const NetData &net) {
   settings.functions[Aspect::EdgeColor].name = color;
   settings.functions[Aspect::EdgeWidth].name = width;
   settings.functions[Aspect::NodeColor].name = ofNodes;
-  constexpr int BottomLeft = 2;
-  settings.legendPos = color.isEmpty() ? 0 : BottomLeft;
-  // High values warm, as people expect of pressures; a darker ramp keeps yellow and cyan readable on white.
+  settings.quantileBounds = true;
+  settings.showsLegend = true;
+  settings.colorScalePos = 0; // the legend has the colours
+  // High values warm, as people expect of pressures, also for who chooses hues instead; of these a darker ramp keeps yellow
+  // and cyan readable on white.
+  settings.colorRamp = ColorRamp::names().at(static_cast<int>(ColorRamp::Kind::Plasma));
   constexpr int BlueHue = 240;
   constexpr int DarkerLightness = 215;
   settings.firstColor = BlueHue;

@@ -38,10 +38,34 @@ QwtInterval centred(const QwtInterval &range) {
   return {-largest, largest};
 }
 
+/// Where open bounds lie: outliers, of which there are 2 % at either end, are left out. The whole data where next to nothing
+/// would be left between the bounds.
+QwtInterval withoutOutliers(const std::vector<double> &values, const QwtInterval &data, const Units::Linear &toTable) {
+  constexpr std::size_t Share = 50;          // one in so many
+  constexpr std::size_t MostAsked = 200'000; // tell as much as a million
+  std::vector<double> known;
+  const std::size_t step = values.size() / MostAsked + 1;
+  known.reserve(values.size() / step + 1);
+  for (std::size_t i = 0; i < values.size(); i += step) {
+    if (values[i] != NetData::NoValue)
+      known.push_back(values[i]);
+  }
+  const std::size_t beyond = known.size() / Share; // at either end
+  if (beyond == 0)
+    return data;
+  const auto low = known.begin() + static_cast<std::ptrdiff_t>(beyond);
+  std::nth_element(known.begin(), low, known.end());
+  const double minimum = *low;
+  const auto high = known.end() - static_cast<std::ptrdiff_t>(beyond) - 1;
+  std::nth_element(low, high, known.end());
+  const QwtInterval open(minimum, *high);
+  return isOneValue(open, toTable) ? data : open;
+}
+
 /// The data's range with fixed bounds in its place. An open bound beside a fixed one that lies beyond all data keeps the
 /// width that the data have. Bounds that are no numbers, or upside down, are not taken.
 QwtInterval rangeWithin(const DrawValues::Column &column, const PlotSettings::Function &settings, bool isCentred) {
-  const QwtInterval &data = column.data;
+  const QwtInterval &data = column.open;
   const double minimum = settings.minimum;
   const double maximum = settings.maximum;
   if (!data.isValid())
@@ -61,7 +85,7 @@ QwtInterval rangeWithin(const DrawValues::Column &column, const PlotSettings::Fu
   }
   if (isCentred)
     return centred(data);
-  if (!isOneValue(data, column.function.toTable)) // whatever unit somebody reads it in
+  if (!isOneValue(column.data, column.function.toTable)) // whatever unit somebody reads it in
     return data;
   const double middle = data.minValue() * 0.5 + data.maxValue() * 0.5;
   return {middle, middle};
@@ -184,7 +208,9 @@ void DrawValues::setColumns(ElementValues &values, const PlotSettings &s) {
     std::vector<double> &own = (isOfEdges(aspect) ? values.ofEdges : values.ofNodes)[columnOf(aspect)];
     // The nodes' own range, so that nodes and edges coloured by one function share their colours.
     const bool isRangeOfEnds = isOfEdges(aspect) && (column.function.isOfNodes || column.function.isOfGraph());
-    column.data = rangeOf(isRangeOfEnds ? values.ofEnds[columnOf(aspect)] : own);
+    const std::vector<double> &ranged = isRangeOfEnds ? values.ofEnds[columnOf(aspect)] : own;
+    column.data = rangeOf(ranged);
+    column.open = s.quantileBounds ? withoutOutliers(ranged, column.data, column.function.toTable) : column.data;
     column.range = rangeWithin(column, s.functions[aspect], isColor(aspect) && isDiverging);
     column.ofElements = std::move(own);
   }

@@ -27,8 +27,22 @@ void ElementLooks::hide(NetData::EleType kind, std::vector<Look> &looks) const {
     looks[i].isHidden = m_layers.isHidden({kind, i});
 }
 
-std::vector<EdgeLook> ElementLooks::edges() const {
+double ElementLooks::edgeWidth(const PlotSettings &settings, double fraction) {
   constexpr double WidthSpan = 4.0; // px that the width function adds at most, at magnification 1
+  return settings.edgeConst + settings.edgeMag * WidthSpan * fraction;
+}
+
+double ElementLooks::sizeOfNode(double nodeSize, double fraction) {
+  constexpr double SmallestShare = 0.5; // of the node size; the largest node is four times the smallest
+  constexpr double ShareSpan = 1.5;
+  return nodeSize * (SmallestShare + ShareSpan * fraction);
+}
+
+QRgb ElementLooks::foundColor() {
+  return Found;
+}
+
+std::vector<EdgeLook> ElementLooks::edges() const {
   const DrawValues::Column &colors = m_values.of(Aspect::EdgeColor);
   const DrawValues::Column &widths = m_values.of(Aspect::EdgeWidth);
   const std::vector<double> &flow = m_values.flow();
@@ -42,7 +56,7 @@ std::vector<EdgeLook> ElementLooks::edges() const {
     if (widths.range.isValid()) {
       const double value = widths.ofElements[i];
       const double fraction = value == NetData::NoValue ? 0.0 : widthMap->fraction(widths.range, value);
-      look.width = m_settings.edgeConst + m_settings.edgeMag * WidthSpan * fraction;
+      look.width = edgeWidth(m_settings, fraction);
     }
     look.isBackground = true;
     if (m_geometry.edges()[i].isInactive) {
@@ -69,8 +83,6 @@ std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
   const auto sizeMap = ColorScale::colorMap(m_settings, Aspect::NodeSize);
   const auto table = ColorScale::nodeColors(m_settings, m_values);
   const bool isColored = byFunction && colors.isAny();
-  constexpr double SmallestShare = 0.5; // of the node size; the largest node is four times the smallest
-  constexpr double ShareSpan = 1.5;
 
   std::vector<NodeLook> looks(m_geometry.nodes().size());
   for (std::size_t i = 0; i < looks.size(); ++i) {
@@ -79,7 +91,7 @@ std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
     if (sizes.range.isValid()) {
       const double value = sizes.ofElements[i];
       const double fraction = value == NetData::NoValue ? 0.0 : sizeMap->fraction(sizes.range, value);
-      look.size = m_nodeSize * (SmallestShare + ShareSpan * fraction);
+      look.size = sizeOfNode(m_nodeSize, fraction);
     }
     if (!isColored)
       look.color = PlainNode;

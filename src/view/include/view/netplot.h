@@ -12,8 +12,10 @@
 
 #include <memory>
 
+class CanvasLegend;
 class PlotPanner;
 class PlotZoom;
+class QAction;
 class QMenu;
 class QwtFastPlot;
 class SmoothZoom;
@@ -60,8 +62,14 @@ public:
   bool showsAll() const;
   /// What the canvas shows, without marks of the selection, at most so large.
   QImage picture(const QSize &largest) const;
-  /// What the legend covers of the canvas, px; empty when it is hidden.
-  QRectF legendArea() const;
+  /// What the legend of the functions covers of the canvas, px; empty when it is hidden.
+  QRectF functionLegendArea() const;
+  /// The legend that says what colours, widths and symbols mean.
+  CanvasLegend &canvasLegend() const { return *m_canvasLegend; }
+  /// Shows and hides that legend.
+  QAction *legendAction() const;
+  /// Which case and scenario are shown; the legend says it.
+  void setCaption(const QString &caption);
   /// A plot of its own for one subnet places labels without waiting.
   void setShowsSubnet(bool shows) { m_showsSubnet = shows; }
   bool hasStragglers() const { return m_stragglers > 0; }
@@ -74,6 +82,7 @@ signals:
   void viewChanged();                            ///< another part of the network is shown
   void drawConfigurationRequested();             ///< the colour scale was double-clicked
   void contextMenuRequested(QMenu *contextMenu); ///< to be filled before it is shown at the cursor
+  void settingsChanged();                        ///< by what a person chose in the drawing
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
@@ -81,6 +90,7 @@ protected:
 private:
   void showHint();
   void setUpUpdate();
+  void setUpLegend();
   NetUpdate::View view() const;
   void placeLegend();
   void showAxes();
@@ -99,6 +109,7 @@ private:
   PlotZoom *m_zoomer;
   PlotPanner *m_panner;
   std::unique_ptr<NetUpdate> m_update;
+  std::unique_ptr<CanvasLegend> m_canvasLegend;
   SmoothZoom *m_smoothZoom;
   SelectionLayer m_selection;
   bool m_mouseMoved = false; ///< since the last button press

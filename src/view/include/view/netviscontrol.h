@@ -35,6 +35,8 @@ public:
   void clear();
   /// Where "KIND.svg" is the symbol of a kind of subnet; for the networks shown from now on.
   void setSubnetIcons(const QString &folder) { m_subnetIcons = folder; }
+  /// Which case and scenario the network is; the legend says it.
+  void setCaption(const QString &caption) { m_plot->setCaption(caption); }
   /// Draws the network with the settings of the file or, where there is none, with settings that suit the network. Beside
   /// the file may stand the label table "vfd.csv" and the folder "symbols" with symbols of the user's own.
   void showNetData(const QString &plotSettingsPath);

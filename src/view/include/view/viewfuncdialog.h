@@ -51,6 +51,7 @@ protected:
 
 private:
   bool apply();
+  void followPlot();
   void draw(const PlotSettings &before, const LabelTable &labels);
   void offerSavedSettings();
   bool readLabels(const QString &path, FileAccess::Source source, LabelTable &labels);
@@ -60,6 +61,7 @@ private:
   void bindScale();
   void bindBreaks();
   void showBreaks(const QString &inTable);
+  void bindLegend();
   void bindSizes();
   void bindColors();
 

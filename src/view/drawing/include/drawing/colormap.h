@@ -11,9 +11,11 @@
 /// What shapes a colour scale: hues of the user's choice, or one of the ramps that keep equal steps equally visible and
 /// their order to colour-blind eyes.
 struct ColorRamp {
-  enum class Kind { Hue, Viridis, Cividis, Diverging };
+  enum class Kind { Hue, Viridis, Cividis, Diverging, Plasma, Batlow };
+  enum class Ground { Any, Light, Dark };
   static const QStringList &names(); ///< in the order of Kind, as PlotSettings::colorRamp has them
   static Kind kindOf(const QString &name);
+  static QString title(Kind kind); ///< for people
 
   int firstHue = 0;     ///< degrees, at the low end
   int lastHue = 240;    ///< degrees, at the high end
@@ -21,6 +23,8 @@ struct ColorRamp {
   int lightness = 230;  ///< 0 to 255, the "value" of the HSV colour
 
   Kind kind = Kind::Hue;
+  /// What is drawn on. Of a ramp from dark to light the end that would be lost on it is left out.
+  Ground ground = Ground::Any;
 
   /// \param fraction of the way from the low (0) to the high end (1)
   QRgb color(double fraction) const;

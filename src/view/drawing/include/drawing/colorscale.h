@@ -22,6 +22,12 @@ struct Swatch {
 /// What is in colour now.
 enum class Subject { Edges, EdgesAndNodes, SearchResults };
 
+/// Whether what is drawn on the ground has to be light.
+bool isDark(const QColor &ground);
+
+/// Breaks between the classes of edge colours, in the stored unit; empty for a smooth scale.
+std::vector<double> breaksOf(const PlotSettings &settings, const DrawValues::Column &values);
+
 /// The map of the settings: linear, or bent by logFactor.
 std::unique_ptr<HueColorMap> colorMap(const PlotSettings &settings, Aspect aspect);
 

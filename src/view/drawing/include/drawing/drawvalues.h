@@ -16,6 +16,7 @@ public:
     DrawFunction function;
     std::vector<double> ofElements; ///< one an element, NetData::NoValue where there is none
     QwtInterval data;               ///< of the values; invalid without any
+    QwtInterval open;               ///< where open bounds lie: the data, or these without their outermost 2 %
     /// As drawn: fixed bounds where there are some. Values that differ by less than 0.1 % are one: then it has no width.
     QwtInterval range;
 

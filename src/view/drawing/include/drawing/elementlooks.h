@@ -23,6 +23,12 @@ public:
   std::vector<EdgeLook> edges() const;
   /// One a node. \param byFunction in the colours of the node colour function, if it says something of nodes
   std::vector<NodeLook> nodes(bool byFunction) const;
+  /// Px, of an edge whose value lies so far along the range of the width function.
+  static double edgeWidth(const PlotSettings &settings, double fraction);
+  /// Px, of a junction whose value lies so far along the range of the size function.
+  static double sizeOfNode(double nodeSize, double fraction);
+  /// Of what a search found.
+  static QRgb foundColor();
   /// What a search found ("isSearchResult") stands out from the rest.
   std::vector<EdgeLook> searchedEdges() const;
   std::vector<NodeLook> searchedNodes() const;

@@ -8,6 +8,7 @@
 #include <drawing/labellayer.h>
 #include <drawing/labeltable.h>
 #include <drawing/layerfilter.h>
+#include <drawing/legendcontents.h>
 #include <drawing/netgeometry.h>
 #include <drawing/nodelayer.h>
 #include <drawing/pixtest.h>
@@ -15,6 +16,7 @@
 #include <drawing/subnetlayer.h>
 #include <drawing/symbollayer.h>
 #include <drawing/textboxlayer.h>
+#include <drawing/violationlayer.h>
 #include <drawing/visibilityrules.h>
 #include <model/netdata.h>
 
@@ -43,9 +45,9 @@ public:
     QRectF visible;       ///< in plot coordinates
     QSizeF unitsPerPixel; ///< horizontally and vertically
     Projection projection;
-    QRectF legend;           ///< what it covers of the canvas, px; no labels are placed there
-    QSizeF largest;          ///< view that the zoom allows, in plot units
-    bool isOfSubnet = false; ///< a plot of its own for one subnet
+    std::vector<QRectF> legends; ///< what they cover of the canvas, px; no labels are placed there
+    QSizeF largest;              ///< view that the zoom allows, in plot units
+    bool isOfSubnet = false;     ///< a plot of its own for one subnet
   };
 
   /// \param view asked whenever something depends on it
@@ -81,6 +83,11 @@ public:
   /// What is in colour now, and the colours that stand for no value.
   ColorScale::Subject coloured() const;
   std::vector<ColorScale::Swatch> swatches() const { return looks().swatches(); }
+  /// What a legend says of all that is drawn, and draws a symbol of it.
+  LegendContents legendContents() const;
+  void drawLegendSymbol(QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center, double size) const;
+  /// Px, by edge, as their looks have it.
+  const std::vector<float> &edgeWidths() const { return m_edgeWidths; }
 
   /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
   /// they are negative.
@@ -122,6 +129,7 @@ private:
   /// The size that the label table gives a type, px.
   double sizeOf(const QString &type, double otherwise) const;
   void showWhatIsVisible();
+  void updateEdges(bool isSearch);
   void updateLooks(bool rebuild, Which which, const QElapsedTimer &timer);
   void updateSymbols(bool rebuild);
   /// The height of the view in the network's own coordinates, in which thresholds are given.
@@ -139,6 +147,8 @@ private:
   VisibilityRules m_visibility;
   LayerFilter m_layers;
   DisplayMode m_displayMode = DisplayMode::Functions;
+  std::vector<float> m_edgeWidths;
+  ViolationLayer m_violations;
   EdgeLayer m_edges;
   NodeLayer m_nodes;
   SymbolLayer m_symbols;

@@ -22,6 +22,9 @@ public:
   void setVisibility(const VisibilityRules &rules);
   void clear();
 
+  /// The shape alone, so many pixels across, as a legend shows it.
+  static void drawKey(QPainter &painter, NetGeometry::NodeShape shape, const QPointF &center, double size);
+
   int rtti() const override { return Rtti_PlotUserItem + 2; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 

@@ -14,6 +14,7 @@ struct PlotSettings {
   static QString equalClasses() { return QStringLiteral("equal interval"); }
   static QString quantileClasses() { return QStringLiteral("quantile"); }
   static QString ownClasses() { return QStringLiteral("own breaks"); }
+  static QString automaticCorner() { return QStringLiteral("auto"); }
   static QString fixedSize() { return QStringLiteral("--- fixed ---"); } ///< Aspect::NodeSize: all nodes have one size
 
   /// A draw function, and how its values become colours or sizes.
@@ -67,6 +68,10 @@ struct PlotSettings {
   QString classMethod = equalClasses();
   QString classBreaks; ///< breaks of the user's own in the display unit of the property table, ascending, joined by ";"
   bool showGrid = false;
+  bool quantileBounds = false;              ///< open bounds leave out 2 % of the values at either end
+  bool showsLegend = false;                 ///< the legend inside the canvas
+  QString legendCorner = automaticCorner(); ///< of that legend: a name of LegendPlace, or where it hides least
+  bool dimsRest = true;                     ///< what is not selected pales while something is
 
   friend bool operator==(const PlotSettings &a, const PlotSettings &b);
   friend bool operator!=(const PlotSettings &a, const PlotSettings &b) { return !(a == b); }

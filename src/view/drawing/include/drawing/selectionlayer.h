@@ -5,52 +5,68 @@
 #include <drawing/layergeometry.h>
 #include <drawing/netgeometry.h>
 
+#include <QPixmap>
 #include <qwt_plot_item.h>
 
 #include <optional>
 
-/// Marks what is selected, and the element under the cursor. On the screen it is painted over the finished drawing, so
-/// that picking never draws the network again; it is an item of the plot for documents only.
+/// Marks what is selected by a dark outline and a halo and lets the rest pale, and marks the element under the cursor. On
+/// the screen it is painted over the finished drawing, so that picking never draws the network again; it is an item of the
+/// plot for documents only, where it lies below the lines and nothing pales.
 class SelectionLayer : public QwtPlotItem {
 public:
   SelectionLayer();
 
   /// The geometry whose items are marked; no mark of another one stays.
   void setGeometry(const NetGeometry *geometry);
-  /// Elements that the filter hides have no marks. It is not owned.
+  /// Elements that the filter hides have no marks. It is not owned, nor are the widths of the edges, in pixels.
   void setFilter(const LayerFilter *layers) { m_layers = layers; }
-  void setItems(std::vector<NetGeometry::Item> items) { m_items = std::move(items); }
+  void setEdgeWidths(const std::vector<float> *widths) { m_edgeWidths = widths; }
+  void setItems(std::vector<NetGeometry::Item> items);
   const std::vector<NetGeometry::Item> &items() const { return m_items; }
   /// Returns whether another element than before is under the cursor.
   bool setHovered(std::optional<NetGeometry::Item> item);
   std::optional<NetGeometry::Item> hovered() const { return m_hovered; }
   /// Brushes and pens are general settings of category "selection".
   void readSettings();
-  void setSizes(double node, double symbol) {
-    m_nodeSize = node;
-    m_symbolSize = symbol;
-  }
+  void setSizes(double node, double symbol);
+  /// \param ground of the drawing, towards which the rest pales \param dimsRest whether it does
+  void setGround(const QColor &ground, bool dimsRest);
+  /// To be called when the drawing below has changed.
+  void forgetPicture() { m_picture.reset(); }
 
   int rtti() const override { return Rtti_PlotUserItem + 7; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 
 private:
   struct Style {
-    QBrush brush;
-    QPen pen;
+    QColor halo;
+    QColor rim; ///< of the halo
   };
+  /// The marks of one view, as they were painted last.
+  struct Picture {
+    Projection projection;
+    double pixelRatio;
+    QPixmap pixels;
+  };
+
   static Style styleOf(const Settings::SelectionMark &mark);
-  void drawItem(QPainter &painter, const Projection &projection, NetGeometry::Item item, const Style &style) const;
-  std::optional<QLineF> lineOf(NetGeometry::Item item, const Projection &projection) const;
-  double reachOf(NetGeometry::Item item) const;
+  QColor ink() const;
+  QPixmap paint(const Projection &projection, double pixelRatio) const;
+  void drawForDocument(QPainter &painter, const Projection &projection) const;
+  void drawHovered(QPainter &painter, const Projection &projection) const;
 
   const NetGeometry *m_geometry = nullptr;
   const LayerFilter *m_layers = nullptr;
+  const std::vector<float> *m_edgeWidths = nullptr;
   std::vector<NetGeometry::Item> m_items;
   std::optional<NetGeometry::Item> m_hovered;
   Style m_element;
   Style m_subnet;
+  QColor m_ground = Qt::white;
+  bool m_dimsRest = true;
   double m_subnetFactor = 0.8;
   double m_nodeSize = 4.0;
   double m_symbolSize = 20.0;
+  mutable std::optional<Picture> m_picture;
 };

@@ -40,6 +40,9 @@ public:
   void setVisibility(const VisibilityRules &rules, const LayerFilter &layers);
   void clear();
 
+  /// The symbol of edges or drives of a type alone, so many pixels across, as a legend shows it; false when there is none.
+  bool drawKey(QPainter &painter, char type, const QPointF &center, double size) const;
+
   int rtti() const override { return Rtti_PlotUserItem + 3; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 

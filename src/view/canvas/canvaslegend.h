@@ -1,0 +1,76 @@
+#pragma once
+
+#include "canvas/legenditem.h"
+#include "canvas/legendplace.h"
+
+#include <drawing/legendpicture.h>
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+class LegendView;
+class NetUpdate;
+class PlotZoom;
+class QAction;
+class QMenu;
+class QwtFastPlot;
+struct PlotSettings;
+
+/// The legend inside the canvas of a plot: what it says, where it stands, and what can be chosen at it. Which corner, and
+/// whether it is shown, the plot settings say. It goes before the plot does.
+class CanvasLegend : public QObject {
+  Q_OBJECT
+public:
+  /// What it is the legend of; all of it lives longer.
+  struct Drawing {
+    QwtFastPlot &plot;
+    const PlotZoom &zoomer;
+    const PlotSettings &settings;
+    const NetUpdate &update;
+    std::function<QRectF()> taken; ///< where something else stands on the canvas, px; empty for nowhere
+  };
+
+  explicit CanvasLegend(Drawing drawing);
+  ~CanvasLegend() override;
+
+  /// Which case and scenario are shown.
+  void setCaption(const QString &caption);
+  /// After the settings, the values or the size of the canvas have changed.
+  void refresh();
+  /// What it covers of the canvas, px; empty while it is hidden.
+  QRectF area() const;
+  /// Shows and hides it.
+  QAction *action() const { return m_action; }
+  /// Fills in what can be chosen for the legend and the colours.
+  void fillMenu(QMenu &menu);
+  /// The plot draws it itself, as documents need it.
+  void setIsInDocument(bool isInDocument);
+  /// Leaves it out of pictures of the canvas that are moved in its place.
+  void setIsLeftOut(bool isLeftOut);
+
+signals:
+  void settingsWanted(const PlotSettings &settings); ///< by what a person chose
+  void configurationWanted();
+  void entered(); ///< by the mouse
+
+protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+  template <typename Change>
+  void changeSettings(const Change &change);
+  void place();
+  void choose(LegendPlace::Corner corner);
+  void addCorners(QMenu &menu);
+  void addColors(QMenu &menu);
+
+  Drawing m_drawing;
+  LegendPicture m_picture;
+  LegendItem m_item;
+  LegendView *m_view; ///< belongs to the canvas
+  QAction *m_action;
+  QString m_caption;
+  QTimer m_resized; ///< the plot itself follows a new size first
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <drawing/legendcontents.h>
+
+#include <QColor>
+#include <QFont>
+#include <QPainter>
+#include <QSizeF>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class LegendBlock;
+
+/// The legend as it is painted, on the screen or into a document: one block below the other on a ground that lets the
+/// drawing shine through.
+class LegendPicture {
+public:
+  /// Draws a symbol about a point of the painter, so many pixels across.
+  using DrawSymbol =
+      std::function<void(QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center, double size)>;
+
+  LegendPicture();
+  ~LegendPicture();
+
+  /// \param ground of the drawing; \param font of the texts, of which the pixel size counts
+  void setContents(const LegendContents &contents, const QColor &ground, const QFont &font, DrawSymbol drawSymbol);
+  /// Takes the blocks that fit into the room, the former before the latter; none where nothing fits.
+  void fitInto(const QSizeF &room);
+  /// Of what fits, px; empty when nothing does.
+  QSizeF size() const { return m_size; }
+  void draw(QPainter &painter, const QPointF &corner) const;
+
+private:
+  std::vector<std::unique_ptr<LegendBlock>> m_blocks;
+  bool m_hasCaption = false; ///< as the first block
+  std::size_t m_shown = 0;   ///< blocks that fit
+  QSizeF m_size;
+  QColor m_ground;
+};

@@ -1,0 +1,212 @@
+#include "legend/legendblocks.h"
+
+#include <drawing/scaleticks.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double BarWidth = 190.0; // px
+constexpr double BarHeight = 9.0;
+constexpr double TickLength = 3.0;
+constexpr double Gap = 3.0;
+constexpr double CapWidth = 8.0;
+constexpr double KeyRoom = 24.0; // for a key beside its word
+constexpr double Spacing = 8.0;  // between neighbours in a row
+constexpr double Half = 0.5;
+
+} // namespace
+
+QString LegendBlock::cut(const QString &text) const {
+  return m_style.metrics().elidedText(text, Qt::ElideRight, m_widest);
+}
+
+void LegendBlock::drawText(QPainter &painter, const QPointF &top, const QString &text) const {
+  painter.setFont(m_style.font);
+  painter.setPen(m_style.ink);
+  painter.drawText(top + QPointF(0.0, m_style.metrics().ascent()), text);
+}
+
+LegendCaption::LegendCaption(LegendStyle style, QString text)
+    : LegendBlock([&style] {
+      style.font.setBold(true);
+      return style;
+    }())
+    , m_text(std::move(text)) {}
+
+QSizeF LegendCaption::size() const {
+  return {widthOf(cut(m_text)), lineHeight()};
+}
+
+void LegendCaption::draw(QPainter &painter, const QRectF &area) const {
+  drawText(painter, area.topLeft(), cut(m_text));
+}
+
+LegendBar::LegendBar(LegendStyle style, LegendContents::Scale scale)
+    : LegendBlock(std::move(style))
+    , m_scale(std::move(scale)) {}
+
+double LegendBar::barWidth() const {
+  return std::min(BarWidth, widest());
+}
+
+QSizeF LegendBar::size() const {
+  return {std::max(barWidth(), widthOf(cut(m_scale.title))), lineHeight() * 2.0 + Gap + BarHeight + TickLength};
+}
+
+std::vector<LegendBar::Tick> LegendBar::marks(const std::vector<double> &values) const {
+  const QwtInterval &range = m_scale.range;
+  std::vector<Tick> found;
+  for (const double value : values)
+    found.push_back(
+        {range.width() > 0.0 ? (value - range.minValue()) / range.width() : Half, ScaleTicks::text(value, values)});
+  return found;
+}
+
+bool LegendBar::fit(const std::vector<Tick> &ticks, double width) const {
+  double free = -width;
+  for (const Tick &tick : ticks) {
+    const double text = widthOf(tick.text);
+    const double left = tick.share * width - text * Half;
+    if (left < free)
+      return false;
+    free = left + text + Spacing;
+  }
+  return true;
+}
+
+/// As many round numbers, or breaks, as stand side by side.
+std::vector<LegendBar::Tick> LegendBar::ticks(double width) const {
+  constexpr int MostTicks = 6;
+  const std::vector<double> &breaks = m_scale.breaks;
+  for (std::size_t step = 1; step <= breaks.size(); ++step) {
+    std::vector<double> some;
+    for (std::size_t i = 0; i < breaks.size(); i += step) {
+      if (m_scale.range.contains(breaks[i]))
+        some.push_back(breaks[i]);
+    }
+    const std::vector<Tick> found = marks(some);
+    if (fit(found, width))
+      return found;
+  }
+  for (int count = MostTicks; count > 1; --count) {
+    const std::vector<Tick> found = marks(ScaleTicks::within(m_scale.range, count));
+    if (found.size() > 1 && fit(found, width))
+      return found;
+  }
+  const std::vector<double> middle{m_scale.range.minValue() + m_scale.range.width() * Half};
+  return marks(middle);
+}
+
+/// Each step reaches to the end of the bar and is painted over by the next, so that no gap shines through in documents.
+void LegendBar::drawColors(QPainter &painter, const QRectF &bar) const {
+  painter.setPen(Qt::NoPen);
+  const auto count = static_cast<double>(m_scale.colors.size());
+  for (std::size_t i = 0; i < m_scale.colors.size(); ++i) {
+    if (i > 0 && m_scale.colors[i] == m_scale.colors[i - 1])
+      continue;
+    QRectF rest = bar;
+    rest.setLeft(bar.left() + bar.width() * static_cast<double>(i) / count);
+    painter.setBrush(QColor::fromRgb(m_scale.colors[i]));
+    painter.drawRect(rest);
+  }
+}
+
+void LegendBar::drawCaps(QPainter &painter, const QRectF &bar) const {
+  constexpr double Apart = 1.0; // px
+  const double middle = bar.center().y();
+  painter.setPen(Qt::NoPen);
+  if (m_scale.below) {
+    const double base = bar.left() - Apart;
+    painter.setBrush(QColor::fromRgb(*m_scale.below));
+    painter.drawPolygon(
+        QPolygonF(QVector<QPointF>{{base, bar.top()}, {base, bar.bottom()}, {base - CapWidth + Apart, middle}}));
+  }
+  if (m_scale.above) {
+    const double base = bar.right() + Apart;
+    painter.setBrush(QColor::fromRgb(*m_scale.above));
+    painter.drawPolygon(
+        QPolygonF(QVector<QPointF>{{base, bar.top()}, {base, bar.bottom()}, {base + CapWidth - Apart, middle}}));
+  }
+}
+
+void LegendBar::draw(QPainter &painter, const QRectF &area) const {
+  drawText(painter, area.topLeft(), cut(m_scale.title));
+  const QRectF bar(area.left() + CapWidth, area.top() + lineHeight() + Gap, barWidth() - 2.0 * CapWidth, BarHeight);
+  drawColors(painter, bar);
+  drawCaps(painter, bar);
+  for (const Tick &tick : ticks(bar.width())) {
+    const double x = bar.left() + bar.width() * tick.share;
+    painter.setPen(QPen(style().ink, 1.0));
+    painter.drawLine(QPointF(x, bar.bottom()), QPointF(x, bar.bottom() + TickLength));
+    const double text = widthOf(tick.text);
+    const double left = std::max(area.left(), std::min(x - text * Half, area.right() - text));
+    drawText(painter, {left, bar.bottom() + TickLength}, tick.text);
+  }
+}
+
+LegendSamples::LegendSamples(LegendStyle style, LegendContents::Samples samples, Shape shape)
+    : LegendBlock(std::move(style))
+    , m_samples(std::move(samples))
+    , m_shape(shape) {}
+
+double LegendSamples::keyWidth(const LegendContents::Sample &sample) const {
+  return m_shape == Shape::Line ? KeyRoom : sample.size;
+}
+
+QSizeF LegendSamples::size() const {
+  double width = 0.0;
+  double height = lineHeight();
+  for (const LegendContents::Sample &sample : m_samples.samples) {
+    width += keyWidth(sample) + Gap + widthOf(sample.text) + Spacing;
+    height = std::max(height, sample.size);
+  }
+  return {std::max(width - Spacing, widthOf(cut(m_samples.title))), lineHeight() + height};
+}
+
+void LegendSamples::draw(QPainter &painter, const QRectF &area) const {
+  drawText(painter, area.topLeft(), cut(m_samples.title));
+  const double middle = (area.top() + lineHeight() + area.bottom()) * Half;
+  double left = area.left();
+  for (const LegendContents::Sample &sample : m_samples.samples) {
+    const double width = keyWidth(sample);
+    if (m_shape == Shape::Line) {
+      painter.setPen(QPen(style().ink, sample.size, Qt::SolidLine, Qt::FlatCap));
+      painter.drawLine(QPointF(left, middle), QPointF(left + width, middle));
+    } else {
+      painter.setPen(Qt::NoPen);
+      painter.setBrush(style().ink);
+      painter.drawEllipse(QPointF(left + width * Half, middle), width * Half, width * Half);
+    }
+    drawText(painter, {left + width + Gap, middle - lineHeight() * Half}, sample.text);
+    left += width + Gap + widthOf(sample.text) + Spacing;
+  }
+}
+
+LegendKeys::LegendKeys(LegendStyle style, std::vector<Key> keys)
+    : LegendBlock(std::move(style))
+    , m_keys(std::move(keys)) {}
+
+double LegendKeys::columnWidth() const {
+  double width = 0.0;
+  for (const Key &key : m_keys)
+    width = std::max(width, widthOf(key.text));
+  return KeyRoom + width;
+}
+
+QSizeF LegendKeys::size() const {
+  const double columns = m_keys.size() > 1 ? 2.0 : 1.0;
+  return {columnWidth() * columns + Spacing * (columns - 1.0), static_cast<double>(rows()) * (lineHeight() + 1.0)};
+}
+
+void LegendKeys::draw(QPainter &painter, const QRectF &area) const {
+  const double height = lineHeight() + 1.0;
+  for (std::size_t i = 0; i < m_keys.size(); ++i) {
+    const double left = area.left() + static_cast<double>(i / rows()) * (columnWidth() + Spacing);
+    const double top = area.top() + static_cast<double>(i % rows()) * height;
+    constexpr double Beside = 10.0; // px, the middle of a key
+    m_keys[i].draw(painter, {left + Beside, top + height * Half});
+    drawText(painter, {left + KeyRoom, top}, m_keys[i].text);
+  }
+}

@@ -1,0 +1,118 @@
+#include "legend/legendblocks.h"
+
+#include <drawing/legendpicture.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double Margin = 8.0; // px, about the blocks
+constexpr double Apart = 6.0;  // between two of them
+constexpr double WidestBlock = 280.0;
+
+std::vector<LegendKeys::Key> keysOf(const LegendContents &contents) {
+  constexpr double Length = 9.0; // px, to either side
+  constexpr double LineWidth = 3.0;
+  constexpr double CasingWidth = 8.0;
+  const auto line = [](QPainter &painter, const QPointF &center, const QColor &color, double width) {
+    painter.setPen(QPen(color, width, Qt::SolidLine, Qt::FlatCap));
+    painter.drawLine(center - QPointF(Length, 0.0), center + QPointF(Length, 0.0));
+  };
+  std::vector<LegendKeys::Key> keys;
+  for (const ColorScale::Swatch &swatch : contents.lines)
+    keys.push_back({swatch.text, [line, color = QColor::fromRgb(swatch.color)](QPainter &painter, const QPointF &center) {
+                      line(painter, center, color, LineWidth);
+                    }});
+  for (const ColorScale::Swatch &swatch : contents.casings)
+    keys.push_back({swatch.text, [line, color = QColor::fromRgb(swatch.color)](QPainter &painter, const QPointF &center) {
+                      line(painter, center, color, CasingWidth);
+                      line(painter, center, Qt::white, LineWidth);
+                    }});
+  return keys;
+}
+
+std::vector<LegendKeys::Key> keysOf(const LegendContents &contents, const LegendPicture::DrawSymbol &drawSymbol) {
+  constexpr double SymbolSize = 14.0; // px
+  std::vector<LegendKeys::Key> keys;
+  for (const LegendContents::Symbol &symbol : contents.symbols)
+    keys.push_back({symbol.title, [symbol, drawSymbol](QPainter &painter, const QPointF &center) {
+                      painter.save();
+                      drawSymbol(painter, symbol, center, SymbolSize);
+                      painter.restore();
+                    }});
+  return keys;
+}
+
+} // namespace
+
+LegendPicture::LegendPicture() = default;
+LegendPicture::~LegendPicture() = default;
+
+void LegendPicture::setContents(const LegendContents &contents, const QColor &ground, const QFont &font,
+                                DrawSymbol drawSymbol) {
+  const LegendStyle style{font, ColorScale::isDark(ground) ? QColor(0xe8, 0xea, 0xec) : QColor(0x20, 0x28, 0x30), ground};
+  m_ground = ground;
+  m_blocks.clear();
+  m_shown = 0;
+  m_size = QSizeF();
+  if (contents.isEmpty())
+    return;
+  m_hasCaption = !contents.caption.isEmpty();
+  if (m_hasCaption)
+    m_blocks.push_back(std::make_unique<LegendCaption>(style, contents.caption));
+  for (const LegendContents::Scale &scale : contents.scales)
+    m_blocks.push_back(std::make_unique<LegendBar>(style, scale));
+  if (!contents.lines.empty() || !contents.casings.empty())
+    m_blocks.push_back(std::make_unique<LegendKeys>(style, keysOf(contents)));
+  if (!contents.widths.samples.empty())
+    m_blocks.push_back(std::make_unique<LegendSamples>(style, contents.widths, LegendSamples::Shape::Line));
+  if (!contents.sizes.samples.empty())
+    m_blocks.push_back(std::make_unique<LegendSamples>(style, contents.sizes, LegendSamples::Shape::Dot));
+  if (!contents.symbols.empty())
+    m_blocks.push_back(std::make_unique<LegendKeys>(style, keysOf(contents, drawSymbol)));
+}
+
+void LegendPicture::fitInto(const QSizeF &room) {
+  constexpr double NarrowestBlock = 110.0; // px: in less a scale says nothing
+  const double widest = std::min(WidestBlock, room.width() - 2.0 * Margin);
+  double width = 0.0;
+  double height = 2.0 * Margin - Apart;
+  m_shown = 0;
+  m_size = QSizeF();
+  for (const std::unique_ptr<LegendBlock> &block : m_blocks) {
+    block->limit(widest);
+    const QSizeF size = block->size();
+    height += size.height() + Apart;
+    width = std::max(width, size.width() + 2.0 * Margin);
+    if (height > room.height() || width > room.width() || widest < NarrowestBlock)
+      break;
+    ++m_shown;
+    m_size = QSizeF(std::ceil(width), std::ceil(height));
+  }
+  if (m_shown == 1 && m_hasCaption) { // which would be the name of nothing
+    m_shown = 0;
+    m_size = QSizeF();
+  }
+}
+
+void LegendPicture::draw(QPainter &painter, const QPointF &corner) const {
+  if (m_shown == 0)
+    return;
+  constexpr int GroundAlpha = 225;
+  constexpr double Rounding = 4.0; // px
+  QColor ground = m_ground;
+  ground.setAlpha(GroundAlpha);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(128, 136, 144, 140), 1.0));
+  painter.setBrush(ground);
+  painter.drawRoundedRect(QRectF(corner, m_size).adjusted(0.5, 0.5, -0.5, -0.5), Rounding, Rounding);
+  double top = corner.y() + Margin;
+  for (std::size_t i = 0; i < m_shown; ++i) {
+    const double height = m_blocks[i]->size().height();
+    m_blocks[i]->draw(painter, {corner.x() + Margin, top, m_size.width() - 2.0 * Margin, height});
+    top += height + Apart;
+  }
+  painter.restore();
+}
