@@ -29,9 +29,8 @@ void CanvasOverlay::drawOverlay(QPainter *painter) const {
     painter->fillRect(rect(), m_plot.canvasBackground());
     painter->drawPixmap(pictureArea(), m_picture, m_picture.rect());
   }
-  if (m_item == nullptr)
-    return;
   painter->setRenderHint(QPainter::Antialiasing);
-  m_item->draw(painter, m_plot.canvasMap(QwtPlot::xBottom), m_plot.canvasMap(QwtPlot::yLeft),
+  for (const QwtPlotItem *item : m_items)
+    item->draw(painter, m_plot.canvasMap(QwtPlot::xBottom), m_plot.canvasMap(QwtPlot::yLeft),
                m_plot.canvas()->contentsRect());
 }

@@ -4,14 +4,17 @@
 #include <qwt_plot.h>
 #include <qwt_widget_overlay.h>
 
-/// Lies over the canvas of a plot and lets the mouse through: the moved picture while the view moves, then an item.
+#include <vector>
+
+/// Lies over the canvas of a plot and lets the mouse through: the moved picture while the view moves, then items.
 class CanvasOverlay : public QwtWidgetOverlay {
   Q_OBJECT
 public:
   /// \param plot whose canvas is set already
   explicit CanvasOverlay(QwtPlot &plot);
 
-  void setItem(const QwtPlotItem *item) { m_item = item; }
+  /// Above those that are there.
+  void addItem(const QwtPlotItem *item) { m_items.push_back(item); }
 
   /// Covers the canvas with the picture of a view (in plot coordinates), moved to where that view lies now.
   void setPicture(const QPixmap &picture, const QRectF &view);
@@ -25,7 +28,7 @@ protected:
 
 private:
   QwtPlot &m_plot;
-  const QwtPlotItem *m_item = nullptr;
+  std::vector<const QwtPlotItem *> m_items;
   QPixmap m_picture;
   QRectF m_pictureView; ///< in plot coordinates
 };

@@ -40,8 +40,8 @@ QPointF QwtFastPlot::toPlot(const QPoint &canvasPosition) const {
   return {invTransform(xBottom, canvasPosition.x()), invTransform(yLeft, canvasPosition.y())};
 }
 
-void QwtFastPlot::setOverlayItem(const QwtPlotItem *item) {
-  m_overlay->setItem(item);
+void QwtFastPlot::addOverlayItem(const QwtPlotItem *item) {
+  m_overlay->addItem(item);
 }
 
 void QwtFastPlot::updateOverlay() {

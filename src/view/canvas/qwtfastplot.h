@@ -22,8 +22,8 @@ public:
   /// The scales below and at the left keep the room that their numbers once took, lest the canvas jump while the view moves.
   void forgetScaleRoom();
 
-  /// An item to paint over the canvas, whether it is visible or not; it must outlive the plot's painting.
-  void setOverlayItem(const QwtPlotItem *item);
+  /// One more item to paint over the canvas, whether it is visible or not; it must outlive the plot's painting.
+  void addOverlayItem(const QwtPlotItem *item);
   void updateOverlay();
 
   /// Keeps the picture of the present view and moves it with the view until thaw(). Quick drawings are drawn exactly.

@@ -30,6 +30,7 @@ public:
   const Told &told() const { return m_told; }
   QwtFastPlot *plot() const { return m_plot; }
   PlotZoom *zoomer() const { return m_zoomer; }
+  PlotPanner *panner() const { return m_panner; }
   NetUpdate &update() { return *m_update; }
   SelectionLayer &selection() { return m_selection; }
   QwtPlotGrid &grid() { return m_grid; }
@@ -54,6 +55,9 @@ public:
   /// What the window shows, and what it is to show, in the network's own coordinates.
   QRectF visibleArea() const;
   void showArea(const QRectF &area);
+  /// Where on the canvas a menu stands that was asked for by a key: at what is selected, where that is seen, else in the
+  /// middle.
+  QPoint keyboardPlace() const;
   /// What the legend covers of the canvas, px; empty when it is hidden.
   QRectF legendArea() const;
   /// A plot of its own for one subnet places labels without waiting.
@@ -63,8 +67,11 @@ public:
   void showStragglers();
   /// Brings the element into the middle, as large as the general setting "zoom to element: factor" allows.
   void zoomToElement(NetGeometry::Item item);
+  /// Fits the window to the items, with some room around; false when none of them is drawn.
+  bool zoomToItems(const std::vector<NetGeometry::Item> &items);
 
 signals:
+  void settingsChanged();
   void drawConfigurationRequested();             ///< the colour scale was double-clicked
   void contextMenuRequested(QMenu *contextMenu); ///< to be filled before it is shown at the cursor
 
@@ -84,7 +91,7 @@ private:
   void setUpPanner();
   void applyColors();
   bool canvasEvent(QEvent *event);
-  void showContextMenu();
+  void showContextMenu(const QPoint &place);
 
   Told m_told;
   QwtFastPlot *m_plot;

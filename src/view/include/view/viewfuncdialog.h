@@ -28,6 +28,8 @@ public:
   void setFiles(const QString &labelTable, const LabelTableFile::Reading &read, const QString &plotSettings);
   /// Shows how the plot is drawn now.
   void refresh();
+  /// The same without the label table, of which a person may be changing something.
+  void showSettings();
   /// Takes all bounds of the draw functions from the data.
   void resetMinMaxColorFuncValues();
 
