@@ -1,11 +1,14 @@
 #include "nivraviewer.h"
 
 #include "aboutbox.h"
+#include "commands.h"
 #include "lastscenario.h"
 #include "loadprogress.h"
 #include "logo.h"
+#include "mnemonics.h"
 #include "outcomestyle.h"
 #include "subnetwindow.h"
+#include "toolbar.h"
 #include "tooldocks.h"
 #include "ui_nivraviewer.h"
 #include "wheelguard.h"
@@ -43,6 +46,7 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_categories(std::make_shared<CategoryList>(logFinding))
     , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); }) {
   qApp->installEventFilter(new WheelGuard(this));
+  qApp->installEventFilter(new Mnemonics(this));
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());
@@ -54,6 +58,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   if (QFileInfo::exists(ownStyle))
     applyStyleSheet(ownStyle);
   m_tools = new ToolDocks(*this, *m_control, m_categories);
+  setUpCommands();
   m_ui->statusbar->showMessage(tr("No Workspace loaded"));
   show();
   QCoreApplication::processEvents();
@@ -89,6 +94,18 @@ void NivraViewer::setUpForm() {
   QCoreApplication::setLibraryPaths({});
   m_ui->setupUi(this);
   QCoreApplication::setLibraryPaths(plugins);
+}
+
+void NivraViewer::setUpCommands() {
+  m_commands = new Commands(*this, *m_control, {m_ui->menubar, m_ui->menuFile, m_ui->menuInfo, m_ui->actionOpen});
+  connect(m_commands, &Commands::elementWanted, this, [this](const QString &name) {
+    elementAction(name, NetPicker::EleAction::Mark);
+    if (m_control->showElement(name))
+      m_control->plot()->setFocus();
+    else
+      m_ui->statusbar->showMessage(tr("%1 has no place in the drawing").arg(name));
+  });
+  connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
 }
 
 QString NivraViewer::openDialogStart(const QString &applicationDir) {
@@ -306,7 +323,7 @@ void NivraViewer::showTitle() {
 void NivraViewer::setBusy(bool busy) {
   for (QAction *action : {m_ui->actionOpen, m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
     action->setEnabled(!busy);
-  QWidgetList widgets{m_ui->menubar, m_control->plot()};
+  QWidgetList widgets{m_ui->menubar, m_commands->toolBar(), m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
     widgets.append(dock);
   for (const QPointer<QWidget> &window : otherWindows())

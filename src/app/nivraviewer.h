@@ -15,6 +15,7 @@
 #include <vector>
 
 class CategoryList;
+class Commands;
 class LoadProgress;
 class NetVisControl;
 class SubnetWindow;
@@ -56,6 +57,7 @@ protected:
 
 private:
   void setUpForm();
+  void setUpCommands();
   void applyStyleSheet(const QString &path);
   void openWorkspace(const QString &path);
   void useLastScenario();
@@ -77,6 +79,7 @@ private:
   NetworkLoader m_loader;
   std::shared_ptr<CategoryList> m_categories;
   ToolDocks *m_tools = nullptr;
+  Commands *m_commands = nullptr;
   std::vector<ElementChange> m_changes; ///< since the last showChanges()
   OncePerTurn m_showingChanges;
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read

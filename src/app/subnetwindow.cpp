@@ -40,6 +40,8 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
     emit elementMarked(name);
   });
   connect(m_tools, &ToolDocks::elementsChanged, this, &SubnetWindow::giveProperty);
+  connect(&m_control->actions(), &PlotActions::told, this, [this](const QString &text) { statusBar()->showMessage(text); });
+  connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
   connect(m_control.get(), &NetVisControl::elementAction, this, [this](const QString &name, NetPicker::EleAction action) {
     if (action == NetPicker::EleAction::OpenCharacteristics)
       emit m_control->openCharacteristicsRequested({name});
