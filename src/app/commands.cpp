@@ -5,7 +5,6 @@
 #include "svgicon.h"
 #include "toolbar.h"
 
-#include <base/index.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 #include <view/plotactions.h>
@@ -197,6 +196,8 @@ void Commands::goToPanel(int step) {
 
 void Commands::showMenuOfFocus() {
   QWidget *widget = QApplication::focusWidget();
+  if (widget == nullptr || !widget->isVisible())
+    widget = m_window.focusWidget(); // which it gets back once the list of commands has gone
   if (widget == nullptr)
     return;
   QPoint place = widget->rect().center();

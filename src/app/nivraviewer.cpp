@@ -38,6 +38,26 @@
 
 #include <utility>
 
+namespace {
+
+/// Menu bar and tool bar have an icon each. To read a picture the toolkit loads all of its plugins for pictures and asks
+/// them, which was a fifth of the start; while it does not see them it reads these by itself.
+class WithoutPlugins {
+public:
+  WithoutPlugins()
+      : m_paths(QCoreApplication::libraryPaths()) {
+    QCoreApplication::setLibraryPaths({});
+  }
+  ~WithoutPlugins() { QCoreApplication::setLibraryPaths(m_paths); }
+  WithoutPlugins(const WithoutPlugins &) = delete;
+  WithoutPlugins &operator=(const WithoutPlugins &) = delete;
+
+private:
+  QStringList m_paths;
+};
+
+} // namespace
+
 NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::NivraViewer>())
@@ -87,16 +107,13 @@ NivraViewer::NivraViewer(QWidget *parent)
 
 NivraViewer::~NivraViewer() = default;
 
-// The menu bar has an icon. To read a picture the toolkit loads all of its plugins for pictures and asks them, which was a
-// fifth of the start; while it does not see them it reads this one by itself.
 void NivraViewer::setUpForm() {
-  const QStringList plugins = QCoreApplication::libraryPaths();
-  QCoreApplication::setLibraryPaths({});
+  const WithoutPlugins own;
   m_ui->setupUi(this);
-  QCoreApplication::setLibraryPaths(plugins);
 }
 
 void NivraViewer::setUpCommands() {
+  const WithoutPlugins own;
   m_commands = new Commands(*this, *m_control, {m_ui->menubar, m_ui->menuFile, m_ui->menuInfo, m_ui->actionOpen});
   connect(m_commands, &Commands::elementWanted, this, [this](const QString &name) {
     elementAction(name, NetPicker::EleAction::Mark);

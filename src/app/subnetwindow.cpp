@@ -1,5 +1,6 @@
 #include "subnetwindow.h"
 
+#include "mnemonics.h"
 #include "tooldocks.h"
 
 #include <base/finding.h>
@@ -62,6 +63,7 @@ void SubnetWindow::fillMenus() {
       tr("SearchElements"), m_tools, [this] { m_tools->search()->enterLastField(); }, QKeySequence::Find);
   QMenu *view = menuBar()->addMenu(tr("View"));
   connect(view, &QMenu::aboutToShow, m_tools, [this, view] { m_tools->fillViewMenu(*view); });
+  Mnemonics::assign(menuBar()->actions());
 }
 
 void SubnetWindow::giveProperty(const ElementChange &change) {
