@@ -259,7 +259,7 @@ void TestCommands::paletteFindsAndRuns() {
   open(viewer, m_workspace.scenario());
   NetPlot &plot = *viewer.visControl()->plot();
   const auto ask = [&viewer] {
-    if (!QTest::qWaitForWindowActive(&viewer)) // again
+    if (!QTest::qWaitFor([&viewer] { return QApplication::activeWindow() == &viewer; })) // again
       return static_cast<CommandPalette *>(nullptr);
     QTest::keyClick(canvas(viewer), Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     return viewer.findChild<CommandPalette *>();
@@ -287,7 +287,7 @@ void TestCommands::paletteFindsAndRuns() {
   QTest::keyClick(query, Qt::Key_Escape);
   QVERIFY(!palette->isVisible());
 
-  ask();
+  QVERIFY(ask() == palette && palette->isVisible());
   QTest::keyClicks(query, QStringLiteral("whole"));
   QCOMPARE(list->model()->index(0, 2).data().toString(), QStringLiteral("Ctrl+0"));
   QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualRect(list->model()->index(0, 0)).center());
