@@ -13,6 +13,7 @@ ConsoleDock::ConsoleDock(const QStringList &before, QWidget *parent)
   setObjectName(QStringLiteral("consoleDock")); // by this name the window keeps its place
   constexpr int KeptLines = 10000;
   m_text->setReadOnly(true);
+  m_text->setAccessibleName(tr("Messages"));
   m_text->setUndoRedoEnabled(false);
   m_text->setMaximumBlockCount(KeptLines);
   m_text->setPlaceholderText(tr("Messages of the program appear here."));

@@ -1,10 +1,12 @@
 #include "nivraviewer.h"
 
 #include "aboutbox.h"
+#include "commands.h"
 #include "lastscenario.h"
 #include "layerkeeper.h"
 #include "loadprogress.h"
 #include "logo.h"
+#include "mnemonics.h"
 #include "opendialog.h"
 #include "outcomestyle.h"
 #include "settings/numberlocale.h"
@@ -12,6 +14,7 @@
 #include "recentmenu.h"
 #include "reloadoffer.h"
 #include "subnetwindow.h"
+#include "toolbar.h"
 #include "tooldocks.h"
 #include "ui_nivraviewer.h"
 #include "wheelguard.h"
@@ -41,6 +44,26 @@
 
 #include <utility>
 
+namespace {
+
+/// Menu bar and tool bar have an icon each. To read a picture the toolkit loads all of its plugins for pictures and asks
+/// them, which was a fifth of the start; while it does not see them it reads these by itself.
+class WithoutPlugins {
+public:
+  WithoutPlugins()
+      : m_paths(QCoreApplication::libraryPaths()) {
+    QCoreApplication::setLibraryPaths({});
+  }
+  ~WithoutPlugins() { QCoreApplication::setLibraryPaths(m_paths); }
+  WithoutPlugins(const WithoutPlugins &) = delete;
+  WithoutPlugins &operator=(const WithoutPlugins &) = delete;
+
+private:
+  QStringList m_paths;
+};
+
+} // namespace
+
 /// How long an opening takes, without the time for which a person was asked.
 class NivraViewer::OpeningClock {
 public:
@@ -63,6 +86,7 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_reload(new QAction(tr("&Reload"), this))
     , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); }) {
   qApp->installEventFilter(new WheelGuard(this));
+  qApp->installEventFilter(new Mnemonics(this));
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());
@@ -75,6 +99,7 @@ NivraViewer::NivraViewer(QWidget *parent)
     applyStyleSheet(ownStyle);
   m_tools = new ToolDocks(*this, *m_control, m_categories);
   m_memory = new WorkspaceMemory(*this, *m_control, *m_tools, *m_layers);
+  setUpCommands();
   m_ui->statusbar->showMessage(tr("No Workspace loaded"));
   show();
   QCoreApplication::processEvents();
@@ -134,13 +159,22 @@ void NivraViewer::remember(WorkspaceMemory::Keeps keeps) {
     QTimer::singleShot(0, m_ui->label, [this] { m_ui->label->showRecent(m_memory->recent()); });
 }
 
-// The menu bar has an icon. To read a picture the toolkit loads all of its plugins for pictures and asks them, which was a
-// fifth of the start; while it does not see them it reads this one by itself.
 void NivraViewer::setUpForm() {
-  const QStringList plugins = QCoreApplication::libraryPaths();
-  QCoreApplication::setLibraryPaths({});
+  const WithoutPlugins own;
   m_ui->setupUi(this);
-  QCoreApplication::setLibraryPaths(plugins);
+}
+
+void NivraViewer::setUpCommands() {
+  const WithoutPlugins own;
+  m_commands = new Commands(*this, *m_control, {m_ui->menubar, m_ui->menuFile, m_ui->menuInfo, m_ui->actionOpen});
+  connect(m_commands, &Commands::elementWanted, this, [this](const QString &name) {
+    elementAction(name, NetPicker::EleAction::Mark);
+    if (m_control->showElement(name))
+      m_control->plot()->setFocus();
+    else
+      m_ui->statusbar->showMessage(tr("%1 has no place in the drawing").arg(name));
+  });
+  connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
 }
 
 QString NivraViewer::openDialogStart(const QString &applicationDir) {
@@ -439,7 +473,7 @@ void NivraViewer::setBusy(bool busy) {
   for (QAction *action : {m_ui->actionOpen, m_ui->actionSettings, m_ui->actionSearch, m_ui->actionElement_Table,
                           m_ui->actionMetadataTable, m_reload})
     action->setEnabled(!busy);
-  QWidgetList widgets{m_ui->menubar, m_control->plot()};
+  QWidgetList widgets{m_ui->menubar, m_commands->toolBar(), m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
     widgets.append(dock);
   for (const QPointer<QWidget> &window : otherWindows())

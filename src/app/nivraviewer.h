@@ -16,6 +16,7 @@
 #include <vector>
 
 class CategoryList;
+class Commands;
 class LayerKeeper;
 class LoadProgress;
 class NetVisControl;
@@ -67,6 +68,7 @@ private:
   void setUpForm();
   void setUpFileMenu();
   void setUpReloading();
+  void setUpCommands();
   void applyStyleSheet(const QString &path);
   void openWorkspace(const QString &path);
   void showWorkspace(bool isRead);
@@ -97,6 +99,7 @@ private:
   WorkspaceMemory *m_memory = nullptr;
   ReloadOffer *m_reloadOffer;
   QAction *m_reload;
+  Commands *m_commands = nullptr;
   std::vector<ElementChange> m_changes; ///< since the last showChanges()
   OncePerTurn m_showingChanges;
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read

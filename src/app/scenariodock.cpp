@@ -55,6 +55,9 @@ ScenarioDock::ScenarioDock(QWidget *parent)
   auto *column = new QVBoxLayout(contents);
   auto *parts = new QSplitter(Qt::Horizontal);
   m_filter->setPlaceholderText(tr("Filter"));
+  m_filter->setAccessibleName(tr("Filter of the scenario's settings"));
+  m_tree->setAccessibleName(tr("Settings of the scenario"));
+  m_gasTable->setAccessibleName(tr("Gases"));
   column->addWidget(m_filter);
   column->addWidget(m_hint);
   column->addWidget(parts, 1);

@@ -1,5 +1,6 @@
 #include "subnetwindow.h"
 
+#include "mnemonics.h"
 #include "tooldocks.h"
 
 #include <base/finding.h>
@@ -41,6 +42,8 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
     emit elementMarked(name);
   });
   connect(m_tools, &ToolDocks::elementsChanged, this, &SubnetWindow::giveProperty);
+  connect(&m_control->actions(), &PlotActions::told, this, [this](const QString &text) { statusBar()->showMessage(text); });
+  connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
   connect(m_control.get(), &NetVisControl::elementAction, this, [this](const QString &name, NetPicker::EleAction action) {
     if (action == NetPicker::EleAction::OpenCharacteristics)
       emit m_control->openCharacteristicsRequested({name});
@@ -61,6 +64,7 @@ void SubnetWindow::fillMenus() {
       tr("SearchElements"), m_tools, [this] { m_tools->search()->enterLastField(); }, QKeySequence::Find);
   QMenu *view = menuBar()->addMenu(tr("View"));
   connect(view, &QMenu::aboutToShow, m_tools, [this, view] { m_tools->fillViewMenu(*view); });
+  Mnemonics::assign(menuBar()->actions());
 }
 
 void SubnetWindow::giveProperty(const ElementChange &change) {

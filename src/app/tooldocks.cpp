@@ -2,6 +2,7 @@
 
 #include "consoledock.h"
 #include "helpwindow.h"
+#include "mnemonics.h"
 #include "scenariodock.h"
 
 #include <base/nivramsg.h>
@@ -34,7 +35,8 @@
 namespace {
 
 QList<QAction *> sortedByText(QList<QAction *> actions) {
-  std::sort(actions.begin(), actions.end(), [](const QAction *a, const QAction *b) { return a->text() < b->text(); });
+  std::sort(actions.begin(), actions.end(),
+            [](const QAction *a, const QAction *b) { return Mnemonics::plain(a->text()) < Mnemonics::plain(b->text()); });
   return actions;
 }
 
@@ -55,6 +57,7 @@ ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control, std::shared_pt
     return;
   m_findingsButton = new QToolButton;
   m_findingsButton->setAutoRaise(true);
+  m_findingsButton->setAccessibleName(tr("Show the findings"));
   m_findingsButton->hide();
   connect(m_findingsButton, &QToolButton::clicked, this, [this] {
     m_findings->show();
@@ -318,6 +321,11 @@ void ToolDocks::showDrawConfiguration() {
   QWidget *dock = m_draw->parentWidget();
   dock->show();
   dock->raise();
+}
+
+void ToolDocks::showDrawSettings() {
+  if (m_draw != nullptr)
+    m_draw->showSettings();
 }
 
 void ToolDocks::createElement() {

@@ -78,6 +78,8 @@ public:
   /// The property viewer, in front, with the first of the elements.
   void showProperties(const QStringList &names);
   void showDrawConfiguration();
+  /// What the drawing's settings are now, where a command changed them.
+  void showDrawSettings();
   /// The maps of compressors and drives, in pages of their own.
   void openCharacteristics(const QStringList &names);
   void setMachines(const MachineData &machines);

@@ -1,6 +1,8 @@
 #include "canvas/canvaslegend.h"
 #include "canvas/qwtfastplot.h"
 #include "configure/plotsettingsfile.h"
+#include "interaction/measuretool.h"
+#include "interaction/mousemodes.h"
 #include "interaction/plotmenu.h"
 #include "interaction/plotzoom.h"
 
@@ -20,7 +22,11 @@ NetVisControl::NetVisControl(NetData &net, const QString &name, Told told, QObje
     , m_name(name)
     , m_plot(new NetPlot(nullptr, std::move(told)))
     , m_picker(new NetPicker(*m_plot, net))
-    , m_menu(std::make_unique<PlotMenu>(*m_plot, *m_picker, net))
+    , m_modes(new MouseModes(*m_plot, *m_picker, m_plot))
+    , m_measure(new MeasureTool(*m_plot, m_plot))
+    , m_actions(
+          std::make_unique<PlotActions>(PlotActions::Subject{*m_plot, *m_picker, net, m_bookmarks, *m_modes, *m_measure}))
+    , m_menu(std::make_unique<PlotMenu>(*m_plot, *m_picker, net, *m_actions))
     , m_drawing(OncePerTurn::Stage::Draw, [this] { draw(); }) {
   m_plot->setShowsSubnet(!name.isEmpty());
   connect(m_picker, &NetPicker::selectionChanged, this, &NetVisControl::selectionChanged);
@@ -35,24 +41,38 @@ NetVisControl::NetVisControl(NetData &net, const QString &name, Told told, QObje
   connect(m_menu.get(), &PlotMenu::editPropertiesRequested, this, &NetVisControl::editPropertiesRequested);
   connect(m_menu.get(), &PlotMenu::openCharacteristicsRequested, this, &NetVisControl::openCharacteristicsRequested);
   connect(m_menu.get(), &PlotMenu::subnetRequested, this, &NetVisControl::subnetWanted);
-  connect(m_menu.get(), &PlotMenu::traceRequested, this, &NetVisControl::trace);
-  connect(m_menu.get(), &PlotMenu::configureDrawRequested, this, &NetVisControl::configureDrawRequested);
-  connect(m_menu.get(), &PlotMenu::searchResultsRequested, this, &NetVisControl::setShowsSearchResults);
+  connectActions();
   connect(m_plot, &NetPlot::drawConfigurationRequested, this, &NetVisControl::configureDrawRequested);
 }
 
-void NetVisControl::fillMenu(QMenu &contextMenu) {
+void NetVisControl::connectActions() {
+  const PlotActions *actions = m_actions.get();
+  connect(actions, &PlotActions::showRequested, this, &NetVisControl::showElement);
+  connect(actions, &PlotActions::infoRequested, this,
+          [this](const QString &wanted) { emit elementAction(wanted, NetPicker::EleAction::ShowInfo); });
+  connect(actions, &PlotActions::propertiesRequested, this, &NetVisControl::editPropertiesRequested);
+  connect(actions, &PlotActions::characteristicsRequested, this, &NetVisControl::openCharacteristicsRequested);
+  connect(actions, &PlotActions::subnetRequested, this, &NetVisControl::subnetWanted);
+  connect(actions, &PlotActions::traceRequested, this, &NetVisControl::trace);
+  connect(actions, &PlotActions::configureRequested, this, &NetVisControl::configureDrawRequested);
+  connect(actions, &PlotActions::searchResultsRequested, this, &NetVisControl::setShowsSearchResults);
+}
+
+PlotActions::Answered NetVisControl::answered() const {
   const auto isAnswered = [this](auto signal) {
     return isSignalConnected(QMetaMethod::fromSignal(signal));
   };
-  PlotMenu::State state{isAnswered(&NetVisControl::elementAction),
-                        isAnswered(&NetVisControl::editPropertiesRequested),
-                        isAnswered(&NetVisControl::openCharacteristicsRequested),
-                        isAnswered(&NetVisControl::subnetWanted),
-                        isAnswered(&NetVisControl::configureDrawRequested),
-                        showsSearchResults(),
-                        m_bookmarks};
-  m_menu->fill(contextMenu, state);
+  return {isAnswered(&NetVisControl::elementAction), isAnswered(&NetVisControl::editPropertiesRequested),
+          isAnswered(&NetVisControl::openCharacteristicsRequested), isAnswered(&NetVisControl::subnetWanted),
+          isAnswered(&NetVisControl::configureDrawRequested)};
+}
+
+void NetVisControl::refreshActions() {
+  m_actions->refresh(answered());
+}
+
+void NetVisControl::fillMenu(QMenu &contextMenu) {
+  m_menu->fill(contextMenu, {answered(), m_bookmarks});
 }
 
 NetVisControl::~NetVisControl() {
@@ -70,7 +90,11 @@ void NetVisControl::clear() {
   m_plot->selection().setGeometry(nullptr);
   m_plot->update().setNetData(nullptr);
   m_plot->canvasLegend().refresh();
+  m_measure->clear();
+  m_modes->setMode(MouseModes::Mode::Zoom);
   m_plot->plot()->replot();
+  m_actions->forgetFunctions();
+  m_actions->refreshSeen();
 }
 
 void NetVisControl::showNetData(const QString &plotSettingsPath) {
@@ -98,6 +122,7 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   m_plot->update().setFolder(folder, m_subnetIcons);
   m_plot->update().setLabelTable(labels);
   m_plot->showNetwork();
+  m_actions->refreshSeen();
 }
 
 NetVisControl::OwnStyle NetVisControl::ownStyle() const {
@@ -142,6 +167,7 @@ void NetVisControl::draw() {
 
 void NetVisControl::redraw() {
   m_labels = NetUpdate::Labels::Renewed;
+  m_actions->forgetFunctions();
   m_drawing.request();
   m_drawing.flush();
 }
@@ -205,6 +231,7 @@ void NetVisControl::setShowsSearchResults(bool shows) {
   using Mode = NetUpdate::DisplayMode;
   m_plot->update().setDisplayMode(shows ? Mode::SearchResults : Mode::Functions);
   m_drawing.request();
+  m_actions->refreshSeen();
 }
 
 bool NetVisControl::showsSearchResults() const {

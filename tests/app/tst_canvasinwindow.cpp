@@ -1,5 +1,6 @@
 #include "canvas/qwtfastplot.h"
 #include "interaction/plotzoom.h"
+#include "mnemonics.h"
 #include "nivraviewer.h"
 #include "workspacefixture.h"
 
@@ -194,14 +195,15 @@ void TestCanvasInWindow::machinesUnderTheCursorAreOffered() {
     QTest::mouseClick(canvas, Qt::RightButton, Qt::NoModifier, compressor->center.toPoint());
     auto *shown = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     QStringList texts;
-    for (const QAction *entry : shown->findChildren<QAction *>()) {
-      if (entry->isEnabled() && entry->text().startsWith(QLatin1String("Open Characteristics")))
-        texts.append(entry->text());
-    }
-    for (const QMenu *sub : shown->findChildren<QMenu *>()) {
-      if (sub->title().startsWith(QLatin1String("Open Characteristics of")))
-        for (const QAction *entry : sub->actions())
-          texts.append(entry->text().section(QLatin1Char('\t'), 0, 0));
+    for (const QAction *entry : shown->actions()) {
+      const QString text = Mnemonics::plain(entry->text());
+      if (!entry->isEnabled() || !text.startsWith(QLatin1String("Open Characteristics")))
+        continue;
+      texts.append(text);
+      if (entry->menu() == nullptr)
+        continue;
+      for (const QAction *machine : entry->menu()->actions())
+        texts.append(Mnemonics::plain(machine->text()).section(QLatin1Char('\t'), 0, 0));
     }
     shown->close();
     return texts;

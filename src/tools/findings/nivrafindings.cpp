@@ -27,6 +27,8 @@ NivraFindings::NivraFindings(QWidget *parent)
   next->setShortcut(Qt::Key_F8);
   next->setToolTip(tr("Go to the next finding (F8)"));
   m_filter->setPlaceholderText(tr("Filter"));
+  m_filter->setAccessibleName(tr("Filter of the findings"));
+  m_tree->setAccessibleName(tr("Findings"));
   row->addWidget(m_filter, 1);
   row->addWidget(next);
   row->addWidget(m_count);

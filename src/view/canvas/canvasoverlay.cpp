@@ -13,8 +13,8 @@ CanvasOverlay::CanvasOverlay(QwtPlot &plot)
   lower(); // rubber bands and the moving picture of the panner lie above
 }
 
-void CanvasOverlay::setPicture(const QPixmap &picture, const QRectF &view, bool hasItem) {
-  m_pictureHasItem = hasItem;
+void CanvasOverlay::setPicture(const QPixmap &picture, const QRectF &view, bool hasItems) {
+  m_pictureHasItems = hasItems;
   m_picture = picture;
   m_pictureView = view;
 }
@@ -31,18 +31,19 @@ void CanvasOverlay::drawOverlay(QPainter *painter) const {
     painter->fillRect(rect(), m_plot.canvasBackground());
     painter->drawPixmap(pictureArea(), m_picture, m_picture.rect());
   }
-  if (m_item == nullptr || (hasPicture() && m_pictureHasItem))
+  if (hasPicture() && m_pictureHasItems)
     return;
   constexpr double MillisecondsPerNanosecond = 1e-6;
   QElapsedTimer timer;
   timer.start();
   painter->setRenderHint(QPainter::Antialiasing);
-  m_item->draw(painter, m_plot.canvasMap(QwtPlot::xBottom), m_plot.canvasMap(QwtPlot::yLeft),
+  for (const QwtPlotItem *item : m_items)
+    item->draw(painter, m_plot.canvasMap(QwtPlot::xBottom), m_plot.canvasMap(QwtPlot::yLeft),
                m_plot.canvas()->contentsRect());
   const double time = static_cast<double>(timer.nsecsElapsed()) * MillisecondsPerNanosecond;
   const QRectF view(m_plot.canvasMap(QwtPlot::xBottom).s1(), m_plot.canvasMap(QwtPlot::yLeft).s1(),
                     m_plot.canvasMap(QwtPlot::xBottom).sDist(), m_plot.canvasMap(QwtPlot::yLeft).sDist());
-  if (view != m_itemView || time > m_itemTime) // of a view that it knows already an item may keep a picture
-    m_itemTime = time;
-  m_itemView = view;
+  if (view != m_itemsView || time > m_itemsTime) // of a view that it knows already items may keep a picture
+    m_itemsTime = time;
+  m_itemsView = view;
 }

@@ -9,6 +9,7 @@
 #include <base/settings.h>
 #include <view/netplot.h>
 
+#include <QContextMenuEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QVBoxLayout>
@@ -66,7 +67,7 @@ NetPlot::NetPlot(QWidget *parent, Told told)
   m_selection.setFilter(&m_update->layers());
   m_selection.setEdgeWidths(&m_update->edgeWidths());
   m_selection.attach(m_plot);
-  m_plot->setOverlayItem(&m_selection);
+  m_plot->addOverlayItem(&m_selection);
   applyColors();
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -124,7 +125,6 @@ void NetPlot::setUpLegend() {
       m_canvasLegend->refresh();
     m_plot->updateOverlay();
     m_update->requestPixtest(0); // labels keep away from the legend
-    emit settingsChanged();
   });
   m_plot->setLeftOut([this](bool isLeftOut) { m_canvasLegend->setIsLeftOut(isLeftOut); });
 }
@@ -195,21 +195,52 @@ void NetPlot::zoomToElement(NetGeometry::Item item) {
   m_zoomer->zoom(QRectF(center->x() - size.width() * 0.5, center->y() - size.height() * 0.5, size.width(), size.height()));
 }
 
+bool NetPlot::zoomToItems(const std::vector<NetGeometry::Item> &items) {
+  if (items.size() == 1) {
+    zoomToElement(items.front());
+    return m_update->geometry().center(items.front()).has_value();
+  }
+  const NetGeometry &geometry = m_update->geometry();
+  std::optional<QRectF> area;
+  const auto add = [&area](const QPointF &point) {
+    if (!area)
+      area = QRectF(point, QSizeF(0.0, 0.0));
+    area->setLeft(std::min(area->left(), point.x()));
+    area->setRight(std::max(area->right(), point.x()));
+    area->setTop(std::min(area->top(), point.y()));
+    area->setBottom(std::max(area->bottom(), point.y()));
+  };
+  for (const NetGeometry::Item item : items) {
+    const std::optional<QPointF> center = geometry.center(item);
+    if (!center)
+      continue;
+    add(*center);
+    if (item.kind != NetData::Edge)
+      continue;
+    const QLineF line = geometry.line(geometry.edges()[item.index]);
+    add(line.p1());
+    add(line.p2());
+  }
+  if (!area)
+    return false;
+  constexpr double Room = 1.2;
+  const QSizeF size = (area->size() * Room).expandedTo(m_zoomer->limits().smallest).boundedTo(m_zoomer->zoomBase().size());
+  m_zoomer->zoom(QRectF(area->center() - QPointF(size.width(), size.height()) * 0.5, size));
+  return true;
+}
+
 void NetPlot::readMousePattern() {
   const QString pattern = Settings::MousePatternPanning.value();
   if (pattern == QLatin1String("Left_Ctrl"))
-    m_panner->setMouseButton(Qt::LeftButton, Qt::ControlModifier);
+    m_panner->setOwnButton(Qt::LeftButton, Qt::ControlModifier);
   else if (pattern == QLatin1String("RightButton"))
-    m_panner->setMouseButton(Qt::RightButton);
+    m_panner->setOwnButton(Qt::RightButton);
   else
-    m_panner->setMouseButton(Qt::MiddleButton);
+    m_panner->setOwnButton(Qt::MiddleButton);
 }
 
 bool NetPlot::pansWith(Qt::MouseButton button, Qt::KeyboardModifiers keys) const {
-  Qt::MouseButton ownButton = Qt::NoButton;
-  Qt::KeyboardModifiers ownKeys = Qt::NoModifier;
-  m_panner->getMouseButton(ownButton, ownKeys);
-  return m_panner->isEnabled() && button == ownButton && keys == ownKeys;
+  return m_panner->pansWith(button, keys);
 }
 
 void NetPlot::setSettings(const PlotSettings &settings) {
@@ -217,6 +248,7 @@ void NetPlot::setSettings(const PlotSettings &settings) {
   m_selection.setSizes(m_settings.nodeMag, m_settings.symMag);
   m_selection.setGround(m_settings.bgrColor, m_settings.dimsRest);
   applyColors();
+  emit settingsChanged();
 }
 
 bool NetPlot::readPlotSettings(const QString &path) {
@@ -402,8 +434,13 @@ bool NetPlot::canvasEvent(QEvent *event) {
     return false;
   case QEvent::MouseButtonRelease:
     if (static_cast<QMouseEvent *>(event)->button() == Qt::RightButton && !m_mouseMoved)
-      showContextMenu();
+      showContextMenu(QCursor::pos());
     return false;
+  case QEvent::ContextMenu:
+    if (static_cast<QContextMenuEvent *>(event)->reason() != QContextMenuEvent::Keyboard)
+      return false; // the mouse brings it on release
+    showContextMenu(m_plot->canvas()->mapToGlobal(keyboardPlace()));
+    return true;
   case QEvent::Enter:
   case QEvent::Leave:
     return true;
@@ -412,12 +449,27 @@ bool NetPlot::canvasEvent(QEvent *event) {
   }
 }
 
-void NetPlot::showContextMenu() {
+QPoint NetPlot::keyboardPlace() const {
+  const QRect area = m_plot->canvas()->contentsRect();
+  for (const NetGeometry::Item item : m_selection.items()) {
+    const std::optional<QPointF> center = m_update->geometry().center(item);
+    const QPoint place =
+        center ? QPointF(m_plot->transform(QwtPlot::xBottom, center->x()), m_plot->transform(QwtPlot::yLeft, center->y()))
+                     .toPoint()
+               : QPoint(-1, -1);
+    if (area.contains(place))
+      return place;
+    break; // of many the first
+  }
+  return area.center();
+}
+
+void NetPlot::showContextMenu(const QPoint &place) {
   auto *contextMenu = new QMenu(this);
   contextMenu->setAttribute(Qt::WA_DeleteOnClose);
   emit contextMenuRequested(contextMenu);
   if (contextMenu->isEmpty())
     delete contextMenu;
   else
-    contextMenu->popup(QCursor::pos());
+    contextMenu->popup(place);
 }

@@ -40,8 +40,8 @@ QPointF QwtFastPlot::toPlot(const QPoint &canvasPosition) const {
   return {invTransform(xBottom, canvasPosition.x()), invTransform(yLeft, canvasPosition.y())};
 }
 
-void QwtFastPlot::setOverlayItem(const QwtPlotItem *item) {
-  m_overlay->setItem(item);
+void QwtFastPlot::addOverlayItem(const QwtPlotItem *item) {
+  m_overlay->addItem(item);
 }
 
 void QwtFastPlot::updateOverlay() {
@@ -52,7 +52,7 @@ void QwtFastPlot::freeze() {
   constexpr double QuickEnough = 8.0; // ms, half of what a fluid movement leaves for a frame
   if (isFrozen() || m_frameTime < QuickEnough)
     return;
-  const bool isQuick = m_overlay->itemTime() < QuickEnough;
+  const bool isQuick = m_overlay->itemsTime() < QuickEnough;
   m_overlay->setVisible(!isQuick); // what lies on it follows the view by itself, else it is moved with the picture
   m_overlay->setPicture(grabDrawing(), visibleRect(), !isQuick);
   m_overlay->show();

@@ -28,8 +28,8 @@ public:
   void setLeftOut(std::function<void(bool isLeftOut)> leftOut) { m_leftOut = std::move(leftOut); }
   /// The canvas without what stands still while the view moves.
   QPixmap grabDrawing();
-  /// An item to paint over the canvas, whether it is visible or not; it must outlive the plot's painting.
-  void setOverlayItem(const QwtPlotItem *item);
+  /// One more item to paint over the canvas, whether it is visible or not; it must outlive the plot's painting.
+  void addOverlayItem(const QwtPlotItem *item);
   void updateOverlay();
 
   /// Keeps the picture of the present view and moves it with the view until thaw(). Quick drawings are drawn exactly.

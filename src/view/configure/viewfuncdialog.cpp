@@ -219,9 +219,13 @@ void viewFuncDialog::offerSavedSettings() {
   m_ui->savedSettings->setEnabled(QFileInfo::exists(m_plotSettingsPath) || QFileInfo::exists(m_labelTablePath));
 }
 
-void viewFuncDialog::refresh() {
+void viewFuncDialog::showSettings() {
   m_functions->showFunctions(m_plot.settings());
   m_fields->show(m_plot.settings());
+}
+
+void viewFuncDialog::refresh() {
+  showSettings();
   m_labels->setTable(m_plot.update().labelTable());
   offerSavedSettings();
 }

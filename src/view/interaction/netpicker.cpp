@@ -13,6 +13,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -59,10 +60,12 @@ NetPicker::NetPicker(NetPlot &plot, NetData &net)
   connect(m_selectAll, &QAction::triggered, this, &NetPicker::selectAll);
 }
 
-NetPicker::Mode NetPicker::modeFor(Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+NetPicker::Mode NetPicker::modeFor(Qt::MouseButton button, Qt::KeyboardModifiers keys) const {
   if (button != Qt::LeftButton && button != Qt::RightButton)
     return Mode::None;
   keys &= Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  if (m_selectsArea && button == Qt::LeftButton && (keys == Qt::NoModifier || keys == Qt::ShiftModifier))
+    return keys == Qt::NoModifier ? Mode::Rectangle : Mode::RectangleMore;
   if (keys == Qt::NoModifier || keys == Qt::AltModifier)
     return Mode::Pick;
   if (keys == Qt::ControlModifier)
@@ -78,10 +81,10 @@ void NetPicker::widgetMousePressEvent(QMouseEvent *event) {
   m_mode = m_zoomsRectangle ? Mode::None : modeFor(event->button(), event->modifiers());
   m_pressed = event->pos();
   m_hits = hitsAt(m_pressed); // for the press, the release and the menu
-  const bool isRectangle = m_mode == Mode::Rectangle || m_mode == Mode::RectangleMore;
-  setMousePattern(MouseSelect1, isRectangle ? Qt::LeftButton : Qt::NoButton, event->modifiers());
+  setMousePattern(MouseSelect1, isRectangle() ? Qt::LeftButton : Qt::NoButton, event->modifiers());
   // What may become a movement of the view, or a rectangle to zoom to, selects only as a click.
-  m_picksOnRelease = Settings::PickOnRelease.value() || m_plot.pansWith(event->button(), event->modifiers()) ||
+  m_picksOnRelease = m_selectsArea || Settings::PickOnRelease.value() ||
+                     m_plot.pansWith(event->button(), event->modifiers()) ||
                      (event->button() == Qt::LeftButton && m_hits.empty());
   if (!m_picksOnRelease)
     pick(event->button());
@@ -91,8 +94,11 @@ void NetPicker::widgetMousePressEvent(QMouseEvent *event) {
 void NetPicker::widgetMouseReleaseEvent(QMouseEvent *event) {
   QwtPlotPicker::widgetMouseReleaseEvent(event);
   const QPoint way = event->pos() - m_pressed;
-  if (m_picksOnRelease && way.manhattanLength() < QApplication::startDragDistance())
+  if (m_picksOnRelease && way.manhattanLength() < QApplication::startDragDistance()) {
+    if (m_selectsArea && isRectangle()) // a click draws none
+      m_mode = m_mode == Mode::Rectangle ? Mode::Pick : Mode::PickMore;
     pick(event->button());
+  }
   m_mode = Mode::None;
   if (event->button() != Qt::RightButton)
     m_hits.clear();
@@ -138,6 +144,9 @@ bool NetPicker::eventFilter(QObject *watched, QEvent *event) {
       QToolTip::showText(help->globalPos(), toolTipFor(hits.front().item), canvas());
     return true;
   }
+  if (watched == canvas() && event->type() == QEvent::ContextMenu &&
+      static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard)
+    m_hits = hitsAt(m_plot.keyboardPlace());
   if (watched == canvas() && event->type() == QEvent::WindowBlocked) { // the release goes to the dialog
     m_mode = Mode::None;
     m_picksOnRelease = false;
@@ -256,7 +265,9 @@ bool NetPicker::end(bool ok) {
   if (!QwtPlotPicker::end(ok))
     return false;
   const QPolygon corners = selection();
-  if (corners.size() >= 2)
+  const bool isClick = m_selectsArea && corners.size() >= 2 &&
+                       (corners.last() - corners.first()).manhattanLength() < QApplication::startDragDistance();
+  if (corners.size() >= 2 && !isClick)
     pickRectangle(QRectF(m_plot.plot()->toPlot(corners.first()), m_plot.plot()->toPlot(corners.last())).normalized());
   return true;
 }
@@ -360,8 +371,10 @@ void NetPicker::startRectangleZoom(int key) {
     keys = Qt::ControlModifier;
   else if (key == Qt::Key_Alt)
     keys = Qt::AltModifier;
-  if (keys == Qt::ShiftModifier && selectsWithShift())
+  if (keys == Qt::ShiftModifier && (m_selectsArea || selectsWithShift()))
     return; // Shift draws the rectangle of the selection
+  if (!m_zoomsRectangle)
+    m_cursor = canvas()->cursor();
   m_zoomsRectangle = true;
   m_plot.zoomer()->setRectangleKeys(keys);
   canvas()->setCursor(Qt::CrossCursor);
@@ -370,5 +383,5 @@ void NetPicker::startRectangleZoom(int key) {
 void NetPicker::endRectangleZoom() {
   m_zoomsRectangle = false;
   m_plot.zoomer()->setRectangleKeys(Qt::NoModifier);
-  canvas()->unsetCursor();
+  canvas()->setCursor(m_cursor);
 }

@@ -1,8 +1,6 @@
 #include "interaction/plotmenu.h"
 
 #include "canvas/canvaslegend.h"
-#include "export/plotsaver.h"
-#include "interaction/plotzoom.h"
 
 #include <base/index.h>
 #include <base/nivramsg.h>
@@ -10,11 +8,7 @@
 #include <model/elementtypes.h>
 #include <model/topology.h>
 
-#include <QDialog>
-#include <QInputDialog>
-#include <QListWidget>
 #include <QMenu>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -69,33 +63,38 @@ void addRest(QMenu &entries, int count) {
 
 } // namespace
 
-PlotMenu::PlotMenu(NetPlot &plot, NetPicker &picker, const NetData &net)
+PlotMenu::PlotMenu(NetPlot &plot, NetPicker &picker, const NetData &net, PlotActions &actions)
     : m_plot(plot)
     , m_picker(picker)
-    , m_net(net) {}
+    , m_net(net)
+    , m_actions(actions) {}
 
 void PlotMenu::fill(QMenu &contextMenu, const State &state) {
+  using Command = PlotActions::Command;
+  m_actions.refresh(state);
   addCrowd(contextMenu);
   addSelection(contextMenu, state);
   addSubnet(contextMenu, state);
-  addCharacteristics(contextMenu, state);
+  addUsable(contextMenu, {Command::Characteristics});
   addMachinesHere(contextMenu, state);
-  addTrace(contextMenu);
-  contextMenu.addAction(m_picker.selectAllAction());
+  addUsable(contextMenu, {Command::Upstream, Command::Downstream});
+  contextMenu.addAction(m_actions[Command::SelectAll]);
   contextMenu.addSeparator();
-  addView(contextMenu);
+  contextMenu.addActions({m_actions[Command::WholeNetwork], m_actions[Command::Back], m_actions[Command::Forward],
+                          m_actions[Command::FarOutside]});
   addBookmarks(contextMenu, state.bookmarks);
-  addLabels(contextMenu);
+  contextMenu.addActions({m_actions[Command::PlaceLabels], m_actions[Command::UnplacedLabels]});
   m_plot.canvasLegend().fillMenu(*contextMenu.addMenu(tr("Legend and colours")));
   contextMenu.addSeparator();
-  contextMenu.addAction(tr("Configure drawing …"), this, &PlotMenu::configureDrawRequested)
-      ->setEnabled(state.hasConfiguration);
-  QAction *results = contextMenu.addAction(tr("Show search results"), this, &PlotMenu::searchResultsRequested);
-  results->setCheckable(true);
-  results->setChecked(state.showsSearchResults);
-  NetPlot *plot = &m_plot;
-  contextMenu.addAction(tr("Save picture …"), plot, [plot] { PlotSaver(*plot).savePlot(QString(), QString(), true); });
-  contextMenu.addAction(tr("Save picture with width …"), plot, [plot] { PlotSaver(*plot).saveWithWidth(); });
+  contextMenu.addActions({m_actions[Command::Configure], m_actions[Command::SearchResults], m_actions[Command::SavePicture],
+                          m_actions[Command::SavePictureWithWidth], m_actions[Command::CopyPicture]});
+}
+
+void PlotMenu::addUsable(QMenu &contextMenu, std::initializer_list<PlotActions::Command> commands) {
+  for (const PlotActions::Command command : commands) {
+    if (m_actions[command]->isEnabled())
+      contextMenu.addAction(m_actions[command]);
+  }
 }
 
 void PlotMenu::addCrowd(QMenu &contextMenu) {
@@ -133,27 +132,6 @@ void PlotMenu::addSelection(QMenu &contextMenu, const State &state) {
     addRest(*entries, m_net.selection().size());
 }
 
-void PlotMenu::addCharacteristics(QMenu &contextMenu, const State &state) {
-  constexpr int MaximumSelected = 10000; // whoever selects more is not after machines
-  const Selection &selection = m_net.selection();
-  if (selection.nodes.size() + selection.edges.size() > MaximumSelected)
-    return;
-  Selection::Names machines;
-  for (const Selection::Names *kind : {&selection.nodes, &selection.edges}) {
-    for (const QString &name : *kind) {
-      if (isMachine(name))
-        machines.insert(name);
-    }
-  }
-  const QStringList names = sorted(machines);
-  if (names.isEmpty() || names.size() > MaximumEntries)
-    return;
-  contextMenu
-      .addAction(names.size() == 1 ? tr("Open Characteristics") : tr("Open Characteristics (%1)").arg(names.size()), this,
-                 [this, names] { emit openCharacteristicsRequested(names); })
-      ->setEnabled(state.hasCharacteristics);
-}
-
 bool PlotMenu::isMachine(const QString &name) const {
   const element *e = m_net.element(name);
   return e != nullptr && ElementTypes::hasCharacteristics(e->value(QStringLiteral("type")));
@@ -178,17 +156,6 @@ void PlotMenu::addMachinesHere(QMenu &contextMenu, const State &state) {
     return;
   addRest(*machines, count);
   machines->setEnabled(state.hasCharacteristics);
-}
-
-void PlotMenu::addTrace(QMenu &contextMenu) {
-  if (m_net.selection().size() != 1)
-    return;
-  const QStringList names = firstOf(m_net.selection(), 1);
-  using Direction = Topology::Direction;
-  contextMenu.addAction(tr("Select upstream"), this,
-                        [this, name = names.first()] { emit traceRequested(name, Direction::Upstream); });
-  contextMenu.addAction(tr("Select downstream"), this,
-                        [this, name = names.first()] { emit traceRequested(name, Direction::Downstream); });
 }
 
 void PlotMenu::addSubnet(QMenu &contextMenu, const State &state) {
@@ -257,18 +224,6 @@ void PlotMenu::addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, 
   addRest(entries, offer.names.size());
 }
 
-void PlotMenu::addView(QMenu &contextMenu) {
-  NetPlot *plot = &m_plot;
-  PlotZoom *zoomer = plot->zoomer();
-  // The canvas takes the keys; the entries name them.
-  contextMenu.addAction(tr("Show whole network\tHome"), zoomer, &PlotZoom::fitAll);
-  contextMenu.addAction(tr("Back to the last view\tAlt+Left"), zoomer, &PlotZoom::goBack)->setEnabled(zoomer->canGoBack());
-  contextMenu.addAction(tr("Forward to the next view\tAlt+Right"), zoomer, &PlotZoom::goForward)
-      ->setEnabled(zoomer->canGoForward());
-  if (plot->hasStragglers())
-    contextMenu.addAction(tr("Show what lies far outside"), plot, &NetPlot::showStragglers);
-}
-
 void PlotMenu::addBookmarks(QMenu &contextMenu, ViewBookmarks &bookmarks) {
   NetPlot *plot = &m_plot;
   const std::vector<ViewBookmarks::Bookmark> &known = bookmarks.all();
@@ -279,15 +234,7 @@ void PlotMenu::addBookmarks(QMenu &contextMenu, ViewBookmarks &bookmarks) {
     menu->addAction(menuText(bookmark.name), plot, [plot, view = bookmark.view] { plot->showArea(view); });
   if (!known.empty())
     menu->addSeparator();
-  menu->addAction(tr("Bookmark this view …"), plot, [&bookmarks, plot, count = known.size()] {
-    bool isAccepted = false;
-    const QString name = QInputDialog::getText(plot, tr("Bookmark"), tr("Name of this view:"), QLineEdit::Normal,
-                                               tr("View %1").arg(count + 1), &isAccepted)
-                             .trimmed();
-    QString reason;
-    if (isAccepted && !name.isEmpty() && !bookmarks.add({name, plot->visibleArea()}, &reason))
-      NivraMsg::message(NivraMsg::Kind::Warning, reason);
-  });
+  menu->addAction(m_actions[PlotActions::Command::BookmarkView]);
   QMenu *forget = menu->addMenu(tr("Forget"));
   forget->setEnabled(!known.empty());
   for (const ViewBookmarks::Bookmark &bookmark : known)
@@ -296,29 +243,4 @@ void PlotMenu::addBookmarks(QMenu &contextMenu, ViewBookmarks &bookmarks) {
       if (!bookmarks.forget(name, &reason))
         NivraMsg::message(NivraMsg::Kind::Warning, reason);
     });
-}
-
-void PlotMenu::addLabels(QMenu &contextMenu) {
-  NetPlot *plot = &m_plot;
-  NetUpdate &update = plot->update();
-  contextMenu.addAction(tr("Place labels now"), plot, [&update] { update.relabelNow(); });
-  const std::vector<NetGeometry::Item> &unplaced = update.unplacedLabels();
-  if (unplaced.empty())
-    return;
-  contextMenu.addAction(
-      unplaced.size() == 1 ? tr("1 label found no place …") : tr("%1 labels found no place …").arg(unplaced.size()), plot,
-      [this, plot, unplaced] {
-        QDialog dialog(plot);
-        dialog.setWindowTitle(tr("Labels without a place"));
-        auto *list = new QListWidget(&dialog);
-        for (const NetGeometry::Item item : unplaced)
-          list->addItem(plot->update().geometry().source(item)->value(QStringLiteral("name")));
-        auto *layout = new QVBoxLayout(&dialog);
-        layout->addWidget(list);
-        QObject::connect(list, &QListWidget::itemActivated, &dialog, [this, &dialog](const QListWidgetItem *entry) {
-          emit showRequested(entry->text());
-          dialog.accept();
-        });
-        dialog.exec();
-      });
 }

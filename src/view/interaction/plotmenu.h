@@ -1,7 +1,7 @@
 #pragma once
 
-#include <model/topology.h>
 #include <view/netpicker.h>
+#include <view/plotactions.h>
 #include <view/viewbookmarks.h>
 
 #include <map>
@@ -14,17 +14,11 @@ class PlotMenu : public QObject {
   Q_OBJECT
 public:
   /// What the entries say besides the network; those that nobody would answer are greyed.
-  struct State {
-    bool hasInfo = false;
-    bool hasProperties = false;
-    bool hasCharacteristics = false;
-    bool hasSubnetWindows = false;
-    bool hasConfiguration = false;
-    bool showsSearchResults = false;
+  struct State : PlotActions::Answered {
     ViewBookmarks &bookmarks; ///< of the case
   };
 
-  PlotMenu(NetPlot &plot, NetPicker &picker, const NetData &net);
+  PlotMenu(NetPlot &plot, NetPicker &picker, const NetData &net, PlotActions &actions);
 
   void fill(QMenu &contextMenu, const State &state);
 
@@ -34,9 +28,6 @@ signals:
   void editPropertiesRequested(const QStringList &names);
   void openCharacteristicsRequested(const QStringList &names);
   void subnetRequested(const QString &name); ///< in a window of its own
-  void traceRequested(const QString &name, Topology::Direction direction);
-  void configureDrawRequested();
-  void searchResultsRequested(bool shown);
 
 private:
   /// Elements of a subnet that something can be done with.
@@ -53,19 +44,18 @@ private:
   void addCrowd(QMenu &contextMenu);
   void addSelection(QMenu &contextMenu, const State &state);
   void addSubnet(QMenu &contextMenu, const State &state);
-  void addCharacteristics(QMenu &contextMenu, const State &state);
   void addMachinesHere(QMenu &contextMenu, const State &state);
   bool isMachine(const QString &name) const;
-  void addTrace(QMenu &contextMenu);
   void addSubnetEntries(QMenu &parent, const QString &subnet, const State &state);
   Offer offerOf(const element &subnet, bool (*isOffered)(const QString &type)) const;
   /// One by one and all of a kind; \param otherwise says that there is nothing
   void addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, const QString &otherwise);
-  void addView(QMenu &contextMenu);
+  /// Those of the commands that are not greyed.
+  void addUsable(QMenu &contextMenu, std::initializer_list<PlotActions::Command> commands);
   void addBookmarks(QMenu &contextMenu, ViewBookmarks &bookmarks);
-  void addLabels(QMenu &contextMenu);
 
   NetPlot &m_plot;
   NetPicker &m_picker;
   const NetData &m_net;
+  PlotActions &m_actions;
 };

@@ -22,8 +22,10 @@ PlotZoom::PlotZoom(QwtFastPlot &plot, const PlotSettings &settings, Told told)
   m_rest.setSingleShot(true);
   m_rest.setInterval(RestMs);
   connect(this, &QwtPlotZoomer::zoomed, this, [this] {
-    if (!isFittingCanvas())
-      m_rest.start();
+    if (isFittingCanvas())
+      return;
+    m_rest.start();
+    emit historyChanged();
   });
   connect(this, &QwtPlotZoomer::zoomed, this, &PlotZoom::requestRefresh);
   connect(&m_rest, &QTimer::timeout, this, &PlotZoom::recordView);
@@ -51,6 +53,7 @@ void PlotZoom::resetZoomBase(const QRectF &rect) {
 void PlotZoom::recordView() {
   m_rest.stop();
   m_history.record(zoomRect());
+  emit historyChanged();
 }
 
 void PlotZoom::goBack() {
@@ -59,6 +62,7 @@ void PlotZoom::goBack() {
   if (const std::optional<QRectF> view = m_history.back())
     zoom(*view);
   m_rest.stop();
+  emit historyChanged();
 }
 
 void PlotZoom::goForward() {
@@ -67,6 +71,17 @@ void PlotZoom::goForward() {
   if (const std::optional<QRectF> view = m_history.forward())
     zoom(*view);
   m_rest.stop();
+  emit historyChanged();
+}
+
+void PlotZoom::setRectangleKeys(Qt::KeyboardModifiers keys) {
+  const bool isDrawn = m_dragZooms || keys != Qt::NoModifier;
+  setMousePattern(MouseSelect1, isDrawn ? Qt::LeftButton : Qt::NoButton, keys);
+}
+
+void PlotZoom::setDragZooms(bool zooms) {
+  m_dragZooms = zooms;
+  setRectangleKeys(Qt::NoModifier);
 }
 
 QPointF PlotZoom::cursor() const {

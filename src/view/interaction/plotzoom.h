@@ -49,13 +49,16 @@ public:
 
   /// In plot coordinates.
   QPointF cursor() const;
-  /// The left button draws the zoom rectangle while these keys are held; nothing but it otherwise.
-  void setRectangleKeys(Qt::KeyboardModifiers keys) { setMousePattern(MouseSelect1, Qt::LeftButton, keys); }
+  /// The left button draws the zoom rectangle while these keys are held; without keys as setDragZooms() says.
+  void setRectangleKeys(Qt::KeyboardModifiers keys);
+  /// Whether the left button alone draws the zoom rectangle.
+  void setDragZooms(bool zooms);
 
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
   void refreshRequested(int delay);                   ///< the drawing for this view is wanted after so many milliseconds
+  void historyChanged();                              ///< what goBack() and goForward() may do
   void wheelTurned(int steps, const QPointF &anchor); ///< positive to zoom in; anchor in plot coordinates
 
 protected:
@@ -73,6 +76,7 @@ private:
 
   int m_wheelDegrees = 0;
   int m_ownRequests = 0;
+  bool m_dragZooms = true;
   ViewHistory m_history;
   QTimer m_rest; ///< until a view counts as one that a person rested at
 };

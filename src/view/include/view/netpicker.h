@@ -3,6 +3,7 @@
 #include <model/netdata.h>
 #include <view/netplot.h>
 
+#include <QCursor>
 #include <qwt_plot_picker.h>
 
 class QAction;
@@ -22,6 +23,9 @@ public:
 
   Mode mode() const { return m_mode; }
   QAction *selectAllAction() const { return m_selectAll; }
+  /// Whether the left button, dragged, selects what lies wholly in the rectangle; with Shift in addition to what is
+  /// selected. A click selects as ever.
+  void setSelectsArea(bool selects) { m_selectsArea = selects; }
 
   void selectAll();
   /// Selects one element by name; false when there is none.
@@ -56,7 +60,7 @@ protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-  static Mode modeFor(Qt::MouseButton button, Qt::KeyboardModifiers keys);
+  Mode modeFor(Qt::MouseButton button, Qt::KeyboardModifiers keys) const;
   void pick(Qt::MouseButton button);
   /// The selection after a pick of the hit.
   Selection selectionWith(NetGeometry::Item item, bool isMenu) const;
@@ -70,6 +74,7 @@ private:
   QString nameOf(NetGeometry::Item item) const;
   QString toolTipFor(NetGeometry::Item item) const;
   void hover(const QPoint &position);
+  bool isRectangle() const { return m_mode == Mode::Rectangle || m_mode == Mode::RectangleMore; }
   void startRectangleZoom(int key);
   void endRectangleZoom();
 
@@ -80,5 +85,7 @@ private:
   QPoint m_pressed;
   std::vector<Hit> m_hits; ///< at the position that was pressed
   bool m_picksOnRelease = false;
+  bool m_selectsArea = false;
   bool m_zoomsRectangle = false; ///< with the next drag
+  QCursor m_cursor;              ///< before it
 };

@@ -32,6 +32,7 @@ public:
   const Told &told() const { return m_told; }
   QwtFastPlot *plot() const { return m_plot; }
   PlotZoom *zoomer() const { return m_zoomer; }
+  PlotPanner *panner() const { return m_panner; }
   NetUpdate &update() { return *m_update; }
   SelectionLayer &selection() { return m_selection; }
   QwtPlotGrid &grid() { return m_grid; }
@@ -70,6 +71,9 @@ public:
   QAction *legendAction() const;
   /// Which case and scenario are shown; the legend says it.
   void setCaption(const QString &caption);
+  /// Where on the canvas a menu stands that was asked for by a key: at what is selected, where that is seen, else in the
+  /// middle.
+  QPoint keyboardPlace() const;
   /// A plot of its own for one subnet places labels without waiting.
   void setShowsSubnet(bool shows) { m_showsSubnet = shows; }
   bool hasStragglers() const { return m_stragglers > 0; }
@@ -77,12 +81,14 @@ public:
   void showStragglers();
   /// Brings the element into the middle, as large as the general setting "zoom to element: factor" allows.
   void zoomToElement(NetGeometry::Item item);
+  /// Fits the window to the items, with some room around; false when none of them is drawn.
+  bool zoomToItems(const std::vector<NetGeometry::Item> &items);
 
 signals:
   void viewChanged();                            ///< another part of the network is shown
   void drawConfigurationRequested();             ///< the colour scale was double-clicked
   void contextMenuRequested(QMenu *contextMenu); ///< to be filled before it is shown at the cursor
-  void settingsChanged();                        ///< by what a person chose in the drawing
+  void settingsChanged();                        ///< by a person or a file
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
@@ -101,7 +107,7 @@ private:
   void setUpPanner();
   void applyColors();
   bool canvasEvent(QEvent *event);
-  void showContextMenu();
+  void showContextMenu(const QPoint &place);
 
   Told m_told;
   QwtFastPlot *m_plot;

@@ -6,11 +6,14 @@
 #include <model/topology.h>
 #include <view/netpicker.h>
 #include <view/netplot.h>
+#include <view/plotactions.h>
 #include <view/viewbookmarks.h>
 
 #include <QObject>
 #include <QPointer>
 
+class MeasureTool;
+class MouseModes;
 class NetData;
 class PlotMenu;
 class QMenu;
@@ -30,6 +33,10 @@ public:
   /// Owned by this object until a window takes it as its child.
   NetPlot *plot() const { return m_plot; }
   NetPicker *picker() const { return m_picker; }
+  /// What can be done with the drawing; for menus and tool bars of the window.
+  PlotActions &actions() const { return *m_actions; }
+  /// Greys what cannot be done now and nobody would answer, for a menu that is about to be shown.
+  void refreshActions();
 
   /// Forgets what is drawn; to be called before the network changes.
   void clear();
@@ -93,6 +100,8 @@ signals:
   void subnetWanted(const QString &name); ///< in a window of its own
 
 private:
+  void connectActions();
+  PlotActions::Answered answered() const;
   void fillMenu(QMenu &contextMenu);
   void draw();
 
@@ -106,6 +115,9 @@ private:
   QString m_currentElement;
   QPointer<NetPlot> m_plot;
   NetPicker *m_picker; ///< belongs to the canvas of the plot
+  MouseModes *m_modes; ///< these two belong to the plot
+  MeasureTool *m_measure;
+  std::unique_ptr<PlotActions> m_actions;
   std::unique_ptr<PlotMenu> m_menu;
   OncePerTurn m_drawing;
   NetUpdate::Labels m_labels = NetUpdate::Labels::Kept; ///< when it is drawn

@@ -33,6 +33,8 @@ public:
   void changeUnits();
   /// Something was typed or chosen that is not applied yet.
   bool hasUnapplied() const;
+  /// The same without the label table, of which a person may be changing something.
+  void showSettings();
   /// Takes all bounds of the draw functions from the data.
   void resetMinMaxColorFuncValues();
 

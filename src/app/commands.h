@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QObject>
+
+class CommandPalette;
+class NetVisControl;
+class QAction;
+class QMainWindow;
+class QMenu;
+class QMenuBar;
+class ToolBar;
+
+/// The commands of the main window: puts those of the drawing into menus and the tool bar, gives all of them icons, and
+/// brings the list in which all can be found.
+class Commands : public QObject {
+  Q_OBJECT
+public:
+  /// Where the window keeps what stands in its form.
+  struct Form {
+    QMenuBar *bar;
+    QMenu *file; ///< its last entry ends the program
+    QMenu *info; ///< the new menus stand before it
+    QAction *open;
+  };
+
+  Commands(QMainWindow &window, NetVisControl &control, const Form &form);
+  ~Commands() override;
+
+  ToolBar *toolBar() const { return m_toolBar; }
+
+signals:
+  void elementWanted(const QString &name);
+
+private:
+  QAction *add(QMenu &menu, const QString &text, const QString &key, const QString &tip);
+  QMenu *addMenu(const QString &title);
+  void fillFileMenu();
+  void addEditMenu();
+  void addGoMenu();
+  void addDrawingMenu();
+  void fillInfoMenu();
+  void setIcons();
+  void fillBookmarks(QMenu &menu);
+  void showPalette();
+  void goToElement();
+  void goToPanel(int step);
+  void showMenuOfFocus();
+
+  QMainWindow &m_window;
+  NetVisControl &m_control;
+  Form m_form;
+  ToolBar *m_toolBar = nullptr;
+  CommandPalette *m_palette = nullptr; ///< made when it is first asked for
+};

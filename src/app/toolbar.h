@@ -1,0 +1,39 @@
+#pragma once
+
+#include <drawing/aspect.h>
+
+#include <QToolBar>
+
+class ElementField;
+class NetVisControl;
+class QMainWindow;
+class QToolButton;
+
+/// The tool bar of the main window: the commands that one needs all day, a field that goes to an element by its name, and
+/// what colours edges and nodes.
+class ToolBar : public QToolBar {
+  Q_OBJECT
+public:
+  /// \param open the action that opens a workspace
+  ToolBar(NetVisControl &control, QAction *open, QMainWindow &window);
+
+  /// Gives the keyboard to the field for names.
+  void goToElement();
+
+signals:
+  void elementWanted(const QString &name);
+  void told(const QString &text);
+
+protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+  void actionEvent(QActionEvent *event) override;
+
+private:
+  void addField();
+  void addChooser(Aspect aspect, const QString &title);
+  void showFunctions();
+
+  NetVisControl &m_control;
+  ElementField *m_field = nullptr;
+  PerAspect<QToolButton *> m_choosers{};
+};
