@@ -1,6 +1,7 @@
 #include "nivraviewer.h"
 
 #include "aboutbox.h"
+#include "casescenarios.h"
 #include "lastscenario.h"
 #include "loadprogress.h"
 #include "logo.h"
@@ -72,6 +73,8 @@ NivraViewer::NivraViewer(QWidget *parent)
     else
       elementAction(name, action);
   });
+  connect(m_ui->actionPrint, &QAction::triggered, m_control.get(), &NetVisControl::print);
+  connect(m_ui->actionSavePage, &QAction::triggered, m_control.get(), &NetVisControl::savePage);
   connect(m_control.get(), &NetVisControl::subnetWanted, this, &NivraViewer::openSubnet);
   connect(m_tools, &ToolDocks::elementsChanged, this, &NivraViewer::addChange);
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
@@ -182,6 +185,7 @@ void NivraViewer::openWorkspace(const QString &path) {
   m_tools->setFindings(m_loader.noticed());
   m_tools->setScenario(m_loader.scenarioSummary());
   m_tools->setMachines(m_loader.machines());
+  m_control->setPageFacts(CaseScenarios::facts(m_loader.workspace()), CaseScenarios::of(m_loader.workspace()));
   showTitle();
   m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(outcome(done)));
   if (done && m_loader.workspace().hasScenario())
@@ -304,7 +308,8 @@ void NivraViewer::showTitle() {
 /// While a network is read the program answers "Cancel" and the frames of its windows alone: tools would show half of it,
 /// and change it under the reader's hands.
 void NivraViewer::setBusy(bool busy) {
-  for (QAction *action : {m_ui->actionOpen, m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable})
+  for (QAction *action : {m_ui->actionOpen, m_ui->actionSearch, m_ui->actionElement_Table, m_ui->actionMetadataTable,
+                          m_ui->actionPrint, m_ui->actionSavePage})
     action->setEnabled(!busy);
   QWidgetList widgets{m_ui->menubar, m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))

@@ -1,5 +1,6 @@
 #include "subnetwindow.h"
 
+#include "casescenarios.h"
 #include "tooldocks.h"
 
 #include <base/finding.h>
@@ -29,6 +30,9 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
   setCentralWidget(m_control->plot());
   resize(Size);
   m_control->showNetData(workspace.filePath(QStringLiteral("plotsettings.ini")));
+  PageFacts facts = CaseScenarios::facts(workspace);
+  facts.subject = m_subnet;
+  m_control->setPageFacts(facts);
   m_control->plot()->setFocus();
   m_tools->refresh(workspace);
   fillMenus();

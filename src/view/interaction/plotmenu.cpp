@@ -94,6 +94,7 @@ void PlotMenu::fill(QMenu &contextMenu, const State &state) {
   NetPlot *plot = &m_plot;
   contextMenu.addAction(tr("Save picture …"), plot, [plot] { PlotSaver(*plot).savePlot(QString(), QString(), true); });
   contextMenu.addAction(tr("Save picture with width …"), plot, [plot] { PlotSaver(*plot).saveWithWidth(); });
+  contextMenu.addAction(tr("Print or save a page …"), this, &PlotMenu::pageRequested);
 }
 
 void PlotMenu::addCrowd(QMenu &contextMenu) {

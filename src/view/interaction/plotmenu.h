@@ -36,6 +36,7 @@ signals:
   void subnetRequested(const QString &name); ///< in a window of its own
   void traceRequested(const QString &name, Topology::Direction direction);
   void configureDrawRequested();
+  void pageRequested();
   void searchResultsRequested(bool shown);
 
 private:

@@ -4,14 +4,17 @@
 #include <base/onceperturn.h>
 #include <drawing/labeltable.h>
 #include <model/topology.h>
+#include <paper/pagecontent.h>
 #include <view/netpicker.h>
 #include <view/netplot.h>
+#include <view/scenariosource.h>
 #include <view/viewbookmarks.h>
 
 #include <QObject>
 #include <QPointer>
 
 class NetData;
+class NetworkPaper;
 class PlotMenu;
 class QMenu;
 
@@ -65,6 +68,11 @@ public:
   void refreshSearchResults();
   /// Selects what lies upstream or downstream of the element along the flow.
   void trace(const QString &name, Topology::Direction direction);
+  /// What pages say of the network, and the scenarios that several pages may show.
+  void setPageFacts(PageFacts facts, ScenarioSource scenarios = {});
+  /// The drawing on a page, in a dialog that shows the page: for the printer, and for a file. The screen's does not change.
+  void print();
+  void savePage();
   /// Views to come back to, kept with the case.
   ViewBookmarks &bookmarks() { return m_bookmarks; }
 
@@ -81,12 +89,16 @@ signals:
 private:
   void fillMenu(QMenu &contextMenu);
   void draw();
+  NetworkPaper paper();
 
   NetData &m_net;
   QString m_name;
   ViewBookmarks m_bookmarks;
   LabelTableFile::Reading m_labelsRead;
   QString m_subnetIcons;
+  QString m_folder; ///< of the case
+  PageFacts m_pageFacts;
+  ScenarioSource m_scenarios;
   QString m_currentElement;
   QPointer<NetPlot> m_plot;
   NetPicker *m_picker; ///< belongs to the canvas of the plot
