@@ -1,6 +1,7 @@
 #include "nivraviewer.h"
 
 #include "aboutbox.h"
+#include "casescenarios.h"
 #include "commands.h"
 #include "lastscenario.h"
 #include "layerkeeper.h"
@@ -118,6 +119,8 @@ NivraViewer::NivraViewer(QWidget *parent)
     else
       elementAction(name, action);
   });
+  connect(m_ui->actionPrint, &QAction::triggered, m_control.get(), &NetVisControl::print);
+  connect(m_ui->actionSavePage, &QAction::triggered, m_control.get(), &NetVisControl::savePage);
   connect(m_control.get(), &NetVisControl::subnetWanted, this, &NivraViewer::openSubnet);
   connect(m_tools, &ToolDocks::elementsChanged, this, &NivraViewer::addChange);
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
@@ -332,6 +335,7 @@ void NivraViewer::showWorkspace(bool isRead) {
   m_tools->setFindings(m_loader.noticed());
   m_tools->setScenario(m_loader.scenarioSummary());
   m_tools->setMachines(m_loader.machines());
+  m_control->setPageFacts(CaseScenarios::facts(m_loader.workspace()), CaseScenarios::of(m_loader.workspace()));
   showTitle();
 }
 
@@ -471,7 +475,7 @@ void NivraViewer::showTitle() {
 /// and change it under the reader's hands.
 void NivraViewer::setBusy(bool busy) {
   for (QAction *action : {m_ui->actionOpen, m_ui->actionSettings, m_ui->actionSearch, m_ui->actionElement_Table,
-                          m_ui->actionMetadataTable, m_reload})
+                          m_ui->actionMetadataTable, m_ui->actionPrint, m_ui->actionSavePage, m_reload})
     action->setEnabled(!busy);
   QWidgetList widgets{m_ui->menubar, m_commands->toolBar(), m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))

@@ -1,5 +1,6 @@
 #include "subnetwindow.h"
 
+#include "casescenarios.h"
 #include "mnemonics.h"
 #include "tooldocks.h"
 
@@ -31,6 +32,9 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
   resize(Size);
   m_control->setCaption(workspace.caption() + QStringLiteral(" · ") + subnet);
   m_control->showNetData(workspace.filePath(QStringLiteral("plotsettings.ini")));
+  PageFacts facts = CaseScenarios::facts(workspace);
+  facts.subject = m_subnet;
+  m_control->setPageFacts(facts);
   m_control->plot()->setFocus();
   m_tools->refresh(workspace);
   fillMenus();

@@ -1,5 +1,6 @@
 #include "tooldocks.h"
 
+#include "casescenarios.h"
 #include "consoledock.h"
 #include "helpwindow.h"
 #include "mnemonics.h"
@@ -155,6 +156,8 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
     createSearch();
   if (m_characteristics == nullptr && m_extent == Extent::Program)
     createCharacteristics();
+  if (m_characteristics != nullptr)
+    m_characteristics->setPageFacts(CaseScenarios::facts(workspace));
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), m_control.labelsRead(),
                    workspace.filePath(QStringLiteral("plotsettings.ini")));
   m_draw->refresh();

@@ -3,6 +3,7 @@
 #include "configure/plotsettingsfile.h"
 #include "interaction/measuretool.h"
 #include "interaction/mousemodes.h"
+#include "export/networkpaper.h"
 #include "interaction/plotmenu.h"
 #include "interaction/plotzoom.h"
 
@@ -41,6 +42,7 @@ NetVisControl::NetVisControl(NetData &net, const QString &name, Told told, QObje
   connect(m_menu.get(), &PlotMenu::editPropertiesRequested, this, &NetVisControl::editPropertiesRequested);
   connect(m_menu.get(), &PlotMenu::openCharacteristicsRequested, this, &NetVisControl::openCharacteristicsRequested);
   connect(m_menu.get(), &PlotMenu::subnetRequested, this, &NetVisControl::subnetWanted);
+  connect(m_menu.get(), &PlotMenu::pageRequested, this, &NetVisControl::savePage);
   connectActions();
   connect(m_plot, &NetPlot::drawConfigurationRequested, this, &NetVisControl::configureDrawRequested);
 }
@@ -110,6 +112,7 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
     m_settingsWithoutFile = settings;
   }
   const QString folder = QFileInfo(plotSettingsPath).path();
+  m_folder = folder;
   m_bookmarks = ViewBookmarks(folder + QStringLiteral("/viewbookmarks.csv"));
   LabelTable labels;
   m_labelsRead = LabelTableFile::read(folder + QStringLiteral("/vfd.csv"), labels);
@@ -199,6 +202,29 @@ void NetVisControl::mark(const QString &name) {
 
 void NetVisControl::relabelNow() {
   m_plot->update().relabelNow();
+}
+
+void NetVisControl::setPageFacts(PageFacts facts, ScenarioSource scenarios) {
+  m_pageFacts = std::move(facts);
+  m_scenarios = std::move(scenarios);
+}
+
+NetworkPaper NetVisControl::paper() {
+  m_drawing.flush();
+  const NetUpdate &update = m_plot->update();
+  return {*m_plot,
+          {&m_net, m_plot->settings(), update.labelTable(), m_folder, m_subnetIcons, update.layers(), update.displayMode(),
+           m_plot->selection().items(), m_plot->visibleArea()},
+          m_pageFacts,
+          m_scenarios};
+}
+
+void NetVisControl::print() {
+  paper().show(PageDialog::Purpose::Print, m_bookmarks.all());
+}
+
+void NetVisControl::savePage() {
+  paper().show(PageDialog::Purpose::Save, m_bookmarks.all());
 }
 
 const LabelContents *NetVisControl::labelContents() const {

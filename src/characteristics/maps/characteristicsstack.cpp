@@ -158,6 +158,7 @@ MachinePage *CharacteristicsStack::makePage(const QString &elementName) const {
   if (e == nullptr || !m_machines.machine(*e, m_machines.names(*e).first()).isThere())
     return nullptr;
   auto *page = new MachinePage(m_net, m_machines, elementName);
+  page->setPageFacts(m_facts);
   connect(page, &MachinePage::saveFailed, this, [this](const QString &reason) {
     if (m_told)
       m_told({Finding::Severity::Warning, QString(), 0, QString(), reason});

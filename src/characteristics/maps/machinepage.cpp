@@ -238,8 +238,15 @@ void MachinePage::refresh() {
   m_text->setText(said);
 }
 
+void MachinePage::setPageFacts(const PageFacts &facts) {
+  m_facts = facts;
+  for (MapCanvas *map : findChildren<MapCanvas *>())
+    map->setPageFacts(facts);
+}
+
 MapPlot *MachinePage::addPlot(QVBoxLayout &column) const {
   auto *plot = new MapPlot;
+  plot->setPageFacts(m_facts);
   connect(plot, &MapPlot::saveFailed, this, &MachinePage::saveFailed);
   column.addWidget(plot, 1);
   return plot;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <paper/pagecontent.h>
+
 #include <QWidget>
 
 #include <machines/networkmachines.h>
@@ -18,6 +20,8 @@ public:
 
   /// After properties have changed: makes the map anew when there is something else to say.
   void refresh();
+  /// What pages with its maps say.
+  void setPageFacts(const PageFacts &facts);
 
   /// What stands beside the map, as rich text.
   static QString text(const NetworkMachines::Machine &machine);
@@ -37,6 +41,7 @@ private:
   QComboBox *m_machine;
   QComboBox *m_configuration;
   QComboBox *m_functions;
+  PageFacts m_facts;
   QVBoxLayout *m_column;
   QWidget *m_map = nullptr;
   QLabel *m_text;

@@ -1,16 +1,20 @@
 #include "mapcanvas.h"
 
+#include "mappage.h"
+
 #include <base/lastfolder.h>
 #include <base/wholefile.h>
+#include <paper/pagedialog.h>
 
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QSvgGenerator>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
@@ -22,9 +26,10 @@
 
 namespace {
 
-constexpr int TitleSize = 9;    // points
-constexpr int LabelSpacing = 5; // from the end of a line, where a measured point may lie
-constexpr int Resolution = 72;  // dots an inch of documents: those of a point
+constexpr int TitleSize = 9;      // points
+constexpr int LabelSpacing = 5;   // from the end of a line, where a measured point may lie
+constexpr int Resolution = 72;    // dots an inch of documents: those of a point
+constexpr QSize Points(600, 420); // of a picture
 
 /// Zooms with what stands under the cursor beside it.
 class ReadingZoomer : public QwtPlotZoomer {
@@ -177,9 +182,31 @@ void MapCanvas::finish() {
 void MapCanvas::contextMenuEvent(QContextMenuEvent *event) {
   QMenu menu(this);
   menu.addAction(tr("Show everything"), m_zoomer, [this] { m_zoomer->zoom(0); });
+  menu.addAction(tr("Copy picture\tCtrl+C"), this, &MapCanvas::copy);
   menu.addAction(tr("Save picture …"), this, &MapCanvas::saveAs);
-  menu.addAction(tr("Print …"), this, &MapCanvas::print);
+  menu.addAction(tr("Print or save a page …\tCtrl+P"), this, &MapCanvas::print);
   menu.exec(event->globalPos());
+}
+
+/// Where the map has the keys these mean the map, whatever they mean in the window.
+bool MapCanvas::event(QEvent *event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (key->matches(QKeySequence::Copy) || key->matches(QKeySequence::Print)) {
+      event->accept();
+      return true;
+    }
+  }
+  return QwtPlot::event(event);
+}
+
+void MapCanvas::keyPressEvent(QKeyEvent *event) {
+  if (event->matches(QKeySequence::Copy))
+    copy();
+  else if (event->matches(QKeySequence::Print))
+    print();
+  else
+    QwtPlot::keyPressEvent(event);
 }
 
 void MapCanvas::paint(QPaintDevice &device, const QSizeF &size) {
@@ -191,9 +218,18 @@ void MapCanvas::paint(QPaintDevice &device, const QSizeF &size) {
   renderer.render(this, &painter, QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin));
 }
 
-bool MapCanvas::write(QIODevice &device, const QString &suffix, QString *reason) {
-  constexpr QSize Points(600, 420);
+QImage MapCanvas::picture() {
   constexpr int Scale = 3; // pixels a point
+  QImage image(Points * Scale, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  constexpr double InchesPerMetre = 1000.0 / 25.4;
+  image.setDotsPerMeterX(static_cast<int>(InchesPerMetre * Resolution * Scale));
+  image.setDotsPerMeterY(static_cast<int>(InchesPerMetre * Resolution * Scale));
+  paint(image, image.size());
+  return image;
+}
+
+bool MapCanvas::write(QIODevice &device, const QString &suffix, QString *reason) {
   if (suffix == QLatin1String("pdf")) {
     QPdfWriter writer(&device);
     writer.setPageSize(QPageSize(QSizeF(Points), QPageSize::Point));
@@ -211,13 +247,7 @@ bool MapCanvas::write(QIODevice &device, const QString &suffix, QString *reason)
     paint(generator, Points);
     return true;
   }
-  QImage image(Points * Scale, QImage::Format_RGB32);
-  image.fill(Qt::white);
-  constexpr double InchesPerMetre = 1000.0 / 25.4;
-  image.setDotsPerMeterX(static_cast<int>(InchesPerMetre * Resolution * Scale));
-  image.setDotsPerMeterY(static_cast<int>(InchesPerMetre * Resolution * Scale));
-  paint(image, image.size());
-  if (image.save(&device, qPrintable(suffix)))
+  if (picture().save(&device, qPrintable(suffix)))
     return true;
   *reason = tr("pictures of the kind \"%1\" are not known").arg(suffix);
   return false;
@@ -240,12 +270,11 @@ void MapCanvas::saveAs() {
     emit saveFailed(reason);
 }
 
+void MapCanvas::copy() {
+  QGuiApplication::clipboard()->setImage(picture());
+}
+
 void MapCanvas::print() {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setPageOrientation(QPageLayout::Landscape);
-  QPrintDialog dialog(&printer, this);
-  if (dialog.exec() != QDialog::Accepted)
-    return;
-  QwtPlotRenderer renderer;
-  renderer.renderTo(this, printer);
+  MapPage page(*this, m_facts);
+  PageDialog(page, PageDialog::Purpose::Print, this).exec();
 }

@@ -2,6 +2,8 @@
 
 #include "mapquantity.h"
 
+#include <paper/pagecontent.h>
+
 #include <QColor>
 #include <QPen>
 #include <QVector>
@@ -10,7 +12,7 @@
 #include <functional>
 
 /// A diagram with a heading: what maps of machines are drawn of, and what a person can do with them. Dragging zooms, a right
-/// click zooms out and offers to save and to print.
+/// click zooms out and offers to copy, to save and to print; the keys of copying and printing do so, too.
 class MapCanvas : public QwtPlot {
   Q_OBJECT
 public:
@@ -25,12 +27,16 @@ public:
   QString readout(const QPointF &position) const;
   /// The format by the suffix: PDF, SVG or a picture. False with the reason.
   bool save(const QString &path, QString *reason = nullptr);
+  /// What a page of it says.
+  void setPageFacts(const PageFacts &facts) { m_facts = facts; }
 
 signals:
   void saveFailed(const QString &reason);
 
 protected:
+  bool event(QEvent *event) override;
   void contextMenuEvent(QContextMenuEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
 
   struct Axis {
     QString title;
@@ -54,11 +60,14 @@ protected:
 private:
   QPointF shown(const QPointF &computed) const;
   QVector<QPointF> shown(QVector<QPointF> computed) const;
+  QImage picture();
   void paint(QPaintDevice &device, const QSizeF &size);
   bool write(QIODevice &device, const QString &suffix, QString *reason);
   void saveAs();
+  void copy();
   void print();
 
+  PageFacts m_facts;
   std::function<QString(const QPointF &)> m_readout;
   Units::Linear m_toDisplayX;
   Units::Linear m_toDisplayY;

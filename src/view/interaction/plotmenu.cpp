@@ -88,6 +88,7 @@ void PlotMenu::fill(QMenu &contextMenu, const State &state) {
   contextMenu.addSeparator();
   contextMenu.addActions({m_actions[Command::Configure], m_actions[Command::SearchResults], m_actions[Command::SavePicture],
                           m_actions[Command::SavePictureWithWidth], m_actions[Command::CopyPicture]});
+  contextMenu.addAction(tr("Print or save a page …"), this, &PlotMenu::pageRequested);
 }
 
 void PlotMenu::addUsable(QMenu &contextMenu, std::initializer_list<PlotActions::Command> commands) {

@@ -28,6 +28,7 @@ signals:
   void editPropertiesRequested(const QStringList &names);
   void openCharacteristicsRequested(const QStringList &names);
   void subnetRequested(const QString &name); ///< in a window of its own
+  void pageRequested();
 
 private:
   /// Elements of a subnet that something can be done with.

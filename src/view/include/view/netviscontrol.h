@@ -4,9 +4,11 @@
 #include <base/onceperturn.h>
 #include <drawing/labeltable.h>
 #include <model/topology.h>
+#include <paper/pagecontent.h>
 #include <view/netpicker.h>
 #include <view/netplot.h>
 #include <view/plotactions.h>
+#include <view/scenariosource.h>
 #include <view/viewbookmarks.h>
 
 #include <QObject>
@@ -15,6 +17,7 @@
 class MeasureTool;
 class MouseModes;
 class NetData;
+class NetworkPaper;
 class PlotMenu;
 class QMenu;
 
@@ -85,6 +88,11 @@ public:
   void refreshSearchResults();
   /// Selects what lies upstream or downstream of the element along the flow.
   void trace(const QString &name, Topology::Direction direction);
+  /// What pages say of the network, and the scenarios that several pages may show.
+  void setPageFacts(PageFacts facts, ScenarioSource scenarios = {});
+  /// The drawing on a page, in a dialog that shows the page: for the printer, and for a file. The screen's does not change.
+  void print();
+  void savePage();
   /// Views to come back to, kept with the case.
   ViewBookmarks &bookmarks() { return m_bookmarks; }
 
@@ -104,6 +112,7 @@ private:
   PlotActions::Answered answered() const;
   void fillMenu(QMenu &contextMenu);
   void draw();
+  NetworkPaper paper();
 
   NetData &m_net;
   QString m_name;
@@ -112,6 +121,9 @@ private:
   QString m_settingsPath;
   PlotSettings m_settingsWithoutFile; ///< what the network is drawn with where there is no such file
   QString m_subnetIcons;
+  QString m_folder; ///< of the case
+  PageFacts m_pageFacts;
+  ScenarioSource m_scenarios;
   QString m_currentElement;
   QPointer<NetPlot> m_plot;
   NetPicker *m_picker; ///< belongs to the canvas of the plot

@@ -2,6 +2,7 @@
 
 #include <base/finding.h>
 #include <model/netdata.h>
+#include <paper/pagecontent.h>
 
 #include <QDockWidget>
 #include <QStringList>
@@ -23,6 +24,8 @@ public:
   /// The folder of the case: its open pages are kept among the user's own settings for its next opening, and those of last
   /// time are opened. Empty for no case.
   void setCase(const QString &folder);
+  /// What pages with maps say, for the pages that are opened from now on.
+  void setPageFacts(PageFacts facts) { m_facts = std::move(facts); }
 
   /// Opens the page of a compressor or drive of the network, or brings it to the front. False when it has none, and told.
   bool open(const QString &elementName);
@@ -42,6 +45,7 @@ private:
   const NetData &m_net;
   Told m_told;
   NetworkMachines m_machines;
+  PageFacts m_facts;
   QString m_path; ///< of the list of open pages, empty for none
   QTabWidget *m_tabs;
 };

@@ -73,6 +73,8 @@ public:
   /// False when this hides what was hidden before.
   bool setHiddenLayers(const QString &property, const QSet<QString> &layers) { return m_layers.setHidden(property, layers); }
   const LayerFilter &layers() const { return m_layers; }
+  /// Hides what another drawing of the same network hides; for the next updatePlot().
+  void setLayers(const LayerFilter &layers) { m_layers = layers; }
   void setDisplayMode(DisplayMode mode) { m_displayMode = mode; }
   DisplayMode displayMode() const { return m_displayMode; }
 
@@ -93,6 +95,8 @@ public:
   /// they are negative.
   void requestPixtest(int delay, bool quick = true) { m_pixtest.requestPixtest(delay, quick); }
   const Pixtest &pixtest() const { return m_pixtest; }
+  /// Shows and hides what the rules say of the view as it is.
+  void showForView() { runPixtest(Pixtest::Labels::Without); }
   /// Places labels for the view as it is; stored ones stay where they are.
   void placeLabelsNow() { runPixtest(Pixtest::Labels::With); }
   void clearLabels();

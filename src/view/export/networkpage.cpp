@@ -1,0 +1,45 @@
+#include "export/networkpage.h"
+
+#include <model/netmetadata.h>
+
+NetworkPage::NetworkPage(DrawingSource source, PageFacts facts)
+    : m_facts(std::move(facts))
+    , m_drawing(std::move(source))
+    , m_legend(m_drawing)
+    , m_reference(GeoReference::of(m_drawing.update().geometry(), *m_drawing.source().net->metaData()))
+    , m_area(m_drawing.source().area) {}
+
+PageText NetworkPage::text() const {
+  const QString subject = m_facts.subject.isEmpty() ? m_facts.caseName : m_facts.subject;
+  return {subject.isEmpty() ? tr("Network") : subject, m_facts.line(), QString()};
+}
+
+void NetworkPage::layOut(const QSizeF &frame, const PageSetup &setup, Detail detail) {
+  m_frame = frame;
+  m_marksSelection = setup.marksSelection;
+  m_drawing.setView(frame, setup.area == PageSetup::Area::Window ? m_area : std::nullopt);
+  if (detail == Detail::Draft)
+    return;
+  if (setup.hasLabels)
+    m_drawing.placeLabels();
+  else
+    m_drawing.clearLabels();
+}
+
+std::vector<LegendBlock> NetworkPage::legend() const {
+  return m_legend.blocks();
+}
+
+std::optional<MapScale> NetworkPage::scale() const {
+  const NetGeometry &geometry = m_drawing.update().geometry();
+  if (!geometry.hasExtent() || m_frame.isEmpty())
+    return std::nullopt;
+  const QRectF seen = geometry.toOwn(m_drawing.visible());
+  const bool isMetres = m_reference.kind() != GeoReference::Kind::Unknown;
+  const double unit = isMetres ? m_reference.metresPerUnit(seen.center().y()) : 1.0;
+  return MapScale{seen.width() / m_frame.width() * unit, isMetres, m_reference.north()};
+}
+
+void NetworkPage::paint(QPainter &painter) const {
+  m_drawing.paint(painter, m_marksSelection);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "export/georeference.h"
+#include "export/networklegend.h"
+#include "export/pagedrawing.h"
+
+#include <paper/pagecontent.h>
+
+/// A page of a network: its drawing with legend and scale.
+class NetworkPage : public PageContent {
+  Q_DECLARE_TR_FUNCTIONS(NetworkPage)
+public:
+  NetworkPage(DrawingSource source, PageFacts facts);
+
+  const PageDrawing &drawing() const { return m_drawing; }
+  /// What is shown in place of what the window shows, in the network's coordinates; nothing for the whole network.
+  void setArea(const std::optional<QRectF> &area) { m_area = area; }
+
+  PageText text() const override;
+  bool isMap() const override { return true; }
+  void layOut(const QSizeF &frame, const PageSetup &setup, Detail detail) override;
+  std::vector<LegendBlock> legend() const override;
+  std::optional<MapScale> scale() const override;
+  void paint(QPainter &painter) const override;
+
+private:
+  PageFacts m_facts;
+  PageDrawing m_drawing;
+  mutable NetworkLegend m_legend; ///< makes its symbols when they are asked for
+  GeoReference m_reference;
+  std::optional<QRectF> m_area;
+  QSizeF m_frame;
+  bool m_marksSelection = true;
+};

@@ -1,0 +1,69 @@
+#include "export/networkseries.h"
+
+/// With the bounds that the present drawing has, whether they are fixed or come from its values.
+PlotSettings NetworkSeries::fixedSettings() const {
+  PlotSettings settings = m_present.drawing().source().settings;
+  for (const Aspect aspect : AllAspects) {
+    const QwtInterval &range = m_present.drawing().update().values().of(aspect).range;
+    if (!(range.width() > 0.0))
+      continue;
+    settings.functions[aspect].minimum = range.minValue();
+    settings.functions[aspect].maximum = range.maxValue();
+  }
+  return settings;
+}
+
+bool NetworkSeries::read(const QString &scenario, bool keepsScales, const std::function<bool()> &goOn, QString *reason) {
+  m_page.reset();
+  m_net = std::make_unique<NetData>();
+  m_scenario.clear();
+  if (!m_scenarios.read(
+          scenario, *m_net, [&goOn](double) { return goOn(); }, reason))
+    return false;
+  DrawingSource source = m_present.drawing().source();
+  source.net = m_net.get();
+  source.selection.clear(); // which is one of the present network
+  if (keepsScales)
+    source.settings = fixedSettings();
+  PageFacts facts = m_facts;
+  facts.scenario = scenario;
+  m_page = std::make_unique<NetworkPage>(std::move(source), std::move(facts));
+  m_scenario = scenario;
+  return true;
+}
+
+PageContent *NetworkSeries::open(const QString &scenario, const View &view, bool keepsScales,
+                                 const std::function<bool()> &goOn, QString *reason) {
+  NetworkPage *page = &m_present;
+  if (!scenario.isEmpty() && scenario != m_facts.scenario) {
+    if (scenario != m_scenario && !read(scenario, keepsScales, goOn, reason))
+      return nullptr;
+    page = m_page.get();
+  }
+  page->setArea(view.area);
+  return page;
+}
+
+QString NetworkSeries::nameOf(const QString &scenario, const View &view) {
+  return scenario.isEmpty() ? view.name : scenario + QLatin1Char(' ') + view.name;
+}
+
+std::vector<PageSeries::Page> NetworkSeries::pages(const Choice &choice, const PageText &text, std::function<bool()> goOn) {
+  std::vector<PageSeries::Page> pages;
+  const QStringList scenarios = choice.scenarios.isEmpty() ? QStringList(m_facts.scenario) : choice.scenarios;
+  for (const QString &scenario : scenarios) {
+    for (const View &view : choice.views) {
+      const auto openPage = [this, scenario, view, text, goOn, keeps = choice.keepsScales](PageText &said, QString *reason) {
+        PageContent *content = open(scenario, view, keeps, goOn, reason);
+        if (content == nullptr)
+          return content;
+        said = text;
+        said.title = text.title.isEmpty() ? view.name : tr("%1 \u2013 %2").arg(text.title, view.name);
+        said.facts = content->text().facts;
+        return content;
+      };
+      pages.push_back({nameOf(scenario, view), openPage});
+    }
+  }
+  return pages;
+}
