@@ -198,7 +198,7 @@ void TestProgram::pictureByOtherFunctions() {
   QFile file(path);
   QVERIFY(file.open(QIODevice::ReadOnly));
   const QByteArray text = file.readAll();
-  QVERIFY(text.contains("volume flow [1000 m³/h]") && text.contains("Color: volume flow"));
+  QVERIFY(text.contains("volume flow [1000 m³/h] – edges"));
   QCOMPARE(exported(QStringLiteral("accum. length")).status, 0);
   const Outcome unknown = exported(QStringLiteral("colour"));
   QCOMPARE(unknown.status, 1);
