@@ -1,6 +1,9 @@
 // Searching and listing, against the bare work that is in it.
 
 #include "boundedparser.h"
+#include "elementtable/elementtablemodel.h"
+#include "elementtable/elementtableview.h"
+#include "elementtable/propertycensus.h"
 #include "measure.h"
 #include "search/networksearch.h"
 
@@ -174,5 +177,94 @@ void formulaFiles(benchmark::State &state) {
   }
 }
 BENCHMARK(formulaFiles)->Unit(benchmark::kMillisecond)->Iterations(1)->Arg(100)->Arg(1000);
+
+/// All elements with twenty properties each, as the dock shows them first; then what people do with them. The first time a
+/// column is sorted or filtered it is read.
+std::vector<PropertyKey> twentyColumns() {
+  constexpr std::size_t Twenty = 20;
+  std::vector<PropertyKey> columns;
+  QStringList types;
+  const PropertyCensus census(network());
+  for (const PropertyCensus::Type &type : census.types())
+    types.append(type.code);
+  for (const PropertyCensus::Property &property : census.properties(types))
+    columns.push_back(property.key);
+  columns.resize(std::min(columns.size(), Twenty));
+  return columns;
+}
+
+QStringList allTypes() {
+  QStringList types;
+  for (const PropertyCensus::Type &type : PropertyCensus(network()).types())
+    types.append(type.code);
+  return types;
+}
+
+void elementTableOpens(benchmark::State &state) {
+  const std::vector<PropertyKey> columns = twentyColumns();
+  const QStringList types = allTypes();
+  for (auto _ : state) {
+    ElementTableModel model(network());
+    ElementTableView view;
+    view.setTable(&model);
+    model.show(types, columns);
+    view.show();
+    QApplication::processEvents();
+    state.counters["rows"] = model.rowCount();
+  }
+}
+BENCHMARK(elementTableOpens)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+/// The argument says whether the column is sorted for the first time.
+void elementTableSorts(benchmark::State &state) {
+  const std::vector<PropertyKey> columns = twentyColumns();
+  ElementTableModel model(network());
+  ElementTableView view;
+  view.setTable(&model);
+  view.show();
+  const bool isFirst = state.range(0) == 1;
+  for (auto _ : state) {
+    state.PauseTiming();
+    if (isFirst)
+      model.show(allTypes(), columns);
+    else
+      model.sort(0);
+    state.ResumeTiming();
+    model.sort(model.columnCount() - 1);
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(elementTableSorts)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+/// A range of numbers and a part of the name.
+void elementTableFilters(benchmark::State &state) {
+  ElementTableModel model(network());
+  ElementTableView view;
+  view.setTable(&model);
+  view.show();
+  model.show(allTypes(), twentyColumns());
+  for (auto _ : state) {
+    model.setFilters({{QStringLiteral("x"), QStringLiteral(">100")}, {QStringLiteral("name"), QStringLiteral("7")}});
+    QApplication::processEvents();
+    state.counters["rows"] = model.rowCount();
+    model.setFilters({});
+  }
+}
+BENCHMARK(elementTableFilters)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+void elementTableGroups(benchmark::State &state) {
+  ElementTableModel model(network());
+  ElementTableView view;
+  view.setTable(&model);
+  view.show();
+  model.show(allTypes(), twentyColumns());
+  for (auto _ : state) {
+    model.groupBy(ElementTableModel::Grouping::Property, model.columns().back().name());
+    QApplication::processEvents();
+    state.counters["rows"] = model.rowCount();
+    model.groupBy(ElementTableModel::Grouping::None);
+  }
+}
+BENCHMARK(elementTableGroups)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 } // namespace

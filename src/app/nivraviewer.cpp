@@ -223,6 +223,7 @@ OutcomeStyle::Outcome NivraViewer::outcome(bool isDone) const {
 bool NivraViewer::readWorkspace() {
   qDeleteAll(subnetWindows()); // parts of the network before
   m_control->clear();
+  m_tools->forgetElements();
   m_net.clear();
   m_showingChanges.cancel();
   m_changes.clear();

@@ -13,6 +13,7 @@
 
 class CategoryList;
 class CharacteristicsStack;
+class ElementTable;
 class HelpWindow;
 struct MachineData;
 class MetaDataTable;
@@ -48,6 +49,8 @@ public:
 
   /// Makes what is not there yet and shows the network that was just read.
   void refresh(const NivraWorkspace &workspace);
+  /// Before the elements of the network go.
+  void forgetElements();
   /// Shows and hides the docks.
   void fillViewMenu(QMenu &menu);
   NivraSearch *search() const { return m_search; } ///< null before the first workspace
@@ -92,6 +95,7 @@ private:
   void createLayers();
   void createCategories();
   void createCharacteristics();
+  void createElementTable();
   NivraVecTable *vectorTable();
   void showContents(const QString &name);
   QString marked() const;
@@ -112,6 +116,7 @@ private:
   ScenarioDock *m_scenario = nullptr;
   QToolButton *m_findingsButton = nullptr;
   NivraSearch *m_search = nullptr;
+  ElementTable *m_elementTable = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;
   NivraNetObjectCats *m_categories = nullptr;
   std::unique_ptr<NivraVecTable> m_vectorTable; ///< windows of their own, made when they are asked for

@@ -27,17 +27,17 @@ int significantDigits(const QString &text) {
   return digits;
 }
 
-bool isOfTexts(const QString &property) {
-  const PropertyKey key = PropertyKey::find(property);
-  return namesElements(key) || key == Names::all().type || property == QLatin1String("alias") ||
-         property.startsWith(QLatin1String("vis.")) || property.endsWith(QLatin1String(".text"));
-}
-
 } // namespace
 
 NumberDelegate::NumberDelegate(int propertyColumn, QObject *parent)
     : QStyledItemDelegate(parent)
     , m_propertyColumn(propertyColumn) {}
+
+bool NumberDelegate::isOfTexts(const QString &property) {
+  const PropertyKey key = PropertyKey::find(property);
+  return namesElements(key) || key == Names::all().type || property == QLatin1String("alias") ||
+         property.startsWith(QLatin1String("vis.")) || property.endsWith(QLatin1String(".text"));
+}
 
 QString NumberDelegate::forTheEye(const QString &text) {
   if (text.size() <= DisplayFormat::Digits || significantDigits(text) <= DisplayFormat::Digits)

@@ -13,6 +13,9 @@ public:
   /// A number with more digits than a person reads comes rounded, everything else as it stands.
   static QString forTheEye(const QString &text);
 
+  /// Whether the values of the property are names and texts, even where they look like numbers.
+  static bool isOfTexts(const QString &property);
+
   bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                  const QModelIndex &index) override;
 
