@@ -183,7 +183,7 @@ void ElementTableModel::groupBy(Grouping grouping, const QString &property) {
   endResetModel();
 }
 
-void ElementTableModel::setFigures(const std::vector<Figures::Kind> &figures) {
+void ElementTableModel::setFigures(const std::vector<ColumnFigures::Kind> &figures) {
   beginResetModel();
   m_figures = figures;
   m_arrangement.layOut(m_figures);
@@ -298,7 +298,7 @@ QString ElementTableModel::cellText(const RowArrangement::Line &line, int column
   if (line.what == RowArrangement::Line::Element)
     return this->column(column).text(line.index);
   if (column == 0 && line.what == RowArrangement::Line::Figure)
-    return Figures::title(line.figure);
+    return ColumnFigures::title(line.figure);
   if (column == 0) {
     const RowArrangement::Group &group = m_arrangement.groups()[line.index];
     return QStringLiteral("%1 (%2)").arg(group.title).arg(group.count);

@@ -66,8 +66,8 @@ public:
   void groupBy(Grouping grouping, const QString &property = QString());
   Grouping grouping() const { return m_grouping; }
   const QString &groupedBy() const { return m_groupedBy; }
-  void setFigures(const std::vector<Figures::Kind> &figures);
-  const std::vector<Figures::Kind> &figures() const { return m_figures; }
+  void setFigures(const std::vector<ColumnFigures::Kind> &figures);
+  const std::vector<ColumnFigures::Kind> &figures() const { return m_figures; }
   /// Of the group to which the line belongs.
   void setCollapsed(int line, bool isCollapsed);
   void collapseAll(bool areCollapsed);
@@ -122,5 +122,5 @@ private:
   Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
   Grouping m_grouping = Grouping::None;
   QString m_groupedBy;
-  std::vector<Figures::Kind> m_figures = Figures::kinds();
+  std::vector<ColumnFigures::Kind> m_figures = ColumnFigures::kinds();
 };

@@ -184,16 +184,16 @@ void ElementTablePage::makeBar() {
 
 void ElementTablePage::makeGroupMenu(QMenu &menu) {
   const auto *group = new QObject(&menu);
-  for (const Figures::Kind kind : Figures::kinds()) {
-    QAction *figure = menu.addAction(Figures::title(kind));
+  for (const ColumnFigures::Kind kind : ColumnFigures::kinds()) {
+    QAction *figure = menu.addAction(ColumnFigures::title(kind));
     figure->setCheckable(true);
     figure->setChecked(true);
     figure->setData(int(kind));
     connect(figure, &QAction::toggled, group, [this, &menu] {
-      std::vector<Figures::Kind> figures;
+      std::vector<ColumnFigures::Kind> figures;
       for (const QAction *action : menu.actions()) {
         if (action->isChecked())
-          figures.push_back(static_cast<Figures::Kind>(action->data().toInt()));
+          figures.push_back(static_cast<ColumnFigures::Kind>(action->data().toInt()));
       }
       m_model.setFigures(figures);
     });

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "elementtable/elementtablefile.h"
 #include "elementtable/elementtablemodel.h"
 #include "elementtable/propertycensus.h"
-#include "elementtable/tablefile.h"
 
 #include <model/selection.h>
 
@@ -106,7 +106,7 @@ private:
   QCheckBox *m_onlySelected;
   QPushButton *m_endFilters;
   ElementTableView *m_view;
-  TableFile m_file;
+  ElementTableFile m_file;
   TableSummary *m_summary;
   SelectionLink *m_link;
   ColumnChooser *m_chooser = nullptr; ///< made when it is asked for

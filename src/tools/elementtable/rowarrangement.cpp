@@ -70,27 +70,27 @@ void RowArrangement::groupAll(const QString &title) {
   m_groups.assign(1, {title, 0, m_passing.size()});
 }
 
-void RowArrangement::layOut(const std::vector<Figures::Kind> &figures) {
+void RowArrangement::layOut(const std::vector<ColumnFigures::Kind> &figures) {
   m_lines.clear();
   m_lines.reserve(m_passing.size() + m_groups.size() * (figures.size() + 1));
   if (m_groups.empty()) {
     for (const Index row : m_passing)
-      m_lines.push_back({Line::Element, Figures::Count, row});
+      m_lines.push_back({Line::Element, ColumnFigures::Count, row});
     return;
   }
   for (std::size_t i = 0; i < m_groups.size(); ++i) {
     const Group &group = m_groups[i];
-    m_lines.push_back({Line::Head, Figures::Count, toIndex(i)});
-    for (const Figures::Kind figure : figures)
+    m_lines.push_back({Line::Head, ColumnFigures::Count, toIndex(i)});
+    for (const ColumnFigures::Kind figure : figures)
       m_lines.push_back({Line::Figure, figure, toIndex(i)});
     if (isCollapsed(toIndex(i)))
       continue;
     for (std::size_t member = group.first; member < group.first + group.count; ++member)
-      m_lines.push_back({Line::Element, Figures::Count, m_passing[member]});
+      m_lines.push_back({Line::Element, ColumnFigures::Count, m_passing[member]});
   }
 }
 
-const Figures &RowArrangement::figures(Index group, const ElementColumn &column) const {
+const ColumnFigures &RowArrangement::figures(Index group, const ElementColumn &column) const {
   const auto [entry, isNew] = m_figures.try_emplace({group, &column});
   if (isNew) {
     const std::vector<double> &numbers = column.numbers();

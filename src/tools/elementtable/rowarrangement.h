@@ -1,6 +1,6 @@
 #pragma once
 
-#include "elementtable/figures.h"
+#include "elementtable/columnfigures.h"
 #include "elementtable/rowfilter.h"
 
 #include <base/index.h>
@@ -24,7 +24,7 @@ public:
   struct Line {
     enum What : unsigned char { Element, Head, Figure };
     What what = Element;
-    Figures::Kind figure = Figures::Count;
+    ColumnFigures::Kind figure = ColumnFigures::Count;
     Index index = 0; ///< of the row, or of the group
   };
   struct Group {
@@ -45,12 +45,12 @@ public:
   /// To be called after each filter(), which ends the groups. Groups are ordered as the values of the column are.
   void group(const ElementColumn &column, Qt::SortOrder order, const QString &titleOfEmpty);
   void groupAll(const QString &title);
-  void layOut(const std::vector<Figures::Kind> &figures);
+  void layOut(const std::vector<ColumnFigures::Kind> &figures);
 
   const std::vector<Line> &lines() const { return m_lines; }
   const std::vector<Index> &passing() const { return m_passing; }
   const std::vector<Group> &groups() const { return m_groups; }
-  const Figures &figures(Index group, const ElementColumn &column) const;
+  const ColumnFigures &figures(Index group, const ElementColumn &column) const;
 
   bool isCollapsed(Index group) const { return m_collapsed.contains(m_groups[group].title); }
   void setCollapsed(Index group, bool isCollapsed);
@@ -65,5 +65,5 @@ private:
   std::vector<Group> m_groups;
   std::vector<Line> m_lines;
   QSet<QString> m_collapsed;
-  mutable std::map<std::pair<Index, const ElementColumn *>, Figures> m_figures; ///< as they are asked for
+  mutable std::map<std::pair<Index, const ElementColumn *>, ColumnFigures> m_figures; ///< as they are asked for
 };

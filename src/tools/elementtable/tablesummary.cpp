@@ -34,13 +34,13 @@ QString TableSummary::figuresOf(int column) const {
   const std::vector<Index> marked = m_model.markedRows();
   const bool isOfMarked = marked.size() > 1; // one row is what was clicked last
   const std::vector<double> &numbers = m_model.column(column).numbers();
-  Figures figures;
+  ColumnFigures figures;
   for (const Index row : isOfMarked ? marked : m_model.arrangement().passing())
     figures.add(numbers[row]);
   QStringList parts;
-  for (const Figures::Kind kind : Figures::kinds()) {
+  for (const ColumnFigures::Kind kind : ColumnFigures::kinds()) {
     const double value = figures.value(kind);
-    parts.append(Figures::title(kind) + QLatin1Char(' ') +
+    parts.append(ColumnFigures::title(kind) + QLatin1Char(' ') +
                  (std::isnan(value) ? QStringLiteral("–") : DisplayFormat::number(value)));
   }
   const QString title = m_model.column(column).title();

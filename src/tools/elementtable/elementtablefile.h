@@ -11,10 +11,10 @@ class ElementTableView;
 class QWidget;
 
 /// Copies and files of the element table: what is shown, in its order.
-class TableFile {
-  Q_DECLARE_TR_FUNCTIONS(TableFile)
+class ElementTableFile {
+  Q_DECLARE_TR_FUNCTIONS(ElementTableFile)
 public:
-  TableFile(const ElementTableModel &model, const ElementTableView &view)
+  ElementTableFile(const ElementTableModel &model, const ElementTableView &view)
       : m_model(model)
       , m_view(view) {}
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 /// Count, sum, mean, smallest and largest of numbers.
-class Figures {
-  Q_DECLARE_TR_FUNCTIONS(Figures)
+class ColumnFigures {
+  Q_DECLARE_TR_FUNCTIONS(ColumnFigures)
 public:
   enum Kind { Count, Sum, Mean, Smallest, Largest };
   static const std::vector<Kind> &kinds();

@@ -1,4 +1,4 @@
-#include "elementtable/tablefile.h"
+#include "elementtable/elementtablefile.h"
 
 #include "elementtable/elementtablemodel.h"
 #include "elementtable/elementtableview.h"
@@ -31,7 +31,7 @@ Format formatOf(const QString &path, Format chosen) {
 
 } // namespace
 
-TableExport TableFile::of(const std::vector<int> &lines) const {
+TableExport ElementTableFile::of(const std::vector<int> &lines) const {
   constexpr int PixelsPerCharacter = 7;
   constexpr int NarrowestCharacters = 8;
   TableExport table;
@@ -49,7 +49,7 @@ TableExport TableFile::of(const std::vector<int> &lines) const {
   return table;
 }
 
-bool TableFile::save(const QString &path, Format format, QString *reason) const {
+bool ElementTableFile::save(const QString &path, Format format, QString *reason) const {
   std::vector<int> lines(fromQt(m_model.rowCount()));
   std::iota(lines.begin(), lines.end(), 0);
   QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -58,7 +58,7 @@ bool TableFile::save(const QString &path, Format format, QString *reason) const 
   return isSaved;
 }
 
-void TableFile::askAndSave(QWidget *parent, const QString &proposed) const {
+void ElementTableFile::askAndSave(QWidget *parent, const QString &proposed) const {
   const std::vector<std::pair<QString, Format>> formats{
       {tr("Workbook (*.xlsx)"), Format::Workbook},
       {tr("CSV with decimal point and commas (*.csv)"), Format::PointCsv},

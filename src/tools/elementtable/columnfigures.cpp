@@ -1,13 +1,13 @@
-#include "elementtable/figures.h"
+#include "elementtable/columnfigures.h"
 
 #include <limits>
 
-const std::vector<Figures::Kind> &Figures::kinds() {
+const std::vector<ColumnFigures::Kind> &ColumnFigures::kinds() {
   static const std::vector<Kind> all{Count, Sum, Mean, Smallest, Largest};
   return all;
 }
 
-QString Figures::title(Kind kind) {
+QString ColumnFigures::title(Kind kind) {
   switch (kind) {
   case Count:
     return tr("count");
@@ -23,7 +23,7 @@ QString Figures::title(Kind kind) {
   return QString();
 }
 
-double Figures::value(Kind kind) const {
+double ColumnFigures::value(Kind kind) const {
   if (kind == Count)
     return static_cast<double>(m_count);
   if (kind == Sum)
