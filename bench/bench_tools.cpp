@@ -1,6 +1,9 @@
 // Searching and listing, against the bare work that is in it.
 
 #include "boundedparser.h"
+#include "elementtable/elementtablemodel.h"
+#include "elementtable/elementtableview.h"
+#include "elementtable/propertycensus.h"
 #include "measure.h"
 #include "search/networksearch.h"
 
@@ -17,18 +20,21 @@
 #include <QTableView>
 
 #include <benchmark/benchmark.h>
+#include <map>
 #include <mpParser.h>
 
 namespace {
 
 constexpr int Hundred = 100000;
+constexpr int Million = 1000000;
 
-NetData &network() {
-  static auto *net = [] {
-    auto *read = new NetData; // never destroyed: it is as large as the benchmarks are short
-    NivraReader(*read).readGeomJsn(Measure::network(Hundred), {});
-    return read;
-  }();
+NetData &network(int elements = Hundred) {
+  static std::map<int, NetData *> networks; // never destroyed: they are as large as the benchmarks are short
+  NetData *&net = networks[elements];
+  if (net == nullptr) {
+    net = new NetData;
+    NivraReader(*net).readGeomJsn(Measure::network(elements), {});
+  }
   return *net;
 }
 
@@ -174,5 +180,89 @@ void formulaFiles(benchmark::State &state) {
   }
 }
 BENCHMARK(formulaFiles)->Unit(benchmark::kMillisecond)->Iterations(1)->Arg(100)->Arg(1000);
+
+/// All elements with twenty properties each, in a view of the size of the dock.
+struct TableInView {
+  explicit TableInView(int elements)
+      : net(network(elements))
+      , model(net) {
+    constexpr std::size_t Twenty = 20;
+    const PropertyCensus census(net);
+    for (const PropertyCensus::Type &type : census.types())
+      types.append(type.code);
+    for (const PropertyCensus::Property &property : census.properties(types))
+      columns.push_back(property.key);
+    columns.resize(std::min(columns.size(), Twenty));
+    view.setTable(&model);
+    view.resize(1200, 300);
+    view.show();
+  }
+
+  NetData &net;
+  ElementTableModel model;
+  ElementTableView view;
+  QStringList types;
+  std::vector<PropertyKey> columns;
+};
+
+int elementsOf(const benchmark::State &state) {
+  return static_cast<int>(state.range(0));
+}
+
+/// As they are shown first, in the order of their names.
+void elementTableOpens(benchmark::State &state) {
+  TableInView table(elementsOf(state));
+  for (auto _ : state) {
+    table.model.show(table.types, table.columns);
+    QApplication::processEvents();
+    state.counters["rows"] = table.model.rowCount();
+  }
+}
+BENCHMARK(elementTableOpens)->Arg(Hundred)->Arg(Million)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+/// By a column of numbers that is sorted for the first time.
+void elementTableSorts(benchmark::State &state) {
+  TableInView table(elementsOf(state));
+  for (auto _ : state) {
+    state.PauseTiming();
+    table.model.show(table.types, {PropertyKey::find("x")});
+    state.ResumeTiming();
+    table.model.sort(1);
+    QApplication::processEvents();
+    state.PauseTiming();
+    table.model.setSorted(QStringLiteral("name"), Qt::AscendingOrder);
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(elementTableSorts)->Arg(Hundred)->Arg(Million)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+/// By a comparison of numbers and a part of the name.
+void elementTableFilters(benchmark::State &state) {
+  TableInView table(elementsOf(state));
+  table.model.show(table.types, table.columns);
+  for (auto _ : state) {
+    table.model.setFilters({{QStringLiteral("x"), QStringLiteral(">100")}, {QStringLiteral("name"), QStringLiteral("7")}});
+    QApplication::processEvents();
+    state.counters["rows"] = table.model.rowCount();
+    state.PauseTiming();
+    table.model.setFilters({});
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(elementTableFilters)->Arg(Hundred)->Arg(Million)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+void elementTableGroups(benchmark::State &state) {
+  TableInView table(elementsOf(state));
+  table.model.show(table.types, table.columns);
+  for (auto _ : state) {
+    table.model.groupBy(ElementTableModel::Grouping::Property, QStringLiteral("type"));
+    QApplication::processEvents();
+    state.counters["rows"] = table.model.rowCount();
+    state.PauseTiming();
+    table.model.groupBy(ElementTableModel::Grouping::None);
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(elementTableGroups)->Arg(Hundred)->Arg(Million)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 } // namespace

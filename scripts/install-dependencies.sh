@@ -5,6 +5,7 @@ set -euo pipefail
 build=(g++ cmake ninja-build ccache pkg-config
   qtbase5-dev qttools5-dev libqt5svg5-dev qt5-image-formats-plugins libqt5opengl5-dev libqwt-qt5-dev libmuparserx-dev
   libudunits2-dev libsimdjson-dev libboost-dev libeigen3-dev libbenchmark-dev
+  libxlsxwriter-dev zlib1g-dev
   fonts-liberation poppler-utils xvfb xauth)
 check=(clang-format clang-tidy clang-tools-19 g++-mingw-w64-x86-64 python3 python3-numpy git mmdebstrap
   dpkg-dev lintian desktop-file-utils appstream shared-mime-info)

@@ -370,6 +370,7 @@ bool NivraViewer::readWorkspace() {
   m_control->clear();
   m_loader.readConfiguration();
   qDeleteAll(subnetWindows()); // parts of the network before
+  m_tools->forgetElements();
   m_net.clear();
   m_showingChanges.cancel();
   m_changes.clear();

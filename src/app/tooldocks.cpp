@@ -11,6 +11,7 @@
 #include <drawing/labelcontents.h>
 #include <io/nivraworkspace.h>
 #include <model/names.h>
+#include <tools/elementtable.h>
 #include <tools/metadatatable.h>
 #include <tools/nivrafindings.h>
 #include <tools/nivranetlayerseditor.h>
@@ -175,6 +176,24 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
     m_vectorTable->refresh();
     m_vectorTable->showValues();
   }
+  if (m_elementTable == nullptr)
+    createElementTable();
+  m_elementTable->refresh(m_directory);
+}
+
+void ToolDocks::createElementTable() {
+  m_elementTable = new ElementTable(m_net, &m_window);
+  addDock(m_elementTable, QStringLiteral("elementTable"), Qt::BottomDockWidgetArea);
+  m_window.addAction(m_elementTable->openAction());
+  connect(m_elementTable, &ElementTable::selected, m_control.picker(), &NetPicker::setSelection);
+  connect(m_elementTable, &ElementTable::currentChanged, &m_control, &NetVisControl::setCurrentElement);
+  connect(m_elementTable, &ElementTable::elementWanted, &m_control, &NetVisControl::showElement);
+  connect(&m_control, &NetVisControl::selectionChanged, m_elementTable, &ElementTable::showSelection);
+}
+
+void ToolDocks::forgetElements() {
+  if (m_elementTable != nullptr)
+    m_elementTable->forget();
 }
 
 void ToolDocks::createCharacteristics() {
@@ -262,6 +281,7 @@ void ToolDocks::showChanges() {
   m_layers->on_pushButtonReload_clicked();
   if (m_vectorTable != nullptr)
     m_vectorTable->showValues();
+  m_elementTable->showChanges();
   m_search->searchAgain();
   if (m_characteristics != nullptr)
     m_characteristics->refresh(); // the working points

@@ -18,6 +18,7 @@
 
 class CategoryList;
 class CharacteristicsStack;
+class ElementTable;
 class HelpWindow;
 struct MachineData;
 class MetaDataTable;
@@ -54,6 +55,8 @@ public:
   enum class Edits { Dropped, Kept };
   /// Makes what is not there yet and shows the network that was just read.
   void refresh(const NivraWorkspace &workspace, Edits edits = Edits::Dropped);
+  /// Before the elements of the network go.
+  void forgetElements();
   /// Shows and hides the docks.
   void fillViewMenu(QMenu &menu);
   NivraSearch *search() const { return m_search; } ///< null before the first workspace
@@ -109,6 +112,7 @@ private:
   void createLayers();
   void createCategories();
   void createCharacteristics();
+  void createElementTable();
   NivraVecTable *vectorTable();
   void showContents(const QString &name);
   QString marked() const;
@@ -129,6 +133,7 @@ private:
   ScenarioDock *m_scenario = nullptr;
   QToolButton *m_findingsButton = nullptr;
   NivraSearch *m_search = nullptr;
+  ElementTable *m_elementTable = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;
   NivraNetObjectCats *m_categories = nullptr;
   std::unique_ptr<NivraVecTable> m_vectorTable; ///< windows of their own, made when they are asked for

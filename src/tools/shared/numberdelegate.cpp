@@ -12,12 +12,6 @@
 
 namespace {
 
-bool isOfTexts(const QString &property) {
-  const PropertyKey key = PropertyKey::find(property);
-  return namesElements(key) || key == Names::all().type || property == QLatin1String("alias") ||
-         property.startsWith(QLatin1String("vis.")) || property.endsWith(QLatin1String(".text"));
-}
-
 bool isQuantity(const QString &property) {
   const NetMetaData::Attribute *attribute = NetMetaData::instance().anyAttribute(property);
   return attribute != nullptr && !attribute->storedUnit.isEmpty();
@@ -28,6 +22,12 @@ bool isQuantity(const QString &property) {
 NumberDelegate::NumberDelegate(int propertyColumn, QObject *parent)
     : QStyledItemDelegate(parent)
     , m_propertyColumn(propertyColumn) {}
+
+bool NumberDelegate::isOfTexts(const QString &property) {
+  const PropertyKey key = PropertyKey::find(property);
+  return namesElements(key) || key == Names::all().type || property == QLatin1String("alias") ||
+         property.startsWith(QLatin1String("vis.")) || property.endsWith(QLatin1String(".text"));
+}
 
 void NumberDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const {
   QStyledItemDelegate::initStyleOption(option, index);

@@ -10,6 +10,9 @@ public:
   /// \param propertyColumn the column that says of which property a row is: names and texts are never rounded
   explicit NumberDelegate(int propertyColumn, QObject *parent = nullptr);
 
+  /// Whether the values of the property are names and texts, even where they look like numbers.
+  static bool isOfTexts(const QString &property);
+
   bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                  const QModelIndex &index) override;
 

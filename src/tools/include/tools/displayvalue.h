@@ -26,6 +26,12 @@ public:
   /// The display unit of the property, empty when it is shown as stored.
   QString unit(const QString &type, PropertyKey property) { return find(type, property).unit; }
 
+  /// How stored numbers become shown ones; nothing when they are shown as stored.
+  std::optional<Units::Linear> conversion(const QString &type, PropertyKey property) {
+    const Conversion &found = find(type, property);
+    return found.converts ? std::make_optional(found.toDisplay) : std::nullopt;
+  }
+
 private:
   struct Conversion {
     bool converts = false;

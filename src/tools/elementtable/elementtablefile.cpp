@@ -1,0 +1,79 @@
+#include "elementtable/elementtablefile.h"
+
+#include "elementtable/elementtablemodel.h"
+#include "elementtable/elementtableview.h"
+
+#include <base/lastfolder.h>
+#include <base/nivramsg.h>
+#include <base/settings.h>
+
+#include <QApplication>
+#include <QFileDialog>
+
+#include <algorithm>
+#include <numeric>
+
+using Format = TableExport::Format;
+
+namespace {
+
+/// By the suffix; of CSV by what was chosen in the dialog, else by the general setting.
+Format formatOf(const QString &path, Format chosen) {
+  const QString suffix = QFileInfo(path).suffix().toLower();
+  if (suffix == QLatin1String("xlsx"))
+    return Format::Workbook;
+  if (suffix == QLatin1String("txt"))
+    return Format::Tabulators;
+  if (suffix == QLatin1String("csv") && chosen != Format::PointCsv && chosen != Format::CommaCsv)
+    return Settings::UseComma.value() ? Format::CommaCsv : Format::PointCsv;
+  return chosen;
+}
+
+} // namespace
+
+TableExport ElementTableFile::of(const std::vector<int> &lines) const {
+  constexpr int PixelsPerCharacter = 7;
+  constexpr int NarrowestCharacters = 8;
+  TableExport table;
+  for (int column = 0; column < m_model.columnCount(); ++column) {
+    table.headers.append(m_model.column(column).title());
+    table.widths.push_back(std::max(NarrowestCharacters, m_view.columnWidth(column) / PixelsPerCharacter));
+  }
+  table.rows = toQt(lines.size());
+  table.value = [this, lines](int row, int column) {
+    return m_model.index(lines[fromQt(row)], column).data(ElementTableModel::ValueRole);
+  };
+  table.isEmphasised = [this, lines](int row) {
+    return m_model.line(lines[fromQt(row)]).what == RowArrangement::Line::Head;
+  };
+  return table;
+}
+
+bool ElementTableFile::save(const QString &path, Format format, QString *reason) const {
+  std::vector<int> lines(fromQt(m_model.rowCount()));
+  std::iota(lines.begin(), lines.end(), 0);
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  const bool isSaved = of(lines).save(path, format, reason);
+  QApplication::restoreOverrideCursor();
+  return isSaved;
+}
+
+void ElementTableFile::askAndSave(QWidget *parent, const QString &proposed) const {
+  const std::vector<std::pair<QString, Format>> formats{
+      {tr("Workbook (*.xlsx)"), Format::Workbook},
+      {tr("CSV with decimal point and commas (*.csv)"), Format::PointCsv},
+      {tr("CSV with decimal comma and semicolons (*.csv)"), Format::CommaCsv},
+      {tr("Text with tabulators (*.txt)"), Format::Tabulators},
+  };
+  QStringList titles;
+  for (const auto &[title, format] : formats)
+    titles.append(title);
+  LastFolder &folder = LastFolder::ofSaving();
+  QString chosen;
+  const QString path = QFileDialog::getSaveFileName(
+      parent, tr("Save table"), folder.with(proposed + QStringLiteral(".xlsx")), titles.join(QStringLiteral(";;")), &chosen);
+  folder.remember(path);
+  QString reason;
+  if (!path.isEmpty() && !save(path, formatOf(path, formats[fromQt(std::max(0, titles.indexOf(chosen)))].second), &reason))
+    NivraMsg::message(NivraMsg::Kind::Warning, reason);
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QStringList>
+#include <QVariant>
+
+#include <functional>
+#include <vector>
+
+/// What is shown of a table, as it leaves the program.
+struct ExportedTable {
+  QStringList headers;
+  int rows = 0;
+  /// A number (double) or a text of the cell.
+  std::function<QVariant(int row, int column)> value;
+  /// Rows that sum up others stand out where the format can show it.
+  std::function<bool(int row)> isEmphasised = [](int) {
+    return false;
+  };
+  std::vector<int> widths; ///< of the columns, in characters; empty for usual ones
+};
