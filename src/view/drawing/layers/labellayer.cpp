@@ -3,6 +3,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <QTextDocument>
 
 #include <cmath>
@@ -46,10 +47,26 @@ void LabelLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScale
   }
 }
 
+void LabelLayer::drawHalo(QPainter &painter, const Label &label, const QPointF &top) {
+  constexpr double Width = 3.0; // px
+  if (label.style.halo.alpha() == 0)
+    return;
+  QPointF start(0.0, top.y() + QFontMetricsF(label.style.font).ascent());
+  QPainterPath outline;
+  for (const QStaticText &line : label.lines) {
+    start.setX(top.x() - line.size().width() * 0.5);
+    outline.addText(start, label.style.font, line.text());
+    start.ry() += line.size().height();
+  }
+  painter.strokePath(outline, QPen(label.style.halo, Width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
 void LabelLayer::drawLines(QPainter &painter, const Label &label, QPointF top) {
+  drawHalo(painter, label, top);
   const bool isVector = isVectorTarget(painter);
   const double ascent = isVector ? QFontMetricsF(label.style.font).ascent() : 0.0;
   painter.setFont(label.style.font);
+  painter.setPen(label.style.text);
   for (const QStaticText &line : label.lines) {
     QPointF corner = top - QPointF(line.size().width() * 0.5, 0.0);
     if (isVector) { // prepared text would be written as outlines

@@ -60,7 +60,11 @@ std::optional<QLineF> SelectionLayer::lineOf(NetGeometry::Item item, const Proje
   if (!center)
     return std::nullopt;
   if (item.kind != NetData::Edge) {
-    const QPointF middle = projection.map(center->x(), center->y());
+    const Index driven = item.kind == NetData::Node ? m_geometry->nodes()[item.index].driven : NoIndex;
+    const QPointF middle = driven == NoIndex
+                               ? projection.map(center->x(), center->y())
+                               : besideLine(projection.map(m_geometry->line(m_geometry->edges()[driven])),
+                                            static_cast<double>(m_geometry->edges()[driven].lane), m_symbolSize);
     return QLineF(middle, middle);
   }
   const NetGeometry::Edge &edge = m_geometry->edges()[item.index];
