@@ -484,9 +484,16 @@ void TestNetPlot::smoothZoomTurnsBack() {
 
 void TestNetPlot::slowDrawingsAreMovedAsAPicture() {
   ViewFixture f;
-  for (int i = 0; i < 20000; ++i)
-    f.addNode(qPrintable(QStringLiteral("J%1").arg(i)), qPrintable(QString::number(i % 200)),
-              qPrintable(QString::number(i / 200)), "30");
+  const auto name = [](int i) {
+    return "J" + QByteArray::number(i);
+  };
+  for (int i = 0; i < 20000; ++i) {
+    f.addNode(name(i).constData(), qPrintable(QString::number(i % 200)), qPrintable(QString::number(i / 200)), "30");
+    if (i % 200 > 0)
+      f.add(makeEdge(("R" + name(i)).constData(), name(i - 1).constData(), name(i).constData()), {});
+    if (i >= 200)
+      f.add(makeEdge(("U" + name(i)).constData(), name(i - 200).constData(), name(i).constData()), {});
+  }
   f.plot().show();
   f.show();
   QwtFastPlot &area = *f.plot().plot();

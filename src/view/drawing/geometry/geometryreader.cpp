@@ -1,8 +1,11 @@
 #include "geometry/geometryreader.h"
 
 #include <model/elementstate.h>
+#include <model/names.h>
 #include <model/propertycolumns.h>
 #include <model/topology.h>
+
+#include <cmath>
 
 namespace {
 
@@ -45,6 +48,15 @@ NetGeometry::NodeShape shapeOf(const NetData &net, const element &node, const Pr
   if (kind != nullptr && sameWord(kind->utf8(), "source"))
     return Shape::Supply;
   return kind != nullptr && sameWord(kind->utf8(), "sink") ? Shape::Demand : Shape::Junction;
+}
+
+/// The flow that is set, in the order in which the category of a node asks for it.
+double flowOf(const PropertyColumns &columns) {
+  for (const NodeColumn column : {NodePowset, NodeQset, NodeMset}) {
+    if (columns[column] != nullptr)
+      return NetData::number(columns[column]);
+  }
+  return NetData::NoValue;
 }
 
 std::vector<const element *> sourcesOf(const elements &collection) {
@@ -116,6 +128,7 @@ std::vector<Node> readNodes(const NetData &net, const ValueRequest &request, Val
     node.isDrive = columns[NodeType] != nullptr && columns[NodeType]->utf8() == "d";
     if (!node.isDrive)
       node.shape = shapeOf(net, *node.source, columns);
+    node.flow = flowOf(columns);
     values.readNode(i, columns, NodeWanted);
   });
   return nodes;
@@ -142,6 +155,26 @@ std::vector<Edge> readEdges(const NetData &net, const ValueRequest &request, Val
     values.readEdge(i, edge, columns, EdgeWanted);
   });
   return edges;
+}
+
+/// Drives without coordinates of their own were put upon the line of their compressor.
+void findDriven(const NetData &net, std::vector<Node> &nodes, const std::vector<Edge> &edges) {
+  constexpr double NearShare = 0.05; // of the line's length
+  for (Node &node : nodes) {
+    const PropertyText *name = node.isDrive && node.isPlaced ? node.source->find(Names::all().driven) : nullptr;
+    const elements::Entry *driven = name == nullptr ? nullptr : net.edges().findEntry(name->utf8());
+    if (driven == nullptr || !edges[driven->index].hasEnds())
+      continue;
+    const Node &from = nodes[edges[driven->index].node1];
+    const Node &to = nodes[edges[driven->index].node2];
+    const QPointF along(to.x - from.x, to.y - from.y);
+    const QPointF away(node.x - from.x, node.y - from.y);
+    const double square = QPointF::dotProduct(along, along);
+    const double across = along.x() * away.y() - along.y() * away.x();
+    const double share = square > 0.0 ? QPointF::dotProduct(along, away) / square : 0.0;
+    if (from.isPlaced && to.isPlaced && std::abs(across) <= NearShare * square && share >= 0.0 && share <= 1.0)
+      node.driven = driven->index;
+  }
 }
 
 /// The elements of the collection that have coordinates.
@@ -176,6 +209,7 @@ ElementValues GeometryReader::read(const NetData &net, const ValueRequest &reque
   NetGeometry::Records records;
   records.nodes = readNodes(net, request, values);
   records.edges = readEdges(net, request, values);
+  findDriven(net, records.nodes, records.edges);
   records.textBoxes = readPoints(net.textBoxes());
   records.subnets = readPoints(net.assembledSubnets());
   readPins(net, records.subnets);

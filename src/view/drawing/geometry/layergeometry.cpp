@@ -86,6 +86,15 @@ double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize) {
   return (hasSymbol ? std::max(symbolSize, lineWidth) : lineWidth) + GapBetweenLines;
 }
 
+QPointF besideLine(const QLineF &line, double lane, double symbolSize) {
+  constexpr double Distance = 1.2; // symbols, from middle to middle
+  const double length = line.length();
+  QPointF away(line.dy() / length, -line.dx() / length);
+  if (away.y() > 0.0 || (away.y() == 0.0 && away.x() < 0.0))
+    away = -away; // upwards on the screen
+  return LaneWay(line, lane * laneSpacing(true, 0.0, symbolSize)).middle().center() + away * (symbolSize * Distance);
+}
+
 double distanceToLine(const QPointF &point, const QLineF &line) {
   const QPointF along(line.dx(), line.dy());
   const QPointF to = point - line.p1();

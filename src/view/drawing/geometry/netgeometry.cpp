@@ -113,6 +113,8 @@ NetGeometry::NetGeometry(Records records, int dropped)
   assignLanes(m_records.edges, m_records.nodes.size());
   countUnplaced();
   chooseUnits();
+  findTypicalLength();
+  markIdleNodes();
 }
 
 void NetGeometry::clear() {
@@ -177,6 +179,42 @@ QRectF NetGeometry::findMainExtent() {
       main.add(x, y);
   });
   return main.isAny() ? main.area() : m_extent;
+}
+
+void NetGeometry::findTypicalLength() {
+  constexpr std::size_t Enough = 20000; // edges to look at
+  constexpr double MostOfRoom = 2.0;    // edges are no longer where nodes stand on their own
+  std::vector<double> lengths;
+  for (std::size_t i = 0, step = edges().size() / Enough + 1; i < edges().size(); i += step) {
+    const double length = isPlaced(edges()[i]) ? line(edges()[i]).length() : 0.0;
+    if (length > 0.0)
+      lengths.push_back(length);
+  }
+  if (!lengths.empty()) {
+    const auto middle = lengths.begin() + static_cast<std::ptrdiff_t>(lengths.size() / 2);
+    std::nth_element(lengths.begin(), middle, lengths.end());
+    m_typicalLength = *middle;
+  }
+  const double count = static_cast<double>(std::max<std::size_t>(nodes().size(), 1));
+  const double room = std::sqrt(area() / count);
+  m_typicalLength = lengths.empty() ? room : std::min(m_typicalLength, room * MostOfRoom);
+}
+
+double NetGeometry::area() const {
+  const double width = m_mainExtent.width();
+  const double height = m_mainExtent.height();
+  return std::max(width * height, m_typicalLength * std::max(width, height));
+}
+
+/// Without a scenario nobody knows who supplies and takes; then each is shown as what it is.
+void NetGeometry::markIdleNodes() {
+  const auto flows = [](const Node &node) {
+    return node.flow != NetData::NoValue && node.flow != 0.0;
+  };
+  if (std::none_of(nodes().begin(), nodes().end(), flows))
+    return;
+  for (Node &node : m_records.nodes)
+    node.isIdle = !flows(node) && (node.shape == NodeShape::Supply || node.shape == NodeShape::Demand);
 }
 
 const element *NetGeometry::source(Item item) const {

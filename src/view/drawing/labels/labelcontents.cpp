@@ -308,6 +308,17 @@ QStringList LabelContents::textOfBox(const element &box) const {
   return lines.isEmpty() && !own.isEmpty() ? QStringList{own} : lines;
 }
 
+LabelStyle LabelContents::nameStyle(NetData::EleType kind) const {
+  constexpr int HaloAlpha = 215;
+  constexpr double TextShare = 0.75; // names step back behind what they name
+  LabelStyle style = styleOf(kind);
+  style.halo = style.background;
+  style.halo.setAlpha(std::min(HaloAlpha, style.text.alpha()));
+  style.background = Qt::transparent;
+  style.text.setAlphaF(style.text.alphaF() * TextShare);
+  return style;
+}
+
 LabelStyle LabelContents::style(const element &source, NetData::EleType kind) const {
   const Type *type = find(source);
   LabelStyle style = type != nullptr ? type->style : styleOf(kind);

@@ -92,6 +92,10 @@ bool LabelPass::makeLabel(LabelWish &wish, Label &label, LabelText &text) const 
   if (text.isEmpty())
     return false;
   label.style = m_contents.style(source, wish.candidate.item.kind);
+  if (!wish.name.isEmpty()) {
+    text = {{wish.name}, QString()};
+    label.style = m_contents.nameStyle(wish.candidate.item.kind);
+  }
   QSizeF size;
   if (!text.html.isEmpty()) {
     auto document = std::make_shared<LabelDocument>(label.style, text.html);

@@ -9,6 +9,7 @@ struct LabelWish {
   QLineF position;     ///< of the element, in plot coordinates; both ends are its middle unless it is a line
   int rank = 0;        ///< lower is more important
   double weight = 0.0; ///< larger is more important among those of one rank
+  QString name;        ///< what it says in place of its contents
 };
 
 /// One placement of labels: the more important come before others, and a label that stood somewhere stays there while the

@@ -108,6 +108,8 @@ bool LabelPlacement::tryPoint(const LabelCandidate &candidate, LabelSpot &spot) 
       offsets[count++] = offset;
   }
   for (const bool sparesLines : {true, false}) {
+    if (candidate.isShy && m_hasLines && !sparesLines)
+      break;
     for (const QPointF &offset : offsets) {
       spot.offset = offset;
       if (sparesLines <= m_hasLines && tryAt(candidate, spot, sparesLines))

@@ -1,9 +1,13 @@
+#include "geometry/canvasgrid.h"
+#include "style/detail.h"
+
 #include <drawing/edgelayer.h>
 #include <drawing/layergeometry.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <numeric>
 #include <unordered_map>
 
 namespace {
@@ -35,6 +39,7 @@ EdgeLayer::EdgeLayer() {
 }
 
 void EdgeLayer::setEdges(const NetGeometry &geometry) {
+  m_typicalLength = geometry.typicalLength();
   std::vector<SpatialIndex::Box> boxes;
   std::vector<Index> edgesOfBoxes;
   boxes.reserve(geometry.edges().size());
@@ -117,7 +122,7 @@ LaneWay EdgeLayer::way(const Record &record, const Projection &projection) const
 }
 
 void EdgeLayer::addLines(const Record &record, const Projection &projection, const QRectF &area,
-                         std::vector<VisibleLine> &lines, std::vector<Arrow> &arrows) const {
+                         std::vector<VisibleLine> &lines, double arrowSize, std::vector<Arrow> &arrows) const {
   QLineF line(projection.map(record.x1, record.y1), projection.map(record.x2, record.y2));
   if (record.lane != 0.0F) {
     const LaneWay beside = way(record, projection);
@@ -132,20 +137,25 @@ void EdgeLayer::addLines(const Record &record, const Projection &projection, con
     return;
   lines.push_back({line, record.pen});
   if (record.flow != 0)
-    addArrows(record, whole, area, arrows);
+    addArrows(record, whole, area, arrowSize, arrows);
 }
 
-void EdgeLayer::addArrows(const Record &record, const QLineF &line, const QRectF &area, std::vector<Arrow> &arrows) const {
-  constexpr double ShortestLine = 3.5; // arrows
-  constexpr double Spacing = 14.0;     // arrows
+double EdgeLayer::arrowSizeIn(const Projection &projection) const {
+  return m_arrowSize * Detail(m_typicalLength * projection.scale()).arrowScale();
+}
+
+void EdgeLayer::addArrows(const Record &record, const QLineF &line, const QRectF &area, double arrowSize,
+                          std::vector<Arrow> &arrows) const {
+  constexpr double ShortestLine = 5.0; // arrows
+  constexpr double Spacing = 20.0;     // arrows
   const double dx = line.dx();
   const double dy = line.dy();
   const double square = dx * dx + dy * dy;
-  const double shortest = m_arrowSize * ShortestLine + (record.hasSymbol ? m_symbolSize : 0.0);
-  if (!(square >= shortest * shortest) || m_arrowSize <= 0.0)
+  const double shortest = arrowSize * ShortestLine + (record.hasSymbol ? m_symbolSize : 0.0);
+  if (!(square >= shortest * shortest) || arrowSize <= 0.0)
     return;
   const double length = std::sqrt(square);
-  double count = std::max(1.0, std::floor(length / (m_arrowSize * Spacing)));
+  double count = std::max(1.0, std::floor(length / (arrowSize * Spacing)));
   if (record.hasSymbol)
     count += std::fmod(count, 2.0); // none in the middle, where the symbol stands
   QLineF visible = line;
@@ -158,22 +168,17 @@ void EdgeLayer::addArrows(const Record &record, const QLineF &line, const QRectF
   constexpr double Half = 0.5;
   const double last = std::floor(numberAt(visible.p2()));
   for (double i = std::max(0.0, std::ceil(numberAt(visible.p1()))); i <= last && i < count; i += 1.0)
-    arrows.push_back({line.pointAt((i + Half) / count) + along * m_arrowSize * Half, along, record.pen});
+    arrows.push_back({line.pointAt((i + Half) / count) + along * arrowSize * Half, along, record.pen});
 }
 
-void EdgeLayer::drawArrows(QPainter &painter, const std::vector<Arrow> &arrows) const {
-  constexpr double WidthShare = 0.38; // to each side of the line
+void EdgeLayer::drawArrows(QPainter &painter, const std::vector<Arrow> &arrows, double arrowSize) const {
+  constexpr double WidthShare = 0.42; // to each side of the line
   constexpr double Notch = 0.75;      // how deep the back is cut
   constexpr int DarkerPercent = 150;
-  constexpr std::size_t ManyArrows = 500; // nobody looks at each of so many
-  const QColor halo(255, 255, 255, 200);
-  if (arrows.size() > ManyArrows)
-    painter.setPen(Qt::NoPen);
-  else
-    painter.setPen(QPen(halo, 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(Qt::NoPen);
   for (const Arrow &arrow : arrows) {
     const QPen &pen = m_pens[arrow.pen];
-    const double size = m_arrowSize + pen.widthF();
+    const double size = arrowSize + pen.widthF();
     const QPointF back = arrow.tip - arrow.along * size;
     const QPointF side = QPointF(-arrow.along.y(), arrow.along.x()) * size * WidthShare;
     painter.setBrush(pen.color().darker(DarkerPercent));
@@ -182,13 +187,83 @@ void EdgeLayer::drawArrows(QPainter &painter, const std::vector<Arrow> &arrows) 
   }
 }
 
-double EdgeLayer::widthFactor(const std::vector<VisibleLine> &lines, const QRectF &canvas) const {
+namespace {
+
+/// Of lines that are spread evenly, px.
+template <typename Lines>
+double distanceBetween(const Lines &lines, const QRectF &area) {
   double length = 1.0;
-  for (const VisibleLine &line : lines)
+  for (const auto &line : lines)
     length += std::sqrt(line.line.dx() * line.line.dx() + line.line.dy() * line.line.dy());
-  constexpr double ShareOfRoom = 0.6; // of the way between two lines, if they were spread evenly
-  const double room = ShareOfRoom * canvas.width() * canvas.height() / length;
-  return m_widest > room ? room / m_widest : 1.0;
+  return area.width() * area.height() / length;
+}
+
+QColor mixed(const QColor &color, const QColor &other, double share) {
+  const auto mix = [share](int a, int b) {
+    return static_cast<int>(std::lround(a + (b - a) * share));
+  };
+  return {mix(color.red(), other.red()), mix(color.green(), other.green()), mix(color.blue(), other.blue())};
+}
+
+} // namespace
+
+QPen EdgeLayer::penFor(const QPen &pen, double apart) const {
+  constexpr double ShareOfRoom = 0.4;
+  constexpr double NextWidth = 1.4; // px: below it a line looks like one of a pixel, which is drawn much quicker
+  constexpr double Paleness = 0.7;  // of the narrowest line where lines touch
+  constexpr double Touching = 2.0;  // px
+  constexpr double Apart = 12.0;    // px
+  QPen drawn = pen;
+  const double crowd = 1.0 - Detail::presence(apart, Touching, Apart);
+  const double narrowness = m_widest > 0.0 ? 1.0 - pen.widthF() / m_widest : 0.0;
+  if (crowd > 0.0 && narrowness > 0.0)
+    drawn.setColor(mixed(pen.color(), m_background, crowd * narrowness * Paleness));
+  const double factor = std::min(1.0, m_widest > 0.0 ? apart * ShareOfRoom / m_widest : 1.0);
+  const double width = pen.widthF() * factor;
+  drawn.setWidthF(factor < 1.0 && width < NextWidth ? std::min(pen.widthF(), 1.0) : width);
+  return drawn;
+}
+
+std::vector<QLineF> EdgeLayer::inDrawingOrder(const std::vector<VisibleLine> &lines, const QRectF &canvas,
+                                              std::vector<std::size_t> &starts) const {
+  constexpr double ShortestSeen = 1.0; // px
+  const auto isSeen = [](const QLineF &line) {
+    return std::abs(line.dx()) > ShortestSeen || std::abs(line.dy()) > ShortestSeen;
+  };
+  // Counting sort by pen.
+  starts.assign(m_pens.size() + 1, 0);
+  for (const VisibleLine &line : lines)
+    ++starts[line.pen + 1];
+  std::partial_sum(starts.begin(), starts.end(), starts.begin());
+  std::vector<QLineF> sorted(lines.size());
+  std::vector<std::size_t> next = starts;
+  for (const VisibleLine &line : lines)
+    sorted[next[line.pen]++] = line.line;
+  constexpr std::size_t ManyLines = 50000; // of fewer, each is drawn
+  if (lines.size() < ManyLines)
+    return sorted;
+  // From the broadest on, each short line takes its place; what comes too late is left out, and the rest moves up.
+  CanvasGrid places(canvas, ShortestSeen);
+  std::size_t kept = sorted.size();
+  std::size_t end = sorted.size();
+  for (std::size_t pen = m_pens.size(); pen-- > 0;) {
+    const std::size_t first = starts[pen];
+    starts[pen + 1] = kept;
+    for (std::size_t i = end; i-- > first;) {
+      if (isSeen(sorted[i]) || places.take(sorted[i].center()))
+        sorted[--kept] = sorted[i];
+    }
+    end = first;
+  }
+  starts.front() = kept;
+  return sorted;
+}
+
+QRectF EdgeLayer::coveredPart(const Projection &projection) const {
+  constexpr double Surroundings = 40.0; // px: lines in a row have room beside them
+  const SpatialIndex::Box &bounds = m_index.bounds();
+  const QRectF all = QRectF(projection.map(bounds.x1, bounds.y1), projection.map(bounds.x2, bounds.y2)).normalized();
+  return all.adjusted(-Surroundings, -Surroundings, Surroundings, Surroundings) & projection.canvas();
 }
 
 void EdgeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
@@ -198,39 +273,27 @@ void EdgeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleM
     return;
   const double margin = m_widest + 1.0;
   const QRectF area = canvasRect.adjusted(-margin, -margin, margin, margin);
+  const double arrowSize = arrowSizeIn(projection);
   std::vector<VisibleLine> visible;
   std::vector<Arrow> arrows;
   m_index.query(projection.visible(margin), [&](Index i) {
     if (m_records[i].pen != NoIndex)
-      addLines(m_records[i], projection, area, visible, arrows);
+      addLines(m_records[i], projection, area, visible, arrowSize, arrows);
   });
-
-  // Counting sort by pen: starts[pen] is where the lines of the pen begin.
-  std::vector<std::size_t> starts(m_pens.size() + 1, 0);
-  for (const VisibleLine &line : visible)
-    ++starts[line.pen + 1];
-  for (std::size_t pen = 1; pen < starts.size(); ++pen)
-    starts[pen] += starts[pen - 1];
-  std::vector<QLineF> sorted(visible.size());
-  std::vector<std::size_t> next = starts;
-  for (const VisibleLine &line : visible)
-    sorted[next[line.pen]++] = line.line;
-
-  constexpr double NextWidth = 1.4; // px: below it a line looks like one of a pixel, which is drawn much quicker
-  const double factor = widthFactor(visible, canvasRect);
+  const double apart = distanceBetween(visible, coveredPart(projection));
+  std::vector<std::size_t> starts;
+  const std::vector<QLineF> sorted = inDrawingOrder(visible, canvasRect, starts);
   for (std::size_t i = 0; i < m_pens.size(); ++i) {
     const std::size_t count = starts[i + 1] - starts[i];
     if (count == 0)
       continue;
-    QPen pen = m_pens[i];
-    const double width = pen.widthF() * factor;
-    pen.setWidthF(factor < 1.0 && width < NextWidth ? std::min(pen.widthF(), 1.0) : width);
+    QPen pen = penFor(m_pens[i], apart);
     if (visible.size() > ManyLines)
       pen.setCapStyle(Qt::FlatCap);
     painter->setPen(pen);
     painter->drawLines(&sorted[starts[i]], toQt(count));
   }
-  drawArrows(*painter, arrows);
+  drawArrows(*painter, arrows, arrowSize);
 }
 
 void EdgeLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {

@@ -21,7 +21,11 @@ std::optional<QLineF> ElementMarks::lineOf(NetGeometry::Item item) const {
   if (!center)
     return std::nullopt;
   if (item.kind != NetData::Edge) {
-    const QPointF middle = m_projection.map(center->x(), center->y());
+    const Index driven = item.kind == NetData::Node ? geometry.nodes()[item.index].driven : NoIndex;
+    const QPointF middle = driven == NoIndex ? m_projection.map(center->x(), center->y())
+                                             : besideLine(m_projection.map(geometry.line(geometry.edges()[driven])),
+                                                          static_cast<double>(geometry.edges()[driven].lane),
+                                                          m_drawing.symbolSize);
     return QLineF(middle, middle);
   }
   const NetGeometry::Edge &edge = geometry.edges()[item.index];

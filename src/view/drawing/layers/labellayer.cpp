@@ -3,6 +3,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <QTextDocument>
 
 #include <cmath>
@@ -46,10 +47,47 @@ void LabelLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScale
   }
 }
 
+namespace {
+
+void drawHaloPath(QPainter &painter, const Label &label, const QPointF &top) {
+  constexpr double Width = 3.0; // px
+  QPointF start(0.0, top.y() + QFontMetricsF(label.style.font).ascent());
+  QPainterPath outline;
+  for (const QStaticText &line : label.lines) {
+    start.setX(top.x() - line.size().width() * 0.5);
+    outline.addText(start, label.style.font, line.text());
+    start.ry() += line.size().height();
+  }
+  painter.strokePath(outline, QPen(label.style.halo, Width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
+} // namespace
+
+void LabelLayer::drawHalo(QPainter &painter, const Label &label, const QPointF &top) {
+  if (label.style.halo.alpha() == 0)
+    return;
+  if (isVectorTarget(painter)) {
+    drawHaloPath(painter, label, top);
+    return;
+  }
+  // The prepared text, drawn all about its place, is much quicker than its outline.
+  painter.setPen(label.style.halo);
+  for (const QPointF &aside : {QPointF(-2, 0), QPointF(2, 0), QPointF(0, -2), QPointF(0, 2), QPointF(-1, -1), QPointF(1, -1),
+                               QPointF(-1, 1), QPointF(1, 1)}) {
+    double y = std::round(top.y());
+    for (const QStaticText &line : label.lines) {
+      painter.drawStaticText(QPointF(std::round(top.x() - line.size().width() * 0.5), y) + aside, line);
+      y += line.size().height();
+    }
+  }
+}
+
 void LabelLayer::drawLines(QPainter &painter, const Label &label, QPointF top) {
+  painter.setFont(label.style.font);
+  drawHalo(painter, label, top);
   const bool isVector = isVectorTarget(painter);
   const double ascent = isVector ? QFontMetricsF(label.style.font).ascent() : 0.0;
-  painter.setFont(label.style.font);
+  painter.setPen(label.style.text);
   for (const QStaticText &line : label.lines) {
     QPointF corner = top - QPointF(line.size().width() * 0.5, 0.0);
     if (isVector) { // prepared text would be written as outlines

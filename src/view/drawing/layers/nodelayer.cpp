@@ -1,4 +1,5 @@
 #include "geometry/canvasgrid.h"
+#include "style/detail.h"
 
 #include <drawing/layergeometry.h>
 #include <drawing/nodelayer.h>
@@ -12,10 +13,15 @@ namespace {
 using Shape = NetGeometry::NodeShape;
 
 constexpr double NodeZ = 20.0;
-constexpr QRgb Outline = 0xff3c4650;
-constexpr double LargestReach = 20.0; // px: half the largest node
-constexpr double StationShare = 2.5;  // of the size of a junction of the same look
-constexpr double SmallestStation = 5.0;
+constexpr double LargestReach = 20.0;    // px: half the largest node
+constexpr double SmallestShape = 5.5;    // px: of smaller ones nobody tells a triangle from a dot
+constexpr int DarkerPercent = 170;       // an outline is to tell the node from its line, not to be seen itself
+constexpr double SmallestOutlined = 3.0; // px
+
+double outlineWidth(double size) {
+  constexpr double SizeOfFullOutline = 7.0;
+  return Detail::presence(size, SmallestOutlined, SizeOfFullOutline);
+}
 
 QPolygonF shapeAround(const QPointF &center, Shape shape, double size) {
   const double r = size * 0.5;
@@ -36,6 +42,7 @@ NodeLayer::NodeLayer() {
 void NodeLayer::setNodes(const NetGeometry &geometry) {
   std::vector<SpatialIndex::Box> boxes;
   std::vector<Record> records;
+  std::array<std::size_t, Shapes> counts{};
   boxes.reserve(geometry.nodes().size());
   records.reserve(geometry.nodes().size());
   for (Index i = 0; i < geometry.nodes().size(); ++i) {
@@ -43,8 +50,13 @@ void NodeLayer::setNodes(const NetGeometry &geometry) {
     if (!node.isPlaced || node.isDrive)
       continue;
     boxes.push_back({node.x, node.y, node.x, node.y});
-    records.push_back({node.x, node.y, i, node.shape, NodeLook(), false});
+    const Shape shape = node.isIdle ? Shape::Junction : node.shape;
+    ++counts[static_cast<std::size_t>(shape)];
+    records.push_back({node.x, node.y, i, shape, NodeLook(), false});
   }
+  m_typicalLength = geometry.typicalLength();
+  for (std::size_t shape = 0; shape < Shapes; ++shape)
+    m_roomOfShapes[shape] = Detail::roomOf(geometry.area(), counts[shape]);
   const std::vector<Index> order = m_index.build(boxes);
   m_records.clear();
   m_records.reserve(order.size());
@@ -53,8 +65,11 @@ void NodeLayer::setNodes(const NetGeometry &geometry) {
 }
 
 void NodeLayer::setLooks(const std::vector<NodeLook> &looks) {
-  for (Record &record : m_records)
+  m_isSizedByValue = false;
+  for (Record &record : m_records) {
     record.look = looks[record.node];
+    m_isSizedByValue = m_isSizedByValue || record.look.size != m_records.front().look.size;
+  }
 }
 
 void NodeLayer::setVisibility(const VisibilityRules &rules) {
@@ -68,28 +83,50 @@ void NodeLayer::clear() {
   m_index.clear();
 }
 
-double NodeLayer::sizeOf(const Record &record) {
-  return record.shape == Shape::Junction ? record.look.size : std::max(SmallestStation, record.look.size * StationShare);
+NodeLayer::Sizes NodeLayer::sizesIn(const Projection &projection) const {
+  constexpr Sizes Shares{0.9, 2.8, 1.7, 2.3};  // junctions, supplies, demands, held pressures
+  constexpr Sizes None{0.0, 12.0, 22.0, 12.0}; // px of room without which those of a shape are left out,
+  constexpr Sizes All{1.0, 36.0, 55.0, 36.0};  // and from which on they are all there
+  constexpr double SmallestOfValue = 0.8;
+  const double scale = projection.scale();
+  const double room = m_typicalLength * scale;
+  const double common = Detail(room).nodeScale();
+  Sizes sizes{};
+  for (std::size_t shape = 0; shape < Shapes; ++shape) {
+    const bool isJunction = shape == static_cast<std::size_t>(Shape::Junction);
+    // Few stations stand out from however many junctions.
+    const double least = isJunction ? 0.0 : 0.6;
+    const double presence = isJunction ? 1.0 : Detail::presence(m_roomOfShapes[shape] * scale, None[shape], All[shape]);
+    sizes[shape] = std::max(common, least) * Shares[shape] * presence;
+    if (m_isSizedByValue && common > 0.0)
+      sizes[shape] = std::max(sizes[shape], SmallestOfValue * Shares[shape] * Detail::presence(room, 4.0, 9.0));
+  }
+  return sizes;
 }
 
 void NodeLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {
+  const Sizes sizes = sizesIn(projection);
   m_index.query(projection.around(point, tolerance + LargestReach), [&](Index i) {
     const Record &record = m_records[i];
     const QPointF to = projection.map(record.x, record.y) - point;
     const double distance = std::hypot(to.x(), to.y());
-    if (record.isDrawn() && distance - sizeOf(record) * 0.5 <= tolerance)
+    const double size = sizeOf(record, sizes);
+    if (record.isDrawn() && isSeen(size) && distance - size * 0.5 <= tolerance)
       hits.push_back({{NetData::Node, record.node}, distance, HitRank::Point});
   });
 }
 
-std::vector<NodeLayer::VisibleNode> NodeLayer::visibleNodes(const Projection &projection) const {
+std::vector<NodeLayer::VisibleNode> NodeLayer::visibleNodes(const Projection &projection, const Sizes &sizes) const {
   std::vector<VisibleNode> nodes;
   const QRectF area = projection.canvas().adjusted(-LargestReach, -LargestReach, LargestReach, LargestReach);
   m_index.query(projection.visible(LargestReach), [&](Index i) {
     const Record &record = m_records[i];
+    const double size = sizeOf(record, sizes);
+    if (!record.isDrawn() || !isSeen(size))
+      return;
     const QPointF center = projection.map(record.x, record.y);
-    if (record.isDrawn() && area.contains(center))
-      nodes.push_back({center, &record});
+    if (area.contains(center))
+      nodes.push_back({center, size, &record});
   });
   return nodes;
 }
@@ -98,51 +135,45 @@ void NodeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleM
   const Projection projection(xMap, yMap, canvasRect);
   if (!projection.isValid())
     return;
-  const std::vector<VisibleNode> nodes = visibleNodes(projection);
-  if (nodes.empty())
+  const Sizes sizes = sizesIn(projection);
+  if (!isAnySeen(sizes))
     return;
-  // A node may take a third of the room that there is for each.
-  constexpr double ShareOfRoom = 0.33;
-  const double room = std::sqrt(canvasRect.width() * canvasRect.height() / static_cast<double>(nodes.size()));
-  drawJunctions(*painter, nodes, room * ShareOfRoom, canvasRect);
-  drawStations(*painter, nodes, room, canvasRect);
+  const std::vector<VisibleNode> nodes = visibleNodes(projection, sizes);
+  drawDots(*painter, nodes, canvasRect);
+  drawStations(*painter, nodes, canvasRect);
 }
 
-void NodeLayer::drawJunctions(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest,
-                              const QRectF &canvas) {
-  constexpr double TooSmall = 1.5; // px: such dots would only make the lines look dirty
-  constexpr double OutlineWidth = 1.0;
-  if (largest < TooSmall)
-    return;
-  CanvasGrid grid(canvas.adjusted(-LargestReach, -LargestReach, LargestReach, LargestReach),
-                  std::max(TooSmall, largest * 0.5));
+void NodeLayer::drawDots(QPainter &painter, const std::vector<VisibleNode> &nodes, const QRectF &canvas) {
+  constexpr double SizeStep = 0.25; // px: sizes are rounded so that many nodes share a pen
+  CanvasGrid grid(canvas.adjusted(-LargestReach, -LargestReach, LargestReach, LargestReach), SmallestDot);
   QMap<QPair<double, QRgb>, QPolygonF> dots; // points of one pen
   for (const VisibleNode &node : nodes) {
-    if (node.record->shape == Shape::Junction && grid.take(node.center))
-      dots[{std::min(node.record->look.size, largest), node.record->look.color}].append(node.center);
+    const bool isDot = node.record->shape == Shape::Junction || node.size < SmallestShape;
+    if (isDot && grid.take(node.center))
+      dots[{std::round(node.size / SizeStep) * SizeStep, node.record->look.color}].append(node.center);
   }
   for (const bool outlines : {true, false}) {
     for (auto batch = dots.cbegin(); batch != dots.cend(); ++batch) {
       const auto [size, color] = batch.key();
-      if (outlines)
-        painter.setPen(QPen(QColor(Outline), size + OutlineWidth, Qt::SolidLine, Qt::RoundCap));
-      else
-        painter.setPen(QPen(QColor(color), std::max(size - OutlineWidth, 1.0), Qt::SolidLine, Qt::RoundCap));
+      const double outline = outlineWidth(size);
+      if (outlines && outline <= 0.0)
+        continue;
+      const QColor ink = outlines ? QColor(color).darker(DarkerPercent) : QColor(color);
+      painter.setPen(QPen(ink, outlines ? size + outline : size - outline, Qt::SolidLine, Qt::RoundCap));
       painter.drawPoints(batch.value());
     }
   }
 }
 
-void NodeLayer::drawStations(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest,
-                             const QRectF &canvas) {
-  CanvasGrid grid(canvas.adjusted(-LargestReach, -LargestReach, LargestReach, LargestReach), SmallestStation);
-  painter.setPen(QPen(QColor(Outline), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+void NodeLayer::drawStations(QPainter &painter, const std::vector<VisibleNode> &nodes, const QRectF &canvas) {
+  CanvasGrid grid(canvas.adjusted(-LargestReach, -LargestReach, LargestReach, LargestReach), SmallestShape);
   for (const VisibleNode &node : nodes) {
-    if (node.record->shape == Shape::Junction || !grid.take(node.center))
+    if (node.record->shape == Shape::Junction || node.size < SmallestShape || !grid.take(node.center))
       continue;
-    painter.setBrush(QColor(node.record->look.color));
-    painter.drawPolygon(
-        shapeAround(node.center, node.record->shape, std::max(SmallestStation, std::min(sizeOf(*node.record), largest))));
+    const QColor color(node.record->look.color);
+    painter.setPen(QPen(color.darker(DarkerPercent), outlineWidth(node.size), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(color);
+    painter.drawPolygon(shapeAround(node.center, node.record->shape, node.size));
   }
 }
 

@@ -1,4 +1,5 @@
 #include "geometry/canvasgrid.h"
+#include "style/detail.h"
 
 #include <base/settings.h>
 #include <drawing/subnetlayer.h>
@@ -7,6 +8,7 @@
 #include <model/subnetstate.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -89,6 +91,7 @@ void SubnetLayer::setLook(double size, int alpha) {
 
 Findings SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry) {
   m_records.clear();
+  m_typicalLength = geometry.typicalLength();
   for (const NetGeometry::PointElement &subnet : geometry.subnets()) {
     const element &source = *subnet.source;
     const auto number = [&source](const char *key) {
@@ -103,6 +106,9 @@ Findings SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry
     record.symbol = ofKind != NoIndex ? ofKind : m_symbols.find(QStringLiteral("sub"));
     record.ring = ringColor(net, source);
     record.ground = controlColor(net, source);
+    record.isRingKnown =
+        record.ring != colorOf(Settings::SubnetColorUnknown) && record.ring != colorOf(Settings::RingColorUnknown);
+    record.isGroundKnown = record.ground != colorOf(Settings::SubnetColorUnknown);
     m_records.push_back(record);
   }
   return m_symbols.takeFindings();
@@ -111,11 +117,12 @@ Findings SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry
 double SubnetLayer::sizeOf(const Record &record, const Projection &projection) const {
   constexpr double WidthShare = 0.5;   // the pins stay outside of the box
   constexpr double LargestBox = 400.0; // px
-  double size = m_takesVisSize && record.visSize > 0.0 ? record.visSize : m_size;
+  const double detail = Detail(m_typicalLength * projection.scale()).symbolScale();
+  double size = m_takesVisSize && record.visSize > 0.0 ? record.visSize : m_size * detail;
   if (m_takesWidth) {
     const QPointF across = projection.map(record.center.x() + record.width, record.center.y()) -
                            projection.map(record.center.x(), record.center.y());
-    size = std::max(m_takesVisSize ? size : m_size, std::abs(across.x()) * WidthShare);
+    size = std::max(m_takesVisSize ? size : m_size * detail, std::abs(across.x()) * WidthShare);
   }
   return std::min(size, LargestBox);
 }
@@ -130,8 +137,9 @@ std::vector<SubnetLayer::Placed> SubnetLayer::layOut(const Projection &projectio
     const Record &record = m_records[i];
     const QPointF center = projection.map(record.center.x(), record.center.y());
     const double size = sizeOf(record, projection);
-    QRectF box(0.0, 0.0, size, size);
+    QRectF box(0.0, 0.0, std::round(size), std::round(size));
     box.moveCenter(center);
+    box.moveTopLeft({std::round(box.left()) + 0.5, std::round(box.top()) + 0.5}); // a frame on whole pixels is sharpest
     if (isHidden(i) || !box.intersects(projection.canvas()))
       continue;
     const Index number = grid.claim(center, toIndex(placed.size()));
@@ -151,13 +159,14 @@ std::vector<QRectF> SubnetLayer::boxes(const Projection &projection) const {
 }
 
 void SubnetLayer::drawPins(QPainter &painter, const Record &record, const QRectF &box, const Projection &projection) const {
-  constexpr double PinSize = 5.0;
-  const QRectF area = projection.canvas().adjusted(-PinSize, -PinSize, PinSize, PinSize);
-  const QColor ink(60, 70, 80);
+  constexpr double LargestPin = 5.0; // px
+  const double pinSize = std::min(LargestPin, box.width() * 0.12);
+  const QRectF area = projection.canvas().adjusted(-pinSize, -pinSize, pinSize, pinSize);
+  const QColor ink(110, 120, 130);
   for (const QPointF &pin : record.pins) {
     QLineF line(box.center(), projection.map(pin.x(), pin.y()));
     if (m_drawsPinLines && clipLine(line, area)) {
-      painter.setPen(QPen(ink, 1.2, Qt::DotLine));
+      painter.setPen(QPen(ink, 1.0, Qt::DotLine));
       painter.drawLine(line);
     }
     const QPointF end = projection.map(pin.x(), pin.y());
@@ -165,7 +174,7 @@ void SubnetLayer::drawPins(QPainter &painter, const Record &record, const QRectF
       continue;
     painter.setPen(QPen(ink, 1.0));
     painter.setBrush(Qt::white);
-    painter.drawRect(QRectF(end - QPointF(PinSize, PinSize) * 0.5, QSizeF(PinSize, PinSize)));
+    painter.drawRect(QRectF(end - QPointF(pinSize, pinSize) * 0.5, QSizeF(pinSize, pinSize)));
   }
 }
 
@@ -175,24 +184,36 @@ void SubnetLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScal
   for (const Placed &p : placed)
     drawPins(*painter, m_records[p.subnet], p.box, projection);
   for (const Placed &p : placed) {
-    constexpr double Rounding = 0.18;
-    constexpr double SymbolShare = 0.8;
-    const Record &record = m_records[p.subnet];
-    const double size = p.box.width();
-    QColor ground = record.ground;
-    ground.setAlpha(m_alpha);
-    const double margin = std::min(m_groundMargin, size) * 0.5;
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(ground);
-    painter->drawRoundedRect(p.box.adjusted(-margin, -margin, margin, margin), size * Rounding, size * Rounding);
-    painter->setPen(m_penWidth > 0.0 ? QPen(record.ring, m_penWidth) : QPen(Qt::NoPen));
-    painter->setBrush(Qt::white);
-    painter->drawRoundedRect(p.box, size * Rounding, size * Rounding);
-    if (record.symbol != NoIndex)
-      m_symbols.draw(*painter, record.symbol, p.box.center(), size * SymbolShare, 0.0);
+    drawBox(*painter, m_records[p.subnet], p.box);
     if (p.others > 0)
       m_symbols.drawCount(*painter, p.box.topRight(), p.others + 1);
   }
+}
+
+// What is not known of a subnet is not painted large: then its box is a thin frame.
+void SubnetLayer::drawBox(QPainter &painter, const Record &record, const QRectF &box) const {
+  constexpr double Rounding = 0.18;
+  constexpr double SymbolShare = 0.86;
+  constexpr double GroundShare = 0.3;  // of the box, at most
+  constexpr double FullSize = 48.0;    // px: smaller boxes have thinner rings
+  constexpr double ThinnestRing = 1.5; // px
+  const double size = box.width();
+  const double rounding = size * Rounding;
+  if (record.isGroundKnown) {
+    QColor ground = record.ground;
+    ground.setAlpha(m_alpha);
+    const double margin = std::min(m_groundMargin, size * GroundShare) * 0.5;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(box.adjusted(-margin, -margin, margin, margin), rounding, rounding);
+  }
+  const double known = std::max(ThinnestRing, m_penWidth * std::min(1.0, size / FullSize));
+  painter.setPen(m_penWidth > 0.0 ? QPen(record.ring, std::min(m_penWidth, record.isRingKnown ? known : 1.0))
+                                  : QPen(Qt::NoPen));
+  painter.setBrush(Qt::white);
+  painter.drawRoundedRect(box, rounding, rounding);
+  if (record.symbol != NoIndex)
+    m_symbols.draw(painter, record.symbol, box.center(), size * SymbolShare, 0.0);
 }
 
 void SubnetLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {

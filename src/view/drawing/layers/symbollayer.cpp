@@ -1,4 +1,5 @@
 #include "geometry/canvasgrid.h"
+#include "style/detail.h"
 
 #include <drawing/elementfilter.h>
 #include <drawing/symbollayer.h>
@@ -57,6 +58,7 @@ std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometr
     record.y = line.center().y();
     record.dx = line.dx();
     record.dy = line.dy();
+    record.type = edge.type;
     record.item = {NetData::Edge, i};
     record.symbol = symbolOf(edge);
     record.priority = priorityOf(edge.type);
@@ -65,26 +67,42 @@ std::vector<SymbolLayer::Record> SymbolLayer::records(const NetGeometry &geometr
     found.push_back(record);
   }
   for (Index i = 0; i < geometry.nodes().size(); ++i) {
-    const NetGeometry::Node &node = geometry.nodes()[i];
-    if (!node.isDrive || !node.isPlaced)
+    if (!geometry.nodes()[i].isDrive || !geometry.nodes()[i].isPlaced)
       continue;
-    Record record;
-    record.x = node.x;
-    record.y = node.y;
-    record.item = {NetData::Node, i};
-    const QString type = QStringLiteral("d");
-    record.symbol =
-        ElementState::isOutOfUse(*node.source) ? m_symbols.find(type, QStringLiteral("_off")) : m_symbols.find(type);
-    record.priority = priorityOf('d');
-    record.size = shareOf(type);
-    found.push_back(record);
+    found.push_back(recordOf(geometry, i));
+    found.back().size = shareOf(QStringLiteral("d"));
   }
   found.erase(std::remove_if(found.begin(), found.end(), [](const Record &r) { return r.symbol == NoIndex; }), found.end());
   return found;
 }
 
+SymbolLayer::Record SymbolLayer::recordOf(const NetGeometry &geometry, Index drive) {
+  const NetGeometry::Node &node = geometry.nodes()[drive];
+  Record record;
+  record.x = node.x;
+  record.y = node.y;
+  if (node.driven != NoIndex) {
+    const NetGeometry::Edge &driven = geometry.edges()[node.driven];
+    const QLineF line = geometry.line(driven);
+    record.x = line.center().x();
+    record.y = line.center().y();
+    record.dx = line.dx();
+    record.dy = line.dy();
+    record.lane = driven.lane;
+    record.isBeside = true;
+  }
+  record.type = 'd';
+  record.item = {NetData::Node, drive};
+  const QString type = QStringLiteral("d");
+  record.symbol =
+      ElementState::isOutOfUse(*node.source) ? m_symbols.find(type, QStringLiteral("_off")) : m_symbols.find(type);
+  record.priority = priorityOf('d');
+  return record;
+}
+
 Findings SymbolLayer::setStations(const NetGeometry &geometry) {
   clear();
+  m_room.read(geometry);
   std::vector<Record> found = records(geometry);
   Findings findings = m_symbols.takeFindings();
   append(findings, m_figures.read(geometry));
@@ -123,10 +141,12 @@ void SymbolLayer::clear() {
 }
 
 QPointF SymbolLayer::centerOf(const Record &r, const Projection &projection) const {
-  if (r.lane == 0.0F)
+  if (r.lane == 0.0F && !r.isBeside)
     return projection.map(r.x, r.y);
   const QLineF line(projection.map(r.x - r.dx * 0.5, r.y - r.dy * 0.5), projection.map(r.x + r.dx * 0.5, r.y + r.dy * 0.5));
-  return LaneWay(line, static_cast<double>(r.lane) * laneSpacing(true, 0.0, m_size)).middle().center();
+  const double lane = static_cast<double>(r.lane);
+  return r.isBeside ? besideLine(line, lane, m_size)
+                    : LaneWay(line, lane * laneSpacing(true, 0.0, m_size)).middle().center();
 }
 
 const std::vector<SymbolLayer::Placed> &SymbolLayer::laidOut(const Projection &projection) const {
@@ -135,11 +155,37 @@ const std::vector<SymbolLayer::Placed> &SymbolLayer::laidOut(const Projection &p
   return m_layout->placed;
 }
 
-SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
-  Layout layout{projection, {}, {}};
-  std::vector<Placed> &placed = layout.placed;
-  if (!projection.isValid() || m_size <= 0.0)
-    return layout;
+double SymbolLayer::distanceToOthers(const Record &record, const QPointF &center, double reach,
+                                     const Projection &projection) const {
+  double distance = reach;
+  m_index.query(projection.around(center, reach + m_size), [&](Index i) {
+    const Record &other = m_records[i];
+    if (!other.isVisible || other.priority >= record.priority)
+      return;
+    const QPointF to = centerOf(other, projection) - center;
+    distance = std::min(distance, std::hypot(to.x(), to.y()));
+  });
+  return distance;
+}
+
+double SymbolLayer::presenceOf(const Record &record, const QPointF &center, double size,
+                               const Projection &projection) const {
+  constexpr double Reach = 3.0; // symbols: what is further away is not near
+  if (record.figure != NoIndex)
+    return 1.0;
+  SymbolRoom::Place place;
+  place.size = qBound(1.0, size * static_cast<double>(record.size), LargestSymbol);
+  place.scale = projection.scale();
+  place.lineLength = std::hypot(record.dx, record.dy) * place.scale;
+  const double besideOthers = m_room.presence(record.type, place);
+  place.distance = place.size * Reach;
+  if (m_room.presence(record.type, place) <= besideOthers)
+    return besideOthers; // whoever is near
+  place.distance = distanceToOthers(record, center, place.size * Reach, projection);
+  return m_room.presence(record.type, place);
+}
+
+std::vector<SymbolLayer::Candidate> SymbolLayer::candidates(const Projection &projection, double size) const {
   const double reach = std::max(m_size, m_figures.longest() * 0.5);
   const double margin = reach + m_size; // lanes move symbols a little
   const QRectF area = projection.canvas().adjusted(-reach, -reach, reach, reach);
@@ -147,51 +193,67 @@ SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
   const auto isBehindBox = [&boxes](const QPointF &center) {
     return std::any_of(boxes.begin(), boxes.end(), [&center](const QRectF &box) { return box.contains(center); });
   };
-  std::vector<std::pair<Index, QPointF>> visible; // index of the record, and its middle in pixels
+  std::vector<Candidate> found;
   m_index.query(projection.visible(margin), [&](Index i) {
     if (!m_records[i].isVisible)
       return;
     const QPointF center = centerOf(m_records[i], projection);
     if (area.contains(center) && !isBehindBox(center))
-      visible.emplace_back(i, center);
+      found.push_back({i, center, presenceOf(m_records[i], center, size, projection)});
   });
-  std::sort(visible.begin(), visible.end(), [&](const auto &a, const auto &b) {
-    return std::make_pair(m_records[a.first].priority, a.first) < std::make_pair(m_records[b.first].priority, b.first);
+  std::sort(found.begin(), found.end(), [&](const Candidate &a, const Candidate &b) {
+    return std::make_pair(m_records[a.record].priority, a.record) < std::make_pair(m_records[b.record].priority, b.record);
   });
+  return found;
+}
 
-  // Symbols shrink where they are many, but stay legible; those that then overlap stand behind one of them.
-  constexpr double ShareOfRoom = 0.6;
-  constexpr double LegibleSize = 12.0; // px
-  constexpr double CellShare = 0.55;   // of a symbol: one free cell lies between two symbols
-  const QRectF &canvas = projection.canvas();
-  const double room =
-      std::sqrt(canvas.width() * canvas.height() / static_cast<double>(std::max<std::size_t>(visible.size(), 1)));
-  const double size = std::min(m_size, std::max(LegibleSize, room * ShareOfRoom));
-  CanvasGrid grid(area, size * CellShare);
-  for (const auto &[i, center] : visible) {
-    const Index number = grid.claim(center, toIndex(placed.size()));
+std::vector<NetGeometry::Item> SymbolLayer::sharing(const Projection &projection, Index number) const {
+  std::vector<NetGeometry::Item> items;
+  const char type = m_records[laidOut(projection)[number].record].type;
+  for (const auto &[symbol, record] : m_layout->behind) {
+    if (symbol == number && m_records[record].type == type)
+      items.push_back(m_records[record].item);
+  }
+  return items;
+}
+
+SymbolLayer::Layout SymbolLayer::layOut(const Projection &projection) const {
+  Layout layout{projection, {}, {}};
+  if (!projection.isValid() || m_size <= 0.0)
+    return layout;
+  constexpr double CellShare = 0.55; // of a symbol: one free cell lies between two symbols
+  const double size = m_size * Detail(m_room.typicalLength() * projection.scale()).symbolScale();
+  const double reach = std::max(m_size, m_figures.longest() * 0.5);
+  CanvasGrid grid(projection.canvas().adjusted(-reach, -reach, reach, reach), size * CellShare);
+  std::vector<Placed> &placed = layout.placed;
+  for (const Candidate &candidate : candidates(projection, size)) {
+    // What is not shown itself stands behind a symbol that is, where there is one.
+    const Index own = candidate.presence > 0.0 ? toIndex(placed.size()) : NoIndex;
+    const Index number = grid.claim(candidate.center, own);
     if (number < placed.size()) {
-      ++placed[number].others;
-      layout.behind.emplace_back(number, i);
-      continue;
+      placed[number].others += m_records[candidate.record].type == m_records[placed[number].record].type ? 1 : 0;
+      layout.behind.emplace_back(number, candidate.record);
+    } else if (own != NoIndex) {
+      placed.push_back(this->placed(candidate, size, projection));
     }
-    placed.push_back(this->placed(i, center, size, projection));
   }
   return layout;
 }
 
-SymbolLayer::Placed SymbolLayer::placed(Index record, const QPointF &center, double size,
-                                        const Projection &projection) const {
-  const Record &r = m_records[record];
+SymbolLayer::Placed SymbolLayer::placed(const Candidate &candidate, double size, const Projection &projection) const {
+  constexpr double SmallestShare = 0.5;
+  const Record &r = m_records[candidate.record];
   Placed placed;
   placed.item = r.item;
-  placed.center = center;
-  placed.record = record;
-  placed.size = qBound(1.0, size * static_cast<double>(r.size), LargestSymbol);
+  placed.center = candidate.center;
+  placed.record = candidate.record;
+  placed.presence = candidate.presence;
   placed.isFigure = r.figure != NoIndex;
+  const double full = (placed.isFigure ? m_size : size) * static_cast<double>(r.size);
+  placed.size = qBound(1.0, full * (SmallestShare + (1.0 - SmallestShare) * placed.presence), LargestSymbol);
   placed.extent = placed.isFigure ? m_figures.extent(r.figure, placed.size) : QSizeF(placed.size, placed.size);
   const QPointF ahead = projection.map(r.x + r.dx, r.y + r.dy) - projection.map(r.x, r.y);
-  const double angle = ahead.isNull() ? 0.0 : qRadiansToDegrees(std::atan2(ahead.y(), ahead.x()));
+  const double angle = ahead.isNull() || r.isBeside ? 0.0 : qRadiansToDegrees(std::atan2(ahead.y(), ahead.x()));
   placed.angle = std::isfinite(angle) ? angle : 0.0;
   return placed;
 }
@@ -211,17 +273,35 @@ QRectF SymbolLayer::Placed::obstacle() const {
 }
 
 void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const {
-  const std::vector<Placed> &placed = laidOut(Projection(xMap, yMap, canvasRect));
+  const Projection projection(xMap, yMap, canvasRect);
+  const std::vector<Placed> &placed = laidOut(projection);
+  drawShafts(*painter, projection, placed);
+  const double opacity = painter->opacity();
   for (const Placed &p : placed) {
     const Record &r = m_records[p.record];
+    painter->setOpacity(opacity * p.presence);
     if (p.isFigure)
       m_figures.draw(*painter, r.figure, p.center, p.size);
     else
       m_symbols.draw(*painter, r.symbol, p.center, p.size, p.angle);
   }
   for (const Placed &p : placed) {
-    if (p.others > 0)
+    painter->setOpacity(opacity * Detail::presence(p.presence, 0.5, 1.0));
+    if (p.others > 0 && painter->opacity() > 0.0)
       m_symbols.drawCount(*painter, p.center + QPointF(p.extent.width(), -p.extent.height()) * 0.5, p.others + 1);
+  }
+  painter->setOpacity(opacity);
+}
+
+void SymbolLayer::drawShafts(QPainter &painter, const Projection &projection, const std::vector<Placed> &placed) const {
+  for (const Placed &p : placed) {
+    const Record &r = m_records[p.record];
+    if (!r.isBeside)
+      continue;
+    QColor ink(90, 100, 110);
+    ink.setAlphaF(p.presence);
+    painter.setPen(QPen(ink, 1.0));
+    painter.drawLine(p.center, projection.map(r.x, r.y));
   }
 }
 
@@ -232,8 +312,6 @@ void SymbolLayer::find(const Projection &projection, const QPointF &point, std::
       continue;
     const double distance = QLineF(placed[i].center, point).length();
     hits.push_back({placed[i].item, distance, HitRank::Symbol});
-    if (placed[i].others == 0)
-      continue;
     for (const auto &[number, record] : m_layout->behind) {
       if (number == i)
         hits.push_back({m_records[record].item, distance, HitRank::Symbol});

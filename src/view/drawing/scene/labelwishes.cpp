@@ -41,11 +41,12 @@ void LabelWishes::collectSubnets() {
 void LabelWishes::collectSymbols() {
   for (const SymbolLayer::Placed &placed : m_drawing.symbols.laidOut(m_projection)) {
     areas.push_back(placed.obstacle());
-    const QPointF center = *m_drawing.geometry.center(placed.item);
+    const bool isNode = placed.item.kind == NetData::Node; // a drive may be drawn beside where it stands
+    const QPointF center = isNode ? m_projection.unmap(placed.center) : *m_drawing.geometry.center(placed.item);
     const QPointF aside = placed.center - m_projection.map(center.x(), center.y());
     const double flow = placed.item.kind == NetData::Edge ? m_drawing.flow[placed.item.index] : 0.0;
     add(placed.item, {center, center}, false, placed.reach() + std::hypot(aside.x(), aside.y()), StationRank, flow);
-    if (placed.item.kind == NetData::Node)
+    if (isNode)
       m_nodesWithSymbol.insert(placed.item.index);
   }
 }

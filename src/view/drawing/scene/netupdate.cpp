@@ -1,4 +1,5 @@
 #include "scene/labelwishes.h"
+#include "scene/stationnames.h"
 
 #include <base/settings.h>
 #include <drawing/colorscale.h>
@@ -44,7 +45,7 @@ void NetUpdate::tellAll(const Findings &findings) const {
 }
 
 std::vector<QwtPlotItem *> NetUpdate::items() {
-  return {&m_violations, &m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_labels};
+  return {&m_violations, &m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_names, &m_labels};
 }
 
 void NetUpdate::setNetData(const NetData *net) {
@@ -62,6 +63,7 @@ void NetUpdate::setNetData(const NetData *net) {
   m_subnets.clear();
   m_textBoxes.clear();
   clearLabels();
+  m_names.clear();
   m_visibility.clear();
   m_layers.read(m_geometry); // nothing is hidden of what is no longer there
 }
@@ -118,6 +120,8 @@ void NetUpdate::updatePlot(Elements elements, Which which, Labels labels) {
     else
       clearLabels();
   }
+  if (!m_names.labels().empty())
+    placeNames(); // elements may have come and gone
   emit changed();
   tell(m_told, Finding::Severity::Debug, QStringLiteral("Plot update: %1 sec.").arg(seconds(timer)));
 }
@@ -222,6 +226,7 @@ void NetUpdate::updateSymbols(bool rebuild) {
   m_violations.setSizes(m_settings.nodeMag, m_settings.symMag);
   m_violations.setGround(m_settings.bgrColor);
   m_edges.setSymbolSize(m_settings.symMag);
+  m_edges.setBackground(m_settings.bgrColor);
   m_edges.setArrowSize(m_settings.arrowMag * ArrowPixels);
   m_subnets.setLook(sizeOf(QStringLiteral("sub"), m_settings.symMag * LargerBoxes), m_settings.alphaSubnet);
   if (rebuild) {
@@ -276,6 +281,8 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
     clearLabels(); // none is to be placed for this view
     hasChanged = true;
   }
+  if (labels == Pixtest::Labels::Without)
+    hasChanged = placeNames() || hasChanged;
   if (hasChanged)
     emit changed();
   tell(m_told, Finding::Severity::Debug,
@@ -285,32 +292,55 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
 }
 
 void NetUpdate::placeLabels() {
-  constexpr double SameScale = 1e-6;
-  const LabelContents &contents = *labelContents();
   m_unplaced.clear();
   m_hasPlacedLabels = true;
-  if (!Settings::BuildLabels.value() || contents.isOff()) {
+  m_names.clear(); // the labels say them
+  if (!Settings::BuildLabels.value() || labelContents()->isOff())
     m_labels.clear();
-    return;
-  }
+  else
+    place(Wanted::Labels);
+}
+
+bool NetUpdate::areNamesWanted() const {
+  return !m_hasPlacedLabels && Settings::BuildLabels.value() && !labelContents()->isOff() &&
+         Settings::LabelPlacement.value() != QLatin1String("never");
+}
+
+bool NetUpdate::placeNames() {
+  const bool hadNames = !m_names.labels().empty();
+  if (areNamesWanted())
+    place(Wanted::Names);
+  else
+    m_names.clear();
+  return hadNames || !m_names.labels().empty();
+}
+
+void NetUpdate::place(Wanted wanted) {
+  constexpr double SameScale = 1e-6;
   const View view = m_view();
   if (!view.projection.isValid())
     return;
   const double units = view.unitsPerPixel.height();
+  LabelLayer &layer = wanted == Wanted::Labels ? m_labels : m_names;
+  const auto run = [&](auto found) {
+    LabelPass pass(m_geometry, *labelContents(), view.projection.canvas(), m_settings.labelMargin);
+    for (const QRectF &area : view.legends)
+      pass.addObstacle(area);
+    for (const QRectF &area : found.areas)
+      pass.addObstacle(area);
+    for (const auto &[line, width] : found.lines)
+      pass.addLine(line, width);
+    const bool isSameScale = std::abs(units - layer.unitsPerPixel()) <= SameScale * units;
+    LabelPass::Result result = pass.run(std::move(found.wishes), isSameScale ? layer.labels() : std::vector<Label>());
+    layer.setLabels(std::move(result.labels), units);
+    return std::move(result.unplaced);
+  };
   const LabelWishes::Drawing drawing{m_geometry,  m_edges,      m_nodes,  m_symbols,          m_subnets,
                                      m_textBoxes, m_visibility, m_layers, m_values.flowSize()};
-  LabelWishes found(drawing, view.projection);
-  LabelPass pass(m_geometry, contents, view.projection.canvas(), m_settings.labelMargin);
-  for (const QRectF &area : view.legends)
-    pass.addObstacle(area);
-  for (const QRectF &area : found.areas)
-    pass.addObstacle(area);
-  for (const auto &[line, width] : found.lines)
-    pass.addLine(line, width);
-  const bool isSameScale = std::abs(units - m_labels.unitsPerPixel()) <= SameScale * units;
-  LabelPass::Result result = pass.run(std::move(found.wishes), isSameScale ? m_labels.labels() : std::vector<Label>());
-  m_labels.setLabels(std::move(result.labels), units);
-  m_unplaced = std::move(result.unplaced);
+  if (wanted == Wanted::Labels)
+    m_unplaced = run(LabelWishes(drawing, view.projection));
+  else
+    run(StationNames(drawing, view.projection));
 }
 
 void NetUpdate::clearLabels() {

@@ -90,13 +90,14 @@ void StationSymbols::draw(QPainter &painter, Index symbol, const QPointF &center
 
 namespace {
 
-constexpr double BadgeHeight = 11.0; // px
+constexpr double BadgeHeight = 10.0; // px
 
 void paintBadge(QPainter &painter, const QRectF &badge, const QString &text, const QFont &font) {
-  painter.setPen(QPen(Qt::white, 1.0));
-  painter.setBrush(QColor(31, 45, 61));
+  const QColor ink(70, 82, 94);
+  painter.setPen(QPen(ink, 0.75));
+  painter.setBrush(Qt::white);
   painter.drawRoundedRect(badge, BadgeHeight * 0.5, BadgeHeight * 0.5);
-  painter.setPen(Qt::white);
+  painter.setPen(ink);
   painter.setFont(font);
   painter.drawText(badge, Qt::AlignCenter, text);
 }
@@ -105,8 +106,8 @@ void paintBadge(QPainter &painter, const QRectF &badge, const QString &text, con
 
 void StationSymbols::drawCount(QPainter &painter, const QPointF &center, int count) {
   constexpr int LargestCount = 999;
-  constexpr int FontPixels = 9;
-  constexpr double Padding = 6.0;
+  constexpr int FontPixels = 8;
+  constexpr double Padding = 5.0;
   const int shown = std::min(count, LargestCount + 1);
   const QString text = count > LargestCount ? QString::number(LargestCount) + QLatin1Char('+') : QString::number(count);
   QFont font(QStringLiteral("Arial"));

@@ -18,7 +18,9 @@ public:
   void setEdges(const NetGeometry &geometry);
   /// One look an edge of the geometry, in its order.
   void setLooks(const std::vector<EdgeLook> &looks);
-  void setArrowSize(double pixels) { m_arrowSize = pixels; }   ///< 0 for none
+  void setArrowSize(double pixels) { m_arrowSize = pixels; } ///< 0 for none
+  /// Thin lines fade into it where lines crowd.
+  void setBackground(const QColor &color) { m_background = color; }
   void setSymbolSize(double pixels) { m_symbolSize = pixels; } ///< parallel stations keep so far apart
   void clear();
 
@@ -66,15 +68,26 @@ private:
 
   LaneWay way(const Record &record, const Projection &projection) const;
   void addLines(const Record &record, const Projection &projection, const QRectF &area, std::vector<VisibleLine> &lines,
-                std::vector<Arrow> &arrows) const;
-  void addArrows(const Record &record, const QLineF &line, const QRectF &area, std::vector<Arrow> &arrows) const;
-  /// Where lines crowd they are drawn narrower, so that one can still be told from the next.
-  double widthFactor(const std::vector<VisibleLine> &lines, const QRectF &canvas) const;
-  void drawArrows(QPainter &painter, const std::vector<Arrow> &arrows) const;
+                double arrowSize, std::vector<Arrow> &arrows) const;
+  void addArrows(const Record &record, const QLineF &line, const QRectF &area, double arrowSize,
+                 std::vector<Arrow> &arrows) const;
+  double arrowSizeIn(const Projection &projection) const;
+  /// The lines in drawing order: those of pen i from starts[i] to starts[i + 1]. Of lines too short to be seen, one of the
+  /// broadest stands for those in the same place.
+  std::vector<QLineF> inDrawingOrder(const std::vector<VisibleLine> &lines, const QRectF &canvas,
+                                     std::vector<std::size_t> &starts) const;
+  /// The part of the canvas, in pixels, in which the network lies.
+  QRectF coveredPart(const Projection &projection) const;
+  /// The pen as it is drawn where lines are so far apart, in pixels: where they crowd it is narrower, so that one can still
+  /// be told from the next, and the narrow ones are pale, so that the broad ones show how the network is built.
+  QPen penFor(const QPen &pen, double apart) const;
+  void drawArrows(QPainter &painter, const std::vector<Arrow> &arrows, double size) const;
 
   std::vector<Record> m_records; ///< in the order of the index
   SpatialIndex m_index;
   std::vector<QPen> m_pens; ///< in drawing order
+  QColor m_background = Qt::white;
+  double m_typicalLength = 0.0; ///< plot units
   double m_widest = 0.0;
   double m_arrowSize = 0.0;
   double m_symbolSize = 0.0;

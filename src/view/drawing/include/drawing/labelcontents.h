@@ -19,6 +19,7 @@ struct LabelStyle {
   QColor text = Qt::black;
   QColor background = Qt::transparent;
   QColor border = Qt::transparent;
+  QColor halo = Qt::transparent; ///< around the letters, in place of a background
 };
 
 /// What a label says.
@@ -40,6 +41,8 @@ public:
   bool isOff() const { return m_mode == Mode::None; }
   LabelText text(const element &source) const;
   LabelStyle style(const element &source, NetData::EleType kind) const;
+  /// Of names that stand in the drawing without a box, as those on a map.
+  LabelStyle nameStyle(NetData::EleType kind) const;
   /// The lines of a text box, without marks: what the table says, else its "text". Not a matter of the label mode.
   QStringList textOfBox(const element &box) const;
 

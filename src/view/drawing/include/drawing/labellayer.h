@@ -23,6 +23,7 @@ public:
 private:
   /// \param top middle of the upper edge of the text
   static void drawLines(QPainter &painter, const Label &label, QPointF top);
+  static void drawHalo(QPainter &painter, const Label &label, const QPointF &top);
   static void drawLabel(QPainter &painter, const Label &label, const QPointF &center);
 
   std::vector<Label> m_labels;

@@ -20,6 +20,7 @@ struct LabelCandidate {
   QLineF line;            ///< px; of a point both ends are its middle
   double clearance = 0.0; ///< px between the middle and what is drawn of it
   QSizeF size;            ///< px, of the label
+  bool isShy = false;     ///< rather none than one that covers a line
 
   QPointF anchor(double along) const { return isLine ? line.pointAt(along) : line.p1(); }
   TurnedBox box(const LabelSpot &spot) const { return {anchor(spot.along) + spot.offset, size, spot.angle}; }

@@ -21,11 +21,16 @@ public:
   bool isValid() const { return m_valid; }
   QPointF map(double x, double y) const { return {(x - m_x0) * m_xFactor + m_px0, (y - m_y0) * m_yFactor + m_py0}; }
   QLineF map(const QLineF &line) const { return {map(line.x1(), line.y1()), map(line.x2(), line.y2())}; }
+  QPointF unmap(const QPointF &pixel) const {
+    return {(pixel.x() - m_px0) / m_xFactor + m_x0, (pixel.y() - m_py0) / m_yFactor + m_y0};
+  }
   /// What the canvas shows, widened by a number of pixels, in plot coordinates.
   SpatialIndex::Box visible(double margin) const;
   /// The square of so many pixels to each side of a point of the canvas, in plot coordinates.
   SpatialIndex::Box around(const QPointF &point, double reach) const;
   const QRectF &canvas() const { return m_canvas; }
+  /// Pixels a plot unit, the mean of both directions.
+  double scale() const { return std::sqrt(std::abs(m_xFactor * m_yFactor)); }
 
   friend bool operator==(const Projection &a, const Projection &b) {
     return a.m_canvas == b.m_canvas && a.m_x0 == b.m_x0 && a.m_y0 == b.m_y0 && a.m_px0 == b.m_px0 && a.m_py0 == b.m_py0 &&
@@ -60,6 +65,11 @@ struct LaneWay {
 
 /// How far apart lines side by side run, in pixels: a symbol needs more room than a line.
 double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize);
+
+/// Where the drive of a compressor is drawn: beside the symbol in the middle of the compressor's line.
+/// \param line px, of the compressor; it must have a length
+/// \param lane of that edge
+QPointF besideLine(const QLineF &line, double lane, double symbolSize);
 
 /// Of a point from a line, both in pixels.
 double distanceToLine(const QPointF &point, const QLineF &line);

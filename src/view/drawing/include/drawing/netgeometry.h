@@ -22,7 +22,10 @@ public:
     const element *source = nullptr;
     double x = 0.0;
     double y = 0.0;
+    double flow = 0.0;      ///< that is set, supplies negative; NetData::NoValue where nothing is
+    Index driven = NoIndex; ///< of a drive upon the line of its compressor: that edge, beside which it is drawn
     NodeShape shape = NodeShape::Junction;
+    bool isIdle = false; ///< supplies or takes nothing, while others of the network do
     bool isDrive = false;
     bool isPlaced = false; ///< has valid coordinates
   };
@@ -81,6 +84,11 @@ public:
   /// Where most of it lies. Stragglers far away, such as nodes without coordinates that were put to the origin, would
   /// otherwise make a dot of the network.
   const QRectF &mainExtent() const { return m_mainExtent; }
+  /// The length of an edge like most others, in plot units: how much of the plane each element has for itself. 0 when
+  /// nothing has a length.
+  double typicalLength() const { return m_typicalLength; }
+  /// What the main body covers, in square plot units; in one line, a strip as broad as an edge is long.
+  double area() const;
   /// Plot units a unit of the network's coordinates.
   double plotUnits() const { return m_plotUnits; }
   /// From the network's own coordinates, which a person reads and writes, and back.
@@ -121,11 +129,14 @@ private:
   QRectF findMainExtent();
   void countUnplaced();
   void chooseUnits();
+  void findTypicalLength();
+  void markIdleNodes();
 
   Records m_records;
   QRectF m_extent;
   QRectF m_mainExtent;
   double m_plotUnits = 1.0;
+  double m_typicalLength = 0.0;
   bool m_hasExtent = false;
   int m_unplaced = 0;
 };

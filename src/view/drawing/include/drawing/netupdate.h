@@ -108,6 +108,8 @@ public:
   const NetGeometry &geometry() const { return m_geometry; }
   const DrawValues &values() const { return m_values; }
   const std::vector<Label> &labels() const { return m_labels.labels(); }
+  /// Names that stand in the drawing of stations while there are no labels.
+  const std::vector<Label> &names() const { return m_names.labels(); }
   /// Elements in view whose label found no place in the last pass.
   const std::vector<NetGeometry::Item> &unplacedLabels() const { return m_unplaced; }
 
@@ -129,6 +131,11 @@ private:
   void tellAll(const Findings &findings) const;
   void runPixtest(Pixtest::Labels labels);
   void placeLabels();
+  /// Names the stations of the view unless it has labels. True when the names may be others now.
+  bool placeNames();
+  bool areNamesWanted() const;
+  enum class Wanted { Labels, Names };
+  void place(Wanted wanted);
   ElementLooks looks() const;
   /// The size that the label table gives a type, px.
   double sizeOf(const QString &type, double otherwise) const;
@@ -159,6 +166,7 @@ private:
   SubnetLayer m_subnets;
   TextBoxLayer m_textBoxes;
   LabelLayer m_labels;
+  LabelLayer m_names;
   std::vector<NetGeometry::Item> m_unplaced;
   bool m_hasPlacedLabels = false; ///< for this view; those that stand may be none
   Pixtest m_pixtest;

@@ -8,8 +8,12 @@
 
 #include <qwt_plot_item.h>
 
-/// All nodes as one plot item: discs for junctions, triangles for supplies and demands, squares for held pressures.
-/// Where nodes crowd they shrink and thin out, stations last, so that the lines stay visible.
+#include <algorithm>
+#include <array>
+
+/// All nodes as one plot item: discs for junctions and for what neither supplies nor takes anything, triangles for supplies
+/// and demands, squares for held pressures. From afar they are dots that leave the picture to the lines, or nothing; they
+/// grow with the zoom.
 class NodeLayer : public QwtPlotItem {
 public:
   NodeLayer();
@@ -33,11 +37,14 @@ public:
   /// Calls visit(node, center, size) for every node on the canvas, with its middle and size in pixels.
   template <typename Visitor>
   void forEachVisible(const Projection &projection, const Visitor &visit) const {
+    const Sizes sizes = sizesIn(projection);
+    if (!isAnySeen(sizes))
+      return;
     m_index.query(projection.visible(0.0), [&](Index i) {
       const Record &record = m_records[i];
       const QPointF center = projection.map(record.x, record.y);
-      if (record.isDrawn() && projection.canvas().contains(center))
-        visit(record.node, center, sizeOf(record));
+      if (record.isDrawn() && isSeen(sizeOf(record, sizes)) && projection.canvas().contains(center))
+        visit(record.node, center, sizeOf(record, sizes));
     });
   }
 
@@ -54,14 +61,29 @@ private:
   };
   struct VisibleNode {
     QPointF center;
+    double size;
     const Record *record;
   };
+  static constexpr std::size_t Shapes = 4;
+  using Sizes = std::array<double, Shapes>; ///< of a shape in one view, of the size that the look of a node gives
 
-  static double sizeOf(const Record &record);
-  std::vector<VisibleNode> visibleNodes(const Projection &projection) const;
-  static void drawJunctions(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest, const QRectF &canvas);
-  static void drawStations(QPainter &painter, const std::vector<VisibleNode> &nodes, double largest, const QRectF &canvas);
+  Sizes sizesIn(const Projection &projection) const;
+  static double sizeOf(const Record &record, const Sizes &sizes) {
+    return record.look.size * sizes[static_cast<std::size_t>(record.shape)];
+  }
+  static bool isSeen(double size) { return size >= SmallestDot; }
+  static bool isAnySeen(const Sizes &sizes) {
+    return std::any_of(sizes.begin(), sizes.end(), [](double size) { return size > 0.0; });
+  }
+  std::vector<VisibleNode> visibleNodes(const Projection &projection, const Sizes &sizes) const;
+  static void drawDots(QPainter &painter, const std::vector<VisibleNode> &nodes, const QRectF &canvas);
+  static void drawStations(QPainter &painter, const std::vector<VisibleNode> &nodes, const QRectF &canvas);
+
+  static constexpr double SmallestDot = 1.2; ///< px: smaller ones would only make the lines look dirty
 
   std::vector<Record> m_records; ///< in the order of the index
   SpatialIndex m_index;
+  double m_typicalLength = 0.0;                ///< plot units, of an edge
+  std::array<double, Shapes> m_roomOfShapes{}; ///< plot units, how far apart the nodes of a shape stand
+  bool m_isSizedByValue = false;               ///< the sizes tell something
 };

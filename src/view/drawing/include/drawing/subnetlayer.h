@@ -48,16 +48,20 @@ private:
     Index symbol = NoIndex;
     QColor ring;
     QColor ground;
+    bool isRingKnown = false; ///< it tells something, as the following
+    bool isGroundKnown = false;
   };
 
   bool isHidden(Index subnet) const { return m_filter.hides({NetData::AssembledSubnet, subnet}); }
   double sizeOf(const Record &record, const Projection &projection) const;
+  void drawBox(QPainter &painter, const Record &record, const QRectF &box) const;
   void drawPins(QPainter &painter, const Record &record, const QRectF &box, const Projection &projection) const;
 
   mutable StationSymbols m_symbols; ///< a cache of pixmaps
   std::vector<Record> m_records;    ///< as in the geometry
   ElementFilter m_filter;
   double m_size = 32.0;
+  double m_typicalLength = 0.0; ///< plot units, of an edge
   int m_alpha = 100;
   double m_penWidth = 3.0;
   double m_groundMargin = 15.0; ///< px of ground around the box

@@ -6,6 +6,7 @@
 #include <drawing/netgeometry.h>
 #include <drawing/spatialindex.h>
 #include <drawing/stationsymbols.h>
+#include <drawing/symbolroom.h>
 #include <drawing/visibilityrules.h>
 
 #include <qwt_plot_item.h>
@@ -16,8 +17,9 @@
 #include <utility>
 #include <vector>
 
-/// The symbols of stations: edges other than pipes and drives, and the figures that elements bring themselves. Those that
-/// would overlap share one symbol, that of the most important, with their number.
+/// The symbols of stations: edges other than pipes and drives, and the figures that elements bring themselves. What
+/// SymbolRoom leaves no room for is not drawn. Those that would overlap share one symbol, that of the most important, with
+/// the number of those of its kind.
 class SymbolLayer : public QwtPlotItem {
 public:
   SymbolLayer();
@@ -54,9 +56,10 @@ public:
     NetGeometry::Item item;
     QPointF center; ///< px
     double size = 0.0;
-    QSizeF extent;      ///< px, what the symbol or the figure covers
-    double angle = 0.0; ///< degrees, clockwise
-    int others = 0;     ///< that stand behind it
+    QSizeF extent;         ///< px, what the symbol or the figure covers
+    double angle = 0.0;    ///< degrees, clockwise
+    int others = 0;        ///< of its type that stand behind it
+    double presence = 1.0; ///< what comes with the zoom is small and faint at first
     Index record = 0;
     bool isFigure = false;
 
@@ -66,6 +69,8 @@ public:
     QRectF obstacle() const;
     double reach() const { return std::max(extent.width(), extent.height()) * 0.5; }
   };
+  /// Those of its type that share the symbol of this number in laidOut().
+  std::vector<NetGeometry::Item> sharing(const Projection &projection, Index number) const;
   /// The symbols that are drawn, the more important first. Kept until the symbols, their visibility or the view change.
   const std::vector<Placed> &laidOut(const Projection &projection) const;
 
@@ -73,8 +78,10 @@ private:
   struct Record {
     double x = 0.0;
     double y = 0.0;
-    double dx = 0.0; ///< direction in plot units; none for what stands at a point
+    double dx = 0.0; ///< line in plot units, of a drive that of its compressor; none for what stands at a point
     double dy = 0.0;
+    char type = 0;
+    bool isBeside = false; ///< a drive, drawn beside the line
     NetGeometry::Item item;
     Index symbol = NoIndex; ///< of m_symbols
     Index figure = NoIndex; ///< of m_figures, in place of the symbol
@@ -92,8 +99,21 @@ private:
   };
 
   Layout layOut(const Projection &projection) const;
-  Placed placed(Index record, const QPointF &center, double size, const Projection &projection) const;
+  /// What there is room for, the more important first.
+  struct Candidate {
+    Index record;
+    QPointF center; ///< px
+    double presence;
+  };
+  std::vector<Candidate> candidates(const Projection &projection, double size) const;
+  double presenceOf(const Record &record, const QPointF &center, double size, const Projection &projection) const;
+  /// How far apart, in pixels, it stands from whatever is more important.
+  double distanceToOthers(const Record &record, const QPointF &center, double reach, const Projection &projection) const;
+  Placed placed(const Candidate &candidate, double size, const Projection &projection) const;
+  Record recordOf(const NetGeometry &geometry, Index drive);
   std::vector<Record> records(const NetGeometry &geometry);
+  /// From the compressors to the drives beside them.
+  void drawShafts(QPainter &painter, const Projection &projection, const std::vector<Placed> &placed) const;
   Index symbolOf(const NetGeometry::Edge &edge);
   QPointF centerOf(const Record &record, const Projection &projection) const;
 
@@ -104,5 +124,6 @@ private:
   std::function<std::vector<QRectF>(const Projection &)> m_covers;
   QHash<QString, double> m_sizes;
   double m_size = 20.0;
+  SymbolRoom m_room;
   mutable std::optional<Layout> m_layout; ///< of the view that was asked for last
 };
