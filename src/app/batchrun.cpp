@@ -8,7 +8,7 @@
 #include <base/wholefile.h>
 #include <drawing/drawfunctions.h>
 #include <drawing/labeltable.h>
-#include <tools/elementlist.h>
+#include <tools/elementquery.h>
 #include <view/netplot.h>
 #include <view/plotexport.h>
 
@@ -183,17 +183,17 @@ void BatchRun::answerLists(const BatchTask &task) {
 }
 
 bool BatchRun::answerList(const BatchTask::List &list, QString *reason) {
-  ElementList elements(m_net);
-  ElementList::Found found;
+  ElementQuery query(m_net);
+  ElementQuery::Found found;
   if (list.search) {
-    found = elements.search(list.search->params);
+    found = query.search(list.search->params);
     *reason = found.error;
     if (!reason->isEmpty())
       return false;
   }
   if (!list.properties.isEmpty()) {
-    const ElementList::Request request{list.properties, list.type, found.names, list.search.has_value()};
-    const auto table = elements.properties(request, reason);
+    const ElementQuery::Request request{list.properties, list.type, found.names, list.search.has_value()};
+    const auto table = query.properties(request, reason);
     return table && deliver(list.path, csv(*table), reason);
   }
   if (list.search && list.search->listsProperties)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <drawing/aspect.h>
-#include <tools/elementlist.h>
+#include <tools/elementquery.h>
 
 #include <QCoreApplication>
 #include <QRectF>
@@ -40,10 +40,10 @@ struct BatchTask {
 
   /// Elements that a search finds, or properties of elements.
   struct List {
-    std::optional<ElementList::Criteria> search; ///< restricts a table
-    QStringList properties;                      ///< of a table; empty for what the search finds
-    QString type;                                ///< of a table; empty for all
-    QString path;                                ///< empty for the standard output
+    std::optional<ElementQuery::Criteria> search; ///< restricts a table
+    QStringList properties;                       ///< of a table; empty for what the search finds
+    QString type;                                 ///< of a table; empty for all
+    QString path;                                 ///< empty for the standard output
   };
 
   struct Output {

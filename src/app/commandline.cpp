@@ -3,7 +3,7 @@
 #include "aboutbox.h"
 #include "toolkitoptions.h"
 
-#include <tools/elementlist.h>
+#include <tools/elementquery.h>
 
 #include <QCommandLineParser>
 #include <QVector>
@@ -142,7 +142,7 @@ public:
       return tr("--table needs the name of a property.");
     QString reason;
     if (parser.isSet(search))
-      list.search = ElementList::criteria(parser.values(search), &reason);
+      list.search = ElementQuery::criteria(parser.values(search), &reason);
     task.lists.push_back(list);
     return reason;
   }

@@ -21,8 +21,8 @@ public:
   Action action = Action::Window;
   QString file;
   bool isClean = false; ///< how the file was left does not come back, nor is it kept now
-  QString style;       ///< of the toolkit, where one was asked for
-  QStringList toolkit; ///< the program name and the options of the toolkit
+  QString style;        ///< of the toolkit, where one was asked for
+  QStringList toolkit;  ///< the program name and the options of the toolkit
   BatchTask task;
   QString jobs;   ///< file
   QString output; ///< folder for what the jobs write; empty for that which the file names

@@ -130,7 +130,7 @@ BatchTask::List listOf(const QJsonValue &value, const QString &where, bool isTab
   list.path = members.neededText("output");
   QString reason;
   if (members.has("search") || !isTable) {
-    list.search = ElementList::criteria(members.has("search") ? members.texts("search") : QStringList(), &reason);
+    list.search = ElementQuery::criteria(members.has("search") ? members.texts("search") : QStringList(), &reason);
     members.check("search", reason);
   }
   if (isTable) {

@@ -1,9 +1,9 @@
 #include "canvas/canvaslegend.h"
 #include "canvas/qwtfastplot.h"
 #include "configure/plotsettingsfile.h"
+#include "export/networkpaper.h"
 #include "interaction/measuretool.h"
 #include "interaction/mousemodes.h"
-#include "export/networkpaper.h"
 #include "interaction/plotmenu.h"
 #include "interaction/plotzoom.h"
 

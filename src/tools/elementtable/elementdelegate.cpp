@@ -2,13 +2,15 @@
 
 #include "elementtable/elementtablemodel.h"
 
+#include <model/displayformat.h>
+
 #include <QApplication>
 #include <QPainter>
 
 void ElementDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const {
   QStyledItemDelegate::initStyleOption(option, index);
   if (index.data(ElementTableModel::NumbersRole).toBool())
-    option->text = forTheEye(option->text);
+    option->text = DisplayFormat::shown(option->text, index.data(ElementTableModel::QuantityRole).toBool());
   if (index.data(ElementTableModel::MarkedRole).toBool())
     option->state |= QStyle::State_Selected;
   const int line = index.data(ElementTableModel::LineRole).toInt();

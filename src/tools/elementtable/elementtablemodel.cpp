@@ -331,6 +331,8 @@ QVariant ElementTableModel::data(const QModelIndex &index, int role) const {
     return int(shown.what);
   case NumbersRole:
     return column(index.column()).hasNumbers();
+  case QuantityRole:
+    return !column(index.column()).unit().isEmpty();
   default:
     return QVariant();
   }

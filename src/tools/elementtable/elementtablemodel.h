@@ -31,7 +31,8 @@ public:
     MarkedRole,                 ///< whether the element is selected in the drawing
     ValueRole,                  ///< a number with all of its digits, or a text
     LineRole,                   ///< RowArrangement::Line::What
-    NumbersRole                 ///< whether the cell is one of numbers
+    NumbersRole,                ///< whether the cell is one of numbers
+    QuantityRole                ///< whether its property has a unit
   };
   enum class Grouping { None, All, Property };
 

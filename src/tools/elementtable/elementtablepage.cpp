@@ -161,7 +161,7 @@ void ElementTablePage::makeBar() {
   }
   m_onlySelected->setToolTip(tr("Lists what was selected in the drawing last"));
   m_groupMenu = new QToolButton;
-  m_groupMenu->setText(tr("&Groups"));
+  m_groupMenu->setText(tr("Grou&ps"));
   m_groupMenu->setPopupMode(QToolButton::InstantPopup);
   m_groupMenu->setToolTip(tr("Which figures of the groups are shown; all groups opened or closed"));
   m_groupMenu->setMenu(new QMenu(m_groupMenu));

@@ -13,7 +13,7 @@ namespace {
 
 /// As people write it, with either decimal sign.
 bool isNumber(QString text, double &number) {
-  text = text.trimmed();
+  text = DisplayFormat::typed(text.trimmed());
   if (!text.contains(QLatin1Char('.')))
     text.replace(QLatin1Char(','), QLatin1Char('.'));
   bool isOne = false;
@@ -23,7 +23,7 @@ bool isNumber(QString text, double &number) {
 
 /// A person types what is seen, which is rounded.
 bool readsAs(double number, double typed) {
-  return number == typed || QString::number(number, 'g', DisplayFormat::Digits).toDouble() == typed;
+  return number == typed || DisplayFormat::typed(DisplayFormat::number(number)).toDouble() == typed;
 }
 
 } // namespace

@@ -138,8 +138,8 @@ void paintScale(QPainter &painter, const Scale &scale, double top) {
 
 } // namespace
 
-LegendBlock LegendParts::colors(const QString &title, std::shared_ptr<const QwtColorMap> map,
-                                const DrawValues::Column &values) {
+PaperLegendPart LegendParts::colors(const QString &title, std::shared_ptr<const QwtColorMap> map,
+                                    const DrawValues::Column &values) {
   constexpr double TicksHeight = 19.0;
   const bool isTurned = values.function.toDisplay.factor < 0.0L;
   const bool isBelow = values.data.minValue() < values.range.minValue();
@@ -153,7 +153,7 @@ LegendBlock LegendParts::colors(const QString &title, std::shared_ptr<const QwtC
           }};
 }
 
-LegendBlock LegendParts::rows(const QString &title, std::vector<Row> rows, double signWidth) {
+PaperLegendPart LegendParts::rows(const QString &title, std::vector<Row> rows, double signWidth) {
   const double top = headingHeight(title);
   const double height = top + LineHeight * static_cast<double>(rows.size());
   return {height, [title, rows = std::move(rows), signWidth, top](QPainter &painter) {

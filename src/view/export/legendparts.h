@@ -11,7 +11,7 @@ namespace LegendParts {
 constexpr double LineHeight = 16.0;
 
 /// What a scale says: its colours over the range of the values, in the display unit, with round numbers below.
-LegendBlock colors(const QString &title, std::shared_ptr<const QwtColorMap> map, const DrawValues::Column &values);
+PaperLegendPart colors(const QString &title, std::shared_ptr<const QwtColorMap> map, const DrawValues::Column &values);
 
 /// A sign and what it means.
 struct Row {
@@ -19,6 +19,6 @@ struct Row {
   QString text;
 };
 /// \param signWidth the room for the signs
-LegendBlock rows(const QString &title, std::vector<Row> rows, double signWidth);
+PaperLegendPart rows(const QString &title, std::vector<Row> rows, double signWidth);
 
 } // namespace LegendParts

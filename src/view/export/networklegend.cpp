@@ -79,15 +79,15 @@ NetworkLegend::NetworkLegend(const PageDrawing &drawing)
   m_symbols.setTable(table);
 }
 
-std::vector<LegendBlock> NetworkLegend::blocks() {
-  std::vector<LegendBlock> blocks;
+std::vector<PaperLegendPart> NetworkLegend::blocks() {
+  std::vector<PaperLegendPart> blocks;
   addColors(blocks);
   addSizes(blocks);
   addSymbols(blocks);
   return blocks;
 }
 
-void NetworkLegend::addColors(std::vector<LegendBlock> &blocks) const {
+void NetworkLegend::addColors(std::vector<PaperLegendPart> &blocks) const {
   const PlotSettings &settings = m_drawing.settings();
   const DrawValues &values = m_drawing.update().values();
   const ColorScale::Subject subject = m_drawing.update().coloured();
@@ -114,7 +114,7 @@ void NetworkLegend::addColors(std::vector<LegendBlock> &blocks) const {
     blocks.push_back(LegendParts::rows(tr("Other edges"), std::move(rows), SignWidth));
 }
 
-void NetworkLegend::addSizes(std::vector<LegendBlock> &blocks) const {
+void NetworkLegend::addSizes(std::vector<PaperLegendPart> &blocks) const {
   const NetUpdate &update = m_drawing.update();
   const ElementLooks looks(update.geometry(), update.values(), m_drawing.settings(), update.layers(),
                            m_drawing.settings().nodeMag);
@@ -167,7 +167,7 @@ std::set<Shape> NetworkLegend::visibleShapes() const {
   return shapes;
 }
 
-void NetworkLegend::addSymbols(std::vector<LegendBlock> &blocks) {
+void NetworkLegend::addSymbols(std::vector<PaperLegendPart> &blocks) {
   std::vector<LegendParts::Row> rows;
   for (const Shape shape : visibleShapes()) {
     NodeLook look;

@@ -14,12 +14,12 @@ public:
   explicit NetworkLegend(const PageDrawing &drawing);
 
   /// For the present view of the drawing, which must outlive them, as must this.
-  std::vector<LegendBlock> blocks();
+  std::vector<PaperLegendPart> blocks();
 
 private:
-  void addColors(std::vector<LegendBlock> &blocks) const;
-  void addSizes(std::vector<LegendBlock> &blocks) const;
-  void addSymbols(std::vector<LegendBlock> &blocks);
+  void addColors(std::vector<PaperLegendPart> &blocks) const;
+  void addSizes(std::vector<PaperLegendPart> &blocks) const;
+  void addSymbols(std::vector<PaperLegendPart> &blocks);
   std::set<QString> visibleTypes() const;
   std::set<NetGeometry::NodeShape> visibleShapes() const;
 

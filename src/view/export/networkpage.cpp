@@ -26,18 +26,18 @@ void NetworkPage::layOut(const QSizeF &frame, const PageSetup &setup, Detail det
     m_drawing.clearLabels();
 }
 
-std::vector<LegendBlock> NetworkPage::legend() const {
+std::vector<PaperLegendPart> NetworkPage::legend() const {
   return m_legend.blocks();
 }
 
-std::optional<MapScale> NetworkPage::scale() const {
+std::optional<PaperScale> NetworkPage::scale() const {
   const NetGeometry &geometry = m_drawing.update().geometry();
   if (!geometry.hasExtent() || m_frame.isEmpty())
     return std::nullopt;
   const QRectF seen = geometry.toOwn(m_drawing.visible());
   const bool isMetres = m_reference.kind() != GeoReference::Kind::Unknown;
   const double unit = isMetres ? m_reference.metresPerUnit(seen.center().y()) : 1.0;
-  return MapScale{seen.width() / m_frame.width() * unit, isMetres, m_reference.north()};
+  return PaperScale{seen.width() / m_frame.width() * unit, isMetres, m_reference.north()};
 }
 
 void NetworkPage::paint(QPainter &painter) const {

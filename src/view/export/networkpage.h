@@ -19,8 +19,8 @@ public:
   PageText text() const override;
   bool isMap() const override { return true; }
   void layOut(const QSizeF &frame, const PageSetup &setup, Detail detail) override;
-  std::vector<LegendBlock> legend() const override;
-  std::optional<MapScale> scale() const override;
+  std::vector<PaperLegendPart> legend() const override;
+  std::optional<PaperScale> scale() const override;
   void paint(QPainter &painter) const override;
 
 private:

@@ -47,7 +47,7 @@ NetUpdate::View PageDrawing::view() const {
   return {m_visible,
           {m_visible.width() / m_frame.width(), m_visible.height() / m_frame.height()},
           Projection(m_xMap, m_yMap, canvas),
-          QRectF(),
+          {},
           m_visible.size(),
           false};
 }

@@ -103,7 +103,7 @@ void PagePainter::placeLegend(QRectF &room) {
       size = flow(room.height() / m_legendScale);
     } else { // as low as it gets with the columns for which there is room
       double tallest = 0.0;
-      for (const LegendBlock &block : m_blocks)
+      for (const PaperLegendPart &block : m_blocks)
         tallest = std::max(tallest, block.height);
       for (size = flow(tallest); size.width() * m_legendScale > room.width() && tallest < 1e4; size = flow(tallest))
         tallest += BlockGap;
@@ -179,7 +179,7 @@ void PagePainter::paintFoot(QPainter &painter) const {
   constexpr double MostWidth = 220.0;
   const QRectF &foot = m_layout.foot;
   QRectF rest = foot;
-  const std::optional<MapScale> scale = m_setup.hasScaleBar ? m_content.scale() : std::nullopt;
+  const std::optional<PaperScale> scale = m_setup.hasScaleBar ? m_content.scale() : std::nullopt;
   if (scale) {
     const ScaleBar bar = ScaleBar::of(*scale, std::min(foot.width() * MostShare, MostWidth));
     bar.paint(painter, {foot.left() + 1.0, foot.top() + (NorthArrow::Size - ScaleBar::Height) * 0.5});

@@ -42,7 +42,7 @@ private:
   const PageSetup m_setup;
   const PageText m_text;
   Layout m_layout;
-  std::vector<LegendBlock> m_blocks;
+  std::vector<PaperLegendPart> m_blocks;
   std::vector<LegendPlace> m_places;
   double m_legendScale = 1.0;
 };

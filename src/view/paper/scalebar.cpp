@@ -14,7 +14,7 @@ constexpr double Ascent = 14.0; // of the numbers above the bar
 
 } // namespace
 
-ScaleBar ScaleBar::of(const MapScale &scale, double mostWidth) {
+ScaleBar ScaleBar::of(const PaperScale &scale, double mostWidth) {
   ScaleBar bar;
   const double most = scale.lengthOfUnit * mostWidth;
   if (!(most > 0.0) || !std::isfinite(most))

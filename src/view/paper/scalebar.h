@@ -9,7 +9,7 @@ public:
   static constexpr double Height = 24.0; ///< with its numbers
 
   /// The longest round one (1, 2 or 5 times a power of ten) that is at most so many units wide.
-  static ScaleBar of(const MapScale &scale, double mostWidth);
+  static ScaleBar of(const PaperScale &scale, double mostWidth);
 
   double length = 0.0; ///< in metres or units of the drawing
   double width = 0.0;  ///< on the page

@@ -22,10 +22,10 @@ std::optional<QLineF> ElementMarks::lineOf(NetGeometry::Item item) const {
     return std::nullopt;
   if (item.kind != NetData::Edge) {
     const Index driven = item.kind == NetData::Node ? geometry.nodes()[item.index].driven : NoIndex;
-    const QPointF middle = driven == NoIndex ? m_projection.map(center->x(), center->y())
-                                             : besideLine(m_projection.map(geometry.line(geometry.edges()[driven])),
-                                                          static_cast<double>(geometry.edges()[driven].lane),
-                                                          m_drawing.symbolSize);
+    const QPointF middle = driven == NoIndex
+                               ? m_projection.map(center->x(), center->y())
+                               : besideLine(m_projection.map(geometry.line(geometry.edges()[driven])),
+                                            static_cast<double>(geometry.edges()[driven].lane), m_drawing.symbolSize);
     return QLineF(middle, middle);
   }
   const NetGeometry::Edge &edge = geometry.edges()[item.index];

@@ -178,7 +178,8 @@ void NodeLayer::drawStations(QPainter &painter, const std::vector<VisibleNode> &
 }
 
 void NodeLayer::drawKey(QPainter &painter, NetGeometry::NodeShape shape, const QPointF &center, double size) {
-  painter.setPen(QPen(QColor(Outline), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.setBrush(QColor(Qt::lightGray));
+  const QColor color(Qt::lightGray);
+  painter.setPen(QPen(color.darker(DarkerPercent), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(color);
   painter.drawPolygon(shapeAround(center, shape, size));
 }

@@ -102,7 +102,7 @@ void LegendContents::addSymbols(const NetGeometry &geometry) {
   for (const NetGeometry::Node &node : geometry.nodes()) {
     if (node.isDrive)
       types.set('d');
-    else
+    else if (!node.isIdle)
       shapes.set(static_cast<std::size_t>(node.shape));
   }
   for (const auto &[shape, title] :

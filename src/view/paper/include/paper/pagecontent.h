@@ -37,13 +37,13 @@ struct PageText {
 };
 
 /// A part of the legend, so many units high and PageContent::LegendWidth wide.
-struct LegendBlock {
+struct PaperLegendPart {
   double height = 0.0;
   std::function<void(QPainter &painter)> paint; ///< with the origin at its upper left corner
 };
 
 /// What the lengths of a drawing mean.
-struct MapScale {
+struct PaperScale {
   double lengthOfUnit = 0.0;     ///< what one unit of the page shows: in metres, or in units of the drawing
   bool isMetres = false;         ///< otherwise nothing is known but the drawing's own units
   std::optional<double> north{}; ///< its direction, degrees clockwise from upwards; nothing where it is not known
@@ -70,8 +70,8 @@ public:
   };
   /// Makes ready the drawing for a frame of this size; the rest is asked for afterwards.
   virtual void layOut(const QSizeF &frame, const PageSetup &setup, Detail detail) = 0;
-  virtual std::vector<LegendBlock> legend() const { return {}; }
-  virtual std::optional<MapScale> scale() const { return std::nullopt; }
+  virtual std::vector<PaperLegendPart> legend() const { return {}; }
+  virtual std::optional<PaperScale> scale() const { return std::nullopt; }
   /// With the origin at the upper left corner of the frame. It may paint a little beyond the frame.
   virtual void paint(QPainter &painter) const = 0;
 };

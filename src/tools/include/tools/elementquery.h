@@ -12,8 +12,8 @@
 
 /// Lists of elements for files and pipes, without a window: what a search finds, and properties beside one another.
 /// Elements stand in the order in which people count (P_2 before P_10).
-class ElementList {
-  Q_DECLARE_TR_FUNCTIONS(ElementList)
+class ElementQuery {
+  Q_DECLARE_TR_FUNCTIONS(ElementQuery)
 public:
   struct Request {
     QStringList properties; ///< a column each; at least one
@@ -33,7 +33,7 @@ public:
     bool listsProperties = false; ///< rather than the names of the elements alone
   };
 
-  explicit ElementList(NetData &net)
+  explicit ElementQuery(NetData &net)
       : m_net(net) {}
 
   Found search(const SearchParams &params);

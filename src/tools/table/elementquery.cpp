@@ -4,7 +4,7 @@
 
 #include <model/elementtypes.h>
 #include <model/names.h>
-#include <tools/elementlist.h>
+#include <tools/elementquery.h>
 
 #include <QRegularExpression>
 #include <QSet>
@@ -74,7 +74,7 @@ VectorRows::Exported tabulated(const std::vector<Column> &columns, const std::ve
 
 } // namespace
 
-ElementList::Found ElementList::search(const SearchParams &params) {
+ElementQuery::Found ElementQuery::search(const SearchParams &params) {
   NetworkSearch::Result result = NetworkSearch(m_net, params).run();
   Found found;
   if (result.isStopped) {
@@ -95,7 +95,7 @@ ElementList::Found ElementList::search(const SearchParams &params) {
   return found;
 }
 
-std::optional<VectorRows::Exported> ElementList::properties(const Request &request, QString *reason) {
+std::optional<VectorRows::Exported> ElementQuery::properties(const Request &request, QString *reason) {
   std::vector<Column> columns;
   for (const QString &name : request.properties)
     columns.push_back({PropertyKey::find(name), name});
@@ -130,7 +130,7 @@ std::optional<VectorRows::Exported> ElementList::properties(const Request &reque
   return tabulated(columns, lines);
 }
 
-std::optional<ElementList::Criteria> ElementList::criteria(const QStringList &texts, QString *reason) {
+std::optional<ElementQuery::Criteria> ElementQuery::criteria(const QStringList &texts, QString *reason) {
   static const QRegularExpression criterion(QStringLiteral("^([a-z]+)=(.*)$"),
                                             QRegularExpression::DotMatchesEverythingOption);
   Criteria criteria;
