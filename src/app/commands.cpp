@@ -75,11 +75,8 @@ QMenu *Commands::addMenu(const QString &title) {
 }
 
 void Commands::fillFileMenu() {
-  QAction *exit = m_form.file->actions().constLast();
   const PlotActions &actions = m_control.actions();
-  m_form.file->insertSeparator(exit);
-  m_form.file->insertActions(exit, {actions[Act::SavePicture], actions[Act::SavePictureWithWidth]});
-  m_form.file->insertSeparator(exit);
+  m_form.file->insertActions(m_form.savePage, {actions[Act::SavePicture], actions[Act::SavePictureWithWidth]});
 }
 
 void Commands::addEditMenu() {

@@ -18,9 +18,10 @@ public:
   /// Where the window keeps what stands in its form.
   struct Form {
     QMenuBar *bar;
-    QMenu *file; ///< its last entry ends the program
+    QMenu *file;
     QMenu *info; ///< the new menus stand before it
     QAction *open;
+    QAction *savePage; ///< in the menu file; what saves pictures stands before it
   };
 
   Commands(QMainWindow &window, NetVisControl &control, const Form &form);

@@ -136,14 +136,15 @@ NivraViewer::~NivraViewer() = default;
 
 void NivraViewer::setUpFileMenu() {
   auto *recent = new RecentMenu(m_memory->recent(), m_ui->menuFile);
-  m_ui->menuFile->insertMenu(m_ui->actionSettings, recent);
+  QAction *behindOpen = m_ui->menuFile->actions().at(1);
+  m_ui->menuFile->insertMenu(behindOpen, recent);
   connect(recent, &RecentMenu::fileWanted, this, &NivraViewer::open);
   connect(m_ui->label, &StartPage::openWanted, this, &NivraViewer::on_actionOpen_triggered);
   connect(m_ui->label, &StartPage::fileWanted, this, &NivraViewer::open);
   m_reload->setShortcut(Qt::Key_F5);
   m_reload->setToolTip(tr("Read the files of the case again (F5)"));
   m_reload->setEnabled(false);
-  m_ui->menuFile->insertAction(m_ui->actionSettings, m_reload);
+  m_ui->menuFile->insertAction(behindOpen, m_reload);
   connect(m_reload, &QAction::triggered, this, &NivraViewer::reload);
 }
 
@@ -169,7 +170,8 @@ void NivraViewer::setUpForm() {
 
 void NivraViewer::setUpCommands() {
   const WithoutPlugins own;
-  m_commands = new Commands(*this, *m_control, {m_ui->menubar, m_ui->menuFile, m_ui->menuInfo, m_ui->actionOpen});
+  m_commands = new Commands(*this, *m_control,
+                            {m_ui->menubar, m_ui->menuFile, m_ui->menuInfo, m_ui->actionOpen, m_ui->actionSavePage});
   connect(m_commands, &Commands::elementWanted, this, [this](const QString &name) {
     elementAction(name, NetPicker::EleAction::Mark);
     if (m_control->showElement(name))

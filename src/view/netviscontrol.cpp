@@ -214,7 +214,7 @@ NetworkPaper NetVisControl::paper() {
   const NetUpdate &update = m_plot->update();
   return {*m_plot,
           {&m_net, m_plot->settings(), update.labelTable(), m_folder, m_subnetIcons, update.layers(), update.displayMode(),
-           m_plot->selection().items(), m_plot->visibleArea()},
+           m_plot->selection().items(), m_plot->showsAll() ? QRectF() : m_plot->visibleArea()},
           m_pageFacts,
           m_scenarios};
 }

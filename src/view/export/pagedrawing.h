@@ -15,7 +15,7 @@ struct DrawingSource {
   LayerFilter layers;
   NetUpdate::DisplayMode mode = NetUpdate::DisplayMode::Functions;
   std::vector<NetGeometry::Item> selection;
-  QRectF area; ///< that the window shows, in the network's coordinates
+  QRectF area; ///< that the window shows, in the network's coordinates; empty when it shows all
 };
 
 /// The drawing of a network for paper, beside that of the screen, which does not change by it: with its own labels and view,
