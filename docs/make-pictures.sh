@@ -29,7 +29,7 @@ window() { # FILE PICTURE [COMMANDS with $id]
 }
 
 window example/DE_H2/S5/S5.scen.jsn "$images/example-window.png"
-window example/DE_H2/S5/S5.scen.jsn "$images/page.png" 'xdotool key --clearmodifiers ctrl+shift+s; sleep 3'
+window example/DE_H2/S5/S5.scen.jsn "$images/page.png" 'xdotool key --clearmodifiers ctrl+alt+p; sleep 3'
 "$program" --export "$images/example.png" --width 1200 example/DE_H2/S5/S5.scen.jsn
 for n in 11 40 135; do
   file=../shared/data/GasLib-$n/N1/N1.scen.jsn
