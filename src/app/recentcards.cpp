@@ -58,7 +58,7 @@ void RecentCards::paint(QPainter *painter, const QStyleOptionViewItem &option, c
   painter->setOpacity(1.0);
 
   int top = picture.bottom() + Padding;
-  const auto line = [&](const QFont &font, const QString &text, QColor color, Qt::TextElideMode elide) {
+  const auto line = [&](const QFont &font, const QString &text, const QColor &color, Qt::TextElideMode elide) {
     const QFontMetrics metrics(font);
     const QRect area(picture.left(), top, picture.width(), metrics.lineSpacing());
     painter->setFont(font);

@@ -11,7 +11,7 @@ namespace {
 
 /// The name of the first, and how many more there are.
 QString listed(const QStringList &paths) {
-  const QString first = QFileInfo(paths.first()).fileName();
+  QString first = QFileInfo(paths.first()).fileName();
   if (paths.size() == 1)
     return first;
   return paths.size() == 2 ? ReloadBar::tr("%1 and 1 more").arg(first)
