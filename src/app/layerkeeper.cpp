@@ -2,7 +2,6 @@
 
 #include "session.h"
 
-#include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <io/nivraworkspace.h>
 

@@ -3,12 +3,8 @@
 #include "recentfiles.h"
 #include "thumbnails.h"
 
-#include <base/index.h>
-
 #include <QFileInfo>
 #include <QProxyStyle>
-
-#include <algorithm>
 
 namespace {
 

@@ -52,9 +52,9 @@ void StartPage::arrange() {
   if (m_clear != nullptr)
     buttons->addWidget(m_clear);
   buttons->addStretch();
-  if (m_list != nullptr) {
-    m_list->setVisible(hasFiles);
-    m_clear->setVisible(hasFiles);
+  for (QWidget *ofList : {static_cast<QWidget *>(m_list), static_cast<QWidget *>(m_clear)}) {
+    if (ofList != nullptr)
+      ofList->setVisible(hasFiles);
   }
   if (hasFiles) {
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);

@@ -3,8 +3,6 @@
 #include <QEvent>
 #include <QFileInfo>
 
-#include <algorithm>
-
 WorkspaceWatcher::WorkspaceWatcher(QObject &window)
     : QObject(&window) {
   window.installEventFilter(this);

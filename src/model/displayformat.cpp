@@ -213,7 +213,7 @@ QChar decimalSign() {
 QString typed(const QString &text, QChar sign) {
   static const QRegularExpression ofPoints(QStringLiteral("^[-+]?\\d{1,3}(?:\\.\\d{3})+(?:,\\d*)?$"));
   static const QRegularExpression ofCommas(QStringLiteral("^[-+]?\\d{1,3}(?:,\\d{3})+(?:\\.\\d*)?$"));
-  const QString trimmed = text.trimmed();
+  QString trimmed = text.trimmed();
   if (isNumber(trimmed))
     return trimmed;
   QString number = trimmed;

@@ -5,7 +5,7 @@
 
 const std::vector<Quantities::Quantity> &Quantities::all() {
   static const std::vector<Quantity> known = [] {
-    constexpr QLatin1String KeyBegin("unit: ");
+    const QLatin1String KeyBegin("unit: ");
     std::vector<Quantity> found;
     for (const SettingsTable::Row &row : SettingsTable::Rows) {
       const QString key = QString::fromLatin1(row.key);

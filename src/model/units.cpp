@@ -168,7 +168,7 @@ QString Units::written(QString unit) {
   static const QHash<QString, QString> names{{QStringLiteral("barg"), QStringLiteral("bar (gauge)")},
                                              {QStringLiteral("psig"), QStringLiteral("psi (gauge)")},
                                              {QStringLiteral("um"), QStringLiteral("µm")}};
-  if (const QString name = names.value(unit); !name.isEmpty())
+  if (QString name = names.value(unit); !name.isEmpty())
     return name;
   return unit.replace(QStringLiteral("degC"), QStringLiteral("°C"))
       .replace(QStringLiteral("degF"), QStringLiteral("°F"))
@@ -178,7 +178,7 @@ QString Units::written(QString unit) {
       .replace(QStringLiteral("m2"), QStringLiteral("m²"));
 }
 
-QString Units::fromTyped(QString unit) {
+QString Units::fromTyped(const QString &unit) {
   return unit.trimmed()
       .replace(QStringLiteral("°C"), QStringLiteral("degC"))
       .replace(QStringLiteral("°F"), QStringLiteral("degF"))

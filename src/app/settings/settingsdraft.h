@@ -8,7 +8,6 @@
 #include <QStringList>
 
 #include <map>
-#include <optional>
 
 /// The general settings while somebody edits them: the user's own values change, those of the workspace lie over them and
 /// stay. Nothing is written before save().

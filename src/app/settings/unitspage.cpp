@@ -16,8 +16,6 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace {
 
 struct Sample {

@@ -2,6 +2,8 @@
 
 #include "shownnumber.h"
 
+#include <model/displayunits.h>
+
 #include <QHash>
 
 #include <algorithm>

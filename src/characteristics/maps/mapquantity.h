@@ -1,6 +1,8 @@
 #pragma once
 
-#include <model/displayunits.h>
+#include <model/units.h>
+
+#include <QString>
 
 #include <vector>
 

@@ -8,6 +8,7 @@
 #include <QPainter>
 
 void ElementDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const {
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): here each column is a property, not each row
   QStyledItemDelegate::initStyleOption(option, index);
   if (index.data(ElementTableModel::NumbersRole).toBool())
     option->text = DisplayFormat::shown(option->text, index.data(ElementTableModel::QuantityRole).toBool());

@@ -10,7 +10,7 @@ ElementTable::ElementTable(NetData &net, QWidget *parent)
     : QDockWidget(tr("Table of Elements"), parent)
     , m_net(net)
     , m_open(new QAction(windowTitle(), this)) {
-  const QKeySequence key(Qt::CTRL | Qt::Key_T);
+  const QKeySequence key(Qt::CTRL + Qt::Key_T);
   m_open->setShortcut(key);
   m_open->setToolTip(tr("Elements with their properties, one a row (%1)").arg(key.toString(QKeySequence::NativeText)));
   connect(m_open, &QAction::triggered, this, &ElementTable::open);

@@ -9,7 +9,6 @@
 
 #include <QAbstractTableModel>
 
-#include <map>
 #include <memory>
 #include <optional>
 

@@ -132,9 +132,9 @@ void ElementTablePage::keyPressEvent(QKeyEvent *event) {
 
 void ElementTablePage::makeActions() {
   addAction(tr("&Copy"), QKeySequence::Copy, &ElementTablePage::copyRows);
-  addAction(tr("Copy with &header"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &ElementTablePage::copyWithHeader);
-  addAction(tr("Copy this c&ell"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_C), &ElementTablePage::copyCell);
-  addAction(tr("&Filter this column"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L), &ElementTablePage::enterFilter);
+  addAction(tr("Copy with &header"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C), &ElementTablePage::copyWithHeader);
+  addAction(tr("Copy this c&ell"), QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_C), &ElementTablePage::copyCell);
+  addAction(tr("&Filter this column"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_L), &ElementTablePage::enterFilter);
   addAction(tr("Show &all rows"), QKeySequence(), &ElementTablePage::endFilters);
   m_view->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(m_view, &QWidget::customContextMenuRequested, this, [this](const QPoint &position) {
@@ -168,12 +168,12 @@ void ElementTablePage::makeBar() {
   makeGroupMenu(*m_groupMenu->menu());
   m_bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
   m_bar->addWidget(m_types);
-  m_bar->addAction(addAction(tr("Co&lumns …"), QKeySequence(Qt::CTRL | Qt::Key_K), &ElementTablePage::chooseColumns));
+  m_bar->addAction(addAction(tr("Co&lumns …"), QKeySequence(Qt::CTRL + Qt::Key_K), &ElementTablePage::chooseColumns));
   m_bar->addWidget(m_groups);
   m_bar->addWidget(m_groupMenu);
   m_bar->addWidget(m_onlySelected);
   m_bar->addAction(
-      addAction(tr("Sa&ve table …"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &ElementTablePage::saveAs));
+      addAction(tr("Sa&ve table …"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_S), &ElementTablePage::saveAs));
   connect(m_types, QOverload<int>::of(&QComboBox::activated), this, [this] {
     keepChoices();
     showType();

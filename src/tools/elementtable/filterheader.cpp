@@ -1,6 +1,5 @@
 #include "elementtable/filterheader.h"
 
-#include <base/index.h>
 #include <tools/plaintip.h>
 
 #include <QAction>

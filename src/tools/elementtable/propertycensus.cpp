@@ -74,6 +74,7 @@ std::vector<PropertyCensus::Property> PropertyCensus::properties(const QStringLi
     }
   }
   std::vector<Property> properties;
+  properties.reserve(counts.size());
   for (const auto &[key, count] : counts)
     properties.push_back({key, count});
   return properties;

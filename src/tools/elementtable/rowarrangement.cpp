@@ -27,6 +27,7 @@ void RowArrangement::filter(const std::vector<Asked> &filters, const std::vector
   m_passing.clear();
   m_passing.reserve(m_order.size());
   std::vector<const std::vector<double> *> numbers;
+  numbers.reserve(filters.size());
   for (const Asked &asked : filters)
     numbers.push_back(&asked.column->numbers());
   for (const Index row : m_order) {

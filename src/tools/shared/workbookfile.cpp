@@ -156,7 +156,7 @@ QString WorkbookFile::fill(const QString &path, const QByteArray &folder) {
   for (int i = 0; i < m_table.headers.size(); ++i)
     worksheet_write_string(sheet, 0, static_cast<lxw_col_t>(i), cellText(m_table.headers.at(i)).constData(), bold);
   for (int row = 0; row < m_table.rows; ++row) {
-    const QString fault = writeRow(*sheet, row, bold);
+    QString fault = writeRow(*sheet, row, bold);
     if (!fault.isEmpty())
       return fault;
   }

@@ -1,7 +1,9 @@
 #pragma once
 
-#include <drawing/colorscale.h>
+#include <drawing/drawvalues.h>
 #include <paper/pagecontent.h>
+
+#include <qwt_color_map.h>
 
 #include <memory>
 

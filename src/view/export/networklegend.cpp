@@ -2,7 +2,6 @@
 
 #include "export/legendparts.h"
 
-#include <drawing/edgelayer.h>
 #include <drawing/elementlooks.h>
 #include <drawing/nodelayer.h>
 #include <model/displayformat.h>

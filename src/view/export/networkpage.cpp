@@ -1,7 +1,5 @@
 #include "export/networkpage.h"
 
-#include <model/netmetadata.h>
-
 NetworkPage::NetworkPage(DrawingSource source, PageFacts facts)
     : m_facts(std::move(facts))
     , m_drawing(std::move(source))

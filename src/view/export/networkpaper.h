@@ -1,8 +1,12 @@
 #pragma once
 
-#include "export/networkseries.h"
+#include "export/pagedrawing.h"
 
 #include <paper/pagedialog.h>
+#include <view/scenariosource.h>
+#include <view/viewbookmarks.h>
+
+class NetworkPage;
 
 /// Printing and saving pages of a network as a person does it.
 class NetworkPaper {

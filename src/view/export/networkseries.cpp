@@ -48,7 +48,8 @@ QString NetworkSeries::nameOf(const QString &scenario, const View &view) {
   return scenario.isEmpty() ? view.name : scenario + QLatin1Char(' ') + view.name;
 }
 
-std::vector<PageSeries::Page> NetworkSeries::pages(const Choice &choice, const PageText &text, std::function<bool()> goOn) {
+std::vector<PageSeries::Page> NetworkSeries::pages(const Choice &choice, const PageText &text,
+                                                   const std::function<bool()> &goOn) {
   std::vector<PageSeries::Page> pages;
   const QStringList scenarios = choice.scenarios.isEmpty() ? QStringList(m_facts.scenario) : choice.scenarios;
   for (const QString &scenario : scenarios) {

@@ -32,7 +32,7 @@ public:
   /// Scenario by scenario; they must not outlive this.
   /// \param text of the page whose kind they are
   /// \param goOn asked while a scenario is read; false ends it
-  std::vector<PageSeries::Page> pages(const Choice &choice, const PageText &text, std::function<bool()> goOn);
+  std::vector<PageSeries::Page> pages(const Choice &choice, const PageText &text, const std::function<bool()> &goOn);
 
 private:
   PageContent *open(const QString &scenario, const View &view, bool keepsScales, const std::function<bool()> &goOn,

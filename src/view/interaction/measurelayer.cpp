@@ -5,8 +5,6 @@
 #include <QPainter>
 #include <qwt_scale_map.h>
 
-#include <algorithm>
-
 namespace {
 
 const QColor &ink() {

@@ -7,8 +7,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include <algorithm>
-
 MeasureTool::MeasureTool(NetPlot &plot, QObject *parent)
     : QObject(parent)
     , m_plot(plot) {

@@ -21,8 +21,6 @@
 #include <QListWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace {
 
 QString noLabels() {

@@ -21,7 +21,7 @@ bool isKnown(const QString &unit);
 /// As people write it, such as "m³" for "m3": the unit tables know plain ASCII only.
 QString written(QString unit);
 /// The other way: as the tables know it, from what a person typed.
-QString fromTyped(QString unit);
+QString fromTyped(const QString &unit);
 
 /// value in unit "from" expressed in unit "to". Norm volume flow converts to mass flow when the norm density is known
 /// and to energy flow when the calorific value is known. Nothing when the units are unknown or do not fit.

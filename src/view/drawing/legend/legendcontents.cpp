@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 
-#include <array>
 #include <bitset>
 #include <string_view>
 

@@ -62,12 +62,12 @@ QString StationNames::nameOf(Index symbol, NetGeometry::Item item) const {
   static const auto isSeparator = [](QChar c) {
     return !c.isLetterOrNumber();
   };
-  const QString own = ownName(m_drawing.geometry, item);
+  QString own = ownName(m_drawing.geometry, item);
   int common = own.size();
   for (const NetGeometry::Item other : m_drawing.symbols.sharing(m_projection, symbol)) {
     const QString name = ownName(m_drawing.geometry, other);
-    const auto differs = std::mismatch(own.begin(), own.begin() + std::min(common, name.size()), name.begin()).first;
-    common = static_cast<int>(differs - own.begin());
+    const auto differs = std::mismatch(own.cbegin(), own.cbegin() + std::min(common, name.size()), name.cbegin()).first;
+    common = static_cast<int>(differs - own.cbegin());
   }
   if (common == own.size())
     return own;

@@ -2,7 +2,6 @@
 #include <drawing/violations.h>
 #include <model/names.h>
 
-#include <algorithm>
 #include <string_view>
 
 Violations::State Violations::of(const element &source) {
