@@ -111,8 +111,10 @@ for n in 11 40 135; do
   file=../shared/data/GasLib-$n/N1/N1.scen.jsn
   [ ! -f "$file" ] || window "gaslib-$n-window" "$file" 'sleep 1'
 done
+# The legend hides what is to be seen in pictures as small as these.
+printf '%s\n' '[drawing]' 'legend=false' | cat example/DE_H2/plotsettings.ini - >"$data/no-legend.ini"
 labels() { # NUMBER [OPTION...]
-  ! wants "labels-$1" || "$NIVRA_VIEWER" --export "$images/labels-$1.png" --width 1000 --labels selected "${@:2}" "$example"
+  ! wants "labels-$1" || "$NIVRA_VIEWER" --export "$images/labels-$1.png" --width 1000 --labels selected --style "$data/no-legend.ini" "${@:2}" "$example"
 }
 labels 1
 labels 2 --extent 380000,5620000,620000,5800000
@@ -121,7 +123,7 @@ labels 3 --extent 403500,5722600,407300,5725450
 window configure-draw "$example" 'press ctrl+d; sleep 1.5'
 window context-menu "$example" 'go_to CS_Rehden_C1; press ctrl+0; sleep 1; press shift+F10; sleep 1'
 window selection "$example" 'press ctrl+2; drag 420 400 720 640; sleep 1'
-window findings "$example" 'run_command findings; press F8 F8; sleep 2'
+window findings "$example" 'run_command findings; press F8; sleep 2'
 window scenario "$example" 'run_command "scenario view"; sleep 0.5'
 window commands "$example" 'press ctrl+shift+p; sleep 0.5; say "edge press"; sleep 0.5'
 window settings "$example" 'press ctrl+comma; sleep 1.5; press Down Down Down; shoot "$(find_window "^Settings")"'
@@ -129,7 +131,7 @@ window page "$example" 'press ctrl+alt+p; sleep 3; shoot "$(find_window "Page|Pr
 window measure "$example" 'press ctrl+m; click 430 423; click 560 513; click 670 610; xdotool mousemove 800 660; sleep 1'
 table='press ctrl+t; sleep 1; drag 600 600 600 500;'
 window element-table "$example" "$table"'press ctrl+shift+l; say E_; click 100 758; press shift+Down shift+Down; sleep 1'
-window element-table-groups "$example" "$table"'click 91 539; press Home Return; sleep 0.5; click 360 539; press Down Down Return; sleep 1; click 485 539; press c; click 200 616; press ctrl+Home; sleep 0.5'
+window element-table-groups "$example" "$table"'click 91 539; press Home Return; sleep 0.5; click 360 539; press Down Down Return; sleep 1; click 485 539; press c; click 80 639; press ctrl+Home; sleep 0.5'
 
 # The walk through the tools, on a copy: a category is saved on the way.
 walk=$data/walk
@@ -146,7 +148,7 @@ window walk-5 "$walk_file" 'run_command "layers editor"; click 34 215; click 34 
 window walk-6 "$walk_file" 'go_to N_Görlitz; press ctrl+u; press ctrl+0; sleep 1.5'
 
 window subnet "$walk_file" 'go_to CS_Werne; press shift+F10; sleep 0.5; press Down Down Down Down Down Right; sleep 0.5; press Return; sleep 2
-  fill "$(find_window Subassembly)"; press ctrl+f; sleep 0.5; say _V; press Escape Return; sleep 1; click 600 600; press Home; sleep 1; click 203 186; sleep 1'
+  fill "$(find_window Subassembly)"; press ctrl+f; sleep 0.5; say _V; press Escape Return; sleep 1; click 800 450 5; sleep 1; click 203 186; sleep 1'
 window characteristics "$walk_file" 'go_to CS_Rehden_C1; press ctrl+shift+m; sleep 2'
 window piston "$walk_file" 'go_to CS_Rimpar_C1; press ctrl+shift+m; sleep 2'
 
@@ -181,7 +183,7 @@ fi
 if wants formats; then
   formats=$(mktemp -d)
   for format in png jpg bmp tif svg pdf ps; do
-    "$NIVRA_VIEWER" --export "$formats/drawing.$format" --width 900 "$example"
+    "$NIVRA_VIEWER" --export "$formats/drawing.$format" --width 1200 "$example"
   done
   rsvg-convert "$formats/drawing.svg" -o "$formats/svg.png"
   pdftoppm -singlefile -r 100 -png "$formats/drawing.pdf" "$formats/pdf"
