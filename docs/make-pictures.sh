@@ -148,7 +148,7 @@ window walk-5 "$walk_file" 'run_command "layers editor"; click 34 215; click 34 
 window walk-6 "$walk_file" 'go_to N_Görlitz; press ctrl+u; press ctrl+0; sleep 1.5'
 
 window subnet "$walk_file" 'go_to CS_Werne; press shift+F10; sleep 0.5; press Down Down Down Down Down Right; sleep 0.5; press Return; sleep 2
-  fill "$(find_window Subassembly)"; press ctrl+f; sleep 0.5; say _V; press Escape Return; sleep 1; click 800 450 5; sleep 1; click 203 186; sleep 1'
+  fill "$(find_window Subassembly)"; press ctrl+t; sleep 1.5; press Down Down shift+Down; sleep 1'
 window characteristics "$walk_file" 'go_to CS_Rehden_C1; press ctrl+shift+m; sleep 2'
 window piston "$walk_file" 'go_to CS_Rimpar_C1; press ctrl+shift+m; sleep 2'
 
