@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Makes the pictures of the documents again: the window under Xvfb, and exported drawings. Needs a release build, or
 # NIVRA_VIEWER with the path of another one. Arguments name the pictures that are wanted ("walk-2 page"), none all.
+# shellcheck disable=SC2016,SC2119,SC2120 # steps are read when the window stands
 set -euo pipefail
 cd "$(dirname "$0")/.."
 export NIVRA_VIEWER=${NIVRA_VIEWER:-build/release/bin/NivraViewer}
@@ -8,7 +9,7 @@ images=$PWD/docs/images
 mkdir -p "$images"
 data=$(mktemp -d)
 export XDG_DATA_HOME=$data/data XDG_CONFIG_HOME=$data/config XDG_CACHE_HOME=$data/cache
-display= viewer=
+display='' viewer=''
 trap 'kill $viewer $display 2>/dev/null || true; rm -rf "$data"' EXIT
 
 missing=()
@@ -147,7 +148,7 @@ window walk-4 "$walk_file" "$find_table"'click 143 16; sleep 1'
 window walk-5 "$walk_file" 'run_command "layers editor"; click 34 215; click 34 277; sleep 1'
 window walk-6 "$walk_file" 'go_to N_Görlitz; press ctrl+u; press ctrl+0; sleep 1.5'
 
-window subnet "$walk_file" 'go_to CS_Werne; press shift+F10; sleep 0.5; press Down Down Down Down Down Right; sleep 0.5; press Return; sleep 2
+window subnet "$walk_file" 'go_to CS_Werne; press ctrl+shift+o; sleep 2
   fill "$(find_window Subassembly)"; press ctrl+t; sleep 1.5; press Down Down shift+Down; sleep 1'
 window characteristics "$walk_file" 'go_to CS_Rehden_C1; press ctrl+shift+m; sleep 2'
 window piston "$walk_file" 'go_to CS_Rimpar_C1; press ctrl+shift+m; sleep 2'
@@ -193,5 +194,6 @@ if wants formats; then
   rm -rf "$formats"
 fi
 
+[ ${#made[@]} -gt 0 ] || { echo "makes no picture of the name ${wanted[*]}" >&2; exit 1; }
 # Drawings have few colours: a table of 255 of them makes the files a third as large, and nobody sees it.
 mogrify -depth 8 +dither -colors 255 -define png:compression-level=9 -strip "${made[@]}"
