@@ -1,104 +1,199 @@
 #!/usr/bin/env bash
 # Makes the pictures of the documents again: the window under Xvfb, and exported drawings. Needs a release build, or
-# NIVRA_VIEWER with the path of another one.
+# NIVRA_VIEWER with the path of another one. Arguments name the pictures that are wanted ("walk-2 page"), none all.
+# shellcheck disable=SC2016,SC2119,SC2120 # steps are read when the window stands
 set -euo pipefail
 cd "$(dirname "$0")/.."
-program=${NIVRA_VIEWER:-build/release/bin/NivraViewer}
-images=docs/images
+export NIVRA_VIEWER=${NIVRA_VIEWER:-build/release/bin/NivraViewer}
+images=$PWD/docs/images
 mkdir -p "$images"
 data=$(mktemp -d)
 export XDG_DATA_HOME=$data/data XDG_CONFIG_HOME=$data/config XDG_CACHE_HOME=$data/cache
-trap 'rm -rf "$data"' EXIT
+display='' viewer=''
+trap 'kill $viewer $display 2>/dev/null || true; rm -rf "$data"' EXIT
 
 missing=()
 for tool in Xvfb xdotool import montage mogrify rsvg-convert pdftoppm gs; do command -v "$tool" >/dev/null || missing+=("$tool"); done
 [ ${#missing[@]} -eq 0 ] || { echo "needs ${missing[*]} (apt-get install xvfb xdotool imagemagick librsvg2-bin poppler-utils ghostscript)" >&2; exit 1; }
 
-window() { # FILE PICTURE [COMMANDS with $id]
-  xvfb-run -a -s '-screen 0 1280x960x24' bash -c '
-    "$1" --clean "$2" & pid=$!
-    for _ in $(seq 100); do
-      id=$(xdotool search --onlyvisible --name "CASE:" 2>/dev/null | head -n 1) && [ -n "$id" ] && break
-      sleep 0.1
-    done
-    sleep 1 # the first frame follows the title
-    xdotool windowsize "$id" 1200 900; sleep 0.5
-    eval "${4:-}"
-    import -window root -crop 1200x900+0+0 "$3"
-    kill "$pid"' _ "$program" "$1" "$2" "${3:-}"
+wanted=("$@")
+made=()
+wants() { # PICTURE
+  local picture
+  [ ${#wanted[@]} -gt 0 ] || { made+=("$images/$1.png"); return 0; }
+  for picture in "${wanted[@]}"; do
+    [ "$picture" != "$1" ] || { made+=("$images/$1.png"); return 0; }
+  done
+  return 1
 }
 
-window example/DE_H2/S5/S5.scen.jsn "$images/example-window.png"
-window example/DE_H2/S5/S5.scen.jsn "$images/page.png" 'xdotool key --clearmodifiers ctrl+alt+p; sleep 3'
-"$program" --export "$images/example.png" --width 1200 example/DE_H2/S5/S5.scen.jsn
-for n in 11 40 135; do
-  file=../shared/data/GasLib-$n/N1/N1.scen.jsn
-  [ ! -f "$file" ] || window "$file" "$images/gaslib-$n-window.png"
-done
+# What the steps of a picture are made of. Panels are asked for by key or by words, so that no menu needs to stay where it is.
+press() { # KEY...
+  local key
+  for key in "$@"; do xdotool key --clearmodifiers "$key"; sleep 0.3; done
+}
+say() { xdotool type --delay 20 "$1"; sleep 0.4; } # TEXT
+run_command() { # WORDS of a command
+  press ctrl+shift+p
+  sleep 0.5
+  say "$1"
+  press Return
+  sleep 0.8
+}
+click() { # X Y [BUTTON [TIMES]]
+  xdotool mousemove "$1" "$2"
+  sleep 0.3
+  xdotool click --repeat "${4:-1}" --delay 80 "${3:-1}"
+  sleep 0.5
+  away
+}
+away() { xdotool mousemove 1250 930; } # beside the window, so that no tip stands in the picture
+drag() { # X Y X Y
+  xdotool mousemove "$1" "$2" mousedown 1 mousemove "$(($1 + ($3 - $1) / 2))" "$(($2 + ($4 - $2) / 2))" mousemove "$3" "$4"
+  sleep 0.3
+  xdotool mouseup 1
+  sleep 0.5
+  away
+}
+go_to() { # ELEMENT, shown and selected
+  press ctrl+g
+  say "$1"
+  press Return
+  sleep 1.5
+}
+find_window() { # TITLE
+  local id=
+  for _ in $(seq 100); do
+    id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1) || true
+    [ -z "$id" ] || break
+    sleep 0.1
+  done
+  echo "$id"
+}
+fill() { # WINDOW, as large as the pictures
+  xdotool windowsize "$1" 1200 900
+  sleep 0.5
+  xdotool windowfocus "$1"
+  sleep 0.3
+}
+close() {
+  kill "$viewer"
+  wait "$viewer" 2>/dev/null || true
+  viewer=
+}
+shoot() { # [WINDOW], else all that stands where the window is
+  if [ -n "${1:-}" ]; then import -window "$1" "$picture"; else import -window root -crop 1200x900+0+0 "$picture"; fi
+}
+window() { # PICTURE FILE [STEPS]; without a shoot among the steps the window is taken at their end
+  wants "$1" || return 0
+  rm -rf "$data"/{data,config,cache} # pages that were open come back otherwise
+  picture=$images/$1.png
+  "$NIVRA_VIEWER" --clean "$2" &
+  viewer=$!
+  away
+  fill "$(find_window "CASE:")"
+  sleep 1
+  eval "${3:-}"
+  case ${3:-} in *shoot*) ;; *) shoot ;; esac
+  close
+}
+
+# A display of our own: a number that is free now might be taken when it is asked for.
+Xvfb -displayfd 3 -noreset -screen 0 1280x960x24 3>"$data/display" 2>/dev/null &
+display=$!
+until [ -s "$data/display" ]; do sleep 0.1; done
+DISPLAY=:$(<"$data/display")
+export DISPLAY
 
 example=example/DE_H2/S5/S5.scen.jsn
+window example-window "$example" 'sleep 1'
+! wants example || "$NIVRA_VIEWER" --export "$images/example.png" --width 1200 "$example"
+for n in 11 40 135; do
+  file=../shared/data/GasLib-$n/N1/N1.scen.jsn
+  [ ! -f "$file" ] || window "gaslib-$n-window" "$file" 'sleep 1'
+done
+# The legend hides what is to be seen in pictures as small as these.
+printf '%s\n' '[drawing]' 'legend=false' | cat example/DE_H2/plotsettings.ini - >"$data/no-legend.ini"
 labels() { # NUMBER [OPTION...]
-  "$program" --export "$images/labels-$1.png" --width 1000 --labels selected "${@:2}" "$example"
+  ! wants "labels-$1" || "$NIVRA_VIEWER" --export "$images/labels-$1.png" --width 1000 --labels selected --style "$data/no-legend.ini" "${@:2}" "$example"
 }
 labels 1
 labels 2 --extent 380000,5620000,620000,5800000
 labels 3 --extent 403500,5722600,407300,5725450
-window "$example" "$images/selection.png" 'xdotool mousemove 560 440 click --repeat 5 --delay 100 4; sleep 2; xdotool windowfocus $id; sleep 0.3; xdotool mousemove 560 440 key ctrl+a; sleep 1'
-window "$example" "$images/context-menu.png" 'xdotool mousemove 388 409; sleep 0.5; xdotool click 3; sleep 1'
-window "$example" "$images/configure-draw.png" 'xdotool mousemove 1160 280 click --repeat 2 --delay 80 1; sleep 1.5'
-window "$example" "$images/findings.png" 'xdotool mousemove 1165 886 click 1; sleep 0.5; xdotool key F8 F8; sleep 1.5'
+
+window configure-draw "$example" 'press ctrl+d; sleep 1.5'
+window context-menu "$example" 'go_to CS_Rehden_C1; press ctrl+0; sleep 1; press shift+F10; sleep 1'
+window selection "$example" 'press ctrl+2; drag 420 400 720 640; sleep 1'
+window findings "$example" 'run_command findings; press F8; sleep 2'
+window scenario "$example" 'run_command "scenario view"; sleep 0.5'
+window commands "$example" 'press ctrl+shift+p; sleep 0.5; say "edge press"; sleep 0.5'
+window settings "$example" 'press ctrl+comma; sleep 1.5; press Down Down Down; shoot "$(find_window "^Settings")"'
+window page "$example" 'press ctrl+alt+p; sleep 3; shoot "$(find_window "Page|Print")"'
+window measure "$example" 'press ctrl+m; click 430 423; click 560 513; click 670 610; xdotool mousemove 800 660; sleep 1'
+table='press ctrl+t; sleep 1; drag 600 600 600 500;'
+window element-table "$example" "$table"'press ctrl+shift+l; say E_; click 100 758; press shift+Down shift+Down; sleep 1'
+window element-table-groups "$example" "$table"'click 91 539; press Home Return; sleep 0.5; click 360 539; press Down Down Return; sleep 1; click 485 539; press c; click 80 639; press ctrl+Home; sleep 0.5'
+
 # The walk through the tools, on a copy: a category is saved on the way.
 walk=$data/walk
 mkdir -p "$walk"
 cp -r example/DE_H2 "$walk/"
-walk_window() { # NUMBER COMMANDS
-  window "$walk/DE_H2/S5/S5.scen.jsn" "$images/walk-$1.png" "$2"
-}
-search='xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool mousemove 150 155 click 1 type "abs(v@ELE)>10"; xdotool mousemove 150 94 click 1 type "^p"; xdotool key Return; sleep 1; xdotool mousemove 208 186 click 1; sleep 1;'
-table='xdotool mousemove 54 849 click 1; sleep 1; xdotool mousemove 16 52 click 1; sleep 0.5; xdotool mousemove 778 52 click 1; sleep 0.5; xdotool mousemove 271 52 click 1; sleep 0.3; xdotool type v; xdotool key Return; sleep 1;'
-dock() { echo "xdotool mousemove 100 10 click 1; sleep 0.5; xdotool mousemove 178 $1 click 1; sleep 0.8;"; } # y in the menu
-window "$example" "$images/scenario.png" "$(dock 252)"'xdotool mousemove 600 300; sleep 0.5'
-walk_window 1 "$search"
-walk_window 2 "$search $(dock 102)"'xdotool mousemove 134 552 click 1; sleep 0.5; xdotool mousemove 60 709 click --repeat 2 --delay 80 1; sleep 0.3; xdotool type "fast pipes"; xdotool key Return; sleep 0.3; xdotool mousemove 1150 850 click 1; sleep 0.5'
-walk_window 3 "$search $table"
-walk_window 4 "$search $table"'xdotool mousemove 143 16 click 1; sleep 1'
-walk_window 5 "$(dock 177)"'xdotool mousemove 36 184 click 1; sleep 0.3; xdotool mousemove 36 247 click 1; sleep 1'
-walk_window 6 'xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool type "N_Görlitz"; xdotool key Return; sleep 1; xdotool mousemove 60 235 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 789 443; sleep 0.5; xdotool click 3; sleep 0.5; xdotool mousemove 880 555 click 1; sleep 0.5; xdotool mousemove 840 300 key Home; sleep 1.5'
+walk_file=$walk/DE_H2/S5/S5.scen.jsn
+find_pipes='press ctrl+f; sleep 0.5; press Tab Tab; say "^p"; press Tab Tab Tab Tab; say "abs(v@ELE)>10"; press Return; sleep 1.5; click 203 226;'
+find_table="$find_pipes"'click 54 849; sleep 1; click 16 52; click 142 76; click 271 52; say v; press Return; sleep 1;'
+window walk-1 "$walk_file" "$find_pipes"
+window walk-2 "$walk_file" "$find_pipes"'run_command "element categories"; sleep 0.5; click 134 552; sleep 0.5; click 60 709 1 2; say "fast pipes"; press Return; click 1150 850'
+window walk-3 "$walk_file" "$find_table"
+window walk-4 "$walk_file" "$find_table"'click 143 16; sleep 1'
+window walk-5 "$walk_file" 'run_command "layers editor"; click 34 215; click 34 277; sleep 1'
+window walk-6 "$walk_file" 'go_to N_Görlitz; press ctrl+u; press ctrl+0; sleep 1.5'
 
-station='xdotool windowfocus $id; sleep 0.3; xdotool key ctrl+f; sleep 0.5;'
-window "$walk/DE_H2/S5/S5.scen.jsn" "$images/subnet.png" "$station"' xdotool type "CS_Werne"; xdotool key Escape; xdotool mousemove 150 94 click 1 type "sub"; xdotool key Return; sleep 1; xdotool mousemove 60 233 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 765 440; sleep 0.5; xdotool click 3; sleep 1; xdotool mousemove 820 527 click 1; sleep 0.7; xdotool mousemove 600 527; sleep 0.3; xdotool click 1; sleep 2; sub=$(xdotool search --onlyvisible --name Subassembly | head -n 1); xdotool windowsize $sub 1200 900; sleep 0.5; xdotool windowfocus $sub; sleep 0.3; xdotool key ctrl+f; sleep 0.5; xdotool type "_V"; xdotool key Escape; xdotool key Return; sleep 1; xdotool mousemove 200 185 click 1; sleep 1'
-machine_map() { # COMPRESSOR PICTURE
-  window "$walk/DE_H2/S5/S5.scen.jsn" "$2" "$station xdotool type '$1'"'; xdotool key Escape; xdotool key Return; sleep 1; xdotool mousemove 60 233 click --repeat 2 --delay 80 1; sleep 2; xdotool mousemove 789 443; sleep 0.5; xdotool click 3; sleep 1; xdotool mousemove 880 530 click 1; sleep 2; xdotool mousemove 1020 300; sleep 1'
-}
-machine_map CS_Rehden_C1 "$images/characteristics.png"
-machine_map CS_Rimpar_C1 "$images/piston.png"
+window subnet "$walk_file" 'go_to CS_Werne; press ctrl+shift+o; sleep 2
+  fill "$(find_window Subassembly)"; press ctrl+t; sleep 1.5; press Down Down shift+Down; sleep 1'
+window characteristics "$walk_file" 'go_to CS_Rehden_C1; press ctrl+shift+m; sleep 2'
+window piston "$walk_file" 'go_to CS_Rimpar_C1; press ctrl+shift+m; sleep 2'
 
 # What was opened before, and a file that changes while it is shown.
-studies=$data/studies
+studies=/tmp/studies # a place that is read in the picture
+mkdir "$studies" 2>/dev/null || { studies=$data/studies; mkdir "$studies"; }
+trap 'kill $viewer $display 2>/dev/null || true; rm -rf "$data" "$studies"' EXIT
 for network in 11 40 135; do
-  [ ! -d "../shared/data/GasLib-$network" ] || { mkdir -p "$studies"; cp -r "../shared/data/GasLib-$network" "$studies/"; }
+  [ ! -d "../shared/data/GasLib-$network" ] || cp -r "../shared/data/GasLib-$network" "$studies/"
 done
-if [ -d "$studies" ]; then
-  for file in "$studies"/*/N1/N1.scen.jsn "$studies"/*/*.geom.jsn "$walk/DE_H2/S5/S5.scen.jsn"; do
-    xvfb-run -a -s '-screen 0 1280x960x24' bash -c '"$1" "$2" & pid=$!; sleep 6; kill "$pid"' _ "$program" "$file"
+if [ -d "$studies/GasLib-11" ]; then
+  window reload-bar "$studies/GasLib-40/N1/N1.scen.jsn" 'echo >>"$studies/GasLib-40/N1/N1.scen.jsn"; sleep 3'
+  ! wants reload-bar || mogrify -crop 1200x520+0+0 +repage "$images/reload-bar.png"
+fi
+if [ -d "$studies/GasLib-11" ] && wants start-page; then
+  cp -r example/DE_H2 "$studies/"
+  rm -rf "$data"/{data,config,cache}
+  for file in "$studies"/GasLib-*/N1/N1.scen.jsn "$studies"/GasLib-*/*.geom.jsn "$studies/DE_H2/S5/S5.scen.jsn"; do
+    "$NIVRA_VIEWER" "$file" & viewer=$!
+    sleep 6
+    close
   done
   rm -r "$studies/GasLib-11/N1" # one that is no longer there
-  xvfb-run -a -s '-screen 0 1200x900x24' bash -c '"$1" & pid=$!; sleep 4; import -window root -crop 1200x900+0+0 "$2"; kill "$pid"' \
-    _ "$program" "$images/start-page.png"
-  window "$studies/GasLib-40/N1/N1.scen.jsn" "$images/reload-bar.png" "echo >>'$studies/GasLib-40/N1/N1.scen.jsn'; sleep 3"
-  mogrify -crop 1200x520+0+0 +repage "$images/reload-bar.png"
+  "$NIVRA_VIEWER" & viewer=$!
+  fill "$(find_window "Nivra Reader")"
+  sleep 3
+  picture=$images/start-page.png
+  shoot
+  close
 fi
 
-formats=$(mktemp -d)
-for format in png jpg bmp tif svg pdf ps; do
-  "$program" --export "$formats/drawing.$format" --width 500 "$example"
-done
-rsvg-convert "$formats/drawing.svg" -o "$formats/svg.png"
-pdftoppm -singlefile -r 85 -png "$formats/drawing.pdf" "$formats/pdf"
-gs -q -dNOPAUSE -dBATCH -sDEVICE=png16m -r85 -sOutputFile="$formats/ps.png" "$formats/drawing.ps"
-montage -label png "$formats/drawing.png" -label jpg "$formats/drawing.jpg" -label bmp "$formats/drawing.bmp" -label tif "$formats/drawing.tif" \
-  -label svg "$formats/svg.png" -label pdf "$formats/pdf.png" -label ps "$formats/ps.png" -tile 4x -geometry 300x225+4+4 "$images/formats.png"
-rm -rf "$formats"
+if wants formats; then
+  formats=$(mktemp -d)
+  for format in png jpg bmp tif svg pdf ps; do
+    "$NIVRA_VIEWER" --export "$formats/drawing.$format" --width 1200 "$example"
+  done
+  rsvg-convert "$formats/drawing.svg" -o "$formats/svg.png"
+  pdftoppm -singlefile -r 100 -png "$formats/drawing.pdf" "$formats/pdf"
+  gs -q -dNOPAUSE -dBATCH -sDEVICE=png16m -dTextAlphaBits=4 -dGraphicsAlphaBits=4 -r100 -sOutputFile="$formats/ps.png" "$formats/drawing.ps"
+  montage -label png "$formats/drawing.png" -label jpg "$formats/drawing.jpg" -label bmp "$formats/drawing.bmp" -label tif "$formats/drawing.tif" \
+    -label svg "$formats/svg.png" -label pdf "$formats/pdf.png" -label ps "$formats/ps.png" -tile 4x -geometry 300x225+4+4 "$images/formats.png"
+  rm -rf "$formats"
+fi
 
+[ ${#made[@]} -gt 0 ] || { echo "makes no picture of the name ${wanted[*]}" >&2; exit 1; }
 # Drawings have few colours: a table of 255 of them makes the files a third as large, and nobody sees it.
-mogrify -depth 8 +dither -colors 255 -define png:compression-level=9 -strip "$images"/*.png
+mogrify -depth 8 +dither -colors 255 -define png:compression-level=9 -strip "${made[@]}"
