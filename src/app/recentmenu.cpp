@@ -4,6 +4,7 @@
 #include "thumbnails.h"
 
 #include <base/index.h>
+#include <tools/plaintip.h>
 
 #include <QFileInfo>
 #include <QProxyStyle>
@@ -56,7 +57,7 @@ void RecentMenu::fill() {
     const bool isThere = QFileInfo(file.path).isFile();
     isAnyMissing = isAnyMissing || !isThere;
     action->setEnabled(isThere);
-    action->setToolTip(isThere ? file.path : tr("%1 is no longer there").arg(file.path));
+    action->setToolTip(PlainTip::of(isThere ? file.path : tr("%1 is no longer there").arg(file.path)));
     connect(action, &QAction::triggered, this, [this, path = file.path] { emit fileWanted(path); });
   }
   if (m_files.all().empty()) {
