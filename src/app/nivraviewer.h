@@ -2,6 +2,7 @@
 
 #include "networkloader.h"
 #include "outcomestyle.h"
+#include "unsavededits.h"
 #include "workspacememory.h"
 
 #include <base/onceperturn.h>
@@ -68,13 +69,20 @@ private:
   void setUpForm();
   void setUpFileMenu();
   void setUpReloading();
+  void acceptStyleFiles();
   void setUpCommands();
   void applyStyleSheet(const QString &path);
   void openWorkspace(const QString &path);
   void showWorkspace(bool isRead);
   class OpeningClock;
+  bool resolve(NetworkLoader &loader, const QString &path);
   void showOutcome(bool isRead, const OpeningClock &clock);
-  bool settleChanges();
+  void comeBack();
+  std::vector<UnsavedEdits::Kind> unsavedInSubnets() const;
+  UnsavedEdits::Answer settleChanges();
+  void loadSettings();
+  ReadFiles::Stamps filesShown() const;
+  void closeIfWanted();
   void useLastScenario();
   OutcomeStyle::Outcome outcome(bool isDone) const;
   bool readWorkspace();
@@ -103,4 +111,7 @@ private:
   std::vector<ElementChange> m_changes; ///< since the last showChanges()
   OncePerTurn m_showingChanges;
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read
+  FileStamp m_settingsRead;           ///< of the general settings of the workspace
+  bool m_isRead = false;              ///< what is shown: the last reading yielded a network
+  bool m_closesThen = false;          ///< once reading has ended
 };

@@ -1,8 +1,12 @@
+#include "layerkeeper.h"
+#include "mnemonics.h"
 #include "panels.h"
 #include "reloadbar.h"
 #include "remembering.h"
+#include "subnetwindow.h"
 #include "workspacefixture.h"
 
+#include <base/generalsettings.h>
 #include <support/answers.h>
 #include <support/nivratest.h>
 #include <tools/nivranetlayerseditor.h>
@@ -15,9 +19,12 @@
 #include <QDockWidget>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QMenuBar>
+#include <QPointer>
 #include <QPushButton>
 #include <QToolBar>
 
+#include <algorithm>
 #include <cmath>
 
 /// Files that are changed while they are shown.
@@ -33,9 +40,14 @@ private slots:
   void waitsUntilAFileIsAtRest();
   void vanishedFileLeavesWhatIsShown();
   void whatTheProgramWritesIsNoChange();
+  void filesBesideTheNetworkAreOffered_data();
+  void filesBesideTheNetworkAreOffered();
+  void whatIsTypedStays();
+  void typedInASubnetIsAsked();
   void keyReadsAgain();
   void barIsForThisCaseAlone();
   void narrowWindowKeepsTheButtons();
+  void lettersAreThoseOfNoMenu();
 
 private:
   static QByteArray withAnotherNode() {
@@ -176,9 +188,71 @@ void TestReload::whatTheProgramWritesIsNoChange() {
   open(viewer, m_workspace->geometry());
   panelOf<viewFuncDialog>(viewer).findChild<QPushButton *>(QStringLiteral("applyAndSave"))->click();
   panelOf<NivraNetObjectCats>(viewer).findChild<QAbstractButton *>(QStringLiteral("pushButtonOK"))->click();
+  m_workspace->write(QStringLiteral("CASE/layers.csv"), "vis.layer;P1;west\n");
+  viewer.reload();
+  QVERIFY(viewer.findChild<LayerKeeper *>()->save());
   QVERIFY(QFile::exists(m_workspace->path(QStringLiteral("CASE/plotsettings.ini"))));
   QTest::qWait(1500);
   QVERIFY(!offers(viewer));
+}
+
+void TestReload::filesBesideTheNetworkAreOffered_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<QByteArray>("text");
+  QTest::newRow("layers") << QStringLiteral("CASE/layers.csv") << QByteArray("vis.layer;P1;west\n");
+  QTest::newRow("style") << QStringLiteral("CASE/plotsettings.ini") << QByteArray("[magnitudes]\nedgeMag=3\n");
+  QTest::newRow("settings") << QStringLiteral("generalsettings_%1.csv").arg(GeneralSettings::userName())
+                            << QByteArray("pixtest delay;zooming;string;321;;\n");
+}
+
+void TestReload::filesBesideTheNetworkAreOffered() {
+  QFETCH(const QString, name);
+  QFETCH(const QByteArray, text);
+  NivraViewer viewer;
+  open(viewer, m_workspace->geometry());
+  m_workspace->write(name, text);
+  QTRY_VERIFY(offers(viewer));
+  QTest::mouseClick(button(viewer, 0), Qt::LeftButton);
+  const std::vector<bool> taken{viewer.visControl()->net().element(QStringLiteral("P1"))->value(Names::all().layer) ==
+                                    QLatin1String("west"),
+                                viewer.visControl()->plot()->settings().edgeMag == 3.0,
+                                GeneralSettings::instance().value(QStringLiteral("pixtest delay")) == QLatin1String("321")};
+  QCOMPARE(int(std::count(taken.begin(), taken.end(), true)), 1);
+  GeneralSettings::instance().reset();
+}
+
+void TestReload::whatIsTypedStays() {
+  NivraViewer viewer;
+  open(viewer, m_workspace->geometry());
+  auto &draw = panelOf<viewFuncDialog>(viewer);
+  auto &typed = *draw.findChild<QDoubleSpinBox *>(QStringLiteral("edgeMag"));
+  typed.setValue(7.0);
+  emit viewer.visControl()->actions().settingsChosen(); // as by a key or the tool bar
+  QCOMPARE(typed.value(), 7.0);
+  viewer.reload();
+  QCOMPARE(typed.value(), 7.0);
+  QVERIFY(draw.hasUnapplied());
+  m_workspace->writeGeometry("{ no network");
+  viewer.reload();
+  QCOMPARE(typed.value(), 7.0);
+}
+
+void TestReload::typedInASubnetIsAsked() {
+  m_workspace->writeGeometry(WorkspaceFixture::geometryWithSubnet());
+  NivraViewer viewer;
+  open(viewer, m_workspace->geometry());
+  emit viewer.visControl()->subnetWanted(QStringLiteral("M"));
+  const QPointer<SubnetWindow> window = viewer.findChild<SubnetWindow *>();
+  window->findChild<QDoubleSpinBox *>(QStringLiteral("edgeMag"))->setValue(7.0);
+  {
+    const Answers cancel({NivraMsg::Answer::Cancel, NivraMsg::Answer::Cancel, NivraMsg::Answer::Cancel});
+    viewer.reload();
+    QVERIFY(!window.isNull() && !window->close() && !viewer.close());
+    QVERIFY(cancel.areGiven());
+  }
+  const Answers discard({NivraMsg::Answer::Discard});
+  viewer.reload();
+  QVERIFY(discard.areGiven() && window.isNull());
 }
 
 void TestReload::keyReadsAgain() {
@@ -229,6 +303,21 @@ void TestReload::narrowWindowKeepsTheButtons() {
   for (int i = 0; i < 2; ++i) {
     QPushButton *shown = button(viewer, i);
     QVERIFY(shown->isVisible() && bar.rect().contains(shown->geometry().translated(shown->parentWidget()->pos())));
+  }
+}
+
+void TestReload::lettersAreThoseOfNoMenu() {
+  NivraViewer viewer;
+  open(viewer, m_workspace->geometry());
+  m_workspace->writeGeometry(withAnotherNode());
+  QTRY_VERIFY(offers(viewer));
+  QString letters;
+  for (const QAction *menu : viewer.menuBar()->actions())
+    letters += Mnemonics::of(menu->text());
+  for (int i = 0; i < 2; ++i) {
+    const QChar letter = Mnemonics::of(button(viewer, i)->text());
+    QVERIFY2(!letter.isNull() && !letters.contains(letter), qPrintable(letters + QLatin1Char(' ') + letter));
+    letters += letter;
   }
 }
 
