@@ -5,6 +5,7 @@
 #include "remembering.h"
 #include "subnetwindow.h"
 #include "workspacefixture.h"
+#include "workspacewatcher.h"
 
 #include <base/generalsettings.h>
 #include <support/answers.h>
@@ -61,10 +62,18 @@ private:
   }
   /// With the listening begun: the first look comes once the network stands.
   static void open(NivraViewer &viewer, const QString &path) {
+    watcher(viewer).setBetweenLooks(BetweenLooksMs);
     viewer.open(path);
     QVERIFY(QTest::qWaitForWindowExposed(&viewer));
-    QTest::qWait(700);
+    letItLook(viewer);
     QVERIFY(!offers(viewer));
+  }
+  static constexpr int BetweenLooksMs = 20;
+  static WorkspaceWatcher &watcher(NivraViewer &viewer) { return *viewer.findChild<WorkspaceWatcher *>(); }
+  /// Longer than it takes to see a change and that it is at rest.
+  static void letItLook(NivraViewer &viewer) {
+    watcher(viewer).look();
+    QTest::qWait(6 * BetweenLooksMs);
   }
   static bool hasNode(NivraViewer &viewer, const char *name) {
     return viewer.visControl()->net().element(QLatin1String(name)) != nullptr;
@@ -121,7 +130,7 @@ void TestReload::editorsPutAnotherFileInItsPlace() {
     QVERIFY2(textOf(viewer).endsWith(QStringLiteral("was changed on disk.")), qPrintable(textOf(viewer)));
     QTest::mouseClick(button(viewer, 0), Qt::LeftButton);
     QVERIFY(hasNode(viewer, name));
-    QTest::qWait(700);
+    letItLook(viewer);
   }
 }
 
@@ -129,7 +138,7 @@ void TestReload::resultsThatComeAreOffered() {
   NivraViewer viewer;
   open(viewer, m_workspace->scenario());
   m_workspace->write(QStringLiteral("CASE/S1/notes.txt"), "nothing of ours");
-  QTest::qWait(1200);
+  letItLook(viewer);
   QVERIFY(!offers(viewer));
   m_workspace->write(QStringLiteral("CASE/S1/S1.res.jsn"), "{\n\"A\":{\"p\":33}\n}\n");
   QTRY_VERIFY(offers(viewer));
@@ -145,7 +154,7 @@ void TestReload::ignoredIsIgnoredUntilTheNextChange() {
   QTest::mouseClick(button(viewer, 1), Qt::LeftButton);
   QVERIFY(!offers(viewer));
   viewer.activateWindow();
-  QTest::qWait(1200);
+  letItLook(viewer);
   QVERIFY(!offers(viewer));
   m_workspace->writeGeometry(WorkspaceFixture::soundGeometry());
   QTRY_VERIFY(offers(viewer));
@@ -154,9 +163,10 @@ void TestReload::ignoredIsIgnoredUntilTheNextChange() {
 void TestReload::waitsUntilAFileIsAtRest() {
   NivraViewer viewer;
   open(viewer, m_workspace->geometry());
+  watcher(viewer).setBetweenLooks(400); // longer than a machine that is busy keeps the next piece waiting
   QFile file(m_workspace->geometry());
   QVERIFY(file.open(QIODevice::Append));
-  for (int i = 0; i < 12; ++i) { // a program that writes for two seconds
+  for (int i = 0; i < 8; ++i) { // a program that writes for more than a second
     file.write("\n");
     file.flush();
     QTest::qWait(150);
@@ -192,7 +202,7 @@ void TestReload::whatTheProgramWritesIsNoChange() {
   viewer.reload();
   QVERIFY(viewer.findChild<LayerKeeper *>()->save());
   QVERIFY(QFile::exists(m_workspace->path(QStringLiteral("CASE/plotsettings.ini"))));
-  QTest::qWait(1500);
+  letItLook(viewer);
   QVERIFY(!offers(viewer));
 }
 
@@ -263,7 +273,7 @@ void TestReload::keyReadsAgain() {
   m_workspace->writeGeometry(withAnotherNode());
   QTest::keyClick(&viewer, Qt::Key_F5); // sooner than anybody offers it
   QVERIFY(hasNode(viewer, "D"));
-  QTest::qWait(1200);
+  letItLook(viewer);
   QVERIFY(!offers(viewer));
 }
 
@@ -272,18 +282,20 @@ void TestReload::barIsForThisCaseAlone() {
   const WorkspaceFixture other;
   {
     NivraViewer viewer;
+    watcher(viewer).setBetweenLooks(BetweenLooksMs);
     Remembering::open(viewer, m_workspace->geometry());
     QVERIFY(QTest::qWaitForWindowExposed(&viewer));
-    QTest::qWait(700);
+    letItLook(viewer);
     m_workspace->writeGeometry(withAnotherNode());
     QTRY_VERIFY(offers(viewer));
     viewer.close(); // the places of the window are kept with the bar
   }
   NivraViewer viewer;
+  watcher(viewer).setBetweenLooks(BetweenLooksMs);
   Remembering::open(viewer, m_workspace->geometry());
   QVERIFY(QTest::qWaitForWindowExposed(&viewer));
   QVERIFY(!offers(viewer));
-  QTest::qWait(700);
+  letItLook(viewer);
   m_workspace->writeGeometry(WorkspaceFixture::soundGeometry());
   QTRY_VERIFY(offers(viewer));
   viewer.open(other.geometry());
