@@ -9,6 +9,8 @@
 #include "logo.h"
 #include "mnemonics.h"
 #include "opendialog.h"
+#include "openingclock.h"
+#include "otherwindows.h"
 #include "outcomestyle.h"
 #include "recentmenu.h"
 #include "reloadoffer.h"
@@ -34,7 +36,6 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMimeData>
@@ -64,17 +65,6 @@ private:
 };
 
 } // namespace
-
-/// How long an opening takes, without the time for which a person was asked.
-class NivraViewer::OpeningClock {
-public:
-  OpeningClock() { m_timer.start(); }
-  qint64 elapsed() const { return m_timer.elapsed() - (NivraMsg::waitedForAnswers() - m_waitedBefore); }
-
-private:
-  QElapsedTimer m_timer;
-  qint64 m_waitedBefore = NivraMsg::waitedForAnswers();
-};
 
 NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
@@ -168,7 +158,10 @@ void NivraViewer::acceptStyleFiles() {
 void NivraViewer::remember(WorkspaceMemory::Keeps keeps) {
   m_memory->setKeeps(keeps);
   if (keeps != WorkspaceMemory::Keeps::Nothing) // once the window stands
-    QTimer::singleShot(0, m_ui->label, [this] { m_ui->label->showRecent(m_memory->recent()); });
+    QTimer::singleShot(0, m_ui->label, [this] {
+      if (centralWidget() == m_ui->label) // and not a drawing already
+        m_ui->label->showRecent(m_memory->recent());
+    });
 }
 
 void NivraViewer::setUpForm() {
@@ -549,7 +542,7 @@ void NivraViewer::setBusy(bool busy) {
   QWidgetList widgets{m_ui->menubar, m_commands->toolBar(), m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
     widgets.append(dock);
-  for (const QPointer<QWidget> &window : otherWindows())
+  for (const QPointer<QWidget> &window : OtherWindows::beside(*this))
     widgets.append(window);
   for (QWidget *widget : qAsConst(widgets))
     widget->setEnabled(!busy);
@@ -598,30 +591,11 @@ void NivraViewer::closeEvent(QCloseEvent *event) {
     return;
   }
   QMainWindow::closeEvent(event);
-  if (event->isAccepted() && !closeOthers())
+  if (event->isAccepted() && !OtherWindows::close(*this))
     event->ignore();
   if (!event->isAccepted())
     return;
   if (answer == UnsavedEdits::Answer::Discarded)
     m_layers->discard();
   m_memory->keep();
-}
-
-/// Tables and the guide, which are windows without a parent.
-QList<QPointer<QWidget>> NivraViewer::otherWindows() const {
-  QList<QPointer<QWidget>> others;
-  for (QWidget *window : QApplication::topLevelWidgets()) {
-    if (window != this && window->parentWidget() == nullptr)
-      others.append(window);
-  }
-  return others;
-}
-
-/// Windows without a parent would keep the program alive. False when one of them refuses.
-bool NivraViewer::closeOthers() {
-  for (const QPointer<QWidget> &window : otherWindows()) {
-    if (window != nullptr && window->isVisible() && !window->close())
-      return false;
-  }
-  return true;
 }

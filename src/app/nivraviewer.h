@@ -11,7 +11,6 @@
 #include <view/netpicker.h>
 
 #include <QMainWindow>
-#include <QPointer>
 
 #include <memory>
 #include <vector>
@@ -21,6 +20,7 @@ class Commands;
 class LayerKeeper;
 class LoadProgress;
 class NetVisControl;
+class OpeningClock;
 class ReloadOffer;
 class SubnetWindow;
 class ToolDocks;
@@ -74,7 +74,6 @@ private:
   void applyStyleSheet(const QString &path);
   void openWorkspace(const QString &path);
   void showWorkspace(bool isRead);
-  class OpeningClock;
   bool resolve(NetworkLoader &loader, const QString &path);
   void showOutcome(bool isRead, const OpeningClock &clock);
   void comeBack();
@@ -94,8 +93,6 @@ private:
   void takeSettings();
   void showTitle();
   void setBusy(bool busy);
-  QList<QPointer<QWidget>> otherWindows() const;
-  bool closeOthers();
 
   std::unique_ptr<Ui::NivraViewer> m_ui;
   NetData m_net;
