@@ -29,6 +29,7 @@ private slots:
   void opensWhatWasOpenedByKeys();
   void picturesAreOfTheNetwork();
   void missingFilesAreGreyAndCanBeRemoved();
+  void pathsAreNoMarkup();
   void menuOpensAndForgets();
   void dialogListsTheFolders();
   void dropsOpenAnywhere();
@@ -111,6 +112,15 @@ void TestStartPage::picturesAreOfTheNetwork() {
   recent.clear();
   openOnce(m_other.geometry()); // pictures of what is no longer listed go
   QVERIFY(Thumbnails::read(m_one.geometry()).isNull());
+}
+
+void TestStartPage::pathsAreNoMarkup() {
+  Remembering::forgetAll();
+  RecentFiles recent;
+  recent.add(QStringLiteral("/tmp/<b>none<b>/NET.geom.jsn"));
+  const RecentModel model(recent);
+  const QString tip = model.index(0, 0).data(Qt::ToolTipRole).toString();
+  QVERIFY2(tip.contains(QStringLiteral("&lt;b&gt;none")), qPrintable(tip));
 }
 
 void TestStartPage::missingFilesAreGreyAndCanBeRemoved() {
