@@ -1,5 +1,7 @@
 #include "batchjobs.h"
 
+#include <io/scenariofiles.h>
+
 #include <QCollator>
 #include <QDir>
 #include <QFileInfo>
@@ -22,21 +24,11 @@ QString caseFolderOf(const QString &path) {
   return isScenarioFile(path) ? QFileInfo(folder).absolutePath() : folder;
 }
 
-/// The scenario file of a folder, the one with the folder's name first; empty when there is none.
-QString scenarioFileIn(const QString &folder) {
-  const QDir directory(folder);
-  QStringList names = directory.entryList(
-      {QStringLiteral("*.scen.jsn"), QStringLiteral("*.scen.json"), QStringLiteral("*.scen")}, QDir::Files, QDir::Name);
-  const QString own = directory.dirName() + QStringLiteral(".scen");
-  std::stable_partition(names.begin(), names.end(), [&own](const QString &name) { return name.startsWith(own); });
-  return names.isEmpty() ? QString() : directory.filePath(names.first());
-}
-
 /// Names of the folders of a case that hold a scenario, as people count.
 QStringList scenariosOf(const QString &caseFolder) {
   QStringList names;
   for (const QString &name : QDir(caseFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-    if (!scenarioFileIn(caseFolder + QLatin1Char('/') + name).isEmpty())
+    if (!ScenarioFiles::in(caseFolder + QLatin1Char('/') + name, ScenarioFiles::Form::Any).isEmpty())
       names.append(name);
   }
   QCollator order(QLocale(QLocale::English, QLocale::UnitedStates));
@@ -118,7 +110,7 @@ void BatchJobs::addRuns(const JobsFile::Job &job) {
   if (scenarios.isEmpty())
     fail(tr("%1 has no scenario").arg(folder));
   for (const QString &scenario : scenarios) {
-    const QString found = scenarioFileIn(folder + QLatin1Char('/') + scenario);
+    const QString found = ScenarioFiles::in(folder + QLatin1Char('/') + scenario, ScenarioFiles::Form::Any);
     if (found.isEmpty())
       fail(tr("%1 has no scenario \"%2\"").arg(folder, scenario));
     else

@@ -2,22 +2,11 @@
 
 #include "networkloader.h"
 
+#include <base/fileaccess.h>
+#include <base/withoutboxes.h>
+#include <io/scenariofiles.h>
+
 #include <QDir>
-
-namespace {
-
-/// The scenario file of a folder, in the form of the open workspace: that of the folder's name where there are several.
-QString scenarioFile(const QString &folder, bool isJson) {
-  const QString suffix = isJson ? QStringLiteral(".scen.jsn") : QStringLiteral(".scen");
-  const QDir directory(folder);
-  const QString own = directory.dirName() + suffix;
-  if (QFileInfo(directory.filePath(own)).isFile())
-    return directory.filePath(own);
-  const QStringList files = directory.entryList({QLatin1Char('*') + suffix}, QDir::Files, QDir::Name);
-  return files.isEmpty() ? QString() : directory.filePath(files.first());
-}
-
-} // namespace
 
 PageFacts CaseScenarios::facts(const NivraWorkspace &workspace) {
   if (workspace.currentCase() == nullptr)
@@ -28,19 +17,24 @@ PageFacts CaseScenarios::facts(const NivraWorkspace &workspace) {
 ScenarioSource CaseScenarios::of(const NivraWorkspace &workspace) {
   const QString folder = workspace.caseDirectory();
   const QString geometry = workspace.geometryPath();
-  const bool isJson = workspace.isJson();
+  const QString root = workspace.root();
+  const auto form = workspace.isJson() ? ScenarioFiles::Form::Json : ScenarioFiles::Form::Text;
   ScenarioSource source;
-  source.names = [folder, isJson] {
+  source.names = [folder, form] {
     QStringList names;
     for (const QString &name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::LocaleAware)) {
-      if (!scenarioFile(QDir(folder).filePath(name), isJson).isEmpty())
+      if (!ScenarioFiles::in(QDir(folder).filePath(name), form).isEmpty())
         names.append(name);
     }
     return names;
   };
-  source.read = [folder, geometry, isJson](const QString &name, NetData &net, const Progress &progress, QString *reason) {
+  source.read = [folder, geometry, root, form](const QString &name, NetData &net, const Progress &progress,
+                                               QString *reason) {
+    const NivraMsg::WithoutBoxes quiet; // nobody sits beside a run of many pages; the log says it
     NetworkLoader loader(net);
-    if (!loader.resolve(scenarioFile(QDir(folder).filePath(name), isJson))) {
+    const bool isResolved = loader.resolve(ScenarioFiles::in(QDir(folder).filePath(name), form));
+    FileAccess::confineTo(root); // as for what is open
+    if (!isResolved) {
       *reason = loader.error();
       return false;
     }

@@ -1,6 +1,6 @@
 #include "elementfield.h"
 
-#include "elementfinder.h"
+#include "elementnames.h"
 
 #include <model/netdata.h>
 
@@ -42,7 +42,7 @@ void ElementField::offer() {
   if (!isEnabled() || !hasFocus())
     return; // another network is being read
   const QString sought = text().trimmed();
-  m_offered->setStringList(ElementFinder::namesWith(m_net, sought, MaximumOffered));
+  m_offered->setStringList(ElementNames::namesWith(m_net, sought, MaximumOffered));
   if (m_offered->rowCount() == 0)
     m_completer->popup()->hide();
   else
@@ -70,7 +70,7 @@ void ElementField::go() {
   const QString sought = text().trimmed();
   if (sought.isEmpty())
     return;
-  const QString name = ElementFinder::namesWith(m_net, sought, 1).value(0);
+  const QString name = ElementNames::namesWith(m_net, sought, 1).value(0);
   if (name.isEmpty()) {
     emit told(tr("No element has \"%1\" in its name").arg(sought));
     selectAll();

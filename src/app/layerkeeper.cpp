@@ -17,11 +17,20 @@ LayerKeeper::LayerKeeper(NetData &net, QWidget &window)
     , m_net(net)
     , m_window(window) {}
 
-void LayerKeeper::enter(const NivraWorkspace &workspace, const LayerValues &read) {
+void LayerKeeper::enter(const NivraWorkspace &workspace, const LayersOfCase &read) {
+  m_aside.reset();
   m_edits.clear();
-  m_edits.note(read);
   m_proposed = workspace.filePath(QStringLiteral("layers.csv"));
-  m_path = read.isEmpty() ? QString() : m_proposed;
+  m_path.clear();
+  take(read);
+}
+
+void LayerKeeper::take(const LayersOfCase &read) {
+  m_edits.noteRead(read.values);
+  if (m_path.isEmpty() && !read.values.isEmpty())
+    m_path = m_proposed;
+  if (m_path == m_proposed)
+    m_stamp = read.stamp;
 }
 
 void LayerKeeper::note(const ElementChange &change) {
@@ -31,7 +40,9 @@ void LayerKeeper::note(const ElementChange &change) {
 
 LayerValues LayerKeeper::unsaved() const {
   const bool isKept = m_edits.isChanged() && m_edits.count() <= Session::MostNames;
-  return isKept ? m_edits.values(m_net) : LayerValues();
+  if (!isKept)
+    return {};
+  return m_aside ? m_aside->own : m_edits.ownValues(m_net);
 }
 
 void LayerKeeper::putBack(const LayerValues &values) {
@@ -41,13 +52,30 @@ void LayerKeeper::putBack(const LayerValues &values) {
   }
 }
 
-void LayerKeeper::putBackAside() {
-  for (const ElementChange &change : LayerEdits::apply(m_net, std::exchange(m_aside, {})))
+void LayerKeeper::takeAside() {
+  m_aside = Aside{m_edits.values(m_net), m_edits.ownValues(m_net)};
+}
+
+void LayerKeeper::comeBack(const LayersOfCase &read) {
+  const Aside aside = std::exchange(m_aside, std::nullopt).value_or(Aside());
+  take(read);
+  for (const ElementChange &change : LayerEdits::apply(m_net, aside.own))
     emit elementsChanged(change);
 }
 
 bool LayerKeeper::save() {
-  return m_path.isEmpty() ? saveAs() : write(m_path);
+  if (m_path.isEmpty())
+    return saveAs();
+  return mayOverwrite() && write(m_path);
+}
+
+bool LayerKeeper::mayOverwrite() const {
+  using namespace NivraMsg;
+  const FileStamp present = FileStamp::of(m_path);
+  if (!present.isOfAFile() || present == m_stamp)
+    return true;
+  const QString question = tr("%1 was changed by another program or window since it was read. Overwrite?").arg(m_path);
+  return show({Kind::Question, question, {}, {Answer::Yes, Answer::No}, Answer::No}) == Answer::Yes;
 }
 
 bool LayerKeeper::saveAs() {
@@ -58,13 +86,19 @@ bool LayerKeeper::saveAs() {
 
 bool LayerKeeper::write(const QString &path) {
   QString reason;
-  if (!LayersFile::write(path, m_edits.values(m_net), &reason)) {
+  if (!LayersFile::write(path, m_aside ? m_aside->all : m_edits.values(m_net), &reason)) {
     NivraMsg::message(NivraMsg::Kind::Warning, reason);
     return false;
   }
-  m_path = path;
-  m_edits.setSaved();
+  const bool isOfTheCase = QFileInfo(path) == QFileInfo(m_proposed);
+  m_path = isOfTheCase ? m_proposed : path;
+  m_stamp = FileStamp::of(path);
+  if (isOfTheCase)
+    m_edits.setSavedWithCase();
+  else
+    m_edits.setSaved();
   emit edited();
+  emit written(m_path);
   return true;
 }
 

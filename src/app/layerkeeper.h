@@ -4,7 +4,7 @@
 
 #include <QObject>
 
-#include <vector>
+#include <optional>
 
 class NivraWorkspace;
 
@@ -17,7 +17,7 @@ public:
   LayerKeeper(NetData &net, QWidget &window);
 
   /// \param read of the case's own file of layers
-  void enter(const NivraWorkspace &workspace, const LayerValues &read);
+  void enter(const NivraWorkspace &workspace, const LayersOfCase &read);
   void note(const ElementChange &change);
   bool isUnsaved() const { return m_edits.isChanged(); }
   int count() const { return m_edits.count(); }
@@ -26,27 +26,37 @@ public:
   /// Edits that were not saved when the program ended.
   void putBack(const LayerValues &values);
 
-  /// Into the file that they came from or went to last; asks for it where there is none. False when nothing was written.
+  /// Into the file that they came from or went to last; asks for it where there is none, and whether to overwrite what
+  /// another program wrote there since. False when nothing was written.
   bool save();
   bool saveAs();
   void load();
   /// Nothing of it is to be saved any more.
   void discard() { m_edits.setSaved(); }
-  /// Before and after the network is read again: the layers that were edited come back.
-  void takeAside() { m_aside = m_edits.values(m_net); }
-  void putBackAside();
+  /// Before the network is read again: until it stands again, what is taken aside is what can be saved.
+  void takeAside();
+  /// The network stands again: the layers that were edited come back, over those of the case's file as it is now.
+  void comeBack(const LayersOfCase &read);
 
 signals:
   void edited();
+  void written(const QString &path); ///< by save() or saveAs()
   void elementsChanged(const ElementChange &change);
 
 private:
+  struct Aside {
+    LayerValues all;
+    LayerValues own; ///< without those that the case's file says
+  };
+  void take(const LayersOfCase &read);
+  bool mayOverwrite() const;
   bool write(const QString &path);
 
   NetData &m_net;
   QWidget &m_window;
   LayerEdits m_edits;
-  LayerValues m_aside; ///< while the network is read again
-  QString m_proposed;  ///< in the folder of the case
-  QString m_path;      ///< empty before the first file
+  std::optional<Aside> m_aside; ///< until the network could be read again
+  QString m_proposed;           ///< in the folder of the case
+  QString m_path;               ///< empty before the first file
+  FileStamp m_stamp;            ///< of the file there, as it was read or written
 };

@@ -102,7 +102,7 @@ bool NetworkLoader::readNetwork(const ReadOptions &options) {
   const bool isRead = readStages(options);
   for (const auto &[path, stamp] : notes.stamps())
     m_read.emplace(path, stamp);
-  m_read.erase(layersFile(m_workspace)); // which the program writes
+  m_read.emplace(layersFile(m_workspace), FileStamp()); // may come
   return isRead;
 }
 
@@ -115,6 +115,7 @@ bool NetworkLoader::readStages(const ReadOptions &options) {
   };
   m_noticed.clear();
   m_machines = MachineData();
+  m_layers = {};
   m_formulas.setDefinitions({}); // which speak of the network before
   NivraReader reader(m_net, logFinding);
   NivraReader::Options readerOptions;
@@ -153,12 +154,12 @@ void NetworkLoader::awaitResults(const NivraReader &reader) {
 
 void NetworkLoader::readLayers() {
   const QString path = layersFile(m_workspace);
-  m_layers.clear();
+  m_layers.stamp = FileStamp::of(path);
   if (!QFileInfo::exists(path))
     return;
   Findings findings;
-  m_layers = LayersFile::read(path, FileAccess::Source::Workspace, findings);
-  LayerEdits::apply(m_net, m_layers);
+  m_layers.values = LayersFile::read(path, FileAccess::Source::Workspace, findings);
+  LayerEdits::apply(m_net, m_layers.values);
   report(findings);
   notice(tr("Layers"), std::move(findings));
 }

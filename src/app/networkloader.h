@@ -64,13 +64,12 @@ public:
   const QString &templateFolder() const { return m_templateFolder; }
   /// Of the scenario's compressor database; empty without one.
   const MachineData &machines() const { return m_machines; }
-  /// The files of the workspace that were read, as they were then, and results that may come beside them. Without those
-  /// that the program writes itself.
+  /// The files of the workspace that were read, as they were then, and results and layers that may come beside them.
   const ReadFiles::Stamps &files() const { return m_read; }
   /// Why the network that was read cannot be read again; empty when it can.
   QString fault() const;
   /// Of the case's "layers.csv", which lies over those of the network.
-  const LayerValues &layers() const { return m_layers; }
+  const LayersOfCase &layers() const { return m_layers; }
   /// Computes what depends on the changes.
   void computeAgain(const std::vector<ElementChange> &changes);
   /// Tells violated bounds anew, as units or numbers are written in another way.
@@ -103,7 +102,7 @@ private:
   ScenarioSummary::Files m_files;
   MachineData m_machines;
   ReadFiles::Stamps m_read;
-  LayerValues m_layers;
+  LayersOfCase m_layers;
   QString m_templateFolder;
   ConsistencyCheck::PruneResult m_removed;
   std::vector<FormulaDefinition> m_templateDefinitions; ///< of the assembled subnets

@@ -9,6 +9,8 @@
 #include "logo.h"
 #include "mnemonics.h"
 #include "opendialog.h"
+#include "openingclock.h"
+#include "otherwindows.h"
 #include "outcomestyle.h"
 #include "recentmenu.h"
 #include "reloadoffer.h"
@@ -34,7 +36,6 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMimeData>
@@ -64,17 +65,6 @@ private:
 };
 
 } // namespace
-
-/// How long an opening takes, without the time for which a person was asked.
-class NivraViewer::OpeningClock {
-public:
-  OpeningClock() { m_timer.start(); }
-  qint64 elapsed() const { return m_timer.elapsed() - (NivraMsg::waitedForAnswers() - m_waitedBefore); }
-
-private:
-  QElapsedTimer m_timer;
-  qint64 m_waitedBefore = NivraMsg::waitedForAnswers();
-};
 
 NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
@@ -127,8 +117,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   setAcceptDrops(true);
   setUpFileMenu();
   setUpReloading();
-  GeneralSettings::instance().load(QString(), logFinding);
-  NumberLocale::apply();
+  loadSettings();
   m_control->clear();
 }
 
@@ -151,16 +140,28 @@ void NivraViewer::setUpFileMenu() {
 void NivraViewer::setUpReloading() {
   connect(m_reloadOffer, &ReloadOffer::reloadWanted, this, &NivraViewer::reload);
   connect(m_reloadOffer, &ReloadOffer::ignored, m_control->plot(), [this] { m_control->plot()->setFocus(); });
+  connect(m_layers, &LayerKeeper::written, this, [this](const QString &path) { m_reloadOffer->accept({path}); });
+  connect(m_control.get(), &NetVisControl::styleFilesNoted, this, &NivraViewer::acceptStyleFiles);
   connect(m_layers, &LayerKeeper::elementsChanged, this, &NivraViewer::addChange);
   connect(m_tools, &ToolDocks::elementsChanged, m_layers, &LayerKeeper::note);
   connect(m_tools, &ToolDocks::saveLayersWanted, m_layers, &LayerKeeper::saveAs);
   connect(m_tools, &ToolDocks::loadLayersWanted, m_layers, &LayerKeeper::load);
 }
 
+/// They were read or written here just now.
+void NivraViewer::acceptStyleFiles() {
+  const NivraWorkspace &workspace = m_loader.workspace();
+  m_reloadOffer->accept(
+      {workspace.filePath(QStringLiteral("plotsettings.ini")), workspace.filePath(QStringLiteral("vfd.csv"))});
+}
+
 void NivraViewer::remember(WorkspaceMemory::Keeps keeps) {
   m_memory->setKeeps(keeps);
   if (keeps != WorkspaceMemory::Keeps::Nothing) // once the window stands
-    QTimer::singleShot(0, m_ui->label, [this] { m_ui->label->showRecent(m_memory->recent()); });
+    QTimer::singleShot(0, m_ui->label, [this] {
+      if (centralWidget() == m_ui->label) // and not a drawing already
+        m_ui->label->showRecent(m_memory->recent());
+    });
 }
 
 void NivraViewer::setUpForm() {
@@ -228,13 +229,24 @@ void NivraViewer::open(const QString &path) {
     return; // a drop or a shortcut while the network is being read
   if (path.endsWith(QStringLiteral(".qss")))
     applyStyleSheet(path);
-  else if (settleChanges())
+  else
     openWorkspace(path);
 }
 
-/// Before another case: false when a person wants to stay with changes that are not saved.
-bool NivraViewer::settleChanges() {
+std::vector<UnsavedEdits::Kind> NivraViewer::unsavedInSubnets() const {
+  std::vector<UnsavedEdits::Kind> kinds;
+  for (SubnetWindow *window : subnetWindows()) {
+    for (UnsavedEdits::Kind &kind : window->unsaved())
+      kinds.push_back(std::move(kind));
+  }
+  return kinds;
+}
+
+/// Before another case; nothing is discarded yet.
+UnsavedEdits::Answer NivraViewer::settleChanges() {
   std::vector<UnsavedEdits::Kind> kinds = m_tools->unsaved();
+  for (UnsavedEdits::Kind &kind : unsavedInSubnets())
+    kinds.push_back(std::move(kind));
   if (m_layers->isUnsaved())
     kinds.push_back({tr("layers of elements (%1)").arg(m_layers->count()),
                      tr("The layers of elements have changes that are not saved. Save them?"), [this] {
@@ -244,10 +256,7 @@ bool NivraViewer::settleChanges() {
     kinds.push_back({tr("how the network is drawn"), tr("How the network is drawn is not saved. Save it?"), [this] {
                        return m_tools->saveStyle();
                      }});
-  const UnsavedEdits::Answer answer = UnsavedEdits::settle(kinds);
-  if (answer == UnsavedEdits::Answer::Discarded)
-    m_layers->discard();
-  return answer != UnsavedEdits::Answer::Stay;
+  return UnsavedEdits::settle(kinds);
 }
 
 void NivraViewer::applyStyleSheet(const QString &path) {
@@ -259,39 +268,53 @@ void NivraViewer::applyStyleSheet(const QString &path) {
     NivraMsg::logWarning(tr("Cannot read the style sheet %1").arg(reason));
 }
 
+bool NivraViewer::resolve(NetworkLoader &loader, const QString &path) {
+  m_ui->statusbar->setStyleSheet(QString());
+  if (loader.resolve(path)) {
+    if (m_loader.workspace().isValid()) // what is open may stay so
+      FileAccess::confineTo(m_loader.workspace().root());
+    return true;
+  }
+  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::Failed));
+  m_ui->statusbar->showMessage(tr("Invalid Workspace"));
+  if (NivraMsg::showsBoxes()) // else the log has said it already
+    NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
+  return false;
+}
+
 void NivraViewer::openWorkspace(const QString &path) {
   NivraMsg::debug(QStringLiteral("opening file ") + path);
   const OpeningClock clock;
-  m_memory->keep(); // before the files of another workspace are the ones to be read
   NetworkLoader loader(m_net);
-  m_ui->statusbar->setStyleSheet(QString());
-  if (!loader.resolve(path)) {
-    m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::Failed));
-    m_ui->statusbar->showMessage(tr("Invalid Workspace"));
-    if (NivraMsg::showsBoxes()) // else the log has said it already
-      NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
+  if (!resolve(loader, path))
     return;
-  }
+  const UnsavedEdits::Answer answer = settleChanges();
+  if (answer == UnsavedEdits::Answer::Stay)
+    return;
+  if (answer == UnsavedEdits::Answer::Discarded)
+    m_layers->discard();
+  m_memory->keep();
   m_memory->leave();
   m_loader.useWorkspaceOf(loader);
   LastFolder::ofOpening().remember(path); // from wherever it came
   if (centralWidget() != m_control->plot())
     setCentralWidget(m_control->plot());
-  QCoreApplication::processEvents();
-  GeneralSettings::instance().load(m_loader.workspace().root(), logFinding);
-  NumberLocale::apply();
-  if (Settings::StartWithLastScenario.value())
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // which would meet half of two cases
+  loadSettings();
+  if (Settings::StartWithLastScenario.value() && !m_memory->isClean())
     useLastScenario();
   const bool done = readWorkspace();
+  m_isRead = done && !m_net.isEmpty();
   m_layers->enter(m_loader.workspace(), m_loader.layers());
   m_tools->refresh(m_loader.workspace());
   showWorkspace(done);
-  if (done)
+  if (m_isRead)
     m_memory->enter(m_loader.workspace());
   m_reloadOffer->hideBar(); // also where the window was left with it
-  if (done && m_loader.workspace().hasScenario())
+  if (m_isRead && !m_memory->isClean() && m_loader.workspace().hasScenario())
     LastScenario::remember(m_loader.workspace().caseDirectory(), m_loader.workspace().chosenPath());
   showOutcome(done, clock);
+  closeIfWanted();
 }
 
 /// Tells how the opening went.
@@ -314,29 +337,64 @@ void NivraViewer::reload() {
     m_reloadOffer->tellFault(fault.isEmpty() ? loader.error() : fault);
     return;
   }
-  m_memory->keep();
-  const Session before = m_memory->gathered();
-  m_layers->takeAside();
-  m_memory->leave();
+  if (UnsavedEdits::settle(unsavedInSubnets()) == UnsavedEdits::Answer::Stay)
+    return;       // those windows go
+  if (m_isRead) { // else there is nothing to be taken, or it is aside since a reading that failed
+    m_memory->takeAside();
+    m_layers->takeAside();
+  }
   m_loader.useWorkspaceOf(loader);
+  loadSettings();
   const bool done = readWorkspace();
+  m_isRead = done && !m_net.isEmpty(); // of a broken file nothing may be left
   m_tools->refresh(m_loader.workspace(), ToolDocks::Edits::Kept);
   showWorkspace(done);
-  if (done) {
-    m_layers->putBackAside();
-    m_memory->enterAgain(m_loader.workspace(), before);
-  }
+  if (m_isRead)
+    comeBack();
   showOutcome(done, clock);
+  closeIfWanted();
+}
+
+void NivraViewer::comeBack() {
+  if (m_memory->isAside()) {
+    m_layers->comeBack(m_loader.layers());
+    m_memory->comeBack();
+  } else { // it could not be read before
+    m_layers->enter(m_loader.workspace(), m_loader.layers());
+    m_memory->enter(m_loader.workspace());
+  }
+}
+
+/// A window that was to be closed while it read asks now for what is not saved, and goes.
+void NivraViewer::closeIfWanted() {
+  if (std::exchange(m_closesThen, false))
+    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+void NivraViewer::loadSettings() {
+  const QString root = m_loader.workspace().root();
+  m_settingsRead = FileStamp::of(GeneralSettings::settingsFile(root));
+  GeneralSettings::instance().load(root, logFinding);
+  NumberLocale::apply();
+}
+
+ReadFiles::Stamps NivraViewer::filesShown() const {
+  const NivraWorkspace &workspace = m_loader.workspace();
+  ReadFiles::Stamps files = m_loader.files();
+  files.emplace(workspace.filePath(QStringLiteral("plotsettings.ini")), m_control->styleFiles().settings);
+  files.emplace(workspace.filePath(QStringLiteral("vfd.csv")), m_control->styleFiles().labels);
+  files.emplace(GeneralSettings::settingsFile(workspace.root()), m_settingsRead);
+  return files;
 }
 
 /// Beside the drawing.
 void NivraViewer::showWorkspace(bool isRead) {
   m_control->plot()->setFocus(); // the keys are for the network that was asked for
   m_reload->setEnabled(true);
-  m_reloadOffer->watch(isRead ? m_loader.files() : ReadFiles::Stamps());
+  m_reloadOffer->watch(isRead ? filesShown() : ReadFiles::Stamps());
   m_tools->setFindings(m_loader.noticed());
   m_tools->setScenario(m_loader.scenarioSummary());
-  m_tools->setMachines(m_loader.machines());
+  m_tools->setMachines(m_loader.machines(), m_memory->isClean() ? ToolDocks::Pages::New : ToolDocks::Pages::Kept);
   m_control->setPageFacts(CaseScenarios::facts(m_loader.workspace()), CaseScenarios::of(m_loader.workspace()));
   showTitle();
 }
@@ -422,6 +480,7 @@ void NivraViewer::openSubnet(const QString &name) {
           [this](const QString &picked) { elementAction(picked, NetPicker::EleAction::Mark); });
   connect(window, &SubnetWindow::elementsChanged, this, &NivraViewer::addChange);
   connect(window, &SubnetWindow::elementsChanged, m_layers, &LayerKeeper::note);
+  connect(window->visControl(), &NetVisControl::styleFilesNoted, this, &NivraViewer::acceptStyleFiles);
   connect(window->visControl(), &NetVisControl::openCharacteristicsRequested, m_tools, &ToolDocks::openCharacteristics);
   window->show();
 }
@@ -453,8 +512,8 @@ void NivraViewer::on_actionSettings_triggered() {
 }
 
 void NivraViewer::takeSettings() {
-  GeneralSettings::instance().load(m_loader.workspace().root(), logFinding);
-  NumberLocale::apply();
+  loadSettings();
+  m_reloadOffer->accept({GeneralSettings::settingsFile(m_loader.workspace().root())});
   if (!m_loader.workspace().isValid())
     return;
   m_loader.tellBoundsAgain();
@@ -483,7 +542,7 @@ void NivraViewer::setBusy(bool busy) {
   QWidgetList widgets{m_ui->menubar, m_commands->toolBar(), m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
     widgets.append(dock);
-  for (const QPointer<QWidget> &window : otherWindows())
+  for (const QPointer<QWidget> &window : OtherWindows::beside(*this))
     widgets.append(window);
   for (QWidget *widget : qAsConst(widgets))
     widget->setEnabled(!busy);
@@ -520,34 +579,23 @@ void NivraViewer::dropEvent(QDropEvent *event) {
 }
 
 void NivraViewer::closeEvent(QCloseEvent *event) {
-  if (m_progress != nullptr)
-    m_progress->cancel(); // reading ends at its next step, then the window goes
-  else if (!settleChanges()) {
+  if (m_progress != nullptr) {
+    m_progress->cancel(); // reading ends at its next step
+    m_closesThen = true;
+    event->ignore();
+    return;
+  }
+  const UnsavedEdits::Answer answer = settleChanges();
+  if (answer == UnsavedEdits::Answer::Stay) {
     event->ignore();
     return;
   }
   QMainWindow::closeEvent(event);
-  if (event->isAccepted() && !closeOthers())
+  if (event->isAccepted() && !OtherWindows::close(*this))
     event->ignore();
-  if (event->isAccepted())
-    m_memory->keep();
-}
-
-/// Tables and the guide, which are windows without a parent.
-QList<QPointer<QWidget>> NivraViewer::otherWindows() const {
-  QList<QPointer<QWidget>> others;
-  for (QWidget *window : QApplication::topLevelWidgets()) {
-    if (window != this && window->parentWidget() == nullptr)
-      others.append(window);
-  }
-  return others;
-}
-
-/// Windows without a parent would keep the program alive. False when one of them refuses.
-bool NivraViewer::closeOthers() {
-  for (const QPointer<QWidget> &window : otherWindows()) {
-    if (window != nullptr && window->isVisible() && !window->close())
-      return false;
-  }
-  return true;
+  if (!event->isAccepted())
+    return;
+  if (answer == UnsavedEdits::Answer::Discarded)
+    m_layers->discard();
+  m_memory->keep();
 }

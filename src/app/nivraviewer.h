@@ -2,6 +2,7 @@
 
 #include "networkloader.h"
 #include "outcomestyle.h"
+#include "unsavededits.h"
 #include "workspacememory.h"
 
 #include <base/onceperturn.h>
@@ -10,7 +11,6 @@
 #include <view/netpicker.h>
 
 #include <QMainWindow>
-#include <QPointer>
 
 #include <memory>
 #include <vector>
@@ -20,6 +20,7 @@ class Commands;
 class LayerKeeper;
 class LoadProgress;
 class NetVisControl;
+class OpeningClock;
 class ReloadOffer;
 class SubnetWindow;
 class ToolDocks;
@@ -68,13 +69,19 @@ private:
   void setUpForm();
   void setUpFileMenu();
   void setUpReloading();
+  void acceptStyleFiles();
   void setUpCommands();
   void applyStyleSheet(const QString &path);
   void openWorkspace(const QString &path);
   void showWorkspace(bool isRead);
-  class OpeningClock;
+  bool resolve(NetworkLoader &loader, const QString &path);
   void showOutcome(bool isRead, const OpeningClock &clock);
-  bool settleChanges();
+  void comeBack();
+  std::vector<UnsavedEdits::Kind> unsavedInSubnets() const;
+  UnsavedEdits::Answer settleChanges();
+  void loadSettings();
+  ReadFiles::Stamps filesShown() const;
+  void closeIfWanted();
   void useLastScenario();
   OutcomeStyle::Outcome outcome(bool isDone) const;
   bool readWorkspace();
@@ -86,8 +93,6 @@ private:
   void takeSettings();
   void showTitle();
   void setBusy(bool busy);
-  QList<QPointer<QWidget>> otherWindows() const;
-  bool closeOthers();
 
   std::unique_ptr<Ui::NivraViewer> m_ui;
   NetData m_net;
@@ -103,4 +108,7 @@ private:
   std::vector<ElementChange> m_changes; ///< since the last showChanges()
   OncePerTurn m_showingChanges;
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read
+  FileStamp m_settingsRead;           ///< of the general settings of the workspace
+  bool m_isRead = false;              ///< what is shown: the last reading yielded a network
+  bool m_closesThen = false;          ///< once reading has ended
 };

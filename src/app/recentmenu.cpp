@@ -3,6 +3,8 @@
 #include "recentfiles.h"
 #include "thumbnails.h"
 
+#include <tools/plaintip.h>
+
 #include <QFileInfo>
 #include <QProxyStyle>
 
@@ -43,16 +45,20 @@ void RecentMenu::fill() {
   }
   clear();
   m_files.read();
+  const auto *above = qobject_cast<QMenu *>(parentWidget());
+  const bool isSeen = above == nullptr || above->isVisible(); // else the names alone are asked for, and no disk is
   int number = 0;
   bool isAnyMissing = false;
   for (const RecentFile &file : m_files.all()) {
     if (++number > Shown)
       break;
-    QAction *action = addAction(QIcon(QPixmap::fromImage(Thumbnails::read(file.path))), entryText(file, number));
-    const bool isThere = QFileInfo(file.path).isFile();
+    QAction *action = addAction(entryText(file, number));
+    if (isSeen)
+      action->setIcon(QIcon(QPixmap::fromImage(Thumbnails::read(file.path))));
+    const bool isThere = !isSeen || QFileInfo(file.path).isFile();
     isAnyMissing = isAnyMissing || !isThere;
     action->setEnabled(isThere);
-    action->setToolTip(isThere ? file.path : tr("%1 is no longer there").arg(file.path));
+    action->setToolTip(PlainTip::of(isThere ? file.path : tr("%1 is no longer there").arg(file.path)));
     connect(action, &QAction::triggered, this, [this, path = file.path] { emit fileWanted(path); });
   }
   if (m_files.all().empty()) {
@@ -61,6 +67,6 @@ void RecentMenu::fill() {
   }
   addSeparator();
   QAction *missing = addAction(tr("Remove &Missing Files"), &m_files, &RecentFiles::removeMissing);
-  missing->setEnabled(isAnyMissing);
+  missing->setEnabled(isAnyMissing || !isSeen);
   addAction(tr("&Clear List"), &m_files, &RecentFiles::clearAsked);
 }

@@ -4,6 +4,7 @@
 #include "thumbnails.h"
 
 #include <base/index.h>
+#include <tools/plaintip.h>
 
 #include <QFileInfo>
 #include <QLocale>
@@ -44,7 +45,7 @@ QVariant RecentModel::data(const QModelIndex &index, int role) const {
   case Qt::AccessibleTextRole:
     return description(index.row());
   case Qt::ToolTipRole:
-    return isThere ? file.path : tr("%1\nis no longer there. Delete takes it from the list.").arg(file.path);
+    return PlainTip::of(isThere ? file.path : tr("%1\nis no longer there. Delete takes it from the list.").arg(file.path));
   case Qt::DecorationRole:
     if (!m_pictures.contains(file.path))
       m_pictures.insert(file.path, Thumbnails::read(file.path));

@@ -35,7 +35,7 @@ ReloadBar::ReloadBar(QWidget *parent)
   m_text->setTextFormat(Qt::PlainText); // names of files
   m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   m_reload->setToolTip(tr("Read the files again; view, selection, styles and layers stay (F5)"));
-  auto *ignore = new QPushButton(tr("I&gnore"));
+  auto *ignore = new QPushButton(tr("Ig&nore"));
   ignore->setToolTip(tr("Go on with what was read before"));
   row->addWidget(m_text, 1);
   row->addWidget(m_reload);

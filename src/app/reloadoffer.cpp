@@ -9,8 +9,10 @@ ReloadOffer::ReloadOffer(QMainWindow &window)
     : QObject(&window)
     , m_window(window)
     , m_watcher(new WorkspaceWatcher(window)) {
-  connect(m_watcher, &WorkspaceWatcher::changed, this,
-          [this](const QStringList &changed, const QStringList &gone) { bar().tell(changed, gone); });
+  connect(m_watcher, &WorkspaceWatcher::changed, this, [this](const QStringList &changed, const QStringList &gone) {
+    if (m_bar != nullptr || !changed.isEmpty() || !gone.isEmpty())
+      bar().tell(changed, gone);
+  });
 }
 
 ReloadBar &ReloadOffer::bar() {
@@ -31,6 +33,10 @@ ReloadBar &ReloadOffer::bar() {
 void ReloadOffer::watch(const ReadFiles::Stamps &files) {
   m_watcher->watch(files);
   hideBar();
+}
+
+void ReloadOffer::accept(const QStringList &paths) {
+  m_watcher->accept(paths);
 }
 
 void ReloadOffer::hideBar() {

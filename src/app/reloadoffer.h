@@ -16,6 +16,8 @@ public:
 
   /// In place of the files before; what was offered is withdrawn.
   void watch(const ReadFiles::Stamps &files);
+  /// These were written by the program itself.
+  void accept(const QStringList &paths);
   /// Withdraws it also where the window was kept with it.
   void hideBar();
   /// Why the files cannot be read again.

@@ -12,6 +12,8 @@
 #include <QEvent>
 #include <QMainWindow>
 
+#include <utility>
+
 SessionKeeper::SessionKeeper(QMainWindow &window, NetVisControl &control, ToolDocks &tools, LayerKeeper &layers)
     : QObject(&window)
     , m_window(window)
@@ -43,24 +45,33 @@ void SessionKeeper::touch() {
     m_changed.start();
 }
 
-FileStamp SessionKeeper::stampOf(const char *name) const {
-  return FileStamp::of(QStringLiteral("%1/%2").arg(m_case, QLatin1String(name)));
-}
-
 void SessionKeeper::enter(const NivraWorkspace &workspace) {
-  keepFor(workspace);
-  if (const std::optional<Session> session = SessionStore::read(m_case))
-    putBack(*session, true);
-}
-
-void SessionKeeper::keepFor(const NivraWorkspace &workspace) {
+  m_aside.reset();
   m_case = workspace.caseDirectory();
   m_kept.clear();
+  std::optional<Session> session = SessionStore::read(m_case);
+  if (!session)
+    return;
+  putBackWindow(*session);
+  session->style = styleOf(*session);
+  m_layers.putBack(session->layerEdits);
+  putBack(*session);
 }
 
 void SessionKeeper::leave() {
   m_changed.stop();
   m_case.clear();
+  m_aside.reset();
+}
+
+void SessionKeeper::takeAside() {
+  if (!m_aside)
+    m_aside = gathered();
+}
+
+void SessionKeeper::comeBack() {
+  if (const std::optional<Session> before = std::exchange(m_aside, std::nullopt))
+    putBack(*before);
 }
 
 void SessionKeeper::keep() {
@@ -79,6 +90,11 @@ void SessionKeeper::keep() {
 }
 
 Session SessionKeeper::gathered() const {
+  if (m_aside) {
+    Session session = *m_aside;
+    session.layerEdits = m_layers.unsaved(); // which may have been saved or discarded since
+    return session;
+  }
   Session session;
   const NetPlot &plot = *m_control.plot();
   session.geometry = m_window.saveGeometry();
@@ -91,31 +107,28 @@ Session SessionKeeper::gathered() const {
   session.layerProperty = layers.property();
   session.hiddenLayers = layers.hidden();
   session.style = m_control.ownStyle();
-  session.settingsFile = stampOf("plotsettings.ini");
-  session.labelsFile = stampOf("vfd.csv");
+  session.settingsFile = m_control.styleFiles().settings;
+  session.labelsFile = m_control.styleFiles().labels;
   session.layerEdits = m_layers.unsaved();
   return session;
 }
 
-void SessionKeeper::putBack(const Session &session, bool withWindow) {
-  if (withWindow) {
-    if (!session.geometry.isEmpty())
-      m_window.restoreGeometry(session.geometry);
-    if (!session.docks.isEmpty())
-      m_window.restoreState(session.docks);
-  }
-  if (withWindow)
-    putBackStyle(session);
-  else
-    m_control.setOwnStyle(session.style);
+void SessionKeeper::putBackWindow(const Session &session) {
+  if (!session.geometry.isEmpty())
+    m_window.restoreGeometry(session.geometry);
+  if (!session.docks.isEmpty())
+    m_window.restoreState(session.docks);
+}
+
+void SessionKeeper::putBack(const Session &session) {
+  m_control.setOwnStyle(session.style);
   if (!session.layerProperty.isEmpty())
     m_tools.setHiddenLayers(session.layerProperty, session.hiddenLayers);
-  m_layers.putBack(session.layerEdits);
   putBackView(session);
 }
 
 /// The later of the two counts: files that somebody wrote since are newer than what was tried beside those before.
-void SessionKeeper::putBackStyle(const Session &session) {
+NetVisControl::OwnStyle SessionKeeper::styleOf(const Session &session) const {
   NetVisControl::OwnStyle style = session.style;
   const auto drop = [](QByteArray &text, bool isOutdated, const QString &name) {
     if (text.isEmpty() || !isOutdated)
@@ -123,9 +136,10 @@ void SessionKeeper::putBackStyle(const Session &session) {
     text.clear();
     NivraMsg::log(tr("%1 was written since this case was open here, so it decides how the network is drawn.").arg(name));
   };
-  drop(style.settings, stampOf("plotsettings.ini") != session.settingsFile, QStringLiteral("plotsettings.ini"));
-  drop(style.labels, stampOf("vfd.csv") != session.labelsFile, QStringLiteral("vfd.csv"));
-  m_control.setOwnStyle(style);
+  const NetVisControl::StyleFiles &files = m_control.styleFiles();
+  drop(style.settings, files.settings != session.settingsFile, QStringLiteral("plotsettings.ini"));
+  drop(style.labels, files.labels != session.labelsFile, QStringLiteral("vfd.csv"));
+  return style;
 }
 
 void SessionKeeper::putBackView(const Session &session) {

@@ -19,24 +19,25 @@ public:
 
   /// Puts back what is kept of the case, and keeps what changes from now on.
   void enter(const NivraWorkspace &workspace);
-  /// Keeps what changes of the case from now on.
-  void keepFor(const NivraWorkspace &workspace);
   /// Keeps it at once.
   void keep();
   void leave();
 
-  Session gathered() const;
-  /// \param withWindow also where the window and its docks are
-  void putBack(const Session &session, bool withWindow);
+  /// Before the network is read again: until it stands again, what was is kept.
+  void takeAside();
+  /// The network stands again.
+  void comeBack();
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
   void touch();
-  void putBackStyle(const Session &session);
+  Session gathered() const;
+  void putBackWindow(const Session &session);
+  void putBack(const Session &session);
+  NetVisControl::OwnStyle styleOf(const Session &session) const;
   void putBackView(const Session &session);
-  FileStamp stampOf(const char *name) const;
 
   QMainWindow &m_window;
   NetVisControl &m_control;
@@ -44,5 +45,6 @@ private:
   LayerKeeper &m_layers;
   QString m_case; ///< its folder; empty while nothing is kept
   QByteArray m_kept;
-  QTimer m_changed; ///< since a change that is not kept yet
+  std::optional<Session> m_aside; ///< until the network could be read again
+  QTimer m_changed;               ///< since a change that is not kept yet
 };

@@ -13,6 +13,7 @@
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 
+#include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -69,6 +70,20 @@ void SubnetWindow::fillMenus() {
   QMenu *view = menuBar()->addMenu(tr("View"));
   connect(view, &QMenu::aboutToShow, m_tools, [this, view] { m_tools->fillViewMenu(*view); });
   Mnemonics::assign(menuBar()->actions());
+}
+
+std::vector<UnsavedEdits::Kind> SubnetWindow::unsaved() {
+  std::vector<UnsavedEdits::Kind> kinds = m_tools->unsaved();
+  for (UnsavedEdits::Kind &kind : kinds)
+    kind.name = tr("%1 (%2)").arg(kind.name, windowTitle());
+  return kinds;
+}
+
+void SubnetWindow::closeEvent(QCloseEvent *event) {
+  if (UnsavedEdits::settle(unsaved()) == UnsavedEdits::Answer::Stay)
+    event->ignore();
+  else
+    QMainWindow::closeEvent(event);
 }
 
 void SubnetWindow::giveProperty(const ElementChange &change) {

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "unsavededits.h"
+
 #include <model/elementchange.h>
 #include <model/netdata.h>
 
 #include <QMainWindow>
 
 #include <memory>
+#include <vector>
 
 class CategoryList;
 class NetVisControl;
@@ -30,6 +33,8 @@ public:
   void takeProperties();
   /// After general settings have changed.
   void takeSettings();
+  /// What would go with the window.
+  std::vector<UnsavedEdits::Kind> unsaved();
 
   /// The pins, elements and the edges between them; empty when there is no such subnet.
   static NetData part(const NetData &net, const QString &subnet);
@@ -37,6 +42,9 @@ public:
 signals:
   void elementMarked(const QString &name);
   void elementsChanged(const ElementChange &change); ///< in the network, as here
+
+protected:
+  void closeEvent(QCloseEvent *event) override;
 
 private:
   void fillMenus();

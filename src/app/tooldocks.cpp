@@ -160,8 +160,13 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
   if (m_characteristics != nullptr)
     m_characteristics->setPageFacts(CaseScenarios::facts(workspace));
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), m_control.labelsRead(),
-                   workspace.filePath(QStringLiteral("plotsettings.ini")));
-  m_draw->refresh();
+                   workspace.filePath(QStringLiteral("plotsettings.ini")), m_control.styleFiles().settings);
+  if (edits == Edits::Dropped) {
+    m_draw->refresh();
+  } else {
+    m_draw->changeUnits(); // the settings may be others too
+    m_draw->refreshUntouched();
+  }
   m_shown.clear();
   m_propViewer->showCurrentEleContents(nullptr);
   m_info->reset();
@@ -202,10 +207,11 @@ void ToolDocks::createCharacteristics() {
   connect(&m_control, &NetVisControl::openCharacteristicsRequested, this, &ToolDocks::openCharacteristics);
 }
 
-void ToolDocks::setMachines(const MachineData &machines) {
+void ToolDocks::setMachines(const MachineData &machines, Pages pages) {
   m_characteristics->setCase(QString()); // the pages of the case before are no longer kept
   m_characteristics->setMachines(machines);
-  m_characteristics->setCase(m_directory);
+  if (pages == Pages::Kept)
+    m_characteristics->setCase(m_directory);
 }
 
 void ToolDocks::openCharacteristics(const QStringList &names) {
@@ -254,7 +260,7 @@ NivraVecTable *ToolDocks::vectorTable() {
 
 std::vector<UnsavedEdits::Kind> ToolDocks::unsaved() {
   std::vector<UnsavedEdits::Kind> kinds;
-  if (m_categories != nullptr && m_categories->hasChanges())
+  if (m_extent == Extent::Program && m_categories != nullptr && m_categories->hasChanges()) // those of all windows
     kinds.push_back({tr("categories"), tr("The categories have changes that are not saved. Save them?"), [this] {
                        return m_categories->save();
                      }});
@@ -332,7 +338,8 @@ void ToolDocks::showHelp(const QString &page) {
 
 void ToolDocks::createDraw() {
   m_draw = new viewFuncDialog(*m_control.plot());
-  connect(&m_control, &NetVisControl::styleChanged, m_draw, &viewFuncDialog::refresh);
+  connect(&m_control, &NetVisControl::styleChanged, m_draw, &viewFuncDialog::refreshUntouched);
+  connect(m_draw, &viewFuncDialog::filesTaken, &m_control, &NetVisControl::noteStyleFiles);
   auto *dock = new QDockWidget(m_draw->windowTitle(), &m_window);
   dock->setWidget(m_draw);
   addDock(dock, QStringLiteral("configureDraw"), Qt::RightDockWidgetArea);
@@ -348,7 +355,7 @@ void ToolDocks::showDrawConfiguration() {
 
 void ToolDocks::showDrawSettings() {
   if (m_draw != nullptr)
-    m_draw->showSettings();
+    m_draw->refreshUntouched();
 }
 
 void ToolDocks::createElement() {

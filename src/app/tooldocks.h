@@ -51,7 +51,7 @@ public:
             Extent extent = Extent::Program);
   ~ToolDocks() override;
 
-  /// Whether categories that are not saved stay when the case is read.
+  /// Whether what was changed in the tools and is not saved stays when the case is read.
   enum class Edits { Dropped, Kept };
   /// Makes what is not there yet and shows the network that was just read.
   void refresh(const NivraWorkspace &workspace, Edits edits = Edits::Dropped);
@@ -85,7 +85,9 @@ public:
   void showDrawSettings();
   /// The maps of compressors and drives, in pages of their own.
   void openCharacteristics(const QStringList &names);
-  void setMachines(const MachineData &machines);
+  /// Whether the pages of machines that were open in the case come back.
+  enum class Pages { New, Kept };
+  void setMachines(const MachineData &machines, Pages pages);
   /// The page of the guide about a tool.
   void showHelp(const QString &page);
   /// What case and scenario say beside the network.

@@ -29,18 +29,17 @@ void WorkspaceMemory::enter(const NivraWorkspace &workspace) {
   m_idle.start();
 }
 
-void WorkspaceMemory::enterAgain(const NivraWorkspace &workspace, const Session &before) {
-  m_session->putBack(before, false);
-  if (m_keeps == Keeps::Nothing)
-    return;
-  m_path = workspace.chosenPath();
-  if (keepsSessions())
-    m_session->keepFor(workspace);
-  m_idle.start();
+void WorkspaceMemory::takeAside() {
+  keep();
+  m_session->takeAside();
+  m_isAside = true;
 }
 
-Session WorkspaceMemory::gathered() const {
-  return m_session->gathered();
+void WorkspaceMemory::comeBack() {
+  m_isAside = false;
+  m_session->comeBack();
+  if (!m_path.isEmpty())
+    m_idle.start();
 }
 
 void WorkspaceMemory::keep() {
@@ -50,6 +49,7 @@ void WorkspaceMemory::keep() {
 
 void WorkspaceMemory::leave() {
   m_idle.stop();
+  m_isAside = false;
   m_path.clear();
   m_session->leave();
 }
@@ -65,7 +65,7 @@ void WorkspaceMemory::note() {
 /// A part of the network is a picture only as long as there is none of all of it.
 void WorkspaceMemory::takePicture() {
   const NetPlot &plot = *m_control.plot();
-  if (m_path.isEmpty() || !plot.isVisible() || (!plot.showsAll() && !Thumbnails::read(m_path).isNull()))
+  if (m_path.isEmpty() || m_isAside || !plot.isVisible() || (!plot.showsAll() && !Thumbnails::read(m_path).isNull()))
     return;
   Thumbnails::write(m_path, plot.picture(Thumbnails::Size));
   QStringList paths;

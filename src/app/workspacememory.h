@@ -1,8 +1,9 @@
 #pragma once
 
 #include "recentfiles.h"
-#include "session.h"
 
+#include <QObject>
+#include <QString>
 #include <QTimer>
 
 class LayerKeeper;
@@ -24,13 +25,17 @@ public:
 
   void setKeeps(Keeps keeps) { m_keeps = keeps; }
   bool keepsSessions() const { return m_keeps == Keeps::Sessions; }
+  /// A case opens as for the first time, and nothing of how it is left is kept.
+  bool isClean() const { return m_keeps == Keeps::RecentFiles; }
   RecentFiles &recent() { return m_recent; }
 
   /// The workspace is open and drawn: comes back to what is kept of it.
   void enter(const NivraWorkspace &workspace);
-  /// It was read again: comes back to what was before.
-  void enterAgain(const NivraWorkspace &workspace, const Session &before);
-  Session gathered() const;
+  /// Before it is read again: until it stands again, what was is what is kept.
+  void takeAside();
+  bool isAside() const { return m_isAside; }
+  /// It stands again: comes back to what was before.
+  void comeBack();
   /// Keeps everything at once, as long as the workspace is the one that is open.
   void keep();
   /// Nothing of it is kept any more: another one comes.
@@ -46,5 +51,6 @@ private:
   RecentFiles m_recent;
   QString m_path;         ///< of what is open; empty when nothing of it is to be kept
   bool m_isNoted = false; ///< among the recent files
+  bool m_isAside = false; ///< until it could be read again
   QTimer m_idle;          ///< until it is; an opening waits for no disk
 };

@@ -65,6 +65,15 @@ void WorkspaceWatcher::accept() {
   m_known = m_seen = m_told = present();
 }
 
+void WorkspaceWatcher::accept(const QStringList &paths) {
+  for (const QString &path : paths) {
+    const auto known = m_known.find(path);
+    if (known != m_known.end())
+      known->second = m_seen[path] = FileStamp::of(path);
+  }
+  look(); // what was told of them is no longer so
+}
+
 void WorkspaceWatcher::compare() {
   listen();
   const ReadFiles::Stamps now = present();

@@ -15,12 +15,16 @@ public:
   /// \param window looks again whenever it comes to the front: of files on other machines the system tells nothing
   explicit WorkspaceWatcher(QObject &window);
 
+  /// How long files must be at rest; for tests, which need not wait as long as people's programs write.
+  void setBetweenLooks(int ms) { m_rest.setInterval(ms); }
   /// In place of the files before. A stamp of no file stands for one that may come.
   void watch(const ReadFiles::Stamps &files);
   /// Once the files have come to rest.
   void look();
   /// Takes the files as they are now.
   void accept();
+  /// Takes these as they are now, as far as they are watched: the program wrote them itself.
+  void accept(const QStringList &paths);
 
 signals:
   /// \param gone those that are no longer there; both empty when all are again as they were

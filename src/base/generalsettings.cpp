@@ -2,6 +2,7 @@
 #include <base/settingstable.h>
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -19,6 +20,11 @@ bool isNumber(const QString &text) {
   bool ok = false;
   text.toDouble(&ok);
   return ok;
+}
+
+/// What a person reads.
+QString translated(const char *text) {
+  return QCoreApplication::translate("GeneralSettings", text);
 }
 
 /// Null for a key that is not in the table.
@@ -144,7 +150,8 @@ int GeneralSettings::overlay(const QString &path, FileAccess::Source source, con
   QString reason;
   std::optional<QByteArray> content = FileAccess::readWhole(path, source, FileAccess::LargestConfiguration, &reason);
   if (!content) {
-    tell(told, Finding::Severity::Warning, QStringLiteral("Cannot open General settings file ") + reason);
+    tell(told, Finding::Severity::Warning,
+         translated(QT_TRANSLATE_NOOP("GeneralSettings", "Cannot open General settings file %1")).arg(reason));
     return 0;
   }
   const int taken =
@@ -166,7 +173,7 @@ int GeneralSettings::takeLines(QByteArray content, const QString &path, Layer la
       line.remove(0, 1);
     const QString where = QStringLiteral(" (%1:%2)").arg(path).arg(number);
     if (cut && !continued)
-      tell(told, Finding::Severity::Warning, QStringLiteral("Line is too long!") + where);
+      tell(told, Finding::Severity::Warning, translated(QT_TRANSLATE_NOOP("GeneralSettings", "Line is too long!")) + where);
     if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')) && takeLine(line, where, layer, told))
       ++taken;
     continued = cut;
@@ -180,7 +187,8 @@ int GeneralSettings::takeLines(QByteArray content, const QString &path, Layer la
 bool GeneralSettings::takeLine(const QString &line, const QString &where, Layer layer, const Told &told) {
   QStringList fields = line.split(QLatin1Char(';'));
   if (fields.size() < FieldCount) {
-    tell(told, Finding::Severity::Warning, QStringLiteral("Line contains less than 6 entries!") + where);
+    tell(told, Finding::Severity::Warning,
+         translated(QT_TRANSLATE_NOOP("GeneralSettings", "Line contains less than 6 entries!")) + where);
     return false;
   }
   for (QString &field : fields)
@@ -209,10 +217,10 @@ bool GeneralSettings::takeLine(const QString &line, const QString &where, Layer 
   entry.type = builtIn.type;
   entry.options = builtIn.options;
   if (!suits(key, entry.value)) {
-    tell(
-        told, Finding::Severity::Warning,
-        QStringLiteral("Value \"%1\" does not suit the setting \"%2\"; \"%3\" stays.").arg(entry.value, key, builtIn.value) +
-            where);
+    tell(told, Finding::Severity::Warning,
+         translated(QT_TRANSLATE_NOOP("GeneralSettings", "Value \"%1\" does not suit the setting \"%2\"; \"%3\" stays."))
+                 .arg(entry.value, key, builtIn.value) +
+             where);
     return false;
   }
   m_layers[layer][key] = entry.value;

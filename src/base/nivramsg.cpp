@@ -1,6 +1,7 @@
 #include "messagehandler.h"
 
 #include <base/nivramsg.h>
+#include <base/withoutboxes.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -123,6 +124,13 @@ qint64 waitedForAnswers() {
 
 void setInteractive(bool interactive) {
   interactiveSwitch = interactive;
+}
+
+WithoutBoxes::WithoutBoxes()
+    : m_before(interactiveSwitch.exchange(false)) {}
+
+WithoutBoxes::~WithoutBoxes() {
+  interactiveSwitch = m_before;
 }
 
 bool isInteractive() {

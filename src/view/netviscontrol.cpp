@@ -104,13 +104,13 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   m_plot->readMousePattern();          // the workspace may have general settings of its own
   m_plot->setSettings(PlotSettings()); // nothing of the case before
   m_settingsPath = plotSettingsPath;
-  m_settingsWithoutFile = PlotSettings();
+  m_styleFiles.settings = FileStamp::of(plotSettingsPath);
   if (!m_plot->readPlotSettings(plotSettingsPath)) {
     PlotSettings settings = m_plot->settings();
     chooseDefaults(settings, m_net);
     m_plot->setSettings(settings);
-    m_settingsWithoutFile = settings;
   }
+  m_settingsOfFiles = m_plot->settings();
   const QString folder = QFileInfo(plotSettingsPath).path();
   m_folder = folder;
   m_bookmarks = ViewBookmarks(folder + QStringLiteral("/viewbookmarks.csv"));
@@ -119,6 +119,8 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   if (m_plot->told())
     std::for_each(m_labelsRead.findings.begin(), m_labelsRead.findings.end(), m_plot->told());
   m_labelsRead.findings.clear();
+  m_labelsOfFiles = labels;
+  m_styleFiles.labels = m_labelsRead.stamp;
   m_picker->reset();
   m_plot->update().setNetData(&m_net);
   m_plot->update().setDisplayMode(NetUpdate::DisplayMode::Functions); // nothing was searched for in it
@@ -130,16 +132,23 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
 
 NetVisControl::OwnStyle NetVisControl::ownStyle() const {
   OwnStyle style;
-  PlotSettings saved;
-  if (!PlotSettingsFile::read(m_settingsPath, saved))
-    saved = m_settingsWithoutFile;
-  if (m_plot->settings() != saved)
+  if (m_plot->settings() != m_settingsOfFiles)
     style.settings = PlotSettingsFile::text(m_plot->settings()).value_or(QByteArray());
-  LabelTable labels;
-  LabelTableFile::read(QFileInfo(m_settingsPath).path() + QStringLiteral("/vfd.csv"), labels);
-  if (m_plot->update().labelTable() != labels)
+  if (m_plot->update().labelTable() != m_labelsOfFiles)
     style.labels = LabelTableFile::text(m_plot->update().labelTable());
   return style;
+}
+
+void NetVisControl::noteStyleFiles(bool settings, bool labels) {
+  if (settings) {
+    m_settingsOfFiles = m_plot->settings();
+    m_styleFiles.settings = FileStamp::of(m_settingsPath);
+  }
+  if (labels) {
+    m_labelsOfFiles = m_plot->update().labelTable();
+    m_styleFiles.labels = FileStamp::of(QFileInfo(m_settingsPath).path() + QStringLiteral("/vfd.csv"));
+  }
+  emit styleFilesNoted();
 }
 
 void NetVisControl::setOwnStyle(const OwnStyle &style) {

@@ -1,7 +1,7 @@
 #include "commandlist.h"
 #include "commandpalette.h"
 #include "elementfield.h"
-#include "elementfinder.h"
+#include "elementnames.h"
 #include "mnemonics.h"
 #include "nivraviewer.h"
 #include "svgicon.h"
@@ -451,14 +451,14 @@ void TestCommands::namesByAnyPart() {
   for (const char *name : {"N_Emden", "Emden", "emden_2", "West", "MÜNCHEN"})
     net.addElement(makeNode(name));
   net.addElement(makeEdge("P_Emden", "N_Emden", "West"));
-  QCOMPARE(ElementFinder::namesWith(net, QStringLiteral("EMDEN"), 10),
+  QCOMPARE(ElementNames::namesWith(net, QStringLiteral("EMDEN"), 10),
            (QStringList{QStringLiteral("Emden"), QStringLiteral("emden_2"), QStringLiteral("N_Emden"),
                         QStringLiteral("P_Emden")}));
-  QCOMPARE(ElementFinder::namesWith(net, QStringLiteral("emden"), 2),
+  QCOMPARE(ElementNames::namesWith(net, QStringLiteral("emden"), 2),
            (QStringList{QStringLiteral("Emden"), QStringLiteral("emden_2")}));
-  QCOMPARE(ElementFinder::namesWith(net, QStringLiteral("ünch"), 10), QStringList{QStringLiteral("MÜNCHEN")});
-  QVERIFY(ElementFinder::namesWith(net, QStringLiteral("x"), 10).isEmpty());
-  QVERIFY(ElementFinder::namesWith(net, QString(), 10).isEmpty());
+  QCOMPARE(ElementNames::namesWith(net, QStringLiteral("ünch"), 10), QStringList{QStringLiteral("MÜNCHEN")});
+  QVERIFY(ElementNames::namesWith(net, QStringLiteral("x"), 10).isEmpty());
+  QVERIFY(ElementNames::namesWith(net, QString(), 10).isEmpty());
 }
 
 NIVRA_TEST(TestCommands);

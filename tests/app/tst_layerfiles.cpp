@@ -13,9 +13,14 @@
 
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTimer>
+#include <QToolButton>
+
+#include <functional>
 
 namespace {
 
@@ -60,6 +65,12 @@ private slots:
   void killedProgramLosesNoLayers();
   void discardedDoNotComeBack();
   void reloadKeepsThem();
+  void failedReadingLosesNothing_data();
+  void failedReadingLosesNothing();
+  void closingWhileReadingAsks();
+  void reloadTakesTheFileOfTheCase();
+  void whatAnotherOneWroteIsNotOverwrittenUnasked();
+  void nothingIsDiscardedBeforeItGoes();
   void strangeFilesChangeLayersOnly();
 
 private:
@@ -76,6 +87,32 @@ private:
   }
   static QPushButton *button(NivraViewer &viewer, const char *name) {
     return panelOf<NivraNetLayersEditor>(viewer).findChild<QPushButton *>(QLatin1String(name));
+  }
+  static QByteArray large() {
+    QByteArray nodes = "{\n";
+    for (int i = 0; i < 300000; ++i)
+      nodes += "\"N" + QByteArray::number(i) + "\":{\"obj_type\":\"node\",\"x\":" + QByteArray::number(i) + ",\"y\":0}\n,";
+    return nodes + "\"Z\":{\"obj_type\":\"node\",\"x\":1,\"y\":1}\n}\n";
+  }
+  static void pressCancel(NivraViewer &viewer) {
+    for (QToolButton *button : viewer.statusBar()->findChildren<QToolButton *>()) {
+      if (button->text() == QLatin1String("Cancel"))
+        button->click();
+    }
+  }
+  /// Does something as soon as a reading shows that it goes on; false when it went too fast.
+  static bool whileReading(NivraViewer &viewer, const std::function<void()> &act) {
+    bool isDone = false;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, &timer, [&] {
+      if (isDone || viewer.findChild<QProgressBar *>() == nullptr)
+        return;
+      isDone = true;
+      act();
+    });
+    timer.start(1);
+    viewer.reload();
+    return isDone;
   }
   QString overlay() const { return m_workspace->path(QStringLiteral("CASE/layers.csv")); }
 
@@ -195,6 +232,108 @@ void TestLayerFiles::reloadKeepsThem() {
   QVERIFY(viewer.findChild<LayerKeeper *>()->isUnsaved());
   auto *table = panelOf<NivraNetLayersEditor>(viewer).findChild<QTableView *>();
   QTRY_COMPARE(table->model()->index(0, 1).data().toString(), QStringLiteral("south"));
+}
+
+void TestLayerFiles::failedReadingLosesNothing_data() {
+  QTest::addColumn<bool>("isCancelled");
+  QTest::newRow("cancelled") << true;
+  QTest::newRow("broken") << false;
+}
+
+void TestLayerFiles::failedReadingLosesNothing() {
+  QFETCH(const bool, isCancelled);
+  m_workspace->write(QStringLiteral("CASE/layers.csv"), "vis.layer;K1;west\n");
+  const QByteArray sound = SmallFiles::contents(m_workspace->geometry());
+  NivraViewer viewer;
+  Remembering::open(viewer, m_workspace->geometry());
+  QVERIFY(QTest::qWaitForWindowExposed(&viewer));
+  rename(viewer, QStringLiteral("south"));
+  viewer.elementAction(QStringLiteral("B"), NetPicker::EleAction::Mark);
+  const auto fail = [&] {
+    m_workspace->writeGeometry(isCancelled ? large() : QByteArray("{ no network"));
+    if (!isCancelled)
+      viewer.reload();
+    else
+      whileReading(viewer, [&] { pressCancel(viewer); });
+    return viewer.visControl()->net().isEmpty();
+  };
+  if (!fail() && isCancelled)
+    QSKIP("this machine reads too fast to be looked at");
+  QVERIFY(fail()); // again, with nothing shown
+  m_workspace->writeGeometry(sound);
+  viewer.reload();
+  QCOMPARE(layerOf(viewer), QStringLiteral("south"));
+  QCOMPARE(viewer.visControl()->currentElement(), QStringLiteral("B"));
+  QVERIFY(fail());
+  const Answers save({NivraMsg::Answer::Save});
+  QVERIFY(viewer.close());
+  QVERIFY(save.areGiven());
+  QCOMPARE(SmallFiles::contents(overlay()),
+           QByteArray("# layer property;element;layer\nvis.layer;K1;west\nvis.layer;P1;south\n"));
+  QCOMPARE(SessionStore::read(m_workspace->path(QStringLiteral("CASE"))).value_or(Session()).current, QStringLiteral("B"));
+}
+
+void TestLayerFiles::closingWhileReadingAsks() {
+  NivraViewer viewer;
+  viewer.open(m_workspace->geometry());
+  viewer.show();
+  rename(viewer, QStringLiteral("south"));
+  m_workspace->writeGeometry(large());
+  if (!whileReading(viewer, [&] { QVERIFY(!viewer.close()); }))
+    QSKIP("this machine reads too fast to be looked at");
+  const Answers discard({NivraMsg::Answer::Discard});
+  QTRY_VERIFY(!viewer.isVisible());
+  QVERIFY(discard.areGiven());
+}
+
+void TestLayerFiles::reloadTakesTheFileOfTheCase() {
+  m_workspace->write(QStringLiteral("CASE/layers.csv"), "vis.layer;P1;south\n");
+  NivraViewer viewer;
+  viewer.open(m_workspace->geometry());
+  m_workspace->write(QStringLiteral("CASE/layers.csv"), "vis.layer;P1;west\nvis.layer;A;yonder\n"); // by a colleague
+  viewer.reload();
+  QCOMPARE(layerOf(viewer), QStringLiteral("west"));
+  auto &keeper = *viewer.findChild<LayerKeeper *>();
+  QVERIFY(!keeper.isUnsaved());
+  rename(viewer, QStringLiteral("mine"));
+  QVERIFY(keeper.save());
+  const QByteArray written = SmallFiles::contents(overlay());
+  QVERIFY2(written.contains("vis.layer;A;") && written.contains("vis.layer;P1;"), written.constData());
+}
+
+void TestLayerFiles::whatAnotherOneWroteIsNotOverwrittenUnasked() {
+  m_workspace->write(QStringLiteral("CASE/layers.csv"), "vis.layer;P1;south\n");
+  NivraViewer viewer;
+  viewer.open(m_workspace->geometry());
+  rename(viewer, QStringLiteral("mine"));
+  const QByteArray theirs = "vis.layer;P1;west\nvis.layer;A;east\n";
+  m_workspace->write(QStringLiteral("CASE/layers.csv"), theirs);
+  {
+    const Answers no({NivraMsg::Answer::Save, NivraMsg::Answer::No});
+    QVERIFY(!viewer.close());
+    QVERIFY(no.areGiven());
+    QVERIFY2(no.texts().last().contains(QStringLiteral("layers.csv was changed")), qPrintable(no.texts().last()));
+    QCOMPARE(SmallFiles::contents(overlay()), theirs);
+  }
+  const Answers yes({NivraMsg::Answer::Save, NivraMsg::Answer::Yes});
+  QVERIFY(viewer.close());
+  QVERIFY(SmallFiles::contents(overlay()).contains("P1;mine"));
+}
+
+void TestLayerFiles::nothingIsDiscardedBeforeItGoes() {
+  NivraViewer viewer;
+  viewer.open(m_workspace->geometry());
+  rename(viewer, QStringLiteral("south"));
+  {
+    const Answers told({NivraMsg::Answer::Ok}); // that there is no such workspace
+    viewer.open(m_workspace->path(QStringLiteral("nowhere.geom.jsn")));
+    QVERIFY(told.areGiven());
+  }
+  QCOMPARE(layerOf(viewer), QStringLiteral("south"));
+  QVERIFY(viewer.findChild<LayerKeeper *>()->isUnsaved());
+  const Answers discard({NivraMsg::Answer::Discard});
+  QVERIFY(viewer.close());
+  QVERIFY(discard.areGiven() && !viewer.findChild<LayerKeeper *>()->isUnsaved());
 }
 
 void TestLayerFiles::strangeFilesChangeLayersOnly() {

@@ -1,8 +1,11 @@
+#include "casescenarios.h"
 #include "networkloader.h"
 #include "workspacefixture.h"
 
 #include <base/fileaccess.h>
 #include <base/nivramsg.h>
+#include <io/scenariofiles.h>
+#include <support/answers.h>
 #include <support/nivratest.h>
 
 class TestNetworkLoader : public QObject {
@@ -14,6 +17,7 @@ private slots:
   void whatIsNoFileIsNamed_data();
   void whatIsNoFileIsNamed();
   void assemblingCanBeCancelled();
+  void scenariosBesideTheOpenOneAreReadQuietly();
 };
 
 void TestNetworkLoader::everythingReadIsReachable() {
@@ -80,6 +84,34 @@ void TestNetworkLoader::whatIsNoFileIsNamed() {
       told += finding.logText();
   }
   QVERIFY2(told.contains(workspace.path(name) + QStringLiteral(": is a directory")), qPrintable(told));
+}
+
+void TestNetworkLoader::scenariosBesideTheOpenOneAreReadQuietly() {
+  const WorkspaceFixture workspace;
+  workspace.writeGeometry(WorkspaceFixture::soundGeometry().replace("\n}\n",
+                                                                    "\n,\"P9\":{\"obj_type\":\"pipe\",\"node1\":\"A\","
+                                                                    "\"node2\":\"nobody\"}\n}\n"));
+  for (const char *file : {"S2/S2.scen.json", "S3/other.scen.jsn", "S4/S4.scen"}) {
+    const QString path = QStringLiteral("CASE/") + QLatin1String(file);
+    QDir(workspace.root()).mkpath(QFileInfo(path).path());
+    workspace.write(path, "{\n}\n");
+  }
+  NetData open;
+  NetworkLoader loader(open);
+  QVERIFY(loader.resolve(workspace.scenario()));
+  const ScenarioSource scenarios = CaseScenarios::of(loader.workspace());
+  QCOMPARE(scenarios.names(), (QStringList{QStringLiteral("S1"), QStringLiteral("S2"), QStringLiteral("S3")}));
+  QCOMPARE(ScenarioFiles::in(workspace.path(QStringLiteral("CASE/S4")), ScenarioFiles::Form::Any),
+           workspace.path(QStringLiteral("CASE/S4/S4.scen")));
+  const Answers none({}); // what the check has to say stops nobody
+  for (const char *name : {"S1", "S2"}) {
+    NetData net;
+    QString reason;
+    QVERIFY2(scenarios.read(QLatin1String(name), net, {}, &reason), qPrintable(reason));
+    QVERIFY(net.element(QStringLiteral("P1")) != nullptr);
+  }
+  QVERIFY2(none.areGiven(), qPrintable(none.texts().join(QLatin1Char('\n'))));
+  QVERIFY(NivraMsg::showsBoxes());
 }
 
 void TestNetworkLoader::assemblingCanBeCancelled() {

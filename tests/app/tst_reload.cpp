@@ -1,8 +1,13 @@
+#include "layerkeeper.h"
+#include "mnemonics.h"
 #include "panels.h"
 #include "reloadbar.h"
 #include "remembering.h"
+#include "subnetwindow.h"
 #include "workspacefixture.h"
+#include "workspacewatcher.h"
 
+#include <base/generalsettings.h>
 #include <support/answers.h>
 #include <support/nivratest.h>
 #include <tools/nivranetlayerseditor.h>
@@ -15,9 +20,12 @@
 #include <QDockWidget>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QMenuBar>
+#include <QPointer>
 #include <QPushButton>
 #include <QToolBar>
 
+#include <algorithm>
 #include <cmath>
 
 /// Files that are changed while they are shown.
@@ -33,9 +41,14 @@ private slots:
   void waitsUntilAFileIsAtRest();
   void vanishedFileLeavesWhatIsShown();
   void whatTheProgramWritesIsNoChange();
+  void filesBesideTheNetworkAreOffered_data();
+  void filesBesideTheNetworkAreOffered();
+  void whatIsTypedStays();
+  void typedInASubnetIsAsked();
   void keyReadsAgain();
   void barIsForThisCaseAlone();
   void narrowWindowKeepsTheButtons();
+  void lettersAreThoseOfNoMenu();
 
 private:
   static QByteArray withAnotherNode() {
@@ -49,10 +62,18 @@ private:
   }
   /// With the listening begun: the first look comes once the network stands.
   static void open(NivraViewer &viewer, const QString &path) {
+    watcher(viewer).setBetweenLooks(BetweenLooksMs);
     viewer.open(path);
     QVERIFY(QTest::qWaitForWindowExposed(&viewer));
-    QTest::qWait(700);
+    letItLook(viewer);
     QVERIFY(!offers(viewer));
+  }
+  static constexpr int BetweenLooksMs = 20;
+  static WorkspaceWatcher &watcher(NivraViewer &viewer) { return *viewer.findChild<WorkspaceWatcher *>(); }
+  /// Longer than it takes to see a change and that it is at rest.
+  static void letItLook(NivraViewer &viewer) {
+    watcher(viewer).look();
+    QTest::qWait(6 * BetweenLooksMs);
   }
   static bool hasNode(NivraViewer &viewer, const char *name) {
     return viewer.visControl()->net().element(QLatin1String(name)) != nullptr;
@@ -109,7 +130,7 @@ void TestReload::editorsPutAnotherFileInItsPlace() {
     QVERIFY2(textOf(viewer).endsWith(QStringLiteral("was changed on disk.")), qPrintable(textOf(viewer)));
     QTest::mouseClick(button(viewer, 0), Qt::LeftButton);
     QVERIFY(hasNode(viewer, name));
-    QTest::qWait(700);
+    letItLook(viewer);
   }
 }
 
@@ -117,7 +138,7 @@ void TestReload::resultsThatComeAreOffered() {
   NivraViewer viewer;
   open(viewer, m_workspace->scenario());
   m_workspace->write(QStringLiteral("CASE/S1/notes.txt"), "nothing of ours");
-  QTest::qWait(1200);
+  letItLook(viewer);
   QVERIFY(!offers(viewer));
   m_workspace->write(QStringLiteral("CASE/S1/S1.res.jsn"), "{\n\"A\":{\"p\":33}\n}\n");
   QTRY_VERIFY(offers(viewer));
@@ -133,7 +154,7 @@ void TestReload::ignoredIsIgnoredUntilTheNextChange() {
   QTest::mouseClick(button(viewer, 1), Qt::LeftButton);
   QVERIFY(!offers(viewer));
   viewer.activateWindow();
-  QTest::qWait(1200);
+  letItLook(viewer);
   QVERIFY(!offers(viewer));
   m_workspace->writeGeometry(WorkspaceFixture::soundGeometry());
   QTRY_VERIFY(offers(viewer));
@@ -142,9 +163,10 @@ void TestReload::ignoredIsIgnoredUntilTheNextChange() {
 void TestReload::waitsUntilAFileIsAtRest() {
   NivraViewer viewer;
   open(viewer, m_workspace->geometry());
+  watcher(viewer).setBetweenLooks(400); // longer than a machine that is busy keeps the next piece waiting
   QFile file(m_workspace->geometry());
   QVERIFY(file.open(QIODevice::Append));
-  for (int i = 0; i < 12; ++i) { // a program that writes for two seconds
+  for (int i = 0; i < 8; ++i) { // a program that writes for more than a second
     file.write("\n");
     file.flush();
     QTest::qWait(150);
@@ -176,9 +198,71 @@ void TestReload::whatTheProgramWritesIsNoChange() {
   open(viewer, m_workspace->geometry());
   panelOf<viewFuncDialog>(viewer).findChild<QPushButton *>(QStringLiteral("applyAndSave"))->click();
   panelOf<NivraNetObjectCats>(viewer).findChild<QAbstractButton *>(QStringLiteral("pushButtonOK"))->click();
+  m_workspace->write(QStringLiteral("CASE/layers.csv"), "vis.layer;P1;west\n");
+  viewer.reload();
+  QVERIFY(viewer.findChild<LayerKeeper *>()->save());
   QVERIFY(QFile::exists(m_workspace->path(QStringLiteral("CASE/plotsettings.ini"))));
-  QTest::qWait(1500);
+  letItLook(viewer);
   QVERIFY(!offers(viewer));
+}
+
+void TestReload::filesBesideTheNetworkAreOffered_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<QByteArray>("text");
+  QTest::newRow("layers") << QStringLiteral("CASE/layers.csv") << QByteArray("vis.layer;P1;west\n");
+  QTest::newRow("style") << QStringLiteral("CASE/plotsettings.ini") << QByteArray("[magnitudes]\nedgeMag=3\n");
+  QTest::newRow("settings") << QStringLiteral("generalsettings_%1.csv").arg(GeneralSettings::userName())
+                            << QByteArray("pixtest delay;zooming;string;321;;\n");
+}
+
+void TestReload::filesBesideTheNetworkAreOffered() {
+  QFETCH(const QString, name);
+  QFETCH(const QByteArray, text);
+  NivraViewer viewer;
+  open(viewer, m_workspace->geometry());
+  m_workspace->write(name, text);
+  QTRY_VERIFY(offers(viewer));
+  QTest::mouseClick(button(viewer, 0), Qt::LeftButton);
+  const std::vector<bool> taken{viewer.visControl()->net().element(QStringLiteral("P1"))->value(Names::all().layer) ==
+                                    QLatin1String("west"),
+                                viewer.visControl()->plot()->settings().edgeMag == 3.0,
+                                GeneralSettings::instance().value(QStringLiteral("pixtest delay")) == QLatin1String("321")};
+  QCOMPARE(int(std::count(taken.begin(), taken.end(), true)), 1);
+  GeneralSettings::instance().reset();
+}
+
+void TestReload::whatIsTypedStays() {
+  NivraViewer viewer;
+  open(viewer, m_workspace->geometry());
+  auto &draw = panelOf<viewFuncDialog>(viewer);
+  auto &typed = *draw.findChild<QDoubleSpinBox *>(QStringLiteral("edgeMag"));
+  typed.setValue(7.0);
+  emit viewer.visControl()->actions().settingsChosen(); // as by a key or the tool bar
+  QCOMPARE(typed.value(), 7.0);
+  viewer.reload();
+  QCOMPARE(typed.value(), 7.0);
+  QVERIFY(draw.hasUnapplied());
+  m_workspace->writeGeometry("{ no network");
+  viewer.reload();
+  QCOMPARE(typed.value(), 7.0);
+}
+
+void TestReload::typedInASubnetIsAsked() {
+  m_workspace->writeGeometry(WorkspaceFixture::geometryWithSubnet());
+  NivraViewer viewer;
+  open(viewer, m_workspace->geometry());
+  emit viewer.visControl()->subnetWanted(QStringLiteral("M"));
+  const QPointer<SubnetWindow> window = viewer.findChild<SubnetWindow *>();
+  window->findChild<QDoubleSpinBox *>(QStringLiteral("edgeMag"))->setValue(7.0);
+  {
+    const Answers cancel({NivraMsg::Answer::Cancel, NivraMsg::Answer::Cancel, NivraMsg::Answer::Cancel});
+    viewer.reload();
+    QVERIFY(!window.isNull() && !window->close() && !viewer.close());
+    QVERIFY(cancel.areGiven());
+  }
+  const Answers discard({NivraMsg::Answer::Discard});
+  viewer.reload();
+  QVERIFY(discard.areGiven() && window.isNull());
 }
 
 void TestReload::keyReadsAgain() {
@@ -189,7 +273,7 @@ void TestReload::keyReadsAgain() {
   m_workspace->writeGeometry(withAnotherNode());
   QTest::keyClick(&viewer, Qt::Key_F5); // sooner than anybody offers it
   QVERIFY(hasNode(viewer, "D"));
-  QTest::qWait(1200);
+  letItLook(viewer);
   QVERIFY(!offers(viewer));
 }
 
@@ -198,18 +282,20 @@ void TestReload::barIsForThisCaseAlone() {
   const WorkspaceFixture other;
   {
     NivraViewer viewer;
+    watcher(viewer).setBetweenLooks(BetweenLooksMs);
     Remembering::open(viewer, m_workspace->geometry());
     QVERIFY(QTest::qWaitForWindowExposed(&viewer));
-    QTest::qWait(700);
+    letItLook(viewer);
     m_workspace->writeGeometry(withAnotherNode());
     QTRY_VERIFY(offers(viewer));
     viewer.close(); // the places of the window are kept with the bar
   }
   NivraViewer viewer;
+  watcher(viewer).setBetweenLooks(BetweenLooksMs);
   Remembering::open(viewer, m_workspace->geometry());
   QVERIFY(QTest::qWaitForWindowExposed(&viewer));
   QVERIFY(!offers(viewer));
-  QTest::qWait(700);
+  letItLook(viewer);
   m_workspace->writeGeometry(WorkspaceFixture::soundGeometry());
   QTRY_VERIFY(offers(viewer));
   viewer.open(other.geometry());
@@ -229,6 +315,21 @@ void TestReload::narrowWindowKeepsTheButtons() {
   for (int i = 0; i < 2; ++i) {
     QPushButton *shown = button(viewer, i);
     QVERIFY(shown->isVisible() && bar.rect().contains(shown->geometry().translated(shown->parentWidget()->pos())));
+  }
+}
+
+void TestReload::lettersAreThoseOfNoMenu() {
+  NivraViewer viewer;
+  open(viewer, m_workspace->geometry());
+  m_workspace->writeGeometry(withAnotherNode());
+  QTRY_VERIFY(offers(viewer));
+  QString letters;
+  for (const QAction *menu : viewer.menuBar()->actions())
+    letters += Mnemonics::of(menu->text());
+  for (int i = 0; i < 2; ++i) {
+    const QChar letter = Mnemonics::of(button(viewer, i)->text());
+    QVERIFY2(!letter.isNull() && !letters.contains(letter), qPrintable(letters + QLatin1Char(' ') + letter));
+    letters += letter;
   }
 }
 

@@ -3,6 +3,7 @@
 #include "workspacefixture.h"
 
 #include <base/nivramsg.h>
+#include <support/answers.h>
 #include <support/nivratest.h>
 #include <tools/nivranetlayerseditor.h>
 #include <view/netplot.h>
@@ -51,6 +52,9 @@ private slots:
   void comesBackAfterTheProgramWasKilled();
   void savedSettingsCountAgainstOlderOnes();
   void savedWithTheCaseIsNotKeptTwice();
+  void settingsOfAColleagueAreShown();
+  void settingsOfAColleagueAreNotOverwrittenUnasked();
+  void openedAtTheSecondTry();
   void cleanStartKeepsAndTakesNothing();
   void uselessFilesAreTold_data();
   void uselessFilesAreTold();
@@ -170,6 +174,64 @@ void TestSession::savedWithTheCaseIsNotKeptTwice() {
   QVERIFY(viewer.visControl()->ownStyle().labels.isEmpty());
   draw.findChild<QPushButton *>(QStringLiteral("applyAndSave"))->click();
   QVERIFY(viewer.visControl()->ownStyle().isEmpty());
+}
+
+void TestSession::settingsOfAColleagueAreShown() {
+  const auto write = [this](const QByteArray &edgeMag) {
+    m_workspace->write(QStringLiteral("CASE/plotsettings.ini"), "[magnitudes]\nedgeMag=" + edgeMag + "\n");
+  };
+  {
+    NivraViewer viewer;
+    Remembering::open(viewer, m_workspace->geometry());
+    write("3");
+    viewer.close();
+  }
+  NivraViewer viewer;
+  Remembering::open(viewer, m_workspace->geometry());
+  QCOMPARE(plotOf(viewer).settings().edgeMag, 3.0);
+  write("4.5");
+  QVERIFY(viewer.visControl()->ownStyle().isEmpty());
+  viewer.reload();
+  QCOMPARE(plotOf(viewer).settings().edgeMag, 4.5);
+  QCOMPARE(panelOf<viewFuncDialog>(viewer).findChild<QDoubleSpinBox *>(QStringLiteral("edgeMag"))->value(), 4.5);
+}
+
+void TestSession::settingsOfAColleagueAreNotOverwrittenUnasked() {
+  NivraViewer viewer;
+  viewer.remember(WorkspaceMemory::Keeps::RecentFiles); // where it is asked at the end
+  viewer.open(m_workspace->geometry());
+  const QByteArray theirs = "[magnitudes]\nedgeMag=3\n";
+  m_workspace->write(QStringLiteral("CASE/plotsettings.ini"), theirs);
+  auto &draw = panelOf<viewFuncDialog>(viewer);
+  QVERIFY(viewer.visControl()->ownStyle().isEmpty());
+  draw.findChild<QDoubleSpinBox *>(QStringLiteral("edgeMag"))->setValue(7.0);
+  const Answers answers({NivraMsg::Answer::No, NivraMsg::Answer::Yes});
+  draw.findChild<QPushButton *>(QStringLiteral("applyAndSave"))->click();
+  QCOMPARE(SmallFiles::contents(m_workspace->path(QStringLiteral("CASE/plotsettings.ini"))), theirs);
+  draw.findChild<QPushButton *>(QStringLiteral("applyAndSave"))->click();
+  QVERIFY(answers.areGiven());
+  QVERIFY(SmallFiles::contents(m_workspace->path(QStringLiteral("CASE/plotsettings.ini"))).contains("edgeMag=7"));
+  QVERIFY(viewer.visControl()->ownStyle().isEmpty());
+}
+
+// What is kept of a case is neither lost nor left aside by an opening that fails.
+void TestSession::openedAtTheSecondTry() {
+  {
+    NivraViewer viewer;
+    Remembering::open(viewer, m_workspace->geometry());
+    viewer.elementAction(QStringLiteral("B"), NetPicker::EleAction::Mark);
+    viewer.close();
+  }
+  const QByteArray sound = SmallFiles::contents(m_workspace->geometry());
+  m_workspace->writeGeometry("{ no network");
+  NivraViewer viewer;
+  Remembering::open(viewer, m_workspace->geometry());
+  QVERIFY(viewer.visControl()->net().isEmpty());
+  m_workspace->writeGeometry(sound);
+  viewer.reload();
+  QCOMPARE(viewer.visControl()->currentElement(), QStringLiteral("B"));
+  viewer.close();
+  QCOMPARE(SessionStore::read(caseFolder()).value_or(Session()).current, QStringLiteral("B"));
 }
 
 void TestSession::cleanStartKeepsAndTakesNothing() {

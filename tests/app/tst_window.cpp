@@ -209,6 +209,13 @@ void TestWindow::lastScenarioIsOpened() {
   NivraViewer later; // the program started anew
   QCOMPARE(opened(later, workspace.geometry()), QStringLiteral("CASE  |  SCEN: S1"));
   QCOMPARE(QDir(workspace.root()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
+  {
+    NivraViewer clean;
+    clean.remember(WorkspaceMemory::Keeps::RecentFiles);
+    QCOMPARE(opened(clean, workspace.geometry()), QStringLiteral("CASE")); // as for the first time
+    opened(clean, workspace.path(QStringLiteral("CASE/S2/S2.scen.jsn")));
+  }
+  QCOMPARE(opened(later, workspace.geometry()), QStringLiteral("CASE  |  SCEN: S1"));
   QVERIFY(QDir(workspace.path(QStringLiteral("CASE/S1"))).removeRecursively());
   QCOMPARE(opened(later, workspace.geometry()), QStringLiteral("CASE"));
 

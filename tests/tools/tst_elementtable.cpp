@@ -5,6 +5,8 @@
 #include "shared/tableexport.h"
 #include "shared/workbookfile.h"
 
+#include <base/generalsettings.h>
+#include <base/settings.h>
 #include <model/names.h>
 #include <support/fulldisk.h>
 #include <support/modelfixture.h>
@@ -141,6 +143,7 @@ private slots:
   void ordersColumns();
   void writesText_data();
   void writesText();
+  void writesTheDigitsForFiles();
   void writesWorkbooks();
   void fullDisksAreTold();
 };
@@ -379,6 +382,21 @@ void TestElementTable::writesText() {
   QVERIFY2(smallTable().save(folder.filePath(QStringLiteral("t")), TableExport::Format(format), &reason),
            qPrintable(reason));
   QCOMPARE(SmallFiles::contents(folder.filePath(QStringLiteral("t"))), content);
+}
+
+void TestElementTable::writesTheDigitsForFiles() {
+  GeneralSettings &settings = GeneralSettings::instance();
+  QVERIFY(settings.setValue(Settings::NumberDigitsInFiles.key(), QStringLiteral("4")));
+  QVERIFY(settings.setValue(Settings::ThousandsInFiles.key(), QStringLiteral("other sign")));
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("t"));
+  QString reason;
+  QVERIFY2(smallTable().save(path, TableExport::Format::PointCsv, &reason), qPrintable(reason));
+  const QByteArray saved = SmallFiles::contents(path);
+  const QString copied = smallTable().tabbed(true);
+  settings.reset();
+  QVERIFY2(saved.contains("\"123,500,000\"\n"), saved.constData());
+  QVERIFY(copied.contains(QStringLiteral("123456789.12345678")));
 }
 
 void TestElementTable::writesWorkbooks() {

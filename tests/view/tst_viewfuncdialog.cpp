@@ -201,7 +201,8 @@ void TestViewFuncDialog::savesBothFiles() {
   ViewFixture f;
   f.show();
   viewFuncDialog dialog(f.plot());
-  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, folder.filePath(QStringLiteral("plotsettings.ini")));
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, folder.filePath(QStringLiteral("plotsettings.ini")),
+                  FileStamp::of(folder.filePath(QStringLiteral("plotsettings.ini"))));
   auto *table = child<QTableView>(dialog, "labelTable");
   setContents(*table, QStringLiteral("@p"));
   child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
@@ -209,7 +210,8 @@ void TestViewFuncDialog::savesBothFiles() {
   f.control.showNetData(folder.filePath(QStringLiteral("plotsettings.ini")));
   QCOMPARE(f.plot().settings().edgeMag, 2.5);
   QCOMPARE(f.plot().update().labelTable().types.front()[LabelRow::Contents], QStringLiteral("@p"));
-  dialog.setFiles(QStringLiteral("/nowhere/vfd.csv"), {}, QStringLiteral("/nowhere/plotsettings.ini"));
+  dialog.setFiles(QStringLiteral("/nowhere/vfd.csv"), {}, QStringLiteral("/nowhere/plotsettings.ini"),
+                  FileStamp::of(QStringLiteral("/nowhere/plotsettings.ini")));
   const Answers answers({NivraMsg::Answer::Ok});
   press(dialog, "applyAndSave");
   const QString text = answers.texts().value(0);
@@ -257,7 +259,8 @@ void TestViewFuncDialog::overwritesOnlyWhatWasRead() {
   if (!meanwhile.isEmpty())
     QVERIFY(write(meanwhile));
   viewFuncDialog dialog(f.plot());
-  dialog.setFiles(path, f.control.labelsRead(), folder.filePath(QStringLiteral("plotsettings.ini")));
+  dialog.setFiles(path, f.control.labelsRead(), folder.filePath(QStringLiteral("plotsettings.ini")),
+                  FileStamp::of(folder.filePath(QStringLiteral("plotsettings.ini"))));
   const auto present = [&path] {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -294,7 +297,7 @@ void TestViewFuncDialog::savedSettingsComeBack() {
   viewFuncDialog dialog(f.plot());
   const auto *saved = child<QPushButton>(dialog, "savedSettings");
   QVERIFY(!saved->isEnabled());
-  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, path);
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, path, FileStamp::of(path));
   QVERIFY(!saved->isEnabled()); // there is nothing yet
   child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(2.5);
   choose(dialog, "bgrColor", QColor(10, 60, 90));
@@ -367,7 +370,7 @@ void TestViewFuncDialog::untouchedFieldsStay() {
   ViewFixture f;
   f.control.showNetData(path);
   viewFuncDialog dialog(f.plot());
-  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, path);
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, path, FileStamp::of(path));
   QCOMPARE(child<QComboBox>(dialog, "legendPos")->currentText(), QStringLiteral("not shown"));
   QCOMPARE(child<QLineEdit>(*row(dialog, 0), "minimum")->text().toDouble(), 12.345678901234567);
   press(dialog, "applyAndSave");
@@ -437,7 +440,8 @@ void TestViewFuncDialog::boundsBelongToAFunction() {
   ViewFixture f;
   f.show();
   viewFuncDialog dialog(f.plot());
-  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, folder.filePath(QStringLiteral("plotsettings.ini")));
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, folder.filePath(QStringLiteral("plotsettings.ini")),
+                  FileStamp::of(folder.filePath(QStringLiteral("plotsettings.ini"))));
   auto *function = child<QComboBox>(*row(dialog, 0), "function");
   auto *minimum = child<QLineEdit>(*row(dialog, 0), "minimum");
   auto *maximum = child<QLineEdit>(*row(dialog, 0), "maximum");

@@ -16,7 +16,31 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <array>
+
 namespace {
+
+/// Of the quantities, for people.
+constexpr std::array Titles{QT_TRANSLATE_NOOP("UnitsPage", "Pressure"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Pressure difference"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Norm volume flow"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Mass flow"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Energy flow"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Power"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Temperature"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Temperature difference"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Length"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Height"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Diameter"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Wall and roughness"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Velocity"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Volume flow in the machine"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Head"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Speed"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Density"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Calorific value"),
+                            QT_TRANSLATE_NOOP("UnitsPage", "Gas volume")};
 
 struct Sample {
   const char *unit; ///< of the property table
@@ -79,9 +103,10 @@ UnitsPage::UnitsPage(SettingsModel &model, Content content, QWidget *parent)
 
 void UnitsPage::addUnits(QFormLayout &form) {
   for (const Quantities::Quantity &quantity : Quantities::all()) {
-    QString title = quantity.name;
-    title[0] = title.at(0).toUpper();
-    addChoice(form, quantity.setting, title);
+    const auto title = std::find_if(Titles.begin(), Titles.end(), [&quantity](const char *text) {
+      return quantity.name.compare(QLatin1String(text), Qt::CaseInsensitive) == 0;
+    });
+    addChoice(form, quantity.setting, title == Titles.end() ? quantity.name : tr(*title));
   }
 }
 

@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <numeric>
+
 namespace {
 
 constexpr int Fields = 3; // property, element, layer
@@ -84,34 +86,55 @@ std::vector<ElementChange> LayerEdits::apply(NetData &net, const LayerValues &va
 }
 
 void LayerEdits::note(const ElementChange &change) {
-  QSet<QString> &elements = m_elements[change.property.name()];
+  QSet<QString> &elements = m_own[change.property.name()];
   for (const QString &name : change.elements)
     elements.insert(name);
   m_isChanged = true;
 }
 
-void LayerEdits::note(const LayerValues &values) {
+void LayerEdits::noteRead(const LayerValues &values) {
+  m_read.clear();
   for (auto property = values.begin(); property != values.end(); ++property) {
     for (auto layer = property->begin(); layer != property->end(); ++layer)
-      m_elements[property.key()].insert(layer.key());
+      m_read[property.key()].insert(layer.key());
   }
 }
 
+void LayerEdits::setSavedWithCase() {
+  for (auto property = m_own.begin(); property != m_own.end(); ++property)
+    m_read[property.key()].unite(*property);
+  m_own.clear();
+  m_isChanged = false;
+}
+
 void LayerEdits::clear() {
-  m_elements.clear();
+  m_read.clear();
+  m_own.clear();
   m_isChanged = false;
 }
 
 int LayerEdits::count() const {
-  int count = 0;
-  for (const QSet<QString> &elements : m_elements)
-    count += elements.size();
-  return count;
+  Elements all = m_read;
+  for (auto property = m_own.begin(); property != m_own.end(); ++property)
+    all[property.key()].unite(*property);
+  return std::accumulate(all.begin(), all.end(), 0,
+                         [](int sum, const QSet<QString> &elements) { return sum + elements.size(); });
 }
 
 LayerValues LayerEdits::values(const NetData &net) const {
+  LayerValues values = ownValues(net);
+  collect(net, m_read, values);
+  return values;
+}
+
+LayerValues LayerEdits::ownValues(const NetData &net) const {
   LayerValues values;
-  for (auto property = m_elements.begin(); property != m_elements.end(); ++property) {
+  collect(net, m_own, values);
+  return values;
+}
+
+void LayerEdits::collect(const NetData &net, const Elements &elements, LayerValues &values) {
+  for (auto property = elements.begin(); property != elements.end(); ++property) {
     const PropertyKey key = PropertyKey::find(property.key());
     for (const QString &name : *property) {
       const element *e = net.element(name);
@@ -120,5 +143,4 @@ LayerValues LayerEdits::values(const NetData &net) const {
         values[property.key()][name] = layer == nullptr ? QString() : layer->toString();
     }
   }
-  return values;
 }

@@ -4,6 +4,7 @@
 #include "shared/workbookfile.h"
 
 #include <base/wholefile.h>
+#include <model/displayformat.h>
 #include <model/propertytext.h>
 
 #include <QTextStream>
@@ -13,12 +14,13 @@ namespace {
 struct Style {
   QLatin1Char separator;
   QLatin1Char decimalSign;
+  bool isForFile; ///< with the digits that people chose for files; else with all of them
 };
 
 Style styleOf(TableExport::Format format) {
   if (format == TableExport::Format::CommaCsv)
-    return {QLatin1Char(';'), QLatin1Char(',')};
-  return {QLatin1Char(format == TableExport::Format::PointCsv ? ',' : '\t'), QLatin1Char('.')};
+    return {QLatin1Char(';'), QLatin1Char(','), true};
+  return {QLatin1Char(format == TableExport::Format::PointCsv ? ',' : '\t'), QLatin1Char('.'), true};
 }
 
 /// In quotes where something in it would be taken for the end of the cell.
@@ -33,7 +35,10 @@ QString textField(const QString &text, QLatin1Char separator) {
 QString field(const QVariant &value, Style style) {
   if (value.type() != QVariant::Double)
     return textField(value.toString(), style.separator);
-  return PropertyText::shortest(value.toDouble()).toString().replace(QLatin1Char('.'), style.decimalSign);
+  QString number = PropertyText::shortest(value.toDouble()).toString();
+  if (style.isForFile)
+    return textField(DisplayFormat::inFile(number, style.decimalSign == QLatin1Char(',')), style.separator);
+  return number.replace(QLatin1Char('.'), style.decimalSign);
 }
 
 void writeRows(QTextStream &stream, const ExportedTable &table, Style style, bool withHeader) {
@@ -71,6 +76,8 @@ bool TableExport::save(const QString &path, Format format, QString *reason) cons
 QString TableExport::tabbed(bool withHeader) const {
   QString text;
   QTextStream stream(&text);
-  writeRows(stream, *this, styleOf(Format::Tabulators), withHeader);
+  Style style = styleOf(Format::Tabulators);
+  style.isForFile = false;
+  writeRows(stream, *this, style, withHeader);
   return text;
 }

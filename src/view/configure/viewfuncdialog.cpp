@@ -29,6 +29,15 @@ enum Viewport { IndependentAxes, OriginalRatio, AspectRatio };
 /// Where the colour scale is, in the order of the choices, as the numbers of the axes.
 constexpr std::array<int, 3> ScaleAxes{0, QwtPlot::xTop, QwtPlot::yRight};
 
+bool agrees(const QString &question) {
+  using namespace NivraMsg;
+  return NivraMsg::show({Kind::Question, question, {}, {Answer::Yes, Answer::No}, Answer::No}) == Answer::Yes;
+}
+
+bool agreesToOverwrite(const QString &path) {
+  return agrees(viewFuncDialog::tr("%1 was changed by another program or window since it was read. Overwrite?").arg(path));
+}
+
 } // namespace
 
 viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
@@ -208,10 +217,12 @@ void viewFuncDialog::bindColors() {
     connect(ofGrid, &ColorButton::colorChosen, this, [this] { m_ui->showGrid->setChecked(true); });
 }
 
-void viewFuncDialog::setFiles(const QString &labelTable, const LabelTableFile::Reading &read, const QString &plotSettings) {
+void viewFuncDialog::setFiles(const QString &labelTable, const LabelTableFile::Reading &read, const QString &plotSettings,
+                              const FileStamp &settingsRead) {
   m_labelTablePath = labelTable;
   m_labelsRead = read;
   m_plotSettingsPath = plotSettings;
+  m_settingsRead = settingsRead;
   offerSavedSettings();
 }
 
@@ -219,28 +230,38 @@ void viewFuncDialog::offerSavedSettings() {
   m_ui->savedSettings->setEnabled(QFileInfo::exists(m_plotSettingsPath) || QFileInfo::exists(m_labelTablePath));
 }
 
-void viewFuncDialog::showSettings() {
+void viewFuncDialog::refresh() {
   m_functions->showFunctions(m_plot.settings());
   m_fields->show(m_plot.settings());
-}
-
-void viewFuncDialog::refresh() {
-  showSettings();
   m_labels->setTable(m_plot.update().labelTable());
+  m_labelsShown = m_labels->table();
   offerSavedSettings();
 }
 
-bool viewFuncDialog::hasUnapplied() const {
+void viewFuncDialog::refreshUntouched() {
+  if (!m_functions->isTouched())
+    m_functions->showFunctions(m_plot.settings());
+  followPlot();
+  if (m_labels->table() == m_labelsShown) {
+    m_labels->setTable(m_plot.update().labelTable());
+    m_labelsShown = m_labels->table();
+  }
+  offerSavedSettings();
+}
+
+bool viewFuncDialog::isAnyFieldTouched() const {
   PlotSettings settings = m_plot.settings();
   m_fields->readTouched(settings);
-  return settings != m_plot.settings() || m_functions->isTouched() || m_labels->table() != m_plot.update().labelTable();
+  return settings != m_plot.settings();
+}
+
+bool viewFuncDialog::hasUnapplied() const {
+  return isAnyFieldTouched() || m_functions->isTouched() || m_labels->table() != m_labelsShown;
 }
 
 /// What was chosen in the drawing is shown here too, unless that would lose what was touched here.
 void viewFuncDialog::followPlot() {
-  PlotSettings touched = m_plot.settings();
-  m_fields->readTouched(touched);
-  if (touched == m_plot.settings())
+  if (!isAnyFieldTouched())
     m_fields->show(m_plot.settings());
 }
 
@@ -281,17 +302,28 @@ void viewFuncDialog::on_apply_clicked() {
 
 void viewFuncDialog::on_applyAndSave_clicked() {
   QString error;
-  if (!apply())
+  if (!mayOverwriteSettings() || !apply())
     return;
   if (!m_plot.writePlotSettings(m_plotSettingsPath, &error)) {
     NivraMsg::message(NivraMsg::Kind::Critical, error);
-  } else if (mayOverwriteLabels()) {
-    if (LabelTableFile::write(m_labelTablePath, m_plot.update().labelTable(), &error))
+    return;
+  }
+  m_settingsRead = FileStamp::of(m_plotSettingsPath);
+  emit filesTaken(true, false);
+  if (mayOverwriteLabels()) {
+    if (LabelTableFile::write(m_labelTablePath, m_plot.update().labelTable(), &error)) {
       m_labelsRead = {true, {}, FileStamp::of(m_labelTablePath), 0};
-    else
+      emit filesTaken(false, true);
+    } else {
       NivraMsg::message(NivraMsg::Kind::Critical, error);
+    }
   }
   offerSavedSettings();
+}
+
+bool viewFuncDialog::mayOverwriteSettings() const {
+  const FileStamp present = FileStamp::of(m_plotSettingsPath);
+  return !present.isOfAFile() || present == m_settingsRead || agreesToOverwrite(m_plotSettingsPath);
 }
 
 /// Whether nothing is lost by writing the label table, or the person agrees to it.
@@ -305,11 +337,8 @@ bool viewFuncDialog::mayOverwriteLabels() const {
             tr("%1 could not be read, so it is not overwritten. The label table is not saved.").arg(m_labelTablePath));
     return false;
   }
-  const auto agrees = [](const QString &question) {
-    return NivraMsg::show({Kind::Question, question, {}, {Answer::Yes, Answer::No}, Answer::No}) == Answer::Yes;
-  };
   if (present != m_labelsRead.stamp)
-    return agrees(tr("%1 was changed by another program or window since it was read. Overwrite?").arg(m_labelTablePath));
+    return agreesToOverwrite(m_labelTablePath);
   return m_labelsRead.leftOut == 0 ||
          agrees(tr("%1 has rows or cells that could not be read (%2); the message log names them. They are lost when it is "
                    "overwritten. Overwrite?")
@@ -330,12 +359,16 @@ bool viewFuncDialog::readLabels(const QString &path, FileAccess::Source source, 
 void viewFuncDialog::on_savedSettings_clicked() {
   const PlotSettings before = m_plot.settings();
   m_plot.setSettings(PlotSettings());
-  if (!m_plot.readPlotSettings(m_plotSettingsPath))
+  m_settingsRead = FileStamp::of(m_plotSettingsPath);
+  const bool areSettingsRead = m_plot.readPlotSettings(m_plotSettingsPath);
+  if (!areSettingsRead)
     m_plot.setSettings(before);
   LabelTable labels;
-  if (!readLabels(m_labelTablePath, FileAccess::Source::Workspace, labels))
+  const bool areLabelsRead = readLabels(m_labelTablePath, FileAccess::Source::Workspace, labels);
+  if (!areLabelsRead)
     labels = m_plot.update().labelTable();
   draw(before, labels);
+  emit filesTaken(areSettingsRead, areLabelsRead);
 }
 
 void viewFuncDialog::on_load_clicked() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/filestamp.h>
 #include <base/finding.h>
 #include <base/onceperturn.h>
 #include <drawing/labeltable.h>
@@ -59,6 +60,14 @@ public:
   };
   OwnStyle ownStyle() const;
   void setOwnStyle(const OwnStyle &style);
+  /// The files that OwnStyle is compared with, as they were when this window read or wrote them last.
+  struct StyleFiles {
+    FileStamp settings;
+    FileStamp labels;
+  };
+  const StyleFiles &styleFiles() const { return m_styleFiles; }
+  /// The network is drawn as these files say it: they were read or written just now.
+  void noteStyleFiles(bool settings, bool labels);
   /// After values have changed: draws at once, with what waits for the end of the turn of the event loop. Which elements
   /// there are and where they lie stays; labels that stand say something else.
   void redraw();
@@ -98,7 +107,8 @@ public:
 
 signals:
   void selectionChanged();
-  void styleChanged(); ///< by setOwnStyle()
+  void styleChanged();    ///< by setOwnStyle()
+  void styleFilesNoted(); ///< by noteStyleFiles()
   void currentElementChanged(const QString &name);
   void hiddenLayersChanged(const QSet<QString> &layers);
   void elementAction(const QString &name, NetPicker::EleAction action);
@@ -119,7 +129,9 @@ private:
   ViewBookmarks m_bookmarks;
   LabelTableFile::Reading m_labelsRead;
   QString m_settingsPath;
-  PlotSettings m_settingsWithoutFile; ///< what the network is drawn with where there is no such file
+  PlotSettings m_settingsOfFiles; ///< or what suits the network, where there is no such file
+  LabelTable m_labelsOfFiles;
+  StyleFiles m_styleFiles;
   QString m_subnetIcons;
   QString m_folder; ///< of the case
   PageFacts m_pageFacts;

@@ -26,15 +26,17 @@ public:
 
   /// Where "Apply and Save" writes to, and "Saved settings" reads from; to be told when a case was opened.
   /// \param read what was found of the label table then: that may be overwritten without a question
-  void setFiles(const QString &labelTable, const LabelTableFile::Reading &read, const QString &plotSettings);
-  /// Shows how the plot is drawn now.
+  /// \param settingsRead of the file of settings then, likewise
+  void setFiles(const QString &labelTable, const LabelTableFile::Reading &read, const QString &plotSettings,
+                const FileStamp &settingsRead);
+  /// Shows how the plot is drawn now, in place of what was typed.
   void refresh();
+  /// The same without the pages on which something was typed that is not applied yet.
+  void refreshUntouched();
   /// Shows units and numbers as they were chosen in the settings since; what was typed and not applied stays.
   void changeUnits();
   /// Something was typed or chosen that is not applied yet.
   bool hasUnapplied() const;
-  /// The same without the label table, of which a person may be changing something.
-  void showSettings();
   /// Takes all bounds of the draw functions from the data.
   void resetMinMaxColorFuncValues();
 
@@ -48,15 +50,21 @@ public slots:
   void on_applyTemplate_clicked();
   void on_deleteRow_clicked();
 
+signals:
+  /// The network is drawn as these files of the case say it: they were written or read.
+  void filesTaken(bool settings, bool labels);
+
 protected:
   void showEvent(QShowEvent *event) override;
 
 private:
   bool apply();
   void followPlot();
+  bool isAnyFieldTouched() const;
   void draw(const PlotSettings &before, const LabelTable &labels);
   void offerSavedSettings();
   bool readLabels(const QString &path, FileAccess::Source source, LabelTable &labels);
+  bool mayOverwriteSettings() const;
   bool mayOverwriteLabels() const;
   void limitWidth();
   void fillChoices();
@@ -76,5 +84,7 @@ private:
   QChar m_breakSign;            ///< with which decimals they are
   QString m_labelTablePath;
   LabelTableFile::Reading m_labelsRead; ///< of the file at that path
+  LabelTable m_labelsShown;             ///< before a person changed any of it
   QString m_plotSettingsPath;
+  FileStamp m_settingsRead; ///< of the file at that path
 };

@@ -1,4 +1,4 @@
-#include "elementfinder.h"
+#include "elementnames.h"
 
 #include <model/netdata.h>
 
@@ -33,7 +33,7 @@ private:
 
 } // namespace
 
-QStringList ElementFinder::namesWith(const NetData &net, const QString &text, int most) {
+QStringList ElementNames::namesWith(const NetData &net, const QString &text, int most) {
   if (text.isEmpty() || most <= 0)
     return {};
   const auto collections = {&net.nodes(), &net.edges(), &net.assembledSubnets(), &net.textBoxes()};

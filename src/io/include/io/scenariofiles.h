@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+/// The scenario file that lies in a folder of a case.
+namespace ScenarioFiles {
+
+enum class Form {
+  Any,
+  Json, ///< NAME.scen.jsn or NAME.scen.json
+  Text  ///< NAME.scen
+};
+
+/// That of the folder's name where there are several, else the first by name; empty when there is none.
+QString in(const QString &folder, Form form);
+
+} // namespace ScenarioFiles

@@ -1,0 +1,23 @@
+#include <io/scenariofiles.h>
+
+#include <QDir>
+
+#include <algorithm>
+
+QString ScenarioFiles::in(const QString &folder, Form form) {
+  QStringList patterns;
+  if (form != Form::Text)
+    patterns << QStringLiteral("*.scen.jsn") << QStringLiteral("*.scen.json");
+  if (form != Form::Json)
+    patterns << QStringLiteral("*.scen");
+  const QDir directory(folder);
+  const QStringList names = directory.entryList(patterns, QDir::Files, QDir::Name);
+  if (names.isEmpty())
+    return QString();
+  const QString own = directory.dirName() + QStringLiteral(".scen");
+  const auto isOwn = [&own](const QString &name) {
+    return name == own || name.startsWith(own + QLatin1Char('.'));
+  };
+  const auto found = std::find_if(names.begin(), names.end(), isOwn);
+  return directory.filePath(found == names.end() ? names.first() : *found);
+}
