@@ -1,6 +1,7 @@
 #pragma once
 
 #include <drawing/colorscale.h>
+#include <drawing/drawnsizes.h>
 #include <drawing/drawvalues.h>
 #include <drawing/edgelayer.h>
 #include <drawing/elementlooks.h>
@@ -88,8 +89,7 @@ public:
   /// What a legend says of all that is drawn, and draws a symbol of it.
   LegendContents legendContents() const;
   void drawLegendSymbol(QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center, double size) const;
-  /// Px, by edge, as their looks have it.
-  const std::vector<float> &edgeWidths() const { return m_edgeWidths; }
+  DrawnSizes drawnSizes() const { return {&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_edgeWidths}; }
 
   /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
   /// they are negative.
@@ -100,6 +100,8 @@ public:
   /// Places labels for the view as it is; stored ones stay where they are.
   void placeLabelsNow() { runPixtest(Pixtest::Labels::With); }
   void clearLabels();
+  /// Whether stations are named while there are no labels; with the next pass.
+  void setNamesWanted(bool areWanted) { m_wantsNames = areWanted; }
   /// Places labels at once, whatever the settings say.
   void relabelNow();
   /// Finds the symbols that lie in the visible area; valid until something is drawn anew.
@@ -150,7 +152,8 @@ private:
   std::function<View()> m_view;
   Told m_told;
   const NetData *m_net = nullptr;
-  bool m_isNew = false; ///< nothing of the network was drawn yet
+  bool m_isNew = false;       ///< nothing of the network was drawn yet
+  bool m_hasNewNodes = false; ///< where they lie or what they are; the layer is to take it over
   NetGeometry m_geometry;
   DrawValues m_values;
   LabelTable m_labelTable;
@@ -168,6 +171,7 @@ private:
   LabelLayer m_labels;
   LabelLayer m_names;
   std::vector<NetGeometry::Item> m_unplaced;
+  bool m_wantsNames = true;
   bool m_hasPlacedLabels = false; ///< for this view; those that stand may be none
   Pixtest m_pixtest;
 };
