@@ -21,6 +21,7 @@ class TestLegend : public QObject {
 private slots:
   void saysWhatIsDrawn();
   void nodesHaveTheirOwnScale();
+  void sizesAreThoseOfTheView();
   void capsTellOfOutliers();
   void ticksAreRoundAndDistinct_data();
   void ticksAreRoundAndDistinct();
@@ -106,6 +107,35 @@ void TestLegend::nodesHaveTheirOwnScale() {
   QCOMPARE(contents.scales[1].title, QStringLiteral("height [m] – nodes"));
   QVERIFY(contents.sizes.samples.size() > 1);
   QVERIFY(contents.sizes.samples.front().size < contents.sizes.samples.back().size);
+}
+
+void TestLegend::sizesAreThoseOfTheView() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("height"), QStringLiteral("0"));
+  f.net.element(QStringLiteral("B"))->set(QStringLiteral("height"), QStringLiteral("400"));
+  f.plot().show();
+  f.showAtFirst();
+  PlotSettings settings = f.plot().settings();
+  settings.functions[Aspect::NodeSize].name = QStringLiteral("height");
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot();
+  NetUpdate &update = f.plot().update();
+  const Index b = update.geometry().find(f.net, QStringLiteral("B"))->index;
+  const auto sample = [&update] {
+    const LegendContents contents = update.legendContents();
+    return contents.sizes.samples.empty() ? LegendContents::Sample() : contents.sizes.samples.back();
+  };
+  const auto drawn = [&update, b] {
+    return update.drawnSizes().nodes->sizeOf(b, update.projection());
+  };
+  QCOMPARE(sample().text, QStringLiteral("400"));
+  const double before = sample().size;
+  QCOMPARE(before, drawn());
+  const QSignalSpy changed(&update, &NetUpdate::legendChanged);
+  f.plot().zoomer()->zoomIn({100, 0}, 3.0);
+  update.requestPixtest(-1);
+  QCOMPARE(sample().size, drawn());
+  QVERIFY(drawn() > before && changed.count() > 0);
 }
 
 void TestLegend::capsTellOfOutliers() {

@@ -170,6 +170,11 @@ LegendContents NetUpdate::legendContents() const {
   if (m_net == nullptr || !m_geometry.hasExtent())
     return contents;
   contents.addFunctions(m_settings, m_values, coloured(), sizeOf(QStringLiteral("n"), m_settings.nodeMag));
+  const double scale = junctionScale();
+  for (LegendContents::Sample &sample : contents.sizes.samples)
+    sample.size *= scale;
+  if (scale <= 0.0)
+    contents.sizes = LegendContents::Samples(); // from afar there are none to explain
   if (coloured() != ColorScale::Subject::SearchResults)
     contents.lines = swatches();
   if (m_violations.isAny(State::Major))
@@ -254,6 +259,11 @@ void NetUpdate::showWhatIsVisible() {
   m_nodes.setVisibility(m_visibility);
 }
 
+double NetUpdate::junctionScale() const {
+  const Projection view = projection();
+  return m_values.of(Aspect::NodeSize).isAny() && view.isValid() ? m_nodes.junctionScale(view) : 0.0;
+}
+
 double NetUpdate::seenHeight() const {
   return m_view().visible.height() / m_geometry.plotUnits();
 }
@@ -276,6 +286,9 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
   bool hasChanged = m_visibility.setExtent(seenHeight());
   if (hasChanged)
     showWhatIsVisible();
+  const double scale = junctionScale();
+  if (scale != std::exchange(m_legendScale, scale))
+    emit legendChanged();
   determineVisibleSymbols(); // for the labels and the drawing
   if (labels == Pixtest::Labels::With) {
     placeLabels();

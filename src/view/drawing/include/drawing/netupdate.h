@@ -126,12 +126,14 @@ signals:
   // In this order while the plot is updated; who shows it has to be done when the signal returns.
   void scalesChanged(); ///< of colours
   void extentChanged(); ///< of another network, or its coordinates count in other units
-  void legendChanged();
-  void changed(); ///< something is to be painted anew
+  void legendChanged(); ///< also when nodes of a size that tells something grow with the zoom
+  void changed();       ///< something is to be painted anew
 
 private:
   void tellAll(const Findings &findings) const;
   void runPixtest(Pixtest::Labels labels);
+  /// Of junctions in this view, where their sizes tell something; otherwise 0.
+  double junctionScale() const;
   void placeLabels();
   /// Names the stations of the view unless it has labels. True when the names may be others now.
   bool placeNames();
@@ -161,6 +163,7 @@ private:
   VisibilityRules m_visibility;
   LayerFilter m_layers;
   DisplayMode m_displayMode = DisplayMode::Functions;
+  double m_legendScale = 0.0; ///< of junctions, when the legend was told of it last
   std::vector<float> m_edgeWidths;
   ViolationLayer m_violations;
   EdgeLayer m_edges;

@@ -36,6 +36,10 @@ public:
   void find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const;
   /// Px, across; 0 of a node that is not drawn.
   double sizeOf(Index node, const Projection &projection) const;
+  /// How large junctions are drawn in this view, of the size that their looks give; 0 where they are left out.
+  double junctionScale(const Projection &projection) const {
+    return sizesIn(projection)[static_cast<std::size_t>(NetGeometry::NodeShape::Junction)];
+  }
   /// Calls visit(node, center, size) for every node on the canvas, with its middle and size in pixels.
   template <typename Visitor>
   void forEachVisible(const Projection &projection, const Visitor &visit) const {
