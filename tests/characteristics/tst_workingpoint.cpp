@@ -1,5 +1,6 @@
 #include "mapplot.h"
 
+#include <base/generalsettings.h>
 #include <characteristics/characteristicsstack.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
@@ -43,6 +44,7 @@ private slots:
   void configurationsOfPublicStations();
   void publishedCoefficientsCanBeChosen();
   void machinesOfElements();
+  void axesFollowTheUnits();
   void stackWithoutData();
   void mouseZoomsAndReads();
   void picturesOfMaps_data();
@@ -544,6 +546,22 @@ void TestWorkingPoint::stackWithoutData() {
   stack.setMachines(data());
   QVERIFY(stack.open(QStringLiteral("D1")));
   QCOMPARE(stack.findChild<QTabWidget *>()->currentWidget()->objectName(), QStringLiteral("D1"));
+}
+
+/// Also where the page has nothing else to say.
+void TestWorkingPoint::axesFollowTheUnits() {
+  CharacteristicsStack stack(*m_net);
+  stack.setMachines(data());
+  QVERIFY(stack.open(QStringLiteral("M")));
+  const auto title = [&stack] {
+    return stack.findChild<MapPlot *>()->axisTitle(QwtPlot::xBottom).text();
+  };
+  const QString before = title();
+  GeneralSettings::instance().setValue(QStringLiteral("unit: volume flow in the machine"), QStringLiteral("m3/h"));
+  stack.refresh();
+  const QString after = title();
+  GeneralSettings::instance().reset();
+  QVERIFY2(after != before && after.contains(QStringLiteral("h")), qPrintable(after));
 }
 
 void TestWorkingPoint::mouseZoomsAndReads() {

@@ -25,6 +25,7 @@ private slots:
   void parallelLinesLieSideBySide();
   void arrowsPointWhereTheGasGoes();
   void searchResultsStandOut();
+  void foundNodesAreSeenFromAfar();
   void colourScaleNamesOtherColours();
   void hiddenElementsHaveNoMarks();
   void picturesHoldVectors();
@@ -211,6 +212,36 @@ void TestDrawing::searchResultsStandOut() {
   const QImage picture = f.picture();
   QVERIFY(picture.pixelColor(f.pixel(50, 0)).saturation() > 150);
   QVERIFY(picture.pixelColor(f.pixel(150, 0)).saturation() < 20);
+}
+
+void TestDrawing::foundNodesAreSeenFromAfar() {
+  constexpr int Side = 120; // so many that nodes are not drawn
+  ViewFixture f;
+  f.net.clear();
+  const auto name = [](int x, int y) {
+    return QStringLiteral("N%1_%2").arg(x).arg(y).toLatin1();
+  };
+  for (int y = 0; y < Side; ++y) {
+    for (int x = 0; x < Side; ++x) {
+      f.addNode(name(x, y), QByteArray::number(x), QByteArray::number(y), "50");
+      if (x > 0)
+        f.add(makeEdge("H" + name(x, y), name(x - 1, y), name(x, y)), {});
+    }
+  }
+  f.net.element(QStringLiteral("N60_60"))->set(QStringLiteral("isSearchResult"), QStringLiteral("1"));
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.bgrColor = QColor(20, 24, 28);
+  f.plot().setSettings(settings);
+  f.plot().update().setDisplayMode(NetUpdate::DisplayMode::SearchResults);
+  f.plot().update().updatePlot();
+  const QImage picture = f.picture();
+  int red = 0;
+  for (int y = -3; y <= 3; ++y)
+    for (int x = -3; x <= 3; ++x)
+      red += picture.pixelColor(f.pixel(60, 60) + QPoint(x, y)).red() > 180 ? 1 : 0;
+  QVERIFY2(red >= 12, qPrintable(QString::number(red)));
+  QVERIFY(picture.pixelColor(f.pixel(20.5, 20)).lightness() < 128); // the rest keeps back on dark ground, too
 }
 
 void TestDrawing::colourScaleNamesOtherColours() {

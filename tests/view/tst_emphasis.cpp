@@ -19,14 +19,24 @@ private slots:
   void theRestIsAsBeforeAfterwards();
   void marksFollowTheView();
   void documentsMarkTheSelection();
+  void selectionLiesAboveTheCasings();
   void violationsHaveACasing_data();
   void violationsHaveACasing();
+  void casingsSurroundWhatIsDrawn();
+  void casingsOfCrowdsAreNarrow();
+  void casingsFollowTheRules();
 
 private:
   static void select(ViewFixture &f, const char *edge) {
     Selection selection;
     selection.edges.insert(QString::fromLatin1(edge));
     f.control.picker()->setSelection(selection);
+  }
+  static void violate(ViewFixture &f, const QString &name) {
+    f.net.element(name)->set(QStringLiteral("CB_info"), QStringLiteral("(Major: pmax exceeded;)"));
+  }
+  static Index indexOf(ViewFixture &f, const char *node) {
+    return f.plot().update().geometry().find(f.net, QString::fromLatin1(node))->index;
   }
   static bool hasNear(const QImage &picture, const QPoint &place, const QColor &color, int reach = 9) {
     for (int y = place.y() - reach; y <= place.y() + reach; ++y) {
@@ -153,6 +163,94 @@ void TestEmphasis::violationsHaveACasing() {
   f.plot().update().setHiddenLayers(QStringLiteral("vis.layer"), {});
   f.control.redraw(); // once the constraints are kept, the casing is gone
   QVERIFY(!color.isValid() || !hasNear(f.picture(), bc, color));
+}
+
+void TestEmphasis::selectionLiesAboveTheCasings() {
+  const QTemporaryDir folder;
+  ViewFixture f;
+  violate(f, QStringLiteral("AB"));
+  f.show();
+  select(f, "AB");
+  const QString path = folder.filePath(QStringLiteral("marked.svg"));
+  QVERIFY(exportPlot(f.plot(), path, 600));
+  QFile file(path);
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  const QByteArray drawn = file.readAll();
+  QVERIFY(drawn.contains("#ff00ff") && drawn.lastIndexOf("#ff00ff") < drawn.indexOf("#141c26"));
+}
+
+/// However large the element is in this view.
+void TestEmphasis::casingsSurroundWhatIsDrawn() {
+  constexpr double Casing = 5.0; // px
+  constexpr double Gap = 1.5;
+  const QColor magenta = Violations::color(Violations::State::Major);
+  ViewFixture f;
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("qset"), QStringLiteral("-5"));
+  violate(f, QStringLiteral("A"));
+  f.show();
+  const NetUpdate &update = f.plot().update();
+  const double radius = update.drawnSizes().nodes->sizeOf(indexOf(f, "A"), update.projection()) * 0.5;
+  QVERIFY2(radius > 6.0, qPrintable(QString::number(radius))); // a supply is drawn large
+  const QImage picture = f.picture();
+  const QPoint a = f.pixel(0, 0);
+  const int ring = qRound(radius + (Casing + Gap) * 0.5);
+  QVERIFY(hasNear(picture, a - QPoint(ring, 0), magenta, 1));
+  QVERIFY(!hasNear(picture, a - QPoint(qRound(radius + Casing + 3.0), 0), magenta, 1));
+}
+
+/// From afar nodes are not drawn and lines are narrow: a casing as for large ones would hide the neighbours.
+void TestEmphasis::casingsOfCrowdsAreNarrow() {
+  constexpr int Side = 60;
+  ViewFixture f;
+  f.net.clear();
+  const auto name = [](int x, int y) {
+    return QStringLiteral("N%1_%2").arg(x).arg(y).toLatin1();
+  };
+  for (int y = 0; y < Side; ++y) {
+    for (int x = 0; x < Side; ++x) {
+      f.addNode(name(x, y), QByteArray::number(x), QByteArray::number(y), "50");
+      if (x > 0)
+        f.add(makeEdge("H" + name(x, y), name(x - 1, y), name(x, y)), {{"diameter", "500"}});
+      if (y > 0)
+        f.add(makeEdge("V" + name(x, y), name(x, y - 1), name(x, y)), {{"diameter", "500"}});
+    }
+  }
+  violate(f, QStringLiteral("N30_30"));
+  f.show();
+  const NetUpdate &update = f.plot().update();
+  QVERIFY(update.drawnSizes().nodes->sizeOf(indexOf(f, "N30_30"), update.projection()) < 3.0);
+  const QImage picture = f.picture();
+  const QPointF center = *update.geometry().center({NetData::Node, indexOf(f, "N30_30")});
+  const QPoint middle = f.pixel(center.x(), center.y());
+  int pixels = 0;
+  int farthest = 0;
+  for (int y = -20; y <= 20; ++y) {
+    for (int x = -20; x <= 20; ++x) {
+      const QColor found = picture.pixelColor(middle + QPoint(x, y));
+      const bool isCasing = found.red() - found.green() > 70 && found.blue() - found.green() > 70;
+      pixels += isCasing ? 1 : 0;
+      farthest = isCasing ? qMax(farthest, qMax(qAbs(x), qAbs(y))) : farthest;
+    }
+  }
+  QVERIFY2(pixels > 8 && farthest < 8, qPrintable(QStringLiteral("%1 %2").arg(pixels).arg(farthest)));
+}
+
+/// What is not drawn has none, and the legend does not speak of it.
+void TestEmphasis::casingsFollowTheRules() {
+  ViewFixture f;
+  violate(f, QStringLiteral("A"));
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("vis"), QStringLiteral("off"));
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("vis.layer"), QStringLiteral("north"));
+  f.show();
+  const QColor magenta = Violations::color(Violations::State::Major);
+  QVERIFY(!hasNear(f.picture(), f.pixel(0, 0), magenta, 12));
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("vis"), QStringLiteral("on"));
+  f.plot().showNetwork();
+  QVERIFY(hasNear(f.picture(), f.pixel(0, 0), magenta, 12));
+  QCOMPARE(f.plot().update().legendContents().casings.size(), std::size_t(1));
+  f.plot().update().setHiddenLayers(QStringLiteral("vis.layer"), {QStringLiteral("north")});
+  f.plot().update().updatePlot();
+  QVERIFY(f.plot().update().legendContents().casings.empty());
 }
 
 NIVRA_TEST(TestEmphasis);

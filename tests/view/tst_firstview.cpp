@@ -21,11 +21,14 @@ private slots:
   void fewSuppliesStandOutOfMany();
   void networksWithoutExtentAreDrawn();
   void whoTakesNothingIsADot();
+  void editedFlowsChangeTheShape();
   void symbolsComeWhereThereIsRoom();
   void isolatedFittingsShow();
   void compressorsAreThereFromAfar();
   void drivesStandBesideTheLine();
+  void drivesOfParallelLinesStandOutside();
   void drivesAreClickedWhereTheyAreDrawn();
+  void faintSymbolsAreNotPicked();
   void boxesAreNoLouderThanWhatTheyTell();
   void crowdedLinesLeaveRoomAndShowTheBroadOnes();
   void stationsAreNamedAtFirstSight();
@@ -181,6 +184,32 @@ void TestFirstView::networksWithoutExtentAreDrawn() {
   QVERIFY(largest(line, Shape::Supply, 2.0) > 5.5);
 }
 
+void TestFirstView::editedFlowsChangeTheShape() {
+  ViewFixture f;
+  element &a = *f.net.element(QStringLiteral("A"));
+  a.set(QStringLiteral("kind"), QStringLiteral("sink"));
+  a.set(QStringLiteral("qset"), QStringLiteral("0"));
+  f.net.element(QStringLiteral("C"))->set(QStringLiteral("qset"), QStringLiteral("-3"));
+  show(f);
+  const NetUpdate &update = f.plot().update();
+  const auto size = [&update] {
+    return update.drawnSizes().nodes->sizeOf(0, update.projection());
+  };
+  const auto hasDemand = [&update] {
+    const LegendContents contents = update.legendContents();
+    return std::any_of(contents.symbols.begin(), contents.symbols.end(),
+                       [](const LegendContents::Symbol &symbol) { return symbol.shape == Shape::Demand; });
+  };
+  const double idle = size();
+  QVERIFY(!hasDemand());
+  a.set(QStringLiteral("qset"), QStringLiteral("5"));
+  f.plot().update().updatePlot();
+  QVERIFY(size() > idle * 1.5 && hasDemand());
+  a.set(QStringLiteral("qset"), QStringLiteral("0"));
+  f.plot().update().updatePlot();
+  QVERIFY(size() == idle && !hasDemand());
+}
+
 void TestFirstView::whoTakesNothingIsADot() {
   const auto roleOf = [](const char *flow, bool isElsewhere) {
     ViewFixture f;
@@ -292,6 +321,48 @@ void TestFirstView::drivesStandBesideTheLine() {
     const bool isOwn = nameOf(f, placed.item) == QLatin1String("OWN");
     QCOMPARE(isOwn, (placed.center - projection.map(150, 60)).manhattanLength() < 1e-6);
   }
+}
+
+void TestFirstView::drivesOfParallelLinesStandOutside() {
+  ViewFixture f;
+  f.addNode("E", "100", "100", "20");
+  f.addNode("F", "200", "100", "60");
+  f.add(makeEdge("EF1", "E", "F", "c"), {});
+  f.add(makeEdge("EF2", "F", "E", "c"), {});
+  addDrive(f, "D1", "150", "100");
+  addDrive(f, "D2", "150", "100");
+  f.net.element(QStringLiteral("D1"))->set(QStringLiteral("driven"), QStringLiteral("EF1"));
+  f.net.element(QStringLiteral("D2"))->set(QStringLiteral("driven"), QStringLiteral("EF2"));
+  show(f);
+  const std::vector<SymbolLayer::Placed> drives = symbolsOf(f, "d");
+  QCOMPARE(drives.size(), std::size_t(2));
+  for (const SymbolLayer::Placed &drive : drives) {
+    for (const SymbolLayer::Placed &compressor : symbolsOf(f, "c"))
+      QVERIFY(QLineF(drive.center, compressor.center).length() >= (drive.size + compressor.size) * 0.5);
+  }
+  QVERIFY(QLineF(drives[0].center, drives[1].center).length() > 3.0 * drives[0].size); // one above, one below
+}
+
+/// What is all but invisible is not what somebody points at.
+void TestFirstView::faintSymbolsAreNotPicked() {
+  ViewFixture f;
+  f.addNode("M", "203", "49", "20");
+  f.addNode("M2", "203", "51", "20");
+  f.add(makeEdge("MM2", "M", "M2", "v"), {}); // beside the compressor
+  show(f);
+  bool hasFaint = false;
+  for (double width = 300.0; width > 5.0; width *= 0.95) {
+    zoomTo(f, QRectF(203.0 - width * 0.5, 50.0 - width / 3.0, width, width / 1.5));
+    for (const SymbolLayer::Placed &placed : symbolsOf(f, "v")) {
+      const std::vector<Hit> hits = f.plot().update().elementsAt(placed.center + QPointF(0.0, placed.size * 0.3), 0.0);
+      const bool isPicked = std::any_of(hits.begin(), hits.end(), [&placed](const Hit &hit) {
+        return hit.rank == HitRank::Symbol && hit.item == placed.item;
+      });
+      QCOMPARE(isPicked, placed.presence >= 0.3);
+      hasFaint = hasFaint || !isPicked;
+    }
+  }
+  QVERIFY(hasFaint);
 }
 
 void TestFirstView::drivesAreClickedWhereTheyAreDrawn() {

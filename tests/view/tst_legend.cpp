@@ -3,6 +3,7 @@
 #include "interaction/plotzoom.h"
 #include "viewfixture.h"
 
+#include <drawing/legendpicture.h>
 #include <drawing/scaleticks.h>
 #include <support/nivratest.h>
 #include <view/plotexport.h>
@@ -20,9 +21,15 @@ class TestLegend : public QObject {
 private slots:
   void saysWhatIsDrawn();
   void nodesHaveTheirOwnScale();
+  void sizesAreThoseOfTheView();
   void capsTellOfOutliers();
   void ticksAreRoundAndDistinct_data();
   void ticksAreRoundAndDistinct();
+  void breaksAreWrittenAsTheyAre_data();
+  void breaksAreWrittenAsTheyAre();
+  void breaksBeyondTheRange();
+  void aBroadBlockDropsNoOther();
+  void casingsLieOnTheGround();
   void staysSmall_data();
   void staysSmall();
   void standsWhereItHidesLeast();
@@ -102,6 +109,35 @@ void TestLegend::nodesHaveTheirOwnScale() {
   QVERIFY(contents.sizes.samples.front().size < contents.sizes.samples.back().size);
 }
 
+void TestLegend::sizesAreThoseOfTheView() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("A"))->set(QStringLiteral("height"), QStringLiteral("0"));
+  f.net.element(QStringLiteral("B"))->set(QStringLiteral("height"), QStringLiteral("400"));
+  f.plot().show();
+  f.showAtFirst();
+  PlotSettings settings = f.plot().settings();
+  settings.functions[Aspect::NodeSize].name = QStringLiteral("height");
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot();
+  NetUpdate &update = f.plot().update();
+  const Index b = update.geometry().find(f.net, QStringLiteral("B"))->index;
+  const auto sample = [&update] {
+    const LegendContents contents = update.legendContents();
+    return contents.sizes.samples.empty() ? LegendContents::Sample() : contents.sizes.samples.back();
+  };
+  const auto drawn = [&update, b] {
+    return update.drawnSizes().nodes->sizeOf(b, update.projection());
+  };
+  QCOMPARE(sample().text, QStringLiteral("400"));
+  const double before = sample().size;
+  QCOMPARE(before, drawn());
+  const QSignalSpy changed(&update, &NetUpdate::legendChanged);
+  f.plot().zoomer()->zoomIn({100, 0}, 3.0);
+  update.requestPixtest(-1);
+  QCOMPARE(sample().size, drawn());
+  QVERIFY(drawn() > before && changed.count() > 0);
+}
+
 void TestLegend::capsTellOfOutliers() {
   ViewFixture f;
   f.showAtFirst();
@@ -141,6 +177,92 @@ void TestLegend::ticksAreRoundAndDistinct() {
     QCOMPARE(texts.size(), static_cast<int>(ticks.size()));
   }
   QVERIFY(ScaleTicks::within({low, high}, 6).size() > 1);
+}
+
+void TestLegend::breaksAreWrittenAsTheyAre_data() {
+  QTest::addColumn<QVector<double>>("breaks");
+  QTest::addColumn<QStringList>("texts");
+  const auto row = [](const QVector<double> &breaks, const char *texts) {
+    QTest::newRow(texts) << breaks << QString::fromLatin1(texts).split(QLatin1Char(' '));
+  };
+  row({2.5, 5, 7.5}, "2.5 5.0 7.5");
+  row({0.25, 0.5, 0.75}, "0.25 0.50 0.75");
+  row({0.05, 50, 100}, "0.05 50 100");
+  row({0.0123456, 50.1234, 99.876}, "0.0123 50.1 99.9");
+  row({20, 40, 60}, "20 40 60");
+  row({-0.5, 0, 0.5}, "-0.5 0.0 0.5");
+}
+
+void TestLegend::breaksAreWrittenAsTheyAre() {
+  QFETCH(QVector<double>, breaks);
+  QFETCH(QStringList, texts);
+  const std::vector<double> ticks(breaks.begin(), breaks.end());
+  QStringList written;
+  for (const double tick : ticks)
+    written.append(ScaleTicks::text(tick, ticks));
+  QCOMPARE(written, texts);
+}
+
+/// A scale whose breaks all lie beyond its values has its numbers all the same.
+void TestLegend::breaksBeyondTheRange() {
+  LegendContents contents;
+  LegendContents::Scale scale;
+  scale.title = QStringLiteral("pressure");
+  scale.range = QwtInterval(20, 60);
+  scale.colors.assign(128, qRgb(0, 90, 200));
+  contents.scales.push_back(scale);
+  const auto drawn = [&contents] {
+    LegendPicture picture;
+    picture.setContents(contents, Qt::white, QFont(), {});
+    picture.fitInto({400, 400});
+    QImage image(400, 400, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    picture.draw(painter, {});
+    return image;
+  };
+  const QImage smooth = drawn();
+  contents.scales[0].breaks = {100, 200};
+  QCOMPARE(drawn(), smooth);
+}
+
+void TestLegend::aBroadBlockDropsNoOther() {
+  LegendContents contents;
+  contents.sizes.title = QStringLiteral("size");
+  for (int i = 0; i < 3; ++i)
+    contents.sizes.samples.push_back({20.0, QString(30, QLatin1Char('8'))});
+  contents.lines = {{qRgb(1, 2, 3), QStringLiteral("no flow")}};
+  const auto sizeOf = [&contents](double width) {
+    LegendPicture picture;
+    picture.setContents(contents, Qt::white, QFont(), {});
+    picture.fitInto({width, 400});
+    return picture.size();
+  };
+  const QSizeF without = sizeOf(200);
+  QVERIFY(!without.isEmpty());
+  contents.sizes.samples.clear();
+  QCOMPARE(sizeOf(200), without);
+  for (const char *word : {"a control valve with its valves", "a compressor station of several machines"})
+    contents.lines.push_back({qRgb(1, 2, 3), QString::fromLatin1(word)});
+  const QSizeF many = sizeOf(300); // below each other where they do not fit side by side
+  QVERIFY(!many.isEmpty() && many.width() <= 300 && many.height() > without.height() * 1.5);
+}
+
+void TestLegend::casingsLieOnTheGround() {
+  const QColor ground(20, 24, 28);
+  LegendContents contents;
+  contents.casings = {{qRgb(255, 0, 255), QStringLiteral("beyond bounds")}};
+  LegendPicture picture;
+  picture.setContents(contents, ground, QFont(), {});
+  picture.fitInto({400, 400});
+  QImage image(400, 100, QImage::Format_RGB32);
+  image.fill(ground);
+  QPainter painter(&image);
+  picture.draw(painter, {});
+  painter.end();
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < 30; ++x)
+      QVERIFY(image.pixelColor(x, y) != QColor(Qt::white));
 }
 
 void TestLegend::staysSmall_data() {

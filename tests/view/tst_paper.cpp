@@ -14,8 +14,10 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPicture>
 #include <QPrinter>
 #include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
@@ -77,7 +79,13 @@ private slots:
   void nothingOverlapsOnAnyPaper_data();
   void nothingOverlapsOnAnyPaper();
   void documentsHoldVectors();
+  void theLegendIsThatOfTheCanvas();
   void thePrinterGetsThePage();
+  void selectedElementsStayAsTheyAre_data();
+  void selectedElementsStayAsTheyAre();
+  void withoutLabelsNothingIsNamed();
+  void typingATitlePlacesNoLabels();
+  void paleLinesOfADarkScreen();
   void pixelsHaveTheSizeOfThePaper();
   void theScreenIsAsBefore();
   void theDrawingFillsItsFrame();
@@ -89,6 +97,7 @@ private slots:
   void seriesOfFiles();
   void seriesInOneBook();
   void seriesOfScenarios();
+  void seriesKeepTheirClasses();
   void fullDiskIsTold_data();
   void fullDiskIsTold();
 
@@ -167,6 +176,27 @@ void TestPaper::documentsHoldVectors() {
   QVERIFY(contentOf(pdf).contains("/ShadingType"));
 }
 
+/// What the canvas says of casings, classes and searches stands on paper too, and nothing else.
+void TestPaper::theLegendIsThatOfTheCanvas() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("CB_info"), QStringLiteral("(Major: pmax exceeded;)"));
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("isSearchResult"), QStringLiteral("1"));
+  f.show();
+  const auto said = [&](NetUpdate::DisplayMode mode) {
+    DrawingSource source = sourceOf(f);
+    source.mode = mode;
+    NetworkPage page(source, {});
+    const QString path = m_folder.filePath(QStringLiteral("legend.svg"));
+    QString reason;
+    return PageWriter::write(path, PageSetup(), page, page.text(), &reason) ? contentOf(path) : QByteArray();
+  };
+  const QByteArray functions = said(NetUpdate::DisplayMode::Functions);
+  for (const char *part : {"beyond bounds (major)", "edges and nodes", "compressor"})
+    QVERIFY2(functions.contains(part), part);
+  const QByteArray searched = said(NetUpdate::DisplayMode::SearchResults);
+  QVERIFY(searched.contains("search results") && !searched.contains("diameter"));
+}
+
 void TestPaper::thePrinterGetsThePage() {
   ViewFixture f;
   f.show();
@@ -187,6 +217,94 @@ void TestPaper::thePrinterGetsThePage() {
   QVERIFY2(qRound(box.captured(1).toDouble()) == 595 && std::abs(box.captured(2).toDouble() - 419.5) < 1.0,
            qPrintable(box.captured()));
   QCOMPARE(printed.count("/Subtype /Image"), 0);
+}
+
+void TestPaper::selectedElementsStayAsTheyAre_data() {
+  QTest::addColumn<bool>("isVector");
+  QTest::newRow("pixels") << false;
+  QTest::newRow("vectors") << true;
+}
+
+/// The selection surrounds its elements on every paper, it does not cover them, and nothing else pales.
+void TestPaper::selectedElementsStayAsTheyAre() {
+  QFETCH(bool, isVector);
+  ViewFixture f;
+  f.show();
+  f.control.mark(QStringLiteral("BC"));
+  PageDrawing drawing(sourceOf(f));
+  drawing.setView({600, 400}, std::nullopt);
+  const auto painted = [&](bool marksSelection) {
+    QImage image(600, 400, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QPicture vectors;
+    if (isVector) {
+      QPainter recorder(&vectors);
+      drawing.paint(recorder, marksSelection);
+      recorder.end();
+      painter.drawPicture(0, 0, vectors);
+    } else {
+      drawing.paint(painter, marksSelection);
+    }
+    return image;
+  };
+  const QImage plain = painted(false);
+  const QImage marked = painted(true);
+  const Projection projection = drawing.update().projection();
+  const QPoint bc = projection.map(125, 0).toPoint();
+  QCOMPARE(marked.pixelColor(bc), plain.pixelColor(bc));
+  QCOMPARE(marked.pixelColor(projection.map(25, 0).toPoint()), plain.pixelColor(projection.map(25, 0).toPoint()));
+  bool hasOutline = false;
+  for (int y = -8; y <= 8; ++y)
+    hasOutline = hasOutline || marked.pixelColor(bc + QPoint(0, y)) == QColor(0x14, 0x1c, 0x26);
+  QVERIFY(hasOutline);
+}
+
+void TestPaper::withoutLabelsNothingIsNamed() {
+  ViewFixture f;
+  f.show();
+  NetworkPage page(sourceOf(f), {});
+  PageSetup setup;
+  setup.hasLabels = false;
+  page.layOut({600, 400}, setup, PageContent::Detail::Whole);
+  QVERIFY(page.drawing().update().names().empty() && page.drawing().update().labels().empty());
+  setup.hasLabels = true;
+  page.layOut({600, 400}, setup, PageContent::Detail::Whole);
+  QVERIFY(!page.drawing().update().labels().empty());
+}
+
+void TestPaper::typingATitlePlacesNoLabels() {
+  ViewFixture f;
+  f.show();
+  NetworkPage page(sourceOf(f), {});
+  const auto picture = [&page](const char *title, const PageSetup &setup) {
+    PageText text = page.text();
+    text.title = QString::fromLatin1(title);
+    return PageWriter::picture(setup, page, text, 60);
+  };
+  const PageSetup setup;
+  const QImage first = picture("a", setup);
+  const QSignalSpy drawn(&page.drawing().update(), &NetUpdate::changed);
+  QVERIFY(picture("ab", setup) != first);
+  QCOMPARE(drawn.count(), 0);
+  QCOMPARE(picture("a", setup), first);
+  PageSetup without;
+  without.hasLabels = false;
+  picture("a", without);
+  QVERIFY(page.drawing().update().labels().empty()); // another choice counts at once
+}
+
+void TestPaper::paleLinesOfADarkScreen() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("AB"))->set(QStringLiteral("state"), QStringLiteral("off"));
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.edgeColorInactive = QColor(235, 235, 235);
+  f.plot().setSettings(settings);
+  QCOMPARE(PageDrawing(sourceOf(f)).settings().edgeColorInactive, settings.edgeColorInactive); // who wants it pale has it so
+  settings.bgrColor = QColor(20, 24, 28);
+  f.plot().setSettings(settings);
+  QVERIFY(PageDrawing(sourceOf(f)).settings().edgeColorInactive.lightness() < 180);
 }
 
 void TestPaper::pixelsHaveTheSizeOfThePaper() {
@@ -442,6 +560,39 @@ void TestPaper::seriesOfScenarios() {
     return page.drawing().update().values().of(Aspect::NodeColor).range;
   };
   QVERIFY(rangeOf(*other) == rangeOf(present) && rangeOf(present).maxValue() < 100.0);
+}
+
+void TestPaper::seriesKeepTheirClasses() {
+  ViewFixture f;
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.colorClasses = 3;
+  settings.classMethod = PlotSettings::quantileClasses();
+  f.plot().setSettings(settings);
+  f.plot().update().updatePlot();
+  NetworkPage present(sourceOf(f), {QStringLiteral("CASE"), QStringLiteral("S1")});
+  ScenarioSource scenarios;
+  scenarios.read = [](const QString &, NetData &net, const Progress &, QString *) {
+    ViewFixture other;
+    other.net.forEach(NetData::AllTypes, [&net](element &e) { net.addElement(element(e)); });
+    net.nodes().find(QStringLiteral("B"))->set(QStringLiteral("p"), QStringLiteral("58"));
+    return true;
+  };
+  NetworkSeries series(present, {QStringLiteral("CASE"), QStringLiteral("S1")}, scenarios);
+  const NetworkSeries::Choice choice{{{QStringLiteral("all"), std::nullopt}}, {QStringLiteral("S2")}, true};
+  const auto pages = series.pages(choice, {}, [] { return true; });
+  PageText text;
+  QString reason;
+  const auto *other = dynamic_cast<NetworkPage *>(pages[0].open(text, &reason));
+  QVERIFY(other != nullptr);
+  const auto breaksOf = [](const NetworkPage &page) {
+    return ColorScale::breaksOf(page.drawing().settings(), page.drawing().update().values().of(Aspect::EdgeColor));
+  };
+  const std::vector<double> breaks = breaksOf(present);
+  const std::vector<double> again = breaksOf(*other);
+  QVERIFY(!breaks.empty() && breaks.size() == again.size());
+  for (std::size_t i = 0; i < breaks.size(); ++i)
+    QVERIFY(std::abs(breaks[i] - again[i]) < 1e-9);
 }
 
 void TestPaper::fullDiskIsTold_data() {

@@ -3,6 +3,7 @@
 #include "mapplot.h"
 #include "shownnumber.h"
 
+#include <base/generalsettings.h>
 #include <model/displayformat.h>
 #include <model/units.h>
 
@@ -230,8 +231,10 @@ void MachinePage::refresh() {
   const NetworkMachines::Machine machine = m_machines.machine(*e, m_machine->currentText(), choice());
   const QString said = text(machine);
   offerFunctions(machine);
-  if (m_map != nullptr && said == m_text->text() && sender() == nullptr)
+  const unsigned settings = GeneralSettings::instance().revision(); // units and digits of the axes are among them
+  if (m_map != nullptr && said == m_text->text() && settings == m_settings && sender() == nullptr)
     return;
+  m_settings = settings;
   delete m_map;
   m_map = makeMap(machine);
   m_column->insertWidget(m_column->count() - 1, m_map, 3);

@@ -44,5 +44,6 @@ private:
   PageFacts m_facts;
   QVBoxLayout *m_column;
   QWidget *m_map = nullptr;
+  unsigned m_settings = 0; ///< revision of the general settings that the map was made with
   QLabel *m_text;
 };

@@ -60,8 +60,9 @@ const QStringList &LegendPlace::names() {
 }
 
 QString LegendPlace::title(Corner corner) {
-  constexpr std::array<const char *, 4> Titles{"upper left corner", "lower left corner", "upper right corner",
-                                               "lower right corner"};
+  constexpr std::array<const char *, 4> Titles{
+      QT_TRANSLATE_NOOP("LegendPlace", "upper left corner"), QT_TRANSLATE_NOOP("LegendPlace", "lower left corner"),
+      QT_TRANSLATE_NOOP("LegendPlace", "upper right corner"), QT_TRANSLATE_NOOP("LegendPlace", "lower right corner")};
   return QCoreApplication::translate("LegendPlace", Titles[static_cast<std::size_t>(corner)]);
 }
 

@@ -65,7 +65,7 @@ NetPlot::NetPlot(QWidget *parent, Told told)
   m_hint.attach(m_plot);
   m_hint.hide();
   m_selection.setFilter(&m_update->layers());
-  m_selection.setEdgeWidths(&m_update->edgeWidths());
+  m_selection.setSizes(m_update->drawnSizes());
   m_selection.attach(m_plot);
   m_plot->addOverlayItem(&m_selection);
   applyColors();
@@ -245,7 +245,6 @@ bool NetPlot::pansWith(Qt::MouseButton button, Qt::KeyboardModifiers keys) const
 
 void NetPlot::setSettings(const PlotSettings &settings) {
   m_settings = settings;
-  m_selection.setSizes(m_settings.nodeMag, m_settings.symMag);
   m_selection.setGround(m_settings.bgrColor, m_settings.dimsRest);
   applyColors();
   emit settingsChanged();

@@ -83,12 +83,14 @@ void viewFuncDialog::fillChoices() {
   m_ui->classMethod->addItem(tr("as many elements in each"), PlotSettings::quantileClasses());
   m_ui->classMethod->addItem(tr("breaks of your own"), PlotSettings::ownClasses());
   m_ui->colorScalePos->addItems({tr("not shown"), tr("at the top"), tr("on the right")});
-  m_ui->legendPos->addItems({tr("not shown"), tr("upper left corner"), tr("lower left corner"), tr("upper right corner"),
-                             tr("lower right corner")});
+  m_ui->legendPos->addItem(tr("not shown"));
   m_ui->legendCorner->addItem(tr("not shown"), QString());
   m_ui->legendCorner->addItem(tr("where it hides least"), PlotSettings::automaticCorner());
-  for (int i = 0; i < LegendPlace::names().size(); ++i)
-    m_ui->legendCorner->addItem(LegendPlace::title(static_cast<LegendPlace::Corner>(i)), LegendPlace::names().at(i));
+  for (int i = 0; i < LegendPlace::names().size(); ++i) {
+    const QString corner = LegendPlace::title(static_cast<LegendPlace::Corner>(i));
+    m_ui->legendPos->addItem(corner);
+    m_ui->legendCorner->addItem(corner, LegendPlace::names().at(i));
+  }
   for (const QString &mode :
        {QStringLiteral("no label"), QStringLiteral("name only"), QStringLiteral("selected properties")})
     m_ui->label_mode->addItem(mode, mode);

@@ -3,7 +3,6 @@
 NetworkPage::NetworkPage(DrawingSource source, PageFacts facts)
     : m_facts(std::move(facts))
     , m_drawing(std::move(source))
-    , m_legend(m_drawing)
     , m_reference(GeoReference::of(m_drawing.update().geometry(), *m_drawing.source().net->metaData()))
     , m_area(m_drawing.source().area) {}
 
@@ -15,9 +14,14 @@ PageText NetworkPage::text() const {
 void NetworkPage::layOut(const QSizeF &frame, const PageSetup &setup, Detail detail) {
   m_frame = frame;
   m_marksSelection = setup.marksSelection;
-  m_drawing.setView(frame, setup.area == PageSetup::Area::Window ? m_area : std::nullopt);
-  if (detail == Detail::Draft)
-    return;
+  const std::optional<QRectF> area = setup.area == PageSetup::Area::Window ? m_area : std::nullopt;
+  m_drawing.aim(frame, area);
+  const LaidOut wanted{frame, area, setup.hasLabels};
+  if (detail == Detail::Draft || (m_laidOut && *m_laidOut == wanted))
+    return; // somebody may be typing a title, and labels of a large network take their time
+  m_laidOut = wanted;
+  m_drawing.setNamesWanted(setup.hasLabels);
+  m_drawing.setView(frame, area);
   if (setup.hasLabels)
     m_drawing.placeLabels();
   else
@@ -25,7 +29,7 @@ void NetworkPage::layOut(const QSizeF &frame, const PageSetup &setup, Detail det
 }
 
 std::vector<PaperLegendPart> NetworkPage::legend() const {
-  return m_legend.blocks();
+  return NetworkLegend::blocks(m_drawing);
 }
 
 std::optional<PaperScale> NetworkPage::scale() const {

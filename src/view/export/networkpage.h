@@ -24,11 +24,22 @@ public:
   void paint(QPainter &painter) const override;
 
 private:
+  /// What the drawing was made ready for.
+  struct LaidOut {
+    QSizeF frame;
+    std::optional<QRectF> area;
+    bool hasLabels;
+
+    friend bool operator==(const LaidOut &a, const LaidOut &b) {
+      return a.frame == b.frame && a.area == b.area && a.hasLabels == b.hasLabels;
+    }
+  };
+
   PageFacts m_facts;
   PageDrawing m_drawing;
-  mutable NetworkLegend m_legend; ///< makes its symbols when they are asked for
   GeoReference m_reference;
   std::optional<QRectF> m_area;
+  std::optional<LaidOut> m_laidOut;
   QSizeF m_frame;
   bool m_marksSelection = true;
 };

@@ -1,6 +1,8 @@
 #include "export/networkseries.h"
 
-/// With the bounds that the present drawing has, whether they are fixed or come from its values.
+#include <drawing/colorscale.h>
+
+/// With the bounds and classes that the present drawing has, whether they are fixed or come from its values.
 PlotSettings NetworkSeries::fixedSettings() const {
   PlotSettings settings = m_present.drawing().source().settings;
   for (const Aspect aspect : AllAspects) {
@@ -10,7 +12,23 @@ PlotSettings NetworkSeries::fixedSettings() const {
     settings.functions[aspect].minimum = range.minValue();
     settings.functions[aspect].maximum = range.maxValue();
   }
+  if (settings.classMethod == PlotSettings::quantileClasses())
+    fixClasses(settings);
   return settings;
+}
+
+/// As many values in each class: that would be other classes of another scenario.
+void NetworkSeries::fixClasses(PlotSettings &settings) const {
+  constexpr int Exact = 17; // digits that tell two numbers apart
+  const DrawValues::Column &edges = m_present.drawing().update().values().of(Aspect::EdgeColor);
+  const std::vector<double> breaks = ColorScale::breaksOf(m_present.drawing().settings(), edges);
+  if (breaks.empty())
+    return;
+  QStringList texts;
+  for (const double value : breaks)
+    texts.append(QString::number(edges.function.toTable(value), 'g', Exact));
+  settings.classMethod = PlotSettings::ownClasses();
+  settings.classBreaks = texts.join(QLatin1Char(';'));
 }
 
 bool NetworkSeries::read(const QString &scenario, bool keepsScales, const std::function<bool()> &goOn, QString *reason) {

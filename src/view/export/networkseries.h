@@ -39,6 +39,7 @@ private:
                     QString *reason);
   bool read(const QString &scenario, bool keepsScales, const std::function<bool()> &goOn, QString *reason);
   PlotSettings fixedSettings() const;
+  void fixClasses(PlotSettings &settings) const;
 
   NetworkPage &m_present;
   PageFacts m_facts;

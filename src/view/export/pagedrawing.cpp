@@ -4,9 +4,16 @@
 
 namespace {
 
-/// Texts that were light on a dark screen are to be read on paper, too.
+/// Texts and lines that were light on a dark screen are to be seen on paper, too.
 PlotSettings onPaper(PlotSettings settings) {
   constexpr int Pale = 160;
+  const PlotSettings usual;
+  if (ColorScale::isDark(settings.bgrColor)) {
+    for (auto color : {&PlotSettings::edgeColorNoFlow, &PlotSettings::edgeColorInactive}) {
+      if ((settings.*color).lightness() > Pale)
+        settings.*color = usual.*color;
+    }
+  }
   settings.bgrColor = Qt::white;
   for (QColor *color : {&settings.edgeLabelsColor, &settings.nodeLabelsColor}) {
     if (color->lightness() > Pale)
@@ -38,7 +45,9 @@ PageDrawing::PageDrawing(DrawingSource source)
   m_update.updatePlot(NetUpdate::Elements::Renewed, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Kept);
   m_selection.setGeometry(&m_update.geometry());
   m_selection.setFilter(&m_update.layers());
-  m_selection.setSizes(m_settings.nodeMag, m_settings.symMag);
+  m_selection.setSizes(m_update.drawnSizes());
+  m_selection.setGround(m_settings.bgrColor, false);
+  m_selection.setIsInDocument(true);
   m_selection.setItems(m_source.selection);
 }
 
@@ -78,6 +87,11 @@ QRectF PageDrawing::wholeNetwork(const QSizeF &frame) const {
 }
 
 void PageDrawing::setView(const QSizeF &frame, const std::optional<QRectF> &area) {
+  aim(frame, area);
+  m_update.showForView();
+}
+
+void PageDrawing::aim(const QSizeF &frame, const std::optional<QRectF> &area) {
   m_frame = frame.expandedTo({1.0, 1.0});
   const bool hasArea = area && area->width() > 0.0 && area->height() > 0.0;
   m_visible = hasArea ? m_update.geometry().toPlot(*area) : wholeNetwork(m_frame);
@@ -87,15 +101,15 @@ void PageDrawing::setView(const QSizeF &frame, const std::optional<QRectF> &area
   m_xMap.setPaintInterval(0.0, m_frame.width());
   m_yMap.setScaleInterval(m_visible.top(), m_visible.bottom()); // plot coordinates grow upwards
   m_yMap.setPaintInterval(m_frame.height(), 0.0);
-  m_update.showForView();
 }
 
 void PageDrawing::paint(QPainter &painter, bool marksSelection) const {
-  std::vector<QwtPlotItem *> items = const_cast<NetUpdate &>(m_update).items(); // NOLINT: painting changes none of them
-  std::stable_sort(items.begin(), items.end(), [](const QwtPlotItem *a, const QwtPlotItem *b) { return a->z() < b->z(); });
+  const std::vector<QwtPlotItem *> items =
+      const_cast<NetUpdate &>(m_update).items(); // NOLINT: painting changes none of them
   std::vector<const QwtPlotItem *> shown(items.begin(), items.end());
   if (marksSelection)
     shown.push_back(&m_selection);
+  std::stable_sort(shown.begin(), shown.end(), [](const QwtPlotItem *a, const QwtPlotItem *b) { return a->z() < b->z(); });
   const QRectF canvas(QPointF(), m_frame);
   for (const QwtPlotItem *item : shown) {
     painter.save();

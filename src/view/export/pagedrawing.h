@@ -31,8 +31,12 @@ public:
   /// Brings an area of the network, in its own coordinates, into a frame of this size, px, which it fills: what lies beside
   /// it is seen where the shapes differ. Without an area the whole network.
   void setView(const QSizeF &frame, const std::optional<QRectF> &area);
+  /// The same, without deciding anew what is shown there: enough to ask what is seen.
+  void aim(const QSizeF &frame, const std::optional<QRectF> &area);
   /// What is seen, in plot coordinates.
   const QRectF &visible() const { return m_visible; }
+  /// Whether stations are named where no labels are placed; for the next view.
+  void setNamesWanted(bool areWanted) { m_update.setNamesWanted(areWanted); }
   void placeLabels() { m_update.placeLabelsNow(); }
   void clearLabels() { m_update.clearLabels(); }
 

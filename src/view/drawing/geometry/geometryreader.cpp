@@ -219,6 +219,16 @@ ElementValues GeometryReader::read(const NetData &net, const ValueRequest &reque
   return values.values();
 }
 
+bool GeometryReader::readFlows(const NetData &net, NetGeometry &geometry) {
+  std::vector<NetGeometry::NodeFlow> flows(geometry.nodes().size());
+  const PropertyColumns wanted = columnsOf({"x", "y", "type", "kind", "pset", "powset", "qset", "mset"});
+  wanted.forEach(sourcesOf(geometry.nodes()), [&](std::size_t i, const PropertyColumns &columns) {
+    const NetGeometry::Node &node = geometry.nodes()[i];
+    flows[i] = {flowOf(columns), node.isDrive ? node.shape : shapeOf(net, *node.source, columns)};
+  });
+  return geometry.setFlows(flows);
+}
+
 ElementValues GeometryReader::readValues(const NetGeometry &geometry, const ValueRequest &request) {
   ValueReader values(request, geometry.nodes().size(), geometry.edges().size());
   const auto readNode = [&](std::size_t i, const PropertyColumns &columns) {

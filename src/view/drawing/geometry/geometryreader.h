@@ -30,6 +30,8 @@ namespace GeometryReader {
 
 /// Where everything lies and, in the same walk over the elements, the values that are wanted.
 ElementValues read(const NetData &net, const ValueRequest &request, NetGeometry &geometry);
+/// What nodes supply and take now, of the network that the geometry was read from. True when nodes are shown otherwise.
+bool readFlows(const NetData &net, NetGeometry &geometry);
 /// The values alone, of the network that the geometry was read from.
 ElementValues readValues(const NetGeometry &geometry, const ValueRequest &request);
 

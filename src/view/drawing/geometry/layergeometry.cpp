@@ -89,9 +89,13 @@ double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize) {
 QPointF besideLine(const QLineF &line, double lane, double symbolSize) {
   constexpr double Distance = 1.2; // symbols, from middle to middle
   const double length = line.length();
-  QPointF away(line.dy() / length, -line.dx() / length);
-  if (away.y() > 0.0 || (away.y() == 0.0 && away.x() < 0.0))
+  QPointF away(line.dy() / length, -line.dx() / length); // to the left of the line
+  if (lane != 0.0) {
+    if (lane > 0.0)
+      away = -away; // where no neighbour lies
+  } else if (away.y() > 0.0 || (away.y() == 0.0 && away.x() < 0.0)) {
     away = -away; // upwards on the screen
+  }
   return LaneWay(line, lane * laneSpacing(true, 0.0, symbolSize)).middle().center() + away * (symbolSize * Distance);
 }
 

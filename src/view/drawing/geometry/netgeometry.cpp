@@ -206,15 +206,31 @@ double NetGeometry::area() const {
   return std::max(width * height, m_typicalLength * std::max(width, height));
 }
 
-/// Without a scenario nobody knows who supplies and takes; then each is shown as what it is.
-void NetGeometry::markIdleNodes() {
+bool NetGeometry::setFlows(const std::vector<NodeFlow> &flows) {
+  bool hasChanged = false;
+  for (Index i = 0; i < flows.size(); ++i) {
+    Node &node = m_records.nodes[i];
+    hasChanged = hasChanged || node.shape != flows[i].shape;
+    node.flow = flows[i].flow;
+    node.shape = flows[i].shape;
+  }
+  return markIdleNodes() || hasChanged;
+}
+
+/// Without a scenario nobody knows who supplies and takes; then each is shown as what it is. True when that is new of a
+/// node.
+bool NetGeometry::markIdleNodes() {
   const auto flows = [](const Node &node) {
     return node.flow != NetData::NoValue && node.flow != 0.0;
   };
-  if (std::none_of(nodes().begin(), nodes().end(), flows))
-    return;
-  for (Node &node : m_records.nodes)
-    node.isIdle = !flows(node) && (node.shape == NodeShape::Supply || node.shape == NodeShape::Demand);
+  const bool isAnyKnown = std::any_of(nodes().begin(), nodes().end(), flows);
+  bool hasChanged = false;
+  for (Node &node : m_records.nodes) {
+    const bool isIdle = isAnyKnown && !flows(node) && (node.shape == NodeShape::Supply || node.shape == NodeShape::Demand);
+    hasChanged = hasChanged || isIdle != node.isIdle;
+    node.isIdle = isIdle;
+  }
+  return hasChanged;
 }
 
 const element *NetGeometry::source(Item item) const {

@@ -39,6 +39,7 @@ EdgeLayer::EdgeLayer() {
 }
 
 void EdgeLayer::setEdges(const NetGeometry &geometry) {
+  m_factor.reset();
   m_typicalLength = geometry.typicalLength();
   std::vector<SpatialIndex::Box> boxes;
   std::vector<Index> edgesOfBoxes;
@@ -73,6 +74,7 @@ void EdgeLayer::setEdges(const NetGeometry &geometry) {
 }
 
 void EdgeLayer::setLooks(const std::vector<EdgeLook> &looks) {
+  m_factor.reset();
   // Number the pens as they come, then put them into drawing order.
   std::unordered_map<std::uint64_t, Index> numbers;
   std::vector<std::uint64_t> keys;
@@ -111,6 +113,7 @@ void EdgeLayer::clear() {
   m_records.clear();
   m_index.clear();
   m_pens.clear();
+  m_factor.reset();
 }
 
 LaneWay EdgeLayer::way(const Record &record, const Projection &projection) const {
@@ -207,8 +210,12 @@ QColor mixed(const QColor &color, const QColor &other, double share) {
 
 } // namespace
 
-QPen EdgeLayer::penFor(const QPen &pen, double apart) const {
+double EdgeLayer::factorFor(double apart) const {
   constexpr double ShareOfRoom = 0.4;
+  return m_widest > 0.0 ? std::min(1.0, apart * ShareOfRoom / m_widest) : 1.0;
+}
+
+QPen EdgeLayer::penFor(const QPen &pen, double apart) const {
   constexpr double NextWidth = 1.4; // px: below it a line looks like one of a pixel, which is drawn much quicker
   constexpr double Paleness = 0.7;  // of the narrowest line where lines touch
   constexpr double Touching = 2.0;  // px
@@ -218,7 +225,7 @@ QPen EdgeLayer::penFor(const QPen &pen, double apart) const {
   const double narrowness = m_widest > 0.0 ? 1.0 - pen.widthF() / m_widest : 0.0;
   if (crowd > 0.0 && narrowness > 0.0)
     drawn.setColor(mixed(pen.color(), m_background, crowd * narrowness * Paleness));
-  const double factor = std::min(1.0, m_widest > 0.0 ? apart * ShareOfRoom / m_widest : 1.0);
+  const double factor = factorFor(apart);
   const double width = pen.widthF() * factor;
   drawn.setWidthF(factor < 1.0 && width < NextWidth ? std::min(pen.widthF(), 1.0) : width);
   return drawn;
@@ -259,6 +266,29 @@ std::vector<QLineF> EdgeLayer::inDrawingOrder(const std::vector<VisibleLine> &li
   return sorted;
 }
 
+std::vector<EdgeLayer::VisibleLine> EdgeLayer::visibleLines(const Projection &projection, double arrowSize,
+                                                            std::vector<Arrow> &arrows) const {
+  const double margin = m_widest + 1.0;
+  const QRectF area = projection.canvas().adjusted(-margin, -margin, margin, margin);
+  std::vector<VisibleLine> visible;
+  m_index.query(projection.visible(margin), [&](Index i) {
+    if (m_records[i].pen != NoIndex)
+      addLines(m_records[i], projection, area, visible, arrowSize, arrows);
+  });
+  return visible;
+}
+
+double EdgeLayer::widthFactor(const Projection &projection) const {
+  if (!projection.isValid())
+    return 1.0;
+  if (!m_factor || !(m_factor->first == projection)) {
+    std::vector<Arrow> none;
+    const double apart = distanceBetween(visibleLines(projection, 0.0, none), coveredPart(projection));
+    m_factor.emplace(projection, factorFor(apart));
+  }
+  return m_factor->second;
+}
+
 QRectF EdgeLayer::coveredPart(const Projection &projection) const {
   constexpr double Surroundings = 40.0; // px: lines in a row have room beside them
   const SpatialIndex::Box &bounds = m_index.bounds();
@@ -271,15 +301,9 @@ void EdgeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleM
   const Projection projection(xMap, yMap, canvasRect);
   if (!projection.isValid())
     return;
-  const double margin = m_widest + 1.0;
-  const QRectF area = canvasRect.adjusted(-margin, -margin, margin, margin);
   const double arrowSize = arrowSizeIn(projection);
-  std::vector<VisibleLine> visible;
   std::vector<Arrow> arrows;
-  m_index.query(projection.visible(margin), [&](Index i) {
-    if (m_records[i].pen != NoIndex)
-      addLines(m_records[i], projection, area, visible, arrowSize, arrows);
-  });
+  const std::vector<VisibleLine> visible = visibleLines(projection, arrowSize, arrows);
   const double apart = distanceBetween(visible, coveredPart(projection));
   std::vector<std::size_t> starts;
   const std::vector<QLineF> sorted = inDrawingOrder(visible, canvasRect, starts);

@@ -60,14 +60,19 @@ void NodeLayer::setNodes(const NetGeometry &geometry) {
   const std::vector<Index> order = m_index.build(boxes);
   m_records.clear();
   m_records.reserve(order.size());
-  for (const Index i : order)
+  m_ofNodes.assign(geometry.nodes().size(), NoIndex);
+  for (const Index i : order) {
+    m_ofNodes[records[i].node] = toIndex(m_records.size());
     m_records.push_back(records[i]);
+  }
 }
 
 void NodeLayer::setLooks(const std::vector<NodeLook> &looks) {
   m_isSizedByValue = false;
+  m_hasEmphasised = false;
   for (Record &record : m_records) {
     record.look = looks[record.node];
+    m_hasEmphasised = m_hasEmphasised || record.look.isEmphasised;
     m_isSizedByValue = m_isSizedByValue || record.look.size != m_records.front().look.size;
   }
 }
@@ -80,6 +85,7 @@ void NodeLayer::setVisibility(const VisibilityRules &rules) {
 
 void NodeLayer::clear() {
   m_records.clear();
+  m_ofNodes.clear();
   m_index.clear();
 }
 
@@ -102,6 +108,14 @@ NodeLayer::Sizes NodeLayer::sizesIn(const Projection &projection) const {
       sizes[shape] = std::max(sizes[shape], SmallestOfValue * Shares[shape] * Detail::presence(room, 4.0, 9.0));
   }
   return sizes;
+}
+
+double NodeLayer::sizeOf(Index node, const Projection &projection) const {
+  const Index number = node < m_ofNodes.size() ? m_ofNodes[node] : NoIndex;
+  if (number == NoIndex || !m_records[number].isDrawn())
+    return 0.0;
+  const double size = sizeOf(m_records[number], sizesIn(projection));
+  return isSeen(size) ? size : 0.0;
 }
 
 void NodeLayer::find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const {
@@ -128,6 +142,9 @@ std::vector<NodeLayer::VisibleNode> NodeLayer::visibleNodes(const Projection &pr
     if (area.contains(center))
       nodes.push_back({center, size, &record});
   });
+  if (m_hasEmphasised) // they are the first to take their place
+    std::stable_partition(nodes.begin(), nodes.end(),
+                          [](const VisibleNode &node) { return node.record->look.isEmphasised; });
   return nodes;
 }
 
@@ -136,7 +153,7 @@ void NodeLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleM
   if (!projection.isValid())
     return;
   const Sizes sizes = sizesIn(projection);
-  if (!isAnySeen(sizes))
+  if (!m_hasEmphasised && !isAnySeen(sizes))
     return;
   const std::vector<VisibleNode> nodes = visibleNodes(projection, sizes);
   drawDots(*painter, nodes, canvasRect);

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr double SelectionZ = 5.0; // in documents: below everything, that the elements stay as they are
+constexpr double SelectionZ = 7.0; // in documents: below the elements, which stay as they are, but above their casings
 
 // What lies round a selected element, px, from its edge outwards.
 constexpr double Free = 1.0; // the element as it is drawn, and what belongs to its edge
@@ -72,12 +72,6 @@ void SelectionLayer::readSettings() {
   forgetPicture();
 }
 
-void SelectionLayer::setSizes(double node, double symbol) {
-  m_nodeSize = node;
-  m_symbolSize = symbol;
-  forgetPicture();
-}
-
 void SelectionLayer::setGround(const QColor &ground, bool dimsRest) {
   m_ground = ground;
   m_dimsRest = dimsRest;
@@ -93,7 +87,7 @@ QColor SelectionLayer::ink() const {
 QPixmap SelectionLayer::paint(const Projection &projection, double pixelRatio) const {
   constexpr int VeilAlpha = 125;
   constexpr std::size_t ManyMarks = 4000; // outlines of so many would show nothing but ink
-  ElementMarks::Drawing drawing{m_geometry, m_layers, m_edgeWidths, m_nodeSize, m_symbolSize, m_subnetFactor};
+  const ElementMarks::Drawing drawing{m_geometry, m_layers, m_sizes, m_subnetFactor};
   ElementMarks elements(drawing, projection);
   ElementMarks subnets(drawing, projection);
   for (const NetGeometry::Item item : m_items)
@@ -129,7 +123,7 @@ QPixmap SelectionLayer::paint(const Projection &projection, double pixelRatio) c
 }
 
 void SelectionLayer::drawForDocument(QPainter &painter, const Projection &projection) const {
-  ElementMarks::Drawing drawing{m_geometry, m_layers, m_edgeWidths, m_nodeSize, m_symbolSize, m_subnetFactor};
+  const ElementMarks::Drawing drawing{m_geometry, m_layers, m_sizes, m_subnetFactor};
   ElementMarks elements(drawing, projection);
   ElementMarks subnets(drawing, projection);
   for (const NetGeometry::Item item : m_items)
@@ -144,7 +138,7 @@ void SelectionLayer::drawForDocument(QPainter &painter, const Projection &projec
 void SelectionLayer::drawHovered(QPainter &painter, const Projection &projection) const {
   constexpr int Alpha = 90;
   constexpr double Margin = 3.5; // px
-  const ElementMarks::Drawing drawing{m_geometry, m_layers, m_edgeWidths, m_nodeSize, m_symbolSize, m_subnetFactor};
+  const ElementMarks::Drawing drawing{m_geometry, m_layers, m_sizes, m_subnetFactor};
   ElementMarks mark(drawing, projection);
   mark.add(*m_hovered);
   mark.draw(painter, QColor(20, 120, 220, Alpha), Margin);
@@ -155,7 +149,7 @@ void SelectionLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtS
   const Projection projection(xMap, yMap, canvasRect);
   if (m_geometry == nullptr || !projection.isValid() || canvasRect.isEmpty())
     return;
-  if (isVectorTarget(*painter)) {
+  if (m_isInDocument || isVectorTarget(*painter)) {
     drawForDocument(*painter, projection);
     return;
   }

@@ -13,6 +13,7 @@ namespace {
 
 constexpr double SymbolZ = 30.0;
 constexpr double LargestSymbol = 512.0; // px
+constexpr double FaintestSeen = 0.3;    // presence: nobody points at what is fainter
 
 /// Lower is more important; pipes have no symbol.
 int priorityOf(char type) {
@@ -140,13 +141,19 @@ void SymbolLayer::clear() {
   m_layout.reset();
 }
 
-QPointF SymbolLayer::centerOf(const Record &r, const Projection &projection) const {
-  if (r.lane == 0.0F && !r.isBeside)
+QLineF SymbolLayer::lineOf(const Record &r, const Projection &projection) {
+  return {projection.map(r.x - r.dx * 0.5, r.y - r.dy * 0.5), projection.map(r.x + r.dx * 0.5, r.y + r.dy * 0.5)};
+}
+
+QPointF SymbolLayer::onLane(const Record &r, const Projection &projection) const {
+  if (r.lane == 0.0F)
     return projection.map(r.x, r.y);
-  const QLineF line(projection.map(r.x - r.dx * 0.5, r.y - r.dy * 0.5), projection.map(r.x + r.dx * 0.5, r.y + r.dy * 0.5));
-  const double lane = static_cast<double>(r.lane);
-  return r.isBeside ? besideLine(line, lane, m_size)
-                    : LaneWay(line, lane * laneSpacing(true, 0.0, m_size)).middle().center();
+  const double offset = static_cast<double>(r.lane) * laneSpacing(true, 0.0, m_size);
+  return LaneWay(lineOf(r, projection), offset).middle().center();
+}
+
+QPointF SymbolLayer::centerOf(const Record &r, const Projection &projection) const {
+  return r.isBeside ? besideLine(lineOf(r, projection), static_cast<double>(r.lane), m_size) : onLane(r, projection);
 }
 
 const std::vector<SymbolLayer::Placed> &SymbolLayer::laidOut(const Projection &projection) const {
@@ -301,14 +308,14 @@ void SymbolLayer::drawShafts(QPainter &painter, const Projection &projection, co
     QColor ink(90, 100, 110);
     ink.setAlphaF(p.presence);
     painter.setPen(QPen(ink, 1.0));
-    painter.drawLine(p.center, projection.map(r.x, r.y));
+    painter.drawLine(p.center, onLane(r, projection));
   }
 }
 
 void SymbolLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {
   const std::vector<Placed> &placed = laidOut(projection);
   for (std::size_t i = 0; i < placed.size(); ++i) {
-    if (!placed[i].covers(point))
+    if (placed[i].presence < FaintestSeen || !placed[i].covers(point))
       continue;
     const double distance = QLineF(placed[i].center, point).length();
     hits.push_back({placed[i].item, distance, HitRank::Symbol});

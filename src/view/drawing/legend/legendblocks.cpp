@@ -2,6 +2,8 @@
 
 #include <drawing/scaleticks.h>
 
+#include <QLinearGradient>
+
 #include <algorithm>
 #include <cmath>
 
@@ -20,6 +22,18 @@ constexpr double Half = 0.5;
 
 QString LegendBlock::cut(const QString &text) const {
   return m_style.metrics().elidedText(text, Qt::ElideRight, m_widest);
+}
+
+QSizeF LegendBlock::titleSize(const QString &title) const {
+  const QRectF room(0.0, 0.0, m_widest, 1e4);
+  const QRectF needed = m_style.metrics().boundingRect(room, int(Qt::TextWordWrap), title);
+  return {std::min(std::ceil(needed.width()), m_widest), std::max(lineHeight(), std::ceil(needed.height()))};
+}
+
+void LegendBlock::drawTitle(QPainter &painter, const QPointF &top, const QString &title) const {
+  painter.setFont(m_style.font);
+  painter.setPen(m_style.ink);
+  painter.drawText(QRectF(top, QSizeF(m_widest, titleSize(title).height())), int(Qt::TextWordWrap), title);
 }
 
 void LegendBlock::drawText(QPainter &painter, const QPointF &top, const QString &text) const {
@@ -52,7 +66,8 @@ double LegendBar::barWidth() const {
 }
 
 QSizeF LegendBar::size() const {
-  return {std::max(barWidth(), widthOf(cut(m_scale.title))), lineHeight() * 2.0 + Gap + BarHeight + TickLength};
+  const QSizeF title = titleSize(m_scale.title);
+  return {std::max(barWidth(), title.width()), title.height() + lineHeight() + Gap + BarHeight + TickLength};
 }
 
 std::vector<LegendBar::Tick> LegendBar::marks(const std::vector<double> &values) const {
@@ -87,7 +102,7 @@ std::vector<LegendBar::Tick> LegendBar::ticks(double width) const {
         some.push_back(breaks[i]);
     }
     const std::vector<Tick> found = marks(some);
-    if (fit(found, width))
+    if (!found.empty() && fit(found, width))
       return found;
   }
   for (int count = MostTicks; count > 1; --count) {
@@ -99,10 +114,18 @@ std::vector<LegendBar::Tick> LegendBar::ticks(double width) const {
   return marks(middle);
 }
 
-/// Each step reaches to the end of the bar and is painted over by the next, so that no gap shines through in documents.
+/// Each class reaches to the end of the bar and is painted over by the next, so that no gap shines through in documents.
 void LegendBar::drawColors(QPainter &painter, const QRectF &bar) const {
   painter.setPen(Qt::NoPen);
   const auto count = static_cast<double>(m_scale.colors.size());
+  if (m_scale.breaks.empty() && m_scale.colors.size() > 1) {
+    QLinearGradient ramp(bar.topLeft(), bar.topRight());
+    for (std::size_t i = 0; i < m_scale.colors.size(); ++i)
+      ramp.setColorAt((static_cast<double>(i) + Half) / count, QColor::fromRgb(m_scale.colors[i]));
+    painter.setBrush(ramp);
+    painter.drawRect(bar);
+    return;
+  }
   for (std::size_t i = 0; i < m_scale.colors.size(); ++i) {
     if (i > 0 && m_scale.colors[i] == m_scale.colors[i - 1])
       continue;
@@ -132,8 +155,9 @@ void LegendBar::drawCaps(QPainter &painter, const QRectF &bar) const {
 }
 
 void LegendBar::draw(QPainter &painter, const QRectF &area) const {
-  drawText(painter, area.topLeft(), cut(m_scale.title));
-  const QRectF bar(area.left() + CapWidth, area.top() + lineHeight() + Gap, barWidth() - 2.0 * CapWidth, BarHeight);
+  drawTitle(painter, area.topLeft(), m_scale.title);
+  const QRectF bar(area.left() + CapWidth, area.top() + titleSize(m_scale.title).height() + Gap, barWidth() - 2.0 * CapWidth,
+                   BarHeight);
   drawColors(painter, bar);
   drawCaps(painter, bar);
   for (const Tick &tick : ticks(bar.width())) {
@@ -152,7 +176,7 @@ LegendSamples::LegendSamples(LegendStyle style, LegendContents::Samples samples,
     , m_shape(shape) {}
 
 double LegendSamples::keyWidth(const LegendContents::Sample &sample) const {
-  return m_shape == Shape::Line ? KeyRoom : sample.size;
+  return m_shape == Shape::Line ? KeyRoom : std::min(sample.size, KeyRoom);
 }
 
 QSizeF LegendSamples::size() const {
@@ -160,19 +184,20 @@ QSizeF LegendSamples::size() const {
   double height = lineHeight();
   for (const LegendContents::Sample &sample : m_samples.samples) {
     width += keyWidth(sample) + Gap + widthOf(sample.text) + Spacing;
-    height = std::max(height, sample.size);
+    height = std::max(height, std::min(sample.size, KeyRoom));
   }
-  return {std::max(width - Spacing, widthOf(cut(m_samples.title))), lineHeight() + height};
+  const QSizeF title = titleSize(m_samples.title);
+  return {std::max(width - Spacing, title.width()), title.height() + height};
 }
 
 void LegendSamples::draw(QPainter &painter, const QRectF &area) const {
-  drawText(painter, area.topLeft(), cut(m_samples.title));
-  const double middle = (area.top() + lineHeight() + area.bottom()) * Half;
+  drawTitle(painter, area.topLeft(), m_samples.title);
+  const double middle = (area.top() + titleSize(m_samples.title).height() + area.bottom()) * Half;
   double left = area.left();
   for (const LegendContents::Sample &sample : m_samples.samples) {
     const double width = keyWidth(sample);
     if (m_shape == Shape::Line) {
-      painter.setPen(QPen(style().ink, sample.size, Qt::SolidLine, Qt::FlatCap));
+      painter.setPen(QPen(style().ink, std::min(sample.size, KeyRoom), Qt::SolidLine, Qt::FlatCap));
       painter.drawLine(QPointF(left, middle), QPointF(left + width, middle));
     } else {
       painter.setPen(Qt::NoPen);
@@ -192,12 +217,16 @@ double LegendKeys::columnWidth() const {
   double width = 0.0;
   for (const Key &key : m_keys)
     width = std::max(width, widthOf(key.text));
-  return KeyRoom + width;
+  return std::min(KeyRoom + width, widest());
+}
+
+std::size_t LegendKeys::columns() const {
+  return m_keys.size() > 1 && columnWidth() * 2.0 + Spacing <= widest() ? 2 : 1;
 }
 
 QSizeF LegendKeys::size() const {
-  const double columns = m_keys.size() > 1 ? 2.0 : 1.0;
-  return {columnWidth() * columns + Spacing * (columns - 1.0), static_cast<double>(rows()) * (lineHeight() + 1.0)};
+  const auto count = static_cast<double>(columns());
+  return {columnWidth() * count + Spacing * (count - 1.0), static_cast<double>(rows()) * (lineHeight() + 1.0)};
 }
 
 void LegendKeys::draw(QPainter &painter, const QRectF &area) const {
@@ -207,6 +236,7 @@ void LegendKeys::draw(QPainter &painter, const QRectF &area) const {
     const double top = area.top() + static_cast<double>(i % rows()) * height;
     constexpr double Beside = 10.0; // px, the middle of a key
     m_keys[i].draw(painter, {left + Beside, top + height * Half});
-    drawText(painter, {left + KeyRoom, top}, m_keys[i].text);
+    drawText(painter, {left + KeyRoom, top},
+             style().metrics().elidedText(m_keys[i].text, Qt::ElideRight, columnWidth() - KeyRoom));
   }
 }

@@ -27,7 +27,7 @@ public:
   LegendBlock(const LegendBlock &) = delete;
   LegendBlock &operator=(const LegendBlock &) = delete;
 
-  /// How broad it may be at most, px; longer texts are cut.
+  /// How broad it may be at most, px; longer titles take several lines, other texts are cut.
   void limit(double width) { m_widest = width; }
   virtual QSizeF size() const = 0;
   /// \param area of the size, or broader
@@ -38,6 +38,9 @@ protected:
   double widest() const { return m_widest; }
   double widthOf(const QString &text) const { return m_style.metrics().horizontalAdvance(text); }
   QString cut(const QString &text) const;
+  /// In as many lines as it takes.
+  QSizeF titleSize(const QString &title) const;
+  void drawTitle(QPainter &painter, const QPointF &top, const QString &title) const;
   double lineHeight() const { return m_style.metrics().height(); }
   /// With its left end at the left of a line of text whose top is given.
   void drawText(QPainter &painter, const QPointF &top, const QString &text) const;
@@ -95,7 +98,7 @@ private:
   Shape m_shape;
 };
 
-/// Keys with a word each, in two columns.
+/// Keys with a word each, in two columns where they fit.
 class LegendKeys : public LegendBlock {
 public:
   struct Key {
@@ -108,7 +111,8 @@ public:
 
 private:
   double columnWidth() const;
-  std::size_t rows() const { return (m_keys.size() + 1) / 2; }
+  std::size_t columns() const;
+  std::size_t rows() const { return (m_keys.size() + columns() - 1) / columns(); }
 
   std::vector<Key> m_keys;
 };

@@ -64,7 +64,7 @@ LegendContents::Samples samplesOf(const DrawValues::Column &values, const char *
 void LegendContents::addFunctions(const PlotSettings &settings, const DrawValues &values, ColorScale::Subject subject,
                                   double nodeSize) {
   if (subject == ColorScale::Subject::SearchResults) {
-    lines.push_back({ElementLooks::foundColor(), translated("search results")});
+    lines.push_back({ElementLooks::foundColor(), QCoreApplication::translate("LegendContents", "search results")});
     return;
   }
   const DrawValues::Column &edges = values.of(Aspect::EdgeColor);
@@ -73,19 +73,21 @@ void LegendContents::addFunctions(const PlotSettings &settings, const DrawValues
   const bool isOne = showsNodes && ColorScale::isShared(settings, values);
   if (edges.isAny())
     scales.push_back(scaleOf(edges, *ColorScale::edgeColors(settings, edges),
-                             translated(isOne ? "%1 – edges and nodes" : "%1 – edges").arg(edges.function.title),
+                             translated(isOne ? QT_TRANSLATE_NOOP("LegendContents", "%1 – edges and nodes")
+                                              : QT_TRANSLATE_NOOP("LegendContents", "%1 – edges"))
+                                 .arg(edges.function.title),
                              ColorScale::breaksOf(settings, edges)));
   if (showsNodes && !isOne)
-    scales.push_back(
-        scaleOf(nodes, *ColorScale::nodeColors(settings, values), translated("%1 – nodes").arg(nodes.function.title), {}));
+    scales.push_back(scaleOf(nodes, *ColorScale::nodeColors(settings, values),
+                             translated(QT_TRANSLATE_NOOP("LegendContents", "%1 – nodes")).arg(nodes.function.title), {}));
   const DrawValues::Column &byWidth = values.of(Aspect::EdgeWidth);
   const auto widthMap = ColorScale::colorMap(settings, Aspect::EdgeWidth);
-  widths = samplesOf(byWidth, "%1 – line width", [&](double value) {
+  widths = samplesOf(byWidth, QT_TRANSLATE_NOOP("LegendContents", "%1 – line width"), [&](double value) {
     return ElementLooks::edgeWidth(settings, widthMap->fraction(byWidth.range, value));
   });
   const DrawValues::Column &bySize = values.of(Aspect::NodeSize);
   const auto sizeMap = ColorScale::colorMap(settings, Aspect::NodeSize);
-  sizes = samplesOf(bySize, "%1 – node size", [&](double value) {
+  sizes = samplesOf(bySize, QT_TRANSLATE_NOOP("LegendContents", "%1 – node size"), [&](double value) {
     return ElementLooks::sizeOfNode(nodeSize, sizeMap->fraction(bySize.range, value));
   });
 }
@@ -104,8 +106,9 @@ void LegendContents::addSymbols(const NetGeometry &geometry) {
     else if (!node.isIdle)
       shapes.set(static_cast<std::size_t>(node.shape));
   }
-  for (const auto &[shape, title] :
-       {std::pair(Shape::Supply, "supply"), {Shape::Demand, "demand"}, {Shape::Pressure, "held pressure"}}) {
+  for (const auto &[shape, title] : {std::pair(Shape::Supply, QT_TRANSLATE_NOOP("LegendContents", "supply")),
+                                     {Shape::Demand, QT_TRANSLATE_NOOP("LegendContents", "demand")},
+                                     {Shape::Pressure, QT_TRANSLATE_NOOP("LegendContents", "held pressure")}}) {
     if (shapes.test(static_cast<std::size_t>(shape)))
       symbols.push_back({translated(title), 'n', shape});
   }

@@ -11,7 +11,7 @@ constexpr double Margin = 8.0; // px, about the blocks
 constexpr double Apart = 6.0;  // between two of them
 constexpr double WidestBlock = 280.0;
 
-std::vector<LegendKeys::Key> keysOf(const LegendContents &contents) {
+std::vector<LegendKeys::Key> keysOf(const LegendContents &contents, const QColor &ground) {
   constexpr double Length = 9.0; // px, to either side
   constexpr double LineWidth = 3.0;
   constexpr double CasingWidth = 8.0;
@@ -25,10 +25,11 @@ std::vector<LegendKeys::Key> keysOf(const LegendContents &contents) {
                       line(painter, center, color, LineWidth);
                     }});
   for (const ColorScale::Swatch &swatch : contents.casings)
-    keys.push_back({swatch.text, [line, color = QColor::fromRgb(swatch.color)](QPainter &painter, const QPointF &center) {
-                      line(painter, center, color, CasingWidth);
-                      line(painter, center, Qt::white, LineWidth);
-                    }});
+    keys.push_back(
+        {swatch.text, [line, ground, color = QColor::fromRgb(swatch.color)](QPainter &painter, const QPointF &center) {
+           line(painter, center, color, CasingWidth);
+           line(painter, center, ground, LineWidth);
+         }});
   return keys;
 }
 
@@ -53,8 +54,8 @@ void LegendPicture::setContents(const LegendContents &contents, const QColor &gr
                                 DrawSymbol drawSymbol) {
   const LegendStyle style{font, ColorScale::isDark(ground) ? QColor(0xe8, 0xea, 0xec) : QColor(0x20, 0x28, 0x30), ground};
   m_ground = ground;
+  m_shown.clear();
   m_blocks.clear();
-  m_shown = 0;
   m_size = QSizeF();
   if (contents.isEmpty())
     return;
@@ -64,7 +65,7 @@ void LegendPicture::setContents(const LegendContents &contents, const QColor &gr
   for (const LegendContents::Scale &scale : contents.scales)
     m_blocks.push_back(std::make_unique<LegendBar>(style, scale));
   if (!contents.lines.empty() || !contents.casings.empty())
-    m_blocks.push_back(std::make_unique<LegendKeys>(style, keysOf(contents)));
+    m_blocks.push_back(std::make_unique<LegendKeys>(style, keysOf(contents, ground)));
   if (!contents.widths.samples.empty())
     m_blocks.push_back(std::make_unique<LegendSamples>(style, contents.widths, LegendSamples::Shape::Line));
   if (!contents.sizes.samples.empty())
@@ -78,26 +79,41 @@ void LegendPicture::fitInto(const QSizeF &room) {
   const double widest = std::min(WidestBlock, room.width() - 2.0 * Margin);
   double width = 0.0;
   double height = 2.0 * Margin - Apart;
-  m_shown = 0;
+  m_shown.clear();
   m_size = QSizeF();
   for (const std::unique_ptr<LegendBlock> &block : m_blocks) {
     block->limit(widest);
     const QSizeF size = block->size();
+    if (size.width() + 2.0 * Margin > room.width())
+      continue; // the others say something without it
     height += size.height() + Apart;
     width = std::max(width, size.width() + 2.0 * Margin);
-    if (height > room.height() || width > room.width() || widest < NarrowestBlock)
+    if (height > room.height() || widest < NarrowestBlock)
       break;
-    ++m_shown;
+    m_shown.push_back(block.get());
     m_size = QSizeF(std::ceil(width), std::ceil(height));
   }
-  if (m_shown == 1 && m_hasCaption) { // which would be the name of nothing
-    m_shown = 0;
+  if (m_shown.size() == 1 && m_hasCaption) { // which would be the name of nothing
+    m_shown.clear();
     m_size = QSizeF();
   }
 }
 
+std::vector<LegendPicture::Part> LegendPicture::parts(double width) const {
+  std::vector<Part> parts;
+  for (const std::unique_ptr<LegendBlock> &block : m_blocks) {
+    block->limit(width);
+    const QSizeF size = block->size();
+    const LegendBlock &drawn = *block;
+    parts.push_back({size.height(), [&drawn, size](QPainter &painter) {
+                       drawn.draw(painter, {QPointF(), size});
+                     }});
+  }
+  return parts;
+}
+
 void LegendPicture::draw(QPainter &painter, const QPointF &corner) const {
-  if (m_shown == 0)
+  if (m_shown.empty())
     return;
   constexpr int GroundAlpha = 225;
   constexpr double Rounding = 4.0; // px
@@ -109,9 +125,9 @@ void LegendPicture::draw(QPainter &painter, const QPointF &corner) const {
   painter.setBrush(ground);
   painter.drawRoundedRect(QRectF(corner, m_size).adjusted(0.5, 0.5, -0.5, -0.5), Rounding, Rounding);
   double top = corner.y() + Margin;
-  for (std::size_t i = 0; i < m_shown; ++i) {
-    const double height = m_blocks[i]->size().height();
-    m_blocks[i]->draw(painter, {corner.x() + Margin, top, m_size.width() - 2.0 * Margin, height});
+  for (const LegendBlock *block : m_shown) {
+    const double height = block->size().height();
+    block->draw(painter, {corner.x() + Margin, top, m_size.width() - 2.0 * Margin, height});
     top += height + Apart;
   }
   painter.restore();

@@ -1,3 +1,4 @@
+#include "geometry/geometryreader.h"
 #include "scene/labelwishes.h"
 #include "scene/stationnames.h"
 
@@ -34,7 +35,8 @@ NetUpdate::NetUpdate(const PlotSettings &settings, std::function<View()> view, T
                       seen.isOfSubnet};
                 }) {
   m_symbols.setCovers([this](const Projection &projection) { return m_subnets.boxes(projection); });
-  m_violations.setFilter(&m_layers);
+  m_violations.setFilter({&m_layers, &m_visibility});
+  m_violations.setSizes(drawnSizes());
   m_subnets.setFilter({&m_layers, &m_visibility});
   m_textBoxes.setFilter({&m_layers, &m_visibility});
 }
@@ -102,11 +104,13 @@ void NetUpdate::updatePlot(Elements elements, Which which, Labels labels) {
   m_contents.reset(); // the settings or the values may be others
   const double plotUnits = m_geometry.plotUnits();
   m_values.read(*m_net, m_settings, m_geometry, rebuild);
+  if (rebuild || GeometryReader::readFlows(*m_net, m_geometry))
+    m_hasNewNodes = true;
   if (rebuild && m_geometry.unplaced() > 0)
     tell(m_told, Finding::Severity::Information,
          QStringLiteral("%1 elements are not drawn for want of coordinates").arg(m_geometry.unplaced()));
   m_layers.read(m_geometry);
-  m_violations.setElements(m_geometry, m_edgeWidths);
+  m_violations.setElements(m_geometry);
   emit scalesChanged();
   if (std::exchange(m_isNew, false) || plotUnits != m_geometry.plotUnits())
     emit extentChanged(); // before anything is judged by what the view shows
@@ -130,8 +134,8 @@ void NetUpdate::updateLooks(bool rebuild, Which which, const QElapsedTimer &time
   const bool isSearch = m_displayMode == DisplayMode::SearchResults;
   std::future<void> nodes; // beside the edges
   if (which != Which::Edges)
-    nodes = std::async(std::launch::async, [this, rebuild, isSearch] {
-      if (rebuild)
+    nodes = std::async(std::launch::async, [this, isSearch] {
+      if (std::exchange(m_hasNewNodes, false))
         m_nodes.setNodes(m_geometry);
       m_nodes.setLooks(isSearch ? looks().searchedNodes() : looks().nodes(m_displayMode == DisplayMode::Functions));
     });
@@ -166,6 +170,11 @@ LegendContents NetUpdate::legendContents() const {
   if (m_net == nullptr || !m_geometry.hasExtent())
     return contents;
   contents.addFunctions(m_settings, m_values, coloured(), sizeOf(QStringLiteral("n"), m_settings.nodeMag));
+  const double scale = junctionScale();
+  for (LegendContents::Sample &sample : contents.sizes.samples)
+    sample.size *= scale;
+  if (scale <= 0.0)
+    contents.sizes = LegendContents::Samples(); // from afar there are none to explain
   if (coloured() != ColorScale::Subject::SearchResults)
     contents.lines = swatches();
   if (m_violations.isAny(State::Major))
@@ -215,7 +224,6 @@ double NetUpdate::sizeOf(const QString &type, double otherwise) const {
 
 void NetUpdate::updateSymbols(bool rebuild) {
   constexpr double ArrowPixels = 2.0; // a unit of arrowMag
-  constexpr double LargerBoxes = 1.6; // than symbols
   QHash<QString, double> sizes;
   for (const LabelRow &row : m_labelTable.types) {
     if (const double size = sizeOf(row[LabelRow::Short], 0.0); size > 0.0)
@@ -223,12 +231,12 @@ void NetUpdate::updateSymbols(bool rebuild) {
   }
   m_symbols.setSize(m_settings.symMag);
   m_symbols.setSizes(sizes);
-  m_violations.setSizes(m_settings.nodeMag, m_settings.symMag);
   m_violations.setGround(m_settings.bgrColor);
   m_edges.setSymbolSize(m_settings.symMag);
   m_edges.setBackground(m_settings.bgrColor);
   m_edges.setArrowSize(m_settings.arrowMag * ArrowPixels);
-  m_subnets.setLook(sizeOf(QStringLiteral("sub"), m_settings.symMag * LargerBoxes), m_settings.alphaSubnet);
+  m_subnets.setLook(sizeOf(QStringLiteral("sub"), m_settings.symMag * SubnetLayer::LargerThanSymbols),
+                    m_settings.alphaSubnet);
   if (rebuild) {
     m_visibility.read(m_geometry, m_labelTable);
     if (Settings::BuildSymbols.value())
@@ -249,6 +257,11 @@ void NetUpdate::updateSymbols(bool rebuild) {
 void NetUpdate::showWhatIsVisible() {
   m_symbols.setVisibility(m_visibility, m_layers);
   m_nodes.setVisibility(m_visibility);
+}
+
+double NetUpdate::junctionScale() const {
+  const Projection view = projection();
+  return m_values.of(Aspect::NodeSize).isAny() && view.isValid() ? m_nodes.junctionScale(view) : 0.0;
 }
 
 double NetUpdate::seenHeight() const {
@@ -273,6 +286,9 @@ void NetUpdate::runPixtest(Pixtest::Labels labels) {
   bool hasChanged = m_visibility.setExtent(seenHeight());
   if (hasChanged)
     showWhatIsVisible();
+  const double scale = junctionScale();
+  if (scale != std::exchange(m_legendScale, scale))
+    emit legendChanged();
   determineVisibleSymbols(); // for the labels and the drawing
   if (labels == Pixtest::Labels::With) {
     placeLabels();
@@ -302,7 +318,7 @@ void NetUpdate::placeLabels() {
 }
 
 bool NetUpdate::areNamesWanted() const {
-  return !m_hasPlacedLabels && Settings::BuildLabels.value() && !labelContents()->isOff() &&
+  return m_wantsNames && !m_hasPlacedLabels && Settings::BuildLabels.value() && !labelContents()->isOff() &&
          Settings::LabelPlacement.value() != QLatin1String("never");
 }
 

@@ -100,24 +100,21 @@ ColorRamp::Kind ColorRamp::kindOf(const QString &name) {
 }
 
 QString ColorRamp::title(Kind kind) {
-  const auto tr = [](const char *text) {
-    return QCoreApplication::translate("ColorRamp", text);
-  };
   switch (kind) {
   case Kind::Viridis:
-    return tr("viridis (even steps)");
+    return QCoreApplication::translate("ColorRamp", "viridis (even steps)");
   case Kind::Cividis:
-    return tr("cividis (also for colour-blind eyes)");
+    return QCoreApplication::translate("ColorRamp", "cividis (also for colour-blind eyes)");
   case Kind::Diverging:
-    return tr("blue, grey, red about zero");
+    return QCoreApplication::translate("ColorRamp", "blue, grey, red about zero");
   case Kind::Plasma:
-    return tr("plasma (even steps, blue to orange)");
+    return QCoreApplication::translate("ColorRamp", "plasma (even steps, blue to orange)");
   case Kind::Batlow:
-    return tr("batlow (even steps, blue to rose)");
+    return QCoreApplication::translate("ColorRamp", "batlow (even steps, blue to rose)");
   case Kind::Hue:
     break;
   }
-  return tr("hues of your choice");
+  return QCoreApplication::translate("ColorRamp", "hues of your choice");
 }
 
 QRgb ColorRamp::color(double fraction) const {

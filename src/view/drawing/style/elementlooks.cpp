@@ -9,9 +9,13 @@ namespace {
 constexpr QRgb NoValueColor = 0xffc4c8cc; ///< the element lacks the value that the others are coloured by
 constexpr QRgb PlainEdge = 0xff2f5d8a;    ///< there is nothing to colour by
 constexpr QRgb PlainNode = 0xff5b6b7b;
-constexpr QRgb NotFound = 0xffd0d4d8; ///< behind the results of a search
 constexpr QRgb Found = 0xffe8112d;
 constexpr double NoFlow = 1e-10; // in whatever unit the flow is stored
+
+/// Behind the results of a search: as little apart from a dark ground as from a light one.
+QRgb notFound(const QColor &ground) {
+  return ColorScale::isDark(ground) ? qRgb(0x4a, 0x50, 0x57) : qRgb(0xd0, 0xd4, 0xd8);
+}
 
 bool hasFlow(double flow) {
   return flow != NetData::NoValue && std::abs(flow) >= NoFlow;
@@ -141,18 +145,20 @@ std::vector<bool> ElementLooks::searchResults(NetData::EleType kind) const {
 std::vector<EdgeLook> ElementLooks::searchedEdges() const {
   constexpr double WidthOfResults = 3.0; // px
   const std::vector<bool> found = searchResults(NetData::Edge);
+  const QRgb rest = notFound(m_settings.bgrColor);
   std::vector<EdgeLook> looks(found.size());
   for (std::size_t i = 0; i < looks.size(); ++i)
-    looks[i] = {found[i] ? Found : NotFound, found[i] ? WidthOfResults : 1.0, !found[i], false, 0};
+    looks[i] = {found[i] ? Found : rest, found[i] ? WidthOfResults : 1.0, !found[i], false, 0};
   hide(NetData::Edge, looks);
   return looks;
 }
 
 std::vector<NodeLook> ElementLooks::searchedNodes() const {
   const std::vector<bool> found = searchResults(NetData::Node);
+  const QRgb rest = notFound(m_settings.bgrColor);
   std::vector<NodeLook> looks(found.size());
   for (std::size_t i = 0; i < looks.size(); ++i)
-    looks[i] = {found[i] ? Found : NotFound, m_nodeSize * (found[i] ? 2.0 : 1.0), false};
+    looks[i] = {found[i] ? Found : rest, m_nodeSize * (found[i] ? 2.0 : 1.0), false, found[i]};
   hide(NetData::Node, looks);
   return looks;
 }

@@ -8,6 +8,9 @@
 #include <QPen>
 #include <qwt_plot_item.h>
 
+#include <optional>
+#include <utility>
+
 /// All edges as one plot item: lines in batches of one pen, of which only the visible ones are touched; parallel edges
 /// side by side; arrows where gas flows.
 class EdgeLayer : public QwtPlotItem {
@@ -27,6 +30,8 @@ public:
   int rtti() const override { return Rtti_PlotUserItem + 1; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 
+  /// How much narrower than their looks have it lines are drawn in this view, at most 1.
+  double widthFactor(const Projection &projection) const;
   /// Adds the edges that are drawn within so many pixels of the point.
   void find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const;
   /// Calls visit(edge, line, width) for every edge that touches the canvas, with the straight part of its line and its
@@ -71,6 +76,9 @@ private:
                 double arrowSize, std::vector<Arrow> &arrows) const;
   void addArrows(const Record &record, const QLineF &line, const QRectF &area, double arrowSize,
                  std::vector<Arrow> &arrows) const;
+  std::vector<VisibleLine> visibleLines(const Projection &projection, double arrowSize, std::vector<Arrow> &arrows) const;
+  /// Of lines so far apart, in pixels.
+  double factorFor(double apart) const;
   double arrowSizeIn(const Projection &projection) const;
   /// The lines in drawing order: those of pen i from starts[i] to starts[i + 1]. Of lines too short to be seen, one of the
   /// broadest stands for those in the same place.
@@ -91,4 +99,5 @@ private:
   double m_widest = 0.0;
   double m_arrowSize = 0.0;
   double m_symbolSize = 0.0;
+  mutable std::optional<std::pair<Projection, double>> m_factor; ///< of the view that was asked for last
 };

@@ -66,7 +66,8 @@ struct LaneWay {
 /// How far apart lines side by side run, in pixels: a symbol needs more room than a line.
 double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize);
 
-/// Where the drive of a compressor is drawn: beside the symbol in the middle of the compressor's line.
+/// Where the drive of a compressor is drawn: beside the symbol in the middle of the compressor's line, away from the lines
+/// that run beside that.
 /// \param line px, of the compressor; it must have a length
 /// \param lane of that edge
 QPointF besideLine(const QLineF &line, double lane, double symbolSize);

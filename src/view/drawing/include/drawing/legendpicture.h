@@ -32,10 +32,18 @@ public:
   QSizeF size() const { return m_size; }
   void draw(QPainter &painter, const QPointF &corner) const;
 
+  /// One block after the other, none broader than this, for who puts them elsewhere. They live as long as the contents; then
+  /// fitInto() is of no use.
+  struct Part {
+    double height = 0.0;                          ///< px
+    std::function<void(QPainter &painter)> paint; ///< with the origin at its upper left corner
+  };
+  std::vector<Part> parts(double width) const;
+
 private:
   std::vector<std::unique_ptr<LegendBlock>> m_blocks;
-  bool m_hasCaption = false; ///< as the first block
-  std::size_t m_shown = 0;   ///< blocks that fit
+  bool m_hasCaption = false;                ///< as the first block
+  std::vector<const LegendBlock *> m_shown; ///< blocks that fit
   QSizeF m_size;
   QColor m_ground;
 };

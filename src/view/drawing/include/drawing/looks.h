@@ -14,6 +14,7 @@ struct EdgeLook {
 /// How one node is drawn.
 struct NodeLook {
   QRgb color = 0;
-  double size = 4.0;     ///< px, across
-  bool isHidden = false; ///< not drawn at all
+  double size = 4.0;         ///< px, across
+  bool isHidden = false;     ///< not drawn at all
+  bool isEmphasised = false; ///< to be seen from however far, above the others
 };

@@ -30,6 +30,12 @@ public:
     bool isPlaced = false; ///< has valid coordinates
   };
 
+  /// What of a node changes with what is set for it.
+  struct NodeFlow {
+    double flow = 0.0;
+    NodeShape shape = NodeShape::Junction;
+  };
+
   struct Edge {
     const element *source = nullptr;
     Index node1 = NoIndex; ///< in nodes(); NoIndex when there is no such node
@@ -74,6 +80,8 @@ public:
   /// \param dropped number of text boxes and subnets without coordinates
   NetGeometry(Records records, int dropped);
   void clear();
+  /// One a node. True when nodes are shown otherwise than before.
+  bool setFlows(const std::vector<NodeFlow> &flows);
 
   const std::vector<Node> &nodes() const { return m_records.nodes; }
   const std::vector<Edge> &edges() const { return m_records.edges; }
@@ -130,7 +138,7 @@ private:
   void countUnplaced();
   void chooseUnits();
   void findTypicalLength();
-  void markIdleNodes();
+  bool markIdleNodes();
 
   Records m_records;
   QRectF m_extent;

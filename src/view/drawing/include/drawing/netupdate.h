@@ -1,6 +1,7 @@
 #pragma once
 
 #include <drawing/colorscale.h>
+#include <drawing/drawnsizes.h>
 #include <drawing/drawvalues.h>
 #include <drawing/edgelayer.h>
 #include <drawing/elementlooks.h>
@@ -88,8 +89,7 @@ public:
   /// What a legend says of all that is drawn, and draws a symbol of it.
   LegendContents legendContents() const;
   void drawLegendSymbol(QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center, double size) const;
-  /// Px, by edge, as their looks have it.
-  const std::vector<float> &edgeWidths() const { return m_edgeWidths; }
+  DrawnSizes drawnSizes() const { return {&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_edgeWidths}; }
 
   /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
   /// they are negative.
@@ -100,6 +100,8 @@ public:
   /// Places labels for the view as it is; stored ones stay where they are.
   void placeLabelsNow() { runPixtest(Pixtest::Labels::With); }
   void clearLabels();
+  /// Whether stations are named while there are no labels; with the next pass.
+  void setNamesWanted(bool areWanted) { m_wantsNames = areWanted; }
   /// Places labels at once, whatever the settings say.
   void relabelNow();
   /// Finds the symbols that lie in the visible area; valid until something is drawn anew.
@@ -124,12 +126,14 @@ signals:
   // In this order while the plot is updated; who shows it has to be done when the signal returns.
   void scalesChanged(); ///< of colours
   void extentChanged(); ///< of another network, or its coordinates count in other units
-  void legendChanged();
-  void changed(); ///< something is to be painted anew
+  void legendChanged(); ///< also when nodes of a size that tells something grow with the zoom
+  void changed();       ///< something is to be painted anew
 
 private:
   void tellAll(const Findings &findings) const;
   void runPixtest(Pixtest::Labels labels);
+  /// Of junctions in this view, where their sizes tell something; otherwise 0.
+  double junctionScale() const;
   void placeLabels();
   /// Names the stations of the view unless it has labels. True when the names may be others now.
   bool placeNames();
@@ -150,7 +154,8 @@ private:
   std::function<View()> m_view;
   Told m_told;
   const NetData *m_net = nullptr;
-  bool m_isNew = false; ///< nothing of the network was drawn yet
+  bool m_isNew = false;       ///< nothing of the network was drawn yet
+  bool m_hasNewNodes = false; ///< where they lie or what they are; the layer is to take it over
   NetGeometry m_geometry;
   DrawValues m_values;
   LabelTable m_labelTable;
@@ -158,6 +163,7 @@ private:
   VisibilityRules m_visibility;
   LayerFilter m_layers;
   DisplayMode m_displayMode = DisplayMode::Functions;
+  double m_legendScale = 0.0; ///< of junctions, when the legend was told of it last
   std::vector<float> m_edgeWidths;
   ViolationLayer m_violations;
   EdgeLayer m_edges;
@@ -168,6 +174,7 @@ private:
   LabelLayer m_labels;
   LabelLayer m_names;
   std::vector<NetGeometry::Item> m_unplaced;
+  bool m_wantsNames = true;
   bool m_hasPlacedLabels = false; ///< for this view; those that stand may be none
   Pixtest m_pixtest;
 };

@@ -34,11 +34,17 @@ public:
 
   /// Adds the nodes that stand within so many pixels of the point.
   void find(const Projection &projection, const QPointF &point, double tolerance, std::vector<Hit> &hits) const;
+  /// Px, across; 0 of a node that is not drawn.
+  double sizeOf(Index node, const Projection &projection) const;
+  /// How large junctions are drawn in this view, of the size that their looks give; 0 where they are left out.
+  double junctionScale(const Projection &projection) const {
+    return sizesIn(projection)[static_cast<std::size_t>(NetGeometry::NodeShape::Junction)];
+  }
   /// Calls visit(node, center, size) for every node on the canvas, with its middle and size in pixels.
   template <typename Visitor>
   void forEachVisible(const Projection &projection, const Visitor &visit) const {
     const Sizes sizes = sizesIn(projection);
-    if (!isAnySeen(sizes))
+    if (!m_hasEmphasised && !isAnySeen(sizes))
       return;
     m_index.query(projection.visible(0.0), [&](Index i) {
       const Record &record = m_records[i];
@@ -69,7 +75,8 @@ private:
 
   Sizes sizesIn(const Projection &projection) const;
   static double sizeOf(const Record &record, const Sizes &sizes) {
-    return record.look.size * sizes[static_cast<std::size_t>(record.shape)];
+    const double size = record.look.size * sizes[static_cast<std::size_t>(record.shape)];
+    return record.look.isEmphasised ? std::max(size, SmallestEmphasised) : size;
   }
   static bool isSeen(double size) { return size >= SmallestDot; }
   static bool isAnySeen(const Sizes &sizes) {
@@ -79,11 +86,14 @@ private:
   static void drawDots(QPainter &painter, const std::vector<VisibleNode> &nodes, const QRectF &canvas);
   static void drawStations(QPainter &painter, const std::vector<VisibleNode> &nodes, const QRectF &canvas);
 
-  static constexpr double SmallestDot = 1.2; ///< px: smaller ones would only make the lines look dirty
+  static constexpr double SmallestEmphasised = 5.0; ///< px
+  static constexpr double SmallestDot = 1.2;        ///< px: smaller ones would only make the lines look dirty
 
   std::vector<Record> m_records; ///< in the order of the index
+  std::vector<Index> m_ofNodes;  ///< which record is that of a node of the geometry; NoIndex for none
   SpatialIndex m_index;
   double m_typicalLength = 0.0;                ///< plot units, of an edge
   std::array<double, Shapes> m_roomOfShapes{}; ///< plot units, how far apart the nodes of a shape stand
-  bool m_isSizedByValue = false;               ///< the sizes tell something
+  bool m_hasEmphasised = false;
+  bool m_isSizedByValue = false; ///< the sizes tell something
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/settings.h>
+#include <drawing/drawnsizes.h>
 #include <drawing/layerfilter.h>
 #include <drawing/layergeometry.h>
 #include <drawing/netgeometry.h>
@@ -12,16 +13,18 @@
 
 /// Marks what is selected by a dark outline and a halo and lets the rest pale, and marks the element under the cursor. On
 /// the screen it is painted over the finished drawing, so that picking never draws the network again; it is an item of the
-/// plot for documents only, where it lies below the lines and nothing pales.
+/// plot for documents only, where it lies below the lines and above the casings, and nothing pales.
 class SelectionLayer : public QwtPlotItem {
 public:
   SelectionLayer();
 
   /// The geometry whose items are marked; no mark of another one stays.
   void setGeometry(const NetGeometry *geometry);
-  /// Elements that the filter hides have no marks. It is not owned, nor are the widths of the edges, in pixels.
+  /// Elements that the filter hides have no marks. It is not owned.
   void setFilter(const LayerFilter *layers) { m_layers = layers; }
-  void setEdgeWidths(const std::vector<float> *widths) { m_edgeWidths = widths; }
+  void setSizes(const DrawnSizes &sizes) { m_sizes = sizes; }
+  /// Whether it marks the selection as in documents, whatever it is painted on: a page looks the same on all of them.
+  void setIsInDocument(bool isInDocument) { m_isInDocument = isInDocument; }
   void setItems(std::vector<NetGeometry::Item> items);
   const std::vector<NetGeometry::Item> &items() const { return m_items; }
   /// Returns whether another element than before is under the cursor.
@@ -29,7 +32,6 @@ public:
   std::optional<NetGeometry::Item> hovered() const { return m_hovered; }
   /// Brushes and pens are general settings of category "selection".
   void readSettings();
-  void setSizes(double node, double symbol);
   /// \param ground of the drawing, towards which the rest pales \param dimsRest whether it does
   void setGround(const QColor &ground, bool dimsRest);
   /// To be called when the drawing below has changed.
@@ -58,7 +60,7 @@ private:
 
   const NetGeometry *m_geometry = nullptr;
   const LayerFilter *m_layers = nullptr;
-  const std::vector<float> *m_edgeWidths = nullptr;
+  DrawnSizes m_sizes;
   std::vector<NetGeometry::Item> m_items;
   std::optional<NetGeometry::Item> m_hovered;
   Style m_element;
@@ -66,7 +68,6 @@ private:
   QColor m_ground = Qt::white;
   bool m_dimsRest = true;
   double m_subnetFactor = 0.8;
-  double m_nodeSize = 4.0;
-  double m_symbolSize = 20.0;
+  bool m_isInDocument = false;
   mutable std::optional<Picture> m_picture;
 };

@@ -12,6 +12,8 @@
 /// tells what was found of them, joined to their pins. Colours and sizes are general settings of category "subnets".
 class SubnetLayer : public QwtPlotItem {
 public:
+  static constexpr double LargerThanSymbols = 1.6; ///< that a box is that nobody gave a size
+
   SubnetLayer();
 
   void setTable(const SymbolTable &table);
@@ -36,6 +38,8 @@ public:
   std::vector<Placed> layOut(const Projection &projection) const;
   /// The boxes alone.
   std::vector<QRectF> boxes(const Projection &projection) const;
+  /// Px, the side of the box.
+  double sizeOf(Index subnet, const Projection &projection) const { return sizeOf(m_records[subnet], projection); }
   /// Adds the subnets whose box lies under the point.
   void find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const;
 

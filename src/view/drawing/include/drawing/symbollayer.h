@@ -115,6 +115,9 @@ private:
   /// From the compressors to the drives beside them.
   void drawShafts(QPainter &painter, const Projection &projection, const std::vector<Placed> &placed) const;
   Index symbolOf(const NetGeometry::Edge &edge);
+  static QLineF lineOf(const Record &record, const Projection &projection);
+  /// The middle of the line, beside others that join the same nodes.
+  QPointF onLane(const Record &record, const Projection &projection) const;
   QPointF centerOf(const Record &record, const Projection &projection) const;
 
   mutable StationSymbols m_symbols; ///< a cache of pixmaps

@@ -1,7 +1,10 @@
 #pragma once
 
-#include <drawing/layerfilter.h>
+#include <drawing/drawnsizes.h>
+#include <drawing/elementfilter.h>
+#include <drawing/layergeometry.h>
 #include <drawing/netgeometry.h>
+#include <drawing/spatialindex.h>
 #include <drawing/violations.h>
 
 #include <qwt_plot_item.h>
@@ -13,33 +16,40 @@ class ViolationLayer : public QwtPlotItem {
 public:
   ViolationLayer();
 
-  /// Elements of hidden layers have no casing. It is not owned.
-  void setFilter(const LayerFilter *layers) { m_layers = layers; }
+  /// What is not drawn has no casing; lines are drawn whatever the rules say of their symbols.
+  void setFilter(const ElementFilter &filter) { m_filter = filter; }
   /// Looks up what the constraints say now. The geometry has to live as long as it is drawn.
-  /// \param edgeWidths px, by edge; not owned
-  void setElements(const NetGeometry &geometry, const std::vector<float> &edgeWidths);
-  void setSizes(double node, double symbol) {
-    m_nodeSize = node;
-    m_symbolSize = symbol;
-  }
+  void setElements(const NetGeometry &geometry);
+  void setSizes(const DrawnSizes &sizes) { m_sizes = sizes; }
   /// Of the drawing; a line of it keeps casing and element apart, whatever colours they have.
   void setGround(const QColor &ground) { m_ground = ground; }
   void clear();
-  bool isAny(Violations::State state) const { return !(state == Violations::State::Major ? m_major : m_minor).empty(); }
+  /// Whether something has a casing of this kind, wherever it lies.
+  bool isAny(Violations::State state) const;
 
   int rtti() const override { return Rtti_PlotUserItem + 8; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
 
 private:
+  /// The elements of one state.
+  struct Marked {
+    std::vector<NetGeometry::Item> items; ///< in the order of the index
+    SpatialIndex index;
+  };
+
   template <typename Records>
   void find(NetData::EleType kind, const Records &records);
+  /// By where they lie; what lies nowhere is left out.
+  void sort(Marked &marked) const;
+  /// What is seen in this view; of many, one for those in the same place.
+  std::vector<NetGeometry::Item> visible(const Marked &marked, const Projection &projection) const;
+  void draw(QPainter &painter, const Marked &marked, const QColor &color, const Projection &projection) const;
+  bool isHidden(NetGeometry::Item item) const;
 
   const NetGeometry *m_geometry = nullptr;
-  const LayerFilter *m_layers = nullptr;
-  const std::vector<float> *m_edgeWidths = nullptr;
-  std::vector<NetGeometry::Item> m_major;
-  std::vector<NetGeometry::Item> m_minor;
+  ElementFilter m_filter;
+  DrawnSizes m_sizes;
+  Marked m_major;
+  Marked m_minor;
   QColor m_ground = Qt::white;
-  double m_nodeSize = 4.0;
-  double m_symbolSize = 20.0;
 };
