@@ -550,6 +550,7 @@ void TestWorkingPoint::stackWithoutData() {
 
 /// Also where the page has nothing else to say.
 void TestWorkingPoint::axesFollowTheUnits() {
+  m_net->edges().at(QStringLiteral("M")).set(QStringLiteral("m"), QString()); // no working point to speak of
   CharacteristicsStack stack(*m_net);
   stack.setMachines(data());
   QVERIFY(stack.open(QStringLiteral("M")));
