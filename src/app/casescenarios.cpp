@@ -17,7 +17,7 @@ PageFacts CaseScenarios::facts(const NivraWorkspace &workspace) {
 ScenarioSource CaseScenarios::of(const NivraWorkspace &workspace) {
   const QString folder = workspace.caseDirectory();
   const QString geometry = workspace.geometryPath();
-  const QString root = workspace.root();
+  const QString &root = workspace.root();
   const auto form = workspace.isJson() ? ScenarioFiles::Form::Json : ScenarioFiles::Form::Text;
   ScenarioSource source;
   source.names = [folder, form] {

@@ -22,7 +22,7 @@ LoadProgress::~LoadProgress() {
 
 bool LoadProgress::update(double fraction) {
   constexpr int BetweenUpdatesMs = 40;
-  if (m_sinceStart.elapsed() < PatienceMs || m_sinceUpdate.elapsed() < BetweenUpdatesMs)
+  if (m_sinceStart.elapsed() < s_patienceMs || m_sinceUpdate.elapsed() < BetweenUpdatesMs)
     return !m_cancelled;
   if (m_progress == nullptr)
     show();

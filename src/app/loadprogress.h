@@ -13,6 +13,8 @@ class LoadProgress : public QObject {
   Q_OBJECT
 public:
   static constexpr int PatienceMs = 500;
+  /// For tests, which cannot wait for a slow machine.
+  static void setPatience(int milliseconds) { s_patienceMs = milliseconds; }
 
   /// Starts the clock. The widgets go with the object.
   explicit LoadProgress(QStatusBar *bar);
@@ -30,6 +32,8 @@ public slots:
 
 private:
   void show();
+
+  inline static int s_patienceMs = PatienceMs;
 
   QStatusBar *m_bar;
   QProgressBar *m_progress = nullptr;

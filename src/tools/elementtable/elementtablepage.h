@@ -9,7 +9,6 @@
 #include <QMap>
 #include <QWidget>
 
-#include <memory>
 
 class ColumnChooser;
 class ElementTableView;

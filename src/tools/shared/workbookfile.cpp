@@ -3,7 +3,6 @@
 #include "shared/exportedtable.h"
 
 #include <base/fileaccess.h>
-#include <base/index.h>
 
 #include <QFile>
 #include <QFileInfo>

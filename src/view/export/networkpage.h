@@ -1,7 +1,6 @@
 #pragma once
 
 #include "export/georeference.h"
-#include "export/networklegend.h"
 #include "export/pagedrawing.h"
 
 #include <paper/pagecontent.h>

@@ -4,7 +4,6 @@
 
 #include <paper/pageseries.h>
 #include <view/scenariosource.h>
-#include <view/viewbookmarks.h>
 
 #include <memory>
 

@@ -4,7 +4,6 @@
 
 #include <QDockWidget>
 
-#include <memory>
 
 class ElementTablePage;
 class NetData;
