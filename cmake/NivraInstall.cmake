@@ -68,8 +68,9 @@ set(CPACK_DEBIAN_PACKAGE_SECTION "science")
 set(CPACK_DEBIAN_PACKAGE_PRIORITY "optional")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Beside the libraries: letters for labels, symbols as SVG; TIFF and PostScript are for who wants them.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, libqt5svg5")
+# Beside the libraries: letters for labels, symbols as SVG, the toolkit's own texts; TIFF and PostScript are for who wants
+# them.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, libqt5svg5, qttranslations5-l10n")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "poppler-utils, qt5-image-formats-plugins, shared-mime-info")
 # What is stripped goes into a package of its own, out of which the crash log reads symbols and lines where it is installed.
 set(CPACK_DEBIAN_DEBUGINFO_PACKAGE ON)

@@ -3,7 +3,7 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config
-  qtbase5-dev qttools5-dev libqt5svg5-dev qt5-image-formats-plugins libqt5opengl5-dev libqwt-qt5-dev libmuparserx-dev
+  qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libqt5svg5-dev qt5-image-formats-plugins libqt5opengl5-dev libqwt-qt5-dev libmuparserx-dev
   libudunits2-dev libsimdjson-dev libboost-dev libeigen3-dev libbenchmark-dev
   libxlsxwriter-dev zlib1g-dev
   fonts-liberation poppler-utils xvfb xauth)

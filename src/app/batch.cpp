@@ -67,7 +67,7 @@ int Batch::run(const CommandLine &line) {
     tellFailure(reason);
     return Failed;
   }
-  BatchRun run;
+  BatchRun run(line.language);
   BatchRun::Outcome outcome = run.perform(line.task);
   const int checkedTo = outcome.answers.isEmpty() ? LogFiles::realStandardOutput() : LogFiles::realStandardError();
   if (!writeAll(LogFiles::realStandardOutput(), outcome.answers) || !writeAll(checkedTo, outcome.checked))
@@ -78,7 +78,7 @@ int Batch::run(const CommandLine &line) {
 }
 
 int Batch::runJobs(const CommandLine &line) {
-  BatchJobs jobs;
+  BatchJobs jobs(line.language);
   QString reason;
   if (!jobs.read(line.jobs, line.output, &reason)) {
     tellFailure(reason);

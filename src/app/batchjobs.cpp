@@ -162,7 +162,7 @@ BatchJobs::Result BatchJobs::doNext() {
     return result;
   }
   try {
-    result.outcome = BatchRun().perform(run.task);
+    result.outcome = BatchRun(m_language).perform(run.task);
   } catch (const std::bad_alloc &) {
     result.outcome.failures = QStringList{tr("there is not enough memory for this network and picture")};
   }

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <deque>
+#include <utility>
 
 /// The jobs of a file, one after the other: a job of several scenarios is done for each of them.
 class BatchJobs {
@@ -19,6 +20,10 @@ public:
 
     QString summary() const; ///< what was written and found, in a line
   };
+
+  /// \param language that pictures have their texts in; English when it is empty
+  explicit BatchJobs(QString language)
+      : m_language(std::move(language)) {}
 
   /// \param output folder for what is written; empty for that which the file names
   /// False with the reason when nothing can be done at all.
@@ -41,6 +46,7 @@ private:
   QString beside(const QString &path) const; ///< the jobs file, unless it is absolute
   bool nameOutputs(Run &run, QString *reason);
 
+  QString m_language;
   QString m_folder; ///< of the jobs file
   OutputFolder m_output;
   std::deque<Run> m_runs;

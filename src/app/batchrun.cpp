@@ -1,5 +1,6 @@
 #include "batchrun.h"
 
+#include "language/language.h"
 #include "networkinfo.h"
 #include "settings/numberlocale.h"
 
@@ -16,6 +17,7 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -52,8 +54,9 @@ QByteArray csv(const VectorRows::Exported &table) {
 
 } // namespace
 
-BatchRun::BatchRun()
-    : m_control(m_net, QString(), logFinding)
+BatchRun::BatchRun(QString language)
+    : m_language(std::move(language))
+    , m_control(m_net, QString(), logFinding)
     , m_loader(m_net) {}
 
 BatchRun::Outcome BatchRun::perform(const BatchTask &task) {
@@ -87,6 +90,7 @@ bool BatchRun::open(const QString &file, bool isDrawn) {
     m_times.add(stage, time);
   if (!isDrawn)
     return true;
+  const Language spoken(m_language);
   constexpr int ShownWidth = 1200;
   constexpr int ShownHeight = 900;
   m_control.plot()->resize(ShownWidth, ShownHeight);
@@ -103,6 +107,7 @@ void BatchRun::showCase() {
 }
 
 void BatchRun::writePictures(const BatchTask &task) {
+  const Language spoken(m_language);
   for (std::size_t i = 0; i < task.pictures.size(); ++i) {
     if (i > 0)
       showCase(); // nothing of the picture before

@@ -27,7 +27,8 @@ public:
     QByteArray checked; ///< lines of the check, when no file was named for them
   };
 
-  BatchRun();
+  /// \param language that pictures have their texts in; English when it is empty
+  explicit BatchRun(QString language);
 
   Outcome perform(const BatchTask &task);
 
@@ -46,6 +47,7 @@ private:
   bool deliver(const QString &path, const QByteArray &content, QString *reason);
 
   const NivraMsg::Recorder m_recorder;
+  QString m_language; ///< of pictures
   NetData m_net;
   NetVisControl m_control;
   NetworkLoader m_loader;

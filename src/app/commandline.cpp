@@ -1,6 +1,7 @@
 #include "commandline.h"
 
 #include "aboutbox.h"
+#include "language/language.h"
 #include "toolkitoptions.h"
 
 #include <tools/elementquery.h>
@@ -157,6 +158,10 @@ public:
   QCommandLineOption clean{QStringLiteral("clean"),
                            tr("Opens FILE as for the first time: how it was left does not come back, "
                               "and how it is left now is not kept.")};
+  QCommandLineOption language{
+      QStringLiteral("language"),
+      tr("Language of the window and of the texts in pictures; the texts on the command line are English."),
+      QStringLiteral("en|de")};
   AnswerOptions answers;
   PictureOptions pictures;
   QCommandLineOption jobs{QStringLiteral("jobs"),
@@ -172,7 +177,7 @@ public:
     parser.setApplicationDescription(
         tr("Viewer for gas-transport network models. Opens a window; --info, --export, --search,\n"
            "--table, --check and --jobs do without one and need no display."));
-    parser.addOptions(QList<QCommandLineOption>{help, version, clean, pictures.picture} + pictures.details() +
+    parser.addOptions(QList<QCommandLineOption>{help, version, clean, language, pictures.picture} + pictures.details() +
                       answers.all() + QList<QCommandLineOption>{jobs, output});
     parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
   }
@@ -184,6 +189,9 @@ public:
     line.task.file = line.file;
     line.isClean = parser.isSet(clean);
     line.output = parser.value(output);
+    line.language = parser.value(language);
+    if (parser.isSet(language) && !Language::isKnown(line.language))
+      return tr("--language is en or de.");
     if (parser.isSet(jobs))
       return takeJobs(parser, line);
     QString reason = pictures.take(parser, line.task);

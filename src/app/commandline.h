@@ -21,6 +21,7 @@ public:
   Action action = Action::Window;
   QString file;
   bool isClean = false; ///< how the file was left does not come back, nor is it kept now
+  QString language;     ///< code of the one that was asked for
   QString style;        ///< of the toolkit, where one was asked for
   QStringList toolkit;  ///< the program name and the options of the toolkit
   BatchTask task;

@@ -4,6 +4,7 @@
 
 #include <base/index.h>
 #include <model/names.h>
+#include <model/titles.h>
 #include <tools/displayvalue.h>
 #include <tools/plaintip.h>
 
@@ -37,7 +38,7 @@ void GasModel::set(const GasTable &gases, const NetMetaData &metaData) {
   DisplayValue display(metaData);
   for (const auto &[folded, key] : properties) {
     const NetMetaData::Attribute *attribute = metaData.attribute(VocabularyType, key.name());
-    Row row{attribute == nullptr ? QString() : attribute->longName, {key.name(), QString()}};
+    Row row{attribute == nullptr ? QString() : Titles::of(*attribute), {key.name(), QString()}};
     row.texts[UnitColumn] = Units::written(display.unit(VocabularyType, key));
     for (const auto &[name, gas] : gases) {
       const PropertyText *value = gas.find(key);

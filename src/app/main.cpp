@@ -1,5 +1,6 @@
 #include "batch.h"
 #include "commandline.h"
+#include "language/language.h"
 #include "messagebox.h"
 #include "nivraviewer.h"
 
@@ -8,6 +9,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QProcess>
 #include <QTimer>
 #include <QUrl>
 
@@ -52,11 +54,23 @@ int runBatch(const CommandLine &line) {
   }
 }
 
+/// In the language that the settings have now.
+void restart(const CommandLine &line, const QString &file) {
+  QStringList arguments = line.toolkit.mid(1);
+  if (line.isClean)
+    arguments.append(QStringLiteral("--clean"));
+  if (!file.isEmpty())
+    arguments.append(file);
+  if (!QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments))
+    NivraMsg::logCritical(QStringLiteral("The program could not be started again."));
+}
+
 int runWindow(int argc, char **argv, const CommandLine &line) {
   QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   const QApplication application(argc, argv);
   QGuiApplication::setDesktopFileName(QStringLiteral("org.nivra.NivraReader")); // by which a desktop finds the icon
+  const Language language(Language::toStartWith(line.language));
   NivraMsg::setBoxSink(MessageBox::show);
   CrashGuard::setUp(LogFiles::Run::Window,
                     [](const QString &path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
@@ -67,7 +81,10 @@ int runWindow(int argc, char **argv, const CommandLine &line) {
   if (!line.file.isEmpty())
     QTimer::singleShot(0, &viewer, [&] { viewer.open(line.file); });
   viewer.remember(line.isClean ? WorkspaceMemory::Keeps::RecentFiles : WorkspaceMemory::Keeps::Sessions);
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  if (viewer.restarts())
+    restart(line, viewer.openFile());
+  return status;
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "aboutbox.h"
 #include "casescenarios.h"
 #include "commands.h"
+#include "language/languagechoice.h"
 #include "lastscenario.h"
 #include "layerkeeper.h"
 #include "loadprogress.h"
@@ -75,7 +76,8 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_layers(new LayerKeeper(m_net, *this))
     , m_reloadOffer(new ReloadOffer(*this))
     , m_reload(new QAction(tr("&Reload"), this))
-    , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); }) {
+    , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); })
+    , m_language(new LanguageChoice(*this)) {
   qApp->installEventFilter(new WheelGuard(this));
   qApp->installEventFilter(new Mnemonics(this));
   setUpForm();
@@ -95,7 +97,12 @@ NivraViewer::NivraViewer(QWidget *parent)
   show();
   QCoreApplication::processEvents();
   addAction(m_ui->actionSearch);
-  connect(m_ui->menuView, &QMenu::aboutToShow, m_tools, [this] { m_tools->fillViewMenu(*m_ui->menuView); });
+  connect(m_ui->menuView, &QMenu::aboutToShow, m_tools, [this] {
+    m_tools->fillViewMenu(*m_ui->menuView);
+    m_language->addTo(*m_ui->menuView);
+  });
+  connect(m_language, &LanguageChoice::chosen, this, &NivraViewer::takeSettings);
+  connect(m_language, &LanguageChoice::restartWanted, this, [this] { m_restarts = close(); });
   connect(m_control.get(), &NetVisControl::currentElementChanged, this, &NivraViewer::currentEleChanged);
   connect(m_tools, &ToolDocks::elementMarked, this,
           [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
@@ -181,6 +188,10 @@ void NivraViewer::setUpCommands() {
       m_ui->statusbar->showMessage(tr("%1 has no place in the drawing").arg(name));
   });
   connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
+}
+
+QString NivraViewer::openFile() const {
+  return m_loader.workspace().isValid() ? m_loader.workspace().chosenPath() : QString();
 }
 
 QString NivraViewer::openDialogStart(const QString &applicationDir) {
@@ -514,6 +525,7 @@ void NivraViewer::on_actionSettings_triggered() {
 void NivraViewer::takeSettings() {
   loadSettings();
   m_reloadOffer->accept({GeneralSettings::settingsFile(m_loader.workspace().root())});
+  m_language->offerRestart();
   if (!m_loader.workspace().isValid())
     return;
   m_loader.tellBoundsAgain();

@@ -17,6 +17,7 @@
 
 class CategoryList;
 class Commands;
+class LanguageChoice;
 class LayerKeeper;
 class LoadProgress;
 class NetVisControl;
@@ -38,6 +39,10 @@ public:
 
   /// A ".qss" file restyles the program; anything else is resolved as a workspace and opened.
   void open(const QString &path);
+
+  /// Whether the window was closed to come back in a process of its own, which speaks another language.
+  bool restarts() const { return m_restarts; }
+  QString openFile() const; ///< empty when nothing is open
 
   /// What is kept of the workspaces that are opened from now on; nothing by default.
   void remember(WorkspaceMemory::Keeps keeps);
@@ -110,5 +115,7 @@ private:
   LoadProgress *m_progress = nullptr; ///< while a workspace is being read
   FileStamp m_settingsRead;           ///< of the general settings of the workspace
   bool m_isRead = false;              ///< what is shown: the last reading yielded a network
-  bool m_closesThen = false;          ///< once reading has ended
+  LanguageChoice *m_language;
+  bool m_restarts = false;
+  bool m_closesThen = false; ///< once reading has ended
 };

@@ -55,7 +55,7 @@ QVariant RecentModel::data(const QModelIndex &index, int role) const {
   case FolderRole:
     return file.folder();
   case DateRole:
-    return QLocale().toString(file.opened, QLocale::ShortFormat);
+    return QLocale::system().toString(file.opened, QLocale::ShortFormat); // as people are used to, whatever the numbers
   case IsThereRole:
     return isThere;
   default:

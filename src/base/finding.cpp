@@ -30,7 +30,8 @@ QString Finding::logText() const {
     return said;
   QString where = file;
   if (line > 0)
-    where += (file.isEmpty() ? QStringLiteral("line ") : QStringLiteral(":")) + QString::number(line);
+    where += file.isEmpty() ? QCoreApplication::translate("Finding", "line %1").arg(line)
+                            : QLatin1Char(':') + QString::number(line);
   return said + QStringLiteral(" (") + where + QLatin1Char(')');
 }
 

@@ -1,5 +1,6 @@
 #include <base/textdecoding.h>
 
+#include <QCoreApplication>
 #include <QTextCodec>
 
 QString TextDecoding::decoded(std::string_view utf8) {
@@ -25,6 +26,7 @@ QString TextDecoding::fromWindows1252(const QByteArray &bytes) {
 QString TextDecoding::decoded(const QByteArray &content, const QString &path, const Told &told) {
   if (std::optional<QString> text = fromUtf8(content))
     return *text;
-  tell(told, Finding::Severity::Warning, QStringLiteral("%1 is not UTF-8 and is read as Windows-1252 (Latin-1)").arg(path));
+  tell(told, Finding::Severity::Warning,
+       QCoreApplication::translate("TextDecoding", "%1 is not UTF-8 and is read as Windows-1252 (Latin-1)").arg(path));
   return fromWindows1252(content);
 }

@@ -2,6 +2,7 @@
 
 #include <base/fileaccess.h>
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 
 bool isJsonPath(const QString &path) {
@@ -23,8 +24,8 @@ std::optional<QJsonObject> readJsonObject(const QString &path, QString *reason) 
   QJsonParseError error;
   const QJsonDocument document = QJsonDocument::fromJson(text, &error);
   if (error.error != QJsonParseError::NoError)
-    return failed(QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset));
+    return failed(QCoreApplication::translate("JsonFile", "%1 at byte %2").arg(error.errorString()).arg(error.offset));
   if (!document.isObject())
-    return failed(QStringLiteral("is no JSON object"));
+    return failed(QCoreApplication::translate("JsonFile", "is no JSON object"));
   return document.object();
 }

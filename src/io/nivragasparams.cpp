@@ -2,6 +2,7 @@
 
 #include <io/nivragasparams.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
 
@@ -71,7 +72,8 @@ bool NivraGasParams::readFromFile(const QString &directory, Findings &findings) 
   QString reason;
   const std::optional<QJsonObject> object = readJsonObject(path, &reason);
   if (!object) {
-    const QString text = QStringLiteral("NivraGasParams::readFromFile: cannot open file ") + reason;
+    const QString text =
+        QCoreApplication::translate("NivraGasParams", "NivraGasParams::readFromFile: cannot open file %1").arg(reason);
     const bool isThere = QFileInfo::exists(path) || QFileInfo(path).isSymLink(); // without it the text form is meant
     findings.push_back({isThere ? Finding::Severity::Warning : Finding::Severity::Debug, QString(), 0, text, QString()});
     return false;

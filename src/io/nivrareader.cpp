@@ -4,6 +4,7 @@
 
 #include <io/nivrareader.h>
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
 
@@ -122,7 +123,8 @@ NivraReader::Result NivraReader::readTopoAndScenJsn(const QString &geometryPath,
   Result result = readGeomJsn(networkPath(geometryPath), options);
   if (!result.ok) {
     for (Finding &finding : result.findings)
-      finding.text = finding.box = QStringLiteral("readTopoAndScen: cannot read ") + finding.text;
+      finding.text = finding.box =
+          QCoreApplication::translate("NivraReader", "readTopoAndScen: cannot read %1").arg(finding.text);
     return result;
   }
   if (result.cancelled || scenarioPath.isEmpty())
@@ -221,7 +223,8 @@ NivraReader::Result NivraReader::readScenarioJsn(const QString &scenarioPath, co
   if (!result.ok) {
     for (Finding &finding : result.findings) {
       finding.severity = Finding::Severity::Warning;
-      finding.text = finding.box = QStringLiteral("readScen: cannot read scen file ") + finding.text;
+      finding.text = finding.box =
+          QCoreApplication::translate("NivraReader", "readScen: cannot read scen file %1").arg(finding.text);
     }
     return result;
   }

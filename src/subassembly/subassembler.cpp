@@ -8,6 +8,7 @@
 #include <model/topology.h>
 #include <subassembly/subassembler.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -75,7 +76,8 @@ QString SubAssembler::findFolder(const QString &programFolder, const Told &told)
     if (folder.isDir())
       return folder.canonicalFilePath();
   }
-  tell(told, Finding::Severity::Warning, QStringLiteral("Could not find net_subassemblies folder!"));
+  tell(told, Finding::Severity::Warning,
+       QCoreApplication::translate("SubAssembler", "Could not find net_subassemblies folder!"));
   return QString();
 }
 

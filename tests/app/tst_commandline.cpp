@@ -49,6 +49,9 @@ void TestCommandLine::parse_data() {
   row("--jobs a.json --output folder", Action::Jobs);
   row("--jobs a.json net.geom", Action::Wrong);
   row("--jobs a.json --check", Action::Wrong);
+  row("--language de net.geom", Action::Window);
+  row("--export a.png --language=en net.geom", Action::Batch);
+  row("--language fr net.geom", Action::Wrong);
   row("--export a.png --style a.ini --style=b.csv -style fusion net.geom", Action::Batch);
   row("--style fusion net.geom", Action::Window); // that of the toolkit
   row("--style a.ini net.geom", Action::Wrong);   // of the drawing, which takes --export

@@ -2,6 +2,7 @@
 #include "commandpalette.h"
 #include "elementfield.h"
 #include "elementnames.h"
+#include "language/language.h"
 #include "mnemonics.h"
 #include "nivraviewer.h"
 #include "svgicon.h"
@@ -39,7 +40,9 @@ class TestCommands : public QObject {
   Q_OBJECT
 
 private slots:
+  void menusHaveLettersWithoutCollisions_data();
   void menusHaveLettersWithoutCollisions();
+  void keysDoNotCollide_data();
   void keysDoNotCollide();
   void everyControlHasAName();
   void whatTheToolBarHasStandsInAMenu();
@@ -108,7 +111,15 @@ QString TestCommands::collision(const QString &menu, const QList<QAction *> &ent
   return QString();
 }
 
+void TestCommands::menusHaveLettersWithoutCollisions_data() {
+  QTest::addColumn<QString>("language");
+  QTest::newRow("English") << QStringLiteral("en");
+  QTest::newRow("German") << QStringLiteral("de");
+}
+
 void TestCommands::menusHaveLettersWithoutCollisions() {
+  QFETCH(QString, language);
+  const Language spoken(language);
   NivraViewer viewer;
   open(viewer, m_workspace.scenario());
   QCOMPARE(collision(QStringLiteral("menu bar"), viewer.menuBar()->actions()), QString());
@@ -122,7 +133,13 @@ void TestCommands::menusHaveLettersWithoutCollisions() {
     QCOMPARE(collision(QStringLiteral("again"), viewer.menuBar()->actions()), QString());
 }
 
+void TestCommands::keysDoNotCollide_data() {
+  menusHaveLettersWithoutCollisions_data();
+}
+
 void TestCommands::keysDoNotCollide() {
+  QFETCH(QString, language);
+  const Language spoken(language);
   NivraViewer viewer;
   open(viewer, m_workspace.scenario());
   showAllDocks(viewer);

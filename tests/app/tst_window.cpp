@@ -365,7 +365,8 @@ void TestWindow::menus() {
   emit viewMenu->aboutToShow(); // filled anew each time
   const QStringList view = texts(viewMenu->actions());
   QCOMPARE(view.count(QStringLiteral("Dock Widgets")), 1);
-  QCOMPARE(view.mid(view.size() - 2), (QStringList{QStringLiteral("Toolbars"), QStringLiteral("Main tools")}));
+  QCOMPARE(view.mid(view.indexOf(QStringLiteral("Toolbars")), 2),
+           (QStringList{QStringLiteral("Toolbars"), QStringLiteral("Main tools")}));
 }
 
 void TestWindow::contextMenuLeadsBack() {

@@ -68,17 +68,49 @@ SettingDescription::Takes effectOf(const SettingsTable::Row &row) {
       QStringLiteral("status bar style sheet acceptable"), QStringLiteral("status bar style sheet successful")};
   if (row.effect == SettingsTable::Kept)
     return Takes::Never;
+  if (QLatin1String(row.key) == QLatin1String("language"))
+    return Takes::AtNextStart;
   return whileOpening.contains(QString::fromLatin1(row.key)) ? Takes::AtNextOpening : Takes::AtOnce;
 }
 
+/// As the toolkit calls the key.
+QString ofKey(const char *name) {
+  return QCoreApplication::translate("QShortcut", name);
+}
+
+QString languageTitle(const QString &code) {
+  if (code == QLatin1String("en"))
+    return QStringLiteral("English"); // each in its own language
+  return code == QLatin1String("de") ? QStringLiteral("Deutsch")
+                                     : translated(QT_TRANSLATE_NOOP("SettingDescription", "like the desktop"));
+}
+
+/// How numbers are written, in words; other choices are words of the settings files.
+QString formTitle(const QString &option) {
+  for (const char *known :
+       {QT_TRANSLATE_NOOP("SettingDescription", "significant digits"), QT_TRANSLATE_NOOP("SettingDescription", "decimals"),
+        QT_TRANSLATE_NOOP("SettingDescription", "point"), QT_TRANSLATE_NOOP("SettingDescription", "comma"),
+        QT_TRANSLATE_NOOP("SettingDescription", "labels only"), QT_TRANSLATE_NOOP("SettingDescription", "none"),
+        QT_TRANSLATE_NOOP("SettingDescription", "space"), QT_TRANSLATE_NOOP("SettingDescription", "apostrophe"),
+        QT_TRANSLATE_NOOP("SettingDescription", "other sign")}) {
+    if (option == QLatin1String(known))
+      return translated(known);
+  }
+  return option;
+}
+
 QString titleOf(const QString &key, const QString &option) {
+  if (key == QLatin1String("language"))
+    return languageTitle(option);
   if (key.startsWith(QLatin1String("unit: ")))
     return option.isEmpty() ? translated(QT_TRANSLATE_NOOP("SettingDescription", "as in the property table"))
                             : Units::written(option);
   if (option.isEmpty())
     return translated(QT_TRANSLATE_NOOP("SettingDescription", "none"));
   if (!key.endsWith(QLatin1String("brush style")))
-    return option;
+    return QLatin1String(SettingsTable::row(key.toLatin1().constData()).category) == QLatin1String("units and numbers")
+               ? formTitle(option)
+               : option;
   static const char *const Patterns[] = {
       QT_TRANSLATE_NOOP("SettingDescription", "not filled"), QT_TRANSLATE_NOOP("SettingDescription", "filled"),
       QT_TRANSLATE_NOOP("SettingDescription", "dots, 94 %"), QT_TRANSLATE_NOOP("SettingDescription", "dots, 88 %"),
@@ -98,8 +130,7 @@ void addOptions(const SettingsTable::Row &row, SettingDescription &setting) {
   } else if (setting.key == keyOfRectangle()) {
     for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_Z})
       setting.options.append(QString::number(key));
-    setting.titles = QStringList{QStringLiteral("Shift"), QStringLiteral("Ctrl"), QStringLiteral("Alt"),
-                                 QStringLiteral("Meta"), QStringLiteral("Z")};
+    setting.titles = QStringList{ofKey("Shift"), ofKey("Ctrl"), ofKey("Alt"), ofKey("Meta"), QStringLiteral("Z")};
   } else if (setting.kind == SettingDescription::Kind::Choice) {
     setting.options = QString::fromLatin1(row.options).split(QLatin1Char(','));
     for (const QString &option : qAsConst(setting.options))
@@ -166,6 +197,8 @@ QString SettingDescription::whenItTakes() const {
   switch (takes) {
   case Takes::AtNextOpening:
     return translated(QT_TRANSLATE_NOOP("SettingDescription", "Takes effect with the next opening."));
+  case Takes::AtNextStart:
+    return translated(QT_TRANSLATE_NOOP("SettingDescription", "Takes effect with the next start of the program."));
   case Takes::Never:
     return translated(
         QT_TRANSLATE_NOOP("SettingDescription", "Kept for other tools on the same workspaces, without effect here."));

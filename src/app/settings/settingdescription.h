@@ -10,7 +10,7 @@
 /// What the settings dialog knows of a general setting beyond the table: what it does, for people, and how it is edited.
 struct SettingDescription {
   enum class Kind { Switch, Number, Choice, Colour, Path, Text };
-  enum class Takes { AtOnce, AtNextOpening, Never };
+  enum class Takes { AtOnce, AtNextOpening, AtNextStart, Never };
 
   QString key;
   QString group; ///< under which it is listed

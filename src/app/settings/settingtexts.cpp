@@ -16,6 +16,8 @@ constexpr Words Texts[] = {
      QT_TRANSLATE_NOOP("SettingDescription", "The open pages of machine maps come back with their case.")},
     {"use comma",
      QT_TRANSLATE_NOOP("SettingDescription", "Values in saved tables have a decimal comma in place of the point.")},
+    {"language",
+     QT_TRANSLATE_NOOP("SettingDescription", "Language of the program. What a workspace says of it is not asked.")},
     {"zoom to element", QT_TRANSLATE_NOOP("SettingDescription",
                                           "Turning the wheel zooms to the element under the cursor in place of the point.")},
     {"perform pixtest",

@@ -3,6 +3,7 @@
 #include <base/wholefile.h>
 #include <tools/category.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QMap>
 #include <QRegularExpression>
@@ -128,7 +129,8 @@ std::vector<Category> CategoryFile::read(const QString &path, const Told &told) 
     if (const std::optional<Category> category = parsed(line))
       categories.push_back(*category);
     else if (told)
-      told({Finding::Severity::Warning, path, number, QStringLiteral("Line contains less than 5 entries!")});
+      told({Finding::Severity::Warning, path, number,
+            QCoreApplication::translate("CategoryFile", "Line contains less than 5 entries!")});
   }
   return categories;
 }

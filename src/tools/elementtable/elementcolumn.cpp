@@ -8,6 +8,7 @@
 #include <model/names.h>
 #include <model/netmetadata.h>
 #include <model/propertycolumns.h>
+#include <model/titles.h>
 #include <tools/displayvalue.h>
 
 #include <QHash>
@@ -42,9 +43,9 @@ ElementColumn::ElementColumn(PropertyKey key, const ElementList &list, DisplayVa
     const NetMetaData::Attribute *attribute = metaData.attribute(type, key.name());
     if (attribute == nullptr || !m_explanation.isEmpty())
       continue;
-    m_explanation = attribute->longName;
+    m_explanation = Titles::of(*attribute);
     if (!attribute->description.isEmpty())
-      m_explanation += QStringLiteral(": ") + attribute->description;
+      m_explanation += QStringLiteral(": ") + Titles::description(*attribute);
   }
 }
 
@@ -97,7 +98,7 @@ QString ElementColumn::text(Index row) const {
     return QString();
   if (m_key == Names::all().type) {
     const ElementType *type = ElementTypes::byCode(text->toString());
-    return type == nullptr ? text->toString() : type->longName;
+    return type == nullptr ? text->toString() : Titles::of(*type);
   }
   const std::size_t type = m_list.type(row);
   const std::optional<double> value = number(*text, type);

@@ -3,6 +3,7 @@
 #include <model/elementtypes.h>
 #include <model/names.h>
 #include <model/netdata.h>
+#include <model/titles.h>
 #include <tools/searchcriteria.h>
 
 #include <algorithm>
@@ -12,7 +13,7 @@ namespace {
 
 QString titleOf(const QString &code) {
   const ElementType *type = ElementTypes::byCode(code);
-  QString title = type == nullptr ? code : type->plural;
+  QString title = type == nullptr ? code : Titles::ofSeveral(*type);
   if (!title.isEmpty())
     title[0] = title[0].toUpper();
   return title;

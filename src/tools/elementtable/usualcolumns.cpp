@@ -2,6 +2,7 @@
 
 #include <model/names.h>
 #include <model/netmetadata.h>
+#include <model/titles.h>
 #include <model/units.h>
 #include <tools/displayvalue.h>
 
@@ -49,7 +50,7 @@ std::vector<ColumnList::Entry> UsualColumns::entries(const PropertyCensus &censu
     for (const QString &type : types) {
       const NetMetaData::Attribute *attribute = metaData.attribute(type, property.key.name());
       if (entry.meaning.isEmpty() && attribute != nullptr)
-        entry.meaning = attribute->longName;
+        entry.meaning = Titles::of(*attribute);
       if (entry.unit.isEmpty())
         entry.unit = Units::written(display.unit(type, property.key));
     }

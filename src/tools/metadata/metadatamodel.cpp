@@ -1,6 +1,7 @@
 #include "metadata/metadatamodel.h"
 
 #include <model/elementtypes.h>
+#include <model/titles.h>
 #include <tools/plaintip.h>
 
 MetaDataModel::MetaDataModel(QObject *parent)
@@ -37,7 +38,7 @@ QVariant MetaDataModel::entryData(int group, int entry, int column, int role) co
 std::vector<MetaDataModel::Entry> MetaDataModel::types() {
   std::vector<Entry> entries;
   for (const ElementType &type : ElementTypes::all())
-    entries.push_back({type.code, type.longName, type.plural});
+    entries.push_back({type.code, Titles::of(type), Titles::ofSeveral(type)});
   return entries;
 }
 
@@ -45,8 +46,8 @@ std::vector<MetaDataModel::Entry> MetaDataModel::functions(const NetMetaData &me
   std::vector<Entry> entries;
   for (const QString &name : names) {
     const NetMetaData::Attribute *attribute = metaData.anyAttribute(name);
-    entries.push_back({name, attribute == nullptr ? QString() : attribute->longName,
-                       attribute == nullptr ? QString() : attribute->description});
+    entries.push_back({name, attribute == nullptr ? QString() : Titles::of(*attribute),
+                       attribute == nullptr ? QString() : Titles::description(*attribute)});
   }
   return entries;
 }
@@ -61,7 +62,7 @@ std::vector<MetaDataModel::Entry> MetaDataModel::properties(const NetMetaData &m
     if (!isWanted || known.contains(attribute.property))
       continue;
     known.insert(attribute.property);
-    entries.push_back({attribute.property, attribute.longName, attribute.description});
+    entries.push_back({attribute.property, Titles::of(attribute), Titles::description(attribute)});
   }
   return entries;
 }

@@ -18,6 +18,7 @@ public:
 
 protected:
   const std::vector<PropertyList::Group> &groups() const final { return m_groups; }
+  QVariant groupData(int group, int column, int role) const final;
   QVariant entryData(int group, int entry, int column, int role) const final;
 
 private:

@@ -1,5 +1,6 @@
 #include <model/displayformat.h>
 #include <model/elementtypes.h>
+#include <model/titles.h>
 #include <model/units.h>
 #include <tools/searchcriteria.h>
 
@@ -43,7 +44,7 @@ bool SearchedTypes::matches(const QString &code) const {
   const ElementType *type = m_takesWords ? ElementTypes::byCode(code) : nullptr;
   if (type == nullptr)
     return false;
-  const QStringList words{type->word, type->longName, type->plural};
+  const QStringList words{type->word, type->longName, type->plural, Titles::of(*type), Titles::ofSeveral(*type)};
   return std::any_of(words.begin(), words.end(), [this](const QString &word) { return m_pattern.matches(word); });
 }
 

@@ -34,5 +34,5 @@ QVariant SearchResultsModel::data(const QModelIndex &index, int role) const {
 }
 
 QString SearchResultsModel::title(int column) const {
-  return SearchTable::headers().at(column);
+  return SearchTable::title(column);
 }

@@ -2,11 +2,21 @@
 
 #include "shared/csvfield.h"
 
+#include <QCoreApplication>
 #include <QTextStream>
+
+#include <array>
 
 QStringList SearchTable::headers() {
   return {QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("property"), QStringLiteral("value"),
           QStringLiteral("unit")};
+}
+
+QString SearchTable::title(int column) {
+  static constexpr std::array Titles{QT_TRANSLATE_NOOP("SearchTable", "name"), QT_TRANSLATE_NOOP("SearchTable", "type"),
+                                     QT_TRANSLATE_NOOP("SearchTable", "property"), QT_TRANSLATE_NOOP("SearchTable", "value"),
+                                     QT_TRANSLATE_NOOP("SearchTable", "unit")};
+  return QCoreApplication::translate("SearchTable", Titles.at(static_cast<std::size_t>(column)));
 }
 
 bool SearchTable::write(QIODevice &device, const SearchParams &params, const std::vector<SearchRow> &rows, bool useComma) {

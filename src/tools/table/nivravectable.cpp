@@ -66,9 +66,17 @@ bool NivraVecTable::isPropertyMode() const {
   return m_ui->checkBoxProp->isChecked();
 }
 
+/// Those of a file; on the screen they are in the language of the program.
 QStringList NivraVecTable::headers() const {
-  QStringList texts{QStringLiteral("name"), QStringLiteral("type"),   QStringLiteral("property"), QStringLiteral("value"),
-                    QStringLiteral("unit"), QStringLiteral("result"), QStringLiteral("numsort")};
+  return withCategory({QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("property"), QStringLiteral("value"),
+                       QStringLiteral("unit"), QStringLiteral("result"), QStringLiteral("numsort")});
+}
+
+QStringList NivraVecTable::titles() const {
+  return withCategory({tr("name"), tr("type"), tr("property"), tr("value"), tr("unit"), tr("result"), tr("numsort")});
+}
+
+QStringList NivraVecTable::withCategory(QStringList texts) const {
   const CategoryRecord category = m_categories.value(m_chosenCategory);
   if (!isPropertyMode()) {
     texts[VectorModel::NameColumn] += QStringLiteral("\n(%1)").arg(category.name);
@@ -123,7 +131,7 @@ void NivraVecTable::showRows(std::vector<VectorRows::Row> rows, int sortedBy) {
   constexpr int RowMargin = 8; // px around the text
   m_model->setRows({});        // there is no use in sorting the rows that go
   m_ui->tableWidget->verticalHeader()->setDefaultSectionSize(QFontInfo(font()).pixelSize() + RowMargin);
-  m_model->setTitles(headers());
+  m_model->setTitles(titles());
   m_ui->tableWidget->sortByColumn(sortedBy, Qt::AscendingOrder);
   m_model->setRows(std::move(rows));
 }
@@ -314,7 +322,7 @@ void NivraVecTable::showPlot() {
     if (isNumber)
       values.emplace_back(toQt(i) + 1, number);
   }
-  QString title = headers().at(VectorModel::ResultColumn).section(QLatin1Char('\n'), 1).mid(1).chopped(1);
+  QString title = titles().at(VectorModel::ResultColumn).section(QLatin1Char('\n'), 1).mid(1).chopped(1);
   const NetMetaData::Attribute *attribute = isPropertyMode() ? m_net.metaData()->anyAttribute(m_chosenProperty) : nullptr;
   if (attribute != nullptr && !attribute->storedUnit.isEmpty())
     title += QStringLiteral(" [%1]").arg(Units::written(attribute->storedUnit));

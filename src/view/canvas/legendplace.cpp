@@ -26,7 +26,7 @@ Projection projectionOf(const QRectF &view, const QRectF &canvas) {
 
 /// How much of the network the area covers, in pixels of lines. A sample of a large network tells as much.
 double hiddenBy(const QRectF &area, const Projection &projection, const NetGeometry &geometry) {
-  constexpr std::size_t Sample = 20'000;
+  constexpr std::size_t Sample = 20000;
   constexpr double OfNode = 6.0; // px of a line that count as much
   constexpr double OfStation = 20.0;
   double hidden = 0.0;

@@ -129,8 +129,8 @@ void LabelTableEditor::applyTemplate() {
   if (!current.isValid())
     return;
   QStringList choices{tr("all types")};
-  for (const LabelRow &type : m_model.table().types)
-    choices.append(type[LabelRow::LongName]);
+  for (int row = 0; row < m_model.typeCount(); ++row)
+    choices.append(m_model.titleOf(row));
   bool isAccepted = false;
   const QString chosen =
       QInputDialog::getItem(&m_view, tr("Apply to …"), tr("Give this look to"), choices, 0, false, &isAccepted);

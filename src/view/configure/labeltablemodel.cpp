@@ -2,14 +2,17 @@
 
 #include <base/index.h>
 #include <drawing/stationsymbols.h>
+#include <model/titles.h>
 
 #include <QBrush>
+#include <QCoreApplication>
 #include <QFont>
 #include <QHash>
 #include <QIcon>
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -72,6 +75,18 @@ auto &rowOf(AnyTable &table, int row) {
   return index < table.types.size() ? table.types.at(index) : table.templates.at(index - table.types.size());
 }
 
+/// As the file has it, in the language of the program.
+QString headerTitle(int column) {
+  static constexpr std::array Texts{
+      QT_TRANSLATE_NOOP("LabelTableModel", "long name"),  QT_TRANSLATE_NOOP("LabelTableModel", "short"),
+      QT_TRANSLATE_NOOP("LabelTableModel", "size"),       QT_TRANSLATE_NOOP("LabelTableModel", "show"),
+      QT_TRANSLATE_NOOP("LabelTableModel", "contents"),   QT_TRANSLATE_NOOP("LabelTableModel", "color"),
+      QT_TRANSLATE_NOOP("LabelTableModel", "bgr-color"),  QT_TRANSLATE_NOOP("LabelTableModel", "bgr-alpha"),
+      QT_TRANSLATE_NOOP("LabelTableModel", "bord-color"), QT_TRANSLATE_NOOP("LabelTableModel", "bord-alpha"),
+      QT_TRANSLATE_NOOP("LabelTableModel", "font")};
+  return column < 0 || column >= int(Texts.size()) ? QString() : LabelTableModel::tr(Texts.at(fromQt(column)));
+}
+
 QString withoutCommas(QString contents) {
   return contents.replace(QLatin1Char(','), QStringLiteral("&#44;"));
 }
@@ -100,6 +115,12 @@ bool LabelTableModel::hasDialog(int column) {
   default:
     return false;
   }
+}
+
+QString LabelTableModel::titleOf(int type) const {
+  const LabelRow &row = rowOf(m_table, type);
+  const ElementType *known = ElementTypes::byCode(row[LabelRow::Short]);
+  return known == nullptr ? row[LabelRow::LongName] : Titles::of(*known);
 }
 
 const QString &LabelTableModel::symbolCode(int row) const {
@@ -151,6 +172,8 @@ QVariant LabelTableModel::data(const QModelIndex &index, int role) const {
   if (!index.isValid())
     return QVariant();
   const LabelRow &row = rowOf(m_table, index.row());
+  if (role == Qt::DisplayRole && index.column() == LabelRow::LongName && !isTemplate(index.row()))
+    return titleOf(index.row());
   if (role == Qt::DisplayRole || role == Qt::EditRole)
     return row[static_cast<LabelRow::Column>(index.column())];
   return look(row, index.column(), role);
@@ -190,8 +213,7 @@ QString LabelTableModel::fault(int column, const QString &text) {
 
 QVariant LabelTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation == Qt::Horizontal)
-    return role == Qt::DisplayRole ? LabelTable::headers().value(section)
-                                   : QAbstractTableModel::headerData(section, orientation, role);
+    return role == Qt::DisplayRole ? headerTitle(section) : QAbstractTableModel::headerData(section, orientation, role);
   if (role == Qt::DecorationRole && section >= 0 && section < rowCount())
     return iconOf(symbolCode(section));
   return QVariant();

@@ -17,6 +17,7 @@ public:
 
   int typeCount() const { return toQt(m_table.types.size()); }
   bool isTemplate(int row) const { return row >= typeCount(); }
+  QString titleOf(int type) const; ///< what people call the type of the row
   /// The cell's text is chosen in a dialog rather than typed.
   static bool hasDialog(int column);
 

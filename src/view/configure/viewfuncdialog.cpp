@@ -91,9 +91,8 @@ void viewFuncDialog::fillChoices() {
     m_ui->legendPos->addItem(corner);
     m_ui->legendCorner->addItem(corner, LegendPlace::names().at(i));
   }
-  for (const QString &mode :
-       {QStringLiteral("no label"), QStringLiteral("name only"), QStringLiteral("selected properties")})
-    m_ui->label_mode->addItem(mode, mode);
+  for (const char *mode : {QT_TR_NOOP("no label"), QT_TR_NOOP("name only"), QT_TR_NOOP("selected properties")})
+    m_ui->label_mode->addItem(tr(mode), QLatin1String(mode));
   m_ui->viewport->addItems({tr("independent axes"), tr("original ratio"), tr("aspect ratio")});
 }
 

@@ -8,6 +8,7 @@
 #include <model/displayunits.h>
 #include <model/elementtypes.h>
 #include <model/netmetadata.h>
+#include <model/titles.h>
 #include <model/topology.h>
 #include <view/netpicker.h>
 
@@ -160,7 +161,7 @@ QString NetPicker::toolTipFor(NetGeometry::Item item) const {
   const QString code = source.value(QStringLiteral("type"));
   const ElementType *type = ElementTypes::byCode(code);
   QString text =
-      QStringLiteral("<b>%1</b> <i>%2</i>").arg(nameOf(item).toHtmlEscaped(), type == nullptr ? code : type->longName);
+      QStringLiteral("<b>%1</b> <i>%2</i>").arg(nameOf(item).toHtmlEscaped(), type == nullptr ? code : Titles::of(*type));
   QStringList functions;
   for (const Aspect aspect : {Aspect::EdgeColor, Aspect::EdgeWidth, Aspect::NodeColor})
     functions.append(m_plot.settings().functions[aspect].name);
@@ -174,7 +175,7 @@ QString NetPicker::toolTipFor(NetGeometry::Item item) const {
       continue;
     const DisplayUnits::Shown display = DisplayUnits::of(attribute);
     text += QStringLiteral("<br />%1: %2")
-                .arg((attribute == nullptr ? property : attribute->longName).toHtmlEscaped(),
+                .arg((attribute == nullptr ? property : Titles::of(*attribute)).toHtmlEscaped(),
                      LabelContents::formatted(display.toDisplay(number), display.unit));
   }
   return text;

@@ -6,6 +6,7 @@
 #include <base/nivramsg.h>
 #include <model/elementstate.h>
 #include <model/elementtypes.h>
+#include <model/titles.h>
 #include <model/topology.h>
 
 #include <QMenu>
@@ -42,7 +43,7 @@ QStringList firstOf(const Selection &selection, int count) {
 /// The element's name and what it is.
 QString withType(const element &e) {
   const ElementType *type = ElementTypes::byCode(e.value(QStringLiteral("type")));
-  return menuText(e.value(QStringLiteral("name")) + QLatin1Char('\t') + (type == nullptr ? QString() : type->longName));
+  return menuText(e.value(QStringLiteral("name")) + QLatin1Char('\t') + (type == nullptr ? QString() : Titles::of(*type)));
 }
 
 /// Types whose elements a subnet offers by name: machines, regulators and whatever a network calls "m".
@@ -215,9 +216,9 @@ void PlotMenu::addOffer(QMenu &entries, const Offer &offer, NamesSignal signal, 
     return addNote(entries, otherwise);
   for (const auto &[type, kind] : offer.kinds) {
     const ElementType *known = ElementTypes::byCode(type);
-    const QString plural = known == nullptr ? type : known->plural;
-    add(tr("ALL of") + QLatin1Char(' ') + plural, kind.all);
-    add(tr("ALL active of") + QLatin1Char(' ') + plural, kind.active);
+    const QString plural = known == nullptr ? type : Titles::ofSeveral(*known);
+    add(tr("ALL of %1").arg(plural), kind.all);
+    add(tr("ALL active of %1").arg(plural), kind.active);
   }
   entries.addSeparator();
   for (const QString &name : offer.names.mid(0, MaximumEntries))

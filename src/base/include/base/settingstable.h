@@ -27,6 +27,7 @@ inline constexpr Row Rows[] = {
     {"start with last scenario", "off", "list", "general", "on,off", Acts},
     {"auto-save PE and CHAR widget list", "on", "list", "general", "on,off", Acts},
     {"use comma", "1", "bool", "general", "", Acts},
+    {"language", "desktop", "list", "general", "desktop,en,de", Acts},
     {"zoom to element", "0", "bool", "zooming", "", Acts},
     {"perform pixtest", "1", "bool", "zooming", "", Acts},
     {"pixtest delay", "100", "string", "zooming", "", Acts},

@@ -4,6 +4,7 @@
 #include <model/names.h>
 #include <model/netdata.h>
 
+#include <QCoreApplication>
 #include <QMap>
 #include <QSet>
 #include <QStringList>
@@ -34,7 +35,7 @@ public:
   /// Whether a layer may have the name: no line breaks, semicolons or quotes.
   static bool isAllowed(const QString &name);
   /// The name of the choice "a new layer", which no layer can have.
-  static QString newLayer() { return QStringLiteral("<new layer>"); }
+  static QString newLayer() { return QCoreApplication::translate("Layers", "<new layer>"); }
 
 private:
   NetData &m_net;

@@ -66,6 +66,8 @@ private:
   bool isPropertyMode() const;
   void listSomethingElse();
   QStringList headers() const;
+  QStringList titles() const;
+  QStringList withCategory(QStringList texts) const;
   void showRows(std::vector<VectorRows::Row> rows, int sortedBy);
   void sortNumerically(std::vector<VectorRows::Row> rows);
   void showCount();

@@ -6,6 +6,7 @@
 #include <model/netmetadata.h>
 #include <model/subnetstate.h>
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QTextDocumentFragment>
 
@@ -98,7 +99,8 @@ LabelContents::Type LabelContents::typeOf(const LabelRow &row) const {
   QString contents = row[LabelRow::Contents];
   if (contents.size() > LongestContents) {
     tell(m_told, Finding::Severity::Warning,
-         QStringLiteral("The label contents of \"%1\" have %2 characters; those beyond the first %3 are left out")
+         QCoreApplication::translate(
+             "LabelContents", "The label contents of \"%1\" have %2 characters; those beyond the first %3 are left out")
              .arg(row[LabelRow::Short])
              .arg(contents.size())
              .arg(LongestContents));
@@ -132,8 +134,9 @@ std::shared_ptr<Formula> LabelContents::formulaOf(const QString &text) const {
   try {
     return std::make_shared<Formula>(text, m_net, Formula::Bare::OfCurrent);
   } catch (const FormulaError &error) {
-    tell(m_told, Finding::Severity::Warning,
-         QStringLiteral("The label formula \"%1\" cannot be used: %2").arg(text, error.text()));
+    tell(
+        m_told, Finding::Severity::Warning,
+        QCoreApplication::translate("LabelContents", "The label formula \"%1\" cannot be used: %2").arg(text, error.text()));
     return nullptr;
   }
 }

@@ -2,6 +2,7 @@
 #include <drawing/legendcontents.h>
 #include <drawing/scaleticks.h>
 #include <model/elementtypes.h>
+#include <model/titles.h>
 
 #include <QCoreApplication>
 
@@ -115,6 +116,6 @@ void LegendContents::addSymbols(const NetGeometry &geometry) {
   for (const char type : std::string_view("crgwkfvsd")) { // as they cover one another in the drawing
     const ElementType *known = ElementTypes::byCode(QString(QLatin1Char(type)));
     if (types.test(static_cast<unsigned char>(type)) && known != nullptr)
-      symbols.push_back({known->longName, type});
+      symbols.push_back({Titles::of(*known), type});
   }
 }

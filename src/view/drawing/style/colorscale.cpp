@@ -78,14 +78,19 @@ std::unique_ptr<QwtColorMap> ColorScale::nodeColors(const PlotSettings &settings
 }
 
 QString ColorScale::legendText(const PlotSettings &settings, const DrawValues *values, Subject subject) {
+  const auto color = [](const QString &shown) {
+    return QCoreApplication::translate("ColorScale", "Color: %1").arg(shown);
+  };
   if (subject == Subject::SearchResults)
-    return QStringLiteral("Color: ") + QCoreApplication::translate("ColorScale", "search results");
+    return color(QCoreApplication::translate("ColorScale", "search results"));
   QStringList lines;
   for (const Aspect aspect : {Aspect::EdgeColor, Aspect::EdgeWidth}) {
     const PlotSettings::Function &function = settings.functions[aspect];
-    if (values == nullptr || values->of(aspect).isAny())
-      lines.append((isColor(aspect) ? QStringLiteral("Color: ") : QStringLiteral("Width: ")) +
-                   (function.isAbsolute ? QStringLiteral("abs. ") : QString()) + function.name);
+    if (values != nullptr && !values->of(aspect).isAny())
+      continue;
+    const QString shown =
+        function.isAbsolute ? QCoreApplication::translate("ColorScale", "abs. %1").arg(function.name) : function.name;
+    lines.append(isColor(aspect) ? color(shown) : QCoreApplication::translate("ColorScale", "Width: %1").arg(shown));
   }
   return lines.join(QLatin1Char('\n'));
 }

@@ -2,6 +2,7 @@
 #include <drawing/drawfunctions.h>
 #include <model/displayunits.h>
 #include <model/netmetadata.h>
+#include <model/titles.h>
 
 #include <QSet>
 
@@ -181,7 +182,7 @@ DrawFunction DrawFunction::find(const QString &function, const NetData &net) {
   const NetMetaData::Attribute *attribute = metaData->anyAttribute(name);
   if (attribute == nullptr)
     return found;
-  found.title = attribute->longName;
+  found.title = Titles::of(*attribute);
   const DisplayUnits::Shown display = DisplayUnits::of(*attribute);
   found.toDisplay = display.toDisplay;
   found.unit = display.unit;

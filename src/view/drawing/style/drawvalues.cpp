@@ -41,8 +41,8 @@ QwtInterval centred(const QwtInterval &range) {
 /// Where open bounds lie: outliers, of which there are 2 % at either end, are left out. The whole data where next to nothing
 /// would be left between the bounds.
 QwtInterval withoutOutliers(const std::vector<double> &values, const QwtInterval &data, const Units::Linear &toTable) {
-  constexpr std::size_t Share = 50;          // one in so many
-  constexpr std::size_t MostAsked = 200'000; // tell as much as a million
+  constexpr std::size_t Share = 50;         // one in so many
+  constexpr std::size_t MostAsked = 200000; // tell as much as a million
   std::vector<double> known;
   const std::size_t step = values.size() / MostAsked + 1;
   known.reserve(values.size() / step + 1);

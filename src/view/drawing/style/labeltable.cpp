@@ -4,6 +4,7 @@
 #include <model/elementtypes.h>
 #include <model/netdata.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QTextStream>
 
@@ -84,7 +85,7 @@ public:
       m_refused.push_back({Finding::Severity::Warning,
                            m_path,
                            m_number,
-                           QStringLiteral("A cell of %1 characters is left out; it may have %2")
+                           QCoreApplication::translate("LabelTable", "A cell of %1 characters is left out; it may have %2")
                                .arg(line.size())
                                .arg(LabelTableFile::LongestCell),
                            {}});
@@ -151,7 +152,7 @@ bool skipMasters(Lines &lines, const LabelRow &type) {
 
 /// Reading stops where the file ends before its time.
 Finding endedIn(const QString &what, const QString &path) {
-  return warning(QStringLiteral("EOF while reading %1 in file ").arg(what) + path + QStringLiteral("! Stopped!"));
+  return warning(QCoreApplication::translate("LabelTable", "EOF while reading %1 in file %2! Stopped!").arg(what, path));
 }
 
 void readTemplates(Lines &lines, const QString &path, LabelTable &table, LabelTableFile::Reading &reading) {
@@ -166,8 +167,9 @@ void readTemplates(Lines &lines, const QString &path, LabelTable &table, LabelTa
       break;
     if (!hasCells || !lines.next(row.icon)) {
       ++reading.leftOut;
-      reading.findings.push_back(
-          endedIn(hasCells ? QStringLiteral("template icon data") : QStringLiteral("template"), path));
+      reading.findings.push_back(endedIn(hasCells ? QCoreApplication::translate("LabelTable", "template icon data")
+                                                  : QCoreApplication::translate("LabelTable", "template"),
+                                         path));
       return;
     }
     table.templates.push_back(row);
@@ -177,13 +179,15 @@ void readTemplates(Lines &lines, const QString &path, LabelTable &table, LabelTa
     return;
   ++reading.leftOut;
   reading.findings.push_back(
-      warning(QStringLiteral("%1: templates beyond the first %2 are left out").arg(path).arg(MostTemplates)));
+      warning(QCoreApplication::translate("LabelTable", "%1: templates beyond the first %2 are left out")
+                  .arg(path)
+                  .arg(MostTemplates)));
 }
 
 /// Reads the rows of the types, then the templates.
 void readRows(Lines &lines, bool ignoresMasters, const QString &path, LabelTable &table, LabelTableFile::Reading &reading) {
   if (!skip(lines, LabelRow::Columns)) {
-    reading.findings.push_back(endedIn(QStringLiteral("header"), path));
+    reading.findings.push_back(endedIn(QCoreApplication::translate("LabelTable", "header"), path));
     return;
   }
   for (LabelRow &type : table.types) {
@@ -193,7 +197,7 @@ void readRows(Lines &lines, bool ignoresMasters, const QString &path, LabelTable
     LabelRow row = type; // half a row counts for nothing
     if (!readCells(lines, row)) {
       reading.leftOut += isThere ? 1 : 0;
-      reading.findings.push_back(endedIn(QStringLiteral("type data"), path));
+      reading.findings.push_back(endedIn(QCoreApplication::translate("LabelTable", "type data"), path));
       return;
     }
     type = row;
@@ -222,7 +226,8 @@ LabelTableFile::Reading LabelTableFile::read(const QString &path, LabelTable &ta
   QString reason;
   const std::optional<QByteArray> content = FileAccess::readWhole(path, source, FileAccess::LargestConfiguration, &reason);
   if (!content) {
-    reading.findings = {warning(QStringLiteral("### Could not open settings file ") + path), warning(reason)};
+    reading.findings = {warning(QCoreApplication::translate("LabelTable", "### Could not open settings file %1").arg(path)),
+                        warning(reason)};
     return reading;
   }
   const FileStamp stamp = reading.stamp;
@@ -241,14 +246,15 @@ LabelTableFile::Reading LabelTableFile::readText(const QByteArray &text, const Q
   Lines lines(TextDecoding::decoded(text, path, told), path);
   QString fileVersion;
   if (!lines.next(fileVersion)) {
-    reading.findings.push_back(endedIn(QStringLiteral("version (first line)"), path));
+    reading.findings.push_back(endedIn(QCoreApplication::translate("LabelTable", "version (first line)"), path));
     return reading;
   }
   const bool ignoresMasters = fileVersion != version();
   if (ignoresMasters)
-    reading.findings.push_back(
-        information(QStringLiteral("Version of vfd file: ") + fileVersion +
-                    QStringLiteral(", entries for masters are ignored.\nPlease perform apply and save")));
+    reading.findings.push_back(information(
+        QCoreApplication::translate("LabelTable", "Version of vfd file: %1, entries for masters are ignored.\nPlease "
+                                                  "perform apply and save")
+            .arg(fileVersion)));
   readRows(lines, ignoresMasters, path, table, reading);
   reading.leftOut += static_cast<int>(lines.refused().size());
   reading.findings.insert(reading.findings.begin() + 1, lines.refused().begin(), lines.refused().end());

@@ -2,6 +2,7 @@
 
 #include <drawing/figures.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFontMetricsF>
 
@@ -68,8 +69,11 @@ QImage Figures::load(const QString &file, Findings &findings) {
   QString error;
   QImage picture = PictureFile::readImage(path, &error);
   if (picture.isNull())
-    findings.push_back(
-        {Finding::Severity::Warning, {}, 0, QStringLiteral("Could not read figure.file %1: %2").arg(path, error), {}});
+    findings.push_back({Finding::Severity::Warning,
+                        {},
+                        0,
+                        QCoreApplication::translate("Figures", "Could not read figure.file %1: %2").arg(path, error),
+                        {}});
   m_pictures.insert(path, picture);
   return picture;
 }

@@ -3,6 +3,7 @@
 #include <drawing/layergeometry.h>
 #include <drawing/stationsymbols.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFontMetricsF>
 #include <QSvgRenderer>
@@ -37,12 +38,13 @@ std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) {
     auto renderer = std::make_unique<QSvgRenderer>(text);
     if (!text.isEmpty() && renderer->isValid())
       return renderer;
-    m_findings.push_back(
-        {Finding::Severity::Warning,
-         {},
-         0,
-         QStringLiteral("The symbol %1 for \"%2\" cannot be read; the built-in one is taken. %3").arg(own.path, key, error),
-         {}});
+    m_findings.push_back({Finding::Severity::Warning,
+                          {},
+                          0,
+                          QCoreApplication::translate(
+                              "StationSymbols", "The symbol %1 for \"%2\" cannot be read; the built-in one is taken. %3")
+                              .arg(own.path, key, error),
+                          {}});
   }
   const QString path = QStringLiteral(":/iconsNetSymbols/svg TALU/network_symbols/") + key + QStringLiteral(".svg");
   return QFile::exists(path) ? std::make_unique<QSvgRenderer>(path) : nullptr;
