@@ -13,7 +13,7 @@ bool Language::isKnown(const QString &code) {
 
 QString Language::firstKnown(const QStringList &codes) {
   for (const QString &code : codes) {
-    const QString language = code.section(QLatin1Char('-'), 0, 0).section(QLatin1Char('_'), 0, 0).toLower();
+    QString language = code.section(QLatin1Char('-'), 0, 0).section(QLatin1Char('_'), 0, 0).toLower();
     if (isKnown(language))
       return language;
   }
