@@ -74,9 +74,25 @@ QString FunctionChooser::chosen() const {
   return m_table->currentIndex().data(FunctionModel::FunctionRole).toString();
 }
 
+/// The row whose name is what was typed, else the first that begins so; -1 for none.
+int FunctionChooser::bestRow(const QString &words) const {
+  int beginning = -1;
+  for (int row = 0; row < m_filtered.rowCount() && !words.isEmpty(); ++row) {
+    const QString name = m_filtered.index(row, 0).data(FunctionModel::FunctionRole).toString();
+    if (name.compare(words, Qt::CaseInsensitive) == 0)
+      return row;
+    if (beginning < 0 && name.startsWith(words, Qt::CaseInsensitive))
+      beginning = row;
+  }
+  return beginning;
+}
+
 void FunctionChooser::filter(const QString &words) {
   m_filtered.setFilterFixedString(words.trimmed());
-  if (!m_table->currentIndex().isValid())
+  const int best = bestRow(words.trimmed());
+  if (best >= 0)
+    m_table->setCurrentIndex(m_filtered.index(best, 0));
+  else if (!m_table->currentIndex().isValid())
     m_table->setCurrentIndex(m_filtered.index(0, 0));
   m_accept->setEnabled(!chosen().isEmpty());
 }

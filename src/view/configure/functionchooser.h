@@ -28,6 +28,7 @@ protected:
 
 private:
   void arrange();
+  int bestRow(const QString &words) const;
   void filter(const QString &words);
 
   FunctionModel m_model;

@@ -36,6 +36,11 @@ StyleHistory::StyleHistory(NetPlot &plot)
   connect(&m_stack, &QUndoStack::indexChanged, this, &StyleHistory::changed);
 }
 
+/// A stack that goes with steps in it tells of them.
+StyleHistory::~StyleHistory() {
+  m_stack.disconnect(this);
+}
+
 void StyleHistory::reset() {
   m_stack.clear();
   m_now = {m_plot.appliedStyle(), QString()};

@@ -12,6 +12,7 @@ class StyleHistory : public QObject {
   Q_OBJECT
 public:
   explicit StyleHistory(NetPlot &plot);
+  ~StyleHistory() override;
 
   /// A way to draw, and the name of the style that it is.
   struct Step {
