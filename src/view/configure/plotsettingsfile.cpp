@@ -134,6 +134,8 @@ void visitDrawing(Settings &s, Visitor &v) {
   v.optional("colorClasses", s.colorClasses);
   v.optional("classMethod", s.classMethod);
   v.optional("classBreaks", s.classBreaks);
+  v.optional("classColors", s.classColors);
+  v.optional("classLabels", s.classLabels);
   visitTypedBounds(s, v);
   v.optional("showGrid", s.showGrid);
   v.optional("quantileBounds", s.quantileBounds);

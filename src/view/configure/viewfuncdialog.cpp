@@ -1,5 +1,6 @@
 #include "canvas/legendplace.h"
 #include "configure/breaktexts.h"
+#include "configure/classdialog.h"
 #include "configure/colorbutton.h"
 #include "configure/functionspage.h"
 #include "configure/labeltableeditor.h"
@@ -115,6 +116,7 @@ void viewFuncDialog::fillChoices() {
   m_ui->classMethod->addItem(tr("none, a smooth scale"), QString());
   m_ui->classMethod->addItem(tr("equal intervals"), PlotSettings::equalClasses());
   m_ui->classMethod->addItem(tr("as many elements in each"), PlotSettings::quantileClasses());
+  m_ui->classMethod->addItem(tr("natural breaks"), PlotSettings::naturalClasses());
   m_ui->classMethod->addItem(tr("breaks of your own"), PlotSettings::ownClasses());
   m_ui->colorScalePos->addItems({tr("not shown"), tr("at the top"), tr("on the right")});
   m_ui->legendPos->addItem(tr("not shown"));
@@ -141,6 +143,7 @@ void viewFuncDialog::bindScale() {
   m_fields->bind(*ui->lightness, &S::lightness);
   m_fields->bind(*ui->logFactor, &S::logFactor);
   bindBreaks();
+  bindClassLooks();
   m_fields->bind(*ui->quantileBounds, &S::quantileBounds);
   bindLegend();
   m_fields->bind<QString>(
@@ -184,6 +187,36 @@ void viewFuncDialog::bindBreaks() {
         return BreakTexts::inTable(m_ui->classBreaks->text().trimmed(),
                                    chosen.property == m_breakFunction.property ? m_breakFunction : chosen, m_breakSign);
       });
+}
+
+void viewFuncDialog::bindClassLooks() {
+  using S = PlotSettings;
+  m_fields->bind<QString>(
+      &S::classColors, [this](const S &s) { m_classColors = s.classColors; }, [this] { return m_classColors; });
+  m_fields->bind<QString>(
+      &S::classLabels, [this](const S &s) { m_classLabels = s.classLabels; }, [this] { return m_classLabels; });
+}
+
+void viewFuncDialog::on_editClasses_clicked() {
+  const NetData *net = m_plot.update().netData();
+  DrawnStyle style = m_plot.appliedStyle();
+  if (net == nullptr || !m_functions->readTouched(style.settings))
+    return;
+  m_fields->readTouched(style.settings);
+  const PlotSettings::Function &function = style.settings.functions[Aspect::EdgeColor];
+  ClassDialog dialog(style.settings,
+                     DrawValues::readOne(*net, m_plot.update().geometry(), style.settings, Aspect::EdgeColor, function.name),
+                     this);
+  if (dialog.exec() != QDialog::Accepted)
+    return;
+  const PlotSettings chosen = dialog.settings();
+  m_classColors = chosen.classColors;
+  m_classLabels = chosen.classLabels;
+  m_ui->classMethod->setCurrentIndex(
+      std::max(0, m_ui->classMethod->findData(chosen.colorClasses > 1 ? chosen.classMethod : QString())));
+  m_ui->colorClasses->setValue(std::max(2, chosen.colorClasses));
+  showBreaks(chosen.classBreaks);
+  m_preview->touch();
 }
 
 void viewFuncDialog::showBreaks(const QString &inTable) {

@@ -34,15 +34,16 @@ QString resultOf(const QString &quantity, const NetData &net, const DrawFunction
 
 const std::vector<BuiltInStyles::Style> &BuiltInStyles::all() {
   static const std::vector<const char *> ByDiameter{"diameter"};
+  static constexpr const char *LoadColors = "#7db3d3;#2f6fb5;#e9a93a;#dd5f1c;#c4143c"; // calm up to where it becomes tight
   static const std::vector<Style> styles{
-      {"pressure", QT_TR_NOOP("Pressure"), "plasma", "pressure", {"p", "pin", "pout"}, ByDiameter, "", false},
-      {"flow", QT_TR_NOOP("Flow"), "viridis", "norm volume flow", {"q", "m"}, {"q", "m"}, "", true},
-      {"velocity", QT_TR_NOOP("Velocity"), "viridis", "velocity", {"v"}, ByDiameter, "", true},
-      {"load", QT_TR_NOOP("Load"), "plasma", "", {"load"}, ByDiameter, "50;75;90;100", true},
-      {"diameter", QT_TR_NOOP("Diameter"), "cividis", "diameter", {"diameter"}, ByDiameter, "", true},
-      {"temperature", QT_TR_NOOP("Temperature"), "plasma", "temperature", {"t", "tin", "tout"}, ByDiameter, "", false},
-      {"height", QT_TR_NOOP("Height"), "batlow", "height", {"height"}, ByDiameter, "", false},
-      {"power", QT_TR_NOOP("Machine power"), "plasma", "", {"power"}, ByDiameter, "", true}};
+      {"pressure", QT_TR_NOOP("Pressure"), "plasma", "pressure", {"p", "pin", "pout"}, ByDiameter, "", "", false},
+      {"flow", QT_TR_NOOP("Flow"), "viridis", "norm volume flow", {"q", "m"}, {"q", "m"}, "", "", true},
+      {"velocity", QT_TR_NOOP("Velocity"), "viridis", "velocity", {"v"}, ByDiameter, "", "", true},
+      {"load", QT_TR_NOOP("Load"), "plasma", "", {"load"}, ByDiameter, "50;75;90;100", LoadColors, true},
+      {"diameter", QT_TR_NOOP("Diameter"), "cividis", "diameter", {"diameter"}, ByDiameter, "", "", true},
+      {"temperature", QT_TR_NOOP("Temperature"), "plasma", "temperature", {"t", "tin", "tout"}, ByDiameter, "", "", false},
+      {"height", QT_TR_NOOP("Height"), "batlow", "height", {"height"}, ByDiameter, "", "", false},
+      {"power", QT_TR_NOOP("Machine power"), "plasma", "", {"power"}, ByDiameter, "", "", true}};
   return styles;
 }
 
@@ -55,10 +56,10 @@ const BuiltInStyles::Style *BuiltInStyles::find(const QString &name) {
 }
 
 QString BuiltInStyles::propertyOf(const Style &style, const NetData &net, const DrawFunction::OfNetwork &has) {
-  const QString named = firstOf(style.properties, has);
+  QString named = firstOf(style.properties, has);
   if (!named.isEmpty())
     return named;
-  const QString load = DrawFunction::load();
+  QString load = DrawFunction::load();
   if (load == QLatin1String(style.id) && (has.ofEdges.contains(load) || has.ofNodes.contains(load)))
     return load; // which is computed
   return resultOf(QLatin1String(style.quantity), net, has);
@@ -97,6 +98,8 @@ std::optional<PlotSettings> BuiltInStyles::laidOver(const PlotSettings &settings
   if (!breaks.isEmpty()) {
     changed.classMethod = PlotSettings::ownClasses();
     changed.classBreaks = breaks.join(QLatin1Char(';'));
+    changed.classColors = QLatin1String(style.colors);
+    changed.classLabels.clear();
   }
   return changed;
 }

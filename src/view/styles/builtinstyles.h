@@ -20,6 +20,7 @@ public:
     std::vector<const char *> properties; ///< in which networks have it, the best first
     std::vector<const char *> widths;     ///< properties for the width of edges, likewise
     const char *breaks;                   ///< between classes, in the unit of the property table; empty for a smooth scale
+    const char *colors;                   ///< of these classes, see ClassLooks
     bool isAbsolute;
   };
 

@@ -1,5 +1,7 @@
 #include "styles/rampswatch.h"
 
+#include <base/index.h>
+#include <drawing/classlooks.h>
 #include <drawing/colorscale.h>
 #include <drawing/drawvalues.h>
 
@@ -17,6 +19,9 @@ QRgb colorAt(const PlotSettings &settings, const HueColorMap &map, double share)
   if (classes < 2)
     return map.ramp().color(share);
   const int own = std::min(classes - 1, static_cast<int>(share * classes));
+  const std::vector<QColor> colors = ClassLooks::colors(settings.classColors);
+  if (fromQt(own) < colors.size() && colors[fromQt(own)].isValid())
+    return colors[fromQt(own)].rgb();
   return map.ramp().color(static_cast<double>(own) / (classes - 1));
 }
 

@@ -37,7 +37,7 @@ QString functionText(Aspect aspect, const S::Function &before, const S::Function
 }
 
 auto classes(const S &s) {
-  return std::tie(s.colorClasses, s.classMethod, s.classBreaks);
+  return std::tie(s.colorClasses, s.classMethod, s.classBreaks, s.classColors, s.classLabels);
 }
 
 auto ramp(const S &s) {

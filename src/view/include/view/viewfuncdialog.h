@@ -49,6 +49,7 @@ public slots:
   void on_apply_clicked();
   void on_applyAndSave_clicked();
   void on_cancel_clicked();
+  void on_editClasses_clicked();
   void on_preview_toggled(bool isWanted);
   void on_load_clicked();
   void on_savedSettings_clicked();
@@ -81,6 +82,7 @@ private:
   void fillChoices();
   void bindScale();
   void bindBreaks();
+  void bindClassLooks();
   void showBreaks(const QString &inTable);
   void bindLegend();
   void bindSizes();
@@ -91,6 +93,8 @@ private:
   std::unique_ptr<SettingFields> m_fields;
   FunctionsPage *m_functions;
   LabelTableEditor *m_labels;
+  QString m_classColors; ///< as they were chosen, as are the labels
+  QString m_classLabels;
   StylePreview *m_preview;
   DrawFunction m_breakFunction; ///< in whose unit the breaks between classes are shown
   QChar m_breakSign;            ///< with which decimals they are

@@ -16,11 +16,12 @@ struct FunctionFigures {
   DrawFunction function;
   std::size_t count = 0; ///< of elements that have a number
   QwtInterval range;     ///< of the numbers, in the stored unit; invalid without any
-  /// How many lie in each part of the range; all in the middle where it has no width.
+  /// How many lie in each part of the range, whose outermost 2 % of values are in the first and the last; all in the middle
+  /// where it has no width.
   std::vector<int> bins;
 
   /// A walk over all elements of the aspect.
   /// \param settings that say which property is the flow
   static FunctionFigures of(const QString &function, Aspect aspect, const NetData &net, const NetGeometry &geometry,
-                            const PlotSettings &settings);
+                            PlotSettings settings);
 };
