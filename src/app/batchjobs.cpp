@@ -101,8 +101,10 @@ void BatchJobs::addRuns(const JobsFile::Job &job) {
     return fail(tr("there is no file %1").arg(file));
   m_output.protect(folder);
   for (const BatchTask::Picture &picture : job.task.pictures) {
-    for (const QString &style : picture.styles)
-      m_output.protect(beside(style));
+    for (const QString &style : picture.styles) {
+      if (BatchTask::Picture::isStyleFile(style))
+        m_output.protect(beside(style));
+    }
   }
   if (job.scenarios.isEmpty())
     return addRun(job, file);
@@ -140,7 +142,7 @@ bool BatchJobs::nameOutputs(Run &run, QString *reason) {
   };
   for (BatchTask::Picture &picture : run.task.pictures) {
     for (QString &style : picture.styles)
-      style = beside(style);
+      style = BatchTask::Picture::isStyleFile(style) ? beside(style) : style;
     if (!name(picture.path, pictureSuffixes()))
       return false;
   }

@@ -135,10 +135,16 @@ bool BatchRun::applyStyles(const QStringList &files, QString *reason) {
   const OutsideOfWorkspace outside(m_loader.workspace());
   NetPlot &plot = *m_control.plot();
   for (const QString &file : files) {
-    if (!FileAccess::readWhole(file, FileAccess::Source::Trusted, FileAccess::LargestConfiguration, reason))
+    if (!BatchTask::Picture::isStyleFile(file)) {
+      if (!m_control.styles().use(file, reason))
+        return false;
+      continue;
+    }
+    const auto text = FileAccess::readWhole(file, FileAccess::Source::Trusted, FileAccess::LargestConfiguration, reason);
+    if (!text)
       return false;
     if (file.endsWith(QLatin1String(".ini"), Qt::CaseInsensitive)) {
-      plot.readPlotSettings(file);
+      m_control.styles().layOver(*text, file);
       continue;
     }
     LabelTable labels;

@@ -1,5 +1,6 @@
 #include "batchtask.h"
 
+#include <QFileInfo>
 #include <QHash>
 
 #include <algorithm>
@@ -36,10 +37,18 @@ QString BatchTask::Picture::setExtent(const QVector<double> &corners) {
                                                        : tr("the extent is four numbers, x0,y0,x1,y1, that span an area");
 }
 
+bool BatchTask::Picture::isStyleFile(const QString &style) {
+  return style.endsWith(QLatin1String(".ini"), Qt::CaseInsensitive) ||
+         style.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
+}
+
 QString BatchTask::Picture::addStyle(const QString &file) {
-  if (!file.endsWith(QLatin1String(".ini"), Qt::CaseInsensitive) &&
-      !file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
-    return tr("a style is a file of plot settings (.ini) or a label table (.csv)");
+  constexpr int LongestSuffix = 4; // of other files; what follows a dot in a name is longer or has a blank
+  const QString suffix = QFileInfo(file).suffix();
+  const bool isOfAFile = !suffix.isEmpty() && suffix.size() <= LongestSuffix && !suffix.contains(QLatin1Char(' '));
+  const bool isName = !file.trimmed().isEmpty() && !file.contains(QLatin1Char('/')) && !isOfAFile;
+  if (!isName && !isStyleFile(file))
+    return tr("a style is the name of one, a file of plot settings (.ini) or a label table (.csv)");
   styles.append(file);
   return QString();
 }

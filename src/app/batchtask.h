@@ -29,13 +29,14 @@ struct BatchTask {
     PerAspect<QString> functions{}; ///< in place of those of the plot settings, empty to leave them
     QString labels; ///< label mode of the plot settings, empty to leave it; labels are then placed wherever there is room
     QRectF extent;  ///< what it shows, in the network's coordinates; null for everything
-    QStringList styles; ///< files laid over the plot settings and the label table of the case
+    QStringList styles; ///< files and names of styles, laid over the plot settings and the label table of the case
 
     QString setWidth(double pixels); ///< what is too large is cut
     QString setScale(double factor);
     QString setLabels(const QString &word);            ///< "none", "name" or "selected"
     QString setExtent(const QVector<double> &corners); ///< x0, y0, x1, y1
-    QString addStyle(const QString &file);             ///< ".ini" or ".csv"
+    QString addStyle(const QString &file);             ///< ".ini" or ".csv", or the name of a style
+    static bool isStyleFile(const QString &style);     ///< not a name
   };
 
   /// Elements that a search finds, or properties of elements.

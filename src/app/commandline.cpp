@@ -48,11 +48,11 @@ public:
   QCommandLineOption labels{QStringLiteral("labels"), tr("What labels say."), QStringLiteral("none|name|selected")};
   QCommandLineOption extent{QStringLiteral("extent"), tr("Part of the network to show, in its coordinates."),
                             QStringLiteral("x0,y0,x1,y1")};
-  QCommandLineOption style{
-      QStringLiteral("style"),
-      tr("Plot settings (.ini) or label table (.csv) for the picture in place of those of the case; may "
-         "be given for both."),
-      QStringLiteral("FILE")};
+  QCommandLineOption style{QStringLiteral("style"),
+                           tr("Name of a style, such as velocity, or plot settings (.ini) or a label table (.csv) for the "
+                              "picture, laid over those "
+                              "of the case; may be given several times."),
+                           QStringLiteral("NAME|FILE")};
 
   QList<QCommandLineOption> details() const {
     QList<QCommandLineOption> options{width, scale};

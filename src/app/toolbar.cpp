@@ -34,11 +34,13 @@ ToolBar::ToolBar(NetVisControl &control, QAction *open, QMainWindow &window)
   addField();
   addSeparator();
   addAction(actions[Act::Labels]);
+  addStyleChooser();
   addChooser(Aspect::EdgeColor, tr("Edge colour"));
   addChooser(Aspect::NodeColor, tr("Node colour"));
   addSeparator();
   addActions({actions[Act::SavePicture], actions[Act::CopyPicture]});
   connect(&actions, &PlotActions::functionsInUseChanged, this, &ToolBar::showFunctions);
+  connect(&control.styles(), &StyleActions::inUseChanged, this, &ToolBar::showStyle);
   showFunctions();
 }
 
@@ -75,7 +77,31 @@ void ToolBar::addChooser(Aspect aspect, const QString &title) {
   m_choosers[aspect] = chooser;
 }
 
+void ToolBar::addStyleChooser() {
+  m_styles = new QToolButton(this);
+  m_styles->setIconSize(iconSize());
+  m_styles->setAutoRaise(true);
+  m_styles->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  m_styles->setPopupMode(QToolButton::InstantPopup);
+  m_styles->setFocusPolicy(Qt::TabFocus);
+  m_styles->setMenu(m_control.styles().menu());
+  m_styles->setAccessibleName(tr("Style"));
+  addWidget(m_styles)->setText(tr("Style"));
+}
+
+void ToolBar::showStyle() {
+  constexpr int Letters = 9;
+  const QString style = m_control.styles().inUse();
+  const int width = m_styles->fontMetrics().averageCharWidth() * Letters;
+  m_styles->setEnabled(m_control.plot()->update().netData() != nullptr);
+  m_styles->setIcon(m_control.styles().swatch());
+  m_styles->setText(
+      m_styles->fontMetrics().elidedText(style.isEmpty() ? m_styles->accessibleName() : style, Qt::ElideRight, width));
+  m_styles->setToolTip(style.isEmpty() ? m_control.styles().menu()->toolTip() : tr("Style: %1").arg(style.toHtmlEscaped()));
+}
+
 void ToolBar::showFunctions() {
+  showStyle();
   constexpr int Letters = 13; // of more the end is cut, so that the bar keeps its width
   m_field->setEnabled(m_control.plot()->update().netData() != nullptr);
   for (const Aspect aspect : {Aspect::EdgeColor, Aspect::NodeColor}) {

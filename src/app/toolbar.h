@@ -31,9 +31,12 @@ protected:
 private:
   void addField();
   void addChooser(Aspect aspect, const QString &title);
+  void addStyleChooser();
   void showFunctions();
+  void showStyle();
 
   NetVisControl &m_control;
   ElementField *m_field = nullptr;
+  QToolButton *m_styles = nullptr;
   PerAspect<QToolButton *> m_choosers{};
 };

@@ -114,6 +114,9 @@ QDockWidget *ToolDocks::addDock(QDockWidget *dock, const QString &name, Qt::Dock
 void ToolDocks::fillViewMenu(QMenu &menu) {
   createReports();
   menu.clear();
+  const StyleActions &styles = m_control.styles();
+  menu.addMenu(styles.menu());
+  menu.addActions({styles.undoAction(), styles.redoAction()});
   QList<QAction *> toggles;
   for (const QDockWidget *dock : m_docks)
     toggles.append(dock->toggleViewAction());
@@ -339,6 +342,8 @@ void ToolDocks::showHelp(const QString &page) {
 void ToolDocks::createDraw() {
   m_draw = new viewFuncDialog(*m_control.plot());
   connect(&m_control, &NetVisControl::styleChanged, m_draw, &viewFuncDialog::refreshUntouched);
+  connect(m_draw, &viewFuncDialog::applied, &m_control.styles(), &StyleActions::record);
+  m_draw->setStyleMenu(m_control.styles().menu());
   connect(m_draw, &viewFuncDialog::filesTaken, &m_control, &NetVisControl::noteStyleFiles);
   auto *dock = new QDockWidget(m_draw->windowTitle(), &m_window);
   dock->setWidget(m_draw);

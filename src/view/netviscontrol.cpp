@@ -27,6 +27,7 @@ NetVisControl::NetVisControl(NetData &net, const QString &name, Told told, QObje
     , m_measure(new MeasureTool(*m_plot, m_plot))
     , m_actions(
           std::make_unique<PlotActions>(PlotActions::Subject{*m_plot, *m_picker, net, m_bookmarks, *m_modes, *m_measure}))
+    , m_styles(std::make_unique<StyleActions>(*m_plot, [this]() -> decltype(auto) { return m_actions->ofNetwork(); }))
     , m_menu(std::make_unique<PlotMenu>(*m_plot, *m_picker, net, *m_actions))
     , m_drawing(OncePerTurn::Stage::Draw, [this] { draw(); }) {
   m_plot->setShowsSubnet(!name.isEmpty());
@@ -49,6 +50,8 @@ NetVisControl::NetVisControl(NetData &net, const QString &name, Told told, QObje
 
 void NetVisControl::connectActions() {
   const PlotActions *actions = m_actions.get();
+  connect(actions, &PlotActions::settingsChosen, m_styles.get(), &StyleActions::record);
+  connect(m_styles.get(), &StyleActions::changed, this, &NetVisControl::styleChanged);
   connect(actions, &PlotActions::showRequested, this, &NetVisControl::showElement);
   connect(actions, &PlotActions::infoRequested, this,
           [this](const QString &wanted) { emit elementAction(wanted, NetPicker::EleAction::ShowInfo); });
@@ -87,6 +90,7 @@ NetVisControl::~NetVisControl() {
 
 void NetVisControl::clear() {
   m_drawing.cancel();
+  m_plot->endPreview();
   m_currentElement.clear();
   m_picker->reset();
   m_plot->selection().setGeometry(nullptr);
@@ -127,25 +131,27 @@ void NetVisControl::showNetData(const QString &plotSettingsPath) {
   m_plot->update().setFolder(folder, m_subnetIcons);
   m_plot->update().setLabelTable(labels);
   m_plot->showNetwork();
+  m_styles->reset();
   m_actions->refreshSeen();
 }
 
 NetVisControl::OwnStyle NetVisControl::ownStyle() const {
   OwnStyle style;
-  if (m_plot->settings() != m_settingsOfFiles)
-    style.settings = PlotSettingsFile::text(m_plot->settings()).value_or(QByteArray());
-  if (m_plot->update().labelTable() != m_labelsOfFiles)
-    style.labels = LabelTableFile::text(m_plot->update().labelTable());
+  const DrawnStyle drawn = m_plot->appliedStyle();
+  if (drawn.settings != m_settingsOfFiles)
+    style.settings = PlotSettingsFile::text(drawn.settings).value_or(QByteArray());
+  if (drawn.labels != m_labelsOfFiles)
+    style.labels = LabelTableFile::text(drawn.labels);
   return style;
 }
 
 void NetVisControl::noteStyleFiles(bool settings, bool labels) {
   if (settings) {
-    m_settingsOfFiles = m_plot->settings();
+    m_settingsOfFiles = m_plot->appliedSettings();
     m_styleFiles.settings = FileStamp::of(m_settingsPath);
   }
   if (labels) {
-    m_labelsOfFiles = m_plot->update().labelTable();
+    m_labelsOfFiles = m_plot->appliedStyle().labels;
     m_styleFiles.labels = FileStamp::of(QFileInfo(m_settingsPath).path() + QStringLiteral("/vfd.csv"));
   }
   emit styleFilesNoted();
@@ -154,21 +160,15 @@ void NetVisControl::noteStyleFiles(bool settings, bool labels) {
 void NetVisControl::setOwnStyle(const OwnStyle &style) {
   if (style.isEmpty())
     return;
-  PlotSettings settings = m_plot->settings();
-  const bool fixedRatio = settings.fixAxesRatio;
+  DrawnStyle drawn = m_plot->appliedStyle();
   if (!style.settings.isEmpty())
-    PlotSettingsFile::readText(style.settings, m_settingsPath, settings, m_plot->told());
-  m_plot->setSettings(settings);
-  LabelTable labels;
+    PlotSettingsFile::readText(style.settings, m_settingsPath, drawn.settings, m_plot->told());
   if (!style.labels.isEmpty()) {
-    LabelTableFile::readText(style.labels, m_settingsPath, labels);
-    m_plot->update().setLabelTable(labels);
+    drawn.labels = LabelTable();
+    LabelTableFile::readText(style.labels, m_settingsPath, drawn.labels);
   }
-  m_plot->update().updatePlot(style.labels.isEmpty() ? NetUpdate::Elements::Kept : NetUpdate::Elements::Renewed,
-                              NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
-  if (fixedRatio != m_plot->settings().fixAxesRatio)
-    m_plot->zoomer()->fitBase();
-  m_plot->update().requestPixtest(-1);
+  m_plot->setStyle(drawn);
+  m_styles->reset();
   emit styleChanged();
 }
 

@@ -129,6 +129,8 @@ void TestBatch::refusals_data() {
   row("--style a.ini --info", 2, "--export");
   row("--export a.png --style a.txt", 2, ".ini");
   row("--export a.png --style nowhere.ini", 1, "nowhere.ini");
+  row("--export a.png --style nosuch", 1, "nosuch");
+  row("--export a.png --style power", 1, "power");
   row("--jobs a.json", 2, "--jobs");
   QTest::newRow("onto what is read") << QStringList{QStringLiteral("--table"), QStringLiteral("p"),
                                                     QStringLiteral("--output"), file, file}
@@ -201,6 +203,13 @@ void TestBatch::styleChangesThePicture() {
   };
   QVERIFY(share(plain, qRgb(0x10, 0x20, 0x30)) < 0.01);
   QVERIFY(share(dark, qRgb(0x10, 0x20, 0x30)) > 0.3);
+  SmallFiles::write(settings, "[drawing]\nlegend=false\n"); // one key changes one thing: the colours stay
+  const QImage bare = picture({QStringLiteral("--style"), settings});
+  const QImage pressure =
+      picture({QStringLiteral("--style"), settings, QStringLiteral("--style"), QStringLiteral("pressure")});
+  QVERIFY(bare != plain && !bare.isNull());
+  QCOMPARE(bare, pressure); // by which the case is drawn anyway
+  QVERIFY(picture({QStringLiteral("--style"), settings, QStringLiteral("--style"), QStringLiteral("Flow")}) != bare);
   QVERIFY(!picture({QStringLiteral("-style"), QStringLiteral("fusion")}).isNull()); // that of the toolkit
 }
 

@@ -10,8 +10,11 @@
 #include <support/answers.h>
 #include <support/nivratest.h>
 #include <support/smallfiles.h>
+#include <view/plotactions.h>
+#include <view/styleactions.h>
 #include <view/viewfuncdialog.h>
 
+#include <QAction>
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
@@ -21,6 +24,8 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSignalSpy>
+#include <QSpinBox>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
@@ -55,6 +60,10 @@ private slots:
   void oneEditorACell_data();
   void oneEditorACell();
   void pagesFitTheNarrowestDialog();
+  void previewShowsWithoutApplying();
+  void previewPausesBetweenDrawings();
+  void previewTakesNoNonsense();
+  void othersChangeDuringAPreview();
 
 private:
   template <typename T>
@@ -663,6 +672,110 @@ void TestViewFuncDialog::pagesFitTheNarrowestDialog() {
     for (const QScrollArea *page : tabs->currentWidget()->findChildren<QScrollArea *>())
       QVERIFY2(page->horizontalScrollBar()->maximum() == 0, qPrintable(page->objectName()));
   }
+}
+
+void TestViewFuncDialog::previewShowsWithoutApplying() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  f.control.noteStyleFiles(true, true);
+  viewFuncDialog dialog(f.plot());
+  QSignalSpy applied(&dialog, &viewFuncDialog::applied);
+  dialog.show();
+  const QImage before = f.picture();
+  const auto *size = child<QSpinBox>(dialog, "nodeMag");
+  const auto isPreviewed = [&f] {
+    return f.plot().isPreview();
+  };
+  child<QComboBox>(*row(dialog, 0), "function")->setCurrentText(QStringLiteral("pipe diameter"));
+  child<QSpinBox>(dialog, "nodeMag")->setValue(size->value() + 6);
+  QVERIFY(!isPreviewed()); // not at once
+  QTRY_VERIFY(isPreviewed());
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].name, QStringLiteral("pipe diameter"));
+  QCOMPARE(f.plot().appliedSettings().functions[Aspect::EdgeColor].name, QStringLiteral("p"));
+  QVERIFY(f.picture() != before && f.control.ownStyle().isEmpty()); // nothing of it is kept
+  press(dialog, "cancel");
+  QVERIFY(!isPreviewed() && !dialog.hasUnapplied());
+  QCOMPARE(f.picture(), before);
+
+  auto *labels = child<QTableView>(dialog, "labelTable");
+  setContents(*labels, QStringLiteral("@x"));
+  QTRY_VERIFY(isPreviewed());
+  dialog.hide(); // what is typed stays, what is shown does not
+  QVERIFY(!isPreviewed() && dialog.hasUnapplied());
+  QCOMPARE(f.picture(), before);
+  dialog.show();
+  QTRY_VERIFY(isPreviewed());
+  child<QCheckBox>(dialog, "preview")->setChecked(false);
+  QVERIFY(!isPreviewed() && dialog.hasUnapplied());
+  child<QCheckBox>(dialog, "preview")->setChecked(true);
+  QTRY_VERIFY(isPreviewed());
+  QVERIFY(applied.isEmpty());
+  press(dialog, "apply");
+  QVERIFY(!isPreviewed() && !dialog.hasUnapplied() && !f.control.ownStyle().isEmpty());
+  QCOMPARE(applied.count(), 1);
+}
+
+void TestViewFuncDialog::previewPausesBetweenDrawings() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  dialog.show();
+  QSignalSpy drawn(&f.plot(), &NetPlot::settingsChanged);
+  for (int i = 0; i < 20; ++i) {
+    child<QDoubleSpinBox>(dialog, "edgeMag")->setValue(1.0 + 0.1 * i);
+    QTest::qWait(10);
+  }
+  QCOMPARE(drawn.count(), 0);
+  QTRY_COMPARE(drawn.count(), 1);
+  constexpr int LongerThanAPause = 600; // ms
+  QTest::qWait(LongerThanAPause);
+  QCOMPARE(drawn.count(), 1);
+}
+
+void TestViewFuncDialog::previewTakesNoNonsense() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  dialog.show();
+  const Answers none({});               // nobody is asked while something is typed
+  constexpr int LongerThanAPause = 500; // ms
+  child<QLineEdit>(*row(dialog, 0), "minimum")->setText(QStringLiteral("90"));
+  child<QLineEdit>(*row(dialog, 0), "maximum")->setText(QStringLiteral("8"));
+  QTest::qWait(LongerThanAPause);
+  QVERIFY(!f.plot().isPreview() && none.boxes().empty());
+  child<QLineEdit>(*row(dialog, 0), "maximum")->setText(QStringLiteral("8x"));
+  QTest::qWait(LongerThanAPause);
+  QVERIFY(!f.plot().isPreview() && none.boxes().empty());
+  child<QLineEdit>(*row(dialog, 0), "maximum")->setText(QStringLiteral("95"));
+  QTRY_VERIFY(f.plot().isPreview());
+}
+
+/// What somebody chooses elsewhere changes what holds, not the preview, and is one step to come back from.
+void TestViewFuncDialog::othersChangeDuringAPreview() {
+  ViewFixture f;
+  f.plot().show();
+  f.show();
+  f.control.styles().reset();
+  viewFuncDialog dialog(f.plot());
+  connect(&dialog, &viewFuncDialog::applied, &f.control.styles(), &StyleActions::record);
+  dialog.show();
+  const PlotSettings first = f.plot().settings();
+  child<QSpinBox>(dialog, "nodeMag")->setValue(17);
+  setContents(*child<QTableView>(dialog, "labelTable"), QStringLiteral("@x"));
+  QTRY_VERIFY(f.plot().isPreview());
+  f.control.actions()[PlotActions::Command::Labels]->trigger();
+  QVERIFY(f.plot().appliedSettings().nodeMag == first.nodeMag);
+  QVERIFY(f.plot().appliedSettings().label_mode != first.label_mode);
+  QVERIFY(dialog.hasUnapplied());
+  press(dialog, "apply");
+  QCOMPARE(f.plot().settings().nodeMag, 17);
+  f.control.styles().undoAction()->trigger();
+  QVERIFY(f.plot().settings().nodeMag == first.nodeMag && f.plot().settings().label_mode != first.label_mode);
+  f.control.styles().undoAction()->trigger();
+  QVERIFY(f.plot().settings() == first);
 }
 
 NIVRA_TEST(TestViewFuncDialog);

@@ -120,7 +120,7 @@ bool CanvasLegend::eventFilter(QObject *watched, QEvent *event) {
 
 template <typename Change>
 void CanvasLegend::changeSettings(const Change &change) {
-  PlotSettings settings = m_drawing.settings;
+  PlotSettings settings = m_drawing.applied();
   change(settings);
   emit settingsWanted(settings);
 }

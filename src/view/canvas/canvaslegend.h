@@ -29,7 +29,8 @@ public:
     const PlotZoom &zoomer;
     const PlotSettings &settings;
     const NetUpdate &update;
-    std::function<QRectF()> taken; ///< where something else stands on the canvas, px; empty for nowhere
+    std::function<QRectF()> taken;         ///< where something else stands on the canvas, px; empty for nowhere
+    std::function<PlotSettings()> applied; ///< the settings without a preview of others
   };
 
   explicit CanvasLegend(Drawing drawing);

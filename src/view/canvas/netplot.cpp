@@ -17,6 +17,7 @@
 #include <qwt_scale_widget.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -44,8 +45,9 @@ NetPlot::NetPlot(QWidget *parent, Told told)
     , m_update(std::make_unique<NetUpdate>(
           m_settings, [this] { return view(); }, m_told))
     , m_canvasLegend(std::make_unique<CanvasLegend>(CanvasLegend::Drawing{*m_plot, *m_zoomer, m_settings, *m_update,
+                                                                          [this] { return functionLegendArea(); },
                                                                           [this] {
-                                                                            return functionLegendArea();
+                                                                            return appliedSettings();
                                                                           }}))
     , m_smoothZoom(new SmoothZoom(*m_zoomer)) {
   constexpr int SmallestSide = 200;
@@ -125,6 +127,7 @@ void NetPlot::setUpLegend() {
       m_canvasLegend->refresh();
     m_plot->updateOverlay();
     m_update->requestPixtest(0); // labels keep away from the legend
+    emit legendSettingsChosen();
   });
   m_plot->setLeftOut([this](bool isLeftOut) { m_canvasLegend->setIsLeftOut(isLeftOut); });
 }
@@ -244,6 +247,48 @@ bool NetPlot::pansWith(Qt::MouseButton button, Qt::KeyboardModifiers keys) const
 }
 
 void NetPlot::setSettings(const PlotSettings &settings) {
+  if (m_applied && m_applied->labels != m_update->labelTable())
+    draw(*m_applied); // whoever chose settings alone does not renew the labels
+  m_applied.reset();
+  take(settings);
+}
+
+DrawnStyle NetPlot::appliedStyle() const {
+  return m_applied.value_or(DrawnStyle{m_settings, m_update->labelTable()});
+}
+
+void NetPlot::setStyle(const DrawnStyle &style) {
+  m_applied.reset();
+  draw(style);
+}
+
+void NetPlot::preview(const DrawnStyle &style) {
+  const DrawnStyle applied = appliedStyle();
+  if (style == applied)
+    return endPreview();
+  m_applied = applied;
+  if (style != DrawnStyle{m_settings, m_update->labelTable()})
+    draw(style);
+}
+
+void NetPlot::endPreview() {
+  if (const std::optional<DrawnStyle> applied = std::exchange(m_applied, std::nullopt))
+    draw(*applied);
+}
+
+void NetPlot::draw(const DrawnStyle &style) {
+  const bool hasOtherAxes = style.settings.fixAxesRatio != m_settings.fixAxesRatio;
+  const bool rebuilds = style.labels != m_update->labelTable();
+  take(style.settings);
+  m_update->setLabelTable(style.labels);
+  m_update->updatePlot(rebuilds ? NetUpdate::Elements::Renewed : NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes,
+                       NetUpdate::Labels::Renewed);
+  if (hasOtherAxes)
+    m_zoomer->fitBase();
+  m_update->requestPixtest(-1);
+}
+
+void NetPlot::take(const PlotSettings &settings) {
   m_settings = settings;
   m_selection.setGround(m_settings.bgrColor, m_settings.dimsRest);
   applyColors();
@@ -251,7 +296,7 @@ void NetPlot::setSettings(const PlotSettings &settings) {
 }
 
 bool NetPlot::readPlotSettings(const QString &path) {
-  PlotSettings settings = m_settings;
+  PlotSettings settings = appliedSettings();
   const bool found = PlotSettingsFile::read(path, settings, m_told);
   if (found)
     setSettings(settings);
@@ -259,7 +304,7 @@ bool NetPlot::readPlotSettings(const QString &path) {
 }
 
 bool NetPlot::writePlotSettings(const QString &path, QString *error) const {
-  return PlotSettingsFile::write(path, m_settings, error);
+  return PlotSettingsFile::write(path, appliedSettings(), error);
 }
 
 void NetPlot::applyColors() {

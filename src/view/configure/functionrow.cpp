@@ -75,6 +75,7 @@ FunctionRow::FunctionRow(const QString &title, const QString &absoluteTip, UnitO
           [this] { m_ui->minimum->setText(DisplayFormat::editable(inUnit(m_applied.value(m_function)).minimum)); });
   connect(m_ui->resetMaximum, &QPushButton::clicked, this,
           [this] { m_ui->maximum->setText(DisplayFormat::editable(inUnit(m_applied.value(m_function)).maximum)); });
+  connect(m_ui->choose, &QPushButton::clicked, this, &FunctionRow::choiceWanted);
   connect(m_ui->fromData, &QPushButton::clicked, this, &FunctionRow::takeBoundsFromData);
   connect(m_ui->function, &QComboBox::currentTextChanged, this, &FunctionRow::changeFunction);
 }
@@ -88,6 +89,17 @@ void FunctionRow::setChoices(const QStringList &names, const QHash<QString, QStr
   for (const QString &name : names)
     m_ui->function->addItem(name, described.value(name));
   m_ui->function->setCurrentText(chosen);
+}
+
+void FunctionRow::chooseFunction(const QString &name) {
+  m_ui->function->setCurrentText(name);
+}
+
+QStringList FunctionRow::choices() const {
+  QStringList names;
+  for (int i = 0; i < m_ui->function->count(); ++i)
+    names.append(m_ui->function->itemText(i));
+  return names;
 }
 
 void FunctionRow::setFunction(const PlotSettings::Function &function) {

@@ -33,6 +33,9 @@ public:
   /// Shows the function; the "Reset" buttons come back to its bounds.
   void setFunction(const PlotSettings::Function &function);
   PlotSettings::Function function() const;
+  /// Puts another function in its place, as if a person had typed its name.
+  void chooseFunction(const QString &name);
+  QStringList choices() const;
   void takeBoundsFromData();
   /// Shows the bounds, also those that are typed and not applied, in the unit that was chosen since.
   void changeUnit();
@@ -42,6 +45,9 @@ public:
   QString fault() const;
   /// Something to know about the bounds that are applied; it goes once another function is chosen.
   void setNote(const QString &text);
+
+signals:
+  void choiceWanted(); ///< among all functions, with what is known of them
 
 private:
   void changeFunction(const QString &function);

@@ -1,5 +1,7 @@
 #include "configure/functionspage.h"
 
+#include "configure/functionchooser.h"
+
 #include <base/nivramsg.h>
 #include <drawing/drawfunctions.h>
 #include <drawing/drawrange.h>
@@ -29,9 +31,10 @@ void readTouchedFunction(const PlotSettings::Function &shown, const PlotSettings
 
 } // namespace
 
-FunctionsPage::FunctionsPage(const NetUpdate &drawing, QWidget *parent)
+FunctionsPage::FunctionsPage(const NetUpdate &drawing, const PlotSettings &settings, QWidget *parent)
     : QWidget(parent)
-    , m_drawing(drawing) {
+    , m_drawing(drawing)
+    , m_settings(settings) {
   auto *rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
   const PerAspect<QString> titles{{tr("Edge colour"), tr("Edge width"), tr("Node colour"), tr("Node size")}};
@@ -40,6 +43,7 @@ FunctionsPage::FunctionsPage(const NetUpdate &drawing, QWidget *parent)
                                         : tr("if checked:  absolute values used for width");
     m_rows[aspect] = new FunctionRow(
         titles[aspect], tip, [this](const QString &function) { return unitOf(function); }, this);
+    connect(m_rows[aspect], &FunctionRow::choiceWanted, this, [this, aspect] { choose(aspect); });
     rows->addWidget(m_rows[aspect]);
   }
 }
@@ -62,6 +66,15 @@ void FunctionsPage::offerFunctions() {
     }
     m_rows[aspect]->setChoices(functions, described);
   }
+}
+
+void FunctionsPage::choose(Aspect aspect) {
+  if (m_drawing.netData() == nullptr)
+    return;
+  FunctionChooser chooser(m_rows[aspect]->title(), m_drawing, m_settings, aspect, this);
+  chooser.setFunctions(m_rows[aspect]->choices(), m_rows[aspect]->function().name);
+  if (chooser.exec() == QDialog::Accepted)
+    m_rows[aspect]->chooseFunction(chooser.chosen());
 }
 
 FunctionRow::Unit FunctionsPage::unitOf(const QString &function) const {
@@ -135,6 +148,19 @@ bool FunctionsPage::readTouched(PlotSettings &settings) const {
     }
     typed[aspect] = m_rows[aspect]->function();
     if (!askForSoundRange(typed[aspect]))
+      return false;
+  }
+  for (const Aspect aspect : AllAspects)
+    readTouchedFunction(m_shown[aspect], typed[aspect], settings.functions[aspect]);
+  return true;
+}
+
+bool FunctionsPage::readSound(PlotSettings &settings) const {
+  PerAspect<PlotSettings::Function> typed;
+  for (const Aspect aspect : AllAspects) {
+    typed[aspect] = m_rows[aspect]->function();
+    if (!m_rows[aspect]->fault().isEmpty() ||
+        DrawRange::check(typed[aspect].minimum, typed[aspect].maximum) != DrawRange::State::Sound)
       return false;
   }
   for (const Aspect aspect : AllAspects)

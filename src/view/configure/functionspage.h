@@ -14,7 +14,8 @@ class FunctionsPage : public QWidget {
   Q_OBJECT
 public:
   /// \param drawing whose network and values the rows speak of
-  explicit FunctionsPage(const NetUpdate &drawing, QWidget *parent = nullptr);
+  /// \param settings as they are drawn
+  FunctionsPage(const NetUpdate &drawing, const PlotSettings &settings, QWidget *parent = nullptr);
 
   /// Offers the names that every network may have, and behind them the properties of this one.
   void offerFunctions();
@@ -27,11 +28,14 @@ public:
   void changeUnits(const PlotSettings &settings);
   /// The function that is chosen now, applied or not; without a network none.
   std::optional<DrawFunction> chosen(Aspect aspect) const;
+  /// The same without a question; false when the bounds make no range.
+  bool readSound(PlotSettings &settings) const;
   bool isTouched() const;
   /// Takes all bounds of all functions from the data.
   void forgetBounds();
 
 private:
+  void choose(Aspect aspect);
   FunctionRow::Unit unitOf(const QString &function) const;
   void showNotes(const PlotSettings &settings);
   /// Where the values of the data lie, and whether any of them lies between the bounds.
@@ -40,6 +44,7 @@ private:
   static bool askForSoundRange(PlotSettings::Function &function);
 
   const NetUpdate &m_drawing;
+  const PlotSettings &m_settings;
   PerAspect<FunctionRow *> m_rows{};
   PerAspect<PlotSettings::Function> m_shown; ///< what the rows said before anybody touched them
 };

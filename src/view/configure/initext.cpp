@@ -150,6 +150,11 @@ void IniText::merge(const IniText &other) {
   }
 }
 
+void IniText::remove(const QByteArray &key) {
+  m_lines.erase(std::remove_if(m_lines.begin(), m_lines.end(), [&key](const Line &line) { return line.key == key; }),
+                m_lines.end());
+}
+
 QByteArray IniText::toText() const {
   QByteArray text;
   for (const Line &line : m_lines)

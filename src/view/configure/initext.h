@@ -23,6 +23,8 @@ public:
 
   /// Puts every key of the other text in place of its own; keys and groups that the other does not have stay.
   void merge(const IniText &other);
+  /// Takes the key away, of whatever group.
+  void remove(const QByteArray &key);
   QByteArray toText() const;
 
 private:

@@ -134,6 +134,8 @@ void visitDrawing(Settings &s, Visitor &v) {
   v.optional("colorClasses", s.colorClasses);
   v.optional("classMethod", s.classMethod);
   v.optional("classBreaks", s.classBreaks);
+  v.optional("classColors", s.classColors);
+  v.optional("classLabels", s.classLabels);
   visitTypedBounds(s, v);
   v.optional("showGrid", s.showGrid);
   v.optional("quantileBounds", s.quantileBounds);
@@ -168,6 +170,8 @@ struct GroupedText {
 
 struct Reader {
   GroupedText store;
+  bool keepsMissing = false;
+  bool found = false;      ///< some key
   QStringList refused{};   ///< keys whose values are objects that no setting has
   QStringList noNumbers{}; ///< "key=value" where a number should be
 
@@ -200,7 +204,7 @@ struct Reader {
 
   template <typename T>
   void field(const char *key, T &field, const T &missing) {
-    if (!take(key, field))
+    if (!take(key, field) && !keepsMissing)
       field = missing;
   }
   template <typename T>
@@ -216,6 +220,7 @@ private:
     const std::optional<QString> value = store.text.value(store.group, key, &isObject);
     if (!value)
       return false;
+    found = true;
     if (!isObject) {
       constexpr int Shown = 50; // characters
       const bool isTaken = assign(field, *value);
@@ -265,9 +270,10 @@ bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, const T
   return true;
 }
 
-void PlotSettingsFile::readText(const QByteArray &content, const QString &path, PlotSettings &settings, const Told &told) {
+bool PlotSettingsFile::readText(const QByteArray &content, const QString &path, PlotSettings &settings, const Told &told,
+                                Missing missing) {
   const IniText text(content);
-  Reader reader{{text}};
+  Reader reader{{text}, missing == Missing::Kept};
   visitAll(settings, reader);
   if (!reader.refused.isEmpty())
     tell(told, Finding::Severity::Warning,
@@ -276,6 +282,7 @@ void PlotSettingsFile::readText(const QByteArray &content, const QString &path, 
   if (!reader.noNumbers.isEmpty())
     tell(told, Finding::Severity::Warning,
          tr("%1: values that are no numbers are left out: %2").arg(path, reader.noNumbers.join(QStringLiteral(", "))));
+  return reader.found;
 }
 
 std::optional<QByteArray> PlotSettingsFile::text(const PlotSettings &settings, QString *error) {
@@ -296,6 +303,28 @@ std::optional<QByteArray> PlotSettingsFile::text(const PlotSettings &settings, Q
     }
   }
   return FileAccess::readWhole(draft, FileAccess::Source::Trusted, LargestFile, error);
+}
+
+std::optional<QByteArray> PlotSettingsFile::styleText(const PlotSettings &settings, QString *error) {
+  const std::optional<QByteArray> whole = text(settings, error);
+  if (!whole)
+    return std::nullopt;
+  IniText style(*whole);
+  for (const char *ofCase :
+       {"edgeShowFlow", "layerProp", "colorScalePos", "legendPos", "fixAxesRatio", "showXYaxes", "zoomFact"})
+    style.remove(ofCase);
+  for (const char *ofView : {"legend", "legendCorner", "dimRest", "showGrid"})
+    style.remove(ofView);
+  const PlotSettings plain;
+  for (const auto &[key, color] : {std::pair("bgrColor", &PlotSettings::bgrColor),
+                                   {"edgeLabelsColor", &PlotSettings::edgeLabelsColor},
+                                   {"nodeLabelsColor", &PlotSettings::nodeLabelsColor},
+                                   {"gridMajorColor", &PlotSettings::gridMajorColor},
+                                   {"gridMinorColor", &PlotSettings::gridMinorColor}}) {
+    if (settings.*color == plain.*color)
+      style.remove(key);
+  }
+  return style.toText();
 }
 
 bool PlotSettingsFile::write(const QString &path, const PlotSettings &settings, QString *error) {

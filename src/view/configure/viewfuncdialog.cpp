@@ -1,9 +1,12 @@
 #include "canvas/legendplace.h"
 #include "configure/breaktexts.h"
+#include "configure/classdialog.h"
 #include "configure/colorbutton.h"
 #include "configure/functionspage.h"
 #include "configure/labeltableeditor.h"
+#include "configure/plotsettingsfile.h"
 #include "configure/settingfields.h"
+#include "configure/stylepreview.h"
 #include "interaction/plotzoom.h"
 #include "ui_viewfuncdialog.h"
 
@@ -16,8 +19,10 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHideEvent>
 #include <QScrollBar>
 #include <QTabBar>
+#include <QToolButton>
 #include <qwt_plot.h>
 
 #include <algorithm>
@@ -46,7 +51,7 @@ viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
     , m_ui(std::make_unique<Ui::viewFuncDialog>())
     , m_fields(std::make_unique<SettingFields>()) {
   m_ui->setupUi(this);
-  m_functions = new FunctionsPage(plot.update(), this);
+  m_functions = new FunctionsPage(plot.update(), plot.settings(), this);
   m_ui->functionsBox->insertWidget(0, m_functions);
   m_labels = new LabelTableEditor(*m_ui->labelTable);
   fillChoices();
@@ -56,10 +61,32 @@ viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
   m_functions->offerFunctions();
   refresh();
   limitWidth();
+  setUpPreview();
   connect(&m_plot, &NetPlot::settingsChanged, this, &viewFuncDialog::followPlot);
 }
 
 viewFuncDialog::~viewFuncDialog() = default;
+
+void viewFuncDialog::setUpPreview() {
+  m_preview = new StylePreview(m_plot, *this, [this] { return typed(); });
+  m_preview->setParent(this);
+  m_preview->watch(*m_ui->tabs);
+  const QAbstractItemModel *labels = m_ui->labelTable->model();
+  connect(labels, &QAbstractItemModel::dataChanged, m_preview, &StylePreview::touch);
+  connect(labels, &QAbstractItemModel::rowsInserted, m_preview, &StylePreview::touch);
+  connect(labels, &QAbstractItemModel::rowsRemoved, m_preview, &StylePreview::touch);
+}
+
+void viewFuncDialog::setStyleMenu(QMenu *menu) {
+  auto *chooser = new QToolButton(this);
+  chooser->setObjectName(QStringLiteral("styles"));
+  chooser->setText(tr("Style"));
+  chooser->setToolTip(tr("Draw in a style of the program or one of your own"));
+  chooser->setPopupMode(QToolButton::InstantPopup);
+  chooser->setFocusPolicy(Qt::TabFocus);
+  chooser->setMenu(menu);
+  m_ui->verticalLayout->insertWidget(0, chooser);
+}
 
 /// Neither the tabs nor the pages, which could be scrolled, are cut by a narrow dock.
 void viewFuncDialog::limitWidth() {
@@ -73,6 +100,14 @@ void viewFuncDialog::showEvent(QShowEvent *event) {
   m_functions->offerFunctions(); // formulas may have computed more since
   offerSavedSettings();
   QWidget::showEvent(event);
+  m_preview->touch(); // of what was typed before it was closed
+}
+
+/// Closed, what is not applied shows no more; it stays typed.
+void viewFuncDialog::hideEvent(QHideEvent *event) {
+  if (!event->spontaneous())
+    m_preview->end();
+  QWidget::hideEvent(event);
 }
 
 void viewFuncDialog::fillChoices() {
@@ -81,6 +116,7 @@ void viewFuncDialog::fillChoices() {
   m_ui->classMethod->addItem(tr("none, a smooth scale"), QString());
   m_ui->classMethod->addItem(tr("equal intervals"), PlotSettings::equalClasses());
   m_ui->classMethod->addItem(tr("as many elements in each"), PlotSettings::quantileClasses());
+  m_ui->classMethod->addItem(tr("natural breaks"), PlotSettings::naturalClasses());
   m_ui->classMethod->addItem(tr("breaks of your own"), PlotSettings::ownClasses());
   m_ui->colorScalePos->addItems({tr("not shown"), tr("at the top"), tr("on the right")});
   m_ui->legendPos->addItem(tr("not shown"));
@@ -106,6 +142,7 @@ void viewFuncDialog::bindScale() {
   m_fields->bind(*ui->lightness, &S::lightness);
   m_fields->bind(*ui->logFactor, &S::logFactor);
   bindBreaks();
+  bindClassLooks();
   m_fields->bind(*ui->quantileBounds, &S::quantileBounds);
   bindLegend();
   m_fields->bind<QString>(
@@ -151,6 +188,36 @@ void viewFuncDialog::bindBreaks() {
       });
 }
 
+void viewFuncDialog::bindClassLooks() {
+  using S = PlotSettings;
+  m_fields->bind<QString>(
+      &S::classColors, [this](const S &s) { m_classColors = s.classColors; }, [this] { return m_classColors; });
+  m_fields->bind<QString>(
+      &S::classLabels, [this](const S &s) { m_classLabels = s.classLabels; }, [this] { return m_classLabels; });
+}
+
+void viewFuncDialog::on_editClasses_clicked() {
+  const NetData *net = m_plot.update().netData();
+  DrawnStyle style = m_plot.appliedStyle();
+  if (net == nullptr || !m_functions->readTouched(style.settings))
+    return;
+  m_fields->readTouched(style.settings);
+  const PlotSettings::Function &function = style.settings.functions[Aspect::EdgeColor];
+  ClassDialog dialog(style.settings,
+                     DrawValues::readOne(*net, m_plot.update().geometry(), style.settings, Aspect::EdgeColor, function.name),
+                     this);
+  if (dialog.exec() != QDialog::Accepted)
+    return;
+  const PlotSettings chosen = dialog.settings();
+  m_classColors = chosen.classColors;
+  m_classLabels = chosen.classLabels;
+  m_ui->classMethod->setCurrentIndex(
+      std::max(0, m_ui->classMethod->findData(chosen.colorClasses > 1 ? chosen.classMethod : QString())));
+  m_ui->colorClasses->setValue(std::max(2, chosen.colorClasses));
+  showBreaks(chosen.classBreaks);
+  m_preview->touch();
+}
+
 void viewFuncDialog::showBreaks(const QString &inTable) {
   m_breakFunction = m_functions->chosen(Aspect::EdgeColor).value_or(DrawFunction());
   m_breakSign = DisplayFormat::decimalSign();
@@ -159,7 +226,7 @@ void viewFuncDialog::showBreaks(const QString &inTable) {
 
 void viewFuncDialog::changeUnits() {
   const QString breaks = BreakTexts::inTable(m_ui->classBreaks->text().trimmed(), m_breakFunction, m_breakSign);
-  m_functions->changeUnits(m_plot.settings());
+  m_functions->changeUnits(m_plot.appliedSettings());
   showBreaks(breaks);
 }
 
@@ -232,28 +299,29 @@ void viewFuncDialog::offerSavedSettings() {
 }
 
 void viewFuncDialog::refresh() {
-  m_functions->showFunctions(m_plot.settings());
-  m_fields->show(m_plot.settings());
-  m_labels->setTable(m_plot.update().labelTable());
+  const DrawnStyle style = m_plot.appliedStyle();
+  m_functions->showFunctions(style.settings);
+  m_fields->show(style.settings);
+  m_labels->setTable(style.labels);
   m_labelsShown = m_labels->table();
   offerSavedSettings();
 }
 
 void viewFuncDialog::refreshUntouched() {
   if (!m_functions->isTouched())
-    m_functions->showFunctions(m_plot.settings());
+    m_functions->showFunctions(m_plot.appliedSettings());
   followPlot();
   if (m_labels->table() == m_labelsShown) {
-    m_labels->setTable(m_plot.update().labelTable());
+    m_labels->setTable(m_plot.appliedStyle().labels);
     m_labelsShown = m_labels->table();
   }
   offerSavedSettings();
 }
 
 bool viewFuncDialog::isAnyFieldTouched() const {
-  PlotSettings settings = m_plot.settings();
+  PlotSettings settings = m_plot.appliedSettings();
   m_fields->readTouched(settings);
-  return settings != m_plot.settings();
+  return settings != m_plot.appliedSettings();
 }
 
 bool viewFuncDialog::hasUnapplied() const {
@@ -263,38 +331,56 @@ bool viewFuncDialog::hasUnapplied() const {
 /// What was chosen in the drawing is shown here too, unless that would lose what was touched here.
 void viewFuncDialog::followPlot() {
   if (!isAnyFieldTouched())
-    m_fields->show(m_plot.settings());
+    m_fields->show(m_plot.appliedSettings());
+}
+
+/// What is typed as a preview takes it, without a question.
+std::optional<DrawnStyle> viewFuncDialog::typed() const {
+  DrawnStyle style = m_plot.appliedStyle();
+  if (!m_functions->readSound(style.settings))
+    return std::nullopt;
+  m_fields->readTouched(style.settings);
+  style.labels = m_labels->table();
+  return style;
 }
 
 bool viewFuncDialog::apply() {
-  const PlotSettings before = m_plot.settings();
-  PlotSettings settings = before;
-  if (!m_functions->readTouched(settings))
+  DrawnStyle style = m_plot.appliedStyle();
+  const PlotSettings before = style.settings;
+  if (!m_functions->readTouched(style.settings))
     return false;
-  m_fields->readTouched(settings);
+  m_fields->readTouched(style.settings);
+  style.labels = m_labels->table();
   for (const auto &[aspect, key] :
        {std::pair(Aspect::EdgeColor, "logScaleColor"), {Aspect::NodeColor, "logScaleNodeColor"}}) {
-    const bool isLogarithmic = settings.functions[aspect].isLogarithmic;
+    const bool isLogarithmic = style.settings.functions[aspect].isLogarithmic;
     if (isLogarithmic != before.functions[aspect].isLogarithmic)
       tell(m_plot.told(), Finding::Severity::Information,
            QStringLiteral("%1 set to %2").arg(QLatin1String(key)).arg(int(isLogarithmic)));
   }
-  m_plot.setSettings(settings);
-  draw(before, m_labels->table());
+  draw(style);
   return true;
 }
 
-/// Draws with the settings that the plot has now.
-void viewFuncDialog::draw(const PlotSettings &before, const LabelTable &labels) {
-  const bool rebuilds = labels != m_plot.update().labelTable();
-  m_plot.update().setLabelTable(labels);
-  m_plot.update().updatePlot(rebuilds ? NetUpdate::Elements::Renewed : NetUpdate::Elements::Kept,
-                             NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
+void viewFuncDialog::draw(const DrawnStyle &style) {
+  const bool hasOtherAxes = style.settings.fixAxesRatio != m_plot.settings().fixAxesRatio;
+  m_plot.setStyle(style);
   // The original ratio is that of the whole network; the aspect ratio keeps to what is seen.
-  if (m_plot.settings().fixAxesRatio != before.fixAxesRatio || m_ui->viewport->currentIndex() == OriginalRatio)
+  if (!hasOtherAxes && m_ui->viewport->currentIndex() == OriginalRatio) {
     m_plot.zoomer()->fitBase();
-  m_plot.update().requestPixtest(-1);
+    m_plot.update().requestPixtest(-1);
+  }
   refresh();
+  emit applied();
+}
+
+void viewFuncDialog::on_cancel_clicked() {
+  m_preview->end();
+  refresh();
+}
+
+void viewFuncDialog::on_preview_toggled(bool isWanted) {
+  m_preview->setWanted(isWanted);
 }
 
 void viewFuncDialog::on_apply_clicked() {
@@ -312,7 +398,7 @@ void viewFuncDialog::on_applyAndSave_clicked() {
   m_settingsRead = FileStamp::of(m_plotSettingsPath);
   emit filesTaken(true, false);
   if (mayOverwriteLabels()) {
-    if (LabelTableFile::write(m_labelTablePath, m_plot.update().labelTable(), &error)) {
+    if (LabelTableFile::write(m_labelTablePath, m_plot.appliedStyle().labels, &error)) {
       m_labelsRead = {true, {}, FileStamp::of(m_labelTablePath), 0};
       emit filesTaken(false, true);
     } else {
@@ -358,17 +444,17 @@ bool viewFuncDialog::readLabels(const QString &path, FileAccess::Source source, 
 
 /// As when the case was opened: what the files do not say is as in the beginning.
 void viewFuncDialog::on_savedSettings_clicked() {
-  const PlotSettings before = m_plot.settings();
-  m_plot.setSettings(PlotSettings());
+  DrawnStyle style = m_plot.appliedStyle();
+  PlotSettings settings;
   m_settingsRead = FileStamp::of(m_plotSettingsPath);
-  const bool areSettingsRead = m_plot.readPlotSettings(m_plotSettingsPath);
-  if (!areSettingsRead)
-    m_plot.setSettings(before);
+  const bool areSettingsRead = PlotSettingsFile::read(m_plotSettingsPath, settings, m_plot.told());
+  if (areSettingsRead)
+    style.settings = settings;
   LabelTable labels;
   const bool areLabelsRead = readLabels(m_labelTablePath, FileAccess::Source::Workspace, labels);
-  if (!areLabelsRead)
-    labels = m_plot.update().labelTable();
-  draw(before, labels);
+  if (areLabelsRead)
+    style.labels = labels;
+  draw(style);
   emit filesTaken(areSettingsRead, areLabelsRead);
 }
 

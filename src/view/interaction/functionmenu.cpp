@@ -1,5 +1,7 @@
 #include "interaction/functionmenu.h"
 
+#include "configure/functionchooser.h"
+
 #include <drawing/functionchange.h>
 #include <view/netplot.h>
 
@@ -41,7 +43,7 @@ bool hasValues(const elements &collection, PropertyKey property) {
 }
 
 bool isToBeSeen(const DrawFunction &function, const NetData &net) {
-  if (function.isOfGraph())
+  if (function.isOfGraph() || function.isOfBounds())
     return true;
   const auto isThere = [&net](PropertyKey property) {
     return !property.isNull() && (hasValues(net.nodes(), property) || hasValues(net.edges(), property));
@@ -104,13 +106,28 @@ void FunctionMenu::fill() {
     add(PlotSettings::fixedSize(), tr("all of one size"));
   for (const QString &function : offered())
     add(function, DrawFunction::find(function, *net).title);
+  addSeparator();
+  addAction(tr("All functions …"), this, &FunctionMenu::chooseAmongAll)
+      ->setToolTip(tr("All functions of this network, with units, numbers of elements and histograms"));
+}
+
+void FunctionMenu::chooseAmongAll() {
+  if (m_plot.update().netData() == nullptr)
+    return;
+  QStringList functions = offered();
+  if (m_aspect == Aspect::NodeSize)
+    functions.prepend(PlotSettings::fixedSize());
+  FunctionChooser chooser(titleOf(m_aspect), m_plot.update(), m_plot.settings(), m_aspect, &m_plot);
+  chooser.setFunctions(functions, m_plot.appliedSettings().functions[m_aspect].name);
+  if (chooser.exec() == QDialog::Accepted)
+    choose(chooser.chosen());
 }
 
 void FunctionMenu::choose(const QString &function) {
   const NetData *net = m_plot.update().netData();
   if (net == nullptr)
     return;
-  PlotSettings settings = m_plot.settings();
+  PlotSettings settings = m_plot.appliedSettings();
   changeFunction(settings.functions[m_aspect], function, *net);
   m_plot.setSettings(settings);
   m_plot.update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);

@@ -25,6 +25,7 @@ signals:
 private:
   void fill();
   QStringList offered() const;
+  void chooseAmongAll();
   void choose(const QString &function);
 
   Aspect m_aspect;

@@ -251,7 +251,7 @@ void PlotActions::refresh(const Answered &answered) {
 }
 
 void PlotActions::setLabelsShown(bool shown) {
-  PlotSettings settings = m_plot.settings();
+  PlotSettings settings = m_plot.appliedSettings();
   if (!shown)
     m_labelMode = settings.label_mode;
   else if (m_labelMode.isEmpty() || m_labelMode == noLabels())

@@ -1,3 +1,4 @@
+#include <drawing/classlooks.h>
 #include <drawing/elementlooks.h>
 #include <drawing/legendcontents.h>
 #include <drawing/scaleticks.h>
@@ -7,6 +8,8 @@
 #include <QCoreApplication>
 
 #include <bitset>
+#include <cmath>
+#include <limits>
 #include <string_view>
 
 namespace {
@@ -60,6 +63,21 @@ LegendContents::Samples samplesOf(const DrawValues::Column &values, const char *
   return found;
 }
 
+/// Classes that a person gave names to.
+std::vector<ColorScale::Swatch> namedClasses(const PlotSettings &settings, const DrawValues::Column &values,
+                                             const std::vector<double> &breaks) {
+  std::vector<ColorScale::Swatch> named;
+  const QStringList labels = ClassLooks::labels(settings.classLabels);
+  const auto map = ColorScale::edgeColors(settings, values);
+  for (std::size_t i = 0; i <= breaks.size() && !breaks.empty(); ++i) {
+    const QString label = labels.value(static_cast<int>(i));
+    const double within = i == 0 ? std::nextafter(breaks.front(), -std::numeric_limits<double>::max()) : breaks[i - 1];
+    if (!label.isEmpty())
+      named.push_back({map->rgb(values.range, within), label});
+  }
+  return named;
+}
+
 } // namespace
 
 void LegendContents::addFunctions(const PlotSettings &settings, const DrawValues &values, ColorScale::Subject subject,
@@ -78,6 +96,10 @@ void LegendContents::addFunctions(const PlotSettings &settings, const DrawValues
                                               : QT_TRANSLATE_NOOP("LegendContents", "%1 – edges"))
                                  .arg(edges.function.title),
                              ColorScale::breaksOf(settings, edges)));
+  if (edges.isAny()) {
+    const std::vector<ColorScale::Swatch> named = namedClasses(settings, edges, ColorScale::breaksOf(settings, edges));
+    lines.insert(lines.end(), named.begin(), named.end());
+  }
   if (showsNodes && !isOne)
     scales.push_back(scaleOf(nodes, *ColorScale::nodeColors(settings, values),
                              translated(QT_TRANSLATE_NOOP("LegendContents", "%1 – nodes")).arg(nodes.function.title), {}));

@@ -175,8 +175,10 @@ LegendContents NetUpdate::legendContents() const {
     sample.size *= scale;
   if (scale <= 0.0)
     contents.sizes = LegendContents::Samples(); // from afar there are none to explain
-  if (coloured() != ColorScale::Subject::SearchResults)
-    contents.lines = swatches();
+  if (coloured() != ColorScale::Subject::SearchResults) {
+    const std::vector<ColorScale::Swatch> others = swatches();
+    contents.lines.insert(contents.lines.end(), others.begin(), others.end()); // behind classes with names
+  }
   if (m_violations.isAny(State::Major))
     contents.casings.push_back({Violations::color(State::Major).rgb(), tr("beyond bounds (major)")});
   if (m_violations.isAny(State::Minor))

@@ -195,11 +195,11 @@ unsigned char TableColorMap::colorIndex(const QwtInterval &interval, double valu
   return m_map->colorIndex(interval, value);
 }
 
-ClassColorMap::ClassColorMap(std::vector<double> breaks, const HueColorMap &map)
+ClassColorMap::ClassColorMap(std::vector<double> breaks, const HueColorMap &map, const std::vector<QColor> &own)
     : m_breaks(std::move(breaks)) {
   const auto steps = static_cast<double>(std::max<std::size_t>(m_breaks.size(), 1));
   for (std::size_t i = 0; i <= m_breaks.size(); ++i)
-    m_colors.push_back(map.ramp().color(static_cast<double>(i) / steps));
+    m_colors.push_back(i < own.size() && own[i].isValid() ? own[i].rgb() : map.ramp().color(static_cast<double>(i) / steps));
 }
 
 QRgb ClassColorMap::rgb(const QwtInterval &interval, double value) const {

@@ -1,4 +1,7 @@
 
+#include "style/naturalbreaks.h"
+
+#include <drawing/classlooks.h>
 #include <drawing/colorscale.h>
 
 #include <QCoreApplication>
@@ -22,12 +25,13 @@ std::vector<double> ColorScale::breaksOf(const PlotSettings &settings, const Dra
   }
   if (!(values.range.width() > 0.0))
     return breaks; // one value is one class
-  if (settings.classMethod == PlotSettings::quantileClasses() && classes > 1) {
+  const bool isNatural = settings.classMethod == PlotSettings::naturalClasses();
+  if ((isNatural || settings.classMethod == PlotSettings::quantileClasses()) && classes > 1) {
     std::vector<double> valid;
     valid.reserve(values.ofElements.size());
     std::copy_if(values.ofElements.begin(), values.ofElements.end(), std::back_inserter(valid),
                  [](double value) { return value != NetData::NoValue; });
-    return ClassColorMap::quantileBreaks(std::move(valid), classes);
+    return isNatural ? naturalBreaks(std::move(valid), classes) : ClassColorMap::quantileBreaks(std::move(valid), classes);
   }
   return ClassColorMap::equalBreaks(values.range, classes);
 }
@@ -53,7 +57,7 @@ std::unique_ptr<QwtColorMap> ColorScale::edgeColors(const PlotSettings &settings
   std::unique_ptr<HueColorMap> map = colorMap(settings, Aspect::EdgeColor);
   std::vector<double> breaks = breaksOf(settings, values);
   if (!breaks.empty())
-    return std::make_unique<ClassColorMap>(std::move(breaks), *map);
+    return std::make_unique<ClassColorMap>(std::move(breaks), *map, ClassLooks::colors(settings.classColors));
   auto table = std::make_unique<TableColorMap>(std::move(map));
   table->setCaps(true, true);
   return table;

@@ -1,9 +1,12 @@
+#include "style/boundload.h"
+
 #include <drawing/colormap.h>
 #include <drawing/drawfunctions.h>
 #include <model/displayunits.h>
 #include <model/netmetadata.h>
 #include <model/titles.h>
 
+#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -137,6 +140,24 @@ QStringList namesOf(const std::set<PropertyKey> &properties, const NetMetaData &
   return names;
 }
 
+/// Where values and bounds are there to compute it from.
+void addLoad(DrawFunction::OfNetwork &found) {
+  const auto haveAll = [](const std::set<PropertyKey> &numbers, std::initializer_list<const char *> names) {
+    return std::all_of(names.begin(), names.end(), [&numbers](const char *name) {
+      const PropertyKey key = PropertyKey::find(name);
+      return !key.isNull() && numbers.count(key) > 0;
+    });
+  };
+  const auto add = [](QStringList &names) {
+    if (!names.contains(DrawFunction::load(), Qt::CaseInsensitive))
+      names.insert(std::lower_bound(names.begin(), names.end(), DrawFunction::load()), DrawFunction::load());
+  };
+  if (haveAll(found.numbersOfNodes, {"p", "pmin", "pmax"}))
+    add(found.ofNodes);
+  if (haveAll(found.numbersOfEdges, {"q", "qmax"}))
+    add(found.ofEdges);
+}
+
 } // namespace
 
 const QStringList &DrawFunction::fixedNames() {
@@ -158,11 +179,13 @@ QString DrawFunction::propertyName(const QString &function) {
 
 DrawFunction::OfNetwork DrawFunction::ofNetwork(const NetData &net) {
   OfNetwork found;
-  std::set<PropertyKey> numeric;
-  addNumeric(net.nodes(), numeric);
-  found.ofNodes = namesOf(numeric, *net.metaData());
-  addNumeric(net.edges(), numeric);
-  found.ofEdges = namesOf(numeric, *net.metaData());
+  addNumeric(net.nodes(), found.numbersOfNodes);
+  addNumeric(net.edges(), found.numbersOfEdges);
+  found.ofNodes = namesOf(found.numbersOfNodes, *net.metaData());
+  std::set<PropertyKey> ofBoth = found.numbersOfNodes;
+  ofBoth.insert(found.numbersOfEdges.begin(), found.numbersOfEdges.end());
+  found.ofEdges = namesOf(ofBoth, *net.metaData());
+  addLoad(found);
   return found;
 }
 
@@ -176,6 +199,11 @@ DrawFunction DrawFunction::find(const QString &function, const NetData &net) {
       continue;
     found.computed = known.computed;
     found.ofEnds = PropertyKey::find(known.ofEnds);
+  }
+  if (name.compare(load(), Qt::CaseInsensitive) == 0 && BoundLoad::isKnown()) {
+    found.computed = Computed::Load;
+    found.unit = QStringLiteral("%");
+    found.title = QCoreApplication::translate("DrawFunction", "load against the bounds [%]");
   }
   const NetMetaData *metaData = net.metaData();
   found.isOfNodes = metaData->nodeFunctions().contains(name, Qt::CaseInsensitive) && !isOfDrivesOnly(*metaData, name);

@@ -1,5 +1,6 @@
 #include "geometry/drawngraph.h"
 #include "geometry/geometryreader.h"
+#include "style/boundload.h"
 
 #include <drawing/colormap.h>
 #include <drawing/drawfunctions.h>
@@ -99,6 +100,15 @@ std::vector<double> ofGraph(const DrawFunction &function, const NetGeometry &geo
   return DrawnGraph(geometry).distances(GeometryReader::readValues(geometry, lengths).ofEdges.front());
 }
 
+/// Gives elements without a load of their own what their bounds say.
+template <typename Elements, typename LoadOf>
+void readLoad(const Elements &elements, const LoadOf &loadOf, std::vector<double> &column) {
+  for (std::size_t i = 0; i < column.size(); ++i) {
+    if (column[i] == NetData::NoValue)
+      column[i] = loadOf(*elements[i].source);
+  }
+}
+
 /// Drives are nodes that are not drawn as such: their values must not stretch the scale of the others.
 void forgetDrives(const NetGeometry &geometry, std::vector<double> &column) {
   for (std::size_t i = 0; i < column.size(); ++i) {
@@ -162,12 +172,30 @@ ValueRequest DrawValues::request(const PlotSettings &s) const {
 }
 
 void DrawValues::read(const NetData &net, const PlotSettings &s, NetGeometry &geometry, bool rebuild) {
+  findFunctions(net, s);
+  take(rebuild ? GeometryReader::read(net, request(s), geometry) : GeometryReader::readValues(geometry, request(s)),
+       geometry, s);
+}
+
+DrawValues::Column DrawValues::readOne(const NetData &net, const NetGeometry &geometry, PlotSettings settings, Aspect aspect,
+                                       const QString &function) {
+  for (const Aspect other : AllAspects)
+    settings.functions[other] = {PlotSettings::fixedSize(), false};
+  settings.functions[aspect].name = function;
+  DrawValues values;
+  values.findFunctions(net, settings);
+  values.take(GeometryReader::readValues(geometry, values.request(settings)), geometry, settings);
+  return values.m_columns[aspect];
+}
+
+void DrawValues::findFunctions(const NetData &net, const PlotSettings &s) {
   for (const Aspect aspect : AllAspects) {
     const QString &name = s.functions[aspect].name;
     m_columns[aspect].function = name == PlotSettings::fixedSize() ? DrawFunction() : DrawFunction::find(name, net);
   }
-  ElementValues values =
-      rebuild ? GeometryReader::read(net, request(s), geometry) : GeometryReader::readValues(geometry, request(s));
+}
+
+void DrawValues::take(ElementValues values, const NetGeometry &geometry, const PlotSettings &s) {
   compute(geometry, s, values);
   setColumns(values, s);
   m_flow = std::move(values.ofEdges[FlowColumn]);
@@ -182,6 +210,8 @@ void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, Ele
     const DrawFunction &function = of(aspect).function;
     const std::size_t column = columnOf(aspect);
     if (isOfEdges(aspect)) {
+      if (function.isOfBounds())
+        readLoad(geometry.edges(), BoundLoad::ofEdge, values.ofEdges[column]);
       if (!function.ofEnds.isNull())
         readFromEnds(function, s.functions[aspect].isAbsolute, geometry, values.ofNodes[columnOfEnds(aspect)],
                      values.ofEdges[FlowColumn], values.ofEdges[column]);
@@ -196,6 +226,8 @@ void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, Ele
       values.ofNodes[column] = values.ofEnds[columnOf(Aspect::EdgeColor)];
     else if (function.isOfGraph() && !rangeOf(values.ofNodes[column]).isValid())
       values.ofNodes[column] = ofGraph(function, geometry);
+    if (function.isOfBounds())
+      readLoad(geometry.nodes(), BoundLoad::ofNode, values.ofNodes[column]);
   }
   for (const Aspect aspect : AllAspects)
     forgetDrives(geometry, (isOfEdges(aspect) ? values.ofEnds : values.ofNodes)[columnOf(aspect)]);

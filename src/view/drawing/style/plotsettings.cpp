@@ -19,8 +19,8 @@ auto colors(const PlotSettings &s) {
 }
 
 auto drawing(const PlotSettings &s) {
-  return std::tie(s.colorRamp, s.colorClasses, s.classMethod, s.classBreaks, s.showGrid, s.quantileBounds, s.showsLegend,
-                  s.legendCorner, s.dimsRest);
+  return std::tie(s.colorRamp, s.colorClasses, s.classMethod, s.classBreaks, s.classColors, s.classLabels, s.showGrid,
+                  s.quantileBounds, s.showsLegend, s.legendCorner, s.dimsRest);
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <base/finding.h>
+#include <drawing/drawnstyle.h>
 #include <drawing/netupdate.h>
-#include <drawing/plotsettings.h>
 #include <drawing/selectionlayer.h>
 
 #include <QWidget>
@@ -11,6 +11,7 @@
 #include <qwt_plot_textlabel.h>
 
 #include <memory>
+#include <optional>
 
 class CanvasLegend;
 class PlotPanner;
@@ -38,9 +39,19 @@ public:
   QwtPlotGrid &grid() { return m_grid; }
   const QwtPlotMarker &legend() const { return m_legend; }
 
+  /// As they are seen, which may be a preview.
   const PlotSettings &settings() const { return m_settings; }
-  /// Takes over the settings; what depends on them is drawn with the next updatePlot().
+  /// Takes over the settings; what depends on them is drawn with the next updatePlot(). A preview ends.
   void setSettings(const PlotSettings &settings);
+  /// What holds: that of settings() and the label table, unless there is a preview.
+  const PlotSettings &appliedSettings() const { return m_applied ? m_applied->settings : m_settings; }
+  DrawnStyle appliedStyle() const;
+  /// Takes over the style and draws it. A preview ends.
+  void setStyle(const DrawnStyle &style);
+  /// Draws a style for the eye alone, until it is taken over or the preview ends.
+  void preview(const DrawnStyle &style);
+  void endPreview();
+  bool isPreview() const { return m_applied.has_value(); }
 
   /// "plotsettings.ini". False, and nothing is changed, when there is no such file or it cannot be read.
   bool readPlotSettings(const QString &path);
@@ -89,12 +100,15 @@ signals:
   void drawConfigurationRequested();             ///< the colour scale was double-clicked
   void contextMenuRequested(QMenu *contextMenu); ///< to be filled before it is shown at the cursor
   void settingsChanged();                        ///< by a person or a file
+  void legendSettingsChosen();                   ///< at the legend, by a person; they are drawn
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
   void showHint();
+  void take(const PlotSettings &settings);
+  void draw(const DrawnStyle &style);
   void setUpUpdate();
   void setUpLegend();
   NetUpdate::View view() const;
@@ -112,6 +126,7 @@ private:
   Told m_told;
   QwtFastPlot *m_plot;
   PlotSettings m_settings;
+  std::optional<DrawnStyle> m_applied; ///< while there is a preview of another style
   PlotZoom *m_zoomer;
   PlotPanner *m_panner;
   std::unique_ptr<NetUpdate> m_update;

@@ -10,6 +10,7 @@
 #include <view/netplot.h>
 #include <view/plotactions.h>
 #include <view/scenariosource.h>
+#include <view/styleactions.h>
 #include <view/viewbookmarks.h>
 
 #include <QObject>
@@ -39,6 +40,8 @@ public:
   NetPicker *picker() const { return m_picker; }
   /// What can be done with the drawing; for menus and tool bars of the window.
   PlotActions &actions() const { return *m_actions; }
+  /// Named styles, and the way back from changes of how it is drawn.
+  StyleActions &styles() const { return *m_styles; }
   /// Greys what cannot be done now and nobody would answer, for a menu that is about to be shown.
   void refreshActions();
 
@@ -107,7 +110,7 @@ public:
 
 signals:
   void selectionChanged();
-  void styleChanged();    ///< by setOwnStyle()
+  void styleChanged();    ///< by setOwnStyle() or styles()
   void styleFilesNoted(); ///< by noteStyleFiles()
   void currentElementChanged(const QString &name);
   void hiddenLayersChanged(const QSet<QString> &layers);
@@ -142,6 +145,7 @@ private:
   MouseModes *m_modes; ///< these two belong to the plot
   MeasureTool *m_measure;
   std::unique_ptr<PlotActions> m_actions;
+  std::unique_ptr<StyleActions> m_styles;
   std::unique_ptr<PlotMenu> m_menu;
   OncePerTurn m_drawing;
   NetUpdate::Labels m_labels = NetUpdate::Labels::Kept; ///< when it is drawn

@@ -83,6 +83,8 @@ public:
   QAction *operator[](Command command) const { return m_actions[static_cast<std::size_t>(command)]; }
   /// Chooses the draw function of the aspect; filled when it is about to be shown.
   QMenu *functionMenu(Aspect aspect) const;
+  /// The functions that the network has; found when they are first asked for.
+  const DrawFunction::OfNetwork &ofNetwork();
   /// What the function in use shows, such as "pressure"; empty when there is none.
   QString functionInUse(Aspect aspect) const;
   /// Greys what cannot be done now and checks what holds; for menus that are about to be shown. Costs nothing that grows
@@ -115,7 +117,6 @@ private:
   void addDrawing();
   void addPicture();
   void addSelection();
-  const DrawFunction::OfNetwork &ofNetwork();
   void refreshHistory();
   void refreshSelection();
   void setLabelsShown(bool shown);

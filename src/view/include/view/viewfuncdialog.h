@@ -1,6 +1,7 @@
 #pragma once
 
 #include <drawing/drawfunctions.h>
+#include <drawing/drawnstyle.h>
 #include <drawing/labeltable.h>
 
 #include <QWidget>
@@ -8,6 +9,8 @@
 #include <memory>
 
 class FunctionsPage;
+class QMenu;
+class StylePreview;
 class LabelTableEditor;
 class NetPlot;
 class SettingFields;
@@ -37,12 +40,17 @@ public:
   void changeUnits();
   /// Something was typed or chosen that is not applied yet.
   bool hasUnapplied() const;
+  /// Named styles to choose from, which draw at once.
+  void setStyleMenu(QMenu *menu);
   /// Takes all bounds of the draw functions from the data.
   void resetMinMaxColorFuncValues();
 
 public slots:
   void on_apply_clicked();
   void on_applyAndSave_clicked();
+  void on_cancel_clicked();
+  void on_editClasses_clicked();
+  void on_preview_toggled(bool isWanted);
   void on_load_clicked();
   void on_savedSettings_clicked();
   void on_resetMinMax_clicked() { resetMinMaxColorFuncValues(); }
@@ -53,23 +61,28 @@ public slots:
 signals:
   /// The network is drawn as these files of the case say it: they were written or read.
   void filesTaken(bool settings, bool labels);
+  void applied(); ///< the network is drawn otherwise than before
 
 protected:
   void showEvent(QShowEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
 
 private:
   bool apply();
   void followPlot();
   bool isAnyFieldTouched() const;
-  void draw(const PlotSettings &before, const LabelTable &labels);
+  std::optional<DrawnStyle> typed() const;
+  void draw(const DrawnStyle &style);
   void offerSavedSettings();
   bool readLabels(const QString &path, FileAccess::Source source, LabelTable &labels);
   bool mayOverwriteSettings() const;
   bool mayOverwriteLabels() const;
   void limitWidth();
+  void setUpPreview();
   void fillChoices();
   void bindScale();
   void bindBreaks();
+  void bindClassLooks();
   void showBreaks(const QString &inTable);
   void bindLegend();
   void bindSizes();
@@ -80,6 +93,9 @@ private:
   std::unique_ptr<SettingFields> m_fields;
   FunctionsPage *m_functions;
   LabelTableEditor *m_labels;
+  QString m_classColors; ///< as they were chosen, as are the labels
+  QString m_classLabels;
+  StylePreview *m_preview;
   DrawFunction m_breakFunction; ///< in whose unit the breaks between classes are shown
   QChar m_breakSign;            ///< with which decimals they are
   QString m_labelTablePath;

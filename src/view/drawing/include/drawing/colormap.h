@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QRgb>
 #include <QStringList>
 #include <qwt_color_map.h>
@@ -88,7 +89,8 @@ class ClassColorMap : public QwtColorMap {
 public:
   /// \param breaks ascending, between the classes
   /// \param map whose colours at equal steps are taken
-  ClassColorMap(std::vector<double> breaks, const HueColorMap &map);
+  /// \param own in place of these from the lowest class on, where they are valid
+  ClassColorMap(std::vector<double> breaks, const HueColorMap &map, const std::vector<QColor> &own = {});
 
   QRgb rgb(const QwtInterval &interval, double value) const override;
   unsigned char colorIndex(const QwtInterval &interval, double value) const override;

@@ -7,11 +7,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <set>
+
 /// What a draw function (PlotSettings::functions) shows: a property and the unit in which people read it.
 struct DrawFunction {
   /// How the values come about where no element carries them: from the graph of the network, or, of edges, from their end
-  /// nodes: the node where the gas enters, or the first less the second node.
-  enum class Computed { No, Connectivity, AccumulatedLength, AtInlet, Difference };
+  /// nodes: the node where the gas enters, or the first less the second node; or from their own values and bounds.
+  enum class Computed { No, Connectivity, AccumulatedLength, AtInlet, Difference, Load };
 
   PropertyKey property;             ///< null when no element has such a property
   PropertyKey ofEnds;               ///< of the end nodes, with AtInlet and Difference; null otherwise
@@ -23,8 +25,9 @@ struct DrawFunction {
   Computed computed = Computed::No; ///< for want of values of their own
 
   /// Elements have such a property, or it can be computed.
-  bool isKnown() const { return !property.isNull() || isOfGraph() || !ofEnds.isNull(); }
+  bool isKnown() const { return !property.isNull() || isOfGraph() || isOfBounds() || !ofEnds.isNull(); }
   bool isOfGraph() const { return computed == Computed::Connectivity || computed == Computed::AccumulatedLength; }
+  bool isOfBounds() const { return computed == Computed::Load; }
   bool shows(const DrawFunction &other) const {
     return property == other.property && ofEnds == other.ofEnds && computed == other.computed;
   }
@@ -40,7 +43,16 @@ struct DrawFunction {
   struct OfNetwork {
     QStringList ofNodes;
     QStringList ofEdges; ///< those of edges and of their end nodes
+    // All that hold numbers, whatever they say.
+    std::set<PropertyKey> numbersOfNodes;
+    std::set<PropertyKey> numbersOfEdges;
+
+    bool hasNumbers(PropertyKey property) const {
+      return numbersOfNodes.count(property) > 0 || numbersOfEdges.count(property) > 0;
+    }
   };
+  /// How much of its bounds an element uses, by this name where elements do not say it themselves.
+  static QString load() { return QStringLiteral("load"); }
   static OfNetwork ofNetwork(const NetData &net);
 };
 

@@ -13,6 +13,7 @@ struct PlotSettings {
   static QString hueRamp() { return QStringLiteral("hue"); }
   static QString equalClasses() { return QStringLiteral("equal interval"); }
   static QString quantileClasses() { return QStringLiteral("quantile"); }
+  static QString naturalClasses() { return QStringLiteral("natural breaks"); }
   static QString ownClasses() { return QStringLiteral("own breaks"); }
   static QString automaticCorner() { return QStringLiteral("auto"); }
   static QString fixedSize() { return QStringLiteral("--- fixed ---"); } ///< Aspect::NodeSize: all nodes have one size
@@ -67,6 +68,8 @@ struct PlotSettings {
   int colorClasses = 0;          ///< number of classes of the edge colours; 0 or 1 for a continuous scale
   QString classMethod = equalClasses();
   QString classBreaks; ///< breaks of the user's own in the display unit of the property table, ascending, joined by ";"
+  QString classColors; ///< of the user's own, see ClassLooks, as are the labels
+  QString classLabels;
   bool showGrid = false;
   bool quantileBounds = false;              ///< open bounds leave out 2 % of the values at either end
   bool showsLegend = false;                 ///< the legend inside the canvas
