@@ -1,5 +1,4 @@
 #include "search/networksearch.h"
-#include "shared/csvfield.h"
 
 #include <base/generalsettings.h>
 #include <model/elementtypes.h>

@@ -9,7 +9,6 @@
 
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
-#include <base/settings.h>
 #include <base/wholefile.h>
 #include <model/names.h>
 #include <tools/nivrasearch.h>
@@ -278,10 +277,7 @@ bool NivraSearch::save(const QString &path, QString *reason) const {
   params.formula = m_reportedFormula;
   return WholeFile::write(
       path, FileAccess::Source::Trusted,
-      [&](QIODevice &device, QString *) {
-        return SearchTable::write(device, params, m_results->rows(), Settings::UseComma.value());
-      },
-      reason);
+      [&](QIODevice &device, QString *) { return SearchTable::write(device, params, m_results->rows()); }, reason);
 }
 
 void NivraSearch::on_pushButton_addCat_clicked() {
