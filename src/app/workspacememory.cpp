@@ -68,8 +68,5 @@ void WorkspaceMemory::takePicture() {
   if (m_path.isEmpty() || m_isAside || !plot.isVisible() || (!plot.showsAll() && !Thumbnails::read(m_path).isNull()))
     return;
   Thumbnails::write(m_path, plot.picture(Thumbnails::Size));
-  QStringList paths;
-  for (const RecentFile &file : m_recent.all())
-    paths.append(file.path);
-  Thumbnails::keepOnly(paths);
+  Thumbnails::keepOnly(m_recent.paths());
 }
