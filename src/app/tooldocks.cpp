@@ -171,8 +171,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
   m_propViewer->showCurrentEleContents(nullptr);
   m_info->reset();
   m_search->clearResults();
-  m_layers->setLayerProperty(m_control.plot()->settings().layerProp);
-  m_layers->on_pushButtonReload_clicked();
+  m_layers->takeNetwork(m_control.plot()->settings().layerProp);
   if (m_extent == Extent::Program && (edits == Edits::Dropped || !m_categoryList->isChanged()))
     m_categoryList->setFile(workspace.filePath(QStringLiteral("catdef.csv")));
   m_directory = QFileInfo(workspace.filePath(QStringLiteral("catdef.csv"))).path();
@@ -284,11 +283,11 @@ void ToolDocks::setHiddenLayers(const QString &property, const QSet<QString> &la
 }
 
 void ToolDocks::showChanges() {
-  m_layers->on_pushButtonReload_clicked();
+  m_layers->takeChanges();
   if (m_vectorTable != nullptr)
     m_vectorTable->showValues();
   m_elementTable->showChanges();
-  m_search->searchAgain();
+  m_search->takeChanges(m_control.showsSearchResults());
   if (m_characteristics != nullptr)
     m_characteristics->refresh(); // the working points
   showContents(m_shown);
@@ -442,6 +441,7 @@ void ToolDocks::createSearch() {
   connect(m_search, &NivraSearch::itemDoubleClicked, this,
           [this](const QModelIndex &item) { m_control.showElement(item.data().toString()); });
   connect(m_search, &NivraSearch::markSearchResults, &m_control, &NetVisControl::selectSearchResults);
+  connect(&m_control.actions(), &PlotActions::searchResultsRequested, m_search, &NivraSearch::catchUp);
   connect(m_search, &NivraSearch::searchCompleted, &m_control, &NetVisControl::refreshSearchResults);
   connect(m_control.picker(), &NetPicker::picked, m_search, &NivraSearch::select);
   connect(m_search, &NivraSearch::definitionChanged, m_categories, &NivraNetObjectCats::updateTempCategory);

@@ -22,6 +22,8 @@
 #include <QMimeData>
 #include <QRegularExpression>
 
+#include <utility>
+
 namespace {
 
 constexpr double SecondsPerMillisecond = 1e-3;
@@ -114,6 +116,7 @@ void NivraSearch::searchWithFormula() {
     m_searchString.clear();
   }
   m_results->clear();
+  m_isStale = false;
   m_lastSearch = searchParams();
   QElapsedTimer timer;
   timer.start();
@@ -135,8 +138,19 @@ void NivraSearch::showCount() {
   m_ui->label_found->setText(tr("Found: %1").arg(m_results->rows().size()));
 }
 
-void NivraSearch::searchAgain() {
-  if (!m_lastSearch)
+void NivraSearch::takeChanges(bool areResultsDrawn) {
+  m_isStale = true;
+  if (areResultsDrawn || isVisible())
+    catchUp();
+}
+
+void NivraSearch::showEvent(QShowEvent *event) {
+  catchUp();
+  QDockWidget::showEvent(event);
+}
+
+void NivraSearch::catchUp() {
+  if (!std::exchange(m_isStale, false) || !m_lastSearch)
     return;
   NetworkSearch::Result result = NetworkSearch(m_net, *m_lastSearch).run();
   m_results->update(std::move(result.rows));

@@ -37,6 +37,8 @@ public:
   static QString newLayer() { return QStringLiteral("<new layer>"); }
 
 private:
+  void takeFrom(const QString &layer, const QSet<QString> &names);
+
   NetData &m_net;
   Told m_told;
   QString m_property = Names::all().layer.name();
