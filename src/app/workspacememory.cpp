@@ -19,6 +19,11 @@ WorkspaceMemory::WorkspaceMemory(QMainWindow &window, NetVisControl &control, To
   connect(&m_idle, &QTimer::timeout, this, &WorkspaceMemory::note);
 }
 
+void WorkspaceMemory::setPause(int ms) {
+  m_idle.setInterval(ms);
+  m_session->setPause(ms);
+}
+
 void WorkspaceMemory::enter(const NivraWorkspace &workspace) {
   if (m_keeps == Keeps::Nothing)
     return;
