@@ -48,7 +48,7 @@ QByteArray lineOf(QString text) {
 QByteArray csv(const VectorRows::Exported &table) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
-  VectorRows::write(buffer, table, Settings::UseComma.value());
+  VectorRows::write(buffer, table);
   return buffer.data();
 }
 

@@ -14,7 +14,7 @@ PageFacts CaseScenarios::facts(const NivraWorkspace &workspace) {
   return {workspace.currentCase()->name, workspace.hasScenario() ? workspace.currentScenario()->workDir : QString()};
 }
 
-ScenarioSource CaseScenarios::of(const NivraWorkspace &workspace) {
+ScenarioSource CaseScenarios::of(const NivraWorkspace &workspace, const Noticed &noticed) {
   const QString folder = workspace.caseDirectory();
   const QString geometry = workspace.geometryPath();
   const QString &root = workspace.root();
@@ -28,8 +28,8 @@ ScenarioSource CaseScenarios::of(const NivraWorkspace &workspace) {
     }
     return names;
   };
-  source.read = [folder, geometry, root, form](const QString &name, NetData &net, const Progress &progress,
-                                               QString *reason) {
+  source.read = [folder, geometry, root, form, noticed](const QString &name, NetData &net, const Progress &progress,
+                                                        QString *reason) {
     const NivraMsg::WithoutBoxes quiet; // nobody sits beside a run of many pages; the log says it
     NetworkLoader loader(net);
     const bool isResolved = loader.resolve(ScenarioFiles::in(QDir(folder).filePath(name), form));
@@ -46,6 +46,7 @@ ScenarioSource CaseScenarios::of(const NivraWorkspace &workspace) {
     NetworkLoader::ReadOptions options;
     options.progress = progress;
     const bool isDone = loader.readNetwork(options);
+    noticed(name, loader.noticed());
     if (!isDone)
       *reason = loader.error();
     return isDone;

@@ -1,9 +1,13 @@
 #pragma once
 
 #include <paper/pagecontent.h>
+#include <tools/findinglist.h>
 #include <view/scenariosource.h>
 
 #include <QCoreApplication>
+
+#include <functional>
+#include <vector>
 
 class NivraWorkspace;
 
@@ -12,6 +16,8 @@ class CaseScenarios {
   Q_DECLARE_TR_FUNCTIONS(CaseScenarios)
 public:
   static PageFacts facts(const NivraWorkspace &workspace);
+  /// What reading a scenario for a page noticed.
+  using Noticed = std::function<void(const QString &scenario, const std::vector<FindingList::Group> &groups)>;
   /// Its functions keep what they need of the workspace.
-  static ScenarioSource of(const NivraWorkspace &workspace);
+  static ScenarioSource of(const NivraWorkspace &workspace, const Noticed &noticed);
 };

@@ -9,6 +9,7 @@
 #include <base/wholefile.h>
 
 #include <QAction>
+#include <QActionGroup>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMenu>
@@ -21,10 +22,18 @@
 namespace {
 
 constexpr int RememberedCommands = 30;
+const QString MenuSeparator = QStringLiteral(" › ");
+const QString ChoiceSeparator = QStringLiteral(": "); // of what is chosen for something
+
+/// Whether it is one of several values that a menu offers, which alone do not say of what: "pressure".
+bool isChoice(const QAction &entry) {
+  return entry.isCheckable() && entry.actionGroup() != nullptr && entry.actionGroup()->isExclusive();
+}
 
 /// Adds what the entries lead to, and what is behind their menus.
 void collect(const QList<QAction *> &entries, const QString &path, QSet<const QAction *> &seen,
              std::vector<Command> &commands) {
+  const QString menuWithin = path.contains(MenuSeparator) ? path.section(MenuSeparator, -1) : QString();
   for (QAction *entry : entries) {
     if (entry->isSeparator() || !entry->isVisible() || seen.contains(entry))
       continue;
@@ -32,11 +41,18 @@ void collect(const QList<QAction *> &entries, const QString &path, QSet<const QA
     const QString text = Mnemonics::plain(parts.value(0));
     if (QMenu *menu = entry->menu()) {
       emit menu->aboutToShow(); // many are filled then
-      collect(menu->actions(), path.isEmpty() ? text : path + QStringLiteral(" › ") + text, seen, commands);
+      collect(menu->actions(), path.isEmpty() ? text : path + MenuSeparator + text, seen, commands);
     } else if (!text.isEmpty()) {
       seen.insert(entry);
       const QString key = entry->shortcut().toString(QKeySequence::NativeText);
-      commands.push_back({text, path, key.isEmpty() ? parts.value(1) : key, entry});
+      const bool isAnother = key.isEmpty() || std::none_of(commands.begin(), commands.end(), [&](const Command &known) {
+                               return known.text == text && known.key == key; // the window's own beside that of a menu
+                             });
+      if (!isAnother)
+        continue;
+      const bool needsMenu = !menuWithin.isEmpty() && isChoice(*entry);
+      commands.push_back(
+          {needsMenu ? menuWithin + ChoiceSeparator + text : text, path, key.isEmpty() ? parts.value(1) : key, entry});
     }
   }
 }
@@ -51,7 +67,8 @@ std::optional<int> fitOf(const Command &command, const QStringList &words) {
   enum { InMenu = 1, InText, BeginsWord, BeginsText };
   int fit = 0;
   for (const QString &word : words) {
-    if (command.text.startsWith(word, Qt::CaseInsensitive))
+    if (command.text.startsWith(word, Qt::CaseInsensitive) ||
+        command.text.contains(ChoiceSeparator + word, Qt::CaseInsensitive))
       fit += BeginsText;
     else if (command.text.contains(QLatin1Char(' ') + word, Qt::CaseInsensitive))
       fit += BeginsWord;

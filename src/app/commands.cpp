@@ -2,6 +2,7 @@
 
 #include "commandpalette.h"
 #include "mnemonics.h"
+#include "panelfocus.h"
 #include "svgicon.h"
 #include "toolbar.h"
 
@@ -22,17 +23,6 @@
 namespace {
 
 using Act = PlotActions::Command;
-
-/// The first child that takes the keyboard, in the order of Tab.
-QWidget *firstField(QWidget &panel) {
-  QWidget *field = &panel;
-  do {
-    if (field != &panel && field->isVisible() && field->isEnabled() && (field->focusPolicy() & Qt::TabFocus) != 0)
-      return field;
-    field = field->nextInFocusChain();
-  } while (field != &panel && panel.isAncestorOf(field));
-  return nullptr;
-}
 
 } // namespace
 
@@ -137,7 +127,8 @@ void Commands::fillInfoMenu() {
 
 void Commands::setIcons() {
   const PlotActions &actions = m_control.actions();
-  m_form.open->setIcon(svgIcon(QStringLiteral("open")));
+  if (m_form.open != nullptr)
+    m_form.open->setIcon(svgIcon(QStringLiteral("open")));
   for (const auto &[command, name] :
        {std::pair(Act::Back, "back"), std::pair(Act::Forward, "forward"), std::pair(Act::WholeNetwork, "zoom-all"),
         std::pair(Act::ToSelection, "zoom-selection"), std::pair(Act::DragZooms, "drag-zooms"),
@@ -186,9 +177,10 @@ void Commands::goToPanel(int step) {
       current = i;
   }
   QWidget *panel = panels[(current + step + panels.size()) % panels.size()];
-  QWidget *field = panel == m_window.centralWidget() ? panel : firstField(*panel);
-  if (field != nullptr)
-    field->setFocus(Qt::TabFocusReason);
+  if (panel == m_window.centralWidget())
+    panel->setFocus(Qt::TabFocusReason);
+  else
+    PanelFocus::give(*panel);
 }
 
 void Commands::showMenuOfFocus() {

@@ -10,8 +10,8 @@ class QMenu;
 class QMenuBar;
 class ToolBar;
 
-/// The commands of the main window: puts those of the drawing into menus and the tool bar, gives all of them icons, and
-/// brings the list in which all can be found.
+/// The commands of a window with a drawing: puts those of the drawing into menus and the tool bar, gives all of them icons,
+/// and brings the list in which all can be found.
 class Commands : public QObject {
   Q_OBJECT
 public:
@@ -19,8 +19,8 @@ public:
   struct Form {
     QMenuBar *bar;
     QMenu *file;
-    QMenu *info; ///< the new menus stand before it
-    QAction *open;
+    QMenu *info;       ///< the new menus stand before it
+    QAction *open;     ///< null where a window opens nothing
     QAction *savePage; ///< in the menu file; what saves pictures stands before it
   };
 

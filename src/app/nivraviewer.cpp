@@ -1,25 +1,20 @@
 #include "nivraviewer.h"
 
 #include "aboutbox.h"
-#include "casescenarios.h"
+#include "caseopening.h"
 #include "commands.h"
 #include "language/languagechoice.h"
-#include "lastscenario.h"
 #include "layerkeeper.h"
-#include "loadprogress.h"
 #include "logo.h"
 #include "mnemonics.h"
 #include "opendialog.h"
-#include "openingclock.h"
 #include "otherwindows.h"
-#include "outcomestyle.h"
 #include "recentmenu.h"
-#include "reloadoffer.h"
-#include "settings/numberlocale.h"
 #include "settings/settingsdialog.h"
-#include "subnetwindow.h"
+#include "subnetwindows.h"
 #include "toolbar.h"
 #include "tooldocks.h"
+#include "toolwindows.h"
 #include "ui_nivraviewer.h"
 #include "wheelguard.h"
 
@@ -38,7 +33,6 @@
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QInputDialog>
 #include <QMimeData>
 #include <QStyle>
 #include <QStyleFactory>
@@ -71,10 +65,9 @@ NivraViewer::NivraViewer(QWidget *parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::NivraViewer>())
     , m_control(std::make_unique<NetVisControl>(m_net, QString(), logFinding))
-    , m_loader(m_net)
     , m_categories(std::make_shared<CategoryList>(logFinding))
+    , m_subnets(new SubnetWindows(m_net, m_categories, *this))
     , m_layers(new LayerKeeper(m_net, *this))
-    , m_reloadOffer(new ReloadOffer(*this))
     , m_reload(new QAction(tr("&Reload"), this))
     , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); })
     , m_language(new LanguageChoice(*this)) {
@@ -92,6 +85,8 @@ NivraViewer::NivraViewer(QWidget *parent)
     applyStyleSheet(ownStyle);
   m_tools = new ToolDocks(*this, *m_control, m_categories);
   m_memory = new WorkspaceMemory(*this, *m_control, *m_tools, *m_layers);
+  m_opening =
+      std::make_unique<CaseOpening>(CaseOpening::Parts{*this, *m_control, *m_tools, *m_subnets, *m_layers, *m_memory});
   setUpCommands();
   m_ui->statusbar->showMessage(tr("No Workspace loaded"));
   show();
@@ -101,7 +96,8 @@ NivraViewer::NivraViewer(QWidget *parent)
     m_tools->fillViewMenu(*m_ui->menuView);
     m_language->addTo(*m_ui->menuView);
   });
-  connect(m_language, &LanguageChoice::chosen, this, &NivraViewer::takeSettings);
+  connect(m_language, &LanguageChoice::chosen, m_opening.get(), &CaseOpening::takeSettings);
+  connect(m_language, &LanguageChoice::chosen, m_language, &LanguageChoice::offerRestart);
   connect(m_language, &LanguageChoice::restartWanted, this, [this] { m_restarts = close(); });
   connect(m_control.get(), &NetVisControl::currentElementChanged, this, &NivraViewer::currentEleChanged);
   connect(m_tools, &ToolDocks::elementMarked, this,
@@ -118,13 +114,13 @@ NivraViewer::NivraViewer(QWidget *parent)
   });
   connect(m_ui->actionPrint, &QAction::triggered, m_control.get(), &NetVisControl::print);
   connect(m_ui->actionSavePage, &QAction::triggered, m_control.get(), &NetVisControl::savePage);
-  connect(m_control.get(), &NetVisControl::subnetWanted, this, &NivraViewer::openSubnet);
   connect(m_tools, &ToolDocks::elementsChanged, this, &NivraViewer::addChange);
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
   setAcceptDrops(true);
   setUpFileMenu();
-  setUpReloading();
-  loadSettings();
+  setUpOpening();
+  setUpSubnets();
+  m_opening->loadSettings();
   m_control->clear();
 }
 
@@ -144,22 +140,32 @@ void NivraViewer::setUpFileMenu() {
   connect(m_reload, &QAction::triggered, this, &NivraViewer::reload);
 }
 
-void NivraViewer::setUpReloading() {
-  connect(m_reloadOffer, &ReloadOffer::reloadWanted, this, &NivraViewer::reload);
-  connect(m_reloadOffer, &ReloadOffer::ignored, m_control->plot(), [this] { m_control->plot()->setFocus(); });
-  connect(m_layers, &LayerKeeper::written, this, [this](const QString &path) { m_reloadOffer->accept({path}); });
-  connect(m_control.get(), &NetVisControl::styleFilesNoted, this, &NivraViewer::acceptStyleFiles);
+void NivraViewer::setUpOpening() {
+  connect(&m_opening->reading(), &CaseReading::begins, this, [this] {
+    setBusy(true);
+    m_showingChanges.cancel();
+    m_changes.clear();
+  });
+  connect(&m_opening->reading(), &CaseReading::ended, this, [this] { setBusy(false); });
+  connect(m_opening.get(), &CaseOpening::shown, this, [this] {
+    m_reload->setEnabled(true);
+    showTitle();
+  });
+  connect(m_opening.get(), &CaseOpening::ended, this, &NivraViewer::closeIfWanted);
   connect(m_layers, &LayerKeeper::elementsChanged, this, &NivraViewer::addChange);
   connect(m_tools, &ToolDocks::elementsChanged, m_layers, &LayerKeeper::note);
   connect(m_tools, &ToolDocks::saveLayersWanted, m_layers, &LayerKeeper::saveAs);
   connect(m_tools, &ToolDocks::loadLayersWanted, m_layers, &LayerKeeper::load);
 }
 
-/// They were read or written here just now.
-void NivraViewer::acceptStyleFiles() {
-  const NivraWorkspace &workspace = m_loader.workspace();
-  m_reloadOffer->accept(
-      {workspace.filePath(QStringLiteral("plotsettings.ini")), workspace.filePath(QStringLiteral("vfd.csv"))});
+void NivraViewer::setUpSubnets() {
+  connect(m_control.get(), &NetVisControl::subnetWanted, this,
+          [this](const QString &name) { m_subnets->open(name, m_opening->workspace()); });
+  connect(m_subnets, &SubnetWindows::elementMarked, this,
+          [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
+  connect(m_subnets, &SubnetWindows::elementsChanged, this, &NivraViewer::addChange);
+  connect(m_subnets, &SubnetWindows::elementsChanged, m_layers, &LayerKeeper::note);
+  connect(m_subnets, &SubnetWindows::characteristicsWanted, m_tools, &ToolDocks::openCharacteristics);
 }
 
 void NivraViewer::remember(WorkspaceMemory::Keeps keeps) {
@@ -191,7 +197,8 @@ void NivraViewer::setUpCommands() {
 }
 
 QString NivraViewer::openFile() const {
-  return m_loader.workspace().isValid() ? m_loader.workspace().chosenPath() : QString();
+  const NivraWorkspace &workspace = m_opening->workspace();
+  return workspace.isValid() ? workspace.chosenPath() : QString();
 }
 
 QString NivraViewer::openDialogStart(const QString &applicationDir) {
@@ -217,18 +224,15 @@ void NivraViewer::on_actionExit_triggered() {
 }
 
 void NivraViewer::on_actionElement_Table_triggered() {
-  m_tools->showVectorTable();
+  m_tools->windows().showVectorTable();
 }
 
 void NivraViewer::on_actionMetadataTable_triggered() {
-  m_tools->showMetaData();
+  m_tools->windows().showMetaData();
 }
 
 void NivraViewer::on_actionHelp_triggered() {
-  const QWidget *at = QApplication::focusWidget();
-  while (at != nullptr && qobject_cast<const QDockWidget *>(at) == nullptr)
-    at = at->parentWidget();
-  m_tools->showHelp(at == nullptr ? QString() : at->objectName());
+  m_tools->windows().showHelpOfFocus();
 }
 
 void NivraViewer::on_actionAboutNivra_triggered() {
@@ -236,38 +240,22 @@ void NivraViewer::on_actionAboutNivra_triggered() {
 }
 
 void NivraViewer::open(const QString &path) {
-  if (m_progress != nullptr)
+  if (m_opening->reading().isRunning())
     return; // a drop or a shortcut while the network is being read
   if (path.endsWith(QStringLiteral(".qss")))
     applyStyleSheet(path);
   else
-    openWorkspace(path);
+    m_opening->open(path);
 }
 
-std::vector<UnsavedEdits::Kind> NivraViewer::unsavedInSubnets() const {
-  std::vector<UnsavedEdits::Kind> kinds;
-  for (SubnetWindow *window : subnetWindows()) {
-    for (UnsavedEdits::Kind &kind : window->unsaved())
-      kinds.push_back(std::move(kind));
-  }
-  return kinds;
+void NivraViewer::reload() {
+  m_opening->reload();
 }
 
-/// Before another case; nothing is discarded yet.
-UnsavedEdits::Answer NivraViewer::settleChanges() {
-  std::vector<UnsavedEdits::Kind> kinds = m_tools->unsaved();
-  for (UnsavedEdits::Kind &kind : unsavedInSubnets())
-    kinds.push_back(std::move(kind));
-  if (m_layers->isUnsaved())
-    kinds.push_back({tr("layers of elements (%1)").arg(m_layers->count()),
-                     tr("The layers of elements have changes that are not saved. Save them?"), [this] {
-                       return m_layers->save();
-                     }});
-  if (m_loader.workspace().isValid() && !m_memory->keepsSessions() && !m_control->ownStyle().isEmpty())
-    kinds.push_back({tr("how the network is drawn"), tr("How the network is drawn is not saved. Save it?"), [this] {
-                       return m_tools->saveStyle();
-                     }});
-  return UnsavedEdits::settle(kinds);
+/// A window that was to be closed while it read asks now for what is not saved, and goes.
+void NivraViewer::closeIfWanted() {
+  if (std::exchange(m_closesThen, false))
+    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
 void NivraViewer::applyStyleSheet(const QString &path) {
@@ -279,227 +267,6 @@ void NivraViewer::applyStyleSheet(const QString &path) {
     NivraMsg::logWarning(tr("Cannot read the style sheet %1").arg(reason));
 }
 
-bool NivraViewer::resolve(NetworkLoader &loader, const QString &path) {
-  m_ui->statusbar->setStyleSheet(QString());
-  if (loader.resolve(path)) {
-    if (m_loader.workspace().isValid()) // what is open may stay so
-      FileAccess::confineTo(m_loader.workspace().root());
-    return true;
-  }
-  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::Failed));
-  m_ui->statusbar->showMessage(tr("Invalid Workspace"));
-  if (NivraMsg::showsBoxes()) // else the log has said it already
-    NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
-  return false;
-}
-
-void NivraViewer::openWorkspace(const QString &path) {
-  NivraMsg::debug(QStringLiteral("opening file ") + path);
-  const OpeningClock clock;
-  NetworkLoader loader(m_net);
-  if (!resolve(loader, path))
-    return;
-  const UnsavedEdits::Answer answer = settleChanges();
-  if (answer == UnsavedEdits::Answer::Stay)
-    return;
-  if (answer == UnsavedEdits::Answer::Discarded)
-    m_layers->discard();
-  m_memory->keep();
-  m_memory->leave();
-  m_loader.useWorkspaceOf(loader);
-  LastFolder::ofOpening().remember(path); // from wherever it came
-  if (centralWidget() != m_control->plot())
-    setCentralWidget(m_control->plot());
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // which would meet half of two cases
-  loadSettings();
-  if (Settings::StartWithLastScenario.value() && !m_memory->isClean())
-    useLastScenario();
-  const bool done = readWorkspace();
-  m_isRead = done && !m_net.isEmpty();
-  m_layers->enter(m_loader.workspace(), m_loader.layers());
-  m_tools->refresh(m_loader.workspace());
-  showWorkspace(done);
-  if (m_isRead)
-    m_memory->enter(m_loader.workspace());
-  m_reloadOffer->hideBar(); // also where the window was left with it
-  if (m_isRead && !m_memory->isClean() && m_loader.workspace().hasScenario())
-    LastScenario::remember(m_loader.workspace().caseDirectory(), m_loader.workspace().chosenPath());
-  showOutcome(done, clock);
-  closeIfWanted();
-}
-
-/// Tells how the opening went.
-void NivraViewer::showOutcome(bool isRead, const OpeningClock &clock) {
-  constexpr int ShownMs = 20000;
-  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(outcome(isRead)));
-  if (isRead)
-    m_ui->statusbar->showMessage(tr("Startup finished in %1ms").arg(clock.elapsed()), ShownMs);
-  else
-    m_ui->statusbar->showMessage(m_loader.error());
-}
-
-void NivraViewer::reload() {
-  if (m_progress != nullptr || !m_loader.workspace().isValid())
-    return;
-  const OpeningClock clock;
-  NetworkLoader loader(m_net);
-  const QString fault = m_loader.fault(); // what is shown stays as long as nothing can take its place
-  if (!fault.isEmpty() || !loader.resolve(m_loader.workspace().chosenPath())) {
-    m_reloadOffer->tellFault(fault.isEmpty() ? loader.error() : fault);
-    return;
-  }
-  if (UnsavedEdits::settle(unsavedInSubnets()) == UnsavedEdits::Answer::Stay)
-    return;       // those windows go
-  if (m_isRead) { // else there is nothing to be taken, or it is aside since a reading that failed
-    m_memory->takeAside();
-    m_layers->takeAside();
-  }
-  m_loader.useWorkspaceOf(loader);
-  loadSettings();
-  const bool done = readWorkspace();
-  m_isRead = done && !m_net.isEmpty(); // of a broken file nothing may be left
-  m_tools->refresh(m_loader.workspace(), ToolDocks::Edits::Kept);
-  showWorkspace(done);
-  if (m_isRead)
-    comeBack();
-  showOutcome(done, clock);
-  closeIfWanted();
-}
-
-void NivraViewer::comeBack() {
-  if (m_memory->isAside()) {
-    m_layers->comeBack(m_loader.layers());
-    m_memory->comeBack();
-  } else { // it could not be read before
-    m_layers->enter(m_loader.workspace(), m_loader.layers());
-    m_memory->enter(m_loader.workspace());
-  }
-}
-
-/// A window that was to be closed while it read asks now for what is not saved, and goes.
-void NivraViewer::closeIfWanted() {
-  if (std::exchange(m_closesThen, false))
-    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
-}
-
-void NivraViewer::loadSettings() {
-  const QString root = m_loader.workspace().root();
-  m_settingsRead = FileStamp::of(GeneralSettings::settingsFile(root));
-  GeneralSettings::instance().load(root, logFinding);
-  NumberLocale::apply();
-}
-
-ReadFiles::Stamps NivraViewer::filesShown() const {
-  const NivraWorkspace &workspace = m_loader.workspace();
-  ReadFiles::Stamps files = m_loader.files();
-  files.emplace(workspace.filePath(QStringLiteral("plotsettings.ini")), m_control->styleFiles().settings);
-  files.emplace(workspace.filePath(QStringLiteral("vfd.csv")), m_control->styleFiles().labels);
-  files.emplace(GeneralSettings::settingsFile(workspace.root()), m_settingsRead);
-  return files;
-}
-
-/// Beside the drawing.
-void NivraViewer::showWorkspace(bool isRead) {
-  m_control->plot()->setFocus(); // the keys are for the network that was asked for
-  m_reload->setEnabled(true);
-  m_reloadOffer->watch(isRead ? filesShown() : ReadFiles::Stamps());
-  m_tools->setFindings(m_loader.noticed());
-  m_tools->setScenario(m_loader.scenarioSummary());
-  m_tools->setMachines(m_loader.machines(), m_memory->isClean() ? ToolDocks::Pages::New : ToolDocks::Pages::Kept);
-  m_control->setPageFacts(CaseScenarios::facts(m_loader.workspace()), CaseScenarios::of(m_loader.workspace()));
-  showTitle();
-}
-
-/// In place of a case alone the scenario of it that was opened last, where it still belongs to the chosen geometry.
-void NivraViewer::useLastScenario() {
-  const NivraWorkspace &workspace = m_loader.workspace();
-  if (workspace.hasScenario())
-    return;
-  const QString last = LastScenario::of(workspace.caseDirectory());
-  NetworkLoader loader(m_net);
-  if (last.isEmpty() || !loader.resolve(last) || !loader.workspace().hasScenario() ||
-      loader.workspace().geometryPath() != workspace.geometryPath() || loader.workspace().isJson() != workspace.isJson())
-    return;
-  NivraMsg::log(tr("Opening the scenario %1, which was opened last").arg(last));
-  m_loader.useWorkspaceOf(loader);
-}
-
-OutcomeStyle::Outcome NivraViewer::outcome(bool isDone) const {
-  if (!isDone)
-    return m_loader.wasCancelled() ? OutcomeStyle::Outcome::Stopped : OutcomeStyle::Outcome::Failed;
-  for (const FindingList::Group &group : m_loader.noticed()) {
-    for (const Finding &finding : group.findings) {
-      if (finding.severity != Finding::Severity::Information)
-        return OutcomeStyle::Outcome::Acceptable;
-    }
-  }
-  return OutcomeStyle::Outcome::Successful;
-}
-
-bool NivraViewer::readWorkspace() {
-  setBusy(true);
-  m_control->clear();
-  m_loader.readConfiguration();
-  qDeleteAll(subnetWindows()); // parts of the network before
-  m_tools->forgetElements();
-  m_net.clear();
-  m_showingChanges.cancel();
-  m_changes.clear();
-  LoadProgress progress(m_ui->statusbar);
-  m_progress = &progress;
-  NetworkLoader::ReadOptions options;
-  if (Settings::AskForIncludeLists.value())
-    askForIncludeLists(options);
-  options.progress = [&progress](double fraction) {
-    return progress.update(fraction);
-  };
-  options.told = [&progress](const QString &text) {
-    progress.tell(text);
-  };
-  const bool done = m_loader.readNetwork(options);
-  m_progress = nullptr;
-  if (!done)
-    m_net.clear(); // half a network would look like a whole one
-  m_control->setSubnetIcons(m_loader.templateFolder());
-  m_control->setCaption(m_loader.workspace().caption());
-  m_control->showNetData(m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
-  setBusy(false);
-  return done;
-}
-
-void NivraViewer::askForIncludeLists(NetworkLoader::ReadOptions &options) {
-  bool accepted = false;
-  options.includeTypes =
-      QInputDialog::getText(this, tr("Include Types"), tr("Enter include list for types\n(regular expression):"),
-                            QLineEdit::Normal, QString(), &accepted);
-  if (accepted)
-    options.includeProperties =
-        QInputDialog::getText(this, tr("Include Properties"), tr("Enter include list for properties\n(regular expression):"),
-                              QLineEdit::Normal, QString(), &accepted);
-}
-
-void NivraViewer::openSubnet(const QString &name) {
-  for (SubnetWindow *window : subnetWindows()) {
-    if (window->subnet() != name)
-      continue;
-    window->raise();
-    window->activateWindow();
-    return;
-  }
-  auto *window = new SubnetWindow(m_net, name, m_loader.workspace(), m_categories, this);
-  connect(window, &SubnetWindow::elementMarked, this,
-          [this](const QString &picked) { elementAction(picked, NetPicker::EleAction::Mark); });
-  connect(window, &SubnetWindow::elementsChanged, this, &NivraViewer::addChange);
-  connect(window, &SubnetWindow::elementsChanged, m_layers, &LayerKeeper::note);
-  connect(window->visControl(), &NetVisControl::styleFilesNoted, this, &NivraViewer::acceptStyleFiles);
-  connect(window->visControl(), &NetVisControl::openCharacteristicsRequested, m_tools, &ToolDocks::openCharacteristics);
-  window->show();
-}
-
-QList<SubnetWindow *> NivraViewer::subnetWindows() const {
-  return findChildren<SubnetWindow *>(QString(), Qt::FindDirectChildrenOnly);
-}
-
 /// What depends on a change waits for the end of the turn of the event loop, and with it for other changes.
 void NivraViewer::addChange(const ElementChange &change) {
   m_changes.push_back(change);
@@ -507,37 +274,23 @@ void NivraViewer::addChange(const ElementChange &change) {
 }
 
 void NivraViewer::showChanges() {
-  m_loader.computeAgain(std::exchange(m_changes, {}));
-  m_tools->setFindings(m_loader.noticed());
+  m_opening->loader().computeAgain(std::exchange(m_changes, {}));
+  m_opening->showFindings();
   m_tools->showChanges();
   m_control->redraw();
-  for (SubnetWindow *window : subnetWindows())
-    window->takeProperties();
+  m_subnets->takeProperties();
 }
 
 void NivraViewer::on_actionSettings_triggered() {
-  auto *dialog = new SettingsDialog(m_loader.workspace().root(), this);
+  auto *dialog = new SettingsDialog(m_opening->workspace().root(), this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  connect(dialog, &SettingsDialog::applied, this, &NivraViewer::takeSettings);
+  connect(dialog, &SettingsDialog::applied, m_opening.get(), &CaseOpening::takeSettings);
+  connect(dialog, &SettingsDialog::applied, m_language, &LanguageChoice::offerRestart);
   dialog->open();
 }
 
-void NivraViewer::takeSettings() {
-  loadSettings();
-  m_reloadOffer->accept({GeneralSettings::settingsFile(m_loader.workspace().root())});
-  m_language->offerRestart();
-  if (!m_loader.workspace().isValid())
-    return;
-  m_loader.tellBoundsAgain();
-  m_tools->setFindings(m_loader.noticed());
-  m_control->takeSettings();
-  m_tools->takeSettings();
-  for (SubnetWindow *window : subnetWindows())
-    window->takeSettings();
-}
-
 void NivraViewer::showTitle() {
-  const NivraWorkspace &workspace = m_loader.workspace();
+  const NivraWorkspace &workspace = m_opening->workspace();
   QString title = tr("Nivra Reader %1  |  Workspace: %2  |  CASE: %3")
                       .arg(AboutBox::version(), workspace.root(), workspace.currentCase()->name);
   if (workspace.hasScenario())
@@ -591,13 +344,13 @@ void NivraViewer::dropEvent(QDropEvent *event) {
 }
 
 void NivraViewer::closeEvent(QCloseEvent *event) {
-  if (m_progress != nullptr) {
-    m_progress->cancel(); // reading ends at its next step
+  if (m_opening->reading().isRunning()) {
+    m_opening->reading().stop();
     m_closesThen = true;
     event->ignore();
     return;
   }
-  const UnsavedEdits::Answer answer = settleChanges();
+  const UnsavedEdits::Answer answer = m_opening->settle();
   if (answer == UnsavedEdits::Answer::Stay) {
     event->ignore();
     return;
@@ -605,9 +358,6 @@ void NivraViewer::closeEvent(QCloseEvent *event) {
   QMainWindow::closeEvent(event);
   if (event->isAccepted() && !OtherWindows::close(*this))
     event->ignore();
-  if (!event->isAccepted())
-    return;
-  if (answer == UnsavedEdits::Answer::Discarded)
-    m_layers->discard();
-  m_memory->keep();
+  if (event->isAccepted())
+    m_opening->leave(answer);
 }

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "networkloader.h"
-#include "outcomestyle.h"
-#include "unsavededits.h"
 #include "workspacememory.h"
 
 #include <base/onceperturn.h>
@@ -15,22 +12,20 @@
 #include <memory>
 #include <vector>
 
+class CaseOpening;
 class CategoryList;
 class Commands;
 class LanguageChoice;
 class LayerKeeper;
-class LoadProgress;
 class NetVisControl;
-class OpeningClock;
-class ReloadOffer;
-class SubnetWindow;
+class SubnetWindows;
 class ToolDocks;
 
 namespace Ui {
 class NivraViewer;
 }
 
-/// The window: opens workspaces and connects what shows them.
+/// The window: holds the network and connects what opens, shows and changes it.
 class NivraViewer : public QMainWindow {
   Q_OBJECT
 public:
@@ -73,48 +68,29 @@ protected:
 private:
   void setUpForm();
   void setUpFileMenu();
-  void setUpReloading();
-  void acceptStyleFiles();
+  void setUpOpening();
+  void setUpSubnets();
   void setUpCommands();
   void applyStyleSheet(const QString &path);
-  void openWorkspace(const QString &path);
-  void showWorkspace(bool isRead);
-  bool resolve(NetworkLoader &loader, const QString &path);
-  void showOutcome(bool isRead, const OpeningClock &clock);
-  void comeBack();
-  std::vector<UnsavedEdits::Kind> unsavedInSubnets() const;
-  UnsavedEdits::Answer settleChanges();
-  void loadSettings();
-  ReadFiles::Stamps filesShown() const;
   void closeIfWanted();
-  void useLastScenario();
-  OutcomeStyle::Outcome outcome(bool isDone) const;
-  bool readWorkspace();
-  void askForIncludeLists(NetworkLoader::ReadOptions &options);
-  void openSubnet(const QString &name);
-  QList<SubnetWindow *> subnetWindows() const;
   void addChange(const ElementChange &change);
   void showChanges();
-  void takeSettings();
   void showTitle();
   void setBusy(bool busy);
 
   std::unique_ptr<Ui::NivraViewer> m_ui;
   NetData m_net;
   std::unique_ptr<NetVisControl> m_control;
-  NetworkLoader m_loader;
   std::shared_ptr<CategoryList> m_categories;
+  SubnetWindows *m_subnets;
   ToolDocks *m_tools = nullptr;
   LayerKeeper *m_layers;
   WorkspaceMemory *m_memory = nullptr;
-  ReloadOffer *m_reloadOffer;
+  std::unique_ptr<CaseOpening> m_opening;
   QAction *m_reload;
   Commands *m_commands = nullptr;
   std::vector<ElementChange> m_changes; ///< since the last showChanges()
   OncePerTurn m_showingChanges;
-  LoadProgress *m_progress = nullptr; ///< while a workspace is being read
-  FileStamp m_settingsRead;           ///< of the general settings of the workspace
-  bool m_isRead = false;              ///< what is shown: the last reading yielded a network
   LanguageChoice *m_language;
   bool m_restarts = false;
   bool m_closesThen = false; ///< once reading has ended

@@ -74,6 +74,13 @@ QString RecentFiles::file() {
   return LogFiles::directory() + QStringLiteral("/recentfiles.json");
 }
 
+QStringList RecentFiles::paths() const {
+  QStringList paths;
+  for (const RecentFile &file : m_all)
+    paths.append(file.path);
+  return paths;
+}
+
 QStringList RecentFiles::folders() const {
   QStringList folders;
   for (const RecentFile &file : m_all) {

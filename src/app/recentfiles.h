@@ -29,6 +29,7 @@ public:
   static QString file();
 
   const std::vector<RecentFile> &all() const { return m_all; }
+  QStringList paths() const;
   /// The folders of their cases, each once, that are still there: all folders of scenarios are called alike.
   QStringList folders() const;
   void read();

@@ -1,11 +1,9 @@
 #include "recentmenu.h"
 
 #include "recentfiles.h"
-#include "thumbnails.h"
 
 #include <tools/plaintip.h>
 
-#include <QFileInfo>
 #include <QProxyStyle>
 
 namespace {
@@ -35,6 +33,7 @@ RecentMenu::RecentMenu(RecentFiles &files, QWidget *parent)
     , m_files(files) {
   setToolTipsVisible(true);
   connect(this, &QMenu::aboutToShow, this, &RecentMenu::fill);
+  connect(&m_looks, &RecentLooks::seen, this, &RecentMenu::show);
 }
 
 void RecentMenu::fill() {
@@ -45,28 +44,37 @@ void RecentMenu::fill() {
   }
   clear();
   m_files.read();
-  const auto *above = qobject_cast<QMenu *>(parentWidget());
-  const bool isSeen = above == nullptr || above->isVisible(); // else the names alone are asked for, and no disk is
+  m_entries.clear();
   int number = 0;
-  bool isAnyMissing = false;
   for (const RecentFile &file : m_files.all()) {
     if (++number > Shown)
       break;
     QAction *action = addAction(entryText(file, number));
-    if (isSeen)
-      action->setIcon(QIcon(QPixmap::fromImage(Thumbnails::read(file.path))));
-    const bool isThere = !isSeen || QFileInfo(file.path).isFile();
-    isAnyMissing = isAnyMissing || !isThere;
-    action->setEnabled(isThere);
-    action->setToolTip(PlainTip::of(isThere ? file.path : tr("%1 is no longer there").arg(file.path)));
+    m_entries.insert(file.path, action);
     connect(action, &QAction::triggered, this, [this, path = file.path] { emit fileWanted(path); });
   }
-  if (m_files.all().empty()) {
+  if (m_entries.isEmpty()) {
     addAction(tr("No recent files"))->setEnabled(false);
     return;
   }
   addSeparator();
-  QAction *missing = addAction(tr("Remove &Missing Files"), &m_files, &RecentFiles::removeMissing);
-  missing->setEnabled(isAnyMissing || !isSeen);
+  addAction(tr("Remove &Missing Files"), &m_files, &RecentFiles::removeMissing);
   addAction(tr("&Clear List"), &m_files, &RecentFiles::clearAsked);
+  const QStringList paths = m_files.paths();
+  for (const QString &path : paths)
+    show(path);
+  const auto *above = qobject_cast<QMenu *>(parentWidget());
+  if (above == nullptr || above->isVisible()) // else the names alone are asked for
+    m_looks.look(paths);
+}
+
+/// As it was seen last.
+void RecentMenu::show(const QString &path) {
+  QAction *action = m_entries.value(path);
+  if (action == nullptr)
+    return;
+  const bool isThere = m_looks.isThere(path);
+  action->setIcon(QIcon(QPixmap::fromImage(m_looks.picture(path))));
+  action->setEnabled(isThere);
+  action->setToolTip(PlainTip::of(isThere ? path : tr("%1 is no longer there").arg(path)));
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "recentlooks.h"
+
+#include <QHash>
 #include <QMenu>
 
 class RecentFiles;
@@ -18,6 +21,9 @@ signals:
 
 private:
   void fill();
+  void show(const QString &path);
 
   RecentFiles &m_files;
+  RecentLooks m_looks;
+  QHash<QString, QAction *> m_entries; ///< by path
 };

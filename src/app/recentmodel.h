@@ -1,14 +1,12 @@
 #pragma once
 
-#include <QAbstractListModel>
-#include <QHash>
-#include <QImage>
+#include "recentlooks.h"
 
-#include <vector>
+#include <QAbstractListModel>
 
 class RecentFiles;
 
-/// A row for each workspace that was opened. Pictures are read when they are asked for, once.
+/// A row for each workspace that was opened. What disks are asked for comes later.
 class RecentModel final : public QAbstractListModel {
   Q_OBJECT
 public:
@@ -25,6 +23,6 @@ private:
   QString description(int row) const;
 
   const RecentFiles &m_files;
-  std::vector<bool> m_isThere; ///< by row
-  mutable QHash<QString, QImage> m_pictures;
+  RecentLooks m_looks;
+  int m_count = 0;
 };

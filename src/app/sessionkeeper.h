@@ -17,6 +17,8 @@ public:
   /// All of them outlive what this object does.
   SessionKeeper(QMainWindow &window, NetVisControl &control, ToolDocks &tools, LayerKeeper &layers);
 
+  /// How long a change waits to be kept.
+  void setPause(int ms) { m_changed.setInterval(ms); }
   /// Puts back what is kept of the case, and keeps what changes from now on.
   void enter(const NivraWorkspace &workspace);
   /// Keeps it at once.

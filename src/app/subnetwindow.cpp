@@ -1,8 +1,11 @@
 #include "subnetwindow.h"
 
 #include "casescenarios.h"
-#include "mnemonics.h"
+#include "commands.h"
+#include "elementcounts.h"
 #include "tooldocks.h"
+#include "toolwindows.h"
+#include "windowplace.h"
 
 #include <base/finding.h>
 #include <io/nivraworkspace.h>
@@ -31,6 +34,7 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
   setWindowTitle(tr("Subassembly %1").arg(subnet));
   setCentralWidget(m_control->plot());
   resize(Size);
+  new WindowPlace(*this, QStringLiteral("subnet"), parent == nullptr ? *this : *parent);
   m_control->setCaption(workspace.caption() + QStringLiteral(" · ") + subnet);
   m_control->showNetData(workspace.filePath(QStringLiteral("plotsettings.ini")));
   PageFacts facts = CaseScenarios::facts(workspace);
@@ -39,15 +43,12 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
   m_control->plot()->setFocus();
   m_tools->refresh(workspace);
   fillMenus();
-  const QString contents = m_net.isEmpty() ? tr("The subnet has no elements")
-                                           : tr("%1 nodes and %2 edges").arg(m_net.nodes().size()).arg(m_net.edges().size());
-  statusBar()->addPermanentWidget(new QLabel(contents));
+  statusBar()->addPermanentWidget(new QLabel(m_net.isEmpty() ? tr("The subnet has no elements") : ElementCounts::of(m_net)));
   connect(m_tools, &ToolDocks::elementMarked, this, [this](const QString &name) {
     m_control->mark(name);
     emit elementMarked(name);
   });
   connect(m_tools, &ToolDocks::elementsChanged, this, &SubnetWindow::giveProperty);
-  connect(&m_control->actions(), &PlotActions::told, this, [this](const QString &text) { statusBar()->showMessage(text); });
   connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
   connect(m_control.get(), &NetVisControl::elementAction, this, [this](const QString &name, NetPicker::EleAction action) {
     if (action == NetPicker::EleAction::OpenCharacteristics)
@@ -62,14 +63,31 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
 SubnetWindow::~SubnetWindow() = default;
 
 void SubnetWindow::fillMenus() {
+  QMenu *file = menuBar()->addMenu(tr("File"));
+  QAction *savePage = file->addAction(tr("Page &Setup and Save …"), m_control.get(), &NetVisControl::savePage,
+                                      QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_P));
+  file->addAction(tr("&Print …"), m_control.get(), &NetVisControl::print, QKeySequence::Print);
+  file->addSeparator();
+  file->addAction(tr("Close"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_W));
   QMenu *info = menuBar()->addMenu(tr("Info"));
-  info->addAction(tr("Element Table"), m_tools, &ToolDocks::showVectorTable);
-  info->addAction(tr("Metadata Table"), m_tools, &ToolDocks::showMetaData);
+  info->addAction(tr("Element Table"), &m_tools->windows(), &ToolWindows::showVectorTable);
+  info->addAction(tr("Metadata Table"), &m_tools->windows(), &ToolWindows::showMetaData);
   info->addAction(
       tr("SearchElements"), m_tools, [this] { m_tools->search()->enterLastField(); }, QKeySequence::Find);
+  info->addAction(tr("Guide"), &m_tools->windows(), &ToolWindows::showHelpOfFocus, QKeySequence::HelpContents);
   QMenu *view = menuBar()->addMenu(tr("View"));
   connect(view, &QMenu::aboutToShow, m_tools, [this, view] { m_tools->fillViewMenu(*view); });
-  Mnemonics::assign(menuBar()->actions());
+  m_commands = new Commands(*this, *m_control, {menuBar(), file, info, nullptr, savePage});
+  connect(m_commands, &Commands::elementWanted, this, &SubnetWindow::showElement);
+}
+
+void SubnetWindow::showElement(const QString &name) {
+  m_control->mark(name);
+  emit elementMarked(name);
+  if (m_control->showElement(name))
+    m_control->plot()->setFocus();
+  else
+    statusBar()->showMessage(tr("%1 has no place in the drawing").arg(name));
 }
 
 std::vector<UnsavedEdits::Kind> SubnetWindow::unsaved() {

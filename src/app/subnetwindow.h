@@ -11,12 +11,14 @@
 #include <vector>
 
 class CategoryList;
+class Commands;
 class NetVisControl;
 class NivraWorkspace;
 class ToolDocks;
 
 /// A window of its own for one subnet, "Subassembly NAME": its pins, what was made of its template, and what lies between
-/// them, with tools of its own. It shows a copy of that part of the network; what is changed here is changed there too.
+/// them, with commands and tools of its own. It shows a copy of that part of the network; what is changed here is changed
+/// there too.
 class SubnetWindow : public QMainWindow {
   Q_OBJECT
 public:
@@ -48,6 +50,7 @@ protected:
 
 private:
   void fillMenus();
+  void showElement(const QString &name);
   void giveProperty(const ElementChange &change);
 
   NetData &m_whole;
@@ -55,4 +58,5 @@ private:
   NetData m_net;
   std::unique_ptr<NetVisControl> m_control;
   ToolDocks *m_tools;
+  Commands *m_commands = nullptr;
 };

@@ -25,8 +25,10 @@ ToolBar::ToolBar(NetVisControl &control, QAction *open, QMainWindow &window)
   setIconSize(IconSize);
   setAllowedAreas(Qt::TopToolBarArea | Qt::BottomToolBarArea); // upright, the field would make it broad
   const PlotActions &actions = control.actions();
-  addAction(open);
-  addSeparator();
+  if (open != nullptr) {
+    addAction(open);
+    addSeparator();
+  }
   addActions({actions[Act::Back], actions[Act::Forward], actions[Act::WholeNetwork], actions[Act::ToSelection]});
   addSeparator();
   addActions({actions[Act::DragZooms], actions[Act::DragSelects], actions[Act::DragPans], actions[Act::Measure]});

@@ -9,12 +9,12 @@ class NetVisControl;
 class QMainWindow;
 class QToolButton;
 
-/// The tool bar of the main window: the commands that one needs all day, a field that goes to an element by its name, and
-/// what colours edges and nodes.
+/// The tool bar of a window with a drawing: the commands that one needs all day, a field that goes to an element by its
+/// name, and what colours edges and nodes.
 class ToolBar : public QToolBar {
   Q_OBJECT
 public:
-  /// \param open the action that opens a workspace
+  /// \param open the action that opens a workspace; null where there is none
   ToolBar(NetVisControl &control, QAction *open, QMainWindow &window);
 
   /// Gives the keyboard to the field for names.

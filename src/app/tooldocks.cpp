@@ -2,21 +2,19 @@
 
 #include "casescenarios.h"
 #include "consoledock.h"
-#include "helpwindow.h"
+#include "elementpanels.h"
 #include "mnemonics.h"
+#include "panelfocus.h"
 #include "scenariodock.h"
+#include "toolwindows.h"
 
 #include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
-#include <drawing/labelcontents.h>
 #include <io/nivraworkspace.h>
-#include <model/names.h>
 #include <tools/elementtable.h>
-#include <tools/metadatatable.h>
 #include <tools/nivrafindings.h>
 #include <tools/nivranetlayerseditor.h>
 #include <tools/nivranetobjectcats.h>
-#include <tools/nivrapropviewer.h>
 #include <tools/nivrasearch.h>
 #include <tools/nivravectable.h>
 #include <view/netplot.h>
@@ -50,10 +48,11 @@ ToolDocks::ToolDocks(QMainWindow &window, NetVisControl &control, std::shared_pt
     , m_control(control)
     , m_net(control.net())
     , m_categoryList(std::move(categories))
-    , m_extent(extent) {
+    , m_extent(extent)
+    , m_windows(new ToolWindows(window, control.net())) {
   window.installEventFilter(this);
+  connect(m_windows, &ToolWindows::vectorTableMade, this, &ToolDocks::connectVectorTable);
   connect(&control, &NetVisControl::selectionChanged, this, &ToolDocks::showSelection);
-  connect(&control, &NetVisControl::currentElementChanged, this, &ToolDocks::showContents);
   connect(&control, &NetVisControl::configureDrawRequested, this, &ToolDocks::showDrawConfiguration);
   if (extent == Extent::Network)
     return;
@@ -103,8 +102,10 @@ QDockWidget *ToolDocks::addDock(QDockWidget *dock, const QString &name, Qt::Dock
     }
   }
   connect(dock->toggleViewAction(), &QAction::triggered, dock, [dock](bool isShown) {
-    if (isShown)
-      dock->raise();
+    if (!isShown)
+      return;
+    dock->raise();
+    PanelFocus::give(*dock);
   });
   dock->hide(); // the network gets the room; the "View" menu brings it
   m_docks.append(dock);
@@ -131,8 +132,6 @@ void ToolDocks::fillViewMenu(QMenu &menu) {
 
 void ToolDocks::showSelection() {
   const Selection &selection = m_net.selection();
-  if (selection.size() == 1)
-    showContents(marked()); // in place of what the mouse went over
   QStringList parts;
   const auto add = [&parts](int count, const QString &one, const QString &many) {
     if (count > 0)
@@ -150,7 +149,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
   createReports();
   if (m_draw == nullptr)
     createDraw();
-  if (m_propViewer == nullptr)
+  if (m_element == nullptr)
     createElement();
   if (m_layers == nullptr)
     createLayers();
@@ -170,20 +169,13 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
     m_draw->changeUnits(); // the settings may be others too
     m_draw->refreshUntouched();
   }
-  m_shown.clear();
-  m_propViewer->showCurrentEleContents(nullptr);
-  m_info->reset();
+  m_element->reset();
   m_search->clearResults();
-  m_layers->setLayerProperty(m_control.plot()->settings().layerProp);
-  m_layers->on_pushButtonReload_clicked();
+  m_layers->takeNetwork(m_control.plot()->settings().layerProp);
   if (m_extent == Extent::Program && (edits == Edits::Dropped || !m_categoryList->isChanged()))
     m_categoryList->setFile(workspace.filePath(QStringLiteral("catdef.csv")));
   m_directory = QFileInfo(workspace.filePath(QStringLiteral("catdef.csv"))).path();
-  if (m_vectorTable != nullptr) {
-    m_vectorTable->setDirectory(m_directory);
-    m_vectorTable->refresh();
-    m_vectorTable->showValues();
-  }
+  m_windows->takeNetwork(m_directory);
   if (m_elementTable == nullptr)
     createElementTable();
   m_elementTable->refresh(m_directory);
@@ -241,24 +233,28 @@ void ToolDocks::createCategories() {
   m_categories = new NivraNetObjectCats(m_categoryList, &m_window);
   addDock(m_categories, QStringLiteral("categories"), Qt::BottomDockWidgetArea);
   connect(m_categories, &NivraNetObjectCats::showInTable, this,
-          [this](const QString &category) { vectorTable()->on_showCat(category); });
+          [this](const QString &category) { m_windows->vectorTable().on_showCat(category); });
 }
 
-NivraVecTable *ToolDocks::vectorTable() {
-  if (m_vectorTable != nullptr)
-    return m_vectorTable.get();
-  m_vectorTable = std::make_unique<NivraVecTable>(m_net, logFinding);
-  m_vectorTable->setDirectory(m_directory);
-  connect(m_vectorTable.get(), &NivraVecTable::helpWanted, this, &ToolDocks::showHelp);
-  connect(m_vectorTable.get(), &NivraVecTable::elementMarked, this, &ToolDocks::elementMarked);
-  connect(m_vectorTable.get(), &NivraVecTable::characteristicsWanted, &m_control,
-          &NetVisControl::openCharacteristicsRequested);
-  if (m_categories != nullptr) {
-    connect(m_categories, &NivraNetObjectCats::catChanged, m_vectorTable.get(), &NivraVecTable::on_updateCats);
-    m_categories->on_pushButtonUse_clicked();
-  }
-  m_vectorTable->on_pushButtonUpdate_clicked();
-  return m_vectorTable.get();
+void ToolDocks::connectVectorTable(NivraVecTable *table) {
+  connect(table, &NivraVecTable::elementMarked, this, &ToolDocks::elementMarked);
+  connect(table, &NivraVecTable::characteristicsWanted, &m_control, &NetVisControl::openCharacteristicsRequested);
+  if (m_categories == nullptr)
+    return;
+  connect(m_categories, &NivraNetObjectCats::catChanged, table, &NivraVecTable::on_updateCats);
+  m_categories->on_pushButtonUse_clicked();
+}
+
+void ToolDocks::createElement() {
+  m_element = new ElementPanels(m_window, m_control);
+  addDock(m_element->info(), QStringLiteral("elementInformation"), Qt::RightDockWidgetArea);
+  addDock(m_element->properties(), QStringLiteral("propertyViewer"), Qt::RightDockWidgetArea);
+  connect(m_element, &ElementPanels::characteristicsWanted, &m_control, &NetVisControl::openCharacteristicsRequested);
+}
+
+void ToolDocks::showInfo(const QString &name) {
+  if (m_element != nullptr)
+    m_element->bring(name);
 }
 
 std::vector<UnsavedEdits::Kind> ToolDocks::unsaved() {
@@ -287,14 +283,13 @@ void ToolDocks::setHiddenLayers(const QString &property, const QSet<QString> &la
 }
 
 void ToolDocks::showChanges() {
-  m_layers->on_pushButtonReload_clicked();
-  if (m_vectorTable != nullptr)
-    m_vectorTable->showValues();
+  m_layers->takeChanges();
+  m_windows->showChanges();
   m_elementTable->showChanges();
-  m_search->searchAgain();
+  m_search->takeChanges(m_control.showsSearchResults());
   if (m_characteristics != nullptr)
     m_characteristics->refresh(); // the working points
-  showContents(m_shown);
+  m_element->showAgain();
 }
 
 void ToolDocks::takeSettings() {
@@ -304,21 +299,6 @@ void ToolDocks::takeSettings() {
   if (m_scenario != nullptr)
     m_scenario->setScenario(m_summary, *m_net.metaData());
   showChanges();
-}
-
-void ToolDocks::showVectorTable() {
-  NivraVecTable *table = vectorTable();
-  table->show();
-  table->raise();
-  table->activateWindow();
-}
-
-void ToolDocks::showMetaData() {
-  if (m_metaData == nullptr)
-    m_metaData = std::make_unique<MetaDataTable>(m_net);
-  m_metaData->fill(); // formulas of another case may have described other properties
-  m_metaData->show();
-  m_metaData->raise();
 }
 
 void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
@@ -331,12 +311,6 @@ void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
 void ToolDocks::setScenario(const ScenarioSummary &summary) {
   m_summary = summary;
   m_scenario->setScenario(summary, *m_net.metaData());
-}
-
-void ToolDocks::showHelp(const QString &page) {
-  if (m_help == nullptr)
-    m_help = std::make_unique<HelpWindow>();
-  m_help->showPage(page);
 }
 
 void ToolDocks::createDraw() {
@@ -363,83 +337,6 @@ void ToolDocks::showDrawSettings() {
     m_draw->refreshUntouched();
 }
 
-void ToolDocks::createElement() {
-  m_info = new NivraEleInfoWidget([this](const element &e) { return plotLabel(e); });
-  auto *infoDock = new QDockWidget(m_info->windowTitle(), &m_window);
-  infoDock->setWidget(m_info);
-  addDock(infoDock, QStringLiteral("elementInformation"), Qt::RightDockWidgetArea);
-  m_propViewer = new NivraPropViewer(m_net, &m_window);
-  addDock(m_propViewer, QStringLiteral("propertyViewer"), Qt::RightDockWidgetArea);
-  for (const QDockWidget *dock : {infoDock, static_cast<QDockWidget *>(m_propViewer)}) {
-    connect(dock, &QDockWidget::visibilityChanged, this, [this](bool isShown) {
-      if (isShown)
-        showContents(marked());
-    });
-  }
-  connect(m_propViewer, &NivraPropViewer::characteristicsWanted, &m_control, &NetVisControl::openCharacteristicsRequested);
-  connect(&m_control, &NetVisControl::editPropertiesRequested, this, &ToolDocks::showProperties);
-  connect(m_control.picker(), &NetPicker::hovered, this, [this](const QString &name) {
-    if (!name.isEmpty() && m_net.selection().isEmpty()) // what was picked stays until something else is
-      showContents(name);
-  });
-}
-
-NivraEleInfoWidget::PlotLabel ToolDocks::plotLabel(const element &e) const {
-  const LabelContents *contents = m_control.labelContents();
-  if (contents == nullptr)
-    return {};
-  const LabelText text = contents->text(e);
-  const LabelStyle style = contents->style(e, m_net.findElement(e.value(Names::all().name), NetData::AllTypes).first);
-  QStringList lines;
-  for (const QString &line : text.lines)
-    lines.append(line.toHtmlEscaped());
-  return {text.html.isEmpty() ? lines.join(QStringLiteral("<br />")) : text.html, style.font, style.text, style.background};
-}
-
-QString ToolDocks::marked() const {
-  const Selection::Names names = m_net.selection().names();
-  if (names.size() == 1)
-    return *names.cbegin();
-  return names.contains(m_control.currentElement()) ? m_control.currentElement() : QString();
-}
-
-void ToolDocks::showContents(const QString &name) {
-  if (m_propViewer == nullptr)
-    return;
-  m_shown = name;
-  const element *e = m_net.element(name);
-  if (m_propViewer->isVisible())
-    m_propViewer->showCurrentEleContents(e);
-  if (!m_info->isVisible())
-    return;
-  m_info->reset();
-  m_info->showEleLabel(e);
-  m_info->showSubLabel(m_net.assembledSubnets().find(name));
-}
-
-void ToolDocks::showInfo(const QString &name) {
-  if (m_propViewer == nullptr)
-    return;
-  m_info->parentWidget()->show();
-  m_propViewer->show();
-  m_propViewer->raise();
-  showContents(name);
-}
-
-void ToolDocks::showProperties(const QStringList &names) {
-  if (names.isEmpty())
-    return;
-  if (names.size() > 1) { // the viewer shows one at a time; the others are told by the selection
-    Selection selection;
-    for (const QString &name : names)
-      Topology::select(m_net, name, selection);
-    m_control.picker()->setSelection(selection);
-  }
-  m_propViewer->show();
-  m_propViewer->raise();
-  showContents(names.first());
-}
-
 void ToolDocks::createSearch() {
   m_search = new NivraSearch(m_net, logFinding, &m_window);
   addDock(m_search, QStringLiteral("search"), Qt::LeftDockWidgetArea);
@@ -447,12 +344,13 @@ void ToolDocks::createSearch() {
   connect(m_search, &NivraSearch::itemDoubleClicked, this,
           [this](const QModelIndex &item) { m_control.showElement(item.data().toString()); });
   connect(m_search, &NivraSearch::markSearchResults, &m_control, &NetVisControl::selectSearchResults);
+  connect(&m_control.actions(), &PlotActions::searchResultsRequested, m_search, &NivraSearch::catchUp);
   connect(m_search, &NivraSearch::searchCompleted, &m_control, &NetVisControl::refreshSearchResults);
   connect(m_control.picker(), &NetPicker::picked, m_search, &NivraSearch::select);
   connect(m_search, &NivraSearch::definitionChanged, m_categories, &NivraNetObjectCats::updateTempCategory);
   connect(m_search, &NivraSearch::categoryWanted, m_categories,
           [this](const QStringList &definition) { m_categories->addCategory(definition); });
-  connect(m_search, &NivraSearch::showInTable, this, [this] { vectorTable()->on_useSearchConfig(); });
+  connect(m_search, &NivraSearch::showInTable, this, [this] { m_windows->vectorTable().on_useSearchConfig(); });
   connect(m_search, &NivraSearch::characteristicsWanted, &m_control, &NetVisControl::openCharacteristicsRequested);
   connect(m_categories, &NivraNetObjectCats::toSearch, m_search, [this](const QStringList &definition, bool regex) {
     m_search->show();

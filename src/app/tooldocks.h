@@ -6,7 +6,6 @@
 #include <model/elementchange.h>
 #include <model/netdata.h>
 #include <tools/findinglist.h>
-#include <tools/nivraeleinfowidget.h>
 
 #include <QList>
 #include <QObject>
@@ -18,19 +17,18 @@
 
 class CategoryList;
 class CharacteristicsStack;
+class ElementPanels;
 class ElementTable;
-class HelpWindow;
 struct MachineData;
-class MetaDataTable;
 class NetVisControl;
 class NivraFindings;
 class NivraNetLayersEditor;
 class NivraNetObjectCats;
-class NivraPropViewer;
 class NivraSearch;
 class NivraVecTable;
 class NivraWorkspace;
 class ScenarioDock;
+class ToolWindows;
 class QDockWidget;
 class QMainWindow;
 class QMenu;
@@ -74,12 +72,10 @@ public:
   /// After general settings have changed: units and numbers in whatever shows values.
   void takeSettings();
 
-  void showVectorTable();
-  void showMetaData();
+  /// The tools that have windows of their own.
+  ToolWindows &windows() { return *m_windows; }
   /// What is known of the element, in docks that come to the front.
   void showInfo(const QString &name);
-  /// The property viewer, in front, with the first of the elements.
-  void showProperties(const QStringList &names);
   void showDrawConfiguration();
   /// What the drawing's settings are now, where a command changed them.
   void showDrawSettings();
@@ -88,8 +84,6 @@ public:
   /// Whether the pages of machines that were open in the case come back.
   enum class Pages { New, Kept };
   void setMachines(const MachineData &machines, Pages pages);
-  /// The page of the guide about a tool.
-  void showHelp(const QString &page);
   /// What case and scenario say beside the network.
   void setScenario(const ScenarioSummary &summary);
   void setFindings(const std::vector<FindingList::Group> &groups);
@@ -115,21 +109,18 @@ private:
   void createCategories();
   void createCharacteristics();
   void createElementTable();
-  NivraVecTable *vectorTable();
-  void showContents(const QString &name);
-  QString marked() const;
+  void connectVectorTable(NivraVecTable *table);
   void showSelection();
-  NivraEleInfoWidget::PlotLabel plotLabel(const element &e) const;
 
   QMainWindow &m_window;
   NetVisControl &m_control;
   NetData &m_net;
   std::shared_ptr<CategoryList> m_categoryList;
   Extent m_extent;
+  ToolWindows *m_windows;
   QList<QDockWidget *> m_docks; ///< in the order in which they were made
   viewFuncDialog *m_draw = nullptr;
-  NivraEleInfoWidget *m_info = nullptr;
-  NivraPropViewer *m_propViewer = nullptr;
+  ElementPanels *m_element = nullptr;
   CharacteristicsStack *m_characteristics = nullptr;
   NivraFindings *m_findings = nullptr;
   ScenarioDock *m_scenario = nullptr;
@@ -138,11 +129,7 @@ private:
   ElementTable *m_elementTable = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;
   NivraNetObjectCats *m_categories = nullptr;
-  std::unique_ptr<NivraVecTable> m_vectorTable; ///< windows of their own, made when they are asked for
-  std::unique_ptr<MetaDataTable> m_metaData;
-  std::unique_ptr<HelpWindow> m_help;
   ScenarioSummary m_summary;
   QString m_directory;          ///< of the case
-  QString m_shown;              ///< in the docks of an element: the current one, or what the mouse went over
   QStringList m_messagesBefore; ///< those that came before there was a dock for them
 };

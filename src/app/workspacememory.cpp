@@ -19,6 +19,11 @@ WorkspaceMemory::WorkspaceMemory(QMainWindow &window, NetVisControl &control, To
   connect(&m_idle, &QTimer::timeout, this, &WorkspaceMemory::note);
 }
 
+void WorkspaceMemory::setPause(int ms) {
+  m_idle.setInterval(ms);
+  m_session->setPause(ms);
+}
+
 void WorkspaceMemory::enter(const NivraWorkspace &workspace) {
   if (m_keeps == Keeps::Nothing)
     return;
@@ -68,8 +73,5 @@ void WorkspaceMemory::takePicture() {
   if (m_path.isEmpty() || m_isAside || !plot.isVisible() || (!plot.showsAll() && !Thumbnails::read(m_path).isNull()))
     return;
   Thumbnails::write(m_path, plot.picture(Thumbnails::Size));
-  QStringList paths;
-  for (const RecentFile &file : m_recent.all())
-    paths.append(file.path);
-  Thumbnails::keepOnly(paths);
+  Thumbnails::keepOnly(m_recent.paths());
 }

@@ -24,6 +24,8 @@ public:
   WorkspaceMemory(QMainWindow &window, NetVisControl &control, ToolDocks &tools, LayerKeeper &layers);
 
   void setKeeps(Keeps keeps) { m_keeps = keeps; }
+  /// How long what was changed waits to be kept, and an opening to be noted; for tests, which need not spare a disk.
+  void setPause(int ms);
   bool keepsSessions() const { return m_keeps == Keeps::Sessions; }
   /// A case opens as for the first time, and nothing of how it is left is kept.
   bool isClean() const { return m_keeps == Keeps::RecentFiles; }

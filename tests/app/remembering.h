@@ -20,6 +20,8 @@ inline void forgetAll() {
 
 /// Opens a file in a window that keeps everything.
 inline void open(NivraViewer &viewer, const QString &path) {
+  constexpr int PauseMs = 20;
+  viewer.findChild<WorkspaceMemory *>()->setPause(PauseMs);
   viewer.remember(WorkspaceMemory::Keeps::Sessions);
   viewer.open(path);
 }

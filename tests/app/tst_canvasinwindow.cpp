@@ -208,7 +208,7 @@ void TestCanvasInWindow::machinesUnderTheCursorAreOffered() {
     shown->close();
     return texts;
   };
-  QVERIFY2(offered().contains(QStringLiteral("Open Characteristics")), "for the compressor that is drawn there");
+  QVERIFY2(!offered().filter(name).isEmpty(), "for the compressor that is drawn there");
   QCOMPARE(control.net().selection().names(), Selection::Names{name});
   control.picker()->selectAll(); // machines are buried in the selection, but they lie under the cursor
   QVERIFY2(offered().contains(name), qPrintable(offered().join(QLatin1Char('\n'))));

@@ -1,3 +1,6 @@
+#include "canvas/qwtfastplot.h"
+#include "commandlist.h"
+#include "elementfield.h"
 #include "panels.h"
 #include "subnetwindow.h"
 #include "workspacefixture.h"
@@ -11,9 +14,12 @@
 #include <view/netviscontrol.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDockWidget>
 #include <QLabel>
+#include <QMenuBar>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTreeView>
 
@@ -90,6 +96,7 @@ private slots:
   void severalChangesAreDrawnOnce();
   void everythingFollowsAValue();
   void windowsOfSubnetsFollow();
+  void windowsOfSubnetsHaveCommands();
   void anotherCaseForgetsWhatWaits();
   void everyWindowHasOneCurrentElement();
 };
@@ -179,7 +186,11 @@ void TestChanges::everythingFollowsAValue() {
   QCOMPARE(findings->count(), findingsBefore + 1);
   QVERIFY(labelled("150") && !labelled("25"));
   QCOMPARE(rowOf(*table->findChild<QTableView *>()->model(), QStringLiteral("A"), 3), QStringLiteral("300"));
-  QCOMPARE(rowOf(*search->findChild<QTableView *>()->model(), QStringLiteral("A"), 3), QStringLiteral("150"));
+  const QAbstractItemModel &results = *search->findChild<QTableView *>()->model();
+  QCOMPARE(rowOf(results, QStringLiteral("A"), 3), QStringLiteral("25")); // nobody sees it, so nothing was sought
+  search->show();
+  QCOMPARE(rowOf(results, QStringLiteral("A"), 3), QStringLiteral("150"));
+  search->hide();
   const auto *tree = properties.findChild<QTreeView *>();
   const QModelIndexList found = tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole, QStringLiteral("half"), 1,
                                                      Qt::MatchExactly | Qt::MatchRecursive);
@@ -232,6 +243,75 @@ void TestChanges::windowsOfSubnetsFollow() {
   QVERIFY(before != after); // it is no longer found
   window->visControl()->redraw();
   QVERIFY(look() == after);
+}
+
+void TestChanges::windowsOfSubnetsHaveCommands() {
+  const WorkspaceFixture workspace;
+  workspace.writeGeometry(WorkspaceFixture::geometryWithSubnet());
+  NivraViewer viewer;
+  viewer.open(workspace.geometry());
+  emit viewer.visControl()->subnetWanted(QStringLiteral("M"));
+  auto *window = viewer.findChild<SubnetWindow *>();
+  QApplication::setActiveWindow(window);
+  QStringList missing; // as compared with the whole network
+  const std::vector<Command> known = CommandList::of(window->menuBar()->actions(), *window);
+  const QStringList ofTheProgram{QStringLiteral("Open Geom or Scen"),  QStringLiteral("Reload"),
+                                 QStringLiteral("Settings …"),         QStringLiteral("Exit"),
+                                 QStringLiteral("About Nivra Reader"), QStringLiteral("Messages"),
+                                 QStringLiteral("Findings"),           QStringLiteral("Scenario"),
+                                 QStringLiteral("Characteristics"),    QStringLiteral("Open subnet in a window of its own")};
+  for (const Command &command : CommandList::of(viewer.menuBar()->actions(), viewer)) {
+    const bool isThere = std::any_of(known.begin(), known.end(), [&](const Command &other) {
+      return other.text == command.text && (other.key == command.key || command.key.isEmpty());
+    });
+    if (!isThere && !ofTheProgram.contains(command.text) && !command.menu.contains(QStringLiteral("Recent")))
+      missing.append(command.id());
+  }
+  QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QLatin1Char('\n'))));
+  NetPlot &plot = *window->visControl()->plot();
+  const auto selectsByDragging = [](const NetVisControl &control) {
+    return control.actions()[PlotActions::Command::DragSelects]->isChecked();
+  };
+  QTest::keyClick(plot.focusProxy(), Qt::Key_2, Qt::ControlModifier);
+  QVERIFY2(selectsByDragging(*window->visControl()), qPrintable(QApplication::activeWindow()->windowTitle()));
+  QVERIFY(!selectsByDragging(*viewer.visControl()));
+  QTest::keyClick(plot.focusProxy(), Qt::Key_G, Qt::ControlModifier);
+  auto *field = window->findChild<ElementField *>();
+  QTRY_VERIFY(field->hasFocus());
+  QTest::keyClicks(field, QStringLiteral("M_V1\n"));
+  QCOMPARE(window->visControl()->currentElement(), QStringLiteral("M_V1"));
+  QCOMPARE(viewer.visControl()->currentElement(), QStringLiteral("M_V1"));
+  QTest::keyClick(plot.focusProxy(), Qt::Key_T, Qt::ControlModifier);
+  const auto *types = window->findChild<QComboBox *>(QStringLiteral("comboBox_types"));
+  QVERIFY(types != nullptr && types->count() > 2);
+  const QString counts = window->statusBar()->findChild<QLabel *>()->text();
+  for (int i = 0; i < types->count(); ++i) { // its table and its status bar count alike
+    const QStringList words = types->itemText(i).remove(QLatin1Char('(')).remove(QLatin1Char(')')).split(QLatin1Char(' '));
+    const QString told = words.last() + QLatin1Char(' ') + words.first().toLower();
+    const bool isOfOneType = !words.first().startsWith(QStringLiteral("All"));
+    QVERIFY2(!isOfOneType || counts.contains(words.last() == QLatin1String("1") ? told.chopped(1) : told),
+             qPrintable(counts));
+  }
+  const auto cutLabels = [&plot] { // as the dock took a part of the drawing
+    const QRectF canvas(plot.plot()->canvas()->contentsRect());
+    QStringList cut;
+    for (const Label &label : plot.update().labels()) {
+      const Projection projection = plot.update().projection();
+      const QPointF anchor =
+          projection.map(label.position.pointAt(label.spot.along).x(), label.position.pointAt(label.spot.along).y());
+      QRectF box(QPointF(), label.candidate.size);
+      box.moveCenter(anchor + label.spot.offset);
+      if (!canvas.adjusted(-1, -1, 1, 1).contains(box) && label.spot.angle == 0.0)
+        cut.append(QString::number(label.candidate.item.index));
+    }
+    return cut;
+  };
+  window->findChild<NivraSearch *>()->show();
+  QTRY_COMPARE(cutLabels(), QStringList());
+  QVERIFY(!plot.update().labels().empty());
+  plot.setFocus();
+  QTest::keyClick(plot.focusProxy(), Qt::Key_W, Qt::ControlModifier);
+  QTRY_VERIFY(viewer.findChild<SubnetWindow *>() == nullptr);
 }
 
 void TestChanges::anotherCaseForgetsWhatWaits() {

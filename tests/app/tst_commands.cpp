@@ -287,16 +287,21 @@ void TestCommands::paletteFindsAndRuns() {
   auto *list = palette->findChild<QTreeView *>();
   QAbstractItemModelTester tester(list->model());
   QTest::keyClicks(query, QStringLiteral("edge leng"));
-  QCOMPARE(list->currentIndex().data().toString(), QStringLiteral("length [km]"));
+  QCOMPARE(list->currentIndex().data().toString(), QStringLiteral("Edge colour: length [km]"));
   QTest::keyClick(query, Qt::Key_Return);
   QVERIFY(!palette->isVisible());
   QTRY_COMPARE(plot.settings().functions[Aspect::EdgeColor].name, QStringLiteral("pipe length"));
 
   QVERIFY(ask() == palette && palette->isVisible()); // begins with what was used last
   QVERIFY(query->text().isEmpty());
-  QVERIFY(list->model()->index(0, 0).data().toString().startsWith(QStringLiteral("length [km]")));
+  QVERIFY(list->model()->index(0, 0).data().toString().startsWith(QStringLiteral("Edge colour: length [km]")));
   QTest::keyClick(query, Qt::Key_Down);
   QCOMPARE(list->currentIndex().row(), 1);
+  QStringList texts; // whatever it does is told by its text alone
+  for (const Command &known : CommandList::of(viewer.menuBar()->actions(), viewer)) {
+    QVERIFY2(!texts.contains(known.text), qPrintable(known.id()));
+    texts.append(known.text);
+  }
   QTest::keyClicks(query, QStringLiteral("no such words"));
   QVERIFY(!list->isVisible());
   QTest::keyClick(query, Qt::Key_Return);
@@ -375,7 +380,7 @@ void TestCommands::menuKeyBringsTheMenu() {
   QVERIFY(menu != nullptr);
   bool hasMaps = false;
   for (const QAction *entry : menu->actions())
-    hasMaps = hasMaps || Mnemonics::plain(entry->text()) == QStringLiteral("Open Characteristics");
+    hasMaps = hasMaps || Mnemonics::plain(entry->text()) == QStringLiteral("Open Characteristics of K1");
   QVERIFY(hasMaps);
   menu->close();
 }
@@ -392,6 +397,12 @@ void TestCommands::panelsByKey() {
   QVERIFY(canvas(viewer)->hasFocus());
   QTest::keyClick(canvas(viewer), Qt::Key_F6, Qt::ShiftModifier);
   QVERIFY(dock->isAncestorOf(QApplication::focusWidget()));
+
+  // One that is brought takes the keys, of which its list is the first to have use.
+  emit viewer.menuBar()->actions().last()->menu()->aboutToShow();
+  command(viewer, QStringLiteral("Layers Editor"))->trigger();
+  auto *layers = viewer.findChild<QDockWidget *>(QStringLiteral("layers"));
+  QTRY_VERIFY(layers->isAncestorOf(QApplication::focusWidget()));
 }
 
 void TestCommands::nothingWorksWhileANetworkIsRead() {

@@ -77,6 +77,7 @@ private slots:
 private:
   static void rename(NivraViewer &viewer, const QString &name) {
     auto &editor = panelOf<NivraNetLayersEditor>(viewer);
+    editor.show();
     auto *table = editor.findChild<QTableView *>();
     const QModelIndex cell = table->model()->index(0, 1);
     const Answers yes({NivraMsg::Answer::Yes, NivraMsg::Answer::Yes});
@@ -162,6 +163,7 @@ void TestLayerFiles::savedElsewhereIsLoaded() {
   NivraViewer viewer;
   viewer.open(m_workspace->geometry());
   QCOMPARE(layerOf(viewer), QStringLiteral("north"));
+  panelOf<NivraNetLayersEditor>(viewer).show();
   const PathTyped path(file);
   button(viewer, "pushButtonLoad")->click();
   QCOMPARE(layerOf(viewer), QStringLiteral("south"));

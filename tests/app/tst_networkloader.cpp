@@ -99,7 +99,9 @@ void TestNetworkLoader::scenariosBesideTheOpenOneAreReadQuietly() {
   NetData open;
   NetworkLoader loader(open);
   QVERIFY(loader.resolve(workspace.scenario()));
-  const ScenarioSource scenarios = CaseScenarios::of(loader.workspace());
+  std::map<QString, FindingList> noticed;
+  const ScenarioSource scenarios = CaseScenarios::of(
+      loader.workspace(), [&](const QString &scenario, const auto &groups) { noticed[scenario].set(groups); });
   QCOMPARE(scenarios.names(), (QStringList{QStringLiteral("S1"), QStringLiteral("S2"), QStringLiteral("S3")}));
   QCOMPARE(ScenarioFiles::in(workspace.path(QStringLiteral("CASE/S4")), ScenarioFiles::Form::Any),
            workspace.path(QStringLiteral("CASE/S4/S4.scen")));
@@ -109,6 +111,7 @@ void TestNetworkLoader::scenariosBesideTheOpenOneAreReadQuietly() {
     QString reason;
     QVERIFY2(scenarios.read(QLatin1String(name), net, {}, &reason), qPrintable(reason));
     QVERIFY(net.element(QStringLiteral("P1")) != nullptr);
+    QVERIFY(noticed[QLatin1String(name)].count() > 0); // which somebody can look through afterwards
   }
   QVERIFY2(none.areGiven(), qPrintable(none.texts().join(QLatin1Char('\n'))));
   QVERIFY(NivraMsg::showsBoxes());

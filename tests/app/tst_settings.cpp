@@ -401,6 +401,7 @@ void TestSettings::unitFollowsEverywhere() {
   QApplication::processEvents();
   QCOMPARE(shownProperty(viewer, "p"), QStringLiteral("48 bar"));
   auto &search = panelOf<NivraSearch>(viewer);
+  search.show();
   search.defineSearch({QString(), QString(), QStringLiteral("^p$"), QString()}, false);
   QCOMPARE(cells(search, 3), (QStringList{QStringLiteral("50"), QStringLiteral("48"), QStringLiteral("60")}));
   viewer.on_actionElement_Table_triggered();

@@ -8,6 +8,7 @@
 #include <tools/elementtable.h>
 #include <view/netviscontrol.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -111,6 +112,7 @@ private slots:
   void sortsByTheHeader();
   void filtersByTyping();
   void groupsByMouseAndKeys();
+  void groupsAreToldWholeAndStayInSight();
   void isLinkedWithTheDrawing();
   void listsOnlyWhatIsSelected();
   void choosesAndOrdersColumns();
@@ -180,6 +182,16 @@ void TestTableOfElements::sortsByTheHeader() {
   QCOMPARE(shownNames(table.dock()), (QStringList{QStringLiteral("B"), QStringLiteral("A"), QStringLiteral("C")}));
   clickHeader(p);
   QCOMPARE(shownNames(table.dock()), (QStringList{QStringLiteral("C"), QStringLiteral("A"), QStringLiteral("B")}));
+
+  // By keys: the lowest pressure, and where it is.
+  table.click(0, 0);
+  while (table.view().currentIndex().column() < p)
+    QTest::keyClick(&table.view(), Qt::Key_Right);
+  QTest::keyClick(&table.view(), Qt::Key_Up, Qt::AltModifier);
+  QCOMPARE(shownNames(table.dock()), (QStringList{QStringLiteral("B"), QStringLiteral("A"), QStringLiteral("C")}));
+  QCOMPARE(table.view().currentIndex().data(Qt::UserRole).toString(), QStringLiteral("B"));
+  QTest::keyClick(&table.view(), Qt::Key_Down, Qt::AltModifier);
+  QCOMPARE(table.view().currentIndex().data(Qt::UserRole).toString(), QStringLiteral("C"));
 }
 
 void TestTableOfElements::filtersByTyping() {
@@ -240,6 +252,50 @@ void TestTableOfElements::groupsByMouseAndKeys() {
   QCOMPARE(table.rows(), rows - 3);
   QTest::mouseDClick(table.view().viewport(), Qt::LeftButton, Qt::NoModifier, head.center());
   QCOMPARE(table.rows(), rows);
+}
+
+void TestTableOfElements::groupsAreToldWholeAndStayInSight() {
+  const WorkspaceFixture workspace;
+  QByteArray nodes("{\n\"A\":{\"obj_type\":\"node\",\"x\":0,\"y\":0,\"p\":50}\n");
+  for (int i = 0; i < 60; ++i) { // five groups of a long name each
+    const QByteArray number = QByteArray::number(i);
+    nodes += ",\"N" + number + "\":{\"obj_type\":\"node\",\"x\":" + number +
+             ",\"y\":9,\"p\":50,\"comment\":\"a long name of the group " + QByteArray::number(i / 12) + "\"}\n";
+  }
+  workspace.writeGeometry(nodes + "}\n");
+  Table table(workspace.geometry());
+  table.choose(table.types(), QStringLiteral("Nodes"));
+  table.choose(table.groups(), QStringLiteral("Group by comment"));
+  QTableView &view = table.view();
+  view.setColumnWidth(0, 60);
+  Table::settle();
+  const auto inkFrom = [&view](int x) { // of the title, behind the first column
+    const QRect head = view.visualRect(view.model()->index(0, 0));
+    const QImage image = view.viewport()->grab(QRect(x, head.top() + 2, 100, head.height() - 4)).toImage();
+    int dark = 0;
+    for (int row = 0; row < image.height(); ++row) {
+      for (int column = 0; column < image.width(); ++column)
+        dark += qGray(image.pixel(column, row)) < 96 ? 1 : 0;
+    }
+    return dark;
+  };
+  QVERIFY2(inkFrom(64) > 60, qPrintable(QString::number(inkFrom(64))));
+  const auto closeAll = [&table](const char *text) {
+    for (QAction *entry : table.dock().findChildren<QAction *>()) {
+      if (entry->text().remove(QLatin1Char('&')) == QLatin1String(text))
+        entry->trigger();
+    }
+    Table::settle();
+  };
+  const int third = table.row(table.cell(0, 0).replace(QStringLiteral("group 0"), QStringLiteral("group 2")));
+  QVERIFY(third > 0);
+  view.scrollTo(view.model()->index(third + 8, 0), QAbstractItemView::PositionAtTop); // among the nodes of the third
+  closeAll("Close all groups");
+  QVERIFY2(view.currentIndex().data().toString().contains(QStringLiteral("group 2")), "the one that was read");
+  QVERIFY(view.viewport()->rect().intersects(view.visualRect(view.currentIndex())));
+  closeAll("Open all groups");
+  QVERIFY(view.viewport()->rect().intersects(view.visualRect(view.currentIndex())));
+  QCOMPARE(view.rowAt(0), view.currentIndex().row());
 }
 
 void TestTableOfElements::isLinkedWithTheDrawing() {

@@ -1,9 +1,11 @@
 #include "canvas/qwtfastplot.h"
 #include "panels.h"
 #include "subnetwindow.h"
+#include "windowplace.h"
 #include "workspacefixture.h"
 
 #include <base/fileaccess.h>
+#include <base/logfiles.h>
 #include <base/nivramsg.h>
 #include <support/answers.h>
 #include <support/nivratest.h>
@@ -17,10 +19,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTableView>
 #include <QTableWidget>
@@ -57,6 +61,7 @@ class TestToolsInWindow : public QObject {
 
 private slots:
   void panelsShowWhatIsMarkedWhenTheyOpen();
+  void tablesComeBesideAndStayWhereTheyWerePut();
   void drawingStandsStillUnderTheMouse();
   void tableShowsTheNewSearch();
   void publicNamesStandAsPeopleCount();
@@ -68,6 +73,35 @@ private slots:
 private:
   WorkspaceFixture m_workspace;
 };
+
+void TestToolsInWindow::tablesComeBesideAndStayWhereTheyWerePut() {
+  QFile::remove(LogFiles::directory() + QStringLiteral("/windowplaces.json"));
+  const WorkspaceFixture workspace;
+  const QRect own(60, 90, 420, 260);
+  {
+    NivraViewer viewer;
+    viewer.open(workspace.geometry());
+    viewer.setGeometry(200, 150, 500, 400);
+    QWidget *first = new QWidget(&viewer, Qt::Window); // smaller than the screen of a test
+    first->resize(240, 180);
+    new WindowPlace(*first, QStringLiteral("first"), viewer);
+    first->show();
+    const QPoint off = first->geometry().center() - viewer.geometry().center();
+    QVERIFY2(off.manhattanLength() < 5, qPrintable(QStringLiteral("%1 %2").arg(off.x()).arg(off.y())));
+    viewer.on_actionElement_Table_triggered();
+    QVERIFY(viewer.screen()->availableGeometry().contains(vectorTable()->geometry().topLeft()));
+    vectorTable()->setGeometry(own);
+    vectorTable()->close();
+    viewer.on_actionElement_Table_triggered();
+    QCOMPARE(vectorTable()->geometry(), own);
+    vectorTable()->close();
+  }
+  NivraViewer viewer; // the next day
+  viewer.open(workspace.geometry());
+  viewer.on_actionElement_Table_triggered();
+  QCOMPARE(vectorTable()->geometry(), own);
+  vectorTable()->close();
+}
 
 void TestToolsInWindow::panelsShowWhatIsMarkedWhenTheyOpen() {
   NivraViewer viewer;

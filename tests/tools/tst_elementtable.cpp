@@ -289,7 +289,7 @@ void TestElementTable::groupsAndSumsUp() {
   model.groupBy(ElementTableModel::Grouping::Property, QStringLiteral("vis.layer"));
   QCOMPARE(shown(model), QStringLiteral("east (1)|count|sum|mean|min|max|N_2|west (3)|count|sum|mean|min|max|n_1|N_4|N_10|"
                                         "(empty) (1)|count|sum|mean|min|max|N_3"));
-  QCOMPARE(shown(model, 1), QStringLiteral("|1|7.5|7.5|7.5|7.5|7.5||2|100|50|50|50|50|closed|50||0|0||||"));
+  QCOMPARE(shown(model, 1), QStringLiteral("|1|7.5|7.5|7.5|7.5|7.5||2|100|50|50|50|50|closed|50|||||||"));
   model.setFigures({ColumnFigures::Mean});
   model.setCollapsed(2, true); // by a row of the group
   QCOMPARE(shown(model), QStringLiteral("east (1)|mean|west (3)|mean|n_1|N_4|N_10|(empty) (1)|mean|N_3"));
@@ -418,6 +418,17 @@ void TestElementTable::writesWorkbooks() {
   QVERIFY(sheet.contains("state=\"frozen\"") && sheet.contains("<cols>"));
   QVERIFY(part(archive, "xl/styles.xml").contains("<b/>"));
   QVERIFY(WorkbookFile::isWhole(archive));
+  GeneralSettings &settings = GeneralSettings::instance();
+  QVERIFY(settings.setValue(Settings::NumberDigitsInFiles.key(), QStringLiteral("12")));
+  QVERIFY(settings.setValue(Settings::ThousandsInFiles.key(), QStringLiteral("space")));
+  const QString other = folder.filePath(QStringLiteral("rounded.xlsx"));
+  const bool isSaved = table.save(other, TableExport::Format::Workbook, &reason);
+  settings.reset();
+  QVERIFY2(isSaved, qPrintable(reason));
+  const QByteArray rounded = SmallFiles::contents(other); // a spreadsheet shows fewer digits than it has
+  QVERIFY(part(rounded, "xl/styles.xml").contains("formatCode=\"#,##0.000\""));
+  QCOMPARE(cellsOf(part(rounded, "xl/worksheets/sheet1.xml"))[5].section(QLatin1Char(':'), 1).toDouble(),
+           123456789.12345678);
   QVERIFY(!WorkbookFile::isWhole(archive.left(archive.size() - 1)) && !WorkbookFile::isWhole(QByteArray()));
   table.value = [](int, int) {
     return QVariant(QString(40000, QLatin1Char('x')));

@@ -1,5 +1,4 @@
 #include "search/networksearch.h"
-#include "shared/csvfield.h"
 
 #include <base/generalsettings.h>
 #include <model/elementtypes.h>
@@ -319,16 +318,16 @@ void TestNivraSearch::changedElementIsSearchedAgain() {
   table(panel)->setCurrentIndex(cell(panel, 0, 1));
   const QString current = cell(panel, 0, 0).data().toString();
   const QSignalSpy marked(&panel, &NivraSearch::elementMarked);
-  panel.searchAgain();
+  panel.takeChanges(true);
   QCOMPARE(rows(panel), 2);
   QVERIFY(changed.contains(QStringLiteral("isSearchResult")));
   QCOMPARE(table(panel)->currentIndex().siblingAtColumn(0).data().toString(), current);
   QCOMPARE(marked.count(), 0);
   table(panel)->selectAll();
-  panel.searchAgain();
+  panel.takeChanges(true);
   QCOMPARE(table(panel)->selectionModel()->selectedRows().size(), 2); // what was selected stays so
   panel.clearResults();
-  panel.searchAgain(); // for nothing
+  panel.takeChanges(true); // for nothing
   QCOMPARE(rows(panel), 0);
 }
 

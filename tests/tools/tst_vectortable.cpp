@@ -2,6 +2,7 @@
 #include "table/vectorplot.h"
 
 #include <base/generalsettings.h>
+#include <base/settings.h>
 #include <support/contextmenu.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
@@ -122,11 +123,15 @@ void TestVectorTable::exportsRows() {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   const VectorRows::Exported table{
-      {QStringLiteral("name\n(a)"), QStringLiteral("value")},
+      {QStringLiteral("name\n(a)"), QStringLiteral("value"), QStringLiteral("note"), QStringLiteral("other")},
       {{QStringLiteral("A.1"), QStringLiteral("1.5"), QStringLiteral("say \"ü\""), QStringLiteral("-1.5e-3")}},
       {1, 3}};
-  QVERIFY(VectorRows::write(buffer, table, true));
-  QCOMPARE(buffer.data(), QByteArray("\"name (a)\";\"value\";\n\"A.1\";\"1,5\";\"say \"\"ü\"\"\";\"-1,5e-3\";\n"));
+  QVERIFY(GeneralSettings::instance().setValue(Settings::UseComma.key(), QStringLiteral("1")));
+  const bool isWritten = VectorRows::write(buffer, table);
+  GeneralSettings::instance().reset();
+  QVERIFY(isWritten);
+  QCOMPARE(buffer.data(),
+           QByteArray("\"name (a)\";\"value\";\"note\";\"other\";\n\"A.1\";\"1,5\";\"say \"\"ü\"\"\";\"-1,5e-3\";\n"));
 }
 
 void TestVectorTable::cellsAreNoFormulas_data() {
@@ -155,7 +160,7 @@ void TestVectorTable::cellsAreNoFormulas_data() {
 void TestVectorTable::cellsAreNoFormulas() {
   QFETCH(QString, text);
   QFETCH(QString, field);
-  QCOMPARE(CsvField::quoted(text), field);
+  QCOMPARE(CsvField::quoted(text) + QLatin1Char(';'), field);
 }
 
 namespace {

@@ -531,7 +531,7 @@ void TestNetPicker::selectionMenu() {
     return texts(contextMenu);
   };
   const QSignalSpy opened(&f.control, &NetVisControl::openCharacteristicsRequested);
-  const QString characteristics = QStringLiteral("Open Characteristics");
+  const QString characteristics = QStringLiteral("Open Characteristics of CD");
   QMenu ofPipe;
   f.control.picker()->markElement(QStringLiteral("AB"));
   const QStringList pipe = fill(ofPipe);

@@ -1,4 +1,5 @@
 #include <base/fileaccess.h>
+#include <base/index.h>
 #include <base/textdecoding.h>
 #include <base/wholefile.h>
 #include <tools/category.h>
@@ -67,24 +68,39 @@ QString writtenLine(const Category &c) {
   return (c.isChecked ? CheckedMark : QString()) + fields.join(QLatin1Char(';'));
 }
 
+struct Line {
+  QString text; ///< without what ends it
+  bool isComment = false;
+  std::optional<Category> category;
+};
+
+std::vector<Line> linesOf(const QString &text) {
+  QStringList texts = text.split(QLatin1Char('\n'));
+  if (texts.last().isEmpty())
+    texts.removeLast();
+  std::vector<Line> lines;
+  lines.reserve(fromQt(texts.size()));
+  for (QString &line : texts) {
+    if (line.endsWith(QLatin1Char('\r')))
+      line.chop(1);
+    const bool isNone = isComment(line);
+    lines.push_back({line, isNone, isNone ? std::nullopt : parsed(line)});
+  }
+  return lines;
+}
+
 /// What a file holds that is no category: lines, which stay behind as many categories as before, and fields behind those of
 /// a category, which stay with its name.
 class Remainder {
 public:
   explicit Remainder(const QString &text) {
-    QStringList lines = text.split(QLatin1Char('\n'));
-    if (lines.last().isEmpty())
-      lines.removeLast();
     int before = 0; // categories
-    for (QString &line : lines) {
-      if (line.endsWith(QLatin1Char('\r')))
-        line.chop(1);
-      const std::optional<Category> category = isComment(line) ? std::nullopt : parsed(line);
-      if (category) {
+    for (const Line &line : linesOf(text)) {
+      if (line.category) {
         ++before;
-        m_fields[category->category].append(line.section(QLatin1Char(';'), Fields));
+        m_fields[line.category->category].append(line.text.section(QLatin1Char(';'), Fields));
       } else {
-        m_lines[before].append(line);
+        m_lines[before].append(line.text);
       }
     }
   }
@@ -122,14 +138,12 @@ std::vector<Category> CategoryFile::read(const QString &path, const Told &told) 
     return categories;
   }
   int number = 0;
-  for (const QString &line : TextDecoding::decoded(*content, path, told).split(QLatin1Char('\n'))) {
+  for (const Line &line : linesOf(TextDecoding::decoded(*content, path, told))) {
     ++number;
-    if (isComment(line))
-      continue;
-    if (const std::optional<Category> category = parsed(line))
-      categories.push_back(*category);
-    else if (told)
-      told({Finding::Severity::Warning, path, number,
+    if (line.category)
+      categories.push_back(*line.category);
+    else if (!line.isComment && told)
+      told({Finding::Severity::Warning, path, number, 
             QCoreApplication::translate("CategoryFile", "Line contains less than 5 entries!")});
   }
   return categories;

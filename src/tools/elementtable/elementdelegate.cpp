@@ -37,14 +37,15 @@ void ElementDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
   style.drawControl(QStyle::CE_ItemViewItem, &shown, painter, option.widget); // the ground
   const bool isSelected = (shown.state & QStyle::State_Selected) != 0;
   const QRect beside = shown.rect.adjusted(ArrowWidth, 0, -2, 0);
-  painter->save();
-  painter->setFont(shown.font);
-  painter->setPen(shown.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
-  painter->drawText(beside, Qt::AlignLeft | Qt::AlignVCenter,
-                    shown.fontMetrics.elidedText(text, Qt::ElideRight, beside.width()));
-  painter->restore();
-  if (line != RowArrangement::Line::Head)
+  if (line == RowArrangement::Line::Figure) {
+    painter->save();
+    painter->setFont(shown.font);
+    painter->setPen(shown.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+    painter->drawText(beside, Qt::AlignLeft | Qt::AlignVCenter,
+                      shown.fontMetrics.elidedText(text, Qt::ElideRight, beside.width()));
+    painter->restore();
     return;
+  }
   constexpr int Margin = 4;
   QStyleOption arrow;
   arrow.palette = shown.palette;

@@ -3,7 +3,7 @@
 #include "shared/numberdelegate.h"
 
 /// Cells of the element table: numbers rounded for the eye, rows marked that are selected in the drawing, heads and figures
-/// of groups set apart.
+/// of groups set apart. The titles of groups are left to the view, as they need more than a cell.
 class ElementDelegate : public NumberDelegate {
   Q_OBJECT
 public:

@@ -290,8 +290,11 @@ double ElementTableModel::cellNumber(const RowArrangement::Line &line, int colum
   const ElementColumn &of = this->column(column);
   if (line.what == RowArrangement::Line::Element)
     return of.numbers()[line.index];
-  const bool isFigure = line.what == RowArrangement::Line::Figure && column > 0 && of.hasNumbers();
-  return isFigure ? m_arrangement.figures(line.index, of).value(line.figure) : std::numeric_limits<double>::quiet_NaN();
+  constexpr double Nothing = std::numeric_limits<double>::quiet_NaN();
+  if (line.what != RowArrangement::Line::Figure || column == 0 || !of.hasNumbers())
+    return Nothing;
+  const ColumnFigures &figures = m_arrangement.figures(line.index, of);
+  return figures.count() == 0 ? Nothing : figures.value(line.figure); // a group without such numbers counts none
 }
 
 QString ElementTableModel::cellText(const RowArrangement::Line &line, int column) const {

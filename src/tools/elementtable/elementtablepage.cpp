@@ -136,6 +136,9 @@ void ElementTablePage::makeActions() {
   addAction(tr("Copy this c&ell"), QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_C), &ElementTablePage::copyCell);
   addAction(tr("&Filter this column"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_L), &ElementTablePage::enterFilter);
   addAction(tr("Show &all rows"), QKeySequence(), &ElementTablePage::endFilters);
+  addAction(tr("Sort by this column, &smallest first"), QKeySequence(Qt::ALT + Qt::Key_Up), &ElementTablePage::sortUp);
+  addAction(tr("Sort by this column, &largest first"), QKeySequence(Qt::ALT + Qt::Key_Down), &ElementTablePage::sortDown);
+  addAction(tr("&Group by this column"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_G), &ElementTablePage::groupByColumn);
   m_view->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(m_view, &QWidget::customContextMenuRequested, this, [this](const QPoint &position) {
     QMenu menu;
@@ -199,8 +202,8 @@ void ElementTablePage::makeGroupMenu(QMenu &menu) {
     });
   }
   menu.addSeparator();
-  connect(menu.addAction(tr("&Open all groups")), &QAction::triggered, this, [this] { m_model.collapseAll(false); });
-  connect(menu.addAction(tr("&Close all groups")), &QAction::triggered, this, [this] { m_model.collapseAll(true); });
+  connect(menu.addAction(tr("&Open all groups")), &QAction::triggered, m_view, [this] { m_view->collapseAll(false); });
+  connect(menu.addAction(tr("&Close all groups")), &QAction::triggered, m_view, [this] { m_view->collapseAll(true); });
 }
 
 void ElementTablePage::forget() {
@@ -415,6 +418,19 @@ void ElementTablePage::fillChooser() {
 
 void ElementTablePage::enterFilter() {
   m_view->filters()->enter(std::max(0, m_view->currentIndex().column()));
+}
+
+void ElementTablePage::sortBy(Qt::SortOrder order) {
+  const int column = std::max(0, m_view->currentIndex().column());
+  m_view->sortByColumn(column, order);
+  m_view->selectionModel()->setCurrentIndex(m_model.index(0, column), QItemSelectionModel::NoUpdate);
+  m_view->scrollToTop();
+}
+
+void ElementTablePage::groupByColumn() {
+  const int column = m_view->currentIndex().column();
+  if (column > 0)
+    chooseGroup(m_groups->findData(m_model.column(column).key().name()));
 }
 
 void ElementTablePage::endFilters() {

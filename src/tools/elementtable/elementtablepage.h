@@ -85,6 +85,10 @@ private:
   void hideColumn(int column);
   void enterFilter();
   void endFilters();
+  void sortUp() { sortBy(Qt::AscendingOrder); }
+  void sortDown() { sortBy(Qt::DescendingOrder); }
+  void sortBy(Qt::SortOrder order);
+  void groupByColumn();
   void orderByHeader();
   void copyRows() { copy(false); }
   void copyWithHeader() { copy(true); }

@@ -47,13 +47,55 @@ void ElementTableView::setHint(const QString &hint) {
 
 void ElementTableView::paintEvent(QPaintEvent *event) {
   QTableView::paintEvent(event);
-  if (m_hint.isEmpty() || m_model == nullptr || m_model->rowCount() > 0)
+  if (m_model == nullptr)
+    return;
+  QPainter painter(viewport());
+  if (m_model->rowCount() > 0) {
+    paintTitles(painter);
+    return;
+  }
+  if (m_hint.isEmpty())
     return;
   constexpr int Margin = 12;
-  QPainter painter(viewport());
   painter.setPen(palette().color(QPalette::PlaceholderText));
   painter.drawText(viewport()->rect().adjusted(Margin, Margin, -Margin, -Margin), Qt::AlignCenter | Qt::TextWordWrap,
                    m_hint);
+}
+
+/// Those of groups have the whole width of their row, in which nothing else stands, and stay where the row is scrolled.
+void ElementTableView::paintTitles(QPainter &painter) const {
+  constexpr int Margin = 4; // px
+  QFont bold = font();
+  bold.setBold(true);
+  painter.setFont(bold);
+  const QFontMetrics metrics(bold);
+  for (int row = std::max(0, rowAt(0)); row < m_model->rowCount(); ++row) {
+    const int top = rowViewportPosition(row);
+    if (top >= viewport()->height())
+      return;
+    if (m_model->line(row).what != RowArrangement::Line::Head)
+      continue;
+    const QModelIndex at = m_model->index(row, 0);
+    const int left = std::max(columnViewportPosition(0) + ElementDelegate::ArrowWidth, Margin);
+    const QRect place(left, top, viewport()->width() - left - Margin, rowHeight(row));
+    painter.setPen(palette().color(selectionModel()->isSelected(at) ? QPalette::HighlightedText : QPalette::ButtonText));
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
+                     metrics.elidedText(at.data().toString(), Qt::ElideRight, place.width()));
+  }
+}
+
+void ElementTableView::collapseAll(bool areCollapsed) {
+  const int top = m_model->headOf(std::min(std::max(0, rowAt(0)), m_model->rowCount() - 1));
+  const Index group = top < 0 ? NoIndex : m_model->line(top).index;
+  m_model->collapseAll(areCollapsed);
+  for (int row = 0; row < m_model->rowCount(); ++row) {
+    if (m_model->line(row).what != RowArrangement::Line::Head || m_model->line(row).index != group)
+      continue;
+    const QModelIndex head = m_model->index(row, 0);
+    selectionModel()->setCurrentIndex(head, QItemSelectionModel::NoUpdate);
+    scrollTo(head, PositionAtTop);
+    return;
+  }
 }
 
 bool ElementTableView::isHead(const QModelIndex &at) const {
@@ -76,8 +118,10 @@ void ElementTableView::keyPressEvent(QKeyEvent *event) {
   const QModelIndex at = currentIndex();
   const int key = event->key();
   const bool isReturn = key == Qt::Key_Return || key == Qt::Key_Enter;
-  if (event->matches(QKeySequence::Copy)) {
-    event->ignore(); // for the page, which copies rows
+  const bool isForThePage = event->matches(QKeySequence::Copy) || // of rows; and for sorting
+                            (event->modifiers() == Qt::AltModifier && (key == Qt::Key_Up || key == Qt::Key_Down));
+  if (isForThePage) {
+    event->ignore();
   } else if (event->modifiers() == (Qt::AltModifier | Qt::ShiftModifier) && (key == Qt::Key_Left || key == Qt::Key_Right)) {
     emit columnMoveWanted(at.column(), key == Qt::Key_Left ? -1 : 1);
   } else if (isHead(at) && (isReturn || key == Qt::Key_Space)) {
@@ -86,6 +130,8 @@ void ElementTableView::keyPressEvent(QKeyEvent *event) {
     event->accept();
   } else if (isReturn && at.isValid()) {
     const QString name = at.data(ElementTableModel::ElementRole).toString();
+    if (!selectionModel()->isRowSelected(at.row(), QModelIndex()))
+      setCurrentIndex(at); // the cursor had been moved without
     if (!name.isEmpty())
       emit elementActivated(name);
   } else {

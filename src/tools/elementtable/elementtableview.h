@@ -19,6 +19,8 @@ public:
   void setHint(const QString &hint);
   /// Brings the column into sight.
   void showColumn(int column);
+  /// Opens or closes all groups; the group that stood at the top still does.
+  void collapseAll(bool areCollapsed);
 
 signals:
   void elementActivated(const QString &name); ///< by a double click or Return
@@ -35,6 +37,7 @@ protected:
 private:
   bool toggle(const QModelIndex &at, bool isCollapsed);
   bool isHead(const QModelIndex &at) const;
+  void paintTitles(QPainter &painter) const;
 
   ElementTableModel *m_model = nullptr;
   FilterHeader *m_filters;

@@ -108,7 +108,11 @@ void SelectionLink::mirror() {
   if (current < 0)
     return;
   const QModelIndex index = m_model.index(current, std::min(m_currentColumn, lastColumn));
+  m_view.setAutoScroll(false);
   m_view.selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+  m_view.setAutoScroll(true);
+  if (!m_model.isMarked(current))
+    return; // where the cursor merely stood nobody looks for it
   const int across = m_view.horizontalScrollBar()->value();
   m_view.scrollTo(index);
   m_view.horizontalScrollBar()->setValue(across); // where a person types a filter

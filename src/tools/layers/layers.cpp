@@ -38,11 +38,34 @@ bool Layers::isChangeable(PropertyKey property) {
 void Layers::add(const QStringList &names, const QString &layer) {
   if (!canChange())
     return;
+  const PropertyKey key = PropertyKey::intern(m_property);
+  QMap<QString, QSet<QString>> left;
+  QStringList come;
   for (const QString &name : names) {
-    if (element *e = m_net.element(name))
-      e->set(m_property, layer);
+    element *e = m_net.element(name);
+    const QString before = e == nullptr ? layer : e->value(key);
+    if (before == layer)
+      continue;
+    e->set(key, layer);
+    come.append(e->value(Names::all().name));
+    left[before].insert(come.last());
   }
-  rebuild();
+  for (auto it = left.cbegin(); it != left.cend(); ++it)
+    takeFrom(it.key(), it.value());
+  if (!come.isEmpty() && !layer.isEmpty())
+    m_layers[layer] += come;
+}
+
+void Layers::takeFrom(const QString &layer, const QSet<QString> &names) {
+  const auto entry = m_layers.find(layer);
+  if (entry == m_layers.end())
+    return;
+  QStringList &members = *entry;
+  members.erase(
+      std::remove_if(members.begin(), members.end(), [&names](const QString &name) { return names.contains(name); }),
+      members.end());
+  if (members.isEmpty())
+    m_layers.erase(entry);
 }
 
 void Layers::rename(const QString &layer, const QString &newName) {
@@ -54,12 +77,11 @@ QStringList Layers::remove(const QSet<QString> &layers) {
   if (!canChange())
     return names;
   for (const QString &layer : layers)
-    names += m_layers.value(layer);
+    names += m_layers.take(layer);
   for (const QString &name : qAsConst(names)) {
     if (element *e = m_net.element(name))
       e->erase(m_property);
   }
-  rebuild();
   return names;
 }
 

@@ -51,6 +51,26 @@ void NivraNetLayersEditor::setLayerProperty(const QString &property) {
   on_lineEditProperty_editingFinished();
 }
 
+void NivraNetLayersEditor::takeNetwork(const QString &layerProperty) {
+  m_ui->lineEditProperty->setText(layerProperty);
+  if (layerProperty != m_layers.property())
+    on_lineEditProperty_editingFinished(); // which looks as well
+  else
+    on_pushButtonReload_clicked();
+}
+
+void NivraNetLayersEditor::takeChanges() {
+  m_isStale = true;
+  if (isVisible())
+    on_pushButtonReload_clicked();
+}
+
+void NivraNetLayersEditor::showEvent(QShowEvent *event) {
+  if (m_isStale)
+    on_pushButtonReload_clicked();
+  QDockWidget::showEvent(event);
+}
+
 void NivraNetLayersEditor::on_lineEditProperty_editingFinished() {
   if (m_ui->lineEditProperty->text() == m_layers.property())
     return;
@@ -79,6 +99,7 @@ void NivraNetLayersEditor::tellOfLayers(const QStringList &names) {
 }
 
 void NivraNetLayersEditor::on_pushButtonReload_clicked() {
+  m_isStale = false;
   m_layers.rebuild();
   fill();
 }

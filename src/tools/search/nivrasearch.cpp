@@ -9,7 +9,6 @@
 
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
-#include <base/settings.h>
 #include <base/wholefile.h>
 #include <model/names.h>
 #include <tools/nivrasearch.h>
@@ -22,6 +21,8 @@
 #include <QMetaMethod>
 #include <QMimeData>
 #include <QRegularExpression>
+
+#include <utility>
 
 namespace {
 
@@ -115,6 +116,7 @@ void NivraSearch::searchWithFormula() {
     m_searchString.clear();
   }
   m_results->clear();
+  m_isStale = false;
   m_lastSearch = searchParams();
   QElapsedTimer timer;
   timer.start();
@@ -136,8 +138,19 @@ void NivraSearch::showCount() {
   m_ui->label_found->setText(tr("Found: %1").arg(m_results->rows().size()));
 }
 
-void NivraSearch::searchAgain() {
-  if (!m_lastSearch)
+void NivraSearch::takeChanges(bool areResultsDrawn) {
+  m_isStale = true;
+  if (areResultsDrawn || isVisible())
+    catchUp();
+}
+
+void NivraSearch::showEvent(QShowEvent *event) {
+  catchUp();
+  QDockWidget::showEvent(event);
+}
+
+void NivraSearch::catchUp() {
+  if (!std::exchange(m_isStale, false) || !m_lastSearch)
     return;
   NetworkSearch::Result result = NetworkSearch(m_net, *m_lastSearch).run();
   m_results->update(std::move(result.rows));
@@ -278,10 +291,7 @@ bool NivraSearch::save(const QString &path, QString *reason) const {
   params.formula = m_reportedFormula;
   return WholeFile::write(
       path, FileAccess::Source::Trusted,
-      [&](QIODevice &device, QString *) {
-        return SearchTable::write(device, params, m_results->rows(), Settings::UseComma.value());
-      },
-      reason);
+      [&](QIODevice &device, QString *) { return SearchTable::write(device, params, m_results->rows()); }, reason);
 }
 
 void NivraSearch::on_pushButton_addCat_clicked() {

@@ -59,14 +59,20 @@ void SearchResults::update(std::vector<SearchRow> rows) {
   m_model.setRows(std::move(rows));
   if (!current && selected.empty())
     return;
+  std::set<Subject> sought = selected; // no longer than until all are found
+  if (current)
+    sought.insert(*current);
   QItemSelection selection;
-  for (int row = 0; row < m_model.rowCount(); ++row) {
-    const Subject subject = subjectOf(row);
+  for (int row = 0; row < m_model.rowCount() && !sought.empty(); ++row) {
+    const auto found = sought.find(subjectOf(row));
+    if (found == sought.end())
+      continue;
     const QModelIndex index = m_model.index(row, SearchResultsModel::NameColumn);
-    if (selected.count(subject) > 0)
+    if (selected.count(*found) > 0)
       selection.select(index, index);
-    if (subject == current)
+    if (*found == current)
       m_view.selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    sought.erase(found);
   }
   m_view.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }

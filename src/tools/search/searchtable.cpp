@@ -1,6 +1,8 @@
 #include "search/searchtable.h"
 
-#include "shared/csvfield.h"
+#include "shared/tableexport.h"
+
+#include <base/index.h>
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -19,7 +21,16 @@ QString SearchTable::title(int column) {
   return QCoreApplication::translate("SearchTable", Titles.at(static_cast<std::size_t>(column)));
 }
 
-bool SearchTable::write(QIODevice &device, const SearchParams &params, const std::vector<SearchRow> &rows, bool useComma) {
+bool SearchTable::write(QIODevice &device, const SearchParams &params, const std::vector<SearchRow> &rows) {
+  TableExport table;
+  table.headers = headers();
+  table.rows = toQt(rows.size());
+  table.valueColumns = {3};
+  table.value = [&rows](int row, int column) {
+    const SearchRow &of = rows[fromQt(row)];
+    const std::array<const QString *, 5> cells{&of.name, &of.type, &of.property, &of.value, &of.unit};
+    return QVariant(*cells[fromQt(column)]);
+  };
   QTextStream stream(&device);
   stream.setCodec("ISO-8859-1");
   const std::pair<QString, QString> restrictions[] = {{QStringLiteral("SearchString:"), params.searchString},
@@ -30,14 +41,7 @@ bool SearchTable::write(QIODevice &device, const SearchParams &params, const std
   for (const auto &[label, text] : restrictions)
     stream << label << ";\"" << text << "\";\n"; // quotes inside are not doubled here
   stream << '\n';
-  for (const QString &header : headers())
-    stream << CsvField::quoted(header);
-  stream << '\n';
-  for (const SearchRow &row : rows) {
-    for (const QString &text : {row.name, row.type, row.property, CsvField::value(row.value, useComma), row.unit})
-      stream << CsvField::quoted(text);
-    stream << '\n';
-  }
+  table.writeRows(stream, TableExport::Format::Quoted, TableExport::Header::Written);
   stream.flush();
   return stream.status() == QTextStream::Ok;
 }

@@ -13,8 +13,7 @@ namespace SearchTable {
 QStringList headers();
 QString title(int column); ///< the header, in the language of the program
 /// \param rows in the order in which they are shown
-/// \param useComma decimal commas in the values
 /// False when the device does not take it.
-bool write(QIODevice &device, const SearchParams &params, const std::vector<SearchRow> &rows, bool useComma);
+bool write(QIODevice &device, const SearchParams &params, const std::vector<SearchRow> &rows);
 
 } // namespace SearchTable

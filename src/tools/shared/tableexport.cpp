@@ -3,6 +3,7 @@
 #include "shared/csvfield.h"
 #include "shared/workbookfile.h"
 
+#include <base/settings.h>
 #include <base/wholefile.h>
 #include <model/displayformat.h>
 #include <model/propertytext.h>
@@ -11,57 +12,66 @@
 
 namespace {
 
+using Format = TableExport::Format;
+
+/// How cells become lines of text.
 struct Style {
   QLatin1Char separator;
-  QLatin1Char decimalSign;
-  bool isForFile; ///< with the digits that people chose for files; else with all of them
+  bool hasComma;     ///< as decimal sign
+  bool isQuoted;     ///< every cell, and the separator stands behind the last one as well
+  bool hasAllDigits; ///< else those that people chose for files
 };
 
-Style styleOf(TableExport::Format format) {
-  if (format == TableExport::Format::CommaCsv)
-    return {QLatin1Char(';'), QLatin1Char(','), true};
-  return {QLatin1Char(format == TableExport::Format::PointCsv ? ',' : '\t'), QLatin1Char('.'), true};
+Style styleOf(Format format) {
+  switch (format) {
+  case Format::Quoted:
+    return {QLatin1Char(';'), Settings::UseComma.value(), true, false};
+  case Format::CommaCsv:
+    return {QLatin1Char(';'), true, false, false};
+  case Format::PointCsv:
+    return {QLatin1Char(','), false, false, false};
+  default:
+    return {QLatin1Char('\t'), false, false, false};
+  }
 }
 
-/// In quotes where something in it would be taken for the end of the cell.
-QString textField(const QString &text, QLatin1Char separator) {
-  QString field = CsvField::harmless(text);
-  const bool needsQuotes = field.contains(separator) || field.contains(QLatin1Char('"')) ||
-                           field.contains(QLatin1Char('\n')) || field.contains(QLatin1Char('\r')) ||
-                           field != field.trimmed();
-  return needsQuotes ? QLatin1Char('"') + field.replace(QLatin1Char('"'), QStringLiteral("\"\"")) + QLatin1Char('"') : field;
-}
-
-QString field(const QVariant &value, Style style) {
+QString cell(const ExportedTable &table, int row, int column, const Style &style) {
+  const QVariant value = table.value(row, column);
   if (value.type() != QVariant::Double)
-    return textField(value.toString(), style.separator);
-  QString number = PropertyText::shortest(value.toDouble()).toString();
-  if (style.isForFile)
-    return textField(DisplayFormat::inFile(number, style.decimalSign == QLatin1Char(',')), style.separator);
-  return number.replace(QLatin1Char('.'), style.decimalSign);
+    return table.valueColumns.contains(column) ? DisplayFormat::inFile(value.toString(), style.hasComma) : value.toString();
+  const QString number = PropertyText::shortest(value.toDouble()).toString();
+  return style.hasAllDigits ? number : DisplayFormat::inFile(number, style.hasComma);
 }
 
-void writeRows(QTextStream &stream, const ExportedTable &table, Style style, bool withHeader) {
+void writeLine(QTextStream &stream, int columns, const Style &style, const std::function<QString(int column)> &text) {
+  for (int column = 0; column < columns; ++column) {
+    if (style.isQuoted)
+      stream << CsvField::quoted(text(column)) << style.separator;
+    else
+      stream << (column > 0 ? QString(style.separator) : QString()) << CsvField::plain(text(column), style.separator);
+  }
+  stream << '\n';
+}
+
+void writeLines(QTextStream &stream, const ExportedTable &table, const Style &style, TableExport::Header header) {
   const int columns = table.headers.size();
-  if (withHeader) {
-    for (int column = 0; column < columns; ++column)
-      stream << (column > 0 ? QString(style.separator) : QString()) << textField(table.headers.at(column), style.separator);
-    stream << '\n';
-  }
-  for (int row = 0; row < table.rows; ++row) {
-    for (int column = 0; column < columns; ++column)
-      stream << (column > 0 ? QString(style.separator) : QString()) << field(table.value(row, column), style);
-    stream << '\n';
-  }
+  if (header == TableExport::Header::Written)
+    writeLine(stream, columns, style, [&table](int column) { return table.headers.at(column); });
+  for (int row = 0; row < table.rows; ++row)
+    writeLine(stream, columns, style, [&](int column) { return cell(table, row, column, style); });
 }
 
 } // namespace
+
+void TableExport::writeRows(QTextStream &stream, Format format, Header header) const {
+  writeLines(stream, *this, styleOf(format), header);
+}
 
 bool TableExport::writeText(QIODevice &device, Format format) const {
   QTextStream stream(&device);
   stream.setCodec("UTF-8");
   stream.setGenerateByteOrderMark(format != Format::Tabulators); // else spreadsheets take it for another encoding
-  writeRows(stream, *this, styleOf(format), true);
+  writeRows(stream, format, Header::Written);
   stream.flush();
   return stream.status() == QTextStream::Ok;
 }
@@ -77,7 +87,7 @@ QString TableExport::tabbed(bool withHeader) const {
   QString text;
   QTextStream stream(&text);
   Style style = styleOf(Format::Tabulators);
-  style.isForFile = false;
-  writeRows(stream, *this, style, withHeader);
+  style.hasAllDigits = true;
+  writeLines(stream, *this, style, withHeader ? Header::Written : Header::Left);
   return text;
 }

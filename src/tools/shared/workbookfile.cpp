@@ -1,6 +1,7 @@
 #include "shared/workbookfile.h"
 
 #include "shared/exportedtable.h"
+#include "shared/workbookformats.h"
 
 #include <base/fileaccess.h>
 
@@ -115,17 +116,18 @@ bool WorkbookFile::isWhole(const QByteArray &archive) {
   return count > 0;
 }
 
-QString WorkbookFile::writeRow(lxw_worksheet &sheet, int row, lxw_format *emphasis) {
-  lxw_format *format = m_table.isEmphasised(row) ? emphasis : nullptr;
+QString WorkbookFile::writeRow(lxw_worksheet &sheet, int row, WorkbookFormats &formats) {
+  using Weight = WorkbookFormats::Weight;
+  const Weight weight = m_table.isEmphasised(row) ? Weight::Bold : Weight::Normal;
   const auto line = static_cast<lxw_row_t>(row + 1);
   for (int i = 0; i < m_table.headers.size(); ++i) {
     const auto column = static_cast<lxw_col_t>(i);
     const QVariant value = m_table.value(row, i);
     lxw_error error = LXW_NO_ERROR;
     if (value.type() == QVariant::Double)
-      error = worksheet_write_number(&sheet, line, column, value.toDouble(), format);
+      error = worksheet_write_number(&sheet, line, column, value.toDouble(), formats.ofNumber(value.toDouble(), weight));
     else if (!value.toString().isEmpty())
-      error = worksheet_write_string(&sheet, line, column, cellText(value.toString()).constData(), format);
+      error = worksheet_write_string(&sheet, line, column, cellText(value.toString()).constData(), formats.ofText(weight));
     if (error == LXW_ERROR_MAX_STRING_LENGTH_EXCEEDED)
       return tr("the text in row %1, column %2 is longer than a cell can be").arg(row + 1).arg(m_table.headers.at(i));
     if (error != LXW_NO_ERROR)
@@ -147,15 +149,15 @@ QString WorkbookFile::fill(const QString &path, const QByteArray &folder) {
   lxw_worksheet *sheet = book ? workbook_add_worksheet(book.get(), nullptr) : nullptr;
   if (sheet == nullptr)
     return tr("the folder for temporary files, %1, cannot be written").arg(QFile::decodeName(folder));
-  lxw_format *bold = workbook_add_format(book.get());
-  format_set_bold(bold);
+  WorkbookFormats formats(*book);
   for (std::size_t i = 0; i < m_table.widths.size(); ++i)
     worksheet_set_column(sheet, static_cast<lxw_col_t>(i), static_cast<lxw_col_t>(i), m_table.widths[i], nullptr);
   worksheet_freeze_panes(sheet, 1, 1);
   for (int i = 0; i < m_table.headers.size(); ++i)
-    worksheet_write_string(sheet, 0, static_cast<lxw_col_t>(i), cellText(m_table.headers.at(i)).constData(), bold);
+    worksheet_write_string(sheet, 0, static_cast<lxw_col_t>(i), cellText(m_table.headers.at(i)).constData(),
+                           formats.ofText(WorkbookFormats::Weight::Bold));
   for (int row = 0; row < m_table.rows; ++row) {
-    QString fault = writeRow(*sheet, row, bold);
+    QString fault = writeRow(*sheet, row, formats);
     if (!fault.isEmpty())
       return fault;
   }

@@ -4,9 +4,9 @@
 #include <QCoreApplication>
 #include <QString>
 
-struct lxw_format;
 struct lxw_worksheet;
 class QIODevice;
+class WorkbookFormats;
 struct ExportedTable;
 
 /// Writes a table as a workbook (".xlsx") with one sheet: the header bold and, with the first column, always in sight.
@@ -27,7 +27,7 @@ public:
 
 private:
   QString fill(const QString &path, const QByteArray &folder);
-  QString writeRow(lxw_worksheet &sheet, int row, lxw_format *emphasis);
+  QString writeRow(lxw_worksheet &sheet, int row, WorkbookFormats &formats);
 
   const ExportedTable &m_table;
 };

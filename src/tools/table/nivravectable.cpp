@@ -7,7 +7,6 @@
 #include <base/index.h>
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
-#include <base/settings.h>
 #include <base/wholefile.h>
 #include <tools/nivravectable.h>
 #include <tools/tablemenu.h>
@@ -287,7 +286,7 @@ bool NivraVecTable::save(const QString &path, QString *reason) const {
   }
   return WholeFile::write(
       path, FileAccess::Source::Trusted,
-      [&](QIODevice &device, QString *) { return VectorRows::write(device, exported, Settings::UseComma.value()); }, reason);
+      [&](QIODevice &device, QString *) { return VectorRows::write(device, exported); }, reason);
 }
 
 void NivraVecTable::on_pushButtonClose_clicked() {

@@ -1,5 +1,5 @@
-#include "shared/csvfield.h"
 #include "shared/naturalorder.h"
+#include "shared/tableexport.h"
 
 #include <base/index.h>
 #include <model/names.h>
@@ -108,13 +108,18 @@ void VectorRows::sortNumerically(std::vector<Row> &rows) {
   std::stable_sort(rows.begin(), rows.end(), [](const Row &a, const Row &b) { return a.numsort < b.numsort; });
 }
 
-bool VectorRows::write(QIODevice &device, const Exported &table, bool useComma) {
+bool VectorRows::write(QIODevice &device, const Exported &table) {
+  TableExport written;
+  written.headers = table.headers;
+  written.headers.replaceInStrings(QStringLiteral("\n"), QStringLiteral(" "));
+  written.rows = toQt(table.rows.size());
+  written.valueColumns = table.valueColumns;
+  written.value = [&table](int row, int column) {
+    return QVariant(table.rows[fromQt(row)].at(column));
+  };
   QTextStream stream(&device);
   stream.setCodec("UTF-8");
-  for (const QString &header : table.headers)
-    stream << CsvField::quoted(QString(header).replace(QLatin1Char('\n'), QLatin1Char(' ')));
-  stream << '\n';
-  CsvField::writeRows(stream, table.rows, table.valueColumns, useComma);
+  written.writeRows(stream, TableExport::Format::Quoted, TableExport::Header::Written);
   stream.flush();
   return stream.status() == QTextStream::Ok;
 }

@@ -237,8 +237,11 @@ void PlotActions::refresh(const Answered &answered) {
     (*this)[command]->setEnabled((*this)[command]->isEnabled() && isAllowed);
   };
   const QStringList machines = selectedMachines();
-  (*this)[Command::Characteristics]->setText(machines.size() < 2 ? tr("Open Characteristics")
-                                                                 : tr("Open Characteristics (%1)").arg(machines.size()));
+  (*this)[Command::Characteristics]->setText(
+      machines.isEmpty() ? tr("Open Characteristics")
+      : machines.size() == 1
+          ? tr("Open Characteristics of %1").arg(QString(machines.first()).replace(QLatin1Char('&'), QStringLiteral("&&")))
+          : tr("Open Characteristics of %1 machines").arg(machines.size()));
   allow(Command::Characteristics, answered.hasCharacteristics && !machines.isEmpty());
   allow(Command::ShowInfo, answered.hasInfo);
   allow(Command::EditProperties, answered.hasProperties);

@@ -76,8 +76,7 @@ void PlotMenu::fill(QMenu &contextMenu, const State &state) {
   addCrowd(contextMenu);
   addSelection(contextMenu, state);
   addSubnet(contextMenu, state);
-  addUsable(contextMenu, {Command::Characteristics});
-  addMachinesHere(contextMenu, state);
+  addMachines(contextMenu, state);
   addUsable(contextMenu, {Command::Upstream, Command::Downstream});
   contextMenu.addAction(m_actions[Command::SelectAll]);
   contextMenu.addSeparator();
@@ -134,30 +133,39 @@ void PlotMenu::addSelection(QMenu &contextMenu, const State &state) {
     addRest(*entries, m_net.selection().size());
 }
 
-bool PlotMenu::isMachine(const QString &name) const {
-  const element *e = m_net.element(name);
-  return e != nullptr && ElementTypes::hasCharacteristics(e->value(QStringLiteral("type")));
+/// Those where the mouse was pressed, whatever is selected and whatever covers them.
+QStringList PlotMenu::machinesHere() const {
+  QStringList machines;
+  for (const NetGeometry::Item item : m_picker.pressedItems()) {
+    const element &source = *m_plot.update().geometry().source(item);
+    if (ElementTypes::hasCharacteristics(source.value(QStringLiteral("type"))))
+      machines.append(source.value(QStringLiteral("name")));
+  }
+  return machines;
 }
 
-/// Whatever is selected, and whatever covers them.
-void PlotMenu::addMachinesHere(QMenu &contextMenu, const State &state) {
-  const NetGeometry &geometry = m_plot.update().geometry();
-  QMenu *machines = nullptr;
-  int count = 0;
-  for (const NetGeometry::Item item : m_picker.pressedItems()) {
-    const element &source = *geometry.source(item);
-    const QString name = source.value(QStringLiteral("name"));
-    if (!isMachine(name) || ++count > MaximumEntries)
-      continue;
-    if (machines == nullptr)
-      machines = contextMenu.addMenu(tr("Open Characteristics of"));
-    QObject::connect(machines->addAction(withType(source)), &QAction::triggered, this,
+/// One entry for the machine that is meant; where there are several, one for each of them and one for all that are selected.
+void PlotMenu::addMachines(QMenu &contextMenu, const State &state) {
+  const QStringList selected = m_actions.selectedMachines();
+  QStringList machines = selected + machinesHere();
+  machines.removeDuplicates();
+  QAction *ofSelected = m_actions[PlotActions::Command::Characteristics];
+  if (machines == selected && machines.size() == 1)
+    return addUsable(contextMenu, {PlotActions::Command::Characteristics});
+  if (machines.isEmpty())
+    return;
+  QMenu *entries = contextMenu.addMenu(tr("Open Characteristics of"));
+  entries->setEnabled(state.hasCharacteristics);
+  for (const QString &name : machines.mid(0, MaximumEntries)) {
+    const element *e = m_net.element(name);
+    QObject::connect(entries->addAction(e == nullptr ? menuText(name) : withType(*e)), &QAction::triggered, this,
                      [this, name] { emit openCharacteristicsRequested({name}); });
   }
-  if (machines == nullptr)
+  addRest(*entries, machines.size());
+  if (selected.size() < 2)
     return;
-  addRest(*machines, count);
-  machines->setEnabled(state.hasCharacteristics);
+  entries->addSeparator();
+  entries->addAction(ofSelected);
 }
 
 void PlotMenu::addSubnet(QMenu &contextMenu, const State &state) {

@@ -45,8 +45,8 @@ private:
   void addCrowd(QMenu &contextMenu);
   void addSelection(QMenu &contextMenu, const State &state);
   void addSubnet(QMenu &contextMenu, const State &state);
-  void addMachinesHere(QMenu &contextMenu, const State &state);
-  bool isMachine(const QString &name) const;
+  void addMachines(QMenu &contextMenu, const State &state);
+  QStringList machinesHere() const;
   void addSubnetEntries(QMenu &parent, const QString &subnet, const State &state);
   Offer offerOf(const element &subnet, bool (*isOffered)(const QString &type)) const;
   /// One by one and all of a kind; \param otherwise says that there is nothing

@@ -38,6 +38,8 @@ public:
   static QString newLayer() { return QCoreApplication::translate("Layers", "<new layer>"); }
 
 private:
+  void takeFrom(const QString &layer, const QSet<QString> &names);
+
   NetData &m_net;
   Told m_told;
   QString m_property = Names::all().layer.name();

@@ -30,6 +30,10 @@ public:
   ~NivraNetLayersEditor() override;
 
   void setLayerProperty(const QString &property);
+  /// After elements or their properties have changed; a panel that nobody sees looks when it is shown.
+  void takeChanges();
+  /// Of another network.
+  void takeNetwork(const QString &layerProperty);
   /// Whether layers can be saved and loaded here; they can by default.
   void setOffersFiles(bool offers);
   /// By the drawing, after each change.
@@ -64,6 +68,9 @@ public slots:
   void on_lineEditProperty_editingFinished();
   void changeEditMode(NivraNetLayersEditor::EditMode mode);
 
+protected:
+  void showEvent(QShowEvent *event) override;
+
 private:
   /// \param marked the layer whose row is to be the current one
   void fill(const QString &marked = QString());
@@ -84,4 +91,5 @@ private:
   SortedRows *m_rows;
   QStringListModel *m_names; ///< of the elements of a layer
   EditMode m_mode = EditMode::Layers;
+  bool m_isStale = false;
 };

@@ -33,8 +33,10 @@ public:
   bool select(const QString &elementName);
   /// After an element has changed: its rows are made anew. \param oldName empty when it still has its name
   void updateSearchItems(element &changed, const QString &oldName);
-  /// After values have changed: shows what the last search finds now. Without effect before the first search.
-  void searchAgain();
+  /// After values have changed: the last search is to be done again, once somebody sees what it finds.
+  void takeChanges(bool areResultsDrawn);
+  /// Shows what the last search finds now, where values have changed since.
+  void catchUp();
   /// After the network has changed altogether.
   void clearResults();
   /// Asks for the results to be selected in place of what is; the buttons of the panel offer more.
@@ -81,6 +83,7 @@ public slots:
   void resetToSavedSearch(QAction *action);
 
 protected:
+  void showEvent(QShowEvent *event) override;
   /// Buttons for other tools are there once these are.
   void connectNotify(const QMetaMethod &signal) override;
   void dragEnterEvent(QDragEnterEvent *event) override;
@@ -103,6 +106,7 @@ private:
   NetData &m_net;
   Told m_told;
   std::optional<SearchParams> m_lastSearch; ///< whose results are shown
+  bool m_isStale = false;                   ///< values have changed since
   SearchHistory m_history;
   QString m_name;
   QString m_searchString;

@@ -53,7 +53,7 @@ public:
   /// In natural order: P_2 before P_10.
   static void sortByName(std::vector<Row> &rows);
   static QString padded(int number); ///< right-aligned in nine characters
-  static bool write(QIODevice &device, const Exported &table, bool useComma);
+  static bool write(QIODevice &device, const Exported &table);
 
 private:
   void addRows(const element &e, const Request &request, std::vector<Row> &rows);

@@ -30,7 +30,7 @@ void LabelPlacement::addLine(const QLineF &line, double width) {
 
 bool LabelPlacement::keep(const LabelCandidate &candidate, const LabelSpot &spot) {
   const TurnedBox box = candidate.box(spot);
-  if (!m_canvas.intersects(box.bounds()) || !m_labels.isFree(box.grown(m_margin)) || !m_obstacles.isFree(box))
+  if (!m_canvas.contains(box.bounds()) || !m_labels.isFree(box.grown(m_margin)) || !m_obstacles.isFree(box))
     return false;
   m_labels.take(box);
   return true;
@@ -42,7 +42,7 @@ bool LabelPlacement::place(const LabelCandidate &candidate, LabelSpot &spot) {
 
 bool LabelPlacement::tryAt(const LabelCandidate &candidate, const LabelSpot &spot, bool sparesLines) {
   const TurnedBox box = candidate.box(spot);
-  return m_canvas.contains(box.bounds()) && (!sparesLines || m_lines.isFree(box)) && keep(candidate, spot);
+  return (!sparesLines || m_lines.isFree(box)) && keep(candidate, spot);
 }
 
 bool LabelPlacement::tryLine(const LabelCandidate &candidate, LabelSpot &spot) {

@@ -90,6 +90,8 @@ public:
   /// Greys what cannot be done now and checks what holds; for menus that are about to be shown. Costs nothing that grows
   /// with the network.
   void refresh(const Answered &answered);
+  /// Compressors and drives among what is selected; none where they are too many to be meant.
+  QStringList selectedMachines() const;
   /// After values have changed, with which other functions may have come.
   void forgetFunctions() { m_ofNetwork.reset(); }
   /// As refresh() of what is seen all the time: after another view, selection or network.
@@ -124,7 +126,6 @@ private:
   void bookmarkView();
   void listUnplacedLabels();
   void trace(Topology::Direction direction);
-  QStringList selectedMachines() const;
 
   NetPlot &m_plot;
   NetPicker &m_picker;

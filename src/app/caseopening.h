@@ -1,0 +1,84 @@
+#pragma once
+
+#include "casereading.h"
+#include "outcomestyle.h"
+#include "unsavededits.h"
+
+#include <base/readfiles.h>
+#include <tools/findinglist.h>
+
+#include <QObject>
+#include <QString>
+
+#include <map>
+#include <vector>
+
+class LayerKeeper;
+class NetVisControl;
+class OpeningClock;
+class QMainWindow;
+class ReloadOffer;
+class SubnetWindows;
+class ToolDocks;
+class WorkspaceMemory;
+
+/// Opens a case in a window, reads it again, and leaves it: asks for what is not saved, and keeps and puts back what
+/// belongs to the case beside its files.
+class CaseOpening : public QObject {
+  Q_OBJECT
+public:
+  /// The parts of the window that show a case; they outlive what this object does.
+  struct Parts {
+    QMainWindow &window;
+    NetVisControl &control;
+    ToolDocks &tools;
+    SubnetWindows &subnets;
+    LayerKeeper &layers;
+    WorkspaceMemory &memory;
+  };
+
+  explicit CaseOpening(const Parts &parts);
+
+  NetworkLoader &loader() { return m_loader; }
+  const NivraWorkspace &workspace() const { return m_loader.workspace(); }
+  CaseReading &reading() { return m_reading; }
+
+  /// The path of a file of the case. What is shown stays where it names none, or where somebody wants to save first.
+  void open(const QString &path);
+  /// Reads the files of the case again; view, selection, style, layers and what is not saved stay.
+  void reload();
+  /// Before the case goes; nothing is discarded yet.
+  UnsavedEdits::Answer settle();
+  /// The case goes, as it was answered.
+  void leave(UnsavedEdits::Answer answer);
+  /// Those of the user and of the workspace.
+  void loadSettings();
+  /// What reading noticed, also of other scenarios for their pages.
+  void showFindings();
+  /// Settings were written by the program itself.
+  void takeSettings();
+
+signals:
+  void shown(); ///< or what is left of it where it could not be read
+  void ended(); ///< reading and whatever follows it
+
+private:
+  void connectFiles();
+  bool resolve(NetworkLoader &loader, const QString &path);
+  void useLastScenario();
+  void show(bool isRead);
+  void comeBack();
+  void noticeOnPage(const QString &scenario, const std::vector<FindingList::Group> &groups);
+  void acceptStyleFiles();
+  ReadFiles::Stamps filesShown() const;
+  OutcomeStyle::Outcome outcome(bool isRead) const;
+  void tellOutcome(bool isRead, const OpeningClock &clock);
+
+  Parts m_parts;
+  NetworkLoader m_loader;
+  CaseReading m_reading;
+  ReloadOffer *m_reloadOffer;
+  std::map<QString, std::vector<FindingList::Group>> m_onPages; ///< by scenario
+  FileStamp m_settingsRead;                                     ///< of the general settings of the workspace
+  bool m_isRead = false;                                        ///< what is shown: the last reading yielded a network
+};

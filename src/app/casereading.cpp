@@ -1,0 +1,58 @@
+#include "casereading.h"
+
+#include "loadprogress.h"
+
+#include <base/settings.h>
+#include <view/netviscontrol.h>
+
+#include <QInputDialog>
+#include <QMainWindow>
+#include <QStatusBar>
+
+CaseReading::CaseReading(NetworkLoader &loader, NetVisControl &control, QMainWindow &window)
+    : m_loader(loader)
+    , m_control(control)
+    , m_window(window) {}
+
+bool CaseReading::read() {
+  LoadProgress progress(m_window.statusBar());
+  m_progress = &progress;
+  emit begins();
+  m_control.clear();
+  m_loader.readConfiguration();
+  m_control.net().clear();
+  NetworkLoader::ReadOptions options;
+  if (Settings::AskForIncludeLists.value())
+    askForIncludeLists(options);
+  options.progress = [&progress](double fraction) {
+    return progress.update(fraction);
+  };
+  options.told = [&progress](const QString &text) {
+    progress.tell(text);
+  };
+  const bool isDone = m_loader.readNetwork(options);
+  m_progress = nullptr;
+  if (!isDone)
+    m_control.net().clear(); // half a network would look like a whole one
+  m_control.setSubnetIcons(m_loader.templateFolder());
+  m_control.setCaption(m_loader.workspace().caption());
+  m_control.showNetData(m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
+  emit ended();
+  return isDone;
+}
+
+void CaseReading::stop() {
+  if (m_progress != nullptr)
+    m_progress->cancel();
+}
+
+void CaseReading::askForIncludeLists(NetworkLoader::ReadOptions &options) {
+  bool isAccepted = false;
+  options.includeTypes =
+      QInputDialog::getText(&m_window, tr("Include Types"), tr("Enter include list for types\n(regular expression):"),
+                            QLineEdit::Normal, QString(), &isAccepted);
+  if (isAccepted)
+    options.includeProperties = QInputDialog::getText(&m_window, tr("Include Properties"),
+                                                      tr("Enter include list for properties\n(regular expression):"),
+                                                      QLineEdit::Normal, QString(), &isAccepted);
+}

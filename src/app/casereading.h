@@ -1,0 +1,34 @@
+#pragma once
+
+#include "networkloader.h"
+
+#include <QObject>
+
+class LoadProgress;
+class NetVisControl;
+class QMainWindow;
+
+/// Reads the network of a workspace into a window and draws it. Progress stands in the status bar, where it can be stopped.
+class CaseReading : public QObject {
+  Q_OBJECT
+public:
+  CaseReading(NetworkLoader &loader, NetVisControl &control, QMainWindow &window);
+
+  /// False when nothing could be read or somebody stopped it; nothing is drawn then.
+  bool read();
+  bool isRunning() const { return m_progress != nullptr; }
+  /// Ends it at its next step.
+  void stop();
+
+signals:
+  void begins(); ///< the elements that were there are about to go
+  void ended();
+
+private:
+  void askForIncludeLists(NetworkLoader::ReadOptions &options);
+
+  NetworkLoader &m_loader;
+  NetVisControl &m_control;
+  QMainWindow &m_window;
+  LoadProgress *m_progress = nullptr; ///< while it runs
+};
