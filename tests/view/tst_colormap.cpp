@@ -6,6 +6,8 @@
 #include <QColor>
 #include <qwt_scale_widget.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 class TestColorMap : public QObject {
@@ -20,6 +22,8 @@ private slots:
   void logarithmicColoursSpreadTheLowEnd_data();
   void logarithmicColoursSpreadTheLowEnd();
   void barOfAnotherUnit();
+  void rampsAreThosePublished_data();
+  void rampsAreThosePublished();
   void rampsKeepTheirOrder_data();
   void rampsKeepTheirOrder();
   void capsAreDarker();
@@ -161,6 +165,38 @@ void TestColorMap::barOfAnotherUnit() {
     const int meant = QColor(map.rgb({0.0, 100.0}, celsius)).hsvHue();
     QVERIFY2(std::abs(drawn - meant) <= (celsius < 5.0 ? 8 : 3),
              qPrintable(QStringLiteral("%1: %2 %3").arg(celsius).arg(drawn).arg(meant)));
+  }
+}
+
+void TestColorMap::rampsAreThosePublished_data() {
+  QTest::addColumn<int>("kind");
+  QTest::addColumn<QVector<QRgb>>(
+      "published"); ///< entries of the tables of 256: 8, 23, 52, 82, 113, 127, 158, 187, 218, 247
+  QTest::newRow("viridis") << int(ColorRamp::Kind::Viridis)
+                           << QVector<QRgb>{0x470d60, 0x482173, 0x404588, 0x32658e, 0x26828e,
+                                            0x21908d, 0x26ad81, 0x54c568, 0x9dd93b, 0xeae51a};
+  QTest::newRow("cividis") << int(ColorRamp::Kind::Cividis)
+                           << QVector<QRgb>{0x00285b, 0x013271, 0x36466c, 0x555b6d, 0x707173,
+                                            0x7c7b78, 0x999277, 0xb7a96e, 0xd7c45c, 0xf8df3c};
+  QTest::newRow("plasma") << int(ColorRamp::Kind::Plasma) << QVector<QRgb>{0x220690, 0x3e049c, 0x6c00a8, 0x9814a0, 0xbd3786,
+                                                                           0xcb4679, 0xe56a5d, 0xf68f44, 0xfebb2b, 0xf5eb27};
+  QTest::newRow("batlow") << int(ColorRamp::Kind::Batlow) << QVector<QRgb>{0x08255b, 0x0f395f, 0x195662, 0x386c58, 0x687b3e,
+                                                                           0x818232, 0xbd8f34, 0xed9a62, 0xfdb0a9, 0xfbc6e8};
+}
+
+/// As the tables of matplotlib 3.6 and of the Scientific colour maps 7.0.1 have them.
+void TestColorMap::rampsAreThosePublished() {
+  QFETCH(int, kind);
+  QFETCH(QVector<QRgb>, published);
+  constexpr std::array<int, 10> Entries{8, 23, 52, 82, 113, 127, 158, 187, 218, 247};
+  ColorRamp ramp;
+  ramp.kind = static_cast<ColorRamp::Kind>(kind);
+  for (std::size_t i = 0; i < Entries.size(); ++i) {
+    const QColor drawn(ramp.color(Entries[i] / 255.0));
+    const QColor meant(published[static_cast<int>(i)]);
+    const int difference = std::max({std::abs(drawn.red() - meant.red()), std::abs(drawn.green() - meant.green()),
+                                     std::abs(drawn.blue() - meant.blue())});
+    QVERIFY2(difference < 3, qPrintable(QStringLiteral("%1: %2").arg(Entries[i]).arg(drawn.name())));
   }
 }
 

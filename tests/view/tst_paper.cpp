@@ -6,7 +6,7 @@
 #include "viewfixture.h"
 
 #include <base/generalsettings.h>
-#include <model/netmetadata.h>
+#include <drawing/mapscale.h>
 #include <paper/pageseries.h>
 #include <support/fulldisk.h>
 #include <support/nivratest.h>
@@ -33,24 +33,6 @@ DrawingSource sourceOf(ViewFixture &f) {
   source.selection = f.plot().selection().items();
   source.area = f.plot().visibleArea();
   return source;
-}
-
-/// The nodes of the fixture with places on the earth: east and north of a point, in metres.
-GeoReference referenceOf(const std::function<QPointF(double east, double north)> &onDrawing) {
-  constexpr double Degree = 6371008.8 * M_PI / 180.0;
-  constexpr double Latitude = 52.0;
-  ViewFixture f;
-  const std::vector<QPointF> places{{0, 0}, {50000, 4000}, {21000, 60000}, {-34000, 25000}, {12000, -41000}};
-  for (std::size_t i = 0; i < places.size(); ++i) {
-    const QPointF at = onDrawing(places[i].x(), places[i].y());
-    element e = makeNode(qPrintable(QStringLiteral("G%1").arg(i)), QByteArray::number(at.x(), 'g', 15),
-                         QByteArray::number(at.y(), 'g', 15));
-    e.set(QStringLiteral("lon"), QString::number(8.0 + places[i].x() / Degree / std::cos(Latitude * M_PI / 180.0), 'g', 15));
-    e.set(QStringLiteral("lat"), QString::number(Latitude + places[i].y() / Degree, 'g', 15));
-    f.net.addElement(std::move(e));
-  }
-  f.show();
-  return GeoReference::of(f.plot().update().geometry(), *f.net.metaData());
 }
 
 QByteArray contentOf(const QString &path) {
@@ -91,7 +73,8 @@ private slots:
   void theDrawingFillsItsFrame();
   void scaleBarsAreRound_data();
   void scaleBarsAreRound();
-  void coordinatesOnTheEarth();
+  void scaleIsThatOfMeasuring();
+  void legendExplainsTheCasings();
   void choicesAreKept();
   void impossiblePages();
   void seriesOfFiles();
@@ -191,7 +174,7 @@ void TestPaper::theLegendIsThatOfTheCanvas() {
     return PageWriter::write(path, PageSetup(), page, page.text(), &reason) ? contentOf(path) : QByteArray();
   };
   const QByteArray functions = said(NetUpdate::DisplayMode::Functions);
-  for (const char *part : {"beyond bounds (major)", "edges and nodes", "compressor"})
+  for (const char *part : {"beyond bounds (major)", "edges and", "compressor"})
     QVERIFY2(functions.contains(part), part);
   const QByteArray searched = said(NetUpdate::DisplayMode::SearchResults);
   QVERIFY(searched.contains("search results") && !searched.contains("diameter"));
@@ -393,35 +376,46 @@ void TestPaper::scaleBarsAreRound() {
   QCOMPARE(ScaleBar::of({0.0, true, {}}, 200.0).width, 0.0);
 }
 
-void TestPaper::coordinatesOnTheEarth() {
-  using Kind = GeoReference::Kind;
-  const GeoReference metres =
-      referenceOf([](double east, double north) { return QPointF(east, north) + QPointF(4e5, 5.9e6); });
-  QCOMPARE(metres.kind(), Kind::Metres);
-  QVERIFY(std::abs(metres.metresPerUnit(0.0) - 1.0) < 0.02);
-  QCOMPARE(metres.north(), std::optional<double>(0.0));
-  // Drawn in units of 250 m and turned clockwise by a quarter: north is at the right.
-  const GeoReference turned = referenceOf([](double east, double north) { return QPointF(north, -east) / 250.0; });
-  QVERIFY(std::abs(turned.metresPerUnit(0.0) - 250.0) < 5.0);
-  QVERIFY(turned.north() && std::abs(*turned.north() - 90.0) < 1.0);
-  constexpr double Degree = 6371008.8 * M_PI / 180.0;
-  const double narrow = std::cos(52.0 * M_PI / 180.0);
-  const GeoReference degrees =
-      referenceOf([&](double east, double north) { return QPointF(8.0 + east / Degree / narrow, 52.0 + north / Degree); });
-  QCOMPARE(degrees.kind(), Kind::Degrees);
-  QCOMPARE(degrees.north(), std::optional<double>(0.0));
-  QVERIFY(std::abs(degrees.metresPerUnit(60.0) - Degree * 0.5) < 1.0);
-  // A drawing of its own order, whatever the nodes say of the earth; and one whose nodes say nothing.
-  const GeoReference schematic = referenceOf([](double east, double north) { return QPointF(std::abs(east), -north); });
-  QCOMPARE(schematic.kind(), Kind::Unknown);
-  QVERIFY(!schematic.north());
+/// The same lengths as measuring has them, here by the pipes' lengths: twice those of the drawing.
+void TestPaper::scaleIsThatOfMeasuring() {
   ViewFixture f;
+  for (int i = 0; i < 6; ++i)
+    f.addNode(qPrintable(QStringLiteral("N%1").arg(i)), qPrintable(QString::number(1000 * i)), "0", "30");
+  for (int i = 0; i < 5; ++i)
+    f.add(makeEdge(qPrintable(QStringLiteral("P%1").arg(i)), qPrintable(QStringLiteral("N%1").arg(i)),
+                   qPrintable(QStringLiteral("N%1").arg(i + 1))),
+          {{"length", "4000"}});
   f.show();
-  QCOMPARE(GeoReference::of(f.plot().update().geometry(), *f.net.metaData()).kind(), Kind::Unknown);
-  NetMetaData inKilometres;
-  inKilometres.add({QStringLiteral("n"), QStringLiteral("x"), {}, {}, QStringLiteral("km"), {}, {}, false, {}, {}});
-  const GeoReference ofUnit = GeoReference::of(f.plot().update().geometry(), inKilometres);
-  QVERIFY(ofUnit.kind() == Kind::Metres && ofUnit.metresPerUnit(0.0) == 1000.0 && !ofUnit.north());
+  NetworkPage page(sourceOf(f), {});
+  PagePainter laidOut(page, PageSetup(), page.text());
+  const std::optional<PaperScale> scale = page.scale();
+  const MapScale measuring = MapScale::of(f.net, f.plot().update().geometry());
+  const QRectF seen = page.drawing().visible();
+  QVERIFY(scale && scale->isMetres && !scale->north);
+  QCOMPARE(measuring.metresPerUnit(0.0), 4.0);
+  QVERIFY(std::abs(scale->lengthOfUnit * laidOut.layout().frame.width() -
+                   measuring.length({seen.topLeft(), seen.topRight()})) < 1.0);
+}
+
+void TestPaper::legendExplainsTheCasings() {
+  ViewFixture f;
+  f.net.element(QStringLiteral("BC"))->set(QStringLiteral("CB_info"), QStringLiteral("(Major: pmax exceeded;)"));
+  f.show();
+  NetworkPage page(sourceOf(f), {});
+  page.layOut({600, 400}, PageSetup(), PageContent::Detail::Draft);
+  QImage image(int(PageContent::LegendWidth), 600, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  for (const PaperLegendPart &part : page.legend()) {
+    part.paint(painter);
+    painter.translate(0.0, part.height);
+  }
+  painter.end();
+  int casing = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      casing += image.pixelColor(x, y) == QColor(0xff, 0x00, 0xff) ? 1 : 0;
+  QVERIFY2(casing > 40, qPrintable(QString::number(casing)));
 }
 
 void TestPaper::choicesAreKept() {

@@ -5,7 +5,7 @@
 NetworkPage::NetworkPage(DrawingSource source, PageFacts facts)
     : m_facts(std::move(facts))
     , m_drawing(std::move(source))
-    , m_reference(GeoReference::of(m_drawing.update().geometry(), *m_drawing.source().net->metaData()))
+    , m_mapScale(MapScale::of(*m_drawing.source().net, m_drawing.update().geometry()))
     , m_area(m_drawing.source().area) {}
 
 PageText NetworkPage::text() const {
@@ -39,9 +39,9 @@ std::optional<PaperScale> NetworkPage::scale() const {
   if (!geometry.hasExtent() || m_frame.isEmpty())
     return std::nullopt;
   const QRectF seen = geometry.toOwn(m_drawing.visible());
-  const bool isMetres = m_reference.kind() != GeoReference::Kind::Unknown;
-  const double unit = isMetres ? m_reference.metresPerUnit(seen.center().y()) : 1.0;
-  return PaperScale{seen.width() / m_frame.width() * unit, isMetres, m_reference.north()};
+  const bool isMetres = m_mapScale.coordinates() != MapScale::Coordinates::Plain;
+  const double unit = m_mapScale.metresPerUnit(seen.center().y());
+  return PaperScale{seen.width() / m_frame.width() * unit, isMetres, m_mapScale.north()};
 }
 
 void NetworkPage::paint(QPainter &painter) const {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "export/georeference.h"
 #include "export/pagedrawing.h"
 
+#include <drawing/mapscale.h>
 #include <paper/pagecontent.h>
 
 /// A page of a network: its drawing with legend and scale.
@@ -36,7 +36,7 @@ private:
 
   PageFacts m_facts;
   PageDrawing m_drawing;
-  GeoReference m_reference;
+  MapScale m_mapScale;
   std::optional<QRectF> m_area;
   std::optional<LaidOut> m_laidOut;
   QSizeF m_frame;

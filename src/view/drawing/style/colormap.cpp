@@ -1,3 +1,5 @@
+#include "style/rampsamples.h"
+
 #include <drawing/colormap.h>
 
 #include <QColor>
@@ -9,20 +11,6 @@
 namespace {
 
 constexpr double Last = TableColorMap::Colors - 1;
-
-// Samples at equal steps. Viridis and plasma: S. van der Walt and N. Smith (2015); cividis: J. Nunez, C. Anderton and
-// R. Renslow (2018); batlow: F. Crameri (2018), Scientific colour maps, doi 10.5281/zenodo.1243862. Blue to red: the scheme
-// RdBu of C. Brewer, turned round, with a grey middle: thin lines of its white would be lost on white paper.
-constexpr std::array<QRgb, 11> Viridis{0xff440154, 0xff482475, 0xff414487, 0xff355f8d, 0xff2a788e, 0xff21918c,
-                                       0xff22a884, 0xff44bf70, 0xff7ad151, 0xffbddf26, 0xfffde725};
-constexpr std::array<QRgb, 11> Cividis{0xff00224e, 0xff0f306b, 0xff35426c, 0xff4e576c, 0xff666970, 0xff7d7c78,
-                                       0xff958f78, 0xffada373, 0xffc8b866, 0xffe4cf5b, 0xfffee838};
-constexpr std::array<QRgb, 11> Plasma{0xff0d0887, 0xff42049e, 0xff6a00a8, 0xff900da4, 0xffb12a90, 0xffcc4678,
-                                      0xffe16462, 0xfff1844b, 0xfffca636, 0xfffcce25, 0xfff0f921};
-constexpr std::array<QRgb, 10> Batlow{0xff011959, 0xff103f60, 0xff1c5a62, 0xff3c6d56, 0xff687b3e,
-                                      0xff9d892b, 0xffd29343, 0xfff8a17b, 0xfffdb7bc, 0xfffaccfa};
-constexpr std::array<QRgb, 11> BlueGreyRed{0xff053061, 0xff2166ac, 0xff4393c3, 0xff92c5de, 0xffacc9da, 0xffc8c8c8,
-                                           0xffe4b8a2, 0xfff4a582, 0xffd6604d, 0xffb2182b, 0xff67001f};
 
 template <std::size_t Count>
 QRgb between(const std::array<QRgb, Count> &samples, double fraction) {
@@ -120,15 +108,15 @@ QString ColorRamp::title(Kind kind) {
 QRgb ColorRamp::color(double fraction) const {
   switch (kind) {
   case Kind::Viridis:
-    return onGround<Viridis>(ground, fraction);
+    return onGround<RampSamples::Viridis>(ground, fraction);
   case Kind::Cividis:
-    return onGround<Cividis>(ground, fraction);
+    return onGround<RampSamples::Cividis>(ground, fraction);
   case Kind::Plasma:
-    return onGround<Plasma>(ground, fraction);
+    return onGround<RampSamples::Plasma>(ground, fraction);
   case Kind::Batlow:
-    return onGround<Batlow>(ground, fraction);
+    return onGround<RampSamples::Batlow>(ground, fraction);
   case Kind::Diverging:
-    return between(BlueGreyRed, fraction);
+    return between(RampSamples::BlueGreyRed, fraction);
   case Kind::Hue:
     break;
   }

@@ -1,20 +1,18 @@
-#include "export/georeference.h"
+#include "geometry/earthfit.h"
 
-#include <model/names.h>
-#include <model/netmetadata.h>
-#include <model/units.h>
+#include "geometry/earth.h"
+
+#include <drawing/netgeometry.h>
 
 #include <QtMath>
 
 #include <cmath>
 #include <complex>
+#include <vector>
 
 namespace {
 
 using Complex = std::complex<double>;
-
-constexpr double EarthRadius = 6371008.8; ///< m, mean
-constexpr double MetresPerDegree = EarthRadius * M_PI / 180.0;
 
 /// A node on the drawing, in its own coordinates, and on the earth, in degrees.
 struct Placed {
@@ -64,7 +62,7 @@ Fit fit(const std::vector<Placed> &nodes) {
     latitude += node.lat / static_cast<double>(nodes.size());
   const double narrowing = std::cos(qDegreesToRadians(latitude));
   const auto onEarth = [narrowing](const Placed &node) {
-    return Complex(node.lon * narrowing, node.lat) * MetresPerDegree;
+    return Complex(node.lon * narrowing, node.lat) * Earth::MetresPerDegree;
   };
   for (const Placed &node : nodes) {
     drawn += Complex(node.x, node.y) / static_cast<double>(nodes.size());
@@ -87,39 +85,19 @@ Fit fit(const std::vector<Placed> &nodes) {
 
 } // namespace
 
-GeoReference GeoReference::of(const NetGeometry &geometry, const NetMetaData &vocabulary) {
+std::optional<EarthFit> EarthFit::of(const NetGeometry &geometry) {
   constexpr std::size_t FewestNodes = 3;
-  constexpr double Alike = 0.99; // projections of a country differ by less
-  GeoReference reference;
+  constexpr double Alike = 0.99;  // projections of a country differ by less
+  constexpr double Upright = 0.5; // degrees that nobody sees
   const std::vector<Placed> nodes = placedNodes(geometry);
-  if (nodes.size() >= FewestNodes) {
-    if (areDegrees(nodes)) {
-      reference.m_kind = Kind::Degrees;
-      reference.m_north = 0.0;
-    } else if (const Fit found = fit(nodes); found.likeness >= Alike) {
-      reference.m_kind = Kind::Metres;
-      reference.m_metres = 1.0 / std::abs(found.turned);
-      const double angle = -qRadiansToDegrees(std::arg(found.turned));
-      reference.m_north = std::abs(angle) < 0.5 ? 0.0 : angle;
-    }
-    return reference;
+  if (nodes.size() < FewestNodes)
+    return std::nullopt;
+  EarthFit found;
+  found.isDegrees = areDegrees(nodes);
+  if (const Fit laid = found.isDegrees ? Fit() : fit(nodes); laid.likeness >= Alike) {
+    const double angle = -qRadiansToDegrees(std::arg(laid.turned));
+    found.metresPerUnit = 1.0 / std::abs(laid.turned);
+    found.north = std::abs(angle) < Upright ? 0.0 : angle;
   }
-  const NetMetaData::Attribute *x = vocabulary.anyAttribute(Names::all().x.name());
-  if (x == nullptr || x->storedUnit.isEmpty())
-    return reference;
-  if (const std::optional<double> metres = Units::convert(1.0, x->storedUnit, QStringLiteral("m"))) {
-    reference.m_kind = Kind::Metres;
-    reference.m_metres = *metres;
-  } else if (x->storedUnit == QLatin1String("degree")) {
-    reference.m_kind = Kind::Degrees;
-    reference.m_north = 0.0;
-  }
-  return reference;
-}
-
-double GeoReference::metresPerUnit(double y) const {
-  constexpr double Farthest = 89.0;
-  if (m_kind == Kind::Degrees)
-    return MetresPerDegree * std::cos(qDegreesToRadians(qBound(-Farthest, y, Farthest)));
-  return m_metres;
+  return found;
 }
