@@ -3188,7 +3188,7 @@ Bitte anwenden und speichern</translation>
     </message>
     <message>
         <source>adiabatic head</source>
-        <translation>adiabate Förderhöhe</translation>
+        <translation>Förderhöhe</translation>
     </message>
     <message>
         <source>Q = %1
