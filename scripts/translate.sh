@@ -27,7 +27,7 @@ warnings=$(lupdate -silent -locations none -no-obsolete -source-language en -tar
   "${folders[@]/#/-I}" "@$sources" -ts "$collected" 2>&1 >/dev/null)
 if [ -n "$warnings" ]; then
   echo "$warnings" >&2
-  echo "translate.sh: lupdate does not understand these sources" >&2
+  echo "translate.sh: lupdate does not understand these sources (it knows no 20'000: write 20000)" >&2
   exit 1
 fi
 

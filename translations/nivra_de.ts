@@ -1258,11 +1258,11 @@ by the right-click menu of the drawing.</source>
     <name>ColorRamp</name>
     <message>
         <source>viridis (even steps)</source>
-        <translation>viridis (gleichmäßige Stufen)</translation>
+        <translation>viridis (gleichmäßig)</translation>
     </message>
     <message>
         <source>cividis (also for colour-blind eyes)</source>
-        <translation>cividis (auch bei Farbfehlsichtigkeit)</translation>
+        <translation>cividis (auch bei Farbschwäche)</translation>
     </message>
     <message>
         <source>blue, grey, red about zero</source>
@@ -1270,11 +1270,11 @@ by the right-click menu of the drawing.</source>
     </message>
     <message>
         <source>plasma (even steps, blue to orange)</source>
-        <translation>plasma (gleichmäßige Stufen, blau bis orange)</translation>
+        <translation>plasma (gleichmäßig, blau–orange)</translation>
     </message>
     <message>
         <source>batlow (even steps, blue to rose)</source>
-        <translation>batlow (gleichmäßige Stufen, blau bis rosa)</translation>
+        <translation>batlow (gleichmäßig, blau–rosa)</translation>
     </message>
     <message>
         <source>hues of your choice</source>
@@ -3188,7 +3188,7 @@ Bitte anwenden und speichern</translation>
     </message>
     <message>
         <source>adiabatic head</source>
-        <translation>adiabate Förderhöhe</translation>
+        <translation>Förderhöhe</translation>
     </message>
     <message>
         <source>Q = %1
