@@ -20,9 +20,9 @@
 
 #include <base/fileaccess.h>
 #include <base/finding.h>
+#include <base/generalsettings.h>
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
-#include <base/settings.h>
 #include <tools/categorylist.h>
 #include <tools/nivrasearch.h>
 #include <view/netplot.h>

@@ -3,7 +3,7 @@
 #include "helpwindow.h"
 #include "windowplace.h"
 
-#include <base/nivramsg.h>
+#include <base/finding.h>
 #include <tools/metadatatable.h>
 #include <tools/nivravectable.h>
 

@@ -5,6 +5,7 @@
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
 
+#include <QApplication>
 #include <QEvent>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -40,7 +41,7 @@ WindowPlace::WindowPlace(QWidget &window, QString name, const QWidget &beside)
 void WindowPlace::place() {
   const QByteArray kept = QByteArray::fromBase64(known()[m_name].toString().toLatin1());
   if (!kept.isEmpty() && m_window.restoreGeometry(kept))
-    return;
+    return besideOthers();
   QRect area(QPoint(), m_window.size());
   area.moveCenter(m_beside.geometry().center());
   const QScreen *screen = m_beside.screen();
@@ -50,6 +51,20 @@ void WindowPlace::place() {
   area.moveLeft(std::max(area.left(), room.left()));
   area.moveTop(std::max(area.top(), room.top()));
   m_window.move(area.topLeft());
+  besideOthers();
+}
+
+/// Windows that share a place would hide one another.
+void WindowPlace::besideOthers() {
+  constexpr QPoint Step(28, 28); // px, of a title bar
+  const QWidgetList all = QApplication::topLevelWidgets();
+  const auto isTaken = [&all, this](const QPoint &corner) {
+    return std::any_of(all.begin(), all.end(), [&](const QWidget *other) {
+      return other != &m_window && other->isVisible() && other->pos() == corner;
+    });
+  };
+  while (isTaken(m_window.pos()))
+    m_window.move(m_window.pos() + Step);
 }
 
 void WindowPlace::keep() const {

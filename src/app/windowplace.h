@@ -20,6 +20,7 @@ protected:
 
 private:
   void place();
+  void besideOthers();
   void keep() const;
 
   QWidget &m_window;

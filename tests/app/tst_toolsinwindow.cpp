@@ -88,6 +88,11 @@ void TestToolsInWindow::tablesComeBesideAndStayWhereTheyWerePut() {
     first->show();
     const QPoint off = first->geometry().center() - viewer.geometry().center();
     QVERIFY2(off.manhattanLength() < 5, qPrintable(QStringLiteral("%1 %2").arg(off.x()).arg(off.y())));
+    auto *second = new QWidget(&viewer, Qt::Window);
+    second->resize(first->size());
+    new WindowPlace(*second, QStringLiteral("first"), viewer);
+    second->show();
+    QVERIFY(second->pos() != first->pos()); // which it would hide
     viewer.on_actionElement_Table_triggered();
     QVERIFY(viewer.screen()->availableGeometry().contains(vectorTable()->geometry().topLeft()));
     vectorTable()->setGeometry(own);

@@ -285,8 +285,8 @@ bool NivraVecTable::save(const QString &path, QString *reason) const {
     exported.rows.push_back(texts);
   }
   return WholeFile::write(
-      path, FileAccess::Source::Trusted,
-      [&](QIODevice &device, QString *) { return VectorRows::write(device, exported); }, reason);
+      path, FileAccess::Source::Trusted, [&](QIODevice &device, QString *) { return VectorRows::write(device, exported); },
+      reason);
 }
 
 void NivraVecTable::on_pushButtonClose_clicked() {
