@@ -41,8 +41,9 @@ std::optional<QLineF> ElementMarks::lineOf(NetGeometry::Item item) const {
   if (item.kind != NetData::Edge) {
     const Index driven = item.kind == NetData::Node ? geometry.nodes()[item.index].driven : NoIndex;
     const QPointF middle = driven == NoIndex ? m_projection.map(center->x(), center->y())
-                                             : besideLine(m_projection.map(geometry.line(geometry.edges()[driven])),
-                                                          static_cast<double>(geometry.edges()[driven].lane), symbolSize());
+                                             : driveBeside(m_projection.map(geometry.line(geometry.edges()[driven])),
+                                                           static_cast<double>(geometry.edges()[driven].lane),
+                                                           geometry.edges()[driven].isBetweenLanes, symbolSize());
     return QLineF(middle, middle);
   }
   const NetGeometry::Edge &edge = geometry.edges()[item.index];

@@ -90,6 +90,7 @@ SymbolLayer::Record SymbolLayer::recordOf(const NetGeometry &geometry, Index dri
     record.dx = line.dx();
     record.dy = line.dy();
     record.lane = driven.lane;
+    record.isBetweenLanes = driven.isBetweenLanes;
     record.isBeside = true;
   }
   record.type = 'd';
@@ -153,7 +154,9 @@ QPointF SymbolLayer::onLane(const Record &r, const Projection &projection) const
 }
 
 QPointF SymbolLayer::centerOf(const Record &r, const Projection &projection) const {
-  return r.isBeside ? besideLine(lineOf(r, projection), static_cast<double>(r.lane), m_size) : onLane(r, projection);
+  if (!r.isBeside)
+    return onLane(r, projection);
+  return driveBeside(lineOf(r, projection), static_cast<double>(r.lane), r.isBetweenLanes, m_size);
 }
 
 const std::vector<SymbolLayer::Placed> &SymbolLayer::laidOut(const Projection &projection) const {

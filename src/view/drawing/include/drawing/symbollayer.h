@@ -82,6 +82,7 @@ private:
     double dy = 0.0;
     char type = 0;
     bool isBeside = false; ///< a drive, drawn beside the line
+    bool isBetweenLanes = false;
     NetGeometry::Item item;
     Index symbol = NoIndex; ///< of m_symbols
     Index figure = NoIndex; ///< of m_figures, in place of the symbol
