@@ -36,7 +36,9 @@ NetUpdate::NetUpdate(const PlotSettings &settings, std::function<View()> view, T
                 }) {
   m_symbols.setCovers([this](const Projection &projection) { return m_subnets.boxes(projection); });
   m_violations.setFilter({&m_layers, &m_visibility});
-  m_violations.setSizes(drawnSizes());
+  DrawnSizes sizes = drawnSizes();
+  sizes.casing = nullptr; // which are what is drawn there
+  m_violations.setSizes(sizes);
   m_subnets.setFilter({&m_layers, &m_visibility});
   m_textBoxes.setFilter({&m_layers, &m_visibility});
 }
@@ -183,6 +185,11 @@ LegendContents NetUpdate::legendContents() const {
     contents.casings.push_back({Violations::color(State::Minor).rgb(), tr("beyond bounds")});
   contents.addSymbols(m_geometry);
   return contents;
+}
+
+DrawnSizes NetUpdate::drawnSizes() const {
+  return {&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_textBoxes, &m_edgeWidths,
+          [this](NetGeometry::Item item, double widthFactor) { return m_violations.casingOf(item, widthFactor); }};
 }
 
 void NetUpdate::drawLegendSymbol(QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center,

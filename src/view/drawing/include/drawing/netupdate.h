@@ -89,7 +89,7 @@ public:
   /// What a legend says of all that is drawn, and draws a symbol of it.
   LegendContents legendContents() const;
   void drawLegendSymbol(QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center, double size) const;
-  DrawnSizes drawnSizes() const { return {&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_edgeWidths}; }
+  DrawnSizes drawnSizes() const;
 
   /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
   /// they are negative.
