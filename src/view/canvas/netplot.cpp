@@ -126,6 +126,7 @@ void NetPlot::setUpLegend() {
     m_plot->updateOverlay();
     m_update->requestPixtest(0); // labels keep away from the legend
   });
+  connect(m_canvasLegend.get(), &CanvasLegend::moved, this, [this] { m_update->requestPixtest(0); });
   m_plot->setLeftOut([this](bool isLeftOut) { m_canvasLegend->setIsLeftOut(isLeftOut); });
 }
 
@@ -314,6 +315,7 @@ void NetPlot::fitNetwork() {
   m_plot->updateLayout();
   if (geometry.hasExtent())
     m_zoomer->setExtent(geometry.mainExtent());
+  m_canvasLegend->setStanding(std::nullopt);
 }
 
 QRectF NetPlot::visibleArea() const {

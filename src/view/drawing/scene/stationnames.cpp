@@ -24,7 +24,7 @@ QString ownName(const NetGeometry &geometry, NetGeometry::Item item) {
 
 } // namespace
 
-StationNames::StationNames(const LabelWishes::Drawing &drawing, const Projection &projection)
+StationNames::StationNames(const DrawnScene &drawing, const Projection &projection)
     : m_drawing(drawing)
     , m_projection(projection) {
   collectSubnets();
