@@ -1,5 +1,7 @@
 #include "export/networkpage.h"
 
+#include "export/networklegend.h"
+
 NetworkPage::NetworkPage(DrawingSource source, PageFacts facts)
     : m_facts(std::move(facts))
     , m_drawing(std::move(source))

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "export/networklegend.h"
 #include "export/pagedrawing.h"
 
 #include <drawing/mapscale.h>
