@@ -34,6 +34,8 @@ int runBatch(const CommandLine &line) {
   NivraMsg::setInteractive(false);
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!qEnvironmentVariableIsSet("QT_FONT_DPI"))
+    qputenv("QT_FONT_DPI", "96"); // a screen that is none would have 100, and texts larger than those of the window
   // The application object gets its own options alone: a "--style" of the drawing is none of them.
   std::vector<QByteArray> texts;
   texts.reserve(static_cast<std::size_t>(line.toolkit.size()));

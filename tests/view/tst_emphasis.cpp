@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <QtMath>
 
 /// What stands out from the rest: what is selected, and what violates bounds.
 class TestEmphasis : public QObject {
@@ -19,7 +20,9 @@ private slots:
   void theRestIsAsBeforeAfterwards();
   void marksFollowTheView();
   void documentsMarkTheSelection();
-  void selectionLiesAboveTheCasings();
+  void selectionSparesTheCasings();
+  void whatIsNotSeenHasADot();
+  void textsAreFramed();
   void violationsHaveACasing_data();
   void violationsHaveACasing();
   void casingsSurroundWhatIsDrawn();
@@ -37,6 +40,16 @@ private:
   }
   static Index indexOf(ViewFixture &f, const char *node) {
     return f.plot().update().geometry().find(f.net, QString::fromLatin1(node))->index;
+  }
+  /// The outline beside the place: whether it comes within a few pixels on the way of the step.
+  static bool hasOutline(const QImage &picture, const QPoint &place, const QPoint &step) {
+    constexpr int Pixels = 5;
+    constexpr int Dark = 100;
+    for (int i = 0; i < Pixels; ++i) {
+      if (picture.pixelColor(place + step * i).lightness() < Dark)
+        return true;
+    }
+    return false;
   }
   static bool hasNear(const QImage &picture, const QPoint &place, const QColor &color, int reach = 9) {
     for (int y = place.y() - reach; y <= place.y() + reach; ++y) {
@@ -124,6 +137,23 @@ void TestEmphasis::documentsMarkTheSelection() {
   QVERIFY(marked.contains("#141c26") && !marked.contains("<image"));
 }
 
+/// A text box is marked where its text stands, not by a circle in the middle of it.
+void TestEmphasis::textsAreFramed() {
+  ViewFixture f;
+  f.add(makeElement({{"name", "T"}, {"type", "t"}, {"x", "60"}, {"y", "60"}}), {{"text", "a text of some length"}});
+  f.show();
+  f.picture(); // lays out
+  const std::optional<NetGeometry::Item> item = f.plot().update().geometry().find(f.net, QStringLiteral("T"));
+  QVERIFY(item && item->kind == NetData::TextBox);
+  const QRectF area = f.plot().update().drawnSizes().textBoxes->areas(f.plot().update().projection()).front();
+  QVERIFY(area.width() > 60.0);
+  f.plot().selection().setItems({*item});
+  const QImage marked = f.picture();
+  const QPoint place = f.plot().plot()->canvas()->mapTo(&f.plot(), QPoint(qFloor(area.left()), qFloor(area.top())));
+  QVERIFY(hasOutline(marked, place + QPoint(0, qRound(area.height() / 2.0)), {-1, 0}));
+  QVERIFY(hasOutline(marked, place + QPoint(qRound(area.width() / 2.0), 0), {0, -1}));
+}
+
 void TestEmphasis::violationsHaveACasing_data() {
   QTest::addColumn<QByteArray>("info");
   QTest::addColumn<QColor>("color");
@@ -165,18 +195,54 @@ void TestEmphasis::violationsHaveACasing() {
   QVERIFY(!color.isValid() || !hasNear(f.picture(), bc, color));
 }
 
-void TestEmphasis::selectionLiesAboveTheCasings() {
+void TestEmphasis::selectionSparesTheCasings() {
   const QTemporaryDir folder;
   ViewFixture f;
   violate(f, QStringLiteral("AB"));
   f.show();
+  f.picture(); // lays out
+  const QPoint ab = f.pixel(25, 0);
+  const QColor casing = Violations::color(Violations::State::Major);
+  const auto pixelsOf = [&ab](const QImage &picture, const QColor &color) {
+    QVector<int> rows;
+    for (int y = -16; y <= 16; ++y) {
+      const QColor found = picture.pixelColor(ab + QPoint(0, y));
+      if (qAbs(found.red() - color.red()) + qAbs(found.green() - color.green()) + qAbs(found.blue() - color.blue()) < 40)
+        rows.append(y);
+    }
+    return rows;
+  };
+  const QVector<int> plain = pixelsOf(f.picture(), casing);
+  QVERIFY(plain.size() > 1);
   select(f, "AB");
+  const QImage marked = f.picture();
+  QCOMPARE(pixelsOf(marked, casing), plain);
+  QVERIFY(hasOutline(marked, ab + QPoint(0, plain.first() - 1), {0, -1}));
+  QVERIFY(hasOutline(marked, ab + QPoint(0, plain.last() + 1), {0, 1}));
   const QString path = folder.filePath(QStringLiteral("marked.svg"));
   QVERIFY(exportPlot(f.plot(), path, 600));
   QFile file(path);
   QVERIFY(file.open(QIODevice::ReadOnly));
   const QByteArray drawn = file.readAll();
-  QVERIFY(drawn.contains("#ff00ff") && drawn.lastIndexOf("#ff00ff") < drawn.indexOf("#141c26"));
+  QVERIFY(drawn.contains("#141c26") && drawn.lastIndexOf("#141c26") < drawn.indexOf("#ff00ff"));
+}
+
+/// An element of which nothing is drawn is marked by a dot: a circle would surround what is not there.
+void TestEmphasis::whatIsNotSeenHasADot() {
+  ViewFixture f;
+  f.addNode("E", "60", "60", "30"); // far from the lines
+  f.net.element(QStringLiteral("E"))->set(QStringLiteral("vis"), QStringLiteral("off"));
+  f.show();
+  QCOMPARE(f.picture().pixelColor(f.pixel(60, 60)), QColor(Qt::white));
+  const QColor ofNode = f.picture().pixelColor(f.pixel(0, 0));
+  Selection selection;
+  selection.nodes.insert(QStringLiteral("E"));
+  f.control.picker()->setSelection(selection);
+  const QColor middle = f.picture().pixelColor(f.pixel(60, 60));
+  QVERIFY2(middle.lightness() < 60, qPrintable(middle.name()));
+  selection.nodes = {QStringLiteral("A")}; // which is seen, and stays so
+  f.control.picker()->setSelection(selection);
+  QCOMPARE(f.picture().pixelColor(f.pixel(0, 0)), ofNode);
 }
 
 /// However large the element is in this view.

@@ -32,6 +32,7 @@ private slots:
   void boxesAreNoLouderThanWhatTheyTell();
   void crowdedLinesLeaveRoomAndShowTheBroadOnes();
   void stationsAreNamedAtFirstSight();
+  void namesAreSpreadOverTheDrawing();
   void namesFollowTheSettings();
   void namesGiveWayToLabels();
   void machinesOfOneStationAreNamedByIt();
@@ -442,6 +443,39 @@ void TestFirstView::crowdedLinesLeaveRoomAndShowTheBroadOnes() {
     }
     QVERIFY2(red > side * 0.8, qPrintable(QStringLiteral("%1 of %2").arg(red).arg(side)));
   }
+}
+
+/// A crowd of large suppliers in one corner leaves the others their names.
+void TestFirstView::namesAreSpreadOverTheDrawing() {
+  ViewFixture f;
+  f.net.clear();
+  constexpr int Crowd = 12; // to each side
+  const auto add = [&f](const QByteArray &name, double x, double y, const char *flow) {
+    f.addNode(name, QByteArray::number(x), QByteArray::number(y), "50");
+    f.net.element(QString::fromLatin1(name))->set(QStringLiteral("qset"), QString::fromLatin1(flow));
+  };
+  for (int i = 0; i < Crowd * Crowd; ++i)
+    add("C" + QByteArray::number(i), i % Crowd * 20.0, i / Crowd * 20.0, "-500");
+  QStringList remote;
+  for (int i = 0; i < 9; ++i) {
+    if (i == 0)
+      continue; // the crowd's own corner
+    const QByteArray name = "R" + QByteArray::number(i);
+    add(name, 100.0 + i % 3 * 250.0, 100.0 + i / 3 * 200.0, "-1");
+    remote.append(QString::fromLatin1(name));
+  }
+  for (int i = 1; i < Crowd * Crowd; ++i)
+    f.add(makeEdge("P" + QByteArray::number(i), "C" + QByteArray::number(i - 1), "C" + QByteArray::number(i)), {});
+  f.addNode("lower left", "-100", "-100", "50"); // room at the sides
+  f.addNode("upper right", "750", "650", "50");
+  f.plot().resize(900, 700);
+  show(f);
+  f.plot().update().requestPixtest(-1);
+  const QStringList named = namesIn(f.plot().update());
+  const auto count =
+      std::count_if(remote.begin(), remote.end(), [&named](const QString &name) { return named.contains(name); });
+  QVERIFY2(count >= remote.size() - 1, qPrintable(named.join(QLatin1Char(' ')))); // one stands close to the crowd
+  QVERIFY(named.size() > remote.size() && named.size() < 50);
 }
 
 void TestFirstView::stationsAreNamedAtFirstSight() {

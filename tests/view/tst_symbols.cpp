@@ -28,6 +28,8 @@ private slots:
   void ownSymbolTakesThePlaceOfTheBuiltIn();
   void ownSymbolStandsForAllStates();
   void drivesOutOfUse();
+  void drivesOfParallelCompressors_data();
+  void drivesOfParallelCompressors();
   void badSvg_data();
   void badSvg();
   void ordinarySvgIsDrawn();
@@ -173,6 +175,37 @@ void TestSymbols::drivesOutOfUse() {
   f.show();
   const QColor off = f.picture().pixelColor(body);
   QVERIFY2(off.saturation() < 10 && off.lightness() > 200, qPrintable(off.name())); // grey
+}
+
+void TestSymbols::drivesOfParallelCompressors_data() {
+  QTest::addColumn<int>("count");
+  for (const int count : {1, 2, 3, 4, 5})
+    QTest::addRow("%d", count) << count;
+}
+
+/// However many machines stand side by side, every one of them and its drive is seen, and none covers another.
+void TestSymbols::drivesOfParallelCompressors() {
+  QFETCH(int, count);
+  ViewFixture f;
+  f.net.clear();
+  f.addNode("A", "0", "0", "20");
+  f.addNode("B", "200", "30", "30");
+  for (int i = 0; i < count; ++i) {
+    const QByteArray name = "C" + QByteArray::number(i);
+    f.add(i % 2 == 0 ? makeEdge(name, "A", "B", "c") : makeEdge(name, "B", "A", "c"), {});
+    element drive = makeNode("D" + QByteArray::number(i), "100", "15");
+    drive.set(QStringLiteral("type"), QStringLiteral("d"));
+    drive.set(QStringLiteral("driven"), QString::fromLatin1(name));
+    f.add(std::move(drive), {});
+  }
+  f.show();
+  f.picture(); // lays out
+  const std::vector<SymbolLayer::Placed> symbols = f.plot().update().determineVisibleSymbols();
+  QCOMPARE(symbols.size(), static_cast<std::size_t>(2 * count));
+  for (std::size_t i = 0; i < symbols.size(); ++i)
+    for (std::size_t other = 0; other < i; ++other)
+      QVERIFY2(QLineF(symbols[i].center, symbols[other].center).length() >= symbols[i].size * 0.95,
+               qPrintable(QStringLiteral("%1 %2").arg(i).arg(other)));
 }
 
 void TestSymbols::statesHaveTheirSymbols() {

@@ -34,7 +34,12 @@ CanvasLegend::CanvasLegend(Drawing drawing)
   m_resized.setSingleShot(true);
   m_resized.setInterval(0);
   m_drawing.plot.canvas()->installEventFilter(this);
-  connect(&m_resized, &QTimer::timeout, this, &CanvasLegend::place);
+  connect(&m_resized, &QTimer::timeout, this, &CanvasLegend::refresh);
+  constexpr int Stillness = 400; // ms
+  m_resting.setSingleShot(true);
+  m_resting.setInterval(Stillness);
+  connect(&m_resting, &QTimer::timeout, this, &CanvasLegend::rest);
+  connect(&m_drawing.zoomer, &PlotZoom::zoomed, &m_resting, qOverload<>(&QTimer::start));
   connect(m_action, &QAction::toggled, this, [this](bool isShown) {
     if (isShown != m_drawing.settings.showsLegend)
       changeSettings([isShown](PlotSettings &settings) { settings.showsLegend = isShown; });
@@ -61,43 +66,60 @@ void CanvasLegend::setCaption(const QString &caption) {
 }
 
 void CanvasLegend::refresh() {
+  fill();
+  place();
+}
+
+void CanvasLegend::rest() {
+  if (m_drawing.plot.isFrozen()) { // the view is still on its way
+    m_resting.start();
+    return;
+  }
+  const QRectF before = area();
+  refresh();
+  if (area() != before)
+    emit moved();
+}
+
+void CanvasLegend::fill() {
   const PlotSettings &settings = m_drawing.settings;
   m_action->setChecked(settings.showsLegend);
   LegendContents contents;
   if (settings.showsLegend)
     contents = m_drawing.update.legendContents();
   contents.caption = m_caption;
-  constexpr double SmallerThanTexts = 0.85;
-  QFont font = m_drawing.plot.font();
-  if (font.pointSizeF() > 0.0)
-    font.setPointSizeF(font.pointSizeF() * SmallerThanTexts);
   m_picture.setContents(
-      contents, settings.bgrColor, screenFont(font),
+      contents, settings.bgrColor, LegendPicture::fontOf(settings),
       [&update = m_drawing.update](QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center,
                                    double size) { update.drawLegendSymbol(painter, symbol, center, size); });
-  place();
 }
 
 void CanvasLegend::place() {
-  constexpr double MostOfWidth = 0.5; // of the canvas
-  constexpr double MostOfHeight = 0.5;
+  constexpr double MostOfCanvas = 0.5; // of its width, and of its height
   const QRectF canvas = canvasOf(m_drawing.plot);
-  m_picture.fitInto({canvas.width() * MostOfWidth, canvas.height() * MostOfHeight});
-  const QSizeF size = m_picture.size();
-  if (size.isEmpty()) {
+  const QSizeF room = canvas.size() * MostOfCanvas;
+  m_picture.fitInto(room);
+  if (m_picture.size().isEmpty()) {
     m_view->hide();
     return;
   }
-  std::vector<QRectF> taken;
-  if (const QRectF ofFunctions = m_drawing.taken(); !ofFunctions.isEmpty())
-    taken.push_back(ofFunctions);
-  const LegendPlace::Corner corner =
-      LegendPlace::cornerOf(m_drawing.settings.legendCorner)
-          .value_or(LegendPlace::leastHiding(size, canvas, m_drawing.zoomer.zoomBase(), m_drawing.update.geometry(), taken));
-  m_item.setCorner(corner);
-  m_view->setGeometry(LegendPlace::areaIn(corner, size, canvas).toRect());
+  LegendPlace::Place place;
+  if (const std::optional<LegendPlace::Corner> chosen = LegendPlace::cornerOf(m_drawing.settings.legendCorner)) {
+    place.corner = *chosen;
+  } else {
+    LegendPlace::Sizes sizes;
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+      m_picture.fitInto(room, static_cast<LegendPicture::Brevity>(i));
+      sizes[i] = m_picture.size();
+    }
+    place = LegendPlace::leastHiding(sizes, {canvas, m_drawing.update.drawnPlaces(), m_drawing.taken()}, m_standing);
+    m_standing = place;
+    m_picture.fitInto(room, place.brevity);
+  }
+  m_item.setCorner(place.corner);
+  m_view->setGeometry(LegendPlace::areaIn(place.corner, m_picture.size(), canvas).toRect());
   m_view->show();
-  m_view->update();
+  m_view->renew();
 }
 
 QRectF CanvasLegend::area() const {

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 class LegendView;
 class NetUpdate;
@@ -19,7 +20,8 @@ class QwtFastPlot;
 struct PlotSettings;
 
 /// The legend inside the canvas of a plot: what it says, where it stands, and what can be chosen at it. Which corner, and
-/// whether it is shown, the plot settings say. It goes before the plot does.
+/// whether it is shown, the plot settings say; where they leave it open, it stands where it hides least, and follows the
+/// view when that has come to rest. It goes before the plot does.
 class CanvasLegend : public QObject {
   Q_OBJECT
 public:
@@ -40,6 +42,10 @@ public:
   void setCaption(const QString &caption);
   /// After the settings, the values or the size of the canvas have changed.
   void refresh();
+  /// Where it stands, which it does not leave for little. Nothing where it stands for the first time: for another network,
+  /// or a picture of another size.
+  const std::optional<LegendPlace::Place> &standing() const { return m_standing; }
+  void setStanding(const std::optional<LegendPlace::Place> &standing) { m_standing = standing; }
   /// What it covers of the canvas, px; empty while it is hidden.
   QRectF area() const;
   /// Shows and hides it.
@@ -55,6 +61,7 @@ signals:
   void settingsWanted(const PlotSettings &settings); ///< by what a person chose
   void configurationWanted();
   void entered(); ///< by the mouse
+  void moved();   ///< of itself: labels may stand where it was, and not where it is
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
@@ -62,7 +69,9 @@ protected:
 private:
   template <typename Change>
   void changeSettings(const Change &change);
+  void fill();
   void place();
+  void rest();
   void choose(LegendPlace::Corner corner);
   void addCorners(QMenu &menu);
   void addColors(QMenu &menu);
@@ -73,5 +82,7 @@ private:
   LegendView *m_view; ///< belongs to the canvas
   QAction *m_action;
   QString m_caption;
+  std::optional<LegendPlace::Place> m_standing;
   QTimer m_resized; ///< the plot itself follows a new size first
+  QTimer m_resting; ///< the view has been still for a while when it rings
 };

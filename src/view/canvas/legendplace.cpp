@@ -1,11 +1,9 @@
 #include "canvas/legendplace.h"
 
-#include <drawing/layergeometry.h>
-
 #include <QCoreApplication>
-#include <qwt_scale_map.h>
 
 #include <array>
+#include <vector>
 
 namespace {
 
@@ -13,42 +11,49 @@ using LegendPlace::Corner;
 
 constexpr double Inset = 10.0; // px, from the sides of the canvas
 
-/// The whole of the view on the whole of the canvas.
-Projection projectionOf(const QRectF &view, const QRectF &canvas) {
-  QwtScaleMap x;
-  x.setScaleInterval(view.left(), view.right());
-  x.setPaintInterval(canvas.left(), canvas.right());
-  QwtScaleMap y;
-  y.setScaleInterval(view.top(), view.bottom()); // plot coordinates grow upwards
-  y.setPaintInterval(canvas.bottom(), canvas.top());
-  return {x, y, canvas};
+// In square pixels of what is drawn.
+constexpr double Nothing = 24.0;            // the end of a line
+constexpr double AnyAtAll = 5000.0;         // more than all that can be left out is worth
+constexpr double OfTaken = 1e9;             // nothing of the network counts as much
+constexpr double WorthAnotherPlace = 500.0; // a line of 3 px over the breadth of a legend
+
+/// What it costs to stand there; the parts add up.
+struct Cost {
+  double hidden = 0.0;
+  double unsaid = 0.0;
+
+  double sum() const { return hidden + unsaid; }
+  double whole() const { return hidden < Nothing ? unsaid : AnyAtAll + sum(); }
+};
+
+Cost costOf(LegendPlace::Place place, const QSizeF &size, const LegendPlace::Surroundings &around) {
+  constexpr std::array<double, LegendPicture::Brevities> Unsaid{0.0, 150.0, 400.0, 700.0, 1200.0};
+  constexpr double Apart = 2.0; // px
+  const QRectF area = LegendPlace::areaIn(place.corner, size, around.canvas);
+  return {around.drawn.taken(area.adjusted(-Apart, -Apart, Apart, Apart)) + (area.intersects(around.taken) ? OfTaken : 0.0),
+          Unsaid[static_cast<std::size_t>(place.brevity)]};
 }
 
-/// How much of the network the area covers, in pixels of lines. A sample of a large network tells as much.
-double hiddenBy(const QRectF &area, const Projection &projection, const NetGeometry &geometry) {
-  constexpr std::size_t Sample = 20000;
-  constexpr double OfNode = 6.0; // px of a line that count as much
-  constexpr double OfStation = 20.0;
-  double hidden = 0.0;
-  for (std::size_t i = 0, step = geometry.edges().size() / Sample + 1; i < geometry.edges().size(); i += step) {
-    const NetGeometry::Edge &edge = geometry.edges()[i];
-    QLineF line = geometry.isPlaced(edge) ? projection.map(geometry.line(edge)) : QLineF();
-    if (!geometry.isPlaced(edge) || !clipLine(line, area))
-      continue;
-    hidden += line.length() + (edge.type == 'p' ? 0.0 : OfStation);
-  }
-  for (std::size_t i = 0, step = geometry.nodes().size() / Sample + 1; i < geometry.nodes().size(); i += step) {
-    const NetGeometry::Node &node = geometry.nodes()[i];
-    if (node.isPlaced && area.contains(projection.map(node.x, node.y)))
-      hidden += OfNode;
-  }
-  for (const std::vector<NetGeometry::PointElement> *points : {&geometry.textBoxes(), &geometry.subnets()}) {
-    for (const NetGeometry::PointElement &point : *points) {
-      if (area.contains(projection.map(point.x, point.y)))
-        hidden += OfStation;
+struct Judged {
+  LegendPlace::Place place;
+  Cost cost;
+};
+
+/// The best in one of the corners.
+std::optional<Judged> best(const std::vector<Corner> &corners, const LegendPlace::Sizes &sizes,
+                           const LegendPlace::Surroundings &around) {
+  std::optional<Judged> found;
+  for (std::size_t i = 0; i < sizes.size(); ++i) {
+    for (const Corner corner : corners) {
+      const LegendPlace::Place place{corner, static_cast<LegendPicture::Brevity>(i)};
+      if (sizes[i].isEmpty())
+        continue;
+      const Cost cost = costOf(place, sizes[i], around);
+      if (!found || cost.whole() < found->cost.whole())
+        found = Judged{place, cost};
     }
   }
-  return hidden;
+  return found;
 }
 
 } // namespace
@@ -86,21 +91,12 @@ Corner LegendPlace::nearest(const QPointF &point, const QRectF &canvas) {
   return isTop ? Corner::TopRight : Corner::BottomRight;
 }
 
-Corner LegendPlace::leastHiding(const QSizeF &size, const QRectF &canvas, const QRectF &view, const NetGeometry &geometry,
-                                const std::vector<QRectF> &taken) {
-  constexpr double OfTaken = 1e9; // nothing of the network counts as much
-  const Projection projection = projectionOf(view, canvas);
-  Corner best = Corner::BottomLeft;
-  double least = -1.0;
-  for (const Corner corner : {Corner::BottomLeft, Corner::BottomRight, Corner::TopRight, Corner::TopLeft}) {
-    const QRectF area = areaIn(corner, size, canvas);
-    double hidden = projection.isValid() ? hiddenBy(area, projection, geometry) : 0.0;
-    for (const QRectF &other : taken)
-      hidden += area.intersects(other) ? OfTaken : 0.0;
-    if (least < 0.0 || hidden < least) {
-      least = hidden;
-      best = corner;
-    }
-  }
-  return best;
+LegendPlace::Place LegendPlace::leastHiding(const Sizes &sizes, const Surroundings &around,
+                                            const std::optional<Place> &before) {
+  const std::optional<Judged> found =
+      best({Corner::BottomLeft, Corner::BottomRight, Corner::TopRight, Corner::TopLeft}, sizes, around);
+  const std::optional<Judged> there = before ? best({before->corner}, sizes, around) : std::nullopt;
+  if (there && there->cost.sum() - found->cost.sum() < WorthAnotherPlace)
+    return there->place;
+  return found ? found->place : Place();
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <drawing/netgeometry.h>
+#include <drawing/legendpicture.h>
+#include <drawing/occupancygrid.h>
 
 #include <QRectF>
 #include <QStringList>
 
+#include <array>
 #include <optional>
-#include <vector>
 
 /// The corners of the canvas in which a legend may stand.
 namespace LegendPlace {
@@ -22,9 +23,25 @@ std::optional<Corner> cornerOf(const QString &name);
 QRectF areaIn(Corner corner, const QSizeF &size, const QRectF &canvas);
 /// The corner next to the point.
 Corner nearest(const QPointF &point, const QRectF &canvas);
-/// The corner in which it covers least of the network while all of this is in view.
-/// \param view what is in view then, in plot coordinates \param taken areas of the canvas where something stands already
-Corner leastHiding(const QSizeF &size, const QRectF &canvas, const QRectF &view, const NetGeometry &geometry,
-                   const std::vector<QRectF> &taken);
+
+/// Where a legend stands and how much it says.
+struct Place {
+  Corner corner = Corner::BottomLeft;
+  LegendPicture::Brevity brevity = LegendPicture::Brevity::Whole;
+};
+
+/// What a legend may cover.
+struct Surroundings {
+  QRectF canvas;
+  const OccupancyGrid &drawn;
+  QRectF taken; ///< of the canvas, where something stands already; empty for nowhere
+};
+
+using Sizes = std::array<QSizeF, LegendPicture::Brevities>; ///< by brevity; empty where a legend finds no room
+
+/// Where it covers least of what is drawn: says all where a corner is free for that, otherwise as much as one is free for,
+/// and where none is, what covers little for what it says. It stays where it stood before unless it would cover far less in
+/// another corner.
+Place leastHiding(const Sizes &sizes, const Surroundings &around, const std::optional<Place> &before);
 
 } // namespace LegendPlace

@@ -15,10 +15,28 @@ LegendView::LegendView(const LegendPicture &picture, QWidget *canvas)
   hide();
 }
 
+void LegendView::renew() {
+  m_pixels = QPixmap();
+  update();
+}
+
 void LegendView::paintEvent(QPaintEvent *) {
+  if (m_isLeftOut)
+    return;
   QPainter painter(this);
-  if (!m_isLeftOut)
+  const double ratio = devicePixelRatioF();
+  if (painter.deviceTransform().m11() != ratio) { // into a picture of another scale
     m_picture.draw(painter, QPointF());
+    return;
+  }
+  if (m_pixels.isNull() || m_pixels.devicePixelRatio() != ratio) {
+    m_pixels = QPixmap((QSizeF(size()) * ratio).toSize());
+    m_pixels.setDevicePixelRatio(ratio);
+    m_pixels.fill(Qt::transparent);
+    QPainter pixels(&m_pixels);
+    m_picture.draw(pixels, QPointF());
+  }
+  painter.drawPixmap(0, 0, m_pixels);
 }
 
 void LegendView::enterEvent(QEvent *event) {

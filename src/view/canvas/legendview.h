@@ -2,6 +2,7 @@
 
 #include <drawing/legendpicture.h>
 
+#include <QPixmap>
 #include <QWidget>
 
 /// The legend on the canvas: it can be dragged, and has a menu of its own. What happens beside it is not its matter.
@@ -10,6 +11,8 @@ class LegendView : public QWidget {
 public:
   LegendView(const LegendPicture &picture, QWidget *canvas);
 
+  /// After the picture has changed.
+  void renew();
   /// Leaves it out of pictures of the canvas that are moved in its place.
   void setIsLeftOut(bool isLeftOut) { m_isLeftOut = isLeftOut; }
 
@@ -30,7 +33,8 @@ protected:
 
 private:
   const LegendPicture &m_picture;
-  QPoint m_grip; ///< where it is held
+  QPixmap m_pixels; ///< of the picture: it is painted with every frame of the drawing below
+  QPoint m_grip;    ///< where it is held
   bool m_isDragged = false;
   bool m_isLeftOut = false;
 };

@@ -129,6 +129,7 @@ void NetPlot::setUpLegend() {
     m_update->requestPixtest(0); // labels keep away from the legend
     emit legendSettingsChosen();
   });
+  connect(m_canvasLegend.get(), &CanvasLegend::moved, this, [this] { m_update->requestPixtest(0); });
   m_plot->setLeftOut([this](bool isLeftOut) { m_canvasLegend->setIsLeftOut(isLeftOut); });
 }
 
@@ -359,6 +360,7 @@ void NetPlot::fitNetwork() {
   m_plot->updateLayout();
   if (geometry.hasExtent())
     m_zoomer->setExtent(geometry.mainExtent());
+  m_canvasLegend->setStanding(std::nullopt);
 }
 
 QRectF NetPlot::visibleArea() const {

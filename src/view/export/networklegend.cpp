@@ -5,10 +5,9 @@
 #include <memory>
 
 std::vector<PaperLegendPart> NetworkLegend::blocks(const PageDrawing &drawing) {
-  constexpr int TextSize = 11;
   const NetUpdate &update = drawing.update();
   const auto picture = std::make_shared<LegendPicture>();
-  picture->setContents(update.legendContents(), drawing.settings().bgrColor, pageFont(TextSize),
+  picture->setContents(update.legendContents(), drawing.settings().bgrColor, LegendPicture::fontOf(drawing.settings()),
                        [&update](QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center,
                                  double size) { update.drawLegendSymbol(painter, symbol, center, size); });
   std::vector<PaperLegendPart> blocks;

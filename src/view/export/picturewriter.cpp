@@ -73,9 +73,11 @@ bool PictureWriter::writePixels(QIODevice &device, const QByteArray &format, QSt
 void PictureWriter::renderDocument(QPaintDevice &document) const {
   const MarksInDocument marks(m_plot);
   QPainter painter(&document);
-  painter.scale(m_scale, m_scale);
-  DocumentRenderer().render(m_plot.plot(), &painter,
-                            QRectF(QPointF(), QSizeF(document.width(), document.height()) / m_scale));
+  // A pixel of the plot is a dot of the document, as it is one of a picture of pixels. The renderer would rather keep
+  // inches.
+  const double scale = m_scale * m_plot.plot()->logicalDpiX() / document.logicalDpiX();
+  painter.scale(scale, scale);
+  DocumentRenderer().render(m_plot.plot(), &painter, QRectF(QPointF(), QSizeF(document.width(), document.height()) / scale));
 }
 
 void PictureWriter::writeSvg(QIODevice &device) const {

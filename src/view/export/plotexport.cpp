@@ -1,3 +1,4 @@
+#include "canvas/canvaslegend.h"
 #include "canvas/qwtfastplot.h"
 #include "export/picturewriter.h"
 
@@ -56,6 +57,23 @@ private:
   QwtPlotCanvas *m_canvas;
 };
 
+/// The legend of a picture stands where it is best in the picture, and that of the screen stays where it is.
+class LegendOfPicture {
+public:
+  explicit LegendOfPicture(NetPlot &plot)
+      : m_legend(plot.canvasLegend())
+      , m_before(m_legend.standing()) {
+    m_legend.setStanding(std::nullopt);
+  }
+  ~LegendOfPicture() { m_legend.setStanding(m_before); }
+  LegendOfPicture(const LegendOfPicture &) = delete;
+  LegendOfPicture &operator=(const LegendOfPicture &) = delete;
+
+private:
+  CanvasLegend &m_legend;
+  std::optional<LegendPlace::Place> m_before;
+};
+
 /// The first rendering brings layout and scales to the new size, so that the next one is as the screen would show it.
 /// Labels that stood before are placed again.
 void layOut(NetPlot &plot, bool hasLabels) {
@@ -89,6 +107,7 @@ bool exportPlot(NetPlot &plot, const QString &path, const PictureSize &size, QSt
     plot.selection().setHovered(std::nullopt);
     {
       const WithoutStore direct(plot);
+      const LegendOfPicture legend(plot);
       const TemporarySize temporary(plot, size);
       layOut(plot, hasLabels);
       // The plot lies on whole pixels of its own; the picture has the width that was asked for all the same.

@@ -86,9 +86,12 @@ double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize) {
   return (hasSymbol ? std::max(symbolSize, lineWidth) : lineWidth) + GapBetweenLines;
 }
 
-QPointF besideLine(const QLineF &line, double lane, double symbolSize) {
+QPointF driveBeside(const QLineF &line, double lane, bool isBetweenLanes, double symbolSize) {
   constexpr double Distance = 1.2; // symbols, from middle to middle
   const double length = line.length();
+  const QPointF middle = LaneWay(line, lane * laneSpacing(true, 0.0, symbolSize)).middle().center();
+  if (isBetweenLanes)
+    return middle - QPointF(line.dx(), line.dy()) / length * (symbolSize * Distance);
   QPointF away(line.dy() / length, -line.dx() / length); // to the left of the line
   if (lane != 0.0) {
     if (lane > 0.0)
@@ -96,7 +99,7 @@ QPointF besideLine(const QLineF &line, double lane, double symbolSize) {
   } else if (away.y() > 0.0 || (away.y() == 0.0 && away.x() < 0.0)) {
     away = -away; // upwards on the screen
   }
-  return LaneWay(line, lane * laneSpacing(true, 0.0, symbolSize)).middle().center() + away * (symbolSize * Distance);
+  return middle + away * (symbolSize * Distance);
 }
 
 double distanceToLine(const QPointF &point, const QLineF &line) {

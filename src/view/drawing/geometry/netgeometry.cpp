@@ -99,6 +99,7 @@ void assignLanes(std::vector<Edge> &edges, std::size_t nodes) {
         Edge &edge = edges[way->edge];
         const float aside = static_cast<float>(way - group) - middle; // seen from the node that comes first by name
         edge.lane = edge.node1 < edge.node2 ? aside : -aside;
+        edge.isBetweenLanes = way != group && way + 1 != end;
       }
       group = end;
     }

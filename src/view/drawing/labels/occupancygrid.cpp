@@ -3,6 +3,7 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <bitset>
 #include <cmath>
 
 namespace {
@@ -131,4 +132,13 @@ void OccupancyGrid::take(const TurnedBox &box) {
     m_cells[word] |= mask;
     return true;
   });
+}
+
+double OccupancyGrid::taken(const QRectF &area) const {
+  std::size_t cells = 0;
+  forEachWord(TurnedBox(area.center(), area.size(), 0.0), [this, &cells](std::size_t word, std::uint64_t mask) {
+    cells += std::bitset<WordBits>(m_cells[word] & mask).count();
+    return true;
+  });
+  return static_cast<double>(cells) * CellLength * CellLength;
 }

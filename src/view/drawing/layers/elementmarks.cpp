@@ -4,6 +4,7 @@
 #include <drawing/nodelayer.h>
 #include <drawing/subnetlayer.h>
 #include <drawing/symbollayer.h>
+#include <drawing/textboxlayer.h>
 
 #include <algorithm>
 #include <cmath>
@@ -34,21 +35,31 @@ ElementMarks::ElementMarks(const Drawing &drawing, const Projection &projection)
 }
 
 std::optional<QLineF> ElementMarks::lineOf(NetGeometry::Item item) const {
-  const NetGeometry &geometry = *m_drawing.geometry;
-  const std::optional<QPointF> center = geometry.center(item);
+  const std::optional<QPointF> center = m_drawing.geometry->center(item);
   if (!center)
     return std::nullopt;
-  if (item.kind != NetData::Edge) {
-    const Index driven = item.kind == NetData::Node ? geometry.nodes()[item.index].driven : NoIndex;
-    const QPointF middle = driven == NoIndex ? m_projection.map(center->x(), center->y())
-                                             : besideLine(m_projection.map(geometry.line(geometry.edges()[driven])),
-                                                          static_cast<double>(geometry.edges()[driven].lane), symbolSize());
-    return QLineF(middle, middle);
-  }
-  const NetGeometry::Edge &edge = geometry.edges()[item.index];
-  return LaneWay(m_projection.map(geometry.line(edge)),
-                 static_cast<double>(edge.lane) * laneSpacing(edge.type != 'p', widthOf(item), symbolSize()))
+  if (item.kind == NetData::Edge)
+    return lineOfEdge(item.index);
+  const Index driven = item.kind == NetData::Node ? m_drawing.geometry->nodes()[item.index].driven : NoIndex;
+  const QPointF middle = driven == NoIndex ? m_projection.map(center->x(), center->y()) : placeOfDrive(item, driven);
+  return QLineF(middle, middle);
+}
+
+QLineF ElementMarks::lineOfEdge(Index number) const {
+  const NetGeometry::Edge &edge = m_drawing.geometry->edges()[number];
+  const double width = widthOf({NetData::Edge, number});
+  return LaneWay(m_projection.map(m_drawing.geometry->line(edge)),
+                 static_cast<double>(edge.lane) * laneSpacing(edge.type != 'p', width, symbolSize()))
       .middle();
+}
+
+/// Beside its compressor where it is drawn; otherwise that stands for it.
+QPointF ElementMarks::placeOfDrive(NetGeometry::Item drive, Index driven) const {
+  const NetGeometry::Edge &compressor = m_drawing.geometry->edges()[driven];
+  if (m_drawing.sizes.symbols != nullptr && m_symbols.count(drive) == 0)
+    return lineOfEdge(driven).center();
+  return driveBeside(m_projection.map(m_drawing.geometry->line(compressor)), static_cast<double>(compressor.lane),
+                     compressor.isBetweenLanes, symbolSize());
 }
 
 double ElementMarks::widthOf(NetGeometry::Item item) const {
@@ -73,8 +84,6 @@ double ElementMarks::reachOf(NetGeometry::Item item) const {
     return sizes.subnets == nullptr ? 0.0
                                     : sizes.subnets->sizeOf(item.index, m_projection) * Half *
                                           std::max(1.0, (1.0 + m_drawing.subnetFactor) / SubnetLayer::LargerThanSymbols);
-  case NetData::TextBox:
-    return symbolSize() * Half;
   case NetData::Node:
     return sizes.nodes == nullptr ? 0.0 : sizes.nodes->sizeOf(item.index, m_projection) * Half;
   default:
@@ -83,8 +92,8 @@ double ElementMarks::reachOf(NetGeometry::Item item) const {
 }
 
 bool ElementMarks::add(NetGeometry::Item item) {
-  constexpr double Margin = 30.0;     // px that a mark may be broader than its element
-  constexpr double SmallestDot = 2.5; // px, that a mark surrounds where next to nothing is drawn
+  constexpr double Margin = 30.0;      // px that a mark may be broader than its element
+  constexpr double ShortestSeen = 2.0; // px
   if (m_drawing.layers != nullptr && m_drawing.layers->isHidden(item))
     return false;
   std::optional<QLineF> line = lineOf(item);
@@ -97,14 +106,41 @@ bool ElementMarks::add(NetGeometry::Item item) {
     m_boxes.emplace_back(line->center() - QPointF(reach, reach), QSizeF(reach, reach) * 2.0);
     return true;
   }
-  if (!line->isNull())
-    m_lines[steps(widthOf(item))].push_back(*line);
-  if (reach > 0.0 || line->isNull())
-    m_discs[steps(2.0 * std::max(reach, SmallestDot))].append(line->center());
+  if (const QRectF text = item.kind == NetData::TextBox ? textArea(item.index) : QRectF(); !text.isEmpty()) {
+    m_boxes.push_back(text);
+    return true;
+  }
+  const double casing = casingOf(item);
+  const bool isLine = line->length() >= ShortestSeen;
+  if (isLine)
+    m_lines[steps(widthOf(item) + 2.0 * casing)].push_back(*line);
+  if (reach > 0.0)
+    m_discs[steps(2.0 * (reach + casing))].append(line->center());
+  else if (!isLine)
+    m_dots.append(line->center());
   return true;
 }
 
+QRectF ElementMarks::textArea(Index textBox) {
+  if (!m_texts)
+    m_texts = m_drawing.sizes.textBoxes == nullptr ? std::map<Index, QRectF>()
+                                                   : m_drawing.sizes.textBoxes->areasByTextBox(m_projection);
+  const auto found = m_texts->find(textBox);
+  return found == m_texts->end() ? QRectF() : found->second;
+}
+
+double ElementMarks::casingOf(NetGeometry::Item item) const {
+  return m_drawing.sizes.casing ? m_drawing.sizes.casing(item, m_widthFactor) : 0.0;
+}
+
 void ElementMarks::draw(QPainter &painter, const QBrush &brush, double margin, Qt::PenCapStyle caps) const {
+  constexpr double Dot = 1.0; // px across
+  drawSeen(painter, brush, margin, caps);
+  painter.setPen(QPen(brush, Dot + 2.0 * margin, Qt::SolidLine, Qt::RoundCap));
+  painter.drawPoints(m_dots);
+}
+
+void ElementMarks::drawSeen(QPainter &painter, const QBrush &brush, double margin, Qt::PenCapStyle caps) const {
   for (const auto &[width, lines] : m_lines) {
     painter.setPen(QPen(brush, width * Step + 2.0 * margin, Qt::SolidLine, caps));
     painter.drawLines(lines.data(), toQt(lines.size()));

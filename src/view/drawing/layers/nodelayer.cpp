@@ -194,6 +194,18 @@ void NodeLayer::drawStations(QPainter &painter, const std::vector<VisibleNode> &
   }
 }
 
+NodeLayer::ShapesSeen NodeLayer::shapesSeen(const Projection &projection) const {
+  ShapesSeen seen;
+  const Sizes sizes = sizesIn(projection);
+  m_index.query(projection.visible(0.0), [&](Index i) {
+    const Record &record = m_records[i];
+    if (record.isDrawn() && sizeOf(record, sizes) >= SmallestShape &&
+        projection.canvas().contains(projection.map(record.x, record.y)))
+      seen.set(static_cast<std::size_t>(record.shape));
+  });
+  return seen;
+}
+
 void NodeLayer::drawKey(QPainter &painter, NetGeometry::NodeShape shape, const QPointF &center, double size) {
   const QColor color(Qt::lightGray);
   painter.setPen(QPen(color.darker(DarkerPercent), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr double SelectionZ = 7.0; // in documents: below the elements, which stay as they are, but above their casings
+constexpr double SelectionZ = 5.0; // in documents: below the elements and their casings, which stay as they are
 
 // What lies round a selected element, px, from its edge outwards.
 constexpr double Free = 1.0; // the element as it is drawn, and what belongs to its edge
@@ -107,7 +107,7 @@ QPixmap SelectionLayer::paint(const Projection &projection, double pixelRatio) c
     marks.draw(painter, style.rim, Rim);
     marks.draw(painter, style.halo, Halo);
     marks.draw(painter, ink(), Outline);
-    marks.draw(painter, Qt::transparent, Free);
+    marks.drawSeen(painter, Qt::transparent, Free);
   };
   if (isCrowd) {
     constexpr double NarrowHalo = 1.5; // px

@@ -15,10 +15,9 @@ constexpr double SymbolZ = 30.0;
 constexpr double LargestSymbol = 512.0; // px
 constexpr double FaintestSeen = 0.3;    // presence: nobody points at what is fainter
 
-/// Lower is more important; pipes have no symbol.
 int priorityOf(char type) {
-  constexpr std::string_view TypesByPriority = "crgwkfvsd";
-  return static_cast<int>(std::min(TypesByPriority.find(type), TypesByPriority.size()));
+  constexpr std::string_view Types = SymbolLayer::TypesByPriority;
+  return static_cast<int>(std::min(Types.find(type), Types.size()));
 }
 
 } // namespace
@@ -90,6 +89,7 @@ SymbolLayer::Record SymbolLayer::recordOf(const NetGeometry &geometry, Index dri
     record.dx = line.dx();
     record.dy = line.dy();
     record.lane = driven.lane;
+    record.isBetweenLanes = driven.isBetweenLanes;
     record.isBeside = true;
   }
   record.type = 'd';
@@ -153,7 +153,9 @@ QPointF SymbolLayer::onLane(const Record &r, const Projection &projection) const
 }
 
 QPointF SymbolLayer::centerOf(const Record &r, const Projection &projection) const {
-  return r.isBeside ? besideLine(lineOf(r, projection), static_cast<double>(r.lane), m_size) : onLane(r, projection);
+  if (!r.isBeside)
+    return onLane(r, projection);
+  return driveBeside(lineOf(r, projection), static_cast<double>(r.lane), r.isBetweenLanes, m_size);
 }
 
 const std::vector<SymbolLayer::Placed> &SymbolLayer::laidOut(const Projection &projection) const {
@@ -326,9 +328,7 @@ void SymbolLayer::find(const Projection &projection, const QPointF &point, std::
   }
 }
 
-bool SymbolLayer::drawKey(QPainter &painter, char type, const QPointF &center, double size) const {
-  const Index symbol = m_symbols.find(QString(QLatin1Char(type)));
+void SymbolLayer::drawKey(QPainter &painter, Index symbol, const QPointF &center, double size) const {
   if (symbol != NoIndex)
     m_symbols.draw(painter, symbol, center, size, 0.0);
-  return symbol != NoIndex;
 }

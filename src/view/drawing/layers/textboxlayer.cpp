@@ -72,6 +72,13 @@ std::vector<QRectF> TextBoxLayer::areas(const Projection &projection) const {
   return areas;
 }
 
+std::map<Index, QRectF> TextBoxLayer::areasByTextBox(const Projection &projection) const {
+  std::map<Index, QRectF> areas;
+  for (const Placed &placed : layOut(projection))
+    areas[placed.record->textBox] = placed.area;
+  return areas;
+}
+
 void TextBoxLayer::find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const {
   // Only where a text may lie under the point is it worth finding out which of them are drawn.
   const bool isNear = projection.isValid() && std::any_of(m_records.begin(), m_records.end(), [&](const Record &record) {

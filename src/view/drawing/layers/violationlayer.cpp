@@ -10,6 +10,8 @@
 namespace {
 
 constexpr double ViolationZ = 6.0;      // below the lines
+constexpr double Casing = 5.0;          // px, to each side
+constexpr double NarrowestCasing = 2.0; // px
 constexpr std::size_t ManyMarks = 5000; // nobody sees how the edges of so many are rounded
 
 } // namespace
@@ -43,8 +45,16 @@ void ViolationLayer::setElements(const NetGeometry &geometry) {
   m_geometry = &geometry;
   find(NetData::Edge, geometry.edges());
   find(NetData::Node, geometry.nodes());
+  m_cased = m_major.items;
+  m_cased.insert(m_cased.end(), m_minor.items.begin(), m_minor.items.end());
+  std::sort(m_cased.begin(), m_cased.end());
   sort(m_major);
   sort(m_minor);
+}
+
+double ViolationLayer::casingOf(NetGeometry::Item item, double widthFactor) const {
+  const bool isCased = std::binary_search(m_cased.begin(), m_cased.end(), item) && !isHidden(item);
+  return isCased ? std::max(NarrowestCasing, Casing * widthFactor) : 0.0;
 }
 
 void ViolationLayer::sort(Marked &marked) const {
@@ -72,6 +82,7 @@ void ViolationLayer::clear() {
   m_geometry = nullptr;
   m_major = Marked();
   m_minor = Marked();
+  m_cased.clear();
 }
 
 bool ViolationLayer::isHidden(NetGeometry::Item item) const {
@@ -106,8 +117,6 @@ std::vector<NetGeometry::Item> ViolationLayer::visible(const Marked &marked, con
 }
 
 void ViolationLayer::draw(QPainter &painter, const Marked &marked, const QColor &color, const Projection &projection) const {
-  constexpr double Casing = 5.0;     // px, to each side
-  constexpr double Narrowest = 2.0;  // px
   constexpr double Gap = 1.5;        // px
   constexpr double NarrowGap = 0.75; // px
   const std::vector<NetGeometry::Item> items = visible(marked, projection);
@@ -121,8 +130,8 @@ void ViolationLayer::draw(QPainter &painter, const Marked &marked, const QColor 
     marks.add(item);
   painter.setRenderHint(QPainter::Antialiasing, marks.size() < ManyMarks);
   const Qt::PenCapStyle caps = marks.size() < ManyMarks ? Qt::RoundCap : Qt::FlatCap;
-  marks.draw(painter, color, std::max(Narrowest, Casing * marks.widthFactor()), caps);
-  marks.draw(painter, m_ground, std::max(NarrowGap, Gap * marks.widthFactor()), caps);
+  marks.draw(painter, color, std::max(NarrowestCasing, Casing * marks.widthFactor()), caps);
+  marks.drawSeen(painter, m_ground, std::max(NarrowGap, Gap * marks.widthFactor()), caps);
 }
 
 void ViolationLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap,

@@ -20,20 +20,9 @@ constexpr double Half = 0.5;
 
 } // namespace
 
-QString LegendBlock::cut(const QString &text) const {
-  return m_style.metrics().elidedText(text, Qt::ElideRight, m_widest);
-}
-
-QSizeF LegendBlock::titleSize(const QString &title) const {
-  const QRectF room(0.0, 0.0, m_widest, 1e4);
-  const QRectF needed = m_style.metrics().boundingRect(room, int(Qt::TextWordWrap), title);
-  return {std::min(std::ceil(needed.width()), m_widest), std::max(lineHeight(), std::ceil(needed.height()))};
-}
-
 void LegendBlock::drawTitle(QPainter &painter, const QPointF &top, const QString &title) const {
-  painter.setFont(m_style.font);
   painter.setPen(m_style.ink);
-  painter.drawText(QRectF(top, QSizeF(m_widest, titleSize(title).height())), int(Qt::TextWordWrap), title);
+  wrapped(title).draw(painter, top);
 }
 
 void LegendBlock::drawText(QPainter &painter, const QPointF &top, const QString &text) const {
@@ -50,11 +39,11 @@ LegendCaption::LegendCaption(LegendStyle style, QString text)
     , m_text(std::move(text)) {}
 
 QSizeF LegendCaption::size() const {
-  return {widthOf(cut(m_text)), lineHeight()};
+  return titleSize(m_text);
 }
 
 void LegendCaption::draw(QPainter &painter, const QRectF &area) const {
-  drawText(painter, area.topLeft(), cut(m_text));
+  drawTitle(painter, area.topLeft(), m_text);
 }
 
 LegendBar::LegendBar(LegendStyle style, LegendContents::Scale scale)
@@ -73,6 +62,7 @@ QSizeF LegendBar::size() const {
 std::vector<LegendBar::Tick> LegendBar::marks(const std::vector<double> &values) const {
   const QwtInterval &range = m_scale.range;
   std::vector<Tick> found;
+  found.reserve(values.size());
   for (const double value : values)
     found.push_back(
         {range.width() > 0.0 ? (value - range.minValue()) / range.width() : Half, ScaleTicks::text(value, values)});
@@ -101,12 +91,12 @@ std::vector<LegendBar::Tick> LegendBar::ticks(double width) const {
       if (m_scale.range.contains(breaks[i]))
         some.push_back(breaks[i]);
     }
-    const std::vector<Tick> found = marks(some);
+    std::vector<Tick> found = marks(some);
     if (!found.empty() && fit(found, width))
       return found;
   }
   for (int count = MostTicks; count > 1; --count) {
-    const std::vector<Tick> found = marks(ScaleTicks::within(m_scale.range, count));
+    std::vector<Tick> found = marks(ScaleTicks::within(m_scale.range, count));
     if (found.size() > 1 && fit(found, width))
       return found;
   }
@@ -232,7 +222,8 @@ QSizeF LegendKeys::size() const {
 void LegendKeys::draw(QPainter &painter, const QRectF &area) const {
   const double height = lineHeight() + 1.0;
   for (std::size_t i = 0; i < m_keys.size(); ++i) {
-    const double left = area.left() + static_cast<double>(i / rows()) * (columnWidth() + Spacing);
+    const std::size_t column = i / rows();
+    const double left = area.left() + static_cast<double>(column) * (columnWidth() + Spacing);
     const double top = area.top() + static_cast<double>(i % rows()) * height;
     constexpr double Beside = 10.0; // px, the middle of a key
     m_keys[i].draw(painter, {left + Beside, top + height * Half});

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "legend/wrappedtext.h"
+
 #include <drawing/legendcontents.h>
 
 #include <QColor>
@@ -27,7 +29,7 @@ public:
   LegendBlock(const LegendBlock &) = delete;
   LegendBlock &operator=(const LegendBlock &) = delete;
 
-  /// How broad it may be at most, px; longer titles take several lines, other texts are cut.
+  /// How broad it may be at most, px; longer titles take several lines, texts of keys are cut.
   void limit(double width) { m_widest = width; }
   virtual QSizeF size() const = 0;
   /// \param area of the size, or broader
@@ -37,15 +39,16 @@ protected:
   const LegendStyle &style() const { return m_style; }
   double widest() const { return m_widest; }
   double widthOf(const QString &text) const { return m_style.metrics().horizontalAdvance(text); }
-  QString cut(const QString &text) const;
   /// In as many lines as it takes.
-  QSizeF titleSize(const QString &title) const;
+  QSizeF titleSize(const QString &title) const { return wrapped(title).size(); }
   void drawTitle(QPainter &painter, const QPointF &top, const QString &title) const;
   double lineHeight() const { return m_style.metrics().height(); }
   /// With its left end at the left of a line of text whose top is given.
   void drawText(QPainter &painter, const QPointF &top, const QString &text) const;
 
 private:
+  WrappedText wrapped(const QString &title) const { return {title, m_style.font, m_widest}; }
+
   LegendStyle m_style;
   double m_widest = 0.0;
 };

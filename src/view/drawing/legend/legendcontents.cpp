@@ -2,15 +2,11 @@
 #include <drawing/elementlooks.h>
 #include <drawing/legendcontents.h>
 #include <drawing/scaleticks.h>
-#include <model/elementtypes.h>
-#include <model/titles.h>
 
 #include <QCoreApplication>
 
-#include <bitset>
 #include <cmath>
 #include <limits>
-#include <string_view>
 
 namespace {
 
@@ -113,31 +109,4 @@ void LegendContents::addFunctions(const PlotSettings &settings, const DrawValues
   sizes = samplesOf(bySize, QT_TRANSLATE_NOOP("LegendContents", "%1 – node size"), [&](double value) {
     return ElementLooks::sizeOfNode(nodeSize, sizeMap->fraction(bySize.range, value));
   });
-}
-
-void LegendContents::addSymbols(const NetGeometry &geometry) {
-  using Shape = NetGeometry::NodeShape;
-  constexpr std::size_t MostTypes = 256;
-  constexpr std::size_t Shapes = 4;
-  std::bitset<MostTypes> types;
-  std::bitset<Shapes> shapes;
-  for (const NetGeometry::Edge &edge : geometry.edges())
-    types.set(static_cast<unsigned char>(edge.type));
-  for (const NetGeometry::Node &node : geometry.nodes()) {
-    if (node.isDrive)
-      types.set('d');
-    else if (!node.isIdle)
-      shapes.set(static_cast<std::size_t>(node.shape));
-  }
-  for (const auto &[shape, title] : {std::pair(Shape::Supply, QT_TRANSLATE_NOOP("LegendContents", "supply")),
-                                     {Shape::Demand, QT_TRANSLATE_NOOP("LegendContents", "demand")},
-                                     {Shape::Pressure, QT_TRANSLATE_NOOP("LegendContents", "held pressure")}}) {
-    if (shapes.test(static_cast<std::size_t>(shape)))
-      symbols.push_back({translated(title), 'n', shape});
-  }
-  for (const char type : std::string_view("crgwkfvsd")) { // as they cover one another in the drawing
-    const ElementType *known = ElementTypes::byCode(QString(QLatin1Char(type)));
-    if (types.test(static_cast<unsigned char>(type)) && known != nullptr)
-      symbols.push_back({Titles::of(*known), type});
-  }
 }

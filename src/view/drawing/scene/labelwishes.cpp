@@ -83,7 +83,7 @@ void LabelWishes::collectPipes() {
     lines.clear();
 }
 
-LabelWishes::LabelWishes(const Drawing &drawing, const Projection &projection)
+LabelWishes::LabelWishes(const DrawnScene &drawing, const Projection &projection)
     : m_drawing(drawing)
     , m_projection(projection) {
   collectSubnets();

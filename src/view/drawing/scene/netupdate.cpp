@@ -1,4 +1,6 @@
 #include "geometry/geometryreader.h"
+#include "scene/drawnplaces.h"
+#include "scene/drawnsymbols.h"
 #include "scene/labelwishes.h"
 #include "scene/stationnames.h"
 
@@ -36,7 +38,9 @@ NetUpdate::NetUpdate(const PlotSettings &settings, std::function<View()> view, T
                 }) {
   m_symbols.setCovers([this](const Projection &projection) { return m_subnets.boxes(projection); });
   m_violations.setFilter({&m_layers, &m_visibility});
-  m_violations.setSizes(drawnSizes());
+  DrawnSizes sizes = drawnSizes();
+  sizes.casing = nullptr; // which are what is drawn there
+  m_violations.setSizes(sizes);
   m_subnets.setFilter({&m_layers, &m_visibility});
   m_textBoxes.setFilter({&m_layers, &m_visibility});
 }
@@ -114,10 +118,10 @@ void NetUpdate::updatePlot(Elements elements, Which which, Labels labels) {
   emit scalesChanged();
   if (std::exchange(m_isNew, false) || plotUnits != m_geometry.plotUnits())
     emit extentChanged(); // before anything is judged by what the view shows
-  emit legendChanged();
 
   updateLooks(rebuild, which, timer);
   updateSymbols(rebuild);
+  emit legendChanged(); // which says what is drawn, and stands beside it
   if (labels == Labels::Renewed) {
     if (m_hasPlacedLabels)
       placeLabels(); // those that stand say something else now; nobody may have to wait for that
@@ -183,8 +187,28 @@ LegendContents NetUpdate::legendContents() const {
     contents.casings.push_back({Violations::color(State::Major).rgb(), tr("beyond bounds (major)")});
   if (m_violations.isAny(State::Minor))
     contents.casings.push_back({Violations::color(State::Minor).rgb(), tr("beyond bounds")});
-  contents.addSymbols(m_geometry);
+  contents.symbols = DrawnSymbols::of(scene(), projection());
   return contents;
+}
+
+DrawnSizes NetUpdate::drawnSizes() const {
+  return {&m_edges,
+          &m_nodes,
+          &m_symbols,
+          &m_subnets,
+          &m_textBoxes,
+          &m_edgeWidths,
+          [this](NetGeometry::Item item, double widthFactor) {
+            return m_violations.casingOf(item, widthFactor);
+          }};
+}
+
+OccupancyGrid NetUpdate::drawnPlaces() const {
+  return DrawnPlaces::of(scene(), projection());
+}
+
+DrawnScene NetUpdate::scene() const {
+  return {m_geometry, m_edges, m_nodes, m_symbols, m_subnets, m_textBoxes, m_visibility, m_layers, m_values.flowSize()};
 }
 
 void NetUpdate::drawLegendSymbol(QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center,
@@ -193,7 +217,7 @@ void NetUpdate::drawLegendSymbol(QPainter &painter, const LegendContents::Symbol
   if (symbol.type == 'n')
     NodeLayer::drawKey(painter, symbol.shape, center, size * ShareOfShapes);
   else
-    m_symbols.drawKey(painter, symbol.type, center, size);
+    m_symbols.drawKey(painter, symbol.symbol, center, size);
 }
 
 ElementLooks NetUpdate::looks() const {
@@ -353,12 +377,10 @@ void NetUpdate::place(Wanted wanted) {
     layer.setLabels(std::move(result.labels), units);
     return std::move(result.unplaced);
   };
-  const LabelWishes::Drawing drawing{m_geometry,  m_edges,      m_nodes,  m_symbols,          m_subnets,
-                                     m_textBoxes, m_visibility, m_layers, m_values.flowSize()};
   if (wanted == Wanted::Labels)
-    m_unplaced = run(LabelWishes(drawing, view.projection));
+    m_unplaced = run(LabelWishes(scene(), view.projection));
   else
-    run(StationNames(drawing, view.projection));
+    run(StationNames(scene(), view.projection));
 }
 
 void NetUpdate::clearLabels() {

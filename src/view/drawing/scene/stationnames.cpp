@@ -1,5 +1,6 @@
 #include "scene/stationnames.h"
 
+#include <drawing/cellaxis.h>
 #include <drawing/edgelayer.h>
 #include <drawing/nodelayer.h>
 #include <drawing/subnetlayer.h>
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <numeric>
 #include <tuple>
 
 namespace {
@@ -22,7 +24,7 @@ QString ownName(const NetGeometry &geometry, NetGeometry::Item item) {
 
 } // namespace
 
-StationNames::StationNames(const LabelWishes::Drawing &drawing, const Projection &projection)
+StationNames::StationNames(const DrawnScene &drawing, const Projection &projection)
     : m_drawing(drawing)
     , m_projection(projection) {
   collectSubnets();
@@ -118,20 +120,42 @@ void StationNames::collectLines() {
     lines.clear();
 }
 
+/// The most important of each part of the canvas first, then the second of each, lest a crowd take all the names.
 void StationNames::keepTheMostImportant() {
   constexpr double RoomOfName = 130.0; // px to each side, on average
   const QRectF &canvas = m_projection.canvas();
-  const auto most = static_cast<std::ptrdiff_t>(canvas.width() * canvas.height() / (RoomOfName * RoomOfName));
+  const auto most = static_cast<std::size_t>(canvas.width() * canvas.height() / (RoomOfName * RoomOfName));
+  if (wishes.size() <= most)
+    return;
   // Of those of one weight, some from all over the drawing: neighbours have neighbouring numbers.
   const auto shuffled = [](const LabelWish &wish) {
     constexpr std::uint32_t Multiplier = 2654435761U; // Knuth's, about 2^32 by the golden ratio
     return static_cast<std::uint32_t>(wish.candidate.item.index) * Multiplier;
   };
-  const auto isBefore = [&shuffled](const LabelWish &a, const LabelWish &b) {
-    return std::make_tuple(a.rank, -a.weight, shuffled(a)) < std::make_tuple(b.rank, -b.weight, shuffled(b));
+  const auto key = [this, &shuffled](std::size_t number) {
+    const LabelWish &wish = wishes[number];
+    return std::make_tuple(wish.rank, -wish.weight, shuffled(wish));
   };
-  if (static_cast<std::ptrdiff_t>(wishes.size()) <= most)
-    return;
-  std::nth_element(wishes.begin(), wishes.begin() + most, wishes.end(), isBefore);
-  wishes.erase(wishes.begin() + most, wishes.end());
+  std::vector<std::size_t> order(wishes.size());
+  std::iota(order.begin(), order.end(), std::size_t(0));
+  std::sort(order.begin(), order.end(), [&key](std::size_t a, std::size_t b) { return key(a) < key(b); });
+  const auto cells = [](double from, double length) {
+    return CellAxis(from, RoomOfName, static_cast<Index>(std::ceil(std::max(1.0, length / RoomOfName))));
+  };
+  const CellAxis columns = cells(canvas.left(), canvas.width());
+  const CellAxis rows = cells(canvas.top(), canvas.height());
+  std::vector<std::size_t> taken(std::size_t(columns.count()) * rows.count());
+  std::vector<std::pair<std::size_t, std::size_t>> turns; // the how manieth of its part, and its place in the order
+  turns.reserve(order.size());
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    const QPointF at = wishes[order[i]].candidate.line.p1();
+    turns.emplace_back(taken[std::size_t(rows.nearest(at.y())) * columns.count() + columns.nearest(at.x())]++, i);
+  }
+  std::nth_element(turns.begin(), turns.begin() + static_cast<std::ptrdiff_t>(most), turns.end());
+  turns.resize(most);
+  std::vector<LabelWish> kept;
+  kept.reserve(most);
+  for (const auto &[turn, place] : turns)
+    kept.push_back(std::move(wishes[order[place]]));
+  wishes = std::move(kept);
 }

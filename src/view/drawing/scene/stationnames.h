@@ -1,12 +1,18 @@
 #pragma once
 
-#include "scene/labelwishes.h"
+#include "labels/labelpass.h"
+#include "scene/drawnscene.h"
+
+#include <drawing/layergeometry.h>
+
+#include <utility>
+#include <vector>
 
 /// What is named from afar, before there is room for labels: subnets, compressors, who supplies and who takes the most. Only
 /// what is drawn itself is named.
 class StationNames {
 public:
-  StationNames(const LabelWishes::Drawing &drawing, const Projection &projection);
+  StationNames(const DrawnScene &drawing, const Projection &projection);
 
   std::vector<LabelWish> wishes; ///< as many as leave the drawing its room
   std::vector<QRectF> areas;     ///< px, that they keep clear of, as of the lines
@@ -22,6 +28,6 @@ private:
   /// Compressors of one station have names that begin alike.
   QString nameOf(Index symbol, NetGeometry::Item item) const;
 
-  const LabelWishes::Drawing &m_drawing;
+  const DrawnScene &m_drawing;
   const Projection &m_projection;
 };

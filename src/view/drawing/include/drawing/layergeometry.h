@@ -67,10 +67,9 @@ struct LaneWay {
 double laneSpacing(bool hasSymbol, double lineWidth, double symbolSize);
 
 /// Where the drive of a compressor is drawn: beside the symbol in the middle of the compressor's line, away from the lines
-/// that run beside that.
-/// \param line px, of the compressor; it must have a length
-/// \param lane of that edge
-QPointF besideLine(const QLineF &line, double lane, double symbolSize);
+/// that run beside that; where lines run on both sides, behind the symbol on its own line.
+/// \param line px, of the compressor; it must have a length \param lane of that edge
+QPointF driveBeside(const QLineF &line, double lane, bool isBetweenLanes, double symbolSize);
 
 /// Of a point from a line, both in pixels.
 double distanceToLine(const QPointF &point, const QLineF &line);

@@ -37,6 +37,7 @@ struct LegendContents {
     QString title;
     char type = 'n';
     NetGeometry::NodeShape shape = NetGeometry::NodeShape::Junction; ///< of a node
+    Index symbol = NoIndex;                                          ///< of the other types, as their layer counts them
   };
 
   QString caption; ///< which case and scenario
@@ -45,7 +46,7 @@ struct LegendContents {
   Samples sizes;
   std::vector<ColorScale::Swatch> lines;   ///< colours of lines that stand for no value
   std::vector<ColorScale::Swatch> casings; ///< round elements
-  std::vector<Symbol> symbols;
+  std::vector<Symbol> symbols;             ///< that the view shows, the more important first
 
   bool isEmpty() const {
     return scales.empty() && widths.samples.empty() && sizes.samples.empty() && lines.empty() && casings.empty() &&
@@ -54,6 +55,4 @@ struct LegendContents {
 
   /// What there is to say of colours, widths and sizes.
   void addFunctions(const PlotSettings &settings, const DrawValues &values, ColorScale::Subject subject, double nodeSize);
-  /// Each symbol of the network once, the more important first.
-  void addSymbols(const NetGeometry &geometry);
 };

@@ -21,13 +21,26 @@ public:
   using DrawSymbol =
       std::function<void(QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center, double size)>;
 
+  /// How much it says; each leaves out what the former does, and more.
+  enum class Brevity {
+    Whole,
+    NoSymbols,
+    NoSizes, ///< of lines and nodes
+    Narrow,
+    OneScale
+  };
+  static constexpr std::size_t Brevities = 5;
+
   LegendPicture();
   ~LegendPicture();
 
+  /// Of the texts, by the size of the labels: as large on every screen, picture and page as those are.
+  static QFont fontOf(const PlotSettings &settings);
+
   /// \param ground of the drawing; \param font of the texts, of which the pixel size counts
-  void setContents(const LegendContents &contents, const QColor &ground, const QFont &font, DrawSymbol drawSymbol);
+  void setContents(const LegendContents &contents, const QColor &ground, const QFont &font, const DrawSymbol &drawSymbol);
   /// Takes the blocks that fit into the room, the former before the latter; none where nothing fits.
-  void fitInto(const QSizeF &room);
+  void fitInto(const QSizeF &room, Brevity brevity = Brevity::Whole);
   /// Of what fits, px; empty when nothing does.
   QSizeF size() const { return m_size; }
   void draw(QPainter &painter, const QPointF &corner) const;
@@ -41,7 +54,13 @@ public:
   std::vector<Part> parts(double width) const;
 
 private:
-  std::vector<std::unique_ptr<LegendBlock>> m_blocks;
+  struct Block {
+    std::unique_ptr<LegendBlock> block;
+    Brevity briefest; ///< that still has it
+  };
+  void add(std::unique_ptr<LegendBlock> block, Brevity briefest);
+
+  std::vector<Block> m_blocks;
   bool m_hasCaption = false;                ///< as the first block
   std::vector<const LegendBlock *> m_shown; ///< blocks that fit
   QSizeF m_size;

@@ -46,6 +46,7 @@ public:
     /// Which of the edges that join the same two nodes, drawn side by side, this is: 0 in the middle, positive to the right
     /// of the way from node1 to node2; one unit a line.
     float lane = 0.0F;
+    bool isBetweenLanes = false; ///< others of them run on both sides
 
     bool hasEnds() const { return node1 != NoIndex && node2 != NoIndex; }
   };

@@ -12,6 +12,7 @@
 #include <drawing/legendcontents.h>
 #include <drawing/netgeometry.h>
 #include <drawing/nodelayer.h>
+#include <drawing/occupancygrid.h>
 #include <drawing/pixtest.h>
 #include <drawing/plotsettings.h>
 #include <drawing/subnetlayer.h>
@@ -26,6 +27,7 @@
 #include <functional>
 
 class QElapsedTimer;
+struct DrawnScene;
 
 /// Turns the network and the plot settings into what the plot shows.
 class NetUpdate : public QObject {
@@ -86,10 +88,12 @@ public:
   /// What is in colour now, and the colours that stand for no value.
   ColorScale::Subject coloured() const;
   std::vector<ColorScale::Swatch> swatches() const { return looks().swatches(); }
-  /// What a legend says of all that is drawn, and draws a symbol of it.
+  /// What a legend says of all that is drawn in this view, and draws a symbol of it.
   LegendContents legendContents() const;
   void drawLegendSymbol(QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center, double size) const;
-  DrawnSizes drawnSizes() const { return {&m_edges, &m_nodes, &m_symbols, &m_subnets, &m_edgeWidths}; }
+  /// Where something is drawn in this view; of labels and names nothing is said, as they make room.
+  OccupancyGrid drawnPlaces() const;
+  DrawnSizes drawnSizes() const;
 
   /// Asks for a pass that decides which symbols are visible and places labels, after so many milliseconds; at once when
   /// they are negative.
@@ -141,6 +145,7 @@ private:
   enum class Wanted { Labels, Names };
   void place(Wanted wanted);
   ElementLooks looks() const;
+  DrawnScene scene() const;
   /// The size that the label table gives a type, px.
   double sizeOf(const QString &type, double otherwise) const;
   void showWhatIsVisible();

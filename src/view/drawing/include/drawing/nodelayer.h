@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 
 /// All nodes as one plot item: discs for junctions and for what neither supplies nor takes anything, triangles for supplies
 /// and demands, squares for held pressures. From afar they are dots that leave the picture to the lines, or nothing; they
@@ -40,6 +41,9 @@ public:
   double junctionScale(const Projection &projection) const {
     return sizesIn(projection)[static_cast<std::size_t>(NetGeometry::NodeShape::Junction)];
   }
+  /// Which shapes are drawn as such on the canvas, by NetGeometry::NodeShape; of small ones nobody tells the shape.
+  using ShapesSeen = std::bitset<4>;
+  ShapesSeen shapesSeen(const Projection &projection) const;
   /// Calls visit(node, center, size) for every node on the canvas, with its middle and size in pixels.
   template <typename Visitor>
   void forEachVisible(const Projection &projection, const Visitor &visit) const {

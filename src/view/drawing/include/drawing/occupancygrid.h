@@ -44,6 +44,8 @@ public:
 
   bool isFree(const TurnedBox &box) const;
   void take(const TurnedBox &box);
+  /// How many square pixels of the area are taken.
+  double taken(const QRectF &area) const;
 
 private:
   /// Calls visit(word, mask) for all words that hold cells of the box until it returns false; true when it never did.

@@ -13,7 +13,7 @@
 
 /// Marks what is selected by a dark outline and a halo and lets the rest pale, and marks the element under the cursor. On
 /// the screen it is painted over the finished drawing, so that picking never draws the network again; it is an item of the
-/// plot for documents only, where it lies below the lines and above the casings, and nothing pales.
+/// plot for documents only, where it lies below lines and casings, and nothing pales.
 class SelectionLayer : public QwtPlotItem {
 public:
   SelectionLayer();

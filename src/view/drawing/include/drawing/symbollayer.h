@@ -22,6 +22,9 @@
 /// the number of those of its kind.
 class SymbolLayer : public QwtPlotItem {
 public:
+  /// Codes of all types but pipes, which have no symbol; the former cover the latter.
+  static constexpr std::string_view TypesByPriority = "crgwkfvsd";
+
   SymbolLayer();
 
   /// Symbols of the user's own, for the stations that are set afterwards.
@@ -42,8 +45,8 @@ public:
   void setVisibility(const VisibilityRules &rules, const LayerFilter &layers);
   void clear();
 
-  /// The symbol of edges or drives of a type alone, so many pixels across, as a legend shows it; false when there is none.
-  bool drawKey(QPainter &painter, char type, const QPointF &center, double size) const;
+  /// A symbol alone, so many pixels across, as a legend shows it. \param symbol from symbolOf()
+  void drawKey(QPainter &painter, Index symbol, const QPointF &center, double size) const;
 
   int rtti() const override { return Rtti_PlotUserItem + 3; }
   void draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap, const QRectF &canvasRect) const override;
@@ -69,6 +72,9 @@ public:
     QRectF obstacle() const;
     double reach() const { return std::max(extent.width(), extent.height()) * 0.5; }
   };
+  char typeOf(const Placed &placed) const { return m_records[placed.record].type; }
+  /// A number that drawKey() knows, until the stations are set again.
+  Index symbolOf(const Placed &placed) const { return m_records[placed.record].symbol; }
   /// Those of its type that share the symbol of this number in laidOut().
   std::vector<NetGeometry::Item> sharing(const Projection &projection, Index number) const;
   /// The symbols that are drawn, the more important first. Kept until the symbols, their visibility or the view change.
@@ -82,6 +88,7 @@ private:
     double dy = 0.0;
     char type = 0;
     bool isBeside = false; ///< a drive, drawn beside the line
+    bool isBetweenLanes = false;
     NetGeometry::Item item;
     Index symbol = NoIndex; ///< of m_symbols
     Index figure = NoIndex; ///< of m_figures, in place of the symbol

@@ -27,6 +27,8 @@ public:
 
   /// What the texts that are drawn cover, px.
   std::vector<QRectF> areas(const Projection &projection) const;
+  /// The same by text box of the geometry.
+  std::map<Index, QRectF> areasByTextBox(const Projection &projection) const;
   /// Adds the text boxes whose text lies under the point.
   void find(const Projection &projection, const QPointF &point, std::vector<Hit> &hits) const;
 

@@ -24,6 +24,9 @@ public:
   /// Of the drawing; a line of it keeps casing and element apart, whatever colours they have.
   void setGround(const QColor &ground) { m_ground = ground; }
   void clear();
+  /// How far the casing of an element reaches beyond it, px; 0 where it has none.
+  /// \param widthFactor how much narrower than usual lines are drawn
+  double casingOf(NetGeometry::Item item, double widthFactor) const;
   /// Whether something has a casing of this kind, wherever it lies.
   bool isAny(Violations::State state) const;
 
@@ -51,5 +54,6 @@ private:
   DrawnSizes m_sizes;
   Marked m_major;
   Marked m_minor;
+  std::vector<NetGeometry::Item> m_cased; ///< all of them, sorted
   QColor m_ground = Qt::white;
 };
