@@ -72,7 +72,7 @@ void CanvasLegend::refresh() {
   if (font.pointSizeF() > 0.0)
     font.setPointSizeF(font.pointSizeF() * SmallerThanTexts);
   m_picture.setContents(
-      contents, settings.bgrColor, screenFont(font),
+      contents, m_drawing.shown.bgrColor, screenFont(font),
       [&update = m_drawing.update](QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center,
                                    double size) { update.drawLegendSymbol(painter, symbol, center, size); });
   place();

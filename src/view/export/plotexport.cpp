@@ -1,4 +1,5 @@
 #include "canvas/qwtfastplot.h"
+#include "export/onpaper.h"
 #include "export/picturewriter.h"
 
 #include <base/wholefile.h>
@@ -88,6 +89,7 @@ bool exportPlot(NetPlot &plot, const QString &path, const PictureSize &size, QSt
     const bool hasLabels = !plot.update().labels().empty();
     plot.selection().setHovered(std::nullopt);
     {
+      const OnPaper white(plot);
       const WithoutStore direct(plot);
       const TemporarySize temporary(plot, size);
       layOut(plot, hasLabels);

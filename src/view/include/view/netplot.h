@@ -42,6 +42,9 @@ public:
   /// Takes over the settings; what depends on them is drawn with the next updatePlot().
   void setSettings(const PlotSettings &settings);
 
+  /// While a picture is made: what leaves the screen is on white, whatever the screen has.
+  void setOnPaper(bool isOnPaper);
+
   /// "plotsettings.ini". False, and nothing is changed, when there is no such file or it cannot be read.
   bool readPlotSettings(const QString &path);
   bool writePlotSettings(const QString &path, QString *error = nullptr) const;
@@ -92,6 +95,7 @@ signals:
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
+  void changeEvent(QEvent *event) override;
 
 private:
   void showHint();
@@ -106,12 +110,15 @@ private:
   void setUpPlot();
   void setUpPanner();
   void applyColors();
+  void drawAsShown();
   bool canvasEvent(QEvent *event);
   void showContextMenu(const QPoint &place);
 
   Told m_told;
   QwtFastPlot *m_plot;
   PlotSettings m_settings;
+  PlotSettings m_shown; ///< the settings as this screen, or paper, has them
+  bool m_isOnPaper = false;
   PlotZoom *m_zoomer;
   PlotPanner *m_panner;
   std::unique_ptr<NetUpdate> m_update;
