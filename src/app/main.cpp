@@ -2,6 +2,7 @@
 #include "commandline.h"
 #include "messagebox.h"
 #include "nivraviewer.h"
+#include "theme/appearance.h"
 
 #include <base/crashguard.h>
 #include <base/nivramsg.h>
@@ -66,6 +67,7 @@ int runWindow(int argc, char **argv, const CommandLine &line) {
   // Inside the event loop, so that a window that is closed while it reads ends the program.
   if (!line.file.isEmpty())
     QTimer::singleShot(0, &viewer, [&] { viewer.open(line.file); });
+  QTimer::singleShot(0, &viewer, [&] { viewer.appearance().followDesktop(); });
   viewer.remember(line.isClean ? WorkspaceMemory::Keeps::RecentFiles : WorkspaceMemory::Keeps::Sessions);
   return QApplication::exec();
 }

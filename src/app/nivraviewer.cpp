@@ -2,6 +2,7 @@
 
 #include "aboutbox.h"
 #include "casescenarios.h"
+#include "commandicons.h"
 #include "commands.h"
 #include "lastscenario.h"
 #include "layerkeeper.h"
@@ -17,6 +18,8 @@
 #include "settings/numberlocale.h"
 #include "settings/settingsdialog.h"
 #include "subnetwindow.h"
+#include "svgicon.h"
+#include "theme/appearance.h"
 #include "toolbar.h"
 #include "tooldocks.h"
 #include "ui_nivraviewer.h"
@@ -39,8 +42,6 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMimeData>
-#include <QStyle>
-#include <QStyleFactory>
 #include <QTimer>
 #include <QToolButton>
 
@@ -78,13 +79,10 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); }) {
   qApp->installEventFilter(new WheelGuard(this));
   qApp->installEventFilter(new Mnemonics(this));
+  m_appearance = new Appearance(this);
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());
-  const QString style = QApplication::style()->objectName(); // setting it again would lay out every widget again
-  if (style.compare(QStringLiteral("Fusion"), Qt::CaseInsensitive) != 0 &&
-      QStyleFactory::keys().contains(QStringLiteral("Fusion")))
-    QApplication::setStyle(QStringLiteral("Fusion"));
   const QString ownStyle = GeneralSettings::userDirectory() + QStringLiteral("/stylesheet.qss");
   if (QFileInfo::exists(ownStyle))
     applyStyleSheet(ownStyle);
@@ -95,7 +93,10 @@ NivraViewer::NivraViewer(QWidget *parent)
   show();
   QCoreApplication::processEvents();
   addAction(m_ui->actionSearch);
-  connect(m_ui->menuView, &QMenu::aboutToShow, m_tools, [this] { m_tools->fillViewMenu(*m_ui->menuView); });
+  connect(m_ui->menuView, &QMenu::aboutToShow, m_tools, [this] {
+    m_tools->fillViewMenu(*m_ui->menuView);
+    m_ui->menuView->insertMenu(m_ui->menuView->actions().constFirst(), &m_appearance->menu());
+  });
   connect(m_control.get(), &NetVisControl::currentElementChanged, this, &NivraViewer::currentEleChanged);
   connect(m_tools, &ToolDocks::elementMarked, this,
           [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
@@ -118,6 +119,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   setUpFileMenu();
   setUpReloading();
   loadSettings();
+  connect(m_appearance, &Appearance::changed, this, [this] { OutcomeStyle::refresh(*m_ui->statusbar); });
   m_control->clear();
 }
 
@@ -130,6 +132,7 @@ void NivraViewer::setUpFileMenu() {
   connect(recent, &RecentMenu::fileWanted, this, &NivraViewer::open);
   connect(m_ui->label, &StartPage::openWanted, this, &NivraViewer::on_actionOpen_triggered);
   connect(m_ui->label, &StartPage::fileWanted, this, &NivraViewer::open);
+  m_reload->setIcon(svgIcon(QStringLiteral("reload")));
   m_reload->setShortcut(Qt::Key_F5);
   m_reload->setToolTip(tr("Read the files of the case again (F5)"));
   m_reload->setEnabled(false);
@@ -171,6 +174,7 @@ void NivraViewer::setUpForm() {
 
 void NivraViewer::setUpCommands() {
   const WithoutPlugins own;
+  CommandIcons::give(*this);
   m_commands = new Commands(*this, *m_control,
                             {m_ui->menubar, m_ui->menuFile, m_ui->menuInfo, m_ui->actionOpen, m_ui->actionSavePage});
   connect(m_commands, &Commands::elementWanted, this, [this](const QString &name) {
@@ -269,13 +273,13 @@ void NivraViewer::applyStyleSheet(const QString &path) {
 }
 
 bool NivraViewer::resolve(NetworkLoader &loader, const QString &path) {
-  m_ui->statusbar->setStyleSheet(QString());
+  OutcomeStyle::clear(*m_ui->statusbar);
   if (loader.resolve(path)) {
     if (m_loader.workspace().isValid()) // what is open may stay so
       FileAccess::confineTo(m_loader.workspace().root());
     return true;
   }
-  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::Failed));
+  OutcomeStyle::show(*m_ui->statusbar, OutcomeStyle::Outcome::Failed);
   m_ui->statusbar->showMessage(tr("Invalid Workspace"));
   if (NivraMsg::showsBoxes()) // else the log has said it already
     NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
@@ -320,7 +324,7 @@ void NivraViewer::openWorkspace(const QString &path) {
 /// Tells how the opening went.
 void NivraViewer::showOutcome(bool isRead, const OpeningClock &clock) {
   constexpr int ShownMs = 20000;
-  m_ui->statusbar->setStyleSheet(OutcomeStyle::sheet(outcome(isRead)));
+  OutcomeStyle::show(*m_ui->statusbar, outcome(isRead));
   if (isRead)
     m_ui->statusbar->showMessage(tr("Startup finished in %1ms").arg(clock.elapsed()), ShownMs);
   else
@@ -376,6 +380,7 @@ void NivraViewer::loadSettings() {
   m_settingsRead = FileStamp::of(GeneralSettings::settingsFile(root));
   GeneralSettings::instance().load(root, logFinding);
   NumberLocale::apply();
+  m_appearance->refresh();
 }
 
 ReadFiles::Stamps NivraViewer::filesShown() const {

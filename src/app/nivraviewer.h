@@ -15,6 +15,7 @@
 #include <memory>
 #include <vector>
 
+class Appearance;
 class CategoryList;
 class Commands;
 class LayerKeeper;
@@ -42,6 +43,8 @@ public:
   /// What is kept of the workspaces that are opened from now on; nothing by default.
   void remember(WorkspaceMemory::Keeps keeps);
 
+  /// Light and dark.
+  Appearance &appearance() const { return *m_appearance; }
   NetVisControl *visControl() const { return m_control.get(); }
   static QString openDialogStart(const QString &applicationDir);
 
@@ -99,6 +102,7 @@ private:
   std::unique_ptr<NetVisControl> m_control;
   NetworkLoader m_loader;
   std::shared_ptr<CategoryList> m_categories;
+  Appearance *m_appearance = nullptr;
   ToolDocks *m_tools = nullptr;
   LayerKeeper *m_layers;
   WorkspaceMemory *m_memory = nullptr;
