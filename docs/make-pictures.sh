@@ -84,9 +84,12 @@ close() {
 shoot() { # [WINDOW], else all that stands where the window is
   if [ -n "${1:-}" ]; then import -window "$1" "$picture"; else import -window root -crop 1200x900+0+0 "$picture"; fi
 }
+look=light # whatever the desktop has
 window() { # PICTURE FILE [STEPS]; without a shoot among the steps the window is taken at their end
   wants "$1" || return 0
   rm -rf "$data"/{data,config,cache} # pages that were open come back otherwise
+  mkdir -p "$data/config/Nivra/NivraReader"
+  echo "appearance;general;list;$look;;" >"$data/config/Nivra/NivraReader/generalsettings.csv"
   picture=$images/$1.png
   "$NIVRA_VIEWER" --clean "$2" &
   viewer=$!
@@ -97,6 +100,7 @@ window() { # PICTURE FILE [STEPS]; without a shoot among the steps the window is
   case ${3:-} in *shoot*) ;; *) shoot ;; esac
   close
 }
+dark_window() { look=dark window "$@"; } # the same on a dark screen
 
 # A display of our own: a number that is free now might be taken when it is asked for.
 Xvfb -displayfd 3 -noreset -screen 0 1280x960x24 3>"$data/display" 2>/dev/null &
@@ -108,6 +112,7 @@ export DISPLAY
 example=example/DE_H2/S5/S5.scen.jsn
 window example-window "$example" 'sleep 1'
 ! wants example || "$NIVRA_VIEWER" --export "$images/example.png" --width 1200 "$example"
+dark_window dark "$example" 'go_to CS_Rehden_C1; press ctrl+i ctrl+0; sleep 1.5'
 for n in 11 40 135; do
   file=../shared/data/GasLib-$n/N1/N1.scen.jsn
   [ ! -f "$file" ] || window "gaslib-$n-window" "$file" 'sleep 1'

@@ -84,13 +84,13 @@ void CaseOpening::open(const QString &path) {
 
 bool CaseOpening::resolve(NetworkLoader &loader, const QString &path) {
   QStatusBar &bar = *m_parts.window.statusBar();
-  bar.setStyleSheet(QString());
+  OutcomeStyle::clear(bar);
   if (loader.resolve(path)) {
     if (workspace().isValid()) // what is open may stay so
       FileAccess::confineTo(workspace().root());
     return true;
   }
-  bar.setStyleSheet(OutcomeStyle::sheet(OutcomeStyle::Outcome::Failed));
+  OutcomeStyle::show(bar, OutcomeStyle::Outcome::Failed);
   bar.showMessage(tr("Invalid Workspace"));
   if (NivraMsg::showsBoxes()) // else the log has said it already
     NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
@@ -224,7 +224,7 @@ OutcomeStyle::Outcome CaseOpening::outcome(bool isRead) const {
 void CaseOpening::tellOutcome(bool isRead, const OpeningClock &clock) {
   constexpr int ShownMs = 20000;
   QStatusBar &bar = *m_parts.window.statusBar();
-  bar.setStyleSheet(OutcomeStyle::sheet(outcome(isRead)));
+  OutcomeStyle::show(bar, outcome(isRead));
   if (isRead)
     bar.showMessage(tr("Startup finished in %1ms").arg(clock.elapsed()), ShownMs);
   else
@@ -236,6 +236,7 @@ void CaseOpening::loadSettings() {
   m_settingsRead = FileStamp::of(GeneralSettings::settingsFile(root));
   GeneralSettings::instance().load(root, logFinding);
   NumberLocale::apply();
+  emit settingsLoaded();
 }
 
 void CaseOpening::takeSettings() {

@@ -60,6 +60,7 @@ public:
 
 signals:
   void shown(); ///< or what is left of it where it could not be read
+  void settingsLoaded();
   void ended(); ///< reading and whatever follows it
 
 private:

@@ -136,6 +136,7 @@ void Commands::setIcons() {
         std::pair(Act::Measure, "measure"), std::pair(Act::Labels, "labels"), std::pair(Act::SavePicture, "save-picture"),
         std::pair(Act::CopyPicture, "copy-picture")})
     actions[command]->setIcon(svgIcon(QLatin1String(name)));
+  m_control.plot()->legendAction()->setIcon(svgIcon(QStringLiteral("legend")));
   for (const auto &[aspect, name] :
        {std::pair(Aspect::EdgeColor, "edge-colour"), std::pair(Aspect::NodeColor, "node-colour")})
     actions.functionMenu(aspect)->setIcon(svgIcon(QLatin1String(name)));

@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QListWidget>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QUrl>
@@ -49,7 +51,8 @@ HelpWindow::HelpWindow(QWidget *parent)
   addWidget(m_list);
   addWidget(m_text);
   setStretchFactor(1, 1);
-  resize(Size);
+  constexpr QSize Frame(20, 60); // of the window, so that it fits a small screen
+  resize(Size.boundedTo(screen()->availableSize() - Frame));
   setSizes({ListWidth, Size.width() - ListWidth});
   for (const HelpPages::Page &page : m_pages.pages())
     m_list->addItem(page.title);
@@ -80,6 +83,16 @@ void HelpWindow::show(int page) {
     cursor.setBlockFormat(format);
   }
   m_text->moveCursor(QTextCursor::Start);
+}
+
+/// Links were read in the colour of before.
+void HelpWindow::changeEvent(QEvent *event) {
+  QSplitter::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange || m_list->currentRow() < 0)
+    return;
+  const int place = m_text->verticalScrollBar()->value();
+  show(m_list->currentRow());
+  m_text->verticalScrollBar()->setValue(place);
 }
 
 void HelpWindow::follow(const QUrl &link) {

@@ -17,6 +17,9 @@ public:
   void showPage(const QString &name);
   const HelpPages &pages() const { return m_pages; }
 
+protected:
+  void changeEvent(QEvent *event) override;
+
 private:
   void show(int page);
   void follow(const QUrl &link);

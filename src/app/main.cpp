@@ -3,6 +3,7 @@
 #include "language/language.h"
 #include "messagebox.h"
 #include "nivraviewer.h"
+#include "theme/appearance.h"
 
 #include <base/crashguard.h>
 #include <base/nivramsg.h>
@@ -82,6 +83,7 @@ int runWindow(int argc, char **argv, const CommandLine &line) {
   // Inside the event loop, so that a window that is closed while it reads ends the program.
   if (!line.file.isEmpty())
     QTimer::singleShot(0, &viewer, [&] { viewer.open(line.file); });
+  QTimer::singleShot(0, &viewer, [&] { viewer.appearance().followDesktop(); });
   viewer.remember(line.isClean ? WorkspaceMemory::Keeps::RecentFiles : WorkspaceMemory::Keeps::Sessions);
   const int status = QApplication::exec();
   if (viewer.restarts())

@@ -2,6 +2,7 @@
 
 #include "aboutbox.h"
 #include "caseopening.h"
+#include "commandicons.h"
 #include "commands.h"
 #include "language/languagechoice.h"
 #include "layerkeeper.h"
@@ -12,6 +13,8 @@
 #include "recentmenu.h"
 #include "settings/settingsdialog.h"
 #include "subnetwindows.h"
+#include "svgicon.h"
+#include "theme/appearance.h"
 #include "toolbar.h"
 #include "tooldocks.h"
 #include "toolwindows.h"
@@ -34,8 +37,6 @@
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QMimeData>
-#include <QStyle>
-#include <QStyleFactory>
 #include <QTimer>
 #include <QToolButton>
 
@@ -73,13 +74,10 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_language(new LanguageChoice(*this)) {
   qApp->installEventFilter(new WheelGuard(this));
   qApp->installEventFilter(new Mnemonics(this));
+  m_appearance = new Appearance(this);
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());
-  const QString style = QApplication::style()->objectName(); // setting it again would lay out every widget again
-  if (style.compare(QStringLiteral("Fusion"), Qt::CaseInsensitive) != 0 &&
-      QStyleFactory::keys().contains(QStringLiteral("Fusion")))
-    QApplication::setStyle(QStringLiteral("Fusion"));
   const QString ownStyle = GeneralSettings::userDirectory() + QStringLiteral("/stylesheet.qss");
   if (QFileInfo::exists(ownStyle))
     applyStyleSheet(ownStyle);
@@ -94,6 +92,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   addAction(m_ui->actionSearch);
   connect(m_ui->menuView, &QMenu::aboutToShow, m_tools, [this] {
     m_tools->fillViewMenu(*m_ui->menuView);
+    m_ui->menuView->insertMenu(m_ui->menuView->actions().constFirst(), &m_appearance->menu());
     m_language->addTo(*m_ui->menuView);
   });
   connect(m_language, &LanguageChoice::chosen, m_opening.get(), &CaseOpening::takeSettings);
@@ -120,7 +119,9 @@ NivraViewer::NivraViewer(QWidget *parent)
   setUpFileMenu();
   setUpOpening();
   setUpSubnets();
+  connect(m_opening.get(), &CaseOpening::settingsLoaded, m_appearance, &Appearance::refresh);
   m_opening->loadSettings();
+  connect(m_appearance, &Appearance::changed, this, [this] { OutcomeStyle::refresh(*m_ui->statusbar); });
   m_control->clear();
 }
 
@@ -133,6 +134,7 @@ void NivraViewer::setUpFileMenu() {
   connect(recent, &RecentMenu::fileWanted, this, &NivraViewer::open);
   connect(m_ui->label, &StartPage::openWanted, this, &NivraViewer::on_actionOpen_triggered);
   connect(m_ui->label, &StartPage::fileWanted, this, &NivraViewer::open);
+  m_reload->setIcon(svgIcon(QStringLiteral("reload")));
   m_reload->setShortcut(Qt::Key_F5);
   m_reload->setToolTip(tr("Read the files of the case again (F5)"));
   m_reload->setEnabled(false);
@@ -184,6 +186,7 @@ void NivraViewer::setUpForm() {
 
 void NivraViewer::setUpCommands() {
   const WithoutPlugins own;
+  CommandIcons::give(*this);
   m_commands = new Commands(*this, *m_control,
                             {m_ui->menubar, m_ui->menuFile, m_ui->menuInfo, m_ui->actionOpen, m_ui->actionSavePage});
   connect(m_commands, &Commands::elementWanted, this, [this](const QString &name) {

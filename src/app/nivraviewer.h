@@ -12,6 +12,7 @@
 #include <memory>
 #include <vector>
 
+class Appearance;
 class CaseOpening;
 class CategoryList;
 class Commands;
@@ -42,6 +43,8 @@ public:
   /// What is kept of the workspaces that are opened from now on; nothing by default.
   void remember(WorkspaceMemory::Keeps keeps);
 
+  /// Light and dark.
+  Appearance &appearance() const { return *m_appearance; }
   NetVisControl *visControl() const { return m_control.get(); }
   static QString openDialogStart(const QString &applicationDir);
 
@@ -82,6 +85,7 @@ private:
   NetData m_net;
   std::unique_ptr<NetVisControl> m_control;
   std::shared_ptr<CategoryList> m_categories;
+  Appearance *m_appearance = nullptr;
   SubnetWindows *m_subnets;
   ToolDocks *m_tools = nullptr;
   LayerKeeper *m_layers;

@@ -1,11 +1,18 @@
 #include "outcomestyle.h"
 
+#include "theme/themepalette.h"
+
 #include <base/nivramsg.h>
 #include <base/settings.h>
 
+#include <QColor>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QRegularExpression>
+#include <QStatusBar>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
@@ -32,11 +39,41 @@ bool isHarmless(const QString &declaration) {
   return form.match(declaration).hasMatch() && !declaration.contains(QLatin1String("url"), Qt::CaseInsensitive);
 }
 
+/// The usual backgrounds are light; a dark window has them dark, in their hue. Another one is somebody's choice.
+QString onScreen(const QString &declarations, const Setting<QString> &setting) {
+  static const QRegularExpression usual(QStringLiteral("^background: *(#?\\w+)$"));
+  const QRegularExpressionMatch match = usual.match(declarations);
+  const auto builtIn = GeneralSettings::instance().valueIn(GeneralSettings::Layer::BuiltIn, setting.key());
+  if (!ThemePalette::isDark(QGuiApplication::palette()) || !match.hasMatch() || declarations != builtIn)
+    return declarations;
+  constexpr double Saturation = 0.45;
+  constexpr double Lightness = 0.22;
+  const QColor ground = QColor::fromHslF(std::max(QColor(match.captured(1)).hslHueF(), 0.0), Saturation, Lightness);
+  return QStringLiteral("color: white; background: %1").arg(ground.name());
+}
+
+constexpr const char *ShownOutcome = "outcome";
+
 } // namespace
+
+void OutcomeStyle::show(QStatusBar &bar, Outcome outcome) {
+  bar.setProperty(ShownOutcome, static_cast<int>(outcome));
+  bar.setStyleSheet(sheet(outcome));
+}
+
+void OutcomeStyle::clear(QStatusBar &bar) {
+  bar.setProperty(ShownOutcome, QVariant());
+  bar.setStyleSheet(QString());
+}
+
+void OutcomeStyle::refresh(QStatusBar &bar) {
+  if (const QVariant shown = bar.property(ShownOutcome); shown.isValid())
+    bar.setStyleSheet(sheet(static_cast<Outcome>(shown.toInt())));
+}
 
 QString OutcomeStyle::sheet(Outcome outcome) {
   QStringList taken{QStringLiteral("color: black")}; // the usual backgrounds are light, whatever the desktop's colours
-  for (const QString &declaration : setting(outcome).value().split(QLatin1Char(';'))) {
+  for (const QString &declaration : onScreen(setting(outcome).value(), setting(outcome)).split(QLatin1Char(';'))) {
     if (isHarmless(declaration))
       taken.append(declaration.trimmed());
     else if (!declaration.trimmed().isEmpty())

@@ -7,7 +7,7 @@
 /// Small pictures of workspaces in the cache folder of the user, each a PNG file that is called after the workspace.
 namespace Thumbnails {
 
-constexpr QSize Size(320, 200); ///< px
+constexpr QSize Size(448, 280); ///< px: two for each of the cards, for screens that have so many
 
 QString folder();
 QString fileOf(const QString &workspace);

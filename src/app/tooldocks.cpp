@@ -2,10 +2,12 @@
 
 #include "casescenarios.h"
 #include "consoledock.h"
+#include "dockroom.h"
 #include "elementpanels.h"
 #include "mnemonics.h"
 #include "panelfocus.h"
 #include "scenariodock.h"
+#include "svgicon.h"
 #include "toolwindows.h"
 
 #include <base/nivramsg.h>
@@ -107,6 +109,7 @@ QDockWidget *ToolDocks::addDock(QDockWidget *dock, const QString &name, Qt::Dock
     dock->raise();
     PanelFocus::give(*dock);
   });
+  new DockRoom(*dock, m_window);
   dock->hide(); // the network gets the room; the "View" menu brings it
   m_docks.append(dock);
   return dock;
@@ -184,6 +187,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
 void ToolDocks::createElementTable() {
   m_elementTable = new ElementTable(m_net, &m_window);
   addDock(m_elementTable, QStringLiteral("elementTable"), Qt::BottomDockWidgetArea);
+  m_elementTable->openAction()->setIcon(svgIcon(QStringLiteral("element-table")));
   m_window.addAction(m_elementTable->openAction());
   connect(m_elementTable, &ElementTable::selected, m_control.picker(), &NetPicker::setSelection);
   connect(m_elementTable, &ElementTable::currentChanged, &m_control, &NetVisControl::setCurrentElement);

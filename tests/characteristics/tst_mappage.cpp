@@ -34,6 +34,7 @@ class TestMapPage : public QObject {
 
 private slots:
   void keysCopyAndPrint();
+  void darkScreensAreNotForPaper();
 };
 
 /// With the keys of the map: a picture on the clipboard, and a page that names machine, case and scenario.
@@ -69,6 +70,31 @@ void TestMapPage::keysCopyAndPrint() {
   QCOMPARE(page.count("<image"), 0);
   QVERIFY(!contentOf(pdf).isEmpty() && contentOf(pdf).count("/Subtype /Image") == 0);
   QCOMPARE(plot.grab().toImage(), before);
+}
+
+void TestMapPage::darkScreensAreNotForPaper() {
+  const QTemporaryDir folder;
+  QWidget window; // whose palette the map takes over, as it does that of the program
+  auto *plot = new MapPlot(&window);
+  plot->show(piston(), std::nullopt);
+  plot->resize(420, 320);
+  const QImage light = plot->grab().toImage();
+  QVERIFY(plot->save(folder.filePath(QStringLiteral("light.svg"))));
+  window.setPalette(QPalette(QColor(60, 65, 71), QColor(49, 53, 58)));
+  const QImage dark = plot->grab().toImage();
+  const QPoint inside = plot->canvas()->geometry().bottomLeft() + QPoint(20, -6);
+  QCOMPARE(light.pixelColor(inside), QColor(Qt::white));
+  QVERIFY(dark.pixelColor(inside).lightness() < 60);
+  int lines = 0;
+  for (int y = 0; y < dark.height(); ++y)
+    for (int x = 0; x < dark.width(); ++x)
+      lines += dark.pixelColor(x, y).lightness() > 130 ? 1 : 0;
+  QVERIFY2(lines > 500, qPrintable(QString::number(lines))); // curves, axes and letters are light
+  QVERIFY(plot->save(folder.filePath(QStringLiteral("dark.svg"))));
+  QCOMPARE(contentOf(folder.filePath(QStringLiteral("dark.svg"))), contentOf(folder.filePath(QStringLiteral("light.svg"))));
+  QCOMPARE(plot->grab().toImage(), dark);
+  window.setPalette(QPalette());
+  QCOMPARE(plot->grab().toImage(), light);
 }
 
 NIVRA_TEST(TestMapPage);

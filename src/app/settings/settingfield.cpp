@@ -1,5 +1,7 @@
 #include "settingfield.h"
 
+#include "theme/themepalette.h"
+
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -55,7 +57,7 @@ void SettingField::choose() {
 void SettingField::mark() {
   const bool isWrong = !isAllowed();
   QPalette colors = m_line->palette();
-  colors.setColor(QPalette::Text, isWrong ? QColor(Qt::red) : palette().color(QPalette::Text));
+  colors.setColor(QPalette::Text, isWrong ? ThemePalette::wrong(palette()) : palette().color(QPalette::Text));
   m_line->setPalette(colors);
   QString wanted = m_setting.boundsText();
   if (m_setting.kind == SettingDescription::Kind::Colour)

@@ -31,7 +31,7 @@ SettingsDialog::SettingsDialog(const QString &workspaceDir, QWidget *parent)
     , m_pages(new QTabWidget)
     , m_findings(new QLabel)
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel)) {
-  constexpr QSize Size(880, 600);
+  constexpr QSize Size(860, 560);
   setWindowTitle(tr("Settings"));
   m_filter->setSourceModel(m_model);
   m_pages->addTab(makeAllPage(), tr("&All settings"));

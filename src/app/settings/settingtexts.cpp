@@ -12,6 +12,8 @@ struct Words {
 constexpr Words Texts[] = {
     {"start with last scenario",
      QT_TRANSLATE_NOOP("SettingDescription", "A geometry file opens with the scenario of its case that was opened last.")},
+    {"appearance", QT_TRANSLATE_NOOP("SettingDescription",
+                                     "Light or dark windows, or as the desktop has them. A workspace does not change it.")},
     {"auto-save PE and CHAR widget list",
      QT_TRANSLATE_NOOP("SettingDescription", "The open pages of machine maps come back with their case.")},
     {"use comma",

@@ -1,5 +1,6 @@
 #include "machinepage.h"
 
+#include "mapcolors.h"
 #include "mapplot.h"
 #include "shownnumber.h"
 
@@ -8,6 +9,8 @@
 #include <model/units.h>
 
 #include <QComboBox>
+#include <QEvent>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -18,7 +21,9 @@ namespace {
 
 using Comparison = NetworkMachines::Comparison;
 
-constexpr const char *Warning = "#b22222";
+QString warningColor() {
+  return MapColors::onScreen(QGuiApplication::palette()).warning().name();
+}
 
 QString cell(const QString &text) {
   return QStringLiteral("<td>%1&nbsp;&nbsp;</td>").arg(text);
@@ -29,7 +34,7 @@ QString valueText(double value, const QString &unit) {
 }
 
 QString warning(const QString &text) {
-  return QStringLiteral("<p style=\"color:%1;\">%2</p>").arg(QLatin1String(Warning), text.toHtmlEscaped());
+  return QStringLiteral("<p style=\"color:%1;\">%2</p>").arg(warningColor(), text.toHtmlEscaped());
 }
 
 QString plain(const QString &text) {
@@ -41,8 +46,7 @@ QString storedCells(const Comparison &comparison) {
   constexpr double Shown = 0.05; // percent; below it there is no sign to show
   const double percent = comparison.computed == 0.0 ? 0.0 : 100.0 * comparison.difference() / comparison.computed;
   const QString difference = MachinePage::tr("%1 %").arg(DisplayFormat::fixed(std::abs(percent) < Shown ? 0.0 : percent, 1));
-  const QString color =
-      comparison.isApart() ? QStringLiteral(" style=\"color:%1;\"").arg(QLatin1String(Warning)) : QString();
+  const QString color = comparison.isApart() ? QStringLiteral(" style=\"color:%1;\"").arg(warningColor()) : QString();
   return QStringLiteral("<td%1><b>%2</b>&nbsp;&nbsp;</td><td%1>%3</td>")
       .arg(color, valueText(comparison.stored, comparison.unit), difference);
 }
@@ -239,6 +243,13 @@ void MachinePage::refresh() {
   m_map = makeMap(machine);
   m_column->insertWidget(m_column->count() - 1, m_map, 3);
   m_text->setText(said);
+}
+
+/// What the text warns of has another colour on a dark ground.
+void MachinePage::changeEvent(QEvent *event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && m_map != nullptr)
+    refresh();
 }
 
 void MachinePage::setPageFacts(const PageFacts &facts) {

@@ -29,6 +29,9 @@ public:
 signals:
   void saveFailed(const QString &reason); ///< of the picture of a map
 
+protected:
+  void changeEvent(QEvent *event) override;
+
 private:
   QComboBox *addChoice(const QString &name, const QString &tip);
   MachineChoice choice() const;

@@ -24,6 +24,8 @@
 #include <qwt_plot_zoomer.h>
 #include <qwt_symbol.h>
 
+#include <utility>
+
 namespace {
 
 constexpr int TitleSize = 9;      // points
@@ -38,22 +40,31 @@ public:
       : QwtPlotZoomer(plot.canvas())
       , m_plot(plot) {
     setTrackerMode(QwtPicker::AlwaysOn);
-    setRubberBandPen(QPen(MapCanvas::Blue, 1.0, Qt::DashLine));
-    setTrackerPen(QColor(40, 40, 40));
+    takeColors(MapColors::onWhite());
     setMousePattern(QwtEventPattern::MouseSelect2, Qt::MiddleButton, Qt::ControlModifier); // the right one has a menu
     setMousePattern(QwtEventPattern::MouseSelect3, Qt::MiddleButton);
+  }
+
+  void takeColors(const MapColors &colors) {
+    setRubberBandPen(QPen(colors.of(MapCanvas::Blue), 1.0, Qt::DashLine));
+    setTrackerPen(colors.ink());
+    m_ground = colors.ground();
+    m_ground.setAlpha(GroundAlpha);
   }
 
 protected:
   QwtText trackerTextF(const QPointF &position) const override {
     QwtText text(m_plot.readout(position));
-    text.setBackgroundBrush(QColor(255, 255, 255, 220));
+    text.setBackgroundBrush(m_ground);
     text.setRenderFlags(Qt::AlignLeft);
     return text;
   }
 
 private:
+  static constexpr int GroundAlpha = 220;
+
   MapCanvas &m_plot;
+  QColor m_ground;
 };
 
 } // namespace
@@ -61,8 +72,8 @@ private:
 MapCanvas::MapCanvas(QWidget *parent)
     : QwtPlot(parent)
     , m_zoomer(nullptr) {
-  setCanvasBackground(Qt::white);
   m_zoomer = new ReadingZoomer(*this);
+  color(screenColors());
   setMinimumSize(260, 200);
 }
 
@@ -80,8 +91,44 @@ QVector<QPointF> MapCanvas::shown(QVector<QPointF> computed) const {
   return computed;
 }
 
+MapColors MapCanvas::screenColors() const {
+  return MapColors::onScreen(palette());
+}
+
+void MapCanvas::add(QwtPlotItem *item, std::function<void(const MapColors &)> color) {
+  color(screenColors());
+  item->attach(this);
+  m_coloring.push_back(std::move(color));
+}
+
+void MapCanvas::color(const MapColors &colors) {
+  setCanvasBackground(colors.ground());
+  QPalette own = palette(); // which axes and title are written with
+  own.setColor(QPalette::WindowText, colors.ink());
+  own.setColor(QPalette::Text, colors.ink());
+  setPalette(own);
+  static_cast<ReadingZoomer *>(m_zoomer)->takeColors(colors);
+  for (const auto &item : m_coloring)
+    item(colors);
+}
+
+void MapCanvas::paintOnWhite(const std::function<void()> &paint) {
+  color(MapColors::onWhite());
+  paint();
+  color(screenColors());
+}
+
+void MapCanvas::changeEvent(QEvent *event) {
+  QwtPlot::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange || m_zoomer == nullptr)
+    return;
+  color(screenColors());
+  replot();
+}
+
 void MapCanvas::reset(const QString &heading, const Axis &x, const Axis &y) {
   detachItems();
+  m_coloring.clear();
   m_toDisplayX = x.quantity.toDisplay();
   m_toDisplayY = y.quantity.toDisplay();
   QwtText title(heading, QwtText::PlainText);
@@ -91,8 +138,7 @@ void MapCanvas::reset(const QString &heading, const Axis &x, const Axis &y) {
   title.setFont(font);
   setTitle(title);
   auto *grid = new QwtPlotGrid;
-  grid->setMajorPen(Qt::lightGray, 0.0, Qt::DotLine);
-  grid->attach(this);
+  add(grid, [grid](const MapColors &colors) { grid->setMajorPen(colors.grid(), 0.0, Qt::DotLine); });
   setAxisTitle(xBottom, x.quantity.title(x.title));
   setAxisTitle(yLeft, y.quantity.title(y.title));
 }
@@ -102,9 +148,12 @@ void MapCanvas::addLine(const QVector<QPointF> &points, const QPen &pen, const Q
     return;
   auto *curve = new QwtPlotCurve;
   curve->setSamples(shown(points));
-  curve->setPen(pen);
   curve->setRenderHint(QwtPlotItem::RenderAntialiased);
-  curve->attach(this);
+  add(curve, [curve, pen](const MapColors &colors) {
+    QPen shown = pen;
+    shown.setColor(colors.of(pen.color()));
+    curve->setPen(shown);
+  });
   if (label.isEmpty())
     return;
   auto *marker = new QwtPlotMarker;
@@ -112,12 +161,14 @@ void MapCanvas::addLine(const QVector<QPointF> &points, const QPen &pen, const Q
   QFont font = text.font();
   font.setPointSize(8);
   text.setFont(font);
-  text.setColor(pen.color());
-  marker->setLabel(text);
   marker->setLabelAlignment(alignment);
   marker->setSpacing(LabelSpacing);
   marker->setValue(shown(points.last()));
-  marker->attach(this);
+  add(marker, [marker, text, color = pen.color()](const MapColors &colors) {
+    QwtText said = text;
+    said.setColor(colors.of(color));
+    marker->setLabel(said);
+  });
 }
 
 void MapCanvas::addRoom(const QPointF &to) {
@@ -131,8 +182,12 @@ void MapCanvas::addArea(const QVector<QPointF> &outline) {
   auto *area = new QwtPlotShapeItem;
   area->setPolygon(QPolygonF(shown(outline)));
   area->setPen(QPen(Qt::NoPen));
-  area->setBrush(QColor(31, 93, 138, 26));
-  area->attach(this);
+  add(area, [area](const MapColors &colors) {
+    constexpr int Alpha = 26;
+    QColor ground = colors.of(Blue);
+    ground.setAlpha(Alpha);
+    area->setBrush(ground);
+  });
 }
 
 void MapCanvas::addDots(const QVector<QPointF> &points) {
@@ -140,35 +195,38 @@ void MapCanvas::addDots(const QVector<QPointF> &points) {
     return;
   auto *dots = new QwtPlotCurve;
   dots->setStyle(QwtPlotCurve::NoCurve);
-  dots->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, Qt::white, QPen(Orange, 1.2), QSize(5, 5)));
   dots->setSamples(shown(points));
   dots->setRenderHint(QwtPlotItem::RenderAntialiased);
-  dots->attach(this);
+  add(dots, [dots](const MapColors &colors) {
+    dots->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, colors.ground(), QPen(colors.of(Orange), 1.2), QSize(5, 5)));
+  });
 }
 
 void MapCanvas::addWorkingPoint(const QPointF &at, bool isInside) {
   auto *marker = new QwtPlotMarker;
   const QColor color = isInside ? Green : Red;
-  marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, color, QPen(Qt::white, 1.5), QSize(13, 13)));
   marker->setValue(shown(at));
   marker->setLineStyle(QwtPlotMarker::Cross);
-  marker->setLinePen(color, 1.0, Qt::DotLine);
   marker->setZ(50.0);
-  marker->attach(this);
+  add(marker, [marker, color](const MapColors &colors) {
+    marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, colors.of(color), QPen(colors.ground(), 1.5), QSize(13, 13)));
+    marker->setLinePen(colors.of(color), 1.0, Qt::DotLine);
+  });
 }
 
 void MapCanvas::addStoredPoint(const QPointF &at) {
   auto *marker = new QwtPlotMarker;
-  marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, Qt::NoBrush, QPen(Blue, 2.0), QSize(13, 13)));
   marker->setValue(shown(at));
-  QwtText text(tr("results"));
-  text.setColor(Blue);
-  marker->setLabel(text);
   marker->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
   marker->setSpacing(10);
   marker->setItemAttribute(QwtPlotItem::AutoScale);
   marker->setZ(49.0);
-  marker->attach(this);
+  add(marker, [marker](const MapColors &colors) {
+    marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, Qt::NoBrush, QPen(colors.of(Blue), 2.0), QSize(13, 13)));
+    QwtText text(tr("results"));
+    text.setColor(colors.of(Blue));
+    marker->setLabel(text);
+  });
 }
 
 void MapCanvas::finish() {
@@ -215,7 +273,7 @@ void MapCanvas::paint(QPaintDevice &device, const QSizeF &size) {
   QwtPlotRenderer renderer;
   renderer.setDiscardFlag(QwtPlotRenderer::DiscardBackground);
   QPainter painter(&device);
-  renderer.render(this, &painter, QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin));
+  paintOnWhite([&] { renderer.render(this, &painter, QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin)); });
 }
 
 QImage MapCanvas::picture() {
@@ -275,6 +333,7 @@ void MapCanvas::copy() {
 }
 
 void MapCanvas::print() {
-  MapPage page(*this, m_facts);
+  MapPage page(
+      *this, [this](const std::function<void()> &paint) { paintOnWhite(paint); }, m_facts);
   PageDialog(page, PageDialog::Purpose::Print, this).exec();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mapcolors.h"
 #include "mapquantity.h"
 
 #include <paper/pagecontent.h>
@@ -10,6 +11,7 @@
 #include <qwt_plot.h>
 
 #include <functional>
+#include <vector>
 
 /// A diagram with a heading: what maps of machines are drawn of, and what a person can do with them. Dragging zooms, a right
 /// click zooms out and offers to copy, to save and to print; the keys of copying and printing do so, too.
@@ -18,15 +20,18 @@ class MapCanvas : public QwtPlot {
 public:
   explicit MapCanvas(QWidget *parent = nullptr);
 
-  static inline const QColor Blue{31, 93, 138};
-  static inline const QColor Green{46, 125, 50};
-  static inline const QColor Red{178, 34, 34};
-  static inline const QColor Orange{196, 98, 16};
+  static inline const QColor &Blue = MapColors::Blue;
+  static inline const QColor &PaleBlue = MapColors::PaleBlue;
+  static inline const QColor &Green = MapColors::Green;
+  static inline const QColor &Red = MapColors::Red;
+  static inline const QColor &Orange = MapColors::Orange;
 
   /// What stands under the cursor, for the plot's coordinates.
   QString readout(const QPointF &position) const;
   /// The format by the suffix: PDF, SVG or a picture. False with the reason.
   bool save(const QString &path, QString *reason = nullptr);
+  /// Paints the map as documents have it: on white, whatever the screen has.
+  void paintOnWhite(const std::function<void()> &paint);
   /// What a page of it says.
   void setPageFacts(const PageFacts &facts) { m_facts = facts; }
 
@@ -35,6 +40,7 @@ signals:
 
 protected:
   bool event(QEvent *event) override;
+  void changeEvent(QEvent *event) override;
   void contextMenuEvent(QContextMenuEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
 
@@ -58,6 +64,10 @@ protected:
   void finish();
 
 private:
+  /// Adds an item, and how it takes its colours.
+  void add(QwtPlotItem *item, std::function<void(const MapColors &)> color);
+  void color(const MapColors &colors);
+  MapColors screenColors() const;
   QPointF shown(const QPointF &computed) const;
   QVector<QPointF> shown(QVector<QPointF> computed) const;
   QImage picture();
@@ -67,6 +77,7 @@ private:
   void copy();
   void print();
 
+  std::vector<std::function<void(const MapColors &)>> m_coloring; ///< of the items
   PageFacts m_facts;
   std::function<QString(const QPointF &)> m_readout;
   Units::Linear m_toDisplayX;

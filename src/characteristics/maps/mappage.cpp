@@ -25,6 +25,5 @@ void MapPage::paint(QPainter &painter) const {
   renderer.setDiscardFlag(QwtPlotRenderer::DiscardBackground);
   renderer.setDiscardFlag(QwtPlotRenderer::DiscardTitle); // which the page has
   const QRectF area = QRectF(QPointF(), m_frame).adjusted(Margin * 0.5, Margin, -Margin * 1.5, -Margin * 0.5);
-  renderer.render(const_cast<QwtPlot *>(&m_map), &painter, // NOLINT: it is as before when this returns
-                  QRectF(area.topLeft() * dots, area.size() * dots));
+  m_onWhite([&] { renderer.render(&m_map, &painter, QRectF(area.topLeft() * dots, area.size() * dots)); });
 }

@@ -247,7 +247,7 @@ void MapPlot::addPowers(const Drive &drive, const std::pair<double, double> &spe
       if (const double limit = (*drive.power)(at, speed); limit > 0.0)
         line.append(QPointF(speed, limit));
     }
-    addLine(line, QPen(isPresent ? Blue : QColor(120, 160, 190), isPresent ? 2.0 : 1.2),
+    addLine(line, QPen(isPresent ? Blue : PaleBlue, isPresent ? 2.0 : 1.2),
             label.join(QStringLiteral(", ")) + QLatin1Char(' ') + temperatureUnit().unit(),
             Qt::AlignRight | Qt::AlignVCenter);
     i = std::max(next, i + 1);

@@ -4,6 +4,7 @@
 #include <base/index.h>
 #include <base/nivramsg.h>
 #include <tools/nivranetobjectcats.h>
+#include <tools/paletteicon.h>
 #include <tools/tablemenu.h>
 
 #include <QApplication>
@@ -11,7 +12,7 @@
 namespace {
 
 QIcon actionIcon(const char *name) {
-  return QIcon(QStringLiteral(":/iconsToolBar/crystal_project_icons/32x32/actions/%1").arg(QLatin1String(name)));
+  return paletteIcon(QStringLiteral(":/iconsToolBar/crystal_project_icons/32x32/actions/%1").arg(QLatin1String(name)));
 }
 
 } // namespace

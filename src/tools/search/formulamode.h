@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QPalette>
 
 class QAction;
 class QLineEdit;
@@ -20,10 +19,13 @@ public:
 signals:
   void ended(); ///< the field holds a pattern again
 
+protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
   void show(bool on);
+  void color();
 
   QLineEdit &m_field;
   QAction *m_action;
-  QPalette m_plainPalette;
 };

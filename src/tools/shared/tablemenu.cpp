@@ -1,4 +1,5 @@
 #include <model/displayformat.h>
+#include <tools/paletteicon.h>
 #include <tools/plaintip.h>
 #include <tools/tablemenu.h>
 
@@ -9,7 +10,6 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QMenu>
-#include <QPainter>
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTreeView>
@@ -19,15 +19,7 @@
 namespace {
 
 QIcon funnel() {
-  constexpr int Side = 16;
-  QPixmap picture(Side, Side);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setBrush(QColor(196, 98, 16));
-  painter.setPen(Qt::NoPen);
-  painter.drawPolygon(QPolygon({{1, 2}, {15, 2}, {10, 8}, {10, 14}, {6, 12}, {6, 8}}));
-  return {picture};
+  return paletteIcon(QStringLiteral(":/iconsToolBar/filter.svg"));
 }
 
 /// The first line: the others say what the column is about.

@@ -89,7 +89,7 @@ void CanvasLegend::fill() {
     contents = m_drawing.update.legendContents();
   contents.caption = m_caption;
   m_picture.setContents(
-      contents, settings.bgrColor, LegendPicture::fontOf(settings),
+      contents, m_drawing.shown.bgrColor, LegendPicture::fontOf(settings),
       [&update = m_drawing.update](QPainter &painter, const LegendContents::Symbol &symbol, const QPointF &center,
                                    double size) { update.drawLegendSymbol(painter, symbol, center, size); });
 }

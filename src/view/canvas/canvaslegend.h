@@ -30,6 +30,7 @@ public:
     QwtFastPlot &plot;
     const PlotZoom &zoomer;
     const PlotSettings &settings;
+    const PlotSettings &shown; ///< with the colours of this screen
     const NetUpdate &update;
     std::function<QRectF()> taken;         ///< where something else stands on the canvas, px; empty for nowhere
     std::function<PlotSettings()> applied; ///< the settings without a preview of others

@@ -7,6 +7,7 @@
 #include "interaction/smoothzoom.h"
 
 #include <base/settings.h>
+#include <drawing/drawingtheme.h>
 #include <view/netplot.h>
 
 #include <QContextMenuEvent>
@@ -43,8 +44,8 @@ NetPlot::NetPlot(QWidget *parent, Told told)
     , m_zoomer(new PlotZoom(*m_plot, m_settings, m_told))
     , m_panner(new PlotPanner(*m_plot))
     , m_update(std::make_unique<NetUpdate>(
-          m_settings, [this] { return view(); }, m_told))
-    , m_canvasLegend(std::make_unique<CanvasLegend>(CanvasLegend::Drawing{*m_plot, *m_zoomer, m_settings, *m_update,
+          m_shown, [this] { return view(); }, m_told))
+    , m_canvasLegend(std::make_unique<CanvasLegend>(CanvasLegend::Drawing{*m_plot, *m_zoomer, m_settings, m_shown, *m_update,
                                                                           [this] { return functionLegendArea(); },
                                                                           [this] {
                                                                             return appliedSettings();
@@ -94,7 +95,7 @@ void NetPlot::setUpUpdate() {
   for (QwtPlotItem *item : m_update->items())
     item->attach(m_plot);
   connect(m_update.get(), &NetUpdate::scalesChanged, this, [this] {
-    ColorBars::show(*m_plot, m_settings, m_update->values(), m_update->coloured(), m_update->swatches());
+    ColorBars::show(*m_plot, m_shown, m_update->values(), m_update->coloured(), m_update->swatches());
     showAxes();
   });
   connect(m_update.get(), &NetUpdate::extentChanged, this, &NetPlot::fitNetwork);
@@ -291,7 +292,6 @@ void NetPlot::draw(const DrawnStyle &style) {
 
 void NetPlot::take(const PlotSettings &settings) {
   m_settings = settings;
-  m_selection.setGround(m_settings.bgrColor, m_settings.dimsRest);
   applyColors();
   emit settingsChanged();
 }
@@ -309,22 +309,45 @@ bool NetPlot::writePlotSettings(const QString &path, QString *error) const {
 }
 
 void NetPlot::applyColors() {
-  m_plot->setCanvasBackground(m_settings.bgrColor);
+  m_shown = DrawingTheme::onScreen(m_settings, !m_isOnPaper && ColorScale::isDark(palette().color(QPalette::Window)));
+  m_selection.setGround(m_shown.bgrColor, m_shown.dimsRest);
+  m_plot->setCanvasBackground(m_shown.bgrColor);
   // The scales stand on the colour of the drawing, without a frame between them.
   QPalette colors = m_plot->palette();
-  const QColor ink = ColorScale::isDark(m_settings.bgrColor) ? Qt::white : Qt::black;
-  colors.setColor(QPalette::Window, m_settings.bgrColor);
+  const QColor ink = DrawingTheme(m_shown.bgrColor).ink();
+  colors.setColor(QPalette::Window, m_shown.bgrColor);
   colors.setColor(QPalette::WindowText, ink);
   colors.setColor(QPalette::Text, ink);
   m_plot->setPalette(colors);
   // A file that does not name a colour leaves it invalid: such lines are not drawn.
-  m_grid.enableX(m_settings.gridMajorColor.isValid());
-  m_grid.enableY(m_settings.gridMajorColor.isValid());
-  m_grid.enableXMin(m_settings.gridMinorColor.isValid());
-  m_grid.enableYMin(m_settings.gridMinorColor.isValid());
-  m_grid.setMajorPen(m_settings.gridMajorColor, 0.0, Qt::DashLine);
-  m_grid.setMinorPen(m_settings.gridMinorColor, 0.0, Qt::DotLine);
-  m_grid.setVisible(m_settings.showGrid);
+  m_grid.enableX(m_shown.gridMajorColor.isValid());
+  m_grid.enableY(m_shown.gridMajorColor.isValid());
+  m_grid.enableXMin(m_shown.gridMinorColor.isValid());
+  m_grid.enableYMin(m_shown.gridMinorColor.isValid());
+  m_grid.setMajorPen(m_shown.gridMajorColor, 0.0, Qt::DashLine);
+  m_grid.setMinorPen(m_shown.gridMinorColor, 0.0, Qt::DotLine);
+  m_grid.setVisible(m_shown.showGrid);
+}
+
+void NetPlot::setOnPaper(bool isOnPaper) {
+  m_isOnPaper = isOnPaper;
+  drawAsShown();
+}
+
+void NetPlot::drawAsShown() {
+  const PlotSettings before = m_shown;
+  applyColors();
+  if (m_shown == before)
+    return;
+  m_update->updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
+  showHint();
+  m_plot->updateOverlay();
+}
+
+void NetPlot::changeEvent(QEvent *event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && m_update != nullptr)
+    drawAsShown();
 }
 
 void NetPlot::showNetwork() {
@@ -399,8 +422,12 @@ void NetPlot::showHint() {
     text = geometry.unplaced() > 0 ? tr("Nothing to draw: no element of this network has coordinates.")
                                    : tr("Nothing to draw: the network is empty.");
   QwtText hint(text);
-  hint.setColor(Qt::darkGray);
-  hint.setBackgroundBrush(QColor(255, 255, 255, 220));
+  constexpr int GroundAlpha = 220;
+  const DrawingTheme theme(m_shown.bgrColor);
+  QColor ground = theme.ground();
+  ground.setAlpha(GroundAlpha);
+  hint.setColor(theme.text(Qt::darkGray, theme.ground()));
+  hint.setBackgroundBrush(ground);
   hint.setRenderFlags(geometry.hasExtent() ? int(Qt::AlignTop | Qt::AlignHCenter) : int(Qt::AlignCenter));
   m_hint.setText(hint);
   m_hint.setVisible(!text.isEmpty());
@@ -421,9 +448,9 @@ void NetPlot::placeLegend() {
   constexpr int BackgroundAlpha = 200;
   QwtText text(m_update->legendText(), QwtText::PlainText);
   text.setFont(QFont(QStringLiteral("Arial"), std::max(m_settings.labelMag + LargerThanLabels, 1), QFont::Bold));
-  text.setColor(m_settings.edgeLabelsColor);
+  text.setColor(m_shown.edgeLabelsColor);
   text.setRenderFlags(Qt::AlignLeft | Qt::AlignVCenter);
-  QColor background = m_settings.bgrColor;
+  QColor background = m_shown.bgrColor;
   background.setAlpha(BackgroundAlpha);
   text.setBackgroundBrush(background);
   m_legend.setLabel(text);

@@ -1,5 +1,6 @@
 #include "canvas/canvaslegend.h"
 #include "canvas/qwtfastplot.h"
+#include "export/onpaper.h"
 #include "export/picturewriter.h"
 
 #include <base/wholefile.h>
@@ -106,6 +107,7 @@ bool exportPlot(NetPlot &plot, const QString &path, const PictureSize &size, QSt
     const bool hasLabels = !plot.update().labels().empty();
     plot.selection().setHovered(std::nullopt);
     {
+      const OnPaper white(plot);
       const WithoutStore direct(plot);
       const LegendOfPicture legend(plot);
       const TemporarySize temporary(plot, size);

@@ -1,23 +1,26 @@
 #include "interaction/measurelayer.h"
 
+#include <drawing/drawingtheme.h>
+
 #include <QApplication>
 #include <QCoreApplication>
 #include <QPainter>
+#include <qwt_plot.h>
 #include <qwt_scale_map.h>
 
 namespace {
 
-const QColor &ink() {
-  static const QColor color(20, 60, 90);
-  return color;
+constexpr QRgb Ink = 0xff143c5a;
+constexpr int GroundAlpha = 225;
+
+QColor groundOf(const DrawingTheme &theme) {
+  QColor ground = theme.paper();
+  ground.setAlpha(GroundAlpha);
+  return ground;
 }
 
-const QColor &ground() {
-  static const QColor color(255, 255, 255, 225);
-  return color;
-}
-
-void drawText(QPainter &painter, const QPointF &beside, const QString &text, const QRectF &canvas) {
+void drawText(QPainter &painter, const QPointF &beside, const QString &text, const QRectF &canvas,
+              const DrawingTheme &theme) {
   constexpr double Gap = 8.0;    // px from the point
   constexpr double Margin = 3.0; // px around the text
   QRectF box = painter.fontMetrics().boundingRect(text);
@@ -28,8 +31,8 @@ void drawText(QPainter &painter, const QPointF &beside, const QString &text, con
     box.moveRight(beside.x() - Gap);
   if (box.bottom() > canvas.bottom())
     box.moveBottom(beside.y() - Gap);
-  painter.setPen(QPen(ink(), 1.0));
-  painter.setBrush(ground());
+  painter.setPen(QPen(theme.turned(QColor(Ink)), 1.0));
+  painter.setBrush(groundOf(theme));
   painter.drawRoundedRect(box, Margin, Margin);
   painter.drawText(box, Qt::AlignCenter, text);
 }
@@ -91,24 +94,26 @@ void MeasureLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtSca
   constexpr double HaloWidth = 5.0;
   constexpr double PointRadius = 3.5;
   const std::vector<QPointF> points = path();
+  const DrawingTheme theme(m_plot.canvasBackground().color());
+  const QColor ink = theme.turned(QColor(Ink));
   QPolygonF line;
   for (const QPointF &point : points)
     line.append(QPointF(xMap.transform(point.x()), yMap.transform(point.y())));
   painter->save();
   painter->setBrush(Qt::NoBrush);
-  painter->setPen(QPen(ground(), HaloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter->setPen(QPen(groundOf(theme), HaloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter->drawPolyline(line);
-  painter->setPen(QPen(ink(), LineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter->setPen(QPen(ink, LineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter->drawPolyline(line);
-  painter->setPen(QPen(ink(), LineWidth));
-  painter->setBrush(Qt::white);
+  painter->setPen(QPen(ink, LineWidth));
+  painter->setBrush(theme.paper());
   for (const QPointF &point : qAsConst(line))
     painter->drawEllipse(point, PointRadius, PointRadius);
   painter->setFont(QApplication::font());
   double sum = 0.0;
   for (std::size_t i = 1; i < points.size(); ++i) {
     sum += leg(points[i - 1], points[i]);
-    drawText(*painter, line[static_cast<int>(i)], m_scale.written(sum), canvasRect);
+    drawText(*painter, line[static_cast<int>(i)], m_scale.written(sum), canvasRect, theme);
   }
   painter->restore();
 }

@@ -10,6 +10,10 @@
 /// A path over the drawing and how long it is up to each of its points.
 class MeasureLayer : public QwtPlotItem {
 public:
+  /// \param plot whose ground it is drawn on
+  explicit MeasureLayer(const QwtPlot &plot)
+      : m_plot(plot) {}
+
   /// \param plotUnits plot units a unit of the network's coordinates, in which the scale counts
   void setScale(const MapScale &scale, double plotUnits);
 
@@ -33,6 +37,7 @@ private:
   double leg(const QPointF &from, const QPointF &to) const;
   std::vector<QPointF> path() const;
 
+  const QwtPlot &m_plot;
   MapScale m_scale;
   double m_plotUnits = 1.0;
   std::vector<QPointF> m_points;

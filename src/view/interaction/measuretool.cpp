@@ -9,7 +9,8 @@
 
 MeasureTool::MeasureTool(NetPlot &plot, QObject *parent)
     : QObject(parent)
-    , m_plot(plot) {
+    , m_plot(plot)
+    , m_layer(*plot.plot()) {
   plot.plot()->addOverlayItem(&m_layer);
   plot.plot()->canvas()->installEventFilter(this);
 }

@@ -1,4 +1,5 @@
 #include "canvas/qwtfastplot.h"
+#include "export/onpaper.h"
 #include "export/plotsaver.h"
 #include "interaction/functionmenu.h"
 #include "interaction/measuretool.h"
@@ -269,7 +270,11 @@ void PlotActions::setLabelsShown(bool shown) {
 
 void PlotActions::copyPicture() {
   m_plot.selection().setHovered(std::nullopt);
-  const QImage picture = m_plot.grab().toImage();
+  QImage picture;
+  {
+    const OnPaper white(m_plot);
+    picture = m_plot.grab().toImage();
+  }
   QApplication::clipboard()->setImage(picture);
   emit told(tr("Copied the drawing, %1 × %2 pixels").arg(picture.width()).arg(picture.height()));
 }

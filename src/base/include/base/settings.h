@@ -42,6 +42,7 @@ private:
 namespace Settings {
 
 inline constexpr Setting<bool> StartWithLastScenario{"start with last scenario"};
+inline constexpr Setting<QString> Appearance{"appearance"};
 inline constexpr Setting<bool> KeepCharacteristicsList{"auto-save PE and CHAR widget list"};
 inline constexpr Setting<bool> UseComma{"use comma"};
 inline constexpr Setting<bool> ZoomToElement{"zoom to element"};

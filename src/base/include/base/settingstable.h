@@ -25,6 +25,7 @@ constexpr Effect Kept = Effect::Kept;
 
 inline constexpr Row Rows[] = {
     {"start with last scenario", "off", "list", "general", "on,off", Acts},
+    {"appearance", "like the desktop", "list", "general", "like the desktop,light,dark", Acts},
     {"auto-save PE and CHAR widget list", "on", "list", "general", "on,off", Acts},
     {"use comma", "1", "bool", "general", "", Acts},
     {"language", "desktop", "list", "general", "desktop,en,de", Acts},

@@ -71,6 +71,7 @@ QString propertyAt(const QString &text, int position) {
 LabelContents::LabelContents(const LabelTable &table, const PlotSettings &settings, const NetData &net, Told told)
     : m_net(net)
     , m_told(std::move(told))
+    , m_theme(settings.bgrColor)
     , m_hasOwnStyles(StyleKeys().areUsed()) {
   if (settings.label_mode == QLatin1String("name only"))
     m_mode = Mode::Name;
@@ -315,6 +316,7 @@ LabelStyle LabelContents::nameStyle(NetData::EleType kind) const {
   constexpr int HaloAlpha = 215;
   constexpr double TextShare = 0.75; // names step back behind what they name
   LabelStyle style = styleOf(kind);
+  style.text = m_theme.text(style.text, style.background);
   style.halo = style.background;
   style.halo.setAlpha(std::min(HaloAlpha, style.text.alpha()));
   style.background = Qt::transparent;
@@ -332,5 +334,6 @@ LabelStyle LabelContents::style(const element &source, NetData::EleType kind) co
     readColor(source.value(keys.background), source.value(keys.backgroundAlpha), style.background);
     readColor(source.value(keys.border), source.value(keys.borderAlpha), style.border);
   }
+  style.text = m_theme.text(style.text, style.background);
   return style;
 }

@@ -89,6 +89,11 @@ void SubnetLayer::setLook(double size, int alpha) {
   setZ(Settings::SubnetBackgroundZ.value());
 }
 
+void SubnetLayer::setGround(const QColor &ground) {
+  m_theme = DrawingTheme(ground);
+  m_symbols.setGround(ground);
+}
+
 Findings SubnetLayer::setSubnets(const NetData &net, const NetGeometry &geometry) {
   m_records.clear();
   m_typicalLength = geometry.typicalLength();
@@ -162,7 +167,7 @@ void SubnetLayer::drawPins(QPainter &painter, const Record &record, const QRectF
   constexpr double LargestPin = 5.0; // px
   const double pinSize = std::min(LargestPin, box.width() * 0.12);
   const QRectF area = projection.canvas().adjusted(-pinSize, -pinSize, pinSize, pinSize);
-  const QColor ink(110, 120, 130);
+  const QColor ink = m_theme.line(QColor(110, 120, 130));
   for (const QPointF &pin : record.pins) {
     QLineF line(box.center(), projection.map(pin.x(), pin.y()));
     if (m_drawsPinLines && clipLine(line, area)) {
@@ -173,7 +178,7 @@ void SubnetLayer::drawPins(QPainter &painter, const Record &record, const QRectF
     if (!area.contains(end))
       continue;
     painter.setPen(QPen(ink, 1.0));
-    painter.setBrush(Qt::white);
+    painter.setBrush(m_theme.paper());
     painter.drawRect(QRectF(end - QPointF(pinSize, pinSize) * 0.5, QSizeF(pinSize, pinSize)));
   }
 }
@@ -208,9 +213,9 @@ void SubnetLayer::drawBox(QPainter &painter, const Record &record, const QRectF 
     painter.drawRoundedRect(box.adjusted(-margin, -margin, margin, margin), rounding, rounding);
   }
   const double known = std::max(ThinnestRing, m_penWidth * std::min(1.0, size / FullSize));
-  painter.setPen(m_penWidth > 0.0 ? QPen(record.ring, std::min(m_penWidth, record.isRingKnown ? known : 1.0))
+  painter.setPen(m_penWidth > 0.0 ? QPen(m_theme.line(record.ring), std::min(m_penWidth, record.isRingKnown ? known : 1.0))
                                   : QPen(Qt::NoPen));
-  painter.setBrush(Qt::white);
+  painter.setBrush(isVectorTarget(painter) ? QColor(Qt::white) : m_theme.paper()); // documents have the symbols as they are
   painter.drawRoundedRect(box, rounding, rounding);
   if (record.symbol != NoIndex)
     m_symbols.draw(painter, record.symbol, box.center(), size * SymbolShare, 0.0);

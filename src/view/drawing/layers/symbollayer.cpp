@@ -307,7 +307,7 @@ void SymbolLayer::drawShafts(QPainter &painter, const Projection &projection, co
     const Record &r = m_records[p.record];
     if (!r.isBeside)
       continue;
-    QColor ink(90, 100, 110);
+    QColor ink = m_theme.line(QColor(90, 100, 110));
     ink.setAlphaF(p.presence);
     painter.setPen(QPen(ink, 1.0));
     painter.drawLine(p.center, onLane(r, projection));

@@ -4,6 +4,7 @@
 #include <drawing/symbollayer.h>
 #include <model/elementstate.h>
 #include <model/elementtypes.h>
+#include <model/titles.h>
 
 #include <QCoreApplication>
 
@@ -59,7 +60,7 @@ std::vector<LegendContents::Symbol> DrawnSymbols::of(const DrawnScene &scene, co
       continue;
     const QString title =
         found->second.isOff ? QCoreApplication::translate("LegendContents", "%1 (off)") : QStringLiteral("%1");
-    symbols.push_back({title.arg(known->longName), type, NetGeometry::NodeShape::Junction, found->second.symbol});
+    symbols.push_back({title.arg(Titles::of(*known)), type, NetGeometry::NodeShape::Junction, found->second.symbol});
   }
   return symbols;
 }

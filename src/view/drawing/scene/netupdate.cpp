@@ -258,6 +258,8 @@ void NetUpdate::updateSymbols(bool rebuild) {
   m_symbols.setSize(m_settings.symMag);
   m_symbols.setSizes(sizes);
   m_violations.setGround(m_settings.bgrColor);
+  m_symbols.setGround(m_settings.bgrColor);
+  m_subnets.setGround(m_settings.bgrColor);
   m_edges.setSymbolSize(m_settings.symMag);
   m_edges.setBackground(m_settings.bgrColor);
   m_edges.setArrowSize(m_settings.arrowMag * ArrowPixels);

@@ -1,3 +1,4 @@
+#include "style/contrast.h"
 #include "style/rampsamples.h"
 
 #include <drawing/colormap.h>
@@ -25,15 +26,6 @@ QRgb between(const std::array<QRgb, Count> &samples, double fraction) {
   return qRgb(mix(qRed(a), qRed(b)), mix(qGreen(a), qGreen(b)), mix(qBlue(a), qBlue(b)));
 }
 
-/// Relative luminance, 0 to 1 (WCAG 2, IEC 61966-2-1).
-double luminance(QRgb color) {
-  const auto light = [](int channel) {
-    const double share = channel / 255.0;
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * light(qRed(color)) + 0.7152 * light(qGreen(color)) + 0.0722 * light(qBlue(color));
-}
-
 /// The part of a ramp from dark to light.
 struct Part {
   double first = 0.0;
@@ -45,14 +37,14 @@ template <std::size_t Count>
 Part partFor(const std::array<QRgb, Count> &samples, ColorRamp::Ground ground) {
   constexpr int Steps = 200;
   constexpr double LightestOnLight = 0.5; // contrast with white 1.9 to 1
-  constexpr double DarkestOnDark = 0.06;  // contrast with black 2.2 to 1
+  constexpr double DarkestOnDark = 0.1;   // contrast with black 3 to 1, with the dark ground of a screen 2.3 to 1
   Part part;
   for (int i = 0; i <= Steps && ground == ColorRamp::Ground::Light; ++i) {
-    if (luminance(between(samples, double(i) / Steps)) <= LightestOnLight)
+    if (Contrast::luminance(between(samples, double(i) / Steps)) <= LightestOnLight)
       part.last = double(i) / Steps;
   }
   for (int i = Steps; i >= 0 && ground == ColorRamp::Ground::Dark; --i) {
-    if (luminance(between(samples, double(i) / Steps)) >= DarkestOnDark)
+    if (Contrast::luminance(between(samples, double(i) / Steps)) >= DarkestOnDark)
       part.first = double(i) / Steps;
   }
   return part;
@@ -65,6 +57,19 @@ QRgb onGround(ColorRamp::Ground ground, double fraction) {
                                          partFor(Samples, ColorRamp::Ground::Dark)};
   const Part &part = Parts[static_cast<std::size_t>(ground)];
   return between(Samples, part.first + (part.last - part.first) * qBound(0.0, fraction, 1.0));
+}
+
+/// Without the ends, which are dark, on dark ground; the middle stays the middle.
+QRgb diverging(ColorRamp::Ground ground, double fraction) {
+  constexpr double End = 0.16;
+  return between(RampSamples::BlueGreyRed,
+                 ground == ColorRamp::Ground::Dark ? End + (1.0 - 2.0 * End) * qBound(0.0, fraction, 1.0) : fraction);
+}
+
+/// A hue that would be lost in the dark, as pure blue is, becomes lighter.
+QRgb hueOnGround(ColorRamp::Ground ground, const QColor &color) {
+  constexpr double Least = 3.5; // to one, with black
+  return ground == ColorRamp::Ground::Dark ? Contrast::legible(color, Qt::black, Least).rgb() : color.rgb();
 }
 
 double linear(const QwtInterval &interval, double value) {
@@ -116,7 +121,7 @@ QRgb ColorRamp::color(double fraction) const {
   case Kind::Batlow:
     return onGround<RampSamples::Batlow>(ground, fraction);
   case Kind::Diverging:
-    return between(RampSamples::BlueGreyRed, fraction);
+    return diverging(ground, fraction);
   case Kind::Hue:
     break;
   }
@@ -126,7 +131,8 @@ QRgb ColorRamp::color(double fraction) const {
   if (turned < 0.0)
     turned += Circle;
   const double h = qBound(0.0, turned / Circle, 1.0);
-  return QColor::fromHsvF(h, qBound(0, saturation, Full) / double(Full), qBound(0, lightness, Full) / double(Full)).rgb();
+  return hueOnGround(
+      ground, QColor::fromHsvF(h, qBound(0, saturation, Full) / double(Full), qBound(0, lightness, Full) / double(Full)));
 }
 
 QRgb HueColorMap::rgb(const QwtInterval &interval, double value) const {

@@ -1,3 +1,4 @@
+#include <drawing/drawingtheme.h>
 #include <drawing/elementlooks.h>
 
 #include <QObject>
@@ -6,16 +7,8 @@
 
 namespace {
 
-constexpr QRgb NoValueColor = 0xffc4c8cc; ///< the element lacks the value that the others are coloured by
-constexpr QRgb PlainEdge = 0xff2f5d8a;    ///< there is nothing to colour by
-constexpr QRgb PlainNode = 0xff5b6b7b;
 constexpr QRgb Found = 0xffe8112d;
 constexpr double NoFlow = 1e-10; // in whatever unit the flow is stored
-
-/// Behind the results of a search: as little apart from a dark ground as from a light one.
-QRgb notFound(const QColor &ground) {
-  return ColorScale::isDark(ground) ? qRgb(0x4a, 0x50, 0x57) : qRgb(0xd0, 0xd4, 0xd8);
-}
 
 bool hasFlow(double flow) {
   return flow != NetData::NoValue && std::abs(flow) >= NoFlow;
@@ -53,6 +46,7 @@ std::vector<EdgeLook> ElementLooks::edges() const {
   const auto widthMap = ColorScale::colorMap(m_settings, Aspect::EdgeWidth);
   const auto table = ColorScale::edgeColors(m_settings, colors);
 
+  const DrawingTheme theme(m_settings.bgrColor);
   std::vector<EdgeLook> looks(m_geometry.edges().size());
   for (std::size_t i = 0; i < looks.size(); ++i) {
     EdgeLook &look = looks[i];
@@ -71,10 +65,10 @@ std::vector<EdgeLook> ElementLooks::edges() const {
     if (flow[i] != NetData::NoValue && look.flow == 0) {
       look.color = m_settings.edgeColorNoFlow.rgb();
     } else if (colors.range.isValid() && colors.ofElements[i] == NetData::NoValue) {
-      look.color = NoValueColor;
+      look.color = theme.noValue();
     } else {
       look.isBackground = false;
-      look.color = colors.range.isValid() ? table->rgb(colors.range, colors.ofElements[i]) : PlainEdge;
+      look.color = colors.range.isValid() ? table->rgb(colors.range, colors.ofElements[i]) : theme.plainEdge();
     }
   }
   hide(NetData::Edge, looks);
@@ -88,6 +82,7 @@ std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
   const auto table = ColorScale::nodeColors(m_settings, m_values);
   const bool isColored = byFunction && colors.isAny();
 
+  const DrawingTheme theme(m_settings.bgrColor);
   std::vector<NodeLook> looks(m_geometry.nodes().size());
   for (std::size_t i = 0; i < looks.size(); ++i) {
     NodeLook &look = looks[i];
@@ -98,9 +93,9 @@ std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
       look.size = sizeOfNode(m_nodeSize, fraction);
     }
     if (!isColored)
-      look.color = PlainNode;
+      look.color = theme.plainNode();
     else if (colors.ofElements[i] == NetData::NoValue)
-      look.color = NoValueColor;
+      look.color = theme.noValue();
     else
       look.color = table->rgb(colors.range, colors.ofElements[i]);
   }
@@ -123,7 +118,7 @@ std::vector<ColorScale::Swatch> ElementLooks::swatches() const {
   }
   std::vector<ColorScale::Swatch> swatches;
   if (lacksValue)
-    swatches.push_back({NoValueColor, QObject::tr("no value")});
+    swatches.push_back({DrawingTheme(m_settings.bgrColor).noValue(), QObject::tr("no value")});
   if (lacksFlow)
     swatches.push_back({m_settings.edgeColorNoFlow.rgb(), QObject::tr("no flow")});
   if (isInactive)
@@ -145,7 +140,7 @@ std::vector<bool> ElementLooks::searchResults(NetData::EleType kind) const {
 std::vector<EdgeLook> ElementLooks::searchedEdges() const {
   constexpr double WidthOfResults = 3.0; // px
   const std::vector<bool> found = searchResults(NetData::Edge);
-  const QRgb rest = notFound(m_settings.bgrColor);
+  const QRgb rest = DrawingTheme(m_settings.bgrColor).notFound();
   std::vector<EdgeLook> looks(found.size());
   for (std::size_t i = 0; i < looks.size(); ++i)
     looks[i] = {found[i] ? Found : rest, found[i] ? WidthOfResults : 1.0, !found[i], false, 0};
@@ -155,7 +150,7 @@ std::vector<EdgeLook> ElementLooks::searchedEdges() const {
 
 std::vector<NodeLook> ElementLooks::searchedNodes() const {
   const std::vector<bool> found = searchResults(NetData::Node);
-  const QRgb rest = notFound(m_settings.bgrColor);
+  const QRgb rest = DrawingTheme(m_settings.bgrColor).notFound();
   std::vector<NodeLook> looks(found.size());
   for (std::size_t i = 0; i < looks.size(); ++i)
     looks[i] = {found[i] ? Found : rest, m_nodeSize * (found[i] ? 2.0 : 1.0), false, found[i]};

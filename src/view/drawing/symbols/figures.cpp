@@ -124,7 +124,7 @@ void Figures::draw(QPainter &painter, Index index, const QPointF &center, double
   painter.save();
   if (figure.picture.isNull()) {
     painter.setFont(figure.font(size));
-    painter.setPen(Qt::black);
+    painter.setPen(m_theme.ink());
     painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, figure.character);
   } else {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);

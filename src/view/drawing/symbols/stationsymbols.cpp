@@ -30,6 +30,15 @@ void StationSymbols::setTable(const SymbolTable &table) {
   m_badges.clear();
 }
 
+void StationSymbols::setGround(const QColor &ground) {
+  const DrawingTheme theme(ground);
+  if (theme.isDark() != m_theme.isDark()) {
+    m_pixmaps.clear();
+    m_badges.clear();
+  }
+  m_theme = theme;
+}
+
 std::unique_ptr<QSvgRenderer> StationSymbols::load(const QString &key) {
   const SymbolTable::File own = m_table.file(key);
   if (!own.path.isEmpty()) {
@@ -94,10 +103,10 @@ namespace {
 
 constexpr double BadgeHeight = 10.0; // px
 
-void paintBadge(QPainter &painter, const QRectF &badge, const QString &text, const QFont &font) {
-  const QColor ink(70, 82, 94);
+void paintBadge(QPainter &painter, const QRectF &badge, const QString &text, const QFont &font, const DrawingTheme &theme) {
+  const QColor ink = theme.turned(QColor(70, 82, 94));
   painter.setPen(QPen(ink, 0.75));
-  painter.setBrush(Qt::white);
+  painter.setBrush(theme.paper());
   painter.drawRoundedRect(badge, BadgeHeight * 0.5, BadgeHeight * 0.5);
   painter.setPen(ink);
   painter.setFont(font);
@@ -120,7 +129,7 @@ void StationSymbols::drawCount(QPainter &painter, const QPointF &center, int cou
     return QRectF(-width * 0.5, -BadgeHeight * 0.5, width, BadgeHeight);
   };
   if (isVectorTarget(painter)) {
-    paintBadge(painter, areaOf().translated(center), text, font);
+    paintBadge(painter, areaOf().translated(center), text, font, m_theme);
     return;
   }
   const double ratio = pixelRatio(painter);
@@ -132,7 +141,7 @@ void StationSymbols::drawCount(QPainter &painter, const QPointF &center, int cou
     QPainter prepared(&badge);
     prepared.setRenderHint(QPainter::Antialiasing);
     prepared.scale(ratio, ratio);
-    paintBadge(prepared, areaOf().translated(-area.topLeft()), text, font);
+    paintBadge(prepared, areaOf().translated(-area.topLeft()), text, font, m_theme);
   }
   const QSizeF extent = QSizeF(badge.size()) / ratio;
   painter.drawPixmap(QRectF(center - QPointF(extent.width() * 0.5, extent.height() * 0.5), extent), badge, badge.rect());
@@ -149,14 +158,15 @@ QPixmap StationSymbols::pixmap(Index symbol, int pixels, int angle) {
     m_pixmaps.clear();
   // Room for the symbol's corners, whichever way it is turned.
   const int side = qCeil(pixels * std::sqrt(2.0));
-  QPixmap picture(side, side);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
+  QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(side * 0.5, side * 0.5);
   painter.rotate(angle);
   m_renderers[symbol]->render(&painter, QRectF(-pixels * 0.5, -pixels * 0.5, pixels, pixels));
   painter.end();
+  const QPixmap picture = QPixmap::fromImage(m_theme.turned(image));
   m_pixmaps.insert(key, picture);
   return picture;
 }

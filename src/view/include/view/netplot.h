@@ -53,6 +53,9 @@ public:
   void endPreview();
   bool isPreview() const { return m_applied.has_value(); }
 
+  /// While a picture is made: what leaves the screen is on white, whatever the screen has.
+  void setOnPaper(bool isOnPaper);
+
   /// "plotsettings.ini". False, and nothing is changed, when there is no such file or it cannot be read.
   bool readPlotSettings(const QString &path);
   bool writePlotSettings(const QString &path, QString *error = nullptr) const;
@@ -104,6 +107,7 @@ signals:
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
+  void changeEvent(QEvent *event) override;
 
 private:
   void showHint();
@@ -120,12 +124,15 @@ private:
   void setUpPlot();
   void setUpPanner();
   void applyColors();
+  void drawAsShown();
   bool canvasEvent(QEvent *event);
   void showContextMenu(const QPoint &place);
 
   Told m_told;
   QwtFastPlot *m_plot;
   PlotSettings m_settings;
+  PlotSettings m_shown; ///< the settings as this screen, or paper, has them
+  bool m_isOnPaper = false;
   std::optional<DrawnStyle> m_applied; ///< while there is a preview of another style
   PlotZoom *m_zoomer;
   PlotPanner *m_panner;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/finding.h>
+#include <drawing/drawingtheme.h>
 #include <drawing/netgeometry.h>
 
 #include <QFont>
@@ -14,6 +15,8 @@
 /// "figure.char", "figure.width" and "figure.height".
 class Figures {
 public:
+  /// What characters are drawn on; pictures stay as they are.
+  void setGround(const QColor &ground) { m_theme = DrawingTheme(ground); }
   /// Where relative file names begin.
   void setFolder(const QString &folder) { m_folder = folder; }
   /// Looks up which elements have figures. In place of a file that cannot be read the character is drawn, if there is one,
@@ -58,6 +61,7 @@ private:
   QImage load(const QString &file, Findings &findings);
 
   QString m_folder;
+  DrawingTheme m_theme;
   std::vector<Figure> m_figures;
   std::map<NetGeometry::Item, Index> m_indices;
   QHash<QString, QImage> m_pictures; ///< by path

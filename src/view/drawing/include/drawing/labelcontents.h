@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/finding.h>
+#include <drawing/drawingtheme.h>
 #include <drawing/labeltable.h>
 #include <drawing/plotsettings.h>
 #include <formulas/formula.h>
@@ -81,6 +82,7 @@ private:
 
   const NetData &m_net;
   Told m_told;
+  DrawingTheme m_theme;
   Mode m_mode = Mode::None;
   LabelStyle m_nodeStyle;
   LabelStyle m_edgeStyle;

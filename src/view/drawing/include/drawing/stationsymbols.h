@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/index.h>
+#include <drawing/drawingtheme.h>
 #include <drawing/symboltable.h>
 
 #include <QHash>
@@ -21,6 +22,8 @@ public:
 
   /// Symbols of the user's own; indices found before are no longer valid.
   void setTable(const SymbolTable &table);
+  /// What they are drawn on.
+  void setGround(const QColor &ground);
   /// Index of the symbol for a type code ("c") or a kind of subnet ("compressor_station"); NoIndex when there is none.
   Index find(const QString &key);
   /// The symbol of a type in a state ("_off"): that of both together, else the type's. A symbol of the user's own for the
@@ -42,6 +45,7 @@ private:
   QPixmap pixmap(Index symbol, int pixels, int angle);
 
   SymbolTable m_table;
+  DrawingTheme m_theme;
   Findings m_findings;
   QHash<QString, Index> m_indices;
   std::vector<std::unique_ptr<QSvgRenderer>> m_renderers;

@@ -22,6 +22,7 @@ public:
   /// \param size px, of the box of a subnet that says nothing of its own
   /// \param alpha opacity of the ground, 0 to 255
   void setLook(double size, int alpha);
+  void setGround(const QColor &ground);
   void clear() { m_records.clear(); }
 
   void setFilter(const ElementFilter &filter) { m_filter = filter; }
@@ -62,7 +63,8 @@ private:
   void drawPins(QPainter &painter, const Record &record, const QRectF &box, const Projection &projection) const;
 
   mutable StationSymbols m_symbols; ///< a cache of pixmaps
-  std::vector<Record> m_records;    ///< as in the geometry
+  DrawingTheme m_theme;
+  std::vector<Record> m_records; ///< as in the geometry
   ElementFilter m_filter;
   double m_size = 32.0;
   double m_typicalLength = 0.0; ///< plot units, of an edge

@@ -39,6 +39,11 @@ public:
     m_size = pixels;
     m_layout.reset();
   }
+  void setGround(const QColor &ground) {
+    m_symbols.setGround(ground);
+    m_figures.setGround(ground);
+    m_theme = DrawingTheme(ground);
+  }
   void setSizes(const QHash<QString, double> &sizes) { m_sizes = sizes; }
   double size() const { return m_size; }
   /// Symbols that are off are not drawn.
@@ -129,6 +134,7 @@ private:
 
   mutable StationSymbols m_symbols; ///< a cache of pixmaps
   Figures m_figures;
+  DrawingTheme m_theme;
   std::vector<Record> m_records; ///< in the order of the index
   SpatialIndex m_index;
   std::function<std::vector<QRectF>(const Projection &)> m_covers;
