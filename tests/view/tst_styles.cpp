@@ -125,6 +125,8 @@ void TestStyles::loadIsComputedFromBounds() {
   QCOMPARE(load(Aspect::EdgeColor, "CD"), NetData::NoValue);
   QCOMPARE(load(Aspect::NodeColor, "A"), 75.0);
   QCOMPARE(load(Aspect::NodeColor, "B"), NetData::NoValue);
+  const QwtInterval range = f.plot().update().values().of(Aspect::EdgeColor).range; // so that the legend has every class
+  QVERIFY(range.minValue() == 0.0 && qFuzzyCompare(range.maxValue(), 110.0));
   set("AB", "load", "7"); // what an element says itself counts more
   f.show();
   choose(f, QStringLiteral("Load"));

@@ -30,6 +30,16 @@ QString resultOf(const QString &quantity, const NetData &net, const DrawFunction
   return found == rows.end() ? QString() : found->property;
 }
 
+/// Of open bounds: from nothing to somewhat beyond the last break, so that the legend has every class, also where no value
+/// comes near the last ones.
+void showAllClasses(PlotSettings::Function &function, const DrawFunction &shown, double lastBreak) {
+  constexpr double Beyond = 1.1;
+  if (function.minimum != PlotSettings::OpenMinimum || function.maximum != PlotSettings::OpenMaximum)
+    return;
+  function.minimum = shown.toTable.inverse(0.0);
+  function.maximum = shown.toTable.inverse(lastBreak * Beyond);
+}
+
 } // namespace
 
 const std::vector<BuiltInStyles::Style> &BuiltInStyles::all() {
@@ -100,6 +110,8 @@ std::optional<PlotSettings> BuiltInStyles::laidOver(const PlotSettings &settings
     changed.classBreaks = breaks.join(QLatin1Char(';'));
     changed.classColors = QLatin1String(style.colors);
     changed.classLabels.clear();
+    for (const Aspect aspect : {Aspect::EdgeColor, Aspect::NodeColor})
+      showAllClasses(changed.functions[aspect], DrawFunction::find(property, net), breaks.last().toDouble());
   }
   return changed;
 }
