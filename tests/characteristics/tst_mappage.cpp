@@ -93,7 +93,7 @@ void TestMapPage::darkScreensAreNotForPaper() {
   QVERIFY(share(dark, 0, 60) > 0.7);
   QVERIFY(share(dark, 130, 255) > 0.01); // curves, axes and letters
   QVERIFY(plot->save(folder.filePath(QStringLiteral("dark.svg"))));
-  QCOMPARE(contentOf(folder.filePath(QStringLiteral("dark.svg"))), contentOf(folder.filePath(QStringLiteral("light.svg"))));
+  QVERIFY(contentOf(folder.filePath(QStringLiteral("dark.svg"))) == contentOf(folder.filePath(QStringLiteral("light.svg"))));
   QCOMPARE(plot->grab().toImage(), dark);
   window.setPalette(QPalette());
   QCOMPARE(plot->grab().toImage(), light);
