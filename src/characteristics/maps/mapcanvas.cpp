@@ -104,8 +104,7 @@ void MapCanvas::add(QwtPlotItem *item, std::function<void(const MapColors &)> co
 void MapCanvas::color(const MapColors &colors) {
   setCanvasBackground(colors.ground());
   QPalette own = palette(); // which axes and title are written with
-  own.setColor(QPalette::WindowText, colors.ink());
-  own.setColor(QPalette::Text, colors.ink());
+  colors.applyTo(own);
   setPalette(own);
   static_cast<ReadingZoomer *>(m_zoomer)->takeColors(colors);
   for (const auto &item : m_coloring)
