@@ -82,16 +82,18 @@ void TestMapPage::darkScreensAreNotForPaper() {
   QVERIFY(plot->save(folder.filePath(QStringLiteral("light.svg"))));
   window.setPalette(QPalette(QColor(60, 65, 71), QColor(49, 53, 58)));
   const QImage dark = plot->grab().toImage();
-  const QPoint inside = plot->canvas()->geometry().bottomLeft() + QPoint(20, -6);
-  QCOMPARE(light.pixelColor(inside), QColor(Qt::white));
-  QVERIFY(dark.pixelColor(inside).lightness() < 60);
-  int lines = 0;
-  for (int y = 0; y < dark.height(); ++y)
-    for (int x = 0; x < dark.width(); ++x)
-      lines += dark.pixelColor(x, y).lightness() > 130 ? 1 : 0;
-  QVERIFY2(lines > 500, qPrintable(QString::number(lines))); // curves, axes and letters are light
+  const auto share = [](const QImage &picture, int from, int to) {
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x)
+        count += qBound(from, picture.pixelColor(x, y).lightness(), to) == picture.pixelColor(x, y).lightness() ? 1 : 0;
+    return double(count) / (picture.width() * picture.height());
+  };
+  QVERIFY(share(light, 220, 255) > 0.7);
+  QVERIFY(share(dark, 0, 60) > 0.7);
+  QVERIFY(share(dark, 130, 255) > 0.01); // curves, axes and letters
   QVERIFY(plot->save(folder.filePath(QStringLiteral("dark.svg"))));
-  QCOMPARE(contentOf(folder.filePath(QStringLiteral("dark.svg"))), contentOf(folder.filePath(QStringLiteral("light.svg"))));
+  QVERIFY(contentOf(folder.filePath(QStringLiteral("dark.svg"))) == contentOf(folder.filePath(QStringLiteral("light.svg"))));
   QCOMPARE(plot->grab().toImage(), dark);
   window.setPalette(QPalette());
   QCOMPARE(plot->grab().toImage(), light);

@@ -73,7 +73,7 @@ MapCanvas::MapCanvas(QWidget *parent)
     : QwtPlot(parent)
     , m_zoomer(nullptr) {
   m_zoomer = new ReadingZoomer(*this);
-  color(screenColors());
+  color(colors());
   setMinimumSize(260, 200);
 }
 
@@ -91,12 +91,12 @@ QVector<QPointF> MapCanvas::shown(QVector<QPointF> computed) const {
   return computed;
 }
 
-MapColors MapCanvas::screenColors() const {
-  return MapColors::onScreen(palette());
+MapColors MapCanvas::colors() const {
+  return m_isOnWhite ? MapColors::onWhite() : MapColors::onScreen(palette());
 }
 
 void MapCanvas::add(QwtPlotItem *item, std::function<void(const MapColors &)> color) {
-  color(screenColors());
+  color(colors());
   item->attach(this);
   m_coloring.push_back(std::move(color));
 }
@@ -104,8 +104,7 @@ void MapCanvas::add(QwtPlotItem *item, std::function<void(const MapColors &)> co
 void MapCanvas::color(const MapColors &colors) {
   setCanvasBackground(colors.ground());
   QPalette own = palette(); // which axes and title are written with
-  own.setColor(QPalette::WindowText, colors.ink());
-  own.setColor(QPalette::Text, colors.ink());
+  colors.applyTo(own);
   setPalette(own);
   static_cast<ReadingZoomer *>(m_zoomer)->takeColors(colors);
   for (const auto &item : m_coloring)
@@ -113,16 +112,18 @@ void MapCanvas::color(const MapColors &colors) {
 }
 
 void MapCanvas::paintOnWhite(const std::function<void()> &paint) {
-  color(MapColors::onWhite());
+  m_isOnWhite = true;
+  color(colors());
   paint();
-  color(screenColors());
+  m_isOnWhite = false;
+  color(colors());
 }
 
 void MapCanvas::changeEvent(QEvent *event) {
   QwtPlot::changeEvent(event);
   if (event->type() != QEvent::PaletteChange || m_zoomer == nullptr)
     return;
-  color(screenColors());
+  color(colors());
   replot();
 }
 

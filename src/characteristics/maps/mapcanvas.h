@@ -67,7 +67,7 @@ private:
   /// Adds an item, and how it takes its colours.
   void add(QwtPlotItem *item, std::function<void(const MapColors &)> color);
   void color(const MapColors &colors);
-  MapColors screenColors() const;
+  MapColors colors() const; ///< of the screen, or of paper
   QPointF shown(const QPointF &computed) const;
   QVector<QPointF> shown(QVector<QPointF> computed) const;
   QImage picture();
@@ -78,6 +78,7 @@ private:
   void print();
 
   std::vector<std::function<void(const MapColors &)>> m_coloring; ///< of the items
+  bool m_isOnWhite = false;
   PageFacts m_facts;
   std::function<QString(const QPointF &)> m_readout;
   Units::Linear m_toDisplayX;

@@ -18,6 +18,8 @@ public:
 
   QColor ground() const;
   QColor ink() const; ///< of letters and axes
+  /// What of a palette letters, axes and frames are drawn with.
+  void applyTo(QPalette &palette) const;
   QColor grid() const;
   QColor warning() const; ///< of letters on the ground of a window
   /// What stands for a colour of the map.
