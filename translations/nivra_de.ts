@@ -7813,7 +7813,7 @@ oder vergleicht: &gt; 10, &lt;= 3, = open, != 0</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation>Beschriftungen</translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Subnet opacity</source>
