@@ -7757,11 +7757,11 @@ oder vergleicht: &gt; 10, &lt;= 3, = open, != 0</translation>
     </message>
     <message>
         <source>Names of the functions</source>
-        <translation>Namen der Funktionen</translation>
+        <translation>Funktionsnamen</translation>
     </message>
     <message>
         <source>Legend in the drawing</source>
-        <translation>Legende in der Zeichnung</translation>
+        <translation>Legende</translation>
     </message>
     <message>
         <source>What colours, widths and symbols mean. The legend can be dragged to another corner, too; the key L shows and hides it.</source>
@@ -7809,15 +7809,15 @@ oder vergleicht: &gt; 10, &lt;= 3, = open, != 0</translation>
     </message>
     <message>
         <source>Label margin [px]</source>
-        <translation>Beschriftungsrand [px]</translation>
+        <translation>Textrand [px]</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation>Beschriftungen</translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Subnet opacity</source>
-        <translation>Deckkraft der Teilnetze</translation>
+        <translation>Teilnetz-Deckkraft</translation>
     </message>
     <message>
         <source>Viewport</source>
@@ -7897,7 +7897,7 @@ oder vergleicht: &gt; 10, &lt;= 3, = open, != 0</translation>
     </message>
     <message>
         <source>Add template</source>
-        <translation>Vorlage hinzufügen</translation>
+        <translation>Neue Vorlage</translation>
     </message>
     <message>
         <source>Keep the current row as a template</source>
@@ -7951,7 +7951,7 @@ Nützlich, um Einstellungen einer anderen Geometrie zu übernehmen!</translation
     </message>
     <message>
         <source>none, a smooth scale</source>
-        <translation>keine, eine stufenlose Skala</translation>
+        <translation>keine, stufenlos</translation>
     </message>
     <message>
         <source>equal intervals</source>
@@ -7959,7 +7959,7 @@ Nützlich, um Einstellungen einer anderen Geometrie zu übernehmen!</translation
     </message>
     <message>
         <source>as many elements in each</source>
-        <translation>gleich viele Elemente in jeder</translation>
+        <translation>gleich viele in jeder</translation>
     </message>
     <message>
         <source>breaks of your own</source>
@@ -7987,7 +7987,7 @@ Nützlich, um Einstellungen einer anderen Geometrie zu übernehmen!</translation
     </message>
     <message>
         <source>original ratio</source>
-        <translation>ursprüngliches Verhältnis</translation>
+        <translation>Originalverhältnis</translation>
     </message>
     <message>
         <source>aspect ratio</source>
