@@ -23,6 +23,7 @@ private slots:
   void lineLabelsStandUpright_data();
   void lineLabelsStandUpright();
   void linesAreSparedWherePossible();
+  void keptLabelsStayWhole();
   void numbersAsAPersonWritesThem_data();
   void numbersAsAPersonWritesThem();
   void contentsFollowTheTable_data();
@@ -158,6 +159,17 @@ void TestLabels::linesAreSparedWherePossible() {
   const LabelCandidate candidate = point({200, 200}, {60, 14});
   QVERIFY(placement.place(candidate, spot));
   QVERIFY(qAbs(spot.offset.y()) > 7.0);
+}
+
+void TestLabels::keptLabelsStayWhole() {
+  const LabelCandidate candidate = point({370, 200}, {60, 14});
+  LabelSpot spot;
+  QVERIFY(LabelPlacement(QRectF(0, 0, 500, 400), 0.0).place(candidate, spot));
+  QVERIFY(LabelPlacement(QRectF(0, 0, 500, 400), 0.0).keep(candidate, spot));
+  LabelPlacement narrower(QRectF(0, 0, 400, 400), 0.0); // as with a dock at the side
+  QVERIFY(!narrower.keep(candidate, spot));
+  QVERIFY(narrower.place(candidate, spot));
+  QVERIFY(candidate.box(spot).bounds().right() <= 400.0);
 }
 
 void TestLabels::numbersAsAPersonWritesThem_data() {
