@@ -25,6 +25,41 @@ Lokale Git-Änderungen: %5</translation>
     </message>
 </context>
 <context>
+    <name>Appearance</name>
+    <message>
+        <source>Appearance</source>
+        <translation>Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>Like the desktop</source>
+        <translation>Wie die Arbeitsumgebung</translation>
+    </message>
+    <message>
+        <source>Light or dark, as the other windows of the desktop are</source>
+        <translation>Hell oder dunkel, wie die anderen Fenster der Arbeitsumgebung</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark letters on light ground</source>
+        <translation>Dunkle Schrift auf hellem Grund</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light letters on dark ground; pictures and paper stay light</source>
+        <translation>Helle Schrift auf dunklem Grund; Bilder und Papier bleiben hell</translation>
+    </message>
+    <message>
+        <source>The choice holds until the program ends: %1</source>
+        <translation>Die Wahl gilt bis zum Ende des Programms: %1</translation>
+    </message>
+</context>
+<context>
     <name>Attribute</name>
     <message>
         <source>name</source>
@@ -1131,6 +1166,53 @@ Lokale Git-Änderungen: %5</translation>
     </message>
 </context>
 <context>
+    <name>BuiltInStyles</name>
+    <message>
+        <source>Pressure</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Flow</source>
+        <translation>Durchfluss</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Auslastung</translation>
+    </message>
+    <message>
+        <source>Diameter</source>
+        <translation>Durchmesser</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Machine power</source>
+        <translation>Maschinenleistung</translation>
+    </message>
+    <message>
+        <source>No element has a flow or a pressure with bounds.</source>
+        <translation>Kein Element hat einen Durchfluss oder Druck mit Schranken.</translation>
+    </message>
+    <message>
+        <source>No element has a number in %1.</source>
+        <translation>Kein Element hat eine Zahl in %1.</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> oder </translation>
+    </message>
+</context>
+<context>
     <name>CanvasLegend</name>
     <message>
         <source>&amp;Legend</source>
@@ -1167,6 +1249,64 @@ Lokale Git-Änderungen: %5</translation>
     <message>
         <source>Configure &amp;drawing …</source>
         <translation>&amp;Zeichnung einstellen …</translation>
+    </message>
+</context>
+<context>
+    <name>CaseOpening</name>
+    <message>
+        <source>Invalid Workspace</source>
+        <translation>Ungültiger Arbeitsbereich</translation>
+    </message>
+    <message>
+        <source>Opening the scenario %1, which was opened last</source>
+        <translation>Das Szenario %1 wird geöffnet, das zuletzt offen war</translation>
+    </message>
+    <message>
+        <source>layers of elements (%1)</source>
+        <translation>Ebenen von Elementen (%1)</translation>
+    </message>
+    <message>
+        <source>The layers of elements have changes that are not saved. Save them?</source>
+        <translation>Die Ebenen von Elementen haben Änderungen, die nicht gespeichert sind. Jetzt speichern?</translation>
+    </message>
+    <message>
+        <source>how the network is drawn</source>
+        <translation>Darstellung des Netzes</translation>
+    </message>
+    <message>
+        <source>How the network is drawn is not saved. Save it?</source>
+        <translation>Die Darstellung des Netzes ist nicht gespeichert. Jetzt speichern?</translation>
+    </message>
+    <message>
+        <source>Page of %1: %2</source>
+        <translation>Seite von %1: %2</translation>
+    </message>
+    <message>
+        <source>Startup finished in %1ms</source>
+        <translation>Geöffnet in %1ms</translation>
+    </message>
+</context>
+<context>
+    <name>CaseReading</name>
+    <message>
+        <source>Include Types</source>
+        <translation>Typen einschließen</translation>
+    </message>
+    <message>
+        <source>Enter include list for types
+(regular expression):</source>
+        <translation>Liste der Typen, die gelesen werden
+(regulärer Ausdruck):</translation>
+    </message>
+    <message>
+        <source>Include Properties</source>
+        <translation>Eigenschaften einschließen</translation>
+    </message>
+    <message>
+        <source>Enter include list for properties
+(regular expression):</source>
+        <translation>Liste der Eigenschaften, die gelesen werden
+(regulärer Ausdruck):</translation>
     </message>
 </context>
 <context>
@@ -1237,6 +1377,84 @@ by the right-click menu of the drawing.</source>
     <message>
         <source>There are no machine data for %1: neither its property &quot;machine&quot; nor its name is in the machine data of the scenario.</source>
         <translation>Es gibt keine Maschinendaten für %1: Weder seine Eigenschaft &quot;machine&quot; noch sein Name steht in den Maschinendaten des Szenarios.</translation>
+    </message>
+</context>
+<context>
+    <name>ClassDialog</name>
+    <message>
+        <source>Classes of %1</source>
+        <translation>Klassen von %1</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>Klassen</translation>
+    </message>
+    <message>
+        <source>&amp;Add class</source>
+        <translation>Klasse &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>Halve the marked class</source>
+        <translation>Die markierte Klasse halbieren</translation>
+    </message>
+    <message>
+        <source>&amp;Remove class</source>
+        <translation>Klasse &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>Join the marked class with the one below it</source>
+        <translation>Die markierte Klasse mit der darunter vereinen</translation>
+    </message>
+    <message>
+        <source>&amp;Colour …</source>
+        <translation>&amp;Farbe …</translation>
+    </message>
+    <message>
+        <source>The colour of the marked class; Del takes that of the ramp</source>
+        <translation>Die Farbe der markierten Klasse; Entf nimmt die des Farbverlaufs</translation>
+    </message>
+    <message>
+        <source>&amp;Equal intervals</source>
+        <translation>Gleiche &amp;Abstände</translation>
+    </message>
+    <message>
+        <source>As &amp;many in each</source>
+        <translation>Gleich &amp;viele in jeder</translation>
+    </message>
+    <message>
+        <source>&amp;Natural breaks</source>
+        <translation>&amp;Natürliche Grenzen</translation>
+    </message>
+    <message>
+        <source>Find the breaks for as many classes anew</source>
+        <translation>Die Grenzen für ebenso viele Klassen neu suchen</translation>
+    </message>
+</context>
+<context>
+    <name>ClassModel</name>
+    <message>
+        <source>lowest</source>
+        <translation>kleinster</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number.</source>
+        <translation>&quot;%1&quot; ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>A class begins between the beginnings of those beside it.</source>
+        <translation>Eine Klasse beginnt zwischen den Anfängen ihrer Nachbarn.</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Herkunft</translation>
+    </message>
+    <message>
+        <source>Name in the legend</source>
+        <translation>Name in der Legende</translation>
     </message>
 </context>
 <context>
@@ -1632,6 +1850,13 @@ by the right-click menu of the drawing.</source>
     </message>
 </context>
 <context>
+    <name>DrawFunction</name>
+    <message>
+        <source>load against the bounds [%]</source>
+        <translation>Auslastung der Schranken [%]</translation>
+    </message>
+</context>
+<context>
     <name>ElementField</name>
     <message>
         <source>No element has &quot;%1&quot; in its name</source>
@@ -1819,6 +2044,18 @@ by the right-click menu of the drawing.</source>
     <message>
         <source>&amp;Columns …</source>
         <translation>&amp;Spalten …</translation>
+    </message>
+    <message>
+        <source>Sort by this column, &amp;smallest first</source>
+        <translation>Nach dieser Spalte sortieren, &amp;Kleinstes zuerst</translation>
+    </message>
+    <message>
+        <source>Sort by this column, &amp;largest first</source>
+        <translation>Nach dieser Spalte sortieren, &amp;Größtes zuerst</translation>
+    </message>
+    <message>
+        <source>&amp;Group by this column</source>
+        <translation>Nach dieser Spalte gru&amp;ppieren</translation>
     </message>
 </context>
 <context>
@@ -2207,6 +2444,17 @@ ELE steht für das aktuelle Element, z. B. p@ELE&gt;0.1</translation>
     </message>
 </context>
 <context>
+    <name>FunctionChooser</name>
+    <message>
+        <source>Words of the name</source>
+        <translation>Wörter des Namens</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Funktionen</translation>
+    </message>
+</context>
+<context>
     <name>FunctionMenu</name>
     <message>
         <source>Edge colour</source>
@@ -2231,6 +2479,49 @@ ELE steht für das aktuelle Element, z. B. p@ELE&gt;0.1</translation>
     <message>
         <source>all of one size</source>
         <translation>alle gleich groß</translation>
+    </message>
+    <message>
+        <source>All functions …</source>
+        <translation>Alle Funktionen …</translation>
+    </message>
+    <message>
+        <source>All functions of this network, with units, numbers of elements and histograms</source>
+        <translation>Alle Funktionen dieses Netzes, mit Einheiten, Anzahl der Elemente und Histogrammen</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionModel</name>
+    <message>
+        <source>all of one size</source>
+        <translation>alle gleich groß</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Funktion</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Edges</source>
+        <translation>Kanten</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Distribution</source>
+        <translation>Verteilung</translation>
     </message>
 </context>
 <context>
@@ -2290,6 +2581,14 @@ Skala</translation>
     <message>
         <source>%1: &quot;%2&quot; is no number.</source>
         <translation>%1: &quot;%2&quot; ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Choose …</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>All functions of this network, with units, numbers of elements and histograms</source>
+        <translation>Alle Funktionen dieses Netzes, mit Einheiten, Anzahl der Elemente und Histogrammen</translation>
     </message>
 </context>
 <context>
@@ -2812,6 +3111,10 @@ Bitte anwenden und speichern</translation>
     <message>
         <source>held pressure</source>
         <translation>Druckvorgabe</translation>
+    </message>
+    <message>
+        <source>%1 (off)</source>
+        <translation>%1 (aus)</translation>
     </message>
 </context>
 <context>
@@ -4391,56 +4694,8 @@ z. B. p@ELE&gt;0.1 !</translation>
         <translation>%1 hat keinen Platz in der Zeichnung</translation>
     </message>
     <message>
-        <source>layers of elements (%1)</source>
-        <translation>Ebenen von Elementen (%1)</translation>
-    </message>
-    <message>
-        <source>The layers of elements have changes that are not saved. Save them?</source>
-        <translation>Die Ebenen von Elementen haben Änderungen, die nicht gespeichert sind. Jetzt speichern?</translation>
-    </message>
-    <message>
-        <source>how the network is drawn</source>
-        <translation>Darstellung des Netzes</translation>
-    </message>
-    <message>
-        <source>How the network is drawn is not saved. Save it?</source>
-        <translation>Die Darstellung des Netzes ist nicht gespeichert. Jetzt speichern?</translation>
-    </message>
-    <message>
         <source>Cannot read the style sheet %1</source>
         <translation>Das Stylesheet ist nicht lesbar: %1</translation>
-    </message>
-    <message>
-        <source>Invalid Workspace</source>
-        <translation>Ungültiger Arbeitsbereich</translation>
-    </message>
-    <message>
-        <source>Startup finished in %1ms</source>
-        <translation>Geöffnet in %1ms</translation>
-    </message>
-    <message>
-        <source>Opening the scenario %1, which was opened last</source>
-        <translation>Das Szenario %1 wird geöffnet, das zuletzt offen war</translation>
-    </message>
-    <message>
-        <source>Include Types</source>
-        <translation>Typen einschließen</translation>
-    </message>
-    <message>
-        <source>Enter include list for types
-(regular expression):</source>
-        <translation>Liste der Typen, die gelesen werden
-(regulärer Ausdruck):</translation>
-    </message>
-    <message>
-        <source>Include Properties</source>
-        <translation>Eigenschaften einschließen</translation>
-    </message>
-    <message>
-        <source>Enter include list for properties
-(regular expression):</source>
-        <translation>Liste der Eigenschaften, die gelesen werden
-(regulärer Ausdruck):</translation>
     </message>
     <message>
         <source>Nivra Reader %1  |  Workspace: %2  |  CASE: %3</source>
@@ -5049,10 +5304,6 @@ Berichtigt! Bitte selbst speichern!</translation>
         <translation>Auswählen, wohin das Gas des ausgewählten Elements geht</translation>
     </message>
     <message>
-        <source>Open Characteristics (%1)</source>
-        <translation>Kennfelder öffnen (%1)</translation>
-    </message>
-    <message>
         <source>1 label found no place …</source>
         <translation>1 Beschriftung fand keinen Platz …</translation>
     </message>
@@ -5079,6 +5330,14 @@ Berichtigt! Bitte selbst speichern!</translation>
     <message>
         <source>Labels without a place</source>
         <translation>Beschriftungen ohne Platz</translation>
+    </message>
+    <message>
+        <source>Open Characteristics of %1</source>
+        <translation>Kennfelder öffnen von %1</translation>
+    </message>
+    <message>
+        <source>Open Characteristics of %1 machines</source>
+        <translation>Kennfelder öffnen von %1 Maschinen</translation>
     </message>
 </context>
 <context>
@@ -6800,6 +7059,10 @@ ist nicht mehr vorhanden. Entf nimmt es aus der Liste.</translation>
         <source>other sign</source>
         <translation>das andere Zeichen</translation>
     </message>
+    <message>
+        <source>Light or dark windows, or as the desktop has them. A workspace does not change it.</source>
+        <translation>Helle oder dunkle Fenster, oder wie die Arbeitsumgebung sie hat. Ein Arbeitsbereich ändert es nicht.</translation>
+    </message>
 </context>
 <context>
     <name>SettingField</name>
@@ -7006,6 +7269,269 @@ Wählen Sie eine Einstellung, um über sie zu lesen; Eingabe, Leertaste oder ein
     </message>
 </context>
 <context>
+    <name>StyleActions</name>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Undo Style Change</source>
+        <translation>Stiländerung rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Redo Style Change</source>
+        <translation>Stiländerung wiederholen</translation>
+    </message>
+    <message>
+        <source>Save Style As …</source>
+        <translation>Stil speichern unter …</translation>
+    </message>
+    <message>
+        <source>Manage Styles …</source>
+        <translation>Stile verwalten …</translation>
+    </message>
+    <message>
+        <source>Keep how the network is drawn as a style, under a name</source>
+        <translation>Die Darstellung des Netzes unter einem Namen als Stil aufbewahren</translation>
+    </message>
+    <message>
+        <source>Rename, delete, import and export styles of your own</source>
+        <translation>Eigene Stile umbenennen, löschen, einlesen und ausgeben</translation>
+    </message>
+    <message>
+        <source>What the drawing shows: a style of the program or one of your own</source>
+        <translation>Was die Zeichnung zeigt: ein Stil des Programms oder ein eigener</translation>
+    </message>
+    <message>
+        <source>Shows %1</source>
+        <translation>Zeigt %1</translation>
+    </message>
+    <message>
+        <source>%1 (no values)</source>
+        <translation>%1 (keine Werte)</translation>
+    </message>
+    <message>
+        <source>A style of your own</source>
+        <translation>Ein eigener Stil</translation>
+    </message>
+    <message>
+        <source>Your styles cannot be read</source>
+        <translation>Ihre Stile sind nicht lesbar</translation>
+    </message>
+    <message>
+        <source>There is no network to draw.</source>
+        <translation>Es gibt kein Netz zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>There is no style &quot;%1&quot;.</source>
+        <translation>Einen Stil &quot;%1&quot; gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Save Style As</source>
+        <translation>Stil speichern unter</translation>
+    </message>
+    <message>
+        <source>Name of the style:</source>
+        <translation>Name des Stils:</translation>
+    </message>
+    <message>
+        <source>There is a style &quot;%1&quot; already. Replace it?</source>
+        <translation>Einen Stil &quot;%1&quot; gibt es schon. Ersetzen?</translation>
+    </message>
+</context>
+<context>
+    <name>StyleChange</name>
+    <message>
+        <source>edge colour</source>
+        <translation>Kantenfarbe</translation>
+    </message>
+    <message>
+        <source>edge width</source>
+        <translation>Kantenbreite</translation>
+    </message>
+    <message>
+        <source>node colour</source>
+        <translation>Knotenfarbe</translation>
+    </message>
+    <message>
+        <source>node size</source>
+        <translation>Knotengröße</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>bounds of %1</source>
+        <translation>Grenzen von %1</translation>
+    </message>
+    <message>
+        <source>colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>classes</source>
+        <translation>Klassen</translation>
+    </message>
+    <message>
+        <source>sizes</source>
+        <translation>Größen</translation>
+    </message>
+    <message>
+        <source>labels</source>
+        <translation>Beschriftungen</translation>
+    </message>
+    <message>
+        <source>legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>open bounds</source>
+        <translation>offene Grenzen</translation>
+    </message>
+    <message>
+        <source>label table</source>
+        <translation>Beschriftungstabelle</translation>
+    </message>
+    <message>
+        <source>drawing settings</source>
+        <translation>Zeichnungseinstellungen</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>StyleDialog</name>
+    <message>
+        <source>Plot settings (*.ini);;All Files (*)</source>
+        <translation>Zeichnungseinstellungen (*.ini);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Manage Styles</source>
+        <translation>Stile verwalten</translation>
+    </message>
+    <message>
+        <source>Styles of your own</source>
+        <translation>Eigene Stile</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <translation>&amp;Verwenden</translation>
+    </message>
+    <message>
+        <source>Draw in this style</source>
+        <translation>In diesem Stil zeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Another name for this style (F2)</source>
+        <translation>Ein anderer Name für diesen Stil (F2)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Delete this style (Del)</source>
+        <translation>Diesen Stil löschen (Entf)</translation>
+    </message>
+    <message>
+        <source>&amp;Export …</source>
+        <translation>&amp;Ausgeben …</translation>
+    </message>
+    <message>
+        <source>Write this style to a file</source>
+        <translation>Diesen Stil in eine Datei schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Import …</source>
+        <translation>&amp;Einlesen …</translation>
+    </message>
+    <message>
+        <source>Take styles from files of plot settings</source>
+        <translation>Stile aus Dateien mit Zeichnungseinstellungen übernehmen</translation>
+    </message>
+    <message>
+        <source>There are no styles of your own yet. &quot;Save Style As …&quot; keeps how the network is drawn, &quot;Import …&quot; takes a file.</source>
+        <translation>Es gibt noch keine eigenen Stile. &quot;Stil speichern unter …&quot; bewahrt auf, wie das Netz gezeichnet ist, &quot;Einlesen …&quot; übernimmt eine Datei.</translation>
+    </message>
+    <message>
+        <source>Delete the style &quot;%1&quot;? There is no way back.</source>
+        <translation>Den Stil &quot;%1&quot; löschen? Das lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Import Styles</source>
+        <translation>Stile einlesen</translation>
+    </message>
+    <message>
+        <source>%1 holds no plot settings.</source>
+        <translation>%1 enthält keine Zeichnungseinstellungen.</translation>
+    </message>
+    <message>
+        <source>There is a style &quot;%1&quot; already. Replace it?</source>
+        <translation>Einen Stil &quot;%1&quot; gibt es schon. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>Export Style</source>
+        <translation>Stil ausgeben</translation>
+    </message>
+</context>
+<context>
+    <name>StyleHistory</name>
+    <message>
+        <source>style &quot;%1&quot;</source>
+        <translation>Stil &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>StyleStore</name>
+    <message>
+        <source>A style needs a name.</source>
+        <translation>Ein Stil braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The name of a style has at most %1 characters.</source>
+        <translation>Der Name eines Stils hat höchstens %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>The name of a style is one line of text.</source>
+        <translation>Der Name eines Stils ist eine Zeile Text.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a style of the program. Please choose another name.</source>
+        <translation>&quot;%1&quot; ist ein Stil des Programms. Bitte wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The name of a style does not end like that of a file.</source>
+        <translation>Der Name eines Stils endet nicht wie der einer Datei.</translation>
+    </message>
+    <message>
+        <source>This is too much for a style.</source>
+        <translation>Das ist zu viel für einen Stil.</translation>
+    </message>
+    <message>
+        <source>There are %1 styles already; please delete some.</source>
+        <translation>Es gibt schon %1 Stile; bitte löschen Sie einige.</translation>
+    </message>
+    <message>
+        <source>There is no style &quot;%1&quot; any more.</source>
+        <translation>Einen Stil &quot;%1&quot; gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>There is a style &quot;%1&quot; already.</source>
+        <translation>Einen Stil &quot;%1&quot; gibt es schon.</translation>
+    </message>
+    <message>
+        <source>%1 is no list of styles of this program.</source>
+        <translation>%1 ist keine Liste von Stilen dieses Programms.</translation>
+    </message>
+</context>
+<context>
     <name>SubAssembler</name>
     <message>
         <source>Cannot read %1</source>
@@ -7097,10 +7623,6 @@ Wählen Sie eine Einstellung, um über sie zu lesen; Eingabe, Leertaste oder ein
         <translation>Das Teilnetz hat keine Elemente</translation>
     </message>
     <message>
-        <source>%1 nodes and %2 edges</source>
-        <translation>%1 Knoten und %2 Kanten</translation>
-    </message>
-    <message>
         <source>Info</source>
         <translation>Info</translation>
     </message>
@@ -7123,6 +7645,30 @@ Wählen Sie eine Einstellung, um über sie zu lesen; Eingabe, Leertaste oder ein
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Page &amp;Setup and Save …</source>
+        <translation>&amp;Seite einrichten und speichern …</translation>
+    </message>
+    <message>
+        <source>&amp;Print …</source>
+        <translation>&amp;Drucken …</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>%1 has no place in the drawing</source>
+        <translation>%1 hat keinen Platz in der Zeichnung</translation>
     </message>
 </context>
 <context>
@@ -7276,6 +7822,14 @@ oder vergleicht: &gt; 10, &lt;= 3, = open, != 0</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Style: %1</source>
+        <translation>Stil: %1</translation>
     </message>
 </context>
 <context>
@@ -8020,6 +8574,42 @@ Nützlich, um Einstellungen einer anderen Geometrie zu übernehmen!</translation
     <message>
         <source>selected properties</source>
         <translation>ausgewählte Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Edit classes …</source>
+        <translation>Klassen bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Breaks, colours and names of the classes, one by one</source>
+        <translation>Grenzen, Farben und Namen der Klassen, einzeln</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Show changes in the drawing before they are applied</source>
+        <translation>Änderungen in der Zeichnung zeigen, bevor sie angewendet werden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Forget what was typed and not applied; the drawing is as it was</source>
+        <translation>Vergessen, was eingegeben und nicht angewendet wurde; die Zeichnung ist, wie sie war</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Draw in a style of the program or one of your own</source>
+        <translation>In einem Stil des Programms oder einem eigenen zeichnen</translation>
+    </message>
+    <message>
+        <source>natural breaks</source>
+        <translation>natürliche Grenzen</translation>
     </message>
 </context>
 </TS>

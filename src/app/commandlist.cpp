@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMenu>
@@ -33,7 +34,6 @@ bool isChoice(const QAction &entry) {
 /// Adds what the entries lead to, and what is behind their menus.
 void collect(const QList<QAction *> &entries, const QString &path, QSet<const QAction *> &seen,
              std::vector<Command> &commands) {
-  const QString menuWithin = path.contains(MenuSeparator) ? path.section(MenuSeparator, -1) : QString();
   for (QAction *entry : entries) {
     if (entry->isSeparator() || !entry->isVisible() || seen.contains(entry))
       continue;
@@ -50,10 +50,19 @@ void collect(const QList<QAction *> &entries, const QString &path, QSet<const QA
                              });
       if (!isAnother)
         continue;
-      const bool needsMenu = !menuWithin.isEmpty() && isChoice(*entry);
-      commands.push_back(
-          {needsMenu ? menuWithin + ChoiceSeparator + text : text, path, key.isEmpty() ? parts.value(1) : key, entry});
+      commands.push_back({text, path, key.isEmpty() ? parts.value(1) : key, entry});
     }
+  }
+}
+
+/// Commands of menus within menus whose texts do not say enough begin with their menu: values, and what stands in several.
+void nameAfterMenus(std::vector<Command> &commands) {
+  QHash<QString, int> timesNamed;
+  for (const Command &command : commands)
+    ++timesNamed[command.text];
+  for (Command &command : commands) {
+    if (command.menu.contains(MenuSeparator) && (isChoice(*command.action) || timesNamed.value(command.text) > 1))
+      command.text = command.menu.section(MenuSeparator, -1) + ChoiceSeparator + command.text;
   }
 }
 
@@ -97,6 +106,7 @@ std::vector<Command> CommandList::of(const QList<QAction *> &menuBar, const QWid
   QSet<const QAction *> seen;
   collect(menuBar, QString(), seen, commands);
   collect(window.actions(), QString(), seen, commands);
+  nameAfterMenus(commands);
   return commands;
 }
 

@@ -143,7 +143,7 @@ std::vector<Category> CategoryFile::read(const QString &path, const Told &told) 
     if (line.category)
       categories.push_back(*line.category);
     else if (!line.isComment && told)
-      told({Finding::Severity::Warning, path, number, 
+      told({Finding::Severity::Warning, path, number,
             QCoreApplication::translate("CategoryFile", "Line contains less than 5 entries!")});
   }
   return categories;

@@ -9,7 +9,6 @@
 #include <QMap>
 #include <QWidget>
 
-
 class ColumnChooser;
 class ElementTableView;
 class NetData;

@@ -4,7 +4,6 @@
 
 #include <QDockWidget>
 
-
 class ElementTablePage;
 class NetData;
 class QAction;

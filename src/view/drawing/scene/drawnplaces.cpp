@@ -28,7 +28,7 @@ TurnedBox boxOf(const QLineF &line, double width) {
 } // namespace
 
 OccupancyGrid DrawnPlaces::of(const DrawnScene &scene, const Projection &projection) {
-  constexpr std::size_t Sample = 200'000;
+  constexpr std::size_t Sample = 200000;
   OccupancyGrid places(projection.canvas());
   const double widthFactor = scene.edges.widthFactor(projection);
   const std::size_t step = scene.geometry.edges().size() / Sample + 1;
