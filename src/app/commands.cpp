@@ -38,7 +38,7 @@ Commands::Commands(QMainWindow &window, NetVisControl &control, const Form &form
   addDrawingMenu();
   fillInfoMenu();
   Mnemonics::assign(m_form.bar->actions());
-  m_toolBar = new ToolBar(control, m_form.open, window);
+  m_toolBar = new ToolBar(control, m_form.print, window);
   window.addToolBar(m_toolBar);
   connect(m_toolBar, &ToolBar::elementWanted, this, &Commands::elementWanted);
   const auto show = [this](const QString &text) {
@@ -127,8 +127,6 @@ void Commands::fillInfoMenu() {
 
 void Commands::setIcons() {
   const PlotActions &actions = m_control.actions();
-  if (m_form.open != nullptr)
-    m_form.open->setIcon(svgIcon(QStringLiteral("open")));
   for (const auto &[command, name] :
        {std::pair(Act::Back, "back"), std::pair(Act::Forward, "forward"), std::pair(Act::WholeNetwork, "zoom-all"),
         std::pair(Act::ToSelection, "zoom-selection"), std::pair(Act::DragZooms, "drag-zooms"),

@@ -20,7 +20,7 @@ public:
     QMenuBar *bar;
     QMenu *file;
     QMenu *info;       ///< the new menus stand before it
-    QAction *open;     ///< null where a window opens nothing
+    QAction *print;
     QAction *savePage; ///< in the menu file; what saves pictures stands before it
   };
 

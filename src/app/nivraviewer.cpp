@@ -139,6 +139,7 @@ void NivraViewer::setUpFileMenu() {
   m_reload->setToolTip(tr("Read the files of the case again (F5)"));
   m_reload->setEnabled(false);
   m_ui->menuFile->insertAction(behindOpen, m_reload);
+  m_commands->toolBar()->addOpening(m_ui->actionOpen, recent, m_reload);
   connect(m_reload, &QAction::triggered, this, &NivraViewer::reload);
 }
 
@@ -188,7 +189,7 @@ void NivraViewer::setUpCommands() {
   const WithoutPlugins own;
   CommandIcons::give(*this);
   m_commands = new Commands(*this, *m_control,
-                            {m_ui->menubar, m_ui->menuFile, m_ui->menuInfo, m_ui->actionOpen, m_ui->actionSavePage});
+                            {m_ui->menubar, m_ui->menuFile, m_ui->menuInfo, m_ui->actionPrint, m_ui->actionSavePage});
   connect(m_commands, &Commands::elementWanted, this, [this](const QString &name) {
     elementAction(name, NetPicker::EleAction::Mark);
     if (m_control->showElement(name))

@@ -3,6 +3,7 @@
 #include "casescenarios.h"
 #include "commands.h"
 #include "elementcounts.h"
+#include "svgicon.h"
 #include "tooldocks.h"
 #include "toolwindows.h"
 #include "windowplace.h"
@@ -66,7 +67,8 @@ void SubnetWindow::fillMenus() {
   QMenu *file = menuBar()->addMenu(tr("File"));
   QAction *savePage = file->addAction(tr("Page &Setup and Save …"), m_control.get(), &NetVisControl::savePage,
                                       QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_P));
-  file->addAction(tr("&Print …"), m_control.get(), &NetVisControl::print, QKeySequence::Print);
+  QAction *print = file->addAction(tr("&Print …"), m_control.get(), &NetVisControl::print, QKeySequence::Print);
+  print->setIcon(svgIcon(QStringLiteral("print")));
   file->addSeparator();
   file->addAction(tr("Close"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_W));
   QMenu *info = menuBar()->addMenu(tr("Info"));
@@ -77,7 +79,7 @@ void SubnetWindow::fillMenus() {
   info->addAction(tr("Guide"), &m_tools->windows(), &ToolWindows::showHelpOfFocus, QKeySequence::HelpContents);
   QMenu *view = menuBar()->addMenu(tr("View"));
   connect(view, &QMenu::aboutToShow, m_tools, [this, view] { m_tools->fillViewMenu(*view); });
-  m_commands = new Commands(*this, *m_control, {menuBar(), file, info, nullptr, savePage});
+  m_commands = new Commands(*this, *m_control, {menuBar(), file, info, print, savePage});
   connect(m_commands, &Commands::elementWanted, this, &SubnetWindow::showElement);
 }
 

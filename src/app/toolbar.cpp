@@ -16,7 +16,7 @@
 #include <QToolButton>
 #include <QToolTip>
 
-ToolBar::ToolBar(NetVisControl &control, QAction *open, QMainWindow &window)
+ToolBar::ToolBar(NetVisControl &control, QAction *print, QMainWindow &window)
     : QToolBar(tr("Main tools"), &window)
     , m_control(control) {
   using Act = PlotActions::Command;
@@ -25,10 +25,6 @@ ToolBar::ToolBar(NetVisControl &control, QAction *open, QMainWindow &window)
   setIconSize(IconSize);
   setAllowedAreas(Qt::TopToolBarArea | Qt::BottomToolBarArea); // upright, the field would make it broad
   const PlotActions &actions = control.actions();
-  if (open != nullptr) {
-    addAction(open);
-    addSeparator();
-  }
   addActions({actions[Act::Back], actions[Act::Forward], actions[Act::WholeNetwork], actions[Act::ToSelection]});
   addSeparator();
   addActions({actions[Act::DragZooms], actions[Act::DragSelects], actions[Act::DragPans], actions[Act::Measure]});
@@ -40,14 +36,23 @@ ToolBar::ToolBar(NetVisControl &control, QAction *open, QMainWindow &window)
   addChooser(Aspect::EdgeColor, tr("Edge colour"));
   addChooser(Aspect::NodeColor, tr("Node colour"));
   addSeparator();
-  addActions({actions[Act::SavePicture], actions[Act::CopyPicture]});
+  addActions({actions[Act::SavePicture], actions[Act::CopyPicture], print});
   connect(&actions, &PlotActions::functionsInUseChanged, this, &ToolBar::showFunctions);
   connect(&control.styles(), &StyleActions::inUseChanged, this, &ToolBar::showStyle);
   showFunctions();
 }
 
+void ToolBar::addOpening(QAction *open, QMenu *recent, QAction *reload) {
+  QAction *first = actions().constFirst();
+  insertActions(first, {open, reload});
+  insertSeparator(first);
+  auto *button = qobject_cast<QToolButton *>(widgetForAction(open));
+  button->setMenu(recent);
+  button->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
 void ToolBar::addField() {
-  constexpr int Narrowest = 110;
+  constexpr int Narrowest = 80;
   constexpr int Widest = 190;
   m_field = new ElementField(m_control.net(), this);
   m_field->setMinimumWidth(Narrowest);
@@ -92,7 +97,7 @@ void ToolBar::addStyleChooser() {
 }
 
 void ToolBar::showStyle() {
-  constexpr int Letters = 9;
+  constexpr int Letters = 8;
   const QString style = m_control.styles().inUse();
   const int width = m_styles->fontMetrics().averageCharWidth() * Letters;
   m_styles->setEnabled(m_control.plot()->update().netData() != nullptr);
@@ -104,7 +109,7 @@ void ToolBar::showStyle() {
 
 void ToolBar::showFunctions() {
   showStyle();
-  constexpr int Letters = 13; // of more the end is cut, so that the bar keeps its width
+  constexpr int Letters = 9; // of more the end is cut, so that the bar keeps its width
   m_field->setEnabled(m_control.plot()->update().netData() != nullptr);
   for (const Aspect aspect : {Aspect::EdgeColor, Aspect::NodeColor}) {
     QToolButton *chooser = m_choosers[aspect];

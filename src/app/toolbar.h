@@ -7,6 +7,7 @@
 class ElementField;
 class NetVisControl;
 class QMainWindow;
+class QMenu;
 class QToolButton;
 
 /// The tool bar of a window with a drawing: the commands that one needs all day, a field that goes to an element by its
@@ -14,8 +15,11 @@ class QToolButton;
 class ToolBar : public QToolBar {
   Q_OBJECT
 public:
-  /// \param open the action that opens a workspace; null where there is none
-  ToolBar(NetVisControl &control, QAction *open, QMainWindow &window);
+  /// \param print at the end, beside what saves and copies the drawing
+  ToolBar(NetVisControl &control, QAction *print, QMainWindow &window);
+
+  /// At the head of the bar of a window that opens cases: the way to one, with recent ones behind it, and to read it again.
+  void addOpening(QAction *open, QMenu *recent, QAction *reload);
 
   /// Gives the keyboard to the field for names.
   void goToElement();

@@ -265,10 +265,16 @@ void TestCommands::toolBarFitsASmallWindow() {
   open(viewer, m_workspace.scenario());
   const ToolBar &bar = *viewer.findChild<ToolBar *>();
   QTRY_VERIFY(bar.width() <= 900);
-  for (const QAction *action : bar.actions()) {
+  constexpr int MostBehind = 2; // the last of them, behind the button at the end of the bar
+  const QList<QAction *> all = bar.actions();
+  for (QAction *action : all.mid(0, all.size() - MostBehind)) {
     if (!action->isSeparator())
-      QVERIFY2(bar.widgetForAction(const_cast<QAction *>(action))->isVisible(), qPrintable(action->text()));
+      QVERIFY2(bar.widgetForAction(action)->isVisible(), qPrintable(action->text()));
   }
+  const auto *more = bar.findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"));
+  QVERIFY(more != nullptr && more->isVisible());
+  viewer.resize(1000, 600);
+  QTRY_VERIFY(bar.widgetForAction(all.constLast())->isVisible());
 }
 
 void TestCommands::paletteFindsAndRuns() {
