@@ -110,13 +110,25 @@ DISPLAY=:$(<"$data/display")
 export DISPLAY
 
 example=example/DE_H2/S5/S5.scen.jsn
-window example-window "$example" 'sleep 1'
+first_view() { # NAME FILE
+  window "$1-window" "$2" 'sleep 2'
+  dark_window "$1-dark" "$2" 'sleep 2'
+}
+first_view example "$example"
 ! wants example || "$NIVRA_VIEWER" --export "$images/example.png" --width 1200 "$example"
 dark_window dark "$example" 'go_to CS_Rehden_C1; press ctrl+i ctrl+0; sleep 1.5'
 for n in 11 40 135; do
   file=../shared/data/GasLib-$n/N1/N1.scen.jsn
-  [ ! -f "$file" ] || window "gaslib-$n-window" "$file" 'sleep 1'
+  [ ! -f "$file" ] || first_view "gaslib-$n" "$file"
 done
+if wants large-window || wants large-dark; then
+  "$(dirname "$NIVRA_VIEWER")/nivra-make-network" --elements 100000 "$data/large" >/dev/null
+  first_view large "$data/large/large.geom.jsn"
+  for look in window dark; do
+    ! wants "large-$look" || mogrify -resize 800x "$images/large-$look.png"
+  done
+  look=light
+fi
 # The legend hides what is to be seen in pictures as small as these.
 printf '%s\n' '[drawing]' 'legend=false' | cat example/DE_H2/plotsettings.ini - >"$data/no-legend.ini"
 labels() { # NUMBER [OPTION...]
