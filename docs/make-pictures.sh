@@ -70,8 +70,12 @@ find_window() { # TITLE
   done
   echo "$id"
 }
+home() { # TITLE of a window, which is moved to where the picture begins
+  xdotool windowmove "$(find_window "$1")" 0 0
+  sleep 0.5
+}
 fill() { # WINDOW, as large as the pictures
-  xdotool windowsize "$1" 1200 900
+  xdotool windowmove "$1" 0 0 windowsize "$1" 1200 900
   sleep 0.5
   xdotool windowfocus "$1"
   sleep 0.3
@@ -157,13 +161,13 @@ mkdir -p "$walk"
 cp -r example/DE_H2 "$walk/"
 walk_file=$walk/DE_H2/S5/S5.scen.jsn
 find_pipes='press ctrl+f; sleep 0.5; press Tab Tab; say "^p"; press Tab Tab Tab Tab; say "abs(v@ELE)>10"; press Return; sleep 1.5; click 203 226;'
-find_table="$find_pipes"'click 54 849; sleep 1; click 16 52; click 142 76; click 271 52; say v; press Return; sleep 1;'
+find_table="$find_pipes"'click 54 849; sleep 1; home "Table of Vector Values"; click 16 52; click 142 76; click 271 52; say v; press Return; sleep 1;'
 window walk-1 "$walk_file" "$find_pipes"
 window walk-2 "$walk_file" "$find_pipes"'run_command "element categories"; sleep 0.5; click 134 552; sleep 0.5; click 60 709 1 2; say "fast pipes"; press Return; click 1150 850'
 window walk-3 "$walk_file" "$find_table"
 window walk-4 "$walk_file" "$find_table"'click 143 16; sleep 1'
 window walk-5 "$walk_file" 'run_command "layers editor"; click 34 215; click 34 277; sleep 1'
-window walk-6 "$walk_file" 'go_to N_Görlitz; press ctrl+u; press ctrl+0; sleep 1.5'
+window walk-6 "$walk_file" 'go_to rlitz; press ctrl+u; press ctrl+0; sleep 1.5'
 
 window subnet "$walk_file" 'go_to CS_Werne; press ctrl+shift+o; sleep 2
   fill "$(find_window Subassembly)"; press ctrl+t; sleep 1.5; press Down Down shift+Down; sleep 1'
