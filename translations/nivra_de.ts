@@ -8611,5 +8611,9 @@ Nützlich, um Einstellungen einer anderen Geometrie zu übernehmen!</translation
         <source>natural breaks</source>
         <translation>natürliche Grenzen</translation>
     </message>
+    <message>
+        <source>No network is shown: there is nothing to apply this to.</source>
+        <translation>Es wird kein Netz gezeigt, auf das dies angewendet werden könnte.</translation>
+    </message>
 </context>
 </TS>

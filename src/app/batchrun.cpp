@@ -5,7 +5,6 @@
 #include "settings/numberlocale.h"
 
 #include <base/fileaccess.h>
-#include <base/settings.h>
 #include <base/wholefile.h>
 #include <drawing/drawfunctions.h>
 #include <drawing/labeltable.h>
@@ -15,6 +14,7 @@
 
 #include <QBuffer>
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <utility>
@@ -50,6 +50,19 @@ QByteArray csv(const VectorRows::Exported &table) {
   buffer.open(QIODevice::WriteOnly);
   VectorRows::write(buffer, table);
   return buffer.data();
+}
+
+/// Empty when every pattern can be read: one that cannot would be taken for a search that finds nothing.
+QString faultOf(const SearchParams &params) {
+  QStringList patterns{params.type, params.prop, params.searchString};
+  if (params.regex)
+    patterns.append(params.name);
+  for (const QString &pattern : std::as_const(patterns)) {
+    const QRegularExpression expression(pattern);
+    if (!expression.isValid())
+      return QStringLiteral("The pattern \"%1\" cannot be read: %2").arg(pattern, expression.errorString());
+  }
+  return QString();
 }
 
 } // namespace
@@ -197,6 +210,9 @@ bool BatchRun::answerList(const BatchTask::List &list, QString *reason) {
   ElementQuery query(m_net);
   ElementQuery::Found found;
   if (list.search) {
+    *reason = faultOf(list.search->params);
+    if (!reason->isEmpty())
+      return false;
     found = query.search(list.search->params);
     *reason = found.error;
     if (!reason->isEmpty())

@@ -112,7 +112,7 @@ std::vector<Command> CommandList::of(const QList<QAction *> &menuBar, const QWid
 
 std::vector<int> CommandList::matching(const std::vector<Command> &commands, const QString &query, const QStringList &used) {
   const QStringList words = query.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-  using Rank = std::tuple<bool, int, int, int>; // greyed, how it fits, how long ago it was used, place in the menus
+  using Rank = std::tuple<bool, bool, int, int, int>; // greyed, not its very text, fit, how long ago it was used, place
   std::vector<Rank> ranks;
   for (int i = 0; i < toQt(commands.size()); ++i) {
     const Command &command = commands[fromQt(i)];
@@ -120,13 +120,14 @@ std::vector<int> CommandList::matching(const std::vector<Command> &commands, con
     if (!fit)
       continue;
     const int ago = used.indexOf(command.id());
-    ranks.emplace_back(!command.isEnabled(), -*fit, ago < 0 ? used.size() : ago, i);
+    const bool isNamed = command.text.compare(query.trimmed(), Qt::CaseInsensitive) == 0;
+    ranks.emplace_back(!command.isEnabled(), !isNamed, -*fit, ago < 0 ? used.size() : ago, i);
   }
   std::sort(ranks.begin(), ranks.end());
   std::vector<int> found;
   found.reserve(ranks.size());
   for (const Rank &rank : ranks)
-    found.push_back(std::get<3>(rank));
+    found.push_back(std::get<4>(rank));
   return found;
 }
 

@@ -1,8 +1,11 @@
 #include "commandpalette.h"
 
 #include "commandmodel.h"
+#include "panelfocus.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QDockWidget>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -14,6 +17,22 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+
+namespace {
+
+/// A panel that is there without the keyboard is asked for to be used, not to be closed.
+bool giveKeyboard(const QAction &action) {
+  auto *panel = qobject_cast<QDockWidget *>(action.parent());
+  const QWidget *focus = QApplication::focusWidget();
+  if (panel == nullptr || &action != panel->toggleViewAction() || !panel->isVisible() ||
+      (focus != nullptr && panel->isAncestorOf(focus)))
+    return false;
+  panel->raise();
+  PanelFocus::give(*panel);
+  return true;
+}
+
+} // namespace
 
 CommandPalette::CommandPalette(QWidget &window)
     : QDialog(&window, Qt::Dialog | Qt::FramelessWindowHint)
@@ -103,7 +122,7 @@ void CommandPalette::run(int row) {
   reject();
   // When the window has the keyboard again: many commands ask who has it.
   QTimer::singleShot(0, &m_window, [action = chosen.action] {
-    if (action != nullptr)
+    if (action != nullptr && !giveKeyboard(*action))
       action->trigger();
   });
 }

@@ -19,7 +19,7 @@ public:
   struct Form {
     QMenuBar *bar;
     QMenu *file;
-    QMenu *info;       ///< the new menus stand before it
+    QMenu *info; ///< the new menus stand before it
     QAction *print;
     QAction *savePage; ///< in the menu file; what saves pictures stands before it
   };

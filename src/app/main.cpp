@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QProcess>
+#include <QScreen>
 #include <QTimer>
 #include <QUrl>
 
@@ -57,6 +58,12 @@ int runBatch(const CommandLine &line) {
   }
 }
 
+/// The usual size may be more than the screen has, as where everything is shown twice as large.
+void fitScreen(QWidget &window) {
+  constexpr double Most = 0.92; // what the desktop puts round a window needs the rest
+  window.resize(window.size().boundedTo(QGuiApplication::primaryScreen()->availableSize() * Most));
+}
+
 /// In the language that the settings have now.
 void restart(const CommandLine &line, const QString &file) {
   QStringList arguments = line.toolkit.mid(1);
@@ -78,6 +85,7 @@ int runWindow(int argc, char **argv, const CommandLine &line) {
   CrashGuard::setUp(LogFiles::Run::Window,
                     [](const QString &path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
   NivraViewer viewer;
+  fitScreen(viewer);
   if (!line.style.isEmpty())
     QApplication::setStyle(line.style);
   // Inside the event loop, so that a window that is closed while it reads ends the program.

@@ -5,7 +5,6 @@
 #include "interaction/measuretool.h"
 #include "interaction/mousemodes.h"
 #include "interaction/plotmenu.h"
-#include "interaction/plotzoom.h"
 
 #include <drawing/drawfunctions.h>
 #include <view/netviscontrol.h>

@@ -9,6 +9,7 @@
 #include "workspacefixture.h"
 
 #include <base/generalsettings.h>
+#include <characteristics/characteristicsstack.h>
 #include <support/nivratest.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
@@ -91,6 +92,7 @@ private slots:
   void palettesAreLegible_data();
   void palettesAreLegible();
   void switchingReachesEveryWindow();
+  void openMapsAreMadeAnew();
   void choiceIsTheUsers();
   void menuPaletteAndDialogOfferIt();
   void statusBarStaysLegible();
@@ -162,6 +164,35 @@ void TestAppearance::switchingReachesEveryWindow() {
     viewer.appearance().choose(mode);
     for (QWidget *widget : qAsConst(widgets))
       QVERIFY2(isDark(*widget) == (mode == Appearance::Mode::Dark), widget->metaObject()->className());
+  }
+}
+
+/// A map is other widgets afterwards, which must not go while the toolkit tells all widgets of the change.
+void TestAppearance::openMapsAreMadeAnew() {
+  WorkspaceFixture files;
+  files.write(QStringLiteral("CASE/S1/scenconfig.jsn"),
+              "{\"workDir\":\"S1\",\"scenFile\":\"S1.scen\",\"comprDatabase\":\"../machines.txt\"}");
+  files.write(QStringLiteral("CASE/S1/solverconfig.jsn"), "{\"tamb\":293.15}");
+  files.writeGeometry(WorkspaceFixture::soundGeometry().replace("\"node2\":\"C\"", "\"node2\":\"C\",\"m\":50"));
+  files.write(QStringLiteral("CASE/machines.txt"),
+              "[turbo compressor]\nname;drive;speedmin;speedmax;head3;efficiency1\nK1;G;3000;9000;1e-6;0.8\n"
+              "[gas turbine]\nname;power1;energy2\nG;5000;3\n");
+  NivraViewer viewer;
+  viewer.open(files.scenario());
+  viewer.elementAction(QStringLiteral("K1"), NetPicker::EleAction::OpenCharacteristics);
+  auto *stack = viewer.findChild<CharacteristicsStack *>();
+  QCOMPARE(stack->opened(), QStringList{QStringLiteral("K1")});
+  const auto map = [stack] {
+    const QList<QWidget *> widgets = stack->findChildren<QWidget *>();
+    const auto found = std::find_if(widgets.begin(), widgets.end(), [](QWidget *w) { return w->inherits("QwtPlot"); });
+    return found == widgets.end() ? nullptr : *found;
+  };
+  for (int i = 0; i < 6; ++i) {
+    const bool goesDark = i % 2 == 0;
+    viewer.appearance().choose(goesDark ? Appearance::Mode::Dark : Appearance::Mode::Light);
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(map() != nullptr && isDark(*map()) == goesDark);
   }
 }
 

@@ -53,7 +53,6 @@ void TestBatch::searchListsNames_data() {
   };
   row("1", "K1 P1");
   row("regex=^.1$ type=^p$", "P1");
-  row("regex=[", "");
   row("type=node", "A B C");
   row("name=.", "");
   row("type=^n value=>=50", "A B C"); // in any property: coordinates too
@@ -123,6 +122,9 @@ void TestBatch::refusals_data() {
   row("--type pipe", 2, "--type");
   row("--search typ=p", 2, "\"typ\"");
   row("--search formula=1+", 1, "search stopped");
+  row("--search regex=[", 1, "\"[\"");
+  row("--search type=((((", 1, "((((");
+  row("--search value=*", 1, "\"*\"");
   row("--search a --info", 2, "--output");
   row("--output a.csv", 2, "--output");
   row("--output a.csv --check", 2, "--output");

@@ -201,10 +201,15 @@ void TestStyles::ownStylesLieOverAnotherCase() {
   QVERIFY(!settings.showsLegend);
   settings.showsLegend = f.plot().settings().showsLegend;
   QVERIFY(settings == f.plot().settings()); // one key changes one thing
+  settings.functions[Aspect::EdgeColor].minimum = 10.0;
+  settings.functions[Aspect::EdgeColor].maximum = 85.0;
+  QVERIFY(PlotSettingsFile::readText("colorFunc=diameter\n", {}, settings, {}, PlotSettingsFile::Missing::Kept));
+  QCOMPARE(settings.functions[Aspect::EdgeColor].minimum, PlotSettings::OpenMinimum); // those were of another function
+  QCOMPARE(settings.functions[Aspect::EdgeColor].maximum, PlotSettings::OpenMaximum);
 }
 
 void TestStyles::storeKeepsWhatItCannotRead() {
-  for (const char *text : {"no list", "{\"version\":99,\"styles\":[]}", "[1,2]"}) {
+  for (const char *text : {"no list", "{\"version\":99,\"styles\":[]}", "[1,2]", "{\"version\":1,\"styles\":{}}"}) {
     SmallFiles::write(StyleStore::file(), text);
     StyleStore store;
     QString reason;

@@ -38,7 +38,7 @@ class TestViewFuncDialog : public QObject {
 private slots:
   void ranges_data();
   void ranges();
-  void choicesOfThePart();
+  void choicesAreOffered();
   void appliesToThePlot();
   void boundsAreInTheDisplayUnit();
   void invalidRangeAsks_data();
@@ -51,6 +51,8 @@ private slots:
   void touchedFieldsAreTaken();
   void templates();
   void boundsBelongToAFunction();
+  void boundsGoWhenAnotherFunctionComes();
+  void nothingIsAppliedToNoNetwork();
   void typedBoundsOfAnybody();
   void listsOfferWhatTheNetworkHas();
   void whatIsTypedIsTaken();
@@ -110,7 +112,7 @@ void TestViewFuncDialog::ranges() {
   QCOMPARE(int(DrawRange::check(low, high)), int(DrawRange::State::Sound));
 }
 
-void TestViewFuncDialog::choicesOfThePart() {
+void TestViewFuncDialog::choicesAreOffered() {
   ViewFixture f;
   f.show();
   viewFuncDialog dialog(f.plot());
@@ -479,6 +481,34 @@ void TestViewFuncDialog::boundsBelongToAFunction() {
   press(again, "resetMinMax");
   child<QComboBox>(*row(again, 0), "function")->setCurrentText(QStringLiteral("volume flow"));
   QVERIFY(child<QLineEdit>(*row(again, 0), "maximum")->text().isEmpty());
+}
+
+void TestViewFuncDialog::boundsGoWhenAnotherFunctionComes() {
+  ViewFixture f;
+  f.show();
+  viewFuncDialog dialog(f.plot());
+  auto *maximum = child<QLineEdit>(*row(dialog, 0), "maximum");
+  maximum->setText(QStringLiteral("33")); // of the pressure, and not applied
+  PlotSettings settings = f.plot().appliedSettings();
+  settings.functions[Aspect::EdgeColor].name = QStringLiteral("volume flow"); // by a command of the drawing
+  f.plot().setSettings(settings);
+  QCOMPARE(child<QComboBox>(*row(dialog, 0), "function")->currentText(), QStringLiteral("volume flow"));
+  QVERIFY(maximum->text().isEmpty());
+  press(dialog, "apply");
+  QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].maximum, PlotSettings::OpenMaximum);
+}
+
+void TestViewFuncDialog::nothingIsAppliedToNoNetwork() {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("plotsettings.ini"));
+  NetData nothing;
+  NetVisControl control(nothing, QString());
+  viewFuncDialog dialog(*control.plot());
+  dialog.setFiles(folder.filePath(QStringLiteral("vfd.csv")), {}, file, FileStamp::of(file));
+  const Answers told({NivraMsg::Answer::Ok});
+  press(dialog, "applyAndSave");
+  QVERIFY(told.areGiven());
+  QVERIFY(!QFile::exists(file));
 }
 
 void TestViewFuncDialog::typedBoundsOfAnybody() {

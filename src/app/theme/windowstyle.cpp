@@ -26,6 +26,8 @@ void WindowStyle::use() {
 
 int WindowStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                            QStyleHintReturn *returned) const {
+  if (hint == SH_Menu_Scrollable) // else a long menu grows beside the screen, where nobody reaches its end
+    return 1;
   return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
 }
 

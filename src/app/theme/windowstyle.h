@@ -3,7 +3,8 @@
 #include <QProxyStyle>
 
 /// The style of the program's windows: the toolkit's own "Fusion", with frames round empty check boxes that are seen on dark
-/// ground, and without the coloured icons of dialog buttons, which are of another family than the program's.
+/// ground, long menus that scroll, and without the coloured icons of dialog buttons, which are of another family than the
+/// program's.
 class WindowStyle : public QProxyStyle {
   Q_OBJECT
 public:

@@ -13,6 +13,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QScrollArea>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -245,11 +246,12 @@ void MachinePage::refresh() {
   m_text->setText(said);
 }
 
-/// What the text warns of has another colour on a dark ground.
+/// What the text warns of has another colour on a dark ground. The map is made anew, but not while somebody goes through all
+/// widgets to tell them of the change.
 void MachinePage::changeEvent(QEvent *event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::PaletteChange && m_map != nullptr)
-    refresh();
+    QTimer::singleShot(0, this, [this] { refresh(); });
 }
 
 void MachinePage::setPageFacts(const PageFacts &facts) {

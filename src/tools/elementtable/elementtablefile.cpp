@@ -69,9 +69,17 @@ void ElementTableFile::askAndSave(QWidget *parent, const QString &proposed) cons
   for (const auto &[title, format] : formats)
     titles.append(title);
   LastFolder &folder = LastFolder::ofSaving();
-  QString chosen;
-  const QString path = QFileDialog::getSaveFileName(
-      parent, tr("Save table"), folder.with(proposed + QStringLiteral(".xlsx")), titles.join(QStringLiteral(";;")), &chosen);
+  QFileDialog dialog(parent, tr("Save table"), folder.path(), titles.join(QStringLiteral(";;")));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  // A name without a suffix gets that of the chosen kind.
+  const auto useSuffixOf = [&dialog](const QString &filter) {
+    dialog.setDefaultSuffix(filter.section(QLatin1Char('.'), 1).remove(QLatin1Char(')')));
+  };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useSuffixOf);
+  useSuffixOf(titles.first());
+  dialog.selectFile(proposed + QStringLiteral(".xlsx"));
+  const QString path = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+  const QString chosen = dialog.selectedNameFilter();
   folder.remember(path);
   QString reason;
   if (!path.isEmpty() && !save(path, formatOf(path, formats[fromQt(std::max(0, titles.indexOf(chosen)))].second), &reason))

@@ -93,6 +93,17 @@ void FunctionsPage::showFunctions(const PlotSettings &settings) {
   showNotes(settings);
 }
 
+void FunctionsPage::followFunctions(const PlotSettings &settings) {
+  for (const Aspect aspect : AllAspects) {
+    const PlotSettings::Function &function = settings.functions[aspect];
+    const bool isNameTouched = m_rows[aspect]->function().name != m_shown[aspect].name;
+    if (function.name == m_shown[aspect].name || isNameTouched)
+      continue;
+    m_rows[aspect]->setFunction(function);
+    m_shown[aspect] = m_rows[aspect]->function();
+  }
+}
+
 void FunctionsPage::changeUnits(const PlotSettings &settings) {
   for (const Aspect aspect : AllAspects) {
     const bool isTouched = !(m_rows[aspect]->function() == m_shown[aspect]);

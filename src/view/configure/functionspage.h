@@ -19,6 +19,8 @@ public:
 
   /// Offers the names that every network may have, and behind them the properties of this one.
   void offerFunctions();
+  /// Rows whose function was changed elsewhere show the new one: what was typed belongs to the former.
+  void followFunctions(const PlotSettings &settings);
   /// Shows the functions, and what the values that are drawn say to their bounds.
   void showFunctions(const PlotSettings &settings);
   /// Changes what was touched since the functions were shown, after asking what to do about bounds that make no range.

@@ -270,11 +270,30 @@ bool PlotSettingsFile::read(const QString &path, PlotSettings &settings, const T
   return true;
 }
 
+namespace {
+
+/// Bounds belong to a function: where a text names another one alone, those of the former do not stay.
+void openBoundsOfOthers(const PlotSettings &before, PlotSettings &settings) {
+  for (const Aspect aspect : AllAspects) {
+    const PlotSettings::Function &former = before.functions[aspect];
+    PlotSettings::Function &function = settings.functions[aspect];
+    if (function.name == former.name || function.minimum != former.minimum || function.maximum != former.maximum)
+      continue;
+    function.minimum = PlotSettings::OpenMinimum;
+    function.maximum = PlotSettings::OpenMaximum;
+  }
+}
+
+} // namespace
+
 bool PlotSettingsFile::readText(const QByteArray &content, const QString &path, PlotSettings &settings, const Told &told,
                                 Missing missing) {
   const IniText text(content);
   Reader reader{{text}, missing == Missing::Kept};
+  const PlotSettings before = settings;
   visitAll(settings, reader);
+  if (missing == Missing::Kept)
+    openBoundsOfOthers(before, settings);
   if (!reader.refused.isEmpty())
     tell(told, Finding::Severity::Warning,
          tr("%1: values that are no text, number or colour are left out: %2")

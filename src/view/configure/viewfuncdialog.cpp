@@ -330,8 +330,15 @@ bool viewFuncDialog::hasUnapplied() const {
 
 /// What was chosen in the drawing is shown here too, unless that would lose what was touched here.
 void viewFuncDialog::followPlot() {
+  if (isNetworkShown()) // while one is read there is nothing to follow
+    m_functions->followFunctions(m_plot.appliedSettings());
   if (!isAnyFieldTouched())
     m_fields->show(m_plot.appliedSettings());
+}
+
+bool viewFuncDialog::isNetworkShown() const {
+  const NetData *net = m_plot.update().netData();
+  return net != nullptr && !net->isEmpty();
 }
 
 /// What is typed as a preview takes it, without a question.
@@ -345,6 +352,10 @@ std::optional<DrawnStyle> viewFuncDialog::typed() const {
 }
 
 bool viewFuncDialog::apply() {
+  if (!isNetworkShown()) { // its functions are not there to choose from, as after a reading that was cancelled
+    NivraMsg::message(NivraMsg::Kind::Information, tr("No network is shown: there is nothing to apply this to."));
+    return false;
+  }
   DrawnStyle style = m_plot.appliedStyle();
   const PlotSettings before = style.settings;
   if (!m_functions->readTouched(style.settings))

@@ -3,7 +3,6 @@
 #include <base/index.h>
 #include <drawing/classlooks.h>
 #include <drawing/colorscale.h>
-#include <drawing/drawvalues.h>
 
 #include <QPainter>
 #include <QPixmap>

@@ -170,7 +170,7 @@ void StyleActions::saveAs() {
   if (m_store->find(name) != nullptr && !agrees(tr("There is a style \"%1\" already. Replace it?").arg(name)))
     return;
   QString reason;
-  const auto text = PlotSettingsFile::styleText(m_plot.appliedSettings(), &reason);
+  const auto text = PlotSettingsFile::styleText(m_plot.settings(), &reason); // what is seen, a preview too
   if (!text || !m_store->put({name, *text}, &reason))
     NivraMsg::message(NivraMsg::Kind::Warning, reason);
   else

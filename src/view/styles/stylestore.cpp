@@ -133,7 +133,7 @@ std::optional<std::vector<StyleStore::Style>> StyleStore::read(QString *reason) 
   if (!text)
     return std::nullopt;
   const QJsonObject whole = QJsonDocument::fromJson(*text).object();
-  if (whole[QStringLiteral("version")].toInt() != Version) {
+  if (whole[QStringLiteral("version")].toInt() != Version || !whole[QStringLiteral("styles")].isArray()) {
     *reason = tr("%1 is no list of styles of this program.").arg(file());
     return std::nullopt;
   }

@@ -70,6 +70,7 @@ protected:
 private:
   bool apply();
   void followPlot();
+  bool isNetworkShown() const;
   bool isAnyFieldTouched() const;
   std::optional<DrawnStyle> typed() const;
   void draw(const DrawnStyle &style);
