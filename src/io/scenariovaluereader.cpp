@@ -42,20 +42,22 @@ public:
   /// Takes the next one into the thread's own room.
   bool take(RawRecord &raw) {
     bool taken = false;
+    bool tells = false;
     double fraction = 0.0;
 #pragma omp critical(nivra_reader_lines)
     {
       taken = !m_cancelled && m_stream.take(raw);
-      if (taken)
+      if (taken) {
         raw.keep();
+        // Only the calling thread may touch the window, however many records the others take.
+        tells = ++m_sinceProgress >= RecordsBetweenProgress && omp_get_thread_num() == 0 && m_progress;
+        if (tells)
+          m_sinceProgress = 0;
+      }
       fraction = m_stream.fraction();
     }
-    // Only the calling thread may touch the window.
-    if (taken && omp_get_thread_num() == 0 && ++m_sinceProgress >= RecordsBetweenProgress && m_progress) {
-      m_sinceProgress = 0;
-      if (!m_progress(fraction))
-        m_cancelled = true;
-    }
+    if (tells && !m_progress(fraction))
+      m_cancelled = true;
     return taken;
   }
 

@@ -2,6 +2,7 @@
 #include "workspacefixture.h"
 
 #include <base/generalsettings.h>
+#include <support/letters.h>
 #include <support/nivratest.h>
 #include <tools/nivrafindings.h>
 #include <tools/nivrasearch.h>
@@ -84,7 +85,7 @@ void TestPanels::widthsAreNotThoseOfNames() {
                              .arg(now.first)
                              .arg(panel->second)
                              .arg(now.second);
-    if (now != *panel || now.first > (isBelow(panel.key()) ? 860 : 450))
+    if (now != *panel || now.first > (isBelow(panel.key()) ? 860 : 465) * letterScale())
       faults.append(told);
   }
   QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
@@ -113,9 +114,10 @@ void TestPanels::smallWindowsLeaveRoomForTheDrawing() {
   NivraViewer viewer;
   WorkspaceFixture files;
   viewer.open(files.scenario());
-  viewer.resize(900, 600);
+  const QSize small = QSize(900, 600) * letterScale();
+  viewer.resize(small);
   QVERIFY2(
-      viewer.minimumSizeHint().width() <= 900 && viewer.minimumSizeHint().height() <= 600,
+      viewer.minimumSizeHint().width() <= small.width() && viewer.minimumSizeHint().height() <= small.height(),
       qPrintable(QStringLiteral("%1 x %2").arg(viewer.minimumSizeHint().width()).arg(viewer.minimumSizeHint().height())));
   for (QDockWidget *dock : docksOf(viewer)) {
     dock->show();
@@ -125,7 +127,7 @@ void TestPanels::smallWindowsLeaveRoomForTheDrawing() {
     const bool isBelow = viewer.dockWidgetArea(dock) == Qt::BottomDockWidgetArea;
     QVERIFY2(QTest::qWaitFor([&] { return isBelow ? drawing.height() >= 260 : drawing.width() >= 440; }, 1000),
              qPrintable(QStringLiteral("%1: %2 x %3").arg(dock->objectName()).arg(drawing.width()).arg(drawing.height())));
-    QVERIFY2(viewer.width() == 900 && viewer.height() == 600, qPrintable(dock->objectName()));
+    QVERIFY2(viewer.size() == small, qPrintable(dock->objectName()));
     dock->hide();
   }
 }

@@ -5,6 +5,7 @@
 #include <base/generalsettings.h>
 #include <paper/pagedialog.h>
 #include <support/answers.h>
+#include <support/letters.h>
 #include <support/nivratest.h>
 #include <view/netviscontrol.h>
 
@@ -135,7 +136,8 @@ void TestPaperInWindow::everyTextIsWhole() {
     QVERIFY(dialog.height() <= 560 && dialog.width() <= 900);
     const auto *choices = dialog.findChild<QScrollArea *>(QStringLiteral("choices"));
     QVERIFY(choices->widget()->width() <= choices->viewport()->width());
-    QVERIFY2(choices->width() < 460, qPrintable(QString::number(choices->width()))); // the page needs the room
+    QVERIFY2(choices->width() < 460 * letterScale(),
+             qPrintable(QString::number(choices->width()))); // the page needs the room
     for (const QLabel *label : dialog.findChildren<QLabel *>())
       QVERIFY2(!label->isVisible() || label->width() >= label->sizeHint().width(), qPrintable(label->text()));
     for (const QAbstractButton *button : dialog.findChildren<QAbstractButton *>())
