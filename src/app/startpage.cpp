@@ -22,7 +22,8 @@ constexpr int BetweenRows = 8; // px
 StartPage::StartPage(QWidget *parent)
     : QLabel(parent)
     , m_layout(new QVBoxLayout(this))
-    , m_open(new QPushButton(tr("&Open …"))) {
+    , m_open(new QPushButton(tr("&Open …"), this)) {
+  m_open->hide();                          // until it has its place
   setAttribute(Qt::WA_LayoutOnEntireRect); // the margins of the contents are those of the text
   m_open->setToolTip(tr("Open a geometry or scenario file (Ctrl+O)"));
   m_open->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -49,6 +50,7 @@ void StartPage::arrange() {
   auto *buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(m_open);
+  m_open->show();
   if (m_clear != nullptr)
     buttons->addWidget(m_clear);
   buttons->addStretch();

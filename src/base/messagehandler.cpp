@@ -13,7 +13,12 @@ namespace {
 std::atomic<QtMessageHandler> foreignHandler{nullptr};
 thread_local bool insideHandler = false;
 
-// Neither is ever destroyed: static objects may log while they are.
+// None of these is ever destroyed: static objects may log while they are.
+std::mutex &foreignMutex() {
+  static auto *mutex = new std::mutex;
+  return *mutex;
+}
+
 std::mutex &recorderMutex() {
   static auto *mutex = new std::mutex;
   return *mutex;
@@ -32,6 +37,7 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
     NivraMsg::MessageHandler::writeLine(text);
     return;
   }
+  const std::lock_guard lock(foreignMutex()); // not every handler is made for several threads
   insideHandler = true;
   foreign(type, context, text);
   insideHandler = false;

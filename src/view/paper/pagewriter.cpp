@@ -4,6 +4,7 @@
 
 #include <base/wholefile.h>
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImage>
 #include <QImageWriter>
@@ -78,13 +79,20 @@ bool writePixels(QIODevice &device, const QByteArray &format, const PageSetup &s
     *reason = Texts::tr("there is not enough memory for a page of this size in %1 dpi").arg(setup.dpi);
     return false;
   }
-  QImageWriter writer(&device, format);
+  // Into memory first: the libraries of some formats lose theirs when a device fails.
+  QBuffer encoded;
+  encoded.open(QIODevice::WriteOnly);
+  QImageWriter writer(&encoded, format);
   constexpr int Quality = 92; // of JPEG
   if (format == "jpg" || format == "jpeg")
     writer.setQuality(Quality);
-  if (writer.write(image))
+  if (!writer.write(image)) {
+    *reason = writer.errorString();
+    return false;
+  }
+  if (device.write(encoded.data()) == encoded.size())
     return true;
-  *reason = writer.errorString();
+  *reason = device.errorString();
   return false;
 }
 
