@@ -1,5 +1,6 @@
 // Drawing, against the bare painter.
 
+#include "canvas/canvaslegend.h"
 #include "canvas/qwtfastplot.h"
 #include "interaction/plotzoom.h"
 #include "measure.h"
@@ -168,6 +169,14 @@ void recolour(benchmark::State &state) {
   scene.plot().update().updatePlot();
 }
 BENCHMARK(recolour)->Arg(Hundred)->Unit(benchmark::kMillisecond);
+
+/// Where the legend hides least, which is looked for when a view has come to rest.
+void legendPlaces(benchmark::State &state) {
+  Scene &scene = Scene::of(static_cast<int>(state.range(0)));
+  for (auto _ : state)
+    scene.plot().canvasLegend().refresh();
+}
+BENCHMARK(legendPlaces)->Arg(Hundred)->Arg(Million)->Unit(benchmark::kMillisecond);
 
 /// Labels for everything in view; how many there were, found a place and overlap.
 void labelPass(benchmark::State &state) {

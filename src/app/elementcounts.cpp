@@ -3,6 +3,7 @@
 #include <model/elementtypes.h>
 #include <model/names.h>
 #include <model/netdata.h>
+#include <model/titles.h>
 
 #include <QHash>
 #include <QStringList>
@@ -18,7 +19,7 @@ QString ElementCounts::of(NetData &net) {
   for (const ElementType &type : ElementTypes::all()) {
     const int count = byTitle.take(type.plural);
     if (count > 0)
-      counts.append(QStringLiteral("%1 %2").arg(count).arg(count == 1 ? type.longName : type.plural));
+      counts.append(QStringLiteral("%1 %2").arg(count).arg(count == 1 ? Titles::of(type) : Titles::ofSeveral(type)));
   }
   return counts.join(QStringLiteral(", "));
 }

@@ -2,6 +2,7 @@
 
 #include "session.h"
 
+#include <base/agrees.h>
 #include <base/nivramsg.h>
 #include <io/nivraworkspace.h>
 
@@ -70,12 +71,10 @@ bool LayerKeeper::save() {
 }
 
 bool LayerKeeper::mayOverwrite() const {
-  using namespace NivraMsg;
   const FileStamp present = FileStamp::of(m_path);
   if (!present.isOfAFile() || present == m_stamp)
     return true;
-  const QString question = tr("%1 was changed by another program or window since it was read. Overwrite?").arg(m_path);
-  return show({Kind::Question, question, {}, {Answer::Yes, Answer::No}, Answer::No}) == Answer::Yes;
+  return NivraMsg::agrees(tr("%1 was changed by another program or window since it was read. Overwrite?").arg(m_path));
 }
 
 bool LayerKeeper::saveAs() {

@@ -70,11 +70,11 @@ NivraViewer::NivraViewer(QWidget *parent)
     , m_subnets(new SubnetWindows(m_net, m_categories, *this))
     , m_layers(new LayerKeeper(m_net, *this))
     , m_reload(new QAction(tr("&Reload"), this))
-    , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); })
-    , m_language(new LanguageChoice(*this)) {
+    , m_showingChanges(OncePerTurn::Stage::Compute, [this] { showChanges(); }) {
   qApp->installEventFilter(new WheelGuard(this));
   qApp->installEventFilter(new Mnemonics(this));
   m_appearance = new Appearance(this);
+  m_language = new LanguageChoice(*this);
   setUpForm();
   setCentralWidget(m_ui->label);
   setWindowIcon(productLogo());

@@ -95,7 +95,7 @@ private:
   Commands *m_commands = nullptr;
   std::vector<ElementChange> m_changes; ///< since the last showChanges()
   OncePerTurn m_showingChanges;
-  LanguageChoice *m_language;
+  LanguageChoice *m_language = nullptr;
   bool m_restarts = false;
   bool m_closesThen = false; ///< once reading has ended
 };

@@ -63,7 +63,8 @@ void WindowPlace::besideOthers() {
       return other != &m_window && other->isVisible() && other->pos() == corner;
     });
   };
-  while (isTaken(m_window.pos()))
+  constexpr int MostSteps = 20; // also where the window does not move
+  for (int i = 0; i < MostSteps && isTaken(m_window.pos()); ++i)
     m_window.move(m_window.pos() + Step);
 }
 

@@ -1,5 +1,6 @@
 #include "messagehandler.h"
 
+#include <base/agrees.h>
 #include <base/nivramsg.h>
 #include <base/withoutboxes.h>
 
@@ -82,6 +83,10 @@ Answer message(Kind kind, const QString &text) {
   if (kind == Kind::Question)
     return show({kind, text, {}, {Answer::Yes, Answer::No, Answer::Cancel}, Answer::Cancel});
   return show({kind, text});
+}
+
+bool agrees(const QString &question) {
+  return show({Kind::Question, question, {}, {Answer::Yes, Answer::No}, Answer::No}) == Answer::Yes;
 }
 
 void information(const QString &text) {

@@ -7,6 +7,7 @@
 #include <base/generalsettings.h>
 #include <drawing/drawfunctions.h>
 #include <drawing/drawrange.h>
+#include <drawing/functionchange.h>
 #include <support/answers.h>
 #include <support/nivratest.h>
 #include <support/smallfiles.h>
@@ -52,6 +53,7 @@ private slots:
   void templates();
   void boundsBelongToAFunction();
   void boundsGoWhenAnotherFunctionComes();
+  void ownClassesGoWithTheirFunction();
   void nothingIsAppliedToNoNetwork();
   void typedBoundsOfAnybody();
   void listsOfferWhatTheNetworkHas();
@@ -496,6 +498,28 @@ void TestViewFuncDialog::boundsGoWhenAnotherFunctionComes() {
   QVERIFY(maximum->text().isEmpty());
   press(dialog, "apply");
   QCOMPARE(f.plot().settings().functions[Aspect::EdgeColor].maximum, PlotSettings::OpenMaximum);
+}
+
+void TestViewFuncDialog::ownClassesGoWithTheirFunction() {
+  ViewFixture f;
+  f.show();
+  PlotSettings settings = f.plot().settings();
+  settings.functions[Aspect::EdgeColor].name = QStringLiteral("p");
+  settings.colorClasses = 3;
+  settings.classMethod = PlotSettings::ownClasses();
+  settings.classBreaks = QStringLiteral("40;50");
+  f.plot().setSettings(settings);
+  PlotSettings changed = settings;
+  changeFunction(changed, Aspect::NodeColor, QStringLiteral("q"), f.net);
+  changeFunction(changed, Aspect::EdgeColor, QStringLiteral("p"), f.net);
+  QCOMPARE(changed.colorClasses, 3);
+  changeFunction(changed, Aspect::EdgeColor, QStringLiteral("q"), f.net);
+  QCOMPARE(changed.colorClasses, 0);
+  viewFuncDialog dialog(f.plot());
+  child<QComboBox>(*row(dialog, 0), "function")->setCurrentText(QStringLiteral("q"));
+  QVERIFY(child<QComboBox>(dialog, "classMethod")->currentData().toString().isEmpty());
+  press(dialog, "apply");
+  QCOMPARE(f.plot().settings().colorClasses, 0);
 }
 
 void TestViewFuncDialog::nothingIsAppliedToNoNetwork() {

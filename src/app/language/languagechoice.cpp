@@ -1,10 +1,9 @@
 #include "languagechoice.h"
 
 #include "language.h"
+#include "settings/usersetting.h"
 
-#include <base/generalsettings.h>
 #include <base/nivramsg.h>
-#include <base/settingsfile.h>
 
 #include <QActionGroup>
 #include <QMenu>
@@ -17,19 +16,12 @@ const QString &key() {
   return name;
 }
 
-/// The user's own, whatever a workspace says.
-QString setting() {
-  GeneralSettings settings;
-  settings.load(QString(), {});
-  return settings.value(key());
-}
-
 } // namespace
 
 LanguageChoice::LanguageChoice(QWidget &window)
     : QObject(&window)
     , m_window(window)
-    , m_setting(setting()) {}
+    , m_setting(UserSetting::value(key())) {}
 
 LanguageChoice::~LanguageChoice() = default;
 
@@ -59,25 +51,16 @@ void LanguageChoice::fill() {
 }
 
 void LanguageChoice::choose(const QString &code) {
-  SettingsFile file;
   QString reason;
-  const QString path = GeneralSettings::settingsFile(QString());
-  if (file.read(path, &reason)) {
-    if (code == QLatin1String(Language::Desktop))
-      file.remove(key());
-    else
-      file.set(key(), code);
-    if (file.write(path, &reason)) {
-      emit chosen();
-      return;
-    }
-  }
-  NivraMsg::message(NivraMsg::Kind::Warning, reason);
+  if (UserSetting::store(key(), code, &reason))
+    emit chosen();
+  else
+    NivraMsg::message(NivraMsg::Kind::Warning, reason);
 }
 
 void LanguageChoice::offerRestart() {
   const QString before = m_setting;
-  m_setting = setting();
+  m_setting = UserSetting::value(key());
   if (m_setting == before || Language::toStartWith(QString()) == Language::spoken() || !NivraMsg::showsBoxes())
     return;
   using Button = NivraMsg::Answer;

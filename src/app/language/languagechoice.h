@@ -10,6 +10,7 @@ class QWidget;
 class LanguageChoice : public QObject {
   Q_OBJECT
 public:
+  /// Once the general settings are loaded.
   explicit LanguageChoice(QWidget &window);
   ~LanguageChoice() override;
 

@@ -1,5 +1,6 @@
 #include "theme/appearance.h"
 
+#include "settings/usersetting.h"
 #include "svgicon.h"
 #include "theme/desktoptheme.h"
 #include "theme/themepalette.h"
@@ -7,7 +8,6 @@
 
 #include <base/nivramsg.h>
 #include <base/settings.h>
-#include <base/settingsfile.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -21,13 +21,8 @@ namespace {
 
 constexpr std::array<const char *, 3> Values{"like the desktop", "light", "dark"};
 
-/// The workspace of somebody else does not decide it.
 Appearance::Mode modeOfUser() {
-  using Layer = GeneralSettings::Layer;
-  const GeneralSettings &settings = GeneralSettings::instance();
-  const QString key = Settings::Appearance.key();
-  const GeneralSettings::Entry &entry = settings.entries().at(key);
-  const QString value = entry.layer == Layer::Run ? entry.value : settings.valueIn(Layer::User, key).value_or(QString());
+  const QString value = UserSetting::value(Settings::Appearance.key());
   for (std::size_t i = 0; i < Values.size(); ++i) {
     if (value == QLatin1String(Values[i]))
       return static_cast<Appearance::Mode>(i);
@@ -88,18 +83,8 @@ void Appearance::choose(Mode mode) {
   const QString value = QLatin1String(Values.at(static_cast<std::size_t>(mode)));
   GeneralSettings::instance().setValue(key, value); // also where the file cannot be written
   refresh();
-  const QString path = GeneralSettings::settingsFile(QString());
-  SettingsFile file;
   QString reason;
-  bool isDone = file.read(path, &reason);
-  if (isDone) {
-    if (mode == Mode::Desktop)
-      file.remove(key);
-    else
-      file.set(key, value);
-    isDone = file.write(path, &reason);
-  }
-  if (!isDone)
+  if (!UserSetting::store(key, value, &reason))
     NivraMsg::message(NivraMsg::Kind::Warning, tr("The choice holds until the program ends: %1").arg(reason));
 }
 

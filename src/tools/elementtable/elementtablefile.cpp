@@ -6,6 +6,7 @@
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
 #include <base/settings.h>
+#include <base/suffixoffilter.h>
 
 #include <QApplication>
 #include <QFileDialog>
@@ -73,7 +74,7 @@ void ElementTableFile::askAndSave(QWidget *parent, const QString &proposed) cons
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   // A name without a suffix gets that of the chosen kind.
   const auto useSuffixOf = [&dialog](const QString &filter) {
-    dialog.setDefaultSuffix(filter.section(QLatin1Char('.'), 1).remove(QLatin1Char(')')));
+    dialog.setDefaultSuffix(suffixOfFilter(filter));
   };
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useSuffixOf);
   useSuffixOf(titles.first());

@@ -1,8 +1,10 @@
 #include "canvas/canvaslegend.h"
 #include "canvas/colorbars.h"
+#include "canvas/functionlegend.h"
 #include "canvas/plotpanner.h"
 #include "canvas/qwtfastplot.h"
 #include "configure/plotsettingsfile.h"
+#include "interaction/elementzoom.h"
 #include "interaction/plotzoom.h"
 #include "interaction/smoothzoom.h"
 
@@ -21,8 +23,6 @@
 #include <utility>
 
 namespace {
-
-enum LegendCorner { TopLeft = 1, BottomLeft = 2, TopRight = 3, BottomRight = 4 };
 
 /// Tells the network's own coordinates at the axes.
 class CoordinateScale : public QwtScaleDraw {
@@ -45,6 +45,7 @@ NetPlot::NetPlot(QWidget *parent, Told told)
     , m_panner(new PlotPanner(*m_plot))
     , m_update(std::make_unique<NetUpdate>(
           m_shown, [this] { return view(); }, m_told))
+    , m_functionLegend(std::make_unique<FunctionLegend>(*m_plot))
     , m_canvasLegend(std::make_unique<CanvasLegend>(CanvasLegend::Drawing{*m_plot, *m_zoomer, m_settings, m_shown, *m_update,
                                                                           [this] { return functionLegendArea(); },
                                                                           [this] {
@@ -53,7 +54,6 @@ NetPlot::NetPlot(QWidget *parent, Told told)
     , m_smoothZoom(new SmoothZoom(*m_zoomer)) {
   constexpr int SmallestSide = 200;
   constexpr double GridZ = 1.0;
-  constexpr double LegendZ = 100.0;
   setUpPlot();
   setUpUpdate();
   setUpPanner();
@@ -61,10 +61,6 @@ NetPlot::NetPlot(QWidget *parent, Told told)
   setUpLegend();
   m_grid.setZ(GridZ);
   m_grid.attach(m_plot);
-  m_legend.setZ(LegendZ);
-  m_legend.setRenderHint(QwtPlotItem::RenderAntialiased);
-  m_legend.attach(m_plot);
-  m_legend.hide();
   m_hint.attach(m_plot);
   m_hint.hide();
   m_selection.setFilter(&m_update->layers());
@@ -183,55 +179,11 @@ void NetPlot::zoomByWheel(int steps, QPointF anchor) {
 }
 
 void NetPlot::zoomToElement(NetGeometry::Item item) {
-  const NetGeometry &geometry = m_update->geometry();
-  const std::optional<QPointF> center = geometry.center(item);
-  if (!center)
-    return;
-  constexpr double SmallestFactor = 1.0;
-  constexpr double LargestFactor = 1000.0;
-  const double wanted = Settings::ZoomToElementFactor.value();
-  const double factor = qBound(SmallestFactor, wanted, LargestFactor);
-  QSizeF size = m_zoomer->limits().smallest;
-  if (item.kind == NetData::Edge) {
-    const QLineF line = geometry.line(geometry.edges()[item.index]);
-    size = size.expandedTo({std::abs(line.dx()), std::abs(line.dy())});
-  }
-  size = (size * factor).boundedTo(m_zoomer->zoomBase().size());
-  m_zoomer->zoom(QRectF(center->x() - size.width() * 0.5, center->y() - size.height() * 0.5, size.width(), size.height()));
+  ElementZoom::to(*m_zoomer, m_update->geometry(), item);
 }
 
 bool NetPlot::zoomToItems(const std::vector<NetGeometry::Item> &items) {
-  if (items.size() == 1) {
-    zoomToElement(items.front());
-    return m_update->geometry().center(items.front()).has_value();
-  }
-  const NetGeometry &geometry = m_update->geometry();
-  std::optional<QRectF> area;
-  const auto add = [&area](const QPointF &point) {
-    if (!area)
-      area = QRectF(point, QSizeF(0.0, 0.0));
-    area->setLeft(std::min(area->left(), point.x()));
-    area->setRight(std::max(area->right(), point.x()));
-    area->setTop(std::min(area->top(), point.y()));
-    area->setBottom(std::max(area->bottom(), point.y()));
-  };
-  for (const NetGeometry::Item item : items) {
-    const std::optional<QPointF> center = geometry.center(item);
-    if (!center)
-      continue;
-    add(*center);
-    if (item.kind != NetData::Edge)
-      continue;
-    const QLineF line = geometry.line(geometry.edges()[item.index]);
-    add(line.p1());
-    add(line.p2());
-  }
-  if (!area)
-    return false;
-  constexpr double Room = 1.2;
-  const QSizeF size = (area->size() * Room).expandedTo(m_zoomer->limits().smallest).boundedTo(m_zoomer->zoomBase().size());
-  m_zoomer->zoom(QRectF(area->center() - QPointF(size.width(), size.height()) * 0.5, size));
-  return true;
+  return ElementZoom::to(*m_zoomer, m_update->geometry(), items);
 }
 
 void NetPlot::readMousePattern() {
@@ -439,33 +391,11 @@ void NetPlot::showAxes() {
 }
 
 void NetPlot::placeLegend() {
-  const int corner = m_settings.legendPos;
-  m_legend.setVisible(corner >= TopLeft && corner <= BottomRight && !m_update->legendText().isEmpty());
-  if (!m_legend.isVisible())
-    return;
-  constexpr int LargerThanLabels = 2; // pt
-  constexpr double Inset = 10.0;      // px
-  constexpr int BackgroundAlpha = 200;
-  QwtText text(m_update->legendText(), QwtText::PlainText);
-  text.setFont(QFont(QStringLiteral("Arial"), std::max(m_settings.labelMag + LargerThanLabels, 1), QFont::Bold));
-  text.setColor(m_shown.edgeLabelsColor);
-  text.setRenderFlags(Qt::AlignLeft | Qt::AlignVCenter);
-  QColor background = m_shown.bgrColor;
-  background.setAlpha(BackgroundAlpha);
-  text.setBackgroundBrush(background);
-  m_legend.setLabel(text);
+  m_functionLegend->place(m_shown, m_update->legendText());
+}
 
-  m_legendSize = text.textSize();
-  const QSizeF unit = m_plot->unitsPerPixel();
-  const QRectF shown = m_plot->visibleRect();
-  const double fromSide = (m_legendSize.width() * 0.5 + Inset) * unit.width();
-  const double fromEnd = (m_legendSize.height() * 0.5 + Inset) * unit.height();
-  const bool isRight = corner == TopRight || corner == BottomRight;
-  const bool isTop = corner == TopLeft || corner == TopRight;
-  // Plot coordinates grow upwards: the lower edge of the view is the top of its rectangle.
-  m_legend.setValue(isRight ? shown.right() - fromSide : shown.left() + fromSide,
-                    isTop ? shown.bottom() - fromEnd : shown.top() + fromEnd);
-  m_plot->replot();
+const QwtPlotMarker &NetPlot::legend() const {
+  return m_functionLegend->marker();
 }
 
 QAction *NetPlot::legendAction() const {
@@ -477,12 +407,7 @@ void NetPlot::setCaption(const QString &caption) {
 }
 
 QRectF NetPlot::functionLegendArea() const {
-  if (!m_legend.isVisible())
-    return QRectF();
-  QRectF area(QPointF(), m_legendSize);
-  area.moveCenter(
-      {m_plot->transform(QwtPlot::xBottom, m_legend.value().x()), m_plot->transform(QwtPlot::yLeft, m_legend.value().y())});
-  return area;
+  return m_functionLegend->area();
 }
 
 bool NetPlot::eventFilter(QObject *watched, QEvent *event) {

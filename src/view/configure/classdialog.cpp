@@ -1,5 +1,7 @@
 #include "configure/classdialog.h"
 
+#include "configure/buttoncolumn.h"
+
 #include <base/nivramsg.h>
 #include <drawing/classlooks.h>
 #include <drawing/colorscale.h>
@@ -8,15 +10,8 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
-
-namespace {
-
-enum Buttons { Add, Remove, Color };
-
-} // namespace
 
 ClassDialog::ClassDialog(const PlotSettings &settings, DrawValues::Column values, QWidget *parent)
     : QDialog(parent)
@@ -31,11 +26,6 @@ ClassDialog::ClassDialog(const PlotSettings &settings, DrawValues::Column values
   m_table->setTabKeyNavigation(false);
   m_table->verticalHeader()->hide();
   m_table->installEventFilter(this);
-  addButton(QStringLiteral("addClass"), tr("&Add class"), tr("Halve the marked class"), &ClassDialog::addClass);
-  addButton(QStringLiteral("removeClass"), tr("&Remove class"), tr("Join the marked class with the one below it"),
-            &ClassDialog::removeClass);
-  addButton(QStringLiteral("color"), tr("&Colour …"), tr("The colour of the marked class; Del takes that of the ramp"),
-            &ClassDialog::chooseColor);
   arrange();
   fill();
   connect(&m_model, &ClassModel::refused, this,
@@ -50,36 +40,24 @@ ClassDialog::ClassDialog(const PlotSettings &settings, DrawValues::Column values
   showButtons();
 }
 
-QPushButton *ClassDialog::addButton(const QString &name, const QString &text, const QString &tip,
-                                    void (ClassDialog::*press)()) {
-  auto *button = new QPushButton(text, this);
-  button->setObjectName(name);
-  button->setToolTip(tip);
-  button->setAutoDefault(false);
-  connect(button, &QPushButton::clicked, this, press);
-  m_buttons.append(button);
-  return button;
-}
-
 void ClassDialog::arrange() {
   constexpr QSize Size(470, 340);
   constexpr int ColorWidth = 60; // px
   m_table->setColumnWidth(ClassModel::ColorColumn, ColorWidth);
   m_table->horizontalHeader()->setStretchLastSection(true);
-  auto *beside = new QVBoxLayout;
-  for (QPushButton *button : qAsConst(m_buttons))
-    beside->addWidget(button);
+  auto *beside = new ButtonColumn;
+  m_add =
+      beside->add(QStringLiteral("addClass"), tr("&Add class"), tr("Halve the marked class"), this, &ClassDialog::addClass);
+  m_remove = beside->add(QStringLiteral("removeClass"), tr("&Remove class"),
+                         tr("Join the marked class with the one below it"), this, &ClassDialog::removeClass);
+  beside->add(QStringLiteral("color"), tr("&Colour …"), tr("The colour of the marked class; Del takes that of the ramp"),
+              this, &ClassDialog::chooseColor);
   beside->addSpacing(fontMetrics().height());
   for (const auto &[method, text] : {std::pair(PlotSettings::equalClasses(), tr("&Equal intervals")),
                                      {PlotSettings::quantileClasses(), tr("As &many in each")},
-                                     {PlotSettings::naturalClasses(), tr("&Natural breaks")}}) {
-    auto *button = new QPushButton(text, this);
-    button->setObjectName(method);
-    button->setAutoDefault(false);
-    button->setToolTip(tr("Find the breaks for as many classes anew"));
-    connect(button, &QPushButton::clicked, this, [this, method = method] { takeBreaks(method); });
-    beside->addWidget(button);
-  }
+                                     {PlotSettings::naturalClasses(), tr("&Natural breaks")}})
+    beside->add(method, text, tr("Find the breaks for as many classes anew"), this,
+                [this, method = method] { takeBreaks(method); });
   beside->addStretch();
   auto *middle = new QHBoxLayout;
   middle->addWidget(m_table);
@@ -150,8 +128,8 @@ void ClassDialog::chooseColor() {
 }
 
 void ClassDialog::showButtons() {
-  m_buttons.at(Add)->setEnabled(m_model.rowCount() < ClassModel::MostClasses);
-  m_buttons.at(Remove)->setEnabled(m_model.rowCount() > 1);
+  m_add->setEnabled(m_model.rowCount() < ClassModel::MostClasses);
+  m_remove->setEnabled(m_model.rowCount() > 1);
 }
 
 /// The keys of a cell for colours.

@@ -24,7 +24,6 @@ protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-  QPushButton *addButton(const QString &name, const QString &text, const QString &tip, void (ClassDialog::*press)());
   void arrange();
   void fill();
   void takeBreaks(const QString &method);
@@ -38,5 +37,6 @@ private:
   DrawValues::Column m_values;
   ClassModel m_model;
   QTableView *m_table;
-  QList<QPushButton *> m_buttons;
+  QPushButton *m_add = nullptr;
+  QPushButton *m_remove = nullptr;
 };

@@ -123,6 +123,7 @@ void FunctionRow::changeFunction(const QString &function) {
   m_unit = m_unitOf(function.trimmed());
   show(inUnit(m_typed.value(m_function)));
   setNote(QString());
+  emit functionChosen();
 }
 
 void FunctionRow::changeUnit() {

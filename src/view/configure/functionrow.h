@@ -47,7 +47,8 @@ public:
   void setNote(const QString &text);
 
 signals:
-  void choiceWanted(); ///< among all functions, with what is known of them
+  void functionChosen(); ///< by a person, in place of another
+  void choiceWanted();   ///< among all functions, with what is known of them
 
 private:
   void changeFunction(const QString &function);

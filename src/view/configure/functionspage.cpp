@@ -45,6 +45,8 @@ FunctionsPage::FunctionsPage(const NetUpdate &drawing, const PlotSettings &setti
         titles[aspect], tip, [this](const QString &function) { return unitOf(function); }, this);
     connect(m_rows[aspect], &FunctionRow::choiceWanted, this, [this, aspect] { choose(aspect); });
     rows->addWidget(m_rows[aspect]);
+    if (aspect == Aspect::EdgeColor)
+      connect(m_rows[aspect], &FunctionRow::functionChosen, this, &FunctionsPage::edgeColorsChosen);
   }
 }
 

@@ -36,6 +36,9 @@ public:
   /// Takes all bounds of all functions from the data.
   void forgetBounds();
 
+signals:
+  void edgeColorsChosen(); ///< another function for them, by a person
+
 private:
   void choose(Aspect aspect);
   FunctionRow::Unit unitOf(const QString &function) const;

@@ -1,17 +1,17 @@
-#include "canvas/legendplace.h"
 #include "configure/breaktexts.h"
 #include "configure/classdialog.h"
 #include "configure/colorbutton.h"
 #include "configure/functionspage.h"
 #include "configure/labeltableeditor.h"
+#include "configure/plotfields.h"
 #include "configure/plotsettingsfile.h"
 #include "configure/settingfields.h"
 #include "configure/stylepreview.h"
 #include "interaction/plotzoom.h"
 #include "ui_viewfuncdialog.h"
 
+#include <base/agrees.h>
 #include <base/nivramsg.h>
-#include <drawing/colormap.h>
 #include <model/displayformat.h>
 #include <view/netplot.h>
 #include <view/viewfuncdialog.h>
@@ -23,24 +23,14 @@
 #include <QScrollBar>
 #include <QTabBar>
 #include <QToolButton>
-#include <qwt_plot.h>
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
-enum Viewport { IndependentAxes, OriginalRatio, AspectRatio };
-/// Where the colour scale is, in the order of the choices, as the numbers of the axes.
-constexpr std::array<int, 3> ScaleAxes{0, QwtPlot::xTop, QwtPlot::yRight};
-
-bool agrees(const QString &question) {
-  using namespace NivraMsg;
-  return NivraMsg::show({Kind::Question, question, {}, {Answer::Yes, Answer::No}, Answer::No}) == Answer::Yes;
-}
-
 bool agreesToOverwrite(const QString &path) {
-  return agrees(viewFuncDialog::tr("%1 was changed by another program or window since it was read. Overwrite?").arg(path));
+  return NivraMsg::agrees(
+      viewFuncDialog::tr("%1 was changed by another program or window since it was read. Overwrite?").arg(path));
 }
 
 } // namespace
@@ -54,15 +44,19 @@ viewFuncDialog::viewFuncDialog(NetPlot &plot, QWidget *parent)
   m_functions = new FunctionsPage(plot.update(), plot.settings(), this);
   m_ui->functionsBox->insertWidget(0, m_functions);
   m_labels = new LabelTableEditor(*m_ui->labelTable);
-  fillChoices();
-  bindScale();
-  bindSizes();
-  bindColors();
+  PlotFields::fillChoices(*m_ui);
+  PlotFields::bind(*m_ui, *m_fields);
+  bindBreaks();
+  bindClassLooks();
   m_functions->offerFunctions();
   refresh();
   limitWidth();
   setUpPreview();
   connect(&m_plot, &NetPlot::settingsChanged, this, &viewFuncDialog::followPlot);
+  connect(m_functions, &FunctionsPage::edgeColorsChosen, this, [this] { // classes of one's own are of the function before
+    if (m_ui->classMethod->currentData() == PlotSettings::ownClasses())
+      m_ui->classMethod->setCurrentIndex(0);
+  });
 }
 
 viewFuncDialog::~viewFuncDialog() = default;
@@ -108,74 +102,6 @@ void viewFuncDialog::hideEvent(QHideEvent *event) {
   if (!event->spontaneous())
     m_preview->end();
   QWidget::hideEvent(event);
-}
-
-void viewFuncDialog::fillChoices() {
-  for (const QString &ramp : ColorRamp::names())
-    m_ui->colorRamp->addItem(ColorRamp::title(ColorRamp::kindOf(ramp)), ramp);
-  m_ui->classMethod->addItem(tr("none, a smooth scale"), QString());
-  m_ui->classMethod->addItem(tr("equal intervals"), PlotSettings::equalClasses());
-  m_ui->classMethod->addItem(tr("as many elements in each"), PlotSettings::quantileClasses());
-  m_ui->classMethod->addItem(tr("natural breaks"), PlotSettings::naturalClasses());
-  m_ui->classMethod->addItem(tr("breaks of your own"), PlotSettings::ownClasses());
-  m_ui->colorScalePos->addItems({tr("not shown"), tr("at the top"), tr("on the right")});
-  m_ui->legendPos->addItem(tr("not shown"));
-  m_ui->legendCorner->addItem(tr("not shown"), QString());
-  m_ui->legendCorner->addItem(tr("where it hides least"), PlotSettings::automaticCorner());
-  for (int i = 0; i < LegendPlace::names().size(); ++i) {
-    const QString corner = LegendPlace::title(static_cast<LegendPlace::Corner>(i));
-    m_ui->legendPos->addItem(corner);
-    m_ui->legendCorner->addItem(corner, LegendPlace::names().at(i));
-  }
-  for (const char *mode : {QT_TR_NOOP("no label"), QT_TR_NOOP("name only"), QT_TR_NOOP("selected properties")})
-    m_ui->label_mode->addItem(tr(mode), QLatin1String(mode));
-  m_ui->viewport->addItems({tr("independent axes"), tr("original ratio"), tr("aspect ratio")});
-}
-
-void viewFuncDialog::bindScale() {
-  using S = PlotSettings;
-  Ui::viewFuncDialog *ui = m_ui.get();
-  m_fields->bind(*ui->colorRamp, &S::colorRamp);
-  m_fields->bind(*ui->firstColor, &S::firstColor);
-  m_fields->bind(*ui->lastColor, &S::lastColor);
-  m_fields->bind(*ui->saturation, &S::saturation);
-  m_fields->bind(*ui->lightness, &S::lightness);
-  m_fields->bind(*ui->logFactor, &S::logFactor);
-  bindBreaks();
-  bindClassLooks();
-  m_fields->bind(*ui->quantileBounds, &S::quantileBounds);
-  bindLegend();
-  m_fields->bind<QString>(
-      &S::classMethod,
-      [ui](const S &s) {
-        ui->classMethod->setCurrentIndex(
-            std::max(0, ui->classMethod->findData(s.colorClasses > 1 ? s.classMethod : QString())));
-      },
-      [ui] {
-        const QString method = ui->classMethod->currentData().toString();
-        return method.isEmpty() ? std::nullopt : std::make_optional(method); // without classes it stays for the next time
-      });
-  m_fields->bind<int>(
-      &S::colorClasses,
-      [ui](const S &s) {
-        constexpr int FirstOffer = 5;
-        ui->colorClasses->setValue(s.colorClasses > 1 ? s.colorClasses : FirstOffer);
-      },
-      [ui] { return ui->classMethod->currentData().toString().isEmpty() ? 0 : ui->colorClasses->value(); });
-  m_fields->bind<int>(
-      &S::colorScalePos,
-      [ui](const S &s) {
-        const auto axis = std::find(ScaleAxes.begin(), ScaleAxes.end(), s.colorScalePos);
-        ui->colorScalePos->setCurrentIndex(axis == ScaleAxes.end() ? 0 : static_cast<int>(axis - ScaleAxes.begin()));
-      },
-      [ui] { return ScaleAxes.at(static_cast<std::size_t>(ui->colorScalePos->currentIndex())); });
-  m_fields->bind<int>(
-      &S::legendPos,
-      [ui](const S &s) {
-        const bool isCorner = s.legendPos > 0 && s.legendPos < ui->legendPos->count();
-        ui->legendPos->setCurrentIndex(isCorner ? s.legendPos : 0);
-      },
-      [ui] { return ui->legendPos->currentIndex(); });
 }
 
 void viewFuncDialog::bindBreaks() {
@@ -228,61 +154,6 @@ void viewFuncDialog::changeUnits() {
   const QString breaks = BreakTexts::inTable(m_ui->classBreaks->text().trimmed(), m_breakFunction, m_breakSign);
   m_functions->changeUnits(m_plot.appliedSettings());
   showBreaks(breaks);
-}
-
-/// One field for whether the legend is shown and for where it stands.
-void viewFuncDialog::bindLegend() {
-  using S = PlotSettings;
-  Ui::viewFuncDialog *ui = m_ui.get();
-  m_fields->bind<bool>(
-      &S::showsLegend,
-      [ui](const S &s) {
-        const int corner = ui->legendCorner->findData(s.legendCorner);
-        ui->legendCorner->setCurrentIndex(!s.showsLegend ? 0 : std::max(1, corner));
-      },
-      [ui] { return ui->legendCorner->currentIndex() > 0; });
-  m_fields->bind<QString>(
-      &S::legendCorner, [](const S &) {},
-      [ui] {
-        const QString corner = ui->legendCorner->currentData().toString();
-        return corner.isEmpty() ? std::nullopt : std::make_optional(corner); // hidden it stays for the next time
-      });
-}
-
-void viewFuncDialog::bindSizes() {
-  using S = PlotSettings;
-  Ui::viewFuncDialog *ui = m_ui.get();
-  m_fields->bind(*ui->edgeConst, &S::edgeConst);
-  m_fields->bind(*ui->edgeMag, &S::edgeMag);
-  m_fields->bind(*ui->nodeMag, &S::nodeMag);
-  m_fields->bind(*ui->symMag, &S::symMag);
-  m_fields->bind(*ui->arrowMag, &S::arrowMag);
-  m_fields->bind(*ui->labelMag, &S::labelMag);
-  m_fields->bind(*ui->labelMargin, &S::labelMargin);
-  m_fields->bind(*ui->label_mode, &S::label_mode);
-  m_fields->bind(*ui->alphaSubnet, &S::alphaSubnet);
-  m_fields->bind(*ui->zoomFact, &S::zoomFact);
-  m_fields->bind(*ui->showXYaxes, &S::showXYaxes);
-  m_fields->bind(*ui->edgeShowFlow, &S::edgeShowFlow);
-  m_fields->bind(*ui->layerProp, &S::layerProp);
-  m_fields->bind<bool>(
-      &S::fixAxesRatio, [ui](const S &s) { ui->viewport->setCurrentIndex(s.fixAxesRatio ? AspectRatio : IndependentAxes); },
-      [ui] { return ui->viewport->currentIndex() != IndependentAxes; });
-}
-
-void viewFuncDialog::bindColors() {
-  using S = PlotSettings;
-  m_fields->bind(*m_ui->bgrColor, &S::bgrColor);
-  m_fields->bind(*m_ui->edgeLabelsColor, &S::edgeLabelsColor);
-  m_fields->bind(*m_ui->nodeLabelsColor, &S::nodeLabelsColor);
-  m_fields->bind(*m_ui->edgeColorInactive, &S::edgeColorInactive);
-  m_fields->bind(*m_ui->edgeColorNoFlow, &S::edgeColorNoFlow);
-  m_fields->bind(*m_ui->gridMajorColor, &S::gridMajorColor);
-  m_fields->bind(*m_ui->gridMinorColor, &S::gridMinorColor);
-  m_fields->bind(*m_ui->showGrid, &S::showGrid);
-  m_fields->bind(*m_ui->dimsRest, &S::dimsRest);
-  for (const ColorButton *ofGrid : {m_ui->gridMajorColor, m_ui->gridMinorColor}) // nobody chooses a colour of what is hidden
-    connect(ofGrid, &ColorButton::colorChosen, this, [this] { m_ui->showGrid->setChecked(true); });
 }
 
 void viewFuncDialog::setFiles(const QString &labelTable, const LabelTableFile::Reading &read, const QString &plotSettings,
@@ -377,7 +248,7 @@ void viewFuncDialog::draw(const DrawnStyle &style) {
   const bool hasOtherAxes = style.settings.fixAxesRatio != m_plot.settings().fixAxesRatio;
   m_plot.setStyle(style);
   // The original ratio is that of the whole network; the aspect ratio keeps to what is seen.
-  if (!hasOtherAxes && m_ui->viewport->currentIndex() == OriginalRatio) {
+  if (!hasOtherAxes && m_ui->viewport->currentIndex() == PlotFields::OriginalRatio) {
     m_plot.zoomer()->fitBase();
     m_plot.update().requestPixtest(-1);
   }

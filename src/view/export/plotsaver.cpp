@@ -2,6 +2,7 @@
 
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
+#include <base/suffixoffilter.h>
 #include <view/netplot.h>
 
 #include <QDialogButtonBox>
@@ -72,9 +73,8 @@ QString PlotSaver::askForFile(QWidget *parent) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("png"));
   // A name without a suffix gets that of the chosen kind.
-  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
-    dialog.setDefaultSuffix(filter.section(QLatin1Char('.'), 1).remove(QLatin1Char(')')));
-  });
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                   [&dialog](const QString &filter) { dialog.setDefaultSuffix(suffixOfFilter(filter)); });
   QString chosen = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0).trimmed() : QString();
   folder.remember(chosen);
   return chosen;

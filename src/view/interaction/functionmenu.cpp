@@ -128,10 +128,7 @@ void FunctionMenu::choose(const QString &function) {
   if (net == nullptr)
     return;
   PlotSettings settings = m_plot.appliedSettings();
-  const bool isAnother = settings.functions[m_aspect].name != function;
-  changeFunction(settings.functions[m_aspect], function, *net);
-  if (isAnother && m_aspect == Aspect::EdgeColor && settings.classMethod == PlotSettings::ownClasses())
-    settings.colorClasses = 0; // breaks of one's own are those of the former function
+  changeFunction(settings, m_aspect, function, *net);
   m_plot.setSettings(settings);
   m_plot.update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes, NetUpdate::Labels::Renewed);
   m_plot.update().requestPixtest(-1);

@@ -3,6 +3,7 @@
 
 #include <base/lastfolder.h>
 #include <base/nivramsg.h>
+#include <base/suffixoffilter.h>
 #include <paper/pagedialog.h>
 
 #include <QClipboard>
@@ -170,7 +171,7 @@ void PageDialog::saveAs() {
   dialog.setDefaultSuffix(PageWriter::formats().first());
   dialog.selectFile(proposedName() + QStringLiteral(".pdf"));
   connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
-    dialog.setDefaultSuffix(filter.section(QLatin1Char('.'), 1).remove(QLatin1Char(')')));
+    dialog.setDefaultSuffix(suffixOfFilter(filter));
     const QString chosen = QFileInfo(dialog.selectedFiles().value(0)).completeBaseName();
     if (!chosen.isEmpty())
       dialog.selectFile(chosen + QLatin1Char('.') + dialog.defaultSuffix());

@@ -94,7 +94,7 @@ std::optional<PlotSettings> BuiltInStyles::laidOver(const PlotSettings &settings
     PlotSettings::Function &function = changed.functions[aspect];
     if (name.isEmpty())
       return;
-    changeFunction(function, name, net);
+    changeFunction(changed, aspect, name, net);
     function.isAbsolute = isAbsolute;
     function.isLogarithmic = false;
   };

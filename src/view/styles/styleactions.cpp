@@ -5,6 +5,7 @@
 #include "styles/stylehistory.h"
 #include "styles/stylestore.h"
 
+#include <base/agrees.h>
 #include <base/nivramsg.h>
 #include <view/netplot.h>
 #include <view/styleactions.h>
@@ -157,17 +158,13 @@ void StyleActions::choose(const QString &name) {
 }
 
 void StyleActions::saveAs() {
-  using NivraMsg::Answer;
   bool isAccepted = false;
   const QString name = QInputDialog::getText(&m_plot, tr("Save Style As"), tr("Name of the style:"), QLineEdit::Normal,
                                              m_store->find(inUse()) == nullptr ? QString() : inUse(), &isAccepted)
                            .trimmed();
   if (!isAccepted)
     return;
-  const auto agrees = [](const QString &question) {
-    return NivraMsg::show({NivraMsg::Kind::Question, question, {}, {Answer::Yes, Answer::No}, Answer::No}) == Answer::Yes;
-  };
-  if (m_store->find(name) != nullptr && !agrees(tr("There is a style \"%1\" already. Replace it?").arg(name)))
+  if (m_store->find(name) != nullptr && !NivraMsg::agrees(tr("There is a style \"%1\" already. Replace it?").arg(name)))
     return;
   QString reason;
   const auto text = PlotSettingsFile::styleText(m_plot.settings(), &reason); // what is seen, a preview too

@@ -1,7 +1,9 @@
 #include "styles/styledialog.h"
 
+#include "configure/buttoncolumn.h"
 #include "configure/plotsettingsfile.h"
 
+#include <base/agrees.h>
 #include <base/fileaccess.h>
 #include <base/nivramsg.h>
 #include <base/wholefile.h>
@@ -12,15 +14,8 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QListView>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
-
-bool agrees(const QString &question) {
-  using namespace NivraMsg;
-  return show({Kind::Question, question, {}, {Answer::Yes, Answer::No}, Answer::No}) == Answer::Yes;
-}
 
 void warn(const QString &reason) {
   NivraMsg::message(NivraMsg::Kind::Warning, reason);
@@ -44,14 +39,6 @@ StyleDialog::StyleDialog(StyleStore &store, QWidget *parent)
   m_list->setEditTriggers(QAbstractItemView::EditKeyPressed);
   m_hint->setWordWrap(true);
   m_hint->setTextFormat(Qt::PlainText);
-  m_ofOne = {
-      addButton(QStringLiteral("use"), tr("&Use"), tr("Draw in this style"), &StyleDialog::useStyle),
-      addButton(QStringLiteral("rename"), tr("&Rename"), tr("Another name for this style (F2)"), &StyleDialog::renameStyle),
-      addButton(QStringLiteral("remove"), tr("&Delete"), tr("Delete this style (Del)"), &StyleDialog::deleteStyle),
-      addButton(QStringLiteral("export"), tr("&Export …"), tr("Write this style to a file"), &StyleDialog::exportStyle)};
-  addButton(QStringLiteral("import"), tr("&Import …"), tr("Take styles from files of plot settings"),
-            &StyleDialog::importStyles);
-  m_ofOne.at(2)->setShortcut(QKeySequence(Qt::Key_Delete));
   arrange();
   connect(&m_model, &StyleListModel::refused, this, &warn);
   connect(&m_model, &StyleListModel::renamed, this, &StyleDialog::renamed);
@@ -63,22 +50,19 @@ StyleDialog::StyleDialog(StyleStore &store, QWidget *parent)
   connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this, &StyleDialog::showButtons);
 }
 
-QPushButton *StyleDialog::addButton(const QString &name, const QString &text, const QString &tip,
-                                    void (StyleDialog::*press)()) {
-  auto *button = new QPushButton(text, this);
-  button->setObjectName(name);
-  button->setToolTip(tip);
-  button->setAutoDefault(false);
-  connect(button, &QPushButton::clicked, this, press);
-  m_buttons.append(button);
-  return button;
-}
-
 void StyleDialog::arrange() {
   constexpr QSize Size(420, 320);
-  auto *beside = new QVBoxLayout;
-  for (QPushButton *button : qAsConst(m_buttons))
-    beside->addWidget(button);
+  auto *beside = new ButtonColumn;
+  const auto add = [this, beside](const char *name, const QString &text, const QString &tip, void (StyleDialog::*press)()) {
+    return beside->add(QLatin1String(name), text, tip, this, press);
+  };
+  QPushButton *remove = nullptr;
+  m_ofOne = {add("use", tr("&Use"), tr("Draw in this style"), &StyleDialog::useStyle),
+             add("rename", tr("&Rename"), tr("Another name for this style (F2)"), &StyleDialog::renameStyle),
+             remove = add("remove", tr("&Delete"), tr("Delete this style (Del)"), &StyleDialog::deleteStyle),
+             add("export", tr("&Export …"), tr("Write this style to a file"), &StyleDialog::exportStyle)};
+  remove->setShortcut(QKeySequence(Qt::Key_Delete));
+  add("import", tr("&Import …"), tr("Take styles from files of plot settings"), &StyleDialog::importStyles);
   beside->addStretch();
   auto *middle = new QHBoxLayout;
   middle->addWidget(m_list);
@@ -130,7 +114,7 @@ void StyleDialog::renameStyle() {
 void StyleDialog::deleteStyle() {
   const QString name = current();
   QString reason;
-  if (name.isEmpty() || !agrees(tr("Delete the style \"%1\"? There is no way back.").arg(name)))
+  if (name.isEmpty() || !NivraMsg::agrees(tr("Delete the style \"%1\"? There is no way back.").arg(name)))
     return;
   const int row = m_list->currentIndex().row();
   if (!m_store.remove(name, &reason))
@@ -152,7 +136,8 @@ void StyleDialog::importStyles() {
       warn(tr("%1 holds no plot settings.").arg(path));
       continue;
     }
-    if (text && m_store.find(name) != nullptr && !agrees(tr("There is a style \"%1\" already. Replace it?").arg(name)))
+    if (text && m_store.find(name) != nullptr &&
+        !NivraMsg::agrees(tr("There is a style \"%1\" already. Replace it?").arg(name)))
       continue;
     if (!text || !m_store.put({name, *text}, &reason))
       warn(reason);
@@ -173,7 +158,11 @@ void StyleDialog::exportStyle() {
       letter = QLatin1Char('_');
   }
   const QByteArray text = style->settings;
-  const QString path = QFileDialog::getSaveFileName(this, tr("Export Style"), fileName + QStringLiteral(".ini"), filter());
+  QFileDialog dialog(this, tr("Export Style"), QString(), filter());
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("ini"));
+  dialog.selectFile(fileName + QStringLiteral(".ini"));
+  const QString path = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
   QString reason;
   if (!path.isEmpty() && !WholeFile::write(path, FileAccess::Source::Trusted, text, &reason))
     warn(reason);

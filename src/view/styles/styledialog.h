@@ -19,7 +19,6 @@ signals:
   void useWanted(const QString &name);
 
 private:
-  QPushButton *addButton(const QString &name, const QString &text, const QString &tip, void (StyleDialog::*press)());
   void arrange();
   void useStyle();
   void renameStyle();
@@ -35,5 +34,4 @@ private:
   QListView *m_list;
   QLabel *m_hint;
   QList<QPushButton *> m_ofOne; ///< that act on the style that is marked
-  QList<QPushButton *> m_buttons;
 };

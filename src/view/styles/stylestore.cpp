@@ -75,54 +75,48 @@ bool StyleStore::put(const Style &style, QString *reason) {
   *reason = faultOf(style.name);
   if (reason->isEmpty() && style.settings.size() > LargestStyle)
     *reason = tr("This is too much for a style.");
-  if (!reason->isEmpty())
-    return false;
-  m_stamp.reset(); // all() is to see the change, however soon
-  std::optional<std::vector<Style>> styles = read(reason);
-  if (!styles)
-    return false;
-  const auto present = placeOf(*styles, style.name.trimmed());
-  if (present != styles->end())
-    styles->erase(present);
-  else if (styles->size() >= MostStyles) {
-    *reason = tr("There are %1 styles already; please delete some.").arg(MostStyles);
-    return false;
-  }
-  styles->push_back({style.name.trimmed(), style.settings});
-  return write(*styles, reason);
+  return reason->isEmpty() && change(reason, [&](std::vector<Style> &styles) {
+           const auto present = placeOf(styles, style.name.trimmed());
+           if (present != styles.end())
+             styles.erase(present);
+           else if (styles.size() >= MostStyles)
+             return tr("There are %1 styles already; please delete some.").arg(MostStyles);
+           styles.push_back({style.name.trimmed(), style.settings});
+           return QString();
+         });
 }
 
 bool StyleStore::rename(const QString &from, const QString &to, QString *reason) {
   const QString name = to.trimmed();
   *reason = faultOf(name);
-  if (!reason->isEmpty())
-    return false;
-  m_stamp.reset(); // all() is to see the change, however soon
-  std::optional<std::vector<Style>> styles = read(reason);
-  if (!styles)
-    return false;
-  const auto renamed = placeOf(*styles, from);
-  const auto taken = placeOf(*styles, name);
-  if (renamed == styles->end())
-    *reason = tr("There is no style \"%1\" any more.").arg(from);
-  else if (taken != styles->end() && taken != renamed)
-    *reason = tr("There is a style \"%1\" already.").arg(taken->name);
-  if (!reason->isEmpty())
-    return false;
-  renamed->name = name;
-  return write(*styles, reason);
+  return reason->isEmpty() && change(reason, [&](std::vector<Style> &styles) {
+           const auto renamed = placeOf(styles, from);
+           const auto taken = placeOf(styles, name);
+           if (renamed == styles.end())
+             return tr("There is no style \"%1\" any more.").arg(from);
+           if (taken != styles.end() && taken != renamed)
+             return tr("There is a style \"%1\" already.").arg(taken->name);
+           renamed->name = name;
+           return QString();
+         });
 }
 
 bool StyleStore::remove(const QString &name, QString *reason) {
+  return change(reason, [&](std::vector<Style> &styles) {
+    const auto found = placeOf(styles, name);
+    if (found != styles.end())
+      styles.erase(found);
+    return QString();
+  });
+}
+
+bool StyleStore::change(QString *reason, const std::function<QString(std::vector<Style> &)> &fault) {
   m_stamp.reset(); // all() is to see the change, however soon
   std::optional<std::vector<Style>> styles = read(reason);
   if (!styles)
     return false;
-  const auto found = placeOf(*styles, name);
-  if (found == styles->end())
-    return true;
-  styles->erase(found);
-  return write(*styles, reason);
+  *reason = fault(*styles);
+  return reason->isEmpty() && write(*styles, reason);
 }
 
 std::optional<std::vector<StyleStore::Style>> StyleStore::read(QString *reason) {

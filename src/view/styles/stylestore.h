@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -40,6 +41,8 @@ public:
 private:
   /// Nothing, with the reason, when the file is there and cannot be read.
   static std::optional<std::vector<Style>> read(QString *reason);
+  /// Reads the styles anew and writes them changed. \param fault changes them, or says why they stay
+  bool change(QString *reason, const std::function<QString(std::vector<Style> &)> &fault);
   static bool write(const std::vector<Style> &styles, QString *reason);
 
   std::optional<FileStamp> m_stamp; ///< of the file when it was read

@@ -21,8 +21,11 @@ double stored(const QString &text, double open, const Units::Linear &toShown, co
 
 } // namespace
 
-void changeFunction(PlotSettings::Function &function, const QString &name, const NetData &net) {
+void changeFunction(PlotSettings &settings, Aspect aspect, const QString &name, const NetData &net) {
   using S = PlotSettings;
+  S::Function &function = settings.functions[aspect];
+  if (aspect == Aspect::EdgeColor && function.name != name && settings.classMethod == S::ownClasses())
+    settings.colorClasses = 0;
   const DrawFunction before = DrawFunction::find(function.name, net);
   const bool isOpen = function.minimum == S::OpenMinimum && function.maximum == S::OpenMaximum;
   if (isOpen)

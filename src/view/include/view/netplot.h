@@ -14,6 +14,7 @@
 #include <optional>
 
 class CanvasLegend;
+class FunctionLegend;
 class PlotPanner;
 class PlotZoom;
 class QAction;
@@ -37,7 +38,7 @@ public:
   NetUpdate &update() { return *m_update; }
   SelectionLayer &selection() { return m_selection; }
   QwtPlotGrid &grid() { return m_grid; }
-  const QwtPlotMarker &legend() const { return m_legend; }
+  const QwtPlotMarker &legend() const;
 
   /// As they are seen, which may be a preview.
   const PlotSettings &settings() const { return m_settings; }
@@ -137,13 +138,12 @@ private:
   PlotZoom *m_zoomer;
   PlotPanner *m_panner;
   std::unique_ptr<NetUpdate> m_update;
+  std::unique_ptr<FunctionLegend> m_functionLegend;
   std::unique_ptr<CanvasLegend> m_canvasLegend;
   SmoothZoom *m_smoothZoom;
   SelectionLayer m_selection;
   bool m_mouseMoved = false; ///< since the last button press
   QwtPlotGrid m_grid;
-  QwtPlotMarker m_legend;
-  QSizeF m_legendSize;     ///< px
   QwtPlotTextLabel m_hint; ///< why there is nothing to see, or what lies outside
   bool m_showsSubnet = false;
   int m_stragglers = 0; ///< nodes far outside of the zoom base

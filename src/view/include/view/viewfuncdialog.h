@@ -80,14 +80,9 @@ private:
   bool mayOverwriteLabels() const;
   void limitWidth();
   void setUpPreview();
-  void fillChoices();
-  void bindScale();
   void bindBreaks();
   void bindClassLooks();
   void showBreaks(const QString &inTable);
-  void bindLegend();
-  void bindSizes();
-  void bindColors();
 
   NetPlot &m_plot;
   std::unique_ptr<Ui::viewFuncDialog> m_ui;
