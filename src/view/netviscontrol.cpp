@@ -172,7 +172,7 @@ void NetVisControl::setOwnStyle(const OwnStyle &style) {
 }
 
 void NetVisControl::draw() {
-  m_plot->update().updatePlot(NetUpdate::Elements::Kept, NetUpdate::Which::EdgesAndNodes,
+  m_plot->update().updatePlot(NetUpdate::Elements::Reread, NetUpdate::Which::EdgesAndNodes,
                               std::exchange(m_labels, NetUpdate::Labels::Kept));
 }
 

@@ -204,10 +204,10 @@ void TestFirstView::editedFlowsChangeTheShape() {
   const double idle = size();
   QVERIFY(!hasDemand());
   a.set(QStringLiteral("qset"), QStringLiteral("5"));
-  f.plot().update().updatePlot();
+  f.control.redraw(); // as after an edit
   QVERIFY(size() > idle * 1.5 && hasDemand());
   a.set(QStringLiteral("qset"), QStringLiteral("0"));
-  f.plot().update().updatePlot();
+  f.control.redraw(); // as after an edit
   QVERIFY(size() == idle && !hasDemand());
 }
 

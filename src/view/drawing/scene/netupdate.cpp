@@ -108,7 +108,7 @@ void NetUpdate::updatePlot(Elements elements, Which which, Labels labels) {
   m_contents.reset(); // the settings or the values may be others
   const double plotUnits = m_geometry.plotUnits();
   m_values.read(*m_net, m_settings, m_geometry, rebuild);
-  if (rebuild || GeometryReader::readFlows(*m_net, m_geometry))
+  if (rebuild || (elements == Elements::Reread && GeometryReader::readFlows(*m_net, m_geometry)))
     m_hasNewNodes = true;
   if (rebuild && m_geometry.unplaced() > 0)
     tell(m_told, Finding::Severity::Information,

@@ -33,8 +33,9 @@ struct DrawnScene;
 class NetUpdate : public QObject {
   Q_OBJECT
 public:
-  /// Whether to look up anew which elements there are and where they lie.
-  enum class Elements { Kept, Renewed };
+  /// Whether to look up anew what elements are, as after an edit of their properties, or also which there are and where they
+  /// lie. Values of draw functions are read in any case.
+  enum class Elements { Kept, Reread, Renewed };
   /// Whose colours, widths and sizes are made anew.
   enum class Which { EdgesAndNodes = 1, Edges = 2, Nodes = 3 };
   /// Whether labels that stand are placed anew, at once; others come with the next pass.
