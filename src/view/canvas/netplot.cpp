@@ -19,7 +19,6 @@
 #include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace {

@@ -1,6 +1,5 @@
 #include "configure/breaktexts.h"
 #include "configure/classdialog.h"
-#include "configure/colorbutton.h"
 #include "configure/functionspage.h"
 #include "configure/labeltableeditor.h"
 #include "configure/plotfields.h"
