@@ -121,8 +121,9 @@ QByteArray Session::toJson(const QString &caseFolder) const {
   whole[QStringLiteral("selection")] = names;
   whole[QStringLiteral("layers")] =
       QJsonObject{{QStringLiteral("property"), layerProperty}, {QStringLiteral("hidden"), written(hiddenLayers)}};
-  if (!style.isEmpty())
-    whole[QStringLiteral("style")] = QJsonObject{{QStringLiteral("settings"), QString::fromUtf8(style.settings)},
+  if (!style.isEmpty() || !styleName.isEmpty())
+    whole[QStringLiteral("style")] = QJsonObject{{QStringLiteral("name"), styleName},
+                                                 {QStringLiteral("settings"), QString::fromUtf8(style.settings)},
                                                  {QStringLiteral("settingsFile"), written(settingsFile)},
                                                  {QStringLiteral("labels"), QString::fromUtf8(style.labels)},
                                                  {QStringLiteral("labelsFile"), written(labelsFile)}};
@@ -169,6 +170,7 @@ std::optional<Session> Session::fromJson(const QByteArray &text, const QString &
   session.hiddenLayers = namesIn(whole[QStringLiteral("layers")][QStringLiteral("hidden")]);
   const QJsonObject style = whole[QStringLiteral("style")].toObject();
   session.style = {styleIn(style[QStringLiteral("settings")]), styleIn(style[QStringLiteral("labels")])};
+  session.styleName = style[QStringLiteral("name")].toString().left(LongestName);
   session.settingsFile = stampIn(style[QStringLiteral("settingsFile")]);
   session.labelsFile = stampIn(style[QStringLiteral("labelsFile")]);
   session.layerEdits = editsIn(whole[QStringLiteral("layerEdits")].toObject());

@@ -30,6 +30,7 @@ public:
   QString layerProperty;
   QSet<QString> hiddenLayers;
   NetVisControl::OwnStyle style;
+  QString styleName;      ///< of the style in use; empty where there is none, or it was changed since
   FileStamp settingsFile; ///< of the case, beside which the style was chosen
   FileStamp labelsFile;
   LayerValues layerEdits; ///< that were not saved

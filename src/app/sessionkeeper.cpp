@@ -8,6 +8,7 @@
 #include <io/nivraworkspace.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
+#include <view/styleactions.h>
 
 #include <QEvent>
 #include <QMainWindow>
@@ -26,6 +27,7 @@ SessionKeeper::SessionKeeper(QMainWindow &window, NetVisControl &control, ToolDo
   connect(&m_changed, &QTimer::timeout, this, &SessionKeeper::keep);
   connect(control.plot(), &NetPlot::viewChanged, this, &SessionKeeper::touch);
   connect(&control.plot()->update(), &NetUpdate::legendChanged, this, &SessionKeeper::touch);
+  connect(&control.styles(), &StyleActions::inUseChanged, this, &SessionKeeper::touch);
   connect(&control, &NetVisControl::selectionChanged, this, &SessionKeeper::touch);
   connect(&control, &NetVisControl::currentElementChanged, this, &SessionKeeper::touch);
   connect(&control, &NetVisControl::hiddenLayersChanged, this, &SessionKeeper::touch);
@@ -53,25 +55,33 @@ void SessionKeeper::enter(const NivraWorkspace &workspace) {
   if (!session)
     return;
   putBackWindow(*session);
-  session->style = styleOf(*session);
+  dropOutdatedStyle(*session);
   m_layers.putBack(session->layerEdits);
   putBack(*session);
+  m_control.styles().nameBeginning(session->styleName);
 }
 
 void SessionKeeper::leave() {
+  if (m_aside) // which is not coming back
+    m_control.styles().release();
   m_changed.stop();
   m_case.clear();
   m_aside.reset();
 }
 
 void SessionKeeper::takeAside() {
-  if (!m_aside)
-    m_aside = gathered();
+  if (m_aside)
+    return;
+  m_aside = gathered();
+  m_control.styles().hold();
 }
 
 void SessionKeeper::comeBack() {
-  if (const std::optional<Session> before = std::exchange(m_aside, std::nullopt))
-    putBack(*before);
+  const std::optional<Session> before = std::exchange(m_aside, std::nullopt);
+  if (!before)
+    return;
+  putBack(*before);
+  m_control.styles().release();
 }
 
 void SessionKeeper::keep() {
@@ -107,6 +117,7 @@ Session SessionKeeper::gathered() const {
   session.layerProperty = layers.property();
   session.hiddenLayers = layers.hidden();
   session.style = m_control.ownStyle();
+  session.styleName = m_control.styles().inUse();
   session.settingsFile = m_control.styleFiles().settings;
   session.labelsFile = m_control.styleFiles().labels;
   session.layerEdits = m_layers.unsaved();
@@ -128,8 +139,7 @@ void SessionKeeper::putBack(const Session &session) {
 }
 
 /// The later of the two counts: files that somebody wrote since are newer than what was tried beside those before.
-NetVisControl::OwnStyle SessionKeeper::styleOf(const Session &session) const {
-  NetVisControl::OwnStyle style = session.style;
+void SessionKeeper::dropOutdatedStyle(Session &session) const {
   const auto drop = [](QByteArray &text, bool isOutdated, const QString &name) {
     if (text.isEmpty() || !isOutdated)
       return;
@@ -137,9 +147,10 @@ NetVisControl::OwnStyle SessionKeeper::styleOf(const Session &session) const {
     NivraMsg::log(tr("%1 was written since this case was open here, so it decides how the network is drawn.").arg(name));
   };
   const NetVisControl::StyleFiles &files = m_control.styleFiles();
-  drop(style.settings, files.settings != session.settingsFile, QStringLiteral("plotsettings.ini"));
-  drop(style.labels, files.labels != session.labelsFile, QStringLiteral("vfd.csv"));
-  return style;
+  drop(session.style.settings, files.settings != session.settingsFile, QStringLiteral("plotsettings.ini"));
+  drop(session.style.labels, files.labels != session.labelsFile, QStringLiteral("vfd.csv"));
+  if (files.settings != session.settingsFile)
+    session.styleName.clear();
 }
 
 void SessionKeeper::putBackView(const Session &session) {

@@ -38,7 +38,7 @@ private:
   Session gathered() const;
   void putBackWindow(const Session &session);
   void putBack(const Session &session);
-  NetVisControl::OwnStyle styleOf(const Session &session) const;
+  void dropOutdatedStyle(Session &session) const;
   void putBackView(const Session &session);
 
   QMainWindow &m_window;

@@ -25,6 +25,7 @@ private slots:
   void undoStandsInTheViewMenu();
   void previewIsNotRemembered();
   void reloadEndsThePreview();
+  void reloadKeepsStepsAndName();
 
 private:
   static QToolButton *chooser(NivraViewer &viewer) {
@@ -113,6 +114,29 @@ void TestStylesInWindow::reloadEndsThePreview() {
   QVERIFY(draw.hasUnapplied());
   draw.on_cancel_clicked();
   QCOMPARE(viewer.visControl()->plot()->settings().nodeMag, before);
+}
+
+void TestStylesInWindow::reloadKeepsStepsAndName() {
+  const auto undo = [](NivraViewer &viewer) { return entry(viewMenu(viewer), QStringLiteral("Undo Style Change")); };
+  {
+    NivraViewer viewer;
+    Remembering::open(viewer, m_workspace.geometry());
+    const PlotSettings first = settings(viewer);
+    entry(*chooser(viewer)->menu(), QStringLiteral("Flow"))->trigger();
+    viewer.reload();
+    QCOMPARE(chooser(viewer)->text(), QStringLiteral("Flow"));
+    undo(viewer)->trigger();
+    QVERIFY(settings(viewer) == first && !undo(viewer)->isEnabled());
+    entry(viewMenu(viewer), QStringLiteral("Redo Style Change"))->trigger();
+    viewer.open(m_workspace.geometry()); // anew, not again
+    QVERIFY(!undo(viewer)->isEnabled());
+    QCOMPARE(chooser(viewer)->text(), QStringLiteral("Flow"));
+    QVERIFY(viewer.close());
+  }
+  NivraViewer again;
+  Remembering::open(again, m_workspace.geometry());
+  QCOMPARE(chooser(again)->text(), QStringLiteral("Flow"));
+  QVERIFY(!undo(again)->isEnabled());
 }
 
 NIVRA_TEST(TestStylesInWindow);

@@ -197,6 +197,18 @@ void StyleActions::reset() {
   m_history->reset();
 }
 
+void StyleActions::hold() {
+  m_history->hold();
+}
+
+void StyleActions::release() {
+  m_history->release();
+}
+
+void StyleActions::nameBeginning(const QString &style) {
+  m_history->nameBeginning(style);
+}
+
 void StyleActions::refresh() {
   const auto show = [](QAction &action, const QString &plain, bool can, const QString &text) {
     action.setEnabled(can);

@@ -42,8 +42,28 @@ StyleHistory::~StyleHistory() {
 }
 
 void StyleHistory::reset() {
+  if (m_isHeld)
+    return;
   m_stack.clear();
   m_now = {m_plot.appliedStyle(), QString()};
+  emit changed();
+}
+
+void StyleHistory::hold() {
+  m_isHeld = true;
+  emit changed();
+}
+
+void StyleHistory::release() {
+  m_isHeld = false;
+  record();
+  emit changed();
+}
+
+void StyleHistory::nameBeginning(const QString &style) {
+  if (m_stack.count() > 0)
+    return;
+  m_now.name = style;
   emit changed();
 }
 

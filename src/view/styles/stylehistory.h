@@ -20,8 +20,14 @@ public:
     QString name; ///< empty where it has none, or was changed since
   };
 
-  /// As it is drawn now is the beginning.
+  /// As it is drawn now is the beginning, unless the steps are held.
   void reset();
+  /// While the network is read anew the steps stay, and none is taken.
+  void hold();
+  /// The network is back. Where it is drawn otherwise than before, because its files say so, that is a step.
+  void release();
+  /// The name of the style that it begins with.
+  void nameBeginning(const QString &style);
   /// After it was drawn otherwise; nothing happens when it was not.
   /// \param style that was chosen; empty for a change of another kind
   void record(const QString &style = QString());
@@ -29,8 +35,8 @@ public:
   const QString &styleName() const { return m_now.name; }
   /// A style has another name now, or none.
   void rename(const QString &from, const QString &to);
-  bool canUndo() const { return m_stack.canUndo(); }
-  bool canRedo() const { return m_stack.canRedo(); }
+  bool canUndo() const { return !m_isHeld && m_stack.canUndo(); }
+  bool canRedo() const { return !m_isHeld && m_stack.canRedo(); }
   QString undoText() const { return m_stack.undoText(); }
   QString redoText() const { return m_stack.redoText(); }
   void undo() { m_stack.undo(); }
@@ -47,4 +53,5 @@ private:
   NetPlot &m_plot;
   Step m_now;
   QUndoStack m_stack;
+  bool m_isHeld = false;
 };

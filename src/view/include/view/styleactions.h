@@ -42,8 +42,13 @@ public:
 
   /// After somebody else, asked by a person, drew it otherwise: a step to come back from.
   void record();
-  /// As it is drawn now is the beginning.
+  /// As it is drawn now is the beginning, unless the steps are held.
   void reset();
+  /// Keeps the steps while the same network is read anew, until release().
+  void hold();
+  void release();
+  /// The style that the network was left in.
+  void nameBeginning(const QString &style);
 
 signals:
   void changed(); ///< how it is drawn, by one of these actions
