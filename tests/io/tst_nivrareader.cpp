@@ -527,7 +527,14 @@ void TestNivraReader::readErrorsEndAndAreTold() {
   read(net, R"("A":{"obj_type":"node"})");
   NivraReader reader(net);
   const bool isGeometry = name.contains(QStringLiteral("geom"));
-  const auto result = isGeometry ? reader.readGeomJsn(path, options) : reader.readScenariofileJsn(path, options);
+  const auto readAll = [&] {
+    return isGeometry ? reader.readGeomJsn(path, options) : reader.readScenariofileJsn(path, options);
+  };
+  auto result = readAll();
+  // On a busy machine the other thread may have read all values before the one that tells the progress had its turn.
+  constexpr int MostTries = 100;
+  for (int i = 0; i < MostTries && !isBroken && !isGeometry; ++i)
+    result = readAll();
   QVERIFY(isBroken);
   QVERIFY(result.ok); // what was read is shown
   QVERIFY(!result.findings.empty());
