@@ -40,7 +40,7 @@ Commands::Commands(QMainWindow &window, NetVisControl &control, const Form &form
   Mnemonics::assign(m_form.bar->actions());
   m_toolBar = new ToolBar(control, m_form.print, window);
   window.addToolBar(m_toolBar);
-  connect(m_toolBar, &ToolBar::elementWanted, this, &Commands::elementWanted);
+  connect(m_toolBar, &ToolBar::elementWanted, this, &Commands::showElement);
   const auto show = [this](const QString &text) {
     m_window.statusBar()->showMessage(text);
   };
@@ -156,6 +156,17 @@ void Commands::showPalette() {
   if (m_palette == nullptr)
     m_palette = new CommandPalette(m_window);
   m_palette->open();
+}
+
+void Commands::showElement(const QString &name) {
+  emit elementChosen(name);
+  if (!m_control.showElement(name)) {
+    m_window.statusBar()->showMessage(tr("%1 has no place in the drawing").arg(name));
+    return;
+  }
+  m_control.plot()->setFocus();
+  if (m_control.isHidden(name))
+    m_window.statusBar()->showMessage(tr("%1 is in a layer that is hidden").arg(name));
 }
 
 void Commands::goToElement() {

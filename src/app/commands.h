@@ -30,7 +30,7 @@ public:
   ToolBar *toolBar() const { return m_toolBar; }
 
 signals:
-  void elementWanted(const QString &name);
+  void elementChosen(const QString &name); ///< by its name; it is shown after this
 
 private:
   QAction *add(QMenu &menu, const QString &text, const QString &key, const QString &tip);
@@ -43,6 +43,7 @@ private:
   void setIcons();
   void fillBookmarks(QMenu &menu);
   void showPalette();
+  void showElement(const QString &name);
   void goToElement();
   void goToPanel(int step);
   void showMenuOfFocus();

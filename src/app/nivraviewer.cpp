@@ -163,7 +163,7 @@ void NivraViewer::setUpOpening() {
 
 void NivraViewer::setUpSubnets() {
   connect(m_control.get(), &NetVisControl::subnetWanted, this,
-          [this](const QString &name) { m_subnets->open(name, m_opening->workspace()); });
+          [this](const QString &name) { m_subnets->open(name, m_opening->workspace(), m_control->ownStyle()); });
   connect(m_subnets, &SubnetWindows::elementMarked, this,
           [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
   connect(m_subnets, &SubnetWindows::elementsChanged, this, &NivraViewer::addChange);
@@ -190,13 +190,8 @@ void NivraViewer::setUpCommands() {
   CommandIcons::give(*this);
   m_commands = new Commands(*this, *m_control,
                             {m_ui->menubar, m_ui->menuFile, m_ui->menuInfo, m_ui->actionPrint, m_ui->actionSavePage});
-  connect(m_commands, &Commands::elementWanted, this, [this](const QString &name) {
-    elementAction(name, NetPicker::EleAction::Mark);
-    if (m_control->showElement(name))
-      m_control->plot()->setFocus();
-    else
-      m_ui->statusbar->showMessage(tr("%1 has no place in the drawing").arg(name));
-  });
+  connect(m_commands, &Commands::elementChosen, this,
+          [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
   connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
 }
 

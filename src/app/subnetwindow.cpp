@@ -45,10 +45,7 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
   m_tools->refresh(workspace);
   fillMenus();
   statusBar()->addPermanentWidget(new QLabel(m_net.isEmpty() ? tr("The subnet has no elements") : ElementCounts::of(m_net)));
-  connect(m_tools, &ToolDocks::elementMarked, this, [this](const QString &name) {
-    m_control->mark(name);
-    emit elementMarked(name);
-  });
+  connect(m_tools, &ToolDocks::elementMarked, this, &SubnetWindow::mark);
   connect(m_tools, &ToolDocks::elementsChanged, this, &SubnetWindow::giveProperty);
   connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
   connect(m_control.get(), &NetVisControl::elementAction, this, [this](const QString &name, NetPicker::EleAction action) {
@@ -80,16 +77,12 @@ void SubnetWindow::fillMenus() {
   QMenu *view = menuBar()->addMenu(tr("View"));
   connect(view, &QMenu::aboutToShow, m_tools, [this, view] { m_tools->fillViewMenu(*view); });
   m_commands = new Commands(*this, *m_control, {menuBar(), file, info, print, savePage});
-  connect(m_commands, &Commands::elementWanted, this, &SubnetWindow::showElement);
+  connect(m_commands, &Commands::elementChosen, this, &SubnetWindow::mark);
 }
 
-void SubnetWindow::showElement(const QString &name) {
+void SubnetWindow::mark(const QString &name) {
   m_control->mark(name);
   emit elementMarked(name);
-  if (m_control->showElement(name))
-    m_control->plot()->setFocus();
-  else
-    statusBar()->showMessage(tr("%1 has no place in the drawing").arg(name));
 }
 
 std::vector<UnsavedEdits::Kind> SubnetWindow::unsaved() {

@@ -50,7 +50,7 @@ protected:
 
 private:
   void fillMenus();
-  void showElement(const QString &name);
+  void mark(const QString &name);
   void giveProperty(const ElementChange &change);
 
   NetData &m_whole;

@@ -3,7 +3,6 @@
 #include "subnetwindow.h"
 
 #include <tools/categorylist.h>
-#include <view/netviscontrol.h>
 
 #include <utility>
 
@@ -13,7 +12,7 @@ SubnetWindows::SubnetWindows(NetData &net, std::shared_ptr<CategoryList> categor
     , m_categories(std::move(categories))
     , m_parent(parent) {}
 
-void SubnetWindows::open(const QString &subnet, const NivraWorkspace &workspace) {
+void SubnetWindows::open(const QString &subnet, const NivraWorkspace &workspace, const NetVisControl::OwnStyle &style) {
   for (SubnetWindow *window : all()) {
     if (window->subnet() != subnet)
       continue;
@@ -26,6 +25,7 @@ void SubnetWindows::open(const QString &subnet, const NivraWorkspace &workspace)
   connect(window, &SubnetWindow::elementsChanged, this, &SubnetWindows::elementsChanged);
   connect(window->visControl(), &NetVisControl::styleFilesNoted, this, &SubnetWindows::styleFilesNoted);
   connect(window->visControl(), &NetVisControl::openCharacteristicsRequested, this, &SubnetWindows::characteristicsWanted);
+  window->visControl()->setOwnStyle(style);
   window->show();
 }
 

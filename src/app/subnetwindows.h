@@ -3,6 +3,7 @@
 #include "unsavededits.h"
 
 #include <model/elementchange.h>
+#include <view/netviscontrol.h>
 
 #include <QList>
 #include <QObject>
@@ -24,7 +25,8 @@ public:
   SubnetWindows(NetData &net, std::shared_ptr<CategoryList> categories, QWidget &parent);
 
   /// Brings the one of the subnet, which is made where there is none.
-  void open(const QString &subnet, const NivraWorkspace &workspace);
+  /// \param style in which the whole network is drawn where its files do not say so
+  void open(const QString &subnet, const NivraWorkspace &workspace, const NetVisControl::OwnStyle &style);
   QList<SubnetWindow *> all() const;
   void closeAll();
   /// What was changed in them and is not saved.

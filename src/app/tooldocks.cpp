@@ -214,6 +214,8 @@ void ToolDocks::setMachines(const MachineData &machines, Pages pages) {
 }
 
 void ToolDocks::openCharacteristics(const QStringList &names) {
+  if (names.isEmpty())
+    m_window.statusBar()->showMessage(tr("No machine is selected"));
   for (const QString &name : names) {
     if (m_characteristics == nullptr || !m_characteristics->open(name))
       return; // the reason was shown once

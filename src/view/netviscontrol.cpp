@@ -247,6 +247,12 @@ bool NetVisControl::showElement(const QString &name) {
   return true;
 }
 
+bool NetVisControl::isHidden(const QString &name) const {
+  const NetUpdate &update = m_plot->update();
+  const std::optional<NetGeometry::Item> item = update.geometry().find(m_net, name);
+  return item && update.layers().isHidden(*item);
+}
+
 void NetVisControl::selectSearchResults(bool topoClosure, bool additive) {
   static const PropertyKey mark = PropertyKey::intern("isSearchResult");
   static const PropertyKey name = PropertyKey::intern("name");

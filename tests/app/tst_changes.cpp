@@ -210,8 +210,13 @@ void TestChanges::windowsOfSubnetsFollow() {
   workspace.writeGeometry(WorkspaceFixture::geometryWithSubnet());
   NivraViewer viewer;
   viewer.open(workspace.geometry());
+  constexpr int NodeSize = 13;
+  PlotSettings settings = viewer.visControl()->plot()->appliedSettings();
+  settings.nodeMag = NodeSize;
+  viewer.visControl()->plot()->setSettings(settings);
   emit viewer.visControl()->subnetWanted(QStringLiteral("M"));
   auto *window = viewer.findChild<SubnetWindow *>();
+  QCOMPARE(window->visControl()->plot()->appliedSettings().nodeMag, NodeSize); // as the whole is drawn
   QApplication::processEvents();
   Updates whole(*viewer.visControl());
   Updates part(*window->visControl());

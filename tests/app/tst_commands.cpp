@@ -358,6 +358,13 @@ void TestCommands::fieldGoesToAnElement() {
   QCOMPARE(viewer.visControl()->net().selection().names(), Selection::Names{QStringLiteral("K1")});
   QTest::keyClick(&field, Qt::Key_Escape);
   QVERIFY(canvas(viewer)->hasFocus());
+  viewer.visControl()->setHiddenLayers(QStringLiteral("type"), {QStringLiteral("p")});
+  QCoreApplication::processEvents();
+  QTest::keyClick(canvas(viewer), Qt::Key_G, Qt::ControlModifier);
+  QTest::keyClicks(&field, QStringLiteral("P1"));
+  QTest::keyClick(&field, Qt::Key_Return);
+  QVERIFY2(viewer.statusBar()->currentMessage().contains(QStringLiteral("hidden")),
+           qPrintable(viewer.statusBar()->currentMessage()));
 }
 
 void TestCommands::choosersFollowTheDrawing() {

@@ -91,6 +91,8 @@ public:
   const LabelContents *labelContents() const;
   /// Brings an element into the middle of the view; false when it is not drawn.
   bool showElement(const QString &name);
+  /// In a layer that is not drawn.
+  bool isHidden(const QString &name) const;
   /// Selects the elements that the last search marked. \param topoClosure with end nodes and the edges between nodes
   void selectSearchResults(bool topoClosure, bool additive);
   /// Colours what the last search marked instead of the draw functions, from the end of the turn on.
