@@ -1695,6 +1695,14 @@ by the right-click menu of the drawing.</source>
         <source>Find a command by parts of its words</source>
         <translation>Einen Befehl anhand von Teilen seiner Wörter finden</translation>
     </message>
+    <message>
+        <source>%1 has no place in the drawing</source>
+        <translation>%1 hat keinen Platz in der Zeichnung</translation>
+    </message>
+    <message>
+        <source>%1 is in a layer that is hidden</source>
+        <translation>%1 liegt in einer ausgeblendeten Ebene</translation>
+    </message>
 </context>
 <context>
     <name>Compression</name>
@@ -4690,10 +4698,6 @@ z. B. p@ELE&gt;0.1 !</translation>
         <translation>Die Dateien des Falls neu lesen (F5)</translation>
     </message>
     <message>
-        <source>%1 has no place in the drawing</source>
-        <translation>%1 hat keinen Platz in der Zeichnung</translation>
-    </message>
-    <message>
         <source>Cannot read the style sheet %1</source>
         <translation>Das Stylesheet ist nicht lesbar: %1</translation>
     </message>
@@ -7666,10 +7670,6 @@ Wählen Sie eine Einstellung, um über sie zu lesen; Eingabe, Leertaste oder ein
         <source>Guide</source>
         <translation>Handbuch</translation>
     </message>
-    <message>
-        <source>%1 has no place in the drawing</source>
-        <translation>%1 hat keinen Platz in der Zeichnung</translation>
-    </message>
 </context>
 <context>
     <name>SvgGuard</name>
@@ -7913,6 +7913,10 @@ oder vergleicht: &gt; 10, &lt;= 3, = open, != 0</translation>
     <message>
         <source>%1 findings</source>
         <translation>%1 Befunde</translation>
+    </message>
+    <message>
+        <source>No machine is selected</source>
+        <translation>Keine Maschine ist ausgewählt</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,7 @@ private slots:
   void symbolsComeWhereThereIsRoom();
   void isolatedFittingsShow();
   void compressorsAreThereFromAfar();
+  void valuesOfMachinesAloneShowAroundTheirSymbols();
   void drivesStandBesideTheLine();
   void drivesOfParallelLinesStandOutside();
   void drivesAreClickedWhereTheyAreDrawn();
@@ -303,6 +304,26 @@ void TestFirstView::compressorsAreThereFromAfar() {
   QVERIFY2(afar >= 9.0, qPrintable(QString::number(afar)));
   zoomTo(f, QRectF(1190, 140, 40, 25));
   QVERIFY2(size() > afar, qPrintable(QString::number(size())));
+}
+
+void TestFirstView::valuesOfMachinesAloneShowAroundTheirSymbols() {
+  const auto isColouredBeside = [](const char *property) {
+    ViewFixture f;
+    f.net.element(QStringLiteral("CD"))->set(QStringLiteral("power"), QStringLiteral("7"));
+    f.show();
+    PlotSettings settings = f.plot().appliedSettings();
+    settings.functions[Aspect::EdgeColor].name = QString::fromLatin1(property);
+    f.plot().setSettings(settings);
+    f.plot().update().updatePlot();
+    const SymbolLayer::Placed symbol = symbolsOf(f, "c").at(0);
+    constexpr double OnDisc = 0.72; // of the symbol's size; its line runs upright
+    const QPointF beside = symbol.center + QPointF(symbol.size * OnDisc, 0.0);
+    constexpr int Coloured = 100;
+    const QWidget &canvas = *f.plot().plot()->canvas();
+    return QColor(f.picture().pixel(canvas.mapTo(&f.plot(), beside.toPoint()))).saturation() > Coloured;
+  };
+  QVERIFY(isColouredBeside("power"));
+  QVERIFY(!isColouredBeside("q")); // which the pipes show as well
 }
 
 void TestFirstView::drivesStandBesideTheLine() {

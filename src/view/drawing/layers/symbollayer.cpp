@@ -289,6 +289,7 @@ void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScal
   for (const Placed &p : placed) {
     const Record &r = m_records[p.record];
     painter->setOpacity(opacity * p.presence);
+    drawDisc(*painter, p);
     if (p.isFigure)
       m_figures.draw(*painter, r.figure, p.center, p.size);
     else
@@ -300,6 +301,15 @@ void SymbolLayer::draw(QPainter *painter, const QwtScaleMap &xMap, const QwtScal
       m_symbols.drawCount(*painter, p.center + QPointF(p.extent.width(), -p.extent.height()) * 0.5, p.others + 1);
   }
   painter->setOpacity(opacity);
+}
+
+void SymbolLayer::drawDisc(QPainter &painter, const Placed &placed) const {
+  constexpr double Share = 0.8; // of the symbol's size, from the centre: its corners are within
+  if (placed.item.kind != NetData::Edge || placed.item.index >= m_discs.size() || m_discs[placed.item.index] == 0)
+    return;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(m_discs[placed.item.index]));
+  painter.drawEllipse(placed.center, placed.size * Share, placed.size * Share);
 }
 
 void SymbolLayer::drawShafts(QPainter &painter, const Projection &projection, const std::vector<Placed> &placed) const {

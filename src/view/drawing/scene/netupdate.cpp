@@ -163,6 +163,7 @@ void NetUpdate::updateLooks(bool rebuild, Which which, const QElapsedTimer &time
 void NetUpdate::updateEdges(bool isSearch) {
   const std::vector<EdgeLook> edges = isSearch ? looks().searchedEdges() : looks().edges();
   m_edges.setLooks(edges);
+  m_symbols.setDiscs(isSearch ? std::vector<QRgb>() : looks().stationColors(edges));
   m_edgeWidths.resize(edges.size());
   std::transform(edges.begin(), edges.end(), m_edgeWidths.begin(),
                  [](const EdgeLook &look) { return static_cast<float>(look.width); });

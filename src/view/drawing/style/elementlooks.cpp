@@ -75,6 +75,22 @@ std::vector<EdgeLook> ElementLooks::edges() const {
   return looks;
 }
 
+std::vector<QRgb> ElementLooks::stationColors(const std::vector<EdgeLook> &edges) const {
+  const DrawValues::Column &values = m_values.of(Aspect::EdgeColor);
+  if (!values.isAny())
+    return {};
+  std::vector<QRgb> colors(edges.size(), 0);
+  for (std::size_t i = 0; i < edges.size(); ++i) {
+    if (values.ofElements[i] == NetData::NoValue)
+      continue;
+    if (m_geometry.edges()[i].type == 'p')
+      return {};
+    if (!edges[i].isBackground && !edges[i].isHidden)
+      colors[i] = edges[i].color;
+  }
+  return colors;
+}
+
 std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {
   const DrawValues::Column &colors = m_values.of(Aspect::NodeColor);
   const DrawValues::Column &sizes = m_values.of(Aspect::NodeSize);

@@ -21,6 +21,9 @@ public:
 
   /// One an edge of the geometry.
   std::vector<EdgeLook> edges() const;
+  /// The colours of edges where no pipe has a value, so that symbols cover all of them: one an edge, 0 without a value. Else
+  /// empty.
+  std::vector<QRgb> stationColors(const std::vector<EdgeLook> &edges) const;
   /// One a node. \param byFunction in the colours of the node colour function, if it says something of nodes
   std::vector<NodeLook> nodes(bool byFunction) const;
   /// Px, of an edge whose value lies so far along the range of the width function.

@@ -45,6 +45,8 @@ public:
     m_theme = DrawingTheme(ground);
   }
   void setSizes(const QHash<QString, double> &sizes) { m_sizes = sizes; }
+  /// Colours of discs behind the symbols of edges, one an edge, 0 for none; empty for none at all.
+  void setDiscs(std::vector<QRgb> colors) { m_discs = std::move(colors); }
   double size() const { return m_size; }
   /// Symbols that are off are not drawn.
   void setVisibility(const VisibilityRules &rules, const LayerFilter &layers);
@@ -124,6 +126,7 @@ private:
   Placed placed(const Candidate &candidate, double size, const Projection &projection) const;
   Record recordOf(const NetGeometry &geometry, Index drive);
   std::vector<Record> records(const NetGeometry &geometry);
+  void drawDisc(QPainter &painter, const Placed &placed) const;
   /// From the compressors to the drives beside them.
   void drawShafts(QPainter &painter, const Projection &projection, const std::vector<Placed> &placed) const;
   Index symbolOf(const NetGeometry::Edge &edge);
@@ -139,6 +142,7 @@ private:
   SpatialIndex m_index;
   std::function<std::vector<QRectF>(const Projection &)> m_covers;
   QHash<QString, double> m_sizes;
+  std::vector<QRgb> m_discs;
   double m_size = 20.0;
   SymbolRoom m_room;
   mutable std::optional<Layout> m_layout; ///< of the view that was asked for last
