@@ -117,7 +117,9 @@ void TestStylesInWindow::reloadEndsThePreview() {
 }
 
 void TestStylesInWindow::reloadKeepsStepsAndName() {
-  const auto undo = [](NivraViewer &viewer) { return entry(viewMenu(viewer), QStringLiteral("Undo Style Change")); };
+  const auto undo = [](NivraViewer &viewer) {
+    return entry(viewMenu(viewer), QStringLiteral("Undo Style Change"));
+  };
   {
     NivraViewer viewer;
     Remembering::open(viewer, m_workspace.geometry());
