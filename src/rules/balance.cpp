@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <rules/balance.h>
 
-Balance::Balance(NetworkFacts facts, Grouping grouping)
+Balance::Balance(std::shared_ptr<const NetworkFacts> facts, Grouping grouping)
     : m_facts(std::move(facts))
     , m_grouping(std::move(grouping)) {
   m_groups.reserve(static_cast<std::size_t>(m_grouping.names.size()));
@@ -13,7 +13,7 @@ Balance::Balance(NetworkFacts facts, Grouping grouping)
 }
 
 void Balance::addNodes() {
-  const std::vector<NetworkFacts::Node> &nodes = m_facts.nodes();
+  const std::vector<NetworkFacts::Node> &nodes = m_facts->nodes();
   for (Index i = 0; i < nodes.size(); ++i) {
     const NetworkFacts::Node &node = nodes[i];
     for (Sums *sums : {&m_total, &m_groups[m_grouping.of[i]].sums}) {
@@ -37,7 +37,7 @@ void Balance::addNodes() {
 
 /// By edges whose ends are in different groups.
 void Balance::addExchange() {
-  for (const NetworkFacts::Edge &edge : m_facts.edges()) {
+  for (const NetworkFacts::Edge &edge : m_facts->edges()) {
     if (edge.from == NoIndex || edge.to == NoIndex || (!edge.isInUse && !NetworkFacts::isKnown(edge.flow)))
       continue;
     const Index from = m_grouping.of[edge.from];
@@ -86,14 +86,14 @@ QStringList Balance::elements(Index group, Figure figure) const {
   if (figure == Figure::FromOthers)
     return borders(group);
   QStringList names;
-  const std::vector<NetworkFacts::Node> &nodes = m_facts.nodes();
+  const std::vector<NetworkFacts::Node> &nodes = m_facts->nodes();
   for (Index i = 0; i < nodes.size(); ++i) {
     if ((group == NoIndex || m_grouping.of[i] == group) && isIn(nodes[i], figure))
       names.append(nodes[i].entry->name());
   }
   if (figure != Figure::Fuel)
     return names;
-  for (const NetworkFacts::Drive &drive : m_facts.drives()) {
+  for (const NetworkFacts::Drive &drive : m_facts->drives()) {
     if (drive.node != NoIndex && (group == NoIndex || m_grouping.of[drive.node] == group))
       names.append(drive.entry->name());
   }
@@ -102,7 +102,7 @@ QStringList Balance::elements(Index group, Figure figure) const {
 
 QStringList Balance::borders(Index group) const {
   QStringList names;
-  for (const NetworkFacts::Edge &edge : m_facts.edges()) {
+  for (const NetworkFacts::Edge &edge : m_facts->edges()) {
     if (!edge.isInUse)
       continue;
     const Index from = m_grouping.of[edge.from];

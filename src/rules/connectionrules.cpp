@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <rules/networkrules.h>
+#include <iterator>
 #include <tuple>
 
 namespace {
@@ -68,9 +68,9 @@ QString ConnectionRules::ofCutOff(const RuleHit &hit, const RuleTexts &texts) {
   Q_UNUSED(neither)
   const QString text =
       nodes > 1.0
-          ? NetworkRules::tr("%1 nodes are cut off from every source and every set pressure").arg(RuleTexts::count(nodes))
-          : NetworkRules::tr("The node is cut off from every source and every set pressure");
-  return taken > 0.0 ? text + NetworkRules::tr(", %1 is to be taken there").arg(texts.flow(taken)) : text;
+          ? RuleTexts::tr("%1 nodes are cut off from every source and every set pressure").arg(RuleTexts::count(nodes))
+          : RuleTexts::tr("The node is cut off from every source and every set pressure");
+  return taken > 0.0 ? text + RuleTexts::tr(", %1 is to be taken there").arg(texts.flow(taken)) : text;
 }
 
 void ConnectionRules::findWithoutPressure(const RuleSubject &subject, RuleHits &hits) {
@@ -87,8 +87,8 @@ void ConnectionRules::findWithoutPressure(const RuleSubject &subject, RuleHits &
 
 QString ConnectionRules::ofWithoutPressure(const RuleHit &hit, const RuleTexts & /*texts*/) {
   return hit.values[0] > 1.0
-             ? NetworkRules::tr("No pressure is set in the part of %1 nodes").arg(RuleTexts::count(hit.values[0]))
-             : NetworkRules::tr("No pressure is set at the node, which nothing joins to others");
+             ? RuleTexts::tr("No pressure is set in the part of %1 nodes").arg(RuleTexts::count(hit.values[0]))
+             : RuleTexts::tr("No pressure is set at the node, which nothing joins to others");
 }
 
 void ConnectionRules::findDuplicates(const RuleSubject &subject, RuleHits &hits) {
@@ -114,6 +114,6 @@ QString ConnectionRules::ofDuplicates(const RuleHit &hit, const RuleTexts &texts
   constexpr std::size_t MostNames = 4;
   for (std::size_t i = 1; i < std::min(hit.entries.size(), MostNames); ++i)
     others.append(hit.entries[i]->name());
-  return NetworkRules::tr("%1 pipes of %2 and %3 lie between the same nodes, also %4")
+  return RuleTexts::tr("%1 pipes of %2 and %3 lie between the same nodes, also %4")
       .arg(RuleTexts::count(pipes), texts.length(length), texts.diameter(diameter), others.join(QStringLiteral(", ")));
 }

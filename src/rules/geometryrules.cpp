@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <rules/networkrules.h>
 #include <tuple>
 
 namespace {
@@ -20,8 +19,8 @@ void GeometryRules::findLengths(const RuleSubject &subject, RuleHits &hits) {
 }
 
 QString GeometryRules::ofLength(const RuleHit &hit, const RuleTexts &texts) {
-  return NetworkFacts::isKnown(hit.values[0]) ? NetworkRules::tr("The pipe is %1 long").arg(texts.length(hit.values[0]))
-                                              : NetworkRules::tr("The length of the pipe is missing");
+  return NetworkFacts::isKnown(hit.values[0]) ? RuleTexts::tr("The pipe is %1 long").arg(texts.length(hit.values[0]))
+                                              : RuleTexts::tr("The length of the pipe is missing");
 }
 
 /// A short pipe in a station may be steep: a jump is at least a step that is too high there.
@@ -46,11 +45,11 @@ void GeometryRules::findJumps(const RuleSubject &subject, RuleHits &hits) {
 QString GeometryRules::ofJump(const RuleHit &hit, const RuleTexts &texts) {
   const auto [step, length, slope, none] = hit.values;
   Q_UNUSED(none)
-  const QString nodes = NetworkRules::tr("%1 and %2").arg(hit.entries[1]->name(), hit.entries[2]->name());
+  const QString nodes = RuleTexts::tr("%1 and %2").arg(hit.entries[1]->name(), hit.entries[2]->name());
   if (length > 0.0)
-    return NetworkRules::tr("The heights of %1 differ by %2 over %3, %4 m per km")
+    return RuleTexts::tr("The heights of %1 differ by %2 over %3, %4 m per km")
         .arg(nodes, texts.height(step), texts.length(length), RuleTexts::number(slope));
-  return NetworkRules::tr("The heights of %1 differ by %2").arg(nodes, texts.height(step));
+  return RuleTexts::tr("The heights of %1 differ by %2").arg(nodes, texts.height(step));
 }
 
 void GeometryRules::findCrowds(const RuleSubject &subject, RuleHits &hits) {
@@ -76,7 +75,7 @@ void GeometryRules::findCrowds(const RuleSubject &subject, RuleHits &hits) {
 
 QString GeometryRules::ofCrowd(const RuleHit &hit, const RuleTexts & /*texts*/) {
   constexpr int Digits = 10; // of coordinates
-  return NetworkRules::tr("%1 nodes lie at the point (%2, %3)")
+  return RuleTexts::tr("%1 nodes lie at the point (%2, %3)")
       .arg(RuleTexts::count(hit.values[0]), QString::number(hit.values[1], 'g', Digits),
            QString::number(hit.values[2], 'g', Digits));
 }

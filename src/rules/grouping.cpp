@@ -1,3 +1,5 @@
+#include "networkparts.h"
+
 #include <QHash>
 
 #include <algorithm>

@@ -1,7 +1,8 @@
+#include "networkparts.h"
+
 #include <model/networkgraph.h>
 
 #include <algorithm>
-#include <rules/networkparts.h>
 
 NetworkParts::NetworkParts(const NetworkFacts &facts) {
   using Topology::NetworkGraph;

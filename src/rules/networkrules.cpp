@@ -1,10 +1,43 @@
-#include "rule.h"
+#include "ruletable.h"
 
+#include <base/settings.h>
+
+#include <algorithm>
 #include <rules/networkrules.h>
+
+namespace {
+
+constexpr Setting<double> Tolerance{"rule: tolerance of balances"};
+constexpr Setting<double> SteepestPipe{"rule: steepest pipe"};
+constexpr Setting<double> HighestStep{"rule: highest step in a station"};
+constexpr Setting<int> Crowd{"rule: nodes at one point"};
+
+} // namespace
 
 struct NetworkRules::Found {
   std::vector<RuleHits> byRule;
 };
+
+RuleSettings NetworkRules::settings() {
+  constexpr double Percent = 100.0;
+  constexpr int Two = 2; // at one point
+  RuleSettings settings;
+  settings.severities.reserve(RuleTable::all().size());
+  for (const Rule &rule : RuleTable::all()) {
+    const QString word = rule.severity.value();
+    std::optional<Finding::Severity> severity;
+    if (word == QLatin1String("warning"))
+      severity = Finding::Severity::Warning;
+    else if (word == QLatin1String("information"))
+      severity = Finding::Severity::Information;
+    settings.severities.push_back(severity);
+  }
+  settings.balanceTolerance = std::max(Tolerance.value(), 0.0) / Percent;
+  settings.steepestPipe = SteepestPipe.value();
+  settings.highestStep = HighestStep.value();
+  settings.crowd = std::max(Crowd.value(), Two);
+  return settings;
+}
 
 NetworkRules::NetworkRules(const NetData &net, const NetworkFacts &facts, RuleSettings settings)
     : m_net(net)
@@ -15,7 +48,7 @@ NetworkRules::NetworkRules(const NetData &net, const NetworkFacts &facts, RuleSe
 NetworkRules::~NetworkRules() = default;
 
 bool NetworkRules::find(const Progress &progress) {
-  const std::vector<Rule> &rules = Rule::all();
+  const std::vector<Rule> &rules = RuleTable::all();
   const auto goesOn = [&](std::size_t done) {
     return !progress || progress(static_cast<double>(done) / static_cast<double>(rules.size() + 1));
   };
@@ -38,7 +71,7 @@ std::vector<NetworkRules::Told> NetworkRules::tell() const {
     const RuleHits &found = m_found->byRule[i];
     if (found.count() == 0)
       continue;
-    const Rule &rule = Rule::all()[i];
+    const Rule &rule = RuleTable::all()[i];
     Told told{QString::fromLatin1(rule.name), tr(rule.title), {}, {}};
     for (const RuleHit &hit : found.hits()) {
       Finding finding = Finding::about(hit.entries.front()->name(), rule.text(hit, texts));
@@ -64,14 +97,14 @@ std::vector<NetworkRules::Told> NetworkRules::tell() const {
 
 std::vector<NetworkRules::Told> NetworkRules::check(const NetData &net) {
   const NetworkFacts facts(net);
-  NetworkRules rules(net, facts, RuleSettings::current());
+  NetworkRules rules(net, facts, settings());
   rules.find({});
   return rules.tell();
 }
 
 QStringList NetworkRules::names() {
   QStringList names;
-  for (const Rule &rule : Rule::all())
+  for (const Rule &rule : RuleTable::all())
     names.append(QString::fromLatin1(rule.name));
   return names;
 }

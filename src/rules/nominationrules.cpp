@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <rules/networkrules.h>
-
 namespace {
 
 using Node = NetworkFacts::Node;
@@ -39,10 +37,10 @@ void compareFlows(const RuleSubject &subject, Range Node::*range, RuleHits &hits
 template <typename Written>
 QString rangeText(double lowest, double highest, const Written &written) {
   if (!NetworkFacts::isKnown(lowest))
-    return NetworkRules::tr("at most %1").arg(written(highest));
+    return RuleTexts::tr("at most %1").arg(written(highest));
   if (!NetworkFacts::isKnown(highest))
-    return NetworkRules::tr("at least %1").arg(written(lowest));
-  return NetworkRules::tr("%1 to %2").arg(written(lowest), written(highest));
+    return RuleTexts::tr("at least %1").arg(written(lowest));
+  return RuleTexts::tr("%1 to %2").arg(written(lowest), written(highest));
 }
 
 QString flowText(const QString &pattern, const RuleHit &hit, const RuleTexts &texts) {
@@ -86,7 +84,7 @@ void NominationRules::findContracts(const RuleSubject &subject, RuleHits &hits) 
 }
 
 QString NominationRules::ofContract(const RuleHit &hit, const RuleTexts &texts) {
-  return flowText(NetworkRules::tr("The set flow is %1, contracted are %2"), hit, texts);
+  return flowText(RuleTexts::tr("The set flow is %1, contracted are %2"), hit, texts);
 }
 
 void NominationRules::findBounds(const RuleSubject &subject, RuleHits &hits) {
@@ -94,7 +92,7 @@ void NominationRules::findBounds(const RuleSubject &subject, RuleHits &hits) {
 }
 
 QString NominationRules::ofBounds(const RuleHit &hit, const RuleTexts &texts) {
-  return flowText(NetworkRules::tr("The set flow is %1, allowed are %2"), hit, texts);
+  return flowText(RuleTexts::tr("The set flow is %1, allowed are %2"), hit, texts);
 }
 
 void NominationRules::findCapacities(const RuleSubject &subject, RuleHits &hits) {
@@ -114,8 +112,8 @@ void NominationRules::findCapacities(const RuleSubject &subject, RuleHits &hits)
 }
 
 QString NominationRules::ofCapacity(const RuleHit &hit, const RuleTexts &texts) {
-  const QString text = hit.values[2] > 0.0 ? NetworkRules::tr("The set flow is %1, the elements at the node can carry %2")
-                                           : NetworkRules::tr("The set flow is %1, the connection can carry %2");
+  const QString text = hit.values[2] > 0.0 ? RuleTexts::tr("The set flow is %1, the elements at the node can carry %2")
+                                           : RuleTexts::tr("The set flow is %1, the connection can carry %2");
   return text.arg(texts.flow(hit.values[0]), texts.flow(hit.values[1]));
 }
 
@@ -128,7 +126,7 @@ QString NominationRules::ofPressure(const RuleHit &hit, const RuleTexts &texts) 
   const auto written = [&texts](double value) {
     return texts.pressure(value);
   };
-  return NetworkRules::tr("The set pressure is %1, allowed are %2")
+  return RuleTexts::tr("The set pressure is %1, allowed are %2")
       .arg(texts.pressure(hit.values[0]), rangeText(hit.values[1], hit.values[2], written));
 }
 
@@ -150,8 +148,7 @@ QString NominationRules::ofCrossed(const RuleHit &hit, const RuleTexts &texts) {
   const auto [lowest, highest, isPressure, none] = hit.values;
   Q_UNUSED(none)
   if (isPressure > 0.0)
-    return NetworkRules::tr("The lower bound of the pressure is %1, the upper one %2")
+    return RuleTexts::tr("The lower bound of the pressure is %1, the upper one %2")
         .arg(texts.pressure(lowest), texts.pressure(highest));
-  return NetworkRules::tr("The lower bound of the flow is %1, the upper one %2")
-      .arg(texts.flow(lowest), texts.flow(highest));
+  return RuleTexts::tr("The lower bound of the flow is %1, the upper one %2").arg(texts.flow(lowest), texts.flow(highest));
 }

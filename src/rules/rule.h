@@ -1,14 +1,12 @@
 #pragma once
 
+#include "networkparts.h"
 #include "rulehits.h"
 #include "ruletexts.h"
 
 #include <base/settings.h>
 
-#include <functional>
-#include <rules/networkparts.h>
 #include <rules/rulesettings.h>
-#include <vector>
 
 /// What the rules look at.
 struct RuleSubject {
@@ -25,7 +23,4 @@ struct Rule {
   Setting<QString> severity; ///< "warning", "information" or "off"
   void (*find)(const RuleSubject &subject, RuleHits &hits);
   QString (*text)(const RuleHit &hit, const RuleTexts &texts);
-
-  /// In the order in which they are told.
-  static const std::vector<Rule> &all();
 };

@@ -23,7 +23,10 @@ QString RuleTexts::number(double value) {
   return DisplayFormat::number(value, Digits);
 }
 
+/// A unit such as "1000 m³/h" must not look like more digits.
 QString RuleTexts::written(const DisplayUnits::Shown &shown, double value) {
-  const QString text = DisplayFormat::number(shown.toDisplay(value));
-  return shown.unit.isEmpty() ? text : text + QLatin1Char(' ') + Units::written(shown.unit);
+  QString text = DisplayFormat::number(shown.toDisplay(value));
+  if (!shown.unit.isEmpty())
+    text += (shown.unit.at(0).isDigit() ? QStringLiteral(" × ") : QStringLiteral(" ")) + Units::written(shown.unit);
+  return text;
 }

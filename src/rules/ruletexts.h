@@ -9,6 +9,7 @@ class NetData;
 
 /// Values as the texts of rules say them, in the units that people chose.
 class RuleTexts {
+  Q_DECLARE_TR_FUNCTIONS(NetworkRules)
 public:
   explicit RuleTexts(const NetData &net);
 

@@ -36,8 +36,8 @@ NetData twoZones() {
 }
 
 Balance byZone(const NetData &net) {
-  const NetworkFacts facts(net);
-  return Balance(facts, Grouping::byProperty(facts, PropertyKey::find("zone")));
+  const auto facts = std::make_shared<const NetworkFacts>(net);
+  return Balance(facts, Grouping::byProperty(*facts, PropertyKey::find("zone")));
 }
 
 } // namespace
@@ -107,8 +107,8 @@ void TestBalance::partsAreGroups() {
   NetData net = twoZones();
   net.element(QStringLiteral("P3"))->set(QStringLiteral("state"), QStringLiteral("closed"));
   net.element(QStringLiteral("P3"))->erase(QStringLiteral("q"));
-  const NetworkFacts facts(net);
-  const Balance balance(facts, Grouping::byPart(facts));
+  const auto facts = std::make_shared<const NetworkFacts>(net);
+  const Balance balance(facts, Grouping::byPart(*facts));
   QCOMPARE(balance.groups().size(), std::size_t(3));
   QCOMPARE(balance.groups()[0].sums.imbalance(), 80.0);
   QCOMPARE(balance.groups()[1].sums.imbalance(), -80.0);

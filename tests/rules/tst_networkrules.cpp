@@ -1,4 +1,4 @@
-#include "rule.h"
+#include "ruletable.h"
 
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
@@ -48,9 +48,9 @@ NetData soundNetwork() {
   return net;
 }
 
-RuleSettings settings() {
+RuleSettings strict() {
   RuleSettings all;
-  all.severities.assign(Rule::all().size(), Finding::Severity::Warning);
+  all.severities.assign(RuleTable::all().size(), Finding::Severity::Warning);
   all.balanceTolerance = 0.001;
   all.steepestPipe = 300.0;
   all.highestStep = 30.0;
@@ -58,7 +58,7 @@ RuleSettings settings() {
   return all;
 }
 
-std::vector<NetworkRules::Told> check(const NetData &net, const RuleSettings &by = settings()) {
+std::vector<NetworkRules::Told> check(const NetData &net, const RuleSettings &by = strict()) {
   const NetworkFacts facts(net);
   NetworkRules rules(net, facts, by);
   rules.find({});
@@ -87,6 +87,7 @@ private slots:
   void plantedFaultIsFound();
   void sourcesMayGiveMagnitudes();
   void flowsAreConverted();
+  void reversedResultsAreOneFault();
   void fuelIsCountedOnce();
   void switchedOffIsSilent();
   void withoutScenarioNothingIsMissed();
@@ -190,6 +191,17 @@ void TestNetworkRules::flowsAreConverted() {
   QCOMPARE(said(check(net)), QString());
 }
 
+void TestNetworkRules::reversedResultsAreOneFault() {
+  NetData net = soundNetwork();
+  for (const char *edge : {"P1", "R", "P2", "P3", "P4"}) {
+    element &changed = *net.element(QString::fromLatin1(edge));
+    changed.set(QStringLiteral("q"), QLatin1Char('-') + changed.value(QStringLiteral("q")));
+  }
+  const std::vector<NetworkRules::Told> told = check(net);
+  QCOMPARE(said(told).count(QLatin1Char('\n')), 0);
+  QCOMPARE(told.at(0).elements.at(0), (QStringList{QStringLiteral("Out1"), QStringLiteral("Out2")}));
+}
+
 /// A drive burns 2 at the node A: beside the nominations, or as one of them.
 void TestNetworkRules::fuelIsCountedOnce() {
   NetData net = soundNetwork();
@@ -208,14 +220,14 @@ void TestNetworkRules::fuelIsCountedOnce() {
 void TestNetworkRules::switchedOffIsSilent() {
   NetData net = soundNetwork();
   net.element(QStringLiteral("P1"))->set(QStringLiteral("length"), QStringLiteral("0"));
-  RuleSettings by = settings();
+  RuleSettings by = strict();
   const auto index = static_cast<std::size_t>(NetworkRules::names().indexOf(QStringLiteral("zero-length")));
   by.severities[index] = Finding::Severity::Information;
   QCOMPARE(check(net, by).at(0).findings.at(0).severity, Finding::Severity::Information);
   by.severities[index] = std::nullopt;
   QCOMPARE(said(check(net, by)), QString());
-  const RuleSettings usual = RuleSettings::current(); // every rule has its settings
-  QCOMPARE(usual.severities.size(), Rule::all().size());
+  const RuleSettings usual = NetworkRules::settings(); // every rule has its settings
+  QCOMPARE(usual.severities.size(), RuleTable::all().size());
   QVERIFY(usual.steepestPipe > 0.0 && usual.highestStep > 0.0 && usual.crowd > 1 && usual.balanceTolerance > 0.0);
 }
 
@@ -254,7 +266,7 @@ void TestNetworkRules::millionElementsTakeSeconds() {
   QVERIFY(lengths->findings.back().text.contains(QString::number(Nodes - 1 - int(RuleHits::MostHits))));
   int asked = 0;
   const NetworkFacts facts(net);
-  NetworkRules rules(net, facts, settings());
+  NetworkRules rules(net, facts, strict());
   QVERIFY(!rules.find([&asked](double) { return ++asked < 3; }));
   QCOMPARE(asked, 3);
 }

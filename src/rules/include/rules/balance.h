@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <rules/grouping.h>
 #include <vector>
 
@@ -28,7 +29,7 @@ public:
     Sums sums;
   };
 
-  Balance(NetworkFacts facts, Grouping grouping);
+  Balance(std::shared_ptr<const NetworkFacts> facts, Grouping grouping);
 
   const std::vector<Group> &groups() const { return m_groups; } ///< those without any node left out
   const Sums &total() const { return m_total; }
@@ -42,7 +43,7 @@ private:
   bool isIn(const NetworkFacts::Node &node, Figure figure) const;
   QStringList borders(Index group) const;
 
-  NetworkFacts m_facts;
+  std::shared_ptr<const NetworkFacts> m_facts;
   Grouping m_grouping;
   std::vector<Group> m_groups;
   Sums m_total;

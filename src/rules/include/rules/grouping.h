@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-#include <rules/networkparts.h>
+#include <rules/networkfacts.h>
 #include <vector>
 
 /// Which group each node of a network belongs to.

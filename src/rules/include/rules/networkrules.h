@@ -23,6 +23,8 @@ public:
     std::vector<QStringList> elements; ///< by finding: the names of all that it is about
   };
 
+  /// What is in force now.
+  static RuleSettings settings();
   /// In the thread that may ask for settings.
   NetworkRules(const NetData &net, const NetworkFacts &facts, RuleSettings settings);
   ~NetworkRules();

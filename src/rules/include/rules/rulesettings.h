@@ -13,7 +13,4 @@ struct RuleSettings {
   double steepestPipe = 0.0;     ///< m of height per km
   double highestStep = 0.0;      ///< m, between the ends of elements that are no pipes
   int crowd = 0;                 ///< nodes at one point that are too many
-
-  /// In force now.
-  static RuleSettings current();
 };

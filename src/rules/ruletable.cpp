@@ -1,4 +1,4 @@
-#include "rule.h"
+#include "ruletable.h"
 
 #include "balancerules.h"
 #include "connectionrules.h"
@@ -7,7 +7,7 @@
 
 #include <QtGlobal>
 
-const std::vector<Rule> &Rule::all() {
+const std::vector<Rule> &RuleTable::all() {
   static const std::vector<Rule> rules{
       {"node-balance", QT_TRANSLATE_NOOP("NetworkRules", "What flows to a node does not flow off"), "rule: node-balance",
        BalanceRules::findNodes, BalanceRules::ofNode},
