@@ -1157,6 +1157,163 @@ Lokale Git-Änderungen: %5</translation>
         <source>What the text box says</source>
         <translation>Was im Textfeld steht</translation>
     </message>
+    <message>
+        <source>lowest contracted flow</source>
+        <translation>kleinster vertraglicher Fluss</translation>
+    </message>
+    <message>
+        <source>Lower bound of the norm volume flow by contract, supplies negative</source>
+        <translation>Untere vertragliche Schranke des Normvolumenstroms, Einspeisungen negativ</translation>
+    </message>
+    <message>
+        <source>highest contracted flow</source>
+        <translation>größter vertraglicher Fluss</translation>
+    </message>
+    <message>
+        <source>Upper bound of the norm volume flow by contract, supplies negative</source>
+        <translation>Obere vertragliche Schranke des Normvolumenstroms, Einspeisungen negativ</translation>
+    </message>
+    <message>
+        <source>capacity</source>
+        <translation>Kapazität</translation>
+    </message>
+    <message>
+        <source>Largest norm volume flow that the connection can carry</source>
+        <translation>Größter Normvolumenstrom, den der Anschluss tragen kann</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceDock</name>
+    <message>
+        <source>Balance</source>
+        <translation>Bilanz</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceModel</name>
+    <message>
+        <source>Nodes that supply</source>
+        <translation>Knoten, die einspeisen</translation>
+    </message>
+    <message>
+        <source>Set flows into the network</source>
+        <translation>Vorgegebene Flüsse in das Netz</translation>
+    </message>
+    <message>
+        <source>Nodes that take</source>
+        <translation>Knoten, die entnehmen</translation>
+    </message>
+    <message>
+        <source>Set flows out of the network, without the fuel that they count</source>
+        <translation>Vorgegebene Flüsse aus dem Netz, ohne das Brenngas, das sie mitzählen</translation>
+    </message>
+    <message>
+        <source>What drives of compressors burn, by the results, at the node that feeds them</source>
+        <translation>Was Antriebe von Verdichtern nach den Ergebnissen verbrennen, an dem Knoten, der sie speist</translation>
+    </message>
+    <message>
+        <source>Sources, sinks and nodes of held pressure whose flow nobody states</source>
+        <translation>Quellen, Senken und Knoten mit gehaltenem Druck, deren Fluss niemand angibt</translation>
+    </message>
+    <message>
+        <source>What comes in there, by the results</source>
+        <translation>Was dort nach den Ergebnissen hereinkommt</translation>
+    </message>
+    <message>
+        <source>What comes from other groups less what goes there, by the results</source>
+        <translation>Was nach den Ergebnissen aus anderen Gruppen kommt, weniger dem, was dorthin geht</translation>
+    </message>
+    <message>
+        <source>Entries - exits - fuel + unknown + from others</source>
+        <translation>Einspeisungen - Ausspeisungen - Brenngas + Unbekanntes + aus anderen</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Summe</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>nodes</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>entry nodes</source>
+        <translation>Einspeiseknoten</translation>
+    </message>
+    <message>
+        <source>entries</source>
+        <translation>Einspeisungen</translation>
+    </message>
+    <message>
+        <source>exit nodes</source>
+        <translation>Ausspeiseknoten</translation>
+    </message>
+    <message>
+        <source>exits</source>
+        <translation>Ausspeisungen</translation>
+    </message>
+    <message>
+        <source>fuel</source>
+        <translation>Brenngas</translation>
+    </message>
+    <message>
+        <source>unknown nodes</source>
+        <translation>unbekannte Knoten</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>from others</source>
+        <translation>aus anderen</translation>
+    </message>
+    <message>
+        <source>imbalance</source>
+        <translation>Ungleichgewicht</translation>
+    </message>
+</context>
+<context>
+    <name>BalancePage</name>
+    <message>
+        <source>Save …</source>
+        <translation>Speichern …</translation>
+    </message>
+    <message>
+        <source>Group by</source>
+        <translation>Gruppieren nach</translation>
+    </message>
+    <message>
+        <source>What nodes have in common that are summed up together</source>
+        <translation>Was Knoten gemeinsam haben, die zusammengezählt werden</translation>
+    </message>
+    <message>
+        <source>Write the table into a workbook or a CSV file</source>
+        <translation>Die Tabelle in eine Arbeitsmappe oder eine CSV-Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Bilanz</translation>
+    </message>
+    <message>
+        <source>Nothing is open.</source>
+        <translation>Es ist nichts geöffnet.</translation>
+    </message>
+    <message>
+        <source>No node states a flow. Open a scenario to see what enters and leaves.</source>
+        <translation>Kein Knoten gibt einen Fluss an. Öffnen Sie ein Szenario, um zu sehen, was eingespeist und entnommen wird.</translation>
+    </message>
+    <message>
+        <source>All nodes are in one group. Give them layers, zones or categories to tell them apart.</source>
+        <translation>Alle Knoten sind in einer Gruppe. Geben Sie ihnen Ebenen, Zonen oder Kategorien, um sie zu unterscheiden.</translation>
+    </message>
+    <message>
+        <source>balance</source>
+        <translation>Bilanz</translation>
+    </message>
 </context>
 <context>
     <name>Batch</name>
@@ -1898,29 +2055,6 @@ by the right-click menu of the drawing.</source>
     </message>
 </context>
 <context>
-    <name>ElementTableFile</name>
-    <message>
-        <source>Workbook (*.xlsx)</source>
-        <translation>Arbeitsmappe (*.xlsx)</translation>
-    </message>
-    <message>
-        <source>CSV with decimal point and commas (*.csv)</source>
-        <translation>CSV mit Dezimalpunkt und Kommas (*.csv)</translation>
-    </message>
-    <message>
-        <source>CSV with decimal comma and semicolons (*.csv)</source>
-        <translation>CSV mit Dezimalkomma und Semikolons (*.csv)</translation>
-    </message>
-    <message>
-        <source>Text with tabulators (*.txt)</source>
-        <translation>Text mit Tabulatoren (*.txt)</translation>
-    </message>
-    <message>
-        <source>Save table</source>
-        <translation>Tabelle speichern</translation>
-    </message>
-</context>
-<context>
     <name>ElementTableModel</name>
     <message>
         <source>(empty)</source>
@@ -2296,6 +2430,45 @@ by the right-click menu of the drawing.</source>
     </message>
 </context>
 <context>
+    <name>FindingExport</name>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>severity</source>
+        <translation>Schwere</translation>
+    </message>
+    <message>
+        <source>finding</source>
+        <translation>Befund</translation>
+    </message>
+    <message>
+        <source>elements</source>
+        <translation>Elemente</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>Zeile</translation>
+    </message>
+</context>
+<context>
     <name>FindingFilter</name>
     <message>
         <source>%1 (%2)</source>
@@ -2315,6 +2488,14 @@ by the right-click menu of the drawing.</source>
     <message>
         <source>file</source>
         <translation>Datei</translation>
+    </message>
+    <message>
+        <source>rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +3014,52 @@ Mit einer sehr kleinen Standardskala fortfahren? (Bei Nein geschieht nichts)?</t
     <message>
         <source>Value &quot;%1&quot; does not suit the setting &quot;%2&quot;; &quot;%3&quot; stays.</source>
         <translation>Der Wert &quot;%1&quot; passt nicht zur Einstellung &quot;%2&quot;; es bleibt bei &quot;%3&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>Grouping</name>
+    <message>
+        <source>Whole network</source>
+        <translation>Ganzes Netz</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(ohne)</translation>
+    </message>
+    <message>
+        <source>Single nodes</source>
+        <translation>Einzelne Knoten</translation>
+    </message>
+    <message>
+        <source>Part %1</source>
+        <translation>Teil %1</translation>
+    </message>
+</context>
+<context>
+    <name>GroupingChoice</name>
+    <message>
+        <source>Whole network</source>
+        <translation>Ganzes Netz</translation>
+    </message>
+    <message>
+        <source>Connected part</source>
+        <translation>Zusammenhängender Teil</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Layer (%1)</source>
+        <translation>Ebene (%1)</translation>
+    </message>
+    <message>
+        <source>Zone (%1)</source>
+        <translation>Zone (%1)</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(ohne)</translation>
     </message>
 </context>
 <context>
@@ -3734,6 +3961,49 @@ braucht %1</translation>
     </message>
 </context>
 <context>
+    <name>NetworkCheck</name>
+    <message>
+        <source>Check the network</source>
+        <translation>Netz prüfen</translation>
+    </message>
+    <message>
+        <source>Look for nominations that do not balance or break bounds, nodes that are cut off, pipes that are there twice (Shift+F8)</source>
+        <translation>Nach Nominierungen suchen, die nicht aufgehen oder Schranken verletzen, nach abgeschnittenen Knoten und doppelten Leitungen (Umschalt+F8)</translation>
+    </message>
+    <message>
+        <source>Checking the network …</source>
+        <translation>Das Netz wird geprüft …</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>Die Prüfung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The check found nothing wrong.</source>
+        <translation>Die Prüfung fand nichts.</translation>
+    </message>
+    <message>
+        <source>The check found 1 thing to look at.</source>
+        <translation>Die Prüfung fand 1 Stelle zum Ansehen.</translation>
+    </message>
+    <message>
+        <source>The check found %1 things to look at.</source>
+        <translation>Die Prüfung fand %1 Stellen zum Ansehen.</translation>
+    </message>
+    <message>
+        <source>Progress of the check</source>
+        <translation>Fortschritt der Prüfung</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stop checking</source>
+        <translation>Die Prüfung abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>NetworkFileConverter</name>
     <message>
         <source>line</source>
@@ -3926,6 +4196,169 @@ braucht %1</translation>
     </message>
 </context>
 <context>
+    <name>NetworkRules</name>
+    <message>
+        <source>By the results its edges bring %1, but the node takes %2</source>
+        <translation>Nach den Ergebnissen bringen die Kanten %1, der Knoten nimmt aber %2</translation>
+    </message>
+    <message>
+        <source> (its drives burn %1)</source>
+        <translation> (seine Antriebe verbrennen %1)</translation>
+    </message>
+    <message>
+        <source>The part of %1 nodes is supplied with %2 and gives %3, %4 is left</source>
+        <translation>In den Teil aus %1 Knoten werden %2 eingespeist und %3 entnommen, %4 bleiben übrig</translation>
+    </message>
+    <message>
+        <source>%1 nodes are cut off from every source and every set pressure</source>
+        <translation>%1 Knoten sind von jeder Quelle und jedem vorgegebenen Druck abgeschnitten</translation>
+    </message>
+    <message>
+        <source>The node is cut off from every source and every set pressure</source>
+        <translation>Der Knoten ist von jeder Quelle und jedem vorgegebenen Druck abgeschnitten</translation>
+    </message>
+    <message>
+        <source>, %1 is to be taken there</source>
+        <translation>, dort sollen %1 entnommen werden</translation>
+    </message>
+    <message>
+        <source>No pressure is set in the part of %1 nodes</source>
+        <translation>In dem Teil aus %1 Knoten ist kein Druck vorgegeben</translation>
+    </message>
+    <message>
+        <source>No pressure is set at the node, which nothing joins to others</source>
+        <translation>An dem Knoten, den nichts mit anderen verbindet, ist kein Druck vorgegeben</translation>
+    </message>
+    <message>
+        <source>%1 pipes of %2 and %3 lie between the same nodes, also %4</source>
+        <translation>%1 Leitungen von %2 und %3 liegen zwischen denselben Knoten, auch %4</translation>
+    </message>
+    <message>
+        <source>The pipe is %1 long</source>
+        <translation>Die Leitung ist %1 lang</translation>
+    </message>
+    <message>
+        <source>The length of the pipe is missing</source>
+        <translation>Die Länge der Leitung fehlt</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>The heights of %1 differ by %2 over %3, %4 m per km</source>
+        <translation>Die Höhen von %1 unterscheiden sich um %2 auf %3, %4 m je km</translation>
+    </message>
+    <message>
+        <source>The heights of %1 differ by %2</source>
+        <translation>Die Höhen von %1 unterscheiden sich um %2</translation>
+    </message>
+    <message>
+        <source>%1 nodes lie at the point (%2, %3)</source>
+        <translation>%1 Knoten liegen am Punkt (%2, %3)</translation>
+    </message>
+    <message>
+        <source>%1 more of this kind are not listed</source>
+        <translation>%1 weitere dieser Art sind nicht aufgeführt</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>höchstens %1</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>The set flow is %1, contracted are %2</source>
+        <translation>Der vorgegebene Fluss ist %1, vertraglich sind %2</translation>
+    </message>
+    <message>
+        <source>The set flow is %1, allowed are %2</source>
+        <translation>Der vorgegebene Fluss ist %1, erlaubt sind %2</translation>
+    </message>
+    <message>
+        <source>The set flow is %1, the elements at the node can carry %2</source>
+        <translation>Der vorgegebene Fluss ist %1, die Elemente am Knoten können %2 tragen</translation>
+    </message>
+    <message>
+        <source>The set flow is %1, the connection can carry %2</source>
+        <translation>Der vorgegebene Fluss ist %1, der Anschluss kann %2 tragen</translation>
+    </message>
+    <message>
+        <source>The set pressure is %1, allowed are %2</source>
+        <translation>Der vorgegebene Druck ist %1, erlaubt sind %2</translation>
+    </message>
+    <message>
+        <source>The lower bound of the pressure is %1, the upper one %2</source>
+        <translation>Die untere Schranke des Drucks ist %1, die obere %2</translation>
+    </message>
+    <message>
+        <source>The lower bound of the flow is %1, the upper one %2</source>
+        <translation>Die untere Schranke des Flusses ist %1, die obere %2</translation>
+    </message>
+    <message>
+        <source>What flows to a node does not flow off</source>
+        <translation>Was zu einem Knoten fließt, fließt nicht ab</translation>
+    </message>
+    <message>
+        <source>Entries and exits of a connected part differ</source>
+        <translation>Ein- und Ausspeisungen eines zusammenhängenden Teils unterscheiden sich</translation>
+    </message>
+    <message>
+        <source>A set flow is outside of its contract</source>
+        <translation>Ein vorgegebener Fluss liegt außerhalb seines Vertrags</translation>
+    </message>
+    <message>
+        <source>A set flow is outside of its bounds</source>
+        <translation>Ein vorgegebener Fluss liegt außerhalb seiner Schranken</translation>
+    </message>
+    <message>
+        <source>A set flow is larger than the connection can carry</source>
+        <translation>Ein vorgegebener Fluss ist größer, als der Anschluss tragen kann</translation>
+    </message>
+    <message>
+        <source>A set pressure is outside of its bounds</source>
+        <translation>Ein vorgegebener Druck liegt außerhalb seiner Schranken</translation>
+    </message>
+    <message>
+        <source>A lower bound is above the upper one</source>
+        <translation>Eine untere Schranke liegt über der oberen</translation>
+    </message>
+    <message>
+        <source>Nodes are cut off from every source</source>
+        <translation>Knoten sind von jeder Quelle abgeschnitten</translation>
+    </message>
+    <message>
+        <source>Nothing holds the pressure of a connected part</source>
+        <translation>Nichts hält den Druck eines zusammenhängenden Teils</translation>
+    </message>
+    <message>
+        <source>Pipes are alike and lie between the same nodes</source>
+        <translation>Gleiche Leitungen liegen zwischen denselben Knoten</translation>
+    </message>
+    <message>
+        <source>A pipe has no length</source>
+        <translation>Eine Leitung hat keine Länge</translation>
+    </message>
+    <message>
+        <source>The height jumps between two nodes</source>
+        <translation>Die Höhe springt zwischen zwei Knoten</translation>
+    </message>
+    <message>
+        <source>Many nodes lie at one point</source>
+        <translation>Viele Knoten liegen an einem Punkt</translation>
+    </message>
+    <message>
+        <source>At all %1 nodes that state a flow the results flow the other way</source>
+        <translation>An allen %1 Knoten, die einen Fluss angeben, fließt das Gas in den Ergebnissen umgekehrt</translation>
+    </message>
+</context>
+<context>
     <name>NetworkSeries</name>
     <message>
         <source>%1 – %2</source>
@@ -4010,10 +4443,6 @@ braucht %1</translation>
         <translation>Filter der Befunde</translation>
     </message>
     <message>
-        <source>Nothing was found to be wrong.</source>
-        <translation>Es wurde nichts Fehlerhaftes gefunden.</translation>
-    </message>
-    <message>
         <source>No finding has the text of the filter.</source>
         <translation>Kein Befund enthält den Text des Filters.</translation>
     </message>
@@ -4028,6 +4457,34 @@ braucht %1</translation>
     <message>
         <source>%1 of %2 findings</source>
         <translation>%1 von %2 Befunden</translation>
+    </message>
+    <message>
+        <source>Save …</source>
+        <translation>Speichern …</translation>
+    </message>
+    <message>
+        <source>Write the findings that are shown into a workbook or a CSV file</source>
+        <translation>Die gezeigten Befunde in eine Arbeitsmappe oder eine CSV-Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Stage or rule</source>
+        <translation>Schritt oder Regel</translation>
+    </message>
+    <message>
+        <source>Shows what one stage or rule found</source>
+        <translation>Zeigt, was ein Schritt oder eine Regel fand</translation>
+    </message>
+    <message>
+        <source>All stages and rules</source>
+        <translation>Alle Schritte und Regeln</translation>
+    </message>
+    <message>
+        <source>findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Nothing was found to be wrong. Info, &quot;Check the network&quot; (Shift+F8) looks for more.</source>
+        <translation>Es wurde nichts Falsches gefunden. Info, „Netz prüfen“ (Umschalt+F8) sucht nach mehr.</translation>
     </message>
 </context>
 <context>
@@ -7067,6 +7524,86 @@ ist nicht mehr vorhanden. Entf nimmt es aus der Liste.</translation>
         <source>Light or dark windows, or as the desktop has them. A workspace does not change it.</source>
         <translation>Helle oder dunkle Fenster, oder wie die Arbeitsumgebung sie hat. Ein Arbeitsbereich ändert es nicht.</translation>
     </message>
+    <message>
+        <source>Check of the network</source>
+        <translation>Prüfung des Netzes</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>By the results, what the edges bring to a node is not what it takes.</source>
+        <translation>Nach den Ergebnissen bringen die Kanten einem Knoten anderes, als er nimmt.</translation>
+    </message>
+    <message>
+        <source>The set flows of a connected part do not sum up to nothing.</source>
+        <translation>Die vorgegebenen Flüsse eines zusammenhängenden Teils heben sich nicht auf.</translation>
+    </message>
+    <message>
+        <source>A set flow is outside of the contracted flows of its node.</source>
+        <translation>Ein vorgegebener Fluss liegt außerhalb der vertraglichen Flüsse seines Knotens.</translation>
+    </message>
+    <message>
+        <source>A set flow is outside of the bounds of its node.</source>
+        <translation>Ein vorgegebener Fluss liegt außerhalb der Schranken seines Knotens.</translation>
+    </message>
+    <message>
+        <source>A set flow is larger than its connection, or the elements there, can carry.</source>
+        <translation>Ein vorgegebener Fluss ist größer, als sein Anschluss oder die Elemente dort tragen können.</translation>
+    </message>
+    <message>
+        <source>A set pressure is outside of the bounds of its node.</source>
+        <translation>Ein vorgegebener Druck liegt außerhalb der Schranken seines Knotens.</translation>
+    </message>
+    <message>
+        <source>A lower bound is above its upper bound.</source>
+        <translation>Eine untere Schranke liegt über der oberen.</translation>
+    </message>
+    <message>
+        <source>Nodes are cut off from every source and every set pressure; without set flows it is information.</source>
+        <translation>Knoten sind von jeder Quelle und jedem vorgegebenen Druck abgeschnitten; ohne vorgegebene Flüsse ist es eine Information.</translation>
+    </message>
+    <message>
+        <source>Nothing holds a pressure in a connected part.</source>
+        <translation>Nichts hält einen Druck in einem zusammenhängenden Teil.</translation>
+    </message>
+    <message>
+        <source>Pipes lie between the same nodes and have the same length and diameter.</source>
+        <translation>Leitungen liegen zwischen denselben Knoten und haben gleiche Länge und gleichen Durchmesser.</translation>
+    </message>
+    <message>
+        <source>The length of a pipe is missing, nothing or negative.</source>
+        <translation>Die Länge einer Leitung fehlt, ist null oder negativ.</translation>
+    </message>
+    <message>
+        <source>The heights of the ends of an element differ more than can be.</source>
+        <translation>Die Höhen der Enden eines Elements unterscheiden sich mehr, als sein kann.</translation>
+    </message>
+    <message>
+        <source>Many nodes lie at the same point.</source>
+        <translation>Viele Knoten liegen am selben Punkt.</translation>
+    </message>
+    <message>
+        <source>How much of what flows may be missing in a balance.</source>
+        <translation>Wie viel von dem, was fließt, in einer Bilanz fehlen darf.</translation>
+    </message>
+    <message>
+        <source>Height between the ends of a pipe by its length that is no jump yet.</source>
+        <translation>Höhe zwischen den Enden einer Leitung je Länge, die noch kein Sprung ist.</translation>
+    </message>
+    <message>
+        <source>Height between the ends of any element that is no jump yet.</source>
+        <translation>Höhe zwischen den Enden eines beliebigen Elements, die noch kein Sprung ist.</translation>
+    </message>
+    <message>
+        <source>As many nodes at the same point are too many.</source>
+        <translation>So viele Knoten am selben Punkt sind zu viele.</translation>
+    </message>
 </context>
 <context>
     <name>SettingField</name>
@@ -7720,6 +8257,29 @@ Wählen Sie eine Einstellung, um über sie zu lesen; Eingabe, Leertaste oder ein
     <message>
         <source>it is no SVG text</source>
         <translation>es ist kein SVG-Text</translation>
+    </message>
+</context>
+<context>
+    <name>TableFileDialog</name>
+    <message>
+        <source>Workbook (*.xlsx)</source>
+        <translation>Arbeitsmappe (*.xlsx)</translation>
+    </message>
+    <message>
+        <source>CSV with decimal point and commas (*.csv)</source>
+        <translation>CSV mit Dezimalpunkt und Kommas (*.csv)</translation>
+    </message>
+    <message>
+        <source>CSV with decimal comma and semicolons (*.csv)</source>
+        <translation>CSV mit Dezimalkomma und Semikolons (*.csv)</translation>
+    </message>
+    <message>
+        <source>Text with tabulators (*.txt)</source>
+        <translation>Text mit Tabulatoren (*.txt)</translation>
+    </message>
+    <message>
+        <source>Save table</source>
+        <translation>Tabelle speichern</translation>
     </message>
 </context>
 <context>

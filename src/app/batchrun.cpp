@@ -1,6 +1,7 @@
 #include "batchrun.h"
 
 #include "language/language.h"
+#include "networkcheck.h"
 #include "networkinfo.h"
 #include "settings/numberlocale.h"
 
@@ -231,14 +232,17 @@ bool BatchRun::answerList(const BatchTask::List &list, QString *reason) {
   return deliver(list.path, names, reason);
 }
 
-/// A line a finding, with its stage and element. What is said for information is listed but counts for nothing.
+/// A line a finding, with its stage or rule and its element. What is said for information is listed but counts for nothing.
 void BatchRun::check(const BatchTask::Output &output) {
   m_outcome.isChecked = output.isWanted;
   if (!output.isWanted)
     return;
   QByteArray lines;
   FindingList list;
-  list.set(m_loader.noticed());
+  std::vector<FindingList::Group> groups = m_loader.noticed();
+  for (FindingList::Group &rule : NetworkCheck::check(m_net))
+    groups.push_back(std::move(rule));
+  list.set(std::move(groups));
   for (const FindingList::Group &group : list.groups()) {
     for (const Finding &finding : group.findings) {
       if (finding.severity == Finding::Severity::Debug)

@@ -31,6 +31,7 @@ CaseOpening::CaseOpening(const Parts &parts)
   connect(&m_reading, &CaseReading::begins, this, [this] {
     m_parts.subnets.closeAll(); // parts of the network before
     m_parts.tools.forgetElements();
+    m_checked.clear();
   });
   connectFiles();
 }
@@ -198,7 +199,13 @@ void CaseOpening::showFindings() {
       groups.push_back(std::move(group));
     }
   }
+  groups.insert(groups.end(), m_checked.begin(), m_checked.end());
   m_parts.tools.setFindings(groups);
+}
+
+void CaseOpening::noticeChecked(const std::vector<FindingList::Group> &groups) {
+  m_checked = groups;
+  showFindings();
 }
 
 ReadFiles::Stamps CaseOpening::filesShown() const {

@@ -55,6 +55,8 @@ public:
   void loadSettings();
   /// What reading noticed, also of other scenarios for their pages.
   void showFindings();
+  /// What the check of the network found, until another one is read.
+  void noticeChecked(const std::vector<FindingList::Group> &groups);
   /// Settings were written by the program itself.
   void takeSettings();
 
@@ -80,6 +82,7 @@ private:
   CaseReading m_reading;
   ReloadOffer *m_reloadOffer;
   std::map<QString, std::vector<FindingList::Group>> m_onPages; ///< by scenario
-  FileStamp m_settingsRead;                                     ///< of the general settings of the workspace
-  bool m_isRead = false;                                        ///< what is shown: the last reading yielded a network
+  std::vector<FindingList::Group> m_checked;
+  FileStamp m_settingsRead; ///< of the general settings of the workspace
+  bool m_isRead = false;    ///< what is shown: the last reading yielded a network
 };

@@ -119,9 +119,10 @@ public:
                            QStringLiteral("PROPERTIES")};
   QCommandLineOption type{QStringLiteral("type"), tr("Element type of the --table, such as p or pipe."),
                           QStringLiteral("TYPE")};
-  QCommandLineOption check{QStringLiteral("check"),
-                           tr("Lists findings and violated bounds. Exit status 0: there are none, 3: findings, 4: violated "
-                              "bounds.")};
+  QCommandLineOption check{
+      QStringLiteral("check"),
+      tr("Lists findings, what the rules for networks find, and violated bounds. Exit status 0: there is "
+         "nothing, 3: findings, 4: violated bounds.")};
 
   QList<QCommandLineOption> all() const { return {info, search, table, type, check}; }
 

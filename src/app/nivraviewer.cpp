@@ -8,6 +8,7 @@
 #include "layerkeeper.h"
 #include "logo.h"
 #include "mnemonics.h"
+#include "networkcheck.h"
 #include "opendialog.h"
 #include "otherwindows.h"
 #include "recentmenu.h"
@@ -193,6 +194,15 @@ void NivraViewer::setUpCommands() {
   connect(m_commands, &Commands::elementChosen, this,
           [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
   connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
+  setUpCheck();
+}
+
+void NivraViewer::setUpCheck() {
+  m_check = new NetworkCheck(m_net, *m_ui->statusbar, this);
+  m_ui->menuInfo->addAction(m_check->action());
+  connect(&m_opening->reading(), &CaseReading::begins, m_check, &NetworkCheck::forget);
+  connect(m_check, &NetworkCheck::found, m_opening.get(), &CaseOpening::noticeChecked);
+  connect(m_check, &NetworkCheck::told, m_tools, &ToolDocks::bringFindings);
 }
 
 QString NivraViewer::openFile() const {
@@ -284,6 +294,7 @@ void NivraViewer::on_actionSettings_triggered() {
   auto *dialog = new SettingsDialog(m_opening->workspace().root(), this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &SettingsDialog::applied, m_opening.get(), &CaseOpening::takeSettings);
+  connect(dialog, &SettingsDialog::applied, m_check, &NetworkCheck::again);
   connect(dialog, &SettingsDialog::applied, m_language, &LanguageChoice::offerRestart);
   dialog->open();
 }
@@ -301,7 +312,7 @@ void NivraViewer::showTitle() {
 /// and change it under the reader's hands.
 void NivraViewer::setBusy(bool busy) {
   for (QAction *action : {m_ui->actionOpen, m_ui->actionSettings, m_ui->actionSearch, m_ui->actionElement_Table,
-                          m_ui->actionMetadataTable, m_ui->actionPrint, m_ui->actionSavePage, m_reload})
+                          m_ui->actionMetadataTable, m_ui->actionPrint, m_ui->actionSavePage, m_reload, m_check->action()})
     action->setEnabled(!busy);
   QWidgetList widgets{m_ui->menubar, m_commands->toolBar(), m_control->plot()};
   for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))

@@ -19,6 +19,7 @@ class Commands;
 class LanguageChoice;
 class LayerKeeper;
 class NetVisControl;
+class NetworkCheck;
 class SubnetWindows;
 class ToolDocks;
 
@@ -74,6 +75,7 @@ private:
   void setUpOpening();
   void setUpSubnets();
   void setUpCommands();
+  void setUpCheck();
   void applyStyleSheet(const QString &path);
   void closeIfWanted();
   void addChange(const ElementChange &change);
@@ -93,6 +95,7 @@ private:
   std::unique_ptr<CaseOpening> m_opening;
   QAction *m_reload;
   Commands *m_commands = nullptr;
+  NetworkCheck *m_check = nullptr;
   std::vector<ElementChange> m_changes; ///< since the last showChanges()
   OncePerTurn m_showingChanges;
   LanguageChoice *m_language = nullptr;

@@ -13,6 +13,8 @@
 #include <base/nivramsg.h>
 #include <characteristics/characteristicsstack.h>
 #include <io/nivraworkspace.h>
+#include <tools/balancedock.h>
+#include <tools/categorylist.h>
 #include <tools/elementtable.h>
 #include <tools/nivrafindings.h>
 #include <tools/nivranetlayerseditor.h>
@@ -83,6 +85,7 @@ void ToolDocks::createReports() {
     m_control.showElement(name);
     emit elementMarked(name);
   });
+  connect(m_findings, &NivraFindings::elementsWanted, this, &ToolDocks::selectElements);
   m_scenario = new ScenarioDock(&m_window);
   addDock(m_scenario, QStringLiteral("scenario"), Qt::BottomDockWidgetArea);
 }
@@ -182,6 +185,26 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
   if (m_elementTable == nullptr)
     createElementTable();
   m_elementTable->refresh(m_directory);
+  if (m_balance == nullptr && m_extent == Extent::Program)
+    createBalance();
+  if (m_balance != nullptr)
+    m_balance->refresh();
+}
+
+void ToolDocks::createBalance() {
+  m_balance = new BalanceDock(m_net, *m_categoryList, &m_window);
+  addDock(m_balance, QStringLiteral("balance"), Qt::BottomDockWidgetArea);
+  connect(m_balance, &BalanceDock::elementsWanted, this, &ToolDocks::selectElements);
+  connect(m_categoryList.get(), &CategoryList::changed, m_balance, &BalanceDock::refresh);
+}
+
+/// All of them, and the first in the middle of the drawing where it is out of sight.
+void ToolDocks::selectElements(const QStringList &names) {
+  Selection selection;
+  for (const QString &name : names)
+    Topology::select(m_net, name, selection);
+  m_control.picker()->setSelection(selection);
+  m_control.showElement(names.first());
 }
 
 void ToolDocks::createElementTable() {
@@ -198,6 +221,8 @@ void ToolDocks::createElementTable() {
 void ToolDocks::forgetElements() {
   if (m_elementTable != nullptr)
     m_elementTable->forget();
+  if (m_balance != nullptr)
+    m_balance->forget();
 }
 
 void ToolDocks::createCharacteristics() {
@@ -292,6 +317,8 @@ void ToolDocks::showChanges() {
   m_layers->takeChanges();
   m_windows->showChanges();
   m_elementTable->showChanges();
+  if (m_balance != nullptr)
+    m_balance->refresh();
   m_search->takeChanges(m_control.showsSearchResults());
   if (m_characteristics != nullptr)
     m_characteristics->refresh(); // the working points
@@ -312,6 +339,11 @@ void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
   const int count = m_findings->count();
   m_findingsButton->setText(count == 1 ? tr("1 finding") : tr("%1 findings").arg(count));
   m_findingsButton->setVisible(count > 0);
+}
+
+void ToolDocks::bringFindings() {
+  if (m_findings->count() > 0)
+    m_findingsButton->click();
 }
 
 void ToolDocks::setScenario(const ScenarioSummary &summary) {

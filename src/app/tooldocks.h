@@ -15,6 +15,7 @@
 #include <memory>
 #include <vector>
 
+class BalanceDock;
 class CategoryList;
 class CharacteristicsStack;
 class ElementPanels;
@@ -87,6 +88,8 @@ public:
   /// What case and scenario say beside the network.
   void setScenario(const ScenarioSummary &summary);
   void setFindings(const std::vector<FindingList::Group> &groups);
+  /// Where there are any.
+  void bringFindings();
   /// Says how many there are, and brings them; hidden while there are none.
   QToolButton *findingsButton() const { return m_findingsButton; }
 
@@ -109,6 +112,8 @@ private:
   void createCategories();
   void createCharacteristics();
   void createElementTable();
+  void createBalance();
+  void selectElements(const QStringList &names);
   void connectVectorTable(NivraVecTable *table);
   void showSelection();
 
@@ -127,6 +132,7 @@ private:
   QToolButton *m_findingsButton = nullptr;
   NivraSearch *m_search = nullptr;
   ElementTable *m_elementTable = nullptr;
+  BalanceDock *m_balance = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;
   NivraNetObjectCats *m_categories = nullptr;
   ScenarioSummary m_summary;

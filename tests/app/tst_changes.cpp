@@ -263,7 +263,8 @@ void TestChanges::windowsOfSubnetsHaveCommands() {
                                  QStringLiteral("Settings …"),         QStringLiteral("Exit"),
                                  QStringLiteral("About Nivra Reader"), QStringLiteral("Messages"),
                                  QStringLiteral("Findings"),           QStringLiteral("Scenario"),
-                                 QStringLiteral("Characteristics"),    QStringLiteral("Open subnet in a window of its own")};
+                                 QStringLiteral("Characteristics"),    QStringLiteral("Open subnet in a window of its own"),
+                                 QStringLiteral("Check the network"),  QStringLiteral("Balance")};
   const QStringList menusOfTheProgram{QStringLiteral("Open Recent"), QStringLiteral("Appearance"),
                                       QStringLiteral("Language")};
   for (const Command &command : CommandList::of(viewer.menuBar()->actions(), viewer)) {

@@ -32,7 +32,7 @@ void TestHelp::pages() {
 void TestHelp::everyToolHasAPage_data() {
   QTest::addColumn<QString>("page");
   for (const char *page : {"tab_cat_search.html", "search", "layers", "categories", "propertyViewer", "elementInformation",
-                           "findings", "messages", "configureDraw", "metadata"})
+                           "findings", "balance", "messages", "configureDraw", "metadata"})
     QTest::newRow(page) << QString::fromLatin1(page);
 }
 

@@ -51,7 +51,8 @@ private:
 void TestJobs::init() {
   m_workspace = std::make_unique<WorkspaceFixture>();
   QDir(m_workspace->root()).mkpath(QStringLiteral("CASE/S10"));
-  m_workspace->write(QStringLiteral("CASE/S10/S10.scen.jsn"), "{\n\"A\":[{\"property\":\"qset\",\"value\":-7}]\n}\n");
+  m_workspace->writeBalanced(QStringLiteral("S1"), "5");
+  m_workspace->writeBalanced(QStringLiteral("S10"), "7");
   for (const char *scenario : {"S1", "S10"})
     m_workspace->write(QStringLiteral("CASE/%1/%1.gas.jsn").arg(QLatin1String(scenario)),
                        "{\n\"H\":{\"obj_type\":\"gas\",\"hs\":12.7}\n}\n");

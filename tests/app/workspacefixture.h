@@ -38,6 +38,16 @@ public:
            "}\n";
   }
 
+  /// A scenario in which as much leaves at C as enters at A, where the pressure is held, with results that say the same: it
+  /// breaks no rule.
+  void writeBalanced(const QString &scenario, const QByteArray &flow) const {
+    const QString base = QStringLiteral("CASE/%1/%1").arg(scenario);
+    write(base + QStringLiteral(".scen.jsn"),
+          "{\n\"A\":[{\"property\":\"qset\",\"value\":-" + flow +
+              "},{\"property\":\"pset\",\"value\":50}]\n,\"C\":[{\"property\":\"qset\",\"value\":" + flow + "}]\n}\n");
+    write(base + QStringLiteral(".res.jsn"), "{\n\"P1\":{\"q\":" + flow + "}\n,\"K1\":{\"q\":" + flow + "}\n}\n");
+  }
+
   QString root() const { return m_root.path(); }
   QString geometry() const { return path(QStringLiteral("CASE/CASE.geom.jsn")); }
   QString scenario() const { return path(QStringLiteral("CASE/S1/S1.scen.jsn")); }

@@ -51,7 +51,8 @@ QString groupOf(const SettingsTable::Row &row) {
       {QStringLiteral("mouse and keys"), QT_TRANSLATE_NOOP("SettingDescription", "Mouse and keys")},
       {QStringLiteral("status bar"), QT_TRANSLATE_NOOP("SettingDescription", "Status bar")},
       {QStringLiteral("special"), QT_TRANSLATE_NOOP("SettingDescription", "Special")},
-      {QStringLiteral("units and numbers"), QT_TRANSLATE_NOOP("SettingDescription", "Units and numbers")}};
+      {QStringLiteral("units and numbers"), QT_TRANSLATE_NOOP("SettingDescription", "Units and numbers")},
+      {QStringLiteral("network check"), QT_TRANSLATE_NOOP("SettingDescription", "Check of the network")}};
   if (row.effect == SettingsTable::Kept)
     return translated(QT_TRANSLATE_NOOP("SettingDescription", "For other tools, without effect here"));
   const QString category = QString::fromLatin1(row.category);
@@ -92,7 +93,8 @@ QString formTitle(const QString &option) {
         QT_TRANSLATE_NOOP("SettingDescription", "point"), QT_TRANSLATE_NOOP("SettingDescription", "comma"),
         QT_TRANSLATE_NOOP("SettingDescription", "labels only"), QT_TRANSLATE_NOOP("SettingDescription", "none"),
         QT_TRANSLATE_NOOP("SettingDescription", "space"), QT_TRANSLATE_NOOP("SettingDescription", "apostrophe"),
-        QT_TRANSLATE_NOOP("SettingDescription", "other sign")}) {
+        QT_TRANSLATE_NOOP("SettingDescription", "other sign"), QT_TRANSLATE_NOOP("SettingDescription", "warning"),
+        QT_TRANSLATE_NOOP("SettingDescription", "information"), QT_TRANSLATE_NOOP("SettingDescription", "off")}) {
     if (option == QLatin1String(known))
       return translated(known);
   }
@@ -107,10 +109,11 @@ QString titleOf(const QString &key, const QString &option) {
                             : Units::written(option);
   if (option.isEmpty())
     return translated(QT_TRANSLATE_NOOP("SettingDescription", "none"));
-  if (!key.endsWith(QLatin1String("brush style")))
-    return QLatin1String(SettingsTable::row(key.toLatin1().constData()).category) == QLatin1String("units and numbers")
-               ? formTitle(option)
-               : option;
+  if (!key.endsWith(QLatin1String("brush style"))) {
+    const QLatin1String category(SettingsTable::row(key.toLatin1().constData()).category);
+    const bool hasWords = category == QLatin1String("units and numbers") || category == QLatin1String("network check");
+    return hasWords ? formTitle(option) : option;
+  }
   static const char *const Patterns[] = {
       QT_TRANSLATE_NOOP("SettingDescription", "not filled"), QT_TRANSLATE_NOOP("SettingDescription", "filled"),
       QT_TRANSLATE_NOOP("SettingDescription", "dots, 94 %"), QT_TRANSLATE_NOOP("SettingDescription", "dots, 88 %"),

@@ -14,6 +14,11 @@ void FindingFilter::setText(const QString &text) {
   invalidate();
 }
 
+void FindingFilter::setGroup(const QString &name) {
+  m_group = name;
+  invalidate();
+}
+
 int FindingFilter::count() const {
   int count = 0;
   for (int group = 0; group < rowCount(); ++group)
@@ -30,5 +35,11 @@ QVariant FindingFilter::data(const QModelIndex &index, int role) const {
 }
 
 bool FindingFilter::filterAcceptsRow(int row, const QModelIndex &parent) const {
-  return m_text.isEmpty() || (parent.isValid() && FindingList::says(m_findings.at(parent.row(), row), m_text));
+  const FindingList::Group &group = m_findings.at(parent.isValid() ? parent.row() : row);
+  if (!m_group.isEmpty() && group.name != m_group)
+    return false;
+  if (m_text.isEmpty())
+    return true;
+  return parent.isValid() && (FindingList::says(m_findings.at(parent.row(), row), m_text) ||
+                              (group.isRule() && group.name.contains(m_text, Qt::CaseInsensitive)));
 }

@@ -12,8 +12,11 @@ public:
 
   /// Lays out all rows anew: to take single ones out of 100,000, thousands of times, would take seconds.
   void setText(const QString &text);
+  /// Shows what one stage or rule found; those of all for an empty name.
+  void setGroup(const QString &name);
   /// Findings of all stages that are shown.
   int count() const;
+  const FindingModel &findings() const { return m_findings; }
 
   QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const final;
 
@@ -23,4 +26,5 @@ protected:
 private:
   const FindingModel &m_findings;
   QString m_text;
+  QString m_group; ///< its name, empty for all
 };

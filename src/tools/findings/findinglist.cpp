@@ -10,6 +10,8 @@ void FindingList::set(std::vector<Group> groups) {
       if (finding.text.isEmpty())
         finding.text = finding.box;
     }
+    if (group.isRule())
+      continue;
     Findings &findings = group.findings;
     findings.erase(std::remove_if(findings.begin(), findings.end(), [](const Finding &f) { return f.text.isEmpty(); }),
                    findings.end());
@@ -21,6 +23,13 @@ void FindingList::set(std::vector<Group> groups) {
 QString FindingList::location(const Finding &finding) {
   const QString file = finding.file.mid(finding.file.lastIndexOf(QLatin1Char('/')) + 1);
   return finding.line > 0 ? QStringLiteral("%1:%2").arg(file).arg(finding.line) : file;
+}
+
+QStringList FindingList::elements(const Group &group, int finding) {
+  if (!group.elements.empty())
+    return group.elements[fromQt(finding)];
+  const QString &element = group.findings[fromQt(finding)].element;
+  return element.isEmpty() ? QStringList() : QStringList(element);
 }
 
 bool FindingList::says(const Finding &finding, const QString &text) {

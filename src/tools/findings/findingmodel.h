@@ -9,7 +9,8 @@ using FindingGroups = NamedGroups<FindingList::Group, &FindingList::Group::findi
 class FindingModel final : public FindingGroups {
   Q_OBJECT
 public:
-  enum Columns { TextColumn, ElementColumn, FileColumn };
+  enum Columns { TextColumn, ElementColumn, RuleColumn, FileColumn };
+  enum Roles { ElementsRole = Qt::UserRole }; ///< names of all elements that a finding is about
 
   explicit FindingModel(QObject *parent = nullptr);
 
@@ -19,8 +20,11 @@ public:
 
 protected:
   const std::vector<FindingList::Group> &groups() const final { return m_list.groups(); }
+  QVariant groupData(int group, int column, int role) const final;
   QVariant entryData(int group, int entry, int column, int role) const final;
 
 private:
+  QString text(int group, int entry, int column) const;
+
   FindingList m_list;
 };

@@ -111,6 +111,24 @@ inline constexpr Row Rows[] = {
      Acts},
     {"number digits in files", "0", "string", "units and numbers", "", Acts},
     {"thousands in files", "none", "list", "units and numbers", "none,space,apostrophe,other sign", Acts},
+    // The check of the network: how bad it is to break a rule, and where the thresholds lie.
+    {"rule: node-balance", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: nomination-balance", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: nomination-contract", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: nomination-bounds", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: nomination-capacity", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: set-pressure", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: crossed-bounds", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: cut-off", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: no-pressure-set-point", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: duplicate-pipes", "information", "list", "network check", "warning,information,off", Acts},
+    {"rule: zero-length", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: height-jump", "warning", "list", "network check", "warning,information,off", Acts},
+    {"rule: same-position", "information", "list", "network check", "warning,information,off", Acts},
+    {"rule: tolerance of balances", "0.1", "string", "network check", "", Acts},
+    {"rule: steepest pipe", "300", "string", "network check", "", Acts},
+    {"rule: highest step in a station", "30", "string", "network check", "", Acts},
+    {"rule: nodes at one point", "10", "string", "network check", "", Acts},
     // Kept for the tools that prepare networks on the same workspaces: the viewer's own check adds no properties, knows no
     // subnets and asks for no property by its name; subnets are always updated in one way and their windows place labels
     // whatever is seen of them; every bound that is violated is told, searched and shown by the rings of subnets.
@@ -221,6 +239,10 @@ inline constexpr NumberBounds Numbers[] = {
     {"number digits on screen", 1, 15, true, ""},
     {"number digits in labels", 1, 15, true, ""},
     {"number digits in files", 0, 17, true, ""},
+    {"rule: tolerance of balances", 0, 100, false, "%"},
+    {"rule: steepest pipe", 1, 1e6, false, "m/km"},
+    {"rule: highest step in a station", 0, 10000, false, "m"},
+    {"rule: nodes at one point", 2, 1000000, true, ""},
 };
 
 /// Null for a setting that is no number, or may be any.
