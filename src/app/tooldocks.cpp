@@ -19,6 +19,7 @@
 #include <tools/nivranetobjectcats.h>
 #include <tools/nivrasearch.h>
 #include <tools/nivravectable.h>
+#include <tools/scenariosetdock.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 #include <view/viewfuncdialog.h>
@@ -182,6 +183,18 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
   if (m_elementTable == nullptr)
     createElementTable();
   m_elementTable->refresh(m_directory);
+  if (m_scenarioSet == nullptr && m_extent == Extent::Program)
+    createScenarioSet();
+  if (m_scenarioSet != nullptr)
+    m_scenarioSet->refresh(workspace);
+}
+
+void ToolDocks::createScenarioSet() {
+  m_scenarioSet = new ScenarioSetDock(m_net, &m_window);
+  addDock(m_scenarioSet, QStringLiteral("scenarioSet"), Qt::BottomDockWidgetArea);
+  connect(m_scenarioSet, &ScenarioSetDock::elementsChanged, this, &ToolDocks::elementsChanged);
+  connect(m_scenarioSet, &ScenarioSetDock::scenarioWanted, this, &ToolDocks::scenarioWanted);
+  connect(&m_control, &NetVisControl::currentElementChanged, m_scenarioSet, &ScenarioSetDock::showElement);
 }
 
 void ToolDocks::createElementTable() {
@@ -198,6 +211,8 @@ void ToolDocks::createElementTable() {
 void ToolDocks::forgetElements() {
   if (m_elementTable != nullptr)
     m_elementTable->forget();
+  if (m_scenarioSet != nullptr)
+    m_scenarioSet->forget();
 }
 
 void ToolDocks::createCharacteristics() {
@@ -302,6 +317,8 @@ void ToolDocks::takeSettings() {
   m_draw->changeUnits();
   if (m_scenario != nullptr)
     m_scenario->setScenario(m_summary, *m_net.metaData());
+  if (m_scenarioSet != nullptr)
+    m_scenarioSet->showAgain();
   showChanges();
 }
 

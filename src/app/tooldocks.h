@@ -28,6 +28,7 @@ class NivraSearch;
 class NivraVecTable;
 class NivraWorkspace;
 class ScenarioDock;
+class ScenarioSetDock;
 class ToolWindows;
 class QDockWidget;
 class QMainWindow;
@@ -95,6 +96,7 @@ signals:
   void saveLayersWanted();
   void loadLayersWanted();
   void elementsChanged(const ElementChange &change); ///< by one of the tools
+  void scenarioWanted(const QString &file);          ///< in place of what is open
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
@@ -109,6 +111,7 @@ private:
   void createCategories();
   void createCharacteristics();
   void createElementTable();
+  void createScenarioSet();
   void connectVectorTable(NivraVecTable *table);
   void showSelection();
 
@@ -127,6 +130,7 @@ private:
   QToolButton *m_findingsButton = nullptr;
   NivraSearch *m_search = nullptr;
   ElementTable *m_elementTable = nullptr;
+  ScenarioSetDock *m_scenarioSet = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;
   NivraNetObjectCats *m_categories = nullptr;
   ScenarioSummary m_summary;
