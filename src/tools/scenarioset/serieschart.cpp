@@ -151,13 +151,13 @@ void SeriesChart::setAxis() {
   }
   setAxisScaleDraw(xBottom, new ScenarioScale(*this));
   setAxisScaleEngine(xBottom, new QwtLinearScaleEngine);
-  constexpr double Most = 8.0; // names beside one another
-  const auto count = static_cast<double>(std::max<std::size_t>(m_series.points.size(), 1));
-  setAxisScale(xBottom, -0.5, count - 0.5, std::max(1.0, std::ceil(count / Most)));
+  constexpr std::size_t MostNames = 8; // beside one another
+  const std::size_t count = std::max<std::size_t>(m_series.points.size(), 1);
+  const std::size_t step = (count + MostNames - 1) / MostNames;
   QList<double> ticks;
-  for (double at = 0.0; at < count; at += std::max(1.0, std::ceil(count / Most)))
-    ticks.append(at);
-  setAxisScaleDiv(xBottom, QwtScaleDiv(-0.5, count - 0.5, {}, {}, ticks));
+  for (std::size_t at = 0; at < count; at += step)
+    ticks.append(static_cast<double>(at));
+  setAxisScaleDiv(xBottom, QwtScaleDiv(-0.5, static_cast<double>(count) - 0.5, {}, {}, ticks));
 }
 
 void SeriesChart::addLines() {

@@ -1,6 +1,5 @@
 #include "scenarioset/setchoice.h"
 
-#include <base/index.h>
 #include <model/netmetadata.h>
 #include <model/titles.h>
 #include <tools/filterfield.h>

@@ -5,8 +5,6 @@
 
 #include <QDockWidget>
 
-#include <memory>
-
 class NetData;
 class ScenarioSetPage;
 
