@@ -148,6 +148,28 @@ window selection "$example" 'press ctrl+2; drag 420 400 720 640; sleep 1'
 window findings "$example" 'run_command findings; press F8; sleep 2'
 window balance "$example" 'run_command balance; sleep 1; press shift+F8; sleep 2; run_command balance; sleep 1'
 window scenario "$example" 'run_command "scenario view"; sleep 0.5'
+year=$data/root/year/DE_H2/2015-07-01/2015-07-01.scen.jsn
+make_year() { # a scenario a day, with pressures that fall in winter
+  local to=$data/root/year/DE_H2 day i
+  mkdir -p "$to"
+  find example/DE_H2 -maxdepth 1 -type f -exec cp {} "$to" \;
+  for ((i = 0; i < 365; ++i)); do
+    day=$(date -u -d "2015-01-01 + $i days" +%F)
+    mkdir "$to/$day"
+    cp example/DE_H2/S5/S5.scen.jsn "$to/$day/$day.scen.jsn"
+    cp example/DE_H2/S5/S5.gas.jsn "$to/$day/$day.gas.jsn"
+    cp example/DE_H2/S5/solverconfig.jsn "$to/$day"
+    sed "s/\\bS5\\b/$day/g" example/DE_H2/S5/scenconfig.jsn >"$to/$day/scenconfig.jsn"
+    awk -v i="$i" '{ factor = 1 - 0.04 * (1 + cos((i - 20) * 0.01721)) + 0.012 * sin(i * 1.7) * cos(i * 0.31)
+      if (match($0, /"p":[0-9.]+/)) { p = substr($0, RSTART + 4, RLENGTH - 4) * factor
+        $0 = substr($0, 1, RSTART + 3) sprintf("%.5f", p) substr($0, RSTART + RLENGTH) } print }' \
+      example/DE_H2/S5/S5.res.jsn >"$to/$day/$day.res.jsn"
+  done
+}
+if wants scenario-set; then
+  make_year
+  window scenario-set "$year" 'run_command "scenario set"; drag 600 600 600 480; click 230 835; sleep 3; go_to N_Bremen; sleep 2'
+fi
 window commands "$example" 'press ctrl+shift+p; sleep 0.5; say "edge press"; sleep 0.5'
 window settings "$example" 'press ctrl+comma; sleep 1.5; press Down Down Down; shoot "$(find_window "^Settings")"'
 window page "$example" 'press ctrl+alt+p; sleep 3; shoot "$(find_window "Page|Print")"'

@@ -6494,6 +6494,68 @@ ist nicht mehr vorhanden. Entf nimmt es aus der Liste.</translation>
     </message>
 </context>
 <context>
+    <name>ScenarioSetDock</name>
+    <message>
+        <source>Scenario Set</source>
+        <translation>Szenarienmenge</translation>
+    </message>
+</context>
+<context>
+    <name>ScenarioSetPage</name>
+    <message>
+        <source>Reading the series of %1: %2 %</source>
+        <translation>Reihe von %1 wird gelesen: %2 %</translation>
+    </message>
+    <message>
+        <source>Computing was cancelled.</source>
+        <translation>Die Berechnung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The scenarios give no element any of these properties.</source>
+        <translation>Die Szenarien geben keinem Element eine dieser Eigenschaften.</translation>
+    </message>
+    <message>
+        <source>No scenario can be read: %1</source>
+        <translation>Kein Szenario kann gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 scenarios; the figures are properties such as %2.</source>
+        <translation>%1 Szenarien; die Kennzahlen sind Eigenschaften wie %2.</translation>
+    </message>
+    <message>
+        <source>Quantiles are estimated.</source>
+        <translation>Die Quantile sind geschätzt.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read: %2</source>
+        <translation>%1 konnten nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The network has properties of its own called %1.</source>
+        <translation>Das Netz hat eigene Eigenschaften namens %1.</translation>
+    </message>
+    <message>
+        <source>Choose scenarios and properties and press &quot;Compute&quot;: minimum, maximum, mean and quantiles become properties of the elements, and the values of the current element stand here.</source>
+        <translation>Wählen Sie Szenarien und Eigenschaften und drücken Sie „Berechnen“: Minimum, Maximum, Mittel und Quantile werden Eigenschaften der Elemente, und hier stehen die Werte des aktuellen Elements.</translation>
+    </message>
+    <message>
+        <source>Nothing is open. Open a case with several scenarios.</source>
+        <translation>Es ist nichts geöffnet. Öffnen Sie einen Fall mit mehreren Szenarien.</translation>
+    </message>
+    <message>
+        <source>Click an element to see its values over the scenarios.</source>
+        <translation>Klicken Sie auf ein Element, um seine Werte über die Szenarien zu sehen.</translation>
+    </message>
+    <message>
+        <source>The set has no values of %1.</source>
+        <translation>Die Menge hat keine Werte von %1.</translation>
+    </message>
+    <message>
+        <source>Reading the series of %1 …</source>
+        <translation>Reihe von %1 wird gelesen …</translation>
+    </message>
+</context>
+<context>
     <name>ScenarioSummary</name>
     <message>
         <source>Case</source>
@@ -6583,6 +6645,17 @@ ist nicht mehr vorhanden. Entf nimmt es aus der Liste.</translation>
     <message>
         <source>replace</source>
         <translation>ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>SeriesChart</name>
+    <message>
+        <source>Values over the scenarios</source>
+        <translation>Werte über die Szenarien</translation>
+    </message>
+    <message>
+        <source>pictures of the kind &quot;%1&quot; are not known</source>
+        <translation>Bilder der Art „%1“ sind nicht bekannt</translation>
     </message>
 </context>
 <context>
@@ -6721,6 +6794,81 @@ ist nicht mehr vorhanden. Entf nimmt es aus der Liste.</translation>
     </message>
 </context>
 <context>
+    <name>SeriesPanel</name>
+    <message>
+        <source>Property of the series</source>
+        <translation>Eigenschaft der Reihe</translation>
+    </message>
+    <message>
+        <source>Save picture …</source>
+        <translation>Bild speichern …</translation>
+    </message>
+    <message>
+        <source>Save the chart as a picture</source>
+        <translation>Das Diagramm als Bild speichern</translation>
+    </message>
+    <message>
+        <source>Save series …</source>
+        <translation>Reihe speichern …</translation>
+    </message>
+    <message>
+        <source>Save the values as a table</source>
+        <translation>Die Werte als Tabelle speichern</translation>
+    </message>
+    <message>
+        <source>5 %</source>
+        <translation>5 %</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>95 %</source>
+        <translation>95 %</translation>
+    </message>
+    <message>
+        <source>%1 values in %2: minimum %3 (%4), maximum %5 (%6)</source>
+        <translation>%1 Werte in %2: Minimum %3 (%4), Maximum %5 (%6)</translation>
+    </message>
+    <message>
+        <source>mean %1, standard deviation %2</source>
+        <translation>Mittel %1, Standardabweichung %2</translation>
+    </message>
+    <message>
+        <source>quantiles 5 % %1, 25 % %2, 50 % %3, 75 % %4, 95 % %5</source>
+        <translation>Quantile 5 % %1, 25 % %2, 50 % %3, 75 % %4, 95 % %5</translation>
+    </message>
+    <message>
+        <source>Save picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Portable Network Graphics (*.png)</source>
+        <translation>Portable Network Graphics (*.png)</translation>
+    </message>
+    <message>
+        <source>Scalable Vector Graphics (*.svg)</source>
+        <translation>Scalable Vector Graphics (*.svg)</translation>
+    </message>
+    <message>
+        <source>Portable Document Format (*.pdf)</source>
+        <translation>Portable Document Format (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save series</source>
+        <translation>Reihe speichern</translation>
+    </message>
+    <message>
+        <source>CSV with decimal point and commas (*.csv)</source>
+        <translation>CSV mit Dezimalpunkt und Kommas (*.csv)</translation>
+    </message>
+    <message>
+        <source>Workbook (*.xlsx)</source>
+        <translation>Arbeitsmappe (*.xlsx)</translation>
+    </message>
+</context>
+<context>
     <name>Session</name>
     <message>
         <source>the places of window and docks are damaged and not used</source>
@@ -6752,6 +6900,123 @@ ist nicht mehr vorhanden. Entf nimmt es aus der Liste.</translation>
     <message>
         <source>%1 was written since this case was open here, so it decides how the network is drawn.</source>
         <translation>%1 wurde geschrieben, seit dieser Fall hier offen war, und bestimmt deshalb, wie das Netz gezeichnet wird.</translation>
+    </message>
+</context>
+<context>
+    <name>SetChoice</name>
+    <message>
+        <source>Compute</source>
+        <translation>Berechnen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>All scenarios, or such as 2015-01*, cold*</source>
+        <translation>Alle Szenarien, oder solche wie 2015-01*, kalt*</translation>
+    </message>
+    <message>
+        <source>Names of the scenarios</source>
+        <translation>Namen der Szenarien</translation>
+    </message>
+    <message>
+        <source>Names with wildcards, separated by commas</source>
+        <translation>Namen mit Platzhaltern, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>Read the scenarios and make properties of their figures</source>
+        <translation>Die Szenarien lesen und aus ihren Kennzahlen Eigenschaften machen</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Kennzahlen</translation>
+    </message>
+    <message>
+        <source>Properties of the set</source>
+        <translation>Eigenschaften der Menge</translation>
+    </message>
+    <message>
+        <source>Figures that become properties</source>
+        <translation>Kennzahlen, die Eigenschaften werden</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 scenarios</source>
+        <translation>%1 von %2 Szenarien</translation>
+    </message>
+</context>
+<context>
+    <name>SetScenarios</name>
+    <message>
+        <source>&quot;%1&quot; is no range of dates such as 2015-01-01..2015-03-31</source>
+        <translation>„%1“ ist kein Zeitraum wie 2015-01-01..2015-03-31</translation>
+    </message>
+</context>
+<context>
+    <name>SetStatistic</name>
+    <message>
+        <source>number of values</source>
+        <translation>Anzahl der Werte</translation>
+    </message>
+    <message>
+        <source>minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>scenario of the minimum</source>
+        <translation>Szenario des Minimums</translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>scenario of the maximum</source>
+        <translation>Szenario des Maximums</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>standard deviation</source>
+        <translation>Standardabweichung</translation>
+    </message>
+    <message>
+        <source>5 % quantile</source>
+        <translation>5-%-Quantil</translation>
+    </message>
+    <message>
+        <source>25 % quantile</source>
+        <translation>25-%-Quantil</translation>
+    </message>
+    <message>
+        <source>median</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>75 % quantile</source>
+        <translation>75-%-Quantil</translation>
+    </message>
+    <message>
+        <source>95 % quantile</source>
+        <translation>95-%-Quantil</translation>
     </message>
 </context>
 <context>

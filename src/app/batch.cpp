@@ -46,7 +46,8 @@ bool writesOver(const BatchTask &task, QString *reason) {
   };
   const bool found =
       std::any_of(task.pictures.begin(), task.pictures.end(), [&](const auto &p) { return isOpened(p.path); }) ||
-      std::any_of(task.lists.begin(), task.lists.end(), [&](const auto &list) { return isOpened(list.path); });
+      std::any_of(task.lists.begin(), task.lists.end(), [&](const auto &list) { return isOpened(list.path); }) ||
+      isOpened(task.setTable);
   if (found)
     *reason = Batch::tr("%1 is to be read and cannot be written.").arg(task.file);
   return found;

@@ -1,5 +1,6 @@
 #include "batchrun.h"
 
+#include "batchset.h"
 #include "language/language.h"
 #include "networkcheck.h"
 #include "networkinfo.h"
@@ -18,6 +19,8 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <scenarioset/scenarioset.h>
+#include <scenarioset/settable.h>
 #include <utility>
 
 namespace {
@@ -77,6 +80,8 @@ BatchRun::Outcome BatchRun::perform(const BatchTask &task) {
   m_outcome = Outcome();
   if (!open(task.file, task.info.isWanted || !task.pictures.empty()))
     return m_outcome;
+  if (!task.set.properties.isEmpty() && !gatherSet(task))
+    return m_outcome;
   writePictures(task);
   check(task.check);
   if (task.info.isWanted)
@@ -114,6 +119,25 @@ bool BatchRun::open(const QString &file, bool isDrawn) {
   m_control.plot()->grab();
   m_times.end(QStringLiteral("draw"));
   return true;
+}
+
+/// From then on pictures, searches and tables know the figures.
+bool BatchRun::gatherSet(const BatchTask &task) {
+  QStringList warnings;
+  QString reason;
+  const auto set = BatchSet::gather(task.set, m_loader.workspace(), m_net, &warnings, &reason);
+  m_outcome.failures += warnings;
+  m_times.end(QStringLiteral("set"));
+  if (set != nullptr && task.wantsSetTable()) {
+    const SetTable table = SetTable::of(*set, *m_net.metaData());
+    if (deliver(task.setTable, csv({table.headers, table.rows, table.valueColumns}), &reason))
+      ++m_outcome.lists;
+  } else if (set != nullptr && !task.pictures.empty()) {
+    showCase();
+  }
+  if (!reason.isEmpty())
+    m_outcome.failures.append(reason);
+  return set != nullptr;
 }
 
 void BatchRun::showCase() {

@@ -39,6 +39,7 @@ private:
   bool writePicture(const BatchTask::Picture &picture, QString *reason);
   bool applyStyles(const QStringList &files, QString *reason);
   bool applyFunctions(const BatchTask::Picture &picture, QString *reason);
+  bool gatherSet(const BatchTask &task);
   void answerLists(const BatchTask &task);
   bool answerList(const BatchTask::List &list, QString *reason);
   void check(const BatchTask::Output &output);

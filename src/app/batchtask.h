@@ -47,6 +47,12 @@ struct BatchTask {
     QString path;                                 ///< empty for the standard output
   };
 
+  /// Figures over many scenarios of the case.
+  struct Set {
+    QStringList properties; ///< of which; empty when no figures are wanted
+    QString scenarios;      ///< pattern of their names, or a range of dates; empty for all
+  };
+
   struct Output {
     bool isWanted = false;
     QString path; ///< empty for the standard output
@@ -55,8 +61,14 @@ struct BatchTask {
   QString file;
   std::vector<Picture> pictures;
   std::vector<List> lists;
+  Set set;
+  QString setTable; ///< file for the table of the figures where nothing else asks for them; empty for the standard output
   Output info;
   Output check;
 
-  bool isEmpty() const { return pictures.empty() && lists.empty() && !info.isWanted && !check.isWanted; }
+  bool isEmpty() const {
+    return pictures.empty() && lists.empty() && set.properties.isEmpty() && !info.isWanted && !check.isWanted;
+  }
+  /// The figures themselves are the answer.
+  bool wantsSetTable() const { return !set.properties.isEmpty() && pictures.empty() && lists.empty(); }
 };

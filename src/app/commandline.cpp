@@ -119,12 +119,24 @@ public:
                            QStringLiteral("PROPERTIES")};
   QCommandLineOption type{QStringLiteral("type"), tr("Element type of the --table, such as p or pipe."),
                           QStringLiteral("TYPE")};
+  QCommandLineOption set{
+      QStringLiteral("set"),
+      tr("Minimum, maximum, mean, standard deviation and quantiles of properties, separated by commas (or \"all\"), over "
+         "the "
+         "scenarios of the case, for each element, as a table (CSV). With --export, --search or --table these know the "
+         "figures as properties such as p.max instead."),
+      QStringLiteral("PROPERTIES")};
+  QCommandLineOption scenarios{
+      QStringLiteral("scenarios"),
+      tr("Scenarios of the --set, all by default: names with wildcards, separated by commas, or dates such as "
+         "2015-01-01..2015-03-31."),
+      QStringLiteral("PATTERN|DATES")};
   QCommandLineOption check{
       QStringLiteral("check"),
       tr("Lists findings, what the rules for networks find, and violated bounds. Exit status 0: there is "
          "nothing, 3: findings, 4: violated bounds.")};
 
-  QList<QCommandLineOption> all() const { return {info, search, table, type, check}; }
+  QList<QCommandLineOption> all() const { return {info, search, table, type, set, scenarios, check}; }
 
   /// Why the options make no sense; empty when they do.
   QString take(const QCommandLineParser &parser, const QString &output, BatchTask &task) const {
@@ -132,10 +144,15 @@ public:
     task.check.isWanted = parser.isSet(check);
     if (parser.isSet(type) && !parser.isSet(table))
       return tr("--type goes with --table.");
+    task.set = {parser.value(set).split(QLatin1Char(','), Qt::SkipEmptyParts), parser.value(scenarios)};
+    if (parser.isSet(set) && task.set.properties.isEmpty())
+      return tr("--set needs the name of a property, or \"all\".");
+    if (parser.isSet(scenarios) && !parser.isSet(set))
+      return tr("--scenarios goes with --set.");
     if (!parser.isSet(search) && !parser.isSet(table))
-      return output.isEmpty() ? QString() : tr("--output goes with --search, --table and --jobs.");
+      return takeOutput(output, task);
     if (task.info.isWanted && output.isEmpty())
-      return tr("--info and a list would both go to the standard output: name a file for the list by --output.");
+      return twoAnswers();
     BatchTask::List list;
     list.path = output;
     list.type = parser.value(type);
@@ -147,6 +164,19 @@ public:
       list.search = ElementQuery::criteria(parser.values(search), &reason);
     task.lists.push_back(list);
     return reason;
+  }
+
+private:
+  static QString twoAnswers() {
+    return tr("--info and a list would both go to the standard output: name a file for the list by --output.");
+  }
+
+  /// Without a list.
+  static QString takeOutput(const QString &output, BatchTask &task) {
+    task.setTable = output;
+    if (task.wantsSetTable())
+      return task.info.isWanted && output.isEmpty() ? twoAnswers() : QString();
+    return output.isEmpty() ? QString() : tr("--output goes with --search, --table, --set and --jobs.");
   }
 };
 
@@ -170,14 +200,14 @@ public:
                              "scenarios."),
                           QStringLiteral("JOBS")};
   QCommandLineOption output{QStringLiteral("output"),
-                            tr("File for the list of --search or --table, else it goes to the standard output; folder for "
-                               "what --jobs write."),
+                            tr("File for the list of --search, --table or --set, else it goes to the standard output; "
+                               "folder for what --jobs write."),
                             QStringLiteral("PATH")};
 
   void addTo(QCommandLineParser &parser) const {
     parser.setApplicationDescription(
         tr("Viewer for gas-transport network models. Opens a window; --info, --export, --search,\n"
-           "--table, --check and --jobs do without one and need no display."));
+           "--table, --set, --check and --jobs do without one and need no display."));
     parser.addOptions(QList<QCommandLineOption>{help, version, clean, language, pictures.picture} + pictures.details() +
                       answers.all() + QList<QCommandLineOption>{jobs, output});
     parser.addPositionalArgument(QStringLiteral("FILE"), tr("Geometry or scenario file to open."), QStringLiteral("[FILE]"));
@@ -201,7 +231,8 @@ public:
     if (!reason.isEmpty() || line.task.isEmpty())
       return reason;
     line.action = CommandLine::Action::Batch;
-    return files.size() == 1 ? QString() : tr("--info, --export, --search, --table and --check take exactly one FILE.");
+    return files.size() == 1 ? QString()
+                             : tr("--info, --export, --search, --table, --set and --check take exactly one FILE.");
   }
 
 private:

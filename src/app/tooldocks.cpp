@@ -21,6 +21,7 @@
 #include <tools/nivranetobjectcats.h>
 #include <tools/nivrasearch.h>
 #include <tools/nivravectable.h>
+#include <tools/scenariosetdock.h>
 #include <view/netplot.h>
 #include <view/netviscontrol.h>
 #include <view/viewfuncdialog.h>
@@ -189,6 +190,10 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
     createBalance();
   if (m_balance != nullptr)
     m_balance->refresh();
+  if (m_scenarioSet == nullptr && m_extent == Extent::Program)
+    createScenarioSet();
+  if (m_scenarioSet != nullptr)
+    m_scenarioSet->refresh(workspace);
 }
 
 void ToolDocks::createBalance() {
@@ -207,6 +212,14 @@ void ToolDocks::selectElements(const QStringList &names) {
   m_control.showElement(names.first());
 }
 
+void ToolDocks::createScenarioSet() {
+  m_scenarioSet = new ScenarioSetDock(m_net, &m_window);
+  addDock(m_scenarioSet, QStringLiteral("scenarioSet"), Qt::BottomDockWidgetArea);
+  connect(m_scenarioSet, &ScenarioSetDock::elementsChanged, this, &ToolDocks::elementsChanged);
+  connect(m_scenarioSet, &ScenarioSetDock::scenarioWanted, this, &ToolDocks::scenarioWanted);
+  connect(&m_control, &NetVisControl::currentElementChanged, m_scenarioSet, &ScenarioSetDock::showElement);
+}
+
 void ToolDocks::createElementTable() {
   m_elementTable = new ElementTable(m_net, &m_window);
   addDock(m_elementTable, QStringLiteral("elementTable"), Qt::BottomDockWidgetArea);
@@ -223,6 +236,8 @@ void ToolDocks::forgetElements() {
     m_elementTable->forget();
   if (m_balance != nullptr)
     m_balance->forget();
+  if (m_scenarioSet != nullptr)
+    m_scenarioSet->forget();
 }
 
 void ToolDocks::createCharacteristics() {
@@ -331,6 +346,8 @@ void ToolDocks::takeSettings() {
   m_draw->changeUnits();
   if (m_scenario != nullptr)
     m_scenario->setScenario(m_summary, *m_net.metaData());
+  if (m_scenarioSet != nullptr)
+    m_scenarioSet->showAgain();
   showChanges();
 }
 

@@ -29,6 +29,7 @@ class NivraSearch;
 class NivraVecTable;
 class NivraWorkspace;
 class ScenarioDock;
+class ScenarioSetDock;
 class ToolWindows;
 class QDockWidget;
 class QMainWindow;
@@ -98,6 +99,7 @@ signals:
   void saveLayersWanted();
   void loadLayersWanted();
   void elementsChanged(const ElementChange &change); ///< by one of the tools
+  void scenarioWanted(const QString &file);          ///< in place of what is open
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
@@ -114,6 +116,7 @@ private:
   void createElementTable();
   void createBalance();
   void selectElements(const QStringList &names);
+  void createScenarioSet();
   void connectVectorTable(NivraVecTable *table);
   void showSelection();
 
@@ -133,6 +136,7 @@ private:
   NivraSearch *m_search = nullptr;
   ElementTable *m_elementTable = nullptr;
   BalanceDock *m_balance = nullptr;
+  ScenarioSetDock *m_scenarioSet = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;
   NivraNetObjectCats *m_categories = nullptr;
   ScenarioSummary m_summary;

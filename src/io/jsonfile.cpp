@@ -3,10 +3,17 @@
 #include <base/fileaccess.h>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QJsonDocument>
 
 bool isJsonPath(const QString &path) {
   return path.endsWith(QStringLiteral(".jsn")) || path.endsWith(QStringLiteral(".json"));
+}
+
+QString jsonPathOf(const QString &textPath) {
+  const QString path = textPath + QStringLiteral(".jsn");
+  const QString longer = textPath + QStringLiteral(".json");
+  return !QFileInfo::exists(path) && QFileInfo::exists(longer) ? longer : path;
 }
 
 std::optional<QJsonObject> readJsonObject(const QString &path, QString *reason) {

@@ -13,12 +13,6 @@ namespace {
 constexpr double Nano = 1e-9;
 constexpr int LinesBetweenProgress = 1000;
 
-QString jsonPath(const QString &textPath) {
-  const QString path = textPath + QStringLiteral(".jsn");
-  const QString longer = textPath + QStringLiteral(".json");
-  return !QFileInfo::exists(path) && QFileInfo::exists(longer) ? longer : path;
-}
-
 NivraReader::Result failure(const QString &text) {
   NivraReader::Result result;
   result.findings.push_back({Finding::Severity::Critical, QString(), 0, text, text});
@@ -106,7 +100,7 @@ void makeRoom(NetData &net, double fraction) {
 QString NivraReader::networkPath(const QString &textPath) const {
   if (!m_isJson)
     return textPath;
-  return m_chosen.startsWith(textPath + QStringLiteral(".js")) ? m_chosen : jsonPath(textPath);
+  return m_chosen.startsWith(textPath + QStringLiteral(".js")) ? m_chosen : jsonPathOf(textPath);
 }
 
 NivraReader::Result NivraReader::readTopoAndScen(const NivraWorkspace &workspace, const Options &options) {
@@ -299,7 +293,7 @@ void NivraReader::readCompanion(const Companion &companion, const QString &base,
 }
 
 void NivraReader::readConfiguration(const QString &base, Result &result) {
-  const QString path = jsonPath(base + QStringLiteral(".scen.cfg"));
+  const QString path = jsonPathOf(base + QStringLiteral(".scen.cfg"));
   if (!m_isJson || result.cancelled || !QFileInfo::exists(path)) // the text form was read with the configuration
     return;
   QString reason;

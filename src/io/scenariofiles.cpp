@@ -1,6 +1,8 @@
 #include <io/scenariofiles.h>
 
 #include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -20,4 +22,13 @@ QString ScenarioFiles::in(const QString &folder, Form form) {
   };
   const auto found = std::find_if(names.begin(), names.end(), isOwn);
   return directory.filePath(found == names.end() ? names.first() : *found);
+}
+
+QString ScenarioFiles::base(const QString &file) {
+  static const QRegularExpression suffix(QStringLiteral("\\.scen(\\.jso?n)?$"));
+  const QString kind = suffix.match(file).captured();
+  const QFileInfo info(file);
+  const QString folder = info.path() + QLatin1Char('/');
+  const QString shortest = info.fileName().section(QLatin1Char('.'), 0, 0);
+  return folder + (QFileInfo::exists(folder + shortest + kind) ? shortest : info.fileName().chopped(kind.size()));
 }

@@ -14,4 +14,8 @@ enum class Form {
 /// That of the folder's name where there are several, else the first by name; empty when there is none.
 QString in(const QString &folder, Form form);
 
+/// Of a scenario file, what the paths of its companions begin with: up to the first dot of its name, unless that is the
+/// beginning of no scenario file.
+QString base(const QString &file);
+
 } // namespace ScenarioFiles
