@@ -6,6 +6,7 @@
 #include "elementpanels.h"
 #include "mnemonics.h"
 #include "panelfocus.h"
+#include "pathprofilelink.h"
 #include "scenariodock.h"
 #include "svgicon.h"
 #include "toolwindows.h"
@@ -182,6 +183,15 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
   if (m_elementTable == nullptr)
     createElementTable();
   m_elementTable->refresh(m_directory);
+  if (m_pathProfile == nullptr)
+    createPathProfile();
+  m_pathProfile->refresh(workspace, m_directory);
+}
+
+void ToolDocks::createPathProfile() {
+  m_pathProfile = new PathProfileLink(m_control, m_window);
+  addDock(m_pathProfile->dock(), QStringLiteral("pathProfile"), Qt::BottomDockWidgetArea);
+  connect(m_pathProfile, &PathProfileLink::elementMarked, this, &ToolDocks::elementMarked);
 }
 
 void ToolDocks::createElementTable() {
@@ -198,6 +208,8 @@ void ToolDocks::createElementTable() {
 void ToolDocks::forgetElements() {
   if (m_elementTable != nullptr)
     m_elementTable->forget();
+  if (m_pathProfile != nullptr)
+    m_pathProfile->dock()->forget();
 }
 
 void ToolDocks::createCharacteristics() {
@@ -290,6 +302,7 @@ void ToolDocks::showChanges() {
   m_layers->takeChanges();
   m_windows->showChanges();
   m_elementTable->showChanges();
+  m_pathProfile->dock()->showChanges();
   m_search->takeChanges(m_control.showsSearchResults());
   if (m_characteristics != nullptr)
     m_characteristics->refresh(); // the working points

@@ -27,6 +27,7 @@ class NivraNetObjectCats;
 class NivraSearch;
 class NivraVecTable;
 class NivraWorkspace;
+class PathProfileLink;
 class ScenarioDock;
 class ToolWindows;
 class QDockWidget;
@@ -109,6 +110,7 @@ private:
   void createCategories();
   void createCharacteristics();
   void createElementTable();
+  void createPathProfile();
   void connectVectorTable(NivraVecTable *table);
   void showSelection();
 
@@ -127,6 +129,7 @@ private:
   QToolButton *m_findingsButton = nullptr;
   NivraSearch *m_search = nullptr;
   ElementTable *m_elementTable = nullptr;
+  PathProfileLink *m_pathProfile = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;
   NivraNetObjectCats *m_categories = nullptr;
   ScenarioSummary m_summary;
