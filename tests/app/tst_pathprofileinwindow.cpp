@@ -8,6 +8,7 @@
 
 #include <support/nivratest.h>
 #include <tools/elidedlabel.h>
+#include <tools/pathprofiledock.h>
 #include <view/netviscontrol.h>
 #include <view/pathmark.h>
 

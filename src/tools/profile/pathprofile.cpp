@@ -175,6 +175,12 @@ QVector<QPointF> PathProfile::violations(const ProfileQuantity &quantity) const 
   return points;
 }
 
+int PathProfile::rank(const QString &type) {
+  static const QString byImportance = QStringLiteral("crwkgfv");
+  const int found = type.isEmpty() ? -1 : byImportance.indexOf(type.at(0));
+  return found < 0 ? byImportance.size() : found;
+}
+
 Index PathProfile::rowAt(double length, double reach) const {
   // Rows ascend by where they end.
   auto begin = std::lower_bound(m_rows.begin(), m_rows.end(), length - reach,
@@ -190,8 +196,11 @@ Index PathProfile::rowAt(double length, double reach) const {
       around = index;
     if (!isPoint || distance > nearest)
       continue;
-    // Of what lies at one point the station is meant rather than its ends.
-    if (best == NoIndex || distance < nearest || (m_rows[best].isNode && !row->isNode)) {
+    // Of what lies at one point the most important station is meant, rather than its ends.
+    const auto rankOf = [](const Row &one) {
+      return std::pair(one.isNode, rank(one.type));
+    };
+    if (best == NoIndex || distance < nearest || rankOf(*row) < rankOf(m_rows[best])) {
       best = index;
       nearest = distance;
     }

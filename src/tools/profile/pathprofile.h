@@ -73,6 +73,8 @@ public:
 
   /// The first row of the element; NoIndex when the path does not pass it.
   Index find(const QString &name) const { return m_byName.value(name, NoIndex); }
+  /// Which stations count more: 0 for compressors, then regulators and so on.
+  static int rank(const QString &type);
   /// What is meant by a place: a station or node within the reach, the nearest first, else the edge there.
   Index rowAt(double length, double reach) const;
 

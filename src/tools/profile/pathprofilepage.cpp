@@ -88,8 +88,11 @@ PathProfilePage::PathProfilePage(NetData &net, SymbolPainter symbols, QWidget *p
   column->setSpacing(2);
   column->addWidget(m_bar);
   column->addWidget(splitter, 1);
-  column->addWidget(m_told);
-  m_told->setContentsMargins(4, 0, 4, 0);
+  constexpr int Margin = 4;
+  auto *below = new QHBoxLayout;
+  below->setContentsMargins(Margin, 0, Margin, 0);
+  below->addWidget(m_told);
+  column->addLayout(below);
   connect(m_overlays, &ScenarioOverlays::changed, this, &PathProfilePage::showCurves);
   connect(m_overlays, &ScenarioOverlays::told, m_told, &QLabel::setText);
   find();
@@ -441,7 +444,7 @@ void PathProfilePage::tell(Index row, double share) {
   }
   const PathProfile::Row &at = m_profile->rows()[row];
   const ElementType *type = ElementTypes::byCode(at.type);
-  QString text = withUnit(at.from + share * (at.to - at.from), m_profile->lengthUnit()) + QStringLiteral("   ") + at.name;
+  QString text = withUnit(at.from + share * (at.to - at.from), m_profile->lengthUnit()) + QStringLiteral(": ") + at.name;
   if (type != nullptr)
     text += QStringLiteral(" (") + Titles::of(*type) + QLatin1Char(')');
   for (const ProfileQuantity &quantity : m_chart->content().quantities) {
@@ -454,7 +457,7 @@ void PathProfilePage::tell(Index row, double share) {
         values.append(DisplayFormat::number(value));
     }
     if (!values.isEmpty())
-      text += QStringLiteral("   ") + quantity.title + QLatin1Char(' ') + values.join(QStringLiteral(" → "));
+      text += QStringLiteral("; ") + quantity.title + QLatin1Char(' ') + values.join(QStringLiteral(" → "));
   }
   m_told->setText(text);
   emit pointed(at.name, at.isForward ? share : 1.0 - share);

@@ -54,7 +54,7 @@ ProfileChart::ProfileChart(SymbolPainter symbols, QWidget *parent)
   auto *column = new QVBoxLayout(this);
   constexpr int Right = 10; // px, for what is written at the end of the axis
   column->setContentsMargins(0, 0, Right, 0);
-  column->setSpacing(0);
+  column->setSpacing(3);
   setFocusPolicy(Qt::StrongFocus);
   setAccessibleName(tr("Profile along the path"));
 }
@@ -104,7 +104,7 @@ void ProfileChart::addPanel(std::size_t number) {
   auto *panel = new ProfilePanel(
       {*m_content.profile, m_content.quantities[number], m_content.hasBounds, title, m_content.overlays}, this);
   panel->canvas()->installEventFilter(this);
-  layout()->addWidget(panel);
+  static_cast<QVBoxLayout *>(layout())->addWidget(panel, 1);
   m_panels.push_back(panel);
 }
 

@@ -87,6 +87,7 @@ ProfilePanel::ProfilePanel(const Content &content, QWidget *parent)
   constexpr int SmallestHeight = 50;
   constexpr double Smaller = 0.9;
   setMinimumHeight(SmallestHeight);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // all are of one height
   plotLayout()->setAlignCanvasToScales(true);
   enableAxis(xBottom, false);
   static_cast<QwtPlotCanvas *>(canvas())->setFrameStyle(QFrame::NoFrame);
@@ -170,7 +171,7 @@ void ProfilePanel::addDots(const QVector<QPointF> &points, const ColorOf &color)
 void ProfilePanel::scale() {
   constexpr int Steps = 4;
   constexpr double Smallest = 1e-3; // of the value
-  constexpr double CaptionRoom = 0.18;
+  constexpr double CaptionRoom = 0.3;
   if (!m_hasPoints)
     return;
   const double least = std::max(Smallest * std::max(std::abs(m_lowest), std::abs(m_highest)), 1e-9);

@@ -23,12 +23,6 @@ bool isStation(const PathProfile::Row &row) {
   return !row.isNode && row.type != QLatin1String("p") && row.type != QLatin1String("s");
 }
 
-int rank(const QString &type) {
-  static const QString byImportance = QStringLiteral("crwkgfv");
-  const int found = type.isEmpty() ? -1 : byImportance.indexOf(type.at(0));
-  return found < 0 ? byImportance.size() : found;
-}
-
 double middle(const PathProfile::Row &row) {
   return (row.from + row.to) / 2.0;
 }
@@ -68,7 +62,7 @@ std::vector<StationAxis::Placed> StationAxis::layOut(const QwtScaleMap &xMap) co
   const auto isMoreImportant = [this](Index a, Index b) {
     const PathProfile::Row &one = m_profile->rows()[a];
     const PathProfile::Row &other = m_profile->rows()[b];
-    return std::pair(one.isOff, rank(one.type)) < std::pair(other.isOff, rank(other.type));
+    return std::pair(one.isOff, PathProfile::rank(one.type)) < std::pair(other.isOff, PathProfile::rank(other.type));
   };
   for (Placed &symbol : placed)
     std::stable_sort(symbol.rows.begin(), symbol.rows.end(), isMoreImportant);
@@ -127,7 +121,7 @@ void StationAxis::drawNames(QPainter &painter, const std::vector<Placed> &symbol
   std::vector<std::pair<int, Name>> others;
   for (const Placed &placed : symbols) {
     const PathProfile::Row &row = m_profile->rows()[placed.rows.front()];
-    others.push_back({rank(row.type), {placed.place, row.name, false}});
+    others.push_back({PathProfile::rank(row.type), {placed.place, row.name, false}});
   }
   std::stable_sort(others.begin(), others.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
   for (const auto &[importance, name] : others)
