@@ -178,6 +178,8 @@ table='press ctrl+t; sleep 1; drag 600 600 600 500;'
 window element-table "$example" "$table"'press ctrl+shift+l; say E_; click 100 758; press shift+Down shift+Down; sleep 1'
 window element-table-groups "$example" "$table"'click 91 539; press Home Return; sleep 0.5; click 360 539; press Down Down Return; sleep 1; click 485 539; press c; click 80 639; press ctrl+Home; sleep 0.5'
 
+window path-profile "$example" 'go_to N_Ellund; press ctrl+shift+p; say "profile from"; press Return; go_to N_Burghausen; press ctrl+shift+p; say "profile to h"; press Return; press ctrl+0; sleep 1.5'
+
 # The walk through the tools, on a copy: a category is saved on the way.
 walk=$data/walk
 mkdir -p "$walk"

@@ -1537,6 +1537,13 @@ by the right-click menu of the drawing.</source>
     </message>
 </context>
 <context>
+    <name>ChartFile</name>
+    <message>
+        <source>pictures of the kind &quot;%1&quot; are not known</source>
+        <translation>Bilder der Art &quot;%1&quot; sind nicht bekannt</translation>
+    </message>
+</context>
+<context>
     <name>ClassDialog</name>
     <message>
         <source>Classes of %1</source>
@@ -3678,10 +3685,6 @@ Bitte anwenden und speichern</translation>
         <translation>Seite drucken oder speichern …	Strg+P</translation>
     </message>
     <message>
-        <source>pictures of the kind &quot;%1&quot; are not known</source>
-        <translation>Bilder der Art &quot;%1&quot; sind nicht bekannt</translation>
-    </message>
-    <message>
         <source>Save picture</source>
         <translation>Bild speichern</translation>
     </message>
@@ -5533,6 +5536,171 @@ Berichtigt! Bitte selbst speichern!</translation>
     </message>
 </context>
 <context>
+    <name>PathProfileDock</name>
+    <message>
+        <source>Path Profile</source>
+        <translation>Wegprofil</translation>
+    </message>
+</context>
+<context>
+    <name>PathProfilePage</name>
+    <message>
+        <source>Through what is &amp;closed</source>
+        <translation>Durch Ge&amp;schlossenes</translation>
+    </message>
+    <message>
+        <source>C&amp;urves</source>
+        <translation>&amp;Kurven</translation>
+    </message>
+    <message>
+        <source>Which quantities are shown along the path</source>
+        <translation>Welche Größen entlang des Weges gezeigt werden</translation>
+    </message>
+    <message>
+        <source>How the way is chosen</source>
+        <translation>Wie der Weg gewählt wird</translation>
+    </message>
+    <message>
+        <source>Which of the ways between two way points is shown</source>
+        <translation>Welcher der Wege zwischen zwei Wegpunkten gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Along the flow</source>
+        <translation>Mit der Strömung</translation>
+    </message>
+    <message>
+        <source>Shortest way</source>
+        <translation>Kürzester Weg</translation>
+    </message>
+    <message>
+        <source>Fewest elements</source>
+        <translation>Wenigste Elemente</translation>
+    </message>
+    <message>
+        <source>Closed valves and what is out of use are ways, too; the gas never takes them</source>
+        <translation>Auch geschlossene Armaturen und was außer Betrieb ist, gelten als Wege; das Gas nimmt sie nie</translation>
+    </message>
+    <message>
+        <source>Sce&amp;narios</source>
+        <translation>Szena&amp;rien</translation>
+    </message>
+    <message>
+        <source>Other scenarios of the case on the same path</source>
+        <translation>Andere Szenarien des Falls auf demselben Weg</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>S&amp;peichern</translation>
+    </message>
+    <message>
+        <source>Tables, pictures and pages of the profile</source>
+        <translation>Tabellen, Bilder und Seiten des Profils</translation>
+    </message>
+    <message>
+        <source>Way points</source>
+        <translation>Wegpunkte</translation>
+    </message>
+    <message>
+        <source>Way points in their order: drag them, F2 to type a name, Delete to remove one</source>
+        <translation>Wegpunkte in ihrer Reihenfolge: ziehen, mit F2 einen Namen eingeben, mit Entf einen entfernen</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Add the selected nodes</source>
+        <translation>Die ausgewählten Knoten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove this way point</source>
+        <translation>Diesen Wegpunkt entfernen</translation>
+    </message>
+    <message>
+        <source>Move this way point up</source>
+        <translation>Diesen Wegpunkt nach oben schieben</translation>
+    </message>
+    <message>
+        <source>Move this way point down</source>
+        <translation>Diesen Wegpunkt nach unten schieben</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>Andersherum</translation>
+    </message>
+    <message>
+        <source>Select nodes in the drawing first.</source>
+        <translation>Wählen Sie zuerst Knoten in der Zeichnung aus.</translation>
+    </message>
+    <message>
+        <source>One way point is not enough: select another node and press +, or choose &quot;Profile to here&quot; in its right-click menu.</source>
+        <translation>Ein Wegpunkt genügt nicht: Wählen Sie einen weiteren Knoten aus und drücken Sie +, oder wählen Sie &quot;Profil bis hier&quot; in seinem Kontextmenü.</translation>
+    </message>
+    <message>
+        <source>Pressure, height and other values along a way through the network. Select two nodes or more and choose &quot;Path profile from selection&quot;, or &quot;Profile from here&quot; and &quot;Profile to here&quot; in the right-click menus of two nodes.</source>
+        <translation>Druck, Höhe und andere Werte entlang eines Weges durch das Netz. Wählen Sie zwei oder mehr Knoten aus und dann &quot;Wegprofil aus der Auswahl&quot;, oder &quot;Profil ab hier&quot; und &quot;Profil bis hier&quot; in den Kontextmenüs zweier Knoten.</translation>
+    </message>
+    <message>
+        <source>shown</source>
+        <translation>gezeigt</translation>
+    </message>
+    <message>
+        <source>There is no path yet</source>
+        <translation>Es gibt noch keinen Weg</translation>
+    </message>
+    <message>
+        <source>Bounds</source>
+        <translation>Grenzen</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, 1 element</source>
+        <translation>%1: %2, 1 Element</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3 elements</source>
+        <translation>%1: %2, %3 Elemente</translation>
+    </message>
+    <message>
+        <source>; %1 from %2 to %3, lowest %4, highest %5</source>
+        <translation>; %1 von %2 auf %3, kleinster Wert %4, größter %5</translation>
+    </message>
+    <message>
+        <source>Show in the &amp;drawing</source>
+        <translation>In der Zeich&amp;nung zeigen</translation>
+    </message>
+    <message>
+        <source>Show the &amp;whole path	Home</source>
+        <translation>Den &amp;ganzen Weg zeigen	Pos1</translation>
+    </message>
+</context>
+<context>
+    <name>PathSearch</name>
+    <message>
+        <source>No gas flows from %1 to %2: it flows from %2 to %1.</source>
+        <translation>Von %1 nach %2 fließt kein Gas: Es fließt von %2 nach %1.</translation>
+    </message>
+    <message>
+        <source>No gas flows from %1 to %2. A way that is not along the flow joins them.</source>
+        <translation>Von %1 nach %2 fließt kein Gas. Ein Weg, der nicht der Strömung folgt, verbindet sie.</translation>
+    </message>
+    <message>
+        <source>No way leads from %1 to %2 but through what is closed or out of use.</source>
+        <translation>Von %1 nach %2 führt kein Weg, außer durch Geschlossenes oder was außer Betrieb ist.</translation>
+    </message>
+    <message>
+        <source>No way leads from %1 to %2.</source>
+        <translation>Von %1 nach %2 führt kein Weg.</translation>
+    </message>
+    <message>
+        <source>%1 is no node of this network.</source>
+        <translation>%1 ist kein Knoten dieses Netzes.</translation>
+    </message>
+</context>
+<context>
     <name>PictureBounds</name>
     <message>
         <source>it is no picture of a known format</source>
@@ -5800,6 +5968,30 @@ Berichtigt! Bitte selbst speichern!</translation>
         <source>Open Characteristics of %1 machines</source>
         <translation>Kennfelder öffnen von %1 Maschinen</translation>
     </message>
+    <message>
+        <source>Path profile from selection</source>
+        <translation>Wegprofil aus der Auswahl</translation>
+    </message>
+    <message>
+        <source>Show pressure, height and more along a way through the selected nodes</source>
+        <translation>Druck, Höhe und mehr entlang eines Weges durch die ausgewählten Knoten zeigen</translation>
+    </message>
+    <message>
+        <source>Profile from here</source>
+        <translation>Profil ab hier</translation>
+    </message>
+    <message>
+        <source>Let the path of the profile begin at the selected node</source>
+        <translation>Den Weg des Profils am ausgewählten Knoten beginnen lassen</translation>
+    </message>
+    <message>
+        <source>Profile to here</source>
+        <translation>Profil bis hier</translation>
+    </message>
+    <message>
+        <source>Let the path of the profile end at the selected node</source>
+        <translation>Den Weg des Profils am ausgewählten Knoten enden lassen</translation>
+    </message>
 </context>
 <context>
     <name>PlotExport</name>
@@ -5985,6 +6177,52 @@ Vorgabe ist die jetzige Breite): </translation>
     <message>
         <source>The plot settings could not be written to %1.</source>
         <translation>Die Zeichnungseinstellungen ließen sich nicht nach %1 schreiben.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileChart</name>
+    <message>
+        <source>Profile along the path</source>
+        <translation>Profil entlang des Weges</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFiles</name>
+    <message>
+        <source>Save table …</source>
+        <translation>Tabelle speichern …</translation>
+    </message>
+    <message>
+        <source>Save table</source>
+        <translation>Tabelle speichern</translation>
+    </message>
+    <message>
+        <source>CSV (*.csv);;Workbook (*.xlsx);;Text with tabulators (*.txt)</source>
+        <translation>CSV (*.csv);;Arbeitsmappe (*.xlsx);;Text mit Tabulatoren (*.txt)</translation>
+    </message>
+    <message>
+        <source>Copy table</source>
+        <translation>Tabelle kopieren</translation>
+    </message>
+    <message>
+        <source>Save picture …</source>
+        <translation>Bild speichern …</translation>
+    </message>
+    <message>
+        <source>Save picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.pdf *.svg)</source>
+        <translation>Bilder (*.png *.jpg *.pdf *.svg)</translation>
+    </message>
+    <message>
+        <source>Copy picture	Ctrl+C</source>
+        <translation>Bild kopieren	Strg+C</translation>
+    </message>
+    <message>
+        <source>Print or save a page …	Ctrl+P</source>
+        <translation>Seite drucken oder speichern …	Strg+P</translation>
     </message>
 </context>
 <context>
@@ -6491,6 +6729,13 @@ ist nicht mehr vorhanden. Entf nimmt es aus der Liste.</translation>
     <message>
         <source>default</source>
         <translation>Vorgabe</translation>
+    </message>
+</context>
+<context>
+    <name>ScenarioOverlays</name>
+    <message>
+        <source>The case has no other scenarios</source>
+        <translation>Der Fall hat keine anderen Szenarien</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,7 @@ void Commands::addEditMenu() {
   QMenu *menu = addMenu(tr("Edit"));
   const PlotActions &actions = m_control.actions();
   menu->addActions({actions[Act::SelectAll], actions[Act::SelectNone], actions[Act::Upstream], actions[Act::Downstream]});
+  menu->addActions({actions[Act::ProfileOfSelection], actions[Act::ProfileFrom], actions[Act::ProfileTo]});
   menu->addSeparator();
   menu->addActions(
       {actions[Act::ShowInfo], actions[Act::EditProperties], actions[Act::Characteristics], actions[Act::SubnetWindow]});

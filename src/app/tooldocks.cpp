@@ -6,6 +6,7 @@
 #include "elementpanels.h"
 #include "mnemonics.h"
 #include "panelfocus.h"
+#include "pathprofilelink.h"
 #include "scenariodock.h"
 #include "svgicon.h"
 #include "toolwindows.h"
@@ -194,6 +195,9 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
     createScenarioSet();
   if (m_scenarioSet != nullptr)
     m_scenarioSet->refresh(workspace);
+  if (m_pathProfile == nullptr)
+    createPathProfile();
+  m_pathProfile->refresh(workspace, m_directory);
 }
 
 void ToolDocks::createBalance() {
@@ -220,6 +224,12 @@ void ToolDocks::createScenarioSet() {
   connect(&m_control, &NetVisControl::currentElementChanged, m_scenarioSet, &ScenarioSetDock::showElement);
 }
 
+void ToolDocks::createPathProfile() {
+  m_pathProfile = new PathProfileLink(m_control, m_window);
+  addDock(m_pathProfile->dock(), QStringLiteral("pathProfile"), Qt::BottomDockWidgetArea);
+  connect(m_pathProfile, &PathProfileLink::elementMarked, this, &ToolDocks::elementMarked);
+}
+
 void ToolDocks::createElementTable() {
   m_elementTable = new ElementTable(m_net, &m_window);
   addDock(m_elementTable, QStringLiteral("elementTable"), Qt::BottomDockWidgetArea);
@@ -238,6 +248,8 @@ void ToolDocks::forgetElements() {
     m_balance->forget();
   if (m_scenarioSet != nullptr)
     m_scenarioSet->forget();
+  if (m_pathProfile != nullptr)
+    m_pathProfile->dock()->forget();
 }
 
 void ToolDocks::createCharacteristics() {
@@ -334,6 +346,7 @@ void ToolDocks::showChanges() {
   m_elementTable->showChanges();
   if (m_balance != nullptr)
     m_balance->refresh();
+  m_pathProfile->dock()->showChanges();
   m_search->takeChanges(m_control.showsSearchResults());
   if (m_characteristics != nullptr)
     m_characteristics->refresh(); // the working points

@@ -28,6 +28,7 @@ class NivraNetObjectCats;
 class NivraSearch;
 class NivraVecTable;
 class NivraWorkspace;
+class PathProfileLink;
 class ScenarioDock;
 class ScenarioSetDock;
 class ToolWindows;
@@ -117,6 +118,7 @@ private:
   void createBalance();
   void selectElements(const QStringList &names);
   void createScenarioSet();
+  void createPathProfile();
   void connectVectorTable(NivraVecTable *table);
   void showSelection();
 
@@ -137,6 +139,7 @@ private:
   ElementTable *m_elementTable = nullptr;
   BalanceDock *m_balance = nullptr;
   ScenarioSetDock *m_scenarioSet = nullptr;
+  PathProfileLink *m_pathProfile = nullptr;
   NivraNetLayersEditor *m_layers = nullptr;
   NivraNetObjectCats *m_categories = nullptr;
   ScenarioSummary m_summary;

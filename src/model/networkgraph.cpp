@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <tuple>
 
 namespace Topology {
 
@@ -85,6 +86,51 @@ std::vector<double> NetworkGraph::distances(const std::vector<Index> &sources, c
     });
   }
   return values;
+}
+
+std::optional<std::vector<NetworkGraph::Way>> NetworkGraph::shortestWay(Index from, Index to,
+                                                                        const std::vector<double> &lengths) const {
+  struct Reached {
+    double length;
+    Index edges; ///< on the way
+    Index node;
+    bool operator>(const Reached &other) const {
+      return std::tie(length, edges, node) > std::tie(other.length, other.edges, other.node);
+    }
+  };
+  struct Last {
+    double length = 0.0;
+    Index edges = NoIndex; ///< NoIndex while no way is known
+    Index node = NoIndex;  ///< before this one
+    Index edge = NoIndex;  ///< from there
+  };
+  std::vector<Last> known(size());
+  std::priority_queue<Reached, std::vector<Reached>, std::greater<Reached>> open;
+  known[from].edges = 0;
+  open.push({0.0, 0, from});
+  while (!open.empty() && open.top().node != to) {
+    const Reached here = open.top();
+    open.pop();
+    if (here.length > known[here.node].length || here.edges > known[here.node].edges)
+      continue; // a shorter way was found meanwhile
+    forEachWay(here.node, [&](const Way &way) {
+      const Last next{here.length + std::max(0.0, lengths[way.edge]), here.edges + 1, here.node, way.edge};
+      Last &best = known[way.node];
+      if (best.edges != NoIndex && std::tie(best.length, best.edges) <= std::tie(next.length, next.edges))
+        return;
+      best = next;
+      open.push({next.length, next.edges, way.node});
+    });
+  }
+  if (open.empty())
+    return std::nullopt;
+  std::vector<Way> ways(known[to].edges);
+  Index node = to;
+  for (auto way = ways.rbegin(); way != ways.rend(); ++way) {
+    *way = {node, known[node].edge};
+    node = known[node].node;
+  }
+  return ways;
 }
 
 } // namespace Topology

@@ -11,6 +11,7 @@ private slots:
   void waysStandInTheOrderOfTheEdges();
   void componentsAreRankedBySize();
   void distancesAreTheShortest();
+  void shortestWayIsFound();
 
 private:
   static std::vector<Index> edgesFrom(const NetworkGraph &graph, Index node) {
@@ -49,6 +50,25 @@ void TestNetworkGraph::distancesAreTheShortest() {
   QCOMPARE(graph.distances({0}, lengths), (std::vector<double>{0.0, 1.0, 2.0, 3.0, 3.0, -1.0}));
   QCOMPARE(graph.distances({0, 3}, lengths), (std::vector<double>{0.0, 1.0, 1.0, 0.0, 0.0, -1.0}));
   QCOMPARE(graph.distances({}, lengths), (std::vector<double>(6, -1.0)));
+}
+
+void TestNetworkGraph::shortestWayIsFound() {
+  // Two ways from 0 to 3 are 3 long: over 1 and 2, and over 4 alone; the direct one is longer. Nothing leads to 5.
+  const std::vector<NetworkGraph::Ends> edges{{0, 1}, {1, 2}, {2, 3}, {0, 3}, {4, 0}, {4, 3}, {NoIndex, 5}};
+  const std::vector<double> lengths{1.0, 1.0, 1.0, 10.0, 2.0, 1.0, 1.0};
+  const auto edgesOf = [&](NetworkGraph::Ways ways, Index from, Index to) {
+    std::vector<Index> found;
+    const auto way = NetworkGraph(6, edges, ways).shortestWay(from, to, lengths);
+    for (const NetworkGraph::Way &step : way.value_or(std::vector<NetworkGraph::Way>{{NoIndex, NoIndex}}))
+      found.push_back(step.edge);
+    return found;
+  };
+  QCOMPARE(edgesOf(NetworkGraph::Ways::Both, 0, 3), (std::vector<Index>{4, 5}));
+  QCOMPARE(edgesOf(NetworkGraph::Ways::Forward, 0, 3), (std::vector<Index>{0, 1, 2}));
+  QCOMPARE(edgesOf(NetworkGraph::Ways::Forward, 4, 1), (std::vector<Index>{4, 0}));
+  QCOMPARE(edgesOf(NetworkGraph::Ways::Both, 2, 2), std::vector<Index>());
+  QCOMPARE(edgesOf(NetworkGraph::Ways::Both, 0, 5), (std::vector<Index>{NoIndex}));
+  QCOMPARE(edgesOf(NetworkGraph::Ways::Forward, 3, 0), (std::vector<Index>{NoIndex}));
 }
 
 NIVRA_TEST(TestNetworkGraph);

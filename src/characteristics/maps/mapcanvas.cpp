@@ -3,19 +3,16 @@
 #include "mappage.h"
 
 #include <base/lastfolder.h>
-#include <base/wholefile.h>
+#include <paper/chartfile.h>
 #include <paper/pagedialog.h>
 
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QSvgGenerator>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_marker.h>
@@ -30,7 +27,6 @@ namespace {
 
 constexpr int TitleSize = 9;      // points
 constexpr int LabelSpacing = 5;   // from the end of a line, where a measured point may lie
-constexpr int Resolution = 72;    // dots an inch of documents: those of a point
 constexpr QSize Points(600, 420); // of a picture
 
 /// Zooms with what stands under the cursor beside it.
@@ -268,55 +264,15 @@ void MapCanvas::keyPressEvent(QKeyEvent *event) {
     QwtPlot::keyPressEvent(event);
 }
 
-void MapCanvas::paint(QPaintDevice &device, const QSizeF &size) {
-  constexpr double Margin = 0.025; // of the width: numbers at the ends of axes reach beyond them
-  const double margin = Margin * size.width();
+void MapCanvas::paint(QPainter &painter, const QRectF &area) {
   QwtPlotRenderer renderer;
   renderer.setDiscardFlag(QwtPlotRenderer::DiscardBackground);
-  QPainter painter(&device);
-  paintOnWhite([&] { renderer.render(this, &painter, QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin)); });
-}
-
-QImage MapCanvas::picture() {
-  constexpr int Scale = 3; // pixels a point
-  QImage image(Points * Scale, QImage::Format_RGB32);
-  image.fill(Qt::white);
-  constexpr double InchesPerMetre = 1000.0 / 25.4;
-  image.setDotsPerMeterX(static_cast<int>(InchesPerMetre * Resolution * Scale));
-  image.setDotsPerMeterY(static_cast<int>(InchesPerMetre * Resolution * Scale));
-  paint(image, image.size());
-  return image;
-}
-
-bool MapCanvas::write(QIODevice &device, const QString &suffix, QString *reason) {
-  if (suffix == QLatin1String("pdf")) {
-    QPdfWriter writer(&device);
-    writer.setPageSize(QPageSize(QSizeF(Points), QPageSize::Point));
-    writer.setPageMargins(QMarginsF());
-    writer.setResolution(Resolution);
-    paint(writer, Points);
-    return true;
-  }
-  if (suffix == QLatin1String("svg")) {
-    QSvgGenerator generator;
-    generator.setOutputDevice(&device);
-    generator.setResolution(Resolution);
-    generator.setSize(Points);
-    generator.setViewBox(QRect(QPoint(), Points));
-    paint(generator, Points);
-    return true;
-  }
-  if (picture().save(&device, qPrintable(suffix)))
-    return true;
-  *reason = tr("pictures of the kind \"%1\" are not known").arg(suffix);
-  return false;
+  paintOnWhite([&] { renderer.render(this, &painter, area); });
 }
 
 bool MapCanvas::save(const QString &path, QString *reason) {
-  const QString suffix = QFileInfo(path).suffix().toLower();
-  return WholeFile::write(
-      path, FileAccess::Source::Trusted, [&](QIODevice &device, QString *fault) { return write(device, suffix, fault); },
-      reason);
+  return ChartFile::save(
+      path, Points, [this](QPainter &painter, const QRectF &area) { paint(painter, area); }, reason);
 }
 
 void MapCanvas::saveAs() {
@@ -330,7 +286,8 @@ void MapCanvas::saveAs() {
 }
 
 void MapCanvas::copy() {
-  QGuiApplication::clipboard()->setImage(picture());
+  QGuiApplication::clipboard()->setImage(
+      ChartFile::picture(Points, [this](QPainter &painter, const QRectF &area) { paint(painter, area); }));
 }
 
 void MapCanvas::print() {

@@ -70,9 +70,7 @@ private:
   MapColors colors() const; ///< of the screen, or of paper
   QPointF shown(const QPointF &computed) const;
   QVector<QPointF> shown(QVector<QPointF> computed) const;
-  QImage picture();
-  void paint(QPaintDevice &device, const QSizeF &size);
-  bool write(QIODevice &device, const QString &suffix, QString *reason);
+  void paint(QPainter &painter, const QRectF &area);
   void saveAs();
   void copy();
   void print();

@@ -46,6 +46,7 @@ PlotActions::PlotActions(const Subject &subject)
   addDrawing();
   addPicture();
   addSelection();
+  addProfile();
   connect(m_plot.zoomer(), &PlotZoom::historyChanged, this, &PlotActions::refreshHistory);
   connect(&m_picker, &NetPicker::selectionChanged, this, &PlotActions::refreshSeen);
   connect(&m_plot, &NetPlot::settingsChanged, this, &PlotActions::refreshSeen);
@@ -166,6 +167,20 @@ void PlotActions::addSelection() {
       tr("Select where the gas of the selected element goes to"), [this] { trace(Topology::Direction::Downstream); });
 }
 
+void PlotActions::addProfile() {
+  const auto node = [this] {
+    const Selection::Names &nodes = m_net.selection().nodes;
+    return nodes.isEmpty() ? QString() : *nodes.cbegin();
+  };
+  add(Command::ProfileOfSelection, tr("Path profile from selection"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_K),
+      tr("Show pressure, height and more along a way through the selected nodes"),
+      [this] { emit profileRequested(m_net.selection().nodes.values()); });
+  add(Command::ProfileFrom, tr("Profile from here"), QKeySequence(),
+      tr("Let the path of the profile begin at the selected node"), [this, node] { emit profileFromRequested(node()); });
+  add(Command::ProfileTo, tr("Profile to here"), QKeySequence(), tr("Let the path of the profile end at the selected node"),
+      [this, node] { emit profileToRequested(node()); });
+}
+
 const DrawFunction::OfNetwork &PlotActions::ofNetwork() {
   if (!m_ofNetwork)
     m_ofNetwork = DrawFunction::ofNetwork(m_net);
@@ -230,6 +245,11 @@ void PlotActions::refreshSelection() {
   (*this)[Command::SubnetWindow]->setEnabled(selection.subnets.size() == 1);
   (*this)[Command::Upstream]->setEnabled(count == 1);
   (*this)[Command::Downstream]->setEnabled(count == 1);
+  constexpr int MostWayPoints = 50; // whoever selects more does not mean a path
+  const int nodes = count == 0 ? 0 : selection.nodes.size();
+  (*this)[Command::ProfileOfSelection]->setEnabled(nodes > 1 && nodes <= MostWayPoints);
+  (*this)[Command::ProfileFrom]->setEnabled(nodes == 1);
+  (*this)[Command::ProfileTo]->setEnabled(nodes == 1);
 }
 
 void PlotActions::refresh(const Answered &answered) {

@@ -78,6 +78,7 @@ void PlotMenu::fill(QMenu &contextMenu, const State &state) {
   addSubnet(contextMenu, state);
   addMachines(contextMenu, state);
   addUsable(contextMenu, {Command::Upstream, Command::Downstream});
+  addUsable(contextMenu, {Command::ProfileOfSelection, Command::ProfileFrom, Command::ProfileTo});
   contextMenu.addAction(m_actions[Command::SelectAll]);
   contextMenu.addSeparator();
   contextMenu.addActions({m_actions[Command::WholeNetwork], m_actions[Command::Back], m_actions[Command::Forward],

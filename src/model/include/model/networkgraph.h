@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace Topology {
@@ -42,6 +43,10 @@ public:
   /// Length of the shortest way from the next source to each node, by Dijkstra's algorithm (1959); negative for nodes that
   /// no way leads to. \param lengths of the edges; what is negative counts as no way at all long
   std::vector<double> distances(const std::vector<Index> &sources, const std::vector<double> &lengths) const;
+
+  /// The shortest way from one node to another, and of ways as long as one another that over the fewest edges; nothing when
+  /// none leads there, no ways when both are the same node. \param lengths as of distances()
+  std::optional<std::vector<Way>> shortestWay(Index from, Index to, const std::vector<double> &lengths) const;
 
 private:
   // Invariants: the ways of node n are m_ways[m_starts[n]] to m_ways[m_starts[n + 1] - 1]; m_starts ascends from 0 to the

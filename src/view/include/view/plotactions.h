@@ -55,6 +55,9 @@ public:
     SubnetWindow,
     Upstream,
     Downstream,
+    ProfileOfSelection,
+    ProfileFrom,
+    ProfileTo,
     Count
   };
 
@@ -108,6 +111,9 @@ signals:
   void characteristicsRequested(const QStringList &names);
   void subnetRequested(const QString &name); ///< in a window of its own
   void traceRequested(const QString &name, Topology::Direction direction);
+  void profileRequested(const QStringList &nodes); ///< of a path that passes them, in any order
+  void profileFromRequested(const QString &node);
+  void profileToRequested(const QString &node);
   void configureRequested();
   void searchResultsRequested(bool shown);
 
@@ -119,6 +125,7 @@ private:
   void addDrawing();
   void addPicture();
   void addSelection();
+  void addProfile();
   void refreshHistory();
   void refreshSelection();
   void setLabelsShown(bool shown);
