@@ -19,6 +19,7 @@ class CategoryList;
 class CharacteristicsStack;
 class ElementPanels;
 class ElementTable;
+enum class FunctionSource;
 struct MachineData;
 class NetVisControl;
 class NivraFindings;
@@ -95,6 +96,8 @@ signals:
   void saveLayersWanted();
   void loadLayersWanted();
   void elementsChanged(const ElementChange &change); ///< by one of the tools
+  void functionsChosen(FunctionSource source);       ///< that machines are computed with
+  void scenarioWanted(const QString &name);          ///< of the case, in the place of the open one
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;

@@ -1,25 +1,23 @@
 #include "mapcanvas.h"
 
+#include "dotsitem.h"
 #include "mappage.h"
+#include "pointmover.h"
 
 #include <base/lastfolder.h>
-#include <base/wholefile.h>
 #include <paper/pagedialog.h>
 
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QSvgGenerator>
+#include <QTimer>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
+#include <qwt_plot_legenditem.h>
 #include <qwt_plot_marker.h>
-#include <qwt_plot_renderer.h>
 #include <qwt_plot_shapeitem.h>
 #include <qwt_plot_zoomer.h>
 #include <qwt_symbol.h>
@@ -28,10 +26,8 @@
 
 namespace {
 
-constexpr int TitleSize = 9;      // points
-constexpr int LabelSpacing = 5;   // from the end of a line, where a measured point may lie
-constexpr int Resolution = 72;    // dots an inch of documents: those of a point
-constexpr QSize Points(600, 420); // of a picture
+constexpr int TitleSize = 9;    // points
+constexpr int LabelSpacing = 5; // from the end of a line, where a measured point may lie
 
 /// Zooms with what stands under the cursor beside it.
 class ReadingZoomer : public QwtPlotZoomer {
@@ -73,12 +69,71 @@ MapCanvas::MapCanvas(QWidget *parent)
     : QwtPlot(parent)
     , m_zoomer(nullptr) {
   m_zoomer = new ReadingZoomer(*this);
+  canvas()->installEventFilter(this);
+  m_mover = new PointMover(*this);
+  connect(m_mover, &PointMover::moved, this, [this](const QPointF &at) { emit pointMoved(computed(at)); });
+  connect(m_mover, &PointMover::returned, this, &MapCanvas::pointReturned);
   color(colors());
   setMinimumSize(260, 200);
 }
 
 QString MapCanvas::readout(const QPointF &position) const {
-  return m_readout ? m_readout({m_toDisplayX.inverse(position.x()), m_toDisplayY.inverse(position.y())}) : QString();
+  const QString text = m_readout ? m_readout(computed(position)) : QString();
+  const Dot *dot = dotAt(position);
+  return dot == nullptr ? text : dot->name + QLatin1Char('\n') + text;
+}
+
+const MapCanvas::Dot *MapCanvas::dotAt(const QPointF &position) const {
+  constexpr double Reach = 8.0; // pixels
+  const auto pixel = [this](const QPointF &at) {
+    return QPointF(transform(xBottom, at.x()), transform(yLeft, at.y()));
+  };
+  const Dot *nearest = nullptr;
+  double best = Reach * Reach;
+  for (const Dot &dot : m_dots) {
+    const QPointF apart = pixel(shown(dot.at)) - pixel(position);
+    const double distance = QPointF::dotProduct(apart, apart);
+    if (distance <= best) {
+      best = distance;
+      nearest = &dot;
+    }
+  }
+  return nearest;
+}
+
+void MapCanvas::setDots(std::vector<Dot> dots) {
+  m_dots = std::move(dots);
+  delete m_dotsItem;
+  m_dotsItem = nullptr;
+  if (!m_dots.empty()) {
+    QVector<QPointF> inside;
+    QVector<QPointF> outside;
+    for (const Dot &dot : m_dots)
+      (dot.isInside ? inside : outside).append(shown(dot.at));
+    m_dotsItem = new DotsItem(inside, outside);
+    m_dotsItem->attach(this);
+    colorDots(colors());
+  }
+  replot();
+}
+
+bool MapCanvas::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == canvas() && event->type() == QEvent::MouseButtonPress)
+    m_pressed = static_cast<QMouseEvent *>(event)->pos();
+  if (watched == canvas() && event->type() == QEvent::MouseButtonRelease) {
+    const auto *mouse = static_cast<QMouseEvent *>(event);
+    constexpr int Still = 3; // pixels
+    const QPointF at(invTransform(xBottom, mouse->pos().x()), invTransform(yLeft, mouse->pos().y()));
+    const Dot *dot = dotAt(at);
+    const bool isClick = mouse->button() == Qt::LeftButton && (mouse->pos() - m_pressed).manhattanLength() <= Still;
+    if (isClick && dot != nullptr) // what follows may take this map away
+      QTimer::singleShot(0, this, [this, name = dot->name] { emit dotClicked(name); });
+  }
+  return QwtPlot::eventFilter(watched, event);
+}
+
+QPointF MapCanvas::computed(const QPointF &position) const {
+  return {m_toDisplayX.inverse(position.x()), m_toDisplayY.inverse(position.y())};
 }
 
 QPointF MapCanvas::shown(const QPointF &computed) const {
@@ -97,6 +152,7 @@ MapColors MapCanvas::colors() const {
 
 void MapCanvas::add(QwtPlotItem *item, std::function<void(const MapColors &)> color) {
   color(colors());
+  item->setItemAttribute(QwtPlotItem::Legend, !item->title().isEmpty());
   item->attach(this);
   m_coloring.push_back(std::move(color));
 }
@@ -107,8 +163,15 @@ void MapCanvas::color(const MapColors &colors) {
   colors.applyTo(own);
   setPalette(own);
   static_cast<ReadingZoomer *>(m_zoomer)->takeColors(colors);
+  m_mover->setColors(colors.of(m_isMovedInside ? Green : Red), colors.ground());
   for (const auto &item : m_coloring)
     item(colors);
+  colorDots(colors);
+}
+
+void MapCanvas::colorDots(const MapColors &colors) {
+  if (m_dotsItem != nullptr)
+    m_dotsItem->setColors(colors.of(Green), colors.of(Red), colors.ground());
 }
 
 void MapCanvas::paintOnWhite(const std::function<void()> &paint) {
@@ -130,6 +193,9 @@ void MapCanvas::changeEvent(QEvent *event) {
 void MapCanvas::reset(const QString &heading, const Axis &x, const Axis &y) {
   detachItems();
   m_coloring.clear();
+  m_dots.clear();
+  m_dotsItem = nullptr; // it went with the others
+  m_mover->setHome(std::nullopt);
   m_toDisplayX = x.quantity.toDisplay();
   m_toDisplayY = y.quantity.toDisplay();
   QwtText title(heading, QwtText::PlainText);
@@ -172,6 +238,38 @@ void MapCanvas::addLine(const QVector<QPointF> &points, const QPen &pen, const Q
   });
 }
 
+void MapCanvas::addNamedLine(const QVector<QPointF> &points, const QPen &pen, const QString &name) {
+  auto *curve = new QwtPlotCurve(QwtText(name, QwtText::PlainText));
+  curve->setSamples(shown(points));
+  curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+  curve->setLegendAttribute(QwtPlotCurve::LegendShowLine);
+  add(curve, [curve, pen](const MapColors &colors) {
+    QPen shown = pen;
+    shown.setColor(colors.of(pen.color()));
+    curve->setPen(shown);
+  });
+  if (!name.isEmpty())
+    addLegend();
+}
+
+void MapCanvas::addNamedPoint(const QPointF &at, bool isInside, const QString &name) {
+  auto *marker = new QwtPlotMarker;
+  marker->setValue(shown(at));
+  marker->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  marker->setSpacing(LabelSpacing);
+  marker->setItemAttribute(QwtPlotItem::AutoScale);
+  marker->setZ(48.0);
+  add(marker, [marker, name, color = isInside ? Green : Red](const MapColors &colors) {
+    marker->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, colors.ground(), QPen(colors.of(color), 2.0), QSize(8, 8)));
+    QwtText text(name, QwtText::PlainText);
+    QFont font = text.font();
+    font.setPointSize(8);
+    text.setFont(font);
+    text.setColor(colors.of(color));
+    marker->setLabel(text);
+  });
+}
+
 void MapCanvas::addRoom(const QPointF &to) {
   auto *marker = new QwtPlotMarker;
   marker->setValue(shown(to));
@@ -203,6 +301,38 @@ void MapCanvas::addDots(const QVector<QPointF> &points) {
   });
 }
 
+void MapCanvas::addDots(const QVector<QPointF> &points, const QColor &color, const QString &name) {
+  if (points.isEmpty())
+    return;
+  auto *dots = new QwtPlotCurve(QwtText(name, QwtText::PlainText));
+  dots->setStyle(QwtPlotCurve::NoCurve);
+  dots->setSamples(shown(points));
+  dots->setRenderHint(QwtPlotItem::RenderAntialiased);
+  dots->setLegendAttribute(QwtPlotCurve::LegendShowSymbol);
+  add(dots, [dots, color](const MapColors &colors) {
+    dots->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, colors.of(color), QPen(colors.ground(), 1.0), QSize(7, 7)));
+  });
+  addLegend();
+}
+
+/// In a corner of the canvas, once, whatever is named.
+void MapCanvas::addLegend() {
+  if (!itemList(QwtPlotItem::Rtti_PlotLegend).isEmpty())
+    return;
+  auto *legend = new QwtPlotLegendItem;
+  legend->setMaxColumns(1);
+  legend->setAlignment(Qt::AlignRight | Qt::AlignTop);
+  legend->setBorderRadius(3.0);
+  add(legend, [legend](const MapColors &colors) {
+    constexpr int Alpha = 210;
+    QColor ground = colors.ground();
+    ground.setAlpha(Alpha);
+    legend->setBackgroundBrush(ground);
+    legend->setBorderPen(QPen(colors.grid()));
+    legend->setTextPen(QPen(colors.ink()));
+  });
+}
+
 void MapCanvas::addWorkingPoint(const QPointF &at, bool isInside) {
   auto *marker = new QwtPlotMarker;
   const QColor color = isInside ? Green : Red;
@@ -213,6 +343,15 @@ void MapCanvas::addWorkingPoint(const QPointF &at, bool isInside) {
     marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, colors.of(color), QPen(colors.ground(), 1.5), QSize(13, 13)));
     marker->setLinePen(colors.of(color), 1.0, Qt::DotLine);
   });
+}
+
+void MapCanvas::letMove(const QPointF &from) {
+  m_mover->setHome(shown(from));
+}
+
+void MapCanvas::setMovedInside(bool isInside) {
+  m_isMovedInside = isInside;
+  m_mover->setColors(colors().of(isInside ? Green : Red), colors().ground());
 }
 
 void MapCanvas::addStoredPoint(const QPointF &at) {
@@ -268,55 +407,12 @@ void MapCanvas::keyPressEvent(QKeyEvent *event) {
     QwtPlot::keyPressEvent(event);
 }
 
-void MapCanvas::paint(QPaintDevice &device, const QSizeF &size) {
-  constexpr double Margin = 0.025; // of the width: numbers at the ends of axes reach beyond them
-  const double margin = Margin * size.width();
-  QwtPlotRenderer renderer;
-  renderer.setDiscardFlag(QwtPlotRenderer::DiscardBackground);
-  QPainter painter(&device);
-  paintOnWhite([&] { renderer.render(this, &painter, QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin)); });
-}
-
-QImage MapCanvas::picture() {
-  constexpr int Scale = 3; // pixels a point
-  QImage image(Points * Scale, QImage::Format_RGB32);
-  image.fill(Qt::white);
-  constexpr double InchesPerMetre = 1000.0 / 25.4;
-  image.setDotsPerMeterX(static_cast<int>(InchesPerMetre * Resolution * Scale));
-  image.setDotsPerMeterY(static_cast<int>(InchesPerMetre * Resolution * Scale));
-  paint(image, image.size());
-  return image;
-}
-
-bool MapCanvas::write(QIODevice &device, const QString &suffix, QString *reason) {
-  if (suffix == QLatin1String("pdf")) {
-    QPdfWriter writer(&device);
-    writer.setPageSize(QPageSize(QSizeF(Points), QPageSize::Point));
-    writer.setPageMargins(QMarginsF());
-    writer.setResolution(Resolution);
-    paint(writer, Points);
-    return true;
-  }
-  if (suffix == QLatin1String("svg")) {
-    QSvgGenerator generator;
-    generator.setOutputDevice(&device);
-    generator.setResolution(Resolution);
-    generator.setSize(Points);
-    generator.setViewBox(QRect(QPoint(), Points));
-    paint(generator, Points);
-    return true;
-  }
-  if (picture().save(&device, qPrintable(suffix)))
-    return true;
-  *reason = tr("pictures of the kind \"%1\" are not known").arg(suffix);
-  return false;
+MapPicture MapCanvas::asPicture() {
+  return MapPicture(*this, [this](const std::function<void()> &paint) { paintOnWhite(paint); });
 }
 
 bool MapCanvas::save(const QString &path, QString *reason) {
-  const QString suffix = QFileInfo(path).suffix().toLower();
-  return WholeFile::write(
-      path, FileAccess::Source::Trusted, [&](QIODevice &device, QString *fault) { return write(device, suffix, fault); },
-      reason);
+  return asPicture().save(path, reason);
 }
 
 void MapCanvas::saveAs() {
@@ -330,7 +426,7 @@ void MapCanvas::saveAs() {
 }
 
 void MapCanvas::copy() {
-  QGuiApplication::clipboard()->setImage(picture());
+  QGuiApplication::clipboard()->setImage(asPicture().image());
 }
 
 void MapCanvas::print() {
