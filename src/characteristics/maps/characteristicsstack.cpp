@@ -74,12 +74,16 @@ QStringList CharacteristicsStack::opened() const {
 
 void CharacteristicsStack::setMachines(MachineData machines) {
   m_machines.set(std::move(machines));
-  const QStringList names = opened();
+  std::vector<std::pair<QString, int>> before; // with the view that was shown
+  for (const MachinePage *page : pages())
+    before.emplace_back(page->objectName(), page->viewNumber()); // NOLINT(performance-inefficient-vector-operation)
   while (m_tabs->count() > 0)
     delete m_tabs->widget(0);
-  for (const QString &name : names) {
-    if (QWidget *page = makePage(name))
+  for (const auto &[name, view] : before) {
+    if (MachinePage *page = makePage(name)) {
       m_tabs->addTab(page, name);
+      page->showView(view);
+    }
   }
   showHint();
 }

@@ -2,6 +2,7 @@
 
 #include "cloudmodel.h"
 #include "mapplot.h"
+#include "pointmover.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -57,15 +58,17 @@ MapCanvas *CloudView::canvas() const {
   return m_plot;
 }
 
-void CloudView::show(const TurboCompressor &machine) {
+void CloudView::show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point) {
   m_hasRatios = false;
-  m_plot->show(machine, std::nullopt);
+  m_plot->show(machine, point);
+  m_plot->mover().setHome(std::nullopt); // what it would need there is told beside the machine's own map
   take();
 }
 
-void CloudView::show(const PistonCompressor &machine) {
+void CloudView::show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point) {
   m_hasRatios = true;
-  m_plot->show(machine, std::nullopt);
+  m_plot->show(machine, point);
+  m_plot->mover().setHome(std::nullopt); // what it would need there is told beside the machine's own map
   take();
 }
 

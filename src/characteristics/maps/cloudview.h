@@ -3,7 +3,9 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <machines/workingpoint.h>
 #include <memory>
+#include <optional>
 
 class CloudModel;
 class MapCanvas;
@@ -13,8 +15,6 @@ class QProgressBar;
 class QPushButton;
 class QTableView;
 class ScenarioCloud;
-struct TurboCompressor;
-struct PistonCompressor;
 
 /// All scenarios of the case on the map of one machine, and as a table. A click on a dot, or Return on a row, asks for the
 /// scenario.
@@ -24,8 +24,9 @@ public:
   /// \param machine by name; the map is that of one of both
   CloudView(std::shared_ptr<ScenarioCloud> cloud, const QString &machine, QWidget *parent = nullptr);
 
-  void show(const TurboCompressor &machine);
-  void show(const PistonCompressor &machine);
+  /// \param point of the open scenario
+  void show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point);
+  void show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point);
   MapCanvas *canvas() const;
 
 signals:

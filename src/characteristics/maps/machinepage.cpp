@@ -80,6 +80,17 @@ MachinePage::View MachinePage::view() const {
   return static_cast<View>(m_views->tabData(m_views->currentIndex()).toInt());
 }
 
+int MachinePage::viewNumber() const {
+  return static_cast<int>(view());
+}
+
+void MachinePage::showView(int number) {
+  for (int i = 0; i < m_views->count(); ++i) {
+    if (m_views->tabData(i).toInt() == number)
+      m_views->setCurrentIndex(i);
+  }
+}
+
 /// The map is always there.
 void MachinePage::offerViews(const NetworkMachines::Machine &machine) {
   const QSignalBlocker blocker(m_views);
@@ -196,9 +207,9 @@ QWidget *MachinePage::makeScenarios(const element &compressor, const NetworkMach
   prepare(*view->canvas());
   connect(view, &CloudView::scenarioWanted, this, &MachinePage::scenarioWanted);
   if (machine.turbo)
-    view->show(*machine.turbo);
+    view->show(*machine.turbo, machine.point);
   else
-    view->show(*machine.piston);
+    view->show(*machine.piston, machine.point);
   if (cloud->scenarios().empty())
     cloud->start();
   return view;

@@ -31,6 +31,9 @@ public:
   /// After properties have changed: makes the map anew when there is something else to say.
   void refresh();
   void showAnew(); ///< whether there is something else to say or not
+  /// Which view is shown, for a page that takes the place of this one.
+  int viewNumber() const;
+  void showView(int number);
   /// What pages with its maps say.
   void setPageFacts(const PageFacts &facts);
 

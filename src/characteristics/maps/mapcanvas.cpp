@@ -114,7 +114,10 @@ void MapCanvas::setDots(std::vector<Dot> dots) {
     m_dotsItem->attach(this);
     colorDots(colors());
   }
-  replot();
+  if (m_zoomer->zoomRectIndex() == 0)
+    finish(); // the axes reach to all of them
+  else
+    replot();
 }
 
 bool MapCanvas::eventFilter(QObject *watched, QEvent *event) {
