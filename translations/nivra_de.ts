@@ -1181,6 +1181,46 @@ Lokale Git-Änderungen: %5</translation>
         <source>Largest norm volume flow that the connection can carry</source>
         <translation>Größter Normvolumenstrom, den der Anschluss tragen kann</translation>
     </message>
+    <message>
+        <source>distance to surge</source>
+        <translation>Abstand zur Pumpgrenze</translation>
+    </message>
+    <message>
+        <source>How much less flow brings the machine to its surge line at the same speed, in percent of the flow; negative beyond the line; of a station that of the machine with the least</source>
+        <translation>Um wie viel weniger Durchfluss die Maschine bei gleicher Drehzahl an ihre Pumpgrenze bringt, in Prozent des Durchflusses; jenseits der Grenze negativ; bei einer Station der Wert der Maschine mit dem kleinsten</translation>
+    </message>
+    <message>
+        <source>turndown</source>
+        <translation>Regelbereich</translation>
+    </message>
+    <message>
+        <source>How much less flow brings the machine to its surge line at the same head, in percent of the flow; negative beyond the line; of a station that of the machine with the least</source>
+        <translation>Um wie viel weniger Durchfluss die Maschine bei gleicher Förderhöhe an ihre Pumpgrenze bringt, in Prozent des Durchflusses; jenseits der Grenze negativ; bei einer Station der Wert der Maschine mit dem kleinsten</translation>
+    </message>
+    <message>
+        <source>distance to choke</source>
+        <translation>Abstand zur Schluckgrenze</translation>
+    </message>
+    <message>
+        <source>How much more flow brings the machine to its choke line at the same speed, in percent of the flow; negative beyond the line; of a station that of the machine with the least</source>
+        <translation>Um wie viel mehr Durchfluss die Maschine bei gleicher Drehzahl an ihre Schluckgrenze bringt, in Prozent des Durchflusses; jenseits der Grenze negativ; bei einer Station der Wert der Maschine mit dem kleinsten</translation>
+    </message>
+    <message>
+        <source>speed reserve</source>
+        <translation>Drehzahlreserve</translation>
+    </message>
+    <message>
+        <source>How much faster the machine may turn, in percent of its largest speed; negative above it; of a station that of the machine with the least</source>
+        <translation>Um wie viel schneller die Maschine drehen darf, in Prozent ihrer größten Drehzahl; darüber negativ; bei einer Station der Wert der Maschine mit dem kleinsten</translation>
+    </message>
+    <message>
+        <source>power reserve</source>
+        <translation>Leistungsreserve</translation>
+    </message>
+    <message>
+        <source>Largest power of the drive at this speed and ambient temperature less the power at the shaft; of a station that of the machine with the least</source>
+        <translation>Größte Leistung des Antriebs bei dieser Drehzahl und Umgebungstemperatur abzüglich der Leistung an der Welle; bei einer Station der Wert der Maschine mit dem kleinsten</translation>
+    </message>
 </context>
 <context>
     <name>BalanceDock</name>
@@ -1409,6 +1449,13 @@ Lokale Git-Änderungen: %5</translation>
     </message>
 </context>
 <context>
+    <name>CaseMachines</name>
+    <message>
+        <source>The scenario belongs to another geometry, %1.</source>
+        <translation>Das Szenario gehört zu einer anderen Geometrie, %1.</translation>
+    </message>
+</context>
+<context>
     <name>CaseOpening</name>
     <message>
         <source>Invalid Workspace</source>
@@ -1441,6 +1488,10 @@ Lokale Git-Änderungen: %5</translation>
     <message>
         <source>Startup finished in %1ms</source>
         <translation>Geöffnet in %1ms</translation>
+    </message>
+    <message>
+        <source>Which functions of machines count cannot be kept: %1</source>
+        <translation>Welche Funktionen der Maschinen gelten, lässt sich nicht merken: %1</translation>
     </message>
 </context>
 <context>
@@ -1619,6 +1670,64 @@ by the right-click menu of the drawing.</source>
     <message>
         <source>Name in the legend</source>
         <translation>Name in der Legende</translation>
+    </message>
+</context>
+<context>
+    <name>CloudModel</name>
+    <message>
+        <source>does not run</source>
+        <translation>läuft nicht</translation>
+    </message>
+    <message>
+        <source>not read: %1</source>
+        <translation>nicht gelesen: %1</translation>
+    </message>
+    <message>
+        <source>scenario</source>
+        <translation>Szenario</translation>
+    </message>
+    <message>
+        <source>volume flow</source>
+        <translation>Volumenstrom</translation>
+    </message>
+    <message>
+        <source>pressure ratio</source>
+        <translation>Druckverhältnis</translation>
+    </message>
+    <message>
+        <source>speed</source>
+        <translation>Drehzahl</translation>
+    </message>
+    <message>
+        <source>shaft power</source>
+        <translation>Wellenleistung</translation>
+    </message>
+    <message>
+        <source>distance to surge [%]</source>
+        <translation>Abstand zur Pumpgrenze [%]</translation>
+    </message>
+</context>
+<context>
+    <name>CloudView</name>
+    <message>
+        <source>Scenarios</source>
+        <translation>Szenarien</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Read again</source>
+        <translation>Neu lesen</translation>
+    </message>
+    <message>
+        <source>Reading the scenarios of the case …</source>
+        <translation>Die Szenarien des Falls werden gelesen …</translation>
+    </message>
+    <message>
+        <source>%1 of %2 scenarios. A click on a dot, or Return on a row, opens the scenario.</source>
+        <translation>%1 von %2 Szenarien. Ein Klick auf einen Punkt oder die Eingabetaste auf einer Zeile öffnet das Szenario.</translation>
     </message>
 </context>
 <context>
@@ -3592,10 +3701,6 @@ Bitte anwenden und speichern</translation>
         <translation>Wie die Maschinen der Station zusammenarbeiten</translation>
     </message>
     <message>
-        <source>What the map is made of</source>
-        <translation>Woraus das Kennfeld gemacht ist</translation>
-    </message>
-    <message>
         <source>as it suits: the first configuration in which all machines work inside their maps</source>
         <translation>wie es passt: die erste Fahrweise, in der alle Maschinen innerhalb ihrer Kennfelder arbeiten</translation>
     </message>
@@ -3610,6 +3715,90 @@ Bitte anwenden und speichern</translation>
     <message>
         <source>the published coefficients</source>
         <translation>die veröffentlichten Koeffizienten</translation>
+    </message>
+    <message>
+        <source>What maps, working points and distances to limits are computed with, in the whole workspace</source>
+        <translation>Womit Kennfelder, Betriebspunkte und Abstände zu Grenzen berechnet werden, im ganzen Arbeitsbereich</translation>
+    </message>
+    <message>
+        <source>Show the lines of the other functions, too</source>
+        <translation>Auch die Linien der anderen Funktionen zeigen</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Kennfeld</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>Residuals</source>
+        <translation>Abweichungen</translation>
+    </message>
+    <message>
+        <source>Scenarios</source>
+        <translation>Szenarien</translation>
+    </message>
+    <message>
+        <source>power reserve</source>
+        <translation>Leistungsreserve</translation>
+    </message>
+    <message>
+        <source>speed reserve</source>
+        <translation>Drehzahlreserve</translation>
+    </message>
+    <message>
+        <source>distance to surge</source>
+        <translation>Abstand zur Pumpgrenze</translation>
+    </message>
+    <message>
+        <source>turndown</source>
+        <translation>Regelbereich</translation>
+    </message>
+    <message>
+        <source>distance to choke</source>
+        <translation>Abstand zur Schluckgrenze</translation>
+    </message>
+    <message>
+        <source>fuel gas</source>
+        <translation>Brenngas</translation>
+    </message>
+    <message>
+        <source>scenario</source>
+        <translation>Szenario</translation>
+    </message>
+    <message>
+        <source>moved point</source>
+        <translation>verschobener Punkt</translation>
+    </message>
+    <message>
+        <source>efficiency of the drive</source>
+        <translation>Wirkungsgrad des Antriebs</translation>
+    </message>
+    <message>
+        <source>Esc or a double click goes back to the scenario&apos;s point. Nothing in the network changes.</source>
+        <translation>Esc oder ein Doppelklick führt zum Punkt des Szenarios zurück. Im Netz ändert sich nichts.</translation>
+    </message>
+    <message>
+        <source>machine</source>
+        <translation>Maschine</translation>
+    </message>
+    <message>
+        <source>stage</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>part of the flow</source>
+        <translation>Anteil am Durchfluss</translation>
+    </message>
+    <message>
+        <source>Shaft power of all: %1</source>
+        <translation>Wellenleistung aller: %1</translation>
+    </message>
+    <message>
+        <source>Drag the diamond, or use the arrow keys, to see what another point would need.</source>
+        <translation>Ziehen Sie die Raute oder drücken Sie die Pfeiltasten, um zu sehen, was ein anderer Punkt bräuchte.</translation>
     </message>
 </context>
 <context>
@@ -3798,6 +3987,10 @@ Grenze = %1 bei %2</translation>
 takes %1</source>
         <translation>
 braucht %1</translation>
+    </message>
+    <message>
+        <source>the functions that do not count</source>
+        <translation>die Funktionen, die nicht gelten</translation>
     </message>
 </context>
 <context>
@@ -6636,6 +6829,107 @@ ist nicht mehr vorhanden. Entf nimmt es aus der Liste.</translation>
     </message>
 </context>
 <context>
+    <name>ResidualModel</name>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Root of the mean of the squared residuals</source>
+        <translation>Wurzel aus dem Mittel der quadrierten Abweichungen</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>fitted:
+mean</source>
+        <translation>angepasst:
+im Mittel</translation>
+    </message>
+    <message>
+        <source>fitted:
+largest</source>
+        <translation>angepasst:
+größte</translation>
+    </message>
+    <message>
+        <source>published:
+mean</source>
+        <translation>veröffentlicht:
+im Mittel</translation>
+    </message>
+    <message>
+        <source>published:
+largest</source>
+        <translation>veröffentlicht:
+größte</translation>
+    </message>
+</context>
+<context>
+    <name>ResidualPlot</name>
+    <message>
+        <source>volume flow at the inlet</source>
+        <translation>Volumenstrom am Eingang</translation>
+    </message>
+    <message>
+        <source>residual</source>
+        <translation>Abweichung</translation>
+    </message>
+    <message>
+        <source>Q = %1
+residual = %2</source>
+        <translation>Q = %1
+Abweichung = %2</translation>
+    </message>
+    <message>
+        <source>published</source>
+        <translation>veröffentlicht</translation>
+    </message>
+    <message>
+        <source>fitted</source>
+        <translation>angepasst</translation>
+    </message>
+</context>
+<context>
+    <name>ResidualView</name>
+    <message>
+        <source>head</source>
+        <translation>Förderhöhe</translation>
+    </message>
+    <message>
+        <source>efficiency</source>
+        <translation>Wirkungsgrad</translation>
+    </message>
+    <message>
+        <source>surge line</source>
+        <translation>Pumpgrenze</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Funktion</translation>
+    </message>
+    <message>
+        <source>The function whose residuals are shown</source>
+        <translation>Die Funktion, deren Abweichungen gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Residuals by speed</source>
+        <translation>Abweichungen nach Drehzahl</translation>
+    </message>
+    <message>
+        <source>%1: residuals of the %2
+function less measured point</source>
+        <translation>%1: Abweichungen, %2
+Funktion abzüglich gemessenem Punkt</translation>
+    </message>
+</context>
+<context>
     <name>RowFilter</name>
     <message>
         <source>Behind %1 a value is missing, such as %1 10</source>
@@ -8287,6 +8581,37 @@ Wählen Sie eine Einstellung, um über sie zu lesen; Eingabe, Leertaste oder ein
     <message>
         <source>Remove &amp;Missing Files</source>
         <translation>Fe&amp;hlende Dateien entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>StationPlot</name>
+    <message>
+        <source>Q = %1, ratio = %2</source>
+        <translation>Q = %1, Verhältnis = %2</translation>
+    </message>
+    <message>
+        <source>%1
+configuration %2</source>
+        <translation>%1
+Fahrweise %2</translation>
+    </message>
+    <message>
+        <source>all configurations</source>
+        <translation>alle Fahrweisen</translation>
+    </message>
+    <message>
+        <source>volume flow at the inlet</source>
+        <translation>Volumenstrom am Eingang</translation>
+    </message>
+    <message>
+        <source>pressure ratio</source>
+        <translation>Druckverhältnis</translation>
+    </message>
+    <message>
+        <source>Q = %1
+ratio = %2</source>
+        <translation>Q = %1
+Verhältnis = %2</translation>
     </message>
 </context>
 <context>

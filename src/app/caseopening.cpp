@@ -21,6 +21,7 @@
 #include <QMainWindow>
 #include <QStatusBar>
 
+#include <machines/functionmemory.h>
 #include <utility>
 
 CaseOpening::CaseOpening(const Parts &parts)
@@ -69,6 +70,7 @@ void CaseOpening::open(const QString &path) {
   loadSettings();
   if (Settings::StartWithLastScenario.value() && !m_parts.memory.isClean())
     useLastScenario();
+  m_loader.setFunctions(m_parts.memory.isClean() ? FunctionSource::Fitted : FunctionMemory::of(workspace().root()));
   const bool isDone = m_reading.read();
   m_isRead = isDone && !m_parts.control.net().isEmpty();
   m_parts.layers.enter(workspace(), m_loader.layers());
@@ -206,6 +208,13 @@ void CaseOpening::showFindings() {
 void CaseOpening::noticeChecked(const std::vector<FindingList::Group> &groups) {
   m_checked = groups;
   showFindings();
+}
+
+std::vector<ElementChange> CaseOpening::useFunctions(FunctionSource source) {
+  QString reason;
+  if (!m_parts.memory.isClean() && !FunctionMemory::keep(workspace().root(), source, &reason))
+    NivraMsg::logWarning(tr("Which functions of machines count cannot be kept: %1").arg(reason));
+  return m_loader.useFunctions(source);
 }
 
 ReadFiles::Stamps CaseOpening::filesShown() const {

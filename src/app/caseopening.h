@@ -53,6 +53,8 @@ public:
   void leave(UnsavedEdits::Answer answer);
   /// Those of the user and of the workspace.
   void loadSettings();
+  /// A person chose which functions of machines count in this workspace. Returns what has changed by it.
+  std::vector<ElementChange> useFunctions(FunctionSource source);
   /// What reading noticed, also of other scenarios for their pages.
   void showFindings();
   /// What the check of the network found, until another one is read.

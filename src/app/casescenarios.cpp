@@ -14,6 +14,11 @@ PageFacts CaseScenarios::facts(const NivraWorkspace &workspace) {
   return {workspace.currentCase()->name, workspace.hasScenario() ? workspace.currentScenario()->workDir : QString()};
 }
 
+QString CaseScenarios::fileOf(const NivraWorkspace &workspace, const QString &name) {
+  const auto form = workspace.isJson() ? ScenarioFiles::Form::Json : ScenarioFiles::Form::Text;
+  return ScenarioFiles::in(QDir(workspace.caseDirectory()).filePath(name), form);
+}
+
 ScenarioSource CaseScenarios::of(const NivraWorkspace &workspace, const Noticed &noticed) {
   const QString folder = workspace.caseDirectory();
   const QString geometry = workspace.geometryPath();

@@ -1,5 +1,7 @@
 #include "networkloader.h"
 
+#include "machinefile.h"
+
 #include <base/fileaccess.h>
 #include <base/nivramsg.h>
 #include <model/netmetadata.h>
@@ -114,7 +116,11 @@ bool NetworkLoader::readStages(const ReadOptions &options) {
     m_seconds.append({stage, static_cast<double>(timer.restart()) * SecondsPerMillisecond});
   };
   m_noticed.clear();
+  const FunctionSource source = m_machines.source;
   m_machines = MachineData();
+  m_machines.source = source;
+  m_machineLimits.forget();
+  m_machineFaults.clear();
   m_layers = {};
   m_formulas.setDefinitions({}); // which speak of the network before
   NivraReader reader(m_net, logFinding);
@@ -222,19 +228,42 @@ ScenarioSummary NetworkLoader::scenarioSummary() const {
 }
 
 void NetworkLoader::readMachines(const NivraReader &reader) {
-  if (!m_workspace.hasScenario() || m_workspace.currentScenario()->comprDatabase.isEmpty())
+  const QString path = MachineFile::of(m_workspace);
+  if (path.isEmpty())
     return;
-  const QString &database = m_workspace.currentScenario()->comprDatabase;
-  const QString path = QDir(m_workspace.scenarioDirectory()).filePath(database);
-  if (database == NivraScenario().comprDatabase && !QFileInfo::exists(path))
-    return; // nobody named it
   MachineReader::Result result = MachineReader::read(path);
+  result.data.use(m_machines.source);
   m_machines = std::move(result.data);
-  m_machines.ambientTemperature = m_gasParams.tamb - Units::ZeroCelsius;
-  m_machines.gas = {reader.gases(), static_cast<GasLaw::Wanted>(m_gasParams.ntype_gasLaw), m_gasParams.tsoil};
-  append(result.findings, NetworkMachines(m_net, m_machines).findings());
+  MachineFile::takeScenario(m_machines, m_gasParams, reader.gases());
+  m_machineFaults = result.findings;
+  append(result.findings, judgeMachines());
   report(result.findings);
   notice(tr("Machine data"), std::move(result.findings));
+}
+
+/// Where they work and how near they are to their limits.
+Findings NetworkLoader::judgeMachines(std::vector<ElementChange> *changes) {
+  NetworkMachines::Judgement judgement = NetworkMachines(m_net, m_machines).judge();
+  std::vector<ElementChange> written = m_machineLimits.write(judgement.machines);
+  if (changes != nullptr)
+    *changes = std::move(written);
+  return std::move(judgement.findings);
+}
+
+std::vector<ElementChange> NetworkLoader::useFunctions(FunctionSource source) {
+  m_machines.use(source);
+  std::vector<ElementChange> changes;
+  if (m_machines.isEmpty())
+    return changes;
+  Findings findings = m_machineFaults;
+  append(findings, judgeMachines(&changes));
+  const QString stage = tr("Machine data");
+  const auto isOld = [&stage](const FindingList::Group &group) {
+    return group.name == stage;
+  };
+  m_noticed.erase(std::remove_if(m_noticed.begin(), m_noticed.end(), isOld), m_noticed.end());
+  notice(stage, std::move(findings));
+  return changes;
 }
 
 bool NetworkLoader::assembleSubnets(const ReadOptions &options) {

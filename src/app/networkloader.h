@@ -20,6 +20,7 @@
 
 #include <functional>
 #include <machines/machinedata.h>
+#include <machines/machinelimits.h>
 #include <utility>
 
 /// Brings a chosen file into a NetData: workspace, configuration, network, checks. It knows no widgets; the window and
@@ -32,7 +33,8 @@ public:
 
   explicit NetworkLoader(NetData &net)
       : m_net(net)
-      , m_formulas(net) {}
+      , m_formulas(net)
+      , m_machineLimits(net) {}
 
   /// False when the path yields no usable workspace; the reason is logged and kept for error().
   bool resolve(const QString &path);
@@ -64,6 +66,10 @@ public:
   const QString &templateFolder() const { return m_templateFolder; }
   /// Of the scenario's compressor database; empty without one.
   const MachineData &machines() const { return m_machines; }
+  /// Which functions of machines count, for the next reading.
+  void setFunctions(FunctionSource source) { m_machines.source = source; }
+  /// The same for what is read already. Returns what has changed by it.
+  std::vector<ElementChange> useFunctions(FunctionSource source);
   /// The files of the workspace that were read, as they were then, and results and layers that may come beside them.
   const ReadFiles::Stamps &files() const { return m_read; }
   /// Why the network that was read cannot be read again; empty when it can.
@@ -88,6 +94,7 @@ private:
   bool assembleSubnets(const ReadOptions &options);
   bool readSubResults(NivraReader &reader, const NivraReader::Options &options);
   void readMachines(const NivraReader &reader);
+  Findings judgeMachines(std::vector<ElementChange> *changes = nullptr);
   bool computeFormulas(const Progress &progress);
   bool stop();
   void notice(const QString &stage, Findings findings);
@@ -101,6 +108,8 @@ private:
   GasTable m_gases;
   ScenarioSummary::Files m_files;
   MachineData m_machines;
+  MachineLimits m_machineLimits;
+  Findings m_machineFaults; ///< of their file
   ReadFiles::Stamps m_read;
   LayersOfCase m_layers;
   QString m_templateFolder;

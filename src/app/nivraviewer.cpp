@@ -2,6 +2,7 @@
 
 #include "aboutbox.h"
 #include "caseopening.h"
+#include "casescenarios.h"
 #include "commandicons.h"
 #include "commands.h"
 #include "language/languagechoice.h"
@@ -162,6 +163,12 @@ void NivraViewer::setUpOpening() {
   connect(m_tools, &ToolDocks::elementsChanged, m_layers, &LayerKeeper::note);
   connect(m_tools, &ToolDocks::saveLayersWanted, m_layers, &LayerKeeper::saveAs);
   connect(m_tools, &ToolDocks::loadLayersWanted, m_layers, &LayerKeeper::load);
+  connect(m_tools, &ToolDocks::scenarioNamed, this,
+          [this](const QString &name) { open(CaseScenarios::fileOf(m_opening->workspace(), name)); });
+  connect(m_tools, &ToolDocks::functionsChosen, this, [this](FunctionSource source) {
+    for (const ElementChange &change : m_opening->useFunctions(source))
+      addChange(change);
+  });
 }
 
 void NivraViewer::setUpSubnets() {

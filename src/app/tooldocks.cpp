@@ -1,5 +1,6 @@
 #include "tooldocks.h"
 
+#include "casemachines.h"
 #include "casescenarios.h"
 #include "consoledock.h"
 #include "dockroom.h"
@@ -169,6 +170,8 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
     createCharacteristics();
   if (m_characteristics != nullptr)
     m_characteristics->setPageFacts(CaseScenarios::facts(workspace));
+  if (m_characteristics != nullptr && workspace.isValid())
+    m_characteristics->setScenarios(CaseMachines::of(workspace), workspace.caseDirectory());
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), m_control.labelsRead(),
                    workspace.filePath(QStringLiteral("plotsettings.ini")), m_control.styleFiles().settings);
   if (edits == Edits::Dropped) {
@@ -250,12 +253,16 @@ void ToolDocks::forgetElements() {
     m_scenarioSet->forget();
   if (m_pathProfile != nullptr)
     m_pathProfile->dock()->forget();
+  if (m_characteristics != nullptr)
+    m_characteristics->cancelReading();
 }
 
 void ToolDocks::createCharacteristics() {
   m_characteristics = new CharacteristicsStack(m_net, showFinding, &m_window);
   addDock(m_characteristics, QStringLiteral("characteristics"), Qt::RightDockWidgetArea);
   connect(&m_control, &NetVisControl::openCharacteristicsRequested, this, &ToolDocks::openCharacteristics);
+  connect(m_characteristics, &CharacteristicsStack::functionsChosen, this, &ToolDocks::functionsChosen);
+  connect(m_characteristics, &CharacteristicsStack::scenarioWanted, this, &ToolDocks::scenarioNamed);
 }
 
 void ToolDocks::setMachines(const MachineData &machines, Pages pages) {

@@ -20,6 +20,7 @@ class CategoryList;
 class CharacteristicsStack;
 class ElementPanels;
 class ElementTable;
+enum class FunctionSource;
 struct MachineData;
 class NetVisControl;
 class NivraFindings;
@@ -100,7 +101,9 @@ signals:
   void saveLayersWanted();
   void loadLayersWanted();
   void elementsChanged(const ElementChange &change); ///< by one of the tools
+  void functionsChosen(FunctionSource source);       ///< that machines are computed with
   void scenarioWanted(const QString &file);          ///< in place of what is open
+  void scenarioNamed(const QString &name);           ///< of the case, to be opened in place of the open one
 
 protected:
   bool eventFilter(QObject *watched, QEvent *event) override;

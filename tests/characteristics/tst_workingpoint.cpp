@@ -414,7 +414,7 @@ void TestWorkingPoint::stationsShareTheFlow() {
   const element &edge = m_net->edges().at(QStringLiteral("M"));
   NetworkMachines machines(*m_net, d);
   const auto of = [&](const char *name, const char *configuration) {
-    return machines.machine(edge, QString::fromLatin1(name), {QString::fromLatin1(configuration), FunctionSource::Fitted});
+    return machines.machine(edge, QString::fromLatin1(name), {QString::fromLatin1(configuration)});
   };
   // Without configurations in the data: all side by side, or each alone.
   QCOMPARE(machines.configurations(edge).size(), std::size_t(3));

@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
 #include <machines/compression.h>
 
@@ -18,6 +19,15 @@ struct Texts {
 double value(const NetData &net, const element &e, const char *property) {
   const double number = net.value(e, PropertyKey::find(property));
   return number == NetData::NoValue ? 0.0 : number;
+}
+
+/// That feeds the drive, where the compressor or its drive name one.
+const element *fuelNode(const NetData &net, const element &compressor) {
+  const PropertyKey property = PropertyKey::find("gasnode");
+  if (const element *own = net.nodes().find(compressor.value(property)))
+    return own;
+  const element *drive = net.nodes().find(compressor.value(Names::all().drive));
+  return drive == nullptr ? nullptr : net.nodes().find(drive->value(property));
 }
 
 void judgeDensity(Compression &c) {
@@ -48,6 +58,8 @@ std::optional<Compression> Compression::of(const NetData &net, const element &co
   const GasSource::Gas gas = gases.at(*inlet);
   c.gas = gas.law;
   c.gasOrigin = gas.origin;
+  const element *fuel = fuelNode(net, compressor);
+  c.fuelValue = fuel == nullptr ? gas.fuelValue : gases.at(*fuel).fuelValue;
   c.massFlow = value(net, compressor, "m");
   if (c.massFlow == 0.0)
     c.massFlow = value(net, compressor, "q") * NormFlowsPerSecond * gas.normDensity;
@@ -94,8 +106,8 @@ double Compression::exponent() const {
   return 1.0 / (1.0 - low);
 }
 
-double Compression::adiabaticHead() const {
-  const double kappa = exponent();
+double Compression::adiabaticHead(double meanExponent) const {
+  const double kappa = meanExponent;
   const double k = (kappa - 1.0) / kappa;
   return inletPressure * KiloPascalPerBar / density() / k * (std::pow(ratio(), k) - 1.0);
 }
@@ -106,9 +118,33 @@ double Compression::ratioOf(double head) const {
   return std::pow(1.0 + head * k * density() / (inletPressure * KiloPascalPerBar), 1.0 / k);
 }
 
-std::optional<double> Compression::outletTemperature(double efficiency) const {
+std::optional<double> Compression::outletTemperature(double efficiency, double head) const {
   if (!(efficiency > 0.0))
     return std::nullopt;
-  const double enthalpy = gas->at(inletPressure, inletTemperature).enthalpy + adiabaticHead() / efficiency;
+  const double enthalpy = gas->at(inletPressure, inletTemperature).enthalpy + head / efficiency;
   return gas->temperatureByEnthalpy(outletPressure, enthalpy);
+}
+
+Compression Compression::withRatio(double flow, double ratio) const {
+  Compression other = *this;
+  other.massFlow = flow * density();
+  other.isReversed = false;
+  other.outletPressure = inletPressure * ratio;
+  return other;
+}
+
+/// The ratio hardly changes the exponent, so that a few turns are enough.
+Compression Compression::withHead(double flow, double head) const {
+  constexpr int Turns = 8;
+  constexpr double Near = 1e-12;
+  Compression other = withRatio(flow, std::max(1.0, ratio()));
+  for (int i = 0; i < Turns; ++i) {
+    const double next = other.ratioOf(head);
+    const bool isFound = !std::isfinite(next) || std::abs(next - other.ratio()) < Near * next;
+    if (std::isfinite(next))
+      other.outletPressure = inletPressure * next;
+    if (isFound)
+      break;
+  }
+  return other;
 }

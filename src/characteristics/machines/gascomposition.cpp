@@ -20,6 +20,9 @@ constexpr double NormPressure = 101.325; // kPa
 /// Superior molar calorific values at 25 degC in kJ/mol, ISO 6976:1995 table 3, in the order of the components.
 constexpr std::array<double, Gerg2008::Components> CalorificValues{890.63, 0.0, 0.0, 1560.69, 2219.17, 285.83};
 
+/// The inferior ones: less 44.016 kJ for each mol of water.
+constexpr std::array<double, Gerg2008::Components> LowerCalorificValues{802.60, 0.0, 0.0, 1428.64, 2043.11, 241.81};
+
 /// In K, in the order of the components. Files state the mean of the parts by their molar shares (Kay's rule).
 constexpr std::array<double, Gerg2008::Components> CriticalTemperatures{190.564, 126.192, 304.128, 305.322, 369.825, 33.19};
 
@@ -243,4 +246,17 @@ std::optional<GasComposition::Inferred> GasComposition::infer(const GasData &gas
     result.remarks.append(
         Texts::tr("Nothing tells the share of carbon dioxide, %1 % are assumed").arg(100.0 * UsualCarbonDioxide));
   return result;
+}
+
+double GasComposition::lowerCalorificValue(const GasData &gas) {
+  constexpr double MolarVolume = 22.36; // m3/kmol, of natural gas at norm conditions
+  if (gas.lowerCalorificValue > 0.0)
+    return gas.lowerCalorificValue;
+  const std::optional<Inferred> inferred = infer(gas);
+  const Gerg2008::Composition shares = inferred ? inferred->shares : Gerg2008::Composition{1.0};
+  const double lower = mean(LowerCalorificValues, shares);
+  const double upper = calorificValue(shares);
+  if (gas.calorificValue > 0.0 && upper > 0.0)
+    return gas.calorificValue * lower / upper;
+  return lower / MolarVolume; // kJ/mol are MJ/kmol
 }

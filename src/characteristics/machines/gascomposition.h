@@ -19,4 +19,8 @@ struct Inferred {
 /// Nothing when density and molar mass are missing, or no such gas has these values.
 std::optional<Inferred> infer(const GasData &gas);
 
+/// Inferior calorific value in MJ/m3 at norm conditions: as stated, else by the superior one and the shares, of which the
+/// water that burning makes stays vapour; of methane where nothing is known.
+double lowerCalorificValue(const GasData &gas);
+
 } // namespace GasComposition

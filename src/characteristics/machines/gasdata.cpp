@@ -45,6 +45,7 @@ GasData GasData::of(const element &gas, QStringList *faults) {
   data.normDensity = positive("rhon");
   data.molarMass = positive("molarmass");
   data.calorificValue = positive("hs");
+  data.lowerCalorificValue = positive("hi");
   data.criticalPressure = positive("pcrit");
   data.criticalTemperature = positive("tcrit");
   data.methane = share("ch4");

@@ -1,3 +1,5 @@
+#include "gascomposition.h"
+
 #include <model/names.h>
 #include <model/units.h>
 
@@ -8,8 +10,8 @@ namespace {
 /// What makes a law, as text: equal texts are equal gases.
 QString keyOf(const GasData &data) {
   QStringList parts;
-  for (const double value :
-       {data.normDensity, data.molarMass, data.calorificValue, data.criticalPressure, data.criticalTemperature})
+  for (const double value : {data.normDensity, data.molarMass, data.calorificValue, data.lowerCalorificValue,
+                             data.criticalPressure, data.criticalTemperature})
     parts.append(QString::number(value, 'g', 17));
   for (const auto &share : {data.methane, data.nitrogen, data.carbonDioxide, data.hydrogen})
     parts.append(share ? QString::number(*share, 'g', 17) : QString());
@@ -45,6 +47,7 @@ GasSource::Gas GasSource::gasOf(const GasData &data, const QString &origin) cons
     gas.law = GasLaw::of(data, m_scenario.law);
     constexpr double NormPressure = 1.01325;
     gas.normDensity = data.normDensity > 0.0 ? data.normDensity : gas.law->at(NormPressure, Units::NormTemperature).density;
+    gas.fuelValue = GasComposition::lowerCalorificValue(data);
     found = m_gasesByData.emplace(key, gas).first;
   }
   Gas gas = found->second;

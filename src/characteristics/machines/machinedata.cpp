@@ -179,6 +179,23 @@ std::optional<std::pair<double, double>> TurboCompressor::flows(double speed) co
   return std::make_pair(first, last);
 }
 
+std::optional<double> TurboCompressor::speedFor(double flow, double value) const {
+  constexpr double FarthestSpeed = 2.0; // times the largest
+  if (!head)
+    return std::nullopt;
+  const Quadratic heads = head->inY(flow);
+  const auto distance = [this](double speed) {
+    return std::max({0.0, speedMin - speed, speed - speedMax});
+  };
+  std::optional<double> best;
+  for (const double speed : Fits::solve(heads, value)) {
+    const bool isPossible = speed > 0.0 && speed <= FarthestSpeed * speedMax && heads.c[1] + 2.0 * heads.c[2] * speed > 0.0;
+    if (isPossible && (!best || distance(speed) < distance(*best)))
+      best = speed;
+  }
+  return best;
+}
+
 Findings Drive::fit() {
   Findings findings;
   std::vector<FitPoint> powers;
@@ -193,6 +210,8 @@ Findings Drive::fit() {
     publishedPowerQuality = Fits::compare(powers, *power);
   takePower(name, powers, power, powerQuality, findings);
   take(name, Texts::tr("energy rate"), rates, energy, energyQuality, findings);
+  fittedPower = powerQuality.ok ? power : std::nullopt;
+  fittedEnergy = energyQuality.ok ? energy : std::nullopt;
   if (!power)
     findings.push_back(warning(name, Texts::tr("there are neither coefficients nor enough points for its power limit")));
   return findings;
@@ -200,10 +219,11 @@ Findings Drive::fit() {
 
 Drive Drive::by(FunctionSource source) const {
   Drive drive = *this;
-  if (source == FunctionSource::Published && publishedPower)
-    drive.power = publishedPower;
-  if (source == FunctionSource::Published && publishedEnergy)
-    drive.energy = publishedEnergy;
+  const bool isPublished = source == FunctionSource::Published;
+  if (const auto &chosen = isPublished ? publishedPower : fittedPower)
+    drive.power = chosen;
+  if (const auto &chosen = isPublished ? publishedEnergy : fittedEnergy)
+    drive.energy = chosen;
   return drive;
 }
 
@@ -213,6 +233,21 @@ std::optional<std::pair<double, double>> Drive::speeds() const {
   if (powerPoints.empty() || !(ends.second->speed > ends.first->speed))
     return std::nullopt;
   return std::make_pair(ends.first->speed, ends.second->speed);
+}
+
+void MachineData::use(FunctionSource wanted) {
+  source = wanted;
+  for (TurboCompressor &turbo : turbos)
+    turbo = turbo.by(wanted);
+  for (Drive &drive : drives)
+    drive = drive.by(wanted);
+}
+
+bool MachineData::hasChoice() const {
+  const auto has = [](const auto &machine) {
+    return machine.hasChoice();
+  };
+  return std::any_of(turbos.begin(), turbos.end(), has) || std::any_of(drives.begin(), drives.end(), has);
 }
 
 const TurboCompressor *MachineData::turbo(const QString &name) const {

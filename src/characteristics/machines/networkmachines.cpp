@@ -126,69 +126,76 @@ std::vector<StationConfiguration> NetworkMachines::configurations(const element 
   return found;
 }
 
+const Drive *NetworkMachines::driveOfMachine(const element &compressor, const QString &machine) const {
+  if (const TurboCompressor *turbo = m_data.turbo(machine))
+    return driveOf(compressor, turbo->drive);
+  const PistonCompressor *piston = m_data.piston(machine);
+  return piston == nullptr ? nullptr : driveOf(compressor, piston->drive);
+}
+
 std::optional<WorkingPoint> NetworkMachines::pointOf(const element &compressor, const QString &machine,
-                                                     const Compression &compression, FunctionSource source) const {
-  const auto drive = [&](const QString &named) -> std::optional<Drive> {
-    const Drive *found = driveOf(compressor, named);
-    return found == nullptr ? std::nullopt : std::optional<Drive>(found->by(source));
-  };
-  const double ambient = m_data.ambientTemperature;
-  if (const TurboCompressor *turbo = m_data.turbo(machine)) {
-    const std::optional<Drive> by = drive(turbo->drive);
-    return WorkingPoint::of(turbo->by(source), by ? &*by : nullptr, compression, ambient);
-  }
-  if (const PistonCompressor *piston = m_data.piston(machine)) {
-    const std::optional<Drive> by = drive(piston->drive);
-    return WorkingPoint::of(*piston, by ? &*by : nullptr, compression, ambient);
-  }
+                                                     const Compression &compression) const {
+  const Drive *drive = driveOfMachine(compressor, machine);
+  if (const TurboCompressor *turbo = m_data.turbo(machine))
+    return WorkingPoint::of(*turbo, drive, compression, m_data.ambientTemperature);
+  if (const PistonCompressor *piston = m_data.piston(machine))
+    return WorkingPoint::of(*piston, drive, compression, m_data.ambientTemperature);
   return std::nullopt;
+}
+
+bool NetworkMachines::Station::isWell() const {
+  return !units.empty() && std::all_of(units.begin(), units.end(), [](const Unit &unit) { return unit.point.isInside; });
 }
 
 double NetworkMachines::Station::power() const {
   double sum = 0.0;
-  for (const WorkingPoint &point : points) {
-    if (!point.power)
+  for (const Unit &unit : units) {
+    if (!unit.point.power)
       return 0.0;
-    sum += *point.power;
+    sum += *unit.point.power;
   }
   return sum;
+}
+
+std::optional<WorkingPoint> NetworkMachines::Station::pointOf(const QString &machine) const {
+  for (const Unit &unit : units) {
+    if (isSame(unit.machine, machine))
+      return unit.point;
+  }
+  return std::nullopt;
+}
+
+NetworkMachines::Station NetworkMachines::run(const element &compressor, const StationConfiguration &configuration,
+                                              const Compression &compression) const {
+  Station station;
+  const StationSplit split(m_data, configuration);
+  for (const StationConfiguration::Stage &stage : configuration.stages) {
+    for (const StationConfiguration::Unit &unit : stage) {
+      const auto part = split.part(unit.compressor, compression);
+      const auto point = part ? pointOf(compressor, unit.compressor, part->compression) : std::nullopt;
+      if (point)
+        station.units.push_back({unit.compressor, part->stage, part->share, part->compression, *point});
+    }
+  }
+  station.configuration = configuration;
+  return station;
 }
 
 /// The configuration that is chosen, else the first in which all machines work inside of their maps, else the first.
 NetworkMachines::Station NetworkMachines::station(const element &compressor, const Compression &compression,
                                                   const MachineChoice &choice) const {
-  const auto run = [&](const StationConfiguration &configuration) {
-    Station station;
-    const StationSplit split(m_data, configuration);
-    for (const StationConfiguration::Stage &stage : configuration.stages) {
-      for (const StationConfiguration::Unit &unit : stage) {
-        const auto part = split.part(unit.compressor, compression);
-        const auto point = part ? pointOf(compressor, unit.compressor, part->compression, choice.source) : std::nullopt;
-        if (!point)
-          continue;
-        station.running.push_back(unit.compressor);
-        station.points.push_back(*point);
-      }
-    }
-    station.configuration = configuration;
-    return station;
-  };
   const std::vector<StationConfiguration> all = configurations(compressor);
   if (all.empty()) {
     Station single;
     const QString name = names(compressor).first();
-    if (const auto point = pointOf(compressor, name, compression, choice.source)) {
-      single.running.push_back(name);
-      single.points.push_back(*point);
-    }
+    if (const auto point = pointOf(compressor, name, compression))
+      single.units.push_back({name, 0, 1.0, compression, *point});
     return single;
   }
   std::optional<Station> first;
   for (const StationConfiguration &configuration : all) {
-    Station station = run(configuration);
-    const bool isWell = !station.points.empty() && std::all_of(station.points.begin(), station.points.end(),
-                                                               [](const WorkingPoint &point) { return point.isInside; });
-    if (configuration.name == choice.configuration || (choice.configuration.isEmpty() && isWell))
+    Station station = run(compressor, configuration, compression);
+    if (configuration.name == choice.configuration || (choice.configuration.isEmpty() && station.isWell()))
       return station;
     if (!first)
       first = std::move(station);
@@ -196,34 +203,37 @@ NetworkMachines::Station NetworkMachines::station(const element &compressor, con
   return *first;
 }
 
-std::optional<WorkingPoint> NetworkMachines::Station::pointOf(const QString &machine) const {
-  for (std::size_t i = 0; i < running.size(); ++i) {
-    if (isSame(running[i], machine))
-      return points[i];
-  }
-  return std::nullopt;
+std::optional<Compression> NetworkMachines::compression(const element &e) const {
+  const element *compressor = driven(e);
+  return Compression::of(m_net, compressor == nullptr ? e : *compressor, m_gases);
+}
+
+std::optional<NetworkMachines::Station> NetworkMachines::station(const element &compressor,
+                                                                 const MachineChoice &choice) const {
+  const auto flowing = Compression::of(m_net, compressor, m_gases);
+  return flowing ? std::optional<Station>(station(compressor, *flowing, choice)) : std::nullopt;
 }
 
 /// What the machine data say of a machine.
-NetworkMachines::Machine NetworkMachines::described(const QString &name, FunctionSource source) const {
+NetworkMachines::Machine NetworkMachines::described(const QString &name) const {
   Machine machine;
   machine.ambientTemperature = m_data.ambientTemperature;
   if (const TurboCompressor *turbo = m_data.turbo(name))
-    machine.turbo = turbo->by(source);
+    machine.turbo = *turbo;
   else if (const PistonCompressor *piston = m_data.piston(name))
     machine.piston = *piston;
   else if (const Drive *drive = m_data.drive(name))
-    machine.drive = drive->by(source);
+    machine.drive = *drive;
   return machine;
 }
 
 /// The running machine that a drive drives; where there is none, the first of the compressor.
 QString NetworkMachines::drivenBy(const QString &driveName, const element &compressor, const Station &station) const {
-  const auto found = std::find_if(station.running.begin(), station.running.end(), [&](const QString &running) {
-    const Drive *drive = driveNamedBy(running);
+  const auto found = std::find_if(station.units.begin(), station.units.end(), [&](const Unit &unit) {
+    const Drive *drive = driveNamedBy(unit.machine);
     return drive != nullptr && isSame(drive->name, driveName);
   });
-  return found != station.running.end() ? *found : names(compressor).first();
+  return found != station.units.end() ? found->machine : names(compressor).first();
 }
 
 std::optional<std::pair<double, double>> NetworkMachines::speeds(const QString &machine) const {
@@ -235,7 +245,7 @@ std::optional<std::pair<double, double>> NetworkMachines::speeds(const QString &
 }
 
 NetworkMachines::Machine NetworkMachines::machine(const element &e, const QString &name, const MachineChoice &choice) const {
-  Machine found = described(name, choice.source);
+  Machine found = described(name);
   const element *compressor = found.drive ? driven(e) : &e; // a drive works where its compressor does
   const auto compression = compressor == nullptr ? std::nullopt : Compression::of(m_net, *compressor, m_gases);
   if (!found.isThere() || !compression)
@@ -254,8 +264,12 @@ NetworkMachines::Machine NetworkMachines::machine(const element &e, const QStrin
     if (part)
       own = part->compression;
   }
+  found.compression = own;
+  const Drive *drive = driveOfMachine(*compressor, name);
+  if (drive != nullptr)
+    found.drivenBy = *drive;
   if (found.piston)
-    found.limits = limitsOf(*found.piston, driveOf(*compressor, found.piston->drive), own, found.ambientTemperature);
+    found.limits = limitsOf(*found.piston, drive, own, found.ambientTemperature);
   if (found.drive)
     found.driven = speeds(working);
   found.comparisons = found.drive ? compareDrive(e, found.point) : compare(*compressor, *compression, whole);
@@ -284,9 +298,9 @@ std::vector<NetworkMachines::Comparison> NetworkMachines::compare(const element 
     if (stored && computed != 0.0)
       comparisons.push_back({QLatin1String(property), name, unit, factor * *stored, computed});
   };
-  const bool isCompressing = std::all_of(station.points.begin(), station.points.end(),
-                                         [](const WorkingPoint &point) { return point.isCompressing(); });
-  if (station.points.empty() || !isCompressing)
+  const bool isCompressing =
+      std::all_of(station.units.begin(), station.units.end(), [](const Unit &unit) { return unit.point.isCompressing(); });
+  if (station.units.empty() || !isCompressing)
     return comparisons;
   const double head = compression.adiabaticHead();
   const double power = station.power();
@@ -297,27 +311,27 @@ std::vector<NetworkMachines::Comparison> NetworkMachines::compare(const element 
   constexpr double Percent = 100.0;
   take("efficiency", tr("efficiency"), QStringLiteral("%"), Percent,
        power > 0.0 ? Percent * compression.massFlow * head / power : 0.0);
-  if (station.points.size() == 1)
-    take("speed", tr("speed"), QStringLiteral("1/min"), 1.0, station.points.front().speed.value_or(0.0));
+  if (station.units.size() == 1)
+    take("speed", tr("speed"), QStringLiteral("1/min"), 1.0, station.units.front().point.speed.value_or(0.0));
   return comparisons;
 }
 
-Findings NetworkMachines::findings() const {
+NetworkMachines::Judgement NetworkMachines::judge() const {
   if (m_data.isEmpty())
     return {};
-  Findings found = m_gases.findings();
+  Judgement judgement;
+  judgement.findings = m_gases.findings();
   for (const elements::Entry &entry : m_net.edges()) {
     if (entry.value.value(Names::all().type) == QLatin1String("c"))
-      append(found, findings(entry.value));
+      judge(entry.value, judgement);
   }
-  return found;
+  return judgement;
 }
 
-Findings NetworkMachines::findings(const element &compressor) const {
-  Findings found;
+void NetworkMachines::judge(const element &compressor, Judgement &judgement) const {
   const QString name = compressor.value(Names::all().name);
   const auto tell = [&](const QString &text) {
-    found.push_back(Finding::about(name, name + QStringLiteral(": ") + text));
+    judgement.findings.push_back(Finding::about(name, name + QStringLiteral(": ") + text));
   };
   const QStringList all = names(compressor);
   const bool isKnown = std::any_of(all.begin(), all.end(), [this](const QString &machine) {
@@ -325,16 +339,16 @@ Findings NetworkMachines::findings(const element &compressor) const {
   });
   const auto compression = isKnown ? Compression::of(m_net, compressor, m_gases) : std::nullopt;
   if (!compression)
-    return found;
+    return;
   const GasSource::Gas &usual = m_gases.scenario();
   for (const QString &remark : compression->remarks) {
     if (!usual.law->remarks().contains(remark)) // told once for the scenario
       tell(remark);
   }
   const Station whole = station(compressor, *compression, MachineChoice());
-  for (std::size_t i = 0; i < whole.points.size(); ++i) {
-    for (const QString &remark : whole.points[i].remarks)
-      tell(whole.points.size() > 1 ? whole.running[i] + QStringLiteral(": ") + remark : remark);
+  for (const Unit &unit : whole.units) {
+    for (const QString &remark : unit.point.remarks)
+      tell(whole.units.size() > 1 ? unit.machine + QStringLiteral(": ") + remark : remark);
   }
   for (const Comparison &comparison : compare(compressor, *compression, whole)) {
     if (comparison.isApart())
@@ -342,5 +356,24 @@ Findings NetworkMachines::findings(const element &compressor) const {
                .arg(comparison.name, DisplayFormat::number(comparison.stored, 4),
                     DisplayFormat::number(comparison.computed, 4), comparison.unit));
   }
-  return found;
+  takeNearness(compressor, whole, judgement);
+}
+
+/// Of the compressor, and of the drive that it names.
+void NetworkMachines::takeNearness(const element &compressor, const Station &station, Judgement &judgement) const {
+  Nearness all{compressor.value(Names::all().name), {}};
+  for (const Unit &unit : station.units)
+    all.margins.takeNearer(unit.point.margins);
+  judgement.machines.push_back(all);
+  const QString driveName = compressor.value(Names::all().drive);
+  const element *drive = m_net.nodes().find(driveName);
+  if (drive == nullptr || drive->value(Names::all().type) != QLatin1String("d"))
+    return;
+  const auto point = station.pointOf(drivenBy(names(*drive).first(), compressor, station));
+  if (!point)
+    return;
+  MachineMargins margins;
+  margins.speed = point->margins.speed;
+  margins.power = point->margins.power;
+  judgement.machines.push_back({driveName, margins});
 }

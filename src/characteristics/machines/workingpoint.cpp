@@ -17,24 +17,6 @@ QString speedRemark(bool isBelow) {
   return isBelow ? Texts::tr("The speed is below the smallest.") : Texts::tr("The speed is above the largest.");
 }
 
-/// Of the speeds that give the head those at which it grows with the speed, and of these the one nearest to the range of the
-/// machine; none where that is far beyond it, since the function was made for the range.
-std::optional<double> speedFor(const TurboCompressor &machine, double flow, double head) {
-  constexpr double FarthestSpeed = 2.0; // times the largest
-  const Quadratic heads = machine.head->inY(flow);
-  const auto distance = [&machine](double speed) {
-    return std::max({0.0, machine.speedMin - speed, speed - machine.speedMax});
-  };
-  std::optional<double> best;
-  for (const double speed : Fits::solve(heads, head)) {
-    const bool isPossible =
-        speed > 0.0 && speed <= FarthestSpeed * machine.speedMax && heads.c[1] + 2.0 * heads.c[2] * speed > 0.0;
-    if (isPossible && (!best || distance(speed) < distance(*best)))
-      best = speed;
-  }
-  return best;
-}
-
 } // namespace
 
 std::optional<double> WorkingPoint::largestRatio(const PistonCompressor &machine, double speed, const Drive *drive,
@@ -57,11 +39,11 @@ std::optional<double> WorkingPoint::largestRatio(const PistonCompressor &machine
 
 WorkingPoint::WorkingPoint(const Compression &compression)
     : flow(compression.volumeFlow())
-    , head(compression.adiabaticHead())
     , ratio(compression.ratio())
     , realGasFactor(compression.realGasFactor())
     , exponent(compression.exponent())
     , massFlow(compression.massFlow) {
+  head = compression.adiabaticHead(exponent);
   judgeMode(compression);
 }
 
@@ -91,14 +73,20 @@ void WorkingPoint::exceed(const QString &remark) {
 void WorkingPoint::takeDrive(const Drive *drive, const Compression &compression, double ambientTemperature) {
   if (efficiency && *efficiency > 0.0) {
     power = massFlow * head / *efficiency;
-    outletTemperature = compression.outletTemperature(*efficiency);
+    outletTemperature = compression.outletTemperature(*efficiency, head);
   }
   if (drive == nullptr || !power)
     return;
   if (drive->energy)
     energyRate = (*drive->energy)(*power);
+  const bool burnsGas = drive->kind == Drive::Kind::GasTurbine || drive->kind == Drive::Kind::GasEngine;
+  constexpr double ThousandPerHour = 3600.0 / 1e6; // MJ/h and 1000 m3/h from kW and m3/h
+  if (burnsGas && energyRate && compression.fuelValue > 0.0)
+    fuelFlow = ThousandPerHour * *energyRate / compression.fuelValue;
   if (drive->power && speed)
     powerLimit = (*drive->power)(ambientTemperature, *speed);
+  if (powerLimit)
+    margins.power = *powerLimit - *power;
   if (powerLimit && *power > *powerLimit)
     exceed(Texts::tr("The drive cannot give this power."));
 }
@@ -123,12 +111,13 @@ WorkingPoint WorkingPoint::of(const TurboCompressor &machine, const Drive *drive
     point.remarks.append(Texts::tr("The machine has no map."));
     return point;
   }
-  point.speed = speedFor(machine, point.flow, point.head);
+  point.speed = machine.speedFor(point.flow, point.head);
   if (!point.speed) {
     point.remarks.append(Texts::tr("No speed gives this head at this flow."));
     return point;
   }
   point.judgeMap(machine);
+  point.margins = MachineMargins::of(machine, point.flow, point.head, *point.speed);
   const double efficiency = machine.efficiency ? (*machine.efficiency)(point.flow, *point.speed) : 0.0;
   if (efficiency > 0.0 && efficiency <= 1.0) // far from the map the function says anything
     point.efficiency = efficiency;
@@ -149,6 +138,7 @@ WorkingPoint WorkingPoint::of(const PistonCompressor &machine, const Drive *driv
   }
   point.isInside = true;
   point.speed = machine.speed(point.flow);
+  point.margins = MachineMargins::of(machine, *point.speed);
   if (*point.speed < machine.speedMin || *point.speed > machine.speedMax)
     point.exceed(speedRemark(*point.speed < machine.speedMin));
   if (machine.maximalRatio > 0.0 && point.ratio > machine.maximalRatio)

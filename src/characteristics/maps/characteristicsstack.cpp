@@ -1,9 +1,12 @@
 #include "machinepage.h"
+#include "machinetext.h"
+#include "scenariocloud.h"
 
 #include <base/fileaccess.h>
 #include <base/settings.h>
 #include <base/wholefile.h>
 #include <characteristics/characteristicsstack.h>
+#include <model/names.h>
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -71,22 +74,65 @@ QStringList CharacteristicsStack::opened() const {
 
 void CharacteristicsStack::setMachines(MachineData machines) {
   m_machines.set(std::move(machines));
-  const QStringList names = opened();
+  std::vector<std::pair<QString, int>> before; // with the view that was shown
+  for (const MachinePage *page : pages())
+    before.emplace_back(page->objectName(), page->viewNumber()); // NOLINT(performance-inefficient-vector-operation)
   while (m_tabs->count() > 0)
     delete m_tabs->widget(0);
-  for (const QString &name : names) {
-    if (QWidget *page = makePage(name))
+  for (const auto &[name, view] : before) {
+    if (MachinePage *page = makePage(name)) {
       m_tabs->addTab(page, name);
+      page->showView(view);
+    }
   }
   showHint();
 }
 
-void CharacteristicsStack::refresh() {
-  m_machines.forget();
+std::vector<MachinePage *> CharacteristicsStack::pages() const {
+  std::vector<MachinePage *> pages;
   for (int i = 0; i < m_tabs->count(); ++i) {
     if (auto *page = qobject_cast<MachinePage *>(m_tabs->widget(i)))
-      page->refresh();
+      pages.push_back(page); // NOLINT(performance-inefficient-vector-operation): not all of them are
   }
+  return pages;
+}
+
+void CharacteristicsStack::setScenarios(ScenarioMachines scenarios, const QString &caseFolder) {
+  m_scenarios = std::move(scenarios);
+  if (caseFolder != m_caseOfScenarios) {
+    cancelReading();
+    m_clouds.clear();
+  }
+  m_caseOfScenarios = caseFolder;
+}
+
+void CharacteristicsStack::cancelReading() {
+  for (const auto &entry : m_clouds)
+    entry.second->cancel();
+}
+
+std::shared_ptr<ScenarioCloud> CharacteristicsStack::cloudOf(const element &compressor) {
+  std::shared_ptr<ScenarioCloud> &cloud = m_clouds[compressor.value(Names::all().name)];
+  if (cloud == nullptr)
+    cloud = std::make_shared<ScenarioCloud>(m_scenarios, m_net, compressor, m_machines.data().source);
+  return cloud;
+}
+
+void CharacteristicsStack::refresh() {
+  m_machines.forget();
+  for (MachinePage *page : pages())
+    page->refresh();
+}
+
+void CharacteristicsStack::useFunctions(FunctionSource source) {
+  if (m_machines.data().source == source)
+    return;
+  m_machines.use(source);
+  cancelReading();
+  m_clouds.clear(); // they are of the other functions
+  for (MachinePage *page : pages())
+    page->showAnew();
+  emit functionsChosen(source);
 }
 
 void CharacteristicsStack::setCase(const QString &folder) {
@@ -150,15 +196,22 @@ QString CharacteristicsStack::summary(const QString &elementName) const {
   if (e == nullptr)
     return QString();
   const NetworkMachines::Machine found = m_machines.machine(*e, m_machines.names(*e).first());
-  return found.isThere() ? MachinePage::text(found) : QString();
+  return found.isThere() ? MachineText::of(found) : QString();
 }
 
-MachinePage *CharacteristicsStack::makePage(const QString &elementName) const {
+MachinePage *CharacteristicsStack::makePage(const QString &elementName) {
   const element *e = m_net.element(elementName);
   if (e == nullptr || !m_machines.machine(*e, m_machines.names(*e).first()).isThere())
     return nullptr;
-  auto *page = new MachinePage(m_net, m_machines, elementName);
+  MachinePage::Clouds clouds;
+  if (m_scenarios.names)
+    clouds = [this](const element &compressor) {
+      return cloudOf(compressor);
+    };
+  auto *page = new MachinePage(m_net, m_machines, elementName, clouds);
+  connect(page, &MachinePage::scenarioWanted, this, &CharacteristicsStack::scenarioWanted);
   page->setPageFacts(m_facts);
+  connect(page, &MachinePage::functionsChosen, this, &CharacteristicsStack::useFunctions);
   connect(page, &MachinePage::saveFailed, this, [this](const QString &reason) {
     if (m_told)
       m_told({Finding::Severity::Warning, QString(), 0, QString(), reason});

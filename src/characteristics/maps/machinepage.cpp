@@ -1,185 +1,35 @@
 #include "machinepage.h"
 
-#include "mapcolors.h"
+#include "cloudview.h"
+#include "machinetext.h"
 #include "mapplot.h"
-#include "shownnumber.h"
+#include "residualview.h"
+#include "scenariocloud.h"
+#include "stationplot.h"
 
 #include <base/generalsettings.h>
-#include <model/displayformat.h>
-#include <model/units.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QScrollArea>
+#include <QTabBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <cmath>
+#include <machines/stationreach.h>
 
-namespace {
-
-using Comparison = NetworkMachines::Comparison;
-
-QString warningColor() {
-  return MapColors::onScreen(QGuiApplication::palette()).warning().name();
-}
-
-QString cell(const QString &text) {
-  return QStringLiteral("<td>%1&nbsp;&nbsp;</td>").arg(text);
-}
-
-QString valueText(double value, const QString &unit) {
-  return MapQuantity(unit).text(value);
-}
-
-QString warning(const QString &text) {
-  return QStringLiteral("<p style=\"color:%1;\">%2</p>").arg(warningColor(), text.toHtmlEscaped());
-}
-
-QString plain(const QString &text) {
-  return QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
-}
-
-/// "stored" and "difference" of a row, red where they are apart.
-QString storedCells(const Comparison &comparison) {
-  constexpr double Shown = 0.05; // percent; below it there is no sign to show
-  const double percent = comparison.computed == 0.0 ? 0.0 : 100.0 * comparison.difference() / comparison.computed;
-  const QString difference = MachinePage::tr("%1 %").arg(DisplayFormat::fixed(std::abs(percent) < Shown ? 0.0 : percent, 1));
-  const QString color = comparison.isApart() ? QStringLiteral(" style=\"color:%1;\"").arg(warningColor()) : QString();
-  return QStringLiteral("<td%1><b>%2</b>&nbsp;&nbsp;</td><td%1>%3</td>")
-      .arg(color, valueText(comparison.stored, comparison.unit), difference);
-}
-
-/// The rows of a table of what the map tells beside what the results state.
-class PointTable {
-public:
-  explicit PointTable(std::vector<Comparison> comparisons)
-      : m_comparisons(std::move(comparisons)) {}
-
-  void add(const char *property, const QString &name, double value, const QString &unit) {
-    m_rows += QStringLiteral("<tr>") + cell(name) + cell(QStringLiteral("<b>%1</b>").arg(valueText(value, unit)));
-    for (const Comparison &comparison : m_comparisons) {
-      if (comparison.property == QLatin1String(property))
-        m_rows += storedCells(comparison);
-    }
-    m_rows += QStringLiteral("</tr>");
-  }
-
-  QString html() const {
-    const QString head = m_comparisons.empty() ? QString()
-                                               : QStringLiteral("<tr><td></td>") + cell(MachinePage::tr("computed")) +
-                                                     cell(MachinePage::tr("results")) + cell(MachinePage::tr("difference")) +
-                                                     QStringLiteral("</tr>");
-    return QStringLiteral("<table>") + head + m_rows + QStringLiteral("</table>");
-  }
-
-private:
-  std::vector<Comparison> m_comparisons;
-  QString m_rows;
-};
-
-QString pointTable(const WorkingPoint &point, const std::vector<Comparison> &comparisons) {
-  PointTable table(comparisons);
-  table.add("vflow", MachinePage::tr("volume flow"), point.flow, QStringLiteral("m³/s"));
-  table.add("ratio", MachinePage::tr("pressure ratio"), point.ratio, QString());
-  if (point.isCompressing())
-    table.add("head", MachinePage::tr("adiabatic head"), point.head, QStringLiteral("kJ/kg"));
-  if (point.speed)
-    table.add("speed", MachinePage::tr("speed"), *point.speed, QStringLiteral("1/min"));
-  if (point.efficiency)
-    table.add("efficiency", MachinePage::tr("efficiency"), 100.0 * *point.efficiency, QStringLiteral("%"));
-  if (point.power)
-    table.add("power", MachinePage::tr("shaft power"), *point.power, QStringLiteral("kW"));
-  if (point.powerLimit)
-    table.add("", MachinePage::tr("power limit"), *point.powerLimit, QStringLiteral("kW"));
-  if (point.energyRate)
-    table.add("", MachinePage::tr("fuel or current"), *point.energyRate, QStringLiteral("kW"));
-  if (point.outletTemperature)
-    table.add("", MachinePage::tr("outlet temperature"), *point.outletTemperature - Units::ZeroCelsius,
-              QStringLiteral("°C"));
-  table.add("", MachinePage::tr("real gas factor z"), point.realGasFactor, QString());
-  if (point.isCompressing())
-    table.add("", MachinePage::tr("isentropic exponent"), point.exponent, QString());
-  QString text = table.html();
-  for (const QString &remark : point.remarks)
-    text += warning(remark);
-  return text;
-}
-
-QString stationTable(const std::vector<Comparison> &comparisons) {
-  PointTable table(comparisons);
-  for (const Comparison &comparison : comparisons)
-    table.add(qPrintable(comparison.property), comparison.name, comparison.computed, comparison.unit);
-  return comparisons.empty() ? QString() : plain(MachinePage::tr("The whole station:")) + table.html();
-}
-
-QString fitText(const QString &what, const Fits::Quality &quality, const QString &unit) {
-  if (!quality.ok)
-    return QString();
-  constexpr double Rounding = 1e-9; // below it a residual says nothing about the points
-  const auto residual = [quantity = MapQuantity(unit)](double value) {
-    return quantity.text(value < Rounding ? 0.0 : value, 3);
-  };
-  QString text = MachinePage::tr("%1: largest residual %2, mean %3")
-                     .arg(what, residual(quality.largestResidual), residual(quality.meanResidual));
-  if (quality.condition > 0.0)
-    text += MachinePage::tr(", condition %1").arg(shownNumber(quality.condition, 3));
-  return text + QStringLiteral("<br/>");
-}
-
-QString fitTexts(const NetworkMachines::Machine &machine) {
-  const QString head = QStringLiteral("kJ/kg");
-  QString text;
-  if (machine.turbo) {
-    text = fitText(MachinePage::tr("Head fitted"), machine.turbo->headQuality, head) +
-           fitText(MachinePage::tr("Head as published"), machine.turbo->publishedHeadQuality, head) +
-           fitText(MachinePage::tr("Efficiency fitted"), machine.turbo->efficiencyQuality, QString()) +
-           fitText(MachinePage::tr("Efficiency as published"), machine.turbo->publishedEfficiencyQuality, QString()) +
-           fitText(MachinePage::tr("Surge line fitted"), machine.turbo->surgeQuality, head);
-  } else if (machine.drive) {
-    text = fitText(MachinePage::tr("Power limit fitted"), machine.drive->powerQuality, QStringLiteral("kW")) +
-           fitText(MachinePage::tr("Power limit as published"), machine.drive->publishedPowerQuality, QStringLiteral("kW")) +
-           fitText(MachinePage::tr("Energy rate fitted"), machine.drive->energyQuality, QStringLiteral("kW"));
-  }
-  return text.isEmpty() ? text : QStringLiteral("<p>%1</p>").arg(text);
-}
-
-} // namespace
-
-QString MachinePage::text(const NetworkMachines::Machine &machine) {
-  const bool isStation = !machine.configuration.isEmpty() && !machine.drive;
-  QString text;
-  if (machine.point)
-    text = pointTable(*machine.point, isStation ? std::vector<Comparison>() : machine.comparisons);
-  else if (!machine.split.isEmpty())
-    text = plain(tr("The machine does not run."));
-  else
-    text = plain(tr("The network has no flow and pressures for a working point."));
-  if (isStation)
-    text += stationTable(machine.comparisons);
-  if (!machine.split.isEmpty())
-    text += plain(tr("Configuration %1: %2").arg(machine.configuration, machine.split));
-  if (machine.drive)
-    text += plain(tr("Power at %1").arg(MapQuantity(QStringLiteral("°C")).text(machine.ambientTemperature)));
-  for (const QString &remark : machine.remarks)
-    text += warning(remark);
-  if (!machine.gas.isEmpty())
-    text += plain(tr("Gas: %1").arg(machine.gas));
-  return text + fitTexts(machine);
-}
-
-MachinePage::MachinePage(const NetData &net, const NetworkMachines &machines, const QString &elementName, QWidget *parent)
+MachinePage::MachinePage(const NetData &net, const NetworkMachines &machines, const QString &elementName, Clouds clouds,
+                         QWidget *parent)
     : QWidget(parent)
     , m_net(net)
     , m_machines(machines)
+    , m_clouds(std::move(clouds))
     , m_column(new QVBoxLayout(this))
     , m_text(new QLabel) {
   setObjectName(elementName);
-  m_machine = addChoice(QStringLiteral("machine"), tr("The machines of this station"));
-  m_configuration = addChoice(QStringLiteral("configuration"), tr("How the machines of the station work together"));
-  m_functions = addChoice(QStringLiteral("functions"), tr("What the map is made of"));
+  addControls();
   m_text->setObjectName(QStringLiteral("said"));
   m_text->setTextFormat(Qt::RichText);
   m_text->setWordWrap(true);
@@ -201,9 +51,63 @@ MachinePage::MachinePage(const NetData &net, const NetworkMachines &machines, co
   }
   m_machine->setVisible(m_machine->count() > 1);
   m_configuration->setVisible(m_configuration->count() > 1);
-  for (QComboBox *box : {m_machine, m_configuration, m_functions})
-    connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, &MachinePage::refresh);
+  for (QComboBox *box : {m_machine, m_configuration})
+    connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, &MachinePage::showAnew);
+  connect(m_functions, qOverload<int>(&QComboBox::currentIndexChanged), this,
+          [this](int index) { emit functionsChosen(index == 1 ? FunctionSource::Published : FunctionSource::Fitted); });
+  connect(m_both, &QCheckBox::toggled, this, &MachinePage::showAnew);
+  connect(m_views, &QTabBar::currentChanged, this, &MachinePage::showAnew);
   refresh();
+}
+
+void MachinePage::addControls() {
+  m_machine = addChoice(QStringLiteral("machine"), tr("The machines of this station"));
+  m_configuration = addChoice(QStringLiteral("configuration"), tr("How the machines of the station work together"));
+  m_functions = addChoice(QStringLiteral("functions"),
+                          tr("What maps, working points and distances to limits are computed with, in the whole workspace"));
+  m_both = new QCheckBox(tr("Show the lines of the other functions, too"));
+  m_both->setObjectName(QStringLiteral("both"));
+  m_column->addWidget(m_both);
+  m_views = new QTabBar;
+  m_views->setObjectName(QStringLiteral("views"));
+  m_views->setDrawBase(false);
+  m_views->setExpanding(false);
+  m_views->setTabData(m_views->addTab(tr("Map")), static_cast<int>(View::Map));
+  m_column->addWidget(m_views);
+}
+
+MachinePage::View MachinePage::view() const {
+  return static_cast<View>(m_views->tabData(m_views->currentIndex()).toInt());
+}
+
+int MachinePage::viewNumber() const {
+  return static_cast<int>(view());
+}
+
+void MachinePage::showView(int number) {
+  for (int i = 0; i < m_views->count(); ++i) {
+    if (m_views->tabData(i).toInt() == number)
+      m_views->setCurrentIndex(i);
+  }
+}
+
+/// The map is always there.
+void MachinePage::offerViews(const NetworkMachines::Machine &machine) {
+  const QSignalBlocker blocker(m_views);
+  const auto offer = [this](View view, const QString &name, bool isThere) {
+    int at = -1;
+    for (int i = 0; i < m_views->count(); ++i)
+      at = m_views->tabData(i).toInt() == static_cast<int>(view) ? i : at;
+    if (isThere && at < 0)
+      m_views->setTabData(m_views->addTab(name), static_cast<int>(view));
+    else if (!isThere && at >= 0)
+      m_views->removeTab(at);
+  };
+  offer(View::Station, tr("Station"), m_configuration->count() > 1 && !machine.drive && machine.compression);
+  offer(View::Residuals, tr("Residuals"),
+        machine.turbo && !(machine.turbo->points.empty() && machine.turbo->surgePoints.empty()));
+  offer(View::Scenarios, tr("Scenarios"), m_clouds && (machine.turbo || machine.piston));
+  m_views->setVisible(m_views->count() > 1);
 }
 
 QComboBox *MachinePage::addChoice(const QString &name, const QString &tip) {
@@ -218,15 +122,21 @@ QComboBox *MachinePage::addChoice(const QString &name, const QString &tip) {
 MachineChoice MachinePage::choice() const {
   MachineChoice choice;
   choice.configuration = m_configuration->currentData().toString();
-  choice.source = m_functions->currentIndex() == 1 ? FunctionSource::Published : FunctionSource::Fitted;
   return choice;
 }
 
 void MachinePage::offerFunctions(const NetworkMachines::Machine &machine) {
   const QSignalBlocker blocker(m_functions);
   if (machine.hasChoice() && m_functions->count() == 0)
-    m_functions->addItems({tr("our own fit of the measured points"), tr("the published coefficients")});
+    m_functions->addItems({tr("our own fit of the measured points"), tr("the published coefficients")}); // in this order
+  m_functions->setCurrentIndex(m_machines.data().source == FunctionSource::Published ? 1 : 0);
   m_functions->setVisible(machine.hasChoice());
+  m_both->setVisible(machine.turbo && machine.hasChoice() && view() == View::Map);
+}
+
+void MachinePage::showAnew() {
+  m_settings = 0;
+  refresh();
 }
 
 void MachinePage::refresh() {
@@ -234,16 +144,93 @@ void MachinePage::refresh() {
   if (e == nullptr)
     return;
   const NetworkMachines::Machine machine = m_machines.machine(*e, m_machine->currentText(), choice());
-  const QString said = text(machine);
+  offerViews(machine);
   offerFunctions(machine);
+  const QString text = said(*e, machine);
   const unsigned settings = GeneralSettings::instance().revision(); // units and digits of the axes are among them
-  if (m_map != nullptr && said == m_text->text() && settings == m_settings && sender() == nullptr)
+  if (m_map != nullptr && text == m_said && settings == m_settings)
     return;
   m_settings = settings;
   delete m_map;
-  m_map = makeMap(machine);
+  m_map = makeView(*e, machine);
   m_column->insertWidget(m_column->count() - 1, m_map, 3);
-  m_text->setText(said);
+  m_said = text;
+  m_text->setText(text);
+}
+
+QString MachinePage::said(const element &e, const NetworkMachines::Machine &machine) const {
+  const auto station = view() == View::Station ? m_machines.station(e, choice()) : std::nullopt;
+  return station ? MachineText::station(*station) + MachineText::of(machine) : MachineText::of(machine);
+}
+
+QWidget *MachinePage::makeView(const element &e, const NetworkMachines::Machine &machine) {
+  switch (view()) {
+  case View::Station:
+    return makeStation(e);
+  case View::Residuals:
+    return makeResiduals(machine);
+  case View::Scenarios:
+    return makeScenarios(e, machine);
+  case View::Map:
+    break;
+  }
+  return makeMap(machine);
+}
+
+void MachinePage::prepare(MapCanvas &canvas) {
+  canvas.setPageFacts(m_facts);
+  connect(&canvas, &MapCanvas::saveFailed, this, &MachinePage::saveFailed);
+}
+
+QWidget *MachinePage::makeStation(const element &compressor) {
+  auto *plot = new StationPlot;
+  prepare(*plot);
+  const auto whole = m_machines.compression(compressor);
+  const auto station = m_machines.station(compressor, choice());
+  if (!whole || !station)
+    return plot;
+  StationReach reach(
+      m_machines.data(),
+      [this, &compressor](const QString &machine) { return m_machines.driveOfMachine(compressor, machine); }, *whole);
+  std::vector<StationPlot::Outline> outlines;
+  for (const StationConfiguration &configuration : m_machines.configurations(compressor))
+    outlines.push_back(
+        {configuration.name, reach.outline(configuration)}); // NOLINT(performance-inefficient-vector-operation)
+  plot->show(objectName(), outlines, *station, *whole);
+  return plot;
+}
+
+/// Reading begins when somebody looks at it for the first time.
+QWidget *MachinePage::makeScenarios(const element &compressor, const NetworkMachines::Machine &machine) {
+  const std::shared_ptr<ScenarioCloud> cloud = m_clouds(compressor);
+  auto *view = new CloudView(cloud, m_machine->currentText());
+  prepare(*view->canvas());
+  connect(view, &CloudView::scenarioWanted, this, &MachinePage::scenarioWanted);
+  if (machine.turbo)
+    view->show(*machine.turbo, machine.point);
+  else
+    view->show(*machine.piston, machine.point);
+  if (cloud->scenarios().empty())
+    cloud->start();
+  return view;
+}
+
+QWidget *MachinePage::makeResiduals(const NetworkMachines::Machine &machine) {
+  auto *view = new ResidualView;
+  prepare(*view->canvas());
+  view->show(*machine.turbo);
+  return view;
+}
+
+/// What the machine would need there, with the gas and the inlet that the scenario has.
+void MachinePage::showMoved(const NetworkMachines::Machine &machine, const QPointF &to, MapPlot &map) {
+  const Drive *drive = machine.drivenBy ? &*machine.drivenBy : nullptr;
+  const auto at = machine.turbo ? WorkingPoint::of(*machine.turbo, drive, machine.compression->withHead(to.x(), to.y()),
+                                                   machine.ambientTemperature)
+                                : WorkingPoint::of(*machine.piston, drive, machine.compression->withRatio(to.x(), to.y()),
+                                                   machine.ambientTemperature);
+  map.setMovedInside(at.isInside);
+  m_text->setText(MachineText::moved(*machine.point, at));
 }
 
 /// What the text warns of has another colour on a dark ground. The map is made anew, but not while somebody goes through all
@@ -251,7 +238,7 @@ void MachinePage::refresh() {
 void MachinePage::changeEvent(QEvent *event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::PaletteChange && m_map != nullptr)
-    QTimer::singleShot(0, this, [this] { refresh(); });
+    QTimer::singleShot(0, this, &MachinePage::showAnew);
 }
 
 void MachinePage::setPageFacts(const PageFacts &facts) {
@@ -260,32 +247,37 @@ void MachinePage::setPageFacts(const PageFacts &facts) {
     map->setPageFacts(facts);
 }
 
-MapPlot *MachinePage::addPlot(QVBoxLayout &column) const {
+MapPlot *MachinePage::addPlot(QVBoxLayout &column) {
   auto *plot = new MapPlot;
-  plot->setPageFacts(m_facts);
-  connect(plot, &MapPlot::saveFailed, this, &MachinePage::saveFailed);
+  prepare(*plot);
   column.addWidget(plot, 1);
   return plot;
 }
 
-QWidget *MachinePage::makeMap(const NetworkMachines::Machine &machine) const {
+QWidget *MachinePage::makeMap(const NetworkMachines::Machine &machine) {
   auto *map = new QWidget;
   auto *column = new QVBoxLayout(map);
   column->setContentsMargins(0, 0, 0, 0);
   MapPlot *plot = addPlot(*column);
   std::optional<double> storedHead;
-  for (const Comparison &comparison : machine.comparisons) {
+  for (const NetworkMachines::Comparison &comparison : machine.comparisons) {
     if (machine.configuration.isEmpty() && comparison.property == QLatin1String("head"))
       storedHead = comparison.stored;
   }
   if (machine.turbo) {
-    plot->show(*machine.turbo, machine.point, storedHead);
+    const bool isFitted = m_machines.data().source == FunctionSource::Fitted;
+    const TurboCompressor other = machine.turbo->by(isFitted ? FunctionSource::Published : FunctionSource::Fitted);
+    plot->show(*machine.turbo, machine.point, storedHead, m_both->isChecked() && machine.hasChoice() ? &other : nullptr);
   } else if (machine.piston) {
     plot->show(*machine.piston, machine.point, machine.limits);
   } else if (machine.drive) {
     plot->show(*machine.drive, machine.point, machine.ambientTemperature, machine.driven);
     if (machine.drive->energy)
       addPlot(*column)->showConsumption(*machine.drive, machine.point);
+  }
+  if ((machine.turbo || machine.piston) && machine.point && machine.compression) {
+    connect(plot, &MapPlot::pointMoved, this, [this, machine, plot](const QPointF &to) { showMoved(machine, to, *plot); });
+    connect(plot, &MapPlot::pointReturned, this, [this] { m_text->setText(m_said); });
   }
   return map;
 }

@@ -1,6 +1,8 @@
 #include "mapcanvas.h"
 
+#include "dotsitem.h"
 #include "mappage.h"
+#include "pointmover.h"
 
 #include <base/lastfolder.h>
 #include <paper/chartfile.h>
@@ -13,8 +15,10 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QTimer>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
+#include <qwt_plot_legenditem.h>
 #include <qwt_plot_marker.h>
 #include <qwt_plot_renderer.h>
 #include <qwt_plot_shapeitem.h>
@@ -69,12 +73,74 @@ MapCanvas::MapCanvas(QWidget *parent)
     : QwtPlot(parent)
     , m_zoomer(nullptr) {
   m_zoomer = new ReadingZoomer(*this);
+  canvas()->installEventFilter(this);
+  m_mover = new PointMover(*this);
+  connect(m_mover, &PointMover::moved, this, [this](const QPointF &at) { emit pointMoved(computed(at)); });
+  connect(m_mover, &PointMover::returned, this, &MapCanvas::pointReturned);
   color(colors());
   setMinimumSize(260, 200);
 }
 
 QString MapCanvas::readout(const QPointF &position) const {
-  return m_readout ? m_readout({m_toDisplayX.inverse(position.x()), m_toDisplayY.inverse(position.y())}) : QString();
+  const QString text = m_readout ? m_readout(computed(position)) : QString();
+  const Dot *dot = dotAt(position);
+  return dot == nullptr ? text : dot->name + QLatin1Char('\n') + text;
+}
+
+const MapCanvas::Dot *MapCanvas::dotAt(const QPointF &position) const {
+  constexpr double Reach = 8.0; // pixels
+  const auto pixel = [this](const QPointF &at) {
+    return QPointF(transform(xBottom, at.x()), transform(yLeft, at.y()));
+  };
+  const Dot *nearest = nullptr;
+  double best = Reach * Reach;
+  for (const Dot &dot : m_dots) {
+    const QPointF apart = pixel(shown(dot.at)) - pixel(position);
+    const double distance = QPointF::dotProduct(apart, apart);
+    if (distance <= best) {
+      best = distance;
+      nearest = &dot;
+    }
+  }
+  return nearest;
+}
+
+void MapCanvas::setDots(std::vector<Dot> dots) {
+  m_dots = std::move(dots);
+  delete m_dotsItem;
+  m_dotsItem = nullptr;
+  if (!m_dots.empty()) {
+    QVector<QPointF> inside;
+    QVector<QPointF> outside;
+    for (const Dot &dot : m_dots)
+      (dot.isInside ? inside : outside).append(shown(dot.at));
+    m_dotsItem = new DotsItem(inside, outside);
+    m_dotsItem->attach(this);
+    colorDots(colors());
+  }
+  if (m_zoomer->zoomRectIndex() == 0)
+    finish(); // the axes reach to all of them
+  else
+    replot();
+}
+
+bool MapCanvas::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == canvas() && event->type() == QEvent::MouseButtonPress)
+    m_pressed = static_cast<QMouseEvent *>(event)->pos();
+  if (watched == canvas() && event->type() == QEvent::MouseButtonRelease) {
+    const auto *mouse = static_cast<QMouseEvent *>(event);
+    constexpr int Still = 3; // pixels
+    const QPointF at(invTransform(xBottom, mouse->pos().x()), invTransform(yLeft, mouse->pos().y()));
+    const Dot *dot = dotAt(at);
+    const bool isClick = mouse->button() == Qt::LeftButton && (mouse->pos() - m_pressed).manhattanLength() <= Still;
+    if (isClick && dot != nullptr) // what follows may take this map away
+      QTimer::singleShot(0, this, [this, name = dot->name] { emit dotClicked(name); });
+  }
+  return QwtPlot::eventFilter(watched, event);
+}
+
+QPointF MapCanvas::computed(const QPointF &position) const {
+  return {m_toDisplayX.inverse(position.x()), m_toDisplayY.inverse(position.y())};
 }
 
 QPointF MapCanvas::shown(const QPointF &computed) const {
@@ -93,6 +159,7 @@ MapColors MapCanvas::colors() const {
 
 void MapCanvas::add(QwtPlotItem *item, std::function<void(const MapColors &)> color) {
   color(colors());
+  item->setItemAttribute(QwtPlotItem::Legend, !item->title().isEmpty());
   item->attach(this);
   m_coloring.push_back(std::move(color));
 }
@@ -103,8 +170,15 @@ void MapCanvas::color(const MapColors &colors) {
   colors.applyTo(own);
   setPalette(own);
   static_cast<ReadingZoomer *>(m_zoomer)->takeColors(colors);
+  m_mover->setColors(colors.of(m_isMovedInside ? Green : Red), colors.ground());
   for (const auto &item : m_coloring)
     item(colors);
+  colorDots(colors);
+}
+
+void MapCanvas::colorDots(const MapColors &colors) {
+  if (m_dotsItem != nullptr)
+    m_dotsItem->setColors(colors.of(Green), colors.of(Red), colors.ground());
 }
 
 void MapCanvas::paintOnWhite(const std::function<void()> &paint) {
@@ -126,6 +200,9 @@ void MapCanvas::changeEvent(QEvent *event) {
 void MapCanvas::reset(const QString &heading, const Axis &x, const Axis &y) {
   detachItems();
   m_coloring.clear();
+  m_dots.clear();
+  m_dotsItem = nullptr; // it went with the others
+  m_mover->setHome(std::nullopt);
   m_toDisplayX = x.quantity.toDisplay();
   m_toDisplayY = y.quantity.toDisplay();
   QwtText title(heading, QwtText::PlainText);
@@ -168,6 +245,38 @@ void MapCanvas::addLine(const QVector<QPointF> &points, const QPen &pen, const Q
   });
 }
 
+void MapCanvas::addNamedLine(const QVector<QPointF> &points, const QPen &pen, const QString &name) {
+  auto *curve = new QwtPlotCurve(QwtText(name, QwtText::PlainText));
+  curve->setSamples(shown(points));
+  curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+  curve->setLegendAttribute(QwtPlotCurve::LegendShowLine);
+  add(curve, [curve, pen](const MapColors &colors) {
+    QPen shown = pen;
+    shown.setColor(colors.of(pen.color()));
+    curve->setPen(shown);
+  });
+  if (!name.isEmpty())
+    addLegend();
+}
+
+void MapCanvas::addNamedPoint(const QPointF &at, bool isInside, const QString &name) {
+  auto *marker = new QwtPlotMarker;
+  marker->setValue(shown(at));
+  marker->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  marker->setSpacing(LabelSpacing);
+  marker->setItemAttribute(QwtPlotItem::AutoScale);
+  marker->setZ(48.0);
+  add(marker, [marker, name, color = isInside ? Green : Red](const MapColors &colors) {
+    marker->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, colors.ground(), QPen(colors.of(color), 2.0), QSize(8, 8)));
+    QwtText text(name, QwtText::PlainText);
+    QFont font = text.font();
+    font.setPointSize(8);
+    text.setFont(font);
+    text.setColor(colors.of(color));
+    marker->setLabel(text);
+  });
+}
+
 void MapCanvas::addRoom(const QPointF &to) {
   auto *marker = new QwtPlotMarker;
   marker->setValue(shown(to));
@@ -199,6 +308,38 @@ void MapCanvas::addDots(const QVector<QPointF> &points) {
   });
 }
 
+void MapCanvas::addDots(const QVector<QPointF> &points, const QColor &color, const QString &name) {
+  if (points.isEmpty())
+    return;
+  auto *dots = new QwtPlotCurve(QwtText(name, QwtText::PlainText));
+  dots->setStyle(QwtPlotCurve::NoCurve);
+  dots->setSamples(shown(points));
+  dots->setRenderHint(QwtPlotItem::RenderAntialiased);
+  dots->setLegendAttribute(QwtPlotCurve::LegendShowSymbol);
+  add(dots, [dots, color](const MapColors &colors) {
+    dots->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, colors.of(color), QPen(colors.ground(), 1.0), QSize(7, 7)));
+  });
+  addLegend();
+}
+
+/// In a corner of the canvas, once, whatever is named.
+void MapCanvas::addLegend() {
+  if (!itemList(QwtPlotItem::Rtti_PlotLegend).isEmpty())
+    return;
+  auto *legend = new QwtPlotLegendItem;
+  legend->setMaxColumns(1);
+  legend->setAlignment(Qt::AlignRight | Qt::AlignTop);
+  legend->setBorderRadius(3.0);
+  add(legend, [legend](const MapColors &colors) {
+    constexpr int Alpha = 210;
+    QColor ground = colors.ground();
+    ground.setAlpha(Alpha);
+    legend->setBackgroundBrush(ground);
+    legend->setBorderPen(QPen(colors.grid()));
+    legend->setTextPen(QPen(colors.ink()));
+  });
+}
+
 void MapCanvas::addWorkingPoint(const QPointF &at, bool isInside) {
   auto *marker = new QwtPlotMarker;
   const QColor color = isInside ? Green : Red;
@@ -209,6 +350,15 @@ void MapCanvas::addWorkingPoint(const QPointF &at, bool isInside) {
     marker->setSymbol(new QwtSymbol(QwtSymbol::Diamond, colors.of(color), QPen(colors.ground(), 1.5), QSize(13, 13)));
     marker->setLinePen(colors.of(color), 1.0, Qt::DotLine);
   });
+}
+
+void MapCanvas::letMove(const QPointF &from) {
+  m_mover->setHome(shown(from));
+}
+
+void MapCanvas::setMovedInside(bool isInside) {
+  m_isMovedInside = isInside;
+  m_mover->setColors(colors().of(isInside ? Green : Red), colors().ground());
 }
 
 void MapCanvas::addStoredPoint(const QPointF &at) {

@@ -13,6 +13,9 @@
 #include <functional>
 #include <vector>
 
+class DotsItem;
+class PointMover;
+
 /// A diagram with a heading: what maps of machines are drawn of, and what a person can do with them. Dragging zooms, a right
 /// click zooms out and offers to copy, to save and to print; the keys of copying and printing do so, too.
 class MapCanvas : public QwtPlot {
@@ -35,11 +38,28 @@ public:
   /// What a page of it says.
   void setPageFacts(const PageFacts &facts) { m_facts = facts; }
 
+  /// The point that a person may move, where there is one.
+  PointMover &mover() { return *m_mover; }
+  /// One of many points, with a name that stands beside it while the cursor is there.
+  struct Dot {
+    QPointF at; ///< in the units in which machines are computed
+    QString name;
+    bool isInside = true;
+  };
+  /// In place of those before.
+  void setDots(std::vector<Dot> dots);
+  /// How the moved point looks.
+  void setMovedInside(bool isInside);
+
 signals:
   void saveFailed(const QString &reason);
+  void pointMoved(const QPointF &at); ///< in the units in which machines are computed
+  void pointReturned();
+  void dotClicked(const QString &name);
 
 protected:
   bool event(QEvent *event) override;
+  bool eventFilter(QObject *watched, QEvent *event) override;
   void changeEvent(QEvent *event) override;
   void contextMenuEvent(QContextMenuEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
@@ -54,11 +74,19 @@ protected:
   void setReadout(std::function<QString(const QPointF &)> readout) { m_readout = std::move(readout); }
   void addLine(const QVector<QPointF> &points, const QPen &pen, const QString &label = QString(),
                Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter);
+  /// A line that the legend names, when it has a name.
+  void addNamedLine(const QVector<QPointF> &points, const QPen &pen, const QString &name);
+  /// A small mark with its name beside it.
+  void addNamedPoint(const QPointF &at, bool isInside, const QString &name);
   /// Has the axes reach to a point, so that a label there is not cut.
   void addRoom(const QPointF &to);
   void addArea(const QVector<QPointF> &outline);
   void addDots(const QVector<QPointF> &points); ///< that were measured
+  /// Others, which a name stands beside in the legend.
+  void addDots(const QVector<QPointF> &points, const QColor &color, const QString &name);
   void addWorkingPoint(const QPointF &at, bool isInside);
+  /// Has a person move the working point, which lies there.
+  void letMove(const QPointF &from);
   void addStoredPoint(const QPointF &at); ///< that the results state
   /// Shows what was added, whole.
   void finish();
@@ -66,9 +94,12 @@ protected:
 private:
   /// Adds an item, and how it takes its colours.
   void add(QwtPlotItem *item, std::function<void(const MapColors &)> color);
+  void addLegend();
   void color(const MapColors &colors);
+  void colorDots(const MapColors &colors);
   MapColors colors() const; ///< of the screen, or of paper
   QPointF shown(const QPointF &computed) const;
+  QPointF computed(const QPointF &position) const;
   QVector<QPointF> shown(QVector<QPointF> computed) const;
   void paint(QPainter &painter, const QRectF &area);
   void saveAs();
@@ -77,9 +108,16 @@ private:
 
   std::vector<std::function<void(const MapColors &)>> m_coloring; ///< of the items
   bool m_isOnWhite = false;
+  const Dot *dotAt(const QPointF &position) const; ///< of the plot; null where there is none
+
+  std::vector<Dot> m_dots;
+  DotsItem *m_dotsItem = nullptr;
+  QPoint m_pressed; ///< on the canvas
   PageFacts m_facts;
   std::function<QString(const QPointF &)> m_readout;
   Units::Linear m_toDisplayX;
   Units::Linear m_toDisplayY;
   class QwtPlotZoomer *m_zoomer;
+  PointMover *m_mover = nullptr;
+  bool m_isMovedInside = true;
 };

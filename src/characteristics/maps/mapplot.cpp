@@ -132,8 +132,34 @@ void MapPlot::addLines(const TurboCompressor &machine) {
   addEfficiencies(machine, corner);
 }
 
+/// The same speeds and the surge line, each dashed.
+void MapPlot::addOtherLines(const TurboCompressor &other, const QString &name) {
+  const QPen pen(Orange, 1.0, Qt::DashLine);
+  const auto along = [&other](double speed, double part) {
+    const auto flows = other.flows(speed);
+    const double flow = flows ? flows->first + part * (flows->second - flows->first) : 0.0;
+    return flows ? std::optional<QPointF>(QPointF(flow, (*other.head)(flow, speed))) : std::nullopt;
+  };
+  bool isNamed = false;
+  for (const double speed : speedUnit().roundValues(other.speedMin, other.speedMax)) {
+    QVector<QPointF> line;
+    for (int i = 0; i <= Steps; ++i) {
+      if (const auto at = along(speed, static_cast<double>(i) / Steps))
+        line.append(*at);
+    }
+    addNamedLine(line, pen, isNamed ? QString() : name);
+    isNamed = true;
+  }
+  QVector<QPointF> surge;
+  for (int i = 0; other.surge && i <= Steps; ++i) {
+    if (const auto at = along(other.speedMin + (other.speedMax - other.speedMin) * i / Steps, 0.0))
+      surge.append(*at);
+  }
+  addNamedLine(surge, QPen(Orange, 2.0, Qt::DashLine), QString());
+}
+
 void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point,
-                   const std::optional<double> &storedHead) {
+                   const std::optional<double> &storedHead, const TurboCompressor *other) {
   reset(heading(machineName(machine.station, machine.name), point), {tr("volume flow at the inlet"), flowUnit()},
         {tr("adiabatic head"), headUnit()});
   setReadout([machine](const QPointF &at) {
@@ -149,6 +175,8 @@ void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPo
     }
     return text;
   });
+  if (other != nullptr && other->isUsable())
+    addOtherLines(*other, tr("the functions that do not count"));
   if (machine.isUsable())
     addLines(machine);
   QVector<QPointF> dots;
@@ -159,6 +187,7 @@ void MapPlot::show(const TurboCompressor &machine, const std::optional<WorkingPo
   addDots(dots);
   if (point && point->isCompressing()) {
     addWorkingPoint({point->flow, point->head}, point->isInside);
+    letMove({point->flow, point->head});
     constexpr double Apart = 0.005; // of the head: nearer ones cover each other
     if (storedHead && std::abs(*storedHead - point->head) > Apart * point->head)
       addStoredPoint({point->flow, *storedHead});
@@ -196,8 +225,10 @@ void MapPlot::show(const PistonCompressor &machine, const std::optional<WorkingP
   constexpr double LabelRoom = 1.1;
   addRoom({LabelRoom * top.last().x(), top.last().y()});
   addLine(top, QPen(Red, isLimited ? 2.0 : 0.5));
-  if (point && point->isCompressing())
+  if (point && point->isCompressing()) {
     addWorkingPoint({point->flow, point->ratio}, point->isInside);
+    letMove({point->flow, point->ratio});
+  }
   finish();
 }
 

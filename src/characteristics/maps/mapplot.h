@@ -12,8 +12,9 @@ public:
   using MapCanvas::MapCanvas;
 
   /// \param storedHead that the results of the network state, in kJ/kg; marked beside the working point where it is another
+  /// \param other the machine by the functions that do not count, whose lines are drawn below; null for none
   void show(const TurboCompressor &machine, const std::optional<WorkingPoint> &point,
-            const std::optional<double> &storedHead = std::nullopt);
+            const std::optional<double> &storedHead = std::nullopt, const TurboCompressor *other = nullptr);
   /// \param limits the largest pressure ratio over the speed in 1/min; empty when only the machine's own limit is known
   void show(const PistonCompressor &machine, const std::optional<WorkingPoint> &point, const QVector<QPointF> &limits = {});
   /// \param point power and speed of it are shown; \param temperature ambient, degC
@@ -25,6 +26,7 @@ public:
 
 private:
   void addLines(const TurboCompressor &machine);
+  void addOtherLines(const TurboCompressor &other, const QString &name);
   void addPowers(const Drive &drive, const std::pair<double, double> &speeds, double temperature);
   /// \param corner where another label stands, beside which there is none
   void addEfficiencies(const TurboCompressor &machine, const QPointF &corner);

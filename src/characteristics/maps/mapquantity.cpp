@@ -22,6 +22,7 @@ const QHash<QString, Known> &known() {
       {QStringLiteral("kJ/kg"), {QStringLiteral("head"), QStringLiteral("kJ/kg")}},
       {QStringLiteral("1/min"), {QStringLiteral("speed"), QStringLiteral("1/min")}},
       {QStringLiteral("kW"), {QStringLiteral("power"), QStringLiteral("kW")}},
+      {QStringLiteral("1000 m³/h"), {QStringLiteral("norm volume flow"), QStringLiteral("1000 m3/h")}},
       {QStringLiteral("°C"), {QStringLiteral("temperature"), QStringLiteral("degC")}}};
   return all;
 }
@@ -63,6 +64,12 @@ MapQuantity::MapQuantity(const QString &unit)
 
 QString MapQuantity::title(const QString &name) const {
   return m_unit.isEmpty() ? name : name + QStringLiteral(" [") + m_unit + QLatin1Char(']');
+}
+
+MapQuantity MapQuantity::ofDifferences() const {
+  MapQuantity other = *this;
+  other.m_toDisplay.offset = 0.0;
+  return other;
 }
 
 QString MapQuantity::number(double value, int digits) const {

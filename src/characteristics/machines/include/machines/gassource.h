@@ -26,6 +26,7 @@ public:
   struct Gas {
     std::shared_ptr<const GasLaw> law = GasLaw::assumed();
     double normDensity = 0.0; ///< kg/m3
+    double fuelValue = 0.0;   ///< MJ/m3 at norm conditions, the inferior calorific value
     QString origin;           ///< for a person: whose gas it is
   };
 

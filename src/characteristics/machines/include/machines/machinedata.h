@@ -67,6 +67,9 @@ struct TurboCompressor {
   bool isUsable() const { return head && speedMax > speedMin; }
   /// The flows between surge and choke line at a speed; nothing when the speed line lies in neither.
   std::optional<std::pair<double, double>> flows(double speed) const;
+  /// Of the speeds that give the head at the flow those at which it grows with the speed, and of these the one nearest to
+  /// the range of the machine; none where that is far beyond it, since the function was made for the range.
+  std::optional<double> speedFor(double flow, double head) const;
 };
 
 struct PistonCompressor {
@@ -109,6 +112,8 @@ struct Drive {
   std::optional<Quadratic> energy;  ///< rate over power
   std::optional<Biquadratic> publishedPower;
   std::optional<Quadratic> publishedEnergy;
+  std::optional<Biquadratic> fittedPower; ///< by us, as the following; empty where there are too few points
+  std::optional<Quadratic> fittedEnergy;
   Fits::Quality powerQuality;
   Fits::Quality energyQuality;
   Fits::Quality publishedPowerQuality; ///< how the published coefficients meet the measured points
@@ -144,7 +149,12 @@ struct MachineData {
   std::vector<Drive> drives;
   std::vector<StationConfiguration> configurations;
   ScenarioGas gas;
+  FunctionSource source = FunctionSource::Fitted; ///< that all are computed with
 
+  /// Has all machines and drives computed with these functions, where they have them.
+  void use(FunctionSource wanted);
+  /// Some machine has fitted functions and published ones.
+  bool hasChoice() const;
   bool isEmpty() const { return turbos.empty() && pistons.empty() && drives.empty(); }
   /// Regardless of case; null when there is none.
   const TurboCompressor *turbo(const QString &name) const;

@@ -5,6 +5,7 @@
 
 #include <machines/compression.h>
 #include <machines/machinedata.h>
+#include <machines/machinemargins.h>
 #include <optional>
 
 /// Where a machine works.
@@ -28,7 +29,9 @@ struct WorkingPoint {
   std::optional<double> power;             ///< kW, at the shaft
   std::optional<double> outletTemperature; ///< K
   std::optional<double> energyRate;        ///< kW, what the drive takes
+  std::optional<double> fuelFlow;          ///< 1000 m3/h at norm conditions, of drives that burn gas
   std::optional<double> powerLimit;        ///< kW, of the drive at this speed
+  MachineMargins margins;                  ///< to the limits of machine and drive
   bool isInside = false;                   ///< of the machine's map
   QStringList remarks;                     ///< all that is missing or outside
 

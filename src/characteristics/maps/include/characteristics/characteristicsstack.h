@@ -1,6 +1,7 @@
 #pragma once
 
 #include <base/finding.h>
+#include <characteristics/scenariomachines.h>
 #include <model/netdata.h>
 #include <paper/pagecontent.h>
 
@@ -8,9 +9,12 @@
 #include <QStringList>
 
 #include <machines/networkmachines.h>
+#include <map>
+#include <memory>
 
 class MachinePage;
 class QTabWidget;
+class ScenarioCloud;
 
 /// The panel "Characteristics": a page for each machine that was opened.
 class CharacteristicsStack : public QDockWidget {
@@ -27,6 +31,11 @@ public:
   /// What pages with maps say, for the pages that are opened from now on.
   void setPageFacts(PageFacts facts) { m_facts = std::move(facts); }
 
+  /// The scenarios of a case, for clouds; what was read of them stays as long as the case is the same.
+  void setScenarios(ScenarioMachines scenarios, const QString &caseFolder);
+  /// Before another network is read.
+  void cancelReading();
+
   /// Opens the page of a compressor or drive of the network, or brings it to the front. False when it has none, and told.
   bool open(const QString &elementName);
   QStringList opened() const;
@@ -36,8 +45,16 @@ public:
   /// What the page of an element says beside the map, as rich text; empty when there is nothing for it.
   QString summary(const QString &elementName) const;
 
+signals:
+  /// Somebody chose which functions of machines count; the pages follow already.
+  void functionsChosen(FunctionSource source);
+  void scenarioWanted(const QString &name);
+
 private:
-  MachinePage *makePage(const QString &elementName) const;
+  void useFunctions(FunctionSource source);
+  std::vector<MachinePage *> pages() const;
+  std::shared_ptr<ScenarioCloud> cloudOf(const element &compressor);
+  MachinePage *makePage(const QString &elementName);
   void keep() const;
   void warn(const QString &reason) const { tell(m_told, Finding::Severity::Warning, reason); }
   void showHint();
@@ -48,4 +65,7 @@ private:
   PageFacts m_facts;
   QString m_path; ///< of the list of open pages, empty for none
   QTabWidget *m_tabs;
+  ScenarioMachines m_scenarios;
+  QString m_caseOfScenarios;
+  std::map<QString, std::shared_ptr<ScenarioCloud>> m_clouds; ///< by compressor
 };
