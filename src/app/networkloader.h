@@ -62,6 +62,7 @@ public:
   static QString boundsStage() { return tr("Bounds"); }
   /// Where the templates of subnets are; empty when the network has no subnets or there are none.
   const QString &templateFolder() const { return m_templateFolder; }
+  const NetworkFormulas &formulas() const { return m_formulas; }
   /// Of the scenario's compressor database; empty without one.
   const MachineData &machines() const { return m_machines; }
   /// The files of the workspace that were read, as they were then, and results and layers that may come beside them.

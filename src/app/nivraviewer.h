@@ -21,6 +21,7 @@ class LayerKeeper;
 class NetVisControl;
 class SubnetWindows;
 class ToolDocks;
+class WhyDock;
 
 namespace Ui {
 class NivraViewer;
@@ -73,6 +74,7 @@ private:
   void setUpFileMenu();
   void setUpOpening();
   void setUpSubnets();
+  void setUpExplanations();
   void setUpCommands();
   void applyStyleSheet(const QString &path);
   void closeIfWanted();
@@ -88,6 +90,7 @@ private:
   Appearance *m_appearance = nullptr;
   SubnetWindows *m_subnets;
   ToolDocks *m_tools = nullptr;
+  WhyDock *m_why = nullptr; ///< null before the first network
   LayerKeeper *m_layers;
   WorkspaceMemory *m_memory = nullptr;
   std::unique_ptr<CaseOpening> m_opening;
