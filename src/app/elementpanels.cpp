@@ -23,6 +23,7 @@ ElementPanels::ElementPanels(QMainWindow &window, NetVisControl &control)
     });
   }
   connect(m_properties, &NivraPropViewer::characteristicsWanted, this, &ElementPanels::characteristicsWanted);
+  connect(m_properties, &NivraPropViewer::whyWanted, this, &ElementPanels::whyWanted);
   connect(&control, &NetVisControl::currentElementChanged, this, &ElementPanels::show);
   connect(&control, &NetVisControl::editPropertiesRequested, this, &ElementPanels::bringProperties);
   connect(&control, &NetVisControl::selectionChanged, this, &ElementPanels::showSelection);
@@ -30,6 +31,10 @@ ElementPanels::ElementPanels(QMainWindow &window, NetVisControl &control)
     if (!name.isEmpty() && m_control.net().selection().isEmpty()) // what was picked stays until something else is
       show(name);
   });
+}
+
+void ElementPanels::setExplains(bool explains) {
+  m_properties->setExplains(explains);
 }
 
 QDockWidget *ElementPanels::properties() const {

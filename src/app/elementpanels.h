@@ -19,6 +19,8 @@ public:
 
   QDockWidget *info() const { return m_infoDock; }
   QDockWidget *properties() const;
+  /// Whether somebody answers whyWanted().
+  void setExplains(bool explains);
 
   void show(const QString &name);
   /// Values, or how they are written, have changed.
@@ -32,6 +34,7 @@ public:
 
 signals:
   void characteristicsWanted(const QStringList &names);
+  void whyWanted(const QString &element, const QString &property); ///< it has its value
 
 private:
   void showSelection();

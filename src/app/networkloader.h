@@ -64,6 +64,7 @@ public:
   static QString boundsStage() { return tr("Bounds"); }
   /// Where the templates of subnets are; empty when the network has no subnets or there are none.
   const QString &templateFolder() const { return m_templateFolder; }
+  const NetworkFormulas &formulas() const { return m_formulas; }
   /// Of the scenario's compressor database; empty without one.
   const MachineData &machines() const { return m_machines; }
   /// Which functions of machines count, for the next reading.

@@ -22,6 +22,7 @@
 #include "toolwindows.h"
 #include "ui_nivraviewer.h"
 #include "wheelguard.h"
+#include "why/whydock.h"
 
 #include <base/fileaccess.h>
 #include <base/finding.h>
@@ -123,6 +124,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   setUpFileMenu();
   setUpOpening();
   setUpSubnets();
+  setUpExplanations();
   connect(m_opening.get(), &CaseOpening::settingsLoaded, m_appearance, &Appearance::refresh);
   m_opening->loadSettings();
   connect(m_appearance, &Appearance::changed, this, [this] { OutcomeStyle::refresh(*m_ui->statusbar); });
@@ -168,6 +170,21 @@ void NivraViewer::setUpOpening() {
   connect(m_tools, &ToolDocks::functionsChosen, this, [this](FunctionSource source) {
     for (const ElementChange &change : m_opening->useFunctions(source))
       addChange(change);
+  });
+}
+
+/// The panel is made with the first network, as those of the tools are.
+void NivraViewer::setUpExplanations() {
+  connect(m_opening.get(), &CaseOpening::shown, this, [this] {
+    if (m_why == nullptr) {
+      m_why = new WhyDock(m_net, m_opening->loader(), this);
+      m_tools->addDock(m_why, QStringLiteral("why"), Qt::RightDockWidgetArea);
+      connect(m_tools, &ToolDocks::whyWanted, m_why, &WhyDock::ask);
+      connect(m_why, &WhyDock::elementAsked, this,
+              [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
+      connect(&m_opening->reading(), &CaseReading::begins, m_why, &WhyDock::pause);
+    }
+    m_why->refresh();
   });
 }
 
@@ -295,6 +312,8 @@ void NivraViewer::showChanges() {
   m_opening->loader().computeAgain(std::exchange(m_changes, {}));
   m_opening->showFindings();
   m_tools->showChanges();
+  if (m_why != nullptr)
+    m_why->refresh();
   m_control->redraw();
   m_subnets->takeProperties();
 }

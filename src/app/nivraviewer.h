@@ -22,6 +22,7 @@ class NetVisControl;
 class NetworkCheck;
 class SubnetWindows;
 class ToolDocks;
+class WhyDock;
 
 namespace Ui {
 class NivraViewer;
@@ -74,6 +75,7 @@ private:
   void setUpFileMenu();
   void setUpOpening();
   void setUpSubnets();
+  void setUpExplanations();
   void setUpCommands();
   void setUpCheck();
   void applyStyleSheet(const QString &path);
@@ -90,6 +92,7 @@ private:
   Appearance *m_appearance = nullptr;
   SubnetWindows *m_subnets;
   ToolDocks *m_tools = nullptr;
+  WhyDock *m_why = nullptr; ///< null before the first network
   LayerKeeper *m_layers;
   WorkspaceMemory *m_memory = nullptr;
   std::unique_ptr<CaseOpening> m_opening;

@@ -315,6 +315,8 @@ void ToolDocks::createElement() {
   addDock(m_element->info(), QStringLiteral("elementInformation"), Qt::RightDockWidgetArea);
   addDock(m_element->properties(), QStringLiteral("propertyViewer"), Qt::RightDockWidgetArea);
   connect(m_element, &ElementPanels::characteristicsWanted, &m_control, &NetVisControl::openCharacteristicsRequested);
+  connect(m_element, &ElementPanels::whyWanted, this, &ToolDocks::whyWanted);
+  m_element->setExplains(m_extent == Extent::Program);
 }
 
 void ToolDocks::showInfo(const QString &name) {

@@ -63,6 +63,8 @@ public:
   void fillViewMenu(QMenu &menu);
   NivraSearch *search() const { return m_search; } ///< null before the first workspace
 
+  /// A panel of the window, behind the others on its side until it is asked for.
+  QDockWidget *addDock(QDockWidget *dock, const QString &name, Qt::DockWidgetArea area);
   /// What a person changed in the tools and did not save.
   std::vector<UnsavedEdits::Kind> unsaved();
   /// Hides the layers in the drawing, and shows this in the editor.
@@ -98,6 +100,7 @@ public:
 
 signals:
   void elementMarked(const QString &name); ///< in one of the tools
+  void whyWanted(const QString &element, const QString &property);
   void saveLayersWanted();
   void loadLayersWanted();
   void elementsChanged(const ElementChange &change); ///< by one of the tools
@@ -109,7 +112,6 @@ protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-  QDockWidget *addDock(QDockWidget *dock, const QString &name, Qt::DockWidgetArea area);
   void createReports();
   void createDraw();
   void createElement();

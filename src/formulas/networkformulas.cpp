@@ -4,6 +4,7 @@
 #include "formulaparsers.h"
 #include "formularemarks.h"
 #include "formularule.h"
+#include "formulauses.h"
 
 #include <formulas/networkformulas.h>
 #include <model/names.h>
@@ -363,6 +364,10 @@ Findings NetworkFormulas::violations() const {
   std::sort(found.begin(), found.end(),
             [](const Finding &a, const Finding &b) { return std::tie(a.element, a.line) < std::tie(b.element, b.line); });
   return found;
+}
+
+std::vector<FormulaUse> NetworkFormulas::usesOf(const element &e, PropertyKey property) const {
+  return FormulaUses(m_computing->rules, m_computing->net).of(e, property);
 }
 
 int NetworkFormulas::evaluations() const {

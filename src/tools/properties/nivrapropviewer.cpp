@@ -24,7 +24,9 @@ NivraPropViewer::NivraPropViewer(const NetData &net, QWidget *parent)
   m_shown->setSourceModel(m_properties);
   m_ui->tree->setModel(m_shown);
   m_ui->tree->setItemDelegate(new NumberDelegate(PropertyModel::PropertyColumn, this));
-  m_ui->tree->addActions({m_ui->actionCopy, m_ui->actionOpenCharacteristics});
+  m_ui->tree->addActions({m_ui->actionWhy, m_ui->actionCopy, m_ui->actionOpenCharacteristics});
+  m_ui->actionWhy->setVisible(false);
+  connect(m_ui->actionWhy, &QAction::triggered, this, &NivraPropViewer::askWhy);
   m_ui->actionOpenCharacteristics->setVisible(false);
   connect(m_ui->actionOpenCharacteristics, &QAction::triggered, this,
           [this] { emit characteristicsWanted({m_elementName}); });
@@ -51,6 +53,16 @@ void NivraPropViewer::showCurrentEleContents(const element *ele) {
     m_ui->tree->expand(m_shown->index(group, PropertyModel::PropertyColumn));
   for (const int column : {PropertyModel::PropertyColumn, PropertyModel::ValueColumn, PropertyModel::UnitColumn})
     m_ui->tree->resizeColumnToContents(column);
+}
+
+void NivraPropViewer::setExplains(bool explains) {
+  m_ui->actionWhy->setVisible(explains);
+}
+
+void NivraPropViewer::askWhy() {
+  const QModelIndex row = m_ui->tree->currentIndex();
+  if (row.parent().isValid() && !m_elementName.isEmpty())
+    emit whyWanted(m_elementName, row.sibling(row.row(), PropertyModel::PropertyColumn).data().toString());
 }
 
 void NivraPropViewer::on_lineEdit_filter_textChanged(const QString &text) {

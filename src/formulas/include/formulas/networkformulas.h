@@ -2,6 +2,7 @@
 
 #include <base/finding.h>
 #include <formulas/formulafile.h>
+#include <formulas/formulause.h>
 #include <model/netdata.h>
 
 #include <memory>
@@ -33,6 +34,9 @@ public:
   Findings judge();
   /// Of constraints as they stand now, one an element and constraint, by name of the element.
   Findings violations() const;
+  /// What says something of the property of the element, in the order of the definitions: formulas that compute it, and
+  /// constraints. Asked when a person wants to know; it goes over all definitions.
+  std::vector<FormulaUse> usesOf(const element &e, PropertyKey property) const;
   /// By the last apply() or update(), for those who watch the cost.
   int evaluations() const;
 

@@ -26,9 +26,12 @@ public:
   void setActive(bool active) { m_isActive = active; }
   void setShowsHidden(bool showsHidden) { m_showsHidden = showsHidden; }
   const QString &elementName() const { return m_elementName; }
+  /// Whether somebody answers whyWanted().
+  void setExplains(bool explains);
 
 signals:
   void characteristicsWanted(const QStringList &names);
+  void whyWanted(const QString &element, const QString &property); ///< it has its value
 
 public slots:
   void on_actionCopy_triggered();
@@ -38,6 +41,8 @@ protected:
   void changeEvent(QEvent *event) override;
 
 private:
+  void askWhy();
+
   std::unique_ptr<Ui::NivraPropViewer> m_ui;
   const NetData &m_net;
   PropertyModel *m_properties;
