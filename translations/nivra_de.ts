@@ -4930,6 +4930,14 @@ braucht %1</translation>
         <source> of type </source>
         <translation> vom Typ </translation>
     </message>
+    <message>
+        <source>Why This Value</source>
+        <translation>Warum dieser Wert</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Y</source>
+        <translation>Ctrl+Shift+Y</translation>
+    </message>
 </context>
 <context>
     <name>NivraReader</name>
@@ -6702,6 +6710,25 @@ Ungültige Zeile(n) übergangen! Näheres in den Meldungen!</translation>
     <message>
         <source>no line with column names, which begins with &quot;name&quot;, stands above it</source>
         <translation>darüber steht keine Zeile mit Spaltennamen, die mit &quot;name&quot; beginnt</translation>
+    </message>
+</context>
+<context>
+    <name>ReasonModel</name>
+    <message>
+        <source>reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>where</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>Double click or Return asks why this has its value</source>
+        <translation>Doppelklick oder Eingabe fragt, warum dies seinen Wert hat</translation>
     </message>
 </context>
 <context>
@@ -9484,6 +9511,97 @@ oder vergleicht: &gt; 10, &lt;= 3, = open, != 0</translation>
     </message>
 </context>
 <context>
+    <name>ValueReasons</name>
+    <message>
+        <source>no value</source>
+        <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1 von %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Held between %1 and %2</source>
+        <translation>Soll zwischen %1 und %2 liegen</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Formula: %1%2 = %3</source>
+        <translation>Formel: %1%2 = %3</translation>
+    </message>
+    <message>
+        <source>no value: one that it needs is missing</source>
+        <translation>kein Wert: einer, den sie braucht, fehlt</translation>
+    </message>
+    <message>
+        <source>%1: no such element</source>
+        <translation>%1: kein solches Element</translation>
+    </message>
+    <message>
+        <source>%1 – %2 of %3</source>
+        <translation>%1 – %2 von %3</translation>
+    </message>
+    <message>
+        <source>Unit: stored and shown in %1</source>
+        <translation>Einheit: gespeichert und angezeigt in %1</translation>
+    </message>
+    <message>
+        <source>Unit: stored in %1, shown in %2: value %3</source>
+        <translation>Einheit: gespeichert in %1, angezeigt in %2: Wert %3</translation>
+    </message>
+    <message>
+        <source>Given, but replaced below</source>
+        <translation>Gegeben, aber weiter unten ersetzt</translation>
+    </message>
+    <message>
+        <source>Given by the file</source>
+        <translation>Von der Datei gegeben</translation>
+    </message>
+    <message>
+        <source>No network file gives it: the program made it, or a template of a subnet</source>
+        <translation>Keine Netzdatei gibt ihn: das Programm hat ihn gebildet, oder die Vorlage eines Teilnetzes</translation>
+    </message>
+    <message>
+        <source>%1: cannot be converted</source>
+        <translation>%1: nicht umrechenbar</translation>
+    </message>
+    <message>
+        <source>%1: value %2</source>
+        <translation>%1: Wert %2</translation>
+    </message>
+    <message>
+        <source>norm density %1 kg/m³</source>
+        <translation>Normdichte %1 kg/m³</translation>
+    </message>
+    <message>
+        <source>calorific value %1 MJ/m³</source>
+        <translation>Brennwert %1 MJ/m³</translation>
+    </message>
+    <message>
+        <source>by the gas there: %1</source>
+        <translation>nach dem Gas dort: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>VectorPlot</name>
     <message>
         <source>row</source>
@@ -9539,6 +9657,29 @@ oder vergleicht: &gt; 10, &lt;= 3, = open, != 0</translation>
     <message>
         <source>%1 cannot be read to its end</source>
         <translation>%1 lässt sich nicht bis zum Ende lesen</translation>
+    </message>
+</context>
+<context>
+    <name>WhyDock</name>
+    <message>
+        <source>Why This Value</source>
+        <translation>Warum dieser Wert</translation>
+    </message>
+    <message>
+        <source>Back to the question before</source>
+        <translation>Zurück zur vorigen Frage</translation>
+    </message>
+    <message>
+        <source>Reasons of the value</source>
+        <translation>Gründe des Wertes</translation>
+    </message>
+    <message>
+        <source>Looking into the files …</source>
+        <translation>Die Dateien werden durchsucht …</translation>
+    </message>
+    <message>
+        <source>Ask for &quot;Why This Value&quot; in the menu of a value in the property viewer.</source>
+        <translation>Fragen Sie im Menü eines Wertes im Eigenschaftenfenster nach „Warum dieser Wert“.</translation>
     </message>
 </context>
 <context>
