@@ -171,7 +171,7 @@ void ProfilePanel::addDots(const QVector<QPointF> &points, const ColorOf &color)
 void ProfilePanel::scale() {
   constexpr int Steps = 4;
   constexpr double Smallest = 1e-3; // of the value
-  constexpr double CaptionRoom = 0.3;
+  constexpr double CaptionRoom = 0.22;
   if (!m_hasPoints)
     return;
   const double least = std::max(Smallest * std::max(std::abs(m_lowest), std::abs(m_highest)), 1e-9);
