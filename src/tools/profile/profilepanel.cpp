@@ -1,5 +1,6 @@
 #include "profile/profilepanel.h"
 
+#include <QFontInfo>
 #include <QPainter>
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
@@ -24,6 +25,7 @@ public:
   Caption(QString title, const QFont &font)
       : m_title(std::move(title))
       , m_font(font) {
+    m_font.setPixelSize(QFontInfo(font).pixelSize()); // else it would grow with the dots of a picture
     setZ(CaptionZ);
   }
   void setEntries(std::vector<Entry> entries) { m_entries = std::move(entries); }
