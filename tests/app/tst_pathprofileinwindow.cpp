@@ -298,7 +298,7 @@ void TestPathProfileInWindow::wayPointsAreEdited() {
   Window window(Example + QStringLiteral("S5/S5.scen.jsn"));
   window.select({QStringLiteral("N_Oldenburg"), QStringLiteral("N_Minden")});
   window.ask();
-  auto *list = window.page().findChild<QListView *>();
+  auto *list = window.page().findChild<QListView *>(QStringLiteral("listView_wayPoints"));
   const QStringList nodes = window.page().wayPoints();
   const double length = window.profile().length();
   list->setFocus();

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QMenu>
@@ -128,6 +129,7 @@ void PathProfilePage::makeBar() {
 QWidget *PathProfilePage::makeWayPoints() {
   constexpr int Narrowest = 130;
   constexpr int Width = 170;
+  m_list->setObjectName(QStringLiteral("listView_wayPoints"));
   m_list->setModel(&m_wayPoints);
   m_list->setAccessibleName(tr("Way points"));
   m_list->setToolTip(tr("Way points in their order: drag them, F2 to type a name, Delete to remove one"));
@@ -159,6 +161,7 @@ QWidget *PathProfilePage::makeWayPoints() {
   add(QStringLiteral("↑"), tr("Move this way point up"), QKeySequence(Qt::ALT + Qt::Key_Up), [this] { moveCurrent(-1); });
   add(QStringLiteral("↓"), tr("Move this way point down"), QKeySequence(Qt::ALT + Qt::Key_Down), [this] { moveCurrent(1); });
   add(QStringLiteral("⇅"), tr("The other way round"), QKeySequence(), [this] { reverse(); });
+  m_list->installEventFilter(this);
   auto *side = new QWidget;
   auto *column = new QVBoxLayout(side);
   column->setContentsMargins(2, 0, 0, 0);
@@ -167,6 +170,23 @@ QWidget *PathProfilePage::makeWayPoints() {
   column->addWidget(buttons);
   side->resize(Width, side->height());
   return side;
+}
+
+/// Keys of the list are for the list while it has the keyboard, whatever the window does with them elsewhere.
+bool PathProfilePage::eventFilter(QObject *watched, QEvent *event) {
+  if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+    return QWidget::eventFilter(watched, event);
+  const auto *key = static_cast<const QKeyEvent *>(event);
+  const QKeySequence pressed(static_cast<int>(key->modifiers() & ~Qt::KeypadModifier) | key->key());
+  for (QAction *action : m_list->actions()) {
+    if (action->shortcut() != pressed)
+      continue;
+    if (event->type() == QEvent::KeyPress)
+      action->trigger();
+    event->accept();
+    return true;
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void PathProfilePage::makeChart() {

@@ -59,6 +59,9 @@ signals:
   void elementMarked(const QString &name);
   void elementWanted(const QString &name);
 
+protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
   void makeBar();
   QWidget *makeWayPoints();

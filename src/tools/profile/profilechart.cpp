@@ -4,6 +4,7 @@
 
 #include <tools/plaintip.h>
 
+#include <QFontInfo>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -121,7 +122,7 @@ void ProfileChart::addAxis() {
   m_axisPlot->canvas()->installEventFilter(this);
   m_axis = new StationAxis(m_symbols);
   QFont small = font();
-  small.setPointSizeF(small.pointSizeF() * Smaller);
+  small.setPixelSize(qRound(QFontInfo(small).pixelSize() * Smaller)); // points would grow with the dots of a picture
   m_axis->setFont(small);
   m_axis->setProfile(*m_content.profile, m_content.wayPoints);
   m_axis->attach(m_axisPlot);

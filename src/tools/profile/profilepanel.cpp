@@ -1,5 +1,6 @@
 #include "profile/profilepanel.h"
 
+#include <QFontInfo>
 #include <QPainter>
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
@@ -24,6 +25,7 @@ public:
   Caption(QString title, const QFont &font)
       : m_title(std::move(title))
       , m_font(font) {
+    m_font.setPixelSize(QFontInfo(font).pixelSize()); // else it would grow with the dots of a picture
     setZ(CaptionZ);
   }
   void setEntries(std::vector<Entry> entries) { m_entries = std::move(entries); }
@@ -171,7 +173,7 @@ void ProfilePanel::addDots(const QVector<QPointF> &points, const ColorOf &color)
 void ProfilePanel::scale() {
   constexpr int Steps = 4;
   constexpr double Smallest = 1e-3; // of the value
-  constexpr double CaptionRoom = 0.3;
+  constexpr double CaptionRoom = 0.22;
   if (!m_hasPoints)
     return;
   const double least = std::max(Smallest * std::max(std::abs(m_lowest), std::abs(m_highest)), 1e-9);

@@ -102,7 +102,7 @@ void StationAxis::drawSymbol(QPainter &painter, const Placed &placed, double y) 
   const QString count = QString::number(placed.rows.size());
   QFont font = painter.font();
   const QFont before = font;
-  font.setPointSizeF(font.pointSizeF() * 0.75);
+  font.setPixelSize(qRound(font.pixelSize() * 0.75));
   painter.setFont(font);
   const QRectF badge(center.x() + SymbolSize / 2.0 - Gap, y - SymbolSize / 2.0,
                      QFontMetricsF(font).horizontalAdvance(count) + Gap, QFontMetricsF(font).height());
