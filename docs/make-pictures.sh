@@ -168,7 +168,7 @@ make_year() { # a scenario a day, with pressures that fall in winter
 }
 if wants scenario-set; then
   make_year
-  window scenario-set "$year" 'run_command "scenario set"; drag 600 600 600 480; click 230 835; sleep 3; go_to N_Bremen; sleep 2'
+  window scenario-set "$year" 'run_command "scenario set"; click 48 850; sleep 4; go_to N_Bremen; press ctrl+0; sleep 2; xdotool mousemove 820 640; sleep 1'
 fi
 window commands "$example" 'press ctrl+shift+p; sleep 0.5; say "edge press"; sleep 0.5'
 window settings "$example" 'press ctrl+comma; sleep 1.5; press Down Down Down; shoot "$(find_window "^Settings")"'
