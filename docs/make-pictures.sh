@@ -197,8 +197,6 @@ window walk-6 "$walk_file" 'go_to rlitz; press ctrl+u; press ctrl+0; sleep 1.5'
 window subnet "$walk_file" 'go_to CS_Werne; press ctrl+shift+o; sleep 2
   fill "$(find_window Subassembly)"; press ctrl+t; sleep 1.5; press Down Down shift+Down; sleep 1'
 window characteristics "$walk_file" 'go_to CS_Rehden_C1; press ctrl+shift+m; sleep 2'
-window characteristics-moved "$walk_file" 'go_to CS_Rehden_C1; press ctrl+shift+m; sleep 2; drag 955 300 1010 270; sleep 1'
-window characteristics-scenarios "$walk_file" 'go_to CS_Rehden_C1; press ctrl+shift+m; sleep 2; click 1000 130; sleep 2'
 window piston "$walk_file" 'go_to CS_Rimpar_C1; press ctrl+shift+m; sleep 2'
 
 # What was opened before, and a file that changes while it is shown.

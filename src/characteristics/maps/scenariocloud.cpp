@@ -16,7 +16,10 @@ element bare(const element &e, const NetMetaData &metaData) {
   element copy = e;
   for (const Property &property : e) {
     const NetMetaData::Attribute *row = metaData.attribute(type, property.key.name());
-    if (row != nullptr && row->group != QLatin1String("geometry"))
+    const bool isOfScenario =
+        row != nullptr && (row->group == QLatin1String("scenario") || row->group == QLatin1String("results") ||
+                           row->group == QLatin1String("gas"));
+    if (isOfScenario)
       copy.erase(property.key);
   }
   return copy;
