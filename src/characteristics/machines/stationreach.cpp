@@ -192,7 +192,8 @@ std::optional<StationReach::Range> StationReach::through(const std::vector<std::
   Range pressures{m_inlet.inletPressure, m_inlet.inletPressure};
   for (const std::map<double, Rows> &stage : stages) {
     std::optional<Range> behind;
-    std::optional<std::pair<double, Range>> before; // the row of pressures below
+    bool hasBefore = false; // whether there is a row of pressures below, and which
+    std::pair<double, Range> before;
     const auto take = [&behind](double pressure, const Range &ratios) {
       const Range reached{pressure * ratios.low, pressure * ratios.high};
       behind = behind ? Range{std::min(behind->low, reached.low), std::max(behind->high, reached.high)} : reached;
@@ -202,13 +203,15 @@ std::optional<StationReach::Range> StationReach::through(const std::vector<std::
       if (own && pressure >= pressures.low && pressure <= pressures.high)
         take(pressure, *own);
       for (const double end : {pressures.low, pressures.high}) {
-        if (!own || !before || !(end > before->first && end < pressure))
+        if (!own || !hasBefore || !(end > before.first && end < pressure))
           continue;
-        const double part = (end - before->first) / (pressure - before->first);
-        take(end, {before->second.low + part * (own->low - before->second.low),
-                   before->second.high + part * (own->high - before->second.high)});
+        const double part = (end - before.first) / (pressure - before.first);
+        take(end, {before.second.low + part * (own->low - before.second.low),
+                   before.second.high + part * (own->high - before.second.high)});
       }
-      before = own ? std::make_optional(std::make_pair(pressure, *own)) : std::nullopt;
+      hasBefore = own.has_value();
+      if (own)
+        before = {pressure, *own};
     }
     if (!behind)
       return std::nullopt;
