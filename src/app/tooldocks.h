@@ -96,6 +96,7 @@ signals:
   void saveLayersWanted();
   void loadLayersWanted();
   void elementsChanged(const ElementChange &change); ///< by one of the tools
+  void figuresChanged(const ElementChange &change);  ///< of a set of scenarios, which nobody edited
   void scenarioWanted(const QString &file);          ///< in place of what is open
 
 protected:
