@@ -117,6 +117,7 @@ NivraViewer::NivraViewer(QWidget *parent)
   connect(m_ui->actionPrint, &QAction::triggered, m_control.get(), &NetVisControl::print);
   connect(m_ui->actionSavePage, &QAction::triggered, m_control.get(), &NetVisControl::savePage);
   connect(m_tools, &ToolDocks::elementsChanged, this, &NivraViewer::addChange);
+  connect(m_tools, &ToolDocks::figuresChanged, this, &NivraViewer::addChange);
   connect(m_tools, &ToolDocks::scenarioWanted, this, &NivraViewer::open,
           Qt::QueuedConnection); // the dock is asked again meanwhile
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());

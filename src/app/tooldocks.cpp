@@ -222,7 +222,7 @@ void ToolDocks::selectElements(const QStringList &names) {
 void ToolDocks::createScenarioSet() {
   m_scenarioSet = new ScenarioSetDock(m_net, &m_window);
   addDock(m_scenarioSet, QStringLiteral("scenarioSet"), Qt::BottomDockWidgetArea);
-  connect(m_scenarioSet, &ScenarioSetDock::elementsChanged, this, &ToolDocks::elementsChanged);
+  connect(m_scenarioSet, &ScenarioSetDock::elementsChanged, this, &ToolDocks::figuresChanged);
   connect(m_scenarioSet, &ScenarioSetDock::scenarioWanted, this, &ToolDocks::scenarioWanted);
   connect(&m_control, &NetVisControl::currentElementChanged, m_scenarioSet, &ScenarioSetDock::showElement);
 }

@@ -105,6 +105,7 @@ signals:
   void loadLayersWanted();
   void elementsChanged(const ElementChange &change); ///< by one of the tools
   void functionsChosen(FunctionSource source);       ///< that machines are computed with
+  void figuresChanged(const ElementChange &change);  ///< of a set of scenarios, which nobody edited
   void scenarioWanted(const QString &file);          ///< in place of what is open
   void scenarioNamed(const QString &name);           ///< of the case, to be opened in place of the open one
 

@@ -1,6 +1,6 @@
+#include "layerkeeper.h"
 #include "nivraviewer.h"
 #include "programrun.h"
-#include "remembering.h"
 #include "workspacefixture.h"
 
 #include <support/nivratest.h>
@@ -144,7 +144,8 @@ void TestScenarioSet::inTheWindow() {
   };
   compute->click();
   QTRY_COMPARE(valueOf("p.min"), QStringLiteral("10"));
-  QCOMPARE(valueOf("p.max"), QStringLiteral("50")); // S1 has that of the geometry
+  QCOMPARE(valueOf("p.max"), QStringLiteral("50"));         // S1 has that of the geometry
+  QVERIFY(!viewer.findChild<LayerKeeper *>()->isUnsaved()); // nobody edited anything
   viewer.visControl()->setCurrentElement(QStringLiteral("A"));
   auto *chart = dock->findChild<QwtPlot *>();
   QTRY_VERIFY(chart != nullptr && chart->isVisible());
