@@ -1493,6 +1493,10 @@ Lokale Git-Änderungen: %5</translation>
         <source>Which functions of machines count cannot be kept: %1</source>
         <translation>Welche Funktionen der Maschinen gelten, lässt sich nicht merken: %1</translation>
     </message>
+    <message>
+        <source>%1 cannot be opened: there is no geometry in %2</source>
+        <translation>%1 kann nicht geöffnet werden: In %2 gibt es keine Geometrie</translation>
+    </message>
 </context>
 <context>
     <name>CaseReading</name>

@@ -18,6 +18,7 @@
 #include <view/netviscontrol.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QMainWindow>
 #include <QStatusBar>
 
@@ -88,7 +89,8 @@ void CaseOpening::open(const QString &path) {
 bool CaseOpening::resolve(NetworkLoader &loader, const QString &path) {
   QStatusBar &bar = *m_parts.window.statusBar();
   OutcomeStyle::clear(bar);
-  if (loader.resolve(path)) {
+  QString reason;
+  if (loader.resolve(path) && hasGeometry(loader.workspace(), &reason)) {
     if (workspace().isValid()) // what is open may stay so
       FileAccess::confineTo(workspace().root());
     return true;
@@ -96,7 +98,20 @@ bool CaseOpening::resolve(NetworkLoader &loader, const QString &path) {
   OutcomeStyle::show(bar, OutcomeStyle::Outcome::Failed);
   bar.showMessage(tr("Invalid Workspace"));
   if (NivraMsg::showsBoxes()) // else the log has said it already
-    NivraMsg::message(NivraMsg::Kind::Warning, loader.error());
+    NivraMsg::message(NivraMsg::Kind::Warning, reason.isEmpty() ? loader.error() : reason);
+  else if (!reason.isEmpty())
+    NivraMsg::logWarning(reason);
+  return false;
+}
+
+/// Else nothing can take the place of what is open.
+bool CaseOpening::hasGeometry(const NivraWorkspace &wanted, QString *reason) const {
+  const QDir folder(wanted.caseDirectory());
+  if (!m_isRead || !folder.entryList({QStringLiteral("*.geom*")}, QDir::Files).isEmpty())
+    return true;
+  *reason = tr("%1 cannot be opened: there is no geometry in %2").arg(wanted.chosenPath(), folder.path());
+  if (workspace().isValid())
+    FileAccess::confineTo(workspace().root());
   return false;
 }
 

@@ -70,6 +70,7 @@ signals:
 private:
   void connectFiles();
   bool resolve(NetworkLoader &loader, const QString &path);
+  bool hasGeometry(const NivraWorkspace &wanted, QString *reason) const;
   void useLastScenario();
   void show(bool isRead);
   void comeBack();

@@ -264,7 +264,8 @@ void TestChanges::windowsOfSubnetsHaveCommands() {
                                  QStringLiteral("About Nivra Reader"), QStringLiteral("Messages"),
                                  QStringLiteral("Findings"),           QStringLiteral("Scenario"),
                                  QStringLiteral("Characteristics"),    QStringLiteral("Open subnet in a window of its own"),
-                                 QStringLiteral("Check the network"),  QStringLiteral("Balance")};
+                                 QStringLiteral("Check the network"),  QStringLiteral("Balance"),
+                                 QStringLiteral("Scenario Set"),       QStringLiteral("Why This Value")};
   const QStringList menusOfTheProgram{QStringLiteral("Open Recent"), QStringLiteral("Appearance"),
                                       QStringLiteral("Language")};
   for (const Command &command : CommandList::of(viewer.menuBar()->actions(), viewer)) {

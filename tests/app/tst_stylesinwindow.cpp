@@ -62,6 +62,8 @@ void TestStylesInWindow::chosenInTheToolBar() {
   QVERIFY(!height->isEnabled() && height->toolTip().contains(QLatin1String("height")));
   viewer.visControl()->plot()->legendAction()->trigger(); // it is no longer quite that style
   QCOMPARE(styles->text(), QStringLiteral("Style"));
+  viewer.visControl()->plot()->legendAction()->trigger(); // and now it is again
+  QCOMPARE(styles->text(), QStringLiteral("Flow"));
   auto &draw = panelOf<viewFuncDialog>(viewer);
   QVERIFY(!draw.hasUnapplied()); // it followed
 }

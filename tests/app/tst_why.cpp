@@ -66,7 +66,7 @@ private:
 void TestWhy::formulasLeadToWhatTheyRead() {
   const WorkspaceFixture files;
   files.write(QStringLiteral("CASE/CASE.formulas"),
-              "[results]\ndp(p) [bar] = p@node1@ELE - p@node2@ELE\nhalf(p) [bar] = dp@ELE / 2\n");
+              "[geometry]\ndp(p) [bar] = p@node1@ELE - p@node2@ELE\nhalf(p) [bar] = dp@ELE / 2\n");
   NivraViewer viewer;
   WhyDock &why = opened(viewer, files.geometry());
   viewer.resize(1200, 800);

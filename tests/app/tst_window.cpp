@@ -130,6 +130,10 @@ void TestWindow::invalidWorkspaceLeavesWhatIsOpen() {
   viewer.open(m_workspace.path(QStringLiteral("CASE/CASE.geom.cfg")));
   QCOMPARE(viewer.centralWidget(), plot);
   QCOMPARE(viewer.windowTitle(), title);
+  m_workspace.write(QStringLiteral("lonely.scen.jsn"), "no scenario, and no case around it");
+  viewer.open(m_workspace.path(QStringLiteral("lonely.scen.jsn")));
+  QCOMPARE(viewer.windowTitle(), title);
+  QVERIFY(!viewer.visControl()->net().isEmpty());
   viewer.open(m_workspace.geometry());
   QCOMPARE(viewer.centralWidget(), plot);
 }

@@ -46,6 +46,7 @@ void StyleHistory::reset() {
     return;
   m_stack.clear();
   m_now = {m_plot.appliedStyle(), QString()};
+  m_named = Step();
   emit changed();
 }
 
@@ -69,6 +70,8 @@ void StyleHistory::nameBeginning(const QString &style) {
 
 void StyleHistory::record(const QString &style) {
   Step after{m_plot.appliedStyle(), style};
+  if (style.isEmpty() && after.style == m_named.style)
+    after.name = m_named.name; // as it was before something was changed and changed back
   if (after.style == m_now.style) {
     if (!style.isEmpty() && style != m_now.name) {
       m_now.name = style;
@@ -78,11 +81,15 @@ void StyleHistory::record(const QString &style) {
   }
   const QString text = style.isEmpty() ? StyleChange::text(m_now.style, after.style, m_plot.update().netData())
                                        : tr("style \"%1\"").arg(style);
+  if (!m_now.name.isEmpty())
+    m_named = m_now;
   const Step before = std::exchange(m_now, after);
   m_stack.push(new Command(*this, before, std::move(after), text));
 }
 
 void StyleHistory::rename(const QString &from, const QString &to) {
+  if (m_named.name == from)
+    m_named.name = to;
   if (m_now.name != from)
     return;
   m_now.name = to;

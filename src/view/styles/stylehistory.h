@@ -52,6 +52,7 @@ private:
 
   NetPlot &m_plot;
   Step m_now;
+  Step m_named; ///< the last one that had a name
   QUndoStack m_stack;
   bool m_isHeld = false;
 };

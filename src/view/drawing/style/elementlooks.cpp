@@ -79,16 +79,19 @@ std::vector<QRgb> ElementLooks::stationColors(const std::vector<EdgeLook> &edges
   const DrawValues::Column &values = m_values.of(Aspect::EdgeColor);
   if (!values.isAny())
     return {};
+  bool hasPipes = false;
   std::vector<QRgb> colors(edges.size(), 0);
   for (std::size_t i = 0; i < edges.size(); ++i) {
+    const bool isPipe = m_geometry.edges()[i].type == 'p';
+    hasPipes = hasPipes || isPipe;
     if (values.ofElements[i] == NetData::NoValue)
       continue;
-    if (m_geometry.edges()[i].type == 'p')
+    if (isPipe)
       return {};
     if (!edges[i].isBackground && !edges[i].isHidden)
       colors[i] = edges[i].color;
   }
-  return colors;
+  return hasPipes ? colors : std::vector<QRgb>();
 }
 
 std::vector<NodeLook> ElementLooks::nodes(bool byFunction) const {

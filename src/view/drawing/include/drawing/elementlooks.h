@@ -21,8 +21,8 @@ public:
 
   /// One an edge of the geometry.
   std::vector<EdgeLook> edges() const;
-  /// The colours of edges where no pipe has a value, so that symbols cover all of them: one an edge, 0 without a value. Else
-  /// empty.
+  /// The colours of edges where there are pipes and none has a value, so that symbols cover what is coloured: one an edge, 0
+  /// without a value. Else empty.
   std::vector<QRgb> stationColors(const std::vector<EdgeLook> &edges) const;
   /// One a node. \param byFunction in the colours of the node colour function, if it says something of nodes
   std::vector<NodeLook> nodes(bool byFunction) const;
