@@ -87,7 +87,7 @@ void TestWhy::formulasLeadToWhatTheyRead() {
   QCOMPARE(told.at(1), QStringLiteral("dp@ELE – dp of P1 | 2 bar | "));
 
   activate(why, QStringLiteral("dp@ELE"));
-  QCOMPARE(title(why), QStringLiteral("dp of P1: 2 bar"));
+  QCOMPARE(title(why), QStringLiteral("dp of P1: 2 bar – pressure difference"));
   activate(why, QStringLiteral("p@node2@ELE – p of B"));
   QVERIFY2(title(why).startsWith(QStringLiteral("p of B: 48 bar")), qPrintable(title(why)));
   QCOMPARE(viewer.visControl()->currentElement(), QStringLiteral("B"));
@@ -95,7 +95,7 @@ void TestWhy::formulasLeadToWhatTheyRead() {
   QVERIFY2(told.contains(QStringLiteral("Given by the file | 48 | CASE/CASE.geom.jsn:3")),
            qPrintable(told.join(QLatin1Char('\n'))));
   QTest::keyClick(why.findChild<QTreeView *>(), Qt::Key_Left, Qt::AltModifier);
-  QCOMPARE(title(why), QStringLiteral("dp of P1: 2 bar"));
+  QCOMPARE(title(why), QStringLiteral("dp of P1: 2 bar – pressure difference"));
 }
 
 void TestWhy::boundsLeadToTheirLines() {
