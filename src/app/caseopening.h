@@ -47,6 +47,9 @@ public:
   void open(const QString &path);
   /// Reads the files of the case again; view, selection, style, layers and what is not saved stay.
   void reload();
+  /// Another scenario of the case takes the place of the one that is shown; view, selection, style, layers, windows of
+  /// subnets and what is not saved stay. Where it cannot be read everything stays, and the status bar says why.
+  bool switchTo(const QString &path);
   /// Before the case goes; nothing is discarded yet.
   UnsavedEdits::Answer settle();
   /// The case goes, as it was answered.
@@ -59,7 +62,8 @@ public:
   void takeSettings();
 
 signals:
-  void shown(); ///< or what is left of it where it could not be read
+  void shown();    ///< or what is left of it where it could not be read
+  void switched(); ///< another scenario is shown
   void settingsLoaded();
   void ended(); ///< reading and whatever follows it
 
@@ -67,13 +71,17 @@ private:
   void connectFiles();
   bool resolve(NetworkLoader &loader, const QString &path);
   void useLastScenario();
+  void readAgain(const NetworkLoader &wanted);
+  void showScenario();
   void show(bool isRead);
+  void showBeside(bool isRead);
   void comeBack();
   void noticeOnPage(const QString &scenario, const std::vector<FindingList::Group> &groups);
   void acceptStyleFiles();
   ReadFiles::Stamps filesShown() const;
   OutcomeStyle::Outcome outcome(bool isRead) const;
   void tellOutcome(bool isRead, const OpeningClock &clock);
+  void tellSwitch(const OpeningClock &clock);
 
   Parts m_parts;
   NetworkLoader m_loader;

@@ -5,8 +5,10 @@
 #include <base/settings.h>
 #include <view/netviscontrol.h>
 
+#include <QElapsedTimer>
 #include <QInputDialog>
 #include <QMainWindow>
+#include <QPointer>
 #include <QStatusBar>
 
 CaseReading::CaseReading(NetworkLoader &loader, NetVisControl &control, QMainWindow &window)
@@ -39,6 +41,30 @@ bool CaseReading::read() {
   m_control.showNetData(m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
   emit ended();
   return isDone;
+}
+
+NetworkLoader::Exchange CaseReading::exchange(const NetworkLoader &wanted) {
+  LoadProgress progress(m_window.statusBar());
+  m_progress = &progress;
+  progress.tell(tr("Reading the scenario …"));
+  QElapsedTimer clock;
+  clock.start();
+  const QPointer<QWidget> focus = m_window.focusWidget();
+  bool hasTold = false;
+  const NetworkLoader::Exchange exchange = m_loader.exchangeScenario(wanted, [&](double fraction) {
+    if (!hasTold && clock.elapsed() >= LoadProgress::patience()) {
+      hasTold = true;
+      emit takesLong(); // nobody can do anything before
+    }
+    return progress.update(fraction);
+  });
+  m_progress = nullptr;
+  if (hasTold) {
+    emit ended();
+    if (focus != nullptr)
+      focus->setFocus();
+  }
+  return exchange;
 }
 
 void CaseReading::stop() {

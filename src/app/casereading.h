@@ -16,12 +16,15 @@ public:
 
   /// False when nothing could be read or somebody stopped it; nothing is drawn then.
   bool read();
+  /// Reads another scenario into the network that is there; the drawing, which stays, is not drawn again.
+  NetworkLoader::Exchange exchange(const NetworkLoader &wanted);
   bool isRunning() const { return m_progress != nullptr; }
   /// Ends it at its next step.
   void stop();
 
 signals:
-  void begins(); ///< the elements that were there are about to go
+  void begins();    ///< the elements that were there are about to go
+  void takesLong(); ///< in exchange(): people will want to do something meanwhile
   void ended();
 
 private:

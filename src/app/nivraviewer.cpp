@@ -11,6 +11,7 @@
 #include "opendialog.h"
 #include "otherwindows.h"
 #include "recentmenu.h"
+#include "scenarios/scenariodesk.h"
 #include "settings/settingsdialog.h"
 #include "subnetwindows.h"
 #include "svgicon.h"
@@ -149,11 +150,13 @@ void NivraViewer::setUpOpening() {
     m_showingChanges.cancel();
     m_changes.clear();
   });
+  connect(&m_opening->reading(), &CaseReading::takesLong, this, [this] { setBusy(true); });
   connect(&m_opening->reading(), &CaseReading::ended, this, [this] { setBusy(false); });
   connect(m_opening.get(), &CaseOpening::shown, this, [this] {
     m_reload->setEnabled(true);
     showTitle();
   });
+  connect(m_opening.get(), &CaseOpening::switched, this, &NivraViewer::showTitle);
   connect(m_opening.get(), &CaseOpening::ended, this, &NivraViewer::closeIfWanted);
   connect(m_layers, &LayerKeeper::elementsChanged, this, &NivraViewer::addChange);
   connect(m_tools, &ToolDocks::elementsChanged, m_layers, &LayerKeeper::note);
@@ -198,6 +201,7 @@ void NivraViewer::setUpCommands() {
       m_ui->statusbar->showMessage(tr("%1 has no place in the drawing").arg(name));
   });
   connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
+  new ScenarioDesk(*this, *m_opening, *m_tools, *m_ui->menubar, *m_ui->menuInfo);
 }
 
 QString NivraViewer::openFile() const {

@@ -7,6 +7,7 @@
 #include "mnemonics.h"
 #include "panelfocus.h"
 #include "scenariodock.h"
+#include "scenarios/scenariosdock.h"
 #include "svgicon.h"
 #include "toolwindows.h"
 
@@ -85,6 +86,8 @@ void ToolDocks::createReports() {
   });
   m_scenario = new ScenarioDock(&m_window);
   addDock(m_scenario, QStringLiteral("scenario"), Qt::BottomDockWidgetArea);
+  m_scenarios = new ScenariosDock(&m_window);
+  addDock(m_scenarios, QStringLiteral("scenarios"), Qt::LeftDockWidgetArea);
 }
 
 ToolDocks::~ToolDocks() = default;

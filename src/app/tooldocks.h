@@ -28,6 +28,7 @@ class NivraSearch;
 class NivraVecTable;
 class NivraWorkspace;
 class ScenarioDock;
+class ScenariosDock;
 class ToolWindows;
 class QDockWidget;
 class QMainWindow;
@@ -87,6 +88,7 @@ public:
   /// What case and scenario say beside the network.
   void setScenario(const ScenarioSummary &summary);
   void setFindings(const std::vector<FindingList::Group> &groups);
+  ScenariosDock *scenarios() const { return m_scenarios; } ///< null before the first workspace
   /// Says how many there are, and brings them; hidden while there are none.
   QToolButton *findingsButton() const { return m_findingsButton; }
 
@@ -124,6 +126,7 @@ private:
   CharacteristicsStack *m_characteristics = nullptr;
   NivraFindings *m_findings = nullptr;
   ScenarioDock *m_scenario = nullptr;
+  ScenariosDock *m_scenarios = nullptr;
   QToolButton *m_findingsButton = nullptr;
   NivraSearch *m_search = nullptr;
   ElementTable *m_elementTable = nullptr;

@@ -30,6 +30,7 @@ struct NetworkFormulas::Computing {
   void prepare(const std::vector<FormulaDefinition> &definitions);
   void order();
   void describe();
+  void withdraw();
   std::vector<element *> affected(const FormulaRule &rule, const FormulaChanges &changes) const;
   /// Computes the formulas, then the constraints, for those of their elements that elementsOf tells.
   template <typename ElementsOf>
@@ -40,6 +41,7 @@ struct NetworkFormulas::Computing {
   std::vector<Index> sequence;    ///< formulas in the order of computing
   std::vector<Index> constraints; ///< in the order of the files
   FormulaRemarks remarks;         ///< of the preparation
+  FormulaRemarks prepared;        ///< those of them that no value changes
   int evaluations = 0;
 
 private:
@@ -116,6 +118,7 @@ void NetworkFormulas::Computing::prepare(const std::vector<FormulaDefinition> &d
       remarks.add(definition, Texts::tr("The formula of %1 is left out: %2").arg(definition.property, error.text()));
     }
   }
+  prepared = remarks;
 }
 
 void NetworkFormulas::Computing::order() {
@@ -204,6 +207,26 @@ void NetworkFormulas::Computing::describe() {
     net.setMetaData(metaData);
 }
 
+void NetworkFormulas::Computing::withdraw() {
+  bool hasViolations = false;
+  for (FormulaRule &rule : rules) {
+    for (std::size_t i = 0; i < rule.computed.size(); ++i) {
+      if (rule.computed[i])
+        rule.elements[i]->erase(rule.target);
+    }
+    rule.computed.clear();
+    for (auto &[e, value] : rule.overwritten)
+      e->set(rule.target, std::move(value));
+    rule.overwritten.clear();
+    hasViolations = hasViolations || !rule.violations.isEmpty();
+    for (auto it = rule.violations.cbegin(); it != rule.violations.cend(); ++it)
+      it.key()->erase(Names::all().violations);
+    rule.violations.clear();
+  }
+  if (hasViolations)
+    net.forEach(NetData::AssembledSubnet, [](element &subnet) { subnet.erase(Names::all().violations); });
+}
+
 PropertyText NetworkFormulas::Computing::valueOf(const FormulaRule &rule, const element &e, QString &reason) {
   constexpr std::size_t ShortText = 64; // bytes
   const bool isAsStored = rule.toStored.factor == 1.0 && rule.toStored.offset == 0.0;
@@ -252,6 +275,8 @@ bool NetworkFormulas::Computing::compute(FormulaRule &rule, const std::vector<el
     if (changes != nullptr && (before == nullptr ? !text.isEmpty() : *before != text))
       (*changes)[rule.target].insert(e);
     const bool hasValue = !text.isEmpty();
+    if (hasValue && before != nullptr && !rule.computed[index])
+      rule.overwritten.emplace_back(e, *before);
     if (hasValue)
       e->set(rule.target, std::move(text));
     else if (rule.computed[index])
@@ -345,6 +370,19 @@ NetworkFormulas::~NetworkFormulas() = default;
 Findings NetworkFormulas::setDefinitions(const std::vector<FormulaDefinition> &definitions) {
   m_computing = std::make_unique<Computing>(m_computing->net);
   m_computing->prepare(definitions);
+  m_computing->order();
+  m_computing->describe();
+  return m_computing->remarks.findings();
+}
+
+void NetworkFormulas::withdraw() {
+  m_computing->withdraw();
+}
+
+Findings NetworkFormulas::arrangeAgain() {
+  m_computing->remarks = m_computing->prepared;
+  m_computing->sequence.clear();
+  m_computing->constraints.clear();
   m_computing->order();
   m_computing->describe();
   return m_computing->remarks.findings();

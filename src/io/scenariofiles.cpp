@@ -21,3 +21,16 @@ QString ScenarioFiles::in(const QString &folder, Form form) {
   const auto found = std::find_if(names.begin(), names.end(), isOwn);
   return directory.filePath(found == names.end() ? names.first() : *found);
 }
+
+std::vector<ScenarioFiles::Scenario> ScenarioFiles::ofCase(const QString &caseFolder, Form form) {
+  const QDir folder(caseFolder);
+  const QStringList names = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::LocaleAware);
+  std::vector<Scenario> found;
+  found.reserve(static_cast<std::size_t>(names.size()));
+  for (const QString &name : names) {
+    const QString file = in(folder.filePath(name), form);
+    if (!file.isEmpty())
+      found.push_back({name, file});
+  }
+  return found;
+}

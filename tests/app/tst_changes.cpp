@@ -258,9 +258,10 @@ void TestChanges::windowsOfSubnetsHaveCommands() {
                                  QStringLiteral("Settings …"),         QStringLiteral("Exit"),
                                  QStringLiteral("About Nivra Reader"), QStringLiteral("Messages"),
                                  QStringLiteral("Findings"),           QStringLiteral("Scenario"),
-                                 QStringLiteral("Characteristics"),    QStringLiteral("Open subnet in a window of its own")};
+                                 QStringLiteral("Characteristics"),    QStringLiteral("Open subnet in a window of its own"),
+                                 QStringLiteral("Scenarios")};
   const QStringList menusOfTheProgram{QStringLiteral("Open Recent"), QStringLiteral("Appearance"),
-                                      QStringLiteral("Language")};
+                                      QStringLiteral("Language"), QStringLiteral("Scenario")};
   for (const Command &command : CommandList::of(viewer.menuBar()->actions(), viewer)) {
     const bool isThere = std::any_of(known.begin(), known.end(), [&](const Command &other) {
       return other.text == command.text && (other.key == command.key || command.key.isEmpty());

@@ -23,6 +23,12 @@ public:
   /// that the vocabulary does not know are described in that of the network.
   Findings setDefinitions(const std::vector<FormulaDefinition> &definitions);
 
+  /// Takes off what was computed and judged: values are as the files say, which may be read anew then.
+  void withdraw();
+  /// For the same definitions and elements, after withdraw(), whose values may now name other elements: finds the order of
+  /// computing anew. Returns what setDefinitions() would.
+  Findings arrangeAgain();
+
   /// Computes everything. Where a formula has no value, for want of one that it needs, the element keeps its own. Elements
   /// that violate constraints get the property "CB_info", "(first;second;)". Returns a finding for each formula that some
   /// elements got no value from, though they have all that it needs. \param progress false stops

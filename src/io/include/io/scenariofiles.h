@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <vector>
+
 /// The scenario file that lies in a folder of a case.
 namespace ScenarioFiles {
 
@@ -13,5 +15,12 @@ enum class Form {
 
 /// That of the folder's name where there are several, else the first by name; empty when there is none.
 QString in(const QString &folder, Form form);
+
+struct Scenario {
+  QString name; ///< of its folder
+  QString file;
+};
+/// Of all folders of a case that hold a scenario, by name. The files are not opened. It may be asked from any thread.
+std::vector<Scenario> ofCase(const QString &caseFolder, Form form);
 
 } // namespace ScenarioFiles
