@@ -147,6 +147,7 @@ window context-menu "$example" 'go_to CS_Rehden_C1; press ctrl+0; sleep 1; press
 window selection "$example" 'press ctrl+2; drag 420 400 720 640; sleep 1'
 window findings "$example" 'run_command findings; press F8; sleep 2'
 window scenario "$example" 'run_command "scenario view"; sleep 0.5'
+window scenarios "$example" 'press ctrl+shift+r alt+Prior; sleep 1.5; press ctrl+shift+g; sleep 1.5'
 window commands "$example" 'press ctrl+shift+p; sleep 0.5; say "edge press"; sleep 0.5'
 window settings "$example" 'press ctrl+comma; sleep 1.5; press Down Down Down; shoot "$(find_window "^Settings")"'
 window page "$example" 'press ctrl+alt+p; sleep 3; shoot "$(find_window "Page|Print")"'

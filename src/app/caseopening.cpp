@@ -152,8 +152,7 @@ bool CaseOpening::switchTo(const QString &path) {
   const NetworkLoader::Exchange exchange = m_reading.exchange(wanted);
   m_parts.layers.comeBack(m_loader.layers());
   if (exchange == NetworkLoader::Exchange::Failed) {
-    OutcomeStyle::show(*m_parts.window.statusBar(), outcome(false));
-    m_parts.window.statusBar()->showMessage(m_loader.error());
+    tellFailure();
   } else if (exchange == NetworkLoader::Exchange::Impossible) {
     NetworkLoader before(m_parts.control.net());
     const bool canComeBack = before.resolve(workspace().chosenPath());
@@ -176,11 +175,67 @@ bool CaseOpening::switchTo(const QString &path) {
 void CaseOpening::showScenario() {
   m_parts.control.setCaption(workspace().caption());
   m_parts.memory.follow(workspace());
+  m_parts.tools.setCase(workspace());
+  m_parts.subnets.takeCase(workspace());
   showBeside(true);
   emit switched();
+  showValues();
+}
+
+void CaseOpening::showValues() {
   m_parts.tools.showChanges();
   m_parts.control.redraw();
   m_parts.subnets.takeProperties();
+}
+
+void CaseOpening::tellFailure() {
+  OutcomeStyle::show(*m_parts.window.statusBar(), outcome(false));
+  m_parts.window.statusBar()->showMessage(m_loader.error());
+}
+
+bool CaseOpening::visit(const QString &path, const Look &look) {
+  if (m_reading.isRunning() || !m_isRead)
+    return false;
+  if (path == workspace().chosenPath()) {
+    look(m_parts.control.net(), m_loader);
+    return true;
+  }
+  NetworkLoader wanted(m_parts.control.net());
+  NetworkLoader shown(m_parts.control.net());
+  if (!resolve(wanted, path) || !resolve(shown, workspace().chosenPath()))
+    return false;
+  NetData apart;
+  if (!workspace().hasScenario()) // there is no way back to that
+    return readApart(path, apart, look);
+  m_parts.layers.takeAside();
+  const NetworkLoader::Exchange exchange = m_reading.exchange(wanted);
+  if (exchange == NetworkLoader::Exchange::Done) {
+    look(m_parts.control.net(), m_loader);
+    if (m_loader.exchangeScenario(shown, Progress()) != NetworkLoader::Exchange::Done)
+      showScenario(); // its files have gone meanwhile
+  }
+  m_parts.layers.comeBack(m_loader.layers());
+  if (exchange == NetworkLoader::Exchange::Impossible)
+    return readApart(path, apart, look);
+  if (exchange == NetworkLoader::Exchange::Failed)
+    tellFailure();
+  emit ended();
+  return exchange == NetworkLoader::Exchange::Done;
+}
+
+bool CaseOpening::readApart(const QString &path, NetData &apart, const Look &look) {
+  NetworkLoader loader(apart);
+  if (m_reading.isRunning() || !resolve(loader, path))
+    return false;
+  const bool isRead = m_reading.readApart(loader);
+  if (isRead) {
+    look(apart, loader);
+  } else {
+    OutcomeStyle::show(*m_parts.window.statusBar(), OutcomeStyle::Outcome::Failed);
+    m_parts.window.statusBar()->showMessage(loader.error());
+  }
+  emit ended();
+  return isRead;
 }
 
 void CaseOpening::comeBack() {

@@ -3,6 +3,7 @@
 #include "loadprogress.h"
 
 #include <base/settings.h>
+#include <base/withoutboxes.h>
 #include <view/netviscontrol.h>
 
 #include <QElapsedTimer>
@@ -43,15 +44,18 @@ bool CaseReading::read() {
   return isDone;
 }
 
-NetworkLoader::Exchange CaseReading::exchange(const NetworkLoader &wanted) {
+/// What work(progress) yields. The window is busy only where that takes long: whoever steps through scenarios keeps the
+/// keyboard.
+template <typename Work>
+auto CaseReading::withProgress(const QString &text, const Work &work) {
   LoadProgress progress(m_window.statusBar());
   m_progress = &progress;
-  progress.tell(tr("Reading the scenario …"));
+  progress.tell(text);
   QElapsedTimer clock;
   clock.start();
   const QPointer<QWidget> focus = m_window.focusWidget();
   bool hasTold = false;
-  const NetworkLoader::Exchange exchange = m_loader.exchangeScenario(wanted, [&](double fraction) {
+  const auto result = work([&](double fraction) {
     if (!hasTold && clock.elapsed() >= LoadProgress::patience()) {
       hasTold = true;
       emit takesLong(); // nobody can do anything before
@@ -64,7 +68,22 @@ NetworkLoader::Exchange CaseReading::exchange(const NetworkLoader &wanted) {
     if (focus != nullptr)
       focus->setFocus();
   }
-  return exchange;
+  return result;
+}
+
+NetworkLoader::Exchange CaseReading::exchange(const NetworkLoader &wanted) {
+  return withProgress(tr("Reading the scenario …"),
+                      [&](const Progress &progress) { return m_loader.exchangeScenario(wanted, progress); });
+}
+
+bool CaseReading::readApart(NetworkLoader &loader) {
+  const NivraMsg::WithoutBoxes quiet;
+  return withProgress(tr("Reading the scenario …"), [&](const Progress &progress) {
+    loader.readConfiguration();
+    NetworkLoader::ReadOptions options;
+    options.progress = progress;
+    return loader.readNetwork(options);
+  });
 }
 
 void CaseReading::stop() {

@@ -18,6 +18,9 @@ public:
   bool read();
   /// Reads another scenario into the network that is there; the drawing, which stays, is not drawn again.
   NetworkLoader::Exchange exchange(const NetworkLoader &wanted);
+  /// Reads all of a case that another loader resolved into that loader's own network, which nobody sees yet. Whatever is
+  /// noticed goes to the log.
+  bool readApart(NetworkLoader &loader);
   bool isRunning() const { return m_progress != nullptr; }
   /// Ends it at its next step.
   void stop();
@@ -28,6 +31,8 @@ signals:
   void ended();
 
 private:
+  template <typename Work>
+  auto withProgress(const QString &text, const Work &work);
   void askForIncludeLists(NetworkLoader::ReadOptions &options);
 
   NetworkLoader &m_loader;

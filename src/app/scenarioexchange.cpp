@@ -211,10 +211,8 @@ void NetworkLoader::takeBack(OfScenario before) {
 
 std::vector<PropertyKey> NetworkLoader::propertiesOfScenario() const {
   std::vector<PropertyKey> keys = m_journal.keys();
-  for (const FormulaDefinition &definition : m_definitions) {
-    if (!definition.isConstraint)
-      keys.push_back(PropertyKey::intern(definition.property));
-  }
+  const std::vector<PropertyKey> computed = m_formulas.computed();
+  keys.insert(keys.end(), computed.begin(), computed.end());
   std::sort(keys.begin(), keys.end());
   keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
   return keys;

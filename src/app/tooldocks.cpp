@@ -165,8 +165,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
     createSearch();
   if (m_characteristics == nullptr && m_extent == Extent::Program)
     createCharacteristics();
-  if (m_characteristics != nullptr)
-    m_characteristics->setPageFacts(CaseScenarios::facts(workspace));
+  setCase(workspace);
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), m_control.labelsRead(),
                    workspace.filePath(QStringLiteral("plotsettings.ini")), m_control.styleFiles().settings);
   if (edits == Edits::Dropped) {
@@ -313,6 +312,11 @@ void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
   const int count = m_findings->count();
   m_findingsButton->setText(count == 1 ? tr("1 finding") : tr("%1 findings").arg(count));
   m_findingsButton->setVisible(count > 0);
+}
+
+void ToolDocks::setCase(const NivraWorkspace &workspace) {
+  if (m_characteristics != nullptr)
+    m_characteristics->setPageFacts(CaseScenarios::facts(workspace));
 }
 
 void ToolDocks::setScenario(const ScenarioSummary &summary) {

@@ -85,6 +85,8 @@ public:
   /// Whether the pages of machines that were open in the case come back.
   enum class Pages { New, Kept };
   void setMachines(const MachineData &machines, Pages pages);
+  /// Which case and scenario are shown, for the pages of machines.
+  void setCase(const NivraWorkspace &workspace);
   /// What case and scenario say beside the network.
   void setScenario(const ScenarioSummary &summary);
   void setFindings(const std::vector<FindingList::Group> &groups);

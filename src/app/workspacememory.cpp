@@ -38,8 +38,7 @@ void WorkspaceMemory::follow(const NivraWorkspace &workspace) {
   if (m_path.isEmpty())
     return;
   m_path = workspace.chosenPath();
-  m_isNoted = false;
-  m_idle.start(); // who steps through scenarios does not mean each of them
+  m_isNoted = false; // and so when the case is left: who steps through scenarios does not mean each of them
 }
 
 void WorkspaceMemory::takeAside() {

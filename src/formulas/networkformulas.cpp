@@ -403,6 +403,15 @@ Findings NetworkFormulas::violations() const {
   return found;
 }
 
+std::vector<PropertyKey> NetworkFormulas::computed() const {
+  std::set<PropertyKey> found;
+  for (const FormulaRule &rule : m_computing->rules) {
+    if (!rule.definition.isConstraint)
+      found.insert(rule.target);
+  }
+  return {found.begin(), found.end()};
+}
+
 int NetworkFormulas::evaluations() const {
   return m_computing->evaluations;
 }

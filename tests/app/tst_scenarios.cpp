@@ -2,14 +2,20 @@
 #include "loadprogress.h"
 #include "networkloader.h"
 #include "panels.h"
+#include "scenarios/referenceview.h"
 #include "scenarios/scenariodate.h"
 #include "scenarios/scenariolist.h"
 #include "scenarios/scenariolistmodel.h"
 #include "scenarios/scenariosdock.h"
+#include "scenarios/scenariostrip.h"
 #include "workspacefixture.h"
 
 #include <base/fileaccess.h>
+#include <drawing/colorscale.h>
+#include <model/comparison.h>
+#include <model/displayunits.h>
 #include <model/names.h>
+#include <model/netmetadata.h>
 #include <support/nivratest.h>
 #include <view/netpicker.h>
 #include <view/netplot.h>
@@ -18,9 +24,14 @@
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QLineEdit>
+#include <QPointer>
 #include <QProcess>
+#include <QSlider>
 #include <QStatusBar>
 #include <QTreeView>
+
+#include <algorithm>
+#include <cmath>
 
 /// The scenarios of a case: the list, and one in the place of another.
 class TestScenarios : public QObject {
@@ -38,6 +49,12 @@ private slots:
   void keysStepAndEverythingStays();
   void panelSwitchesAndFilters();
   void brokenScenarioLeavesTheOldOne();
+  void differenceWithItselfIsZero_data();
+  void differenceWithItselfIsZero();
+  void differenceIsThatOfTwoOpenings();
+  void differencesAreDrawnAboutZero();
+  void drawingsBesideAreLinked();
+  void sliderGoesOverDates();
 
 private:
   static QString example(const char *scenario) {
@@ -326,6 +343,166 @@ void TestScenarios::brokenScenarioLeavesTheOldOne() {
   const PropertyKey qset = PropertyKey::intern("qset");
   QCOMPARE(viewer.visControl()->net().element(QStringLiteral("A"))->value(qset), QStringLiteral("-5"));
   QCOMPARE(dock.model().index(0, ScenarioListModel::MarkColumn).data().toString(), QStringLiteral("shown"));
+}
+
+void TestScenarios::differenceWithItselfIsZero_data() {
+  exchangeIsLikeOpening_data();
+}
+
+void TestScenarios::differenceWithItselfIsZero() {
+  QFETCH(QString, which);
+  QTemporaryDir folder;
+  const QStringList files = which == QLatin1String("example") ? QStringList{example("S3")} : nominations(folder.path());
+  if (files.isEmpty())
+    QSKIP("the public data are not here");
+  Opened opened(files.first());
+  const std::vector<PropertyKey> keys = opened.loader.propertiesOfScenario();
+  Comparison comparison;
+  comparison.takeReference(opened.net, opened.net);
+  const QStringList before = contents(opened.net);
+  comparison.apply(opened.net, {keys.begin(), keys.end()}, QStringLiteral("itself"));
+  int zeros = 0;
+  opened.net.forEach(NetData::AllTypes, [&](const element &e) {
+    for (const Property &property : e) {
+      const QString name = property.key.name();
+      const Comparison::Kind kind = Comparison::kindOf(name);
+      if (kind == Comparison::Kind::None)
+        continue;
+      QCOMPARE(property.value.toString(), kind == Comparison::Kind::Difference ? QStringLiteral("0") : QStringLiteral("1"));
+      QVERIFY(e.contains(Comparison::compared(name)));
+      ++zeros;
+    }
+  });
+  QVERIFY(zeros > 50);
+  comparison.remove(opened.net);
+  QCOMPARE(contents(opened.net), before);
+  FileAccess::confineTo(QString());
+}
+
+void TestScenarios::differenceIsThatOfTwoOpenings() {
+  Opened shown(example("S1"));
+  Opened reference(example("S5"));
+  const std::vector<PropertyKey> keys = shown.loader.propertiesOfScenario();
+  Comparison comparison;
+  comparison.takeReference(shown.net, reference.net);
+  comparison.apply(shown.net, {keys.begin(), keys.end()}, QStringLiteral("S5"));
+  int compared = 0;
+  shown.net.forEach(NetData::AllTypes, [&](const element &e) {
+    const element *other = reference.net.element(e.value(Names::all().name));
+    for (const PropertyKey key : keys) {
+      const QString property = key.name();
+      const double now = NetData::number(e.find(property));
+      const double before = NetData::number(other->find(property));
+      const bool isBoth = now != NetData::NoValue && before != NetData::NoValue;
+      const QString difference = Comparison::property(property, Comparison::Kind::Difference);
+      QCOMPARE(e.contains(difference), isBoth); // no value is not zero
+      QCOMPARE(e.contains(Comparison::property(property, Comparison::Kind::Ratio)), isBoth && before != 0.0);
+      if (!isBoth)
+        continue;
+      QVERIFY(std::abs(NetData::number(e.find(difference)) - (now - before)) <=
+              1e-7 * std::max({1.0, std::abs(now), std::abs(before)}));
+      compared += now != before ? 1 : 0;
+    }
+  });
+  QVERIFY(compared > 100);
+  const NetMetaData::Attribute &kelvins = *shown.net.metaData()->anyAttribute(QStringLiteral("t.diff"));
+  QCOMPARE(double(DisplayUnits::of(kelvins).toDisplay(5.0)), 5.0); // whatever zero degrees are
+  FileAccess::confineTo(QString());
+}
+
+void TestScenarios::differencesAreDrawnAboutZero() {
+  WorkspaceFixture files;
+  files.write(QStringLiteral("CASE/S1/S1.res.jsn"), "{\n\"A\":{\"p\":52}\n,\"B\":{\"p\":45}\n,\"C\":{\"p\":61}\n}\n");
+  files.write(QStringLiteral("CASE/S2/S2.scen.jsn"), "{\n}\n");
+  NivraViewer viewer;
+  viewer.open(files.scenario());
+  auto &dock = panelOf<ScenariosDock>(viewer);
+  QTRY_COMPARE(dock.model().rowCount(), 2);
+  NetPlot &plot = *viewer.visControl()->plot();
+  const element *a = viewer.visControl()->net().element(QStringLiteral("A"));
+  QTest::keyClick(&viewer, Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier); // S1 is the reference
+  QCOMPARE(dock.model().index(0, ScenarioListModel::MarkColumn).data().toString(), QStringLiteral("shown, reference"));
+  QTest::keyClick(&viewer, Qt::Key_PageDown, Qt::AltModifier);
+  QCOMPARE(a->value(PropertyKey::intern("p.diff")), QStringLiteral("-2"));
+  const DrawValues::Column &nodes = plot.update().values().of(Aspect::NodeColor);
+  QCOMPARE(nodes.function.title, QStringLiteral("pressure: difference to S1 [bar]"));
+  QCOMPARE(nodes.ofElements, (std::vector<double>{-2.0, 3.0, -1.0}));
+  QCOMPARE(nodes.range.minValue(), -nodes.range.maxValue());
+  QCOMPARE(nodes.range.maxValue(), 3.0);
+  const auto colors = ColorScale::nodeColors(plot.settings(), plot.update().values());
+  QVERIFY(qBlue(colors->rgb(nodes.range, -3.0)) > qRed(colors->rgb(nodes.range, -3.0)));
+  QVERIFY(qRed(colors->rgb(nodes.range, 3.0)) > qBlue(colors->rgb(nodes.range, 3.0)));
+  viewer.reload(); // the reference is read again
+  QCOMPARE(viewer.visControl()->net().element(QStringLiteral("A"))->value(PropertyKey::intern("p.diff")),
+           QStringLiteral("-2"));
+  for (QAction *action : viewer.findChildren<QAction *>()) {
+    if (action->text().remove(QLatin1Char('&')) == QLatin1String("Compare no more"))
+      action->trigger();
+  }
+  QVERIFY(!viewer.visControl()->net().element(QStringLiteral("A"))->contains(QStringLiteral("p.diff")));
+  QCOMPARE(plot.settings().functions[Aspect::NodeColor].name, QStringLiteral("p"));
+}
+
+void TestScenarios::drawingsBesideAreLinked() {
+  WorkspaceFixture files;
+  files.write(QStringLiteral("CASE/S2/S2.scen.jsn"), "{\n}\n");
+  files.write(QStringLiteral("CASE/S2/S2.res.jsn"), "{\n\"A\":{\"p\":33}\n}\n");
+  NivraViewer viewer;
+  viewer.resize(1200, 800);
+  viewer.open(files.scenario());
+  auto &dock = panelOf<ScenariosDock>(viewer);
+  QTRY_COMPARE(dock.model().rowCount(), 2);
+  QTest::keyClick(&viewer, Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+  QTest::keyClick(&viewer, Qt::Key_PageDown, Qt::AltModifier);
+  QTest::keyClick(&viewer, Qt::Key_B, Qt::ControlModifier | Qt::ShiftModifier);
+  auto *reference = viewer.findChild<ReferenceView *>();
+  QVERIFY(reference != nullptr && reference->isVisible());
+  QCOMPARE(reference->net().element(QStringLiteral("A"))->value(P), QStringLiteral("50"));
+  NetPlot &own = *viewer.visControl()->plot();
+  NetPlot &beside = *reference->findChild<NetPlot *>();
+  const auto isSame = [&] {
+    const QRectF a = own.visibleArea();
+    const QRectF b = beside.visibleArea();
+    return std::abs(a.height() - b.height()) < 0.1 && (a.center() - b.center()).manhattanLength() < 0.2;
+  };
+  own.showArea(QRectF(40, 10, 30, 30));
+  QTRY_VERIFY(isSame());
+  beside.showArea(QRectF(60, 0, 20, 40));
+  QTRY_VERIFY(isSame());
+  QVERIFY(std::abs(own.visibleArea().center().x() - 70.0) < 0.5);
+  viewer.elementAction(QStringLiteral("B"), NetPicker::EleAction::Mark);
+  QCOMPARE(reference->net().selection().names(), Selection::Names{QStringLiteral("B")});
+  beside.findChild<NetPicker *>()->markElement(QStringLiteral("C"));
+  QCOMPARE(viewer.visControl()->net().selection().names(), Selection::Names{QStringLiteral("C")});
+  const QPointer<ReferenceView> gone(reference);
+  viewer.reload();
+  QVERIFY(gone.isNull());
+}
+
+void TestScenarios::sliderGoesOverDates() {
+  WorkspaceFixture files;
+  for (int day = 1; day <= 9; ++day)
+    files.write(QStringLiteral("CASE/2024-01-0%1/a.scen.jsn").arg(day),
+                "{\n\"A\":[{\"property\":\"qset\",\"value\":" + QByteArray::number(day) + "}]\n}\n");
+  NivraViewer viewer;
+  viewer.open(files.scenario());
+  auto &dock = panelOf<ScenariosDock>(viewer);
+  QTRY_COMPARE(dock.model().rowCount(), 10);
+  auto *slider = viewer.findChild<ScenarioStrip *>()->findChild<QSlider *>();
+  QVERIFY(slider->isVisible());
+  QCOMPARE(slider->maximum(), 8); // S1 has no date
+  slider->setSliderPosition(3);
+  slider->setSliderPosition(6);
+  QTRY_VERIFY(viewer.windowTitle().endsWith(QStringLiteral("2024-01-07")));
+  QTest::keyClick(slider, Qt::Key_Left);
+  QTRY_VERIFY(viewer.windowTitle().endsWith(QStringLiteral("2024-01-06")));
+  const element *a = viewer.visControl()->net().element(QStringLiteral("A"));
+  QCOMPARE(a->value(PropertyKey::intern("qset")), QStringLiteral("6"));
+  QTest::keyClick(&viewer, Qt::Key_PageDown, Qt::AltModifier);
+  QCOMPARE(slider->value(), 6);
+  const WorkspaceFixture without;
+  viewer.open(without.scenario());
+  QTRY_VERIFY(!slider->isVisible());
 }
 
 NIVRA_TEST(TestScenarios);

@@ -1,15 +1,22 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 class CaseOpening;
+class NetVisControl;
 class QAction;
+class QActionGroup;
 class QMainWindow;
 class QMenu;
 class QMenuBar;
+class ReferenceView;
+class ScenarioComparison;
 class ScenarioFinder;
+class ScenarioList;
 class ScenarioListModel;
+class ScenarioStrip;
 class ScenariosDock;
 class ToolDocks;
 
@@ -18,12 +25,17 @@ class ScenarioDesk : public QObject {
   Q_OBJECT
 public:
   /// \param before the menu before which that of scenarios stands
-  ScenarioDesk(QMainWindow &window, CaseOpening &opening, ToolDocks &tools, QMenuBar &bar, QMenu &before);
+  ScenarioDesk(QMainWindow &window, CaseOpening &opening, NetVisControl &control, ToolDocks &tools, QMenuBar &bar,
+               QMenu &before);
 
 private:
   void addCommands(QMenuBar &bar, QMenu &before);
+  void addComparing();
   QAction *add(const QString &text, const QString &key, const QString &tip);
   void take();
+  void takeList(const ScenarioList &list);
+  void compareWith(const QString &file);
+  void showReference(bool isWanted);
   void showMarks();
   void step(int by);
   void switchTo(const QString &file);
@@ -32,12 +44,22 @@ private:
 
   QMainWindow &m_window;
   CaseOpening &m_opening;
+  NetVisControl &m_control;
   ToolDocks &m_tools;
   ScenarioFinder *m_finder;
-  ScenariosDock *m_dock = nullptr; ///< once there was a case
+  ScenarioComparison *m_comparison;
+  QPointer<ReferenceView> m_reference; ///< beside the drawing
+  ScenarioStrip *m_strip = nullptr;    ///< once a case had two dates
+  ScenariosDock *m_dock = nullptr;     ///< once there was a case
+  QString m_case;                      ///< of which scenarios are listed
   QMenu *m_menu;
   QAction *m_choose = nullptr;
   QAction *m_next = nullptr;
   QAction *m_previous = nullptr;
-  QAction *m_show = nullptr; ///< the one that the panel's menu is about
+  QAction *m_compareShown = nullptr;
+  QAction *m_noReference = nullptr;
+  QAction *m_beside = nullptr;
+  QActionGroup *m_colours = nullptr; ///< of values, differences, ratios
+  QAction *m_show = nullptr;         ///< this and the next are about the one of the panel's menu
+  QAction *m_compare = nullptr;
 };

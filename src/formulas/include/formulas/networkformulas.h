@@ -39,6 +39,8 @@ public:
   Findings judge();
   /// Of constraints as they stand now, one an element and constraint, by name of the element.
   Findings violations() const;
+  /// The properties that formulas make.
+  std::vector<PropertyKey> computed() const;
   /// By the last apply() or update(), for those who watch the cost.
   int evaluations() const;
 
