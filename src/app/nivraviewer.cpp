@@ -201,7 +201,7 @@ void NivraViewer::setUpCommands() {
       m_ui->statusbar->showMessage(tr("%1 has no place in the drawing").arg(name));
   });
   connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
-  new ScenarioDesk(*this, *m_opening, *m_control, *m_tools, *m_ui->menubar, *m_ui->menuInfo);
+  new ScenarioDesk(*this, *m_opening, *m_control, *m_tools, *m_commands->goMenu());
 }
 
 QString NivraViewer::openFile() const {

@@ -352,9 +352,8 @@ void TestWindow::styleSheetOnlyRestyles() {
 void TestWindow::menus() {
   NivraViewer viewer;
   const QList<QAction *> menus = viewer.menuBar()->actions();
-  QCOMPARE(texts(menus),
-           (QStringList{QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("Go"), QStringLiteral("Drawing"),
-                        QStringLiteral("Scenario"), QStringLiteral("Info"), QStringLiteral("View")}));
+  QCOMPARE(texts(menus), (QStringList{QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("Go"),
+                                      QStringLiteral("Drawing"), QStringLiteral("Info"), QStringLiteral("View")}));
   const QStringList file = texts(menus.first()->menu()->actions());
   QCOMPARE(file.first(), QStringLiteral("Open Geom or Scen"));
   QCOMPARE(file.last(), QStringLiteral("Exit"));

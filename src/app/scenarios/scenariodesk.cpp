@@ -1,7 +1,6 @@
 #include "scenarios/scenariodesk.h"
 
 #include "caseopening.h"
-#include "mnemonics.h"
 #include "scenarios/referenceview.h"
 #include "scenarios/scenariocomparison.h"
 #include "scenarios/scenariofinder.h"
@@ -17,14 +16,12 @@
 #include <QActionGroup>
 #include <QMainWindow>
 #include <QMenu>
-#include <QMenuBar>
 
 #include <algorithm>
 #include <memory>
 #include <utility>
 
-ScenarioDesk::ScenarioDesk(QMainWindow &window, CaseOpening &opening, NetVisControl &control, ToolDocks &tools,
-                           QMenuBar &bar, QMenu &before)
+ScenarioDesk::ScenarioDesk(QMainWindow &window, CaseOpening &opening, NetVisControl &control, ToolDocks &tools, QMenu &go)
     : QObject(&window)
     , m_window(window)
     , m_opening(opening)
@@ -32,8 +29,8 @@ ScenarioDesk::ScenarioDesk(QMainWindow &window, CaseOpening &opening, NetVisCont
     , m_tools(tools)
     , m_finder(new ScenarioFinder(this))
     , m_comparison(new ScenarioComparison(opening, control, this))
-    , m_menu(new QMenu(tr("Scenario"), &bar)) {
-  addCommands(bar, before);
+    , m_menu(go.addMenu(tr("Scenario"))) {
+  addCommands();
   connect(m_finder, &ScenarioFinder::found, this, &ScenarioDesk::takeList);
   connect(m_comparison, &ScenarioComparison::changed, this, &ScenarioDesk::showMarks);
   connect(m_comparison, &ScenarioComparison::changed, this, [this] { showReference(m_reference != nullptr); });
@@ -42,8 +39,7 @@ ScenarioDesk::ScenarioDesk(QMainWindow &window, CaseOpening &opening, NetVisCont
   connect(&opening, &CaseOpening::switched, this, &ScenarioDesk::showMarks);
 }
 
-void ScenarioDesk::addCommands(QMenuBar &bar, QMenu &before) {
-  bar.insertMenu(before.menuAction(), m_menu);
+void ScenarioDesk::addCommands() {
   m_previous = add(tr("Scenario before"), QStringLiteral("Alt+PgUp"), tr("Show the scenario before this one"));
   m_next = add(tr("Next scenario"), QStringLiteral("Alt+PgDown"), tr("Show the scenario after this one"));
   m_choose =
@@ -56,7 +52,6 @@ void ScenarioDesk::addCommands(QMenuBar &bar, QMenu &before) {
   connect(m_choose, &QAction::triggered, this, [this] { m_dock->bring(); });
   connect(m_show, &QAction::triggered, this, [this] { switchTo(m_dock->current()); });
   connect(m_compare, &QAction::triggered, this, [this] { compareWith(m_dock->current()); });
-  Mnemonics::assign(bar.actions());
   for (QAction *action : {m_previous, m_next, m_choose, m_compareShown, m_noReference, m_beside})
     action->setEnabled(false);
 }

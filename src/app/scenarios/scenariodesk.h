@@ -10,7 +10,6 @@ class QAction;
 class QActionGroup;
 class QMainWindow;
 class QMenu;
-class QMenuBar;
 class ReferenceView;
 class ScenarioComparison;
 class ScenarioFinder;
@@ -24,12 +23,11 @@ class ToolDocks;
 class ScenarioDesk : public QObject {
   Q_OBJECT
 public:
-  /// \param before the menu before which that of scenarios stands
-  ScenarioDesk(QMainWindow &window, CaseOpening &opening, NetVisControl &control, ToolDocks &tools, QMenuBar &bar,
-               QMenu &before);
+  /// \param go the menu in which that of scenarios stands
+  ScenarioDesk(QMainWindow &window, CaseOpening &opening, NetVisControl &control, ToolDocks &tools, QMenu &go);
 
 private:
-  void addCommands(QMenuBar &bar, QMenu &before);
+  void addCommands();
   void addComparing();
   QAction *add(const QString &text, const QString &key, const QString &tip);
   void take();
