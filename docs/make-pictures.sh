@@ -170,6 +170,7 @@ if wants scenario-set; then
   make_year
   window scenario-set "$year" 'run_command "scenario set"; click 48 850; sleep 4; go_to N_Bremen; press ctrl+0; sleep 2; xdotool mousemove 820 640; sleep 1'
 fi
+window scenarios "$example" 'press ctrl+shift+r alt+Prior; sleep 1.5; press ctrl+shift+g; sleep 1.5'
 window commands "$example" 'press ctrl+shift+p; sleep 0.5; say "edge press"; sleep 0.5'
 window settings "$example" 'press ctrl+comma; sleep 1.5; press Down Down Down; shoot "$(find_window "^Settings")"'
 window page "$example" 'press ctrl+alt+p; sleep 3; shoot "$(find_window "Page|Print")"'

@@ -1497,6 +1497,10 @@ Lokale Git-Änderungen: %5</translation>
         <source>%1 cannot be opened: there is no geometry in %2</source>
         <translation>%1 kann nicht geöffnet werden: In %2 gibt es keine Geometrie</translation>
     </message>
+    <message>
+        <source>Scenario %1 after %2 ms</source>
+        <translation>Szenario %1 nach %2 ms</translation>
+    </message>
 </context>
 <context>
     <name>CaseReading</name>
@@ -1519,6 +1523,10 @@ Lokale Git-Änderungen: %5</translation>
 (regular expression):</source>
         <translation>Liste der Eigenschaften, die gelesen werden
 (regulärer Ausdruck):</translation>
+    </message>
+    <message>
+        <source>Reading the scenario …</source>
+        <translation>Das Szenario wird gelesen …</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +1987,25 @@ by the right-click menu of the drawing.</source>
     <message>
         <source>%1 is in a layer that is hidden</source>
         <translation>%1 liegt in einer ausgeblendeten Ebene</translation>
+    </message>
+</context>
+<context>
+    <name>Comparison</name>
+    <message>
+        <source>%1: difference to %2</source>
+        <translation>%1: Differenz zu %2</translation>
+    </message>
+    <message>
+        <source>%1 less that of the scenario %2</source>
+        <translation>%1 weniger den Wert des Szenarios %2</translation>
+    </message>
+    <message>
+        <source>%1: ratio to %2</source>
+        <translation>%1: Verhältnis zu %2</translation>
+    </message>
+    <message>
+        <source>%1 by that of the scenario %2</source>
+        <translation>%1 geteilt durch den Wert des Szenarios %2</translation>
     </message>
 </context>
 <context>
@@ -4953,6 +4980,10 @@ braucht %1</translation>
         <source>readScen: cannot read scen file %1</source>
         <translation>readScen: scen-Datei nicht lesbar: %1</translation>
     </message>
+    <message>
+        <source>There is no scenario</source>
+        <translation>Es gibt kein Szenario</translation>
+    </message>
 </context>
 <context>
     <name>NivraSearch</name>
@@ -6806,6 +6837,21 @@ ist nicht mehr vorhanden. Entf nimmt es aus der Liste.</translation>
     </message>
 </context>
 <context>
+    <name>ReferenceView</name>
+    <message>
+        <source>Reference</source>
+        <translation>Referenz</translation>
+    </message>
+    <message>
+        <source>Reference: %1</source>
+        <translation>Referenz: %1</translation>
+    </message>
+    <message>
+        <source>reference: %1</source>
+        <translation>Referenz: %1</translation>
+    </message>
+</context>
+<context>
     <name>ReloadBar</name>
     <message>
         <source>%1 and 1 more</source>
@@ -6995,6 +7041,93 @@ Funktion abzüglich gemessenem Punkt</translation>
     </message>
 </context>
 <context>
+    <name>ScenarioDesk</name>
+    <message>
+        <source>Scenario</source>
+        <translation>Szenario</translation>
+    </message>
+    <message>
+        <source>Scenario before</source>
+        <translation>Voriges Szenario</translation>
+    </message>
+    <message>
+        <source>Show the scenario before this one</source>
+        <translation>Das Szenario vor diesem zeigen</translation>
+    </message>
+    <message>
+        <source>Next scenario</source>
+        <translation>Nächstes Szenario</translation>
+    </message>
+    <message>
+        <source>Show the scenario after this one</source>
+        <translation>Das Szenario nach diesem zeigen</translation>
+    </message>
+    <message>
+        <source>Choose scenario …</source>
+        <translation>Szenario wählen …</translation>
+    </message>
+    <message>
+        <source>Find a scenario of the case by its name or date</source>
+        <translation>Ein Szenario des Falls nach Name oder Datum finden</translation>
+    </message>
+    <message>
+        <source>Show this scenario</source>
+        <translation>Dieses Szenario zeigen</translation>
+    </message>
+    <message>
+        <source>Compare with this scenario</source>
+        <translation>Mit diesem Szenario vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare with the scenario shown</source>
+        <translation>Mit dem gezeigten Szenario vergleichen</translation>
+    </message>
+    <message>
+        <source>The scenario that is shown becomes the reference; scenarios shown after it are compared with it</source>
+        <translation>Das gezeigte Szenario wird die Referenz; danach gezeigte Szenarien werden mit ihm verglichen</translation>
+    </message>
+    <message>
+        <source>Compare no more</source>
+        <translation>Nicht mehr vergleichen</translation>
+    </message>
+    <message>
+        <source>Forget the reference, and colour by values</source>
+        <translation>Die Referenz vergessen und nach Werten färben</translation>
+    </message>
+    <message>
+        <source>Reference beside</source>
+        <translation>Referenz daneben</translation>
+    </message>
+    <message>
+        <source>Show the reference in a second drawing; view and selection go together</source>
+        <translation>Die Referenz in einer zweiten Zeichnung zeigen; Ausschnitt und Auswahl gehen miteinander</translation>
+    </message>
+    <message>
+        <source>Colour by values</source>
+        <translation>Nach Werten färben</translation>
+    </message>
+    <message>
+        <source>Colours show the values of the scenario</source>
+        <translation>Die Farben zeigen die Werte des Szenarios</translation>
+    </message>
+    <message>
+        <source>Colour by differences</source>
+        <translation>Nach Differenzen färben</translation>
+    </message>
+    <message>
+        <source>Colours show the values less those of the reference</source>
+        <translation>Die Farben zeigen die Werte weniger die der Referenz</translation>
+    </message>
+    <message>
+        <source>Colour by ratios</source>
+        <translation>Nach Verhältnissen färben</translation>
+    </message>
+    <message>
+        <source>Colours show the values by those of the reference</source>
+        <translation>Die Farben zeigen die Werte geteilt durch die der Referenz</translation>
+    </message>
+</context>
+<context>
     <name>ScenarioDock</name>
     <message>
         <source>Scenario</source>
@@ -7031,6 +7164,33 @@ Funktion abzüglich gemessenem Punkt</translation>
     <message>
         <source>Nothing has the text of the filter.</source>
         <translation>Nichts enthält den Text des Filters.</translation>
+    </message>
+</context>
+<context>
+    <name>ScenarioListModel</name>
+    <message>
+        <source>shown, reference</source>
+        <translation>gezeigt, Referenz</translation>
+    </message>
+    <message>
+        <source>reference</source>
+        <translation>Referenz</translation>
+    </message>
+    <message>
+        <source>shown</source>
+        <translation>gezeigt</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>mark</source>
+        <translation>Kennzeichen</translation>
+    </message>
+    <message>
+        <source>scenario</source>
+        <translation>Szenario</translation>
     </message>
 </context>
 <context>
@@ -7126,6 +7286,25 @@ Funktion abzüglich gemessenem Punkt</translation>
     </message>
 </context>
 <context>
+    <name>ScenarioStrip</name>
+    <message>
+        <source>Scenarios by date</source>
+        <translation>Szenarien nach Datum</translation>
+    </message>
+    <message>
+        <source>Date of the scenario</source>
+        <translation>Datum des Szenarios</translation>
+    </message>
+    <message>
+        <source>Drag, or step with the arrow keys, to show the scenario of another date</source>
+        <translation>Ziehen oder mit den Pfeiltasten weitergehen, um das Szenario eines anderen Datums zu zeigen</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>kein Datum</translation>
+    </message>
+</context>
+<context>
     <name>ScenarioSummary</name>
     <message>
         <source>Case</source>
@@ -7146,6 +7325,33 @@ Funktion abzüglich gemessenem Punkt</translation>
     <message>
         <source>Further fields</source>
         <translation>Weitere Felder</translation>
+    </message>
+</context>
+<context>
+    <name>ScenariosDock</name>
+    <message>
+        <source>Scenarios</source>
+        <translation>Szenarien</translation>
+    </message>
+    <message>
+        <source>Filter by name or date</source>
+        <translation>Nach Name oder Datum filtern</translation>
+    </message>
+    <message>
+        <source>Filter of the scenarios</source>
+        <translation>Filter der Szenarien</translation>
+    </message>
+    <message>
+        <source>Scenarios of the case</source>
+        <translation>Szenarien des Falls</translation>
+    </message>
+    <message>
+        <source>No case with scenarios is open. Each folder of a case that holds a scenario file is listed here.</source>
+        <translation>Kein Fall mit Szenarien ist geöffnet. Jeder Ordner eines Falls, der eine Szenariodatei enthält, steht hier.</translation>
+    </message>
+    <message>
+        <source>No scenario has the text of the filter.</source>
+        <translation>Kein Szenario enthält den Text des Filters.</translation>
     </message>
 </context>
 <context>

@@ -131,20 +131,25 @@ void CaseOpening::useLastScenario() {
 void CaseOpening::reload() {
   if (m_reading.isRunning() || !workspace().isValid())
     return;
-  const OpeningClock clock;
   NetworkLoader loader(m_parts.control.net());
   const QString fault = m_loader.fault(); // what is shown stays as long as nothing can take its place
   if (!fault.isEmpty() || !loader.resolve(workspace().chosenPath())) {
     m_reloadOffer->tellFault(fault.isEmpty() ? loader.error() : fault);
     return;
   }
+  readAgain(loader);
+}
+
+/// With everything that belongs to the case but not to its files.
+void CaseOpening::readAgain(const NetworkLoader &wanted) {
+  const OpeningClock clock;
   if (UnsavedEdits::settle(m_parts.subnets.unsaved()) == UnsavedEdits::Answer::Stay)
     return;       // those windows go
   if (m_isRead) { // else there is nothing to be taken, or it is aside since a reading that failed
     m_parts.memory.takeAside();
     m_parts.layers.takeAside();
   }
-  m_loader.useWorkspaceOf(loader);
+  m_loader.useWorkspaceOf(wanted);
   loadSettings();
   const bool isDone = m_reading.read();
   m_isRead = isDone && !m_parts.control.net().isEmpty(); // of a broken file nothing may be left
@@ -154,6 +159,101 @@ void CaseOpening::reload() {
     comeBack();
   tellOutcome(isDone, clock);
   emit ended();
+}
+
+bool CaseOpening::switchTo(const QString &path) {
+  NetworkLoader wanted(m_parts.control.net());
+  if (m_reading.isRunning() || !m_isRead || !resolve(wanted, path))
+    return false;
+  const OpeningClock clock;
+  m_parts.layers.takeAside();
+  const NetworkLoader::Exchange exchange = m_reading.exchange(wanted);
+  m_parts.layers.comeBack(m_loader.layers());
+  if (exchange == NetworkLoader::Exchange::Failed) {
+    tellFailure();
+  } else if (exchange == NetworkLoader::Exchange::Impossible) {
+    NetworkLoader before(m_parts.control.net());
+    const bool canComeBack = before.resolve(workspace().chosenPath());
+    readAgain(wanted);
+    if (!m_isRead && canComeBack)
+      readAgain(before);
+  } else {
+    showScenario();
+    tellSwitch(clock);
+  }
+  const bool isShown = workspace().chosenPath() == wanted.workspace().chosenPath();
+  if (isShown && !m_parts.memory.isClean())
+    LastScenario::remember(workspace().caseDirectory(), workspace().chosenPath());
+  if (exchange != NetworkLoader::Exchange::Impossible)
+    emit ended();
+  return isShown;
+}
+
+/// In the drawing and beside it, where another one was before.
+void CaseOpening::showScenario() {
+  m_parts.control.setCaption(workspace().caption());
+  m_parts.memory.follow(workspace());
+  m_parts.tools.setCase(workspace());
+  m_parts.subnets.takeCase(workspace());
+  showBeside(true);
+  emit switched();
+  showValues();
+}
+
+void CaseOpening::showValues() {
+  m_parts.tools.showChanges();
+  m_parts.control.redraw();
+  m_parts.subnets.takeProperties();
+}
+
+void CaseOpening::tellFailure() {
+  OutcomeStyle::show(*m_parts.window.statusBar(), outcome(false));
+  m_parts.window.statusBar()->showMessage(m_loader.error());
+}
+
+bool CaseOpening::visit(const QString &path, const Look &look) {
+  if (m_reading.isRunning() || !m_isRead)
+    return false;
+  if (path == workspace().chosenPath()) {
+    look(m_parts.control.net(), m_loader);
+    return true;
+  }
+  NetworkLoader wanted(m_parts.control.net());
+  NetworkLoader shown(m_parts.control.net());
+  if (!resolve(wanted, path) || !resolve(shown, workspace().chosenPath()))
+    return false;
+  NetData apart;
+  if (!workspace().hasScenario()) // there is no way back to that
+    return readApart(path, apart, look);
+  m_parts.layers.takeAside();
+  const NetworkLoader::Exchange exchange = m_reading.exchange(wanted);
+  if (exchange == NetworkLoader::Exchange::Done) {
+    look(m_parts.control.net(), m_loader);
+    if (m_loader.exchangeScenario(shown, Progress()) != NetworkLoader::Exchange::Done)
+      showScenario(); // its files have gone meanwhile
+  }
+  m_parts.layers.comeBack(m_loader.layers());
+  if (exchange == NetworkLoader::Exchange::Impossible)
+    return readApart(path, apart, look);
+  if (exchange == NetworkLoader::Exchange::Failed)
+    tellFailure();
+  emit ended();
+  return exchange == NetworkLoader::Exchange::Done;
+}
+
+bool CaseOpening::readApart(const QString &path, NetData &apart, const Look &look) {
+  NetworkLoader loader(apart);
+  if (m_reading.isRunning() || !resolve(loader, path))
+    return false;
+  const bool isRead = m_reading.readApart(loader);
+  if (isRead) {
+    look(apart, loader);
+  } else {
+    OutcomeStyle::show(*m_parts.window.statusBar(), OutcomeStyle::Outcome::Failed);
+    m_parts.window.statusBar()->showMessage(loader.error());
+  }
+  emit ended();
+  return isRead;
 }
 
 void CaseOpening::comeBack() {
@@ -188,9 +288,13 @@ void CaseOpening::leave(UnsavedEdits::Answer answer) {
   m_parts.memory.keep();
 }
 
-/// Beside the drawing.
 void CaseOpening::show(bool isRead) {
   m_parts.control.plot()->setFocus(); // the keys are for the network that was asked for
+  showBeside(isRead);
+}
+
+/// Beside the drawing.
+void CaseOpening::showBeside(bool isRead) {
   m_reloadOffer->watch(isRead ? filesShown() : ReadFiles::Stamps());
   m_onPages.clear();
   showFindings();
@@ -260,6 +364,13 @@ void CaseOpening::tellOutcome(bool isRead, const OpeningClock &clock) {
     bar.showMessage(tr("Startup finished in %1ms").arg(clock.elapsed()), ShownMs);
   else
     bar.showMessage(m_loader.error());
+}
+
+void CaseOpening::tellSwitch(const OpeningClock &clock) {
+  constexpr int ShownMs = 10000;
+  QStatusBar &bar = *m_parts.window.statusBar();
+  OutcomeStyle::show(bar, outcome(true));
+  bar.showMessage(tr("Scenario %1 after %2 ms").arg(workspace().currentScenario()->workDir).arg(clock.elapsed()), ShownMs);
 }
 
 void CaseOpening::loadSettings() {

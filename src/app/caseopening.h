@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -47,6 +48,17 @@ public:
   void open(const QString &path);
   /// Reads the files of the case again; view, selection, style, layers and what is not saved stay.
   void reload();
+  /// Another scenario of the case takes the place of the one that is shown; view, selection, style, layers, windows of
+  /// subnets and what is not saved stay. Where it cannot be read everything stays, and the status bar says why.
+  bool switchTo(const QString &path);
+  using Look = std::function<void(const NetData &net, const NetworkLoader &loader)>;
+  /// Has a look taken at another scenario, or at that which is shown, without showing it. False, and told in the status bar,
+  /// when it cannot be read.
+  bool visit(const QString &path, const Look &look);
+  /// Reads all of a case into a network of its own, which nobody shows yet, and has a look taken at it. False as above.
+  bool readApart(const QString &path, NetData &apart, const Look &look);
+  /// Has every tool and drawing show the values as they are now.
+  void showValues();
   /// Before the case goes; nothing is discarded yet.
   UnsavedEdits::Answer settle();
   /// The case goes, as it was answered.
@@ -63,7 +75,8 @@ public:
   void takeSettings();
 
 signals:
-  void shown(); ///< or what is left of it where it could not be read
+  void shown();    ///< or what is left of it where it could not be read
+  void switched(); ///< another scenario is shown
   void settingsLoaded();
   void ended(); ///< reading and whatever follows it
 
@@ -72,13 +85,18 @@ private:
   bool resolve(NetworkLoader &loader, const QString &path);
   bool hasGeometry(const NivraWorkspace &wanted, QString *reason) const;
   void useLastScenario();
+  void readAgain(const NetworkLoader &wanted);
+  void showScenario();
+  void tellFailure();
   void show(bool isRead);
+  void showBeside(bool isRead);
   void comeBack();
   void noticeOnPage(const QString &scenario, const std::vector<FindingList::Group> &groups);
   void acceptStyleFiles();
   ReadFiles::Stamps filesShown() const;
   OutcomeStyle::Outcome outcome(bool isRead) const;
   void tellOutcome(bool isRead, const OpeningClock &clock);
+  void tellSwitch(const OpeningClock &clock);
 
   Parts m_parts;
   NetworkLoader m_loader;

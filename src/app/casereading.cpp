@@ -3,10 +3,13 @@
 #include "loadprogress.h"
 
 #include <base/settings.h>
+#include <base/withoutboxes.h>
 #include <view/netviscontrol.h>
 
+#include <QElapsedTimer>
 #include <QInputDialog>
 #include <QMainWindow>
+#include <QPointer>
 #include <QStatusBar>
 
 CaseReading::CaseReading(NetworkLoader &loader, NetVisControl &control, QMainWindow &window)
@@ -39,6 +42,48 @@ bool CaseReading::read() {
   m_control.showNetData(m_loader.workspace().filePath(QStringLiteral("plotsettings.ini")));
   emit ended();
   return isDone;
+}
+
+/// What work(progress) yields. The window is busy only where that takes long: whoever steps through scenarios keeps the
+/// keyboard.
+template <typename Work>
+auto CaseReading::withProgress(const QString &text, const Work &work) {
+  LoadProgress progress(m_window.statusBar());
+  m_progress = &progress;
+  progress.tell(text);
+  QElapsedTimer clock;
+  clock.start();
+  const QPointer<QWidget> focus = m_window.focusWidget();
+  bool hasTold = false;
+  const auto result = work([&](double fraction) {
+    if (!hasTold && clock.elapsed() >= LoadProgress::patience()) {
+      hasTold = true;
+      emit takesLong(); // nobody can do anything before
+    }
+    return progress.update(fraction);
+  });
+  m_progress = nullptr;
+  if (hasTold) {
+    emit ended();
+    if (focus != nullptr)
+      focus->setFocus();
+  }
+  return result;
+}
+
+NetworkLoader::Exchange CaseReading::exchange(const NetworkLoader &wanted) {
+  return withProgress(tr("Reading the scenario …"),
+                      [&](const Progress &progress) { return m_loader.exchangeScenario(wanted, progress); });
+}
+
+bool CaseReading::readApart(NetworkLoader &loader) {
+  const NivraMsg::WithoutBoxes quiet;
+  return withProgress(tr("Reading the scenario …"), [&](const Progress &progress) {
+    loader.readConfiguration();
+    NetworkLoader::ReadOptions options;
+    options.progress = progress;
+    return loader.readNetwork(options);
+  });
 }
 
 void CaseReading::stop() {

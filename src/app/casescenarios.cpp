@@ -27,10 +27,8 @@ ScenarioSource CaseScenarios::of(const NivraWorkspace &workspace, const Noticed 
   ScenarioSource source;
   source.names = [folder, form] {
     QStringList names;
-    for (const QString &name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::LocaleAware)) {
-      if (!ScenarioFiles::in(QDir(folder).filePath(name), form).isEmpty())
-        names.append(name);
-    }
+    for (const ScenarioFiles::Scenario &scenario : ScenarioFiles::ofCase(folder, form))
+      names.append(scenario.name);
     return names;
   };
   source.read = [folder, geometry, root, form, noticed](const QString &name, NetData &net, const Progress &progress,

@@ -85,7 +85,7 @@ void Commands::addEditMenu() {
 }
 
 void Commands::addGoMenu() {
-  QMenu *menu = addMenu(tr("Go"));
+  QMenu *menu = m_go = addMenu(tr("Go"));
   const PlotActions &actions = m_control.actions();
   QAction *find = add(*menu, tr("Go to element …"), QStringLiteral("Ctrl+G"), tr("Show an element by a part of its name"));
   find->setIcon(svgIcon(QStringLiteral("search")));

@@ -28,6 +28,7 @@ public:
   ~Commands() override;
 
   ToolBar *toolBar() const { return m_toolBar; }
+  QMenu *goMenu() const { return m_go; }
 
 signals:
   void elementChosen(const QString &name); ///< by its name; it is shown after this
@@ -52,5 +53,6 @@ private:
   NetVisControl &m_control;
   Form m_form;
   ToolBar *m_toolBar = nullptr;
+  QMenu *m_go = nullptr;
   CommandPalette *m_palette = nullptr; ///< made when it is first asked for
 };

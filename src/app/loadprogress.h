@@ -15,6 +15,8 @@ public:
   static constexpr int PatienceMs = 500;
   /// For tests, which cannot wait for a slow machine.
   static void setPatience(int milliseconds) { s_patienceMs = milliseconds; }
+  /// For so long the window waits for the work alone.
+  static int patience() { return s_patienceMs; }
 
   /// Starts the clock. The widgets go with the object.
   explicit LoadProgress(QStatusBar *bar);

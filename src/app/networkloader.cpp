@@ -62,6 +62,22 @@ void addDefinitions(const QString &directory, const QString &category, std::vect
   }
 }
 
+bool isOfResults(const FormulaDefinition &definition) {
+  return definition.category == QLatin1String("results");
+}
+
+/// All elements of the network, by address.
+std::vector<const element *> addresses(const NetData &net) {
+  std::vector<const element *> found;
+  found.reserve(net.nodes().size() + net.edges().size() + net.assembledSubnets().size() + net.textBoxes().size());
+  for (const elements *collection : {&net.nodes(), &net.edges(), &net.assembledSubnets(), &net.textBoxes()}) {
+    for (const elements::Entry &entry : *collection)
+      found.push_back(&entry.value);
+  }
+  std::sort(found.begin(), found.end());
+  return found;
+}
+
 QString layersFile(const NivraWorkspace &workspace) {
   return workspace.filePath(QStringLiteral("layers.csv"));
 }
@@ -120,10 +136,15 @@ bool NetworkLoader::readStages(const ReadOptions &options) {
   m_machines = MachineData();
   m_machines.source = source;
   m_machineLimits.forget();
+  m_machineFile.clear();
   m_machineFaults.clear();
   m_layers = {};
+  m_own.clear();
+  m_journal = ValueJournal();
+  m_includeProperties = options.includeProperties;
   m_formulas.setDefinitions({}); // which speak of the network before
   NivraReader reader(m_net, logFinding);
+  reader.setJournal(&m_journal);
   NivraReader::Options readerOptions;
   readerOptions.includeTypes = options.includeTypes;
   readerOptions.includeProperties = options.includeProperties;
@@ -182,23 +203,33 @@ QString NetworkLoader::fault() const {
 
 bool NetworkLoader::readFiles(NivraReader &reader, const NivraReader::Options &options) {
   const NivraReader::Result result = reader.readTopoAndScen(m_workspace, options);
+  m_files.geometry = reader.networkPath(m_workspace.geometryPath());
+  return takeRead(result, reader) || (m_cancelled && stop());
+}
+
+bool NetworkLoader::takeRead(const NivraReader::Result &result, const NivraReader &reader) {
   if (!result.configuration.isEmpty())
     report(m_workspace.takeConfiguration(result.configuration, m_gasParams, result.configurationFile));
   m_gases = reader.gases();
-  m_files = {reader.networkPath(m_workspace.geometryPath()), reader.gasFile()};
+  m_files.gases = reader.gasFile();
   report(result.findings);
   notice(tr("Reading"), result.findings);
   m_cancelled = result.cancelled;
   if (m_cancelled)
-    return stop();
-  m_error = result.ok ? QString() : firstCritical(result.findings);
-  return result.ok;
+    m_error = tr("Reading was cancelled.");
+  else
+    m_error = result.ok ? QString() : firstCritical(result.findings);
+  return result.ok && !m_cancelled;
 }
 
 void NetworkLoader::check() {
   Findings findings = ConsistencyCheck::checkNetData(m_net);
   warnOf(findings);
   m_removed = ConsistencyCheck::prune(m_net, logFinding);
+  if (m_removed.nodes + m_removed.edges > 0) {
+    const std::vector<const element *> left = addresses(m_net);
+    m_journal.keepOnly([&left](const element *e) { return std::binary_search(left.begin(), left.end(), e); });
+  }
   append(findings, m_removed.findings);
   notice(tr("Checking"), std::move(findings));
 }
@@ -227,18 +258,27 @@ ScenarioSummary NetworkLoader::scenarioSummary() const {
   return ScenarioSummary::of(m_workspace, m_gasParams, m_gases, m_files);
 }
 
+/// The machines of a file that was read before are kept; what they do with the gas of the scenario is looked at anew.
 void NetworkLoader::readMachines(const NivraReader &reader) {
   const QString path = MachineFile::of(m_workspace);
-  if (path.isEmpty())
+  if (path != m_machineFile) {
+    MachineReader::Result result;
+    if (!path.isEmpty())
+      result = MachineReader::read(path);
+    result.data.use(m_machines.source);
+    m_machines = std::move(result.data);
+    m_machineFaults = std::move(result.findings);
+    m_machineFile = path;
+  }
+  if (path.isEmpty()) {
+    m_machineLimits.write({}); // of the scenario before
     return;
-  MachineReader::Result result = MachineReader::read(path);
-  result.data.use(m_machines.source);
-  m_machines = std::move(result.data);
+  }
   MachineFile::takeScenario(m_machines, m_gasParams, reader.gases());
-  m_machineFaults = result.findings;
-  append(result.findings, judgeMachines());
-  report(result.findings);
-  notice(tr("Machine data"), std::move(result.findings));
+  Findings findings = m_machineFaults;
+  append(findings, judgeMachines());
+  report(findings);
+  notice(tr("Machine data"), std::move(findings));
 }
 
 /// Where they work and how near they are to their limits.
@@ -271,6 +311,7 @@ bool NetworkLoader::assembleSubnets(const ReadOptions &options) {
   m_templateFolder.clear();
   if (m_net.assembledSubnets().isEmpty())
     return true;
+  m_own = addresses(m_net);
   m_templateFolder = SubAssembler::findFolder(QCoreApplication::applicationDirPath(), logFinding);
   SubAssembler assembler(m_net, m_templateFolder, SubAssemblyCache::instance(), logFinding);
   SubAssembler::Result result =
@@ -287,19 +328,29 @@ bool NetworkLoader::assembleSubnets(const ReadOptions &options) {
   return !m_cancelled;
 }
 
+std::vector<FormulaDefinition> NetworkLoader::definitionsOfFiles(Findings &findings) const {
+  std::vector<FormulaDefinition> definitions;
+  addDefinitions(m_workspace.caseDirectory(), QStringLiteral("geometry"), definitions, findings);
+  if (m_workspace.hasScenario())
+    addDefinitions(m_workspace.scenarioDirectory(), QStringLiteral("scenario"), definitions, findings);
+  else
+    definitions.erase(std::remove_if(definitions.begin(), definitions.end(), isOfResults), definitions.end());
+  return definitions;
+}
+
 bool NetworkLoader::computeFormulas(const Progress &progress) {
   Findings findings;
   std::vector<FormulaDefinition> definitions = std::move(m_templateDefinitions); // those of the case come after and count
-  addDefinitions(m_workspace.caseDirectory(), QStringLiteral("geometry"), definitions, findings);
-  if (m_workspace.hasScenario()) {
-    addDefinitions(m_workspace.scenarioDirectory(), QStringLiteral("scenario"), definitions, findings);
-  } else {
-    const auto isOfResults = [](const FormulaDefinition &definition) {
-      return definition.category == QLatin1String("results");
-    };
+  m_hasTemplateFormulas = !definitions.empty();
+  if (!m_workspace.hasScenario())
     definitions.erase(std::remove_if(definitions.begin(), definitions.end(), isOfResults), definitions.end());
-  }
+  m_definitions = definitionsOfFiles(findings);
+  definitions.insert(definitions.end(), m_definitions.begin(), m_definitions.end());
   append(findings, m_formulas.setDefinitions(definitions));
+  return applyFormulas(std::move(findings), progress);
+}
+
+bool NetworkLoader::applyFormulas(Findings findings, const Progress &progress) {
   append(findings, m_formulas.apply([&](double fraction) {
     m_cancelled = progress && !progress(fraction);
     return !m_cancelled;

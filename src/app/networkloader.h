@@ -10,6 +10,7 @@
 #include <model/consistencycheck.h>
 #include <model/elementchange.h>
 #include <model/netdata.h>
+#include <model/valuejournal.h>
 #include <tools/findinglist.h>
 #include <tools/layeredits.h>
 
@@ -53,6 +54,18 @@ public:
   /// could be read or reading was cancelled.
   bool readNetwork(const ReadOptions &options);
 
+  /// What became of another scenario that was to take the place of the one that is shown.
+  enum class Exchange {
+    Done,
+    Failed,    ///< or cancelled: everything is as it was
+    Impossible ///< everything is as it was; only reading all files again yields that network
+  };
+  /// Reads the scenario that another loader resolved, of the same case and geometry, into the network that was read:
+  /// elements, subnets, layers and machines stay, values are as reading all files would yield them.
+  Exchange exchangeScenario(const NetworkLoader &wanted, const Progress &progress);
+  /// What the scenario says beside the geometry, and formulas compute: in these scenarios may differ.
+  std::vector<PropertyKey> propertiesOfScenario() const;
+
   const NivraWorkspace &workspace() const { return m_workspace; }
   const GasTable &gases() const { return m_gases; } ///< of the scenario
   /// What case and scenario carry beside the network, each with the file that says so.
@@ -88,6 +101,13 @@ public:
 private:
   // The stages; those that return something return whether the next one may begin.
   bool readStages(const ReadOptions &options);
+  struct OfScenario;
+  bool isExchangeable(const NetworkLoader &wanted) const;
+  bool readScenario(OfScenario &before, const Progress &progress);
+  void takeBack(OfScenario before);
+  void keepFindingsOfGeometry(const std::vector<FindingList::Group> &noticed);
+  bool takeRead(const NivraReader::Result &result, const NivraReader &reader);
+  NivraReader::Options scenarioOptions(const Progress &progress) const;
   void awaitResults(const NivraReader &reader);
   void readLayers();
   bool readFiles(NivraReader &reader, const NivraReader::Options &options);
@@ -96,7 +116,10 @@ private:
   bool readSubResults(NivraReader &reader, const NivraReader::Options &options);
   void readMachines(const NivraReader &reader);
   Findings judgeMachines(std::vector<ElementChange> *changes = nullptr);
+  std::vector<FormulaDefinition> definitionsOfFiles(Findings &findings) const;
   bool computeFormulas(const Progress &progress);
+  bool computeFormulasAgain(const Progress &progress);
+  bool applyFormulas(Findings findings, const Progress &progress);
   bool stop();
   void notice(const QString &stage, Findings findings);
   void noticeViolations();
@@ -116,6 +139,12 @@ private:
   QString m_templateFolder;
   ConsistencyCheck::PruneResult m_removed;
   std::vector<FormulaDefinition> m_templateDefinitions; ///< of the assembled subnets
+  bool m_hasTemplateFormulas = false;
+  std::vector<FormulaDefinition> m_definitions; ///< of the files of case and scenario
+  ValueJournal m_journal;                       ///< of what the scenario says
+  std::vector<const element *> m_own;           ///< by address: elements of the geometry file where subnets added others
+  QString m_machineFile;                        ///< from which the machines were read
+  QString m_includeProperties;
   std::vector<FindingList::Group> m_noticed;
   Seconds m_seconds;
   QString m_error;

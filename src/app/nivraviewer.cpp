@@ -13,6 +13,7 @@
 #include "opendialog.h"
 #include "otherwindows.h"
 #include "recentmenu.h"
+#include "scenarios/scenariodesk.h"
 #include "settings/settingsdialog.h"
 #include "subnetwindows.h"
 #include "svgicon.h"
@@ -118,8 +119,9 @@ NivraViewer::NivraViewer(QWidget *parent)
   connect(m_ui->actionSavePage, &QAction::triggered, m_control.get(), &NetVisControl::savePage);
   connect(m_tools, &ToolDocks::elementsChanged, this, &NivraViewer::addChange);
   connect(m_tools, &ToolDocks::figuresChanged, this, &NivraViewer::addChange);
-  connect(m_tools, &ToolDocks::scenarioWanted, this, &NivraViewer::open,
-          Qt::QueuedConnection); // the dock is asked again meanwhile
+  connect(
+      m_tools, &ToolDocks::scenarioWanted, this, [this](const QString &file) { m_opening->switchTo(file); },
+      Qt::QueuedConnection); // the dock is asked again meanwhile
   m_ui->statusbar->addPermanentWidget(m_tools->findingsButton());
   setAcceptDrops(true);
   setUpFileMenu();
@@ -156,18 +158,20 @@ void NivraViewer::setUpOpening() {
     m_showingChanges.cancel();
     m_changes.clear();
   });
+  connect(&m_opening->reading(), &CaseReading::takesLong, this, [this] { setBusy(true); });
   connect(&m_opening->reading(), &CaseReading::ended, this, [this] { setBusy(false); });
   connect(m_opening.get(), &CaseOpening::shown, this, [this] {
     m_reload->setEnabled(true);
     showTitle();
   });
+  connect(m_opening.get(), &CaseOpening::switched, this, &NivraViewer::showTitle);
   connect(m_opening.get(), &CaseOpening::ended, this, &NivraViewer::closeIfWanted);
   connect(m_layers, &LayerKeeper::elementsChanged, this, &NivraViewer::addChange);
   connect(m_tools, &ToolDocks::elementsChanged, m_layers, &LayerKeeper::note);
   connect(m_tools, &ToolDocks::saveLayersWanted, m_layers, &LayerKeeper::saveAs);
   connect(m_tools, &ToolDocks::loadLayersWanted, m_layers, &LayerKeeper::load);
   connect(m_tools, &ToolDocks::scenarioNamed, this,
-          [this](const QString &name) { open(CaseScenarios::fileOf(m_opening->workspace(), name)); });
+          [this](const QString &name) { m_opening->switchTo(CaseScenarios::fileOf(m_opening->workspace(), name)); });
   connect(m_tools, &ToolDocks::functionsChosen, this, [this](FunctionSource source) {
     for (const ElementChange &change : m_opening->useFunctions(source))
       addChange(change);
@@ -184,6 +188,7 @@ void NivraViewer::setUpExplanations() {
       connect(m_why, &WhyDock::elementAsked, this,
               [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
       connect(&m_opening->reading(), &CaseReading::begins, m_why, &WhyDock::pause);
+      connect(m_opening.get(), &CaseOpening::switched, m_why, &WhyDock::refresh);
     }
     m_why->refresh();
   });
@@ -221,6 +226,7 @@ void NivraViewer::setUpCommands() {
   connect(m_commands, &Commands::elementChosen, this,
           [this](const QString &name) { elementAction(name, NetPicker::EleAction::Mark); });
   connect(&m_control->actions(), &PlotActions::settingsChosen, m_tools, &ToolDocks::showDrawSettings);
+  new ScenarioDesk(*this, *m_opening, *m_control, *m_tools, *m_commands->goMenu());
   setUpCheck();
 }
 
@@ -228,6 +234,7 @@ void NivraViewer::setUpCheck() {
   m_check = new NetworkCheck(m_net, *m_ui->statusbar, this);
   m_ui->menuInfo->addAction(m_check->action());
   connect(&m_opening->reading(), &CaseReading::begins, m_check, &NetworkCheck::forget);
+  connect(m_opening.get(), &CaseOpening::switched, m_check, &NetworkCheck::forget);
   connect(m_check, &NetworkCheck::found, m_opening.get(), &CaseOpening::noticeChecked);
   connect(m_check, &NetworkCheck::told, m_tools, &ToolDocks::bringFindings);
 }

@@ -36,11 +36,8 @@ SubnetWindow::SubnetWindow(NetData &net, const QString &subnet, const NivraWorks
   setCentralWidget(m_control->plot());
   resize(Size);
   new WindowPlace(*this, QStringLiteral("subnet"), parent == nullptr ? *this : *parent);
-  m_control->setCaption(workspace.caption() + QStringLiteral(" · ") + subnet);
+  takeCase(workspace);
   m_control->showNetData(workspace.filePath(QStringLiteral("plotsettings.ini")));
-  PageFacts facts = CaseScenarios::facts(workspace);
-  facts.subject = m_subnet;
-  m_control->setPageFacts(facts);
   m_control->plot()->setFocus();
   m_tools->refresh(workspace);
   fillMenus();
@@ -113,8 +110,16 @@ void SubnetWindow::giveProperty(const ElementChange &change) {
   emit elementsChanged(change);
 }
 
+void SubnetWindow::takeCase(const NivraWorkspace &workspace) {
+  m_control->setCaption(workspace.caption() + QStringLiteral(" · ") + m_subnet);
+  PageFacts facts = CaseScenarios::facts(workspace);
+  facts.subject = m_subnet;
+  m_control->setPageFacts(facts);
+}
+
 void SubnetWindow::takeProperties() {
-  const PropertyKey searched = Names::all().searchResult; // each window has its own search
+  m_net.setMetaData(std::make_shared<const NetMetaData>(*m_whole.metaData())); // which may know more properties now
+  const PropertyKey searched = Names::all().searchResult;                      // each window has its own search
   m_net.forEach(NetData::AllTypes, [this, searched](element &here) {
     const element *there = m_whole.element(here.value(Names::all().name));
     if (there == nullptr)

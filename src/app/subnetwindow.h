@@ -32,6 +32,8 @@ public:
   const QString &subnet() const { return m_subnet; }
   NetVisControl *visControl() const { return m_control.get(); }
   /// Takes the properties of its elements from the network again.
+  /// What legend and pages say of the case.
+  void takeCase(const NivraWorkspace &workspace);
   void takeProperties();
   /// After general settings have changed.
   void takeSettings();

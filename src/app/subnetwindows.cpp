@@ -51,6 +51,11 @@ void SubnetWindows::takeProperties() {
     window->takeProperties();
 }
 
+void SubnetWindows::takeCase(const NivraWorkspace &workspace) {
+  for (SubnetWindow *window : all())
+    window->takeCase(workspace);
+}
+
 void SubnetWindows::takeSettings() {
   for (SubnetWindow *window : all())
     window->takeSettings();

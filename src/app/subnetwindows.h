@@ -32,6 +32,8 @@ public:
   /// What was changed in them and is not saved.
   std::vector<UnsavedEdits::Kind> unsaved() const;
   void takeProperties();
+  /// Another scenario is shown.
+  void takeCase(const NivraWorkspace &workspace);
   void takeSettings();
 
 signals:

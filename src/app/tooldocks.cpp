@@ -9,6 +9,7 @@
 #include "panelfocus.h"
 #include "pathprofilelink.h"
 #include "scenariodock.h"
+#include "scenarios/scenariosdock.h"
 #include "svgicon.h"
 #include "toolwindows.h"
 
@@ -91,6 +92,8 @@ void ToolDocks::createReports() {
   connect(m_findings, &NivraFindings::elementsWanted, this, &ToolDocks::selectElements);
   m_scenario = new ScenarioDock(&m_window);
   addDock(m_scenario, QStringLiteral("scenario"), Qt::BottomDockWidgetArea);
+  m_scenarios = new ScenariosDock(&m_window);
+  addDock(m_scenarios, QStringLiteral("scenarios"), Qt::LeftDockWidgetArea);
 }
 
 ToolDocks::~ToolDocks() = default;
@@ -168,10 +171,7 @@ void ToolDocks::refresh(const NivraWorkspace &workspace, Edits edits) {
     createSearch();
   if (m_characteristics == nullptr && m_extent == Extent::Program)
     createCharacteristics();
-  if (m_characteristics != nullptr)
-    m_characteristics->setPageFacts(CaseScenarios::facts(workspace));
-  if (m_characteristics != nullptr && workspace.isValid())
-    m_characteristics->setScenarios(CaseMachines::of(workspace), workspace.caseDirectory());
+  setCase(workspace);
   m_draw->setFiles(workspace.filePath(QStringLiteral("vfd.csv")), m_control.labelsRead(),
                    workspace.filePath(QStringLiteral("plotsettings.ini")), m_control.styleFiles().settings);
   if (edits == Edits::Dropped) {
@@ -383,6 +383,15 @@ void ToolDocks::setFindings(const std::vector<FindingList::Group> &groups) {
 void ToolDocks::bringFindings() {
   if (m_findings->count() > 0)
     m_findingsButton->click();
+}
+
+void ToolDocks::setCase(const NivraWorkspace &workspace) {
+  if (m_characteristics != nullptr)
+    m_characteristics->setPageFacts(CaseScenarios::facts(workspace));
+  if (m_characteristics != nullptr && workspace.isValid())
+    m_characteristics->setScenarios(CaseMachines::of(workspace), workspace.caseDirectory());
+  if (m_scenarioSet != nullptr)
+    m_scenarioSet->refresh(workspace);
 }
 
 void ToolDocks::setScenario(const ScenarioSummary &summary) {

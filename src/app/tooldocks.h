@@ -32,6 +32,7 @@ class NivraWorkspace;
 class PathProfileLink;
 class ScenarioDock;
 class ScenarioSetDock;
+class ScenariosDock;
 class ToolWindows;
 class QDockWidget;
 class QMainWindow;
@@ -90,11 +91,14 @@ public:
   /// Whether the pages of machines that were open in the case come back.
   enum class Pages { New, Kept };
   void setMachines(const MachineData &machines, Pages pages);
+  /// Which case and scenario are shown, for the pages of machines.
+  void setCase(const NivraWorkspace &workspace);
   /// What case and scenario say beside the network.
   void setScenario(const ScenarioSummary &summary);
   void setFindings(const std::vector<FindingList::Group> &groups);
   /// Where there are any.
   void bringFindings();
+  ScenariosDock *scenarios() const { return m_scenarios; } ///< null before the first workspace
   /// Says how many there are, and brings them; hidden while there are none.
   QToolButton *findingsButton() const { return m_findingsButton; }
 
@@ -140,6 +144,7 @@ private:
   CharacteristicsStack *m_characteristics = nullptr;
   NivraFindings *m_findings = nullptr;
   ScenarioDock *m_scenario = nullptr;
+  ScenariosDock *m_scenarios = nullptr;
   QToolButton *m_findingsButton = nullptr;
   NivraSearch *m_search = nullptr;
   ElementTable *m_elementTable = nullptr;

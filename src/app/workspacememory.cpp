@@ -34,6 +34,13 @@ void WorkspaceMemory::enter(const NivraWorkspace &workspace) {
   m_idle.start();
 }
 
+void WorkspaceMemory::follow(const NivraWorkspace &workspace) {
+  if (m_path.isEmpty())
+    return;
+  m_path = workspace.chosenPath();
+  m_isNoted = false; // and so when the case is left: who steps through scenarios does not mean each of them
+}
+
 void WorkspaceMemory::takeAside() {
   keep();
   m_session->takeAside();

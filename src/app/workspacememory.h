@@ -33,6 +33,8 @@ public:
 
   /// The workspace is open and drawn: comes back to what is kept of it.
   void enter(const NivraWorkspace &workspace);
+  /// Another scenario of the case is shown; what comes back with the case is what is there.
+  void follow(const NivraWorkspace &workspace);
   /// Before it is read again: until it stands again, what was is what is kept.
   void takeAside();
   bool isAside() const { return m_isAside; }

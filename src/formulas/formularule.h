@@ -9,6 +9,7 @@
 
 #include <map>
 #include <set>
+#include <utility>
 #include <vector>
 
 /// A definition made ready: parsed, with the elements that it is for.
@@ -18,10 +19,11 @@ struct FormulaRule {
   std::shared_ptr<const Formula> value; ///< of a formula
   std::shared_ptr<const Formula> lower; ///< of a constraint, null for no bound
   std::shared_ptr<const Formula> upper;
-  std::vector<element *> elements;      ///< by address
-  Units::Linear toStored;               ///< from the unit of the expressions
-  QHash<element *, QString> violations; ///< of a constraint: what is wrong
-  std::vector<bool> computed;           ///< by position: the value is of the formula's making
+  std::vector<element *> elements;                             ///< by address
+  Units::Linear toStored;                                      ///< from the unit of the expressions
+  QHash<element *, QString> violations;                        ///< of a constraint: what is wrong
+  std::vector<bool> computed;                                  ///< by position: the value is of the formula's making
+  std::vector<std::pair<element *, PropertyText>> overwritten; ///< by the formula: what the files say
 
   std::vector<const Formula *> formulas() const;
   const FormulaNames *names() const { return definition.names.get(); }

@@ -31,6 +31,7 @@ struct NetworkFormulas::Computing {
   void prepare(const std::vector<FormulaDefinition> &definitions);
   void order();
   void describe();
+  void withdraw();
   std::vector<element *> affected(const FormulaRule &rule, const FormulaChanges &changes) const;
   /// Computes the formulas, then the constraints, for those of their elements that elementsOf tells.
   template <typename ElementsOf>
@@ -41,6 +42,7 @@ struct NetworkFormulas::Computing {
   std::vector<Index> sequence;    ///< formulas in the order of computing
   std::vector<Index> constraints; ///< in the order of the files
   FormulaRemarks remarks;         ///< of the preparation
+  FormulaRemarks prepared;        ///< those of them that no value changes
   int evaluations = 0;
 
 private:
@@ -117,6 +119,7 @@ void NetworkFormulas::Computing::prepare(const std::vector<FormulaDefinition> &d
       remarks.add(definition, Texts::tr("The formula of %1 is left out: %2").arg(definition.property, error.text()));
     }
   }
+  prepared = remarks;
 }
 
 void NetworkFormulas::Computing::order() {
@@ -205,6 +208,26 @@ void NetworkFormulas::Computing::describe() {
     net.setMetaData(metaData);
 }
 
+void NetworkFormulas::Computing::withdraw() {
+  bool hasViolations = false;
+  for (FormulaRule &rule : rules) {
+    for (std::size_t i = 0; i < rule.computed.size(); ++i) {
+      if (rule.computed[i])
+        rule.elements[i]->erase(rule.target);
+    }
+    rule.computed.clear();
+    for (auto &[e, value] : rule.overwritten)
+      e->set(rule.target, std::move(value));
+    rule.overwritten.clear();
+    hasViolations = hasViolations || !rule.violations.isEmpty();
+    for (auto it = rule.violations.cbegin(); it != rule.violations.cend(); ++it)
+      it.key()->erase(Names::all().violations);
+    rule.violations.clear();
+  }
+  if (hasViolations)
+    net.forEach(NetData::AssembledSubnet, [](element &subnet) { subnet.erase(Names::all().violations); });
+}
+
 PropertyText NetworkFormulas::Computing::valueOf(const FormulaRule &rule, const element &e, QString &reason) {
   constexpr std::size_t ShortText = 64; // bytes
   const bool isAsStored = rule.toStored.factor == 1.0 && rule.toStored.offset == 0.0;
@@ -253,6 +276,8 @@ bool NetworkFormulas::Computing::compute(FormulaRule &rule, const std::vector<el
     if (changes != nullptr && (before == nullptr ? !text.isEmpty() : *before != text))
       (*changes)[rule.target].insert(e);
     const bool hasValue = !text.isEmpty();
+    if (hasValue && before != nullptr && !rule.computed[index])
+      rule.overwritten.emplace_back(e, *before);
     if (hasValue)
       e->set(rule.target, std::move(text));
     else if (rule.computed[index])
@@ -351,6 +376,19 @@ Findings NetworkFormulas::setDefinitions(const std::vector<FormulaDefinition> &d
   return m_computing->remarks.findings();
 }
 
+void NetworkFormulas::withdraw() {
+  m_computing->withdraw();
+}
+
+Findings NetworkFormulas::arrangeAgain() {
+  m_computing->remarks = m_computing->prepared;
+  m_computing->sequence.clear();
+  m_computing->constraints.clear();
+  m_computing->order();
+  m_computing->describe();
+  return m_computing->remarks.findings();
+}
+
 Findings NetworkFormulas::violations() const {
   Findings found;
   for (const Index i : m_computing->constraints) {
@@ -368,6 +406,15 @@ Findings NetworkFormulas::violations() const {
 
 std::vector<FormulaUse> NetworkFormulas::usesOf(const element &e, PropertyKey property) const {
   return FormulaUses(m_computing->rules, m_computing->net).of(e, property);
+}
+
+std::vector<PropertyKey> NetworkFormulas::computed() const {
+  std::set<PropertyKey> found;
+  for (const FormulaRule &rule : m_computing->rules) {
+    if (!rule.definition.isConstraint)
+      found.insert(rule.target);
+  }
+  return {found.begin(), found.end()};
 }
 
 int NetworkFormulas::evaluations() const {

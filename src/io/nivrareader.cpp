@@ -110,6 +110,19 @@ NivraReader::Result NivraReader::readTopoAndScen(const NivraWorkspace &workspace
   return readTopoAndScenJsn(workspace.geometryPath(), workspace.scenarioPath(), scenario, options);
 }
 
+NivraReader::Result NivraReader::readScenario(const NivraWorkspace &workspace, const Options &options) {
+  m_isJson = workspace.isJson();
+  m_chosen = workspace.chosenPath();
+  if (!workspace.hasScenario())
+    return failure(QCoreApplication::translate("NivraReader", "There is no scenario"));
+  return readScenarioJsn(workspace.scenarioPath(), *workspace.currentScenario(), options);
+}
+
+element *NivraReader::target(std::string_view name, const Options &options) const {
+  element *found = m_net.element(name);
+  return found != nullptr && options.isTarget && !options.isTarget(*found) ? nullptr : found;
+}
+
 NivraReader::Result NivraReader::readTopoAndScenJsn(const QString &geometryPath, const QString &scenarioPath,
                                                     const NivraScenario &scenario, const Options &options) {
   if (m_isJson)
@@ -177,7 +190,7 @@ NivraReader::Result NivraReader::readGasParmsJsn(const QString &path, const Opti
   ElementBuilder builder(QString(), options.includeProperties, report);
   qint64 properties = 0;
   Result result = readElements(path, options, report, [&](ElementRecord &parsed, int line, double) {
-    element *target = m_net.element(parsed.name);
+    element *target = this->target(parsed.name, options);
     if (target == nullptr) {
       report.unknownName(decoded(parsed.name), line);
       return;

@@ -32,3 +32,16 @@ QString ScenarioFiles::base(const QString &file) {
   const QString shortest = info.fileName().section(QLatin1Char('.'), 0, 0);
   return folder + (QFileInfo::exists(folder + shortest + kind) ? shortest : info.fileName().chopped(kind.size()));
 }
+
+std::vector<ScenarioFiles::Scenario> ScenarioFiles::ofCase(const QString &caseFolder, Form form) {
+  const QDir folder(caseFolder);
+  const QStringList names = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::LocaleAware);
+  std::vector<Scenario> found;
+  found.reserve(static_cast<std::size_t>(names.size()));
+  for (const QString &name : names) {
+    const QString file = in(folder.filePath(name), form);
+    if (!file.isEmpty())
+      found.push_back({name, file});
+  }
+  return found;
+}

@@ -125,16 +125,17 @@ std::vector<Record> parseAll(RecordQueue &queue, const Told &told) {
 /// Sets the parsed values, in the unit in which the property is stored.
 class NivraReader::SetPointApplier {
 public:
-  SetPointApplier(NivraReader &reader, const QString &file, const QString &includeProperties)
+  SetPointApplier(NivraReader &reader, const QString &file, const Options &options)
       : report(file)
       , m_reader(reader)
       , m_file(file)
-      , m_include(includeProperties, QRegularExpression::CaseInsensitiveOption) {}
+      , m_options(options)
+      , m_include(options.includeProperties, QRegularExpression::CaseInsensitiveOption) {}
 
   void apply(Record &record) {
     for (SetPointsRecord &setPoints : record.setPoints) {
       const QString name = decoded(setPoints.name);
-      element *target = m_reader.m_net.element(std::string_view(setPoints.name));
+      element *target = m_reader.target(setPoints.name, m_options);
       if (target == nullptr) {
         report.unknownName(name, record.line);
         continue;
@@ -201,6 +202,7 @@ private:
 
   NivraReader &m_reader;
   QString m_file;
+  const Options &m_options;
   QRegularExpression m_include;
   SetPointUnits m_units;
   qint64 m_properties = 0;
@@ -209,7 +211,14 @@ private:
 void NivraReader::set(element &target, PropertyKey key, PropertyText value) {
   if (!m_waiting.empty())
     m_waiting.erase({&target, key}); // what comes later counts
-  target.set(key, std::move(value));
+  put(target, key, std::move(value));
+}
+
+void NivraReader::put(element &target, PropertyKey key, PropertyText value) {
+  if (m_journal != nullptr)
+    m_journal->set(target, key, std::move(value));
+  else
+    target.set(key, std::move(value));
 }
 
 void NivraReader::convertWaiting(Findings &findings) {
@@ -223,7 +232,7 @@ void NivraReader::convertWaiting(Findings &findings) {
     const auto &[target, key] = set;
     const Units::Gas gas = SetPointUnits::gasAt(*target, m_net, m_gases);
     if (units.convert(point.value, point.unit, point.storedUnit, gas) == SetPointUnits::Outcome::Converted) {
-      target->set(key, std::move(point.value));
+      put(*target, key, std::move(point.value));
       continue;
     }
     const QString name = target->value(Names::all().name);
@@ -255,7 +264,7 @@ NivraReader::Result NivraReader::readSetPoints(const QString &path, const Option
   result.readingSeconds = stream.readingSeconds();
   const QString kind = queue.isJson() ? QStringLiteral("scenario jsn") : QStringLiteral("scenario");
   log(QStringLiteral("### To read elements of %1 file took %2s").arg(kind).arg(result.readingSeconds));
-  SetPointApplier applier(*this, path, options.includeProperties);
+  SetPointApplier applier(*this, path, options);
   for (Record &record : records) {
     if (record.fault.isEmpty())
       applier.apply(record);

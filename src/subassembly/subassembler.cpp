@@ -169,6 +169,16 @@ SubAssembler::Result SubAssembler::createElesOfAssembledSubnets(Flag flag, const
   return m_result;
 }
 
+void SubAssembler::giveDefaults() {
+  if (m_templates == nullptr)
+    return;
+  for (const elements::Entry &entry : m_net.assembledSubnets()) {
+    const Variant &used = variant(entry.value.value(keys().variant));
+    if (entry.name() != RecordName && used.plan != nullptr)
+      used.plan->giveDefaults(entry.value);
+  }
+}
+
 void SubAssembler::noteSummary() {
   Finding summary;
   if (m_result.replaced > 0 || m_result.erased > 0) {

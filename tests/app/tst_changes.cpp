@@ -265,9 +265,10 @@ void TestChanges::windowsOfSubnetsHaveCommands() {
                                  QStringLiteral("Findings"),           QStringLiteral("Scenario"),
                                  QStringLiteral("Characteristics"),    QStringLiteral("Open subnet in a window of its own"),
                                  QStringLiteral("Check the network"),  QStringLiteral("Balance"),
-                                 QStringLiteral("Scenario Set"),       QStringLiteral("Why This Value")};
+                                 QStringLiteral("Scenario Set"),       QStringLiteral("Why This Value"),
+                                 QStringLiteral("Scenarios")};
   const QStringList menusOfTheProgram{QStringLiteral("Open Recent"), QStringLiteral("Appearance"),
-                                      QStringLiteral("Language")};
+                                      QStringLiteral("Language"), QStringLiteral("Scenario")};
   for (const Command &command : CommandList::of(viewer.menuBar()->actions(), viewer)) {
     const bool isThere = std::any_of(known.begin(), known.end(), [&](const Command &other) {
       return other.text == command.text && (other.key == command.key || command.key.isEmpty());

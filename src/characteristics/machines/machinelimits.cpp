@@ -56,7 +56,8 @@ constexpr std::array<Limit, 5> Limits{
 /// Drives have the last two.
 void MachineLimits::describe() {
   constexpr std::size_t OfDrives = 3;
-  if (m_net.metaData()->attribute(QStringLiteral("c"), QLatin1String(Limits.front().property)) != nullptr)
+  if (m_written.empty() ||
+      m_net.metaData()->attribute(QStringLiteral("c"), QLatin1String(Limits.front().property)) != nullptr)
     return;
   auto metaData = std::make_shared<NetMetaData>(*m_net.metaData());
   for (std::size_t i = 0; i < Limits.size(); ++i) {
@@ -78,8 +79,6 @@ void MachineLimits::describe() {
 }
 
 std::vector<ElementChange> MachineLimits::write(const std::vector<NetworkMachines::Nearness> &machines) {
-  if (!machines.empty())
-    describe();
   auto before = std::move(m_written);
   m_written.clear();
   std::vector<ElementChange> changes(Limits.size());
@@ -110,5 +109,6 @@ std::vector<ElementChange> MachineLimits::write(const std::vector<NetworkMachine
     if (target != nullptr && target->erase(changes[i].property))
       changes[i].elements.append(name);
   }
+  describe();
   return changes;
 }

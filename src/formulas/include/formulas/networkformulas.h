@@ -24,6 +24,12 @@ public:
   /// that the vocabulary does not know are described in that of the network.
   Findings setDefinitions(const std::vector<FormulaDefinition> &definitions);
 
+  /// Takes off what was computed and judged: values are as the files say, which may be read anew then.
+  void withdraw();
+  /// For the same definitions and elements, after withdraw(), whose values may now name other elements: finds the order of
+  /// computing anew. Returns what setDefinitions() would.
+  Findings arrangeAgain();
+
   /// Computes everything. Where a formula has no value, for want of one that it needs, the element keeps its own. Elements
   /// that violate constraints get the property "CB_info", "(first;second;)". Returns a finding for each formula that some
   /// elements got no value from, though they have all that it needs. \param progress false stops
@@ -37,6 +43,8 @@ public:
   /// What says something of the property of the element, in the order of the definitions: formulas that compute it, and
   /// constraints. Asked when a person wants to know; it goes over all definitions.
   std::vector<FormulaUse> usesOf(const element &e, PropertyKey property) const;
+  /// The properties that formulas make.
+  std::vector<PropertyKey> computed() const;
   /// By the last apply() or update(), for those who watch the cost.
   int evaluations() const;
 

@@ -5,10 +5,12 @@
 #include <io/nivraworkspace.h>
 #include <io/scenariosummary.h>
 #include <model/netdata.h>
+#include <model/valuejournal.h>
 
 #include <QJsonObject>
 #include <QString>
 
+#include <functional>
 #include <map>
 #include <utility>
 
@@ -20,6 +22,7 @@ public:
     QString includeProperties; ///< regular expression, matched anywhere in the name; empty for all
     Progress progress;         ///< told the part of the file that is read
     FileAccess::Source source = FileAccess::Source::Workspace; ///< Trusted for files of the program's own
+    std::function<bool(const element &)> isTarget; ///< whether a scenario may set values of the element; empty for all
   };
   struct Result {
     bool ok = false;           ///< the file could be read; faulty lines do not count
@@ -36,8 +39,13 @@ public:
       : m_net(net)
       , m_told(std::move(told)) {}
 
+  /// What scenarios say of elements is noted there from now on; it must outlive the reader.
+  void setJournal(ValueJournal *journal) { m_journal = journal; }
+
   /// Geometry, then the scenario with its companion files where there is one.
   Result readTopoAndScen(const NivraWorkspace &workspace, const Options &options);
+  /// The scenario alone, for a network whose geometry was read before. Not ok when there is no scenario to be read.
+  Result readScenario(const NivraWorkspace &workspace, const Options &options);
   /// Values of elements inside of subnets, once these are assembled; nothing when the scenario has no such file.
   Result readSubResults(const NivraWorkspace &workspace, const Options &options);
   /// Paths without the JSON suffix, which is added unless the workspace that was read last is of the text form.
@@ -75,6 +83,8 @@ private:
   void warn(const QString &text) const { tell(m_told, Finding::Severity::Warning, text); }
   using SetPointTarget = std::pair<element *, PropertyKey>;
   void set(element &target, PropertyKey key, PropertyText value);
+  void put(element &target, PropertyKey key, PropertyText value);
+  element *target(std::string_view name, const Options &options) const;
   void convertWaiting(Findings &findings);
   struct Companion {
     const char *suffix;
@@ -90,6 +100,7 @@ private:
 
   NetData &m_net;
   Told m_told;
+  ValueJournal *m_journal = nullptr;
   GasTable m_gases;
   QString m_gasFile;
   std::map<SetPointTarget, WaitingSetPoint> m_waiting;

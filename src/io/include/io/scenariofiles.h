@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <vector>
+
 /// The scenario file that lies in a folder of a case.
 namespace ScenarioFiles {
 
@@ -17,5 +19,12 @@ QString in(const QString &folder, Form form);
 /// Of a scenario file, what the paths of its companions begin with: up to the first dot of its name, unless that is the
 /// beginning of no scenario file.
 QString base(const QString &file);
+
+struct Scenario {
+  QString name; ///< of its folder
+  QString file;
+};
+/// Of all folders of a case that hold a scenario, by name. The files are not opened. It may be asked from any thread.
+std::vector<Scenario> ofCase(const QString &caseFolder, Form form);
 
 } // namespace ScenarioFiles

@@ -42,6 +42,8 @@ public:
 
   /// Builds all assembled subnets of the network.
   Result createElesOfAssembledSubnets(Flag flag = Flag::All, const Progress &progress = {});
+  /// Gives the subnets, which were built before, the defaults of their templates for what they do not say.
+  void giveDefaults();
   /// Builds one; below 1 on failure. \param tryReset whether a pin list of another length than the template's may be reset
   int createEleOfAssembledSubnet(element &subnet, const QStringList &pins, Flag flag, bool tryReset);
 

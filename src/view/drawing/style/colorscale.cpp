@@ -1,4 +1,5 @@
 
+#include "style/comparedfunction.h"
 #include "style/naturalbreaks.h"
 
 #include <drawing/classlooks.h>
@@ -42,13 +43,14 @@ bool ColorScale::isDark(const QColor &ground) {
 }
 
 std::unique_ptr<HueColorMap> ColorScale::colorMap(const PlotSettings &settings, Aspect aspect) {
+  const bool isCompared = isColor(aspect) && comparisonOf(settings, aspect) != Comparison::Kind::None;
   const ColorRamp ramp{settings.firstColor,
                        settings.lastColor,
                        settings.saturation,
                        settings.lightness,
-                       ColorRamp::kindOf(settings.colorRamp),
+                       isCompared ? ColorRamp::Kind::Diverging : ColorRamp::kindOf(settings.colorRamp),
                        isDark(settings.bgrColor) ? ColorRamp::Ground::Dark : ColorRamp::Ground::Light};
-  if (settings.functions[aspect].isLogarithmic)
+  if (settings.functions[aspect].isLogarithmic && !isCompared)
     return std::make_unique<LogarithmicColorMap>(ramp, settings.logFactor);
   return std::make_unique<HueColorMap>(ramp);
 }
@@ -93,7 +95,9 @@ QString ColorScale::legendText(const PlotSettings &settings, const DrawValues *v
     if (values != nullptr && !values->of(aspect).isAny())
       continue;
     const QString shown =
-        function.isAbsolute ? QCoreApplication::translate("ColorScale", "abs. %1").arg(function.name) : function.name;
+        function.isAbsolute && (!isColor(aspect) || comparisonOf(settings, aspect) == Comparison::Kind::None)
+            ? QCoreApplication::translate("ColorScale", "abs. %1").arg(function.name)
+            : function.name;
     lines.append(isColor(aspect) ? color(shown) : QCoreApplication::translate("ColorScale", "Width: %1").arg(shown));
   }
   return lines.join(QLatin1Char('\n'));

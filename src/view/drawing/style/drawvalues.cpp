@@ -1,6 +1,7 @@
 #include "geometry/drawngraph.h"
 #include "geometry/geometryreader.h"
 #include "style/boundload.h"
+#include "style/comparedfunction.h"
 
 #include <drawing/colormap.h>
 #include <drawing/drawfunctions.h>
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -33,10 +35,30 @@ bool isOneValue(const QwtInterval &data, const Units::Linear &toTable) {
   return std::abs(high - low) <= NoiseShare * std::max(std::abs(low), std::abs(high));
 }
 
-/// About zero, so that both signs have their own colours.
-QwtInterval centred(const QwtInterval &range) {
-  const double largest = std::max(std::abs(range.minValue()), std::abs(range.maxValue()));
-  return {-largest, largest};
+/// So that both sides have their own colours.
+QwtInterval centred(const QwtInterval &range, double centre) {
+  const double largest = std::max(std::abs(range.minValue() - centre), std::abs(range.maxValue() - centre));
+  return {centre - largest, centre + largest};
+}
+
+/// About which value the colours part; none where one end of the scale is as good as the other.
+std::optional<double> centreOf(const PlotSettings &s, Aspect aspect) {
+  if (!isColor(aspect))
+    return std::nullopt;
+  switch (comparisonOf(s, aspect)) {
+  case Comparison::Kind::Difference:
+    return 0.0;
+  case Comparison::Kind::Ratio:
+    return 1.0;
+  case Comparison::Kind::None:
+    break;
+  }
+  return ColorRamp::kindOf(s.colorRamp) == ColorRamp::Kind::Diverging ? std::optional<double>(0.0) : std::nullopt;
+}
+
+/// What is less than the reference must not look as what is more.
+bool isAbsolute(const PlotSettings &s, Aspect aspect) {
+  return s.functions[aspect].isAbsolute && (!isColor(aspect) || comparisonOf(s, aspect) == Comparison::Kind::None);
 }
 
 /// Where open bounds lie: outliers, of which there are 2 % at either end, are left out. The whole data where next to nothing
@@ -65,7 +87,8 @@ QwtInterval withoutOutliers(const std::vector<double> &values, const QwtInterval
 
 /// The data's range with fixed bounds in its place. An open bound beside a fixed one that lies beyond all data keeps the
 /// width that the data have. Bounds that are no numbers, or upside down, are not taken.
-QwtInterval rangeWithin(const DrawValues::Column &column, const PlotSettings::Function &settings, bool isCentred) {
+QwtInterval rangeWithin(const DrawValues::Column &column, const PlotSettings::Function &settings,
+                        const std::optional<double> &centre) {
   const QwtInterval &data = column.open;
   const double minimum = settings.minimum;
   const double maximum = settings.maximum;
@@ -77,15 +100,15 @@ QwtInterval rangeWithin(const DrawValues::Column &column, const PlotSettings::Fu
     return maximum >= minimum ? QwtInterval(minimum, maximum) : data;
   const double width = std::max(data.width(), std::abs(hasMinimum ? minimum : maximum) * 0.01);
   if (hasMinimum) {
-    const double high = isCentred && minimum < 0.0 ? -minimum : data.maxValue();
+    const double high = centre && minimum < *centre ? 2.0 * *centre - minimum : data.maxValue();
     return {minimum, high > minimum ? high : minimum + width};
   }
   if (hasMaximum) {
-    const double low = isCentred && maximum > 0.0 ? -maximum : data.minValue();
+    const double low = centre && maximum > *centre ? 2.0 * *centre - maximum : data.minValue();
     return {low < maximum ? low : maximum - width, maximum};
   }
-  if (isCentred)
-    return centred(data);
+  if (centre)
+    return centred(data, *centre);
   if (!isOneValue(column.data, column.function.toTable)) // whatever unit somebody reads it in
     return data;
   const double middle = data.minValue() * 0.5 + data.maxValue() * 0.5;
@@ -153,7 +176,7 @@ constexpr std::size_t columnOfEnds(Aspect aspectOfEdges) {
 bool isOneColor(const PlotSettings &s) {
   const PlotSettings::Function &edges = s.functions[Aspect::EdgeColor];
   const PlotSettings::Function &nodes = s.functions[Aspect::NodeColor];
-  return nodes.name == edges.name && nodes.isAbsolute == edges.isAbsolute;
+  return nodes.name == edges.name && isAbsolute(s, Aspect::NodeColor) == isAbsolute(s, Aspect::EdgeColor);
 }
 
 } // namespace
@@ -163,7 +186,7 @@ ValueRequest DrawValues::request(const PlotSettings &s) const {
   for (const Aspect aspect : AllAspects) {
     const bool isReadAlready = aspect == Aspect::NodeColor && isOneColor(s);
     (isOfEdges(aspect) ? request.ofEdges : request.ofNodes)
-        .push_back({isReadAlready ? PropertyKey() : of(aspect).function.property, s.functions[aspect].isAbsolute});
+        .push_back({isReadAlready ? PropertyKey() : of(aspect).function.property, isAbsolute(s, aspect)});
   }
   request.ofEdges.push_back({PropertyKey::find(s.edgeShowFlow), false});
   for (const Aspect aspect : {Aspect::EdgeColor, Aspect::EdgeWidth})
@@ -234,7 +257,6 @@ void DrawValues::compute(const NetGeometry &geometry, const PlotSettings &s, Ele
 }
 
 void DrawValues::setColumns(ElementValues &values, const PlotSettings &s) {
-  const bool isDiverging = ColorRamp::kindOf(s.colorRamp) == ColorRamp::Kind::Diverging;
   for (const Aspect aspect : AllAspects) {
     Column &column = m_columns[aspect];
     std::vector<double> &own = (isOfEdges(aspect) ? values.ofEdges : values.ofNodes)[columnOf(aspect)];
@@ -243,7 +265,7 @@ void DrawValues::setColumns(ElementValues &values, const PlotSettings &s) {
     const std::vector<double> &ranged = isRangeOfEnds ? values.ofEnds[columnOf(aspect)] : own;
     column.data = rangeOf(ranged);
     column.open = s.quantileBounds ? withoutOutliers(ranged, column.data, column.function.toTable) : column.data;
-    column.range = rangeWithin(column, s.functions[aspect], isColor(aspect) && isDiverging);
+    column.range = rangeWithin(column, s.functions[aspect], centreOf(s, aspect));
     column.ofElements = std::move(own);
   }
 }

@@ -18,12 +18,12 @@ public:
 
   /// Writes them, and takes out those written before that are no longer known. What has another value now is returned.
   std::vector<ElementChange> write(const std::vector<NetworkMachines::Nearness> &machines);
+  /// Makes their names known to the network's vocabulary, where there are any.
+  void describe();
   /// The network is another one.
   void forget() { m_written.clear(); }
 
 private:
-  void describe();
-
   NetData &m_net;
   std::set<std::pair<QString, std::size_t>> m_written; ///< name of the element, number of the property
 };
