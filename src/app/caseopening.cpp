@@ -195,6 +195,7 @@ void CaseOpening::showScenario() {
   m_parts.memory.follow(workspace());
   m_parts.tools.setCase(workspace());
   m_parts.subnets.takeCase(workspace());
+  m_checked.clear(); // of the scenario before
   showBeside(true);
   emit switched();
   showValues();
