@@ -5,7 +5,6 @@
 #include <base/fileaccess.h>
 #include <base/nivramsg.h>
 #include <model/netmetadata.h>
-#include <model/units.h>
 #include <subassembly/subassembler.h>
 
 #include <QCoreApplication>

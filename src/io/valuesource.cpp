@@ -4,7 +4,6 @@
 #include <io/valuesource.h>
 
 #include <array>
-#include <utility>
 
 namespace {
 

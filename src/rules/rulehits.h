@@ -1,7 +1,8 @@
 #pragma once
 
+#include <model/elements.h>
+
 #include <array>
-#include <rules/networkfacts.h>
 #include <utility>
 #include <vector>
 

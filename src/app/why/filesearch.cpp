@@ -2,8 +2,6 @@
 
 #include <QThread>
 
-#include <utility>
-
 FileSearch::FileSearch(QObject *parent)
     : QObject(parent) {}
 

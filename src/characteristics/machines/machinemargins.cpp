@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <machines/machinemargins.h>
 
 namespace {

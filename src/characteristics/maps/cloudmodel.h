@@ -1,9 +1,9 @@
 #pragma once
 
-#include "scenariocloud.h"
-
 #include <QAbstractTableModel>
 
+#include <machines/workingpoint.h>
+#include <optional>
 #include <vector>
 
 /// A row for each scenario: where a machine, or its whole station, works in it.

@@ -1,5 +1,6 @@
 #include "residualview.h"
 
+#include "mapquantity.h"
 #include "residualmodel.h"
 #include "residualplot.h"
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "mapquantity.h"
-
 #include <QWidget>
 
 #include <machines/machinedata.h>

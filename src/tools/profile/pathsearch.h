@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-#include <optional>
 #include <vector>
 
 /// Finds ways through a network. What it needs to know of all edges is read once; it points into the network, and is made

@@ -5,7 +5,6 @@
 #include <QStringList>
 
 #include <memory>
-#include <vector>
 
 class NetVisControl;
 class PathLayer;

@@ -5,7 +5,6 @@
 
 #include <machines/networkmachines.h>
 #include <set>
-#include <string>
 #include <vector>
 
 /// How near machines are to their limits, as properties of their elements: "surgemargin", "turndown", "chokemargin",
