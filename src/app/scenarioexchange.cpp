@@ -12,17 +12,14 @@
 #include "networkloader.h"
 
 #include <base/fileaccess.h>
-#include <base/nivramsg.h>
 #include <base/withoutboxes.h>
 #include <model/names.h>
-#include <model/netmetadata.h>
 #include <subassembly/subassembler.h>
 
 #include <QElapsedTimer>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <set>
 #include <tuple>
 #include <utility>
 

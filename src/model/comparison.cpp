@@ -37,7 +37,7 @@ PropertyText textOf(double number) {
 
 /// Of a difference only the factor of a unit counts, which its quantity says.
 QString quantityOfDifference(const NetMetaData::Attribute &row) {
-  const QString own = row.quantity + QStringLiteral(" difference");
+  QString own = row.quantity + QStringLiteral(" difference");
   if (Quantities::find(own) != nullptr)
     return own;
   const auto isIn = [&row](const char *unit) {
