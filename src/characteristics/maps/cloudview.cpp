@@ -3,6 +3,7 @@
 #include "cloudmodel.h"
 #include "mapplot.h"
 #include "pointmover.h"
+#include "scenariocloud.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
