@@ -1,5 +1,4 @@
 #include <model/comparison.h>
-#include <model/displayunits.h>
 #include <model/netmetadata.h>
 #include <model/quantities.h>
 #include <model/titles.h>
