@@ -1605,6 +1605,14 @@ by the right-click menu of the drawing.</source>
         <source>pictures of the kind &quot;%1&quot; are not known</source>
         <translation>Bilder der Art &quot;%1&quot; sind nicht bekannt</translation>
     </message>
+    <message>
+        <source>Save picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.pdf *.svg)</source>
+        <translation>Bilder (*.png *.jpg *.pdf *.svg)</translation>
+    </message>
 </context>
 <context>
     <name>ClassDialog</name>
@@ -3903,14 +3911,6 @@ Bitte anwenden und speichern</translation>
     <message>
         <source>Print or save a page …	Ctrl+P</source>
         <translation>Seite drucken oder speichern …	Strg+P</translation>
-    </message>
-    <message>
-        <source>Save picture</source>
-        <translation>Bild speichern</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.jpg *.pdf *.svg)</source>
-        <translation>Bilder (*.png *.jpg *.pdf *.svg)</translation>
     </message>
 </context>
 <context>
@@ -6429,28 +6429,12 @@ Vorgabe ist die jetzige Breite): </translation>
         <translation>Tabelle speichern …</translation>
     </message>
     <message>
-        <source>Save table</source>
-        <translation>Tabelle speichern</translation>
-    </message>
-    <message>
-        <source>CSV (*.csv);;Workbook (*.xlsx);;Text with tabulators (*.txt)</source>
-        <translation>CSV (*.csv);;Arbeitsmappe (*.xlsx);;Text mit Tabulatoren (*.txt)</translation>
-    </message>
-    <message>
         <source>Copy table</source>
         <translation>Tabelle kopieren</translation>
     </message>
     <message>
         <source>Save picture …</source>
         <translation>Bild speichern …</translation>
-    </message>
-    <message>
-        <source>Save picture</source>
-        <translation>Bild speichern</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.jpg *.pdf *.svg)</source>
-        <translation>Bilder (*.png *.jpg *.pdf *.svg)</translation>
     </message>
     <message>
         <source>Copy picture	Ctrl+C</source>
@@ -7429,10 +7413,6 @@ Funktion abzüglich gemessenem Punkt</translation>
         <source>Values over the scenarios</source>
         <translation>Werte über die Szenarien</translation>
     </message>
-    <message>
-        <source>pictures of the kind &quot;%1&quot; are not known</source>
-        <translation>Bilder der Art „%1“ sind nicht bekannt</translation>
-    </message>
 </context>
 <context>
     <name>SeriesDialog</name>
@@ -7614,34 +7594,6 @@ Funktion abzüglich gemessenem Punkt</translation>
     <message>
         <source>quantiles 5 % %1, 25 % %2, 50 % %3, 75 % %4, 95 % %5</source>
         <translation>Quantile 5 % %1, 25 % %2, 50 % %3, 75 % %4, 95 % %5</translation>
-    </message>
-    <message>
-        <source>Save picture</source>
-        <translation>Bild speichern</translation>
-    </message>
-    <message>
-        <source>Portable Network Graphics (*.png)</source>
-        <translation>Portable Network Graphics (*.png)</translation>
-    </message>
-    <message>
-        <source>Scalable Vector Graphics (*.svg)</source>
-        <translation>Scalable Vector Graphics (*.svg)</translation>
-    </message>
-    <message>
-        <source>Portable Document Format (*.pdf)</source>
-        <translation>Portable Document Format (*.pdf)</translation>
-    </message>
-    <message>
-        <source>Save series</source>
-        <translation>Reihe speichern</translation>
-    </message>
-    <message>
-        <source>CSV with decimal point and commas (*.csv)</source>
-        <translation>CSV mit Dezimalpunkt und Kommas (*.csv)</translation>
-    </message>
-    <message>
-        <source>Workbook (*.xlsx)</source>
-        <translation>Arbeitsmappe (*.xlsx)</translation>
     </message>
 </context>
 <context>

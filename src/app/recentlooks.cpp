@@ -4,38 +4,20 @@
 
 #include <QFileInfo>
 
-#include <mutex>
 #include <thread>
-
-/// Whom the threads tell. They may outlive it, for nothing ends one that waits for a disk.
-struct RecentLooks::Receiver {
-  std::mutex mutex;
-  RecentLooks *looks;
-};
 
 RecentLooks::RecentLooks(QObject *parent)
     : QObject(parent)
-    , m_receiver(std::make_shared<Receiver>()) {
-  m_receiver->looks = this;
-}
-
-RecentLooks::~RecentLooks() {
-  const std::lock_guard<std::mutex> lock(m_receiver->mutex);
-  m_receiver->looks = nullptr;
-}
+    , m_mailbox(*this) {}
 
 void RecentLooks::look(const QStringList &paths) {
   if (paths.isEmpty())
     return;
-  std::thread([receiver = m_receiver, paths] {
+  std::thread([this, address = m_mailbox.address(), paths] {
     for (const QString &path : paths) {
       const Look look{QFileInfo(path).isFile(), Thumbnails::read(path)};
-      const std::lock_guard<std::mutex> lock(receiver->mutex);
-      RecentLooks *looks = receiver->looks;
-      if (looks == nullptr)
+      if (!address.send([this, path, look] { take(path, look); }))
         return;
-      QMetaObject::invokeMethod(
-          looks, [looks, path, look] { looks->take(path, look); }, Qt::QueuedConnection);
     }
   }).detach();
 }

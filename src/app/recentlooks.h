@@ -1,11 +1,11 @@
 #pragma once
 
+#include <base/mailbox.h>
+
 #include <QHash>
 #include <QImage>
 #include <QObject>
 #include <QStringList>
-
-#include <memory>
 
 /// Whether files are still there, and their pictures. Both are looked for in a thread of their own: a disk of the network
 /// that does not answer holds up nobody.
@@ -13,7 +13,6 @@ class RecentLooks : public QObject {
   Q_OBJECT
 public:
   explicit RecentLooks(QObject *parent = nullptr);
-  ~RecentLooks() override;
 
   /// Begins to look, and returns at once.
   void look(const QStringList &paths);
@@ -29,9 +28,8 @@ private:
     bool isThere = true;
     QImage picture;
   };
-  struct Receiver;
   void take(const QString &path, const Look &look);
 
-  std::shared_ptr<Receiver> m_receiver;
+  Mailbox m_mailbox;
   QHash<QString, Look> m_seen;
 };

@@ -367,9 +367,11 @@ void TestPathProfileInWindow::leavesTheProgram() {
   auto *files = window.chart().findChild<ProfileFiles *>();
   QTemporaryDir folder;
   QString reason;
-  for (const char *suffix : {"csv", "png", "svg", "pdf"})
-    QVERIFY2(files->save(folder.filePath(QStringLiteral("profile.") + QLatin1String(suffix)), &reason), qPrintable(reason));
+  for (const char *suffix : {"png", "svg", "pdf"})
+    QVERIFY2(files->savePicture(folder.filePath(QStringLiteral("profile.") + QLatin1String(suffix)), &reason),
+             qPrintable(reason));
   QFile table(folder.filePath(QStringLiteral("profile.csv")));
+  QVERIFY2(files->saveTable(table.fileName(), TableExport::Format::PointCsv, &reason), qPrintable(reason));
   QVERIFY(table.open(QIODevice::ReadOnly));
   QCOMPARE(QString::fromUtf8(table.readAll()).count(QLatin1Char('\n')), toQt(window.profile().rows().size()) + 1);
   const QImage picture(folder.filePath(QStringLiteral("profile.png")));
@@ -377,7 +379,7 @@ void TestPathProfileInWindow::leavesTheProgram() {
   QVERIFY(QSvgRenderer(folder.filePath(QStringLiteral("profile.svg"))).isValid());
   QTest::keyClick(&window.chart(), Qt::Key_C, Qt::ControlModifier);
   QCOMPARE(QApplication::clipboard()->image().size(), picture.size());
-  QVERIFY(!files->save(folder.filePath(QStringLiteral("none/profile.png")), &reason));
+  QVERIFY(!files->savePicture(folder.filePath(QStringLiteral("none/profile.png")), &reason));
   QVERIFY(!reason.isEmpty());
 }
 

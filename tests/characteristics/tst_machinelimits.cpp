@@ -1,3 +1,5 @@
+#include "parabolicmachine.h"
+
 #include <model/netmetadata.h>
 #include <support/modelfixture.h>
 #include <support/nivratest.h>
@@ -19,25 +21,7 @@ private slots:
   void measuredSurgePointsLieAtTheLine();
 
 private:
-  /// Head 1e-6 n^2 - q^2 between lines of flow that grow with the head, as are easily solved by hand.
-  static MachineData data() {
-    MachineData d;
-    TurboCompressor m;
-    m.name = QStringLiteral("M");
-    m.drive = QStringLiteral("D");
-    m.speedMin = 5000.0;
-    m.speedMax = 9000.0;
-    m.head = Biquadratic{{0, 0, 1e-6, 0, 0, 0, -1, 0, 0}};
-    m.efficiency = Biquadratic{{0.8}};
-    m.surge = Quadratic{{0, 30, 0}};
-    m.choke = Quadratic{{0, 8, 0}};
-    d.turbos.push_back(m);
-    Drive drive;
-    drive.name = QStringLiteral("D");
-    drive.power = Biquadratic{{0, 2}};
-    d.drives.push_back(drive);
-    return d;
-  }
+  static MachineData data() { return ParabolicMachine::data(); }
   double value(const char *name, const char *property) const {
     return m_net->value(*m_net->element(QString::fromLatin1(name)), PropertyKey::find(property));
   }

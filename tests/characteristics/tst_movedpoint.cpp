@@ -1,4 +1,5 @@
 #include "mapplot.h"
+#include "parabolicmachine.h"
 #include "pointmover.h"
 
 #include <characteristics/characteristicsstack.h>
@@ -22,25 +23,7 @@ private slots:
   void byMouseAndKeys();
 
 private:
-  static MachineData data() {
-    MachineData d;
-    TurboCompressor m;
-    m.name = QStringLiteral("M");
-    m.drive = QStringLiteral("D");
-    m.speedMin = 5000.0;
-    m.speedMax = 9000.0;
-    m.head = Biquadratic{{0, 0, 1e-6, 0, 0, 0, -1, 0, 0}};
-    m.efficiency = Biquadratic{{0.8}};
-    m.surge = Quadratic{{0, 30, 0}};
-    m.choke = Quadratic{{0, 8, 0}};
-    d.turbos.push_back(m);
-    Drive drive;
-    drive.name = QStringLiteral("D");
-    drive.power = Biquadratic{{0, 2}};
-    drive.energy = Quadratic{{100, 2.5, 0}};
-    d.drives.push_back(drive);
-    return d;
-  }
+  static MachineData data() { return ParabolicMachine::data(); }
 
   std::unique_ptr<NetData> m_net;
 };

@@ -1,5 +1,6 @@
 #include "cloudmodel.h"
 #include "mapplot.h"
+#include "parabolicmachine.h"
 #include "scenariocloud.h"
 
 #include <characteristics/characteristicsstack.h>
@@ -23,15 +24,8 @@ private slots:
 private:
   static MachineData data() {
     MachineData d;
-    TurboCompressor m;
-    m.name = QStringLiteral("M");
-    m.speedMin = 5000.0;
-    m.speedMax = 9000.0;
-    m.head = Biquadratic{{0, 0, 1e-6, 0, 0, 0, -1, 0, 0}};
-    m.efficiency = Biquadratic{{0.8}};
-    m.surge = Quadratic{{0, 30, 0}};
-    m.choke = Quadratic{{0, 8, 0}};
-    d.turbos.push_back(m);
+    d.turbos.push_back(ParabolicMachine::machine());
+    d.turbos.front().drive.clear();
     return d;
   }
   /// "S1" to "S5" with another flow each; "broken" cannot be read, and "empty" says nothing of the machine.

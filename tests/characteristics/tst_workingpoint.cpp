@@ -1,4 +1,5 @@
 #include "mapplot.h"
+#include "parabolicmachine.h"
 
 #include <base/generalsettings.h>
 #include <characteristics/characteristicsstack.h>
@@ -62,27 +63,9 @@ private:
     c.inletDensity = 42.0;
     return c;
   }
-  /// Head 1e-6 n^2 - q^2, efficiency 0.8, between lines of flow that grow with the head.
-  static TurboCompressor machine() {
-    TurboCompressor m;
-    m.name = QStringLiteral("M");
-    m.drive = QStringLiteral("D");
-    m.speedMin = 5000.0;
-    m.speedMax = 9000.0;
-    m.head = Biquadratic{{0, 0, 1e-6, 0, 0, 0, -1, 0, 0}};
-    m.efficiency = Biquadratic{{0.8}};
-    m.surge = Quadratic{{0, 30, 0}};
-    m.choke = Quadratic{{0, 8, 0}};
-    return m;
-  }
-  MachineData data() const {
-    MachineData d;
-    d.turbos.push_back(machine());
-    Drive drive;
-    drive.name = QStringLiteral("D");
-    drive.power = Biquadratic{{0, 2}};
-    drive.energy = Quadratic{{100, 2.5, 0}};
-    d.drives.push_back(drive);
+  static TurboCompressor machine() { return ParabolicMachine::machine(); }
+  static MachineData data() {
+    MachineData d = ParabolicMachine::data();
     d.ambientTemperature = 5.0;
     return d;
   }

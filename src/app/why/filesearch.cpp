@@ -1,9 +1,10 @@
 #include "why/filesearch.h"
 
-#include <QThread>
+#include <thread>
 
 FileSearch::FileSearch(QObject *parent)
-    : QObject(parent) {}
+    : QObject(parent)
+    , m_mailbox(*this) {}
 
 FileSearch::~FileSearch() {
   cancel();
@@ -17,18 +18,13 @@ void FileSearch::cancel() {
 
 void FileSearch::start(const QStringList &files, const QString &element, const QString &property) {
   cancel();
-  auto goesOn = std::make_shared<std::atomic<bool>>(true);
-  auto places = std::make_shared<std::vector<ValueSource::Place>>();
-  m_goesOn = goesOn;
-  QThread *thread = QThread::create([files, element, property, goesOn, places] {
-    *places = ValueSource::find(files, element, property, [&goesOn] { return goesOn->load(); });
-  });
-  connect(thread, &QThread::finished, this, [this, goesOn, places] {
-    if (!*goesOn)
-      return;
-    m_goesOn.reset();
-    emit found(*places);
-  });
-  connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-  thread->start();
+  m_goesOn = std::make_shared<std::atomic<bool>>(true);
+  std::thread([this, address = m_mailbox.address(), files, element, property, goesOn = m_goesOn] {
+    const std::vector<ValueSource::Place> places =
+        ValueSource::find(files, element, property, [&goesOn] { return goesOn->load(); });
+    address.send([this, goesOn, places] {
+      if (*goesOn)
+        emit found(places);
+    });
+  }).detach();
 }

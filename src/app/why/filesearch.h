@@ -1,5 +1,6 @@
 #pragma once
 
+#include <base/mailbox.h>
 #include <io/valuesource.h>
 
 #include <QObject>
@@ -23,5 +24,6 @@ signals:
   void found(const std::vector<ValueSource::Place> &places);
 
 private:
-  std::shared_ptr<std::atomic<bool>> m_goesOn; ///< of the search that runs; null without one
+  Mailbox m_mailbox;
+  std::shared_ptr<std::atomic<bool>> m_goesOn; ///< of the search that was asked for last; null without one
 };

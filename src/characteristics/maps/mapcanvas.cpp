@@ -4,13 +4,11 @@
 #include "mappage.h"
 #include "pointmover.h"
 
-#include <base/lastfolder.h>
 #include <paper/chartfile.h>
 #include <paper/pagedialog.h>
 
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
@@ -426,10 +424,7 @@ bool MapCanvas::save(const QString &path, QString *reason) {
 }
 
 void MapCanvas::saveAs() {
-  LastFolder &folder = LastFolder::ofSaving();
-  const QString path = QFileDialog::getSaveFileName(this, tr("Save picture"), folder.with(QStringLiteral("map.png")),
-                                                    tr("Pictures (*.png *.jpg *.pdf *.svg)"));
-  folder.remember(path);
+  const QString path = ChartFile::askForPath(this, QStringLiteral("map.png"));
   QString reason;
   if (!path.isEmpty() && !save(path, &reason))
     emit saveFailed(reason);

@@ -3,16 +3,14 @@
 #include "profile/profilechart.h"
 #include "profile/profilepaper.h"
 #include "profile/profiletable.h"
+#include "shared/tablefiledialog.h"
 
-#include <base/lastfolder.h>
 #include <base/nivramsg.h>
-#include <base/settings.h>
 #include <paper/chartfile.h>
 #include <paper/pagedialog.h>
 
 #include <QAction>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QGuiApplication>
 
 namespace {
@@ -36,12 +34,13 @@ ProfileFiles::ProfileFiles(ProfileChart &chart)
     m_actions.append(action);
   };
   add(tr("Save table …"), [this] {
-    askAndSave(tr("Save table"), QStringLiteral("profile.csv"),
-               tr("CSV (*.csv);;Workbook (*.xlsx);;Text with tabulators (*.txt)"));
+    TableFileDialog::askAndSave(&m_chart, QStringLiteral("profile"),
+                                [this](const QString &path, TableExport::Format format, QString *reason) {
+                                  return saveTable(path, format, reason);
+                                });
   });
   add(tr("Copy table"), [this] { copyTable(); });
-  add(tr("Save picture …"),
-      [this] { askAndSave(tr("Save picture"), QStringLiteral("profile.png"), tr("Pictures (*.png *.jpg *.pdf *.svg)")); });
+  add(tr("Save picture …"), [this] { askForPicture(); });
   add(tr("Copy picture\tCtrl+C"), [this] { copyPicture(); });
   add(tr("Print or save a page …\tCtrl+P"), [this] { print(); });
   refresh();
@@ -52,28 +51,20 @@ void ProfileFiles::refresh() {
     action->setEnabled(!m_chart.isEmpty());
 }
 
-bool ProfileFiles::save(const QString &path, QString *reason) {
-  using Format = TableExport::Format;
-  const QString suffix = QFileInfo(path).suffix().toLower();
-  const std::pair<QString, Format> tables[] = {
-      {QStringLiteral("csv"), Settings::UseComma.value() ? Format::CommaCsv : Format::PointCsv},
-      {QStringLiteral("xlsx"), Format::Workbook},
-      {QStringLiteral("txt"), Format::Tabulators}};
-  for (const auto &[known, format] : tables) {
-    if (suffix == known)
-      return profileTable(*m_chart.content().profile, m_chart.content().quantities).save(path, format, reason);
-  }
+bool ProfileFiles::saveTable(const QString &path, TableExport::Format format, QString *reason) const {
+  return profileTable(*m_chart.content().profile, m_chart.content().quantities).save(path, format, reason);
+}
+
+bool ProfileFiles::savePicture(const QString &path, QString *reason) {
   return ChartFile::save(
       path, pointsOf(m_chart), [this](QPainter &painter, const QRectF &area) { m_chart.paintOnWhite(painter, area); },
       reason);
 }
 
-void ProfileFiles::askAndSave(const QString &title, const QString &proposed, const QString &filter) {
-  LastFolder &folder = LastFolder::ofSaving();
-  const QString path = QFileDialog::getSaveFileName(&m_chart, title, folder.with(proposed), filter);
-  folder.remember(path);
+void ProfileFiles::askForPicture() {
+  const QString path = ChartFile::askForPath(&m_chart, QStringLiteral("profile.png"));
   QString reason;
-  if (!path.isEmpty() && !save(path, &reason))
+  if (!path.isEmpty() && !savePicture(path, &reason))
     NivraMsg::message(NivraMsg::Kind::Warning, reason);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shared/tableexport.h"
+
 #include <paper/pagecontent.h>
 
 #include <QObject>
@@ -20,13 +22,14 @@ public:
   const QList<QAction *> &actions() const { return m_actions; }
   void refresh();
 
-  /// A table or a picture by the suffix, without asking anything; false with the reason.
-  bool save(const QString &path, QString *reason);
+  // Without asking anything; false with the reason.
+  bool saveTable(const QString &path, TableExport::Format format, QString *reason) const;
+  bool savePicture(const QString &path, QString *reason);
   void copyPicture();
   void print();
 
 private:
-  void askAndSave(const QString &title, const QString &proposed, const QString &filter);
+  void askForPicture();
   void copyTable();
 
   ProfileChart &m_chart;

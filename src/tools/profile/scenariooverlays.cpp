@@ -4,25 +4,11 @@
 #include <QMenu>
 
 #include <algorithm>
-#include <mutex>
 #include <thread>
-
-/// Whom the thread tells. It may outlive it, for nothing ends one that waits for a disk.
-struct ScenarioOverlays::Receiver {
-  std::mutex mutex;
-  ScenarioOverlays *overlays;
-};
 
 ScenarioOverlays::ScenarioOverlays(QObject *parent)
     : QObject(parent)
-    , m_receiver(std::make_shared<Receiver>()) {
-  m_receiver->overlays = this;
-}
-
-ScenarioOverlays::~ScenarioOverlays() {
-  const std::lock_guard<std::mutex> lock(m_receiver->mutex);
-  m_receiver->overlays = nullptr;
-}
+    , m_mailbox(*this) {}
 
 void ScenarioOverlays::setScenarios(const PathScenarios &scenarios) {
   m_scenarios = scenarios;
@@ -86,17 +72,13 @@ void ScenarioOverlays::read() {
   }
   if (wanted.isEmpty())
     return;
-  std::thread([receiver = m_receiver, reader = m_scenarios.read, wanted, request = m_request, elements = m_elements,
-               properties = m_properties] {
+  std::thread([this, address = m_mailbox.address(), reader = m_scenarios.read, wanted, request = m_request,
+               elements = m_elements, properties = m_properties] {
     for (const QString &scenario : wanted) {
       QString reason;
       const PathScenarios::Values values = reader(scenario, elements, properties, &reason);
-      const std::lock_guard<std::mutex> lock(receiver->mutex);
-      ScenarioOverlays *overlays = receiver->overlays;
-      if (overlays == nullptr)
+      if (!address.send([=] { take(request, scenario, values, reason); }))
         return;
-      QMetaObject::invokeMethod(
-          overlays, [=] { overlays->take(request, scenario, values, reason); }, Qt::QueuedConnection);
     }
   }).detach();
 }

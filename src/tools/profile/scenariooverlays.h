@@ -2,6 +2,7 @@
 
 #include "profile/profilepanel.h"
 
+#include <base/mailbox.h>
 #include <tools/pathscenarios.h>
 
 #include <QObject>
@@ -18,7 +19,6 @@ public:
   static constexpr int MostChosen = 6; ///< more lines nobody tells apart
 
   explicit ScenarioOverlays(QObject *parent = nullptr);
-  ~ScenarioOverlays() override;
 
   /// Of another case, or of the same one; what was chosen and is still there stays.
   void setScenarios(const PathScenarios &scenarios);
@@ -36,8 +36,6 @@ signals:
   void told(const QString &text); ///< why one cannot be shown
 
 private:
-  struct Receiver;
-
   void read();
   void take(int request, const QString &scenario, const PathScenarios::Values &values, const QString &reason);
 
@@ -46,6 +44,6 @@ private:
   QSet<QString> m_elements;
   QSet<QString> m_properties;
   QHash<QString, std::shared_ptr<const PathScenarios::Values>> m_values; ///< by scenario
-  std::shared_ptr<Receiver> m_receiver;
+  Mailbox m_mailbox;
   int m_request = 0;
 };

@@ -2,13 +2,12 @@
 
 #include <base/index.h>
 #include <model/displayformat.h>
+#include <paper/chartfile.h>
 
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QSvgGenerator>
 #include <qwt_date.h>
 #include <qwt_date_scale_draw.h>
 #include <qwt_date_scale_engine.h>
@@ -26,9 +25,6 @@
 #include <cmath>
 
 namespace {
-
-constexpr QSize PictureSize(900, 420); // points
-constexpr int Resolution = 72;
 
 /// Names of scenarios below their places, where the axis has a whole number.
 class ScenarioScale : public QwtScaleDraw {
@@ -294,42 +290,18 @@ void SeriesChart::changeEvent(QEvent *event) {
   replot();
 }
 
-void SeriesChart::paint(QPaintDevice &device, const QSizeF &size) {
-  constexpr double Margin = 0.025; // of the width
-  const double margin = Margin * size.width();
+bool SeriesChart::save(const QString &path, QString *reason) {
+  constexpr QSize PictureSize(900, 420); // points
   mark({});
   color(Colors::onWhite());
-  QwtPlotRenderer renderer;
-  renderer.setDiscardFlag(QwtPlotRenderer::DiscardBackground);
-  QPainter painter(&device);
-  renderer.render(this, &painter, QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin));
+  const bool isSaved = ChartFile::save(
+      path, PictureSize,
+      [this](QPainter &painter, const QRectF &area) {
+        QwtPlotRenderer renderer;
+        renderer.setDiscardFlag(QwtPlotRenderer::DiscardBackground);
+        renderer.render(this, &painter, area);
+      },
+      reason);
   color(Colors::of(palette()));
-}
-
-bool SeriesChart::write(QIODevice &device, const QString &suffix, QString *reason) {
-  if (suffix == QLatin1String("pdf")) {
-    QPdfWriter writer(&device);
-    writer.setPageSize(QPageSize(QSizeF(PictureSize), QPageSize::Point));
-    writer.setPageMargins(QMarginsF());
-    writer.setResolution(Resolution);
-    paint(writer, PictureSize);
-    return true;
-  }
-  if (suffix == QLatin1String("svg")) {
-    QSvgGenerator generator;
-    generator.setOutputDevice(&device);
-    generator.setResolution(Resolution);
-    generator.setSize(PictureSize);
-    generator.setViewBox(QRect(QPoint(), PictureSize));
-    paint(generator, PictureSize);
-    return true;
-  }
-  constexpr int Scale = 2; // pixels a point
-  QImage image(PictureSize * Scale, QImage::Format_RGB32);
-  image.fill(Qt::white);
-  paint(image, image.size());
-  if (image.save(&device, qPrintable(suffix)))
-    return true;
-  *reason = tr("pictures of the kind \"%1\" are not known").arg(suffix);
-  return false;
+  return isSaved;
 }

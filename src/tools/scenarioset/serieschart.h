@@ -8,7 +8,6 @@
 #include <optional>
 #include <vector>
 
-class QIODevice;
 class QwtPlotCurve;
 class QwtPlotGrid;
 class QwtPlotMarker;
@@ -37,8 +36,8 @@ public:
   const Series &series() const { return m_series; }
   /// What the marked point says; empty without one.
   QString readout() const;
-  /// In the colours of paper. \param suffix "svg", "pdf" or that of a kind of picture
-  bool write(QIODevice &device, const QString &suffix, QString *reason);
+  /// In the colours of paper; the format by the suffix. False with the reason.
+  bool save(const QString &path, QString *reason);
 
 signals:
   void scenarioWanted(const QString &name);
@@ -56,7 +55,6 @@ private:
   void addLines();
   std::optional<std::size_t> nearest(const QPoint &position) const;
   void mark(std::optional<std::size_t> point);
-  void paint(QPaintDevice &device, const QSizeF &size);
 
   Series m_series;
   bool m_isDated = false;

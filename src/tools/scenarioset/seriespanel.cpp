@@ -1,21 +1,17 @@
 #include "scenarioset/seriespanel.h"
 
 #include "scenarioset/serieschart.h"
-#include "shared/tableexport.h"
+#include "shared/tablefiledialog.h"
 
-#include <base/lastfolder.h>
 #include <base/nivramsg.h>
-#include <base/suffixoffilter.h>
-#include <base/wholefile.h>
 #include <model/displayformat.h>
 #include <model/displayunits.h>
 #include <model/titles.h>
 #include <model/units.h>
+#include <paper/chartfile.h>
 #include <tools/elidedlabel.h>
 
 #include <QComboBox>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStackedWidget>
@@ -23,30 +19,6 @@
 
 #include <cmath>
 #include <scenarioset/scenarioset.h>
-
-namespace {
-
-/// The path that a person chose, with the suffix of the chosen kind where it has none; empty for none.
-QString askForPath(QWidget *parent, const QString &title, const QString &proposed, const QStringList &filters) {
-  LastFolder &folder = LastFolder::ofSaving();
-  QString chosen;
-  QString path =
-      QFileDialog::getSaveFileName(parent, title, folder.with(proposed), filters.join(QStringLiteral(";;")), &chosen);
-  if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
-    path += QLatin1Char('.') + suffixOfFilter(chosen);
-  folder.remember(path);
-  return path;
-}
-
-QString fileNameOf(QString text) {
-  for (QChar &character : text) {
-    if (!character.isLetterOrNumber())
-      character = QLatin1Char('_');
-  }
-  return text;
-}
-
-} // namespace
 
 SeriesPanel::SeriesPanel(QWidget *parent)
     : QWidget(parent)
@@ -156,14 +128,7 @@ void SeriesPanel::show(const ScenarioSet &set, Index column, const std::vector<d
     button->setEnabled(true);
 }
 
-bool SeriesPanel::savePicture(const QString &path, QString *reason) {
-  const QString suffix = QFileInfo(path).suffix().toLower();
-  return WholeFile::write(
-      path, FileAccess::Source::Trusted,
-      [this, suffix](QIODevice &device, QString *why) { return m_chart->write(device, suffix, why); }, reason);
-}
-
-bool SeriesPanel::saveSeries(const QString &path, QString *reason) const {
+TableExport SeriesPanel::table() const {
   const SeriesChart::Series &series = m_chart->series();
   TableExport table;
   table.headers = QStringList{QStringLiteral("scenario"), QStringLiteral("date"), series.title};
@@ -175,25 +140,28 @@ bool SeriesPanel::saveSeries(const QString &path, QString *reason) const {
       return column == 0 ? point.scenario : point.date.toString(Qt::ISODate);
     return std::isnan(point.value) ? QVariant(QString()) : QVariant(point.value);
   };
-  const bool isWorkbook = QFileInfo(path).suffix().compare(QLatin1String("xlsx"), Qt::CaseInsensitive) == 0;
-  return table.save(path, isWorkbook ? TableExport::Format::Workbook : TableExport::Format::PointCsv, reason);
+  return table;
+}
+
+QString SeriesPanel::proposedName() const {
+  QString name = m_title->plainText() + QLatin1Char('_') + property();
+  for (QChar &character : name) {
+    if (!character.isLetterOrNumber())
+      character = QLatin1Char('_');
+  }
+  return name;
 }
 
 void SeriesPanel::askForPicture() {
-  const QString path = askForPath(this, tr("Save picture"),
-                                  fileNameOf(m_title->plainText() + QLatin1Char('_') + property()) + QStringLiteral(".png"),
-                                  {tr("Portable Network Graphics (*.png)"), tr("Scalable Vector Graphics (*.svg)"),
-                                   tr("Portable Document Format (*.pdf)")});
+  const QString path = ChartFile::askForPath(this, proposedName() + QStringLiteral(".png"));
   QString reason;
-  if (!path.isEmpty() && !savePicture(path, &reason))
+  if (!path.isEmpty() && !m_chart->save(path, &reason))
     NivraMsg::message(NivraMsg::Kind::Warning, reason);
 }
 
 void SeriesPanel::askForSeries() {
-  const QString path = askForPath(this, tr("Save series"),
-                                  fileNameOf(m_title->plainText() + QLatin1Char('_') + property()) + QStringLiteral(".csv"),
-                                  {tr("CSV with decimal point and commas (*.csv)"), tr("Workbook (*.xlsx)")});
-  QString reason;
-  if (!path.isEmpty() && !saveSeries(path, &reason))
-    NivraMsg::message(NivraMsg::Kind::Warning, reason);
+  TableFileDialog::askAndSave(this, proposedName(),
+                              [this](const QString &path, TableExport::Format format, QString *reason) {
+                                return table().save(path, format, reason);
+                              });
 }

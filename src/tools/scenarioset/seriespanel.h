@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shared/tableexport.h"
+
 #include <base/index.h>
 
 #include <QStringList>
@@ -31,15 +33,14 @@ public:
   void show(const ScenarioSet &set, Index column, const std::vector<double> &numbers, const NetMetaData &metaData,
             const QString &present);
 
-  bool savePicture(const QString &path, QString *reason);
-  bool saveSeries(const QString &path, QString *reason) const;
-
 signals:
   void propertyChosen();
   void scenarioWanted(const QString &name);
 
 private:
   QToolButton *addButton(const QString &text, const QString &tip, void (SeriesPanel::*save)());
+  TableExport table() const;
+  QString proposedName() const; ///< of files, without suffix
   void askForPicture();
   void askForSeries();
 

@@ -1,8 +1,10 @@
+#include <base/lastfolder.h>
 #include <base/wholefile.h>
 #include <paper/chartfile.h>
 #include <paper/pagesetup.h>
 
 #include <QCoreApplication>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QPdfWriter>
 #include <QSvgGenerator>
@@ -53,6 +55,17 @@ QImage ChartFile::picture(const QSize &points, const Paint &paint) {
   image.setDotsPerMeterY(static_cast<int>(InchesPerMetre * Resolution * Scale));
   paintOn(image, image.size(), paint);
   return image;
+}
+
+QString ChartFile::askForPath(QWidget *parent, const QString &proposed) {
+  LastFolder &folder = LastFolder::ofSaving();
+  QString path =
+      QFileDialog::getSaveFileName(parent, QCoreApplication::translate("ChartFile", "Save picture"), folder.with(proposed),
+                                   QCoreApplication::translate("ChartFile", "Pictures (*.png *.jpg *.pdf *.svg)"));
+  if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
+    path += QStringLiteral(".png");
+  folder.remember(path);
+  return path;
 }
 
 bool ChartFile::save(const QString &path, const QSize &points, const Paint &paint, QString *reason) {
